@@ -1,0 +1,31 @@
+// app/casovace.h - the four timers of the main screen, and their order.
+//
+// Four timers run from the creation of the main screen to the end of the process, on one thread, so
+// that their bodies never overlap. A host calls each body at its period; when several are due at once,
+// in the order of this table. Each body does nothing in a pause.
+#pragma once
+
+#include <array>
+#include <string_view>
+
+// State changes only in these bodies and in the operator's commands.
+struct Casovac {
+    std::string_view jmeno; // of the timer
+    std::string_view krok;  // as the headless runner calls it
+    int perioda_ms;
+    void (*telo)();
+};
+
+// The clock step: adds the simulated seconds that have passed, and runs the minute step.
+void krok_hodin();
+// One played minute: the traffic, the waiting trains, the day at midnight, the periodic save.
+void krok_minuty();
+
+// The flashing lamp of the signal panel; it has no period of its own and does not look at the pause.
+void krok_blikani_diag();
+// 0 while nothing in the panel flashes, else 250 or 500 ms.
+int perioda_blikani_diag();
+
+// The bodies in the order in which they run when due at the same time: clock, movement, route machine,
+// blinking. `tik_volby`, `krok_jizdy` and `krok_blikani` stand with their owners.
+extern const std::array<Casovac, 4> casovace;

@@ -1,0 +1,33 @@
+// desk/menu.h - the pop-up menu that is open.
+//
+// The core fills the record, the view shows it and hands the chosen entry back (zvol_v_menu of
+// app/vstup.h). One menu is open at a time; name empty: none.
+#pragma once
+
+#include "relief/relief.h"
+#include "zaklad/text.h"
+
+#include <functional>
+#include <vector>
+
+struct PolozkaMenu {
+    Text jmeno; // miVC, miODJEZD0, ...; "mi" and the caption where the entry has no name of its own
+    Text text;  // caption
+    bool povolena = true;
+    bool viditelna = true;
+    void (*akce)(int cil) = nullptr; // what the entry does; none: kept for the look of the real desk
+    int cil = kZadny;                // element, train or row that it acts on
+    bool operator==(const PolozkaMenu&) const = default;
+};
+
+struct Menu {
+    Text jmeno; // mnuNAVESTIDLO, mnuVYHYBKA, ...
+    Text hlava; // first line
+    Druh druh = Druh::kolej;
+    int prvek = kZadny; // the element on which it was opened
+    std::vector<PolozkaMenu> polozky;
+    bool operator==(const Menu&) const = default;
+};
+extern Menu menu;
+
+void zavri_menu();

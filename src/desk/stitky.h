@@ -1,0 +1,17 @@
+// desk/stitky.h - notes on elements: tag, restriction (NVL) and possession (VYL).
+#pragma once
+
+#include "zaklad/text.h"
+
+#include <cstdint>
+#include <vector>
+
+struct StitekPrvku {
+    std::int16_t prvek = 0;
+    Text stitek, nvl, vyluka; // each may be empty
+    bool operator==(const StitekPrvku&) const = default;
+};
+extern std::vector<StitekPrvku> stitky; // starts with one empty record
+
+// Index of the record of the element; -1 when it has none.
+int stitek_prvku(int prvek);

@@ -1,0 +1,57 @@
+// desk/zprava.h - the command line: the one way to speak to the operator.
+//
+// lblPrikaz 0 shows the short code, lblVolba 0 the text. One message stands at a time; others wait in
+// `fronta_zprav`, one for each Enter, first come first shown.
+#pragma once
+
+#include "relief/prvek.h"
+#include "zaklad/text.h"
+
+#include <cstdint>
+#include <vector>
+
+struct ZpravaFronty {
+    Text prikaz, volba;
+    std::int32_t pozadi = 0, pozadi_volby = 0, popredi = 0;
+    bool vstup = false;
+    bool operator==(const ZpravaFronty&) const = default;
+};
+
+struct Prikaz {
+    std::vector<ZpravaFronty> fronta_zprav{1}; // the waiting messages, then one empty spare
+    std::int16_t kod_zpravy = 0;    // what an Enter answers: 1 to 3 consent of a line, 9 train number
+    std::int16_t rezim_zadani = 0;  // what the input field is for; 0 nothing
+    std::int16_t zadany_prvek = -3; // the element or train that the input belongs to
+    bool obsazen = false;           // the line is occupied; the dark half of a blinking does not count
+    bool blikani_prikazu = false;   // lblPrikaz flashes
+    bool operator==(const Prikaz&) const = default;
+};
+extern Prikaz prikaz_radek;
+
+// --- at any time
+
+// Says a message on the command line. `pozadi` is the background of the code, `pozadi_volby` of the
+// text, `popredi` the colour of the code's text; `vstup` opens the input field; `do_fronty` puts the
+// message that now stands back into the queue. The same text is not said twice in a row; a prompt
+// " VC ", " PC ", " PN " gives way to anything and never waits; " CIV " takes the line at once.
+void zprava(TextPohled prikaz, TextPohled volba, Barva pozadi, int kod = 0, bool vstup = false,
+            Barva pozadi_volby = 0xFFFFFF, Barva popredi = 0, bool do_fronty = false);
+// Hides the line and its twin, ends the blinking; without a beep and without the queue.
+void skryj_prikaz();
+// Hides the line as an answered message goes: kod 0, beep of 400 Hz for 150 ms.
+void potvrd_prikaz();
+// The first waiting message comes to the line.
+void dalsi_zprava();
+// Writes the line without the rules of zprava, as the selection of a route does: code and text in
+// `popredi` on `pozadi`.
+void zobraz_prikaz(TextPohled prikaz, TextPohled volba, Barva popredi, Barva pozadi);
+
+// --- on the operator's command
+
+// Sound on or off: flag, tooltip and picture of imgSound.
+void prepni_zvuk();
+// Which of the four buttons of the bottom panel is pressed.
+enum class Panel : std::uint8_t { zpravy, denik, tabulka, vlak };
+void prepni_panel(Panel panel);
+// Delete on the selected line of lstZpravy: the delay of that train is then 0.
+void smaz_radek_zprav();

@@ -1,0 +1,16 @@
+// prvky/stanicni_prejezdy.h - the two station crossings, tied to routes and worked by the operator.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+struct StanicniPrejezd {
+    bool uzavren = false;      // closed by a train or a route
+    bool UZ = false;           // closed by the operator
+    std::int16_t rezerva1 = 0; // kept in saves, read by nobody
+    std::int16_t rezerva2 = 0;
+    std::int32_t cas = -3;    // second at which it begins to close; -3 none pending
+    std::uint8_t pocet = 128; // trains in its area; 128 none, so that a lost train does not underflow it
+    bool operator==(const StanicniPrejezd&) const = default;
+};
+extern std::array<StanicniPrejezd, 2> stanicni_prejezdy;

@@ -1,0 +1,14 @@
+// prvky/stav_vyhybek.h - movement of switches and the one pending manual throw.
+#pragma once
+
+#include <cstdint>
+#include <vector>
+
+struct StavVyhybek {
+    std::vector<bool> vyhybka_pohyb;  // by switch number: between the order to throw and the end position
+    std::int16_t prehoz_vyhybka = -3; // switch thrown by hand; a second throw overwrites the first, which
+                                      // then stays moving until NOUZ: this is meant
+    std::int32_t prehoz_cas = -3;     // second at which that throw ends
+    bool operator==(const StavVyhybek&) const = default;
+};
+extern StavVyhybek stav_vyhybek;

@@ -1,0 +1,128 @@
+// relief/relief.cpp - the relief store and its tests.
+#include "relief/relief.h"
+
+#include "zaklad/chyba.h"
+#include "zaklad/cisla.h"
+
+#include <algorithm>
+
+std::uint64_t revize_reliefu = 0;
+Relief relief;
+
+namespace {
+
+[[noreturn]] void neexistuje(int n) {
+    chyba(KodChyby::prvek_neexistuje, text_cisla(n));
+}
+
+} // namespace
+
+Prvek& TabulkaPrvku::operator[](int n) {
+    if (!je(n))
+        neexistuje(n);
+    return prvky[static_cast<std::size_t>(n)];
+}
+
+const Prvek& TabulkaPrvku::operator[](int n) const {
+    if (!je(n))
+        neexistuje(n);
+    return prvky[static_cast<std::size_t>(n)];
+}
+
+Prvek& TabulkaPrvku::zaloz(int n) {
+    if (n < 0 || n > kNejvyssiPrvek)
+        neexistuje(n);
+    if (static_cast<std::size_t>(n) >= prvky.size())
+        prvky.resize(static_cast<std::size_t>(n) + 1);
+    Prvek& prvek = prvky[static_cast<std::size_t>(n)];
+    if (!prvek.existuje) {
+        prvek.existuje = true;
+        ++revize_reliefu;
+    }
+    return prvek;
+}
+
+TabulkaPrvku& tabulka(Druh druh) {
+    return relief.*kDruhy[static_cast<std::size_t>(druh)].tabulka;
+}
+
+std::string_view jmeno_druhu(Druh druh) {
+    return kDruhy[static_cast<std::size_t>(druh)].jmeno;
+}
+
+std::optional<Druh> druh_podle_jmena(std::string_view jmeno) {
+    const auto nalezeny =
+        std::find_if(kDruhy.begin(), kDruhy.end(), [&](const PopisDruhu& d) { return d.jmeno == jmeno; });
+    if (nalezeny == kDruhy.end())
+        return std::nullopt;
+    return nalezeny->druh;
+}
+
+bool je_kolej(int n) {
+    return relief.kolej.je(n);
+}
+
+bool je_cislo_koleje(int n) {
+    return relief.cislo_koleje.je(n);
+}
+
+bool je_cil(int n) {
+    return n == 212 || n == 213 || n == 219 || relief.Image1.je(n);
+}
+
+int kolej_navestidla(int x) {
+    if (x == 511)
+        return 135;
+    if (x < 200)
+        return x;
+    if (x < 600)
+        return x - 200;
+    if (x < 700 || x == 998)
+        return x - x % 2; // each pair of section signals shares the even-numbered section
+    return x - 200;
+}
+
+bool je_na_ser(int n) {
+    return (n >= 500 && n <= 599) || (n >= 700 && n != 998);
+}
+
+TabulkaPrvku& navestidla(int n) {
+    return je_na_ser(n) ? relief.navestidlo_ser : relief.navestidlo;
+}
+
+bool je_seriovy(int n) {
+    return (n > 699 || (n > 500 && n < 600)) && n != 998;
+}
+
+Text jmeno(int n) {
+    if (navestidla(n).je(n))
+        return navestidla(n)[n].popis;
+    if (relief.Image1.je(n) && !relief.Image1[n].stav->empty())
+        return relief.Image1[n].stav;
+    if (relief.cislo_koleje.je(n))
+        return relief.cislo_koleje[n].popis;
+    return {};
+}
+
+void do_popredi(Prvek& prvek) {
+    prvek.poradi = ++relief.nejvyssi_poradi;
+}
+
+void do_pozadi(Prvek& prvek) {
+    prvek.poradi = --relief.nejnizsi_poradi;
+}
+
+void nastav_text(Prvek& prvek, TextPohled text) {
+    prvek.text = text;
+    if (prvek.vlastni_velikost) {
+        prvek.sirka = static_cast<std::int32_t>(text.size()) * kSirkaZnaku;
+        prvek.vyska = kVyskaZnaku;
+    }
+}
+
+void zrus_zvyrazneni(Prvek& prvek) {
+    if (prvek.pozadi == barvy::seda)
+        return;
+    prvek.ramecek = false;
+    prvek.pozadi = barvy::cerna;
+}

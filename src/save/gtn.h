@@ -1,0 +1,42 @@
+// save/gtn.h - the train-number log: every change of the interlocking's state, in order of time.
+//
+// GTN\yymmdd.gtn in the program's folder; a file of the same day is deleted first. The log stays open
+// until the process ends and is only ever written.
+#pragma once
+
+#include <cstdint>
+
+namespace gtn {
+// Codes of the events. The value is what each line says.
+inline constexpr std::uint8_t ab = 0;           // automatic mode switched
+inline constexpr std::uint8_t volba_vlak = 11;  // start of a train route picked
+inline constexpr std::uint8_t volba_posun = 12; // of a shunt route
+inline constexpr std::uint8_t volba_pn = 13;    // of a calling-on route
+inline constexpr std::uint8_t konec_volby = 20; // + kind: start, end element
+inline constexpr std::uint8_t cesta_vlak = 31;  // route commanded: start, end element
+inline constexpr std::uint8_t cesta_posun = 32;
+inline constexpr std::uint8_t cesta_pn = 33;
+inline constexpr std::uint8_t ruseni = 34;         // cancellation ordered
+inline constexpr std::uint8_t postavena_vlak = 51; // route locked and cleared
+inline constexpr std::uint8_t postavena_posun = 52;
+inline constexpr std::uint8_t konec_pn = 53;         // calling-on aspect over
+inline constexpr std::uint8_t zrusena = 54;          // route cancelled, or its cancellation stopped
+inline constexpr std::uint8_t barva_koleje = 73;     // track, colour
+inline constexpr std::uint8_t obraz_vyhybky = 74;    // switch, picture
+inline constexpr std::uint8_t barva_navestidla = 75; // signal, colour
+inline constexpr std::uint8_t prejezd = 76;          // station crossing, 1 closed, 0 open
+inline constexpr std::uint8_t cislo = 90;            // number written on a label
+inline constexpr std::uint8_t souhlas = 103;         // consent given
+inline constexpr std::uint8_t rnz = 104;             // calling-on locking released by hand
+inline constexpr std::uint8_t vlak_na_kolej = 131;
+inline constexpr std::uint8_t vlak_z_koleje = 132;
+} // namespace gtn
+
+// Opens the log of the wall clock's day and writes its header. The folder and the deletion of an older
+// file are tried and may fail; when the file cannot be opened, nothing is logged.
+void gtn_otevri();
+// Appends one event at the clock's time. No test of any kind.
+void gtn_zapis(int prvek, std::uint8_t kod, std::int32_t hodnota);
+// Writes out what is still held back; at the end of the process and before a file is looked at.
+void gtn_vyprazdni();
+void gtn_zavri();

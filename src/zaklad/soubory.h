@@ -1,0 +1,43 @@
+// zaklad/soubory.h - files by the system's names: backslashes, any case.
+//
+// Paths inside the core are written as the system writes them ("data\tesk.rea", after the program's
+// folder with its trailing backslash). On this side of the wall both kinds of slash part folders, and
+// each part is found whatever its case; when several names differ only in case, the exact one wins,
+// then the first by byte order.
+#pragma once
+
+#include "zaklad/balik.h"
+#include "zaklad/text.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <vector>
+
+// Path on disk of an existing file or folder; nothing when it does not exist.
+std::optional<std::string> najdi_soubor(TextPohled cesta);
+// Path on disk for a file to be written: the folders that exist are found in any case, the rest is
+// taken as written.
+std::string cesta_k_zapisu(TextPohled cesta);
+
+bool soubor_existuje(TextPohled cesta);
+// Length in bytes; nothing when the file is missing, a folder or cannot be read.
+std::optional<std::int64_t> delka_souboru(TextPohled cesta);
+// The whole file; the run-time error 53 when it is missing, 70 when it cannot be read, 7 when it is
+// longer than 64 MiB, which no file of the system is.
+Bajty nacti_soubor(TextPohled cesta);
+// Whole new content, written beside the old file and put in its place only when it is complete on
+// disk, so that a fault leaves the old file as it was. Run-time error 61, 70 or 76 on a fault.
+void zapis_soubor(TextPohled cesta, const Bajty& obsah);
+// Makes the folder; false on a fault (an existing folder is no fault).
+bool zaloz_slozku(TextPohled cesta);
+// Removes a file; false when there was none or it stays.
+bool smaz_soubor(TextPohled cesta);
+// Names (without folder) of the files of a folder that match a pattern with "*" and "?", in any case,
+// sorted by byte order of their lower-case form.
+std::vector<Text> soubory_slozky(TextPohled slozka, TextPohled vzor);
+// Wall-clock time of the last change: seconds since 1970 in local time; nothing when missing.
+std::optional<std::int64_t> cas_zmeny(TextPohled cesta);
+// A mark that changes when the file does (time and length): for caches of tables that the rules read
+// anew at each use. 0 when the file is missing.
+std::uint64_t otisk_souboru(TextPohled cesta);
