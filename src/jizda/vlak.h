@@ -1,0 +1,83 @@
+// jizda/vlak.h - the record of everything that moves, and the trains on each numbered track.
+//
+// The index in `vlaky` is the train's identity inside the program: routes, menus and `koleje_vlaky` hold
+// indices, the operator sees numbers. A record whose cislo is below 1 is free and is used again; the
+// table grows by one when no record is free and never shrinks. A train's place is told by three things
+// together: the entries of `prvky` from `prvek_konec` to the last one (the head), the metres kept in the
+// state text of the element under the head, and the order of `koleje_vlaky`.
+#pragma once
+
+#include "zaklad/text.h"
+
+#include <cstdint>
+#include <vector>
+
+struct Vlak {
+    std::vector<std::uint8_t> stanice; // timetable stations in running order, station codes
+    std::vector<std::int16_t> prijezd; // running minutes: minute of the day + 1440 a day since the first
+    std::vector<std::int16_t> odjezd;  // by the timetable; -3 none
+    std::vector<std::int16_t> odjezd_realny; // working departure; -3 none, -10 only on the operator's order
+    std::uint8_t druh = 0;                   // category
+    std::int32_t cislo = 0;                  // train number; below 1: free record
+    std::uint8_t druh2 = 0;                  // category and number after the change
+    std::int32_t cislo2 = 0;                 // 0 or -3 none
+    std::uint8_t stanice_zmeny = 0;          // station where cislo2 takes over; 0 none
+    bool posun = false;                      // runs as a shunting movement
+    Text nazev;
+    std::uint8_t max_rychlost = 0;  // km/h, of this consist
+    std::int16_t delka = 0;         // metres
+    std::int16_t gvd_hodnota = 0;   // from the timetable, not used by the running
+    std::int16_t loko_rada = 0;     // series of the locomotive
+    std::int16_t loko_rada2 = 0;    // series of the one that takes over; 0 no change
+    std::int16_t hodnota_2 = 0;     // from the timetable, not used
+    std::vector<Text> vozy;         // series texts from the head to the tail
+    std::vector<Text> vozy_urceni;  // next work of each vehicle: a number, "ZAL", "DKV", "VH", empty
+    std::vector<Text> vozy_obrazek; // picture file of each vehicle
+    Text poznamka;
+    Text pokyn;                             // working instruction: the planned track
+    std::uint8_t dny = 0;                   // days of running, bit 7 holidays
+    std::uint8_t priznaky = 0;              // 1: second locomotive at the front; 2: assisting one at the end
+    std::int16_t stanice_index = 0;         // stop now or last served; negative: none yet
+    bool muze_jet = false;                  // may run; else it waits at a stop
+    std::vector<std::int16_t> prvky;        // elements entered, oldest first; the last one is the head
+    std::vector<std::uint8_t> prvky_druh;   // kind of each entry
+    std::vector<std::uint8_t> prvky_poloha; // demanded position; 2 on a track: labelled at release
+    std::int16_t prvek_konec = -3;          // index of the rearmost entry still held
+    bool smer = false;                      // true: towards larger numbers of a line and larger X
+    std::uint8_t rychlost = 0;              // km/h
+    std::uint8_t rychlost_trati = 0;        // line speed in force
+    std::uint8_t rychlost_cesty = 0;        // limit of the route entered last; 0 none
+    std::int16_t konec_omezeni = 0;         // switch whose clearing by the tail ends that limit
+    bool omezeni_ukonceno = false;          // that limit no longer binds
+    std::int16_t rezerva = -3;              // -3 in new records, never read
+    bool cislo2_platne = false;             // runs under cislo2 and druh2
+    std::int16_t zpozdeni_vstup = 0;        // delay carried in, minutes
+    std::int16_t zpozdeni = 0;              // present delay, minutes
+
+    bool operator==(const Vlak&) const = default;
+};
+
+// Trains on one element, in their order along the track; one entry -3: none.
+struct KolejVlaky {
+    std::int16_t prvek = 0;
+    std::vector<std::int16_t> vlaky{-3};
+    bool operator==(const KolejVlaky&) const = default;
+};
+
+inline constexpr std::size_t kPrvnichVlaku = 51; // records of a new simulation
+
+extern std::vector<Vlak> vlaky;
+extern std::vector<KolejVlaky> koleje_vlaky; // grows by appending; the first record is a dummy
+
+// --- at start
+
+// The first 51 free records; and the one dummy record of koleje_vlaky.
+std::vector<Vlak> prvni_vlaky();
+std::vector<KolejVlaky> prvni_koleje_vlaky();
+
+// --- at any time, without change
+
+// The number that the operator sees: cislo2 when it is in force, else cislo.
+inline std::int32_t zobrazene_cislo(const Vlak& v) {
+    return v.cislo2_platne ? v.cislo2 : v.cislo;
+}
