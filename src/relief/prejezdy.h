@@ -1,6 +1,7 @@
 // relief/prejezdy.h - level crossings of the lines, each a point on a track element.
 #pragma once
 
+#include "zaklad/balik.h"
 #include "zaklad/text.h"
 
 #include <cstdint>
@@ -16,6 +17,22 @@ struct Prejezd {
     bool operator==(const Prejezd&) const = default;
 };
 extern std::vector<Prejezd> prejezdy; // index: the record's place in the file
+
+// One record of the crossing file, as it stands on disk: 7 bytes and the length of the name, no header.
+// The reader and the layout compiler share this description.
+struct ZaznamPrejezdu {
+    std::uint8_t typ = 0; // not read
+    Text nazev;
+    std::int16_t kolej = 0, poloha = 0;
+    bool operator==(const ZaznamPrejezdu&) const = default;
+};
+
+template <class A, class Z> constexpr void popis_zaznamu_prejezdu(A& a, Z& z) {
+    a.b(z.typ);
+    a.text(z.nazev);
+    a.i(z.kolej);
+    a.i(z.poloha);
+}
 
 // Reads data\tesk.pzz into the table; a short last record is dropped.
 void nacti_prejezdy();

@@ -1,0 +1,50 @@
+// relief/prejezdy.cpp - the table of line crossings and the flags that a passing train sets.
+#include "relief/prejezdy.h"
+
+#include "app/simulace.h"
+#include "relief/relief.h"
+#include "relief/topologie.h"
+#include "zaklad/cisla.h"
+#include "zaklad/soubory.h"
+
+#include <utility>
+
+std::vector<Prejezd> prejezdy;
+
+namespace {
+
+constexpr int kPriblizovaciUsek_m = 200; // the lamps flash from here before the road
+constexpr int kOpousteciUsek_m = 100;    // until the tail is so far behind it
+constexpr int kKonecPrvku_m = 250;       // nearer to the end of the element no clearing is shown
+
+} // namespace
+
+void nacti_prejezdy() {
+    const Bajty bajty = nacti_soubor(simulace.cesta_aplikace + "data\\tesk.pzz");
+    Ctenar soubor{bajty};
+    prejezdy.clear();
+    for (;;) {
+        ZaznamPrejezdu zaznam;
+        popis_zaznamu_prejezdu(soubor, zaznam);
+        if (!soubor.ok)
+            return;
+        Prejezd prejezd;
+        prejezd.kolej = zaznam.kolej;
+        prejezd.poloha = zaznam.poloha;
+        prejezd.nazev = std::move(zaznam.nazev);
+        prejezdy.push_back(std::move(prejezd));
+    }
+}
+
+void kontrola_prejezdu(int kolej, bool smer, int delka_vlaku) {
+    for (Prejezd& prejezd : prejezdy) {
+        if (prejezd.kolej != kolej || !relief.kolej.je(kolej))
+            continue;
+        const double celo = cislo_z_textu(relief.kolej[kolej].stav()); // metres run on the element
+        const int delka = delka_koleje(kolej);
+        const int silnice = smer ? prejezd.poloha : delka - prejezd.poloha;
+        const int za_silnici = silnice + kOpousteciUsek_m + delka_vlaku;
+        prejezd.zona = celo > silnice - kPriblizovaciUsek_m && celo < za_silnici;
+        prejezd.uvolnen = celo > za_silnici && celo + kKonecPrvku_m < delka;
+    }
+}
