@@ -1,0 +1,58 @@
+// prvky/panel.h - the signal panel: one signal at a time, drawn large, lamp by lamp.
+//
+// What is lit stands in the relief store: lamps `svetlo` 0 to 5 and speed bars `pruh` 0 and 1 are
+// visible exactly when lit. Which signal is shown is simulace.detail_navestidlo; the rest is here.
+#pragma once
+
+#include "zaklad/text.h"
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+
+namespace svetla {
+inline constexpr int horni_zlute = 0;
+inline constexpr int zelene = 1;
+inline constexpr int cervene = 2;
+inline constexpr int bile = 3;
+inline constexpr int dolni_zlute = 4;
+inline constexpr int modre = 5;
+} // namespace svetla
+
+// Mast of the signal shown.
+enum class TvarPanelu : std::uint8_t {
+    dlouhy,      // five lamps and both bars
+    kratky,      // entry of a shorter mast: without the upper yellow, the bars and the lower yellow
+    bez_zluteho, // without lamp 0
+    bez_pruhu,   // five lamps, both bars hidden
+    serizovaci,  // two lamps: white and blue
+};
+
+// What a mast carries: which of the six lamps and two bars exist on it. An aspect may still light a
+// lamp that the mast lacks (the store says so); the view then draws nothing there.
+struct PopisPanelu {
+    TvarPanelu tvar;
+    std::array<bool, 6> svetla;
+    std::array<bool, 2> pruhy;
+    int vyska; // steps of the mast's height: 1 two-lamp, 2 short, 3 long
+};
+
+struct PanelNavestidla {
+    TvarPanelu tvar = TvarPanelu::dlouhy;
+    std::int8_t blika = -1;    // lamp that flashes; -1 none
+    std::int16_t interval = 0; // half period of the flashing, ms: 500 or 250; 0 while nothing flashes
+    bool operator==(const PanelNavestidla&) const = default;
+};
+extern PanelNavestidla panel_navestidla;
+
+// --- at any time, without change
+
+TvarPanelu tvar_panelu(int navestidlo);
+const PopisPanelu& popis_panelu(TvarPanelu tvar);
+
+// --- after each change of a signal, and when the pointer or a click chooses one
+
+// Shows signal s in the panel, with the aspect that its route gives it.
+void obnov_panel(int s);
+// The same, only when the panel shows s already.
+void obnov_panel_kdyz_ukazuje(int s);

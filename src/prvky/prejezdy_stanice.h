@@ -1,0 +1,25 @@
+// prvky/prejezdy_stanice.h - what the operator does with the two station crossings.
+#pragma once
+
+#include "prvky/stanicni_prejezdy.h"
+#include "zaklad/text.h"
+
+#include <array>
+
+// Kilometres of the crossings: their names on the desk.
+inline constexpr std::array<TextPohled, 2> kNazvyPrejezdu = {"140,310", "5,910"};
+
+// --- at any time, without change
+
+// Nothing runs over crossing k and nothing closes it: no train counted, no closing pending, no UZ.
+bool prejezd_v_klidu(int k);
+
+// --- on the operator's command; an index that is no crossing does nothing
+
+// Opens the menu of crossing k.
+void menu_prejezdu(int k);
+// UZ: closed by the operator, in 30 s unless it is closed already.
+void prejezd_uz(int k);
+// NOT and ZUZ: the emergency opening, and the end of the operator's closure. Both clear everything,
+// the counter too: so a counter held by a train that was taken away is set right.
+void prejezd_not(int k);

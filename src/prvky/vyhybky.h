@@ -1,0 +1,55 @@
+// prvky/vyhybky.h - throwing of switches, their couplings, and the menu of a switch.
+//
+// The state of switch n is the number in the state text of imgVyhybka n: position + class. A position
+// is a shape and an end of it; a class says who holds the switch. The picture is always state + 100.
+// A throw runs in two steps: prehod begins it (moving picture, the state text is the new position at
+// once), vyhybka_stav ends it. Between the two `vyhybka_pohyb` of stav_vyhybek.h is true.
+#pragma once
+
+#include "prvky/stav_vyhybek.h"
+
+#include <cstdint>
+
+// Class of a state: position = state mod 50, class = state div 50 * 50.
+namespace stav_vyhybky {
+inline constexpr int volna = 0;       // grey
+inline constexpr int vlak = 50;       // green, locked in a train route
+inline constexpr int rezervace = 100; // cyan, reserved or locked in a calling-on route
+inline constexpr int obsazena = 150;  // red, a train stands on it
+inline constexpr int posun = 200;     // white, locked in a shunt route
+} // namespace stav_vyhybky
+
+// What the operator can order of a switch. Only a double slip has the end B.
+enum class PovelVyhybky : std::uint8_t { plus, minus, plus_b, minus_b };
+
+// --- at any time, without change
+
+// State number of switch n; a blank state text counts 0.
+int stav_vyhybky_cislo(int n);
+// n is between the order to throw and its end position.
+bool vyhybka_v_pohybu(int n);
+// Moving picture of a position (a position over 100 is first reduced by 100): 3k+1 of the triple of a
+// plain switch, 33 and 34 of the two shapes of a double slip; 0 when there is none.
+int vyhybka_obrazek(int p);
+// Position in which NOUZ leaves a switch that stands in position p.
+int nouz(int p);
+// Position to which an order moves a switch in position p; p itself when the order does nothing there.
+int cilova_poloha(int p, PovelVyhybky povel);
+
+// --- on the operator's command, by the route machine, by trains
+
+// Begins the throw of n to `poloha`; does nothing when the state is that number already. `vazby`: the
+// coupled switches of n move too, one level deep; `vykolejky`: the derailers driven by n go dark.
+void prehod(int n, int poloha, bool vazby, bool vykolejky);
+// Ends a throw, or gives switch n a state: picture, state text, log. `vazby`: the free coupled switches
+// end theirs; `vykolejky`: the derailers driven by n show their new position.
+void vyhybka_stav(int n, int stav, bool vazby, bool vykolejky);
+
+// --- on the operator's command
+
+// Opens the menu of switch n.
+void menu_vyhybky(int n);
+// Throws n by hand: 3 simulated seconds, ended by the route machine.
+void hod_vyhybku(int n, PovelVyhybky povel);
+// NOUZ: ends any movement at once in the emergency position.
+void vyhybka_nouz(int n);
