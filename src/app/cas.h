@@ -15,6 +15,9 @@ Text text_casu(std::int32_t sekundy);
 // "h:mm" of a minute of the day, taken modulo a day.
 Text text_minuty(std::int32_t minuta);
 
+// Name of a day as its label shows it: 0 "pondělí" to 6 "neděle".
+TextPohled nazev_dne(int den);
+
 // The text of the clock.
 const Text& cas_hodin();
 // Absolute simulated second of a clock text: its seconds plus a day for each whole day in

@@ -5,7 +5,9 @@
 // in the order of this table. Each body does nothing in a pause.
 #pragma once
 
-#include <array>
+#include "zaklad/text.h"
+
+#include <span>
 #include <string_view>
 
 // State changes only in these bodies and in the operator's commands.
@@ -26,6 +28,11 @@ void krok_blikani_diag();
 // 0 while nothing in the panel flashes, else 250 or 500 ms.
 int perioda_blikani_diag();
 
-// The bodies in the order in which they run when due at the same time: clock, movement, route machine,
-// blinking. `tik_volby`, `krok_jizdy` and `krok_blikani` stand with their owners.
-extern const std::array<Casovac, 4> casovace;
+// Name of the file of the periodic save: wall-clock date and time, and the simulated time.
+Text soubor_autosave();
+// The played minutes have come to a multiple of the period, and the periodic save is on.
+bool je_cas_ulozit();
+
+// The timers in the order in which they run when due at the same time: clock, movement, route machine,
+// blinking. The bodies stand with their owners.
+extern const std::span<const Casovac> casovace;

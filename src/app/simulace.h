@@ -26,6 +26,7 @@ struct Simulace {
     std::uint8_t rychlost = 1;     // speed factor, 1 to 8
     std::int16_t cas_zacatku = 0;  // minute of the day of the start, less one: -1 for a start at 0:00
     std::uint8_t den = 1;          // day of the week as a bit: 1 Monday to 64 Sunday
+    std::uint8_t den_startu = 0;   // index of the day chosen on the start screen: 0 Monday to 6 Sunday
     bool pp_povoleno = true;       // trains of category PP run
     bool zpozdeni_povoleno = true; // trains may enter late
     bool zvuk_vypnut = false;      // no beep of the whole program sounds
@@ -45,6 +46,9 @@ struct Simulace {
     bool ticho_souhlasu = false;      // the consent beep is silenced
     bool nova_zprava = false;         // a delay message has come, the next blink step shows it
     bool pn_bezi = false;             // a calling-on aspect runs, the blink step beeps
+    Text obrazovka = "frmParametry";  // screen that is open: frmParametry, frmUvod (splash), frmMain, ...
+    bool minimalizovano = false;      // the main screen is minimised
+    bool polozky_ladeni = false;      // the debug entries of the track and crossing menus are shown
     Text popisek_nacitani;            // caption of the splash screen
     std::vector<Text> poruchy;        // unacknowledged failures, for the technology screen
 

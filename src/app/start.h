@@ -17,6 +17,19 @@ struct VolbyStartu {
     bool pp = true, zpozdeni = true;
 };
 
+// The options of the start screen's second page, for a start and for an open alike.
+struct MoznostiStartu {
+    bool noresize = false;          // never change the display mode
+    bool bez_dvou_monitoru = false; // box "Zakázat podporu dvou monitorů"
+    bool zvuk_vypnut = false;
+    bool autosave = false;
+    Text autosaved = "60"; // period of the periodic save in played minutes, as typed
+};
+
+// Takes the options into the run state and stores them; a period that is no number is not stored. Two
+// monitors are given up with the box, and are otherwise as the start screen found them.
+void uloz_volby(const MoznostiStartu& moznosti);
+
 // Takes the choices into the run state: the day (the one before for a start at 0:00, since the clock
 // is set two seconds early and crosses into the chosen day), the start minute, the speed, the timetable;
 // and stores the settings.
@@ -31,12 +44,3 @@ void priprava_simulace();
 void start_simulace();
 // How long the splash screen stays, whatever the loading took, ms.
 inline constexpr int kUvodniObrazovka_ms = 10000;
-
-// End of the program as the main screen ends: the display mode of the operator comes back, its four
-// settings are deleted, files are closed. `ptat_se`: asks first, No being the default.
-void konec_programu(bool ptat_se);
-// Ctrl+Alt+F10: ends at once; the task bar is shown, the settings stay.
-void konec_ihned();
-// The main screen was minimised, or came back.
-void minimalizuj();
-void obnov_okno();

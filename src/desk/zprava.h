@@ -50,6 +50,8 @@ void zobraz_prikaz(TextPohled prikaz, TextPohled volba, Barva popredi, Barva poz
 
 // Sound on or off: flag, tooltip and picture of imgSound.
 void prepni_zvuk();
+// Tooltip and picture of imgSound as the flag tells; at start.
+void ukaz_zvuk();
 // Which of the four buttons of the bottom panel is pressed.
 enum class Panel : std::uint8_t { zpravy, denik, tabulka, vlak };
 void prepni_panel(Panel panel);

@@ -19,6 +19,7 @@ constexpr int kPrumerLampy = 100;
 constexpr Barva kOkrajLampy1 = 0x008000; // no possession
 constexpr Barva kOkrajLampy2 = 0xC0C0C0;
 constexpr int kStranaStanoviste = 320;
+constexpr int kSirkaObrazkuVyhybky = 2 * kSirkaZnaku;
 constexpr int kObrazekVyhybky = 100; // number of the picture of a switch in state 0
 
 bool je_mezi(int cislo, std::initializer_list<int> cisla) {
@@ -180,7 +181,7 @@ void umisti_popis_stanice(const ZaznamReliefu& z) {
 
 void umisti_vyhybku(const ZaznamReliefu& z) {
     if (Prvek* p = umisti(relief.imgVyhybka, z)) {
-        p->sirka = kSirkaVyhybky;
+        p->sirka = kSirkaObrazkuVyhybky;
         p->vyska = kVyskaZnaku;
         p->stav = z.nazev;
         const double obrazek = cislo_z_textu(z.nazev) + kObrazekVyhybky;
@@ -217,10 +218,10 @@ void umisti_zaznam(const ZaznamReliefu& z) {
     // A type that this version does not know is skipped.
 }
 
-// Every element of a kind, by rising number.
-template <class Co> void pro_vsechny(TabulkaPrvku& prvky, Co co) {
+// Every element of a kind that a record has placed, by rising number.
+template <class Co> void pro_umistene(TabulkaPrvku& prvky, Co co) {
     for (int n = 0; n <= prvky.nejvyssi(); ++n)
-        if (prvky.je(n))
+        if (prvky.je(n) && prvky[n].viditelny)
             co(prvky[n]);
 }
 
@@ -243,6 +244,6 @@ void nacti_relief() {
     // The line 189 and the bridges lie over whatever follows them in the file, platforms under all.
     if (relief.kolej.je(189))
         do_popredi(relief.kolej[189]);
-    pro_vsechny(relief.most, [](Prvek& most) { do_popredi(most); });
-    pro_vsechny(relief.lblnastupiste, [](Prvek& nastupiste) { do_pozadi(nastupiste); });
+    pro_umistene(relief.most, [](Prvek& most) { do_popredi(most); });
+    pro_umistene(relief.lblnastupiste, [](Prvek& nastupiste) { do_pozadi(nastupiste); });
 }

@@ -6,6 +6,3 @@
 // table leaves nothing; a number that exists takes the new attributes. A missing file is the run-time
 // error 53.
 void nacti_relief();
-
-// Width of the picture of a switch, twips; it is as high as a glyph.
-inline constexpr int kSirkaVyhybky = 240;

@@ -125,6 +125,10 @@ struct Relief {
 };
 extern Relief relief;
 
+// Pictures of imgSound.
+inline constexpr std::int16_t kObrazekZvukZapnut = 1;
+inline constexpr std::int16_t kObrazekZvukVypnut = 2;
+
 // One row a kind: its name and its table.
 struct PopisDruhu {
     Druh druh;

@@ -33,7 +33,8 @@ inline constexpr std::uint8_t vlak_z_koleje = 132;
 } // namespace gtn
 
 // Opens the log of the wall clock's day and writes its header. The folder and the deletion of an older
-// file are tried and may fail; when the file cannot be opened, nothing is logged.
+// file are tried and may fail; a file that cannot be opened is the run-time error 70 or 76, and nothing
+// is logged then.
 void gtn_otevri();
 // Appends one event at the clock's time. No test of any kind.
 void gtn_zapis(int prvek, std::uint8_t kod, std::int32_t hodnota);

@@ -1,0 +1,358 @@
+// nastroje/gvd/prekladac.cpp - reads the timetable source statement by statement.
+#include "gvd/prekladac.h"
+
+#include "zaklad/cisla.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+#include <set>
+#include <tuple>
+
+namespace {
+
+constexpr std::int16_t kBezCasu = -1; // no arrival: the train starts or only passes
+
+struct Slovo {
+    std::string text;
+    bool v_uvozovkach = false;
+};
+
+// Abbreviations that the desk does not print but that timetables are written with.
+constexpr std::array<std::pair<std::string_view, int>, 17> kZkratky = {{
+    {"TRY", 7},
+    {"KAM", 10},
+    {"TMK", 11},
+    {"TKL", 13},
+    {"OLS", 14},
+    {"TDN", 15},
+    {"PVS", 16},
+    {"ZLA", 21},
+    {"JIV", 22},
+    {"JRN", 23},
+    {"POD", 24},
+    {"JVD", 32},
+    {"LIP", 35},
+    {"VES", 36},
+    {"SKA", 37},
+    {"ORE", 38},
+    {"DKV", 28},
+}};
+
+constexpr std::array<std::string_view, 7> kDny = {"Po", "Út", "St", "Čt", "Pá", "So", "Ne"};
+
+std::optional<int> cele_cislo(std::string_view text) {
+    if (text.empty() || text.size() > 9 ||
+        !std::all_of(text.begin(), text.end(), [](char c) { return c >= '0' && c <= '9'; }))
+        return std::nullopt;
+    return std::stoi(std::string(text));
+}
+
+std::optional<int> kod_podle_jmena(const std::string& jmeno) {
+    if (const auto cislo = cele_cislo(jmeno))
+        return *cislo >= 1 && *cislo <= 38 && !nazev_stanice(*cislo).empty() ? cislo : std::nullopt;
+    for (const auto& [zkratka, kod] : kZkratky)
+        if (zkratka == jmeno)
+            return kod;
+    const Text hledane = z_utf8(jmeno);
+    for (int kod = 1; kod <= 38; ++kod)
+        if (kod_stanice(kod) == hledane || nazev_stanice(kod) == hledane)
+            return kod;
+    return std::nullopt;
+}
+
+std::optional<int> druh_podle_zkratky(const std::string& zkratka) {
+    for (int druh = 1; druh <= 18; ++druh)
+        if (!zkratka_druhu(druh).empty() && zkratka_druhu(druh) == z_utf8(zkratka))
+            return druh;
+    if (zkratka == "-")
+        return 9; // the category without a name
+    return std::nullopt;
+}
+
+// "h:mm" to minutes; the hour may pass 23 for a train that runs over midnight.
+std::optional<std::int16_t> cas(const std::string& text) {
+    const std::size_t dvojtecka = text.find(':');
+    if (dvojtecka == std::string::npos || text.size() != dvojtecka + 3)
+        return std::nullopt;
+    const auto h = cele_cislo(std::string_view(text).substr(0, dvojtecka));
+    const auto m = cele_cislo(std::string_view(text).substr(dvojtecka + 1));
+    if (!h || !m || *h > 47 || *m > 59)
+        return std::nullopt;
+    return static_cast<std::int16_t>(*h * 60 + *m);
+}
+
+struct Takt {
+    int perioda = 0, posledni = 0,
+        krok_cisla = 0; // minutes, minute of the last departure, step of the number
+};
+
+// The compiler's place in the source.
+struct Prekladac {
+    JizdniRad rad;
+    std::vector<ChybaZdroje>& chyby;
+    int radek = 0;
+    bool v_vlaku = false;
+    GvdVlak vlak;
+    int radek_vlaku = 0;
+    std::optional<Takt> takt;
+    std::set<std::tuple<std::int32_t, int>> cisla; // number and day already used
+
+    void hlas(const std::string& zprava) { hlas_na(radek, zprava); }
+    void hlas_na(int kde, const std::string& zprava) {
+        const std::string kdo = v_vlaku ? "vlak " + std::to_string(vlak.cislo) + ": " : "";
+        chyby.push_back({kde, kdo + zprava});
+    }
+
+    std::vector<Slovo> slova(std::string_view text) {
+        std::vector<Slovo> vysledek;
+        std::size_t i = 0;
+        while (i < text.size()) {
+            if (text[i] == ' ' || text[i] == '\t' || text[i] == '\r') {
+                ++i;
+            } else if (text[i] == '#') {
+                break;
+            } else if (text[i] == '"') {
+                const std::size_t konec = text.find('"', i + 1);
+                if (konec == std::string_view::npos) {
+                    hlas("chybí konec textu v uvozovkách");
+                    break;
+                }
+                vysledek.push_back({std::string(text.substr(i + 1, konec - i - 1)), true});
+                i = konec + 1;
+            } else {
+                const std::size_t konec = std::min(text.find_first_of(" \t\r#", i), text.size());
+                vysledek.push_back({std::string(text.substr(i, konec - i)), false});
+                i = konec;
+            }
+        }
+        return vysledek;
+    }
+
+    std::optional<int> cislo_do(const std::vector<Slovo>& s, std::size_t i, int nejvyse) {
+        const auto c = i < s.size() ? cele_cislo(s[i].text) : std::nullopt;
+        if (!c || *c > nejvyse) {
+            hlas("za slovem „" + s[0].text + "“ má být číslo od 0 do " + std::to_string(nejvyse));
+            return std::nullopt;
+        }
+        return c;
+    }
+
+    void uzavri_vlak() {
+        if (!v_vlaku)
+            return;
+        if (vlak.stanice.size() < 2)
+            hlas_na(radek_vlaku, "vlak má mít aspoň dvě stanice");
+        if (vlak.dny == 0)
+            hlas_na(radek_vlaku, "chybí „dny“");
+        if (vlak.rychlost == 0)
+            hlas_na(radek_vlaku, "chybí „rychlost“");
+        if (vlak.vozy.empty())
+            hlas_na(radek_vlaku, "chybí „vozy“");
+        if (vlak.vozy_vlaky.size() > vlak.vozy.size())
+            hlas_na(radek_vlaku, "„dale“ má více údajů než „vozy“");
+        vlak.vozy_vlaky.resize(std::max<std::size_t>(vlak.vozy.size(), 1), 0);
+        zkontroluj_casy();
+        vloz_vlak();
+        v_vlaku = false;
+        takt.reset();
+    }
+
+    void zkontroluj_casy() {
+        int posledni = -1;
+        for (std::size_t i = 0; i < vlak.stanice.size(); ++i)
+            for (const int t : {static_cast<int>(vlak.prijezdy[i]), static_cast<int>(vlak.odjezdy[i])}) {
+                if (t < 0)
+                    continue;
+                if (t < posledni)
+                    hlas_na(radek_vlaku,
+                            "časy jdou zpět ve stanici " + na_utf8(nazev_stanice(vlak.stanice[i])));
+                posledni = t;
+            }
+        if (posledni >= 48 * 60)
+            hlas_na(radek_vlaku, "jízda sahá za druhý den");
+    }
+
+    void vloz_vlak() {
+        const auto prvni = [](const GvdVlak& v) {
+            return v.odjezdy.empty() ? 0 : static_cast<int>(v.odjezdy[0]);
+        };
+        GvdVlak dalsi = vlak;
+        while (true) {
+            for (int den = 0; den < 8; ++den)
+                if ((dalsi.dny >> den & 1) != 0 && !cisla.insert({dalsi.cislo, den}).second) {
+                    hlas_na(radek_vlaku, "číslo " + std::to_string(dalsi.cislo) + " jede týž den dvakrát");
+                    break;
+                }
+            rad.vlaky.push_back(dalsi);
+            if (!takt || prvni(dalsi) + takt->perioda > takt->posledni)
+                return;
+            dalsi.cislo += takt->krok_cisla;
+            if (dalsi.cislo2 > 0)
+                dalsi.cislo2 += takt->krok_cisla;
+            for (auto* casy : {&dalsi.prijezdy, &dalsi.odjezdy})
+                for (std::int16_t& t : *casy)
+                    if (t >= 0)
+                        t = static_cast<std::int16_t>(t + takt->perioda);
+        }
+    }
+
+    void zacni_vlak(const std::vector<Slovo>& s) {
+        uzavri_vlak();
+        vlak = GvdVlak{};
+        radek_vlaku = radek;
+        v_vlaku = true;
+        const auto druh = s.size() > 1 ? druh_podle_zkratky(s[1].text) : std::nullopt;
+        if (!druh)
+            hlas("za slovem „vlak“ má být zkratka druhu (EC až Vle)");
+        if (const auto cislo = cislo_do(s, 2, 399'998)) {
+            vlak.druh = static_cast<std::uint8_t>(druh.value_or(0));
+            vlak.cislo = *cislo;
+        }
+        if (s.size() > 3)
+            vlak.nazev = z_utf8(s[3].text);
+    }
+
+    void dny(const std::vector<Slovo>& s) {
+        for (std::size_t i = 1; i < s.size(); ++i) {
+            const std::string& d = s[i].text;
+            if (d == "denně") {
+                vlak.dny |= 0x7F;
+            } else if (d == "PP") {
+                vlak.dny |= 0x80;
+            } else {
+                const std::size_t pomlcka = d.find('-');
+                const auto index = [](std::string_view den) {
+                    return std::find(kDny.begin(), kDny.end(), den) - kDny.begin();
+                };
+                const auto od = index(d.substr(0, pomlcka));
+                const auto az = pomlcka == std::string::npos ? od : index(d.substr(pomlcka + 1));
+                if (od >= 7 || az >= 7 || az < od) {
+                    hlas("neznámé dny „" + d + "“ (denně, PP, Po až Ne, rozsah Po-Pá)");
+                    return;
+                }
+                for (auto den = od; den <= az; ++den)
+                    vlak.dny = static_cast<std::uint8_t>(vlak.dny | (1u << den));
+            }
+        }
+    }
+
+    // A stop: both times, or "-" for an arrival where the train starts, or for a departure where it ends.
+    void stanice(const std::vector<Slovo>& s) {
+        const bool projizdi = s[0].text == "projede";
+        const auto kod = s.size() > 1 ? kod_podle_jmena(s[1].text) : std::nullopt;
+        if (!kod) {
+            hlas("neznámá stanice" + (s.size() > 1 ? " „" + s[1].text + "“" : ""));
+            return;
+        }
+        const auto udaj = [&](std::size_t i) -> std::optional<std::int16_t> {
+            if (i >= s.size())
+                return std::nullopt;
+            return s[i].text == "-" ? std::optional<std::int16_t>(kBezCasu) : cas(s[i].text);
+        };
+        const auto prvni = udaj(2);
+        const auto druhy = projizdi ? prvni : udaj(3);
+        if (!prvni || !druhy || s.size() != (projizdi ? 3u : 4u)) {
+            hlas("u stanice „" + s[1].text + "“ má být " +
+                 (projizdi ? "čas průjezdu" : "příjezd a odjezd (h:mm nebo -)"));
+            return;
+        }
+        vlak.stanice.push_back(static_cast<std::uint8_t>(*kod));
+        vlak.prijezdy.push_back(projizdi ? kBezCasu : *prvni);
+        vlak.odjezdy.push_back(*druhy);
+    }
+
+    void udaj_vlaku(const std::vector<Slovo>& s) {
+        const std::string& slovo = s[0].text;
+        const auto text = [&] { return s.size() > 1 ? z_utf8(s[1].text) : Text{}; };
+        if (slovo == "dny") {
+            dny(s);
+        } else if (slovo == "rychlost") {
+            vlak.rychlost = static_cast<std::uint8_t>(cislo_do(s, 1, 160).value_or(0));
+        } else if (slovo == "delka") {
+            vlak.delka = static_cast<std::int16_t>(cislo_do(s, 1, 800).value_or(0));
+        } else if (slovo == "loko") {
+            vlak.loko_rada = static_cast<std::int16_t>(cislo_do(s, 1, 999).value_or(0));
+        } else if (slovo == "loko2") {
+            vlak.loko_rada2 = static_cast<std::int16_t>(cislo_do(s, 1, 999).value_or(0));
+        } else if (slovo == "posila") {
+            vlak.priznaky |= 1; // a second locomotive at the front
+        } else if (slovo == "pripraz") {
+            vlak.priznaky |= 2; // an assisting locomotive behind
+        } else if (slovo == "vozy") {
+            for (std::size_t i = 1; i < s.size(); ++i)
+                vlak.vozy.push_back(z_utf8(s[i].text));
+        } else if (slovo == "dale") {
+            for (std::size_t i = 1; i < s.size(); ++i)
+                vlak.vozy_vlaky.push_back(static_cast<std::int16_t>(cislo_do(s, i, 32767).value_or(0)));
+        } else if (slovo == "kolej") {
+            vlak.kolej = text();
+        } else if (slovo == "souprava") {
+            vlak.navazny_vlak = text();
+        } else if (slovo == "poznamka") {
+            vlak.poznamka = text();
+        } else if (slovo == "zmena") {
+            const auto kod = s.size() > 1 ? kod_podle_jmena(s[1].text) : std::nullopt;
+            const auto druh = s.size() > 2 ? druh_podle_zkratky(s[2].text) : std::nullopt;
+            const auto cislo = cislo_do(s, 3, 399'998);
+            if (!kod || !druh || !cislo) {
+                hlas("za slovem „zmena“ má být stanice, druh a číslo");
+                return;
+            }
+            vlak.stanice_zmeny = static_cast<std::uint8_t>(*kod);
+            vlak.druh2 = static_cast<std::uint8_t>(*druh);
+            vlak.cislo2 = *cislo;
+        } else if (slovo == "takt") {
+            const auto perioda = cislo_do(s, 1, 1440);
+            const auto posledni = s.size() > 2 ? cas(s[2].text) : std::nullopt;
+            const auto krok = cislo_do(s, 3, 1000);
+            if (!perioda || *perioda == 0 || !posledni || !krok || *krok == 0) {
+                hlas("za slovem „takt“ má být perioda v minutách, poslední odjezd h:mm a krok čísla");
+                return;
+            }
+            takt = Takt{*perioda, *posledni, *krok};
+        } else {
+            hlas("neznámé slovo „" + slovo + "“");
+        }
+    }
+
+    void prikaz(const std::vector<Slovo>& s) {
+        const std::string& slovo = s[0].text;
+        if (slovo == "popis") {
+            rad.popis = s.size() > 1 ? z_utf8(s[1].text) : Text{};
+        } else if (slovo == "vlak") {
+            zacni_vlak(s);
+        } else if (!v_vlaku) {
+            hlas("„" + slovo + "“ patří k vlaku, ale žádný vlak ještě nezačal");
+        } else if (slovo == "stavi" || slovo == "projede") {
+            stanice(s);
+        } else {
+            udaj_vlaku(s);
+        }
+    }
+};
+
+} // namespace
+
+JizdniRad preloz_jizdni_rad(std::string_view zdroj, std::vector<ChybaZdroje>& chyby) {
+    Prekladac p{.rad = {}, .chyby = chyby, .vlak = {}, .takt = {}, .cisla = {}};
+    while (!zdroj.empty()) {
+        ++p.radek;
+        const std::size_t konec = zdroj.find('\n');
+        const std::vector<Slovo> slova = p.slova(zdroj.substr(0, konec));
+        if (!slova.empty())
+            p.prikaz(slova);
+        zdroj.remove_prefix(konec == std::string_view::npos ? zdroj.size() : konec + 1);
+    }
+    p.uzavri_vlak();
+    return std::move(p.rad);
+}
+
+Bajty zapis_jizdni_rad(const JizdniRad& rad) {
+    Zapisovac z;
+    z.l(0); // read by nobody
+    z.text(rad.popis);
+    for (const GvdVlak& vlak : rad.vlaky)
+        popis_gvd_vlaku(z, vlak);
+    return std::move(z.bajty);
+}

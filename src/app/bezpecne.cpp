@@ -1,0 +1,23 @@
+// app/bezpecne.cpp - the boundary of run-time errors.
+#include "app/bezpecne.h"
+
+#include "save/gtn.h"
+#include "zaklad/chyba.h"
+#include "zaklad/cisla.h"
+#include "zaklad/platforma.h"
+
+bool bezpecne(const std::function<void()>& vstup) {
+    try {
+        vstup();
+        return true;
+    } catch (const BehovaChyba& chyba) {
+        Text text = Text("Chyba č. "_cz) + text_cisla(static_cast<int>(chyba.kod)) + ": " +
+                    Text(text_chyby(chyba.kod));
+        if (!chyba.co.empty())
+            text += " (" + chyba.co + ")";
+        gtn_zavri();
+        platforma.okno("KPS RVZ TESK"_cz, text);
+        platforma.ukonci(1);
+        return false;
+    }
+}

@@ -1,0 +1,61 @@
+// app/cas.cpp - arithmetic of the clock's text.
+#include "app/cas.h"
+
+#include "app/simulace.h"
+#include "relief/relief.h"
+#include "zaklad/cisla.h"
+
+#include <array>
+
+namespace {
+
+constexpr std::int32_t kDen_s = 86400;
+constexpr std::int32_t kDen_min = 1440;
+
+std::int32_t v_mezich(std::int32_t hodnota, std::int32_t delka) {
+    const std::int32_t zbytek = hodnota % delka;
+    return zbytek < 0 ? zbytek + delka : zbytek;
+}
+
+} // namespace
+
+std::int32_t sekundy_textu(TextPohled cas) {
+    std::array<std::int64_t, 3> casti{};
+    for (std::int64_t& cast : casti) {
+        const std::size_t konec = cas.find(':');
+        cast = cele_z_textu(cas.substr(0, konec));
+        if (konec == TextPohled::npos)
+            break;
+        cas.remove_prefix(konec + 1);
+    }
+    return na_long(casti[0] * 3600 + casti[1] * 60 + casti[2]);
+}
+
+Text text_casu(std::int32_t sekundy) {
+    const std::int32_t s = v_mezich(sekundy, kDen_s);
+    return text_cisla(s / 3600) + ":" + text_cisla_mist(s / 60 % 60, 2) + ":" + text_cisla_mist(s % 60, 2);
+}
+
+Text text_minuty(std::int32_t minuta) {
+    const std::int32_t m = v_mezich(minuta, kDen_min);
+    return text_cisla(m / 60) + ":" + text_cisla_mist(m % 60, 2);
+}
+
+TextPohled nazev_dne(int den) {
+    constexpr std::array kDny = {"pondělí"_cz, "úterý"_cz,  "středa"_cz, "čtvrtek"_cz,
+                                 "pátek"_cz,   "sobota"_cz, "neděle"_cz};
+    return kDny.at(static_cast<std::size_t>(den));
+}
+
+const Text& cas_hodin() {
+    return relief.lblcas[0].text;
+}
+
+std::int32_t sekundy_simulace(TextPohled cas) {
+    const std::int32_t dny = (simulace.cas_zacatku + simulace.minuty_simulace) / kDen_min;
+    return sekundy_textu(cas) + dny * kDen_s;
+}
+
+std::int16_t minuta_dne(TextPohled cas) {
+    return na_integer(sekundy_textu(cas) / 60);
+}

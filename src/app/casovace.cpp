@@ -1,0 +1,90 @@
+// app/casovace.cpp - the clock step, the minute step, and the table of the timers.
+#include "app/casovace.h"
+
+#include "app/blikani.h"
+#include "app/cas.h"
+#include "app/simulace.h"
+#include "relief/relief.h"
+#include "save/gtn.h"
+#include "zaklad/cisla.h"
+#include "zaklad/platforma.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+
+namespace {
+
+constexpr double K = 1000.0;            // milliseconds to a second
+constexpr double kNejvyssiPrenos = 6.0; // ms that a clock step may carry into the next one
+
+// Milliseconds since a mark of the tick counter, which may have wrapped in between.
+std::int32_t od_tiku(std::int32_t znacka) {
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(platforma.tik_ms()) -
+                                     static_cast<std::uint32_t>(znacka));
+}
+
+void pis_cas(const Text& cas) {
+    relief.lblcas[0].text = cas;
+    if (simulace.dva_monitory && relief.lblcas.je(1))
+        relief.lblcas[1].text = cas;
+}
+
+// Midnight: the next day of the week, and its label.
+void dalsi_den() {
+    if (!std::has_single_bit(simulace.den) || simulace.den > 64)
+        return;
+    const int den = (std::countr_zero(simulace.den) + 1) % 7;
+    simulace.den = static_cast<std::uint8_t>(1 << den);
+    relief.lblDEN[0].text = nazev_dne(den);
+}
+
+constexpr std::array kCasovace = {
+    Casovac{"tmrHodiny", "hodiny", 150, &krok_hodin},
+    Casovac{"tmrBlikani", "blikani", 500, &krok_blikani},
+};
+
+} // namespace
+
+const std::span<const Casovac> casovace{kCasovace};
+
+// Whole seconds are added and at most 6 ms are carried over, so that the clock runs a little slow, and at
+// speed 8 a step of 150 ms gives one second: these rates are meant.
+void krok_hodin() {
+    if (simulace.pauza || simulace.rychlost == 0)
+        return;
+    const double na_sekundu = K / simulace.rychlost;
+    if (na_sekundu > od_tiku(simulace.tick_hodin))
+        return;
+    const auto prenos = static_cast<std::int32_t>(
+        std::min(zaokrouhli(od_tiku(simulace.tick_hodin) - na_sekundu), kNejvyssiPrenos));
+    const std::int16_t minuta = minuta_dne(cas_hodin());
+    const std::int32_t sekund = na_long(od_tiku(simulace.tick_hodin) / K * simulace.rychlost);
+    pis_cas(text_casu(sekundy_textu(cas_hodin()) + sekund));
+    simulace.tick_hodin = static_cast<std::int32_t>(static_cast<std::uint32_t>(platforma.tik_ms()) -
+                                                    static_cast<std::uint32_t>(prenos));
+    if (minuta_dne(cas_hodin()) != minuta)
+        krok_minuty();
+}
+
+void krok_minuty() {
+    simulace.minuty_simulace = na_integer(simulace.minuty_simulace + 1);
+    relief.lblcas_od_zacatku[0].text = text_cisla(simulace.minuty_simulace);
+    if (minuta_dne(cas_hodin()) == 0)
+        dalsi_den();
+    gtn_vyprazdni(); // a crash of the machine costs the log one minute at most
+}
+
+Text soubor_autosave() {
+    const NastennyCas ted = platforma.nastenny_cas();
+    const std::int32_t simulovano = sekundy_textu(cas_hodin());
+    const auto dve = [](int hodnota) { return text_cisla_mist(hodnota, 2); };
+    return simulace.cesta_aplikace + "save\\autosave\\autosave_" + dve(ted.rok % 100) + dve(ted.mesic) +
+           dve(ted.den) + "_" + dve(ted.hodina) + dve(ted.minuta) + dve(ted.sekunda) + "_" +
+           dve(simulovano / 3600) + dve(simulovano / 60 % 60) + dve(simulovano % 60) + ".sim";
+}
+
+bool je_cas_ulozit() {
+    return simulace.autosave && simulace.autosave_minut > 0 &&
+           simulace.minuty_simulace % simulace.autosave_minut == 0;
+}

@@ -1,0 +1,362 @@
+// app/vstup.cpp - which operation a click, a key or a menu entry is.
+#include "app/vstup.h"
+
+#include "app/konec.h"
+#include "app/simulace.h"
+#include "cesty/vyber.h"
+#include "desk/menu.h"
+#include "desk/zprava.h"
+#include "zaklad/cisla.h"
+#include "zaklad/platforma.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+namespace {
+
+constexpr int kKrokKurzoru = 12; // pixels to the left or right
+constexpr int kRastrKurzoru = 5; // raster of the rows, pixels
+constexpr int kNejvyssiRychlost = 8;
+constexpr int kNejvyssiRychlostHry = 3; // without the debug marker
+
+// What the input field is for.
+constexpr int kRezimJednotka = 4;
+constexpr int kRezimCisloVlaku = 5;
+
+void pipni_klavesou() {
+    pipni(800, 10);
+}
+
+bool prihlaseni_bezi() {
+    const Text& kod = relief.lblPrikaz[0].text;
+    return kod == " INIT " || kod == " TPC " || kod == " ARCHIV ";
+}
+
+void nastav_rychlost(int rychlost) {
+    simulace.rychlost = na_byte(rychlost);
+    relief.lblrychlost_simulace[0].text = text_cisla(rychlost);
+}
+
+void zrychli() {
+    const int mez = je_ladeni() ? kNejvyssiRychlost : kNejvyssiRychlostHry;
+    if (simulace.rychlost >= mez)
+        return;
+    pipni_klavesou();
+    nastav_rychlost(simulace.rychlost + 1);
+}
+
+void zpomal() {
+    if (simulace.rychlost <= 1)
+        return;
+    pipni_klavesou();
+    nastav_rychlost(simulace.rychlost - 1);
+}
+
+void prepni_pauzu() {
+    if (prihlaseni_bezi())
+        return;
+    pipni_klavesou();
+    if (simulace.pauza)
+        spust_hodiny();
+    else
+        zastav_hodiny();
+}
+
+void minimalizuj_okno() {
+    pipni_klavesou();
+    platforma.minimalizuj();
+    minimalizuj();
+}
+
+bool vstup_otevren() {
+    return relief.txtZadav_pole[0].povoleny;
+}
+
+void prihlas(TextPohled dalsi_kod, TextPohled dalsi_text) {
+    potvrd_prikaz();
+    zprava(dalsi_kod, dalsi_text, barvy::zelena, 0, false, barvy::bila, 0, false);
+}
+
+// Enter answers what stands on the line; false when nothing stood there.
+bool odpovez_na_radek() {
+    const Text kod = relief.lblPrikaz[0].text;
+    if (kod == " INIT ") {
+        prihlas(" TPC ", " OK ");
+    } else if (kod == " TPC ") {
+        prihlas(" ARCHIV ", " Karta PIK - opravnění B Dispečer , ARCHIV INIT OK "_cz);
+    } else if (kod == " ARCHIV ") {
+        spust_hodiny();
+        potvrd_prikaz();
+    } else if (prikaz_radek.obsazen) {
+        potvrd_prikaz();
+    } else {
+        return false;
+    }
+    return true;
+}
+
+void enter() {
+    if (vstup_otevren()) {
+        prikaz_radek.rezim_zadani = 0;
+        relief.txtZadav_pole[0].text = Text{};
+    }
+    if (!odpovez_na_radek() && vyber.mys_nad_prvkem && !simulace.pauza)
+        klik(vyber.mys_druh, vyber.mys_prvek, Tlacitko::leve, false);
+    dalsi_zprava();
+}
+
+void esc() {
+    pipni_klavesou();
+    platforma.kurzor_viditelny(true);
+    if (vstup_otevren()) {
+        const bool cislo_vlaku = prikaz_radek.rezim_zadani == kRezimCisloVlaku;
+        prikaz_radek.rezim_zadani = 0;
+        prikaz_radek.kod_zpravy = 0;
+        relief.txtZadav_pole[0].text = Text{};
+        skryj_prikaz();
+        if (cislo_vlaku) // the question had stopped the clock
+            spust_hodiny();
+        return;
+    }
+}
+
+// Right click on what is under the pointer, or the search of a unit by its name.
+void f2() {
+    if (simulace.pauza)
+        return;
+    pipni_klavesou();
+    if (vyber.mys_nad_prvkem) {
+        klik(vyber.mys_druh, vyber.mys_prvek, Tlacitko::prave, false);
+        return;
+    }
+    relief.txtZadav_pole[0].text = Text{};
+    prikaz_radek.rezim_zadani = kRezimJednotka;
+    zprava(" JEDNOTKA? ", {}, barvy::azurova, 0, true);
+}
+
+void otevri_prohlizec_gvd() {
+    pipni_klavesou();
+    zastav_hodiny();
+    if (platforma.okno_do_popredi("TESKGVD"))
+        return;
+    if (platforma.spust_program(simulace.cesta_aplikace + "TeskGVD.exe"))
+        platforma.okno_do_popredi("TESKGVD");
+}
+
+// Up and down go to the next row of the raster: from between two rows to the nearer one that way.
+void posun_kurzor(KodKlavesy kod) {
+    pipni_klavesou();
+    Bod kam = platforma.kurzor();
+    const int zbytek = ((kam.y % kRastrKurzoru) + kRastrKurzoru) % kRastrKurzoru;
+    switch (kod) {
+    case KodKlavesy::sipka_vlevo: kam.x -= kKrokKurzoru; break;
+    case KodKlavesy::sipka_vpravo: kam.x += kKrokKurzoru; break;
+    case KodKlavesy::sipka_nahoru: kam.y -= zbytek == 0 ? kRastrKurzoru : zbytek; break;
+    case KodKlavesy::sipka_dolu: kam.y += kRastrKurzoru - zbytek; break;
+    default: return;
+    }
+    platforma.nastav_kurzor(kam);
+}
+
+void smaz() {
+    if (relief.lstZpravy.viditelny)
+        smaz_radek_zprav();
+}
+
+// Keys that carry a letter.
+bool pismeno(const Klavesa&) {
+    return false;
+}
+
+// Parts of the desk that do the same whatever the button; false when the kind is none of them.
+bool klik_na_desku(Druh druh) {
+    switch (druh) {
+    case Druh::lblPrikaz:
+    case Druh::lblVolba: enter(); return true;
+    case Druh::imgSound: prepni_zvuk(); return true;
+    case Druh::imgPauza: prepni_pauzu(); return true;
+    case Druh::imgMinimalizuj: minimalizuj_okno(); return true;
+    case Druh::imgKONEC: konec_programu(true); return true;
+    case Druh::cmdZpravy: prepni_panel(Panel::zpravy); return true;
+    case Druh::cmDenik: prepni_panel(Panel::denik); return true;
+    case Druh::cmdTABULKA: prepni_panel(Panel::tabulka); return true;
+    case Druh::cmdVLAK: prepni_panel(Panel::vlak); return true;
+    default: return false;
+    }
+}
+
+struct JmenoKlavesy {
+    TextPohled jmeno;
+    KodKlavesy kod;
+};
+constexpr JmenoKlavesy kJmenaKlaves[] = {
+    {"Enter", KodKlavesy::enter},
+    {"Esc", KodKlavesy::esc},
+    {"F2", KodKlavesy::f2},
+    {"F3", KodKlavesy::f3},
+    {"F8", KodKlavesy::f8},
+    {"F9", KodKlavesy::f9},
+    {"F10", KodKlavesy::f10},
+    {"F11", KodKlavesy::f11},
+    {"Num/", KodKlavesy::num_lomeno},
+    {"Num+", KodKlavesy::num_plus},
+    {"Num-", KodKlavesy::num_minus},
+    {"PrintScreen", KodKlavesy::print_screen},
+    {"Print Screen", KodKlavesy::print_screen},
+    {"Vlevo", KodKlavesy::sipka_vlevo},
+    {"Vpravo", KodKlavesy::sipka_vpravo},
+    {"Nahoru", KodKlavesy::sipka_nahoru},
+    {"Dolu", KodKlavesy::sipka_dolu},
+    {"Left", KodKlavesy::sipka_vlevo},
+    {"Right", KodKlavesy::sipka_vpravo},
+    {"Up", KodKlavesy::sipka_nahoru},
+    {"Down", KodKlavesy::sipka_dolu},
+    {"Delete", KodKlavesy::delete_},
+    {"Del", KodKlavesy::delete_},
+};
+
+// Takes "Ctrl+" and the like from the front; false when it is not there.
+bool uber_predponu(TextPohled& jmeno, TextPohled predpona) {
+    if (jmeno.size() <= predpona.size() || !stejne_bez_velikosti(jmeno.substr(0, predpona.size()), predpona))
+        return false;
+    jmeno.remove_prefix(predpona.size());
+    return true;
+}
+
+} // namespace
+
+void klik(Druh druh, int n, Tlacitko tlacitko, bool) {
+    if (!tabulka(druh).je(n))
+        return;
+    zavri_menu();
+    if (druh == Druh::lblrychlost_simulace && tlacitko == Tlacitko::leve)
+        zrychli();
+    else if (druh == Druh::lblrychlost_simulace && tlacitko == Tlacitko::prave)
+        zpomal();
+    else if (tlacitko == Tlacitko::leve)
+        klik_na_desku(druh);
+}
+
+void dvojklik(Druh druh, int n) {
+    if (!tabulka(druh).je(n))
+        return;
+    zavri_menu();
+}
+
+void najeti(Druh druh, int n) {
+    pohyb_mysi();
+    if (!tabulka(druh).je(n))
+        return;
+    vyber.mys_nad_prvkem = true;
+    vyber.mys_druh = druh;
+    vyber.mys_prvek = n;
+    simulace.najety_prvek = druh == Druh::navestidlo || druh == Druh::navestidlo_ser ? n : kZadny;
+}
+
+void odjeti() {
+    pohyb_mysi();
+    vyber.mys_nad_prvkem = false;
+    vyber.mys_prvek = kZadny;
+    simulace.najety_prvek = kZadny;
+}
+
+void pohyb_mysi() {
+    simulace.posledni_pohyb = platforma.nastenny_cas().sekundy_dne();
+}
+
+void klik_na_plochu() {
+    zavri_menu();
+}
+
+void klik_na_radek(Seznam& seznam, int radek) {
+    const bool je = radek >= 0 && static_cast<std::size_t>(radek) < seznam.radky.size();
+    seznam.vybrany = je ? radek : -1;
+    ++revize_reliefu;
+}
+
+bool klavesa(const Klavesa& k) {
+    switch (k.kod) {
+    case KodKlavesy::zadna: return false;
+    case KodKlavesy::enter: enter(); return true;
+    case KodKlavesy::esc:
+        if (menu.jmeno.empty())
+            esc();
+        else
+            zavri_menu(); // an open menu takes the key for itself
+        return true;
+    case KodKlavesy::f2: f2(); return true;
+    case KodKlavesy::f3:
+        pipni_klavesou();
+        prepni_panel(Panel::vlak);
+        return true;
+    case KodKlavesy::f8: return true;
+    case KodKlavesy::f9: otevri_prohlizec_gvd(); return true;
+    case KodKlavesy::f10:
+        if (!(k.ctrl && k.alt)) {
+            prepni_pauzu();
+            return true;
+        }
+        pipni_klavesou();
+        konec_ihned();
+        return true;
+    case KodKlavesy::f11: minimalizuj_okno(); return true;
+    case KodKlavesy::num_lomeno:
+        pipni_klavesou();
+        simulace.ticho_souhlasu = true;
+        return true;
+    case KodKlavesy::num_plus: zrychli(); return true;
+    case KodKlavesy::num_minus: zpomal(); return true;
+    case KodKlavesy::print_screen: return true;
+    case KodKlavesy::sipka_vlevo:
+    case KodKlavesy::sipka_vpravo:
+    case KodKlavesy::sipka_nahoru:
+    case KodKlavesy::sipka_dolu: posun_kurzor(k.kod); return true;
+    case KodKlavesy::delete_: smaz(); return true;
+    case KodKlavesy::pismeno: return pismeno(k);
+    }
+    return false;
+}
+
+void pis_do_pole(TextPohled text) {
+    if (vstup_otevren())
+        relief.txtZadav_pole[0].text = text;
+}
+
+bool zvol_v_menu(TextPohled jmeno) {
+    const auto polozka = std::find_if(menu.polozky.begin(), menu.polozky.end(), [&](const PolozkaMenu& p) {
+        return stejne_bez_velikosti(p.jmeno, jmeno) && p.viditelna;
+    });
+    if (polozka == menu.polozky.end() || !polozka->povolena)
+        return false;
+    const PolozkaMenu zvolena = *polozka;
+    zavri_menu();
+    if (zvolena.akce != nullptr)
+        zvolena.akce(zvolena.cil);
+    return true;
+}
+
+Klavesa klavesa_podle_jmena(TextPohled jmeno) {
+    Klavesa k;
+    for (;;) {
+        if (uber_predponu(jmeno, "Ctrl+"))
+            k.ctrl = true;
+        else if (uber_predponu(jmeno, "Alt+"))
+            k.alt = true;
+        else if (uber_predponu(jmeno, "Shift+"))
+            k.shift = true;
+        else
+            break;
+    }
+    for (const JmenoKlavesy& znama : kJmenaKlaves)
+        if (stejne_bez_velikosti(znama.jmeno, jmeno)) {
+            k.kod = znama.kod;
+            return k;
+        }
+    const Text velka = velka_pismena(jmeno);
+    if (velka.size() != 1 || velka[0] < 'A' || velka[0] > 'Z')
+        return {};
+    k.kod = KodKlavesy::pismeno;
+    k.pismeno = velka[0];
+    return k;
+}

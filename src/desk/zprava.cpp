@@ -1,0 +1,215 @@
+// desk/zprava.cpp - the command line, its queue, and the buttons of the bottom panel.
+#include "desk/zprava.h"
+
+#include "app/simulace.h"
+#include "relief/relief.h"
+#include "zaklad/platforma.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+Prikaz prikaz_radek;
+
+namespace {
+
+constexpr int kSirkaRadku = 14700; // width of the command line, twips; behind it stands the macro letter
+constexpr int kOdstupVpravo = 5;
+
+constexpr Barva kPozadiTlacitka = 0xE0E0E0;
+constexpr Barva kStisknuteTlacitko = 0x800000;
+
+// Words whose line flashes until it is answered.
+constexpr std::array kBlikaveKody = {" POZOR STITEK "_cz, " POZOR NVL "_cz, " POZOR VYLUKA "_cz,
+                                     " POZOR PN "_cz, " ZPRÁVA "_cz};
+
+bool je_vyzva_cesty(TextPohled kod) {
+    return kod == " VC "_cz || kod == " PC "_cz || kod == " PN "_cz;
+}
+
+// Opens or closes the input field over the text of the line. While the operator types, the pointer is
+// out of the way.
+void nastav_vstup(bool otevrit) {
+    Prvek& pole = relief.txtZadav_pole[0];
+    if (otevrit) {
+        pole.vlevo = relief.lblVolba[0].vlevo();
+        do_popredi(pole);
+    }
+    if (otevrit || pole.povoleny)
+        platforma.kurzor_viditelny(!otevrit);
+    pole.povoleny = otevrit;
+    pole.viditelny = otevrit;
+}
+
+// The copy of an element of the line on the second monitor.
+void dvojce(TabulkaPrvku& prvky) {
+    if (!simulace.dva_monitory || !prvky.je(1))
+        return;
+    const Prvek& vzor = prvky[0];
+    Prvek& kopie = prvky[1];
+    kopie.text = vzor.text;
+    kopie.barva = vzor.barva;
+    kopie.pozadi = vzor.pozadi;
+    kopie.viditelny = vzor.viditelny;
+    kopie.vlevo = vzor.vlevo() + kDruhyMonitor;
+    kopie.nahore = vzor.nahore;
+    kopie.sirka = vzor.sirka;
+    kopie.vyska = vzor.vyska;
+}
+
+// Captions and places of both labels, and their copies.
+void vypis_radek(TextPohled kod, TextPohled text) {
+    Prvek& prikaz = relief.lblPrikaz[0];
+    Prvek& volba = relief.lblVolba[0];
+    nastav_text(prikaz, kod);
+    prikaz.viditelny = true;
+    volba.text = text;
+    volba.viditelny = true;
+    volba.vlevo = prikaz.vlevo() + prikaz.sirka();
+    volba.sirka = kSirkaRadku - volba.vlevo() - kOdstupVpravo;
+    dvojce(relief.lblPrikaz);
+    dvojce(relief.lblVolba);
+    prikaz_radek.obsazen = true;
+    prikaz_radek.blikani_prikazu =
+        std::find(kBlikaveKody.begin(), kBlikaveKody.end(), kod) != kBlikaveKody.end();
+}
+
+void zobraz(const ZpravaFronty& z, int kod) {
+    Prvek& prikaz = relief.lblPrikaz[0];
+    Prvek& volba = relief.lblVolba[0];
+    const bool varovani = z.pozadi == barvy::oranzova;
+    prikaz.pozadi = z.pozadi;
+    prikaz.barva = varovani ? barvy::bila : z.popredi;
+    volba.pozadi = z.pozadi_volby;
+    volba.barva = varovani ? barvy::bila : barvy::cerna;
+    vypis_radek(z.prikaz, z.volba);
+    prikaz_radek.kod_zpravy = static_cast<std::int16_t>(kod);
+    nastav_vstup(z.vstup);
+}
+
+// The queue keeps one empty record at its end: a message fills it and leaves a new one behind.
+void zarad(ZpravaFronty z) {
+    prikaz_radek.fronta_zprav.back() = std::move(z);
+    prikaz_radek.fronta_zprav.emplace_back();
+}
+
+ZpravaFronty stojici_zprava() {
+    return {relief.lblPrikaz[0].text,  relief.lblVolba[0].text,   relief.lblPrikaz[0].pozadi,
+            relief.lblVolba[0].pozadi, relief.lblPrikaz[0].barva, relief.txtZadav_pole[0].povoleny};
+}
+
+} // namespace
+
+void zprava(TextPohled prikaz, TextPohled volba, Barva pozadi, int kod, bool vstup, Barva pozadi_volby,
+            Barva popredi, bool do_fronty) {
+    ZpravaFronty nova{Text(prikaz), Text(volba), pozadi, pozadi_volby, popredi, vstup};
+    const TextPohled stoji = relief.lblPrikaz[0].text();
+    if (prikaz == " CIV "_cz || !prikaz_radek.obsazen) {
+        zobraz(nova, kod);
+    } else if (relief.lblVolba[0].text() == volba) {
+        return; // the same is not said twice in a row
+    } else if (je_vyzva_cesty(stoji)) {
+        zobraz(nova, kod);
+    } else if (do_fronty) {
+        zarad(stojici_zprava());
+        zobraz(nova, kod);
+    } else if (!je_vyzva_cesty(prikaz)) {
+        zarad(std::move(nova));
+    } // a prompt never waits
+}
+
+void skryj_prikaz() {
+    nastav_text(relief.lblPrikaz[0], {});
+    relief.lblPrikaz[0].viditelny = false;
+    relief.lblVolba[0].viditelny = false;
+    dvojce(relief.lblPrikaz);
+    dvojce(relief.lblVolba);
+    nastav_vstup(false);
+    prikaz_radek.obsazen = false;
+    prikaz_radek.blikani_prikazu = false;
+}
+
+void potvrd_prikaz() {
+    skryj_prikaz();
+    prikaz_radek.kod_zpravy = 0;
+    pipni(400, 150);
+}
+
+void dalsi_zprava() {
+    std::vector<ZpravaFronty>& fronta = prikaz_radek.fronta_zprav;
+    const bool volno = !prikaz_radek.obsazen || je_vyzva_cesty(relief.lblPrikaz[0].text());
+    // Into an occupied line the message would only go to the end of the queue: it keeps its turn.
+    if (fronta.size() < 2 || !volno)
+        return;
+    const ZpravaFronty z = std::move(fronta.front());
+    fronta.erase(fronta.begin());
+    zprava(z.prikaz, z.volba, z.pozadi, 0, z.vstup, z.pozadi_volby, z.popredi);
+}
+
+void zobraz_prikaz(TextPohled prikaz, TextPohled volba, Barva popredi, Barva pozadi) {
+    for (Prvek* p : {&relief.lblPrikaz[0], &relief.lblVolba[0]}) {
+        p->barva = popredi;
+        p->pozadi = pozadi;
+    }
+    vypis_radek(prikaz, volba);
+    prikaz_radek.kod_zpravy = 0;
+    nastav_vstup(false);
+}
+
+void prepni_zvuk() {
+    simulace.zvuk_vypnut = !simulace.zvuk_vypnut;
+    ukaz_zvuk();
+}
+
+void ukaz_zvuk() {
+    Prvek& znacka = relief.imgSound[0];
+    znacka.obrazek = simulace.zvuk_vypnut ? kObrazekZvukVypnut : kObrazekZvukZapnut;
+    znacka.popis = simulace.zvuk_vypnut ? "Zvuk vypnut"_cz : "Zvuk zapnut"_cz;
+}
+
+void prepni_panel(Panel panel) {
+    struct Tlacitko {
+        Panel panel;
+        Prvek& prvek;
+    };
+    const std::array tlacitka = {
+        Tlacitko{Panel::zpravy, relief.cmdZpravy[0]}, Tlacitko{Panel::denik, relief.cmDenik[0]},
+        Tlacitko{Panel::tabulka, relief.cmdTABULKA[0]}, Tlacitko{Panel::vlak, relief.cmdVLAK[0]}};
+    for (const Tlacitko& t : tlacitka) {
+        const bool stisknute = t.panel == panel;
+        // An unread delay stays marked until the messages are opened.
+        if (!stisknute && t.panel == Panel::zpravy && t.prvek.pozadi == barvy::zelena)
+            continue;
+        t.prvek.barva = stisknute ? barvy::bila : barvy::cerna;
+        t.prvek.pozadi = stisknute ? kStisknuteTlacitko : kPozadiTlacitka;
+    }
+
+    const auto ukaz = [](TabulkaPrvku& prvky, bool viditelne) {
+        for (int n = 0; n <= prvky.nejvyssi(); ++n)
+            if (prvky.je(n))
+                prvky[n].viditelny = viditelne;
+    };
+    relief.lstZpravy.viditelny = panel == Panel::zpravy;
+    relief.lstDenik.viditelny = panel == Panel::denik;
+    ukaz(relief.lblTabulka_vlaku, panel == Panel::tabulka);
+    ukaz(relief.shpblikacka, panel == Panel::tabulka);
+    relief.lblIinfo_o_vlaku[0].viditelny = panel == Panel::vlak;
+    if (panel == Panel::tabulka)
+        relief.lblIinfo_o_vlaku[0].text = Text{};
+    if (panel != Panel::vlak) {
+        ukaz(relief.imgObrzaek_vlaku, false);
+        ukaz(relief.lblPopis_vozu, false);
+        ukaz(relief.imgSberac, false);
+        relief.lblPokracuje[0].viditelny = false;
+    }
+    ++revize_reliefu;
+}
+
+void smaz_radek_zprav() {
+    Seznam& seznam = relief.lstZpravy;
+    if (seznam.vybrany < 0 || static_cast<std::size_t>(seznam.vybrany) >= seznam.radky.size())
+        return;
+    seznam.radky.erase(seznam.radky.begin() + seznam.vybrany);
+    seznam.vybrany = std::min(seznam.vybrany, static_cast<int>(seznam.radky.size()) - 1);
+    ++revize_reliefu;
+}

@@ -1,0 +1,149 @@
+// testy/gvd/gvd_test.cpp - reading the timetable, names of stations and categories.
+#include "app/simulace.h"
+#include "gvd/gvd.h"
+#include "zaklad/chyba.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+
+namespace {
+
+GvdVlak radek(std::int32_t cislo) {
+    GvdVlak v;
+    v.stanice = {1, 8};
+    v.prijezdy = {-1, 500};
+    v.odjezdy = {490, 501};
+    v.cislo = cislo;
+    v.vozy = {"943", "054"};
+    v.vozy_vlaky = {0, 7};
+    v.dny = 1;
+    return v;
+}
+
+Bajty soubor(const std::vector<GvdVlak>& radky) {
+    Zapisovac z;
+    z.l(12345);
+    z.text("Zkušební řád"_cz);
+    for (const GvdVlak& v : radky)
+        popis_gvd_vlaku(z, v);
+    return z.bajty;
+}
+
+class Gvd : public testing::Test {
+protected:
+    std::string slozka = testing::TempDir() + "tesk_gvd_test";
+
+    void SetUp() override {
+        std::filesystem::create_directories(slozka);
+        simulace.soubor_gvd = slozka + "\\GVD\\Zkouska.DAT";
+        std::filesystem::create_directories(slozka + "/gvd");
+    }
+    void TearDown() override {
+        std::filesystem::remove_all(slozka);
+        simulace.soubor_gvd.clear();
+        simulace.den = 1;
+        simulace.pp_povoleno = true;
+        gvd_vlaky.clear();
+    }
+    void zapis(const Bajty& bajty) {
+        std::ofstream soubor(slozka + "/gvd/zkouska.dat", std::ios::binary);
+        soubor.write(reinterpret_cast<const char*>(bajty.data()), static_cast<std::streamsize>(bajty.size()));
+    }
+};
+
+} // namespace
+
+TEST_F(Gvd, LastRecordThatEndsWithTheFileIsKept) {
+    zapis(soubor({radek(1), radek(2)}));
+    nacti_gvd();
+    ASSERT_EQ(gvd_vlaky.size(), 2u);
+    EXPECT_EQ(gvd_vlaky[1], radek(2));
+}
+
+TEST_F(Gvd, EveryCutFileKeepsItsWholeRows) {
+    const Bajty cely = soubor({radek(1), radek(2)});
+    const Bajty jeden = soubor({radek(1)});
+    for (std::size_t delka = 0; delka < cely.size(); ++delka) {
+        zapis(Bajty(cely.begin(), cely.begin() + static_cast<std::ptrdiff_t>(delka)));
+        nacti_gvd();
+        ASSERT_EQ(gvd_vlaky.size(), delka >= jeden.size() ? 1u : 0u) << delka;
+    }
+}
+
+TEST_F(Gvd, RowWhoseTimesDoNotMatchItsStationsIsLeftOut) {
+    GvdVlak kratky = radek(5);
+    kratky.odjezdy.pop_back();
+    zapis(soubor({radek(1), kratky, radek(2)}));
+    nacti_gvd();
+    ASSERT_EQ(gvd_vlaky.size(), 2u);
+    EXPECT_EQ(gvd_vlaky[1].cislo, 2);
+}
+
+TEST_F(Gvd, FileWithoutRowsLeavesAnEmptyTimetable) {
+    zapis(soubor({}));
+    nacti_gvd();
+    EXPECT_TRUE(gvd_vlaky.empty());
+}
+
+TEST_F(Gvd, MissingFileIsARunTimeError) {
+    try {
+        nacti_gvd();
+        FAIL();
+    } catch (const BehovaChyba& c) {
+        EXPECT_EQ(c.kod, KodChyby::soubor_nenalezen);
+    }
+}
+
+TEST_F(Gvd, DescriptionComesFromTheHeaderAlone) {
+    zapis(soubor({}));
+    EXPECT_EQ(popis_gvd(simulace.soubor_gvd), "Zkušební řád"_cz);
+    EXPECT_EQ(popis_gvd("nikde\\neni.dat"), "");
+}
+
+TEST_F(Gvd, RowRunsOnItsDayOnly) {
+    GvdVlak v = radek(1);
+    v.dny = 2 | 4;
+    simulace.den = 1;
+    EXPECT_FALSE(aktivni_dnes(v));
+    simulace.den = 4;
+    EXPECT_TRUE(aktivni_dnes(v));
+}
+
+TEST_F(Gvd, HolidayRowRunsOnlyWhenPPTrainsAreAllowed) {
+    GvdVlak v = radek(1);
+    v.dny = 128;
+    EXPECT_TRUE(aktivni_dnes(v));
+    simulace.pp_povoleno = false;
+    EXPECT_FALSE(aktivni_dnes(v));
+}
+
+TEST(NazvyStanic, MainStationAnswersTheNoneCodeToo) {
+    EXPECT_EQ(nazev_stanice(-3), "Tesk hl. n."_cz);
+    EXPECT_EQ(nazev_stanice(9), "Tesk hl. n."_cz);
+    EXPECT_EQ(kod_stanice(-3), "");
+}
+
+TEST(NazvyStanic, PointsWithoutACodeHaveAnEmptyOne) {
+    for (const int kod : {7, 10, 11, 14, 15, 16, 21, 22, 23, 24, 32, 35, 36, 37, 38}) {
+        EXPECT_EQ(kod_stanice(kod), "") << kod;
+        EXPECT_NE(nazev_stanice(kod), "") << kod;
+    }
+    EXPECT_EQ(kod_stanice(34), "DVH"_cz);
+}
+
+TEST(NazvyStanic, UnknownCodesAreEmpty) {
+    for (const int kod : {-1, 0, 25, 26, 29, 39, 255}) {
+        EXPECT_EQ(nazev_stanice(kod), "") << kod;
+        EXPECT_EQ(kod_stanice(kod), "") << kod;
+    }
+}
+
+TEST(DruhyVlaku, NineHasNoShortForm) {
+    EXPECT_EQ(zkratka_druhu(1), "EC");
+    EXPECT_EQ(zkratka_druhu(9), "");
+    EXPECT_EQ(zkratka_druhu(10), "Nex");
+    EXPECT_EQ(zkratka_druhu(18), "Vle");
+    EXPECT_EQ(zkratka_druhu(19), "");
+}

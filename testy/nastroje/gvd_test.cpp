@@ -1,0 +1,109 @@
+// testy/nastroje/gvd_test.cpp - the timetable compiler.
+#include "gvd/prekladac.h"
+#include "zaklad/balik.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+constexpr std::string_view kOsobni = R"(
+popis "Zkušební"
+vlak Os 7501 "Lhoták"
+  dny Po-Pá PP
+  rychlost 80
+  delka 60
+  loko 943
+  vozy 943 054
+  dale 0 7502
+  kolej "1"
+  stavi LHO -    8:10
+  projede "Podolí" 8:15
+  stavi THN 8:25 -
+)";
+
+std::vector<ChybaZdroje> chyby_zdroje(std::string_view zdroj) {
+    std::vector<ChybaZdroje> chyby;
+    preloz_jizdni_rad(zdroj, chyby);
+    return chyby;
+}
+
+} // namespace
+
+TEST(PrekladGvd, TrainBecomesOneRowWithItsStops) {
+    std::vector<ChybaZdroje> chyby;
+    const JizdniRad rad = preloz_jizdni_rad(kOsobni, chyby);
+    ASSERT_TRUE(chyby.empty()) << chyby[0].zprava;
+    ASSERT_EQ(rad.vlaky.size(), 1u);
+    const GvdVlak& v = rad.vlaky[0];
+    EXPECT_EQ(v.stanice, (std::vector<std::uint8_t>{1, 24, 9}));
+    EXPECT_EQ(v.prijezdy, (std::vector<std::int16_t>{-1, -1, 505}));
+    EXPECT_EQ(v.odjezdy, (std::vector<std::int16_t>{490, 495, -1}));
+    EXPECT_EQ(v.druh, 7);
+    EXPECT_EQ(v.cislo, 7501);
+    EXPECT_EQ(v.nazev, "Lhoták"_cz);
+    EXPECT_EQ(v.dny, 0x80 | 0x1F);
+    EXPECT_EQ(v.vozy_vlaky, (std::vector<std::int16_t>{0, 7502}));
+}
+
+TEST(PrekladGvd, WrittenFileReadsBackAsTheSameRows) {
+    std::vector<ChybaZdroje> chyby;
+    const JizdniRad rad = preloz_jizdni_rad(kOsobni, chyby);
+    const Bajty bajty = zapis_jizdni_rad(rad);
+    Ctenar c{bajty};
+    std::int32_t znacka = -1;
+    Text popis;
+    c.l(znacka);
+    c.text(popis);
+    GvdVlak vlak;
+    popis_gvd_vlaku(c, vlak);
+    EXPECT_TRUE(c.ok);
+    EXPECT_TRUE(c.na_konci());
+    EXPECT_EQ(popis, "Zkušební"_cz);
+    EXPECT_EQ(vlak, rad.vlaky[0]);
+}
+
+TEST(PrekladGvd, SmallestRowOfTheFileHasNinetyFiveBytes) {
+    GvdVlak v;
+    v.stanice = {1};
+    v.prijezdy = v.odjezdy = v.vozy_vlaky = {0};
+    v.vozy = {""};
+    Miric m;
+    popis_gvd_vlaku(m, v);
+    EXPECT_EQ(m.misto, 95u);
+}
+
+TEST(PrekladGvd, ClockFaceServiceRepeatsToTheLastDeparture) {
+    std::vector<ChybaZdroje> chyby;
+    const JizdniRad rad = preloz_jizdni_rad(std::string(kOsobni) + "  takt 60 10:10 2\n", chyby);
+    ASSERT_EQ(rad.vlaky.size(), 3u);
+    EXPECT_EQ(rad.vlaky[2].cislo, 7505);
+    EXPECT_EQ(rad.vlaky[2].odjezdy[0], 610);
+    EXPECT_EQ(rad.vlaky[2].prijezdy[0], -1);
+}
+
+TEST(PrekladGvd, FaultsNameTheLineAndTheTrain) {
+    const auto chyby =
+        chyby_zdroje("vlak Os 12\n  dny Po\n  rychlost 80\n  vozy 943\n  stavi XYZ 8:00 8:01\n");
+    ASSERT_EQ(chyby.size(), 2u);
+    EXPECT_EQ(chyby[0].radek, 5);
+    EXPECT_EQ(chyby[0].zprava, "vlak 12: neznámá stanice „XYZ“");
+    EXPECT_EQ(chyby[1].radek, 1);
+}
+
+TEST(PrekladGvd, TimesThatRunBackAreRefused) {
+    const auto chyby =
+        chyby_zdroje("vlak Os 12\ndny Po\nrychlost 80\nvozy 943\nstavi LHO - 8:10\nstavi TVH 8:05 8:06\n");
+    ASSERT_EQ(chyby.size(), 1u);
+    EXPECT_NE(chyby[0].zprava.find("časy jdou zpět"), std::string::npos);
+}
+
+TEST(PrekladGvd, OneNumberTwiceOnADayIsRefused) {
+    const std::string dvakrat = std::string(kOsobni) + std::string(kOsobni);
+    EXPECT_FALSE(chyby_zdroje(dvakrat).empty());
+}
+
+TEST(PrekladGvd, WordsOutsideATrainAreRefused) {
+    const auto chyby = chyby_zdroje("rychlost 80\n");
+    ASSERT_EQ(chyby.size(), 1u);
+    EXPECT_EQ(chyby[0].radek, 1);
+}
