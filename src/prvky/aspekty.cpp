@@ -47,6 +47,8 @@ int posledni(const Cesta& c) {
 } // namespace
 
 int dalsi_navest(int prvek) {
+    if (prvek < 0)
+        return kNavestStuj;
     int e = prvek;
     // a ring of repeaters must end
     for (std::size_t kolo = 0; kolo <= cesty.size(); ++kolo) {
