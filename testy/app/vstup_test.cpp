@@ -5,6 +5,7 @@
 #include "desk/menu.h"
 #include "desk/zprava.h"
 #include "pomocne/virtualni_platforma.h"
+#include "prvky/souhlasy.h"
 #include "relief/relief.h"
 
 namespace {
@@ -158,6 +159,46 @@ TEST_F(Klavesy, ClickOnTheLineAnswersItLikeEnter) {
         klik(druh, 0, Tlacitko::leve, false);
         EXPECT_FALSE(prikaz_radek.obsazen);
     }
+}
+
+TEST_F(Klavesy, EnterOnTheQuestionOfANeighbourGivesConsent) {
+    Prvek& lampa = relief.lblSouhlas.zaloz(1);
+    lampa.text = znak(8);
+    lampa.popis = TextPohled("4711");
+    klik(Druh::lblSouhlas, 1, Tlacitko::leve, false);
+    ASSERT_EQ(prikaz_radek.kod_zpravy, 2);
+    stiskni("Enter");
+    EXPECT_TRUE(souhlasy.souhlas[1]);
+    EXPECT_EQ(souhlasy.cekajici_vlaky, (std::vector<std::int32_t>{4711}));
+    EXPECT_EQ(lampa.popis(), "");
+    EXPECT_FALSE(prikaz_radek.obsazen);
+    EXPECT_EQ(svet.pipnuti.back(), (Pipnuti{400, 150}));
+}
+
+TEST_F(Klavesy, EnterOnTheQuestionBringsOneMessageOnly) {
+    Prvek& lampa = relief.lblSouhlas.zaloz(1);
+    lampa.text = znak(8);
+    lampa.popis = TextPohled("4711");
+    klik(Druh::lblSouhlas, 1, Tlacitko::leve, false);
+    zprava(" M ", "A", barvy::cervena);
+    zprava(" M ", "B", barvy::cervena);
+    stiskni("Enter");
+    EXPECT_EQ(relief.lblVolba[0].text(), "A");
+    EXPECT_EQ(prikaz_radek.fronta_zprav.size(), 2u);
+}
+
+TEST_F(Klavesy, RightClickOnAStationCrossingOpensItsMenu) {
+    relief.lblPrejezd.zaloz(1);
+    klik(Druh::lblPrejezd, 1, Tlacitko::leve, false);
+    EXPECT_TRUE(menu.jmeno.empty());
+    klik(Druh::lblPrejezd, 1, Tlacitko::prave, false);
+    EXPECT_EQ(menu.prvek, 1);
+    EXPECT_EQ(menu.druh, Druh::lblPrejezd);
+}
+
+TEST_F(Klavesy, PrintScreenPauses) {
+    stiskni("PrintScreen");
+    EXPECT_TRUE(simulace.pauza);
 }
 
 TEST_F(Klavesy, ImagesOfTheBarSendTheirKeys) {
