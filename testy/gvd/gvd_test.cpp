@@ -2,11 +2,11 @@
 #include "app/simulace.h"
 #include "gvd/gvd.h"
 #include "zaklad/chyba.h"
-#include "zaklad/soubory.h"
 
 #include <gtest/gtest.h>
 
 #include <filesystem>
+#include <fstream>
 
 namespace {
 
@@ -47,7 +47,10 @@ protected:
         simulace.pp_povoleno = true;
         gvd_vlaky.clear();
     }
-    void zapis(const Bajty& bajty) { zapis_soubor(slozka + "/gvd/zkouska.dat", bajty); }
+    void zapis(const Bajty& bajty) {
+        std::ofstream soubor(slozka + "/gvd/zkouska.dat", std::ios::binary);
+        soubor.write(reinterpret_cast<const char*>(bajty.data()), static_cast<std::streamsize>(bajty.size()));
+    }
 };
 
 } // namespace
