@@ -82,8 +82,7 @@ template <std::size_t N> struct Literal {
     std::array<char, N> bajty{};
     std::size_t delka = 0;
 
-    // As a template argument it is built while compiling in any case; "consteval" here crashes clang 14.
-    constexpr Literal(const char (&utf8)[N]) {
+    consteval Literal(const char (&utf8)[N]) {
         const std::string_view vstup(utf8, N - 1);
         for (std::size_t misto = 0; misto < vstup.size();) {
             const int bajt = z_unicode(dalsi_znak_utf8(vstup, misto));
