@@ -9,6 +9,7 @@
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
 #include "jizda/vlak.h"
+#include "prvky/panel.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "prvky/stav_vyhybek.h"
@@ -41,6 +42,7 @@ void nova_simulace() {
     souhlasy = Souhlasy{};
     stanicni_prejezdy = {};
     stav_vyhybek = StavVyhybek{};
+    panel_navestidla = PanelNavestidla{};
     stitky = std::vector<StitekPrvku>(1);
     prikaz_radek = Prikaz{};
     menu = Menu{};

@@ -7,6 +7,7 @@
 
 #include "relief/prvek.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -46,6 +47,24 @@ struct Cesta {
 
     bool operator==(const Cesta&) const = default;
 };
+
+// Index of the last entry.
+inline std::size_t posledni_index(const Cesta& c) {
+    return c.prvky.empty() ? 0 : c.prvky.size() - 1;
+}
+inline int prvni_prvek(const Cesta& c) {
+    return c.prvky.empty() ? -3 : c.prvky.front();
+}
+inline int posledni_prvek(const Cesta& c) {
+    return c.prvky.empty() ? -3 : c.prvky.back();
+}
+// Kind and position of entry k; behind the end there is nothing: 0.
+inline std::uint8_t druh_na(const Cesta& c, std::size_t k) {
+    return k < c.druhy.size() ? c.druhy[k] : std::uint8_t{0};
+}
+inline std::uint8_t poloha_na(const Cesta& c, std::size_t k) {
+    return k < c.polohy.size() ? c.polohy[k] : std::uint8_t{0};
+}
 
 inline constexpr std::uint8_t kBezPrejezdu = 255;
 inline constexpr std::int16_t kZTprogramu = 999;

@@ -7,7 +7,7 @@
 #include "relief/relief.h"
 #include "zaklad/text.h"
 
-#include <functional>
+#include <utility>
 #include <vector>
 
 struct PolozkaMenu {
@@ -30,4 +30,9 @@ struct Menu {
 };
 extern Menu menu;
 
+// Opens a menu in place of the one that is open, for the view to see.
+inline void otevri_menu(Menu nove) {
+    menu = std::move(nove);
+    ++revize_reliefu;
+}
 void zavri_menu();

@@ -32,10 +32,6 @@ void zam(int s);
 void ppn(int s);
 // Menu AB: toggles the automatic mode; the operator picks the end of the first run when none stands.
 void menu_ab(int s);
-// AH of an operator's post: the through pairs of the station run by themselves, or no longer.
-void automat(int post);
-// Opens the menu of an operator's post (imgStanoviste), by the station's code.
-void menu_stanoviste(int post);
 
 // --- by AB, RC, STUJ, AH
 

@@ -19,22 +19,22 @@ inline constexpr int dolni_zlute = 4;
 inline constexpr int modre = 5;
 } // namespace svetla
 
-// Mast of the signal shown.
+// Mast of the signal shown: three heights of main signals, one without speed bars, the dwarf.
 enum class TvarPanelu : std::uint8_t {
-    dlouhy,      // five lamps and both bars
-    kratky,      // entry of a shorter mast: without the upper yellow, the bars and the lower yellow
-    bez_zluteho, // without lamp 0
-    bez_pruhu,   // five lamps, both bars hidden
-    serizovaci,  // two lamps: white and blue
+    kratky,      // platform tracks and small stations
+    bez_zluteho, // without the upper yellow lamp
+    dlouhy,      // entry and exit of the larger stations
+    bez_pruhu,   // long, without speed bars
+    serizovaci,  // shunting signal: white and blue
 };
 
-// What a mast carries: which of the six lamps and two bars exist on it. An aspect may still light a
-// lamp that the mast lacks (the store says so); the view then draws nothing there.
+// What stands on a mast even when dark. A lamp or bar that is lit is drawn on any mast, so that no
+// aspect is ever hidden from the operator.
 struct PopisPanelu {
     TvarPanelu tvar;
     std::array<bool, 6> svetla;
     std::array<bool, 2> pruhy;
-    int vyska; // steps of the mast's height: 1 two-lamp, 2 short, 3 long
+    int vyska; // height of the mast: 0 dwarf, 1, 2, 3
 };
 
 struct PanelNavestidla {

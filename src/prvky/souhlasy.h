@@ -48,5 +48,6 @@ constexpr int konec_trati(int n) {
 void klik_souhlas(int k, Tlacitko tlacitko);
 // Opens the menu of line end k.
 void menu_souhlasu(int k);
-// US, or Enter on the question: the train that asks may come in. Nothing when nobody asks.
+// US, or Enter on the question: the train that asks may come in. Nothing when nobody asks. The question
+// of this line is confirmed when it stands on the command line; Enter has cleared the line before.
 void souhlas_us(int k);

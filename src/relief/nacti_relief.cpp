@@ -4,6 +4,7 @@
 #include "app/simulace.h"
 #include "relief/relief.h"
 #include "relief/soubor_reliefu.h"
+#include "relief/tvary_vyhybek.h"
 #include "zaklad/cisla.h"
 #include "zaklad/soubory.h"
 
@@ -19,7 +20,6 @@ constexpr int kPrumerLampy = 100;
 constexpr Barva kOkrajLampy1 = 0x008000; // no possession
 constexpr Barva kOkrajLampy2 = 0xC0C0C0;
 constexpr int kStranaStanoviste = 320;
-constexpr int kSirkaObrazkuVyhybky = 2 * kSirkaZnaku;
 constexpr int kObrazekVyhybky = 100; // number of the picture of a switch in state 0
 
 bool je_mezi(int cislo, std::initializer_list<int> cisla) {
@@ -181,8 +181,8 @@ void umisti_popis_stanice(const ZaznamReliefu& z) {
 
 void umisti_vyhybku(const ZaznamReliefu& z) {
     if (Prvek* p = umisti(relief.imgVyhybka, z)) {
-        p->sirka = kSirkaObrazkuVyhybky;
-        p->vyska = kVyskaZnaku;
+        p->sirka = kSirkaVyhybky;
+        p->vyska = kVyskaVyhybky;
         p->stav = z.nazev;
         const double obrazek = cislo_z_textu(z.nazev) + kObrazekVyhybky;
         if (obrazek >= 0 && obrazek <= INT16_MAX)
@@ -228,8 +228,11 @@ template <class Co> void pro_umistene(TabulkaPrvku& prvky, Co co) {
 } // namespace
 
 void nacti_relief() {
-    const Bajty bajty =
-        nacti_soubor(simulace.cesta_aplikace + (simulace.dva_monitory ? "data\\tesk.reb" : "data\\tesk.rea"));
+    nacti_relief(nacti_soubor(simulace.cesta_aplikace +
+                              (simulace.dva_monitory ? "data\\tesk.reb" : "data\\tesk.rea")));
+}
+
+void nacti_relief(std::span<const std::uint8_t> bajty) {
     relief.napisy.clear();
     Ctenar soubor{bajty};
     HlavickaReliefu hlavicka;

@@ -20,7 +20,10 @@ constexpr int kKonecPrvku_m = 250;       // nearer to the end of the element no 
 } // namespace
 
 void nacti_prejezdy() {
-    const Bajty bajty = nacti_soubor(simulace.cesta_aplikace + "data\\tesk.pzz");
+    nacti_prejezdy(nacti_soubor(simulace.cesta_aplikace + "data\\tesk.pzz"));
+}
+
+void nacti_prejezdy(std::span<const std::uint8_t> bajty) {
     Ctenar soubor{bajty};
     prejezdy.clear();
     for (;;) {

@@ -5,6 +5,7 @@
 #include "zaklad/text.h"
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 struct Prejezd {
@@ -36,6 +37,8 @@ template <class A, class Z> constexpr void popis_zaznamu_prejezdu(A& a, Z& z) {
 
 // Reads data\tesk.pzz into the table; a short last record is dropped.
 void nacti_prejezdy();
+// The same from the bytes of a file.
+void nacti_prejezdy(std::span<const std::uint8_t> bajty);
 // Flags of the crossings on `kolej` for a train of `delka_vlaku` metres whose head stands there;
 // `smer` True runs from the start of the element.
 void kontrola_prejezdu(int kolej, bool smer, int delka_vlaku);

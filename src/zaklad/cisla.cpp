@@ -3,6 +3,7 @@
 
 #include "zaklad/chyba.h"
 
+#include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
@@ -57,13 +58,18 @@ std::size_t konec_cisla(TextPohled text, std::size_t od, int& cislic) {
     return i;
 }
 
-// The value of a text that konec_cisla has measured; a leading "+" is no part of what from_chars reads.
+// The value of a text that konec_cisla has measured. More whole digits than a real number can hold are
+// infinity, so that narrowing it is an overflow.
 double hodnota_textu(TextPohled text) {
-    if (!text.empty() && text.front() == '+')
+    const bool zaporna = text.front() == '-';
+    if (zaporna || text.front() == '+')
         text.remove_prefix(1);
+    text.remove_prefix(std::min(text.find_first_not_of('0'), text.size()));
     double hodnota = 0;
-    std::from_chars(text.data(), text.data() + text.size(), hodnota);
-    return hodnota;
+    const auto [konec, kod] = std::from_chars(text.data(), text.data() + text.size(), hodnota);
+    if (kod == std::errc::result_out_of_range && text.front() != '.')
+        hodnota = std::numeric_limits<double>::infinity();
+    return zaporna ? -hodnota : hodnota;
 }
 
 } // namespace
@@ -122,6 +128,7 @@ Text text_cisla(std::int64_t hodnota) {
 
 Text text_cisla(double hodnota) {
     char bajty[64];
+    hodnota += 0.0; // no sign on zero
     const auto [konec, kod] = std::to_chars(bajty, bajty + sizeof bajty, hodnota, std::chars_format::fixed);
     if (kod != std::errc{})
         chyba(KodChyby::preteceni);
@@ -129,8 +136,10 @@ Text text_cisla(double hodnota) {
 }
 
 Text text_cisla_mist(std::int64_t hodnota, int mist) {
-    Text cislice = std::to_string(hodnota < 0 ? -hodnota : hodnota);
-    if (cislice.size() < static_cast<std::size_t>(mist))
-        cislice.insert(0, static_cast<std::size_t>(mist) - cislice.size(), '0');
-    return hodnota < 0 ? "-" + cislice : cislice;
+    Text cislice = std::to_string(hodnota);
+    const std::size_t znamenko = hodnota < 0 ? 1 : 0;
+    const std::size_t potreba = znamenko + static_cast<std::size_t>(std::max(mist, 0));
+    if (cislice.size() < potreba)
+        cislice.insert(znamenko, potreba - cislice.size(), '0');
+    return cislice;
 }

@@ -5,13 +5,13 @@
 
 #include <algorithm>
 #include <cerrno>
-#include <chrono>
 #include <ctime>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
+#include <utility>
 
 namespace fs = std::filesystem;
 
@@ -19,23 +19,19 @@ namespace {
 
 constexpr std::int64_t kNejdelsiSoubor = 64 * 1024 * 1024;
 
-char male(char c) {
-    return c >= 'A' && c <= 'Z' ? static_cast<char>(c + 32) : c;
+// A name on disk is UTF-8, a name of the core code page 1250; a host may also hand over the folder of the
+// program just as the disk calls it.
+bool stejne_jmeno(const std::string& na_disku, TextPohled jmeno) {
+    return na_disku == jmeno || stejne_bez_velikosti(z_utf8(na_disku), jmeno);
 }
 
-bool stejne_jmeno(std::string_view a, std::string_view b) {
-    return a.size() == b.size() &&
-           std::equal(a.begin(), a.end(), b.begin(), [](char x, char y) { return male(x) == male(y); });
+bool je_na_disku(const std::string& cesta) {
+    struct stat st {};
+    return ::stat(cesta.c_str(), &st) == 0;
 }
 
-std::string male_jmeno(std::string_view jmeno) {
-    std::string vysledek(jmeno);
-    std::transform(vysledek.begin(), vysledek.end(), vysledek.begin(), male);
-    return vysledek;
-}
-
-// Name in `slozka` equal to `jmeno` but for case; empty when there is none.
-std::string jmeno_ve_slozce(const std::string& slozka, const std::string& jmeno) {
+// Name in `slozka` (empty or ending with "/") equal to `jmeno` but for case; empty when there is none.
+std::string jmeno_ve_slozce(const std::string& slozka, TextPohled jmeno) {
     std::error_code kod;
     std::string nejlepsi;
     for (fs::directory_iterator it(slozka.empty() ? "." : slozka, kod), konec; !kod && it != konec;
@@ -47,13 +43,21 @@ std::string jmeno_ve_slozce(const std::string& slozka, const std::string& jmeno)
     return nejlepsi;
 }
 
-// Walks the path part by part; `uplna` tells whether every part was found.
-std::string rozres(TextPohled cesta, bool& uplna) {
+// The path with the disk's slashes. Of a name with a zero byte the disk would take the part before it:
+// such a name is none, like the empty one.
+std::string s_lomitky(TextPohled cesta) {
+    if (cesta.find('\0') != TextPohled::npos)
+        return {};
     std::string prosta(cesta);
     std::replace(prosta.begin(), prosta.end(), '\\', '/');
-    struct stat st {};
-    uplna = true;
-    if (::stat(prosta.c_str(), &st) == 0)
+    return prosta;
+}
+
+// Walks the path part by part; `uplna` tells whether every part was found.
+std::string rozres(TextPohled cesta, bool& uplna) {
+    std::string prosta = s_lomitky(cesta);
+    uplna = !prosta.empty();
+    if (uplna && je_na_disku(prosta))
         return prosta;
     std::string hotovo;
     std::size_t i = 0;
@@ -64,21 +68,41 @@ std::string rozres(TextPohled cesta, bool& uplna) {
             continue;
         }
         const std::size_t konec = std::min(prosta.find('/', i), prosta.size());
-        std::string cast = prosta.substr(i, konec - i);
-        if (uplna && ::stat((hotovo + cast).c_str(), &st) != 0) {
-            std::string nalezene = jmeno_ve_slozce(hotovo, cast);
-            uplna = !nalezene.empty();
-            if (uplna)
-                cast = std::move(nalezene);
+        const std::string cast = prosta.substr(i, konec - i);
+        std::string nalezena = cast;
+        if (uplna && !je_na_disku(hotovo + nalezena)) {
+            nalezena = na_utf8(cast);
+            if (!je_na_disku(hotovo + nalezena))
+                nalezena = jmeno_ve_slozce(hotovo, cast);
         }
-        hotovo += cast;
+        uplna = uplna && !nalezena.empty();
+        hotovo += uplna ? nalezena : na_utf8(cast);
         i = konec;
     }
     return hotovo;
 }
 
-[[noreturn]] void chyba_zapisu(TextPohled cesta) {
-    switch (errno) {
+// Closes a file at the end of the block, whatever way it is left.
+struct Zavirac {
+    int soubor;
+    ~Zavirac() { ::close(soubor); }
+};
+
+// What the disk tells of a file or folder; nothing when it is missing.
+std::optional<struct stat> udaje(TextPohled cesta) {
+    struct stat st {};
+    if (::stat(s_lomitky(cesta).c_str(), &st) == 0)
+        return st;
+    const auto nalezena = najdi_soubor(cesta);
+    if (nalezena && ::stat(nalezena->c_str(), &st) == 0)
+        return st;
+    return std::nullopt;
+}
+
+std::uint64_t zmeny = 0;
+
+[[noreturn]] void chyba_zapisu(TextPohled cesta, int duvod) {
+    switch (duvod) {
     case ENOSPC:
     case EDQUOT: chyba(KodChyby::disk_plny, Text(cesta));
     case ENOENT:
@@ -88,12 +112,13 @@ std::string rozres(TextPohled cesta, bool& uplna) {
     }
 }
 
-bool odpovida(std::string_view jmeno, std::string_view vzor) {
+// Both in lower case.
+bool odpovida(TextPohled jmeno, TextPohled vzor) {
     if (vzor.empty())
         return jmeno.empty();
     if (vzor.front() == '*')
         return odpovida(jmeno, vzor.substr(1)) || (!jmeno.empty() && odpovida(jmeno.substr(1), vzor));
-    return !jmeno.empty() && (vzor.front() == '?' || male(vzor.front()) == male(jmeno.front())) &&
+    return !jmeno.empty() && (vzor.front() == '?' || vzor.front() == jmeno.front()) &&
            odpovida(jmeno.substr(1), vzor.substr(1));
 }
 
@@ -117,67 +142,68 @@ bool soubor_existuje(TextPohled cesta) {
 }
 
 std::optional<std::int64_t> delka_souboru(TextPohled cesta) {
-    const auto nalezena = najdi_soubor(cesta);
-    struct stat st {};
-    if (!nalezena || ::stat(nalezena->c_str(), &st) != 0 || !S_ISREG(st.st_mode))
+    const auto st = udaje(cesta);
+    if (!st || !S_ISREG(st->st_mode))
         return std::nullopt;
-    return st.st_size;
+    return st->st_size;
 }
 
 Bajty nacti_soubor(TextPohled cesta) {
     const auto nalezena = najdi_soubor(cesta);
     if (!nalezena)
         chyba(KodChyby::soubor_nenalezen, Text(cesta));
-    const int soubor = ::open(nalezena->c_str(), O_RDONLY | O_CLOEXEC);
+    // O_NONBLOCK: a pipe in place of a file is refused below, not waited for.
+    const int soubor = ::open(nalezena->c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
     if (soubor < 0)
         chyba(KodChyby::pristup_odepren, Text(cesta));
-    Bajty obsah;
+    const Zavirac zavirac{soubor};
     struct stat st {};
-    if (::fstat(soubor, &st) != 0 || !S_ISREG(st.st_mode) || st.st_size > kNejdelsiSoubor) {
-        const bool dlouhy = S_ISREG(st.st_mode);
-        ::close(soubor);
-        chyba(dlouhy ? KodChyby::malo_pameti : KodChyby::pristup_odepren, Text(cesta));
-    }
-    obsah.resize(static_cast<std::size_t>(st.st_size));
+    if (::fstat(soubor, &st) != 0 || !S_ISREG(st.st_mode))
+        chyba(KodChyby::pristup_odepren, Text(cesta));
+    if (st.st_size > kNejdelsiSoubor)
+        chyba(KodChyby::malo_pameti, Text(cesta));
+    Bajty obsah(static_cast<std::size_t>(st.st_size));
     std::size_t precteno = 0;
     while (precteno < obsah.size()) {
         const ssize_t kus = ::read(soubor, obsah.data() + precteno, obsah.size() - precteno);
         if (kus < 0 && errno == EINTR)
             continue;
-        if (kus <= 0)
+        if (kus < 0)
+            chyba(KodChyby::pristup_odepren, Text(cesta));
+        if (kus == 0) // it has become shorter meanwhile
             break;
         precteno += static_cast<std::size_t>(kus);
     }
-    ::close(soubor);
     obsah.resize(precteno);
     return obsah;
 }
 
 void zapis_soubor(TextPohled cesta, const Bajty& obsah) {
+    ++zmeny;
     const std::string cil = cesta_k_zapisu(cesta);
     const std::string docasny = cil + ".nove";
     const int soubor = ::open(docasny.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
     if (soubor < 0)
-        chyba_zapisu(cesta);
+        chyba_zapisu(cesta, errno);
     std::size_t zapsano = 0;
-    bool dobre = true;
-    while (dobre && zapsano < obsah.size()) {
+    int duvod = 0;
+    while (duvod == 0 && zapsano < obsah.size()) {
         const ssize_t kus = ::write(soubor, obsah.data() + zapsano, obsah.size() - zapsano);
-        if (kus < 0 && errno == EINTR)
-            continue;
-        dobre = kus > 0;
-        zapsano += dobre ? static_cast<std::size_t>(kus) : 0;
+        if (kus > 0)
+            zapsano += static_cast<std::size_t>(kus);
+        else if (kus == 0 || errno != EINTR)
+            duvod = kus == 0 ? ENOSPC : errno;
     }
-    dobre = dobre && ::fsync(soubor) == 0;
-    int duvod = errno;
-    dobre = ::close(soubor) == 0 && dobre;
-    if (dobre && ::rename(docasny.c_str(), cil.c_str()) == 0)
-        return;
-    if (dobre)
+    if (duvod == 0 && ::fsync(soubor) != 0)
         duvod = errno;
+    if (::close(soubor) != 0 && duvod == 0)
+        duvod = errno;
+    if (duvod == 0 && ::rename(docasny.c_str(), cil.c_str()) != 0)
+        duvod = errno;
+    if (duvod == 0)
+        return;
     ::unlink(docasny.c_str());
-    errno = duvod;
-    chyba_zapisu(cesta);
+    chyba_zapisu(cesta, duvod);
 }
 
 bool zaloz_slozku(TextPohled cesta) {
@@ -190,6 +216,7 @@ bool zaloz_slozku(TextPohled cesta) {
 }
 
 bool smaz_soubor(TextPohled cesta) {
+    ++zmeny;
     const auto nalezena = najdi_soubor(cesta);
     return nalezena && ::unlink(nalezena->c_str()) == 0;
 }
@@ -199,37 +226,40 @@ std::vector<Text> soubory_slozky(TextPohled slozka, TextPohled vzor) {
     const auto nalezena = najdi_soubor(slozka);
     if (!nalezena)
         return jmena;
+    const Text maly_vzor = mala_pismena(vzor);
     std::error_code kod;
     for (fs::directory_iterator it(*nalezena, kod), konec; !kod && it != konec; it.increment(kod)) {
         std::error_code jiny;
-        std::string jmeno = it->path().filename().string();
-        if (it->is_regular_file(jiny) && odpovida(jmeno, vzor))
+        Text jmeno = z_utf8(it->path().filename().string());
+        if (it->is_regular_file(jiny) && odpovida(mala_pismena(jmeno), maly_vzor))
             jmena.push_back(std::move(jmeno));
     }
     std::sort(jmena.begin(), jmena.end(), [](const Text& a, const Text& b) {
-        const std::string x = male_jmeno(a), y = male_jmeno(b);
+        const Text x = mala_pismena(a), y = mala_pismena(b);
         return x != y ? x < y : a < b;
     });
     return jmena;
 }
 
 std::optional<std::int64_t> cas_zmeny(TextPohled cesta) {
-    const auto nalezena = najdi_soubor(cesta);
-    struct stat st {};
-    if (!nalezena || ::stat(nalezena->c_str(), &st) != 0)
+    const auto st = udaje(cesta);
+    if (!st)
         return std::nullopt;
     std::tm mistni{};
-    ::localtime_r(&st.st_mtime, &mistni);
-    return static_cast<std::int64_t>(st.st_mtime) + mistni.tm_gmtoff;
+    ::localtime_r(&st->st_mtime, &mistni);
+    return static_cast<std::int64_t>(st->st_mtime) + mistni.tm_gmtoff;
 }
 
 std::uint64_t otisk_souboru(TextPohled cesta) {
-    const auto nalezena = najdi_soubor(cesta);
-    struct stat st {};
-    if (!nalezena || ::stat(nalezena->c_str(), &st) != 0)
+    const auto st = udaje(cesta);
+    if (!st)
         return 0;
-    const auto nanosekundy = static_cast<std::uint64_t>(st.st_mtim.tv_sec) * 1'000'000'000u +
-                             static_cast<std::uint64_t>(st.st_mtim.tv_nsec);
-    return (nanosekundy * 1'000'003u) ^ static_cast<std::uint64_t>(st.st_size) ^
-           (static_cast<std::uint64_t>(st.st_ino) << 40);
+    const auto nanosekundy = static_cast<std::uint64_t>(st->st_mtim.tv_sec) * 1'000'000'000u +
+                             static_cast<std::uint64_t>(st->st_mtim.tv_nsec);
+    return (nanosekundy * 1'000'003u) ^ static_cast<std::uint64_t>(st->st_size) ^
+           (static_cast<std::uint64_t>(st->st_ino) << 40);
+}
+
+std::uint64_t vlastni_zmeny() {
+    return zmeny;
 }

@@ -3,7 +3,8 @@
 // Paths inside the core are written as the system writes them ("data\tesk.rea", after the program's
 // folder with its trailing backslash). On this side of the wall both kinds of slash part folders, and
 // each part is found whatever its case; when several names differ only in case, the exact one wins,
-// then the first by byte order.
+// then the first by byte order. Names on disk are UTF-8; a character that code page 1250 does not hold
+// stands as "?" in a name of the core and is found by it.
 #pragma once
 
 #include "zaklad/balik.h"
@@ -41,3 +42,6 @@ std::optional<std::int64_t> cas_zmeny(TextPohled cesta);
 // A mark that changes when the file does (time and length): for caches of tables that the rules read
 // anew at each use. 0 when the file is missing.
 std::uint64_t otisk_souboru(TextPohled cesta);
+// How many files this process has written or removed so far: for caches that look at the disk only now
+// and then.
+std::uint64_t vlastni_zmeny();

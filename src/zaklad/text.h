@@ -44,12 +44,17 @@ constexpr int z_unicode(char32_t znak) {
     return -1;
 }
 
-// Decodes one UTF-8 character at `misto` and moves `misto` behind it; a damaged sequence gives U+FFFD
-// and moves by one byte.
+// Decodes one UTF-8 character at `misto` and moves `misto` behind it; a damaged or overlong sequence gives
+// U+FFFD and moves by one byte.
 constexpr char32_t dalsi_znak_utf8(std::string_view utf8, std::size_t& misto) {
     const auto bajt = [&](std::size_t i) { return static_cast<unsigned char>(utf8[i]); };
     const unsigned prvni = bajt(misto);
-    const int delka = prvni < 0x80 ? 1 : prvni >= 0xF0 ? 4 : prvni >= 0xE0 ? 3 : prvni >= 0xC2 ? 2 : 0;
+    const int delka = prvni < 0x80    ? 1
+                      : prvni >= 0xF5 ? 0
+                      : prvni >= 0xF0 ? 4
+                      : prvni >= 0xE0 ? 3
+                      : prvni >= 0xC2 ? 2
+                                      : 0;
     if (delka == 0 || misto + static_cast<std::size_t>(delka) > utf8.size()) {
         ++misto;
         return 0xFFFD;
@@ -62,6 +67,10 @@ constexpr char32_t dalsi_znak_utf8(std::string_view utf8, std::size_t& misto) {
             return 0xFFFD;
         }
         znak = (znak << 6) | (dalsi & 0x3Fu);
+    }
+    if ((delka == 3 && znak < 0x800) || (delka == 4 && znak < 0x10000)) {
+        ++misto;
+        return 0xFFFD;
     }
     misto += static_cast<std::size_t>(delka);
     return znak;
@@ -86,9 +95,12 @@ template <std::size_t N> struct Literal {
 
 } // namespace cp1250
 
-// "pondělí"_cz: the literal in code page 1250, static storage.
-template <cp1250::Literal L> constexpr TextPohled operator""_cz() {
-    return TextPohled(L.bajty.data(), L.delka);
+template <cp1250::Literal L> inline constexpr TextPohled kLiteral{L.bajty.data(), L.delka};
+
+// "pondělí"_cz: the literal in code page 1250, static storage. A reference, because clang 14 crashes over a
+// temporary that comes from such an operator.
+template <cp1250::Literal L> constexpr const TextPohled& operator""_cz() {
+    return kLiteral<L>;
 }
 
 // Unicode text (UTF-8) of a text of the core.

@@ -2,11 +2,12 @@
 #include "app/simulace.h"
 #include "gvd/gvd.h"
 #include "zaklad/chyba.h"
-#include "zaklad/soubory.h"
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
+#include <fstream>
 
 namespace {
 
@@ -33,10 +34,10 @@ Bajty soubor(const std::vector<GvdVlak>& radky) {
 
 class Gvd : public testing::Test {
 protected:
-    std::string slozka = testing::TempDir() + "tesk_gvd_test";
+    std::string slozka = testing::TempDir() + "tesk-gvd-XXXXXX"; // tests run side by side
 
     void SetUp() override {
-        std::filesystem::create_directories(slozka);
+        ASSERT_NE(::mkdtemp(slozka.data()), nullptr);
         simulace.soubor_gvd = slozka + "\\GVD\\Zkouska.DAT";
         std::filesystem::create_directories(slozka + "/gvd");
     }
@@ -47,7 +48,10 @@ protected:
         simulace.pp_povoleno = true;
         gvd_vlaky.clear();
     }
-    void zapis(const Bajty& bajty) { zapis_soubor(slozka + "/gvd/zkouska.dat", bajty); }
+    void zapis(const Bajty& bajty) {
+        std::ofstream soubor(slozka + "/gvd/zkouska.dat", std::ios::binary);
+        soubor.write(reinterpret_cast<const char*>(bajty.data()), static_cast<std::streamsize>(bajty.size()));
+    }
 };
 
 } // namespace

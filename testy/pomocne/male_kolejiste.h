@@ -211,19 +211,10 @@ inline void zapis_male_kolejiste(TextPohled slozka) {
     zapis_soubor(data + "tesk.mak", {});
 }
 
-// A store with element 0 of every kind of the layout and nothing else.
-inline Relief prazdny_relief() {
-    Relief prazdny;
-    for (const PopisDruhu& druh : kDruhy)
-        if (druh.druh <= Druh::lblPN)
-            (prazdny.*druh.tabulka).zaloz(0);
-    return prazdny;
-}
-
 // The store as the files of simulace.cesta_aplikace say, painted at rest: tracks free with the position
 // "0", signals at stop. The twin of the first paint of the main screen, without the failed signal.
 inline void postav_male_kolejiste() {
-    relief = prazdny_relief();
+    relief = novy_relief();
     nacti_relief();
     nacti_prejezdy();
     for (int n = 0; n <= kNejvyssiPrvek; ++n) {

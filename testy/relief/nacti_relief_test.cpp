@@ -17,7 +17,7 @@ protected:
     SouborReliefu() {
         simulace = Simulace{};
         simulace.cesta_aplikace = slozka.cesta;
-        relief = prazdny_relief();
+        relief = novy_relief();
         zaloz_slozku(slozka.cesta + "data");
     }
     ~SouborReliefu() override {
@@ -77,7 +77,7 @@ TEST_F(SouborReliefu, SameBytesUnderBothNamesGiveTheSameStore) {
     zapis_male_kolejiste(slozka.cesta);
     nacti_relief();
     const Relief jeden = relief;
-    relief = prazdny_relief();
+    relief = novy_relief();
     simulace.dva_monitory = true;
     nacti_relief();
     EXPECT_EQ(relief, jeden);
@@ -99,7 +99,7 @@ TEST_F(SouborReliefu, CutLastRecordIsDroppedAtEveryByte) {
     Bajty bajty = soubor_reliefu(oba);
     while (bajty.size() > kratky) {
         bajty.pop_back();
-        relief = prazdny_relief();
+        relief = novy_relief();
         nacti(bajty);
         ASSERT_TRUE(je_kolej(62));
         ASSERT_FALSE(je_kolej(63)) << bajty.size();
@@ -151,9 +151,10 @@ TEST_F(SouborReliefu, EndOfSomeTracksCarriesThreeGlyphs) {
 }
 
 TEST_F(SouborReliefu, PictureAtTheEndOfTrack574FollowsIt) {
-    nacti({zaznam(T::kolej, 574, 0, "", 1000, 2000, 3000, 4000)}); // a screen without the picture
+    relief = Relief{}; // a screen without the picture
+    nacti({zaznam(T::kolej, 574, 0, "", 1000, 2000, 3000, 4000)});
     EXPECT_FALSE(relief.imgV1.je(0));
-    relief.imgV1.zaloz(0);
+    relief = novy_relief();
     nacti({zaznam(T::kolej, 574, 0, "", 1000, 2000, 3000, 4000)});
     EXPECT_EQ(relief.imgV1[0].vlevo(), 2100);
     EXPECT_EQ(relief.imgV1[0].nahore(), 3820);
@@ -319,7 +320,7 @@ TEST_F(SouborReliefu, NumberOutsideTheTableLeavesNothingAndDisturbsNothing) {
         if (typ == 15 || typ == 16) // painted texts have no number
             continue;
         for (const int cislo : {5000, 1000, -1, -3, -32768, 32767}) {
-            relief = prazdny_relief();
+            relief = novy_relief();
             const Relief pred = relief;
             nacti({zaznam(static_cast<T>(typ), cislo, 10, "2", 1, 2, 3, 4)});
             const bool soused = typ == 7 && cislo >= -10 && cislo < 0; // the second lamp still fits

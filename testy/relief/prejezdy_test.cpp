@@ -15,7 +15,7 @@ protected:
         simulace = Simulace{};
         simulace.cesta_aplikace = slozka.cesta;
         zapis_male_kolejiste(slozka.cesta);
-        relief = prazdny_relief();
+        relief = novy_relief();
         nacti_relief();
         prejezdy.clear();
     }

@@ -1,0 +1,137 @@
+#!/usr/bin/env python3
+# nastroje/kontrola_zdroju.py - rules of the sources that no compiler checks; run by CI and by hand.
+#
+#   - Qt is included in src/ui only
+#   - zaklad includes nothing above it, nothing includes ui or davka, and no includes form a circle
+#   - the first line of a file is "// path - what it holds."
+#   - a table is declared in its owner's header: no extern in a .cpp
+#   - everything is formatted by clang-format
+#
+# Prints one fault a line as path:line: text; exit status 1 when there is any.
+import pathlib
+import re
+import subprocess
+import sys
+
+KOREN = pathlib.Path(__file__).resolve().parent.parent
+
+# Folders of the core that lie below all others; ui and davka lie above all others and are included by
+# none but themselves.
+ZAKLAD = "zaklad"
+NAHORE = {"ui", "davka"}
+
+VLOZENI = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
+QT = re.compile(r"^Q[A-Za-z]|^Qt")
+
+chyby = []
+
+
+def chyba(soubor, radek, text):
+    chyby.append(f"{soubor.relative_to(KOREN)}:{radek}: {text}")
+
+
+def zdroje():
+    for slozka in ("src", "testy", "vykon", "nastroje"):
+        for soubor in sorted((KOREN / slozka).rglob("*")):
+            if soubor.suffix in (".h", ".cpp"):
+                yield soubor
+
+
+def slozka_src(soubor):
+    casti = soubor.relative_to(KOREN).parts
+    return casti[1] if casti[0] == "src" else None
+
+
+def najdi_vlozeny(soubor, jmeno):
+    for misto in (KOREN / "src", KOREN / "testy", KOREN / "nastroje", soubor.parent):
+        if (misto / jmeno).is_file():
+            return (misto / jmeno).resolve()
+    return None
+
+
+def zkontroluj(soubor, graf):
+    radky = soubor.read_text(encoding="utf-8").splitlines()
+    cesta = soubor.relative_to(KOREN).as_posix().removeprefix("src/")
+    if not radky or not re.match(r"// " + re.escape(cesta) + r" - \S.*\.$", radky[0]):
+        chyba(soubor, 1, f'first line is not "// {cesta} - what it holds."')
+    odkud = slozka_src(soubor)
+    graf[soubor.resolve()] = []
+    for cislo, radek in enumerate(radky, 1):
+        if soubor.suffix == ".cpp" and re.match(r'\s*extern\b(?! "C")', radek):
+            chyba(soubor, cislo, "extern in a source file: declare it in its owner's header")
+        nalezene = VLOZENI.match(radek)
+        if not nalezene:
+            continue
+        znak, jmeno = nalezene.groups()
+        if QT.match(jmeno) and odkud != "ui":
+            chyba(soubor, cislo, f"{jmeno}: Qt belongs to src/ui only")
+        if znak == "<":
+            continue
+        cil = najdi_vlozeny(soubor, jmeno)
+        if cil is None:
+            if not QT.match(jmeno):
+                chyba(soubor, cislo, f"{jmeno} is not found")
+            continue
+        graf[soubor.resolve()].append(cil)
+        kam = slozka_src(cil)
+        if odkud is None or odkud == kam:
+            continue
+        if kam is None:
+            chyba(soubor, cislo, f"{jmeno}: the program includes nothing of the tests and tools")
+        elif odkud == ZAKLAD:
+            chyba(soubor, cislo, f"{jmeno}: {ZAKLAD} includes nothing of the simulator")
+        elif kam in NAHORE:
+            chyba(soubor, cislo, f"{jmeno}: nothing includes {kam}")
+
+
+def najdi_kruhy(graf):
+    hotove, cesta = set(), []
+
+    def projdi(soubor):
+        if soubor in cesta:
+            kruh = [s.relative_to(KOREN).as_posix() for s in cesta[cesta.index(soubor):] + [soubor]]
+            chyba(soubor, 1, "includes form a circle: " + " > ".join(kruh))
+            return
+        if soubor in hotove:
+            return
+        cesta.append(soubor)
+        for dalsi in graf.get(soubor, []):
+            projdi(dalsi)
+        cesta.pop()
+        hotove.add(soubor)
+
+    for soubor in sorted(graf):
+        projdi(soubor)
+
+
+def zkontroluj_format(soubory):
+    try:
+        beh = subprocess.run(["clang-format", "--dry-run", *map(str, soubory)], capture_output=True, text=True,
+                             check=False, cwd=KOREN)
+    except FileNotFoundError:
+        print("clang-format is not installed: formatting is not checked", file=sys.stderr)
+        return
+    spatne = {}
+    for radek in beh.stderr.splitlines():
+        nalezene = re.match(r"(.+?):(\d+):\d+: (?:warning|error):", radek)
+        if nalezene:
+            spatne.setdefault(nalezene.group(1), int(nalezene.group(2)))
+    for jmeno, cislo in spatne.items():
+        chyba((KOREN / jmeno).resolve(), cislo, "is not formatted: clang-format -i")
+
+
+def hlavni():
+    graf = {}
+    soubory = list(zdroje())
+    for soubor in soubory:
+        zkontroluj(soubor, graf)
+    najdi_kruhy(graf)
+    zkontroluj_format(soubory)
+    for text in chyby:
+        print(text)
+    print(f"{len(soubory)} sources, {len(chyby)} faults")
+    return 1 if chyby else 0
+
+
+if __name__ == "__main__":
+    sys.exit(hlavni())

@@ -1,0 +1,172 @@
+// cesty/dotazy.cpp - questions about tracks and routes.
+#include "cesty/dotazy.h"
+
+#include "app/cas.h"
+#include "cesty/barvi_prvek.h"
+#include "relief/topologie.h"
+#include "zaklad/cisla.h"
+
+#include <algorithm>
+#include <array>
+
+std::bitset<kNejvyssiPrvek + 1> odjete;
+
+namespace {
+
+// Tracks that lie in two parts, drawn apart: a route takes both or none.
+constexpr std::array<std::array<int, 2>, 4> kDvojiceUseku = {
+    {{309, 328}, {177, 178}, {316, 369}, {106, 543}}};
+
+// These face the even sense whatever their glyph.
+constexpr std::array kSudaNavestidla = {317, 225, 318, 519, 520, 576, 577};
+
+bool je_seda(int n) {
+    return relief.kolej[n].barva == barvy::seda || odjete.test(static_cast<std::size_t>(n));
+}
+
+bool nevjel(const Cesta& c) {
+    return c.Umazat == 0;
+}
+
+template <class Podminka> bool nektera(Podminka podminka) {
+    return std::any_of(cesty.begin(), cesty.end(), podminka);
+}
+
+} // namespace
+
+bool je_volna(int n) {
+    for (const auto& dvojice : kDvojiceUseku)
+        if (n == dvojice[0] || n == dvojice[1])
+            return std::all_of(dvojice.begin(), dvojice.end(),
+                               [n](int m) { return (m != n && !je_kolej(m)) || je_seda(m); });
+    return je_seda(n);
+}
+
+bool cil_volny(int n) {
+    if (cesty.front().zacatek < 0)
+        return true;
+    if (n < 600)
+        return !nektera(
+            [n](const Cesta& c) { return posledni_prvek(c) == n && (c.prehozena || c.Postavena); });
+    if (je_kolej(n) && relief.kolej[n].barva == barvy::cervena)
+        return false;
+    return !nektera([n](const Cesta& c) {
+        return posledni_prvek(c) == n && (c.Postavena || c.Provedena) && c.Umazat != posledni_index(c);
+    });
+}
+
+bool je_nastaveno_z(int n) {
+    return nektera([n](const Cesta& c) { return prvni_prvek(c) == n && c.Postavena && nevjel(c); });
+}
+
+bool je_nastaveno_posun_z(int n) {
+    return nektera([n](const Cesta& c) { return prvni_prvek(c) == n && !c.VC && c.Postavena && nevjel(c); });
+}
+
+bool je_posun_do(int n) {
+    return nektera([n](const Cesta& c) {
+        return posledni_prvek(c) == n && !c.VC && c.Postavena && c.Umazat < posledni_index(c);
+    });
+}
+
+bool je_vlak_do(int n) {
+    return nektera(
+        [n](const Cesta& c) { return posledni_prvek(c) == n && c.VC && !c.PN && c.prehozena && nevjel(c); });
+}
+
+bool pn_sviti(int s) {
+    const std::int32_t ted = ted_s();
+    return nektera([=](const Cesta& c) { return c.zacatek == s && c.Provedena && c.PN && ted < c.PN_do; });
+}
+
+bool pn_skoncila(int s) {
+    const std::int32_t ted = ted_s();
+    return nektera([=](const Cesta& c) { return c.zacatek == s && c.Provedena && c.PN && ted > c.PN_do; });
+}
+
+// A running cancellation does not matter: DN is what stops it.
+bool dn_mozne(int s) {
+    return nektera([s](const Cesta& c) { return c.zacatek == s && c.Provedena && nevjel(c); });
+}
+
+bool rc_mozne(int s) {
+    return nektera([s](const Cesta& c) { return c.zacatek == s && c.prehozena && nevjel(c); });
+}
+
+Text jmeno_navestidla(int s) {
+    const TabulkaPrvku& druh = navestidla(s);
+    return druh.je(s) ? druh[s].popis() : Text{};
+}
+
+Text jmeno_cile(int e) {
+    return relief.Image1.je(e) ? relief.Image1[e].stav() : Text{};
+}
+
+Text jmeno_konce(int e) {
+    Text nazev = jmeno_cile(e);
+    if (nazev.empty() && relief.cislo_koleje.je(e))
+        nazev = relief.cislo_koleje[e].popis;
+    return nazev;
+}
+
+Text popis_cesty(const Cesta& c) {
+    Text popis(!c.VC ? "PC" : c.PN ? "PN" : "VC");
+    popis += " " + jmeno_navestidla(c.zacatek) + " " + jmeno_konce(c.konec);
+    if (jmeno_cile(c.konec).empty())
+        popis += " " + text_cisla(delka_koleje(c.konec)) + "m";
+    return popis;
+}
+
+Text popis_cesty(int i) {
+    return popis_cesty(cesty.at(static_cast<std::size_t>(i)));
+}
+
+int glyf_navestidla(int s) {
+    const TabulkaPrvku& druh = navestidla(s);
+    return druh.je(s) ? kod_znaku(orez(druh[s].text())) : 0;
+}
+
+// 176 is 228 in automatic mode: switching the mode does not turn the signal round.
+bool sude_navestidlo(int s) {
+    if (std::find(kSudaNavestidla.begin(), kSudaNavestidla.end(), s) != kSudaNavestidla.end())
+        return true;
+    const int glyf = glyf_navestidla(s);
+    if (je_na_ser(s))
+        return glyf == 240 || glyf == 242;
+    return glyf == 8 || glyf == 229 || glyf == 228 || glyf == 176 || glyf == 227;
+}
+
+void smaz_cestu(int i) {
+    cesty.erase(cesty.begin() + i);
+    if (cesty.empty())
+        cesty.emplace_back();
+}
+
+void uklid_odjete() {
+    if (odjete.none())
+        return;
+    std::bitset<kNejvyssiPrvek + 1> drzene;
+    for (const Cesta& c : cesty)
+        if (c.Vlak >= 0)
+            for (std::size_t k = 0; k < c.Umazat && k < c.prvky.size(); ++k)
+                if (c.prvky[k] >= 0 && c.prvky[k] <= kNejvyssiPrvek)
+                    drzene.set(static_cast<std::size_t>(c.prvky[k]));
+    const auto volne = odjete & ~drzene;
+    for (std::size_t n = 0; volne.any() && n < volne.size(); ++n)
+        if (volne.test(n))
+            barvi_prvek(static_cast<int>(n), barvy::seda);
+}
+
+void obnov_odjete() {
+    odjete.reset();
+    for (int n = 0; n < 600; ++n) {
+        if (!je_kolej(n) || relief.kolej[n].barva != barvy::azurova)
+            continue;
+        const bool drzena = nektera([n](const Cesta& c) {
+            return c.prehozena &&
+                   (c.konec == n || std::find(c.prvky.begin(), c.prvky.end(), n) != c.prvky.end());
+        });
+        if (!drzena)
+            odjete.set(static_cast<std::size_t>(n));
+    }
+}

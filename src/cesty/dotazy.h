@@ -1,0 +1,63 @@
+// cesty/dotazy.h - what the other rooms ask about tracks and routes, and the removal of a route.
+//
+// Plain walks over `cesty` in index order. A route that a train has entered has Umazat other than 0.
+#pragma once
+
+#include "cesty/cesta.h"
+#include "relief/relief.h"
+#include "zaklad/text.h"
+
+#include <bitset>
+
+// Numbered sections that a tail has left: they keep the cyan tint while the train is still on its
+// route, but are free for the next one. A section leaves the set when it is painted again.
+extern std::bitset<kNejvyssiPrvek + 1> odjete;
+
+// --- at any time, without change
+
+// The track n is free: grey, or left by a tail. Four tracks lie in two parts that are drawn apart
+// and count as one: both must be free.
+bool je_volna(int n);
+// No other route holds n as its end; for a line section also: no train stands on it.
+bool cil_volny(int n);
+// A route stands from track n, and no train has entered it.
+bool je_nastaveno_z(int n);
+// The same for a shunt route.
+bool je_nastaveno_posun_z(int n);
+// A shunt route with the last element n stands, and no train has run it to its end.
+bool je_posun_do(int n);
+// A train route with the last element n has its switches commanded, and no train has entered it.
+bool je_vlak_do(int n);
+
+// The calling-on aspect of signal s runs; it has run out and its route waits for RNZ.
+bool pn_sviti(int s);
+bool pn_skoncila(int s);
+// DN can give signal s back; RC can cancel its route.
+bool dn_mozne(int s);
+bool rc_mozne(int s);
+
+// Text of route i: "VC THN S1 THN L3", without a target at the end "VC THN S1 12 450m".
+Text popis_cesty(int i);
+Text popis_cesty(const Cesta& cesta);
+// Name of signal s; empty when there is none.
+Text jmeno_navestidla(int s);
+// Name of the target of an end; empty when it has none.
+Text jmeno_cile(int e);
+// Name of an end: of its target, else of its track.
+Text jmeno_konce(int e);
+// The signal faces the even sense, by its glyph; a few signals do whatever their glyph.
+bool sude_navestidlo(int s);
+// Code of the glyph of signal s: the first character but for blanks; 0 when there is none.
+int glyf_navestidla(int s);
+
+// --- when a route ends
+
+// Takes record i out; the later ones move down by one. Without the last route the empty record stands.
+void smaz_cestu(int i);
+
+// --- by the route machine and after a load
+
+// Paints grey what a tail has left and no train's route holds any more.
+void uklid_odjete();
+// After a load: every cyan section that no commanded route holds was left by a tail.
+void obnov_odjete();

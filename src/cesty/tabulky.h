@@ -1,0 +1,92 @@
+// cesty/tabulky.h - the interlocking tables: which routes exist, and which switches move together.
+//
+// data\tesk.zat   train and calling-on routes
+// data\tesk.zpc   shunt routes
+// data\tesk.stg   links and names of the switches
+// data\tesk.mak   the operator's macros
+//
+// Packed records without a header or a count, read to the end of the file; a record cut off there is
+// dropped. The rules read the tables anew at each use; here a table is read again only when the file
+// has changed, with the same answers: the first record that matches wins.
+#pragma once
+
+#include "zaklad/balik.h"
+#include "zaklad/text.h"
+
+#include <cstdint>
+#include <vector>
+
+// A route. The three lists have the same length: elements in running order from the track before the
+// signal, their kinds (1 track, 2 switch, 4 derailer), and for a switch the position it must have, for
+// a track 0 or 2 (its label is cleared at release).
+struct ZaznamCesty {
+    std::int16_t zacatek = -3; // start signal
+    std::int16_t konec = -3;   // end: the mate of a signal, a station track, a block section
+    std::vector<std::int16_t> prvky;
+    std::vector<std::uint8_t> druhy;
+    std::vector<std::uint8_t> polohy;
+    std::uint8_t rychlost = 0; // speed class: 0 free, 1, 2, 3 = 40, 60, 80 km/h
+    bool operator==(const ZaznamCesty&) const = default;
+};
+
+template <class A, class Z> void popis_zaznamu_cesty(A& a, Z& z) {
+    a.i(z.zacatek);
+    a.i(z.konec);
+    pole_i(a, z.prvky);
+    pole_b(a, z.druhy);
+    pole_b(a, z.polohy);
+    a.b(z.rychlost);
+}
+
+// A switch: its links and its name, two names with "/" between them for a switch with a mate.
+struct ZaznamVazeb {
+    std::uint8_t cislo = 0;
+    std::vector<std::uint8_t> vazby; // linked switches; 255 first: none
+    Text nazev;
+    bool operator==(const ZaznamVazeb&) const = default;
+};
+inline constexpr std::uint8_t kBezVazeb = 255;
+
+template <class A, class Z> void popis_zaznamu_vazeb(A& a, Z& z) {
+    a.b(z.cislo);
+    pole_b(a, z.vazby);
+    a.text(z.nazev);
+}
+
+// A macro: the picks of an operator under one letter.
+struct ZaznamMakra {
+    Text pismeno;
+    std::vector<std::uint8_t> druhy; // 1 train, 2 shunt route
+    std::vector<std::int16_t> zacatky;
+    std::vector<std::int16_t> konce;
+    bool operator==(const ZaznamMakra&) const = default;
+};
+
+template <class A, class Z> void popis_zaznamu_makra(A& a, Z& z) {
+    a.text(z.pismeno);
+    pole_b(a, z.druhy);
+    pole_i(a, z.zacatky);
+    pole_i(a, z.konce);
+}
+
+// All whole records of a table's bytes, in their order. Damage ends the table where it begins.
+std::vector<ZaznamCesty> cti_cesty(const Bajty& bajty);
+std::vector<ZaznamVazeb> cti_vazby(const Bajty& bajty);
+std::vector<ZaznamMakra> cti_makra(const Bajty& bajty);
+
+enum class TabulkaCest : std::uint8_t { zat, zpc };
+
+struct NalezenaCesta {
+    const ZaznamCesty* zaznam = nullptr; // valid until the next look-up; nullptr: no such route
+    int radek = 0;                       // its line in the file, counted from 1
+    explicit operator bool() const { return zaznam != nullptr; }
+};
+
+// --- at any time, without change. A missing file is the run-time error 53.
+
+// The first record of the table with this start and end. A record without elements is no route.
+NalezenaCesta najdi_v_tabulce(TabulkaCest tabulka, int zacatek, int konec);
+// The first record of switch n; nullptr when it has none. Valid until the next look-up.
+const ZaznamVazeb* najdi_vazby(int n);
+// Number of the switch whose name up to the first "/" is `nazev`, in any case; -1 when there is none.
+int cislo_vyhybky(TextPohled nazev);

@@ -1,0 +1,17 @@
+// cesty/uvolneni.h - how a route ends other than under a train: RC, DN, STUJ, RNZ.
+//
+// RC puts the signal to stop at once and takes the route back when its time is over; until then DN
+// gives the signal again. STUJ only puts the signal to stop. RNZ releases a calling-on route.
+#pragma once
+
+// --- on the operator's command; refused without a word when the rules do not allow it
+
+void zrus_cestu(int s);      // RC
+void obnov_cestu(int s);     // DN
+void navestidlo_stuj(int s); // STUJ
+void rnz(int s);             // RNZ
+
+// --- by the route machine
+
+// The cancellation of route i is due: everything back to rest, the record goes.
+void proved_zruseni(int i);

@@ -1,0 +1,45 @@
+// cesty/volba.h - the operator's selection: a start signal, an end, and the look-up of the route.
+#pragma once
+
+#include "app/vstup.h"
+#include "cesty/vyber.h"
+#include "cesty/zasobnik.h"
+
+// Kinds of a selection.
+namespace druh_volby {
+inline constexpr int zadny = 0;
+inline constexpr int vlak = 1;  // VC
+inline constexpr int posun = 2; // PC
+inline constexpr int pn = 3;    // PN
+} // namespace druh_volby
+
+// --- on the operator's command
+
+// Press on a main signal: right opens its menu, middle and Ctrl pick a shunt route, left a train route.
+// A click on a signal of the same facing also ends the selection before, so that chains of routes are
+// picked signal by signal.
+void klik_navestidlo(int s, Tlacitko tlacitko, bool ctrl);
+// Press on a shunting signal.
+void klik_navestidlo_ser(int s, Tlacitko tlacitko);
+// Menu PN: start of a calling-on route.
+void volba_pn(int s);
+// Pick of the end: a target, a track by KC.
+void klik_cil(int e);
+// Esc: drops the macro being recorded, the prompt, the newest route when it was just picked, the start.
+void zrus_volbu();
+// Click on the empty desk.
+void klik_plocha();
+// Enter on " POZOR STITEK ", " POZOR NVL ", " POZOR VYLUKA ", " POZOR PN ": releases all routes that a
+// warning holds.
+void potvrd_varovani();
+
+// --- by the selection, AH and macros
+
+// Looks the route up in the table of its kind and queues it; while a macro is recorded, adds a step
+// instead. `automaticky`: called by AH. False when the table holds no such route.
+bool najdi_cestu(int zacatek, int konec, int druh, bool automaticky);
+
+// --- each tick of the route machine
+
+// The ten seconds of the selection, in wall-clock time.
+void hlidej_cas_volby();

@@ -1,0 +1,228 @@
+// testy/app/casovace_test.cpp - the simulated clock, its minutes and its days.
+#include "app/cas.h"
+#include "app/casovace.h"
+#include "app/vstup.h"
+#include "pomocne/virtualni_platforma.h"
+#include "relief/relief.h"
+#include "zaklad/chyba.h"
+
+#include <array>
+
+namespace {
+
+class Hodiny : public SPlatformou {
+protected:
+    void SetUp() override {
+        nastav("12:00:00");
+        spust_hodiny();
+    }
+    void nastav(TextPohled cas) { relief.lblcas[0].text = cas; }
+    const Text& cas() { return relief.lblcas[0].text; }
+    void krok(int ms) {
+        svet.posun_ms(ms);
+        krok_hodin();
+    }
+};
+
+TEST_F(Hodiny, StandWhileNotAWholeSimulatedSecondHasPassed) {
+    krok(999);
+    EXPECT_EQ(cas(), "12:00:00");
+    krok(1);
+    EXPECT_EQ(cas(), "12:00:01");
+}
+
+TEST_F(Hodiny, StandInAPause) {
+    simulace.pauza = true;
+    krok(5000);
+    EXPECT_EQ(cas(), "12:00:00");
+}
+
+TEST_F(Hodiny, StandAtSpeedZero) {
+    simulace.rychlost = 0;
+    krok(5000);
+    EXPECT_EQ(cas(), "12:00:00");
+}
+
+TEST_F(Hodiny, CarryAtMostSixMilliseconds) {
+    krok(1050);
+    EXPECT_EQ(simulace.tick_hodin, svet.tik - 6);
+    spust_hodiny();
+    krok(1004);
+    EXPECT_EQ(simulace.tick_hodin, svet.tik - 4);
+}
+
+TEST_F(Hodiny, RoundHalfASecondToTheEvenOne) {
+    krok(1500); // 1.5 -> 2
+    EXPECT_EQ(cas(), "12:00:02");
+    spust_hodiny();
+    krok(2500); // 2.5 -> 2
+    EXPECT_EQ(cas(), "12:00:04");
+}
+
+TEST_F(Hodiny, RunASecondPerStepAtSpeedEight) {
+    simulace.rychlost = 8;
+    for (int i = 0; i < 100; ++i)
+        krok(150);
+    EXPECT_EQ(cas(), "12:01:40");
+    EXPECT_EQ(simulace.minuty_simulace, 1);
+}
+
+TEST_F(Hodiny, LoseWhatExceedsTheCarryAtSpeedOne) {
+    for (int i = 0; i < 400; ++i) // a minute of steps of 150 ms
+        krok(150);
+    EXPECT_LT(sekundy_textu(cas()), 12 * 3600 + 60);
+    EXPECT_GT(sekundy_textu(cas()), 12 * 3600 + 50);
+}
+
+TEST_F(Hodiny, StallAddsAllSecondsButOneMinuteStep) {
+    simulace.rychlost = 4;
+    krok(200'000);
+    EXPECT_EQ(cas(), "12:13:20");
+    EXPECT_EQ(simulace.minuty_simulace, 1);
+    EXPECT_EQ(simulace.tick_hodin, svet.tik - 6);
+}
+
+TEST_F(Hodiny, StallOfAMinuteDoesNotOverflowTheCarry) {
+    krok(60'000);
+    EXPECT_EQ(cas(), "12:01:00");
+    EXPECT_EQ(simulace.tick_hodin, svet.tik - 6);
+}
+
+TEST_F(Hodiny, RunOnWhenTheTickCounterWraps) {
+    svet.tik = 2147483000;
+    spust_hodiny();
+    svet.tik = static_cast<std::int32_t>(2147483000u + 1000u);
+    krok_hodin();
+    EXPECT_EQ(cas(), "12:00:01");
+}
+
+TEST_F(Hodiny, PauseOfAnHourAddsNothing) {
+    zastav_hodiny();
+    EXPECT_TRUE(relief.lblPauza[0].viditelny);
+    krok(3'600'000);
+    spust_hodiny();
+    EXPECT_FALSE(relief.lblPauza[0].viditelny);
+    krok(150);
+    EXPECT_EQ(cas(), "12:00:00");
+    EXPECT_EQ(simulace.tick_jizdy, svet.tik - 150);
+}
+
+TEST_F(Hodiny, TwinShowsTheSameTimeWithTwoMonitors) {
+    simulace.dva_monitory = true;
+    relief.lblcas.zaloz(1);
+    krok(1000);
+    EXPECT_EQ(relief.lblcas[1].text(), "12:00:01");
+}
+
+TEST_F(Hodiny, MinuteStepComesWhenTheMinuteChanges) {
+    nastav("12:00:58");
+    krok(1000);
+    EXPECT_EQ(simulace.minuty_simulace, 0);
+    krok(1000);
+    EXPECT_EQ(simulace.minuty_simulace, 1);
+    EXPECT_EQ(relief.lblcas_od_zacatku[0].text(), "1");
+}
+
+TEST_F(Hodiny, MidnightShowsTheNextDayAndNoDate) {
+    relief.lblDEN[0].text = TextPohled("pondělí"_cz);
+    simulace.den = 1;
+    nastav("23:59:59");
+    krok(1000);
+    EXPECT_EQ(cas(), "0:00:00");
+    EXPECT_EQ(simulace.den, 2);
+    EXPECT_EQ(relief.lblDEN[0].text(), "úterý"_cz);
+}
+
+TEST_F(Hodiny, WeekGoesRound) {
+    const std::array<TextPohled, 7> dny = {"úterý"_cz,  "středa"_cz, "čtvrtek"_cz, "pátek"_cz,
+                                           "sobota"_cz, "neděle"_cz, "pondělí"_cz};
+    simulace.den = 1;
+    for (int i = 0; i < 7; ++i) {
+        nastav("0:00:00");
+        krok_minuty();
+        EXPECT_EQ(simulace.den, 1 << ((i + 1) % 7));
+        EXPECT_EQ(relief.lblDEN[0].text(), dny[static_cast<std::size_t>(i)]);
+    }
+}
+
+TEST_F(Hodiny, StallThatSkipsMidnightChangesNoDay) {
+    simulace.den = 1;
+    nastav("23:59:00");
+    krok(120'000);
+    EXPECT_EQ(cas(), "0:01:00");
+    EXPECT_EQ(simulace.den, 1);
+}
+
+TEST_F(Hodiny, TooManyPlayedMinutesAreAnErrorAndDoNotWrap) {
+    simulace.minuty_simulace = 32767;
+    try {
+        krok_minuty();
+        FAIL();
+    } catch (const BehovaChyba& chyba) {
+        EXPECT_EQ(chyba.kod, KodChyby::preteceni);
+    }
+}
+
+TEST_F(Hodiny, PeriodicSaveComesAtMultiplesOfThePlayedMinutes) {
+    simulace.autosave = true;
+    simulace.autosave_minut = 7;
+    for (int minuta = 1; minuta <= 30; ++minuta) {
+        simulace.minuty_simulace = static_cast<std::int16_t>(minuta);
+        EXPECT_EQ(je_cas_ulozit(), minuta % 7 == 0) << minuta;
+    }
+    simulace.minuty_simulace = 14;
+    simulace.autosave = false;
+    EXPECT_FALSE(je_cas_ulozit());
+}
+
+TEST_F(Hodiny, PeriodOfNoMinutesNeverSaves) {
+    simulace.autosave = true;
+    simulace.autosave_minut = 0;
+    EXPECT_FALSE(je_cas_ulozit());
+}
+
+TEST_F(Hodiny, PeriodicSaveIsNamedByWallClockAndSimulatedTime) {
+    svet.cas = {2026, 3, 7, 9, 5, 2, 0};
+    nastav("6:04:30");
+    simulace.cesta_aplikace = "C:\\TESK\\";
+    EXPECT_EQ(soubor_autosave(), "C:\\TESK\\save\\autosave\\autosave_260307_090502_060430.sim");
+}
+
+TEST_F(Hodiny, SignalOnWhichThePointerRestsComesToThePanel) {
+    relief.navestidlo.zaloz(262).popis = TextPohled("BOR S262");
+    najeti(Druh::navestidlo, 262);
+    krok(1300);
+    EXPECT_EQ(simulace.detail_navestidlo, -3);
+    krok(100);
+    EXPECT_EQ(simulace.detail_navestidlo, 262);
+}
+
+TEST_F(Hodiny, PointerThatMovesShowsNothing) {
+    relief.navestidlo.zaloz(262);
+    najeti(Druh::navestidlo, 262);
+    for (int i = 0; i < 10; ++i) {
+        krok(1000);
+        pohyb_mysi();
+    }
+    EXPECT_EQ(simulace.detail_navestidlo, -3);
+}
+
+TEST_F(Hodiny, RestOfThePointerIsCountedAnewAtMidnightOfTheWallClock) {
+    relief.navestidlo.zaloz(262);
+    svet.cas = {2026, 1, 5, 23, 59, 59, 900};
+    najeti(Druh::navestidlo, 262);
+    krok(1000); // 0:00:00.9
+    EXPECT_EQ(simulace.detail_navestidlo, -3);
+    krok(500);
+    EXPECT_EQ(simulace.detail_navestidlo, 262);
+}
+
+TEST_F(Hodiny, TimersRunClockFirstAndBlinkingLast) {
+    ASSERT_GE(casovace.size(), 2u);
+    EXPECT_EQ(casovace.front().jmeno, "tmrHodiny");
+    EXPECT_EQ(casovace.front().perioda_ms, 150);
+    EXPECT_EQ(casovace.back().jmeno, "tmrBlikani");
+    EXPECT_EQ(casovace.back().perioda_ms, 500);
+}
+
+} // namespace

@@ -1,0 +1,161 @@
+// testy/prvky/prejezdy_stanice_test.cpp - the operator's commands on the station crossings.
+#include "app/blikani.h"
+#include "app/cas.h"
+#include "desk/menu.h"
+#include "pomocne/virtualni_platforma.h"
+#include "prvky/prejezdy_stanice.h"
+
+#include <algorithm>
+
+namespace {
+
+struct PrejezdStanice : testing::Test {
+    VirtualniPlatforma p;
+    PrejezdStanice() {
+        relief.lblPrejezd.zaloz(0).barva = barvy::seda;
+        relief.lblPrejezd.zaloz(1).barva = barvy::seda;
+        relief.lblcas[0].text = "12:00:00";
+        simulace.pauza = false;
+    }
+    static const PolozkaMenu& polozka(TextPohled jmeno) {
+        const auto p = std::find_if(menu.polozky.begin(), menu.polozky.end(),
+                                    [&](const PolozkaMenu& x) { return x.jmeno == jmeno; });
+        if (p == menu.polozky.end())
+            throw std::runtime_error(std::string(jmeno));
+        return *p;
+    }
+    static Text pruh(std::initializer_list<int> glyfy) {
+        Text text;
+        for (const int g : glyfy)
+            text += znak(g);
+        return text;
+    }
+};
+
+const Text kZavreno = znak(16) + Text(8, '\x0D') + znak(16);
+
+} // namespace
+
+TEST_F(PrejezdStanice, OperatorsClosureStartsInHalfAMinute) {
+    prejezd_uz(0);
+    EXPECT_TRUE(stanicni_prejezdy[0].UZ);
+    EXPECT_EQ(stanicni_prejezdy[0].cas, ted_s() + 30);
+    EXPECT_FALSE(stanicni_prejezdy[0].uzavren);
+    EXPECT_EQ(relief.lblPrejezd[0].barva(), barvy::bila);
+    EXPECT_EQ(stanicni_prejezdy[1], StanicniPrejezd{});
+}
+
+TEST_F(PrejezdStanice, ClosureOfACrossingThatATrainHasClosedSetsNoTime) {
+    stanicni_prejezdy[1].uzavren = true;
+    prejezd_uz(1);
+    EXPECT_TRUE(stanicni_prejezdy[1].UZ);
+    EXPECT_EQ(stanicni_prejezdy[1].cas, -3);
+    EXPECT_EQ(relief.lblPrejezd[1].barva(), barvy::bila);
+}
+
+TEST_F(PrejezdStanice, ClosureTimeIsReachedByTheBlinkStepOnlyWhenItHasPassed) {
+    prejezd_uz(0);
+    relief.lblcas[0].text = "12:00:30";
+    krok_blikani();
+    EXPECT_FALSE(stanicni_prejezdy[0].uzavren);
+    relief.lblcas[0].text = "12:00:31";
+    krok_blikani();
+    EXPECT_TRUE(stanicni_prejezdy[0].uzavren);
+    EXPECT_EQ(stanicni_prejezdy[0].cas, -3);
+    EXPECT_EQ(relief.lblPrejezd[0].text(), kZavreno);
+    EXPECT_FALSE(relief.lblPrejezd[0].ramecek());
+}
+
+TEST_F(PrejezdStanice, LampsWinkUntilTheBarriersAreDownAndStandStillWhenOpen) {
+    krok_blikani();
+    EXPECT_EQ(relief.lblPrejezd[0].text(), pruh({13, 16, 13, 16, 13, 16, 13, 16, 13, 16}));
+    EXPECT_TRUE(relief.lblPrejezd[0].ramecek());
+    prejezd_uz(0);
+    krok_blikani();
+    const Text prvni = relief.lblPrejezd[0].text;
+    krok_blikani();
+    const Text druhy = relief.lblPrejezd[0].text;
+    krok_blikani();
+    EXPECT_NE(prvni, druhy);
+    EXPECT_EQ(relief.lblPrejezd[0].text(), prvni);
+}
+
+TEST_F(PrejezdStanice, EmergencyOpeningClearsEverythingAlsoACounterThatATrainLeftBehind) {
+    for (const int pocet : {127, 128, 129, 255, 0}) {
+        stanicni_prejezdy[0] = {true, true, 5, 6, 4711, static_cast<std::uint8_t>(pocet)};
+        prejezd_not(0);
+        const StanicniPrejezd cekany{false, false, 5, 6, -3, 128};
+        EXPECT_EQ(stanicni_prejezdy[0], cekany) << pocet;
+        EXPECT_EQ(relief.lblPrejezd[0].barva(), barvy::seda);
+        EXPECT_TRUE(prejezd_v_klidu(0));
+    }
+}
+
+TEST_F(PrejezdStanice, IsIdleOnlyWithoutTrainsClosingTimeAndOperatorsClosure) {
+    EXPECT_TRUE(prejezd_v_klidu(0));
+    stanicni_prejezdy[0].cas = 0;
+    EXPECT_FALSE(prejezd_v_klidu(0));
+    stanicni_prejezdy[0] = {};
+    stanicni_prejezdy[0].pocet = 127; // a lost train counts as a train
+    EXPECT_FALSE(prejezd_v_klidu(0));
+    stanicni_prejezdy[0] = {};
+    stanicni_prejezdy[0].UZ = true;
+    EXPECT_FALSE(prejezd_v_klidu(0));
+    EXPECT_FALSE(prejezd_v_klidu(2));
+    EXPECT_FALSE(prejezd_v_klidu(-3));
+}
+
+TEST_F(PrejezdStanice, MenuNamesTheCrossingByItsKilometre) {
+    menu_prejezdu(0);
+    EXPECT_EQ(menu.hlava, "140,310");
+    EXPECT_EQ(menu.prvek, 0);
+    EXPECT_EQ(menu.druh, Druh::lblPrejezd);
+    menu_prejezdu(1);
+    EXPECT_EQ(menu.hlava, "5,910");
+}
+
+TEST_F(PrejezdStanice, MenuOffersTheEmergencyOpeningOrTheEndOfTheClosure) {
+    menu_prejezdu(0);
+    EXPECT_TRUE(polozka("miNOT").viditelna);
+    EXPECT_FALSE(polozka("miZUZ").viditelna);
+    polozka("miUZ").akce(polozka("miUZ").cil);
+    menu_prejezdu(0);
+    EXPECT_FALSE(polozka("miNOT").viditelna);
+    EXPECT_TRUE(polozka("miZUZ").viditelna);
+    EXPECT_EQ(polozka("miZUZ").text, "ZUZ");
+    polozka("miZUZ").akce(polozka("miZUZ").cil);
+    EXPECT_EQ(stanicni_prejezdy[0], StanicniPrejezd{});
+    EXPECT_EQ(polozka("miSTIT").akce, nullptr);
+    EXPECT_EQ(polozka("miDK").akce, nullptr);
+}
+
+TEST_F(PrejezdStanice, MenuShowsTheCounterToTheDeveloperOnly) {
+    stanicni_prejezdy[1].pocet = 130;
+    stanicni_prejezdy[1].uzavren = true;
+    menu_prejezdu(1);
+    EXPECT_FALSE(menu.polozky.front().viditelna);
+    simulace.polozky_ladeni = true;
+    menu_prejezdu(1);
+    EXPECT_TRUE(menu.polozky.front().viditelna);
+    EXPECT_EQ(menu.polozky.front().text, "130 -1");
+}
+
+TEST_F(PrejezdStanice, AnIndexThatIsNoCrossingDoesNothing) {
+    for (const int k : {-3, -1, 2, 128}) {
+        prejezd_uz(k);
+        prejezd_not(k);
+        menu_prejezdu(k);
+    }
+    EXPECT_EQ(stanicni_prejezdy[0], StanicniPrejezd{});
+    EXPECT_EQ(stanicni_prejezdy[1], StanicniPrejezd{});
+    EXPECT_TRUE(menu.jmeno.empty());
+}
+
+TEST_F(PrejezdStanice, CommandsWorkWithoutTheLabelOnTheRelief) {
+    relief = novy_relief();
+    relief.lblcas[0].text = "12:00:00";
+    prejezd_uz(1);
+    EXPECT_EQ(stanicni_prejezdy[1].cas, ted_s() + 30);
+    prejezd_not(1);
+    EXPECT_EQ(stanicni_prejezdy[1], StanicniPrejezd{});
+}
