@@ -6,6 +6,8 @@
 #include "cesty/vyber.h"
 #include "desk/menu.h"
 #include "desk/zprava.h"
+#include "prvky/prejezdy_stanice.h"
+#include "prvky/souhlasy.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
 
@@ -89,7 +91,11 @@ bool odpovez_na_radek() {
         spust_hodiny();
         potvrd_prikaz();
     } else if (prikaz_radek.obsazen) {
-        potvrd_prikaz();
+        const int otazka = prikaz_radek.kod_zpravy;
+        if (otazka >= 1 && otazka <= 3) // a neighbour asks to send a train
+            souhlas_us(otazka - 1);
+        if (prikaz_radek.kod_zpravy == otazka) // else the answer has cleared the line itself
+            potvrd_prikaz();
     } else {
         return false;
     }
@@ -169,20 +175,21 @@ bool pismeno(const Klavesa&) {
     return false;
 }
 
-// Parts of the desk that do the same whatever the button; false when the kind is none of them.
-bool klik_na_desku(Druh druh) {
+// Left click on a key of the desk.
+void klik_na_desku(Druh druh) {
     switch (druh) {
     case Druh::lblPrikaz:
-    case Druh::lblVolba: enter(); return true;
-    case Druh::imgSound: prepni_zvuk(); return true;
-    case Druh::imgPauza: prepni_pauzu(); return true;
-    case Druh::imgMinimalizuj: minimalizuj_okno(); return true;
-    case Druh::imgKONEC: konec_programu(true); return true;
-    case Druh::cmdZpravy: prepni_panel(Panel::zpravy); return true;
-    case Druh::cmDenik: prepni_panel(Panel::denik); return true;
-    case Druh::cmdTABULKA: prepni_panel(Panel::tabulka); return true;
-    case Druh::cmdVLAK: prepni_panel(Panel::vlak); return true;
-    default: return false;
+    case Druh::lblVolba: enter(); break;
+    case Druh::imgSound: prepni_zvuk(); break;
+    case Druh::imgPauza: prepni_pauzu(); break;
+    case Druh::imgMinimalizuj: minimalizuj_okno(); break;
+    case Druh::imgKONEC: konec_programu(true); break;
+    case Druh::cmdZpravy: prepni_panel(Panel::zpravy); break;
+    case Druh::cmDenik: prepni_panel(Panel::denik); break;
+    case Druh::cmdTABULKA: prepni_panel(Panel::tabulka); break;
+    case Druh::cmdVLAK: prepni_panel(Panel::vlak); break;
+    case Druh::lblrychlost_simulace: zrychli(); break;
+    default: break;
     }
 }
 
@@ -230,11 +237,21 @@ void klik(Druh druh, int n, Tlacitko tlacitko, bool) {
     if (!tabulka(druh).je(n))
         return;
     zavri_menu();
-    if (druh == Druh::lblrychlost_simulace && tlacitko == Tlacitko::leve)
-        zrychli();
-    else if (druh == Druh::lblrychlost_simulace && tlacitko == Tlacitko::prave)
-        zpomal();
-    else if (tlacitko == Tlacitko::leve)
+    switch (druh) {
+    case Druh::lblSouhlas: klik_souhlas(n, tlacitko); return;
+    case Druh::lblPrejezd:
+        if (tlacitko == Tlacitko::prave)
+            menu_prejezdu(n);
+        return;
+    case Druh::lblrychlost_simulace:
+        if (tlacitko == Tlacitko::prave) {
+            zpomal();
+            return;
+        }
+        break;
+    default: break;
+    }
+    if (tlacitko == Tlacitko::leve)
         klik_na_desku(druh);
 }
 
@@ -307,7 +324,10 @@ bool klavesa(const Klavesa& k) {
         return true;
     case KodKlavesy::num_plus: zrychli(); return true;
     case KodKlavesy::num_minus: zpomal(); return true;
-    case KodKlavesy::print_screen: return true;
+    case KodKlavesy::print_screen:
+        pipni_klavesou();
+        zastav_hodiny();
+        return true;
     case KodKlavesy::sipka_vlevo:
     case KodKlavesy::sipka_vpravo:
     case KodKlavesy::sipka_nahoru:

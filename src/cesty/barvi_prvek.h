@@ -16,6 +16,7 @@ void obnov_lampu_souhlasu(int n);
 
 // --- at any time, without change
 
-// Flank check of two consecutive switches of a route: False when the switch at the fourth corner of
-// their rectangle is locked or moves.
+// Flank check of two consecutive switches of a route: the switch at the fourth corner of their rectangle
+// when it is locked or moves; -3 when there is no such switch.
+int bocni_vyhybka(int a, int b);
 bool sousedni_volne(int a, int b);

@@ -52,6 +52,9 @@ struct Cesta {
 inline std::size_t posledni_index(const Cesta& c) {
     return c.prvky.empty() ? 0 : c.prvky.size() - 1;
 }
+inline int prvni_prvek(const Cesta& c) {
+    return c.prvky.empty() ? -3 : c.prvky.front();
+}
 inline int posledni_prvek(const Cesta& c) {
     return c.prvky.empty() ? -3 : c.prvky.back();
 }

@@ -56,11 +56,11 @@ bool cil_volny(int n) {
 }
 
 bool je_nastaveno_z(int n) {
-    return nektera([n](const Cesta& c) { return c.prvky.front() == n && c.Postavena && nevjel(c); });
+    return nektera([n](const Cesta& c) { return prvni_prvek(c) == n && c.Postavena && nevjel(c); });
 }
 
 bool je_nastaveno_posun_z(int n) {
-    return nektera([n](const Cesta& c) { return c.prvky.front() == n && !c.VC && c.Postavena && nevjel(c); });
+    return nektera([n](const Cesta& c) { return prvni_prvek(c) == n && !c.VC && c.Postavena && nevjel(c); });
 }
 
 bool je_posun_do(int n) {
@@ -98,14 +98,23 @@ Text jmeno_navestidla(int s) {
     return druh.je(s) ? druh[s].popis() : Text{};
 }
 
+Text jmeno_cile(int e) {
+    return relief.Image1.je(e) ? relief.Image1[e].stav() : Text{};
+}
+
+Text jmeno_konce(int e) {
+    Text nazev = jmeno_cile(e);
+    if (nazev.empty() && relief.cislo_koleje.je(e))
+        nazev = relief.cislo_koleje[e].popis;
+    return nazev;
+}
+
 Text popis_cesty(const Cesta& c) {
     Text popis(!c.VC ? "PC" : c.PN ? "PN" : "VC");
-    popis += " " + jmeno_navestidla(c.zacatek) + " ";
-    if (relief.Image1.je(c.konec) && !relief.Image1[c.konec].stav->empty())
-        return popis + relief.Image1[c.konec].stav();
-    if (relief.cislo_koleje.je(c.konec))
-        popis += relief.cislo_koleje[c.konec].popis();
-    return popis + " " + text_cisla(delka_koleje(c.konec)) + "m";
+    popis += " " + jmeno_navestidla(c.zacatek) + " " + jmeno_konce(c.konec);
+    if (jmeno_cile(c.konec).empty())
+        popis += " " + text_cisla(delka_koleje(c.konec)) + "m";
+    return popis;
 }
 
 Text popis_cesty(int i) {

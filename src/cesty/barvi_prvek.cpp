@@ -1,0 +1,159 @@
+// cesty/barvi_prvek.cpp - the painter of track elements, with all their exceptions.
+#include "cesty/barvi_prvek.h"
+
+#include "cesty/dotazy.h"
+#include "prvky/souhlasy.h"
+#include "prvky/vyhybky.h"
+#include "relief/prejezdy.h"
+#include "relief/relief.h"
+#include "save/gtn.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdlib>
+
+namespace {
+
+// Tracks of the line ends and the single track 118: routes only lock them by their lamps and arrows.
+constexpr bool je_hranicni(int n) {
+    return n == 118 || n == 84 || n == 85 || n == 117 || n == 212 || n == 213 || n == 219;
+}
+
+// 638 is a track of Rybnice as well as a section of its line.
+constexpr bool je_tratovy(int n) {
+    return (n >= 600 && n != 638) || je_hranicni(n);
+}
+
+// Tracks drawn in more than one picture: the first one's colour holds for all.
+struct Zrcadlo {
+    int vzor;
+    std::array<int, 3> kopie; // -3 none
+};
+constexpr std::array<Zrcadlo, 12> kZrcadla = {{{686, {687, -3, -3}},
+                                               {738, {739, -3, -3}},
+                                               {76, {289, -3, -3}},
+                                               {77, {290, -3, -3}},
+                                               {118, {306, -3, -3}},
+                                               {576, {498, 590, -3}},
+                                               {97, {426, 225, 226}},
+                                               {18, {190, 189, -3}},
+                                               {114, {325, 585, -3}},
+                                               {113, {437, 584, -3}},
+                                               {115, {336, 320, -3}},
+                                               {116, {335, 554, -3}}}};
+
+void obnov_sipku_useku(int n, Barva barva) {
+    if ((n == 120 || n == 123 || n == 118) && relief.lblSouhlas2.je(n))
+        relief.lblSouhlas2[n].barva = barva == barvy::seda ? barvy::seda : barvy::azurova;
+}
+
+void opust_prejezd(std::size_t k) {
+    if (k < prejezdy.size())
+        prejezdy[k].zona = false;
+}
+
+// The end of the route lies on a track whose label stands there for train numbers only.
+bool jen_cislo(int n) {
+    return n <= 500 && n != 116 && je_cislo_koleje(n) && orez(relief.cislo_koleje[n].popis()).empty();
+}
+
+void obarvi_stitek(int n, Barva barva) {
+    if (je_cislo_koleje(n) && relief.cislo_koleje[n].pozadi != barvy::cervena)
+        relief.cislo_koleje[n].barva = barva;
+}
+
+void obarvi_stitky(int n, Barva barva) {
+    const bool stanicni = n < 200 || (n >= 401 && n <= 599) || n == 638;
+    if (!stanicni || je_hranicni(n) || n == 120 || n == 123)
+        return;
+    obarvi_stitek(n, barva);
+    // 212, 213 and 219 are labels of the line ends and no second labels of 12, 13 and 19.
+    if (n < 200 && n != 12 && n != 13 && n != 19)
+        obarvi_stitek(n + 200, barva);
+}
+
+void obarvi_zrcadla(int n) {
+    const auto zrcadlo =
+        std::find_if(kZrcadla.begin(), kZrcadla.end(), [n](const Zrcadlo& z) { return z.vzor == n; });
+    if (zrcadlo == kZrcadla.end())
+        return;
+    for (const int kopie : zrcadlo->kopie)
+        if (je_kolej(kopie))
+            relief.kolej[kopie].barva = relief.kolej[n].barva;
+}
+
+// n stands at the fourth corner of the rectangle of a and b.
+bool je_v_rohu(const Prvek& n, const Prvek& a, const Prvek& b) {
+    return (n.vlevo == b.vlevo() && n.nahore == a.nahore()) ||
+           (n.vlevo == a.vlevo() && n.nahore == b.nahore());
+}
+
+} // namespace
+
+void barvi_prvek(int n, Barva barva, bool uvolni, bool posledni) {
+    if (uvolni && je_hranicni(n))
+        barva = barvy::seda; // nothing would paint a line end grey later
+    obnov_sipku_useku(n, barva);
+    if (barva == barvy::seda && n == 602)
+        opust_prejezd(9);
+    if (barva == barvy::seda && n == 600)
+        opust_prejezd(10);
+    if (posledni && jen_cislo(n))
+        relief.cislo_koleje[n].barva = barvy::bila;
+    else
+        posledni = false;
+    const bool zavernou = barva == barvy::zelena || barva == barvy::azurova;
+    if (!posledni && !(zavernou && je_tratovy(n))) {
+        relief.kolej[n].barva = barva;
+        gtn_zapis(n, gtn::barva_koleje, barva);
+        odjete.set(static_cast<std::size_t>(n), uvolni && barva == barvy::azurova);
+    }
+    if (!posledni)
+        obarvi_stitky(n, barva);
+    obarvi_zrcadla(n);
+    obnov_lampu_souhlasu(n);
+}
+
+void obnov_lampu_souhlasu(int n) {
+    const int k = konec_trati(n);
+    if (k < 0)
+        return;
+    const KonecTrati& konec = kKonceTrati[static_cast<std::size_t>(k)];
+    for (const int usek : {konec.usek, konec.navestidlo})
+        if (je_kolej(usek) && relief.kolej[usek].barva != barvy::seda)
+            return;
+    const bool souhlas = souhlasy.souhlas[static_cast<std::size_t>(k)];
+    if (relief.lblPredvidany_odjezd.je(k)) {
+        relief.lblPredvidany_odjezd[k].viditelny = false;
+        if (!souhlas)
+            nastav_text(relief.lblPredvidany_odjezd[k], {});
+    }
+    for (const int stitek : {konec.usek, konec.navestidlo})
+        if (je_cislo_koleje(stitek))
+            nastav_text(relief.cislo_koleje[stitek], {});
+    if (!relief.lblSouhlas.je(k))
+        return;
+    // With a consent given the lamp stays and points inwards: the train is on its way.
+    if (souhlas)
+        nastav_text(relief.lblSouhlas[k], znak(konec.znak_dovnitr));
+    else
+        relief.lblSouhlas[k].barva = barvy::seda;
+}
+
+int bocni_vyhybka(int a, int b) {
+    if (a == 53 || a == 54 || a == 55)
+        return kZadny; // these three need no flank protection
+    const Prvek& prvni = relief.imgVyhybka[a];
+    const Prvek& druha = relief.imgVyhybka[b];
+    if (std::abs(prvni.nahore() - druha.nahore()) != kVyskaZnaku)
+        return kZadny;
+    for (int n = std::max(a - 3, 0); n <= a + 3; ++n)
+        if (relief.imgVyhybka.je(n) && je_v_rohu(relief.imgVyhybka[n], prvni, druha) &&
+            (stav_vyhybky_cislo(n) > 50 || vyhybka_v_pohybu(n)))
+            return n;
+    return kZadny;
+}
+
+bool sousedni_volne(int a, int b) {
+    return bocni_vyhybka(a, b) == kZadny;
+}

@@ -1,0 +1,158 @@
+// cesty/duvod.cpp - "why not?"
+#include "cesty/duvod.h"
+
+#include "app/cas.h"
+#include "cesty/dotazy.h"
+#include "cesty/prekazky.h"
+#include "cesty/smer_trati.h"
+#include "cesty/tabulky.h"
+#include "cesty/zasobnik.h"
+#include "prvky/prejezdy_stanice.h"
+#include "prvky/souhlasy.h"
+#include "prvky/vyhybky.h"
+#include "zaklad/cisla.h"
+
+#include <algorithm>
+
+namespace {
+
+// Route other than `ceka` that has commanded the element; nullptr when none has.
+const Cesta* drzitel(const Cesta& ceka, std::uint8_t druh, int n) {
+    for (const Cesta& c : cesty) {
+        if (&c == &ceka || !c.prehozena)
+            continue;
+        for (std::size_t k = 1; k < c.prvky.size(); ++k)
+            if (c.prvky[k] == n && druh_na(c, k) == druh)
+                return &c;
+    }
+    return nullptr;
+}
+
+Text jmeno_vyhybky(int n) {
+    const ZaznamVazeb* zaznam = najdi_vazby(n);
+    return zaznam != nullptr && !zaznam->nazev.empty() ? zaznam->nazev : text_cisla(n);
+}
+
+Text jmeno_useku(int n) {
+    const Text nazev = jmeno_konce(n);
+    return orez(nazev).empty() ? text_cisla(n) : Text(orez(nazev));
+}
+
+Text sekundy(std::int32_t s) {
+    return text_cisla(s) + " s";
+}
+
+Text duvod_vyhybky(const Cesta& c, int n) {
+    const Text vyhybka = Text("výhybka "_cz) + jmeno_vyhybky(n);
+    if (stav_vyhybky_cislo(n) / 50 * 50 == stav_vyhybky::obsazena)
+        return vyhybka + Text(" je obsazena"_cz);
+    if (const Cesta* drzi = drzitel(c, druh_prvku::vyhybka, n))
+        return vyhybka + Text(" je pod závěrem cesty "_cz) + popis_cesty(*drzi);
+    return vyhybka + Text(" je pod závěrem"_cz);
+}
+
+Text duvod_useku(const Cesta& c, int n) {
+    const Text usek = Text("úsek "_cz) + jmeno_useku(n);
+    if (relief.kolej[n].barva == barvy::cervena)
+        return usek + Text(" je obsazen"_cz);
+    if (const Cesta* drzi = drzitel(c, druh_prvku::kolej, n))
+        return usek + Text(" je pod závěrem cesty "_cz) + popis_cesty(*drzi);
+    return usek + Text(" není volný"_cz);
+}
+
+Text duvod_konce(const Cesta& c, TextPohled veta, bool jen_vlakove) {
+    const auto drzi = std::find_if(cesty.begin(), cesty.end(), [&](const Cesta& jina) {
+        return &jina != &c && posledni_prvek(jina) == posledni_prvek(c) &&
+               (jina.prehozena || jina.Postavena) && (!jen_vlakove || jina.VC);
+    });
+    return Text(veta) + (drzi == cesty.end() ? jmeno_useku(c.konec) : popis_cesty(*drzi));
+}
+
+Text veta_prekazky(const Cesta& c, const Prekazka& p) {
+    switch (p.druh) {
+    case DruhPrekazky::zadna: return {};
+    case DruhPrekazky::navestidlo:
+        return Text("návěstidlo "_cz) + jmeno_navestidla(p.prvek) + Text(" je zablokováno (ZAM)"_cz);
+    case DruhPrekazky::vyhybka: return duvod_vyhybky(c, p.prvek);
+    case DruhPrekazky::pohyb_vyhybky:
+        return Text("výhybka "_cz) + jmeno_vyhybky(p.prvek) + Text(" se přestavuje"_cz);
+    case DruhPrekazky::bocni_vyhybka:
+        return Text("výhybka "_cz) + jmeno_vyhybky(p.prvek) + Text(" nedává boční ochranu"_cz);
+    case DruhPrekazky::usek: return duvod_useku(c, p.prvek);
+    case DruhPrekazky::konec: return duvod_konce(c, "konec cesty drží "_cz, false);
+    case DruhPrekazky::vlakova_cesta: return duvod_konce(c, "na konec cesty vede "_cz, true);
+    case DruhPrekazky::opacny_smer:
+        return Text("na trati do "_cz) + jmeno_useku(c.konec) + Text(" je opačný směr"_cz);
+    case DruhPrekazky::souhlas:
+        return Text("souhlas "_cz) + Text(kKonceTrati[static_cast<std::size_t>(p.prvek)].nazev) +
+               Text(" není volný"_cz);
+    case DruhPrekazky::kolej_118:
+        return Text("směr na koleji "_cz) + jmeno_useku(118) + Text(" je zavřen"_cz);
+    }
+    return {};
+}
+
+// With VZ in force the first route before this one that is blocked holds it back.
+const Cesta* zdrzujici(int i, std::int32_t ted) {
+    if (!plati_vz())
+        return nullptr;
+    for (int j = 0; j < i; ++j) {
+        const Cesta& c = cesty[static_cast<std::size_t>(j)];
+        if (c.Vlak == kKopieAB)
+            continue;
+        const FazeCesty faze = faze_cesty(c, ted);
+        if ((faze == FazeCesty::staveni && prekazka_staveni(c)) ||
+            (faze == FazeCesty::zaver && ted > c.Kdy_prehoz && zbyva_prejezdu(c, ted) > 0))
+            return &c;
+    }
+    return nullptr;
+}
+
+Text duvod_staveni(int i, const Cesta& c, std::int32_t ted) {
+    if (const Cesta* pred = zdrzujici(i, ted))
+        return Text("před ní čeká cesta "_cz) + popis_cesty(*pred) + Text(" (VZ)"_cz);
+    return veta_prekazky(c, prekazka_staveni(c));
+}
+
+Text duvod_zaveru(const Cesta& c, std::int32_t ted) {
+    if (ted <= c.Kdy_prehoz)
+        return Text("přestavují se výhybky, závěr za "_cz) + sekundy(c.Kdy_prehoz - ted + 1);
+    if (const std::int32_t zbyva = zbyva_prejezdu(c, ted); zbyva > 0)
+        return Text("čeká na dobu uzavírání přejezdu "_cz) + Text(kNazvyPrejezdu[c.prejezd]) +
+               Text(", zbývá "_cz) + sekundy(zbyva);
+    return {};
+}
+
+Text duvod_klidu(const Cesta& c, std::int32_t ted) {
+    if (c.Provedena && c.PN && c.PN_do < ted && c.Umazat == 0)
+        return Text("přivolávací návěst skončila, závěr uvolní RNZ"_cz);
+    if (c.Provedena)
+        return c.Postavena || c.Umazat != 0 ? Text{} : Text("návěstidlo je na STŮJ, návěst obnoví DN"_cz);
+    if (c.varovani != 0)
+        return Text("čeká na potvrzení výstrahy"_cz);
+    if (c.cas_stavby > ted)
+        return Text("čeká na dobu stavění, zbývá "_cz) + sekundy(c.cas_stavby - ted);
+    return {};
+}
+
+} // namespace
+
+Text duvod_cekani(int i) {
+    if (i < 0 || static_cast<std::size_t>(i) >= cesty.size())
+        return {};
+    const Cesta& c = cesty[static_cast<std::size_t>(i)];
+    if (c.zacatek < 0)
+        return {};
+    const std::int32_t ted = ted_s();
+    switch (faze_cesty(c, ted)) {
+    case FazeCesty::zruseni:
+    case FazeCesty::odpocet_ruseni:
+        return Text("ruší se, závěr se uvolní za "_cz) + sekundy(std::max(c.cas_ruseni - ted, 0));
+    case FazeCesty::staveni: return duvod_staveni(i, c, ted);
+    case FazeCesty::zaver: return duvod_zaveru(c, ted);
+    case FazeCesty::klid: return duvod_klidu(c, ted);
+    case FazeCesty::privolavaci:
+    case FazeCesty::konec_privolavaci: return {};
+    }
+    return {};
+}

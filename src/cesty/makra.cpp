@@ -1,0 +1,145 @@
+// cesty/makra.cpp - macros.
+#include "cesty/makra.h"
+
+#include "app/simulace.h"
+#include "cesty/dotazy.h"
+#include "cesty/tabulky.h"
+#include "cesty/volba.h"
+#include "cesty/zvyrazneni.h"
+#include "desk/zprava.h"
+#include "zaklad/soubory.h"
+
+#include <algorithm>
+
+namespace {
+
+Text soubor_maker() {
+    return simulace.cesta_aplikace + "data\\tesk.mak";
+}
+
+bool ma_pismeno(const ZaznamMakra& makro, char pismeno) {
+    const TextPohled text = orez(makro.pismeno);
+    return !text.empty() && text.front() == pismeno;
+}
+
+// Steps of a record; in a damaged one the shortest list counts.
+std::size_t pocet_kroku(const ZaznamMakra& makro) {
+    return std::min({makro.druhy.size(), makro.zacatky.size(), makro.konce.size()});
+}
+
+void odznac_kroky() {
+    for (std::size_t i = 0; i < vyber.makro_zacatky.size(); ++i) {
+        if (vyber.makro_zacatky[i] < 0)
+            continue;
+        odznac_navestidlo(vyber.makro_zacatky[i]);
+        odznac_konec(vyber.makro_konce[i]);
+    }
+}
+
+void ukonci_zaznam() {
+    vyber.makro_zaznam = false;
+    nastav_text(relief.lblMakro_pismeno[0], {});
+}
+
+void vyber_krok(int zacatek, int konec, int druh) {
+    if (zacatek < 0 || (druh != druh_volby::vlak && druh != druh_volby::posun))
+        return;
+    const bool vlak = druh == druh_volby::vlak;
+    vyber.volba_zacatek = static_cast<std::int16_t>(zacatek);
+    vyber.volba_navestidlo = static_cast<std::int16_t>(zacatek);
+    const TabulkaPrvku& navest = navestidla(zacatek);
+    vyber.volba_svetla = navest.je(zacatek) && navest[zacatek].barva == (vlak ? barvy::zelena : barvy::bila);
+    zvyrazni_navestidlo(zacatek, vlak ? barvy::zelena : barvy::bila);
+    vyber.volba_konec = static_cast<std::int16_t>(konec);
+    vyber.volba_druh = static_cast<std::uint8_t>(druh);
+    vyber.volba_cas = -3;
+    najdi_cestu(zacatek, konec, druh, false);
+}
+
+} // namespace
+
+bool makro_se_zaznamenava() {
+    return !orez(relief.lblMakro_pismeno[0].text()).empty();
+}
+
+void zacni_makro(char pismeno) {
+    vyber.makro_zaznam = true;
+    vyber.makro_zacatky = {-3};
+    vyber.makro_konce = {-3};
+    vyber.makro_druhy = {0};
+    nastav_text(relief.lblMakro_pismeno[0], " " + Text(1, pismeno) + " ");
+    pipni(800, 10);
+}
+
+void krok_makra(int zacatek, int konec, int druh) {
+    if (druh != druh_volby::vlak && druh != druh_volby::posun)
+        return;
+    // The prompt turns orange; another message on the line stays as it is.
+    const TextPohled slovo = druh == druh_volby::vlak ? " VC "_cz : " PC "_cz;
+    if (prikaz_radek.obsazen && relief.lblPrikaz[0].text() == slovo)
+        zobraz_prikaz(slovo, Text(relief.lblVolba[0].text), barvy::oranzova, relief.lblPrikaz[0].pozadi);
+    if (vyber.makro_zacatky.front() >= 0) {
+        vyber.makro_zacatky.emplace_back();
+        vyber.makro_konce.emplace_back();
+        vyber.makro_druhy.emplace_back();
+    }
+    vyber.makro_zacatky.back() = static_cast<std::int16_t>(zacatek);
+    vyber.makro_konce.back() = static_cast<std::int16_t>(konec);
+    vyber.makro_druhy.back() = static_cast<std::uint8_t>(druh);
+    vyber.volba_navestidlo = -3; // the highlight of the start stays as a picture of the macro
+}
+
+void uloz_makro() {
+    odznac_kroky();
+    if (vyber.makro_zacatky.front() >= 0) {
+        const ZaznamMakra makro{Text(orez(relief.lblMakro_pismeno[0].text())), vyber.makro_druhy,
+                                vyber.makro_zacatky, vyber.makro_konce};
+        Zapisovac soubor;
+        if (soubor_existuje(soubor_maker()))
+            soubor.bajty = nacti_soubor(soubor_maker());
+        popis_zaznamu_makra(soubor, makro);
+        zapis_soubor(soubor_maker(), soubor.bajty);
+    }
+    ukonci_zaznam();
+    skryj_prikaz();
+}
+
+void zrus_makro() {
+    odznac_kroky();
+    ukonci_zaznam();
+}
+
+void prehraj_makro(char pismeno) {
+    if (simulace.pauza)
+        return;
+    for (const ZaznamMakra& makro : cti_makra(nacti_soubor(soubor_maker()))) {
+        if (!ma_pismeno(makro, pismeno))
+            continue;
+        for (std::size_t i = 0; i < pocet_kroku(makro); ++i)
+            vyber_krok(makro.zacatky[i], makro.konce[i], makro.druhy[i]);
+    }
+}
+
+void smaz_makro(TextPohled pismeno) {
+    Zapisovac soubor;
+    for (const ZaznamMakra& makro : cti_makra(nacti_soubor(soubor_maker())))
+        if (makro.pismeno != pismeno)
+            popis_zaznamu_makra(soubor, makro);
+    zapis_soubor(soubor_maker(), soubor.bajty);
+}
+
+SeznamMaker nacti_makra() {
+    SeznamMaker seznam;
+    for (const ZaznamMakra& makro : cti_makra(nacti_soubor(soubor_maker()))) {
+        Text radek = makro.pismeno;
+        for (std::size_t i = 0; i < pocet_kroku(makro); ++i) {
+            radek += makro.druhy[i] == druh_volby::posun ? " PC " : " VC ";
+            radek += jmeno_navestidla(makro.zacatky[i]) + " " + jmeno_konce(makro.konce[i]);
+        }
+        if (!seznam.klavesy.empty())
+            seznam.klavesy += '\x0D';
+        seznam.klavesy += makro.pismeno;
+        seznam.radky.push_back(std::move(radek));
+    }
+    return seznam;
+}

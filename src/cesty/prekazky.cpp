@@ -1,0 +1,119 @@
+// cesty/prekazky.cpp - what stands in the way of a route.
+#include "cesty/prekazky.h"
+
+#include "cesty/barvi_prvek.h"
+#include "cesty/dotazy.h"
+#include "cesty/smer_trati.h"
+#include "prvky/souhlasy.h"
+#include "prvky/stanicni_prejezdy.h"
+#include "prvky/vyhybky.h"
+
+namespace {
+
+bool navestidlo_zablokovano(const Cesta& c) {
+    const Barva barva = navestidla(c.zacatek)[c.zacatek].barva;
+    return barva == (je_seriovy(c.zacatek) ? barvy::modra : barvy::cervena);
+}
+
+Prekazka prekazka_vyhybky(const Cesta& c, std::size_t k) {
+    const int n = c.prvky[k];
+    if (stav_vyhybky_cislo(n) > 49)
+        return {DruhPrekazky::vyhybka, n, k};
+    if (vyhybka_v_pohybu(n))
+        return {DruhPrekazky::pohyb_vyhybky, n, k};
+    if (druh_na(c, k + 1) == druh_prvku::vyhybka)
+        if (const int bocni = bocni_vyhybka(n, c.prvky[k + 1]); bocni != kZadny)
+            return {DruhPrekazky::bocni_vyhybka, bocni, k};
+    return {};
+}
+
+// Wagons or another shunting movement may stand where a shunt or a calling-on route ends.
+bool smi_na_obsazenou(const Cesta& c, std::size_t k) {
+    if (k != posledni_index(c) || (c.VC && !c.PN))
+        return false;
+    const Barva barva = relief.kolej[c.prvky[k]].barva;
+    return barva == barvy::cervena || barva == barvy::bila || barva == barvy::azurova;
+}
+
+Prekazka prekazka_prvku(const Cesta& c) {
+    for (std::size_t k = 1; k < c.prvky.size(); ++k) {
+        const int n = c.prvky[k];
+        if (druh_na(c, k) == druh_prvku::vyhybka) {
+            if (const Prekazka p = prekazka_vyhybky(c, k))
+                return p;
+        } else if (druh_na(c, k) == druh_prvku::kolej) {
+            if (!smi_na_obsazenou(c, k) && n != 632 && !je_volna(n))
+                return {DruhPrekazky::usek, n, k};
+        }
+    }
+    return {DruhPrekazky::zadna, kZadny, c.prvky.size()};
+}
+
+Prekazka prekazka_konce(const Cesta& c) {
+    const std::size_t vse = c.prvky.size();
+    if (c.VC && !c.PN && c.konec < 600 && !cil_volny(c.konec))
+        return {DruhPrekazky::konec, c.konec, vse};
+    if (!c.VC && je_vlak_do(posledni_prvek(c)))
+        return {DruhPrekazky::vlakova_cesta, posledni_prvek(c), vse};
+    return {DruhPrekazky::zadna, kZadny, vse};
+}
+
+Prekazka prekazka_trati(const Cesta& c) {
+    const std::size_t vse = c.prvky.size();
+    const int posledni = posledni_prvek(c);
+    if (!c.PN) {
+        // A route that ends on the far section of a line runs down its numbers.
+        const int sipka = sipka_konce(c.konec);
+        if (c.konec >= 600 && c.konec <= 699 &&
+            sipka_drzi(sipka, posledni > 649 ? kSipkaVpravo : kSipkaVlevo))
+            return {DruhPrekazky::opacny_smer, sipka, vse};
+        for (int k = 0; k < 3; ++k)
+            if (c.konec == kKonceTrati[static_cast<std::size_t>(k)].usek && relief.lblSouhlas.je(k) &&
+                relief.lblSouhlas[k].barva != barvy::seda)
+                return {DruhPrekazky::souhlas, k, vse};
+        const int predposledni = vse < 2 ? kZadny : c.prvky[vse - 2];
+        if ((predposledni == 303 || predposledni == 187) && sipka_neni_seda(118))
+            return {DruhPrekazky::kolej_118, 118, vse};
+    }
+    if (vede_na_trat(c)) {
+        const int sipka = sipka_konce(c.konec);
+        const bool vpravo = smer_na_trat(c) == kSipkaVpravo;
+        if (sipka_drzi(sipka, vpravo ? kSipkaVlevo : kSipkaVpravo))
+            return {DruhPrekazky::opacny_smer, sipka, vse};
+    }
+    return {DruhPrekazky::zadna, kZadny, vse};
+}
+
+} // namespace
+
+FazeCesty faze_cesty(const Cesta& c, std::int32_t ted) {
+    if (c.cas_ruseni >= 0 && ted >= c.cas_ruseni && c.Umazat == 0)
+        return FazeCesty::zruseni;
+    if (c.PN_do >= 0 && ted < c.PN_do && c.PN && c.Postavena)
+        return FazeCesty::privolavaci;
+    if (c.PN_do > 0 && ted >= c.PN_do)
+        return FazeCesty::konec_privolavaci;
+    if (c.cas_ruseni > 0)
+        return FazeCesty::odpocet_ruseni;
+    if (c.cas_stavby < 0 || ted < c.cas_stavby || c.varovani != 0 || c.Provedena || c.prvky.empty())
+        return FazeCesty::klid;
+    return c.prehozena ? FazeCesty::zaver : FazeCesty::staveni;
+}
+
+Prekazka prekazka_staveni(const Cesta& c) {
+    if (navestidlo_zablokovano(c))
+        return {DruhPrekazky::navestidlo, c.zacatek, 0};
+    Prekazka p = prekazka_prvku(c);
+    if (!p)
+        p = prekazka_konce(c);
+    if (!p)
+        p = prekazka_trati(c);
+    return p;
+}
+
+std::int32_t zbyva_prejezdu(const Cesta& c, std::int32_t ted) {
+    if (c.prejezd >= stanicni_prejezdy.size() || !c.prejezd_zaver)
+        return 0;
+    const std::int32_t cas = stanicni_prejezdy[c.prejezd].cas;
+    return cas > 0 && cas > ted ? cas - ted : 0;
+}

@@ -1,0 +1,413 @@
+// cesty/tik_volby.cpp - the route machine.
+//
+// There is no queue of events: each tick decides anew from the fields of the routes and the colours of
+// the elements. A route that cannot go on is tried again at the next tick, for ever and without a word.
+#include "cesty/tik_volby.h"
+
+#include "app/cas.h"
+#include "app/simulace.h"
+#include "cesty/barvi_prvek.h"
+#include "cesty/cisla_vlaku.h"
+#include "cesty/dotazy.h"
+#include "cesty/navest.h"
+#include "cesty/odpocet_pn.h"
+#include "cesty/prekazky.h"
+#include "cesty/smer_trati.h"
+#include "cesty/uvolneni.h"
+#include "cesty/volba.h"
+#include "cesty/zvyrazneni.h"
+#include "desk/zprava.h"
+#include "prvky/navestidla.h"
+#include "prvky/prejezdy_stanice.h"
+#include "prvky/souhlasy.h"
+#include "prvky/vyhybky.h"
+#include "relief/relief.h"
+#include "save/gtn.h"
+#include "zaklad/cisla.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::size_t kNejvicCest = 256;  // the walk counts in one byte
+constexpr std::int32_t kPrestaveni_s = 5; // switches have run, the route may be locked
+constexpr std::int32_t kZavirani_s = 40;  // the crossing begins to close
+constexpr std::int32_t kPrivolavaci_s = 30;
+constexpr int kZnakVKoleji = 21; // glyph of a derailer in the way of a route
+constexpr int kZnakChrani = 23;  // and of one that protects
+
+// What one walk carries from route to route.
+struct Pruchod {
+    std::int32_t ted;
+    bool zdrzeno = false; // a route was blocked and VZ holds back all behind it
+};
+
+// --- the manual throw
+
+void dokonci_rucni_prehoz(std::int32_t ted) {
+    if (stav_vyhybek.prehoz_cas == -3 || ted < stav_vyhybek.prehoz_cas)
+        return;
+    const int n = stav_vyhybek.prehoz_vyhybka;
+    if (relief.imgVyhybka.je(n))
+        vyhybka_stav(n, stav_vyhybky_cislo(n), true, true);
+    stav_vyhybek.prehoz_vyhybka = -3;
+    stav_vyhybek.prehoz_cas = -3;
+}
+
+// --- calling-on aspects
+
+void blikni_privolavaci(const Cesta& c, std::int32_t ted) {
+    simulace.pn_bezi = true;
+    TabulkaPrvku& druh = navestidla(c.zacatek);
+    if (druh.je(c.zacatek)) {
+        Prvek& navestidlo = druh[c.zacatek];
+        navestidlo.barva = navestidlo.barva == barvy::seda ? barvy::bila : barvy::seda;
+        if (simulace.detail_navestidlo == c.zacatek && relief.svetlo.je(svetla::bile))
+            relief.svetlo[svetla::bile].viditelny = navestidlo.barva == barvy::bila;
+    }
+    obnov_odpocet_pn(c.zacatek, c.PN_do - ted);
+}
+
+void ukonci_privolavaci(Cesta& c) {
+    c.PN_do = -3;
+    nastav_navest(c.zacatek, barvy::seda);
+    gtn_zapis(c.zacatek, gtn::konec_pn, c.konec);
+    odeber_odpocet_pn(c.zacatek);
+    if (simulace.detail_navestidlo == c.zacatek && relief.svetlo.je(svetla::bile))
+        relief.svetlo[svetla::bile].viditelny = false;
+}
+
+// --- a route that cannot go on in this tick
+
+void zablokuj(const Cesta& c, Pruchod& pruchod) {
+    // Without a fresh selection the highlight goes: that the route waits is told by the stack alone.
+    if (vyber.volba_konec < 0 && vyber.volba_zacatek != c.zacatek)
+        odznac_navestidlo(c.zacatek);
+    vrat_barvu_konce(c);
+    // An automatic copy waits in the background and holds nobody back.
+    if (plati_vz() && c.Vlak != kKopieAB)
+        pruchod.zdrzeno = true;
+    if (ceka_na_ni_zasobnik(c))
+        relief.lblZasobnik_blokv[0].barva = barvy::bila;
+}
+
+// --- stage one: the switches are commanded
+
+bool je_ve_volbe(TextPohled jmeno) {
+    return !jmeno.empty() &&
+           (" " + relief.lblVolba[0].text() + " ").find(" " + Text(jmeno) + " ") != Text::npos;
+}
+
+// The prompt that picked this route has done its work.
+void skryj_vyzvu(const Cesta& c) {
+    const TextPohled slovo = relief.lblPrikaz[0].text();
+    if (!prikaz_radek.obsazen || (slovo != " VC " && slovo != " PC " && slovo != " PN "))
+        return;
+    if (je_ve_volbe(jmeno_navestidla(c.zacatek)) && (!c.VC || je_ve_volbe(jmeno_konce(c.konec)))) {
+        skryj_prikaz();
+        nastav_text(relief.lblVolba[0], {});
+    }
+}
+
+void zapamatuj_barvu_konce(Cesta& c) {
+    if (je_cislo_koleje(c.konec) && !je_barva_vyberu(relief.cislo_koleje[c.konec].pozadi))
+        c.barva_cisla = relief.cislo_koleje[c.konec].pozadi;
+}
+
+void uvolni_vyber(const Cesta& c) {
+    if (vyber.volba_zacatek == c.zacatek && vyber.volba_konec == c.konec) {
+        vyber.volba_zacatek = -3;
+        vyber.volba_konec = -3;
+    }
+}
+
+void ohlas_cekani(const Cesta& c) {
+    Prvek& blokv = relief.lblZasobnik_blokv[0];
+    if (!blokv.text->empty() || c.Vlak == kKopieAB)
+        return;
+    nastav_text(blokv, popis_cesty(c));
+    blokv.popis = text_cisla(c.ZT);
+    blokv.viditelny = true;
+}
+
+// What the walk over the elements finds on its way, up to the entry at which it ended: the crossing,
+// the switch that ends the speed limit, sections whose label is cleared at release.
+void oznac_prvky(Cesta& c, std::size_t dosel) {
+    c.prejezd = kBezPrejezdu;
+    c.vyhybka = -3;
+    for (std::size_t k = 1; k < c.prvky.size() && k <= dosel; ++k) {
+        const int n = c.prvky[k];
+        if (druh_na(c, k) == druh_prvku::vyhybka && k < dosel)
+            c.vyhybka = c.prvky[k];
+        if (druh_na(c, k) != druh_prvku::kolej)
+            continue;
+        if (n == 107 || n == 108 || n == 427)
+            c.prejezd = 0;
+        if (n == 279 || n == 280)
+            c.prejezd = 1;
+        if (je_cil(n) && (n < 600 || n == 638))
+            c.polohy[k] = 2;
+    }
+}
+
+// A train that stands before the signal needs the crossing closed before the signal clears; without
+// one the crossing is left to the approach of a train.
+void objednej_prejezd(Cesta& c, std::int32_t ted) {
+    if (c.prejezd >= stanicni_prejezdy.size() || c.PN)
+        return;
+    c.prejezd_zaver = relief.kolej[prvni_prvek(c)].barva == barvy::cervena;
+    if (!c.prejezd_zaver)
+        return;
+    StanicniPrejezd& prejezd = stanicni_prejezdy[c.prejezd];
+    if (prejezd_v_klidu(c.prejezd))
+        prejezd.cas = ted + kZavirani_s;
+    else
+        prejezd.uzavren = true;
+}
+
+// End of a triple of a plain switch: 1 or 2; a double slip has none.
+int konec_trojice(int poloha) {
+    return poloha >= 1 && poloha < 25 ? (poloha - 1) % 3 : 0;
+}
+
+void prikaz_vyhybce(int n, int poloha) {
+    if (stav_vyhybky_cislo(n) == poloha)
+        vyhybka_stav(n, poloha + stav_vyhybky::rezervace, false, false);
+    else if (poloha < 25)
+        prehod(n, poloha, konec_trojice(poloha) != 1, true);
+    else
+        prehod(n, poloha, true, false);
+}
+
+void prikaz_vykolejce(int n) {
+    Prvek& vykolejka = relief.lblVykolejka[n];
+    if (kod_znaku(orez(vykolejka.text())) == kZnakChrani) {
+        vykolejka.barva = barvy::cerna;
+        vykolejka.pozadi = barvy::seda;
+        vykolejka.ramecek = true;
+    } else {
+        vykolejka.barva = barvy::azurova;
+    }
+}
+
+void prikaz_prvkum(const Cesta& c) {
+    const std::size_t posledni = posledni_index(c);
+    for (std::size_t k = 1; k <= posledni; ++k) {
+        const int n = c.prvky[k];
+        switch (druh_na(c, k)) {
+        case druh_prvku::vyhybka: prikaz_vyhybce(n, poloha_na(c, k)); break;
+        case druh_prvku::vykolejka: prikaz_vykolejce(n); break;
+        case druh_prvku::kolej:
+            if (k == posledni && !c.VC)
+                return; // the last track of a shunt route stays as it is
+            if (!c.PN)
+                barvi_prvek(n, barvy::azurova, false, k == posledni);
+            break;
+        }
+    }
+}
+
+// Lamp of the line end at which the route ends; -1 none.
+int lampa_konce(int konec) {
+    const int k = konec_trati(konec);
+    return k >= 0 && kKonceTrati[static_cast<std::size_t>(k)].usek == konec && relief.lblSouhlas.je(k) ? k
+                                                                                                       : -1;
+}
+
+// Directions that the route lays when its switches are commanded; the caption of a lamp points out.
+void napis_smery(const Cesta& c) {
+    if (c.PN)
+        return;
+    const int k = lampa_konce(c.konec);
+    if (k >= 0)
+        nastav_text(relief.lblSouhlas[k], znak(kKonceTrati[static_cast<std::size_t>(k)].znak_ven));
+    const std::size_t vse = c.prvky.size();
+    const int predposledni = vse < 2 ? kZadny : c.prvky[vse - 2];
+    if (predposledni == 303)
+        napis_sipku(118, kSipkaVlevo);
+    if (predposledni == 187)
+        napis_sipku(118, kSipkaVpravo);
+}
+
+void prikaz_ceste(Cesta& c, std::int32_t ted) {
+    odznac_navestidlo(c.zacatek);
+    vrat_barvu_konce(c);
+    napis_smery(c);
+    objednej_prejezd(c, ted);
+    gtn_zapis(c.zacatek, !c.VC ? gtn::cesta_posun : c.PN ? gtn::cesta_pn : gtn::cesta_vlak, c.konec);
+    c.prehozena = true;
+    prikaz_prvkum(c);
+    if (!c.PN && je_kolej(c.konec) && je_volna(c.konec))
+        barvi_prvek(c.konec, barvy::azurova, false, true);
+    if (c.konec == 120 || c.konec == 123)
+        napis_sipku(c.konec, sude_navestidlo(c.zacatek) ? kSipkaVpravo : kSipkaVlevo);
+    if (vede_na_trat(c))
+        poloz_smer(c);
+    if (c.Kdy_prehoz < 0)
+        c.Kdy_prehoz = ted + kPrestaveni_s;
+    if (c.VC && !c.PN && c.konec != 638 && je_cislo_koleje(c.konec) &&
+        relief.cislo_koleje[c.konec].barva != barvy::bila)
+        relief.cislo_koleje[c.konec].barva = barvy::azurova;
+    if (ceka_na_ni_zasobnik(c))
+        relief.lblZasobnik_blokv[0].barva = barvy::cerna;
+}
+
+// Everything that refuses the route is looked at first; only a route that nothing refuses leaves marks.
+void stav_cestu(Cesta& c, Pruchod& pruchod) {
+    skryj_vyzvu(c);
+    zapamatuj_barvu_konce(c);
+    uvolni_vyber(c);
+    ohlas_cekani(c);
+    if (pruchod.zdrzeno) {
+        zablokuj(c, pruchod);
+        return;
+    }
+    const Prekazka prekazka = prekazka_staveni(c);
+    if (prekazka.druh != DruhPrekazky::navestidlo) {
+        c.polohy.resize(c.prvky.size());
+        c.polohy.front() = 2;
+        oznac_prvky(c, prekazka.dosel);
+    }
+    if (prekazka)
+        zablokuj(c, pruchod);
+    else
+        prikaz_ceste(c, pruchod.ted);
+}
+
+// --- stage two: everything is locked, the signal clears
+
+void uzavri_vyhybku(const Cesta& c, int n, int poloha) {
+    const int trida = !c.VC ? stav_vyhybky::posun : c.PN ? stav_vyhybky::rezervace : stav_vyhybky::vlak;
+    vyhybka_stav(n, poloha + trida, true, konec_trojice(poloha) != 1);
+}
+
+void uzavri_vykolejku(int n) {
+    Prvek& vykolejka = relief.lblVykolejka[n];
+    nastav_text(vykolejka, znak(kZnakVKoleji));
+    vykolejka.barva = barvy::bila;
+    vykolejka.pozadi = barvy::cerna;
+    vykolejka.ramecek = true;
+}
+
+void uzavri_prvky(const Cesta& c) {
+    const std::size_t posledni = posledni_index(c);
+    for (std::size_t k = 1; k <= posledni; ++k) {
+        const int n = c.prvky[k];
+        switch (druh_na(c, k)) {
+        case druh_prvku::vyhybka: uzavri_vyhybku(c, n, poloha_na(c, k)); break;
+        case druh_prvku::vykolejka: uzavri_vykolejku(n); break;
+        case druh_prvku::kolej:
+            if (k == posledni && !c.VC)
+                return;
+            if (!c.PN)
+                barvi_prvek(n, c.VC ? barvy::zelena : barvy::bila, false, k == posledni);
+            break;
+        }
+    }
+}
+
+void pripoj_usek(Cesta& c, int n) {
+    if (!je_kolej(n) || std::find(c.prvky.begin(), c.prvky.end(), n) != c.prvky.end())
+        return;
+    c.druhy.resize(c.prvky.size());
+    c.polohy.resize(c.prvky.size());
+    c.prvky.push_back(static_cast<std::int16_t>(n));
+    c.druhy.push_back(druh_prvku::kolej);
+    c.polohy.push_back(0);
+}
+
+// The open line becomes part of the route, section by section in its direction. While the signal waits
+// for a crossing this runs again and finds nothing to add.
+void prodluz_po_trati(Cesta& c) {
+    const int posledni = posledni_prvek(c);
+    if (smer_na_trat(c) == kSipkaVpravo) {
+        for (int n = posledni + kKrokTrati; n <= kNejvyssiPrvek; n += kKrokTrati)
+            pripoj_usek(c, n);
+    } else {
+        for (int n = posledni - kKrokTrati; n >= 600; n -= kKrokTrati)
+            pripoj_usek(c, n);
+    }
+}
+
+void rozsvit_navestidlo(Cesta& c, std::int32_t ted) {
+    if (!c.PN) {
+        nastav_navest(c.zacatek, volnoznak(c));
+        return;
+    }
+    c.PN_do = ted + kPrivolavaci_s;
+    pridej_odpocet_pn(c.zacatek);
+    gtn_zapis(c.zacatek, gtn::barva_navestidla, barvy::bila); // the tick flashes it
+}
+
+void uzavri_cestu(int i, Pruchod& pruchod) {
+    Cesta& c = cesty[static_cast<std::size_t>(i)];
+    if (pruchod.ted <= c.Kdy_prehoz)
+        return;
+    uzavri_prvky(c);
+    if (!c.PN && je_kolej(c.konec) && relief.kolej[c.konec].barva == barvy::azurova)
+        barvi_prvek(c.konec, c.VC ? barvy::zelena : barvy::bila, false, true);
+    if (const int k = lampa_konce(c.konec); k >= 0)
+        relief.lblSouhlas[k].barva = barvy::modra;
+    if (vede_na_trat(c)) {
+        poloz_smer(c);
+        prodluz_po_trati(c);
+    }
+    c.polohy.resize(c.prvky.size());
+    c.polohy.back() = 2;
+    if (zbyva_prejezdu(c, pruchod.ted) > 0) {
+        zablokuj(c, pruchod);
+        return;
+    }
+    rozsvit_navestidlo(c, pruchod.ted);
+    c.Postavena = true;
+    c.Provedena = true;
+    uvolni_cekani(c);
+    gtn_zapis(c.zacatek, c.VC ? gtn::postavena_vlak : gtn::postavena_posun, c.konec);
+    obnov_panel_kdyz_ukazuje(c.zacatek);
+    zmena_zasobniku();
+    postup_cisla(i);
+}
+
+// --- the walk
+
+// One action of route i; true when the route is gone and the walk must start again.
+bool krok_cesty(int i, Pruchod& pruchod) {
+    Cesta& c = cesty[static_cast<std::size_t>(i)];
+    switch (faze_cesty(c, pruchod.ted)) {
+    case FazeCesty::zruseni: proved_zruseni(i); return true;
+    case FazeCesty::privolavaci: blikni_privolavaci(c, pruchod.ted); break;
+    case FazeCesty::konec_privolavaci: ukonci_privolavaci(c); break;
+    case FazeCesty::odpocet_ruseni: relief.lblMereni_casu[0].viditelny = true; break;
+    case FazeCesty::staveni: stav_cestu(c, pruchod); break;
+    case FazeCesty::zaver: uzavri_cestu(i, pruchod); break;
+    case FazeCesty::klid: break;
+    }
+    return false;
+}
+
+void projdi_cesty(std::int32_t ted) {
+    Pruchod pruchod{ted};
+    std::size_t mez = std::min(cesty.size(), kNejvicCest);
+    for (std::size_t i = 0; i < mez && i < cesty.size();) {
+        if (krok_cesty(static_cast<int>(i), pruchod)) {
+            pruchod = Pruchod{ted};
+            mez = std::min(cesty.size(), kNejvicCest);
+            i = 0;
+        } else {
+            ++i;
+        }
+    }
+}
+
+} // namespace
+
+void tik_volby() {
+    if (simulace.pauza)
+        return;
+    const std::int32_t ted = ted_s();
+    uklid_odjete();            // tracks whose train has gone on are at rest
+    simulace.pn_bezi = false;  // set again below while a calling-on aspect runs
+    hlidej_cas_volby();        // the operator took too long for the end
+    dokonci_rucni_prehoz(ted); // a switch thrown by hand has reached its end
+    projdi_cesty(ted);         // the routes, in the order of the stack
+}

@@ -1,0 +1,229 @@
+// cesty/uvolneni.cpp - RC, DN, STUJ, RNZ, and the cancellation itself.
+#include "cesty/uvolneni.h"
+
+#include "app/cas.h"
+#include "cesty/barvi_prvek.h"
+#include "cesty/cisla_vlaku.h"
+#include "cesty/dotazy.h"
+#include "cesty/navest.h"
+#include "cesty/odpocet_pn.h"
+#include "cesty/smer_trati.h"
+#include "cesty/zasobnik.h"
+#include "cesty/zvyrazneni.h"
+#include "jizda/vlak.h"
+#include "prvky/navestidla.h"
+#include "prvky/stanicni_prejezdy.h"
+#include "prvky/vyhybky.h"
+#include "relief/relief.h"
+#include "save/gtn.h"
+
+#include <algorithm>
+
+namespace {
+
+constexpr std::int32_t kPredPrehozem_s = 5; // RC may come this long before the switches have run
+
+// How long a cancellation runs, seconds.
+constexpr std::int32_t kRuseniBezNavesti = 0;
+constexpr std::int32_t kRuseniBezVlaku = 5;
+constexpr std::int32_t kRuseniVlak = 180; // a train before the signal may have started
+constexpr std::int32_t kRuseniPosun = 60;
+
+template <class Podminka> Cesta* prvni_cesta(Podminka podminka) {
+    const auto c = std::find_if(cesty.begin(), cesty.end(), podminka);
+    return c == cesty.end() ? nullptr : &*c;
+}
+
+int index_cesty(const Cesta& c) {
+    return static_cast<int>(&c - cesty.data());
+}
+
+// Elements that no route ever paints, and the end of a route where something may stand, tell nothing
+// about the locking.
+bool bez_barvy_zaveru(const Cesta& c, std::size_t k) {
+    const int n = c.prvky[k];
+    if (n >= 600 || n == 84 || n == 85 || n == 117 || n == 118 || n == 212 || n == 213 || n == 219)
+        return true;
+    if (k != posledni_index(c))
+        return false;
+    return !c.VC || (je_cislo_koleje(n) && orez(relief.cislo_koleje[n].popis()).empty());
+}
+
+bool prvek_je_uzavren(const Cesta& c, std::size_t k) {
+    const int n = c.prvky[k];
+    switch (druh_na(c, k)) {
+    case druh_prvku::vyhybka: return stav_vyhybky_cislo(n) % 50 == poloha_na(c, k);
+    case druh_prvku::kolej:
+        return bez_barvy_zaveru(c, k) ||
+               (relief.kolej[n].barva != barvy::cervena && relief.kolej[n].barva != barvy::seda);
+    default: return true;
+    }
+}
+
+bool lze_zrusit(const Cesta& c, int s, std::int32_t ted) {
+    if (c.zacatek != s || c.prvky.size() < 2 || c.PN || c.Umazat != 0 || !c.prehozena ||
+        je_vjezd_z_trati(c) || ted < c.Kdy_prehoz - kPredPrehozem_s)
+        return false;
+    for (std::size_t k = 1; k < c.prvky.size(); ++k)
+        if (!prvek_je_uzavren(c, k))
+            return false;
+    return true;
+}
+
+std::int32_t doba_ruseni(const Cesta& c) {
+    if (!c.Provedena)
+        return kRuseniBezNavesti;
+    if (relief.kolej[prvni_prvek(c)].barva != barvy::cervena)
+        return kRuseniBezVlaku;
+    return c.VC ? kRuseniVlak : kRuseniPosun;
+}
+
+void uvolni_prvek(int n) {
+    if (relief.kolej[n].barva != barvy::cervena)
+        barvi_prvek(n, barvy::seda);
+}
+
+void uvolni_prvky(const Cesta& c) {
+    for (std::size_t k = 1; k < c.prvky.size(); ++k) {
+        const int n = c.prvky[k];
+        switch (druh_na(c, k)) {
+        case druh_prvku::vyhybka: vyhybka_stav(n, stav_vyhybky_cislo(n) % 50, false, false); break;
+        case druh_prvku::vykolejka: relief.lblVykolejka[n].barva = barvy::seda; break;
+        case druh_prvku::kolej:
+            // Sections of a line are only ever painted by shunt routes.
+            if (n < 600 || n == 638 || (!c.VC && relief.kolej[n].barva == barvy::bila))
+                uvolni_prvek(n);
+            break;
+        }
+    }
+}
+
+// The head stands at the end of the route's list, and the whole train too.
+bool vlak_stoji_v_cili(const Cesta& c) {
+    if (c.Vlak < 0 || static_cast<std::size_t>(c.Vlak) >= vlaky.size())
+        return false;
+    const Vlak& v = vlaky[static_cast<std::size_t>(c.Vlak)];
+    return !v.prvky.empty() && v.prvky.back() == posledni_prvek(c) &&
+           v.prvek_konec == static_cast<int>(v.prvky.size()) - 1;
+}
+
+void vypni_automat(int s) {
+    if (!je_na_ser(s) && relief.navestidlo.je(s) && ab_zapnuto(s))
+        prepni_ab(s);
+}
+
+} // namespace
+
+void zrus_cestu(int s) {
+    if (je_zablokovano(s))
+        return;
+    vypni_automat(s);
+    const std::int32_t ted = ted_s();
+    // The newest route from the signal first: the older ones may already be under a train.
+    for (std::size_t i = cesty.size(); i-- > 0;) {
+        Cesta& c = cesty[i];
+        if (!lze_zrusit(c, s, ted))
+            continue;
+        c.cas_ruseni = ted + doba_ruseni(c);
+        nastav_navest(s, barvy::seda);
+        gtn_zapis(s, gtn::ruseni, 0);
+        vymaz_cislo(static_cast<int>(i), false, {});
+        zmena_zasobniku();
+        return;
+    }
+}
+
+void proved_zruseni(int i) {
+    Cesta& c = cesty.at(static_cast<std::size_t>(i));
+    const int konec = c.konec;
+    if (navestidla(c.zacatek).je(c.zacatek) && !je_zablokovano(c.zacatek))
+        navestidla(c.zacatek)[c.zacatek].barva = barvy::seda;
+    gtn_zapis(c.zacatek, gtn::zrusena, 0);
+    uvolni_prvky(c);
+    vymaz_cislo(i, false, {});
+    if (c.prejezd < stanicni_prejezdy.size() && c.prejezd_zaver && !stanicni_prejezdy[c.prejezd].UZ)
+        stanicni_prejezdy[c.prejezd].cas = -3;
+    if (konec < 600 && c.VC && je_kolej(konec))
+        uvolni_prvek(konec);
+    if (!c.Postavena) {
+        odznac_navestidlo(c.zacatek);
+        vrat_barvu_konce(c);
+    }
+    uvolni_cekani(c);
+    obnov_panel_kdyz_ukazuje(c.zacatek);
+    smaz_cestu(i);
+    uvolni_smer(konec);
+    zmena_zasobniku();
+    relief.lblMereni_casu[0].viditelny = false;
+}
+
+void obnov_cestu(int s) {
+    const std::int32_t ted = ted_s();
+    Cesta* c = prvni_cesta([&](const Cesta& x) {
+        return x.zacatek == s && ted > x.Kdy_prehoz && !je_vjezd_z_trati(x) && !x.PN && x.Provedena &&
+               x.Umazat == 0;
+    });
+    if (c == nullptr || je_zablokovano(s))
+        return;
+    if (c->prvky.size() > 1 && druh_na(*c, 1) == druh_prvku::kolej &&
+        relief.kolej[c->prvky[1]].barva == barvy::cervena)
+        return;
+    c->Postavena = true;
+    if (c->cas_ruseni > 0) {
+        c->cas_ruseni = -3;
+        gtn_zapis(s, gtn::zrusena, 0);
+    }
+    nastav_navest(s, volnoznak(*c));
+    relief.lblMereni_casu[0].viditelny = false;
+    zmena_zasobniku();
+    postup_cisla(index_cesty(*c));
+}
+
+void navestidlo_stuj(int s) {
+    const auto stoji = [s](const Cesta& x) {
+        return x.zacatek == s && !je_vjezd_z_trati(x) && x.Umazat == 0 && x.Postavena && x.Provedena;
+    };
+    Cesta* c = prvni_cesta(stoji);
+    if (c == nullptr || !navestidla(s).je(s))
+        return;
+    if (navestidla(s)[s].barva == barvy::seda && !c->PN)
+        return;
+    vypni_automat(s); // takes a waiting copy out of the table: indices move
+    c = prvni_cesta(stoji);
+    if (!c->PN)
+        c->Postavena = false;
+    if (c->PN_do > 0)
+        c->PN_do = ted_s();
+    nastav_navest(s, barvy::seda);
+    zmena_zasobniku();
+    vymaz_cislo(index_cesty(*c), true, {});
+}
+
+void rnz(int s) {
+    const std::int32_t ted = ted_s();
+    Cesta* c =
+        prvni_cesta([&](const Cesta& x) { return x.zacatek == s && x.PN && x.Provedena && ted > x.PN_do; });
+    if (c == nullptr)
+        return;
+    for (std::size_t k = 1; k < c->prvky.size(); ++k) {
+        const int n = c->prvky[k];
+        if (druh_na(*c, k) == druh_prvku::vyhybka)
+            vyhybka_stav(n, poloha_na(*c, k), false, false);
+        if (druh_na(*c, k) == druh_prvku::vykolejka)
+            relief.lblVykolejka[n].barva = barvy::seda;
+    }
+    c->PN_zaver = true;
+    gtn_zapis(s, gtn::rnz, 0);
+    if (c->PN_do > 0)
+        odeber_odpocet_pn(s); // the tick that would do it has not come yet
+    const int konec = c->konec;
+    if (c->Umazat == 0) {
+        smaz_cestu(index_cesty(*c));
+        obnov_lampu_souhlasu(konec);
+        uvolni_smer(konec);
+    } else if (vlak_stoji_v_cili(*c)) {
+        smaz_cestu(index_cesty(*c));
+    }
+    zmena_zasobniku();
+    obnov_panel_kdyz_ukazuje(s);
+}

@@ -1,0 +1,335 @@
+// cesty/volba.cpp - the operator's selection.
+#include "cesty/volba.h"
+
+#include "app/simulace.h"
+#include "cesty/dotazy.h"
+#include "cesty/makra.h"
+#include "cesty/tabulky.h"
+#include "cesty/zvyrazneni.h"
+#include "desk/zprava.h"
+#include "prvky/navestidla.h"
+#include "relief/topologie.h"
+#include "save/gtn.h"
+#include "zaklad/cisla.h"
+#include "zaklad/platforma.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr std::int32_t kCasVolby_s = 10; // wall-clock seconds from the start to the end
+
+constexpr TextPohled kNenalezena = " Cesta nenalezena v závěrové tabulce ! "_cz;
+
+// --- the command line
+
+TextPohled slovo_prikazu() {
+    return prikaz_radek.obsazen ? TextPohled(relief.lblPrikaz[0].text()) : TextPohled{};
+}
+
+bool stoji_vyzva() {
+    const TextPohled slovo = slovo_prikazu();
+    return slovo == " VC " || slovo == " PC " || slovo == " PN ";
+}
+
+// A prompt never takes the line from another message, and does not wait for it: a warning that must be
+// confirmed stays in sight while the operator picks on.
+void ukaz_vyzvu(TextPohled slovo, TextPohled text, Barva popredi, Barva pozadi) {
+    if (!prikaz_radek.obsazen || stoji_vyzva())
+        zobraz_prikaz(slovo, text, popredi, pozadi);
+}
+
+void ohlas_zablokovane(TextPohled text) {
+    zprava(" ZAM "_cz, text, barvy::cervena, 0, false, barvy::bila, barvy::bila);
+}
+
+// --- the start
+
+std::int32_t sekunda_dne() {
+    return platforma.nastenny_cas().sekundy_dne();
+}
+
+void zacni_volbu(int s) {
+    vyber.volba_konec = -3;
+    vyber.volba_zacatek = static_cast<std::int16_t>(s);
+    vyber.volba_cas = sekunda_dne();
+    vyber.volba_navestidlo = static_cast<std::int16_t>(s);
+}
+
+// The click on s may end the selection that is open: another signal, looking the same way.
+bool navazuje_na_volbu(int s) {
+    const int pred = vyber.volba_navestidlo;
+    return pred >= 0 && pred != s && sude_navestidlo(pred) == sude_navestidlo(s);
+}
+
+// At these places of Mokřina and Teska hl. n. the second signal always begins a route of its own.
+bool je_vyjimka_retezeni(int s) {
+    struct Dvojice {
+        int s, po;
+    };
+    constexpr std::array<Dvojice, 6> kVyjimky = {
+        {{316, 113}, {315, 114}, {314, 618}, {313, 618}, {314, 616}, {313, 616}}};
+    return std::any_of(kVyjimky.begin(), kVyjimky.end(),
+                       [s](const Dvojice& d) { return d.s == s && d.po == vyber.volba_navestidlo; });
+}
+
+// Track at which a route ends when signal s is its end; kZadny: the signal ends none.
+int konec_u_navestidla(int s) {
+    if (s < 200)
+        return s;
+    if (s < 500)
+        return s - 200;
+    if (s < 600)
+        return kZadny;
+    return s == 633 ? 96 : s - s % 2;
+}
+
+int konec_u_ser(int s) {
+    return s > 699 ? s - 200 : s > 500 ? s : kZadny;
+}
+
+void ukonci_volbu_v(int konec, int druh) {
+    vyber.volba_druh = static_cast<std::uint8_t>(druh);
+    if (konec != kZadny)
+        klik_cil(konec);
+}
+
+Barva barva_navestidla(int s) {
+    return navestidla(s)[s].barva;
+}
+
+void vyber_posun(int s, int konec) {
+    odznac_navestidlo(vyber.volba_navestidlo);
+    if (navazuje_na_volbu(s))
+        ukonci_volbu_v(konec, druh_volby::posun);
+    gtn_zapis(s, gtn::volba_posun, 0);
+    ukaz_vyzvu(" PC "_cz, jmeno_navestidla(s), barvy::bila, barvy::cerna);
+    vyber.volba_posun = true;
+    vyber.volba_svetla = barva_navestidla(s) == barvy::bila;
+    zvyrazni_navestidlo(s, barvy::bila);
+    vyber.volba_druh = druh_volby::posun;
+    zacni_volbu(s);
+}
+
+void vyber_vlak(int s) {
+    odznac_navestidlo(vyber.volba_navestidlo);
+    if (navazuje_na_volbu(s) && !vyber.volba_posun && !je_vyjimka_retezeni(s))
+        ukonci_volbu_v(s == 998 ? 118 : konec_u_navestidla(s), druh_volby::vlak);
+    gtn_zapis(s, gtn::volba_vlak, 0);
+    if (makro_se_zaznamenava())
+        ukaz_vyzvu(" VC "_cz, jmeno_navestidla(s), barvy::seda, barvy::azurova);
+    else
+        ukaz_vyzvu(" VC "_cz, jmeno_navestidla(s), barvy::bila, barvy::zelena);
+    vyber.volba_posun = false;
+    vyber.volba_svetla = barva_navestidla(s) == barvy::zelena;
+    zvyrazni_navestidlo(s, barvy::zelena);
+    vyber.volba_druh = druh_volby::vlak;
+    zacni_volbu(s);
+}
+
+// --- the end
+
+// One click that runs over a short connecting section: two routes, one to `pres`, one from `dal`.
+struct DvojityKonec {
+    int konec, zacatek;
+    int pres; // the first route ends here
+    int dal;  // the second one starts here
+    int jiny; // its end when the tables hold no route to `konec` itself
+};
+constexpr std::array<DvojityKonec, 17> kDvojiteKonce = {{{604, 284, 2, 202, 604},
+                                                         {606, 285, 3, 203, 606},
+                                                         {84, 604, 2, 2, 84},
+                                                         {85, 606, 3, 3, 85},
+                                                         {20, 601, 12, 212, 20},
+                                                         {19, 603, 11, 211, 19},
+                                                         {21, 297, 10, 210, 21},
+                                                         {600, 20, 12, 12, 600},
+                                                         {602, 19, 11, 11, 602},
+                                                         {624, 621, 73, 273, 624},
+                                                         {626, 623, 72, 272, 626},
+                                                         {620, 624, 73, 73, 20},
+                                                         {622, 626, 72, 72, 19},
+                                                         {120, 619, 37, 237, 120},
+                                                         {123, 617, 36, 236, 123},
+                                                         {618, 120, 37, 37, 618},
+                                                         {616, 123, 36, 36, 616}}};
+
+const DvojityKonec* dvojity_konec(int zacatek, int konec) {
+    const auto d = std::find_if(kDvojiteKonce.begin(), kDvojiteKonce.end(), [=](const DvojityKonec& x) {
+        return x.konec == konec && x.zacatek == zacatek;
+    });
+    return d == kDvojiteKonce.end() ? nullptr : &*d;
+}
+
+int konec_druhe_casti(const DvojityKonec& d, int druh) {
+    const TabulkaCest tabulka = druh == druh_volby::posun ? TabulkaCest::zpc : TabulkaCest::zat;
+    const bool jen_jiny =
+        !najdi_v_tabulce(tabulka, d.dal, d.konec) && najdi_v_tabulce(tabulka, d.dal, d.jiny);
+    return jen_jiny ? d.jiny : d.konec;
+}
+
+int uprav_konec(int e) {
+    if (e >= 200 && e < 400)
+        return e - 200;
+    if (e == 513)
+        return 118;
+    return e > 600 && e % 2 == 1 ? e - 1 : e;
+}
+
+// The prompt goes on with the end's name; without a target with its track and metres.
+void pripis_konec(int e) {
+    Text text = relief.lblVolba[0].text;
+    if (!stoji_vyzva() || text.find(kNenalezena) != Text::npos)
+        return;
+    text += " " + jmeno_konce(e);
+    if (jmeno_cile(e).empty())
+        text += " " + text_cisla(delka_koleje(e)) + "m";
+    zobraz_prikaz(slovo_prikazu(), text, relief.lblPrikaz[0].barva, relief.lblPrikaz[0].pozadi);
+}
+
+// --- Esc
+
+// The route that was just picked goes again, as long as its switches have not been commanded. False:
+// the newest route is on its way, and Esc ends here.
+bool vrat_vybranou_cestu() {
+    if (vyber.volba_konec < 0)
+        return true;
+    Cesta& posledni = cesty.back();
+    if (posledni.prehozena)
+        return false;
+    if (posledni.zacatek < 0 || posledni.konec != vyber.volba_konec)
+        return true;
+    vrat_barvu_konce(posledni);
+    odznac_navestidlo(posledni.zacatek);
+    uvolni_cekani(posledni);
+    if (cesty.size() == 1) {
+        posledni.zacatek = -3;
+        posledni.konec = -3;
+        posledni.cas_stavby = -3;
+    } else {
+        smaz_cestu(static_cast<int>(cesty.size()) - 1);
+    }
+    zmena_zasobniku();
+    return true;
+}
+
+} // namespace
+
+void klik_navestidlo(int s, Tlacitko tlacitko, bool ctrl) {
+    if (!relief.navestidlo.je(s) || simulace.pauza)
+        return;
+    const Prvek& navestidlo = relief.navestidlo[s];
+    if (navestidlo.pozadi == barvy::seda || navestidlo.barva == barvy::purpurova ||
+        slovo_prikazu() == " POZOR STITEK ")
+        return;
+    pipni(800, 10);
+    obnov_panel(s);
+    if (tlacitko == Tlacitko::prave)
+        menu_navestidla(s);
+    else if (navestidlo.barva == barvy::cervena)
+        ohlas_zablokovane(" Návěstidlo zablokováno v poloze STŮJ!"_cz);
+    else if (tlacitko == Tlacitko::prostredni || ctrl)
+        vyber_posun(s, konec_u_navestidla(s));
+    else
+        vyber_vlak(s);
+}
+
+void klik_navestidlo_ser(int s, Tlacitko tlacitko) {
+    if (!relief.navestidlo_ser.je(s) || simulace.pauza || tlacitko == Tlacitko::prostredni)
+        return;
+    const Prvek& navestidlo = relief.navestidlo_ser[s];
+    if (navestidlo.pozadi == barvy::seda)
+        return;
+    pipni(800, 10);
+    obnov_panel(s);
+    if (tlacitko == Tlacitko::prave)
+        menu_navestidla(s);
+    else if (navestidlo.barva == barvy::modra)
+        ohlas_zablokovane(" Návěstidlo zablokováno v poloze POSUN ZAKÁZÁN!"_cz);
+    else
+        vyber_posun(s, konec_u_ser(s));
+}
+
+void volba_pn(int s) {
+    if (!navestidla(s).je(s) || simulace.pauza || slovo_prikazu() == " POZOR STITEK ")
+        return;
+    if (barva_navestidla(s) == barvy::cervena) {
+        ohlas_zablokovane(" Návěstidlo zablokováno v poloze STŮJ!"_cz);
+        return;
+    }
+    odznac_navestidlo(vyber.volba_navestidlo);
+    vyber.volba_druh = druh_volby::pn;
+    if (makro_se_zaznamenava())
+        return; // calling-on routes do not go into macros
+    ukaz_vyzvu(" PN "_cz, jmeno_navestidla(s), barvy::bila, barvy::azurova);
+    zvyrazni_navestidlo(s, barvy::azurova);
+    vyber.volba_posun = false;
+    vyber.volba_svetla = barva_navestidla(s) == barvy::zelena;
+    gtn_zapis(s, gtn::volba_pn, 0);
+    zacni_volbu(s);
+}
+
+void klik_cil(int e) {
+    if (simulace.pauza || vyber.volba_konec >= 0 || vyber.volba_zacatek < 0)
+        return;
+    const int druh = vyber.volba_druh; // each look-up clears it, the second one needs it too
+    int konec = uprav_konec(e);
+    if (const DvojityKonec* d = dvojity_konec(vyber.volba_zacatek, konec)) {
+        if (!najdi_cestu(vyber.volba_zacatek, d->pres, druh, false))
+            return;
+        vyber.volba_zacatek = static_cast<std::int16_t>(d->dal);
+        konec = konec_druhe_casti(*d, druh);
+    }
+    vyber.volba_konec = static_cast<std::int16_t>(konec);
+    vyber.volba_cas = -3;
+    pipni(800, 10);
+    pripis_konec(konec);
+    gtn_zapis(vyber.volba_zacatek, static_cast<std::uint8_t>(gtn::konec_volby + druh), konec);
+    najdi_cestu(vyber.volba_zacatek, konec, druh, false);
+}
+
+void zrus_volbu() {
+    if (makro_se_zaznamenava())
+        zrus_makro();
+    if (stoji_vyzva())
+        skryj_prikaz();
+    if (!vrat_vybranou_cestu())
+        return;
+    odznac_navestidlo(vyber.volba_zacatek);
+    vyber.volba_zacatek = -3;
+    vyber.volba_konec = -3;
+    vyber.volba_cas = -3; // a selection that was dropped cannot run out of time
+}
+
+void klik_plocha() {
+    if (!vyber.volba_svetla)
+        odznac_navestidlo(vyber.volba_navestidlo);
+    vyber.volba_druh = druh_volby::zadny;
+    vyber.volba_navestidlo = -3;
+    vyber.volba_cas = -3;
+    vyber.volba_svetla = false;
+    vyber.volba_posun = false;
+}
+
+void potvrd_varovani() {
+    for (Cesta& c : cesty)
+        c.varovani = 0;
+    potvrd_prikaz();
+}
+
+void hlidej_cas_volby() {
+    if (vyber.volba_cas < 0)
+        return;
+    const std::int32_t ted = sekunda_dne();
+    if (ted < vyber.volba_cas)
+        vyber.volba_cas = ted; // midnight of the wall clock: the ten seconds begin anew
+    if (ted <= vyber.volba_cas + kCasVolby_s)
+        return;
+    zprava(" VOLBA "_cz, " Překročen časový limit volby!"_cz, barvy::cervena, 0, false, barvy::bila,
+           barvy::bila);
+    pipni(100, 200);
+    odznac_navestidlo(vyber.volba_zacatek);
+    vyber.volba_zacatek = -3;
+    vyber.volba_cas = -3;
+}

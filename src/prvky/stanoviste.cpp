@@ -1,0 +1,111 @@
+// prvky/stanoviste.cpp - the operator's posts: automatic through running (AH) and the post's menu.
+#include "prvky/stanoviste.h"
+
+#include "cesty/cesta.h"
+#include "cesty/uvolneni.h"
+#include "cesty/volba.h"
+#include "desk/menu.h"
+#include "gvd/gvd.h"
+#include "prvky/navestidla.h"
+#include "relief/relief.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+namespace {
+
+// A through route of a station: start signal, end.
+struct PrujezdnaCesta {
+    int post;
+    int zacatek, konec;
+};
+constexpr std::array<PrujezdnaCesta, 16> kPrujezdneCesty = {{
+    {1, 287, 600},
+    {1, 602, 88},
+    {2, 629, 64},
+    {2, 63, 630},
+    {4, 323, 41},
+    {4, 42, 120},
+    {6, 625, 67},
+    {6, 68, 626},
+    {11, 617, 36},
+    {11, 236, 123},
+    {11, 120, 37},
+    {11, 37, 618},
+    {13, 621, 73},
+    {13, 273, 624},
+    {13, 626, 72},
+    {13, 72, 622},
+}};
+
+// Stations about which the timetable can say what comes next.
+constexpr std::array kSPredpovedi = {1, 2, 4, 5, 6, 17, 18, 19, 20};
+
+bool ma_prujezdne_cesty(int post) {
+    return std::any_of(kPrujezdneCesty.begin(), kPrujezdneCesty.end(),
+                       [&](const PrujezdnaCesta& p) { return p.post == post; });
+}
+
+bool ma_predpoved(int post) {
+    return std::find(kSPredpovedi.begin(), kSPredpovedi.end(), post) != kSPredpovedi.end();
+}
+
+bool jede_z(int s) {
+    return navestidla(s)[s].barva == barvy::zelena &&
+           std::any_of(cesty.begin(), cesty.end(), [&](const Cesta& c) { return c.zacatek == s; });
+}
+
+void akce_popisky(int) {
+    prepni_popisky();
+}
+
+} // namespace
+
+void automat(int post) {
+    std::vector<PrujezdnaCesta> pary; // those whose signal the relief holds
+    for (const PrujezdnaCesta& p : kPrujezdneCesty)
+        if (p.post == post && navestidla(p.zacatek).je(p.zacatek))
+            pary.push_back(p);
+    if (pary.empty())
+        return;
+
+    if (std::all_of(pary.begin(), pary.end(), [](const auto& p) { return ab_zapnuto(p.zacatek); })) {
+        for (const PrujezdnaCesta& p : pary) {
+            prepni_ab(p.zacatek);
+            zrus_cestu(p.zacatek);
+        }
+        return;
+    }
+    if (std::any_of(pary.begin(), pary.end(), [](const auto& p) { return jede_z(p.zacatek); }))
+        return; // a train is expected: the operator ends its route first
+    for (const PrujezdnaCesta& p : pary) {
+        najdi_cestu(p.zacatek, p.konec, druh_volby::vlak, true);
+        if (!ab_zapnuto(p.zacatek)) // a mode that is on already stays on
+            prepni_ab(p.zacatek);
+    }
+}
+
+void prepni_popisky() {
+    TabulkaPrvku& popisky = relief.popis_stanice;
+    for (int n = 0; n <= popisky.nejvyssi(); ++n)
+        if (popisky.je(n))
+            popisky[n].viditelny = !popisky[n].viditelny();
+}
+
+void menu_stanoviste(int post) {
+    const Text nazev(nazev_stanice(post));
+    Menu nove{"mnuStanoviste", nazev, Druh::imgStanoviste, post, {}};
+    nove.polozky = {{"miNazev_stanoviste", nazev, true, true, nullptr, post},
+                    {"miNazev_stanoviste_zkr", Text(kod_stanice(post)), true, true, nullptr, post}};
+    // kept for the look of the real desk
+    for (const TextPohled bez_ucinku :
+         {"?POR", "NAPAJ", "DEN", "NOC", "NAP", "OV", "EOV", "OBSL", "DP", "MP", "REZIM"})
+        nove.polozky.push_back({"mi" + Text(bez_ucinku), Text(bez_ucinku), true, true, nullptr, post});
+    nove.polozky.push_back({"miAH", "AH", ma_prujezdne_cesty(post), true, automat, post});
+    for (const TextPohled bez_ucinku : {"VDS", "DK", "RESET"})
+        nove.polozky.push_back({"mi" + Text(bez_ucinku), Text(bez_ucinku), true, true, nullptr, post});
+    nove.polozky.push_back({"miPredvidane_vlaky", "PR. VLAKY", true, ma_predpoved(post), nullptr, post});
+    nove.polozky.push_back({"miPopisky", "POPISKY", true, true, akce_popisky, post});
+    otevri_menu(std::move(nove));
+}

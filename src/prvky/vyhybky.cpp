@@ -1,0 +1,325 @@
+// prvky/vyhybky.cpp - throwing of switches, their couplings, and the menu of a switch.
+#include "prvky/vyhybky.h"
+
+#include "app/cas.h"
+#include "cesty/barvi_prvek.h"
+#include "cesty/tabulky.h"
+#include "desk/menu.h"
+#include "relief/relief.h"
+#include "save/gtn.h"
+#include "zaklad/cisla.h"
+
+#include <algorithm>
+#include <array>
+#include <vector>
+
+namespace {
+
+constexpr int kDobaPrehozeni_s = 3; // a manual throw, simulated seconds
+constexpr int kZnakNaKoleji = 21;   // derailer: passable for a route
+constexpr int kZnakMimoKolej = 23;  // derailer: protecting
+
+constexpr int poloha_stavu(int stav) {
+    return stav % 50;
+}
+constexpr bool je_anglicka(int poloha) { // double slip, resting or moving
+    return poloha >= 25 && poloha < 50;
+}
+
+// Moves of one end of a double slip. Its four positions are the combinations of two ends, A on the left
+// and B on the right:
+//
+//                A plus    A minus
+//     B plus     25  29    27  32
+//     B minus    28  31    26  30
+struct Prechod {
+    int z, na;
+};
+using Prechody = std::array<Prechod, 4>;
+constexpr Prechody kPlus = {{{26, 28}, {27, 25}, {30, 31}, {32, 29}}};
+constexpr Prechody kMinus = {{{25, 27}, {28, 26}, {29, 32}, {31, 30}}};
+constexpr Prechody kPlusB = {{{26, 27}, {28, 25}, {30, 32}, {31, 29}}};
+constexpr Prechody kMinusB = {{{25, 28}, {27, 26}, {29, 31}, {32, 30}}};
+
+// No change lands on a position from which the same row would change it again, so the order of the
+// tests in a row cannot show.
+constexpr bool bez_retezu(const Prechody& prechody) {
+    for (const Prechod& a : prechody)
+        for (const Prechod& b : prechody)
+            if (a.na == b.z)
+                return false;
+    return true;
+}
+static_assert(bez_retezu(kPlus) && bez_retezu(kMinus) && bez_retezu(kPlusB) && bez_retezu(kMinusB));
+
+// Where the end A, or the end B, of a double slip stands in plus.
+constexpr bool konec_a_plus(int poloha) {
+    return poloha == 25 || poloha == 28 || poloha == 29 || poloha == 31;
+}
+constexpr bool konec_b_plus(int poloha) {
+    return poloha == 25 || poloha == 27 || poloha == 29 || poloha == 32;
+}
+
+// Ends of a double slip that can be thrown from a free position.
+struct Moznosti {
+    bool plus = false, minus = false, plus_b = false, minus_b = false;
+};
+
+constexpr Moznosti moznosti_stavu(int stav) {
+    if (je_anglicka(stav))
+        return {!konec_a_plus(stav), konec_a_plus(stav), !konec_b_plus(stav), konec_b_plus(stav)};
+    return {stav < 50 && stav % 3 == 2, stav < 50 && stav > 0 && stav % 3 == 0, false, false};
+}
+
+// Does `prace` for each partner of n that the relief holds.
+template <class Prace> void projdi_partnery(int n, Prace prace) {
+    const ZaznamVazeb* zaznam = najdi_vazby(n);
+    if (zaznam == nullptr || zaznam->vazby.empty() || zaznam->vazby.front() == kBezVazeb)
+        return;
+    const std::vector<std::uint8_t> partneri = zaznam->vazby; // the table may be read anew meanwhile
+    for (const int b : partneri)
+        if (relief.imgVyhybka.je(b))
+            prace(b);
+}
+
+// An order may be given now: the switch is free for it, and no coupled one is locked.
+Moznosti moznosti(int n) {
+    Moznosti m = moznosti_stavu(stav_vyhybky_cislo(n));
+    projdi_partnery(n, [&](int b) {
+        if (stav_vyhybky_cislo(b) > 49)
+            m = {};
+    });
+    return m;
+}
+
+void prehod_podle(int b, const Prechody& prechody) {
+    for (const Prechod& prechod : prechody)
+        if (stav_vyhybky_cislo(b) == prechod.z)
+            prehod(b, prechod.na, false, false);
+}
+
+// The end of the partner that faces the thrown switch goes where the thrown one leads: both ends of a
+// crossover lie straight, or both lie over it. Which end faces is read from the places of the pictures.
+void prehod_partnera(int n, int poloha, int b) {
+    const int cil = poloha_stavu(poloha);
+    const int stav_b = stav_vyhybky_cislo(b);
+    const bool n_je_vlevo = relief.imgVyhybka[n].vlevo() < relief.imgVyhybka[b].vlevo();
+    if (je_anglicka(cil)) {
+        const bool plus = n_je_vlevo ? konec_b_plus(cil) : konec_a_plus(cil);
+        if (!je_anglicka(stav_b))
+            prehod(b, vyhybka_obrazek(stav_b) + (plus ? 2 : 1), false, false);
+        else if (n_je_vlevo)
+            prehod_podle(b, plus ? kPlus : kMinus);
+        else
+            prehod_podle(b, plus ? kPlusB : kMinusB);
+        return;
+    }
+    const int konec = (cil - 1) % 3; // 1, 2: the end positions of the triple
+    if (!je_anglicka(stav_b))
+        prehod(b, vyhybka_obrazek(stav_b) + konec + 50 * (poloha / 50), false, false);
+    else if (konec == 1)
+        prehod_podle(b, n_je_vlevo ? kMinus : kMinusB);
+    else if (konec == 2)
+        prehod_podle(b, n_je_vlevo ? kPlus : kPlusB);
+}
+
+// --- derailers: 0 is driven by switch 202, 1 and 2 by 190 and 206
+
+bool je_na_koleji(int vykolejka) {
+    return relief.lblVykolejka.je(vykolejka) &&
+           kod_znaku(orez(relief.lblVykolejka[vykolejka].text())) == kZnakNaKoleji;
+}
+
+void vykolejka_v_pohybu(int vykolejka) {
+    if (!relief.lblVykolejka.je(vykolejka))
+        return;
+    Prvek& prvek = relief.lblVykolejka[vykolejka];
+    prvek.barva = barvy::cerna;
+    prvek.pozadi = barvy::seda;
+    prvek.ramecek = true;
+}
+
+void vykolejka_v_poloze(int vykolejka, int glyf) {
+    if (!relief.lblVykolejka.je(vykolejka))
+        return;
+    Prvek& prvek = relief.lblVykolejka[vykolejka];
+    prvek.barva = barvy::seda;
+    prvek.pozadi = barvy::cerna;
+    prvek.ramecek = false;
+    nastav_text(prvek, znak(glyf));
+}
+
+void rozjed_vykolejky(int n, int poloha) {
+    if (n == 202)
+        vykolejka_v_pohybu(0);
+    else if ((n == 190 && poloha != 6) || (n == 206 && poloha < 50)) {
+        if (je_na_koleji(1))
+            vykolejka_v_pohybu(1);
+        else if (je_na_koleji(2))
+            vykolejka_v_pohybu(2);
+    }
+}
+
+void zastav_vykolejky(int n, int stav) {
+    const int poloha = poloha_stavu(stav);
+    if (n == 202)
+        vykolejka_v_poloze(0, poloha == 24 ? kZnakNaKoleji : kZnakMimoKolej);
+    else if (n == 190 && poloha != 6)
+        vykolejka_v_poloze(je_na_koleji(1) ? 1 : 2, kZnakMimoKolej);
+    else if (n == 206)
+        vykolejka_v_poloze(poloha == 14 ? 2 : 1, kZnakMimoKolej);
+}
+
+void ukaz_obrazek(int n, int obrazek) {
+    relief.imgVyhybka[n].obrazek = na_integer(obrazek);
+    gtn_zapis(n, gtn::obraz_vyhybky, obrazek);
+}
+
+void nastav_pohyb(int n, bool pohyb) {
+    const auto index = static_cast<std::size_t>(n);
+    if (index >= stav_vyhybek.vyhybka_pohyb.size())
+        stav_vyhybek.vyhybka_pohyb.resize(index + 1);
+    stav_vyhybek.vyhybka_pohyb[index] = pohyb;
+}
+
+// The short piece of track 4 is a part of switch 14 and wears its colour.
+void obarvi_kolej_4(int stav) {
+    constexpr std::array kTridy = {barvy::seda, barvy::zelena, barvy::azurova, barvy::cervena, barvy::bila};
+    const auto trida = static_cast<std::size_t>(stav / 50);
+    if (stav >= 0 && poloha_stavu(stav) == 8 && trida < kTridy.size() && je_kolej(4))
+        barvi_prvek(4, kTridy[trida]);
+}
+
+template <PovelVyhybky Povel> void akce_hod(int n) {
+    hod_vyhybku(n, Povel);
+}
+
+} // namespace
+
+int stav_vyhybky_cislo(int n) {
+    return cele_z_textu(relief.imgVyhybka[n].stav());
+}
+
+bool vyhybka_v_pohybu(int n) {
+    return n >= 0 && static_cast<std::size_t>(n) < stav_vyhybek.vyhybka_pohyb.size() &&
+           stav_vyhybek.vyhybka_pohyb[static_cast<std::size_t>(n)];
+}
+
+int vyhybka_obrazek(int p) {
+    if (p > 100)
+        p -= 100;
+    if (p < 25)
+        return 3 * ((p - 1) / 3) + 1;
+    if (p <= 28)
+        return 33;
+    if (p <= 34)
+        return 34;
+    return 0;
+}
+
+// A plain position 3k+2 becomes 3k, the end of the triple before, and not 3k+3 of its own. This is
+// meant: after NOUZ the switch shows a shape that is none of its own, and has to be thrown again before
+// any route finds it in position.
+int nouz(int p) {
+    if (p < 25)
+        return p / 3 == 0 ? 3 : 3 * (p / 3);
+    if (p <= 28)
+        return 25;
+    if (p <= 34)
+        return 30;
+    return 0;
+}
+
+int cilova_poloha(int p, PovelVyhybky povel) {
+    const Moznosti m = moznosti_stavu(p);
+    const Prechody* prechody = nullptr;
+    switch (povel) {
+    case PovelVyhybky::plus:
+        if (!je_anglicka(p))
+            return m.plus ? p + 1 : p;
+        prechody = &kPlus;
+        break;
+    case PovelVyhybky::minus:
+        if (!je_anglicka(p))
+            return m.minus ? p - 1 : p;
+        prechody = &kMinus;
+        break;
+    case PovelVyhybky::plus_b: prechody = &kPlusB; break;
+    case PovelVyhybky::minus_b: prechody = &kMinusB; break;
+    }
+    for (const Prechod& prechod : *prechody)
+        if (prechod.z == p)
+            return prechod.na;
+    return p;
+}
+
+void prehod(int n, int poloha, bool vazby, bool vykolejky) {
+    if (stav_vyhybky_cislo(n) == poloha)
+        return;
+    ukaz_obrazek(n, vyhybka_obrazek(poloha) + 100);
+    relief.imgVyhybka[n].stav = text_cisla(poloha);
+    nastav_pohyb(n, true);
+    if (vykolejky)
+        rozjed_vykolejky(n, poloha);
+    if (vazby)
+        projdi_partnery(n, [&](int b) {
+            if (stav_vyhybky_cislo(b) < 50) // a locked partner stays as it is
+                prehod_partnera(n, poloha, b);
+        });
+}
+
+void vyhybka_stav(int n, int stav, bool vazby, bool vykolejky) {
+    ukaz_obrazek(n, stav + 100);
+    relief.imgVyhybka[n].stav = text_cisla(stav);
+    nastav_pohyb(n, false);
+    if (n == 14)
+        obarvi_kolej_4(stav);
+    if (vykolejky)
+        zastav_vykolejky(n, stav);
+    if (vazby)
+        projdi_partnery(n, [&](int b) {
+            const int stav_b = stav_vyhybky_cislo(b);
+            if (stav_b < 50)
+                vyhybka_stav(b, stav_b, false, false);
+        });
+}
+
+void menu_vyhybky(int n) {
+    const ZaznamVazeb* zaznam = najdi_vazby(n);
+    const Moznosti m = moznosti(n);
+    otevri_menu({"mnuVYHYBKA",
+                 zaznam == nullptr ? Text() : zaznam->nazev,
+                 Druh::imgVyhybka,
+                 n,
+                 {{"miPLUS", "S+", m.plus, true, akce_hod<PovelVyhybky::plus>, n},
+                  {"miMINUS", "S-", m.minus, true, akce_hod<PovelVyhybky::minus>, n},
+                  {"miPLUS_B", "S+ b", m.plus_b, true, akce_hod<PovelVyhybky::plus_b>, n},
+                  {"miMINUS_B", "S- b", m.minus_b, true, akce_hod<PovelVyhybky::minus_b>, n},
+                  {"miZAV_vyhybka", "ZAV", true, true, nullptr, n},
+                  {"miSTIT_vyhybka", "STIT", true, true, nullptr, n},
+                  {"miVYL_vyhybka", "VYL", true, true, nullptr, n},
+                  {"miMST", "MST", true, true, nullptr, n},
+                  {"miVyh_nouz", "NOUZ", true, true, vyhybka_nouz, n}}});
+}
+
+// An order that the menu offered is tested again: a route may have locked the switch while the menu was
+// open. A second throw takes the place of the pending one, and the first switch stays moving until NOUZ;
+// this is meant.
+void hod_vyhybku(int n, PovelVyhybky povel) {
+    const Moznosti m = moznosti(n);
+    const bool smi = povel == PovelVyhybky::plus     ? m.plus
+                     : povel == PovelVyhybky::minus  ? m.minus
+                     : povel == PovelVyhybky::plus_b ? m.plus_b
+                                                     : m.minus_b;
+    if (!smi)
+        return;
+    const int stav = stav_vyhybky_cislo(n);
+    stav_vyhybek.prehoz_vyhybka = na_integer(n);
+    stav_vyhybek.prehoz_cas = ted_s() + kDobaPrehozeni_s;
+    // of the four orders of a double slip only S- moves derailers
+    prehod(n, cilova_poloha(stav, povel), true, !je_anglicka(stav) || povel == PovelVyhybky::minus);
+}
+
+void vyhybka_nouz(int n) {
+    vyhybka_stav(n, nouz(poloha_stavu(stav_vyhybky_cislo(n))), false, false);
+}
