@@ -1,9 +1,8 @@
-// davka/popisy.h - the fields of each record by their own names: one list a record, for printing,
-// checking and setting.
+// davka/popisy.h - the fields of each record by their own names.
 //
-// A list is a function template `popis_poli(a, z)` with Z the record or a const record. Two archives
-// walk it: DoJsonu prints every field, NastavPole changes the one that is named. A new table needs its
-// list here and its row in vypisy.cpp, nothing else.
+// One list a record serves printing, checking and setting. It is a function template `popis_poli(a, z)`
+// with Z the record or a const record, and two archives walk it: DoJsonu prints every field, NastavPole
+// changes the one that is named. A new table needs its list here and its row in vypisy.cpp.
 #pragma once
 
 #include "cesty/cesta.h"
