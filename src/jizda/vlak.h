@@ -9,6 +9,7 @@
 
 #include "zaklad/text.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -53,6 +54,10 @@ struct Vlak {
     bool cislo2_platne = false;             // runs under cislo2 and druh2
     std::int16_t zpozdeni_vstup = 0;        // delay carried in, minutes
     std::int16_t zpozdeni = 0;              // present delay, minutes
+
+    // Derived, not saved: length of `prvky` when the stop handling last ran at the end of a route. It runs
+    // once for an arrival, else a station that stands twice in the timetable would hold the train twice.
+    std::size_t obslouzeno = 0;
 
     bool operator==(const Vlak&) const = default;
 };
