@@ -25,7 +25,9 @@ void ohlaseni(int gvd_index);
 
 // Draws the delay of the row, minutes; 0 for none.
 std::int16_t nahodne_zpozdeni(int gvd_index);
-// The row's number leaves the list of the trains that may enter.
+// The number joins the list of the trains that may enter, unless it is in it.
+void pridej_cekajici(std::int32_t cislo);
+// The row's number leaves that list.
 void vyrad_cekajici(int gvd_index);
 // The train may run. Its index; 0 also when there is no such train.
 int spust_vlak(std::int32_t cislo);
