@@ -120,14 +120,14 @@ constexpr Misto kMista[] = {
     prvek(Druh::imgV1, {0, 0, 16, 16}).skryty(), // the relief tells its place
 
     // --- command line
-    prvek(Druh::lblPrikaz, {0, 23, 0, 16}).pozadi(barvy::cerna).velikost_podle_textu().skryty(),
-    prvek(Druh::lblVolba, {0, 23, 1024, 16}).barva(barvy::cerna).pozadi(barvy::bila).skryty(),
-    prvek(Druh::txtZadav_pole, {0, 23, 400, 16})
+    prvek(Druh::lblPrikaz, {0, 25, 0, 13}).pozadi(barvy::cerna).velikost_podle_textu().skryty(),
+    prvek(Druh::lblVolba, {0, 25, 1024, 13}).barva(barvy::cerna).pozadi(barvy::bila).skryty(),
+    prvek(Druh::txtZadav_pole, {0, 23, 400, 17})
         .barva(barvy::cerna)
         .pozadi(barvy::bila)
         .skryty()
         .nepovoleny(),
-    prvek(Druh::lblMakro_pismeno, {984, 23, 40, 16}).barva(barvy::oranzova).na_stred(),
+    prvek(Druh::lblMakro_pismeno, {984, 25, 40, 13}).barva(barvy::oranzova).na_stred(),
 
     // --- signal panel
     prvek(Druh::lblNavestidlo_stanice, {930, 48, 88, 13}).na_stred(),

@@ -13,9 +13,11 @@
 #include <QCursor>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPainter>
 #include <QScrollBar>
 #include <QToolTip>
+#include <QWidgetAction>
 
 #include <cmath>
 
@@ -36,9 +38,8 @@ constexpr const char* kVzhledNabidky =
     "QMenu { background: #c8ccd0; color: #000; border: 1px solid #fff; padding: 1px; }"
     "QMenu::item { padding: 2px 14px 2px 14px; min-width: 70px; }"
     "QMenu::item:selected { background: #000080; color: #fff; }"
-    "QMenu::item:disabled { color: #8a9098; background: transparent; }"
-    "QMenu::item#hlava { background: #000080; color: #fff; }"
-    "QMenu::separator { height: 1px; background: #8a9098; margin: 1px 0; }";
+    "QMenu::item:disabled { color: #8a9098; background: transparent; }";
+constexpr const char* kVzhledHlavy = "background: #000080; color: #fff; padding: 2px 14px;";
 
 HlavniOkno* jedine = nullptr;
 
@@ -301,8 +302,13 @@ void HlavniOkno::obnov_nabidku() {
     nabidka->setStyleSheet(QLatin1String(kVzhledNabidky));
     nabidka->setFont(pismo_poli(kVyskaBunky * platno.meritko().bod() / devicePixelRatioF()));
     if (!menu.hlava.empty()) {
-        nabidka->addAction(na_qstring(menu.hlava))->setEnabled(false);
-        nabidka->addSeparator();
+        auto* hlava = new QLabel(na_qstring(menu.hlava));
+        hlava->setFont(nabidka->font());
+        hlava->setStyleSheet(QLatin1String(kVzhledHlavy));
+        auto* akce_hlavy = new QWidgetAction(nabidka);
+        akce_hlavy->setDefaultWidget(hlava);
+        akce_hlavy->setEnabled(false);
+        nabidka->addAction(akce_hlavy);
     }
     for (const PolozkaMenu& polozka : menu.polozky) {
         if (!polozka.viditelna)
