@@ -186,10 +186,43 @@ std::vector<Pruchod> pruchody(const Plan& plan, const Konec& vstup) {
             else if (t.b == vstup.port)
                 ven.push_back({{vstup.typ, vstup.cislo, t.a}, p});
         }
+        if (v->poloha < tvary::kPrvniDKS) // of a plain switch minus has the lower number
+            std::reverse(ven.begin(), ven.end());
     } else {
         ven.push_back({{vstup.typ, vstup.cislo, vstup.port == Port::vlevo ? Port::vpravo : Port::vlevo}, 0});
     }
     return ven;
+}
+
+std::vector<Krok> nejkratsi_cesta(const Plan& plan, const Graf& graf, int od, bool vpravo, int do_) {
+    struct Stav {
+        Konec vystup;
+        Krok krok;
+        std::size_t odkud;
+    };
+    std::vector<Stav> fronta; // breadth first; the way back stands in `odkud`
+    std::set<Konec> videno;
+    const auto pridej = [&](const Konec& vystup, std::size_t odkud) {
+        const auto vstup = graf.soused(vystup);
+        if (!vstup)
+            return;
+        for (const Pruchod& p : pruchody(plan, *vstup))
+            if (videno.insert(p.kam).second)
+                fronta.push_back({p.kam, {vstup->typ, vstup->cislo, p.poloha}, odkud});
+    };
+    fronta.push_back({{Typ::kolej, od, vpravo ? Port::vpravo : Port::vlevo}, {Typ::kolej, od, 0}, 0});
+    for (std::size_t i = 0; i < fronta.size(); ++i) {
+        if (i > 0 && fronta[i].krok.typ == Typ::kolej && fronta[i].krok.cislo == do_) {
+            std::vector<Krok> cesta;
+            for (std::size_t k = i; k != 0; k = fronta[k].odkud)
+                cesta.push_back(fronta[k].krok);
+            cesta.push_back(fronta[0].krok);
+            std::reverse(cesta.begin(), cesta.end());
+            return cesta;
+        }
+        pridej(Konec(fronta[i].vystup), i);
+    }
+    return {};
 }
 
 std::string okoli(const Plan& plan, const Graf& graf, Typ typ, int cislo) {

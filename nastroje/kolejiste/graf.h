@@ -29,8 +29,17 @@ struct Graf {
 // Joins all ends of the plan; ends that hang free, meet more than one other, or are closed although
 // something is joined there are faults.
 Graf sestav_graf(const Plan& plan, std::vector<Zavada>& zavady);
-// The ways on for one that enters the element by `vstup`, in the order of the switch's positions.
+// The ways on for one that enters the element by `vstup`; plus comes before minus.
 std::vector<Pruchod> pruchody(const Plan& plan, const Konec& vstup);
+// Shortest way out of the track `od` by its right end (`vpravo`) or its left one, into the track `do_`,
+// never turning back: its elements, each with the position of a switch, `od` first; empty when there is
+// none. Of equally short ways the first switch that stands in plus decides.
+struct Krok {
+    Typ typ = Typ::kolej;
+    int cislo = 0, poloha = 0;
+    bool operator==(const Krok&) const = default;
+};
+std::vector<Krok> nejkratsi_cesta(const Plan& plan, const Graf& graf, int od, bool vpravo, int do_);
 // All ends of an element.
 std::vector<Konec> konce_prvku(const Plan& plan, Typ typ, int cislo);
 // What stands around one element, a line an end; for the eye.

@@ -1,10 +1,13 @@
 // kolejiste/hlavni.cpp - tesk-kolejiste, the compiler of the junction.
 //
-//   tesk-kolejiste [--data SLOZKA] [--nahled SOUBOR.svg] [--nahled2 SOUBOR.svg] [--soused PRVEK] ZDROJ...
+//   tesk-kolejiste [--data SLOZKA] [--nahled SOUBOR.svg] [--nahled2 SOUBOR.svg] [--soused PRVEK]
+//                  [--cesta OD STRANA DO] [--chybi] ZDROJ...
 //
 // Reads all sources, reports every fault with its file and line, and writes the data files only when
 // there is none. --soused prints what stands around an element: a track "26", a switch "v14", a derailer
-// "d0". Exit status: 0; 1 the sources have faults; 2 wrong use or a file that cannot be read or written.
+// "d0"; --cesta the shortest way from a track by its side vlevo or vpravo to another; --chybi the demanded
+// numbers that are not drawn. Exit status: 0; 1 the sources have faults; 2 wrong use or a file that cannot be
+// read or written.
 #include "kolejiste/graf.h"
 #include "kolejiste/kontroly.h"
 #include "kolejiste/kresba.h"
@@ -61,7 +64,7 @@ void vypis_souhrn(const Plan& plan, const std::vector<ZaznamReliefu>& jeden, con
 
 int preloz(int argc, char** argv) {
     std::string slozka, nahled_jeden, nahled_dva;
-    std::vector<std::string> zdroje, dotazy;
+    std::vector<std::string> zdroje, dotazy, cesty;
     bool vypsat_chybejici = false;
     for (int i = 1; i < argc; ++i) {
         const std::string a = argv[i];
@@ -71,6 +74,9 @@ int preloz(int argc, char** argv) {
                                               : nullptr;
         if (a == "--chybi") {
             vypsat_chybejici = true;
+        } else if (a == "--cesta" && i + 3 < argc) {
+            cesty.insert(cesty.end(), argv + i + 1, argv + i + 4);
+            i += 3;
         } else if ((kam || a == "--soused") && i + 1 < argc) {
             ++i;
             if (kam)
@@ -86,7 +92,7 @@ int preloz(int argc, char** argv) {
     }
     if (zdroje.empty()) {
         std::fprintf(stderr, "tesk-kolejiste [--data SLOZKA] [--nahled SVG] [--nahled2 SVG] [--soused PRVEK] "
-                             "[--chybi] ZDROJ...\n");
+                             "[--cesta OD STRANA DO] [--chybi] ZDROJ...\n");
         return 2;
     }
     Plan plan;
@@ -105,7 +111,7 @@ int preloz(int argc, char** argv) {
     }
     const Graf graf = sestav_graf(plan, zavady);
     const auto jeden = nakresli(plan, Obraz::jeden, zavady), dva = nakresli(plan, Obraz::dva, zavady);
-    zkontroluj(plan, jeden, dva, zavady);
+    zkontroluj(plan, graf, jeden, dva, zavady);
 
     if (!nahled_jeden.empty() && !zapis(nahled_jeden, nahled(jeden, Obraz::jeden)))
         return 2;
@@ -119,6 +125,16 @@ int preloz(int argc, char** argv) {
                                             : Typ::kolej,
                                 std::atoi(d.c_str() + (vyhybka || vykolejka)))
                               .c_str());
+    }
+    for (std::size_t i = 0; i < cesty.size(); i += 3) {
+        for (const Krok& k : nejkratsi_cesta(plan, graf, std::atoi(cesty[i].c_str()),
+                                             cesty[i + 1] == "vpravo", std::atoi(cesty[i + 2].c_str())))
+            std::printf("%s%d%s ",
+                        k.typ == Typ::vyhybka     ? "v"
+                        : k.typ == Typ::vykolejka ? "d"
+                                                  : "",
+                        k.cislo, k.poloha ? ("." + std::to_string(k.poloha)).c_str() : "");
+        std::printf("\n");
     }
     if (vypsat_chybejici)
         for (const auto& [druh, cisla] : chybejici(plan, jeden)) {
@@ -147,7 +163,7 @@ int preloz(int argc, char** argv) {
             !zapis(s / "tesk.zpc", Bajty{}) || !zapis(s / "tesk.mak", Bajty{}))
             return 2;
     }
-    if (dotazy.empty() && !vypsat_chybejici)
+    if (dotazy.empty() && cesty.empty() && !vypsat_chybejici)
         vypis_souhrn(plan, jeden, graf);
     return 0;
 }

@@ -1,6 +1,7 @@
 // kolejiste/kontroly.cpp - what the rules of the running demand of the numbers.
 #include "kolejiste/kontroly.h"
 
+#include "kolejiste/kresba.h"
 #include "relief/relief.h"
 
 #include <algorithm>
@@ -49,6 +50,7 @@ podle_druhu(const std::vector<ZaznamReliefu>& zaznamy) {
 
 struct Kontrola {
     const Plan& plan;
+    const Graf& graf;
     std::vector<Zavada>& zavady;
     const Pozadavky& p = plan.pozadavky;
 
@@ -61,6 +63,7 @@ struct Kontrola {
     void vyhybky();
     void prejezdy();
     void kresby();
+    void poradi(Obraz obraz);
 };
 
 void Kontrola::koleje(const std::map<int, const ZaznamReliefu*>& stitky) {
@@ -193,24 +196,26 @@ void Kontrola::vyhybky() {
             i != p.trojice.end() && (v.poloha - 1) / 3 * 3 + 1 != i->second)
             zavada(v.misto, kdo, "má mít tvar " + s(i->second) + " až " + s(i->second + 2));
     }
-    // Flank: of two switches on neighbouring rows the one at the fourth corner of their rectangle counts
-    // as flank when its number is near; a number that is near by chance would block parallel routes.
-    for (const Vyhybka& a : plan.vyhybky)
-        for (const Vyhybka& b : plan.vyhybky) {
-            if (a.blok != b.blok || std::abs(a.kde.radek - b.kde.radek) != 1 ||
-                std::find(a.vazby.begin(), a.vazby.end(), b.cislo) == a.vazby.end() || a.cislo == 53 ||
-                a.cislo == 54 || a.cislo == 55)
-                continue;
-            for (const Vyhybka& n : plan.vyhybky)
-                if (n.blok == a.blok && std::abs(n.cislo - a.cislo) <= 3 &&
-                    ((n.kde.sloupec == b.kde.sloupec && n.kde.radek == a.kde.radek) ||
-                     (n.kde.sloupec == a.kde.sloupec && n.kde.radek == b.kde.radek)))
-                    zavada(n.misto, "vyhybka " + s(n.cislo),
-                           "stojí ve čtvrtém rohu spojky " + s(a.cislo) + "/" + s(b.cislo) +
-                               " a svým číslem by ji blokovala");
-        }
+    // Flank: when a route runs from a switch straight into one on the next row, the switch at the fourth
+    // corner of their rectangle counts as flank if its number is near; one that is near by chance would
+    // block parallel routes.
+    for (const auto& [konec, soused] : graf.spoje) {
+        if (konec.typ != Typ::vyhybka || soused.typ != Typ::vyhybka)
+            continue;
+        const Vyhybka &a = *plan.vyhybka(konec.cislo), &b = *plan.vyhybka(soused.cislo);
+        if (a.blok != b.blok || std::abs(a.kde.radek - b.kde.radek) != 1 || (a.cislo >= 53 && a.cislo <= 55))
+            continue;
+        for (const Vyhybka& n : plan.vyhybky)
+            if (n.blok == a.blok && std::abs(n.cislo - a.cislo) <= 3 &&
+                ((n.kde.sloupec == b.kde.sloupec && n.kde.radek == a.kde.radek) ||
+                 (n.kde.sloupec == a.kde.sloupec && n.kde.radek == b.kde.radek)))
+                zavada(n.misto, "vyhybka " + s(n.cislo),
+                       "stojí ve čtvrtém rohu výhybek " + s(a.cislo) + " a " + s(b.cislo) +
+                           " a svým číslem by je blokovala");
+    }
     if (const Vyhybka* v = plan.vyhybka(14))
-        if (const Kolej* k = plan.kolej(4); !k || k->blok != v->blok)
+        if (const auto soused = graf.soused({Typ::vyhybka, 14, tvar_vyhybky(8).b}); // its leg of minus
+            !soused || soused->typ != Typ::kolej || soused->cislo != 4)
             zavada(v->misto, "vyhybka 14", "kolej 4 se jí nedotýká");
 }
 
@@ -245,11 +250,29 @@ void Kontrola::kresby() {
                 zavada(k.misto, "sipka " + s(k.cislo), "ukazuje " + na_utf8(i->second));
 }
 
+// The direction of a route into a line is read from the places of its first and its last track.
+void Kontrola::poradi(Obraz obraz) {
+    for (const Pozadavky::Poradi& o : p.poradi)
+        for (const int a : o.a)
+            for (const int b : o.b) {
+                const Kolej *prvni = plan.kolej(a), *posledni = plan.kolej(b);
+                if (!prvni || !posledni)
+                    continue;
+                const int x1 = konce_koleje(plan, *prvni, obraz)[0].x,
+                          x2 = konce_koleje(plan, *posledni, obraz)[1].x;
+                if ((x1 <= x2) != o.zleva)
+                    zavada(prvni->misto, "kolej " + s(a),
+                           std::string("má začínat ") + (o.zleva ? "vlevo od pravého konce" : "vpravo od") +
+                               " koleje " + s(b) +
+                               (obraz == Obraz::jeden ? " (jeden monitor)" : " (dva monitory)"));
+            }
+}
+
 } // namespace
 
-void zkontroluj(const Plan& plan, const std::vector<ZaznamReliefu>& jeden,
+void zkontroluj(const Plan& plan, const Graf& graf, const std::vector<ZaznamReliefu>& jeden,
                 const std::vector<ZaznamReliefu>& dva, std::vector<Zavada>& zavady) {
-    Kontrola k{plan, zavady};
+    Kontrola k{plan, graf, zavady};
     const auto druhy = podle_druhu(jeden);
     const auto stitky = druhy.find("cislo_koleje");
     static const std::map<int, const ZaznamReliefu*> zadne;
@@ -259,6 +282,8 @@ void zkontroluj(const Plan& plan, const std::vector<ZaznamReliefu>& jeden,
     k.vyhybky();
     k.prejezdy();
     k.kresby();
+    for (const Obraz o : kObrazy)
+        k.poradi(o);
     const auto misto_cisla = [&](const std::string& druh, int n) {
         for (const Kolej& kolej : plan.koleje)
             if (kolej.cislo == n || (druh == "cislo_koleje" && kolej.cislo + 200 == n && kolej.stitky[1]))
@@ -276,7 +301,8 @@ void zkontroluj(const Plan& plan, const std::vector<ZaznamReliefu>& jeden,
                         {misto_cisla(druh, n), druh + " " + s(n), "toto číslo nesmí být použito"});
     // both pictures hold the same elements
     if (jeden.size() != dva.size())
-        zavady.push_back({{"kolejiste", 0}, "", "obrazy jednoho a dvou monitorů nemají stejné prvky"});
+        zavady.push_back(
+            {Misto{"kolejiste", 0}, std::string(), "obrazy jednoho a dvou monitorů nemají stejné prvky"});
 }
 
 std::map<std::string, std::vector<int>> chybejici(const Plan& plan, const std::vector<ZaznamReliefu>& jeden) {

@@ -65,8 +65,8 @@ Mezera mezera(const Plan& plan, const Kolej& k, Strana strana) {
         stitek = &*zapsany;
     if (strana == Strana::vpravo && k.jediny_vpravo && !k.jediny_vpravo->kde)
         stitek = &*k.jediny_vpravo;
-    if (const Navestidlo* n = plan.navestidlo_u(k.cislo, strana))
-        m.navestidlo = !n->posunove && stitek ? 2 : 1; // a main signal keeps a blank before a label
+    if (plan.navestidlo_u(k.cislo, strana))
+        m.navestidlo = stitek ? 2 : 1; // with a blank before the label
     m.stitek = stitek ? stitek->sirka : 0;
     return m;
 }
@@ -204,20 +204,20 @@ void Kreslic::kresba(const Kresba& k) {
         return;
     }
     bool napis = true;
-    int x = b.x;
+    int sirka = k.sirka * kSloupec;
+    if (k.typ == TypReliefu::nastupiste) // grows with the tracks beside it
+        sirka = bod(k, {k.kde.sloupec + k.sirka, k.kde.radek, false}).x - b.x;
     if (k.typ == TypReliefu::popis_stanice || k.typ == TypReliefu::nastupiste) {
-        z.b = twip(k.sirka * kSloupec);
+        z.b = twip(sirka);
         z.d = kRadek;
     }
     if (k.typ == TypReliefu::nastupiste) {
         z.c = twip(rada(b.y) + 50); // the reader puts it 50 higher
         napis = false;
     }
-    if (k.typ == TypReliefu::prejezd_trati) {
+    if (k.typ == TypReliefu::prejezd_trati)
         z.a = twip(b.x + kSloupec); // its first lamp stands 100 to the left
-        x = b.x;
-    }
-    zaber(k, kdo, x, rada(b.y), k.sirka * kSloupec, k.vyska * kRadek, napis);
+    zaber(k, kdo, b.x, rada(b.y), sirka, k.vyska * kRadek, napis);
     (napis ? napisy : plosne).push_back(std::move(z));
 }
 

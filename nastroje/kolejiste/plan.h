@@ -158,7 +158,15 @@ struct Pozadavky {
     std::map<int, Text> sipky;           // captions of the arrows
     std::map<int, Text> jmena;           // names of tracks
     std::map<int, int> trojice;          // first position of the shape of a switch
-    std::map<int, int> kolej_prejezdu;   // crossing record to its track
+    // Order in the picture: the left ends of `a` lie at or before the right ends of `b` (zleva), or behind
+    // them (zprava).
+    struct Poradi {
+        Misto misto;
+        bool zleva = false;
+        std::set<int> a, b;
+    };
+    std::vector<Poradi> poradi;
+    std::map<int, int> kolej_prejezdu; // crossing record to its track
 };
 
 struct Plan {

@@ -448,7 +448,7 @@ bool Veta::cti_pozadavek(const std::string& slovo_) {
             const auto po =
                 pomlcka == std::string::npos ? od : cele_cislo(std::string_view(s).substr(pomlcka + 1));
             if (!od || !po || *od > *po)
-                nezname();
+                break;
             for (int n = *od; n <= *po; ++n)
                 cisla.insert(n);
             ++dalsi;
@@ -476,6 +476,12 @@ bool Veta::cti_pozadavek(const std::string& slovo_) {
     } else if (slovo_ == "trojice") {
         const int n = cislo("výhybka");
         p.trojice[n] = cislo("první poloha");
+    } else if (slovo_ == "zleva" || slovo_ == "zprava") {
+        Pozadavky::Poradi o{misto, slovo_ == "zleva", rada(), {}};
+        if (!klic(o.zleva ? "pred" : "za"))
+            nesrozumitelne(o.zleva ? "chybí pred" : "chybí za");
+        o.b = rada();
+        p.poradi.push_back(std::move(o));
     } else if (slovo_ == "prejezd_na") {
         const int n = cislo("kolej");
         for (const int k : rada())
