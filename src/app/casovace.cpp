@@ -4,6 +4,8 @@
 #include "app/blikani.h"
 #include "app/cas.h"
 #include "app/simulace.h"
+#include "cesty/tik_volby.h"
+#include "prvky/panel.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
 #include "zaklad/cisla.h"
@@ -17,11 +19,22 @@ namespace {
 
 constexpr double K = 1000.0;            // milliseconds to a second
 constexpr double kNejvyssiPrenos = 6.0; // ms that a clock step may carry into the next one
+constexpr double kPrah_s = 1.3;         // how long the pointer rests before the panel shows the signal
 
 // Milliseconds since a mark of the tick counter, which may have wrapped in between.
 std::int32_t od_tiku(std::int32_t znacka) {
     return static_cast<std::int32_t>(static_cast<std::uint32_t>(platforma.tik_ms()) -
                                      static_cast<std::uint32_t>(znacka));
+}
+
+// The signal on which the pointer rests comes to the panel.
+void ukaz_najety_prvek() {
+    const double ted = platforma.nastenny_cas().cas_dne();
+    if (ted < simulace.posledni_pohyb) // midnight of the wall clock: the rest begins anew
+        simulace.posledni_pohyb = static_cast<std::int32_t>(ted);
+    const int s = simulace.najety_prvek;
+    if (ted - simulace.posledni_pohyb > kPrah_s && s > -1 && s != simulace.detail_navestidlo)
+        obnov_panel(s);
 }
 
 void pis_cas(const Text& cas) {
@@ -41,6 +54,7 @@ void dalsi_den() {
 
 constexpr std::array kCasovace = {
     Casovac{"tmrHodiny", "hodiny", 150, &krok_hodin},
+    Casovac{"tmrVolby", "volby", 1100, &tik_volby},
     Casovac{"tmrBlikani", "blikani", 500, &krok_blikani},
 };
 
@@ -51,7 +65,10 @@ const std::span<const Casovac> casovace{kCasovace};
 // Whole seconds are added and at most 6 ms are carried over, so that the clock runs a little slow, and at
 // speed 8 a step of 150 ms gives one second: these rates are meant.
 void krok_hodin() {
-    if (simulace.pauza || simulace.rychlost == 0)
+    if (simulace.pauza)
+        return;
+    ukaz_najety_prvek();
+    if (simulace.rychlost == 0)
         return;
     const double na_sekundu = K / simulace.rychlost;
     if (na_sekundu > od_tiku(simulace.tick_hodin))

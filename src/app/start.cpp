@@ -87,7 +87,7 @@ void oznac_pohyb() {
 }
 
 void popis_verzi() {
-    Text verze = Text("KPS RVZ TESK "_cz) + text_verze();
+    Text verze = "KPS RVZ TESK " + text_verze();
     if (je_ladeni())
         verze += Text("\r\nDEMO - pouze pro testovací účely"_cz);
     relief.lblVerze[0].text = verze;

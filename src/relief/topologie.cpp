@@ -3,6 +3,7 @@
 
 #include "app/simulace.h"
 #include "zaklad/cisla.h"
+#include "zaklad/platforma.h"
 #include "zaklad/soubory.h"
 
 #include <bitset>
@@ -14,11 +15,31 @@ constexpr std::size_t kPoleKoleje = 3; // of which the number of the element
 constexpr std::int16_t kVychoziDelka_m = 60;
 
 struct Topologie {
-    Text cesta;
+    Text slozka; // the program's folder whose file this is
     std::uint64_t otisk = 0;
+    std::int32_t tik = 0; // when the disk was asked last
+    std::uint64_t zmeny = 0;
     Delky delky{};
 };
 Topologie topologie;
+
+void obnov() {
+    const std::int32_t tik = platforma.tik_ms();
+    const std::uint64_t zmeny = vlastni_zmeny();
+    const bool stejna_slozka = topologie.slozka == simulace.cesta_aplikace;
+    if (topologie.otisk != 0 && stejna_slozka && topologie.tik == tik && topologie.zmeny == zmeny)
+        return;
+    const Text cesta = simulace.cesta_aplikace + "data\\tesk.top";
+    const std::uint64_t otisk = otisk_souboru(cesta);
+    if (otisk == 0 || otisk != topologie.otisk || !stejna_slozka) {
+        topologie.otisk = 0; // a fault below leaves no table behind
+        topologie.delky = delky_kolejiste(nacti_soubor(cesta));
+    }
+    topologie.slozka = simulace.cesta_aplikace;
+    topologie.otisk = otisk;
+    topologie.tik = tik;
+    topologie.zmeny = zmeny;
+}
 
 } // namespace
 
@@ -39,10 +60,7 @@ Delky delky_kolejiste(std::span<const std::uint8_t> bajty) {
 }
 
 std::int16_t delka_koleje(int kolej) {
-    const Text cesta = simulace.cesta_aplikace + "data\\tesk.top";
-    const std::uint64_t otisk = otisk_souboru(cesta);
-    if (otisk == 0 || otisk != topologie.otisk || cesta != topologie.cesta)
-        topologie = {cesta, otisk, delky_kolejiste(nacti_soubor(cesta))};
+    obnov();
     if (kolej < 0 || kolej > kNejvyssiPrvek)
         return kVychoziDelka_m;
     return topologie.delky[static_cast<std::size_t>(kolej)];

@@ -8,8 +8,9 @@
 #include <span>
 
 // Length of the element in metres by data\tesk.top: the first record with its number; 60 when there is
-// none or when it says 0. The file is read again only when it has changed on disk. A missing file is
-// the run-time error 53.
+// none or when it says 0. A missing file is the run-time error 53. Whether the file has changed on disk
+// is asked once a tick of the platform's counter, and after every file that the program itself writes: a
+// movement step asks for thousands of lengths.
 std::int16_t delka_koleje(int kolej);
 
 // Lengths of all elements, by number.

@@ -43,12 +43,20 @@ std::string jmeno_ve_slozce(const std::string& slozka, TextPohled jmeno) {
     return nejlepsi;
 }
 
-// Walks the path part by part; `uplna` tells whether every part was found.
-std::string rozres(TextPohled cesta, bool& uplna) {
+// The path with the disk's slashes. Of a name with a zero byte the disk would take the part before it:
+// such a name is none, like the empty one.
+std::string s_lomitky(TextPohled cesta) {
+    if (cesta.find('\0') != TextPohled::npos)
+        return {};
     std::string prosta(cesta);
     std::replace(prosta.begin(), prosta.end(), '\\', '/');
-    // An empty name is none; of one with a zero byte the disk would take the part before it.
-    uplna = !prosta.empty() && prosta.find('\0') == std::string::npos;
+    return prosta;
+}
+
+// Walks the path part by part; `uplna` tells whether every part was found.
+std::string rozres(TextPohled cesta, bool& uplna) {
+    std::string prosta = s_lomitky(cesta);
+    uplna = !prosta.empty();
     if (uplna && je_na_disku(prosta))
         return prosta;
     std::string hotovo;
@@ -79,6 +87,19 @@ struct Zavirac {
     int soubor;
     ~Zavirac() { ::close(soubor); }
 };
+
+// What the disk tells of a file or folder; nothing when it is missing.
+std::optional<struct stat> udaje(TextPohled cesta) {
+    struct stat st {};
+    if (::stat(s_lomitky(cesta).c_str(), &st) == 0)
+        return st;
+    const auto nalezena = najdi_soubor(cesta);
+    if (nalezena && ::stat(nalezena->c_str(), &st) == 0)
+        return st;
+    return std::nullopt;
+}
+
+std::uint64_t zmeny = 0;
 
 [[noreturn]] void chyba_zapisu(TextPohled cesta, int duvod) {
     switch (duvod) {
@@ -121,11 +142,10 @@ bool soubor_existuje(TextPohled cesta) {
 }
 
 std::optional<std::int64_t> delka_souboru(TextPohled cesta) {
-    const auto nalezena = najdi_soubor(cesta);
-    struct stat st {};
-    if (!nalezena || ::stat(nalezena->c_str(), &st) != 0 || !S_ISREG(st.st_mode))
+    const auto st = udaje(cesta);
+    if (!st || !S_ISREG(st->st_mode))
         return std::nullopt;
-    return st.st_size;
+    return st->st_size;
 }
 
 Bajty nacti_soubor(TextPohled cesta) {
@@ -159,6 +179,7 @@ Bajty nacti_soubor(TextPohled cesta) {
 }
 
 void zapis_soubor(TextPohled cesta, const Bajty& obsah) {
+    ++zmeny;
     const std::string cil = cesta_k_zapisu(cesta);
     const std::string docasny = cil + ".nove";
     const int soubor = ::open(docasny.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
@@ -195,6 +216,7 @@ bool zaloz_slozku(TextPohled cesta) {
 }
 
 bool smaz_soubor(TextPohled cesta) {
+    ++zmeny;
     const auto nalezena = najdi_soubor(cesta);
     return nalezena && ::unlink(nalezena->c_str()) == 0;
 }
@@ -220,22 +242,24 @@ std::vector<Text> soubory_slozky(TextPohled slozka, TextPohled vzor) {
 }
 
 std::optional<std::int64_t> cas_zmeny(TextPohled cesta) {
-    const auto nalezena = najdi_soubor(cesta);
-    struct stat st {};
-    if (!nalezena || ::stat(nalezena->c_str(), &st) != 0)
+    const auto st = udaje(cesta);
+    if (!st)
         return std::nullopt;
     std::tm mistni{};
-    ::localtime_r(&st.st_mtime, &mistni);
-    return static_cast<std::int64_t>(st.st_mtime) + mistni.tm_gmtoff;
+    ::localtime_r(&st->st_mtime, &mistni);
+    return static_cast<std::int64_t>(st->st_mtime) + mistni.tm_gmtoff;
 }
 
 std::uint64_t otisk_souboru(TextPohled cesta) {
-    const auto nalezena = najdi_soubor(cesta);
-    struct stat st {};
-    if (!nalezena || ::stat(nalezena->c_str(), &st) != 0)
+    const auto st = udaje(cesta);
+    if (!st)
         return 0;
-    const auto nanosekundy = static_cast<std::uint64_t>(st.st_mtim.tv_sec) * 1'000'000'000u +
-                             static_cast<std::uint64_t>(st.st_mtim.tv_nsec);
-    return (nanosekundy * 1'000'003u) ^ static_cast<std::uint64_t>(st.st_size) ^
-           (static_cast<std::uint64_t>(st.st_ino) << 40);
+    const auto nanosekundy = static_cast<std::uint64_t>(st->st_mtim.tv_sec) * 1'000'000'000u +
+                             static_cast<std::uint64_t>(st->st_mtim.tv_nsec);
+    return (nanosekundy * 1'000'003u) ^ static_cast<std::uint64_t>(st->st_size) ^
+           (static_cast<std::uint64_t>(st->st_ino) << 40);
+}
+
+std::uint64_t vlastni_zmeny() {
+    return zmeny;
 }

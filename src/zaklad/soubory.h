@@ -42,3 +42,6 @@ std::optional<std::int64_t> cas_zmeny(TextPohled cesta);
 // A mark that changes when the file does (time and length): for caches of tables that the rules read
 // anew at each use. 0 when the file is missing.
 std::uint64_t otisk_souboru(TextPohled cesta);
+// How many files this process has written or removed so far: for caches that look at the disk only now
+// and then.
+std::uint64_t vlastni_zmeny();

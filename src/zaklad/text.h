@@ -95,9 +95,12 @@ template <std::size_t N> struct Literal {
 
 } // namespace cp1250
 
-// "pondělí"_cz: the literal in code page 1250, static storage.
-template <cp1250::Literal L> constexpr TextPohled operator""_cz() {
-    return TextPohled(L.bajty.data(), L.delka);
+template <cp1250::Literal L> inline constexpr TextPohled kLiteral{L.bajty.data(), L.delka};
+
+// "pondělí"_cz: the literal in code page 1250, static storage. A reference, because clang 14 crashes over a
+// temporary that comes from such an operator.
+template <cp1250::Literal L> constexpr const TextPohled& operator""_cz() {
+    return kLiteral<L>;
 }
 
 // Unicode text (UTF-8) of a text of the core.

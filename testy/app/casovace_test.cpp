@@ -188,18 +188,54 @@ TEST_F(Hodiny, PeriodicSaveIsNamedByWallClockAndSimulatedTime) {
     EXPECT_EQ(soubor_autosave(), "C:\\TESK\\save\\autosave\\autosave_260307_090502_060430.sim");
 }
 
-TEST_F(Hodiny, PointerStandingOverASignalKeepsTheTimeOfItsLastMove) {
-    svet.cas = {2026, 3, 7, 9, 5, 2, 900};
-    pohyb_mysi();
-    EXPECT_EQ(simulace.posledni_pohyb, 9 * 3600 + 5 * 60 + 2);
+TEST_F(Hodiny, SignalOnWhichThePointerRestsComesToThePanel) {
+    relief.navestidlo.zaloz(262).popis = TextPohled("BOR S262");
+    najeti(Druh::navestidlo, 262);
+    krok(1300);
+    EXPECT_EQ(simulace.detail_navestidlo, -3);
+    krok(100);
+    EXPECT_EQ(simulace.detail_navestidlo, 262);
 }
 
-TEST_F(Hodiny, TimersRunClockFirstAndBlinkingLast) {
-    ASSERT_GE(casovace.size(), 2u);
+TEST_F(Hodiny, PointerThatMovesShowsNothing) {
+    relief.navestidlo.zaloz(262);
+    najeti(Druh::navestidlo, 262);
+    for (int i = 0; i < 10; ++i) {
+        krok(1000);
+        pohyb_mysi();
+    }
+    EXPECT_EQ(simulace.detail_navestidlo, -3);
+}
+
+TEST_F(Hodiny, RestOfThePointerIsCountedAnewAtMidnightOfTheWallClock) {
+    relief.navestidlo.zaloz(262);
+    svet.cas = {2026, 1, 5, 23, 59, 59, 900};
+    najeti(Druh::navestidlo, 262);
+    krok(1000); // 0:00:00.9
+    EXPECT_EQ(simulace.detail_navestidlo, -3);
+    krok(500);
+    EXPECT_EQ(simulace.detail_navestidlo, 262);
+}
+
+TEST_F(Hodiny, TimersRunClockFirstThenRoutesAndBlinkingLast) {
+    ASSERT_GE(casovace.size(), 3u);
     EXPECT_EQ(casovace.front().jmeno, "tmrHodiny");
     EXPECT_EQ(casovace.front().perioda_ms, 150);
+    EXPECT_EQ(casovace[casovace.size() - 2].jmeno, "tmrVolby");
+    EXPECT_EQ(casovace[casovace.size() - 2].perioda_ms, 1100);
     EXPECT_EQ(casovace.back().jmeno, "tmrBlikani");
     EXPECT_EQ(casovace.back().perioda_ms, 500);
+}
+
+TEST_F(Hodiny, TimersDoNothingInAPause) {
+    zastav_hodiny();
+    simulace.pn_bezi = true;
+    svet.posun_ms(60'000);
+    const Relief pred = relief;
+    for (const Casovac& c : casovace)
+        c.telo();
+    EXPECT_EQ(relief, pred);
+    EXPECT_TRUE(svet.pipnuti.empty());
 }
 
 } // namespace

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdlib>
 #include <filesystem>
 #include <fstream>
 
@@ -33,10 +34,10 @@ Bajty soubor(const std::vector<GvdVlak>& radky) {
 
 class Gvd : public testing::Test {
 protected:
-    std::string slozka = testing::TempDir() + "tesk_gvd_test";
+    std::string slozka = testing::TempDir() + "tesk-gvd-XXXXXX"; // tests run side by side
 
     void SetUp() override {
-        std::filesystem::create_directories(slozka);
+        ASSERT_NE(::mkdtemp(slozka.data()), nullptr);
         simulace.soubor_gvd = slozka + "\\GVD\\Zkouska.DAT";
         std::filesystem::create_directories(slozka + "/gvd");
     }

@@ -94,10 +94,8 @@ struct VirtualniPlatforma {
 
     // A file of the program's folder; the folders on its way are made.
     void zapis(const std::string& jmeno, const Bajty& obsah) const {
-        const std::filesystem::path misto = koren / jmeno;
-        std::filesystem::create_directories(misto.parent_path());
-        std::ofstream soubor(misto, std::ios::binary);
-        soubor.write(reinterpret_cast<const char*>(obsah.data()), static_cast<std::streamsize>(obsah.size()));
+        std::filesystem::create_directories((koren / jmeno).parent_path());
+        zapis_soubor((koren / jmeno).string(), obsah);
     }
     void zapis(const std::string& jmeno, TextPohled obsah) const {
         zapis(jmeno, Bajty(obsah.begin(), obsah.end()));

@@ -2,8 +2,12 @@
 #include "pomocne/male_kolejiste.h"
 #include "relief/topologie.h"
 #include "zaklad/chyba.h"
+#include "zaklad/platforma.h"
 
 #include <gtest/gtest.h>
+
+#include <algorithm>
+#include <fstream>
 
 namespace {
 
@@ -80,6 +84,19 @@ TEST_F(Topologie, ChangedFileGivesTheNewAnswer) {
         pis("062" + text_cisla_mist(metry, 4));
         ASSERT_EQ(delka_koleje(62), metry);
     }
+}
+
+TEST_F(Topologie, FileChangedByAnotherProgramIsSeenAtTheNextTick) {
+    std::int32_t tik = 1;
+    platforma.tik_ms = [&] { return tik; };
+    pis("0620100");
+    EXPECT_EQ(delka_koleje(62), 100);
+    Text na_disku = slozka.cesta + "data/tesk.top";
+    std::replace(na_disku.begin(), na_disku.end(), '\\', '/');
+    std::ofstream(na_disku) << "0620200   ";
+    ++tik;
+    EXPECT_EQ(delka_koleje(62), 200);
+    platforma = prazdna_platforma();
 }
 
 TEST_F(Topologie, OtherFolderGivesItsOwnAnswer) {

@@ -1,0 +1,180 @@
+// kolejiste/hlavni.cpp - tesk-kolejiste, the compiler of the junction.
+//
+//   tesk-kolejiste [--data SLOZKA] [--nahled SOUBOR.svg] [--nahled2 SOUBOR.svg] [--soused PRVEK]
+//                  [--cesta OD STRANA DO] [--chybi] ZDROJ...
+//
+// Reads all sources, reports every fault with its file and line, and writes the data files only when
+// there is none. --soused prints what stands around an element: a track "26", a switch "v14", a derailer
+// "d0"; --cesta the shortest way from a track by its side vlevo or vpravo to another; --chybi the demanded
+// numbers that are not drawn. Exit status: 0; 1 the sources have faults; 2 wrong use or a file that cannot be
+// read or written.
+#include "kolejiste/graf.h"
+#include "kolejiste/kontroly.h"
+#include "kolejiste/kresba.h"
+#include "kolejiste/vystup.h"
+#include "zaklad/chyba.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <cstdlib>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+using namespace kolejiste;
+
+namespace {
+
+bool zapis(const std::filesystem::path& kam, std::string_view obsah) {
+    std::ofstream f(kam, std::ios::binary);
+    f.write(obsah.data(), static_cast<std::streamsize>(obsah.size()));
+    f.close();
+    if (!f)
+        std::fprintf(stderr, "%s: nelze zapsat\n", kam.c_str());
+    return static_cast<bool>(f);
+}
+
+bool zapis(const std::filesystem::path& kam, const Bajty& obsah) {
+    return zapis(kam, std::string_view(reinterpret_cast<const char*>(obsah.data()), obsah.size()));
+}
+
+void vypis_souhrn(const Plan& plan, const std::vector<ZaznamReliefu>& jeden, const Graf& graf) {
+    std::printf("%-6s %-24s %6s %9s %8s %8s\n", "kód", "název", "koleje", "návěstidla", "výhybky", "délka m");
+    for (std::size_t b = 0; b < plan.bloky.size(); ++b) {
+        int koleje = 0, navestidla = 0, vyhybky = 0, delka = 0;
+        for (const Kolej& k : plan.koleje)
+            if (k.blok == b)
+                ++koleje, delka += k.delka.value_or(0);
+        for (const Navestidlo& n : plan.navestidla)
+            navestidla += n.blok == b;
+        for (const Vyhybka& v : plan.vyhybky)
+            vyhybky += v.blok == b;
+        std::printf("%-6s %-24s %6d %9d %8d %8d\n", plan.bloky[b].kod.c_str(), plan.bloky[b].nazev.c_str(),
+                    koleje, navestidla, vyhybky, delka);
+    }
+    std::printf("záznamů reliefu %zu, spojů %zu\n", jeden.size(), graf.spoje.size() / 2);
+    std::size_t povinnych = 0, chybi = 0;
+    for (const auto& [druh, cisla] : plan.pozadavky.povinne)
+        povinnych += cisla.size();
+    for (const auto& [druh, cisla] : chybejici(plan, jeden))
+        chybi += cisla.size();
+    if (povinnych)
+        std::printf("z %zu povinných čísel jich %zu ještě není nakresleno\n", povinnych, chybi);
+}
+
+int preloz(int argc, char** argv) {
+    std::string slozka, nahled_jeden, nahled_dva;
+    std::vector<std::string> zdroje, dotazy, cesty;
+    bool vypsat_chybejici = false;
+    for (int i = 1; i < argc; ++i) {
+        const std::string a = argv[i];
+        std::string* kam = a == "--data"      ? &slozka
+                           : a == "--nahled"  ? &nahled_jeden
+                           : a == "--nahled2" ? &nahled_dva
+                                              : nullptr;
+        if (a == "--chybi") {
+            vypsat_chybejici = true;
+        } else if (a == "--cesta" && i + 3 < argc) {
+            cesty.insert(cesty.end(), argv + i + 1, argv + i + 4);
+            i += 3;
+        } else if ((kam || a == "--soused") && i + 1 < argc) {
+            ++i;
+            if (kam)
+                *kam = argv[i];
+            else
+                dotazy.emplace_back(argv[i]);
+        } else if (a.starts_with("--")) {
+            std::fprintf(stderr, "neznámá volba %s\n", a.c_str());
+            return 2;
+        } else {
+            zdroje.push_back(a);
+        }
+    }
+    if (zdroje.empty()) {
+        std::fprintf(stderr, "tesk-kolejiste [--data SLOZKA] [--nahled SVG] [--nahled2 SVG] [--soused PRVEK] "
+                             "[--cesta OD STRANA DO] [--chybi] ZDROJ...\n");
+        return 2;
+    }
+    Plan plan;
+    std::vector<Zavada> zavady;
+    for (const std::string& zdroj : zdroje) {
+        std::ifstream f(zdroj, std::ios::binary);
+        std::ostringstream text;
+        text << f.rdbuf();
+        if (!f) {
+            std::fprintf(stderr, "%s: nelze přečíst\n", zdroj.c_str());
+            return 2;
+        }
+        // in messages the source is named from its own folder
+        const std::filesystem::path cesta(zdroj);
+        precti(text.str(), (cesta.parent_path().filename() / cesta.filename()).string(), plan, zavady);
+    }
+    const Graf graf = sestav_graf(plan, zavady);
+    const auto jeden = nakresli(plan, Obraz::jeden, zavady), dva = nakresli(plan, Obraz::dva, zavady);
+    zkontroluj(plan, graf, jeden, dva, zavady);
+
+    if (!nahled_jeden.empty() && !zapis(nahled_jeden, nahled(jeden, Obraz::jeden)))
+        return 2;
+    if (!nahled_dva.empty() && !zapis(nahled_dva, nahled(dva, Obraz::dva)))
+        return 2;
+    for (const std::string& d : dotazy) {
+        const bool vyhybka = d.starts_with('v'), vykolejka = d.starts_with('d');
+        std::printf("%s", okoli(plan, graf,
+                                vyhybka     ? Typ::vyhybka
+                                : vykolejka ? Typ::vykolejka
+                                            : Typ::kolej,
+                                std::atoi(d.c_str() + (vyhybka || vykolejka)))
+                              .c_str());
+    }
+    for (std::size_t i = 0; i < cesty.size(); i += 3) {
+        for (const Krok& k : nejkratsi_cesta(plan, graf, std::atoi(cesty[i].c_str()),
+                                             cesty[i + 1] == "vpravo", std::atoi(cesty[i + 2].c_str())))
+            std::printf("%s%d%s ",
+                        k.typ == Typ::vyhybka     ? "v"
+                        : k.typ == Typ::vykolejka ? "d"
+                                                  : "",
+                        k.cislo, k.poloha ? ("." + std::to_string(k.poloha)).c_str() : "");
+        std::printf("\n");
+    }
+    if (vypsat_chybejici)
+        for (const auto& [druh, cisla] : chybejici(plan, jeden)) {
+            std::printf("%s:", druh.c_str());
+            for (const int n : cisla)
+                std::printf(" %d", n);
+            std::printf("\n");
+        }
+    if (!zavady.empty()) {
+        std::stable_sort(zavady.begin(), zavady.end(), [](const Zavada& a, const Zavada& b) {
+            return std::tie(a.misto.soubor, a.misto.radek) < std::tie(b.misto.soubor, b.misto.radek);
+        });
+        for (const Zavada& z : zavady)
+            std::fprintf(stderr, "%s\n", veta(z).c_str());
+        std::fprintf(stderr, "%zu závad\n", zavady.size());
+        return 1;
+    }
+    if (!slozka.empty()) {
+        std::error_code potiz;
+        std::filesystem::create_directories(slozka, potiz);
+        const std::filesystem::path s(slozka);
+        if (!zapis(s / "tesk.rea", soubor_reliefu(jeden, "Tesk, jeden monitor")) ||
+            !zapis(s / "tesk.reb", soubor_reliefu(dva, "Tesk, dva monitory")) ||
+            !zapis(s / "tesk.top", soubor_delek(plan)) || !zapis(s / "tesk.pzz", soubor_prejezdu(plan)) ||
+            !zapis(s / "tesk.stg", soubor_vazeb(plan)) || !zapis(s / "tesk.zat", Bajty{}) ||
+            !zapis(s / "tesk.zpc", Bajty{}) || !zapis(s / "tesk.mak", Bajty{}))
+            return 2;
+    }
+    if (dotazy.empty() && cesty.empty() && !vypsat_chybejici)
+        vypis_souhrn(plan, jeden, graf);
+    return 0;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    try {
+        return preloz(argc, argv);
+    } catch (const std::exception& potiz) {
+        std::fprintf(stderr, "tesk-kolejiste: %s\n", potiz.what());
+        return 2;
+    }
+}

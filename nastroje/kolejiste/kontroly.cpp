@@ -1,0 +1,318 @@
+// kolejiste/kontroly.cpp - what the rules of the running demand of the numbers.
+#include "kolejiste/kontroly.h"
+
+#include "kolejiste/kresba.h"
+#include "relief/relief.h"
+
+#include <algorithm>
+#include <cstdlib>
+
+namespace kolejiste {
+
+namespace {
+
+std::string s(int n) {
+    return std::to_string(n);
+}
+
+// Name of the kind that a record makes; empty for painted texts.
+std::string druh_zaznamu(std::uint8_t typ) {
+    switch (static_cast<TypReliefu>(typ)) {
+    case TypReliefu::kolej: return "kolej";
+    case TypReliefu::navestidlo: return "navestidlo";
+    case TypReliefu::cislo_koleje: return "cislo_koleje";
+    case TypReliefu::cil: return "Image1";
+    case TypReliefu::navestidlo_ser: return "navestidlo_ser";
+    case TypReliefu::prejezd_stanice: return "lblPrejezd";
+    case TypReliefu::prejezd_trati: return "lblPrejezdy";
+    case TypReliefu::most: return "most";
+    case TypReliefu::nastupiste: return "lblnastupiste";
+    case TypReliefu::stanoviste: return "imgStanoviste";
+    case TypReliefu::popis_stanice: return "popis_stanice";
+    case TypReliefu::vyhybka: return "imgVyhybka";
+    case TypReliefu::souhlas: return "lblSouhlas";
+    case TypReliefu::smer_trati: return "lblSouhlas2";
+    case TypReliefu::vykolejka: return "lblVykolejka";
+    case TypReliefu::napis_zarazedla:
+    case TypReliefu::napis_navestidla: break;
+    }
+    return {};
+}
+
+std::map<std::string, std::map<int, const ZaznamReliefu*>>
+podle_druhu(const std::vector<ZaznamReliefu>& zaznamy) {
+    std::map<std::string, std::map<int, const ZaznamReliefu*>> druhy;
+    for (const ZaznamReliefu& z : zaznamy)
+        if (const std::string d = druh_zaznamu(z.typ); !d.empty())
+            druhy[d][z.cislo] = &z;
+    return druhy;
+}
+
+struct Kontrola {
+    const Plan& plan;
+    const Graf& graf;
+    std::vector<Zavada>& zavady;
+    const Pozadavky& p = plan.pozadavky;
+
+    void zavada(const Misto& kde, std::string kdo, std::string text) {
+        zavady.push_back({kde, std::move(kdo), std::move(text)});
+    }
+    void koleje(const std::map<int, const ZaznamReliefu*>& stitky);
+    void rodiny(const std::map<std::string, std::map<int, const ZaznamReliefu*>>& druhy);
+    void navestidla();
+    void vyhybky();
+    void prejezdy();
+    void kresby();
+    void poradi(Obraz obraz);
+};
+
+void Kontrola::koleje(const std::map<int, const ZaznamReliefu*>& stitky) {
+    // numbers from 600 on that are known: sections of lines and second drawings of them
+    std::set<int> znama;
+    if (const auto i = p.povinne.find("kolej"); i != p.povinne.end())
+        znama = i->second;
+    for (const Kolej& k : plan.koleje) {
+        const std::string kdo = (k.vzor ? "obraz " : "kolej ") + s(k.cislo);
+        if (k.cislo >= 600 && !znama.contains(k.cislo))
+            zavada(k.misto, kdo, "čísla od 600 patří jen oddílům tratí");
+        const int vzor_podle_cisla = [&] {
+            for (const auto& [vzor, obrazy] : p.obrazy)
+                if (obrazy.contains(k.cislo))
+                    return vzor;
+            return -1;
+        }();
+        if (k.vzor && vzor_podle_cisla != *k.vzor)
+            zavada(k.misto, kdo, "kolej " + s(*k.vzor) + " takový obraz nemá");
+        if (!k.vzor && vzor_podle_cisla >= 0)
+            zavada(k.misto, kdo, "toto číslo je jen obrazem koleje " + s(vzor_podle_cisla));
+        if (const auto i = p.nejmensi_delka.find(k.cislo); i != p.nejmensi_delka.end() && !k.vzor) {
+            if (!k.delka)
+                zavada(k.misto, kdo, "chybí délka, nejméně " + s(i->second) + " m");
+            else if (*k.delka < i->second)
+                zavada(k.misto, kdo, "délka " + s(*k.delka) + " m je menší než " + s(i->second) + " m");
+        }
+        if (k.cil && k.cil->size() < 5)
+            zavada(k.misto, kdo, "název cíle má být kód stanice, mezera a jméno");
+        if (k.cil && k.cislo < 600 && !stitky.contains(k.cislo))
+            zavada(k.misto, kdo, "konec cest potřebuje štítek s názvem");
+        if (const auto i = p.jmena.find(k.cislo);
+            i != p.jmena.end() && k.stitky[0] && k.stitky[0]->nazev != i->second)
+            zavada(k.misto, kdo, "jmenuje se \"" + na_utf8(i->second) + "\"");
+        // A train that enters the track n is put down on the label n, whatever that label belongs to.
+        // Only the line ends 212, 213 and 219 have a label of their own that stands apart.
+        const bool jen_usek = !k.stitky[0] && !k.jediny_vpravo && !k.vzor && k.cislo < 600 &&
+                              k.cislo != 212 && k.cislo != 213 && k.cislo != 219;
+        if (jen_usek && stitky.contains(k.cislo))
+            zavada(k.misto, kdo, "štítek " + s(k.cislo) + " patří něčemu jinému, vlak by se na něj zapsal");
+        if (k.cislo < 200 && k.stitky[0] && stitky.contains(k.cislo + 200) &&
+            stitky.at(k.cislo + 200)->nazev != k.stitky[0]->nazev && !k.stitky[1] && k.cislo != 12 &&
+            k.cislo != 13 && k.cislo != 19)
+            zavada(k.misto, kdo,
+                   "štítek " + s(k.cislo + 200) + " by platil za její druhý a jmenuje se jinak");
+    }
+    // 212, 213 and 219 are the line ends of the neighbours, never the second labels of 12, 13 and 19
+    for (const int n : {12, 13, 19, 84, 85})
+        if (const Kolej* k = plan.kolej(n); k && k->stitky[1])
+            zavada(k->misto, "kolej " + s(n), "nesmí mít druhý štítek");
+}
+
+void Kontrola::rodiny(const std::map<std::string, std::map<int, const ZaznamReliefu*>>& druhy) {
+    const auto je = [&](const char* druh, int n) {
+        const auto i = druhy.find(druh);
+        return i != druhy.end() && i->second.contains(n);
+    };
+    for (int b = 600; b < 650; ++b) {
+        const Kolej* prvni = plan.kolej(b);
+        if (!prvni)
+            continue;
+        for (const int n : {b, b + 1})
+            if (!je("navestidlo", n))
+                zavada(prvni->misto, "kolej " + s(b), "trať nemá návěstidlo " + s(n));
+        if (!je("lblSouhlas2", b))
+            zavada(prvni->misto, "kolej " + s(b), "trať nemá šipku směru");
+        if (!je("cislo_koleje", b))
+            zavada(prvni->misto, "kolej " + s(b), "trať nemá štítek čísla vlaku");
+        // the sections follow one another from left to right
+        for (int n = b; n + 50 <= kNejvyssiPrvek; n += 50) {
+            const Kolej *a = plan.kolej(n), *c = plan.kolej(n + 50);
+            if (c && !a)
+                zavada(c->misto, "kolej " + s(n + 50), "trati chybí oddíl " + s(n));
+            if (a && c && a->blok == c->blok && a->konce[1] != c->konce[0])
+                zavada(c->misto, "kolej " + s(n + 50), "oddíl nenavazuje zprava na oddíl " + s(n));
+        }
+    }
+}
+
+void Kontrola::navestidla() {
+    std::map<Text, const Navestidlo*> jmena;
+    for (const Navestidlo& n : plan.navestidla) {
+        const std::string kdo = (n.posunove ? "posunove " : "navestidlo ") + s(n.cislo);
+        if (n.cislo == 500)
+            zavada(n.misto, kdo, "číslo 500 není ani hlavní, ani posunové");
+        if (je_na_ser(n.cislo) != n.posunove)
+            zavada(n.misto, kdo,
+                   n.posunove ? "posunová jsou 501 až 599 a od 700" : "toto číslo patří posunovým");
+        if (n.jmeno.size() < 5)
+            zavada(n.misto, kdo, "jméno má být kód stanice, mezera a vlastní jméno");
+        const auto [jine, nove] = jmena.try_emplace(n.jmeno, &n);
+        if (!nove)
+            zavada(n.misto, kdo, "jméno \"" + na_utf8(n.jmeno) + "\" už nese " + s(jine->second->cislo));
+        // The facing follows from the number and must agree with the glyph.
+        const int x = n.cislo;
+        const bool vzdy_vpravo =
+            x == 225 || x == 317 || x == 318 || x == 519 || x == 520 || x == 576 || x == 577;
+        bool vpravo = (x >= 200 && x < 400) || (x >= 600 && x < 700 && x % 2 == 1) || x == 998 || x >= 700 ||
+                      x == 115 || x == 116 || vzdy_vpravo;
+        if (x >= 400 && x < 500)
+            vpravo = n.strana == Strana::vpravo; // these numbers are free
+        if (x == 511 || x == 513)
+            vpravo = n.strana == Strana::vpravo;
+        if (vpravo != (n.strana == Strana::vpravo))
+            zavada(n.misto, kdo, std::string("podle čísla platí ") + (vpravo ? "doprava" : "doleva"));
+        const bool znak_vpravo = n.posunove ? n.znak == 240 || n.znak == 242 : n.znak == 229 || n.znak == 227;
+        const bool znak_vlevo = n.posunove ? !znak_vpravo : n.znak == 230;
+        if (!vzdy_vpravo && !(vpravo ? znak_vpravo : znak_vlevo))
+            zavada(n.misto, kdo, "znak " + s(n.znak) + " neplatí " + (vpravo ? "doprava" : "doleva"));
+    }
+}
+
+void Kontrola::vyhybky() {
+    std::map<Text, const Vyhybka*> jmena;
+    for (const Vyhybka& v : plan.vyhybky) {
+        const std::string kdo = "vyhybka " + s(v.cislo);
+        if (v.jmeno.find('/') != std::string::npos)
+            zavada(v.misto, kdo, "lomítko ve jménu dělí jména spojených výhybek");
+        const auto [jina, nova] = jmena.try_emplace(velka_pismena(z_utf8(v.jmeno)), &v);
+        if (!nova)
+            zavada(v.misto, kdo, "jméno \"" + v.jmeno + "\" už nese výhybka " + s(jina->second->cislo));
+        for (const int n : v.vazby) {
+            const Vyhybka* druha = plan.vyhybka(n);
+            if (!druha)
+                zavada(v.misto, kdo, "spojená výhybka " + s(n) + " není");
+            else if (std::find(druha->vazby.begin(), druha->vazby.end(), v.cislo) == druha->vazby.end())
+                zavada(v.misto, kdo, "výhybka " + s(n) + " o spojení neví");
+        }
+        if (const auto i = p.trojice.find(v.cislo);
+            i != p.trojice.end() && (v.poloha - 1) / 3 * 3 + 1 != i->second)
+            zavada(v.misto, kdo, "má mít tvar " + s(i->second) + " až " + s(i->second + 2));
+    }
+    // Flank: when a route runs from a switch straight into one on the next row, the switch at the fourth
+    // corner of their rectangle counts as flank if its number is near; one that is near by chance would
+    // block parallel routes.
+    for (const auto& [konec, soused] : graf.spoje) {
+        if (konec.typ != Typ::vyhybka || soused.typ != Typ::vyhybka)
+            continue;
+        const Vyhybka &a = *plan.vyhybka(konec.cislo), &b = *plan.vyhybka(soused.cislo);
+        if (a.blok != b.blok || std::abs(a.kde.radek - b.kde.radek) != 1 || (a.cislo >= 53 && a.cislo <= 55))
+            continue;
+        for (const Vyhybka& n : plan.vyhybky)
+            if (n.blok == a.blok && std::abs(n.cislo - a.cislo) <= 3 &&
+                ((n.kde.sloupec == b.kde.sloupec && n.kde.radek == a.kde.radek) ||
+                 (n.kde.sloupec == a.kde.sloupec && n.kde.radek == b.kde.radek)))
+                zavada(n.misto, "vyhybka " + s(n.cislo),
+                       "stojí ve čtvrtém rohu výhybek " + s(a.cislo) + " a " + s(b.cislo) +
+                           " a svým číslem by je blokovala");
+    }
+    if (const Vyhybka* v = plan.vyhybka(14))
+        if (const auto soused = graf.soused({Typ::vyhybka, 14, tvar_vyhybky(8).b}); // its leg of minus
+            !soused || soused->typ != Typ::kolej || soused->cislo != 4)
+            zavada(v->misto, "vyhybka 14", "kolej 4 se jí nedotýká");
+}
+
+void Kontrola::prejezdy() {
+    std::set<int> cisla;
+    for (const PrejezdTrati& r : plan.prejezdy) {
+        const std::string kdo = "prejezd " + s(r.cislo);
+        if (!cisla.insert(r.cislo).second)
+            zavada(r.misto, kdo, "číslo se opakuje");
+        if (const auto i = p.kolej_prejezdu.find(r.cislo); i == p.kolej_prejezdu.end())
+            zavada(r.misto, kdo, "takový záznam pravidla neznají");
+        else if (i->second != r.kolej)
+            zavada(r.misto, kdo, "leží na koleji " + s(i->second));
+        const Kolej* k = plan.kolej(r.kolej);
+        if (k && k->delka && (r.poloha < 350 || r.poloha > *k->delka - 350))
+            zavada(r.misto, kdo, "potřebuje nejméně 350 m koleje na obě strany");
+        if (r.poloha < 0 || r.poloha > 9999)
+            zavada(r.misto, kdo, "poloha je mimo meze");
+    }
+    int ocekavane = 0;
+    for (const int n : cisla)
+        if (n != ocekavane++) {
+            zavada(plan.prejezdy.front().misto, "prejezd " + s(n), "záznamy nejdou od nuly za sebou");
+            break;
+        }
+}
+
+void Kontrola::kresby() {
+    for (const Kresba& k : plan.kresby)
+        if (k.typ == TypReliefu::smer_trati)
+            if (const auto i = p.sipky.find(k.cislo); i != p.sipky.end() && i->second != k.nazev)
+                zavada(k.misto, "sipka " + s(k.cislo), "ukazuje " + na_utf8(i->second));
+}
+
+// The direction of a route into a line is read from the places of its first and its last track.
+void Kontrola::poradi(Obraz obraz) {
+    for (const Pozadavky::Poradi& o : p.poradi)
+        for (const int a : o.a)
+            for (const int b : o.b) {
+                const Kolej *prvni = plan.kolej(a), *posledni = plan.kolej(b);
+                if (!prvni || !posledni)
+                    continue;
+                const int x1 = konce_koleje(plan, *prvni, obraz)[0].x,
+                          x2 = konce_koleje(plan, *posledni, obraz)[1].x;
+                if ((x1 <= x2) != o.zleva)
+                    zavada(prvni->misto, "kolej " + s(a),
+                           std::string("má začínat ") + (o.zleva ? "vlevo od pravého konce" : "vpravo od") +
+                               " koleje " + s(b) +
+                               (obraz == Obraz::jeden ? " (jeden monitor)" : " (dva monitory)"));
+            }
+}
+
+} // namespace
+
+void zkontroluj(const Plan& plan, const Graf& graf, const std::vector<ZaznamReliefu>& jeden,
+                const std::vector<ZaznamReliefu>& dva, std::vector<Zavada>& zavady) {
+    Kontrola k{plan, graf, zavady};
+    const auto druhy = podle_druhu(jeden);
+    const auto stitky = druhy.find("cislo_koleje");
+    static const std::map<int, const ZaznamReliefu*> zadne;
+    k.koleje(stitky == druhy.end() ? zadne : stitky->second);
+    k.rodiny(druhy);
+    k.navestidla();
+    k.vyhybky();
+    k.prejezdy();
+    k.kresby();
+    for (const Obraz o : kObrazy)
+        k.poradi(o);
+    const auto misto_cisla = [&](const std::string& druh, int n) {
+        for (const Kolej& kolej : plan.koleje)
+            if (kolej.cislo == n || (druh == "cislo_koleje" && kolej.cislo + 200 == n && kolej.stitky[1]))
+                return kolej.misto;
+        for (const Kresba& kresba : plan.kresby)
+            if (kresba.cislo == n)
+                return kresba.misto;
+        return Misto{"kolejiste", 0};
+    };
+    for (const auto& [druh, zakazane] : plan.pozadavky.zakazane)
+        if (const auto i = druhy.find(druh); i != druhy.end())
+            for (const int n : zakazane)
+                if (i->second.contains(n))
+                    zavady.push_back(
+                        {misto_cisla(druh, n), druh + " " + s(n), "toto číslo nesmí být použito"});
+    // both pictures hold the same elements
+    if (jeden.size() != dva.size())
+        zavady.push_back(
+            {Misto{"kolejiste", 0}, std::string(), "obrazy jednoho a dvou monitorů nemají stejné prvky"});
+}
+
+std::map<std::string, std::vector<int>> chybejici(const Plan& plan, const std::vector<ZaznamReliefu>& jeden) {
+    std::map<std::string, std::vector<int>> chybi;
+    auto druhy = podle_druhu(jeden);
+    for (const auto& [druh, cisla] : plan.pozadavky.povinne)
+        for (const int n : cisla)
+            if (!druhy[druh].contains(n))
+                chybi[druh].push_back(n);
+    return chybi;
+}
+
+} // namespace kolejiste

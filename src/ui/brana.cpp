@@ -1,0 +1,52 @@
+// ui/brana.cpp - the gate between the window system and the core.
+#include "ui/brana.h"
+
+#include "app/bezpecne.h"
+#include "zaklad/chyba.h"
+
+#include <QCoreApplication>
+
+#include <new>
+
+namespace {
+
+bool bezi = false;
+bool konec = false;
+int kod_konce = 0;
+
+} // namespace
+
+bool v_jadre(const std::function<void()>& telo) {
+    if (bezi || konec)
+        return false;
+    bezi = true;
+    try {
+        bezpecne([&] {
+            try {
+                telo();
+            } catch (const std::bad_alloc&) {
+                chyba(KodChyby::malo_pameti);
+            }
+        });
+    } catch (const KonecProgramu& k) {
+        skonci(k.navratovy_kod);
+    }
+    bezi = false;
+    return true;
+}
+
+bool je_konec() {
+    return konec;
+}
+
+void skonci(int kod) {
+    if (konec)
+        return;
+    konec = true;
+    kod_konce = kod;
+    QCoreApplication::exit(kod);
+}
+
+int navratovy_kod() {
+    return kod_konce;
+}

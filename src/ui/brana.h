@@ -1,0 +1,18 @@
+// ui/brana.h - the gate between the window system and the core.
+//
+// Every timer, key, click and choice enters the core through v_jadre(). A run-time error that comes out
+// is shown in a box and ends the process; so does the end of the program. While the core runs, a box or
+// a dialogue of its own may turn the event loop: what comes in then waits outside, so that two bodies
+// never overlap.
+#pragma once
+
+#include <functional>
+
+// Runs the body and answers true; false, and nothing is run, while the core runs or after its end.
+bool v_jadre(const std::function<void()>& telo);
+// The program has ended: no input any more.
+bool je_konec();
+// Ends the event loop with the exit code.
+void skonci(int kod);
+// What the process answers at the end.
+int navratovy_kod();

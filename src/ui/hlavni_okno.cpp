@@ -1,0 +1,476 @@
+// ui/hlavni_okno.cpp - the main screen: the desk in a window, its timers, its keys and its pointer.
+#include "ui/hlavni_okno.h"
+
+#include "app/casovace.h"
+#include "app/konec.h"
+#include "app/simulace.h"
+#include "app/vstup.h"
+#include "desk/menu.h"
+#include "ui/brana.h"
+#include "ui/pismo.h"
+
+#include <QCloseEvent>
+#include <QCursor>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScrollBar>
+#include <QToolTip>
+
+#include <cmath>
+
+namespace {
+
+constexpr int kPrekreslovani_ms = 40;
+// Where the lists of the bottom panel stand, pixels of the desk.
+constexpr QRect kMistoSeznamu(4, 640, 1016, 126);
+constexpr QRgb kNajetiPrvku = 0xFF5A6A7C;
+
+constexpr const char* kVzhledSeznamu =
+    "QListWidget { background: #000; color: #dcdcdc; border: 1px solid #3c4550; outline: 0; }"
+    "QListWidget::item:selected { background: #000080; color: #fff; }"
+    "QScrollBar:vertical { background: #15191e; width: 14px; margin: 0; }"
+    "QScrollBar::handle:vertical { background: #505b68; min-height: 20px; }"
+    "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }";
+constexpr const char* kVzhledNabidky =
+    "QMenu { background: #c8ccd0; color: #000; border: 1px solid #fff; padding: 1px; }"
+    "QMenu::item { padding: 2px 14px 2px 14px; min-width: 70px; }"
+    "QMenu::item:selected { background: #000080; color: #fff; }"
+    "QMenu::item:disabled { color: #8a9098; background: transparent; }"
+    "QMenu::item#hlava { background: #000080; color: #fff; }"
+    "QMenu::separator { height: 1px; background: #8a9098; margin: 1px 0; }";
+
+HlavniOkno* jedine = nullptr;
+
+Tlacitko tlacitko_mysi(Qt::MouseButton tlacitko) {
+    return tlacitko == Qt::RightButton    ? Tlacitko::prave
+           : tlacitko == Qt::MiddleButton ? Tlacitko::prostredni
+                                          : Tlacitko::leve;
+}
+
+struct Preklad {
+    int qt;
+    KodKlavesy kod;
+};
+constexpr Preklad kKlavesy[] = {
+    {Qt::Key_Return, KodKlavesy::enter},
+    {Qt::Key_Enter, KodKlavesy::enter},
+    {Qt::Key_Escape, KodKlavesy::esc},
+    {Qt::Key_F2, KodKlavesy::f2},
+    {Qt::Key_F3, KodKlavesy::f3},
+    {Qt::Key_F8, KodKlavesy::f8},
+    {Qt::Key_F9, KodKlavesy::f9},
+    {Qt::Key_F10, KodKlavesy::f10},
+    {Qt::Key_F11, KodKlavesy::f11},
+    {Qt::Key_Slash, KodKlavesy::num_lomeno},
+    {Qt::Key_Plus, KodKlavesy::num_plus},
+    {Qt::Key_Minus, KodKlavesy::num_minus},
+    {Qt::Key_Print, KodKlavesy::print_screen},
+    {Qt::Key_Left, KodKlavesy::sipka_vlevo},
+    {Qt::Key_Right, KodKlavesy::sipka_vpravo},
+    {Qt::Key_Up, KodKlavesy::sipka_nahoru},
+    {Qt::Key_Down, KodKlavesy::sipka_dolu},
+    {Qt::Key_Delete, KodKlavesy::delete_},
+};
+
+// The keys of the numeric block are taken from the main block too: portable keyboards have no other.
+Klavesa klavesa_qt(const QKeyEvent& udalost) {
+    Klavesa k;
+    k.ctrl = udalost.modifiers().testFlag(Qt::ControlModifier);
+    k.alt = udalost.modifiers().testFlag(Qt::AltModifier);
+    k.shift = udalost.modifiers().testFlag(Qt::ShiftModifier);
+    if (udalost.key() >= Qt::Key_A && udalost.key() <= Qt::Key_Z) {
+        k.kod = KodKlavesy::pismeno;
+        k.pismeno = static_cast<char>('A' + (udalost.key() - Qt::Key_A));
+        return k;
+    }
+    for (const Preklad& p : kKlavesy)
+        if (p.qt == udalost.key())
+            k.kod = p.kod;
+    return k;
+}
+
+// Name that the pointer shows over an element.
+Text jmenovka(const Nalezeny& kde) {
+    const Prvek& p = tabulka(kde.druh)[kde.n];
+    switch (kde.druh) {
+    case Druh::Image1:
+    case Druh::imgStanoviste: return p.stav;
+    case Druh::navestidlo:
+    case Druh::navestidlo_ser:
+    case Druh::imgVyhybka:
+    case Druh::cislo_koleje:
+    case Druh::imgSound:
+    case Druh::imgUloz:
+    case Druh::imgKONEC:
+    case Druh::imgDEBUG:
+    case Druh::imgPauza:
+    case Druh::imgMinimalizuj: return p.popis;
+    default: return {};
+    }
+}
+
+} // namespace
+
+HlavniOkno::HlavniOkno() {
+    jedine = this;
+    setWindowTitle(QStringLiteral("KPS RVZ TESK"));
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setMinimumSize(512, 384);
+    resize(sirka_stolu() / kTwipu, kVyskaStolu / kTwipu);
+
+    pole = new QLineEdit(this);
+    pole->hide();
+    pole->setFrame(false);
+    pole->setContextMenuPolicy(Qt::NoContextMenu);
+    pole->setStyleSheet(
+        QStringLiteral("QLineEdit { background: #fff; color: #000; border: 0; padding: 0; }"));
+    pole->installEventFilter(this);
+    connect(pole, &QLineEdit::textEdited, this, [this](const QString& text) {
+        v_jadre([&] { pis_do_pole(z_qstring(text)); });
+        obnov();
+    });
+
+    seznamy[0].zdroj = &Relief::lstZpravy;
+    seznamy[1].zdroj = &Relief::lstDenik;
+    for (ZobrazenySeznam& s : seznamy) {
+        s.okno = new QListWidget(this);
+        s.okno->hide();
+        s.okno->setStyleSheet(QLatin1String(kVzhledSeznamu));
+        s.okno->setUniformItemSizes(true);
+        s.okno->installEventFilter(this);
+        connect(s.okno, &QListWidget::currentRowChanged, this, [this, &s](int radek) {
+            if (radek < 0)
+                return;
+            v_jadre([&] { klik_na_radek(relief.*s.zdroj, radek); });
+            obnov();
+        });
+    }
+
+    for (const Casovac& casovac : casovace) {
+        auto* okna = new QTimer(this);
+        okna->setTimerType(Qt::PreciseTimer);
+        connect(okna, &QTimer::timeout, this, [telo = casovac.telo] { v_jadre(telo); });
+        okna->start(casovac.perioda_ms);
+    }
+    connect(&blikani_diag, &QTimer::timeout, this, [] { v_jadre(krok_blikani_diag); });
+    connect(&prekreslovani, &QTimer::timeout, this, [this] { obnov(); });
+    prekreslovani.start(kPrekreslovani_ms);
+}
+
+HlavniOkno::~HlavniOkno() {
+    jedine = nullptr;
+}
+
+HlavniOkno* HlavniOkno::otevrene() {
+    return jedine;
+}
+
+int HlavniOkno::sirka_stolu() const {
+    return simulace.dva_monitory ? 2 * kSirkaStolu : kSirkaStolu;
+}
+
+// --- places
+
+QPoint HlavniOkno::na_twipy(QPointF misto) const {
+    return platno.na_twipy(misto * devicePixelRatioF());
+}
+
+QRect HlavniOkno::v_okne(const QRect& twipy) const {
+    const QRect body = platno.v_bodech(twipy);
+    const double pomer = devicePixelRatioF();
+    return QRectF(body.x() / pomer, body.y() / pomer, body.width() / pomer, body.height() / pomer)
+        .toAlignedRect();
+}
+
+Bod HlavniOkno::kurzor_na_stole() const {
+    const QPoint t = na_twipy(mapFromGlobal(QCursor::pos()));
+    return {t.x() / kTwipu, t.y() / kTwipu};
+}
+
+void HlavniOkno::nastav_kurzor_na_stole(Bod kam) {
+    // the middle of the pixel, so that reading the place back gives it again at any scale
+    const Meritko& m = platno.meritko();
+    const QPointF body(m.x0 + (kam.x + 0.5) * m.bod(), m.y0 + (kam.y + 0.5) * m.bod());
+    const QPoint misto = (body / devicePixelRatioF()).toPoint();
+    QCursor::setPos(mapToGlobal(misto));
+    najed(misto);
+}
+
+void HlavniOkno::umisti() {
+    sirka_pri_umisteni = sirka_stolu();
+    platno.nastav_velikost((QSizeF(size()) * devicePixelRatioF()).toSize(), sirka_pri_umisteni);
+    const double bod = platno.meritko().bod() / devicePixelRatioF();
+    for (ZobrazenySeznam& s : seznamy) {
+        s.okno->setGeometry(v_okne(QRect(kMistoSeznamu.topLeft() * kTwipu, kMistoSeznamu.size() * kTwipu)));
+        s.okno->setFont(pismo_poli(kVyskaBunky * bod));
+    }
+    pole->setFont(pismo_poli(kVyskaBunky * bod));
+    update();
+}
+
+// --- from the core to the screen
+
+void HlavniOkno::obnov() {
+    if (je_konec())
+        return;
+    if (sirka_pri_umisteni != sirka_stolu())
+        umisti();
+    const QRegion zmenene = platno.obnov();
+    const double pomer = devicePixelRatioF();
+    for (const QRect& r : zmenene)
+        update(QRectF(r.x() / pomer, r.y() / pomer, r.width() / pomer, r.height() / pomer).toAlignedRect());
+    for (ZobrazenySeznam& s : seznamy)
+        obnov_seznam(s);
+    obnov_pole();
+    obnov_nabidku();
+    if (const int perioda = perioda_blikani_diag(); perioda == 0)
+        blikani_diag.stop();
+    else if (!blikani_diag.isActive() || blikani_diag.interval() != perioda)
+        blikani_diag.start(perioda);
+}
+
+void HlavniOkno::obnov_seznam(ZobrazenySeznam& s) {
+    const Seznam& novy = relief.*s.zdroj;
+    if (s.zobrazeny == novy)
+        return;
+    const QSignalBlocker bez_ozveny(s.okno);
+    if (s.zobrazeny.radky != novy.radky) {
+        const QScrollBar* posuvnik = s.okno->verticalScrollBar();
+        const bool na_konci = posuvnik->value() >= posuvnik->maximum();
+        // Lines are mostly added at the end: what stands before them is kept.
+        std::size_t shodne = 0;
+        while (shodne < novy.radky.size() && shodne < s.zobrazeny.radky.size() &&
+               novy.radky[shodne] == s.zobrazeny.radky[shodne])
+            ++shodne;
+        while (s.okno->count() > static_cast<int>(shodne))
+            delete s.okno->takeItem(s.okno->count() - 1);
+        for (std::size_t i = shodne; i < novy.radky.size(); ++i)
+            s.okno->addItem(na_qstring(novy.radky[i]));
+        if (na_konci)
+            s.okno->scrollToBottom();
+    }
+    s.okno->setCurrentRow(novy.vybrany < s.okno->count() ? novy.vybrany : -1);
+    if (s.zobrazeny.viditelny != novy.viditelny) {
+        s.okno->setVisible(novy.viditelny);
+        if (novy.viditelny)
+            s.okno->setFocus();
+        else
+            setFocus();
+    }
+    s.zobrazeny = novy;
+}
+
+void HlavniOkno::obnov_pole() {
+    const Prvek& p = relief.txtZadav_pole[0];
+    const bool otevrene_pole = p.viditelny && p.povoleny;
+    const QString text = na_qstring(p.text());
+    if (pole->text() != text) {
+        pole->setText(text);
+        pole->setCursorPosition(static_cast<int>(text.size()));
+    }
+    if (otevrene_pole == !pole->isHidden())
+        return;
+    if (otevrene_pole) {
+        pole->setGeometry(
+            v_okne(QRect(p.vlevo, p.nahore, std::max<int>(p.sirka, kSirkaZnaku * 20), p.vyska)));
+        pole->show();
+        pole->setFocus();
+        pole->selectAll();
+    } else {
+        pole->hide();
+        setFocus();
+    }
+}
+
+void HlavniOkno::obnov_nabidku() {
+    if (menu.jmeno == nabidka_ukazuje)
+        return;
+    nabidka_ukazuje = menu.jmeno;
+    if (nabidka != nullptr) {
+        nabidka->disconnect(this);
+        nabidka->close();
+        nabidka->deleteLater();
+        nabidka = nullptr;
+    }
+    if (menu.jmeno.empty())
+        return;
+    nabidka = new QMenu(this);
+    nabidka->setStyleSheet(QLatin1String(kVzhledNabidky));
+    nabidka->setFont(pismo_poli(kVyskaBunky * platno.meritko().bod() / devicePixelRatioF()));
+    if (!menu.hlava.empty()) {
+        nabidka->addAction(na_qstring(menu.hlava))->setEnabled(false);
+        nabidka->addSeparator();
+    }
+    for (const PolozkaMenu& polozka : menu.polozky) {
+        if (!polozka.viditelna)
+            continue;
+        QAction* akce = nabidka->addAction(na_qstring(polozka.text));
+        akce->setEnabled(polozka.povolena);
+        connect(akce, &QAction::triggered, this, [this, jmeno = polozka.jmeno] {
+            v_jadre([&] { zvol_v_menu(jmeno); });
+            obnov();
+        });
+    }
+    // The choice is told after the menu has gone; what is closed without one is closed in the core too.
+    connect(nabidka, &QMenu::aboutToHide, this, [this] {
+        QTimer::singleShot(0, this, [this, ukazovala = nabidka_ukazuje] {
+            if (menu.jmeno == ukazovala && (nabidka == nullptr || !nabidka->isVisible()))
+                v_jadre(zavri_menu);
+            obnov();
+        });
+    });
+    nabidka->popup(QCursor::pos());
+}
+
+// --- from the operator to the core
+
+void HlavniOkno::najed(QPointF misto) {
+    const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(misto));
+    if (kde == najety)
+        return;
+    const bool hotovo = v_jadre([&] {
+        if (kde)
+            najeti(kde->druh, kde->n);
+        else
+            odjeti();
+    });
+    if (!hotovo)
+        return;
+    for (const std::optional<Nalezeny>& co : {najety, kde})
+        if (co && tabulka(co->druh).je(co->n))
+            update(v_okne(misto_vstupu(co->druh, tabulka(co->druh)[co->n])).adjusted(-2, -2, 2, 2));
+    najety = kde;
+}
+
+void HlavniOkno::mousePressEvent(QMouseEvent* udalost) {
+    const QPointF misto = udalost->position();
+    najed(misto);
+    const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(misto));
+    const Tlacitko tlacitko = tlacitko_mysi(udalost->button());
+    v_jadre([&] {
+        if (kde)
+            klik(kde->druh, kde->n, tlacitko, udalost->modifiers().testFlag(Qt::ControlModifier));
+        else
+            klik_na_plochu();
+    });
+    obnov();
+}
+
+void HlavniOkno::mouseDoubleClickEvent(QMouseEvent* udalost) {
+    const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(udalost->position()));
+    if (udalost->button() != Qt::LeftButton || !kde) {
+        mousePressEvent(udalost);
+        return;
+    }
+    v_jadre([&] { dvojklik(kde->druh, kde->n); });
+    obnov();
+}
+
+void HlavniOkno::mouseMoveEvent(QMouseEvent* udalost) {
+    v_jadre(pohyb_mysi);
+    najed(udalost->position());
+}
+
+void HlavniOkno::leaveEvent(QEvent*) {
+    najed({-1, -1});
+}
+
+bool HlavniOkno::stisk(QKeyEvent* udalost) {
+    const Klavesa k = klavesa_qt(*udalost);
+    if (k.kod == KodKlavesy::zadna)
+        return false;
+    bool znama = false;
+    v_jadre([&] { znama = klavesa(k); });
+    obnov();
+    return znama;
+}
+
+void HlavniOkno::keyPressEvent(QKeyEvent* udalost) {
+    if (!stisk(udalost))
+        QWidget::keyPressEvent(udalost);
+}
+
+bool HlavniOkno::eventFilter(QObject* cil, QEvent* udalost) {
+    if (udalost->type() != QEvent::KeyPress)
+        return QWidget::eventFilter(cil, udalost);
+    auto* k = static_cast<QKeyEvent*>(udalost);
+    const bool s_modifikatorem = k->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
+    if (cil == pole) {
+        // The field keeps what writes and moves in it, copying included; the desk takes the rest.
+        const bool pro_stul =
+            k->key() == Qt::Key_Return || k->key() == Qt::Key_Enter || k->key() == Qt::Key_Escape ||
+            (k->key() >= Qt::Key_F1 && k->key() <= Qt::Key_F12) || k->key() == Qt::Key_Print ||
+            (k->modifiers().testFlag(Qt::AltModifier) && klavesa_qt(*k).kod == KodKlavesy::pismeno);
+        return pro_stul && stisk(k);
+    }
+    const bool pohyb = k->key() == Qt::Key_Up || k->key() == Qt::Key_Down || k->key() == Qt::Key_PageUp ||
+                       k->key() == Qt::Key_PageDown || k->key() == Qt::Key_Home || k->key() == Qt::Key_End;
+    if (pohyb && !s_modifikatorem)
+        return false;
+    return stisk(k);
+}
+
+void HlavniOkno::zmenit_viditelnost_okna() {
+    if (minimalizovane == isMinimized())
+        return;
+    if (v_jadre([this] {
+            if (isMinimized())
+                ::minimalizuj();
+            else
+                obnov_okno();
+        }))
+        minimalizovane = isMinimized();
+    obnov();
+}
+
+void HlavniOkno::changeEvent(QEvent* udalost) {
+    QWidget::changeEvent(udalost);
+    if (udalost->type() == QEvent::WindowStateChange) // F11 comes from within the core: it must end first
+        QTimer::singleShot(0, this, [this] { zmenit_viditelnost_okna(); });
+}
+
+void HlavniOkno::closeEvent(QCloseEvent* udalost) {
+    v_jadre([] { konec_programu(true); });
+    udalost->setAccepted(je_konec());
+}
+
+// --- painting
+
+void HlavniOkno::resizeEvent(QResizeEvent*) {
+    umisti();
+    platno.obnov();
+}
+
+bool HlavniOkno::event(QEvent* udalost) {
+    if (udalost->type() == QEvent::ToolTip) {
+        const auto* napoveda = static_cast<QHelpEvent*>(udalost);
+        const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(napoveda->pos()));
+        const Text text = kde ? jmenovka(*kde) : Text{};
+        if (orez(text).empty())
+            QToolTip::hideText();
+        else
+            QToolTip::showText(napoveda->globalPos(), na_qstring(orez(text)), this);
+        return true;
+    }
+    return QWidget::event(udalost);
+}
+
+void HlavniOkno::paintEvent(QPaintEvent* udalost) {
+    QPainter p(this);
+    const double pomer = devicePixelRatioF();
+    p.scale(1 / pomer, 1 / pomer);
+    for (const QRect& r : udalost->region()) {
+        const QRect body = QRectF(r.x() * pomer, r.y() * pomer, r.width() * pomer, r.height() * pomer)
+                               .toAlignedRect()
+                               .intersected(platno.obraz().rect());
+        p.drawImage(body.topLeft(), platno.obraz(), body);
+    }
+    if (najety && tabulka(najety->druh).je(najety->n) && tabulka(najety->druh)[najety->n].viditelny) {
+        const QRect cil = platno.v_bodech(misto_vstupu(najety->druh, tabulka(najety->druh)[najety->n]));
+        p.setPen(QColor::fromRgb(kNajetiPrvku));
+        p.drawRect(cil.adjusted(0, 0, -1, -1));
+    }
+}

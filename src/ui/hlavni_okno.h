@@ -1,0 +1,73 @@
+// ui/hlavni_okno.h - the main screen: the desk in a window, its timers, its keys and its pointer.
+#pragma once
+
+#include "relief/relief.h"
+#include "ui/platno.h"
+#include "zaklad/platforma.h"
+
+#include <QLineEdit>
+#include <QListWidget>
+#include <QMenu>
+#include <QTimer>
+#include <QWidget>
+
+#include <array>
+#include <optional>
+
+class HlavniOkno : public QWidget {
+public:
+    HlavniOkno();
+    ~HlavniOkno() override;
+
+    // The one that is open; none before the start.
+    static HlavniOkno* otevrene();
+
+    // Pointer in pixels of the desk.
+    Bod kurzor_na_stole() const;
+    void nastav_kurzor_na_stole(Bod kam);
+
+    // Takes over what the core has changed: the picture, the lists, the field, the menu.
+    void obnov();
+
+protected:
+    void paintEvent(QPaintEvent* udalost) override;
+    void resizeEvent(QResizeEvent* udalost) override;
+    void mousePressEvent(QMouseEvent* udalost) override;
+    void mouseDoubleClickEvent(QMouseEvent* udalost) override;
+    void mouseMoveEvent(QMouseEvent* udalost) override;
+    void leaveEvent(QEvent* udalost) override;
+    void keyPressEvent(QKeyEvent* udalost) override;
+    void changeEvent(QEvent* udalost) override;
+    void closeEvent(QCloseEvent* udalost) override;
+    bool event(QEvent* udalost) override;
+    bool eventFilter(QObject* cil, QEvent* udalost) override;
+
+private:
+    // A list of the bottom panel and the copy of what it shows.
+    struct ZobrazenySeznam {
+        Seznam Relief::*zdroj = nullptr;
+        QListWidget* okno = nullptr;
+        Seznam zobrazeny;
+    };
+
+    int sirka_stolu() const;
+    void umisti();
+    QPoint na_twipy(QPointF misto) const;
+    QRect v_okne(const QRect& twipy) const;
+    void najed(QPointF misto);
+    void obnov_seznam(ZobrazenySeznam& s);
+    void obnov_pole();
+    void obnov_nabidku();
+    bool stisk(QKeyEvent* udalost);
+    void zmenit_viditelnost_okna();
+
+    Platno platno;
+    QTimer prekreslovani, blikani_diag;
+    QLineEdit* pole = nullptr;
+    std::array<ZobrazenySeznam, 2> seznamy;
+    QMenu* nabidka = nullptr;
+    Text nabidka_ukazuje;
+    std::optional<Nalezeny> najety;
+    bool minimalizovane = false;
+    int sirka_pri_umisteni = 0;
+};

@@ -1,0 +1,679 @@
+// ui/kresba.cpp - draws the elements of the relief store, one at a time, as vectors at any scale.
+#include "ui/kresba.h"
+
+#include "prvky/panel.h"
+#include "relief/tvary_vyhybek.h"
+#include "ui/pismo.h"
+#include "zaklad/cisla.h"
+
+#include <QPainterPath>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace {
+
+constexpr double kTloustkaKoleje = 3; // of a track line, pixels of the desk
+constexpr double kMezeraUseku = 1;    // by which a level track stops short of its ends: sections part there
+constexpr double kOdsazeniNohy = 0.6; // part of a leg that the switch leaves out on the side not set
+constexpr double kOdsazeniPohybu = 0.4;
+constexpr int kNejmensiCil = 10 * kTwipu; // no target for the pointer is smaller
+constexpr int kPresahCisla = 2;           // what a label clears beside its text, pixels of the desk
+
+constexpr QRgb kSvetla[] = {0xFFFFD21E, 0xFF19E64B, 0xFFFF2D1E, 0xFFFFFFFF, 0xFFFFD21E, 0xFF4678FF};
+constexpr QRgb kPruhy[] = {0xFFFFD21E, 0xFF19E64B};
+constexpr QRgb kTmavaPlocha = 0xFF15191E;
+constexpr QRgb kLinka = 0xFF3C4550;
+constexpr QRgb kIkona = 0xFFC8D2DC;
+
+// How the elements of a kind are drawn.
+enum class Zpusob : std::uint8_t {
+    nic,
+    kolej,
+    most,
+    napis,    // one line
+    odstavec, // wrapped lines
+    radky,    // lines parted by character 13
+    nastupiste,
+    vyhybka,
+    cil,
+    lampa,
+    znacka,
+    stanoviste,
+    ikona,
+    tlacitko,
+    svetlo,
+    pruh,
+    ramec,
+    vuz,
+    sberac,
+};
+
+struct Styl {
+    Druh druh;
+    Zpusob zpusob = Zpusob::nic;
+    Znaky znaky = Znaky::pismena;
+    bool kryje = false; // clears what lies under its characters, also without a frame
+    bool vstup = false; // takes the operator's input
+    int vrstva = 1;
+};
+
+constexpr Styl kStyly[] = {
+    {Druh::kolej, Zpusob::kolej, {}, false, false, 0},
+    {Druh::most, Zpusob::most, {}, false, false, 0},
+    {Druh::cislo_koleje, Zpusob::napis, Znaky::znacky, true, true, 3},
+    {Druh::navestidlo, Zpusob::napis, Znaky::znacky, true, true, 4},
+    {Druh::navestidlo_ser, Zpusob::napis, Znaky::znacky, true, true, 4},
+    {Druh::imgVyhybka, Zpusob::vyhybka, {}, false, true, 2},
+    {Druh::Image1, Zpusob::cil, {}, false, true, 0},
+    {Druh::lblSouhlas, Zpusob::napis, Znaky::znacky, true, true, 4},
+    {Druh::lblSouhlas2, Zpusob::napis, Znaky::znacky, true, true, 3},
+    {Druh::lblPrejezd, Zpusob::napis, Znaky::znacky, true, true, 3},
+    {Druh::lblPrejezdy, Zpusob::napis, Znaky::znacky, true, true, 3},
+    {Druh::shpPrejezdy, Zpusob::lampa, {}, false, true, 3},
+    {Druh::lblnastupiste, Zpusob::nastupiste, Znaky::znacky, false, false, 0},
+    {Druh::lblVykolejka, Zpusob::napis, Znaky::znacky, true, true, 4},
+    {Druh::popis_stanice, Zpusob::napis, Znaky::pismena, false, true, 2},
+    {Druh::imgStanoviste, Zpusob::stanoviste, {}, false, true, 2},
+    {Druh::imgSberac, Zpusob::sberac, {}, false, true, 3},
+    {Druh::lblPredvidany_odjezd, Zpusob::napis, {}, false, true, 3},
+    {Druh::lblTabulka_vlaku, Zpusob::napis, {}, false, true, 2},
+    {Druh::shpblikacka, Zpusob::znacka, {}, false, false, 3},
+    {Druh::lblPN, Zpusob::radky, {}, false, true, 3},
+    {Druh::lblPrikaz, Zpusob::napis, {}, false, true, 5},
+    {Druh::lblVolba, Zpusob::napis, {}, false, true, 5},
+    {Druh::txtZadav_pole, Zpusob::nic, {}, false, false, 6},
+    {Druh::lblMakro_pismeno, Zpusob::napis, {}, false, true, 5},
+    {Druh::lblcas, Zpusob::napis, {}, false, true, 3},
+    {Druh::lblcas_od_zacatku, Zpusob::napis, {}, false, true, 3},
+    {Druh::lblDEN, Zpusob::napis, {}, false, true, 3},
+    {Druh::lblGVD, Zpusob::napis, {}, false, true, 3},
+    {Druh::lblrychlost_simulace, Zpusob::napis, {}, false, true, 3},
+    {Druh::lblPauza, Zpusob::napis, {}, false, true, 5},
+    {Druh::lblVerze, Zpusob::radky, {}, false, true, 3},
+    {Druh::lblPrava, Zpusob::napis, {}, false, true, 3},
+    {Druh::lblMereni_casu, Zpusob::napis, {}, false, true, 3},
+    {Druh::lblZasobnik_pocet, Zpusob::napis, {}, false, true, 3},
+    {Druh::lblZasobnik_blokv, Zpusob::napis, {}, false, true, 3},
+    {Druh::lblZasobnik_EZ, Zpusob::napis, {}, false, true, 3},
+    {Druh::lblZasobnik_PV, Zpusob::napis, {}, false, true, 3},
+    {Druh::lblZasobnik_VZ, Zpusob::napis, {}, false, true, 3},
+    {Druh::lblnavestidlo, Zpusob::napis, {}, false, true, 5},
+    {Druh::lblNavestidlo_stanice, Zpusob::napis, {}, false, true, 5},
+    {Druh::svetlo, Zpusob::svetlo, {}, false, false, 5},
+    {Druh::pruh, Zpusob::pruh, {}, false, false, 5},
+    {Druh::imgToc, Zpusob::ikona, {}, false, true, 3},
+    {Druh::imgToc2, Zpusob::ikona, {}, false, true, 3},
+    {Druh::imgSound, Zpusob::ikona, {}, false, true, 3},
+    {Druh::imgUloz, Zpusob::ikona, {}, false, true, 3},
+    {Druh::imgKONEC, Zpusob::ikona, {}, false, true, 3},
+    {Druh::imgDEBUG, Zpusob::ikona, {}, false, true, 3},
+    {Druh::imgPauza, Zpusob::ikona, {}, false, true, 3},
+    {Druh::imgMinimalizuj, Zpusob::ikona, {}, false, true, 3},
+    {Druh::imglista_horni, Zpusob::nic, {}, false, false, 0},
+    {Druh::imgV1, Zpusob::ikona, {}, false, false, 2},
+    {Druh::cmdZpravy, Zpusob::tlacitko, {}, false, true, 3},
+    {Druh::cmDenik, Zpusob::tlacitko, {}, false, true, 3},
+    {Druh::cmdTABULKA, Zpusob::tlacitko, {}, false, true, 3},
+    {Druh::cmdVLAK, Zpusob::tlacitko, {}, false, true, 3},
+    {Druh::lblIinfo_o_vlaku, Zpusob::odstavec, {}, false, true, 3},
+    {Druh::imgObrzaek_vlaku, Zpusob::vuz, {}, false, true, 3},
+    {Druh::lblPopis_vozu, Zpusob::napis, {}, false, true, 3},
+    {Druh::lblPokracuje, Zpusob::napis, {}, false, true, 3},
+    {Druh::shpVyhledavani, Zpusob::ramec, {}, false, false, 7},
+};
+static_assert(std::size(kStyly) == kDruhy.size());
+consteval bool styly_v_poradi_druhu() {
+    for (std::size_t i = 0; i < std::size(kStyly); ++i)
+        if (kStyly[i].druh != static_cast<Druh>(i))
+            return false;
+    return true;
+}
+static_assert(styly_v_poradi_druhu());
+
+const Styl& styl(Druh druh) {
+    return kStyly[static_cast<std::size_t>(druh)];
+}
+
+QColor odstin(QRgb barva) {
+    return QColor::fromRgb(barva);
+}
+
+// Place of an element in device pixels.
+QRect v_bodech(const Meritko& m, const Prvek& p) {
+    return QRect(QPoint(m.x(p.vlevo), m.y(p.nahore)),
+                 QPoint(m.x(p.vlevo + p.sirka) - 1, m.y(p.nahore + p.vyska) - 1));
+}
+
+// --- lines
+
+int tloustka(const Meritko& m, double bodu = kTloustkaKoleje) {
+    return m.bodu(bodu);
+}
+
+// Middle of a track line that runs at `twipy`, so that its edges fall on whole pixels.
+double osa(double twipy, double pocatek, double k, int tl) {
+    return std::lround(pocatek + twipy * k - tl / 2.0) + tl / 2.0;
+}
+
+void nakresli_caru(QPainter& p, const Meritko& m, int x1, int y1, int x2, int y2, QColor barva, int tl,
+                   int mezera) {
+    if (y1 == y2) {
+        const int a = m.x(std::min(x1, x2)) + mezera, b = m.x(std::max(x1, x2)) - mezera;
+        const int y = static_cast<int>(osa(y1, m.y0, m.k, tl) - tl / 2.0);
+        p.fillRect(a, y, std::max(1, b - a), tl, barva);
+        return;
+    }
+    if (x1 == x2) {
+        const int x = static_cast<int>(osa(x1, m.x0, m.k, tl) - tl / 2.0);
+        const int a = m.y(std::min(y1, y2)), b = m.y(std::max(y1, y2));
+        p.fillRect(x, a, tl, std::max(1, b - a), barva);
+        return;
+    }
+    const QPointF od(m.x0 + x1 * m.k, m.y0 + y1 * m.k), po(m.x0 + x2 * m.k, m.y0 + y2 * m.k);
+    // Lines that meet end to end overlap by a hair, or their antialiased ends would leave a seam.
+    const QPointF smer = (po - od) / std::hypot(po.x() - od.x(), po.y() - od.y()) * 0.5;
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(barva, tl, Qt::SolidLine, Qt::FlatCap));
+    p.drawLine(od - smer, po + smer);
+    p.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void nakresli_most(QPainter& p, const Meritko& m, const Prvek& prvek) {
+    const QColor barva = prvek.barva == barvy::cerna ? QColor(Qt::black) : barva_qt(prvek.barva);
+    nakresli_caru(p, m, prvek.x1, prvek.y1, prvek.x2, prvek.y2, barva,
+                  tloustka(m, prvek.barva == barvy::cerna ? kTloustkaKoleje + 2 : 1), 0);
+}
+
+// --- switches
+
+QPointF bod_portu(const Meritko& m, int x, int y, Port port, int tl) {
+    const MistoPortu misto = misto_portu(port);
+    if (misto.y == kOsaRadku) // on the very line of the tracks beside
+        return {port == Port::zadny ? m.x0 + (x + misto.x) * m.k : m.x(x + misto.x),
+                osa(y + misto.y, m.y0, m.k, tl)};
+    return {m.x0 + (x + misto.x) * m.k, m.y0 + (y + misto.y) * m.k};
+}
+
+void nakresli_nohu(QPainter& p, const Meritko& m, int x, int y, Port port, double od, QColor barva, int tl) {
+    const QPointF stred = bod_portu(m, x, y, Port::zadny, tl), konec = bod_portu(m, x, y, port, tl);
+    const QPointF zacatek = stred + (konec - stred) * od;
+    if (stred.y() == konec.y()) {
+        const int a = static_cast<int>(std::lround(std::min(zacatek.x(), konec.x())));
+        const int b = static_cast<int>(std::lround(std::max(zacatek.x(), konec.x())));
+        p.fillRect(a, static_cast<int>(stred.y() - tl / 2.0), b - a, tl, barva);
+        return;
+    }
+    const QPointF presah = (konec - stred) / std::hypot(konec.x() - stred.x(), konec.y() - stred.y()) * 0.5;
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(barva, tl, Qt::SolidLine, Qt::FlatCap));
+    p.drawLine(zacatek, konec + presah);
+    p.setRenderHint(QPainter::Antialiasing, false);
+}
+
+// The way that the switch joins, in one stroke.
+void nakresli_jizdu(QPainter& p, const Meritko& m, int x, int y, Port a, Port b, QColor barva, int tl) {
+    const QPointF od = bod_portu(m, x, y, a, tl), po = bod_portu(m, x, y, b, tl);
+    if (od.y() == po.y()) {
+        p.fillRect(static_cast<int>(std::min(od.x(), po.x())), static_cast<int>(od.y() - tl / 2.0),
+                   static_cast<int>(std::abs(po.x() - od.x())), tl, barva);
+        return;
+    }
+    const QPointF stred = bod_portu(m, x, y, Port::zadny, tl);
+    const auto protazeny = [&](QPointF konec) { // corners go on into the next cell
+        if (konec.y() == stred.y())
+            return konec;
+        return konec + (konec - stred) / std::hypot(konec.x() - stred.x(), konec.y() - stred.y()) * 0.5;
+    };
+    QPainterPath cesta(protazeny(od));
+    cesta.lineTo(stred);
+    cesta.lineTo(protazeny(po));
+    p.setRenderHint(QPainter::Antialiasing);
+    p.strokePath(cesta, QPen(barva, tl, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+    p.setRenderHint(QPainter::Antialiasing, false);
+}
+
+constexpr std::array kBarvyTrid = {barvy::seda, barvy::zelena, barvy::azurova, barvy::cervena, barvy::bila};
+
+int stav_vyhybky(const Prvek& prvek) {
+    // The picture is what the logic shows: a moving switch has the state of its end already.
+    if (prvek.obrazek >= 100)
+        return prvek.obrazek - 100;
+    return cele_z_textu(prvek.stav());
+}
+
+// --- texts
+
+int nasobek(const Styl& s, const Prvek& prvek) { // station names grow with their rectangle
+    return s.druh == Druh::popis_stanice ? std::clamp(prvek.vyska / kVyskaZnaku, 1, 3) : 1;
+}
+
+// First column of a line of `delka` characters in the width of the element, pixels of the picture.
+double zacatek_radku(const Meritko& m, const Prvek& prvek, double delka_px) {
+    const double vlevo = m.x(prvek.vlevo), volno = prvek.sirka * m.k - delka_px;
+    if (prvek.sirka <= 0 || prvek.zarovnani == 0)
+        return vlevo;
+    return vlevo + (prvek.zarovnani == 1 ? volno : volno / 2);
+}
+
+void nakresli_napis(QPainter& p, const Meritko& m, const Styl& s, const Prvek& prvek) {
+    const TextPohled text = prvek.text();
+    const int krat = nasobek(s, prvek);
+    const double sirka = kSirkaBunky * m.bod() * krat, vyska = kVyskaBunky * m.bod() * krat;
+    const double x = zacatek_radku(m, prvek, sirka * static_cast<double>(text.size()));
+    const double y = m.y(prvek.nahore) +
+                     (prvek.vyska > kVyskaZnaku ? std::max(0.0, (prvek.vyska * m.k - vyska) / 2) : 0.0);
+    if (prvek.ramecek) {
+        QRect plocha = v_bodech(m, prvek);
+        if (prvek.sirka <= 0)
+            plocha = QRect(QPointF(x, y).toPoint(),
+                           QSizeF(sirka * static_cast<double>(text.size()), vyska).toSize());
+        p.fillRect(plocha, barva_qt(prvek.pozadi));
+    } else if (s.kryje) {
+        const std::size_t prvni = text.find_first_not_of(' ');
+        if (prvni != TextPohled::npos) {
+            const std::size_t posledni = text.find_last_not_of(' ');
+            const int presah = s.druh == Druh::cislo_koleje ? m.bodu(kPresahCisla) : 0;
+            const int a = static_cast<int>(std::lround(x + static_cast<double>(prvni) * sirka)) - presah;
+            const int b =
+                static_cast<int>(std::lround(x + static_cast<double>(posledni + 1) * sirka)) + presah;
+            p.fillRect(
+                QRect(a, static_cast<int>(std::lround(y)), b - a, static_cast<int>(std::lround(vyska))),
+                Qt::black);
+        }
+    }
+    kresli_radek(p, x, y, sirka, vyska, text, prvek.barva, s.znaky);
+}
+
+// Lines of a text: at character 13, and with `sirka` columns at the blank before the line would be full.
+std::vector<TextPohled> radky_textu(TextPohled text, std::size_t sirka) {
+    std::vector<TextPohled> radky;
+    while (!text.empty()) {
+        std::size_t konec = std::min(text.find('\r'), text.size());
+        std::size_t dalsi = konec + 1;
+        if (konec > sirka) {
+            const std::size_t mezera = text.rfind(' ', sirka);
+            konec = mezera == TextPohled::npos || mezera == 0 ? sirka : mezera;
+            dalsi = mezera == TextPohled::npos || mezera == 0 ? sirka : mezera + 1;
+        }
+        radky.push_back(text.substr(0, konec));
+        text.remove_prefix(std::min(dalsi, text.size()));
+        if (!text.empty() && text.front() == '\n')
+            text.remove_prefix(1);
+    }
+    return radky;
+}
+
+void nakresli_odstavec(QPainter& p, const Meritko& m, const Prvek& prvek, bool zalamovat) {
+    if (prvek.ramecek)
+        p.fillRect(v_bodech(m, prvek), barva_qt(prvek.pozadi));
+    const double sirka = kSirkaBunky * m.bod(), vyska = kVyskaBunky * m.bod();
+    const std::size_t sloupcu =
+        zalamovat && prvek.sirka > kSirkaZnaku ? static_cast<std::size_t>(prvek.sirka / kSirkaZnaku) : 1000;
+    double y = m.y(prvek.nahore);
+    for (const TextPohled radek : radky_textu(prvek.text(), sloupcu)) {
+        const double x = zacatek_radku(m, prvek, sirka * static_cast<double>(radek.size()));
+        kresli_radek(p, x, y, sirka, vyska, radek, prvek.barva, Znaky::pismena);
+        y += vyska;
+    }
+}
+
+// A platform edge: its glyph repeated over the whole width.
+void nakresli_nastupiste(QPainter& p, const Meritko& m, const Prvek& prvek) {
+    if (prvek.text->empty())
+        return;
+    const QRect plocha = v_bodech(m, prvek);
+    const double sirka = kSirkaBunky * m.bod(), vyska = kVyskaBunky * m.bod();
+    const auto kolik = static_cast<std::size_t>(std::ceil(plocha.width() / sirka));
+    p.save();
+    p.setClipRect(plocha, Qt::IntersectClip);
+    kresli_radek(p, plocha.x(), plocha.y(), sirka, vyska, Text(kolik, prvek.text->front()), prvek.barva,
+                 Znaky::znacky);
+    p.restore();
+}
+
+// --- pictures
+
+// Painter of a square picture drawn on a lattice of 16 by 16.
+class Ikona {
+public:
+    Ikona(QPainter& painter, const QRect& kam, QRgb barva) : p(painter) {
+        p.save();
+        p.setRenderHint(QPainter::Antialiasing);
+        p.translate(kam.x(), kam.y());
+        p.scale(kam.width() / 16.0, kam.height() / 16.0);
+        p.setPen(QPen(odstin(barva), 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        p.setBrush(Qt::NoBrush);
+    }
+    Ikona(const Ikona&) = delete;
+    Ikona& operator=(const Ikona&) = delete;
+    ~Ikona() { p.restore(); }
+
+    void cara(std::initializer_list<QPointF> body) { p.drawPolyline(QPolygonF(QList<QPointF>(body))); }
+    void plocha(std::initializer_list<QPointF> body, QRgb barva) {
+        p.setBrush(odstin(barva));
+        p.drawPolygon(QPolygonF(QList<QPointF>(body)));
+        p.setBrush(Qt::NoBrush);
+    }
+    void kruh(double x, double y, double r) { p.drawEllipse(QPointF(x, y), r, r); }
+    void oblouk(double x, double y, double r, int od, int kolik) {
+        p.drawArc(QRectF(x - r, y - r, 2 * r, 2 * r), od * 16, kolik * 16);
+    }
+    void obdelnik(double x, double y, double s, double v) { p.drawRect(QRectF(x, y, s, v)); }
+    void vypln(double x, double y, double s, double v, QRgb barva) {
+        p.fillRect(QRectF(x, y, s, v), odstin(barva));
+    }
+
+private:
+    QPainter& p;
+};
+
+void nakresli_ikonu(QPainter& p, const Meritko& m, Druh druh, const Prvek& prvek) {
+    Ikona i(p, v_bodech(m, prvek), kIkona);
+    switch (druh) {
+    case Druh::imgToc:
+    case Druh::imgToc2: { // the hand turns by a quarter with each of the pictures 110 to 113
+        constexpr std::array<QPointF, 4> kRucka = {{{8, 3.5}, {12.5, 8}, {8, 12.5}, {3.5, 8}}};
+        i.kruh(8, 8, 6.5);
+        i.cara({{8, 8}, kRucka[static_cast<std::size_t>(std::max(0, prvek.obrazek - 110)) % 4]});
+        return;
+    }
+    case Druh::imgSound:
+        i.plocha({{2, 6}, {5, 6}, {8.5, 3}, {8.5, 13}, {5, 10}, {2, 10}}, kIkona);
+        if (prvek.obrazek == kObrazekZvukVypnut) {
+            i.cara({{10.5, 6}, {14.5, 10}});
+            i.cara({{14.5, 6}, {10.5, 10}});
+        } else {
+            i.oblouk(8.5, 8, 3, -50, 100);
+            i.oblouk(8.5, 8, 5.8, -50, 100);
+        }
+        return;
+    case Druh::imgUloz:
+        i.plocha({{2.5, 2.5}, {11.5, 2.5}, {13.5, 4.5}, {13.5, 13.5}, {2.5, 13.5}}, 0xFF2B5C9E);
+        i.vypln(5, 2.5, 5, 4, kIkona);
+        i.vypln(4.5, 9, 7, 4.5, kIkona);
+        return;
+    case Druh::imgDEBUG:
+        i.obdelnik(3, 2, 10, 12);
+        i.cara({{5.5, 5.5}, {10.5, 5.5}});
+        i.cara({{5.5, 8}, {10.5, 8}});
+        i.cara({{5.5, 10.5}, {8.5, 10.5}});
+        return;
+    case Druh::imgPauza:
+        i.vypln(4, 3, 3, 10, kIkona);
+        i.vypln(9, 3, 3, 10, kIkona);
+        return;
+    case Druh::imgMinimalizuj: i.vypln(3, 11, 10, 2, kIkona); return;
+    case Druh::imgKONEC:
+        i.vypln(1, 1, 14, 14, 0xFFA02020);
+        i.cara({{5, 5}, {11, 11}});
+        i.cara({{11, 5}, {5, 11}});
+        return;
+    case Druh::imgV1: // the post office siding
+        i.obdelnik(1.5, 3.5, 13, 9);
+        i.cara({{1.5, 3.5}, {8, 9}, {14.5, 3.5}});
+        return;
+    default: return;
+    }
+}
+
+// Target of a track's end: at rest a small mark, else the sign of the note on the track.
+void nakresli_cil(QPainter& p, const Meritko& m, const Prvek& prvek) {
+    const QRect plocha = v_bodech(m, prvek);
+    struct Stitek {
+        int obrazek;
+        QRgb barva;
+        TextPohled pismeno;
+    };
+    constexpr Stitek kStitky[] = {{101, 0xFF008080, "i"}, {102, 0xFF0000FF, "N"}, {103, 0xFF800000, "V"}};
+    for (const Stitek& s : kStitky)
+        if (prvek.obrazek == s.obrazek) {
+            QRect deska(0, 0, m.bodu(10), m.bodu(13));
+            deska.moveCenter(plocha.center());
+            p.fillRect(deska, odstin(s.barva));
+            kresli_radek(p, deska.x() + m.bod(), deska.y(), kSirkaBunky * m.bod(), kVyskaBunky * m.bod(),
+                         s.pismeno, barvy::bila, Znaky::pismena);
+            return;
+        }
+}
+
+void nakresli_lampu(QPainter& p, const Meritko& m, int n, const Prvek& prvek) {
+    const double tl = std::max(1.0, m.bod());
+    const QRectF kruh = QRectF(v_bodech(m, prvek)).adjusted(tl / 2, tl / 2, -tl / 2, -tl / 2);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(barva_qt(prvek.okraj), tl));
+    // The second lamp shows a train in the zone: it is lit whenever it is seen.
+    p.setBrush(n >= 10 ? barva_qt(prvek.okraj) : QColor(Qt::black));
+    p.drawEllipse(kruh);
+    p.setBrush(Qt::NoBrush);
+    p.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void nakresli_svetlo(QPainter& p, const Meritko& m, int n, const Prvek& prvek) {
+    const QRectF kruh = v_bodech(m, prvek);
+    const QColor barva = odstin(kSvetla[static_cast<std::size_t>(n) % std::size(kSvetla)]);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(Qt::NoPen);
+    p.setBrush(barva);
+    p.drawEllipse(kruh.adjusted(m.bod(), m.bod(), -m.bod(), -m.bod()));
+    p.setBrush(Qt::NoBrush);
+    p.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void nakresli_stanoviste(QPainter& p, const Meritko& m, const Prvek& prvek) {
+    Ikona i(p, v_bodech(m, prvek), kIkona);
+    i.obdelnik(1.5, 1.5, 13, 13);
+    i.cara({{4.5, 12}, {4.5, 8}, {11.5, 8}, {11.5, 12}});
+    i.kruh(8, 5, 1.8);
+}
+
+void nakresli_tlacitko(QPainter& p, const Meritko& m, const Styl& s, const Prvek& prvek) {
+    const QRect plocha = v_bodech(m, prvek);
+    nakresli_napis(p, m, s, prvek);
+    p.setPen(QPen(odstin(kLinka), 1));
+    p.drawRect(plocha.adjusted(0, 0, -1, -1));
+}
+
+void nakresli_ramec(QPainter& p, const Meritko& m, const Prvek& prvek) {
+    const QRect plocha = v_bodech(m, prvek);
+    const int tl = m.bodu(2);
+    if (plocha.width() <= 2 * tl || plocha.height() <= 2 * tl)
+        return;
+    const QColor barva = odstin(0xFFFFD21E);
+    p.fillRect(plocha.x(), plocha.y(), plocha.width(), tl, barva);
+    p.fillRect(plocha.x(), plocha.bottom() - tl + 1, plocha.width(), tl, barva);
+    p.fillRect(plocha.x(), plocha.y(), tl, plocha.height(), barva);
+    p.fillRect(plocha.right() - tl + 1, plocha.y(), tl, plocha.height(), barva);
+}
+
+// A vehicle without a drawing of its own: a body on two bogies, with a cab when it is an engine.
+void nakresli_vuz(QPainter& p, const Meritko& m, const Prvek& prvek) {
+    const QRectF r = v_bodech(m, prvek);
+    const double b = m.bod();
+    const bool loko = !prvek.stav->empty() && prvek.stav->front() >= '0' && prvek.stav->front() <= '9';
+    const QRectF skrin(r.x() + b, r.y() + r.height() * 0.3, r.width() - 2 * b, r.height() * 0.45);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(odstin(0xFF707880), b));
+    p.setBrush(odstin(loko ? 0xFF8C2F24 : 0xFF2F5D45));
+    p.drawRoundedRect(skrin, 2 * b, 2 * b);
+    p.setPen(Qt::NoPen);
+    p.setBrush(odstin(0xFFD8DEE4));
+    const int oken = loko ? 2 : std::max(3, static_cast<int>(skrin.width() / (9 * b)));
+    for (int k = 0; k < oken; ++k)
+        p.drawRect(QRectF(skrin.x() + 3 * b + k * (skrin.width() - 9 * b) / std::max(1, oken - 1),
+                          skrin.y() + 3 * b, 3 * b, 4 * b));
+    p.setBrush(odstin(0xFF9098A0));
+    for (const double kde : {0.15, 0.25, 0.75, 0.85})
+        p.drawEllipse(QPointF(r.x() + r.width() * kde, skrin.bottom() + 2.5 * b), 2.5 * b, 2.5 * b);
+    p.setBrush(Qt::NoBrush);
+    p.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void nakresli_sberac(QPainter& p, const Meritko& m, const Prvek& prvek) {
+    Ikona i(p, v_bodech(m, prvek), kIkona);
+    i.cara({{1, 4}, {15, 4}});
+    i.cara({{8, 4}, {3.5, 9}, {8, 14}, {12.5, 9}, {8, 4}});
+}
+
+// The casing of the signal panel: a mast with the sockets of the lamps that it carries.
+void nakresli_panel(QPainter& p, const Meritko& m) {
+    if (!relief.lblnavestidlo.je(0) || !relief.lblnavestidlo[0].viditelny ||
+        relief.lblnavestidlo[0].text->empty())
+        return;
+    const PopisPanelu& popis = popis_panelu(panel_navestidla.tvar);
+    QRect telo;
+    for (int n = 0; n < static_cast<int>(popis.svetla.size()); ++n)
+        if (popis.svetla[static_cast<std::size_t>(n)] && relief.svetlo.je(n))
+            telo |= v_bodech(m, relief.svetlo[n]);
+    if (telo.isEmpty())
+        return;
+    const int okraj = m.bodu(3);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(odstin(0xFF8A939C), std::max(1.0, m.bod())));
+    p.setBrush(odstin(0xFF0B0D10));
+    p.drawRoundedRect(QRectF(telo.adjusted(-okraj, -okraj, okraj, okraj)), okraj, okraj);
+    p.setPen(QPen(odstin(kLinka), std::max(1.0, m.bod())));
+    p.setBrush(odstin(0xFF1A1F25));
+    for (int n = 0; n < static_cast<int>(popis.svetla.size()); ++n)
+        if (popis.svetla[static_cast<std::size_t>(n)] && relief.svetlo.je(n))
+            p.drawEllipse(
+                QRectF(v_bodech(m, relief.svetlo[n])).adjusted(m.bod(), m.bod(), -m.bod(), -m.bod()));
+    for (int n = 0; n < static_cast<int>(popis.pruhy.size()); ++n)
+        if (popis.pruhy[static_cast<std::size_t>(n)] && relief.pruh.je(n))
+            p.drawRect(QRectF(v_bodech(m, relief.pruh[n])));
+    p.setBrush(Qt::NoBrush);
+    p.setRenderHint(QPainter::Antialiasing, false);
+}
+
+} // namespace
+
+bool bere_vstup(Druh druh) {
+    return styl(druh).vstup;
+}
+
+int vrstva(Druh druh) {
+    return styl(druh).vrstva;
+}
+
+QRect misto_kresby(Druh druh, int, const Prvek& prvek) {
+    constexpr int kRezerva = 3 * kTwipu; // thick lines, antialiasing and what labels clear beside them
+    QRect r;
+    switch (styl(druh).zpusob) {
+    case Zpusob::kolej:
+    case Zpusob::most:
+        r = QRect(QPoint(std::min<int>(prvek.x1, prvek.x2), std::min<int>(prvek.y1, prvek.y2)),
+                  QPoint(std::max<int>(prvek.x1, prvek.x2), std::max<int>(prvek.y1, prvek.y2)));
+        break;
+    case Zpusob::vyhybka: r = QRect(prvek.vlevo, prvek.nahore, kSirkaVyhybky, kVyskaVyhybky); break;
+    case Zpusob::napis:
+    case Zpusob::tlacitko: {
+        // the text of a label may be longer than its rectangle, to either side by its alignment
+        const int delka = static_cast<int>(prvek.text->size()) * kSirkaZnaku * nasobek(styl(druh), prvek);
+        r = QRect(prvek.vlevo, prvek.nahore, std::max<int>(prvek.sirka, 1),
+                  std::max<int>(prvek.vyska, kVyskaZnaku));
+        if (delka > prvek.sirka) {
+            const int navic = delka - std::max<int>(prvek.sirka, 0);
+            r.adjust(prvek.zarovnani != 0 && prvek.sirka > 0 ? -navic : 0, 0, navic, 0);
+        }
+        break;
+    }
+    default: r = QRect(prvek.vlevo, prvek.nahore, prvek.sirka, prvek.vyska); break;
+    }
+    return r.adjusted(-kRezerva, -kRezerva, kRezerva, kRezerva);
+}
+
+QRect misto_vstupu(Druh druh, const Prvek& prvek) {
+    QRect r(prvek.vlevo, prvek.nahore, prvek.sirka, prvek.vyska);
+    if (styl(druh).zpusob == Zpusob::vyhybka)
+        r.setSize({kSirkaVyhybky, kVyskaVyhybky});
+    else if (r.isEmpty() && styl(druh).zpusob == Zpusob::napis)
+        r.setSize({static_cast<int>(prvek.text->size()) * kSirkaZnaku, kVyskaZnaku});
+    if (r.width() < kNejmensiCil)
+        r.adjust(-(kNejmensiCil - r.width() + 1) / 2, 0, (kNejmensiCil - r.width() + 1) / 2, 0);
+    if (r.height() < kNejmensiCil)
+        r.adjust(0, -(kNejmensiCil - r.height() + 1) / 2, 0, (kNejmensiCil - r.height() + 1) / 2);
+    return r;
+}
+
+void nakresli_prvek(QPainter& p, const Meritko& m, Druh druh, int n, const Prvek& prvek) {
+    if (!prvek.viditelny)
+        return;
+    const Styl& s = styl(druh);
+    switch (s.zpusob) {
+    case Zpusob::nic: return;
+    case Zpusob::kolej:
+        nakresli_caru(p, m, prvek.x1, prvek.y1, prvek.x2, prvek.y2, barva_qt(prvek.barva), tloustka(m),
+                      m.bodu(kMezeraUseku));
+        return;
+    case Zpusob::most: nakresli_most(p, m, prvek); return;
+    case Zpusob::napis: nakresli_napis(p, m, s, prvek); return;
+    case Zpusob::odstavec: nakresli_odstavec(p, m, prvek, true); return;
+    case Zpusob::radky: nakresli_odstavec(p, m, prvek, false); return;
+    case Zpusob::nastupiste: nakresli_nastupiste(p, m, prvek); return;
+    case Zpusob::vyhybka: nakresli_vyhybku(p, m, prvek.vlevo, prvek.nahore, stav_vyhybky(prvek)); return;
+    case Zpusob::cil: nakresli_cil(p, m, prvek); return;
+    case Zpusob::lampa: nakresli_lampu(p, m, n, prvek); return;
+    case Zpusob::znacka: p.fillRect(v_bodech(m, prvek), barva_qt(prvek.barva)); return;
+    case Zpusob::stanoviste: nakresli_stanoviste(p, m, prvek); return;
+    case Zpusob::ikona: nakresli_ikonu(p, m, druh, prvek); return;
+    case Zpusob::tlacitko: nakresli_tlacitko(p, m, s, prvek); return;
+    case Zpusob::svetlo: nakresli_svetlo(p, m, n, prvek); return;
+    case Zpusob::pruh:
+        p.fillRect(v_bodech(m, prvek), odstin(kPruhy[static_cast<std::size_t>(n) % std::size(kPruhy)]));
+        return;
+    case Zpusob::ramec: nakresli_ramec(p, m, prvek); return;
+    case Zpusob::vuz: nakresli_vuz(p, m, prvek); return;
+    case Zpusob::sberac: nakresli_sberac(p, m, prvek); return;
+    }
+}
+
+void nakresli_napis_pozadi(QPainter& p, const Meritko& m, const NapisPozadi& napis) {
+    kresli_radek(p, m.x(napis.vlevo), m.y(napis.nahore), kSirkaBunky * m.bod(), kVyskaBunky * m.bod(),
+                 napis.znaky, barvy::seda, Znaky::znacky);
+}
+
+void nakresli_podklad(QPainter& p, const Meritko& m, const QRect& plocha) {
+    p.fillRect(plocha, Qt::black);
+    const int tl = m.bodu(1);
+    const auto pas = [&](int od, int po) {
+        const int a = m.y(od * kTwipu), b = m.y(po * kTwipu);
+        p.fillRect(QRect(plocha.x(), a, plocha.width(), b - a) & plocha, odstin(kTmavaPlocha));
+    };
+    const auto linka = [&](int kde) {
+        p.fillRect(QRect(plocha.x(), m.y(kde * kTwipu), plocha.width(), tl) & plocha, odstin(kLinka));
+    };
+    pas(0, 20);
+    linka(20);
+    linka(42);
+    pas(597, 615);
+    linka(597);
+    linka(615);
+    nakresli_panel(p, m);
+}
+
+void nakresli_vyhybku(QPainter& p, const Meritko& m, int x, int y, int stav) {
+    const TvarVyhybky& tvar = tvar_vyhybky(stav);
+    const QColor seda = barva_qt(barvy::seda);
+    const auto trida = static_cast<std::size_t>(std::max(0, stav) / 50);
+    const QColor barva = barva_qt(kBarvyTrid[std::min(trida, kBarvyTrid.size() - 1)]);
+    const int tl = tloustka(m);
+    switch (tvar.druh) {
+    case DruhObrazku::zadny: return;
+    case DruhObrazku::pohyb:
+        for (const Port noha : tvar.nohy)
+            if (noha != Port::zadny)
+                nakresli_nohu(p, m, x, y, noha, kOdsazeniPohybu, seda, tl);
+        return;
+    case DruhObrazku::koncovy:
+        for (const Port noha : tvar.nohy)
+            if (noha != Port::zadny && noha != tvar.a && noha != tvar.b)
+                nakresli_nohu(p, m, x, y, noha, kOdsazeniNohy, seda, tl);
+        nakresli_jizdu(p, m, x, y, tvar.a, tvar.b, barva, tl);
+        return;
+    case DruhObrazku::volny:
+        for (const Port noha : tvar.nohy)
+            nakresli_nohu(p, m, x, y, noha, 0, barva, tl);
+        return;
+    }
+}

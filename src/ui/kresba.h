@@ -1,0 +1,49 @@
+// ui/kresba.h - draws the elements of the relief store, one at a time, as vectors at any scale.
+//
+// The desk is measured in twips, 15 to a pixel of the 1024 by 768 desk. Level and upright edges are put
+// on whole device pixels and drawn without antialiasing; slanted and round ones are antialiased.
+#pragma once
+
+#include "relief/relief.h"
+
+#include <QPainter>
+#include <QRect>
+
+#include <cstdint>
+
+inline constexpr int kTwipu = 15;                 // twips to a pixel of the desk
+inline constexpr int kSirkaStolu = 1024 * kTwipu; // one monitor
+inline constexpr int kVyskaStolu = 768 * kTwipu;
+
+// From twips of the desk to device pixels of the picture.
+struct Meritko {
+    double k = 1.0 / kTwipu; // device pixels to a twip
+    int x0 = 0, y0 = 0;      // where the desk's corner lies
+
+    int x(int twipy) const { return x0 + zaokrouhli_px(twipy * k); }
+    int y(int twipy) const { return y0 + zaokrouhli_px(twipy * k); }
+    double bod() const { return k * kTwipu; } // device pixels to a pixel of the desk
+    int bodu(double kolik) const { return std::max(1, zaokrouhli_px(kolik * bod())); }
+
+private:
+    static int zaokrouhli_px(double v) { return static_cast<int>(v < 0 ? v - 0.5 : v + 0.5); }
+};
+
+// Does the kind take the operator's input? Only such elements are found by the pointer first.
+bool bere_vstup(Druh druh);
+// Layer of the kind under elements of the same drawing order.
+int vrstva(Druh druh);
+
+// Rectangle of the element in twips, what it draws outside its own place included.
+QRect misto_kresby(Druh druh, int n, const Prvek& prvek);
+// Rectangle in twips that the pointer hits.
+QRect misto_vstupu(Druh druh, const Prvek& prvek);
+
+// Draws the element; nothing when it is not visible.
+void nakresli_prvek(QPainter& p, const Meritko& m, Druh druh, int n, const Prvek& prvek);
+// Text painted on the background.
+void nakresli_napis_pozadi(QPainter& p, const Meritko& m, const NapisPozadi& napis);
+// Ground of the desk: the bars and panels that no element stands for.
+void nakresli_podklad(QPainter& p, const Meritko& m, const QRect& plocha);
+// A picture of a switch alone, its cell's corner at (x, y) twips: for the manual and for tests.
+void nakresli_vyhybku(QPainter& p, const Meritko& m, int x, int y, int stav);

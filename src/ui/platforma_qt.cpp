@@ -1,0 +1,241 @@
+// ui/platforma_qt.cpp - the world outside, as the window system gives it.
+#include "ui/platforma_qt.h"
+
+#include "app/simulace.h"
+#include "ui/brana.h"
+#include "ui/hlavni_okno.h"
+#include "ui/pismo.h"
+#include "ui/zvuk.h"
+#include "zaklad/chyba.h"
+#include "zaklad/platforma.h"
+#include "zaklad/soubory.h"
+
+#include <QApplication>
+#include <QCursor>
+#include <QDateTime>
+#include <QDesktopServices>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QLockFile>
+#include <QMessageBox>
+#include <QProcess>
+#include <QPushButton>
+#include <QScreen>
+#include <QSettings>
+#include <QStandardPaths>
+#include <QTimer>
+#include <QUrl>
+
+#include <algorithm>
+#include <memory>
+
+namespace {
+
+QElapsedTimer hodiny_procesu;
+std::unique_ptr<QLockFile> zamek;
+
+QString slozka_uzivatele() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
+           QStringLiteral("/KPS TESK");
+}
+
+// --- settings: one file for each user; sections and keys are compared without case
+
+QSettings& nastaveni() {
+    static QSettings soubor(slozka_uzivatele() + QStringLiteral("/nastaveni.ini"), QSettings::IniFormat);
+    return soubor;
+}
+
+QString klic_nastaveni(TextPohled sekce, TextPohled klic) {
+    const QString hledany = na_qstring(sekce) + u'/' + na_qstring(klic);
+    for (const QString& k : nastaveni().allKeys())
+        if (k.compare(hledany, Qt::CaseInsensitive) == 0)
+            return k;
+    return hledany;
+}
+
+std::vector<Text> klice_sekce(TextPohled sekce) {
+    const QString zacatek = na_qstring(sekce) + u'/';
+    QStringList klice;
+    for (const QString& k : nastaveni().allKeys())
+        if (k.startsWith(zacatek, Qt::CaseInsensitive))
+            klice += k.mid(zacatek.size());
+    // numbered keys in the order of their numbers: "2" before "10"
+    std::sort(klice.begin(), klice.end(), [](const QString& a, const QString& b) {
+        bool cislo_a = false, cislo_b = false;
+        const int ca = a.toInt(&cislo_a), cb = b.toInt(&cislo_b);
+        return cislo_a && cislo_b ? ca < cb : a < b;
+    });
+    std::vector<Text> vysledek;
+    for (const QString& k : klice)
+        vysledek.push_back(z_qstring(k));
+    return vysledek;
+}
+
+// --- boxes and dialogues
+
+QWidget* rodic() {
+    return QApplication::activeWindow();
+}
+
+void okno(TextPohled titul, TextPohled text) {
+    QMessageBox box(QMessageBox::NoIcon, na_qstring(titul), na_qstring(text), QMessageBox::Ok, rodic());
+    box.exec();
+}
+
+bool otazka(TextPohled titul, TextPohled text, bool vychozi) {
+    QMessageBox box(QMessageBox::NoIcon, na_qstring(titul), na_qstring(text), QMessageBox::NoButton, rodic());
+    QPushButton* ano = box.addButton(QStringLiteral("&Ano"), QMessageBox::YesRole);
+    QPushButton* ne = box.addButton(QStringLiteral("&Ne"), QMessageBox::NoRole);
+    box.setDefaultButton(vychozi ? ano : ne);
+    box.setEscapeButton(ne);
+    box.exec();
+    return box.clickedButton() == ano;
+}
+
+std::optional<Text> soubor(TextPohled slozka, TextPohled vzor, bool ulozit) {
+    const QString kde = QString::fromStdString(cesta_k_zapisu(slozka));
+    const QString filtr = QStringLiteral("Soubory záznamů simulace (%1)").arg(na_qstring(vzor));
+    const QString vybrany =
+        ulozit
+            ? QFileDialog::getSaveFileName(rodic(), QStringLiteral("Uložit rozehranou simulaci"), kde, filtr,
+                                           nullptr, QFileDialog::DontConfirmOverwrite)
+            : QFileDialog::getOpenFileName(rodic(), QStringLiteral("Načíst rozehranou simulaci"), kde, filtr);
+    if (vybrany.isEmpty())
+        return std::nullopt;
+    return z_qstring(vybrany);
+}
+
+// --- programs and documents
+
+QString na_disku(TextPohled cesta) {
+    const auto nalezeny = najdi_soubor(cesta);
+    return nalezeny ? QString::fromStdString(*nalezeny) : QString();
+}
+
+RezimObrazovky rezim() {
+    const QScreen* obrazovka = QApplication::primaryScreen();
+    if (obrazovka == nullptr)
+        return {};
+    const QSizeF velikost = QSizeF(obrazovka->size()) * obrazovka->devicePixelRatio();
+    return {qRound(velikost.width()), qRound(velikost.height()), qRound(obrazovka->refreshRate()),
+            obrazovka->depth()};
+}
+
+void cekej(double sekundy) {
+    QEventLoop smycka;
+    QTimer::singleShot(static_cast<int>(sekundy * 1000), &smycka, &QEventLoop::quit);
+    smycka.exec();
+}
+
+bool bezi_jina() {
+    QDir().mkpath(slozka_uzivatele());
+    zamek = std::make_unique<QLockFile>(slozka_uzivatele() + QStringLiteral("/bezi.lock"));
+    zamek->setStaleLockTime(0); // a lock belongs to its process, however long it runs
+    return !zamek->tryLock(0) && zamek->error() == QLockFile::LockFailedError;
+}
+
+} // namespace
+
+void zapln_platformu() {
+    hodiny_procesu.start();
+    Platforma p = prazdna_platforma();
+    p.tik_ms = [] { return static_cast<std::int32_t>(hodiny_procesu.elapsed()); };
+    p.nastenny_cas = [] {
+        const QDateTime t = QDateTime::currentDateTime();
+        return NastennyCas{t.date().year(),   t.date().month(),  t.date().day(), t.time().hour(),
+                           t.time().minute(), t.time().second(), t.time().msec()};
+    };
+    p.semeno = [] { return static_cast<std::uint64_t>(QDateTime::currentMSecsSinceEpoch()); };
+    p.nech_bezet_ui = [] { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); };
+    p.cekej = cekej;
+    p.pipni = zahraj_ton;
+
+    p.okno = okno;
+    p.otazka = otazka;
+    p.soubor_k_otevreni = [](TextPohled slozka, TextPohled vzor) { return soubor(slozka, vzor, false); };
+    p.soubor_k_ulozeni = [](TextPohled slozka, TextPohled vzor) { return soubor(slozka, vzor, true); };
+
+    p.nastaveni_cti = [](TextPohled sekce, TextPohled klic) -> std::optional<Text> {
+        const QVariant hodnota = nastaveni().value(klic_nastaveni(sekce, klic));
+        if (!hodnota.isValid())
+            return std::nullopt;
+        return z_qstring(hodnota.toString());
+    };
+    p.nastaveni_pis = [](TextPohled sekce, TextPohled klic, TextPohled hodnota) {
+        nastaveni().setValue(klic_nastaveni(sekce, klic), na_qstring(hodnota));
+        nastaveni().sync();
+    };
+    p.nastaveni_smaz = [](TextPohled sekce, TextPohled klic) {
+        nastaveni().remove(klic_nastaveni(sekce, klic));
+        nastaveni().sync();
+    };
+    p.nastaveni_klice = klice_sekce;
+
+    // The desk is drawn in its own proportions to any size of the screen. So no mode of the display is
+    // ever changed, and yet the desk's own sizes can always be had.
+    p.rezim = rezim;
+    p.rezimy = [] { return std::vector<RezimObrazovky>{rezim(), {1024, 768, 60, 32}, {2048, 768, 60, 32}}; };
+    p.nastav_rezim = [](const RezimObrazovky&) { return true; };
+
+    p.kurzor = [] {
+        const HlavniOkno* hlavni = HlavniOkno::otevrene();
+        return hlavni != nullptr ? hlavni->kurzor_na_stole() : Bod{};
+    };
+    p.nastav_kurzor = [](Bod kam) {
+        if (HlavniOkno* hlavni = HlavniOkno::otevrene())
+            hlavni->nastav_kurzor_na_stole(kam);
+    };
+    p.kurzor_viditelny = [](bool viditelny) {
+        if (HlavniOkno* hlavni = HlavniOkno::otevrene())
+            hlavni->setCursor(viditelny ? Qt::ArrowCursor : Qt::BlankCursor);
+    };
+
+    p.minimalizuj = [] {
+        if (HlavniOkno* hlavni = HlavniOkno::otevrene())
+            hlavni->showMinimized();
+    };
+    p.spust_program = [](TextPohled program) {
+        const QString cesta = na_disku(program);
+        return !cesta.isEmpty() && QProcess::startDetached(cesta, {}, QFileInfo(cesta).absolutePath());
+    };
+    p.otevri_dokument = [](TextPohled dokument) {
+        const QString cesta = na_disku(dokument);
+        return !cesta.isEmpty() && QDesktopServices::openUrl(QUrl::fromLocalFile(cesta));
+    };
+    p.bezi_jina_instance = bezi_jina;
+    p.ukonci = [](int kod) { throw KonecProgramu{kod}; };
+    platforma = p;
+}
+
+void nastav_cestu_aplikace() {
+    const QString slozka = QCoreApplication::applicationDirPath();
+    const Text zapsana = z_qstring(slozka);
+    if (na_qstring(zapsana) == slozka) {
+        simulace.cesta_aplikace = zapsana.ends_with('/') ? zapsana : zapsana + "\\";
+        return;
+    }
+    QDir::setCurrent(slozka);
+    simulace.cesta_aplikace = ".\\";
+}
+
+QString soubor_aplikace(const char* jmeno) {
+    return na_disku(simulace.cesta_aplikace + jmeno);
+}
+
+const char* rada_bez_obrazovky() {
+    return "KPS RVZ TESK: není k dispozici žádná obrazovka.\n"
+           "\n"
+           "  Stůl lze nabídnout přes VNC a dívat se na něj prohlížečem VNC na adrese 127.0.0.1, port 5900\n"
+           "  (na vzdálený počítač vede tunel: ssh -L 5900:127.0.0.1:5900 pocitac):\n"
+           "      ./tesk vnc\n"
+           "  Totéž bez serveru VNC; port je pak bez hesla otevřen i do sítě:\n"
+           "      QT_QPA_PLATFORM=vnc:size=1280x960:port=5900 tesk\n"
+           "  Přihlášení na vzdálený počítač s přenosem oken:\n"
+           "      ssh -X pocitac\n"
+           "\n"
+           "  Bez obrazovky běží simulace v programu tesk-davka.\n";
+}

@@ -1,0 +1,171 @@
+// ui/platno.cpp - the desk as a picture that follows the relief store.
+#include "ui/platno.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <tuple>
+
+namespace {
+
+const TabulkaPrvku& tabulka_druhu(std::size_t d) {
+    return relief.*kDruhy[d].tabulka;
+}
+
+} // namespace
+
+void Platno::nastav_velikost(QSize velikost, int sirka) {
+    sirka_stolu = sirka;
+    platno = QImage(velikost, QImage::Format_RGB32);
+    const double k = std::min(velikost.width() / static_cast<double>(sirka_stolu),
+                              velikost.height() / static_cast<double>(kVyskaStolu));
+    m.k = k;
+    m.x0 = static_cast<int>((velikost.width() - sirka_stolu * k) / 2);
+    m.y0 = static_cast<int>((velikost.height() - kVyskaStolu * k) / 2);
+    vse = true;
+}
+
+QPoint Platno::na_twipy(QPointF bod) const {
+    return QPoint(static_cast<int>((bod.x() - m.x0) / m.k), static_cast<int>((bod.y() - m.y0) / m.k));
+}
+
+QRect Platno::v_bodech(const QRect& twipy) const {
+    return QRect(QPoint(m.x(twipy.x()), m.y(twipy.y())),
+                 QPoint(m.x(twipy.x() + twipy.width()), m.y(twipy.y() + twipy.height())));
+}
+
+void Platno::serad() {
+    poradi.clear();
+    for (std::size_t d = 0; d < kDruhy.size(); ++d)
+        for (std::size_t n = 0; n < nakreslene[d].size(); ++n)
+            if (nakreslene[d][n].existuje) {
+                const Druh druh = static_cast<Druh>(d);
+                const int cislo = static_cast<int>(n);
+                poradi.push_back({druh, cislo, misto_kresby(druh, cislo, nakreslene[d][n])});
+            }
+    const auto klic = [&](const Polozka& p) {
+        return std::tuple(
+            nakreslene[static_cast<std::size_t>(p.druh)][static_cast<std::size_t>(p.n)].poradi(),
+            vrstva(p.druh), p.druh, p.n);
+    };
+    std::sort(poradi.begin(), poradi.end(),
+              [&](const Polozka& a, const Polozka& b) { return klic(a) < klic(b); });
+}
+
+QRegion Platno::obnov() {
+    if (platno.isNull())
+        return {};
+    if (!vse && nakreslena_revize == revize_reliefu && nakresleny_panel == panel_navestidla)
+        return {};
+    nakreslena_revize = revize_reliefu;
+
+    QRegion zmenene;
+    bool preradit = false, posunout = false;
+    for (std::size_t d = 0; d < kDruhy.size(); ++d) {
+        const TabulkaPrvku& t = tabulka_druhu(d);
+        std::vector<Prvek>& stare = nakreslene[d];
+        const auto pocet = static_cast<std::size_t>(t.nejvyssi() + 1);
+        if (stare.size() != pocet) {
+            stare.resize(pocet);
+            preradit = true;
+        }
+        for (std::size_t n = 0; n < pocet; ++n) {
+            const int cislo = static_cast<int>(n);
+            Prvek& stary = stare[n];
+            if (!t.je(cislo)) {
+                if (stary.existuje) {
+                    zmenene += v_bodech(misto_kresby(static_cast<Druh>(d), cislo, stary));
+                    stary = Prvek{};
+                    preradit = true;
+                }
+                continue;
+            }
+            const Prvek& novy = t[cislo];
+            if (stary == novy)
+                continue;
+            const Druh druh = static_cast<Druh>(d);
+            preradit |= !stary.existuje || stary.poradi != novy.poradi;
+            if (stary.existuje && stary.viditelny)
+                zmenene += v_bodech(misto_kresby(druh, cislo, stary));
+            if (novy.viditelny)
+                zmenene += v_bodech(misto_kresby(druh, cislo, novy));
+            posunout = true;
+            stary = novy;
+        }
+    }
+    if (nakresleny_panel != panel_navestidla) {
+        nakresleny_panel = panel_navestidla;
+        vse |= zmenene.isEmpty(); // the casing changes together with its labels; alone only at a reset
+    }
+    if (nakreslene_napisy != relief.napisy) {
+        nakreslene_napisy = relief.napisy;
+        vse = true;
+    }
+    if (preradit)
+        serad();
+    else if (posunout)
+        for (Polozka& p : poradi)
+            p.misto = misto_kresby(
+                p.druh, p.n, nakreslene[static_cast<std::size_t>(p.druh)][static_cast<std::size_t>(p.n)]);
+    if (vse)
+        zmenene = platno.rect();
+    vse = false;
+    zmenene &= platno.rect();
+    kresli(zmenene);
+    return zmenene;
+}
+
+void Platno::prekresli() {
+    vse = true;
+    obnov();
+}
+
+void Platno::kresli(const QRegion& kde) {
+    if (kde.isEmpty())
+        return;
+    QPainter p(&platno);
+    if (kde != QRegion(platno.rect()))
+        p.setClipRegion(kde);
+    p.fillRect(kde.boundingRect(), Qt::black);
+    const QRect stul = v_bodech(QRect(0, 0, sirka_stolu, kVyskaStolu));
+    nakresli_podklad(p, m, stul & kde.boundingRect());
+    for (const NapisPozadi& napis : nakreslene_napisy)
+        nakresli_napis_pozadi(p, m, napis);
+    for (const Polozka& polozka : poradi) {
+        const Prvek& prvek =
+            nakreslene[static_cast<std::size_t>(polozka.druh)][static_cast<std::size_t>(polozka.n)];
+        if (prvek.viditelny && kde.intersects(v_bodech(polozka.misto)))
+            nakresli_prvek(p, m, polozka.druh, polozka.n, prvek);
+    }
+}
+
+std::optional<Nalezeny> Platno::prvek_pod(QPoint twipy) const {
+    // Two rounds in one: what holds the point within its own rectangle comes before what holds it only
+    // in the margin of a small target; within a round the upper one wins.
+    const Polozka* presny = nullptr;
+    const Polozka* blizky = nullptr;
+    int vzdalenost = 0;
+    for (const Polozka& polozka : poradi) {
+        if (!bere_vstup(polozka.druh))
+            continue;
+        const Prvek& prvek =
+            nakreslene[static_cast<std::size_t>(polozka.druh)][static_cast<std::size_t>(polozka.n)];
+        if (!prvek.viditelny)
+            continue;
+        const QRect cil = misto_vstupu(polozka.druh, prvek);
+        if (!cil.contains(twipy))
+            continue;
+        const QPoint od = cil.center() - twipy;
+        const int daleko = od.x() * od.x() + od.y() * od.y();
+        if (QRect(prvek.vlevo, prvek.nahore, prvek.sirka, prvek.vyska).contains(twipy))
+            presny = &polozka;
+        else if (blizky == nullptr || daleko < vzdalenost) {
+            blizky = &polozka;
+            vzdalenost = daleko;
+        }
+    }
+    const Polozka* nalezeny = presny != nullptr ? presny : blizky;
+    if (nalezeny == nullptr)
+        return std::nullopt;
+    return Nalezeny{nalezeny->druh, nalezeny->n};
+}

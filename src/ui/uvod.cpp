@@ -1,0 +1,123 @@
+// ui/uvod.cpp - the splash screen: what the operator sees while the simulation is being prepared.
+#include "ui/uvod.h"
+
+#include "app/simulace.h"
+#include "relief/tvary_vyhybek.h"
+#include "ui/kresba.h"
+#include "ui/pismo.h"
+
+#include <QGuiApplication>
+#include <QPainter>
+#include <QPainterPath>
+#include <QScreen>
+
+namespace {
+
+constexpr QSize kVelikost(560, 300);
+constexpr int kSledovani_ms = 50;
+
+void radek(QPainter& p, int x, int y, double krat, TextPohled text, Barva barva) {
+    kresli_radek(p, x, y, kSirkaBunky * krat, kVyskaBunky * krat, text, barva, Znaky::pismena);
+}
+
+// A station throat with a route set through it, as the desk would show it.
+void nakresli_zhlavi(QPainter& p) {
+    Meritko m;
+    m.k = 2.0 / kTwipu;
+    m.x0 = 24, m.y0 = 122;
+    const auto kolej = [&](int odkud, int kam, int v_radku, Barva barva) {
+        Prvek k;
+        k.viditelny = true;
+        k.barva = barva;
+        k.x1 = odkud * kSirkaZnaku;
+        k.x2 = kam * kSirkaZnaku;
+        k.y1 = k.y2 = v_radku * kVyskaVyhybky + kOsaRadku;
+        nakresli_prvek(p, m, Druh::kolej, 1, k);
+    };
+    const auto vyhybka = [&](int sloupec, int v_radku, int stav) {
+        nakresli_vyhybku(p, m, sloupec * kSirkaZnaku, v_radku * kVyskaVyhybky, stav);
+    };
+    const auto navestidlo = [&](int sloupec, int v_radku, int kod, Barva barva) {
+        Prvek n;
+        n.viditelny = true;
+        n.barva = barva;
+        n.text = znak(kod);
+        n.vlevo = sloupec * kSirkaZnaku;
+        n.nahore = v_radku * kVyskaVyhybky;
+        nakresli_prvek(p, m, Druh::navestidlo, 1, n);
+    };
+    kolej(0, 8, 0, barvy::zelena), vyhybka(8, 0, 52), kolej(10, 32, 0, barvy::seda);
+    kolej(0, 10, 1, barvy::seda), vyhybka(10, 1, 61), kolej(12, 14, 1, barvy::zelena);
+    vyhybka(14, 1, 53), kolej(16, 32, 1, barvy::zelena);
+    vyhybka(16, 2, 11), kolej(18, 32, 2, barvy::cervena);
+    navestidlo(3, 0, 229, barvy::zelena), navestidlo(19, 0, 230, barvy::seda);
+    navestidlo(20, 1, 230, barvy::seda), navestidlo(21, 2, 230, barvy::seda);
+}
+
+} // namespace
+
+QPolygon obrys_uvodu() {
+    const int s = kVelikost.width(), v = kVelikost.height(), z = 12; // z: the step of a corner
+    return QPolygon({
+        {0, 2 * z},
+        {z, 2 * z},
+        {z, z},
+        {2 * z, z},
+        {2 * z, 0}, // left upper corner
+        {s / 2 - 5 * z, 0},
+        {s / 2 - 4 * z, z},
+        {s / 2 + 4 * z, z},
+        {s / 2 + 5 * z, 0}, // notch above
+        {s - 2 * z, 0},
+        {s - 2 * z, z},
+        {s - z, z},
+        {s - z, 2 * z},
+        {s, 2 * z},         // right upper corner
+        {s - z / 2, v / 2}, // right side
+        {s, v - 2 * z},
+        {s - z, v - 2 * z},
+        {s - z, v - z},
+        {s - 2 * z, v - z},
+        {s - 2 * z, v}, // right lower one
+        {s / 2 + 5 * z, v},
+        {s / 2 + 4 * z, v - z},
+        {s / 2 - 4 * z, v - z},
+        {s / 2 - 5 * z, v}, // notch below
+        {2 * z, v},
+        {2 * z, v - z},
+        {z, v - z},
+        {z, v - 2 * z},
+        {0, v - 2 * z}, // left lower corner
+        {z / 2, v / 2}, // left side
+    });
+}
+
+UvodniObrazovka::UvodniObrazovka() : QWidget(nullptr, Qt::FramelessWindowHint | Qt::SplashScreen) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setWindowTitle(QStringLiteral("KPS RVZ TESK"));
+    setFixedSize(kVelikost);
+    setMask(QRegion(obrys_uvodu()));
+    if (const QScreen* obrazovka = QGuiApplication::primaryScreen())
+        move(obrazovka->geometry().center() - QPoint(kVelikost.width() / 2, kVelikost.height() / 2));
+    connect(&sledovani, &QTimer::timeout, this, [this] {
+        const QString novy = na_qstring(simulace.popisek_nacitani);
+        if (novy != popisek) {
+            popisek = novy;
+            update();
+        }
+    });
+    sledovani.start(kSledovani_ms);
+}
+
+void UvodniObrazovka::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    p.fillRect(rect(), Qt::black);
+    p.setPen(QPen(QColor(96, 112, 128), 3));
+    p.drawPolygon(obrys_uvodu());
+    radek(p, 40, 34, 3, "KPS RVZ TESK", barvy::bila);
+    radek(p, 42, 80, 1, "Simulátor stanoviště dispečera železničního uzlu"_cz, 0xB8B0A8);
+    nakresli_zhlavi(p);
+    p.fillRect(40, 212, kVelikost.width() - 80, 1, QColor(60, 69, 80));
+    radek(p, 40, 226, 1, z_qstring(popisek), barvy::azurova);
+    radek(p, 40, 250, 1, Text("verze "_cz) + text_verze(), barvy::seda);
+}
