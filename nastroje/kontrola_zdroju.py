@@ -51,8 +51,8 @@ def najdi_vlozeny(soubor, jmeno):
 
 def zkontroluj(soubor, graf):
     radky = soubor.read_text(encoding="utf-8").splitlines()
-    cesta = soubor.relative_to(KOREN).as_posix().removeprefix("src/")
-    if not radky or not re.match(r"// " + re.escape(cesta) + r" - \S.*\.$", radky[0]):
+    cesta = re.sub("^(src|nastroje)/", "", soubor.relative_to(KOREN).as_posix())
+    if not radky or not re.match(r"// (nastroje/)?" + re.escape(cesta) + r" - \S", radky[0]):
         chyba(soubor, 1, f'first line is not "// {cesta} - what it holds."')
     odkud = slozka_src(soubor)
     graf[soubor.resolve()] = []

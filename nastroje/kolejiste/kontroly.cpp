@@ -301,7 +301,8 @@ void zkontroluj(const Plan& plan, const Graf& graf, const std::vector<ZaznamReli
                         {misto_cisla(druh, n), druh + " " + s(n), "toto číslo nesmí být použito"});
     // both pictures hold the same elements
     if (jeden.size() != dva.size())
-        zavady.push_back({{"kolejiste", 0}, "", "obrazy jednoho a dvou monitorů nemají stejné prvky"});
+        zavady.push_back(
+            {Misto{"kolejiste", 0}, std::string(), "obrazy jednoho a dvou monitorů nemají stejné prvky"});
 }
 
 std::map<std::string, std::vector<int>> chybejici(const Plan& plan, const std::vector<ZaznamReliefu>& jeden) {

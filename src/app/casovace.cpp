@@ -4,6 +4,7 @@
 #include "app/blikani.h"
 #include "app/cas.h"
 #include "app/simulace.h"
+#include "cesty/tik_volby.h"
 #include "prvky/panel.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
@@ -53,6 +54,7 @@ void dalsi_den() {
 
 constexpr std::array kCasovace = {
     Casovac{"tmrHodiny", "hodiny", 150, &krok_hodin},
+    Casovac{"tmrVolby", "volby", 1100, &tik_volby},
     Casovac{"tmrBlikani", "blikani", 500, &krok_blikani},
 };
 

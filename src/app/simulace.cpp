@@ -50,7 +50,7 @@ void nova_simulace() {
 }
 
 bool je_ladeni() {
-    return soubor_existuje(simulace.cesta_aplikace + "debug.dat");
+    return platforma.ladeni() || soubor_existuje(simulace.cesta_aplikace + "debug.dat");
 }
 
 void spust_hodiny() {

@@ -63,7 +63,8 @@ void nova_simulace();
 
 // --- at any time
 
-// The marker of debug mode: debug.dat lies in the program's folder. Whatever fails means no.
+// The marker of debug mode: debug.dat lies in the program's folder, or the host plays that it does.
+// Whatever fails means no.
 bool je_ladeni();
 // Ends a pause: fresh marks of time, so that a pause costs no simulated time, and the pause label off.
 void spust_hodiny();

@@ -3,11 +3,16 @@
 
 #include "app/konec.h"
 #include "app/simulace.h"
+#include "cesty/makra.h"
+#include "cesty/volba.h"
 #include "cesty/vyber.h"
+#include "cesty/zasobnik.h"
 #include "desk/menu.h"
 #include "desk/zprava.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
+#include "prvky/stanoviste.h"
+#include "prvky/vyhybky.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
 
@@ -33,6 +38,11 @@ void pipni_klavesou() {
 bool prihlaseni_bezi() {
     const Text& kod = relief.lblPrikaz[0].text;
     return kod == " INIT " || kod == " TPC " || kod == " ARCHIV ";
+}
+
+// A warning of the end of a route: until it is accepted, the route machine leaves the route alone.
+bool je_varovani(TextPohled kod) {
+    return kod == " POZOR STITEK " || kod == " POZOR NVL " || kod == " POZOR VYLUKA " || kod == " POZOR PN ";
 }
 
 void nastav_rychlost(int rychlost) {
@@ -90,6 +100,10 @@ bool odpovez_na_radek() {
     } else if (kod == " ARCHIV ") {
         spust_hodiny();
         potvrd_prikaz();
+    } else if (je_varovani(kod)) {
+        potvrd_varovani();
+    } else if (makro_se_zaznamenava()) {
+        uloz_makro();
     } else if (prikaz_radek.obsazen) {
         const int otazka = prikaz_radek.kod_zpravy;
         if (otazka >= 1 && otazka <= 3) // a neighbour asks to send a train
@@ -125,6 +139,7 @@ void esc() {
             spust_hodiny();
         return;
     }
+    zrus_volbu();
 }
 
 // Right click on what is under the pointer, or the search of a unit by its name.
@@ -170,9 +185,59 @@ void smaz() {
         smaz_radek_zprav();
 }
 
-// Keys that carry a letter.
-bool pismeno(const Klavesa&) {
-    return false;
+// Alt with a letter plays its macro, with Shift as well it begins the recording; Ctrl makes no difference.
+bool pismeno(const Klavesa& k) {
+    if (!k.alt)
+        return false;
+    if (k.shift) {
+        zacni_makro(k.pismeno);
+    } else if (!simulace.pauza) {
+        pipni_klavesou();
+        prehraj_makro(k.pismeno);
+    }
+    return true;
+}
+
+// Number labels of a track: the left and the right one are one target. The labels 212, 213 and 219 are
+// line ends of their own.
+int prvek_popisku(int n) {
+    if (n > 600 && n % 2 != 0)
+        return n - 1;
+    if (n >= 200 && n <= 399 && n != 212 && n != 213 && n != 219)
+        return n - 200;
+    return n;
+}
+constexpr int kNejvyssiPopisek = 650; // labels behind it take no pick
+
+// Press on an element of the relief; false when the kind is no such element.
+bool klik_na_prvek(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
+    const bool leve = tlacitko == Tlacitko::leve, prave = tlacitko == Tlacitko::prave;
+    switch (druh) {
+    case Druh::navestidlo: klik_navestidlo(n, tlacitko, ctrl); return true;
+    case Druh::navestidlo_ser: klik_navestidlo_ser(n, tlacitko); return true;
+    case Druh::Image1:
+        if (leve)
+            klik_cil(n);
+        return true;
+    case Druh::cislo_koleje:
+        if (leve && prvek_popisku(n) <= kNejvyssiPopisek)
+            klik_cil(prvek_popisku(n));
+        return true;
+    case Druh::imgVyhybka:
+        if (prave)
+            menu_vyhybky(n);
+        return true;
+    case Druh::lblSouhlas: klik_souhlas(n, tlacitko); return true;
+    case Druh::lblPrejezd:
+        if (prave)
+            menu_prejezdu(n);
+        return true;
+    case Druh::imgStanoviste:
+        if (leve || prave)
+            menu_stanoviste(n);
+        return true;
+    default: return false;
+    }
 }
 
 // Left click on a key of the desk.
@@ -188,6 +253,8 @@ void klik_na_desku(Druh druh) {
     case Druh::cmDenik: prepni_panel(Panel::denik); break;
     case Druh::cmdTABULKA: prepni_panel(Panel::tabulka); break;
     case Druh::cmdVLAK: prepni_panel(Panel::vlak); break;
+    case Druh::lblZasobnik_PV: prepni_pv_vz(false); break;
+    case Druh::lblZasobnik_VZ: prepni_pv_vz(true); break;
     case Druh::lblrychlost_simulace: zrychli(); break;
     default: break;
     }
@@ -233,26 +300,16 @@ bool uber_predponu(TextPohled& jmeno, TextPohled predpona) {
 
 } // namespace
 
-void klik(Druh druh, int n, Tlacitko tlacitko, bool) {
+void klik(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
     if (!tabulka(druh).je(n))
         return;
     zavri_menu();
-    switch (druh) {
-    case Druh::lblSouhlas: klik_souhlas(n, tlacitko); return;
-    case Druh::lblPrejezd:
-        if (tlacitko == Tlacitko::prave)
-            menu_prejezdu(n);
+    if (klik_na_prvek(druh, n, tlacitko, ctrl))
         return;
-    case Druh::lblrychlost_simulace:
-        if (tlacitko == Tlacitko::prave) {
-            zpomal();
-            return;
-        }
-        break;
-    default: break;
-    }
     if (tlacitko == Tlacitko::leve)
         klik_na_desku(druh);
+    else if (tlacitko == Tlacitko::prave && druh == Druh::lblrychlost_simulace)
+        zpomal();
 }
 
 void dvojklik(Druh druh, int n) {
@@ -284,6 +341,7 @@ void pohyb_mysi() {
 
 void klik_na_plochu() {
     zavri_menu();
+    klik_plocha();
 }
 
 void klik_na_radek(Seznam& seznam, int radek) {
@@ -307,7 +365,7 @@ bool klavesa(const Klavesa& k) {
         pipni_klavesou();
         prepni_panel(Panel::vlak);
         return true;
-    case KodKlavesy::f8: return true;
+    case KodKlavesy::f8: return false;
     case KodKlavesy::f9: otevri_prohlizec_gvd(); return true;
     case KodKlavesy::f10:
         if (!(k.ctrl && k.alt)) {

@@ -39,7 +39,7 @@ bool ma_obrazovku(int pocet, char** slova) {
 // A display that is named and cannot be reached ends inside the window system; the advice comes first.
 void hlaseni_startu(QtMsgType druh, const QMessageLogContext&, const QString& text) {
     if (druh == QtFatalMsg) {
-        std::fputs(rada_bez_obrazovky(), stderr);
+        std::fprintf(stderr, "%s\n\n%s", qPrintable(text), rada_bez_obrazovky());
         std::_Exit(1);
     }
     if (druh == QtCriticalMsg)

@@ -23,6 +23,7 @@ Platforma prazdna_platforma() {
     p.semeno = [] { return std::uint64_t{1}; };
     p.nech_bezet_ui = [] {};
     p.cekej = [](double) {};
+    p.ladeni = [] { return false; };
     p.pipni = [](int, int) {};
     p.okno = [](TextPohled, TextPohled) {};
     p.otazka = [](TextPohled, TextPohled, bool vychozi) { return vychozi; };

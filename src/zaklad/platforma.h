@@ -42,6 +42,7 @@ struct Platforma {
     std::function<std::uint64_t()> semeno; // seed of the random source for a new simulation
     std::function<void()> nech_bezet_ui;   // lets the user interface run once
     std::function<void(double)> cekej;     // waits that many seconds of the wall clock, the UI running
+    std::function<bool()> ladeni;          // debug mode whatever the folder holds; unset: false
 
     // Sound: frequency in Hz, length in ms. Muting is the core's business.
     std::function<void(int, int)> pipni;

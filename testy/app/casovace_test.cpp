@@ -217,12 +217,25 @@ TEST_F(Hodiny, RestOfThePointerIsCountedAnewAtMidnightOfTheWallClock) {
     EXPECT_EQ(simulace.detail_navestidlo, 262);
 }
 
-TEST_F(Hodiny, TimersRunClockFirstAndBlinkingLast) {
-    ASSERT_GE(casovace.size(), 2u);
+TEST_F(Hodiny, TimersRunClockFirstThenRoutesAndBlinkingLast) {
+    ASSERT_GE(casovace.size(), 3u);
     EXPECT_EQ(casovace.front().jmeno, "tmrHodiny");
     EXPECT_EQ(casovace.front().perioda_ms, 150);
+    EXPECT_EQ(casovace[casovace.size() - 2].jmeno, "tmrVolby");
+    EXPECT_EQ(casovace[casovace.size() - 2].perioda_ms, 1100);
     EXPECT_EQ(casovace.back().jmeno, "tmrBlikani");
     EXPECT_EQ(casovace.back().perioda_ms, 500);
+}
+
+TEST_F(Hodiny, TimersDoNothingInAPause) {
+    zastav_hodiny();
+    simulace.pn_bezi = true;
+    svet.posun_ms(60'000);
+    const Relief pred = relief;
+    for (const Casovac& c : casovace)
+        c.telo();
+    EXPECT_EQ(relief, pred);
+    EXPECT_TRUE(svet.pipnuti.empty());
 }
 
 } // namespace

@@ -17,6 +17,8 @@
 #include "relief/relief.h"
 #include "zaklad/chyba.h"
 
+#include <new>
+
 namespace {
 
 class NovaSimulace : public SPlatformou {};
@@ -147,6 +149,16 @@ TEST_F(MezChyb, MissingElementEndsTheProcessToo) {
     EXPECT_FALSE(bezpecne([] { relief.kolej[999].barva = 0; }));
     EXPECT_NE(svet.okna.at(0).text.find("340"), Text::npos);
     EXPECT_EQ(svet.konec, 1);
+}
+
+TEST_F(MezChyb, LackOfMemoryIsTheErrorSeven) {
+    EXPECT_FALSE(bezpecne([] { throw std::bad_alloc(); }));
+    EXPECT_NE(svet.okna.at(0).text.find("7"), Text::npos);
+}
+
+TEST_F(MezChyb, EndOfTheProcessPassesThrough) {
+    EXPECT_THROW(bezpecne([] { throw KonecProgramu{3}; }), KonecProgramu);
+    EXPECT_TRUE(svet.okna.empty());
 }
 
 TEST_F(MezChyb, OrdinaryOperationPasses) {

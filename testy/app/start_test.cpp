@@ -347,7 +347,7 @@ TEST_F(Start, FoldersAndTheLogAreMade) {
     EXPECT_EQ(svet.precti("GTN/260105.gtn").size(), 36u);
 }
 
-TEST_F(Start, MainScreenIsPaintedBeforeItIsWaitedFor) {
+TEST_F(Start, MainScreenIsShownTwoSecondsBeforeItIsPainted) {
     svet.cas.sekunda = 3;
     svet.cas.milisekunda = 400;
     spust();

@@ -1,9 +1,12 @@
 // testy/app/vstup_test.cpp - keys, clicks and menus.
 #include "app/simulace.h"
 #include "app/vstup.h"
+#include "cesty/cesta.h"
 #include "cesty/vyber.h"
 #include "desk/menu.h"
+#include "desk/stitky.h"
 #include "desk/zprava.h"
+#include "pomocne/male_kolejiste.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/souhlasy.h"
 #include "relief/relief.h"
@@ -196,6 +199,14 @@ TEST_F(Klavesy, RightClickOnAStationCrossingOpensItsMenu) {
     EXPECT_EQ(menu.druh, Druh::lblPrejezd);
 }
 
+TEST_F(Klavesy, WordsOfTheStackOrderTakeTurns) {
+    klik(Druh::lblZasobnik_PV, 0, Tlacitko::leve, false);
+    EXPECT_EQ(relief.lblZasobnik_PV[0].barva, barvy::bila);
+    EXPECT_EQ(relief.lblZasobnik_VZ[0].barva, barvy::seda);
+    klik(Druh::lblZasobnik_VZ, 0, Tlacitko::leve, false);
+    EXPECT_EQ(relief.lblZasobnik_VZ[0].barva, barvy::bila);
+}
+
 TEST_F(Klavesy, PrintScreenPauses) {
     stiskni("PrintScreen");
     EXPECT_TRUE(simulace.pauza);
@@ -216,6 +227,155 @@ TEST_F(Klavesy, ElementThatDoesNotExistTakesNoInput) {
     EXPECT_NO_THROW(dvojklik(Druh::cislo_koleje, 12));
     najeti(Druh::navestidlo, 262);
     EXPECT_FALSE(vyber.mys_nad_prvkem);
+}
+
+// The operator's hands on a junction at rest.
+class Ruce : public SPlatformou {
+protected:
+    void SetUp() override {
+        zapis_male_kolejiste(svet.cesta());
+        postav_male_kolejiste();
+        relief.lblcas[0].text = TextPohled("12:00:00");
+        simulace.pauza = false;
+    }
+    bool stiskni(TextPohled jmeno) { return klavesa(klavesa_podle_jmena(jmeno)); }
+    void vyber_cestu() {
+        klik(Druh::navestidlo, 262, Tlacitko::leve, false);
+        klik(Druh::Image1, 63, Tlacitko::leve, false);
+    }
+};
+
+TEST_F(Ruce, PickASignalAndAnEnd) {
+    klik(Druh::navestidlo, 262, Tlacitko::leve, false);
+    EXPECT_EQ(vyber.volba_zacatek, 262);
+    EXPECT_EQ(relief.lblPrikaz[0].text(), " VC ");
+    klik(Druh::Image1, 63, Tlacitko::leve, false);
+    ASSERT_EQ(cesty.size(), 1u);
+    EXPECT_EQ(cesty[0].zacatek, 262);
+    EXPECT_EQ(cesty[0].konec, 63);
+    EXPECT_TRUE(cesty[0].VC);
+}
+
+TEST_F(Ruce, PickAShuntRouteWithCtrl) {
+    klik(Druh::navestidlo, 262, Tlacitko::leve, true);
+    EXPECT_EQ(relief.lblPrikaz[0].text(), " PC ");
+    klik(Druh::Image1, 63, Tlacitko::leve, false);
+    EXPECT_EQ(cesty[0].zacatek, 262);
+    EXPECT_FALSE(cesty[0].VC);
+}
+
+TEST_F(Ruce, PickAnEndByEitherLabelOfTheTrack) {
+    for (const int popisek : {63, 263}) {
+        cesty = std::vector<Cesta>(1);
+        vyber = Vyber{};
+        klik(Druh::navestidlo, 262, Tlacitko::leve, false);
+        klik(Druh::cislo_koleje, popisek, Tlacitko::leve, false);
+        EXPECT_EQ(cesty[0].konec, 63) << popisek;
+    }
+}
+
+TEST_F(Ruce, RightButtonOnATargetPicksNothing) {
+    klik(Druh::navestidlo, 262, Tlacitko::leve, false);
+    klik(Druh::Image1, 63, Tlacitko::prave, false);
+    EXPECT_EQ(cesty[0].zacatek, -3);
+}
+
+TEST_F(Ruce, PickWithTheShuntingSignal) {
+    klik(Druh::navestidlo_ser, 540, Tlacitko::leve, false);
+    klik(Druh::Image1, 62, Tlacitko::leve, false);
+    EXPECT_EQ(cesty[0].zacatek, 540);
+}
+
+TEST_F(Ruce, EscDropsTheStart) {
+    svet.kurzor_viditelny = false;
+    klik(Druh::navestidlo, 262, Tlacitko::leve, false);
+    stiskni("Esc");
+    EXPECT_EQ(vyber.volba_zacatek, -3);
+    EXPECT_FALSE(prikaz_radek.obsazen);
+    EXPECT_TRUE(svet.kurzor_viditelny);
+    EXPECT_FALSE(relief.navestidlo[262].ramecek);
+}
+
+TEST_F(Ruce, ClickOnTheEmptyDeskTakesTheHighlightAway) {
+    klik(Druh::navestidlo, 262, Tlacitko::leve, false);
+    klik_na_plochu();
+    EXPECT_FALSE(relief.navestidlo[262].ramecek);
+    EXPECT_EQ(vyber.volba_navestidlo, -3);
+    EXPECT_EQ(vyber.volba_zacatek, 262); // the start itself stays picked
+}
+
+TEST_F(Ruce, EnterAcceptsTheWarningOfTheEnd) {
+    stitky.push_back({63, "", "pozor", ""});
+    vyber_cestu();
+    ASSERT_EQ(relief.lblPrikaz[0].text(), " POZOR NVL ");
+    EXPECT_NE(cesty[0].varovani, 0);
+    svet.pipnuti.clear();
+    stiskni("Enter");
+    EXPECT_EQ(cesty[0].varovani, 0);
+    EXPECT_FALSE(prikaz_radek.obsazen);
+    EXPECT_EQ(svet.pipnuti, (std::vector<Pipnuti>{{400, 150}}));
+}
+
+TEST_F(Ruce, EachMenuOpensByTheRightButton) {
+    const std::pair<Druh, int> prvky[] = {{Druh::navestidlo, 262},
+                                          {Druh::navestidlo_ser, 540},
+                                          {Druh::imgVyhybka, 7},
+                                          {Druh::imgStanoviste, 1}};
+    for (const auto& [druh, n] : prvky) {
+        klik(druh, n, Tlacitko::prave, false);
+        EXPECT_FALSE(menu.jmeno.empty()) << jmeno_druhu(druh);
+        EXPECT_EQ(menu.prvek, n);
+        zavri_menu();
+    }
+    klik(Druh::imgVyhybka, 7, Tlacitko::leve, false);
+    EXPECT_TRUE(menu.jmeno.empty());
+}
+
+TEST_F(Ruce, F2WorksAsTheRightButtonOnWhatIsUnderThePointer) {
+    najeti(Druh::imgVyhybka, 7);
+    stiskni("F2");
+    EXPECT_FALSE(menu.jmeno.empty());
+    EXPECT_FALSE(prikaz_radek.obsazen);
+}
+
+TEST_F(Ruce, EnterPicksWhatIsUnderThePointer) {
+    najeti(Druh::navestidlo, 262);
+    stiskni("Enter");
+    EXPECT_EQ(vyber.volba_zacatek, 262);
+}
+
+TEST_F(Ruce, MacroIsRecordedStoredAndPlayedByItsLetter) {
+    stiskni("Alt+Shift+K");
+    EXPECT_TRUE(vyber.makro_zaznam);
+    vyber_cestu();
+    EXPECT_EQ(cesty[0].zacatek, -3); // no route is made while a macro is recorded
+    stiskni("Enter");
+    EXPECT_FALSE(vyber.makro_zaznam);
+    stiskni("Ctrl+Alt+K");
+    EXPECT_EQ(cesty[0].zacatek, 262);
+}
+
+TEST_F(Ruce, MacroIsNotPlayedInAPause) {
+    stiskni("Alt+Shift+K");
+    vyber_cestu();
+    stiskni("Enter");
+    simulace.pauza = true;
+    svet.pipnuti.clear();
+    stiskni("Alt+K");
+    EXPECT_EQ(cesty[0].zacatek, -3);
+    EXPECT_TRUE(svet.pipnuti.empty());
+}
+
+TEST_F(Ruce, EscDropsTheMacro) {
+    stiskni("Ctrl+Alt+Shift+K");
+    stiskni("Esc");
+    EXPECT_FALSE(vyber.makro_zaznam);
+    EXPECT_EQ(relief.lblMakro_pismeno[0].text(), "");
+}
+
+TEST_F(Ruce, LetterAloneIsNoKeyOfTheDesk) {
+    EXPECT_FALSE(stiskni("K"));
+    EXPECT_FALSE(stiskni("Shift+K"));
 }
 
 class UkazatelMysi : public SPlatformou {};

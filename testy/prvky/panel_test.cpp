@@ -10,10 +10,10 @@
 
 namespace {
 
-struct Panel : testing::Test {
-    VirtualniPlatforma p;
+struct Navest : testing::Test {
+    VirtualniPlatforma svet;
 
-    Panel() {
+    Navest() {
         navestidlo(20, "THN S20");
         navestidlo(501, "THN Se1");
         navestidlo(221, "THN Op221");
@@ -66,7 +66,7 @@ using S = std::set<int>;
 
 } // namespace
 
-TEST_F(Panel, ShowsEveryAspectOfEverySpeedAndEveryNextSignal) {
+TEST_F(Navest, ShowsEveryAspectOfEverySpeedAndEveryNextSignal) {
     const S dolni[] = {{}, {4}, {4}, {4}};
     const S pruh[] = {{}, {}, {0}, {1}};
     struct {
@@ -94,7 +94,7 @@ TEST_F(Panel, ShowsEveryAspectOfEverySpeedAndEveryNextSignal) {
         }
 }
 
-TEST_F(Panel, SplitsTheNameIntoStationAndSignal) {
+TEST_F(Navest, SplitsTheNameIntoStationAndSignal) {
     obnov_panel(20);
     EXPECT_EQ(relief.lblnavestidlo[0].text(), "S20");
     EXPECT_EQ(relief.lblNavestidlo_stanice[0].text(), "THN");
@@ -108,7 +108,7 @@ TEST_F(Panel, SplitsTheNameIntoStationAndSignal) {
     EXPECT_EQ(relief.lblNavestidlo_stanice[0].text(), "X");
 }
 
-TEST_F(Panel, SignalWithoutRouteShowsStop) {
+TEST_F(Navest, SignalWithoutRouteShowsStop) {
     obnov_panel(20);
     EXPECT_EQ(sviti(), S{2});
     obnov_panel(501);
@@ -116,14 +116,14 @@ TEST_F(Panel, SignalWithoutRouteShowsStop) {
     EXPECT_EQ(panel_navestidla.tvar, TvarPanelu::serizovaci);
 }
 
-TEST_F(Panel, CommandedRouteWithItsSignalStillAtStopShowsStop) {
+TEST_F(Navest, CommandedRouteWithItsSignalStillAtStopShowsStop) {
     cesta(20, {20, 40}, 3);
     obnov_panel(20);
     EXPECT_EQ(sviti(), S{2});
     EXPECT_EQ(pruhy(), S{});
 }
 
-TEST_F(Panel, RouteThatIsOnlyQueuedOrMadeByTheProgramIsNotShown) {
+TEST_F(Navest, RouteThatIsOnlyQueuedOrMadeByTheProgramIsNotShown) {
     relief.navestidlo[20].barva = barvy::zelena;
     cesta(20, {20, 40}).prehozena = false;
     obnov_panel(20);
@@ -137,7 +137,7 @@ TEST_F(Panel, RouteThatIsOnlyQueuedOrMadeByTheProgramIsNotShown) {
     EXPECT_EQ(sviti(), S{0});
 }
 
-TEST_F(Panel, RouteUnderATrainIsShownOnlyWhenTheHeadIsOnTheLine) {
+TEST_F(Navest, RouteUnderATrainIsShownOnlyWhenTheHeadIsOnTheLine) {
     relief.navestidlo[20].barva = barvy::zelena; // so that finding the route shows
     kolej(604, barvy::cervena);
     kolej(654);
@@ -157,7 +157,7 @@ TEST_F(Panel, RouteUnderATrainIsShownOnlyWhenTheHeadIsOnTheLine) {
     EXPECT_EQ(sviti(), S{2});
 }
 
-TEST_F(Panel, CallingOnRouteKeepsTheRedLampAndLeavesTheWhiteOneToTheRouteMachine) {
+TEST_F(Navest, CallingOnRouteKeepsTheRedLampAndLeavesTheWhiteOneToTheRouteMachine) {
     Cesta& c = cesta(20, {20, 40});
     c.PN = true;
     for (const std::int32_t pn_do : {-3, 100, 99999999}) {
@@ -171,7 +171,7 @@ TEST_F(Panel, CallingOnRouteKeepsTheRedLampAndLeavesTheWhiteOneToTheRouteMachine
     }
 }
 
-TEST_F(Panel, ShuntRouteShowsWhiteWhenCleared) {
+TEST_F(Navest, ShuntRouteShowsWhiteWhenCleared) {
     cesta(20, {20, 40}).VC = false;
     obnov_panel(20);
     EXPECT_EQ(sviti(), S{2});
@@ -189,7 +189,7 @@ TEST_F(Panel, ShuntRouteShowsWhiteWhenCleared) {
     EXPECT_EQ(sviti(), S{3});
 }
 
-TEST_F(Panel, RepeatersShowTheirWhiteLampWithTheAspect) {
+TEST_F(Navest, RepeatersShowTheirWhiteLampWithTheAspect) {
     for (const int s : {221, 222, 223, 224, 609, 611, 220, 225, 610}) {
         cesty.assign(1, Cesta{});
         navestidlo(s, "THN Op").barva = barvy::zelena;
@@ -203,7 +203,7 @@ TEST_F(Panel, RepeatersShowTheirWhiteLampWithTheAspect) {
     }
 }
 
-TEST_F(Panel, FlashesItsLampByItsOwnTimerAndStopsWithTheAspect) {
+TEST_F(Navest, FlashesItsLampByItsOwnTimerAndStopsWithTheAspect) {
     relief.navestidlo[20].barva = barvy::zelena;
     cesta(20, {20, 40}, 0);
     cesta(240, {40, 44}, 2);
@@ -222,7 +222,7 @@ TEST_F(Panel, FlashesItsLampByItsOwnTimerAndStopsWithTheAspect) {
     EXPECT_EQ(sviti(), S{2});
 }
 
-TEST_F(Panel, RefreshLeavesThePanelToTheSignalThatItShows) {
+TEST_F(Navest, RefreshLeavesThePanelToTheSignalThatItShows) {
     obnov_panel(501);
     relief.navestidlo[20].barva = barvy::zelena;
     cesta(20, {20, 40});
@@ -231,14 +231,14 @@ TEST_F(Panel, RefreshLeavesThePanelToTheSignalThatItShows) {
     EXPECT_EQ(sviti(), S{5});
 }
 
-TEST_F(Panel, SignalThatDoesNotExistChangesNothing) {
+TEST_F(Navest, SignalThatDoesNotExistChangesNothing) {
     obnov_panel(20);
     obnov_panel(77);
     obnov_panel(kZadny);
     EXPECT_EQ(simulace.detail_navestidlo, 20);
 }
 
-TEST_F(Panel, MastFollowsTheNumberOfTheSignal) {
+TEST_F(Navest, MastFollowsTheNumberOfTheSignal) {
     const std::set<int> kratke = {637, 639, 277, 634, 636, 315, 316, 998, 609, 611, 41,  42,
                                   43,  284, 285, 200, 201, 202, 203, 22,  23,  24,  25,  26,
                                   27,  28,  29,  30,  31,  32,  33,  34,  35,  222, 223, 224,
@@ -262,13 +262,13 @@ TEST_F(Panel, MastFollowsTheNumberOfTheSignal) {
 
 // --- what the next signal announces
 
-TEST_F(Panel, ExitsOfTheJunctionAnnounceAFreeLine) {
+TEST_F(Navest, ExitsOfTheJunctionAnnounceAFreeLine) {
     for (const int e : {212, 213, 219, 120, 123, 118, 64, 67, 88})
         EXPECT_EQ(dalsi_navest(e), 0) << e;
     EXPECT_EQ(dalsi_navest(65), kNavestStuj);
 }
 
-TEST_F(Panel, WithoutAFurtherRouteTheNextSignalIsAtStop) {
+TEST_F(Navest, WithoutAFurtherRouteTheNextSignalIsAtStop) {
     EXPECT_EQ(dalsi_navest(40), kNavestStuj);
     EXPECT_EQ(dalsi_navest(-3), kNavestStuj);
     Cesta& c = cesta(240, {40, 44}, 2);
@@ -283,7 +283,7 @@ TEST_F(Panel, WithoutAFurtherRouteTheNextSignalIsAtStop) {
     EXPECT_EQ(dalsi_navest(40), kNavestStuj);
 }
 
-TEST_F(Panel, RepeaterShowsWhatTheSignalBehindItShows) {
+TEST_F(Navest, RepeaterShowsWhatTheSignalBehindItShows) {
     cesta(221, {40, 44}, 0);
     cesta(222, {44, 45}, 1);
     EXPECT_EQ(dalsi_navest(40), kNavestStuj); // the true signal behind both is at stop
@@ -294,13 +294,13 @@ TEST_F(Panel, RepeaterShowsWhatTheSignalBehindItShows) {
     EXPECT_EQ(dalsi_navest(40), 0);
 }
 
-TEST_F(Panel, RingOfRepeatersIsTakenForStop) {
+TEST_F(Navest, RingOfRepeatersIsTakenForStop) {
     cesta(221, {40, 44});
     cesta(224, {44, 40});
     EXPECT_EQ(dalsi_navest(40), kNavestStuj);
 }
 
-TEST_F(Panel, RouteToTheLineAnnouncesItsSectionNextToTheSignal) {
+TEST_F(Navest, RouteToTheLineAnnouncesItsSectionNextToTheSignal) {
     for (const int n : {604, 654, 704})
         kolej(n);
     // upwards: the route ends on 704, the train enters over 604
@@ -318,7 +318,7 @@ TEST_F(Panel, RouteToTheLineAnnouncesItsSectionNextToTheSignal) {
     EXPECT_EQ(dalsi_navest(610), kNavestStuj); // a line that does not exist
 }
 
-TEST_F(Panel, AspectOfARouteThatDoesNotExistIsEmpty) {
+TEST_F(Navest, AspectOfARouteThatDoesNotExistIsEmpty) {
     EXPECT_EQ(aspekt_text(0), ""); // the empty record
     EXPECT_EQ(aspekt_text(-1), "");
     EXPECT_EQ(aspekt_text(5), "");

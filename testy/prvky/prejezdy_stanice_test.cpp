@@ -10,7 +10,7 @@
 namespace {
 
 struct PrejezdStanice : testing::Test {
-    VirtualniPlatforma p;
+    VirtualniPlatforma svet;
     PrejezdStanice() {
         relief.lblPrejezd.zaloz(0).barva = barvy::seda;
         relief.lblPrejezd.zaloz(1).barva = barvy::seda;

@@ -9,7 +9,7 @@
 namespace {
 
 struct Souhlas : testing::Test {
-    VirtualniPlatforma p;
+    VirtualniPlatforma svet;
     Souhlas() {
         for (int k = 0; k < 3; ++k) {
             Prvek& lampa = relief.lblSouhlas.zaloz(k);
@@ -23,7 +23,7 @@ struct Souhlas : testing::Test {
     }
     Bajty log() const {
         gtn_vyprazdni();
-        return p.precti("GTN/260105.gtn");
+        return svet.precti("GTN/260105.gtn");
     }
     // Records of the log since the test began: code and element.
     std::vector<std::pair<int, int>> udalosti() const {
@@ -115,7 +115,7 @@ TEST_F(Souhlas, GivenFromTheMenuConfirmsTheQuestionOfItsLine) {
     zprava(" OK ", "dalsi", barvy::zelena);
     souhlas_us(0);
     EXPECT_EQ(relief.lblVolba[0].text(), "dalsi"); // the message that waited
-    EXPECT_EQ(p.pipnuti, (std::vector<VirtualniPlatforma::Pipnuti>{{400, 150}}));
+    EXPECT_EQ(svet.pipnuti, (std::vector<VirtualniPlatforma::Pipnuti>{{400, 150}}));
 }
 
 TEST_F(Souhlas, QuestionBroughtByTheQueueIsConfirmedToo) {

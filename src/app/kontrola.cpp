@@ -1,0 +1,225 @@
+// app/kontrola.cpp - the state checks, room by room.
+//
+// Each room has one function here that answers with the first fault of its tables. A new table adds
+// its function to the list at the end of the file.
+#include "app/kontrola.h"
+
+#include "app/simulace.h"
+#include "cesty/cesta.h"
+#include "cesty/vyber.h"
+#include "desk/menu.h"
+#include "desk/stitky.h"
+#include "desk/zprava.h"
+#include "jizda/vlak.h"
+#include "prvky/souhlasy.h"
+#include "prvky/stav_vyhybek.h"
+#include "relief/relief.h"
+#include "zaklad/cisla.h"
+
+#include <algorithm>
+#include <array>
+#include <initializer_list>
+
+namespace {
+
+using Nalez = std::optional<Text>;
+
+// The pieces of a report, one behind another.
+Text veta(std::initializer_list<TextPohled> kusy) {
+    Text text;
+    for (const TextPohled kus : kusy)
+        text += kus;
+    return text;
+}
+
+Text na_miste(TextPohled tabulka, std::size_t index, TextPohled co) {
+    return veta({tabulka, " ", text_cisla(static_cast<std::int64_t>(index)), ": ", co});
+}
+
+Text prvek_textem(TextPohled druh, int n, TextPohled co) {
+    return veta({druh, " ", text_cisla(n), ": ", co});
+}
+
+// "8:05:30": a reading of the clock, as the arithmetic of time takes it.
+bool je_cas_hodin(TextPohled cas) {
+    const std::size_t prvni = cas.find(':');
+    if (prvni == TextPohled::npos || prvni < 1 || prvni > 2 || cas.size() != prvni + 6 ||
+        cas[prvni + 3] != ':')
+        return false;
+    const auto cislice = [&](std::size_t i) { return cas[i] >= '0' && cas[i] <= '9'; };
+    for (std::size_t i = 0; i < cas.size(); ++i)
+        if (i != prvni && i != prvni + 3 && !cislice(i))
+            return false;
+    const int hodina = prvni == 1 ? cas[0] - '0' : (cas[0] - '0') * 10 + (cas[1] - '0');
+    return hodina < 24 && cas[prvni + 1] < '6' && cas[prvni + 4] < '6';
+}
+
+Nalez hodiny() {
+    const Text cas = relief.lblcas[0].text;
+    if (!je_cas_hodin(cas))
+        return veta({"hodiny: čas „"_cz, cas, "“ není čas"_cz});
+    if (simulace.dva_monitory && relief.lblcas.je(1) && relief.lblcas[1].text() != cas)
+        return Text("hodiny: druhý monitor ukazuje jiný čas"_cz);
+    if (simulace.den == 0 || simulace.den > 64 || (simulace.den & (simulace.den - 1)) != 0)
+        return veta({"hodiny: den "_cz, text_cisla(simulace.den), " není jeden den týdne"_cz});
+    if (simulace.rychlost > 8)
+        return veta({"hodiny: rychlost "_cz, text_cisla(simulace.rychlost), " je nad 8"_cz});
+    return std::nullopt;
+}
+
+// The colour of a track is its state: a colour that means nothing would be a track in no state.
+Nalez koleje() {
+    constexpr std::array kStavy = {barvy::seda,   barvy::cervena, barvy::azurova,
+                                   barvy::zelena, barvy::bila,    barvy::purpurova};
+    for (int n = 0; n <= relief.kolej.nejvyssi(); ++n) {
+        if (!relief.kolej.je(n))
+            continue;
+        const Prvek& kolej = relief.kolej[n];
+        if (n > 0 && std::find(kStavy.begin(), kStavy.end(), kolej.barva()) == kStavy.end())
+            return prvek_textem("kolej", n, "barva není stavem koleje"_cz);
+        if (!kolej.stav->empty() && !je_ciselny(kolej.stav()))
+            return prvek_textem("kolej", n, "poloha vlaku není číslo"_cz);
+    }
+    return std::nullopt;
+}
+
+// 1 to 49 is the shape, and fifty more for each colour: grey, green, cyan, red, white.
+Nalez vyhybky() {
+    for (int n = 0; n <= relief.imgVyhybka.nejvyssi(); ++n) {
+        if (!relief.imgVyhybka.je(n) || relief.imgVyhybka[n].stav->empty())
+            continue;
+        const std::optional<double> stav = ciselny_text(relief.imgVyhybka[n].stav());
+        if (!stav || *stav < 1 || *stav > 249 || dolu(*stav) != *stav || static_cast<int>(*stav) % 50 == 0)
+            return prvek_textem("imgVyhybka", n, "stav není obrazem výhybky"_cz);
+    }
+    const StavVyhybek& s = stav_vyhybek;
+    if (s.prehoz_vyhybka >= 0 && !relief.imgVyhybka.je(s.prehoz_vyhybka))
+        return prvek_textem("prehoz_vyhybka", s.prehoz_vyhybka, "taková výhybka není"_cz);
+    return std::nullopt;
+}
+
+bool je_prvek_cesty(int n, std::uint8_t druh) {
+    switch (druh) {
+    case druh_prvku::kolej: return relief.kolej.je(n);
+    case druh_prvku::vyhybka: return relief.imgVyhybka.je(n);
+    case druh_prvku::vykolejka: return relief.lblVykolejka.je(n);
+    default: return false;
+    }
+}
+
+bool je_index_vlaku(int i) {
+    return i >= 0 && static_cast<std::size_t>(i) < vlaky.size();
+}
+
+Nalez zaznamy_cest() {
+    if (cesty.empty())
+        return Text("cesty: tabulka je prázdná, musí zbýt jeden volný záznam"_cz);
+    for (std::size_t i = 0; i < cesty.size(); ++i) {
+        const Cesta& c = cesty[i];
+        if (c.prvky.empty() || c.prvky.size() != c.druhy.size() || c.prvky.size() != c.polohy.size())
+            return na_miste("cesty", i, "seznamy prvků, druhů a poloh nejsou stejně dlouhé"_cz);
+        if (c.zacatek < 0)
+            continue;
+        for (std::size_t k = 0; k < c.prvky.size(); ++k)
+            if (!je_prvek_cesty(c.prvky[k], c.druhy[k]))
+                return na_miste("cesty", i,
+                                veta({"prvek "_cz, text_cisla(c.prvky[k]), " druhu "_cz,
+                                      text_cisla(c.druhy[k]), " neexistuje"_cz}));
+        if (c.Umazat >= c.prvky.size())
+            return na_miste("cesty", i, "Umazat ukazuje za poslední prvek"_cz);
+        if (c.Vlak != kZadny && c.Vlak != kKopieAB && c.Vlak != kKOdstraneni && !je_index_vlaku(c.Vlak))
+            return na_miste("cesty", i, veta({"vlak "_cz, text_cisla(c.Vlak), " neexistuje"_cz}));
+        if (c.prejezd > 1 && c.prejezd != kBezPrejezdu)
+            return na_miste("cesty", i, veta({"přejezd "_cz, text_cisla(c.prejezd), " neexistuje"_cz}));
+    }
+    return std::nullopt;
+}
+
+// Two routes that both hold a switch for their setting must want it in the same position. What lies
+// behind a train on its route is history and holds nothing.
+Nalez zavery_vyhybek() {
+    struct Zaver {
+        std::size_t cesta = 0;
+        std::uint8_t poloha = 0;
+        bool drzena = false;
+    };
+    std::vector<Zaver> zavery(static_cast<std::size_t>(relief.imgVyhybka.nejvyssi() + 1));
+    for (std::size_t i = 0; i < cesty.size(); ++i) {
+        const Cesta& c = cesty[i];
+        if (c.zacatek < 0 || !c.prehozena)
+            continue;
+        for (std::size_t k = c.Umazat; k < c.prvky.size(); ++k) {
+            if (c.druhy[k] != druh_prvku::vyhybka)
+                continue;
+            Zaver& zaver = zavery[static_cast<std::size_t>(c.prvky[k])];
+            if (zaver.drzena && zaver.poloha != c.polohy[k])
+                return na_miste("cesty", i,
+                                veta({"výhybku "_cz, text_cisla(c.prvky[k]), " drží v jiné poloze cesta "_cz,
+                                      text_cisla(static_cast<std::int64_t>(zaver.cesta))}));
+            zaver = {i, c.polohy[k], true};
+        }
+    }
+    return std::nullopt;
+}
+
+Nalez volba() {
+    if (vyber.volba_druh > 3)
+        return veta({"volba: druh "_cz, text_cisla(vyber.volba_druh), " není druhem cesty"_cz});
+    if (vyber.makro_zacatky.size() != vyber.makro_konce.size() ||
+        vyber.makro_zacatky.size() != vyber.makro_druhy.size())
+        return Text("makro: seznamy začátků, konců a druhů nejsou stejně dlouhé"_cz);
+    return std::nullopt;
+}
+
+Nalez pult() {
+    const Prikaz& p = prikaz_radek;
+    if (p.fronta_zprav.empty() || !p.fronta_zprav.back().prikaz.empty() ||
+        !p.fronta_zprav.back().volba.empty())
+        return Text("fronta_zprav: na konci chybí prázdný záznam"_cz);
+    if (relief.lblPrikaz[0].viditelny && !p.obsazen)
+        return Text("příkazový řádek: ukazuje zprávu, ale není obsazen"_cz);
+    if (p.blikani_prikazu && !p.obsazen)
+        return Text("příkazový řádek: bliká, ale není obsazen"_cz);
+    if (menu.jmeno.empty() && !menu.polozky.empty())
+        return Text("menu: položky bez otevřeného menu"_cz);
+    if (!menu.jmeno.empty() && menu.prvek >= 0 && !tabulka(menu.druh).je(menu.prvek))
+        return veta({"menu: prvek "_cz, text_cisla(menu.prvek), " neexistuje"_cz});
+    if (stitky.empty())
+        return Text("stitky: tabulka je prázdná"_cz);
+    return std::nullopt;
+}
+
+Nalez souhlasy_trati() {
+    const auto& cekajici = souhlasy.cekajici_vlaky;
+    if (cekajici.empty())
+        return Text("cekajici_vlaky: tabulka je prázdná"_cz);
+    if (cekajici.size() > 1)
+        for (std::size_t i = 0; i < cekajici.size(); ++i)
+            if (cekajici[i] == 0)
+                return na_miste("cekajici_vlaky", i, "číslo 0 mezi čísly vlaků"_cz);
+    return std::nullopt;
+}
+
+Nalez vlaky_na_kolejich() {
+    for (std::size_t i = 0; i < koleje_vlaky.size(); ++i) {
+        if (koleje_vlaky[i].vlaky.empty())
+            return na_miste("koleje_vlaky", i, "seznam vlaků je prázdný"_cz);
+        for (const std::int16_t v : koleje_vlaky[i].vlaky)
+            if (v != kZadny && !je_index_vlaku(v))
+                return na_miste("koleje_vlaky", i, veta({"vlak "_cz, text_cisla(v), " neexistuje"_cz}));
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+std::optional<Text> kontrola_stavu() {
+    if (!relief.lblcas.je(0) || !relief.lblcas[0].viditelny)
+        return std::nullopt;
+    constexpr std::array kKontroly = {hodiny, koleje, vyhybky,        zaznamy_cest,     zavery_vyhybek,
+                                      volba,  pult,   souhlasy_trati, vlaky_na_kolejich};
+    for (const auto kontrola : kKontroly)
+        if (Nalez nalez = kontrola())
+            return nalez;
+    return std::nullopt;
+}

@@ -1,0 +1,18 @@
+// davka/hlavni.cpp - the entry of tesk-davka.
+#include "davka/davka.h"
+
+#include <filesystem>
+#include <ios>
+#include <iostream>
+#include <string>
+#include <system_error>
+#include <vector>
+
+int main(int argc, char** argv) {
+    std::ios::sync_with_stdio(false);
+    std::error_code kod;
+    std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", kod);
+    if (kod)
+        program = std::filesystem::absolute(argv[0], kod);
+    return hlavni_davky(std::vector<std::string>(argv + 1, argv + argc), program.parent_path().string());
+}

@@ -1,0 +1,10 @@
+// davka/popisy.cpp - values of a script that several records share.
+#include "davka/popisy.h"
+
+void precti_barvu(std::string_view hodnota, std::string_view pole, Barva& x) {
+    const auto barva = barva_textu(hodnota);
+    if (!barva)
+        chyba_skriptu(std::string(pole) + ": čeká se barva jako 0x0000FF00, ne „" + std::string(hodnota) +
+                      "“");
+    x = static_cast<Barva>(*barva);
+}

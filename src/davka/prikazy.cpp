@@ -1,0 +1,608 @@
+// davka/prikazy.cpp - the commands: set-up, start, hands, time, looking.
+#include "davka/prikazy.h"
+
+#include "app/bezpecne.h"
+#include "app/cas.h"
+#include "app/casovace.h"
+#include "app/nastaveni.h"
+#include "app/simulace.h"
+#include "app/start.h"
+#include "app/vstup.h"
+#include "cesty/cesta.h"
+#include "davka/planovac.h"
+#include "davka/popisy.h"
+#include "davka/skript.h"
+#include "davka/virtualni_svet.h"
+#include "davka/vypisy.h"
+#include "desk/zprava.h"
+#include "jizda/vlak.h"
+#include "zaklad/cisla.h"
+#include "zaklad/soubory.h"
+
+#include <algorithm>
+#include <array>
+#include <chrono>
+#include <filesystem>
+#include <limits>
+#include <optional>
+#include <vector>
+
+namespace {
+
+using Slova = std::span<const std::string>;
+
+std::string v_uvozovkach(std::string_view text) {
+    return "„" + std::string(text) + "“";
+}
+
+// --- set-up
+
+void prikaz_slozka(BehSkriptu&, Slova slova) {
+    nastav_slozku(slova[0]);
+}
+
+void prikaz_semeno(BehSkriptu&, Slova slova) {
+    svet.semeno = static_cast<std::uint64_t>(
+        cislo_slova(slova[0], 0, std::numeric_limits<std::int64_t>::max(), "semeno"));
+}
+
+// "2026-01-05" "08:00:00": a moment that the calendar has.
+void prikaz_pc(BehSkriptu&, Slova slova) {
+    const std::string& datum = slova[0];
+    const auto cislice = [&](std::size_t od, std::size_t delka) {
+        return cele_cislo(std::string_view(datum).substr(od, delka), 0, 9999);
+    };
+    std::optional<std::int64_t> rok, mesic, den;
+    if (datum.size() == 10 && datum[4] == '-' && datum[7] == '-' &&
+        datum.find_first_not_of("0123456789-") == std::string::npos) {
+        rok = cislice(0, 4);
+        mesic = cislice(5, 2);
+        den = cislice(8, 2);
+    }
+    using namespace std::chrono;
+    if (!rok || !mesic || !den ||
+        !year_month_day(year(static_cast<int>(*rok)), month(static_cast<unsigned>(*mesic)),
+                        day(static_cast<unsigned>(*den)))
+             .ok())
+        chyba_skriptu("datum se píše jako 2026-01-05, ne " + v_uvozovkach(datum));
+    const std::int32_t cas = cas_slova(slova[1]);
+    NastennyCas& pc = svet.pocatek;
+    pc.rok = static_cast<int>(*rok);
+    pc.mesic = static_cast<int>(*mesic);
+    pc.den = static_cast<int>(*den);
+    pc.hodina = cas / 3600;
+    pc.minuta = cas / 60 % 60;
+    pc.sekunda = cas % 60;
+    pc.milisekunda = 0;
+}
+
+void prikaz_nastaveni(BehSkriptu&, Slova slova) {
+    platforma.nastaveni_pis(text_slova(slova[0]), text_slova(slova[1]), text_slova(slova[2]));
+}
+
+void prikaz_ladeni(BehSkriptu&, Slova slova) {
+    const auto priznak = priznak_textu(slova[0]);
+    if (!priznak)
+        chyba_skriptu("píše se ladeni ano nebo ladeni ne");
+    svet.ladeni = *priznak;
+}
+
+// --- start
+
+// What the start screen shows before the operator touches it, and what the command fills in.
+struct StartovniObrazovka {
+    Text hodiny, minuty; // as typed
+    VolbyStartu volby;
+    MoznostiStartu moznosti;
+    bool dva_monitory = false;
+};
+
+std::vector<Text> jizdni_rady() {
+    std::vector<Text> jmena = soubory_slozky(simulace.cesta_aplikace + "gvd", "GVD*.dat");
+    for (Text& jmeno : jmena)
+        jmeno.resize(jmeno.size() - 4);
+    return jmena;
+}
+
+// The last item of the list of speeds, and the fastest that the simulation knows.
+constexpr int kNejrychlejsiVolba = 4, kNejrychlejsi = 8;
+
+StartovniObrazovka vychozi_obrazovka() {
+    constexpr TextPohled kSekce = "Nastaveni";
+    const NastennyCas ted = platforma.nastenny_cas();
+    const auto zaskrtnuto = [&](TextPohled klic, int vychozi) {
+        return nastaveni_cislo(kSekce, klic, vychozi) != 0;
+    };
+    StartovniObrazovka o;
+    o.hodiny = text_cisla(ted.hodina);
+    o.minuty = text_cisla_mist(ted.minuta, 2);
+    o.volby.den = static_cast<std::uint8_t>(ted.den_tydne());
+    o.volby.rychlost =
+        na_byte(std::clamp(nastaveni_cislo(kSekce, "Rychlost", 0), 0, kNejrychlejsiVolba - 1) + 1);
+    o.volby.pp = zaskrtnuto("PP", 1);
+    o.volby.zpozdeni = zaskrtnuto("Zpozdeni", 1);
+    o.moznosti.noresize = zaskrtnuto("Noresize", 0);
+    o.moznosti.bez_dvou_monitoru = zaskrtnuto("Dual", 0);
+    o.moznosti.zvuk_vypnut = zaskrtnuto("Zvuk", 0);
+    o.moznosti.autosave = zaskrtnuto("Autosave", 0);
+    o.moznosti.autosaved = text_cisla(nastaveni_cislo(kSekce, "Autosaved", 60));
+
+    const std::vector<Text> rady = jizdni_rady();
+    const Text posledni = platforma.nastaveni_cti(kSekce, "GVD").value_or("");
+    if (!rady.empty())
+        o.volby.gvd = rady.front();
+    for (const Text& rad : rady)
+        if (stejne_bez_velikosti(rad + ".dat", posledni))
+            o.volby.gvd = rad;
+    return o;
+}
+
+void vyber_jizdni_rad(StartovniObrazovka& o, std::string_view utf8) {
+    const Text jmeno = text_slova(utf8);
+    const std::vector<Text> rady = jizdni_rady();
+    const auto nalezeny = std::find_if(rady.begin(), rady.end(), [&](const Text& rad) {
+        return stejne_bez_velikosti(rad, jmeno) || stejne_bez_velikosti(rad + ".dat", jmeno);
+    });
+    if (nalezeny == rady.end()) {
+        std::string nabidka;
+        for (const Text& rad : rady)
+            nabidka += (nabidka.empty() ? "" : ", ") + na_utf8(rad);
+        chyba_skriptu("jízdní řád " + v_uvozovkach(utf8) + " ve složce gvd není" +
+                      (nabidka.empty() ? "" : "; jsou tam: " + nabidka));
+    }
+    o.volby.gvd = *nalezeny;
+}
+
+bool priznak_slova(const Prirazeni& p) {
+    const auto priznak = priznak_textu(p.hodnota);
+    if (!priznak)
+        chyba_skriptu(std::string(p.pole) + ": čeká se 0 nebo 1, ne " + v_uvozovkach(p.hodnota));
+    return *priznak;
+}
+
+void vypln(StartovniObrazovka& o, const Prirazeni& p) {
+    constexpr std::array<std::string_view, 10> kPole = {
+        "cas", "den", "rychlost", "gvd", "pp", "zpozdeni", "zvuk", "dual", "autosave", "autosaved"};
+    if (p.pole == "cas") {
+        const std::size_t dvojtecka = p.hodnota.find(':');
+        if (dvojtecka == std::string_view::npos)
+            chyba_skriptu("cas se píše jako 8:05, ne " + v_uvozovkach(p.hodnota));
+        o.hodiny = text_slova(p.hodnota.substr(0, dvojtecka));
+        o.minuty = text_slova(p.hodnota.substr(dvojtecka + 1));
+    } else if (p.pole == "den") {
+        o.volby.den = static_cast<std::uint8_t>(cislo_slova(p.hodnota, 0, 6, p.pole));
+    } else if (p.pole == "rychlost") {
+        o.volby.rychlost = static_cast<std::uint8_t>(cislo_slova(p.hodnota, 1, kNejrychlejsi, p.pole));
+    } else if (p.pole == "gvd") {
+        vyber_jizdni_rad(o, p.hodnota);
+    } else if (p.pole == "pp") {
+        o.volby.pp = priznak_slova(p);
+    } else if (p.pole == "zpozdeni") {
+        o.volby.zpozdeni = priznak_slova(p);
+    } else if (p.pole == "zvuk") {
+        o.moznosti.zvuk_vypnut = priznak_slova(p);
+    } else if (p.pole == "dual") {
+        o.dva_monitory = priznak_slova(p);
+    } else if (p.pole == "autosave") {
+        o.moznosti.autosave = priznak_slova(p);
+    } else if (p.pole == "autosaved") {
+        o.moznosti.autosaved = text_slova(p.hodnota);
+    } else if (p.pole == "noresize") {
+        o.moznosti.noresize = priznak_slova(p);
+    } else {
+        chyba_skriptu("spust nezná " + v_uvozovkach(p.pole) + napoveda(p.pole, kPole));
+    }
+}
+
+// The time of the screen, strict as its check: both fields numeric and in their bounds.
+bool prevezmi_cas(const StartovniObrazovka& o, VolbyStartu& volby) {
+    const auto hodiny = ciselny_text(o.hodiny), minuty = ciselny_text(o.minuty);
+    if (!hodiny || !minuty || *hodiny <= -1 || *hodiny >= 24 || *minuty <= -1 || *minuty >= 60)
+        return false;
+    const double h = zaokrouhli(*hodiny), m = zaokrouhli(*minuty);
+    if (h < 0 || h > 23 || m < 0 || m > 59)
+        return false;
+    volby.hodina = na_byte(h);
+    volby.minuta = na_byte(m);
+    return true;
+}
+
+void prikaz_spust(BehSkriptu& beh, Slova slova) {
+    StartovniObrazovka o = vychozi_obrazovka();
+    for (const std::string& slovo : slova)
+        vypln(o, prirazeni(slovo));
+    if (!prevezmi_cas(o, o.volby)) {
+        platforma.okno("KPS RVZ TESK"_cz, "Neplatný čas!"_cz);
+        return;
+    }
+    if (o.dva_monitory) {
+        o.moznosti.bez_dvou_monitoru = false;
+        svet.rezim.sirka = 2048;
+    }
+    simulace.dva_monitory = o.dva_monitory;
+    beh.spusteno = true;
+    uloz_volby(o.moznosti);
+    prevezmi_volby(o.volby);
+    priprava_simulace();
+    nastav_hodiny(o.volby);
+    spust_planovac();
+    plyn_do(svet.cas_ms + kUvodniObrazovka_ms);
+    start_simulace();
+}
+
+bool je_prihlaseni() {
+    const Text& slovo = relief.lblPrikaz[0].text;
+    return relief.lblPrikaz[0].viditelny && (slovo == " INIT " || slovo == " TPC " || slovo == " ARCHIV ");
+}
+
+void prikaz_prihlas(BehSkriptu&, Slova) {
+    if (!je_prihlaseni())
+        chyba_skriptu("přihlášení není na řadě: na příkazovém řádku stojí " +
+                      v_uvozovkach(na_utf8(relief.lblPrikaz[0].text())));
+    Klavesa enter;
+    enter.kod = KodKlavesy::enter;
+    for (int i = 0; i < 3 && je_prihlaseni(); ++i)
+        klavesa(enter);
+}
+
+// --- hands
+
+struct CilRuky {
+    Druh druh = Druh::kolej;
+    int cislo = 0;
+};
+
+CilRuky prvek_ruky(Slova slova, std::size_t nejvice_slov) {
+    const Cil cil = precti_cil(slova);
+    if (!cil.druh)
+        chyba_skriptu(v_uvozovkach(cil.slovo) + " je tabulka, ne prvek");
+    if (slova.size() > cil.slov + nejvice_slov)
+        chyba_skriptu("přebývá " + v_uvozovkach(slova[cil.slov + nejvice_slov]));
+    if (!tabulka(*cil.druh).je(cil.cislo))
+        chyba_skriptu("prvek " + cil.slovo + " " + std::to_string(cil.cislo) + " neexistuje");
+    return {*cil.druh, cil.cislo};
+}
+
+Seznam* seznam_desky(std::string_view slovo) {
+    return slovo == "lstZpravy" ? &relief.lstZpravy : slovo == "lstDenik" ? &relief.lstDenik : nullptr;
+}
+
+void prikaz_klik(BehSkriptu&, Slova slova) {
+    if (slova[0] == "plocha") {
+        if (slova.size() > 1)
+            chyba_skriptu("klik plocha nemá další slova");
+        klik_na_plochu();
+        return;
+    }
+    if (Seznam* seznam = seznam_desky(slova[0])) {
+        if (slova.size() != 2)
+            chyba_skriptu("píše se klik " + slova[0] + " RADEK");
+        const auto radku = static_cast<std::int64_t>(seznam->radky.size());
+        if (radku == 0)
+            chyba_skriptu("seznam " + slova[0] + " je prázdný");
+        klik_na_radek(*seznam, static_cast<int>(cislo_slova(slova[1], 0, radku - 1, "řádek seznamu")));
+        return;
+    }
+    const bool ctrl = slova.size() > 1 && slova.back() == "ctrl";
+    const CilRuky cil = prvek_ruky(ctrl ? slova.first(slova.size() - 1) : slova, 0);
+    klik(cil.druh, cil.cislo, Tlacitko::leve, ctrl);
+}
+
+void prikaz_pravy(BehSkriptu&, Slova slova) {
+    const CilRuky cil = prvek_ruky(slova, 0);
+    klik(cil.druh, cil.cislo, Tlacitko::prave, false);
+}
+
+void prikaz_prostredni(BehSkriptu&, Slova slova) {
+    const CilRuky cil = prvek_ruky(slova, 0);
+    klik(cil.druh, cil.cislo, Tlacitko::prostredni, false);
+}
+
+void prikaz_dvojklik(BehSkriptu&, Slova slova) {
+    const CilRuky cil = prvek_ruky(slova, 0);
+    dvojklik(cil.druh, cil.cislo);
+}
+
+void prikaz_najed(BehSkriptu&, Slova slova) {
+    if (slova[0] == "plocha") {
+        pohyb_mysi();
+        odjeti();
+        return;
+    }
+    const CilRuky cil = prvek_ruky(slova, 0);
+    pohyb_mysi();
+    najeti(cil.druh, cil.cislo);
+}
+
+void prikaz_menu(BehSkriptu&, Slova slova) {
+    const Text jmeno = text_slova(slova[0]);
+    if (menu.jmeno.empty())
+        chyba_skriptu("žádné menu není otevřené");
+    // the names first: afterwards the menu is closed
+    std::string stav;
+    for (const PolozkaMenu& p : menu.polozky)
+        if (p.jmeno == jmeno)
+            stav = !p.viditelna ? "je skrytá" : !p.povolena ? "je zakázaná" : "nejde zvolit";
+    std::vector<std::string> jmena;
+    for (const PolozkaMenu& p : menu.polozky)
+        jmena.push_back(na_utf8(p.jmeno));
+    const std::string hlava = na_utf8(menu.jmeno);
+    if (zvol_v_menu(jmeno))
+        return;
+    if (!stav.empty())
+        chyba_skriptu("položka " + v_uvozovkach(slova[0]) + " menu " + hlava + " " + stav);
+    std::string nabidka;
+    for (const std::string& j : jmena)
+        nabidka += (nabidka.empty() ? "" : ", ") + j;
+    chyba_skriptu("menu " + hlava + " nemá položku " + v_uvozovkach(slova[0]) + "; má: " + nabidka);
+}
+
+void prikaz_klavesa(BehSkriptu&, Slova slova) {
+    const Klavesa k = klavesa_podle_jmena(text_slova(slova[0]));
+    if (k.kod == KodKlavesy::zadna)
+        chyba_skriptu("klávesu " + v_uvozovkach(slova[0]) + " pult nezná");
+    klavesa(k);
+}
+
+void prikaz_pis(BehSkriptu&, Slova slova) {
+    pis_do_pole(text_slova(slova[0]));
+}
+
+void prikaz_odpovez(BehSkriptu&, Slova slova) {
+    svet.odpovedi.push_back(text_slova(slova[0]));
+}
+
+// --- time
+
+void prikaz_cekej(BehSkriptu&, Slova slova) {
+    plyn_do(svet.cas_ms + doba_slova(slova[0]));
+}
+
+void prikaz_cekej_do(BehSkriptu&, Slova slova) {
+    constexpr std::int32_t kDen = 24 * 3600;
+    const auto vpred = [](std::int32_t od, std::int32_t k) { return ((k - od) % kDen + kDen) % kDen; };
+    std::int32_t ted = sekundy_textu(cas_hodin());
+    std::int32_t zbyva = vpred(ted, cas_slova(slova[0]));
+    const auto stoji = [] { return simulace.pauza || simulace.rychlost == 0; };
+    const auto dost = [&] {
+        const std::int32_t nyni = sekundy_textu(cas_hodin());
+        zbyva -= vpred(ted, nyni);
+        ted = nyni;
+        return zbyva <= 0 || stoji();
+    };
+    while (zbyva > 0) {
+        if (stoji())
+            chyba_skriptu("cekej_do: hodiny simulace stojí na " + na_utf8(cas_hodin()));
+        plyn_do(svet.cas_ms + kDen * 1000LL, dost);
+    }
+}
+
+void prikaz_krok(BehSkriptu&, Slova slova) {
+    for (std::size_t i = 0; i < casovace.size(); ++i)
+        if (casovace[i].krok == slova[0]) {
+            proved_krok(i);
+            return;
+        }
+    chyba_skriptu("krok je hodiny, volby, jizdy nebo blikani, ne " + v_uvozovkach(slova[0]));
+}
+
+// --- looking
+
+void prikaz_vypis(BehSkriptu& beh, Slova slova) {
+    const Cil cil = precti_cil(slova);
+    if (slova.size() > cil.slov)
+        chyba_skriptu("přebývá " + v_uvozovkach(slova[cil.slov]));
+    beh.vypis(Json(vypis(cil)));
+    zapomen_vypsane(cil);
+}
+
+void prikaz_over(BehSkriptu& beh, Slova slova) {
+    const Cil cil = precti_cil(slova);
+    if (slova.size() == cil.slov)
+        chyba_skriptu("over: chybí POLE=HODNOTA");
+    const Json nalez(vypis(cil));
+    const Json* existuje = clen(nalez, "existuje");
+    const bool neni = existuje != nullptr && *existuje == Json(false);
+    for (const std::string& slovo : slova.subspan(cil.slov)) {
+        const Prirazeni p = prirazeni(slovo);
+        std::optional<Json> hodnota = najdi_pole(nalez, p.pole);
+        if (!hodnota && p.pole == "pocet")
+            hodnota = najdi_pole(nalez, "radky.pocet");
+        const bool cesta_k_radku = p.pole.find('.') != std::string_view::npos;
+        if (!hodnota && !neni && !cesta_k_radku) {
+            std::vector<std::string_view> pole;
+            for (const ClenJsonu& c : std::get<ZaznamJsonu>(nalez.hodnota))
+                pole.push_back(c.klic);
+            chyba_skriptu(v_uvozovkach(cil.slovo) + " nemá pole " + v_uvozovkach(p.pole) +
+                          napoveda(p.pole, pole));
+        }
+        if (hodnota && odpovida(*hodnota, p.hodnota))
+            continue;
+        beh.over_selhal = true;
+        std::string co;
+        for (std::size_t i = 0; i < cil.slov; ++i)
+            co += slova[i] + " ";
+        ZaznamJsonu z;
+        pridej(z, "over", json_utf8(co + std::string(p.pole)));
+        pridej(z, "radek", beh.radek);
+        pridej(z, "chtel", hodnota ? chtena_hodnota(*hodnota, p.hodnota) : json_utf8(p.hodnota));
+        pridej(z, "nasel", hodnota ? *hodnota : Json());
+        beh.vypis(Json(std::move(z)));
+    }
+}
+
+// --- setting by hand
+
+// The codes of a caption: "229,32".
+Text text_kodu(std::string_view hodnota) {
+    std::vector<std::uint8_t> kody;
+    precti_hodnotu(hodnota, "kody", kody);
+    return Text(kody.begin(), kody.end());
+}
+
+void nastav_prvek(Prvek& p, const Prirazeni& co) {
+    Barva barva = 0;
+    bool priznak = false;
+    if (co.pole == "barva" || co.pole == "pozadi") {
+        precti_barvu(co.hodnota, co.pole, barva);
+        (co.pole == "barva" ? p.barva : p.pozadi) = barva;
+    } else if (co.pole == "text") {
+        nastav_text(p, text_slova(co.hodnota));
+    } else if (co.pole == "kody") {
+        nastav_text(p, text_kodu(co.hodnota));
+    } else if (co.pole == "popis") {
+        p.popis = Text(text_slova(co.hodnota));
+    } else if (co.pole == "stav") {
+        p.stav = Text(text_slova(co.hodnota));
+    } else if (co.pole == "viditelny" || co.pole == "ramecek") {
+        precti_hodnotu(co.hodnota, co.pole, priznak);
+        (co.pole == "viditelny" ? p.viditelny : p.ramecek) = priznak;
+    } else {
+        chyba_skriptu("prvek nemá pole " + v_uvozovkach(co.pole) +
+                      ", které by šlo nastavit; jsou: barva, pozadi, text, kody, popis, stav, viditelny, "
+                      "ramecek");
+    }
+}
+
+void nastav_cas(const Prirazeni& co) {
+    if (co.pole != "cas")
+        chyba_skriptu("hodinám jde nastavit jen cas");
+    const Text cas = text_casu(cas_slova(co.hodnota));
+    for (int n = 0; n <= relief.lblcas.nejvyssi(); ++n)
+        if (relief.lblcas.je(n))
+            relief.lblcas[n].text = cas;
+}
+
+template <class Zaznam>
+void nastav_zaznam(std::vector<Zaznam>& tabulka, std::string_view slovo, std::int64_t index,
+                   const Prirazeni& co) {
+    if (index < 0 || index >= static_cast<std::int64_t>(tabulka.size()))
+        chyba_skriptu(std::string(slovo) + " " + std::to_string(index) + " není; záznamů je " +
+                      std::to_string(tabulka.size()));
+    if (!nastav_pole(tabulka[static_cast<std::size_t>(index)], co.pole, co.hodnota))
+        chyba_skriptu(std::string(slovo) + " nemá pole " + v_uvozovkach(co.pole));
+}
+
+void prikaz_nastav(BehSkriptu&, Slova slova) {
+    const Cil cil = precti_cil(slova);
+    if (slova.size() == cil.slov)
+        chyba_skriptu("nastav: chybí POLE=HODNOTA");
+    for (const std::string& slovo : slova.subspan(cil.slov)) {
+        const Prirazeni co = prirazeni(slovo);
+        if (cil.druh) {
+            if (!tabulka(*cil.druh).je(cil.cislo))
+                chyba_skriptu("prvek " + cil.slovo + " " + std::to_string(cil.cislo) + " neexistuje");
+            nastav_prvek(tabulka(*cil.druh)[cil.cislo], co);
+        } else if (cil.slovo == "hodiny") {
+            nastav_cas(co);
+        } else if (cil.slovo == "cesta") {
+            nastav_zaznam(cesty, cil.slovo, cil.cislo, co);
+        } else if (cil.slovo == "vlak") {
+            nastav_zaznam(vlaky, cil.slovo, cil.cislo, co);
+        } else {
+            chyba_skriptu("nastavit jde prvek, vlak, cesta nebo hodiny, ne " + v_uvozovkach(cil.slovo));
+        }
+    }
+}
+
+// --- the table of commands
+
+enum class Kdy : std::uint8_t { pred_startem, po_startu, kdykoli };
+
+struct PopisPrikazu {
+    std::string_view jmeno;
+    std::size_t nejmene, nejvice; // words behind the command
+    Kdy kdy;
+    bool pohled; // only looks: allowed when the simulation has ended
+    std::string_view zapis;
+    void (*proved)(BehSkriptu&, Slova);
+};
+
+constexpr std::size_t kMnoho = 64;
+
+constexpr std::array kPrikazy = {
+    PopisPrikazu{"slozka", 1, 1, Kdy::pred_startem, false, "slozka SLOZKA", prikaz_slozka},
+    PopisPrikazu{"semeno", 1, 1, Kdy::pred_startem, false, "semeno N", prikaz_semeno},
+    PopisPrikazu{"pc", 2, 2, Kdy::pred_startem, false, "pc RRRR-MM-DD HH:MM:SS", prikaz_pc},
+    PopisPrikazu{"nastaveni", 3, 3, Kdy::pred_startem, false, "nastaveni SEKCE KLIC HODNOTA",
+                 prikaz_nastaveni},
+    PopisPrikazu{"ladeni", 1, 1, Kdy::pred_startem, false, "ladeni ano", prikaz_ladeni},
+    PopisPrikazu{"spust", 0, kMnoho, Kdy::pred_startem, false,
+                 "spust [cas=H:MM] [den=0..6] [rychlost=1..8] [gvd=JMENO] [pp=0/1] [zpozdeni=0/1] "
+                 "[zvuk=0/1] [dual=0/1] [autosave=0/1] [autosaved=N] [noresize=0/1]",
+                 prikaz_spust},
+    PopisPrikazu{"prihlas", 0, 0, Kdy::po_startu, false, "prihlas", prikaz_prihlas},
+    PopisPrikazu{"klik", 1, 3, Kdy::po_startu, false, "klik DRUH CISLO [ctrl] | klik plocha", prikaz_klik},
+    PopisPrikazu{"pravy", 1, 2, Kdy::po_startu, false, "pravy DRUH CISLO", prikaz_pravy},
+    PopisPrikazu{"prostredni", 1, 2, Kdy::po_startu, false, "prostredni DRUH CISLO", prikaz_prostredni},
+    PopisPrikazu{"dvojklik", 1, 2, Kdy::po_startu, false, "dvojklik DRUH CISLO", prikaz_dvojklik},
+    PopisPrikazu{"najed", 1, 2, Kdy::po_startu, false, "najed DRUH CISLO | najed plocha", prikaz_najed},
+    PopisPrikazu{"menu", 1, 1, Kdy::po_startu, false, "menu POLOZKA", prikaz_menu},
+    PopisPrikazu{"klavesa", 1, 1, Kdy::po_startu, false, "klavesa NAZEV", prikaz_klavesa},
+    PopisPrikazu{"pis", 1, 1, Kdy::po_startu, false, "pis TEXT", prikaz_pis},
+    PopisPrikazu{"odpovez", 1, 1, Kdy::kdykoli, false, "odpovez ano|ne|zrus|TEXT", prikaz_odpovez},
+    PopisPrikazu{"cekej", 1, 1, Kdy::kdykoli, false, "cekej 30s | 1500ms | 10min", prikaz_cekej},
+    PopisPrikazu{"cekej_do", 1, 1, Kdy::po_startu, false, "cekej_do H:MM:SS", prikaz_cekej_do},
+    PopisPrikazu{"krok", 1, 1, Kdy::po_startu, false, "krok hodiny|volby|jizdy|blikani", prikaz_krok},
+    PopisPrikazu{"vypis", 1, 2, Kdy::kdykoli, true, "vypis DRUH CISLO | vypis TABULKA [RADEK]", prikaz_vypis},
+    PopisPrikazu{"over", 2, kMnoho, Kdy::kdykoli, true, "over CO [CISLO] POLE=HODNOTA ...", prikaz_over},
+    PopisPrikazu{"nastav", 2, kMnoho, Kdy::kdykoli, false, "nastav CO [CISLO] POLE=HODNOTA ...",
+                 prikaz_nastav},
+};
+
+// Commands of the language whose rooms this version of the program does not have yet.
+constexpr std::array<std::string_view, 2> kZatimNe = {"nacti", "uloz"};
+
+constexpr auto kJmena = [] {
+    std::array<std::string_view, kPrikazy.size()> jmena{};
+    std::transform(kPrikazy.begin(), kPrikazy.end(), jmena.begin(),
+                   [](const PopisPrikazu& p) { return p.jmeno; });
+    return jmena;
+}();
+constexpr auto kZapisy = [] {
+    std::array<std::string_view, kPrikazy.size()> zapisy{};
+    std::transform(kPrikazy.begin(), kPrikazy.end(), zapisy.begin(),
+                   [](const PopisPrikazu& p) { return p.zapis; });
+    return zapisy;
+}();
+
+} // namespace
+
+void nastav_slozku(const std::string& utf8) {
+    std::error_code kod;
+    const std::filesystem::path cela = std::filesystem::absolute(utf8, kod).lexically_normal();
+    if (kod || !std::filesystem::is_directory(cela, kod))
+        chyba_skriptu("složka " + v_uvozovkach(utf8) + " neexistuje");
+    Text cesta = text_slova(cela.string());
+    while (cesta.size() > 1 && cesta.back() == '/')
+        cesta.pop_back();
+    simulace.cesta_aplikace = cesta + "\\";
+}
+
+std::span<const std::string_view> zapisy_prikazu() {
+    return kZapisy;
+}
+
+void proved_radek(BehSkriptu& beh, std::string_view radek, bool jen_pohled) {
+    ++beh.radek;
+    const std::vector<std::string> slova = slova_radku(radek);
+    if (slova.empty())
+        return;
+    const auto prikaz = std::find_if(kPrikazy.begin(), kPrikazy.end(),
+                                     [&](const PopisPrikazu& p) { return p.jmeno == slova[0]; });
+    if (prikaz == kPrikazy.end()) {
+        if (std::find(kZatimNe.begin(), kZatimNe.end(), slova[0]) != kZatimNe.end())
+            chyba_skriptu("příkaz " + v_uvozovkach(slova[0]) + " tato verze programu nemá");
+        chyba_skriptu("neznámý příkaz " + v_uvozovkach(slova[0]) + napoveda(slova[0], kJmena));
+    }
+    const Slova zbytek = Slova(slova).subspan(1);
+    if (zbytek.size() < prikaz->nejmene || zbytek.size() > prikaz->nejvice)
+        chyba_skriptu("příkaz se píše: " + std::string(prikaz->zapis));
+    if (jen_pohled && !prikaz->pohled)
+        return;
+    if (prikaz->kdy == Kdy::pred_startem && beh.spusteno)
+        chyba_skriptu("příkaz " + v_uvozovkach(slova[0]) + " patří před spuštění simulace");
+    if (prikaz->kdy == Kdy::po_startu && !beh.spusteno)
+        chyba_skriptu("příkaz " + v_uvozovkach(slova[0]) + " potřebuje spuštěnou simulaci");
+    bezpecne([&] { prikaz->proved(beh, zbytek); });
+}

@@ -1,0 +1,464 @@
+// davka/vypisy.cpp - prints elements, tables and the parts of the desk.
+#include "davka/vypisy.h"
+
+#include "app/blikani.h"
+#include "app/cas.h"
+#include "app/casovace.h"
+#include "app/simulace.h"
+#include "cesty/dotazy.h"
+#include "cesty/zasobnik.h"
+#include "davka/popisy.h"
+#include "davka/skript.h"
+#include "davka/virtualni_svet.h"
+#include "prvky/panel.h"
+#include "prvky/souhlasy.h"
+#include "zaklad/platforma.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+// --- pieces
+
+const Prvek kNeni{}; // stands for an element that the layout does not have
+
+const Prvek& prvek(const TabulkaPrvku& tabulka, int n) {
+    return tabulka.je(n) ? tabulka[n] : kNeni;
+}
+
+Json kody(TextPohled text) {
+    SeznamJsonu kody;
+    for (const char znak : text)
+        kody.emplace_back(static_cast<int>(static_cast<unsigned char>(znak)));
+    return Json(std::move(kody));
+}
+
+Json texty(const std::vector<Text>& radky) {
+    return json_hodnota(radky);
+}
+
+// A table: its records with their index and all fields.
+template <class Tabulka> Json zaznamy(const Tabulka& tabulka) {
+    SeznamJsonu radky;
+    radky.reserve(tabulka.size());
+    for (const auto& zaznam : tabulka) {
+        ZaznamJsonu radek;
+        pridej(radek, "i", Json(radky.size()));
+        pridej_pole(radek, zaznam);
+        radky.emplace_back(std::move(radek));
+    }
+    return Json(std::move(radky));
+}
+
+template <auto& tabulka> void vypis_tabulku(ZaznamJsonu& z) {
+    pridej(z, "radky", zaznamy(tabulka));
+}
+
+// --- one function a word
+
+void vypis_hodiny(ZaznamJsonu& z) {
+    pridej(z, "cas", json_text(prvek(relief.lblcas, 0).text()));
+    pridej(z, "den", simulace.den);
+    pridej(z, "den_text", json_text(prvek(relief.lblDEN, 0).text()));
+    pridej(z, "cas_zacatku", simulace.cas_zacatku);
+    pridej(z, "minuty_simulace", simulace.minuty_simulace);
+    pridej(z, "pauza", simulace.pauza);
+    pridej(z, "rychlost", simulace.rychlost);
+    pridej(z, "sekundy", sekundy_simulace(prvek(relief.lblcas, 0).text()));
+    pridej(z, "tik_ms", platforma.tik_ms());
+}
+
+void vypis_prikaz(ZaznamJsonu& z) {
+    const Prvek& prikaz = prvek(relief.lblPrikaz, 0);
+    const Prvek& volba = prvek(relief.lblVolba, 0);
+    const Prvek& pole = prvek(relief.txtZadav_pole, 0);
+    const Prvek& makro = prvek(relief.lblMakro_pismeno, 0);
+    pridej(z, "prikaz", json_text(prikaz.text()));
+    pridej(z, "volba", json_text(volba.text()));
+    pridej(z, "prikaz_barva", json_barva(prikaz.barva));
+    pridej(z, "prikaz_pozadi", json_barva(prikaz.pozadi));
+    pridej(z, "volba_barva", json_barva(volba.barva));
+    pridej(z, "volba_pozadi", json_barva(volba.pozadi));
+    pridej(z, "viditelny", prikaz_radek.obsazen);
+    pridej(z, "blika", prikaz_radek.blikani_prikazu);
+    pridej(z, "kod_zpravy", prikaz_radek.kod_zpravy);
+    pridej(z, "vstup", pole.viditelny() && pole.povoleny());
+    pridej(z, "pole", json_text(pole.text()));
+    pridej(z, "rezim_zadani", prikaz_radek.rezim_zadani);
+    pridej(z, "makro", makro.viditelny() ? json_text(makro.text()) : json_text(""));
+    pridej(z, "fronta", zaznamy(prikaz_radek.fronta_zprav));
+}
+
+void vypis_cekajici(ZaznamJsonu& z) {
+    pridej(z, "radky", json_hodnota(souhlasy.cekajici_vlaky));
+}
+
+void vypis_zpravy(ZaznamJsonu& z) {
+    pridej(z, "radky", texty(relief.lstZpravy.radky));
+    pridej(z, "vybrany", relief.lstZpravy.vybrany);
+}
+
+void vypis_denik(ZaznamJsonu& z) {
+    pridej(z, "radky", texty(relief.lstDenik.radky));
+    pridej(z, "vybrany", relief.lstDenik.vybrany);
+}
+
+void vypis_tabulka(ZaznamJsonu& z) {
+    SeznamJsonu radky, blika;
+    for (std::size_t i = 0; i < blikani.blikani_radku.size(); ++i) {
+        radky.push_back(json_text(prvek(relief.lblTabulka_vlaku, static_cast<int>(i)).text()));
+        blika.emplace_back(static_cast<bool>(blikani.blikani_radku[i]));
+    }
+    pridej(z, "radky", Json(std::move(radky)));
+    pridej(z, "blika", Json(std::move(blika)));
+}
+
+void vypis_zasobnik(ZaznamJsonu& z) {
+    const Prvek& blokv = prvek(relief.lblZasobnik_blokv, 0);
+    SeznamJsonu radky;
+    for (const int i : radky_zasobniku())
+        radky.push_back(json_text(popis_cesty(i)));
+    pridej(z, "pocet", json_text(prvek(relief.lblZasobnik_pocet, 0).text()));
+    pridej(z, "blokv", json_text(blokv.text()));
+    pridej(z, "blokv_barva", json_barva(blokv.barva));
+    pridej(z, "blokv_viditelny", blokv.viditelny());
+    pridej(z, "rezim", json_text(plati_vz() ? "VZ" : "PV"));
+    pridej(z, "radky", Json(std::move(radky)));
+}
+
+void vypis_volba(ZaznamJsonu& z) {
+    pridej_pole(z, vyber);
+}
+
+template <std::size_t N> Json sviti(const TabulkaPrvku& tabulka) {
+    SeznamJsonu priznaky;
+    for (int i = 0; i < static_cast<int>(N); ++i)
+        priznaky.emplace_back(prvek(tabulka, i).viditelny());
+    return Json(std::move(priznaky));
+}
+
+void vypis_panel(ZaznamJsonu& z) {
+    pridej(z, "navestidlo", simulace.detail_navestidlo);
+    pridej(z, "svetla", sviti<6>(relief.svetlo));
+    pridej(z, "pruhy", sviti<2>(relief.pruh));
+    pridej(z, "blika", panel_navestidla.blika);
+    pridej(z, "interval", panel_navestidla.interval);
+    pridej(z, "jmeno", json_text(prvek(relief.lblnavestidlo, 0).text()));
+    pridej(z, "stanice", json_text(prvek(relief.lblNavestidlo_stanice, 0).text()));
+}
+
+void vypis_menu(ZaznamJsonu& z) {
+    pridej(z, "menu", menu.jmeno.empty() ? Json() : json_text(menu.jmeno));
+    pridej(z, "hlava", json_text(menu.hlava));
+    pridej(z, "polozky", zaznamy(menu.polozky));
+}
+
+void vypis_obrazovka(ZaznamJsonu& z) {
+    pridej(z, "obrazovka", json_text(simulace.obrazovka));
+    if (simulace.obrazovka == "frmMain") {
+        pridej(z, "lstZpravy", texty(relief.lstZpravy.radky));
+        pridej(z, "lstDenik", texty(relief.lstDenik.radky));
+    }
+}
+
+void vypis_pipnuti(ZaznamJsonu& z) {
+    SeznamJsonu radky;
+    for (const Pipnuti& p : svet.pipnuti) {
+        ZaznamJsonu radek;
+        pridej(radek, "i", Json(radky.size()));
+        pridej(radek, "hz", p.hz);
+        pridej(radek, "ms", p.ms);
+        pridej(radek, "cas_ms", p.cas_ms);
+        radky.emplace_back(std::move(radek));
+    }
+    pridej(z, "radky", Json(std::move(radky)));
+}
+
+// Questions are boxes too; they alone have an answer.
+void vypis_okna(ZaznamJsonu& z) {
+    SeznamJsonu radky;
+    for (const OknoZpravy& o : svet.okna) {
+        ZaznamJsonu radek;
+        pridej(radek, "i", Json(radky.size()));
+        pridej(radek, "titul", json_text(o.titul));
+        pridej(radek, "text", json_text(o.text));
+        if (o.odpoved)
+            pridej(radek, "odpoved", json_text(*o.odpoved ? "ano" : "ne"));
+        radky.emplace_back(std::move(radek));
+    }
+    pridej(z, "radky", Json(std::move(radky)));
+}
+
+// The settings store, for scripts that check what the start screen keeps.
+void vypis_nastaveni(ZaznamJsonu& z) {
+    SeznamJsonu radky;
+    for (const ZaznamNastaveni& n : svet.nastaveni) {
+        ZaznamJsonu radek;
+        pridej(radek, "i", Json(radky.size()));
+        pridej(radek, "sekce", json_text(n.sekce));
+        pridej(radek, "klic", json_text(n.klic));
+        pridej(radek, "hodnota", json_text(n.hodnota));
+        radky.emplace_back(std::move(radek));
+    }
+    pridej(z, "radky", Json(std::move(radky)));
+}
+
+struct Vypis {
+    std::string_view slovo;
+    std::string_view zaznam; // the word for one of its rows: `nastav vlak 3`, `over cesta 0`
+    void (*napln)(ZaznamJsonu&);
+};
+
+constexpr std::array kVypisy = {
+    Vypis{"hodiny", "", vypis_hodiny},
+    Vypis{"prikaz", "", vypis_prikaz},
+    Vypis{"cesty", "cesta", vypis_tabulku<cesty>},
+    Vypis{"vlaky", "vlak", vypis_tabulku<vlaky>},
+    Vypis{"koleje_vlaky", "", vypis_tabulku<koleje_vlaky>},
+    Vypis{"prejezdy", "", vypis_tabulku<prejezdy>},
+    Vypis{"stanicni_prejezdy", "", vypis_tabulku<stanicni_prejezdy>},
+    Vypis{"stitky", "", vypis_tabulku<stitky>},
+    Vypis{"cekajici_vlaky", "", vypis_cekajici},
+    Vypis{"gvd_vlaky", "", vypis_tabulku<gvd_vlaky>},
+    Vypis{"zpravy", "", vypis_zpravy},
+    Vypis{"denik", "", vypis_denik},
+    Vypis{"tabulka", "", vypis_tabulka},
+    Vypis{"zasobnik", "", vypis_zasobnik},
+    Vypis{"volba", "", vypis_volba},
+    Vypis{"panel", "", vypis_panel},
+    Vypis{"menu", "", vypis_menu},
+    Vypis{"obrazovka", "", vypis_obrazovka},
+    Vypis{"pipnuti", "", vypis_pipnuti},
+    Vypis{"okna", "", vypis_okna},
+    Vypis{"nastaveni", "", vypis_nastaveni},
+};
+
+// Words of the language whose tables this version of the program does not have yet.
+constexpr std::array<std::string_view, 2> kZatimNe = {"info", "dalsi_vlaky"};
+
+const Vypis* najdi_vypis(std::string_view slovo) {
+    const auto nalezeny = std::find_if(kVypisy.begin(), kVypisy.end(), [&](const Vypis& v) {
+        return v.slovo == slovo || (!v.zaznam.empty() && v.zaznam == slovo);
+    });
+    return nalezeny == kVypisy.end() ? nullptr : nalezeny;
+}
+
+constexpr auto kSlova = [] {
+    std::array<std::string_view, kVypisy.size() + kDruhy.size()> slova{};
+    for (std::size_t i = 0; i < kVypisy.size(); ++i)
+        slova[i] = kVypisy[i].slovo;
+    for (std::size_t i = 0; i < kDruhy.size(); ++i)
+        slova[kVypisy.size() + i] = kDruhy[i].jmeno;
+    return slova;
+}();
+
+// Kinds of the layout are many and need a number; the parts of the desk are one of each, or their
+// first is meant.
+bool potrebuje_cislo(Druh druh) {
+    return druh <= Druh::lblPN;
+}
+
+bool je_cara(Druh druh) {
+    return druh == Druh::kolej || druh == Druh::most;
+}
+
+// The list in which the rows of a word stand.
+const SeznamJsonu* radky(const ZaznamJsonu& zaznam) {
+    for (const std::string_view klic : {"radky", "polozky"})
+        for (const ClenJsonu& c : zaznam)
+            if (c.klic == klic)
+                return std::get_if<SeznamJsonu>(&c.hodnota.hodnota);
+    return nullptr;
+}
+
+bool ma_jmeno(const Json& radek, std::string_view jmeno) {
+    const Json* hodnota = clen(radek, "jmeno");
+    return hodnota != nullptr && hodnota_json(*hodnota) == jmeno;
+}
+
+// One row as a record of its own: the fields of a record, `text` of a list of texts, `hodnota` of a
+// table of numbers; with the row's own flags (`blika` of the train table).
+void pridej_radek(ZaznamJsonu& cil, const ZaznamJsonu& cely, const Json& radek, std::size_t index) {
+    if (const auto* zaznam = std::get_if<ZaznamJsonu>(&radek.hodnota)) {
+        for (const ClenJsonu& c : *zaznam)
+            if (c.klic != "i")
+                pridej(cil, c.klic, c.hodnota);
+        return;
+    }
+    pridej(cil, std::holds_alternative<std::string>(radek.hodnota) ? "text" : "hodnota", radek);
+    for (const ClenJsonu& c : cely)
+        if (const auto* seznam = std::get_if<SeznamJsonu>(&c.hodnota.hodnota);
+            seznam != nullptr && c.klic != "radky" && index < seznam->size())
+            pridej(cil, c.klic, (*seznam)[index]);
+}
+
+} // namespace
+
+Cil precti_cil(std::span<const std::string> slova) {
+    if (slova.empty())
+        chyba_skriptu("chybí, čeho se příkaz týká");
+    Cil cil;
+    cil.slovo = slova[0];
+    cil.slov = 1;
+    cil.druh = druh_podle_jmena(cil.slovo);
+    if (!cil.druh && najdi_vypis(cil.slovo) == nullptr) {
+        if (std::find(kZatimNe.begin(), kZatimNe.end(), cil.slovo) != kZatimNe.end())
+            chyba_skriptu("tabulku „" + cil.slovo + "“ tato verze programu nemá");
+        chyba_skriptu("„" + cil.slovo + "“ není druh prvku ani tabulka" + napoveda(cil.slovo, kSlova));
+    }
+    const bool dalsi = slova.size() > 1 && slova[1].find('=') == std::string::npos;
+    if (!cil.druh) {
+        if (dalsi) {
+            if (const auto cislo = cele_cislo(slova[1], 0, 99'999))
+                cil.cislo = static_cast<int>(*cislo);
+            else
+                cil.jmeno = slova[1];
+            cil.slov = 2;
+        }
+        return cil;
+    }
+    if (const auto cislo = dalsi ? cele_cislo(slova[1], -32768, 32767) : std::nullopt) {
+        cil.cislo = static_cast<int>(*cislo);
+        cil.slov = 2;
+    } else if (potrebuje_cislo(*cil.druh)) {
+        chyba_skriptu("za „" + cil.slovo + "“ chybí číslo prvku" +
+                      (dalsi ? ", je tam „" + slova[1] + "“" : ""));
+    } else {
+        cil.cislo = 0;
+    }
+    return cil;
+}
+
+ZaznamJsonu popis_prvku(Druh druh, int cislo) {
+    ZaznamJsonu z;
+    const TabulkaPrvku& t = tabulka(druh);
+    pridej(z, "existuje", t.je(cislo));
+    if (!t.je(cislo))
+        return z;
+    const Prvek& p = t[cislo];
+    pridej(z, "barva", json_barva(p.barva));
+    pridej(z, "pozadi", json_barva(p.pozadi));
+    pridej(z, "text", json_text(p.text()));
+    pridej(z, "kody", kody(p.text()));
+    pridej(z, "popis", json_text(p.popis()));
+    pridej(z, "stav", json_text(p.stav()));
+    pridej(z, "viditelny", p.viditelny());
+    pridej(z, "ramecek", p.ramecek());
+    if (je_cara(druh)) {
+        pridej(z, "x1", p.x1());
+        pridej(z, "x2", p.x2());
+        pridej(z, "y1", p.y1());
+        pridej(z, "y2", p.y2());
+    } else {
+        pridej(z, "vlevo", p.vlevo());
+        pridej(z, "nahore", p.nahore());
+        pridej(z, "sirka", p.sirka());
+        pridej(z, "vyska", p.vyska());
+        pridej(z, "povoleny", p.povoleny());
+        pridej(z, "okraj", json_barva(p.okraj));
+        pridej(z, "obrazek", p.obrazek());
+    }
+    return z;
+}
+
+ZaznamJsonu vypis(const Cil& cil) {
+    ZaznamJsonu z;
+    pridej(z, "vypis", json_utf8(cil.slovo));
+    if (cil.druh) {
+        pridej(z, "cislo", cil.cislo);
+        for (ClenJsonu& c : popis_prvku(*cil.druh, cil.cislo))
+            z.push_back(std::move(c));
+        return z;
+    }
+    const Vypis& co = *najdi_vypis(cil.slovo);
+    if (cil.cislo == kZadny && cil.jmeno.empty()) {
+        if (co.zaznam == cil.slovo)
+            chyba_skriptu("za „" + cil.slovo + "“ chybí číslo záznamu");
+        co.napln(z);
+        return z;
+    }
+    ZaznamJsonu cely;
+    co.napln(cely);
+    const SeznamJsonu* seznam = radky(cely);
+    if (seznam == nullptr)
+        chyba_skriptu("„" + cil.slovo + "“ není tabulka, nemá řádek „" +
+                      (cil.jmeno.empty() ? std::to_string(cil.cislo) : cil.jmeno) + "“");
+    std::size_t index = seznam->size();
+    if (cil.jmeno.empty())
+        index = static_cast<std::size_t>(cil.cislo);
+    else
+        for (std::size_t i = seznam->size(); i-- > 0;)
+            if (ma_jmeno((*seznam)[i], cil.jmeno))
+                index = i;
+    pridej(z, "i", index < seznam->size() ? Json(index) : Json(cil.cislo));
+    pridej(z, "existuje", index < seznam->size());
+    if (index < seznam->size())
+        pridej_radek(z, cely, (*seznam)[index], index);
+    return z;
+}
+
+void zapomen_vypsane(const Cil& cil) {
+    if (cil.slovo == "pipnuti")
+        svet.pipnuti.clear();
+    if (cil.slovo == "okna")
+        svet.okna.clear();
+}
+
+std::span<const std::string_view> slova_vypisu() {
+    return kSlova;
+}
+
+std::optional<Json> najdi_pole(const Json& koren, std::string_view cesta) {
+    const auto zbytek_za = [&](std::size_t delka) {
+        return delka < cesta.size() ? std::optional(cesta.substr(delka + 1)) : std::nullopt;
+    };
+    const auto dal = [&](const Json& hodnota, std::size_t delka) -> std::optional<Json> {
+        const auto zbytek = zbytek_za(delka);
+        return zbytek ? najdi_pole(hodnota, *zbytek) : std::optional(hodnota);
+    };
+    const std::string_view prvni = cesta.substr(0, cesta.find('.'));
+    if (const Json* hodnota = clen(koren, prvni))
+        return dal(*hodnota, prvni.size());
+    const auto* seznam = std::get_if<SeznamJsonu>(&koren.hodnota);
+    if (seznam == nullptr)
+        return std::nullopt;
+    if (cesta == "pocet")
+        return Json(seznam->size());
+    if (const auto i = cele_cislo(prvni, 0, 99'999))
+        return static_cast<std::size_t>(*i) < seznam->size()
+                   ? dal((*seznam)[static_cast<std::size_t>(*i)], prvni.size())
+                   : std::nullopt;
+    // a row by its name; the name itself may hold a point
+    for (const Json& radek : *seznam)
+        for (std::size_t konec = cesta.find('.');; konec = cesta.find('.', konec + 1)) {
+            const std::size_t delka = std::min(konec, cesta.size());
+            if (ma_jmeno(radek, cesta.substr(0, delka)))
+                return dal(radek, delka);
+            if (konec == std::string_view::npos)
+                break;
+        }
+    return std::nullopt;
+}
+
+Json chtena_hodnota(const Json& nalezeno, std::string_view chteno) {
+    if (std::holds_alternative<bool>(nalezeno.hodnota)) {
+        if (const auto priznak = priznak_textu(chteno))
+            return Json(*priznak);
+    } else if (std::holds_alternative<std::int64_t>(nalezeno.hodnota)) {
+        if (const auto cislo = cele_cislo(chteno, INT64_MIN, INT64_MAX))
+            return Json(*cislo);
+    } else if (std::holds_alternative<BarvaJsonu>(nalezeno.hodnota)) {
+        if (const auto barva = barva_textu(chteno))
+            return json_barva(static_cast<Barva>(*barva));
+    } else if (std::holds_alternative<std::monostate>(nalezeno.hodnota) && chteno == "null") {
+        return Json();
+    }
+    return json_utf8(chteno);
+}
+
+bool odpovida(const Json& nalezeno, std::string_view chteno) {
+    if (std::holds_alternative<SeznamJsonu>(nalezeno.hodnota))
+        return hodnota_json(nalezeno) == chteno || zapis_json(nalezeno) == chteno;
+    return chtena_hodnota(nalezeno, chteno) == nalezeno;
+}
