@@ -11,6 +11,7 @@
 
 #include <QCloseEvent>
 #include <QCursor>
+#include <QGuiApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QLabel>
@@ -18,6 +19,7 @@
 #include <QScrollBar>
 #include <QToolTip>
 #include <QWidgetAction>
+#include <QWindow>
 
 #include <cmath>
 
@@ -187,15 +189,16 @@ QRect HlavniOkno::v_okne(const QRect& twipy) const {
 }
 
 Bod HlavniOkno::kurzor_na_stole() const {
-    const QPoint t = na_twipy(mapFromGlobal(QCursor::pos()));
+    const QPoint t = na_twipy(QPointF(mapFromGlobal(QCursor::pos())) + QPointF(0.5, 0.5));
     return {t.x() / kTwipu, t.y() / kTwipu};
 }
 
 void HlavniOkno::nastav_kurzor_na_stole(Bod kam) {
-    // the middle of the pixel, so that reading the place back gives it again at any scale
+    // the middle of the desk's pixel, cut to a pixel of the screen: reading the place back gives it again
     const Meritko& m = platno.meritko();
     const QPointF body(m.x0 + (kam.x + 0.5) * m.bod(), m.y0 + (kam.y + 0.5) * m.bod());
-    const QPoint misto = (body / devicePixelRatioF()).toPoint();
+    const QPointF logicke = body / devicePixelRatioF();
+    const QPoint misto(static_cast<int>(std::floor(logicke.x())), static_cast<int>(std::floor(logicke.y())));
     QCursor::setPos(mapToGlobal(misto));
     najed(misto);
 }
@@ -430,6 +433,11 @@ void HlavniOkno::zmenit_viditelnost_okna() {
         }))
         minimalizovane = isMinimized();
     obnov();
+    if (minimalizovane && QGuiApplication::platformName() == QLatin1String("xcb"))
+        QTimer::singleShot(1000, this, [this] { // without a window manager nothing takes the window away
+            if (isMinimized() && windowHandle() != nullptr && windowHandle()->isExposed())
+                setWindowState(windowState() & ~Qt::WindowMinimized);
+        });
 }
 
 void HlavniOkno::changeEvent(QEvent* udalost) {

@@ -119,6 +119,13 @@ class Stul:
         time.sleep(0.1)
         self.xdotool("click", tlacitko)
 
+    def kurzor(self):
+        """Where the pointer is, pixels of the screen."""
+        beh = subprocess.run(["xdotool", "getmouselocation", "--shell"], env=self.prostredi, check=True,
+                             capture_output=True, text=True)
+        hodnoty = dict(radek.split("=") for radek in beh.stdout.split())
+        return int(hodnoty["X"]), int(hodnoty["Y"])
+
     def okna(self):
         """Titles of the windows that are seen."""
         beh = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", ".*"], env=self.prostredi,
