@@ -1,4 +1,4 @@
-// kolejiste/kontroly.cpp - what the rules of the running demand of the numbers.
+// nastroje/kolejiste/kontroly.cpp - what the rules of the running demand of the numbers.
 #include "kolejiste/kontroly.h"
 
 #include "kolejiste/kresba.h"

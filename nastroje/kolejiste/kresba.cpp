@@ -1,4 +1,4 @@
-// kolejiste/kresba.cpp - places the elements of the plan on the desk.
+// nastroje/kolejiste/kresba.cpp - places the elements of the plan on the desk.
 #include "kolejiste/kresba.h"
 
 #include "relief/relief.h"

@@ -1,4 +1,4 @@
-// kolejiste/nahled.cpp - the picture as SVG, to look at while drawing.
+// nastroje/kolejiste/nahled.cpp - the picture as SVG, to look at while drawing.
 #include "kolejiste/kresba.h"
 
 #include <cstdlib>

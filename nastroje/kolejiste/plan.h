@@ -1,4 +1,5 @@
-// kolejiste/plan.h - the junction as its source says it: blocks, elements, demands; nothing is placed yet.
+// nastroje/kolejiste/plan.h - the junction as its source says it: blocks, elements, demands; nothing is
+// placed yet.
 //
 // The source is drawn on a raster: columns of one glyph (120 twips) and rows of one glyph's height
 // (195 twips). Every place is told from the origin of its block, so that a station moves as a whole. A

@@ -1,4 +1,4 @@
-// kolejiste/zdroj.cpp - reads the source of the junction, a statement a line.
+// nastroje/kolejiste/zdroj.cpp - reads the source of the junction, a statement a line.
 #include "kolejiste/plan.h"
 #include "relief/relief.h"
 

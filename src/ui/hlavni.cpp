@@ -50,10 +50,13 @@ void ukaz_hlavni_obrazovku() {
     hlavni_okno = std::make_unique<HlavniOkno>();
     const QScreen* obrazovka = QGuiApplication::primaryScreen();
     // The desk takes the screen unless the operator keeps his own display: then it comes in a window.
-    if (simulace.noresize && obrazovka != nullptr && obrazovka->size().height() > kVyskaStolu / kTwipu)
+    if (simulace.noresize && obrazovka != nullptr && obrazovka->size().height() > kVyskaStolu / kTwipu) {
         hlavni_okno->show();
-    else
+    } else {
+        if (obrazovka != nullptr) // a screen without a window manager grants no size by itself
+            hlavni_okno->setGeometry(obrazovka->geometry());
         hlavni_okno->showFullScreen();
+    }
     hlavni_okno->setFocus();
     v_jadre(start_simulace);
     uvod.reset();

@@ -26,6 +26,7 @@ constexpr QRgb kPruhy[] = {0xFFFFD21E, 0xFF19E64B};
 constexpr QRgb kTmavaPlocha = 0xFF15191E;
 constexpr QRgb kLinka = 0xFF3C4550;
 constexpr QRgb kIkona = 0xFFC8D2DC;
+constexpr QRgb kIkonaStanoviste = 0xFF808C98;
 
 // How the elements of a kind are drawn.
 enum class Zpusob : std::uint8_t {
@@ -319,18 +320,14 @@ void nakresli_odstavec(QPainter& p, const Meritko& m, const Prvek& prvek, bool z
     }
 }
 
-// A platform edge: its glyph repeated over the whole width.
+// A platform edge: the bar of its glyph, in one piece over the whole width.
 void nakresli_nastupiste(QPainter& p, const Meritko& m, const Prvek& prvek) {
+    constexpr int kOdshora = 4, kTloustkaHrany = 5; // of the bar in the cell, pixels of the desk
     if (prvek.text->empty())
         return;
     const QRect plocha = v_bodech(m, prvek);
-    const double sirka = kSirkaBunky * m.bod(), vyska = kVyskaBunky * m.bod();
-    const auto kolik = static_cast<std::size_t>(std::ceil(plocha.width() / sirka));
-    p.save();
-    p.setClipRect(plocha, Qt::IntersectClip);
-    kresli_radek(p, plocha.x(), plocha.y(), sirka, vyska, Text(kolik, prvek.text->front()), prvek.barva,
-                 Znaky::znacky);
-    p.restore();
+    p.fillRect(plocha.x(), m.y(prvek.nahore + kOdshora * kTwipu), plocha.width(), m.bodu(kTloustkaHrany),
+               barva_qt(prvek.barva));
 }
 
 // --- pictures
@@ -462,7 +459,7 @@ void nakresli_svetlo(QPainter& p, const Meritko& m, int n, const Prvek& prvek) {
 }
 
 void nakresli_stanoviste(QPainter& p, const Meritko& m, const Prvek& prvek) {
-    Ikona i(p, v_bodech(m, prvek), kIkona);
+    Ikona i(p, v_bodech(m, prvek), kIkonaStanoviste);
     i.obdelnik(1.5, 1.5, 13, 13);
     i.cara({{4.5, 12}, {4.5, 8}, {11.5, 8}, {11.5, 12}});
     i.kruh(8, 5, 1.8);
