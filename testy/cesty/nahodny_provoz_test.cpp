@@ -5,6 +5,7 @@
 #include "cesty/cisla_vlaku.h"
 #include "cesty/duvod.h"
 #include "cesty/makra.h"
+#include "cesty/prekazky.h"
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"
 #include "prvky/navestidla.h"
@@ -235,6 +236,29 @@ std::string kontrola_zaveru() {
     return {};
 }
 
+// "Why not?" says nothing exactly when the machine does something: asked of the first route that is to
+// be commanded, just before the tick. Asking changes nothing.
+std::string kontrola_duvodu() {
+    const std::int32_t ted = ted_s();
+    const auto ma_fazi = [ted](FazeCesty faze) {
+        return [=](const Cesta& c) { return c.zacatek >= 0 && faze_cesty(c, ted) == faze; };
+    };
+    const auto pred = cesty;
+    const auto prvni = std::find_if(cesty.begin(), cesty.end(), ma_fazi(FazeCesty::staveni));
+    const auto i = static_cast<std::size_t>(prvni - cesty.begin());
+    const bool rusi_se = std::any_of(cesty.begin(), cesty.end(), ma_fazi(FazeCesty::zruseni));
+    const Text duvod = duvod_cekani(static_cast<int>(i));
+    if (cesty != pred)
+        return "asking for a reason changed a route";
+    if (prvni == cesty.end() || rusi_se)
+        return {};
+    tik_volby();
+    if (cesty[i].prehozena != duvod.empty())
+        return "route " + std::to_string(i) + (duvod.empty() ? " waits for no reason" : " did not wait: ") +
+               na_utf8(duvod);
+    return {};
+}
+
 // The operator takes everything back and all trains go: nothing may stay locked.
 std::string kontrola_klidu() {
     zrus_volbu();
@@ -286,13 +310,8 @@ std::string zkus(const std::vector<Ukon>& skript, std::size_t* kde = nullptr, So
             return na_utf8(*nalez);
         if (std::string nalez = kontrola_zaveru(); !nalez.empty())
             return nalez;
-        for (std::size_t c = 0; c < cesty.size(); ++c) {
-            // Asking for the reason leaves everything as it is.
-            const auto pred = cesty[c];
-            duvod_cekani(static_cast<int>(c));
-            if (!(cesty[c] == pred))
-                return "asking for a reason changed route " + std::to_string(c);
-        }
+        if (std::string nalez = kontrola_duvodu(); !nalez.empty())
+            return nalez;
     }
     if (kde != nullptr)
         *kde = skript.size() - 1;
