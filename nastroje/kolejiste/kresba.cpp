@@ -173,8 +173,10 @@ void Kreslic::navestidlo(const Navestidlo& n) {
         if (n.strana == Strana::vpravo)
             b.x -= kSloupec;
     }
-    // the reader pads these three with a blank on both sides
-    const int vlevo = n.znak == 227 || n.znak == 229 || n.znak == 230 ? b.x - kSloupec : b.x;
+    // The reader pads some glyphs with blanks, but the first paint of the desk trims them where they stand;
+    // the failed lamp is moved a column to the right by it.
+    constexpr int kZhaslaLampa = 305;
+    const int vlevo = n.cislo == kZhaslaLampa ? b.x - kSloupec : b.x;
     napisy.push_back(
         {static_cast<std::uint8_t>(n.posunove ? TypReliefu::navestidlo_ser : TypReliefu::navestidlo),
          static_cast<std::int16_t>(n.cislo), static_cast<std::uint8_t>(n.znak), n.jmeno, twip(vlevo), 0,
