@@ -121,6 +121,13 @@ private:
             nesrozumitelne(std::string(co) + " má být sloupec,řádek, je tu \"" + s.text + "\"");
         return *x;
     }
+    Strana strana() {
+        if (klic("vpravo"))
+            return Strana::vpravo;
+        if (!klic("vlevo"))
+            nesrozumitelne("chybí strana: vlevo nebo vpravo");
+        return Strana::vlevo;
+    }
     int sirka(const char* co) { // columns
         const int x = cislo(co);
         if (x < 1 || x > 999)
@@ -286,10 +293,7 @@ void Veta::cti_navestidlo(bool posunove) {
     Navestidlo n = novy<Navestidlo>(posunove ? "posunove" : "navestidlo");
     n.posunove = posunove;
     n.jmeno = se_stanici(text("jméno"));
-    if (klic("vpravo"))
-        n.strana = Strana::vpravo;
-    else if (!klic("vlevo"))
-        nesrozumitelne("chybí strana: vlevo nebo vpravo");
+    n.strana = strana();
     const bool vpravo = n.strana == Strana::vpravo;
     n.znak = posunove ? (vpravo ? 240 : 241) : (vpravo ? 229 : 230);
     while (!konec()) {
@@ -297,6 +301,8 @@ void Veta::cti_navestidlo(bool posunove) {
             n.kolej = cislo("kolej");
         else if (klic("u"))
             n.kde = bod("místo");
+        else if (klic("konec"))
+            n.konec = strana();
         else if (klic("znak"))
             n.znak = cislo("znak");
         else
@@ -619,7 +625,7 @@ int Plan::kolej_navestidla(const Navestidlo& n) const {
 
 const Navestidlo* Plan::navestidlo_u(int kolej, Strana strana) const {
     for (const Navestidlo& n : navestidla)
-        if (n.strana == strana && !n.kde && kolej_navestidla(n) == kolej)
+        if (n.u_konce() == strana && kolej_navestidla(n) == kolej)
             return &n;
     return nullptr;
 }

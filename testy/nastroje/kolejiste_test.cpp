@@ -272,6 +272,17 @@ TEST(KresbaKolejiste, FailedLampIsMovedToItsPlaceByTheDesk) {
     EXPECT_EQ(p.zaznam(TypReliefu::navestidlo, 305)->a, (10 + 9 - 2) * 120);
 }
 
+TEST(KresbaKolejiste, SignalOfAFoldedTrackStandsAtTheOtherEnd) {
+    const Preklad p(s_radkem("kolej 118 0,8 9,8 90m\nokraj 118:vlevo 118:vpravo\n"
+                             "navestidlo 998 KS vpravo na 118 konec vlevo"));
+    EXPECT_EQ(p.vsechny(), "");
+    EXPECT_EQ(p.zaznam(TypReliefu::navestidlo, 998)->a, 10 * 120);
+    EXPECT_EQ(p.zaznam(TypReliefu::navestidlo, 998)->parametr, 229);
+    ASSERT_NE(p.plan.navestidlo_u(118, Strana::vlevo), nullptr);
+    EXPECT_EQ(p.plan.navestidlo_u(118, Strana::vlevo)->cislo, 998);
+    EXPECT_EQ(p.plan.navestidlo_u(118, Strana::vpravo), nullptr);
+}
+
 TEST(KresbaKolejiste, SecondLabelCarriesTheNumberPlusTwoHundredAndTheSameName) {
     const Preklad p(kMale);
     ASSERT_NE(p.zaznam(TypReliefu::cislo_koleje, 263), nullptr);
