@@ -49,5 +49,5 @@ void klik_souhlas(int k, Tlacitko tlacitko);
 // Opens the menu of line end k.
 void menu_souhlasu(int k);
 // US, or Enter on the question: the train that asks may come in. Nothing when nobody asks. The question
-// of this line is confirmed when it stands on the command line; Enter has cleared the line before.
+// of this line, when it stands on the command line, is confirmed and makes room for the next message.
 void souhlas_us(int k);

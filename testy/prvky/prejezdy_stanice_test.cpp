@@ -1,6 +1,8 @@
 // testy/prvky/prejezdy_stanice_test.cpp - the operator's commands on the station crossings.
 #include "app/blikani.h"
 #include "app/cas.h"
+#include "cesty/cesta.h"
+#include "cesty/tik_volby.h"
 #include "desk/menu.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/prejezdy_stanice.h"
@@ -89,6 +91,33 @@ TEST_F(PrejezdStanice, EmergencyOpeningClearsEverythingAlsoACounterThatATrainLef
         EXPECT_EQ(relief.lblPrejezd[0].barva(), barvy::seda);
         EXPECT_TRUE(prejezd_v_klidu(0));
     }
+}
+
+TEST_F(PrejezdStanice, EmergencyOpeningEndsTheWaitingOfASignal) {
+    Prvek& navestidlo = relief.navestidlo.zaloz(20);
+    navestidlo.barva = barvy::seda;
+    navestidlo.text = znak(229);
+    navestidlo.popis = Text("TVH S20");
+    for (const int n : {20, 107, 12})
+        relief.kolej.zaloz(n).barva = barvy::azurova;
+    Cesta& c = cesty.front();
+    c.zacatek = 20;
+    c.konec = 12;
+    c.prvky = {20, 107, 12};
+    c.druhy = {1, 1, 1};
+    c.polohy = {2, 0, 2};
+    c.VC = c.prehozena = c.prejezd_zaver = true;
+    c.prejezd = 0;
+    c.cas_stavby = 0;
+    c.Kdy_prehoz = ted_s() - 1;
+    stanicni_prejezdy[0].cas = ted_s() + 40;
+    tik_volby();
+    EXPECT_FALSE(c.Postavena);
+    EXPECT_EQ(relief.navestidlo[20].barva(), barvy::seda);
+    prejezd_not(0);
+    tik_volby();
+    EXPECT_TRUE(cesty.front().Postavena);
+    EXPECT_EQ(relief.navestidlo[20].barva(), barvy::zelena);
 }
 
 TEST_F(PrejezdStanice, IsIdleOnlyWithoutTrainsClosingTimeAndOperatorsClosure) {

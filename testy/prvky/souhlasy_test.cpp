@@ -139,6 +139,21 @@ TEST_F(Souhlas, QuestionOfAnotherLineIsNotAnsweredByIt) {
     EXPECT_FALSE(souhlasy.souhlas[1]);
 }
 
+TEST_F(Souhlas, EnterOnTheQuestionGivesTheConsentOnce) {
+    relief.lblSouhlas[1].popis = Text("4711");
+    klik(Druh::lblSouhlas, 1, Tlacitko::leve, false);
+    zprava(" OK ", "dalsi", barvy::zelena);
+    klavesa(klavesa_podle_jmena("Enter"));
+    EXPECT_EQ(souhlasy.cekajici_vlaky, (std::vector<std::int32_t>{4711}));
+    EXPECT_TRUE(souhlasy.souhlas[1]);
+    EXPECT_TRUE(relief.lblSouhlas[1].popis->empty());
+    EXPECT_EQ(udalosti(), (Udalosti{{103, 1}}));
+    EXPECT_EQ(relief.lblVolba[0].text(), "dalsi"); // the message behind it is not lost
+    klavesa(klavesa_podle_jmena("Enter"));
+    EXPECT_FALSE(prikaz_radek.obsazen);
+    EXPECT_EQ(souhlasy.cekajici_vlaky.size(), 1u);
+}
+
 TEST_F(Souhlas, LampBlinksByMovingItsGlyphUntilTheTrainIsTaken) {
     relief.lblSouhlas[2].popis = Text("4711");
     const Text glyf = znak(176);
