@@ -1,4 +1,4 @@
-// kolejiste/graf.cpp - joins the ends of tracks, switches and derailers.
+// nastroje/kolejiste/graf.cpp - joins the ends of tracks, switches and derailers.
 #include "kolejiste/graf.h"
 
 #include "kolejiste/kresba.h"

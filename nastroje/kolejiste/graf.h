@@ -1,4 +1,4 @@
-// kolejiste/graf.h - the graph of the tracks: which end meets which, and where a switch leads.
+// nastroje/kolejiste/graf.h - the graph of the tracks: which end meets which, and where a switch leads.
 //
 // Two ends are joined when they lie on the same point of their block, and when the source says so by
 // name: between blocks, and where the drawing is folded or shown twice. Every end meets exactly one

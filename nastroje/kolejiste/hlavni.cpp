@@ -1,4 +1,4 @@
-// kolejiste/hlavni.cpp - tesk-kolejiste, the compiler of the junction.
+// nastroje/kolejiste/hlavni.cpp - tesk-kolejiste, the compiler of the junction.
 //
 //   tesk-kolejiste [--data SLOZKA] [--nahled SOUBOR.svg] [--nahled2 SOUBOR.svg] [--soused PRVEK]
 //                  [--cesta OD STRANA DO] [--chybi] ZDROJ...

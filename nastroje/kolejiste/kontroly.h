@@ -1,4 +1,4 @@
-// kolejiste/kontroly.h - what the rules of the running demand of the numbers, checked on the plan.
+// nastroje/kolejiste/kontroly.h - what the rules of the running demand of the numbers, checked on the plan.
 #pragma once
 
 #include "kolejiste/graf.h"

@@ -1,4 +1,4 @@
-// kolejiste/kresba.h - the two pictures: records of the relief files, in twips.
+// nastroje/kolejiste/kresba.h - the two pictures: records of the relief files, in twips.
 #pragma once
 
 #include "kolejiste/plan.h"

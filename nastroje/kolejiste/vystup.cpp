@@ -1,5 +1,7 @@
-// kolejiste/vystup.cpp - writes the binary files of the junction.
+// nastroje/kolejiste/vystup.cpp - writes the binary files of the junction.
 #include "kolejiste/vystup.h"
+
+#include "relief/prejezdy.h"
 
 #include <algorithm>
 
@@ -39,10 +41,9 @@ Bajty soubor_prejezdu(const Plan& plan) {
     std::sort(podle_cisla.begin(), podle_cisla.end(), [](auto a, auto b) { return a->cislo < b->cislo; });
     Zapisovac a;
     for (const PrejezdTrati* p : podle_cisla) {
-        a.b(0);
-        a.text(p->nazev);
-        a.i(static_cast<std::int16_t>(p->kolej));
-        a.i(static_cast<std::int16_t>(p->poloha));
+        const ZaznamPrejezdu z{0, p->nazev, static_cast<std::int16_t>(p->kolej),
+                               static_cast<std::int16_t>(p->poloha)};
+        popis_zaznamu_prejezdu(a, z);
     }
     return a.bajty;
 }

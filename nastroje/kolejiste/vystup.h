@@ -1,4 +1,4 @@
-// kolejiste/vystup.h - the binary files of the junction.
+// nastroje/kolejiste/vystup.h - the binary files of the junction.
 #pragma once
 
 #include "kolejiste/plan.h"

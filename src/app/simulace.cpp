@@ -3,6 +3,7 @@
 
 #include "app/blikani.h"
 #include "cesty/cesta.h"
+#include "cesty/dotazy.h"
 #include "cesty/vyber.h"
 #include "desk/menu.h"
 #include "desk/stitky.h"
@@ -40,6 +41,7 @@ void nova_simulace() {
     vlaky = prvni_vlaky();
     koleje_vlaky = prvni_koleje_vlaky();
     cesty = std::vector<Cesta>(1);
+    odjete.reset();
     vyber = Vyber{};
     souhlasy = Souhlasy{};
     stanicni_prejezdy = {};

@@ -125,24 +125,20 @@ void vyprazdni_stitek(Prvek& stitek) {
     stitek.ramecek = false;
 }
 
-// From the matching label on each takes over what the next one shows.
+// The number goes, and what stands behind it moves up by one place.
 void posun_cisla(const std::vector<int>& stitky, TextPohled text) {
-    bool nalezeno = false;
-    for (std::size_t i = 0; i < stitky.size(); ++i) {
-        Prvek& stitek = relief.cislo_koleje[stitky[i]];
-        const bool shoda = ukazuje(stitky[i], text);
-        if (stitky[i] == kT2 && shoda) {
-            nastav_text(stitek, " T2 ");
+    std::size_t misto = 0; // where the next label that stays belongs
+    for (const int clen : stitky) {
+        if (clen == kT2 && ukazuje(clen, text))
+            nastav_text(relief.cislo_koleje[clen], " T2 ");
+        else if (ukazuje(clen, text))
             continue;
-        }
-        nalezeno = nalezeno || shoda;
-        if (!nalezeno)
-            continue;
-        if (i + 1 < stitky.size())
-            prevezmi_stitek(stitek, relief.cislo_koleje[stitky[i + 1]]);
-        else
-            vyprazdni_stitek(stitek);
+        if (stitky[misto] != clen)
+            prevezmi_stitek(relief.cislo_koleje[stitky[misto]], relief.cislo_koleje[clen]);
+        ++misto;
     }
+    for (; misto < stitky.size(); ++misto)
+        vyprazdni_stitek(relief.cislo_koleje[stitky[misto]]);
 }
 
 // The last number has left the line: labels at rest, arrow out, line crossings clear.

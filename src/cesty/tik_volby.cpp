@@ -286,7 +286,7 @@ void uzavri_vykolejku(int n) {
     nastav_text(vykolejka, znak(kZnakVKoleji));
     vykolejka.barva = barvy::bila;
     vykolejka.pozadi = barvy::cerna;
-    vykolejka.ramecek = true;
+    vykolejka.ramecek = false;
 }
 
 void uzavri_prvky(const Cesta& c) {

@@ -75,7 +75,10 @@ int spust_davku(const VolbyDavky& volby, std::istream& skript, std::ostream& vys
     };
     const auto chyba_na_radku = [&](const std::string& proc) {
         vystup.flush();
-        chyby << "řádek " << beh.radek << ": " << proc << std::endl;
+        if (beh.radek == 0) // the options, before any line
+            chyby << "tesk-davka: " << proc << std::endl;
+        else
+            chyby << "řádek " << beh.radek << ": " << proc << std::endl;
     };
 
     int kod = navrat::v_poradku; // of a run that has ended before its script

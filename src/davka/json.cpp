@@ -4,11 +4,24 @@
 #include <algorithm>
 #include <charconv>
 
+Json::Json() = default;
+Json::Json(const Json&) = default;
+Json::Json(Json&&) noexcept = default;
+Json& Json::operator=(const Json&) = default;
+Json& Json::operator=(Json&&) noexcept = default;
+Json::~Json() = default;
+
+Json::Json(bool x) : hodnota(x) {}
+
+Json::Json(std::int64_t x, Cislo) : hodnota(x) {}
+
 Json::Json(SeznamJsonu x) : hodnota(std::move(x)) {}
 
 Json::Json(ZaznamJsonu x) : hodnota(std::move(x)) {}
 
-bool Json::operator==(const Json&) const = default;
+bool Json::operator==(const Json& jiny) const {
+    return hodnota == jiny.hodnota;
+}
 
 namespace {
 

@@ -32,14 +32,24 @@ struct Json {
     std::variant<std::monostate, bool, std::int64_t, std::string, BarvaJsonu, SeznamJsonu, ZaznamJsonu>
         hodnota;
 
-    Json() = default;
-    Json(bool x) : hodnota(x) {}
+    // The members that hold a list or a record need ClenJsonu whole: all of them stand in the source.
+    Json();
+    Json(const Json&);
+    Json(Json&&) noexcept;
+    Json& operator=(const Json&);
+    Json& operator=(Json&&) noexcept;
+    ~Json();
+    Json(bool x);
     template <std::integral T>
-    requires(!std::same_as<T, bool>) Json(T x) : hodnota(static_cast<std::int64_t>(x)) {}
+    requires(!std::same_as<T, bool>) Json(T x) : Json(static_cast<std::int64_t>(x), Cislo{}) {}
     Json(SeznamJsonu x);
     Json(ZaznamJsonu x);
 
     bool operator==(const Json&) const;
+
+private:
+    struct Cislo {};
+    Json(std::int64_t x, Cislo);
 };
 
 struct ClenJsonu {

@@ -40,12 +40,12 @@ void zobraz_dva_stitky(int e, const std::vector<std::int16_t>& seznam) {
     if (text_vlevo == text_vpravo)
         text_vpravo = pravy.popis;
     if (text_vlevo.empty())
-        levy.pozadi = barvy::cerna;
+        nastav_pozadi_stitku(e, barvy::cerna);
     nastav_text(levy, text_vlevo);
     levy.viditelny = !text_vlevo.empty();
     if (e != 19) {
         pravy.barva = relief.kolej[e].barva;
-        pravy.pozadi = barvy::cerna;
+        nastav_pozadi_stitku(e + 200, barvy::cerna);
         nastav_text(pravy, text_vpravo);
     }
     zobraz_cislo(e, e, vlak_vlevo);
@@ -133,10 +133,30 @@ void zobraz_cislo(int stitek, int prvek, int vlak) {
         return;
     }
     Prvek& p = relief.cislo_koleje[stitek];
-    p.pozadi = barvy::cerna;
+    nastav_pozadi_stitku(stitek, barvy::cerna);
     if (!je_stitek_trati(stitek))
         p.barva = relief.kolej[prvek].barva;
     if (const int i = stitek_prvku(prvek); i >= 0)
         if (const auto pozadi = pozadi_stitku(stitky[static_cast<std::size_t>(i)]))
-            p.pozadi = *pozadi;
+            nastav_pozadi_stitku(stitek, *pozadi);
+}
+
+void nastav_pozadi_stitku(int stitek, Barva pozadi) {
+    Prvek& p = relief.cislo_koleje[stitek];
+    p.pozadi = pozadi;
+    p.ramecek = pozadi != barvy::cerna;
+}
+
+void uber_z_opustenych(int vlak) {
+    const Vlak& v = vlaky[static_cast<std::size_t>(vlak)];
+    for (std::size_t i = 0; i < koleje_vlaky.size(); ++i) {
+        const KolejVlaky& kolej = koleje_vlaky[i];
+        if (std::find(kolej.vlaky.begin(), kolej.vlaky.end(), vlak) == kolej.vlaky.end() ||
+            drzi_prvek(v, kolej.prvek))
+            continue;
+        const int prvek = kolej.prvek;
+        uber_z_koleje(prvek, vlak);
+        if (!vlak_na_koleji(prvek))
+            zobraz_kolej(static_cast<int>(i));
+    }
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "jizda/vlak.h"
+#include "relief/prvek.h"
 
 // --- by everything that moves, makes or takes away a train
 
@@ -18,6 +19,11 @@ void uber_z_koleje(int prvek, int vlak);
 void zobraz_kolej(int zaznam);
 // Colours of one label from one train (-1: nothing changes).
 void zobraz_cislo(int stitek, int prvek, int vlak);
+// Background of a label; black is none, and takes the frame off.
+void nastav_pozadi_stitku(int stitek, Barva pozadi);
+// Takes a train out of the lists of all tracks that it does not hold: its tail was pulled up by hand, and
+// its number stayed there until now.
+void uber_z_opustenych(int vlak);
 
 // --- at any time, without change
 

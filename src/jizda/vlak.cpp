@@ -1,6 +1,10 @@
 // jizda/vlak.cpp - the train tables.
 #include "jizda/vlak.h"
 
+#include "cesty/cesta.h"
+
+#include <algorithm>
+
 std::vector<Vlak> vlaky = prvni_vlaky();
 std::vector<KolejVlaky> koleje_vlaky = prvni_koleje_vlaky();
 
@@ -10,4 +14,11 @@ std::vector<Vlak> prvni_vlaky() {
 
 std::vector<KolejVlaky> prvni_koleje_vlaky() {
     return std::vector<KolejVlaky>(1);
+}
+
+bool drzi_prvek(const Vlak& v, int kolej) {
+    for (std::size_t j = static_cast<std::size_t>(std::max<int>(v.prvek_konec, 0)); j < v.prvky.size(); ++j)
+        if (v.prvky[j] == kolej && j < v.prvky_druh.size() && v.prvky_druh[j] == druh_prvku::kolej)
+            return true;
+    return false;
 }

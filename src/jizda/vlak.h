@@ -82,6 +82,9 @@ std::vector<KolejVlaky> prvni_koleje_vlaky();
 
 // --- at any time, without change
 
+// The train holds the track: one of its entries from the tail to the head.
+bool drzi_prvek(const Vlak& v, int kolej);
+
 // The number that the operator sees: cislo2 when it is in force, else cislo.
 inline std::int32_t zobrazene_cislo(const Vlak& v) {
     return v.cislo2_platne ? v.cislo2 : v.cislo;

@@ -42,3 +42,5 @@ void odjezd_povel(int v);
 
 // The running minute: played minutes from the start minute on.
 std::int16_t cas_min();
+// Station of a stopping place, as its code; 0 when the element is none.
+int stanice_prvku(int prvek);

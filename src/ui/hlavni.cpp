@@ -12,6 +12,7 @@
 #include "zaklad/platforma.h"
 
 #include <QApplication>
+#include <QPalette>
 #include <QScreen>
 #include <QTimer>
 
@@ -50,10 +51,13 @@ void ukaz_hlavni_obrazovku() {
     hlavni_okno = std::make_unique<HlavniOkno>();
     const QScreen* obrazovka = QGuiApplication::primaryScreen();
     // The desk takes the screen unless the operator keeps his own display: then it comes in a window.
-    if (simulace.noresize && obrazovka != nullptr && obrazovka->size().height() > kVyskaStolu / kTwipu)
+    if (simulace.noresize && obrazovka != nullptr && obrazovka->size().height() > kVyskaStolu / kTwipu) {
         hlavni_okno->show();
-    else
+    } else {
+        if (obrazovka != nullptr) // a screen without a window manager grants no size by itself
+            hlavni_okno->setGeometry(obrazovka->geometry());
         hlavni_okno->showFullScreen();
+    }
     hlavni_okno->setFocus();
     v_jadre(start_simulace);
     uvod.reset();
@@ -61,6 +65,22 @@ void ukaz_hlavni_obrazovku() {
         hlavni_okno->activateWindow();
         hlavni_okno->obnov();
     }
+}
+
+// Boxes and dialogues as dark as the desk.
+void nastav_vzhled() {
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    const QColor plocha(18, 22, 27), pole(5, 7, 10), tlacitko(42, 50, 59), text(213, 219, 225),
+        vyber(32, 80, 192);
+    QPalette paleta(text, tlacitko, QColor(74, 85, 96), QColor(5, 7, 10), QColor(60, 69, 80), text, Qt::white,
+                    pole, plocha);
+    paleta.setColor(QPalette::Highlight, vyber);
+    paleta.setColor(QPalette::HighlightedText, Qt::white);
+    paleta.setColor(QPalette::ToolTipBase, QColor(255, 255, 220));
+    paleta.setColor(QPalette::ToolTipText, Qt::black);
+    paleta.setColor(QPalette::Disabled, QPalette::WindowText, QColor(107, 119, 130));
+    paleta.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(107, 119, 130));
+    QApplication::setPalette(paleta);
 }
 
 void priprav(const VolbyStartu& volby) {
@@ -90,6 +110,7 @@ int main(int pocet, char** slova) {
     QApplication aplikace(pocet, slova);
     QApplication::setApplicationName(QStringLiteral("KPS RVZ TESK"));
     QApplication::setQuitOnLastWindowClosed(false);
+    nastav_vzhled();
     nova_simulace();
     zapln_platformu();
     nastav_cestu_aplikace();

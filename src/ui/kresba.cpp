@@ -19,6 +19,7 @@ constexpr double kMezeraUseku = 1;    // by which a level track stops short of i
 constexpr double kOdsazeniNohy = 0.6; // part of a leg that the switch leaves out on the side not set
 constexpr double kOdsazeniPohybu = 0.4;
 constexpr int kNejmensiCil = 10 * kTwipu; // no target for the pointer is smaller
+constexpr int kPresahRadku = 2;           // of the command line above and below its text, pixels of the desk
 constexpr int kPresahCisla = 2;           // what a label clears beside its text, pixels of the desk
 
 constexpr QRgb kSvetla[] = {0xFFFFD21E, 0xFF19E64B, 0xFFFF2D1E, 0xFFFFFFFF, 0xFFFFD21E, 0xFF4678FF};
@@ -26,6 +27,7 @@ constexpr QRgb kPruhy[] = {0xFFFFD21E, 0xFF19E64B};
 constexpr QRgb kTmavaPlocha = 0xFF15191E;
 constexpr QRgb kLinka = 0xFF3C4550;
 constexpr QRgb kIkona = 0xFFC8D2DC;
+constexpr QRgb kIkonaStanoviste = 0xFF808C98;
 
 // How the elements of a kind are drawn.
 enum class Zpusob : std::uint8_t {
@@ -269,6 +271,8 @@ void nakresli_napis(QPainter& p, const Meritko& m, const Styl& s, const Prvek& p
         if (prvek.sirka <= 0)
             plocha = QRect(QPointF(x, y).toPoint(),
                            QSizeF(sirka * static_cast<double>(text.size()), vyska).toSize());
+        if (s.druh == Druh::lblPrikaz || s.druh == Druh::lblVolba) // the band is higher than its text
+            plocha.adjust(0, -m.bodu(kPresahRadku), 0, m.bodu(kPresahRadku));
         p.fillRect(plocha, barva_qt(prvek.pozadi));
     } else if (s.kryje) {
         const std::size_t prvni = text.find_first_not_of(' ');
@@ -319,18 +323,14 @@ void nakresli_odstavec(QPainter& p, const Meritko& m, const Prvek& prvek, bool z
     }
 }
 
-// A platform edge: its glyph repeated over the whole width.
+// A platform edge: the bar of its glyph, in one piece over the whole width.
 void nakresli_nastupiste(QPainter& p, const Meritko& m, const Prvek& prvek) {
+    constexpr int kOdshora = 4, kTloustkaHrany = 5; // of the bar in the cell, pixels of the desk
     if (prvek.text->empty())
         return;
     const QRect plocha = v_bodech(m, prvek);
-    const double sirka = kSirkaBunky * m.bod(), vyska = kVyskaBunky * m.bod();
-    const auto kolik = static_cast<std::size_t>(std::ceil(plocha.width() / sirka));
-    p.save();
-    p.setClipRect(plocha, Qt::IntersectClip);
-    kresli_radek(p, plocha.x(), plocha.y(), sirka, vyska, Text(kolik, prvek.text->front()), prvek.barva,
-                 Znaky::znacky);
-    p.restore();
+    p.fillRect(plocha.x(), m.y(prvek.nahore + kOdshora * kTwipu), plocha.width(), m.bodu(kTloustkaHrany),
+               barva_qt(prvek.barva));
 }
 
 // --- pictures
@@ -462,7 +462,7 @@ void nakresli_svetlo(QPainter& p, const Meritko& m, int n, const Prvek& prvek) {
 }
 
 void nakresli_stanoviste(QPainter& p, const Meritko& m, const Prvek& prvek) {
-    Ikona i(p, v_bodech(m, prvek), kIkona);
+    Ikona i(p, v_bodech(m, prvek), kIkonaStanoviste);
     i.obdelnik(1.5, 1.5, 13, 13);
     i.cara({{4.5, 12}, {4.5, 8}, {11.5, 8}, {11.5, 12}});
     i.kruh(8, 5, 1.8);
@@ -526,9 +526,15 @@ void nakresli_panel(QPainter& p, const Meritko& m) {
     for (int n = 0; n < static_cast<int>(popis.svetla.size()); ++n)
         if (popis.svetla[static_cast<std::size_t>(n)] && relief.svetlo.je(n))
             telo |= v_bodech(m, relief.svetlo[n]);
+    for (int n = 0; n < static_cast<int>(popis.pruhy.size()); ++n)
+        if (popis.pruhy[static_cast<std::size_t>(n)] && relief.pruh.je(n))
+            telo |= v_bodech(m, relief.pruh[n]);
     if (telo.isEmpty())
         return;
-    const int okraj = m.bodu(3);
+    const int okraj = m.bodu(3), stozar = m.bodu(4);
+    const int pata = m.y(kMistoPanelu.bottom());
+    p.fillRect(telo.center().x() - stozar / 2, telo.bottom(), stozar, std::max(0, pata - telo.bottom()),
+               odstin(0xFF8A939C));
     p.setRenderHint(QPainter::Antialiasing);
     p.setPen(QPen(odstin(0xFF8A939C), std::max(1.0, m.bod())));
     p.setBrush(odstin(0xFF0B0D10));
@@ -550,6 +556,11 @@ void nakresli_panel(QPainter& p, const Meritko& m) {
 
 bool bere_vstup(Druh druh) {
     return styl(druh).vstup;
+}
+
+bool je_v_panelu(Druh druh) {
+    return druh == Druh::svetlo || druh == Druh::pruh || druh == Druh::lblnavestidlo ||
+           druh == Druh::lblNavestidlo_stanice;
 }
 
 int vrstva(Druh druh) {

@@ -22,7 +22,8 @@ struct Pismo {
     QString rodina;
     bool nactene = false;
 };
-Pismo pismo;
+// Never destroyed: fonts and pictures must not be given back after the application object has gone.
+Pismo& pismo = *new Pismo;
 
 struct Klic {
     char32_t znak = 0;
@@ -33,7 +34,7 @@ struct Klic {
 size_t qHash(const Klic& k, size_t seminko = 0) noexcept {
     return qHashMulti(seminko, static_cast<quint32>(k.znak), k.barva, k.velikost);
 }
-QHash<Klic, QImage> obrazky;
+QHash<Klic, QImage>& obrazky = *new QHash<Klic, QImage>;
 
 void zajisti_nahradu() {
     if (!pismo.rodina.isEmpty())

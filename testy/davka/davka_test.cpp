@@ -1,13 +1,12 @@
 // testy/davka/davka_test.cpp - scripts of the headless runner on the little junction.
 #include "app/simulace.h"
 #include "davka/davka.h"
-#include "davka/planovac.h"
-#include "davka/virtualni_svet.h"
-#include "desk/menu.h"
 #include "pomocne/male_kolejiste.h"
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <iostream>
 #include <iterator>
 #include <sstream>
 #include <streambuf>
@@ -465,4 +464,53 @@ TEST_F(Davka, PipeIsAnsweredLineByLine) {
     EXPECT_EQ(stav[0], 0);
     EXPECT_GT(stav[1], 0) << "the first answer is out before the second line is read";
     EXPECT_GT(stav[2], stav[1]);
+}
+
+// --- the program
+
+namespace {
+
+struct VysledekProgramu {
+    int kod;
+    std::string vystup, chyby;
+};
+
+VysledekProgramu program(const std::vector<std::string>& argumenty, const std::string& slozka) {
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    const int kod = hlavni_davky(argumenty, slozka);
+    std::cout.flush();
+    return {kod, testing::internal::GetCapturedStdout(), testing::internal::GetCapturedStderr()};
+}
+
+} // namespace
+
+TEST_F(Davka, ProgramRunsAFileInItsOwnFolderOrAnotherOne) {
+    const std::string misto = slozka.cesta.substr(0, slozka.cesta.size() - 1);
+    zapis_soubor(slozka.cesta + "a.tesk", bajty_textu("spust cas=12:00\nvypis menu\n"));
+    const std::string ceka = "{\"vypis\": \"menu\", \"menu\": null, \"hlava\": \"\", \"polozky\": []}\n";
+    EXPECT_EQ(program({misto + "/a.tesk"}, misto).vystup, ceka);
+    EXPECT_EQ(program({"--kontrola", "--semeno", "5", misto + "/a.tesk", "--slozka=" + misto}, "/").vystup,
+              ceka);
+    const VysledekProgramu v = program({"--vystup", misto + "/b.json", misto + "/a.tesk"}, misto);
+    EXPECT_EQ(v.kod, 0);
+    EXPECT_EQ(v.vystup, "");
+    EXPECT_EQ(nacti_soubor(slozka.cesta + "b.json"), bajty_textu(ceka));
+}
+
+TEST_F(Davka, ProgramRefusesWhatItDoesNotKnow) {
+    const std::string misto = slozka.cesta.substr(0, slozka.cesta.size() - 1);
+    EXPECT_TRUE(obsahuje(program({"--neznama", "x", "a"}, misto).chyby, "neznámá volba „--neznama“"));
+    EXPECT_TRUE(obsahuje(program({"a", "b"}, misto).chyby, "přebývá „b“"));
+    EXPECT_TRUE(obsahuje(program({"--semeno", "x", "a"}, misto).chyby, "semeno je celé číslo"));
+    EXPECT_TRUE(obsahuje(program({"--slozka"}, misto).chyby, "chybí hodnota"));
+    EXPECT_TRUE(obsahuje(program({misto + "/neni.tesk"}, misto).chyby, "nelze otevřít"));
+    EXPECT_TRUE(obsahuje(program({misto}, misto).chyby, "nelze otevřít")) << "a folder is no script";
+    EXPECT_TRUE(obsahuje(program({}, misto).chyby, "tesk-davka [--slozka"));
+    EXPECT_EQ(program({}, misto).kod, navrat::chyba_skriptu);
+    EXPECT_EQ(program({"--pomoc"}, misto).kod, navrat::v_poradku);
+    zapis_soubor(slozka.cesta + "a.tesk", bajty_textu("vypis menu\n"));
+    const VysledekProgramu v = program({"--slozka", misto + "/neni", misto + "/a.tesk"}, misto);
+    EXPECT_EQ(v.kod, navrat::chyba_skriptu);
+    EXPECT_TRUE(v.chyby.starts_with("tesk-davka: složka")) << v.chyby;
 }

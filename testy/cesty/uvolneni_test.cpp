@@ -1,0 +1,378 @@
+// testy/cesty/uvolneni_test.cpp - RC, DN, STUJ, RNZ and the cancellation.
+#include "cesty/barvi_prvek.h"
+#include "cesty/cisla_vlaku.h"
+#include "cesty/stavedlo.h"
+#include "cesty/uvolneni.h"
+#include "jizda/vlak.h"
+#include "prvky/navestidla.h"
+#include "prvky/stanicni_prejezdy.h"
+
+using Uvolneni = Stavedlo;
+
+TEST_F(Uvolneni, CancelledRouteIsAllAtRest) {
+    postav(240, 42);
+    zrus_cestu(240);
+    EXPECT_EQ(cesty[0].cas_ruseni, ted_s() + 5) << "nobody stands before the signal";
+    EXPECT_EQ(navestni(240), barvy::seda);
+    EXPECT_EQ(zapsano({34, 240, 0}), 1u);
+    cekej(4);
+    EXPECT_TRUE(relief.lblMereni_casu[0].viditelny);
+    EXPECT_EQ(cesty[0].zacatek, 240);
+    cekej(1);
+    EXPECT_EQ(cesty[0].zacatek, -3);
+    EXPECT_EQ(stav(5), 3);
+    EXPECT_EQ(barva(42), barvy::seda);
+    EXPECT_EQ(relief.cislo_koleje[42].text(), "K42");
+    EXPECT_EQ(relief.cislo_koleje[42].barva, barvy::seda);
+    EXPECT_FALSE(relief.lblMereni_casu[0].viditelny);
+    EXPECT_EQ(zapsano({54, 240, 0}), 1u);
+}
+
+TEST_F(Uvolneni, CancellationMayComeFiveSecondsBeforeTheSwitches) {
+    zarad(240, 41);
+    cekej(2);
+    cesty[0].Kdy_prehoz = ted_s() + 6;
+    zrus_cestu(240);
+    EXPECT_EQ(cesty[0].cas_ruseni, -3);
+    cesty[0].Kdy_prehoz = ted_s() + 5;
+    zrus_cestu(240);
+    EXPECT_EQ(cesty[0].cas_ruseni, ted_s()) << "no signal was ever cleared";
+    cekej(1);
+    EXPECT_EQ(cesty[0].zacatek, -3);
+    EXPECT_EQ(stav(5), 2);
+}
+
+TEST_F(Uvolneni, TrainBeforeTheSignalLengthensTheCancellation) {
+    relief.kolej[40].barva = barvy::cervena;
+    postav(240, 41);
+    zrus_cestu(240);
+    EXPECT_EQ(cesty[0].cas_ruseni, ted_s() + 180);
+    cesty.assign(1, Cesta{});
+    relief.imgVyhybka[5].stav = TextPohled("2");
+    relief.kolej[41].barva = barvy::seda;
+    postav(240, 41, druh_volby::posun);
+    zrus_cestu(240);
+    EXPECT_EQ(cesty[0].cas_ruseni, ted_s() + 60);
+}
+
+TEST_F(Uvolneni, DNGivesTheSignalBackWhileTheCancellationRuns) {
+    relief.kolej[40].barva = barvy::cervena;
+    postav(240, 41);
+    zrus_cestu(240);
+    cekej(10);
+    EXPECT_TRUE(dn_mozne(240));
+    obnov_cestu(240);
+    EXPECT_EQ(cesty[0].cas_ruseni, -3);
+    EXPECT_TRUE(cesty[0].Postavena);
+    EXPECT_EQ(navestni(240), barvy::zelena);
+    EXPECT_FALSE(relief.lblMereni_casu[0].viditelny);
+    EXPECT_EQ(zapsano({54, 240, 0}), 1u);
+    cekej(300);
+    EXPECT_EQ(cesty[0].zacatek, 240);
+}
+
+TEST_F(Uvolneni, SecondCancellationStartsTheTimeAnew) {
+    relief.kolej[40].barva = barvy::cervena;
+    postav(240, 41);
+    zrus_cestu(240);
+    cekej(100);
+    zrus_cestu(240);
+    EXPECT_EQ(cesty[0].cas_ruseni, ted_s() + 180);
+}
+
+TEST_F(Uvolneni, RouteWithASwitchOutOfPlaceIsPassedOver) {
+    postav(240, 41);
+    const Cesta nizsi = cesty[0];
+    cesty.push_back(nizsi);
+    cesty[1].polohy[1] = 3; // its switch was brought elsewhere by NOUZ
+    zrus_cestu(240);
+    EXPECT_EQ(cesty[1].cas_ruseni, -3);
+    EXPECT_EQ(cesty[0].cas_ruseni, ted_s() + 5);
+}
+
+TEST_F(Uvolneni, OccupiedMiddleSectionRefusesTheCancellation) {
+    postav(240, 43);
+    relief.kolej[107].barva = barvy::cervena;
+    zrus_cestu(240);
+    EXPECT_EQ(cesty[0].cas_ruseni, -3);
+}
+
+TEST_F(Uvolneni, ShuntRouteOntoWagonsCanBeCancelled) {
+    relief.kolej[41].barva = barvy::cervena;
+    postav(240, 41, druh_volby::posun);
+    zrus_cestu(240);
+    EXPECT_EQ(cesty[0].cas_ruseni, ted_s() + 5);
+    cekej(5);
+    EXPECT_EQ(cesty[0].zacatek, -3);
+    EXPECT_EQ(barva(41), barvy::cervena) << "a red track is never painted grey";
+}
+
+TEST_F(Uvolneni, RouteOverTheSingleTrackCanBeCancelled) {
+    postav(43, 46);
+    zrus_cestu(43);
+    EXPECT_EQ(cesty[0].cas_ruseni, ted_s() + 5);
+    cekej(5);
+    EXPECT_EQ(barva(46), barvy::seda);
+    EXPECT_EQ(relief.lblSouhlas2[118].barva, barvy::seda);
+}
+
+TEST_F(Uvolneni, RouteWithAnUnnamedEndCanBeCancelled) {
+    stitek(42, "  ");
+    postav(240, 42);
+    ASSERT_EQ(barva(42), barvy::seda);
+    zrus_cestu(240);
+    EXPECT_EQ(cesty[0].cas_ruseni, ted_s() + 5);
+}
+
+TEST_F(Uvolneni, RedEndOfATrainRouteStaysRed) {
+    postav(240, 41);
+    zrus_cestu(240);
+    relief.kolej[41].barva = barvy::cervena;
+    cekej(6);
+    EXPECT_EQ(cesty[0].zacatek, -3);
+    EXPECT_EQ(barva(41), barvy::cervena);
+}
+
+TEST_F(Uvolneni, EnteredAndForeignRoutesAreNotCancelled) {
+    postav(240, 41);
+    cesty[0].Umazat = 1;
+    zrus_cestu(240);
+    EXPECT_EQ(cesty[0].cas_ruseni, -3);
+    cesty[0].Umazat = 0;
+    cesty[0].prvky[0] = 212;
+    zrus_cestu(240);
+    EXPECT_EQ(cesty[0].cas_ruseni, -3);
+    cesty[0].prvky[0] = 40;
+    relief.navestidlo[240].barva = barvy::cervena;
+    zrus_cestu(240);
+    EXPECT_EQ(cesty[0].cas_ruseni, -3) << "the signal is blocked";
+}
+
+TEST_F(Uvolneni, CancellationSwitchesTheAutomaticModeOff) {
+    postav(240, 41);
+    prepni_ab(240);
+    ASSERT_EQ(glyf_navestidla(240), 8);
+    zrus_cestu(240);
+    EXPECT_EQ(glyf_navestidla(240), 229);
+}
+
+TEST_F(Uvolneni, CancelledRouteFreesItsLine) {
+    postav(241, 604);
+    zrus_cestu(241);
+    EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::azurova) << "the route is still locked";
+    cekej(5);
+    EXPECT_EQ(cesty[0].zacatek, -3);
+    EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::seda);
+}
+
+TEST_F(Uvolneni, DirectionStaysForTheTrainOnTheLine) {
+    postav(241, 604);
+    zrus_cestu(241);
+    relief.kolej[654].barva = barvy::cervena;
+    cekej(6);
+    EXPECT_EQ(cesty[0].zacatek, -3);
+    EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::azurova);
+}
+
+TEST_F(Uvolneni, CancelledRouteOutPutsTheLampOut) {
+    postav(40, 84);
+    ASSERT_EQ(relief.lblSouhlas[0].barva, barvy::modra);
+    zrus_cestu(40);
+    cekej(6);
+    EXPECT_EQ(cesty[0].zacatek, -3);
+    EXPECT_EQ(relief.lblSouhlas[0].barva, barvy::seda);
+}
+
+TEST_F(Uvolneni, CancelledRouteCallsTheCrossingOff) {
+    relief.kolej[40].barva = barvy::cervena;
+    zarad(240, 43);
+    cekej(4);
+    ASSERT_GT(stanicni_prejezdy[0].cas, 0);
+    zrus_cestu(240);
+    cekej(1);
+    EXPECT_EQ(cesty[0].zacatek, -3);
+    EXPECT_EQ(stanicni_prejezdy[0].cas, -3);
+}
+
+TEST_F(Uvolneni, CrossingClosedByTheOperatorIsNotCalledOff) {
+    relief.kolej[40].barva = barvy::cervena;
+    zarad(240, 43);
+    cekej(4);
+    stanicni_prejezdy[0].UZ = true;
+    const auto cas = stanicni_prejezdy[0].cas;
+    zrus_cestu(240);
+    cekej(1);
+    EXPECT_EQ(stanicni_prejezdy[0].cas, cas);
+}
+
+TEST_F(Uvolneni, RoutesBehindACancelledOneAreWalkedInTheSameTick) {
+    postav(240, 41);
+    zrus_cestu(240);
+    zarad(240, 42);
+    cekej(5);
+    EXPECT_EQ(cesty[0].konec, 42);
+    EXPECT_TRUE(cesty[0].prehozena);
+}
+
+// --- STUJ and DN
+
+TEST_F(Uvolneni, StujPutsTheSignalToStopAndKeepsTheRoute) {
+    postav(241, 604);
+    navestidlo_stuj(241);
+    EXPECT_EQ(navestni(241), barvy::seda);
+    EXPECT_FALSE(cesty[0].Postavena);
+    EXPECT_TRUE(cesty[0].Provedena);
+    EXPECT_EQ(stav(6), 55);
+    EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::azurova);
+    cekej(20);
+    EXPECT_EQ(navestni(241), barvy::seda) << "the machine does not clear it again";
+    obnov_cestu(241);
+    EXPECT_EQ(navestni(241), barvy::zelena);
+    EXPECT_TRUE(cesty[0].Postavena);
+}
+
+TEST_F(Uvolneni, StujSwitchesTheAutomaticModeOffAndDropsItsCopy) {
+    postav(240, 41);
+    prepni_ab(240);
+    Cesta kopie = cesty[0];
+    kopie.Vlak = kKopieAB;
+    kopie.Postavena = kopie.Provedena = kopie.prehozena = false;
+    cesty.insert(cesty.begin(), kopie);
+    navestidlo_stuj(240);
+    ASSERT_EQ(cesty.size(), 1u);
+    EXPECT_FALSE(cesty[0].Postavena);
+    EXPECT_TRUE(cesty[0].Provedena);
+}
+
+TEST_F(Uvolneni, DNWaitsForTheFirstSectionAndTheBlocking) {
+    postav(240, 43);
+    navestidlo_stuj(240);
+    relief.kolej[107].barva = barvy::cervena;
+    obnov_cestu(240);
+    EXPECT_EQ(navestni(240), barvy::seda);
+    relief.kolej[107].barva = barvy::zelena;
+    relief.navestidlo[240].barva = barvy::cervena;
+    obnov_cestu(240);
+    EXPECT_EQ(navestni(240), barvy::cervena);
+    relief.navestidlo[240].barva = barvy::seda;
+    obnov_cestu(240);
+    EXPECT_EQ(navestni(240), barvy::zelena);
+}
+
+TEST_F(Uvolneni, ShuntSignalGetsItsWhiteBack) {
+    postav(545, 44, druh_volby::posun);
+    navestidlo_stuj(545);
+    EXPECT_EQ(navestni(545), barvy::seda);
+    obnov_cestu(545);
+    EXPECT_EQ(navestni(545), barvy::bila);
+}
+
+// --- calling-on routes
+
+TEST_F(Uvolneni, StujEndsACallingOnAspect) {
+    postav(240, 41, druh_volby::pn);
+    navestidlo_stuj(240);
+    EXPECT_EQ(cesty[0].PN_do, ted_s());
+    EXPECT_TRUE(cesty[0].Postavena);
+    cekej(1);
+    EXPECT_EQ(cesty[0].PN_do, -3);
+    EXPECT_EQ(relief.lblPN[1].text(), "");
+}
+
+TEST_F(Uvolneni, RNZReleasesACallingOnRouteAfterItsAspect) {
+    postav(240, 41, druh_volby::pn);
+    rnz(240);
+    ASSERT_EQ(cesty[0].zacatek, 240) << "the aspect still runs";
+    cekej(31);
+    rnz(240);
+    EXPECT_EQ(cesty[0].zacatek, -3);
+    EXPECT_EQ(stav(5), 2);
+    EXPECT_EQ(zapsano({104, 240, 0}), 1u);
+}
+
+TEST_F(Uvolneni, RNZUnderATrainLeavesTheRecordToItsEnd) {
+    postav(240, 41, druh_volby::pn);
+    cekej(31);
+    cesty[0].Umazat = 1;
+    cesty[0].Vlak = 0;
+    vlaky[0].prvky = {40, 5};
+    vlaky[0].prvek_konec = 0;
+    rnz(240);
+    ASSERT_EQ(cesty[0].zacatek, 240);
+    EXPECT_TRUE(cesty[0].PN_zaver);
+    vlaky[0].prvky = {40, 5, 41};
+    vlaky[0].prvek_konec = 2;
+    rnz(240);
+    EXPECT_EQ(cesty[0].zacatek, -3);
+}
+
+TEST_F(Uvolneni, RNZFreesTheLineOfACallingOnRoute) {
+    postav(241, 604, druh_volby::pn);
+    EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::azurova);
+    cekej(31);
+    rnz(241);
+    EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::seda);
+}
+
+// --- the whole life of a route under a train
+
+// A train of one section runs over the route, as the running does it: head, then tail.
+namespace {
+
+void prejed(std::size_t i, int vlak) {
+    const std::int16_t zacatek = cesty[i].zacatek;
+    cesty[i].Vlak = static_cast<std::int16_t>(vlak);
+    for (std::size_t k = 1; k < cesty[i].prvky.size(); ++k) {
+        const int n = cesty[i].prvky[k];
+        if (druh_na(cesty[i], k) == druh_prvku::vyhybka)
+            vyhybka_stav(n, poloha_na(cesty[i], k) + 150, false, false);
+        else
+            barvi_prvek(n, barvy::cervena);
+        cesty[i].Umazat = static_cast<std::uint8_t>(k);
+        navestidla(zacatek)[zacatek].barva = barvy::seda;
+        const int ocas = cesty[i].prvky[k - 1];
+        if (druh_na(cesty[i], k - 1) == druh_prvku::vyhybka) {
+            vyhybka_stav(ocas, poloha_na(cesty[i], k - 1), false, false);
+        } else if (je_cislo_koleje(ocas) && ocas < 600) {
+            barvi_prvek(ocas, barvy::azurova, true);
+            pis_cislo(ocas, "", true);
+        } else {
+            barvi_prvek(ocas, barvy::seda);
+        }
+    }
+}
+
+} // namespace
+
+TEST_F(Uvolneni, SectionsFallAwayBehindATrain) {
+    relief.kolej[40].barva = barvy::cervena;
+    pis_cislo(40, "1234");
+    postav(240, 41);
+    EXPECT_EQ(relief.cislo_koleje[41].text(), "1234") << "the number goes before the train";
+    prejed(0, 0);
+    EXPECT_EQ(barva(40), barvy::azurova);
+    EXPECT_TRUE(je_volna(40));
+    EXPECT_EQ(relief.cislo_koleje[40].text(), "K40");
+    EXPECT_EQ(stav(5), 2);
+    EXPECT_EQ(barva(41), barvy::cervena);
+    // The section is free for the next route while the train still has its own.
+    tik_volby();
+    EXPECT_EQ(barva(40), barvy::azurova);
+    zarad(41, 40, druh_volby::posun);
+    cekej(2);
+    EXPECT_TRUE(cesty[1].prehozena);
+    smaz_cestu(0);
+    tik_volby();
+    EXPECT_EQ(barva(40), barvy::azurova) << "now it is reserved by the new route";
+    EXPECT_TRUE(odjete.none());
+}
+
+TEST_F(Uvolneni, SectionLeftByATrainIsGreyWhenItsRouteIsGone) {
+    relief.kolej[40].barva = barvy::cervena;
+    postav(240, 41);
+    prejed(0, 0);
+    smaz_cestu(0);
+    tik_volby();
+    EXPECT_EQ(barva(40), barvy::seda);
+    EXPECT_EQ(relief.cislo_koleje[40].barva, barvy::seda);
+}
