@@ -28,6 +28,7 @@ namespace {
 constexpr int kPrekreslovani_ms = 40;
 // Where the lists of the bottom panel stand, pixels of the desk.
 constexpr QRect kMistoSeznamu(4, 640, 1016, 126);
+constexpr int kVyskaListy = 20 * kTwipu; // of the top bar
 constexpr QRgb kNajetiPrvku = 0xFF5A6A7C;
 
 constexpr const char* kVzhledSeznamu =
@@ -91,6 +92,14 @@ Klavesa klavesa_qt(const QKeyEvent& udalost) {
         if (p.qt == udalost.key())
             k.kod = p.kod;
     return k;
+}
+
+// The element is outlined under the pointer. Empty rows of the train table and the command line are not.
+bool zvyraznuje_se(const Nalezeny& kde) {
+    if (!tabulka(kde.druh).je(kde.n) || kde.druh == Druh::lblPrikaz || kde.druh == Druh::lblVolba)
+        return false;
+    const Prvek& p = tabulka(kde.druh)[kde.n];
+    return p.viditelny && (kde.druh != Druh::lblTabulka_vlaku || !orez(p.text()).empty());
 }
 
 // Name that the pointer shows over an element.
@@ -359,6 +368,9 @@ void HlavniOkno::mousePressEvent(QMouseEvent* udalost) {
     najed(misto);
     const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(misto));
     const Tlacitko tlacitko = tlacitko_mysi(udalost->button());
+    if (!kde && udalost->button() == Qt::LeftButton && !isFullScreen() && windowHandle() != nullptr &&
+        na_twipy(misto).y() < kVyskaListy && windowHandle()->startSystemMove())
+        return; // the window is dragged by its bar
     v_jadre([&] {
         if (kde)
             klik(kde->druh, kde->n, tlacitko, udalost->modifiers().testFlag(Qt::ControlModifier));
@@ -370,7 +382,8 @@ void HlavniOkno::mousePressEvent(QMouseEvent* udalost) {
 
 void HlavniOkno::mouseDoubleClickEvent(QMouseEvent* udalost) {
     const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(udalost->position()));
-    if (udalost->button() != Qt::LeftButton || !kde) {
+    // Keys of the bar and of the panel take two quick clicks as two.
+    if (udalost->button() != Qt::LeftButton || !kde || kde->druh > Druh::lblPN) {
         mousePressEvent(udalost);
         return;
     }
@@ -482,7 +495,7 @@ void HlavniOkno::paintEvent(QPaintEvent* udalost) {
                                .intersected(platno.obraz().rect());
         p.drawImage(body.topLeft(), platno.obraz(), body);
     }
-    if (najety && tabulka(najety->druh).je(najety->n) && tabulka(najety->druh)[najety->n].viditelny) {
+    if (najety && zvyraznuje_se(*najety)) {
         const QRect cil = platno.v_bodech(misto_vstupu(najety->druh, tabulka(najety->druh)[najety->n]));
         p.setPen(QColor::fromRgb(kNajetiPrvku));
         p.drawRect(cil.adjusted(0, 0, -1, -1));
