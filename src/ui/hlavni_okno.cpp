@@ -8,6 +8,7 @@
 #include "desk/menu.h"
 #include "ui/brana.h"
 #include "ui/pismo.h"
+#include "zaklad/cisla.h"
 
 #include <QCloseEvent>
 #include <QCursor>
@@ -100,6 +101,13 @@ bool zvyraznuje_se(const Nalezeny& kde) {
         return false;
     const Prvek& p = tabulka(kde.druh)[kde.n];
     return p.viditelny && (kde.druh != Druh::lblTabulka_vlaku || !orez(p.text()).empty());
+}
+
+// Tells one open menu from another: its name and the element it was opened on; empty when none is open.
+Text otisk_nabidky() {
+    if (menu.jmeno.empty())
+        return {};
+    return menu.jmeno + ' ' + text_cisla(static_cast<int>(menu.druh)) + ' ' + text_cisla(menu.prvek);
 }
 
 // Name that the pointer shows over an element.
@@ -299,9 +307,9 @@ void HlavniOkno::obnov_pole() {
 }
 
 void HlavniOkno::obnov_nabidku() {
-    if (menu.jmeno == nabidka_ukazuje)
+    if (otisk_nabidky() == nabidka_ukazuje)
         return;
-    nabidka_ukazuje = menu.jmeno;
+    nabidka_ukazuje = otisk_nabidky();
     if (nabidka != nullptr) {
         nabidka->disconnect(this);
         nabidka->close();
@@ -335,7 +343,7 @@ void HlavniOkno::obnov_nabidku() {
     // The choice is told after the menu has gone; what is closed without one is closed in the core too.
     connect(nabidka, &QMenu::aboutToHide, this, [this] {
         QTimer::singleShot(0, this, [this, ukazovala = nabidka_ukazuje] {
-            if (menu.jmeno == ukazovala && (nabidka == nullptr || !nabidka->isVisible()))
+            if (otisk_nabidky() == ukazovala && (nabidka == nullptr || !nabidka->isVisible()))
                 v_jadre(zavri_menu);
             obnov();
         });
