@@ -65,7 +65,7 @@ Mezera mezera(const Plan& plan, const Kolej& k, Strana strana) {
         stitek = &*zapsany;
     if (strana == Strana::vpravo && k.jediny_vpravo && !k.jediny_vpravo->kde)
         stitek = &*k.jediny_vpravo;
-    if (plan.navestidlo_u(k.cislo, strana))
+    if (const Navestidlo* n = plan.navestidlo_u(k.cislo, strana); n && !n->kde)
         m.navestidlo = stitek ? 2 : 1; // with a blank before the label
     m.stitek = stitek ? stitek->sirka : 0;
     return m;
@@ -169,12 +169,14 @@ void Kreslic::navestidlo(const Navestidlo& n) {
                                       ", která není nakreslena"});
             return;
         }
-        b = konce_koleje(plan, *k, obraz)[n.strana == Strana::vpravo];
-        if (n.strana == Strana::vpravo)
+        b = konce_koleje(plan, *k, obraz)[n.u_konce() == Strana::vpravo];
+        if (n.u_konce() == Strana::vpravo)
             b.x -= kSloupec;
     }
-    // the reader pads these three with a blank on both sides
-    const int vlevo = n.znak == 227 || n.znak == 229 || n.znak == 230 ? b.x - kSloupec : b.x;
+    // The reader pads some glyphs with blanks, but the first paint of the desk trims them where they stand;
+    // the failed lamp is moved a column to the right by it.
+    constexpr int kZhaslaLampa = 305;
+    const int vlevo = n.cislo == kZhaslaLampa ? b.x - kSloupec : b.x;
     napisy.push_back(
         {static_cast<std::uint8_t>(n.posunove ? TypReliefu::navestidlo_ser : TypReliefu::navestidlo),
          static_cast<std::int16_t>(n.cislo), static_cast<std::uint8_t>(n.znak), n.jmeno, twip(vlevo), 0,

@@ -71,11 +71,7 @@ std::string nahled(const std::vector<ZaznamReliefu>& zaznamy, Obraz obraz) {
             break;
         }
         case TypReliefu::cislo_koleje: svg += napis(x, y, na_utf8(z.nazev), "#a0a0a0"); break;
-        case TypReliefu::navestidlo: {
-            const bool odsazeno = z.parametr == 227 || z.parametr == 229 || z.parametr == 230;
-            svg += trojuhelnik(odsazeno ? x + 8 : x, y, z.parametr != 230, "#e04040", 5);
-            break;
-        }
+        case TypReliefu::navestidlo: svg += trojuhelnik(x, y, z.parametr != 230, "#e04040", 5); break;
         case TypReliefu::navestidlo_ser:
             svg += trojuhelnik(x, y, z.parametr == 240 || z.parametr == 242, "#6080ff", 4);
             break;

@@ -94,11 +94,13 @@ struct Kolej : Zapis {
 
 struct Navestidlo : Zapis {
     bool posunove = false;
-    Text jmeno; // whole: three letters, a blank, its own name
-    Strana strana = Strana::vlevo;
-    std::optional<int> kolej; // where it does not follow from the number
+    Text jmeno;                    // whole: three letters, a blank, its own name
+    Strana strana = Strana::vlevo; // that it is valid for, and the end of its track that it stands at
+    std::optional<Strana> konec;   // the end, where the drawing is folded and the sense turns
+    std::optional<int> kolej;      // where it does not follow from the number
     std::optional<Bod> kde;
     int znak = 0;
+    Strana u_konce() const { return konec.value_or(strana); }
 };
 
 struct Vyhybka : Zapis {
@@ -187,7 +189,8 @@ struct Plan {
     // Track of a signal: as the relief counts it, and for the signals at the right ends of the lines
     // the last section of the line.
     int kolej_navestidla(const Navestidlo& navestidlo) const;
-    // The signal at that end of the track; none when nothing stands there.
+    // The signal at that end of the track, who leaves the track there obeys it; none when nothing stands
+    // there.
     const Navestidlo* navestidlo_u(int kolej, Strana strana) const;
     // Highest section of the line that the section belongs to.
     int posledni_oddil(int oddil) const;

@@ -64,7 +64,9 @@ std::optional<Bod> bod_z(std::string_view text) {
     if (carka == std::string_view::npos)
         return std::nullopt;
     const auto sloupec = cele_cislo(text.substr(0, carka)), radek = cele_cislo(text.substr(carka + 1));
-    if (!sloupec || !radek)
+    constexpr int kNejdal = 999; // columns and rows; no picture is larger, and twips stay in their range
+    if (!sloupec || !radek || *sloupec < -kNejdal || *sloupec > kNejdal || *radek < -kNejdal ||
+        *radek > kNejdal)
         return std::nullopt;
     bod.sloupec = *sloupec;
     bod.radek = *radek;
@@ -118,6 +120,19 @@ private:
         if (!x)
             nesrozumitelne(std::string(co) + " má být sloupec,řádek, je tu \"" + s.text + "\"");
         return *x;
+    }
+    Strana strana() {
+        if (klic("vpravo"))
+            return Strana::vpravo;
+        if (!klic("vlevo"))
+            nesrozumitelne("chybí strana: vlevo nebo vpravo");
+        return Strana::vlevo;
+    }
+    int sirka(const char* co) { // columns
+        const int x = cislo(co);
+        if (x < 1 || x > 999)
+            nesrozumitelne(std::string(co) + " je mimo meze");
+        return x;
     }
     Text text(const char* co) { return do_stranky(slovo(co).text); }
     Text do_stranky(const std::string& utf8) {
@@ -237,7 +252,7 @@ void Veta::cti_kolej(bool obraz) {
             bool vpravo = false;
             for (;;) {
                 if (klic("sirka"))
-                    s.sirka = cislo("šířka štítku");
+                    s.sirka = sirka("šířka štítku");
                 else if (klic("vpravo"))
                     vpravo = true;
                 else if (klic("u"))
@@ -278,10 +293,7 @@ void Veta::cti_navestidlo(bool posunove) {
     Navestidlo n = novy<Navestidlo>(posunove ? "posunove" : "navestidlo");
     n.posunove = posunove;
     n.jmeno = se_stanici(text("jméno"));
-    if (klic("vpravo"))
-        n.strana = Strana::vpravo;
-    else if (!klic("vlevo"))
-        nesrozumitelne("chybí strana: vlevo nebo vpravo");
+    n.strana = strana();
     const bool vpravo = n.strana == Strana::vpravo;
     n.znak = posunove ? (vpravo ? 240 : 241) : (vpravo ? 229 : 230);
     while (!konec()) {
@@ -289,6 +301,8 @@ void Veta::cti_navestidlo(bool posunove) {
             n.kolej = cislo("kolej");
         else if (klic("u"))
             n.kde = bod("místo");
+        else if (klic("konec"))
+            n.konec = strana();
         else if (klic("znak"))
             n.znak = cislo("znak");
         else
@@ -391,7 +405,7 @@ void Veta::cti_kresbu(const std::string& slovo_) {
         if (slovo_ == "nastupiste") {
             k.typ = TypReliefu::nastupiste;
             k.kde = bod("místo");
-            k.sirka = cislo("délka ve sloupcích");
+            k.sirka = sirka("délka ve sloupcích");
         } else if (slovo_ == "stanoviste") {
             k.typ = TypReliefu::stanoviste;
             k.kde = bod("místo");
@@ -424,7 +438,7 @@ void Veta::cti_kresbu(const std::string& slovo_) {
             k.typ = TypReliefu::cislo_koleje;
             k.nazev = text("název");
             k.kde = bod("místo");
-            k.sirka = klic("sirka") ? cislo("šířka") : 5;
+            k.sirka = klic("sirka") ? sirka("šířka") : 5;
         } else { // cara
             k.typ = TypReliefu::most;
             k.kde = bod("první konec");
@@ -502,7 +516,7 @@ void Veta::cti() {
         blok().pocatek[co == "dva"] = {b.sloupec, b.radek};
     } else if (co == "vsun") {
         const int za = cislo("sloupec");
-        blok().vsuvky[za] += cislo("počet sloupců");
+        blok().vsuvky[za] = sirka("počet sloupců");
     } else if (co == "kolej" || co == "obraz") {
         cti_kolej(co == "obraz");
     } else if (co == "navestidlo" || co == "posunove") {
@@ -530,6 +544,9 @@ void Veta::cti() {
         p.kolej = cislo("kolej");
         p.poloha = cislo("poloha");
         p.nazev = text("název");
+        if (p.cislo < 0 || p.cislo > kNejvyssiPrvek || p.kolej < 0 || p.kolej > kNejvyssiPrvek ||
+            p.poloha < 0 || p.poloha > 9999)
+            nesrozumitelne("hodnota je mimo meze");
         plan.prejezdy.push_back(std::move(p));
     } else if (co == "nastupiste" || co == "popis" || co == "stanoviste" || co == "souhlas" ||
                co == "sipka" || co == "prejezd_stanice" || co == "prejezd_trati" || co == "stitek" ||
@@ -608,7 +625,7 @@ int Plan::kolej_navestidla(const Navestidlo& n) const {
 
 const Navestidlo* Plan::navestidlo_u(int kolej, Strana strana) const {
     for (const Navestidlo& n : navestidla)
-        if (n.strana == strana && !n.kde && kolej_navestidla(n) == kolej)
+        if (n.u_konce() == strana && kolej_navestidla(n) == kolej)
             return &n;
     return nullptr;
 }

@@ -155,6 +155,19 @@ TEST(ZdrojKolejiste, ElementDrawnTwiceIsAFaultThatNamesTheFirst) {
     EXPECT_TRUE(p.hlasi("zkouska.tk:16: kolej 62: už stojí v zkouska.tk:6")) << p.vsechny();
 }
 
+TEST(ZdrojKolejiste, PlacesAndNumbersBeyondAllMeasureAreFaults) {
+    EXPECT_TRUE(
+        Preklad(s_radkem("kolej 65 0,8 2000000000,8")).hlasi("kolej 65: pravý konec má být sloupec,řádek"));
+    EXPECT_TRUE(
+        Preklad(s_radkem("kolej 65 0,8 99999999999,8")).hlasi("kolej 65: pravý konec má být sloupec,řádek"));
+    EXPECT_TRUE(
+        Preklad(s_radkem("nastupiste 1 0,8 100000")).hlasi("nastupiste 1: délka ve sloupcích je mimo meze"));
+    EXPECT_TRUE(
+        Preklad(s_radkem("kolej 65 0,8 9,8 stitek A sirka 0")).hlasi("kolej 65: šířka štítku je mimo meze"));
+    EXPECT_TRUE(Preklad(s_radkem("prejezd 0 70000 100 \"A\"")).hlasi("prejezd 0: hodnota je mimo meze"));
+    EXPECT_TRUE(Preklad(s_radkem("prejezd -1 62 100 \"A\"")).hlasi("prejezd -1: hodnota je mimo meze"));
+}
+
 // --- the graph
 
 TEST(GrafKolejiste, EndsOnTheSamePointMeet) {
@@ -242,15 +255,32 @@ TEST(KresbaKolejiste, TrackLiesInTheMiddleOfItsRow) {
     EXPECT_EQ(v->nazev, "3");
 }
 
-TEST(KresbaKolejiste, SignalStandsAtTheEndOfItsTrackAndItsBlankBefore) {
+TEST(KresbaKolejiste, SignalStandsInTheLastColumnOfItsTrack) {
     const Preklad p(kMale);
     const ZaznamReliefu* n = p.zaznam(TypReliefu::navestidlo, 262);
     ASSERT_NE(n, nullptr);
-    EXPECT_EQ(n->a, (20 - 1 - 1) * 120); // " > ": the glyph itself in the last column of the track
+    EXPECT_EQ(n->a, (20 - 1) * 120);
     EXPECT_EQ(n->parametr, 229);
     EXPECT_EQ(n->nazev, "BOR S1");
     EXPECT_EQ(p.zaznam(TypReliefu::navestidlo, 63)->parametr, 230);
-    EXPECT_EQ(p.zaznam(TypReliefu::navestidlo, 63)->a, (22 - 1) * 120);
+    EXPECT_EQ(p.zaznam(TypReliefu::navestidlo, 63)->a, 22 * 120);
+}
+
+TEST(KresbaKolejiste, FailedLampIsMovedToItsPlaceByTheDesk) {
+    const Preklad p(s_radkem("kolej 105 0,8 9,8 90m\nokraj 105:vlevo 105:vpravo\nnavestidlo 305 Sk vpravo"));
+    EXPECT_EQ(p.vsechny(), "");
+    EXPECT_EQ(p.zaznam(TypReliefu::navestidlo, 305)->a, (10 + 9 - 2) * 120);
+}
+
+TEST(KresbaKolejiste, SignalOfAFoldedTrackStandsAtTheOtherEnd) {
+    const Preklad p(s_radkem("kolej 118 0,8 9,8 90m\nokraj 118:vlevo 118:vpravo\n"
+                             "navestidlo 998 KS vpravo na 118 konec vlevo"));
+    EXPECT_EQ(p.vsechny(), "");
+    EXPECT_EQ(p.zaznam(TypReliefu::navestidlo, 998)->a, 10 * 120);
+    EXPECT_EQ(p.zaznam(TypReliefu::navestidlo, 998)->parametr, 229);
+    ASSERT_NE(p.plan.navestidlo_u(118, Strana::vlevo), nullptr);
+    EXPECT_EQ(p.plan.navestidlo_u(118, Strana::vlevo)->cislo, 998);
+    EXPECT_EQ(p.plan.navestidlo_u(118, Strana::vpravo), nullptr);
 }
 
 TEST(KresbaKolejiste, SecondLabelCarriesTheNumberPlusTwoHundredAndTheSameName) {
@@ -340,7 +370,7 @@ TEST(SouboryKolejiste, ReliefOfATinyLayoutByteForByte) {
         0, 0,    0, 0,   1, 0, 'x',                                                                 // header
         1, 5,    0, 0,   0, 0, 0x78, 0x00, 0x38, 0x04, 0x13, 0x03, 0x13, 0x03,                      // track
         3, 5,    0, 0,   1, 0, '7',  0x78, 0x00, 0,    0,    0xB2, 0x02, 0,    0,                   // label
-        2, 0xCD, 0, 229, 5, 0, 'A',  'B',  'C',  ' ',  'S',  0x48, 0x03, 0,    0, 0xB2, 0x02, 0, 0, // signal
+        2, 0xCD, 0, 229, 5, 0, 'A',  'B',  'C',  ' ',  'S',  0xC0, 0x03, 0,    0, 0xB2, 0x02, 0, 0, // signal
     };
     EXPECT_EQ(soubor_reliefu(p.jeden, "x"), cekane);
 }
@@ -403,7 +433,7 @@ TEST(KontrolaKolejiste, LineNeedsItsArrowItsLabelAndBothSignals) {
     // the signal at the right end stands on the last section
     const Preklad q(s_radkem("povinne kolej 640 690\nkolej 640 0,8 9,8 90m\nkolej 690 9,8 14,8 90m\n"
                              "okraj 640:vlevo 690:vpravo\nnavestidlo 641 L vpravo"));
-    EXPECT_EQ(q.zaznam(TypReliefu::navestidlo, 641)->a, (10 + 14 - 2) * 120);
+    EXPECT_EQ(q.zaznam(TypReliefu::navestidlo, 641)->a, (10 + 14 - 1) * 120);
 }
 
 TEST(KontrolaKolejiste, CoupledSwitchesKnowEachOther) {
