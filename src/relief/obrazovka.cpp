@@ -120,21 +120,21 @@ constexpr Misto kMista[] = {
     prvek(Druh::imgV1, {0, 0, 16, 16}).skryty(), // the relief tells its place
 
     // --- command line
-    prvek(Druh::lblPrikaz, {0, 23, 0, 16}).pozadi(barvy::cerna).velikost_podle_textu().skryty(),
-    prvek(Druh::lblVolba, {0, 23, 1024, 16}).barva(barvy::cerna).pozadi(barvy::bila).skryty(),
-    prvek(Druh::txtZadav_pole, {0, 23, 400, 16})
+    prvek(Druh::lblPrikaz, {0, 25, 0, 13}).pozadi(barvy::cerna).velikost_podle_textu().skryty(),
+    prvek(Druh::lblVolba, {0, 25, 1024, 13}).barva(barvy::cerna).pozadi(barvy::bila).skryty(),
+    prvek(Druh::txtZadav_pole, {0, 23, 400, 17})
         .barva(barvy::cerna)
         .pozadi(barvy::bila)
         .skryty()
         .nepovoleny(),
-    prvek(Druh::lblMakro_pismeno, {984, 23, 40, 16}).barva(barvy::oranzova).na_stred(),
+    prvek(Druh::lblMakro_pismeno, {984, 25, 40, 13}).barva(barvy::oranzova).na_stred(),
 
     // --- signal panel
     prvek(Druh::lblNavestidlo_stanice, {930, 48, 88, 13}).na_stred(),
     prvek(Druh::lblnavestidlo, {930, 63, 88, 13}).na_stred(),
     // lamps: upper yellow, green, red, white, lower yellow, blue
     prvek(Druh::svetlo, {966, 82, 14, 14}).rada(6, 0, 15).skryty(),
-    prvek(Druh::pruh, {958, 174, 30, 4}).rada(2, 0, 6).skryty(),
+    prvek(Druh::pruh, {958, 161, 30, 4}).rada(2, 0, 6).skryty(),
 
     // --- status strip
     prvek(Druh::lblZasobnik_pocet, {4, 599, 24, 14}, "00"_cz),
@@ -155,17 +155,17 @@ constexpr Misto kMista[] = {
         .barva(barvy::bila)
         .pozadi(kStisknuteTlacitko),
     tlacitko(Druh::cmdVLAK, {250, 617, 80, 19}, "VLAK"_cz),
-    prvek(Druh::lblIinfo_o_vlaku, {340, 617, 680, 19}).skryty(),
+    prvek(Druh::lblIinfo_o_vlaku, {4, 640, 1016, 26}).skryty(),
 
     // Row 0 is where it stays; the start lays the others out under it, in three columns.
     prvek(Druh::lblTabulka_vlaku, {42, 640, 270, 13}).rada(24, 0, 0),
     prvek(Druh::shpblikacka, {8, 643, 11, 8}).barva(kZnackaTabulky).rada(48, 0, 0),
 
     // Vehicles of the train on display: the panel moves them side by side.
-    prvek(Druh::imgObrzaek_vlaku, {4, 662, 80, 40}).rada(40, 80, 0).skryty(),
-    prvek(Druh::imgSberac, {4, 646, 24, 14}).skryty(),
-    prvek(Druh::lblPopis_vozu, {4, 704, 80, 13}).rada(40, 80, 0).na_stred().skryty(),
-    prvek(Druh::lblPokracuje, {980, 676, 40, 14}, ">>>"_cz).skryty(),
+    prvek(Druh::imgObrzaek_vlaku, {4, 686, 80, 40}).rada(40, 80, 0).skryty(),
+    prvek(Druh::imgSberac, {4, 670, 24, 14}).skryty(),
+    prvek(Druh::lblPopis_vozu, {4, 728, 80, 13}).rada(40, 80, 0).na_stred().skryty(),
+    prvek(Druh::lblPokracuje, {980, 700, 40, 14}, ">>>"_cz).skryty(),
 
     // --- in the relief
     // Minute of the announced departure; the start puts each beside its consent lamp.

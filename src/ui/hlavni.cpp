@@ -12,6 +12,7 @@
 #include "zaklad/platforma.h"
 
 #include <QApplication>
+#include <QPalette>
 #include <QScreen>
 #include <QTimer>
 
@@ -66,6 +67,22 @@ void ukaz_hlavni_obrazovku() {
     }
 }
 
+// Boxes and dialogues as dark as the desk.
+void nastav_vzhled() {
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    const QColor plocha(18, 22, 27), pole(5, 7, 10), tlacitko(42, 50, 59), text(213, 219, 225),
+        vyber(32, 80, 192);
+    QPalette paleta(text, tlacitko, QColor(74, 85, 96), QColor(5, 7, 10), QColor(60, 69, 80), text, Qt::white,
+                    pole, plocha);
+    paleta.setColor(QPalette::Highlight, vyber);
+    paleta.setColor(QPalette::HighlightedText, Qt::white);
+    paleta.setColor(QPalette::ToolTipBase, QColor(255, 255, 220));
+    paleta.setColor(QPalette::ToolTipText, Qt::black);
+    paleta.setColor(QPalette::Disabled, QPalette::WindowText, QColor(107, 119, 130));
+    paleta.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(107, 119, 130));
+    QApplication::setPalette(paleta);
+}
+
 void priprav(const VolbyStartu& volby) {
     parametry->hide();
     uvod = std::make_unique<UvodniObrazovka>();
@@ -93,6 +110,7 @@ int main(int pocet, char** slova) {
     QApplication aplikace(pocet, slova);
     QApplication::setApplicationName(QStringLiteral("KPS RVZ TESK"));
     QApplication::setQuitOnLastWindowClosed(false);
+    nastav_vzhled();
     nova_simulace();
     zapln_platformu();
     nastav_cestu_aplikace();

@@ -11,11 +11,15 @@
 
 #include <QCloseEvent>
 #include <QCursor>
+#include <QGuiApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QPainter>
 #include <QScrollBar>
 #include <QToolTip>
+#include <QWidgetAction>
+#include <QWindow>
 
 #include <cmath>
 
@@ -36,9 +40,8 @@ constexpr const char* kVzhledNabidky =
     "QMenu { background: #c8ccd0; color: #000; border: 1px solid #fff; padding: 1px; }"
     "QMenu::item { padding: 2px 14px 2px 14px; min-width: 70px; }"
     "QMenu::item:selected { background: #000080; color: #fff; }"
-    "QMenu::item:disabled { color: #8a9098; background: transparent; }"
-    "QMenu::item#hlava { background: #000080; color: #fff; }"
-    "QMenu::separator { height: 1px; background: #8a9098; margin: 1px 0; }";
+    "QMenu::item:disabled { color: #8a9098; background: transparent; }";
+constexpr const char* kVzhledHlavy = "background: #000080; color: #fff; padding: 2px 14px;";
 
 HlavniOkno* jedine = nullptr;
 
@@ -186,15 +189,16 @@ QRect HlavniOkno::v_okne(const QRect& twipy) const {
 }
 
 Bod HlavniOkno::kurzor_na_stole() const {
-    const QPoint t = na_twipy(mapFromGlobal(QCursor::pos()));
+    const QPoint t = na_twipy(QPointF(mapFromGlobal(QCursor::pos())) + QPointF(0.5, 0.5));
     return {t.x() / kTwipu, t.y() / kTwipu};
 }
 
 void HlavniOkno::nastav_kurzor_na_stole(Bod kam) {
-    // the middle of the pixel, so that reading the place back gives it again at any scale
+    // the middle of the desk's pixel, cut to a pixel of the screen: reading the place back gives it again
     const Meritko& m = platno.meritko();
     const QPointF body(m.x0 + (kam.x + 0.5) * m.bod(), m.y0 + (kam.y + 0.5) * m.bod());
-    const QPoint misto = (body / devicePixelRatioF()).toPoint();
+    const QPointF logicke = body / devicePixelRatioF();
+    const QPoint misto(static_cast<int>(std::floor(logicke.x())), static_cast<int>(std::floor(logicke.y())));
     QCursor::setPos(mapToGlobal(misto));
     najed(misto);
 }
@@ -301,8 +305,13 @@ void HlavniOkno::obnov_nabidku() {
     nabidka->setStyleSheet(QLatin1String(kVzhledNabidky));
     nabidka->setFont(pismo_poli(kVyskaBunky * platno.meritko().bod() / devicePixelRatioF()));
     if (!menu.hlava.empty()) {
-        nabidka->addAction(na_qstring(menu.hlava))->setEnabled(false);
-        nabidka->addSeparator();
+        auto* hlava = new QLabel(na_qstring(menu.hlava));
+        hlava->setFont(nabidka->font());
+        hlava->setStyleSheet(QLatin1String(kVzhledHlavy));
+        auto* akce_hlavy = new QWidgetAction(nabidka);
+        akce_hlavy->setDefaultWidget(hlava);
+        akce_hlavy->setEnabled(false);
+        nabidka->addAction(akce_hlavy);
     }
     for (const PolozkaMenu& polozka : menu.polozky) {
         if (!polozka.viditelna)
@@ -424,6 +433,11 @@ void HlavniOkno::zmenit_viditelnost_okna() {
         }))
         minimalizovane = isMinimized();
     obnov();
+    if (minimalizovane && QGuiApplication::platformName() == QLatin1String("xcb"))
+        QTimer::singleShot(1000, this, [this] { // without a window manager nothing takes the window away
+            if (isMinimized() && windowHandle() != nullptr && windowHandle()->isExposed())
+                setWindowState(windowState() & ~Qt::WindowMinimized);
+        });
 }
 
 void HlavniOkno::changeEvent(QEvent* udalost) {

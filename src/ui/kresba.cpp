@@ -19,6 +19,7 @@ constexpr double kMezeraUseku = 1;    // by which a level track stops short of i
 constexpr double kOdsazeniNohy = 0.6; // part of a leg that the switch leaves out on the side not set
 constexpr double kOdsazeniPohybu = 0.4;
 constexpr int kNejmensiCil = 10 * kTwipu; // no target for the pointer is smaller
+constexpr int kPresahRadku = 2;           // of the command line above and below its text, pixels of the desk
 constexpr int kPresahCisla = 2;           // what a label clears beside its text, pixels of the desk
 
 constexpr QRgb kSvetla[] = {0xFFFFD21E, 0xFF19E64B, 0xFFFF2D1E, 0xFFFFFFFF, 0xFFFFD21E, 0xFF4678FF};
@@ -270,6 +271,8 @@ void nakresli_napis(QPainter& p, const Meritko& m, const Styl& s, const Prvek& p
         if (prvek.sirka <= 0)
             plocha = QRect(QPointF(x, y).toPoint(),
                            QSizeF(sirka * static_cast<double>(text.size()), vyska).toSize());
+        if (s.druh == Druh::lblPrikaz || s.druh == Druh::lblVolba) // the band is higher than its text
+            plocha.adjust(0, -m.bodu(kPresahRadku), 0, m.bodu(kPresahRadku));
         p.fillRect(plocha, barva_qt(prvek.pozadi));
     } else if (s.kryje) {
         const std::size_t prvni = text.find_first_not_of(' ');
@@ -523,9 +526,15 @@ void nakresli_panel(QPainter& p, const Meritko& m) {
     for (int n = 0; n < static_cast<int>(popis.svetla.size()); ++n)
         if (popis.svetla[static_cast<std::size_t>(n)] && relief.svetlo.je(n))
             telo |= v_bodech(m, relief.svetlo[n]);
+    for (int n = 0; n < static_cast<int>(popis.pruhy.size()); ++n)
+        if (popis.pruhy[static_cast<std::size_t>(n)] && relief.pruh.je(n))
+            telo |= v_bodech(m, relief.pruh[n]);
     if (telo.isEmpty())
         return;
-    const int okraj = m.bodu(3);
+    const int okraj = m.bodu(3), stozar = m.bodu(4);
+    const int pata = m.y(kMistoPanelu.bottom());
+    p.fillRect(telo.center().x() - stozar / 2, telo.bottom(), stozar, std::max(0, pata - telo.bottom()),
+               odstin(0xFF8A939C));
     p.setRenderHint(QPainter::Antialiasing);
     p.setPen(QPen(odstin(0xFF8A939C), std::max(1.0, m.bod())));
     p.setBrush(odstin(0xFF0B0D10));
@@ -547,6 +556,11 @@ void nakresli_panel(QPainter& p, const Meritko& m) {
 
 bool bere_vstup(Druh druh) {
     return styl(druh).vstup;
+}
+
+bool je_v_panelu(Druh druh) {
+    return druh == Druh::svetlo || druh == Druh::pruh || druh == Druh::lblnavestidlo ||
+           druh == Druh::lblNavestidlo_stanice;
 }
 
 int vrstva(Druh druh) {

@@ -43,6 +43,10 @@ QRect misto_vstupu(Druh druh, const Prvek& prvek);
 void nakresli_prvek(QPainter& p, const Meritko& m, Druh druh, int n, const Prvek& prvek);
 // Text painted on the background.
 void nakresli_napis_pozadi(QPainter& p, const Meritko& m, const NapisPozadi& napis);
+// The signal panel's place: its casing follows the signal that is shown, not single elements. Twips.
+inline constexpr QRect kMistoPanelu(928 * kTwipu, 46 * kTwipu, 92 * kTwipu, 142 * kTwipu);
+// The element is drawn in the signal panel.
+bool je_v_panelu(Druh druh);
 // Ground of the desk: the bars and panels that no element stands for.
 void nakresli_podklad(QPainter& p, const Meritko& m, const QRect& plocha);
 // A picture of a switch alone, its cell's corner at (x, y) twips: for the manual and for tests.

@@ -31,7 +31,7 @@ QPoint Platno::na_twipy(QPointF bod) const {
 
 QRect Platno::v_bodech(const QRect& twipy) const {
     return QRect(QPoint(m.x(twipy.x()), m.y(twipy.y())),
-                 QPoint(m.x(twipy.x() + twipy.width()), m.y(twipy.y() + twipy.height())));
+                 QPoint(m.x(twipy.x() + twipy.width()) - 1, m.y(twipy.y() + twipy.height()) - 1));
 }
 
 void Platno::serad() {
@@ -89,13 +89,15 @@ QRegion Platno::obnov() {
                 zmenene += v_bodech(misto_kresby(druh, cislo, stary));
             if (novy.viditelny)
                 zmenene += v_bodech(misto_kresby(druh, cislo, novy));
+            if (je_v_panelu(druh))
+                zmenene += v_bodech(kMistoPanelu);
             posunout = true;
             stary = novy;
         }
     }
     if (nakresleny_panel != panel_navestidla) {
         nakresleny_panel = panel_navestidla;
-        vse |= zmenene.isEmpty(); // the casing changes together with its labels; alone only at a reset
+        zmenene += v_bodech(kMistoPanelu);
     }
     if (nakreslene_napisy != relief.napisy) {
         nakreslene_napisy = relief.napisy;

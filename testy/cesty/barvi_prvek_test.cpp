@@ -1,4 +1,4 @@
-// testy/cesty/barvi_prvek_test.cpp
+// testy/cesty/barvi_prvek_test.cpp - the painter of tracks, its mirrors, labels and lamps.
 #include "cesty/barvi_prvek.h"
 #include "cesty/stavedlo.h"
 #include "prvky/souhlasy.h"

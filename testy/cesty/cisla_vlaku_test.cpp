@@ -1,4 +1,4 @@
-// testy/cesty/cisla_vlaku_test.cpp
+// testy/cesty/cisla_vlaku_test.cpp - train numbers on labels and lines.
 #include "cesty/cisla_vlaku.h"
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"

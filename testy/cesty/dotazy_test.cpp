@@ -1,4 +1,4 @@
-// testy/cesty/dotazy_test.cpp
+// testy/cesty/dotazy_test.cpp - questions about tracks and routes, removal of a route.
 #include "cesty/barvi_prvek.h"
 #include "cesty/dotazy.h"
 #include "cesty/stavedlo.h"

@@ -1,4 +1,4 @@
-// testy/cesty/duvod_test.cpp
+// testy/cesty/duvod_test.cpp - why a route waits.
 #include "cesty/duvod.h"
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"

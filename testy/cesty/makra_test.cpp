@@ -1,4 +1,4 @@
-// testy/cesty/makra_test.cpp
+// testy/cesty/makra_test.cpp - recording, replaying and deleting macros.
 #include "cesty/makra.h"
 #include "cesty/stavedlo.h"
 #include "zaklad/chyba.h"

@@ -1,4 +1,4 @@
-// testy/cesty/tabulky_test.cpp
+// testy/cesty/tabulky_test.cpp - reading the interlocking tables.
 #include "cesty/stavedlo.h"
 #include "cesty/tabulky.h"
 #include "zaklad/chyba.h"

@@ -1,4 +1,4 @@
-// testy/cesty/tik_volby_test.cpp
+// testy/cesty/tik_volby_test.cpp - the route machine, branch by branch.
 #include "cesty/stavedlo.h"
 #include "cesty/tik_volby.h"
 #include "prvky/stanicni_prejezdy.h"

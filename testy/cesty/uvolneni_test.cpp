@@ -1,4 +1,4 @@
-// testy/cesty/uvolneni_test.cpp
+// testy/cesty/uvolneni_test.cpp - RC, DN, STUJ, RNZ and the cancellation.
 #include "cesty/barvi_prvek.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/stavedlo.h"

@@ -1,4 +1,4 @@
-// testy/cesty/volba_test.cpp
+// testy/cesty/volba_test.cpp - picks, the stack and the warnings.
 #include "cesty/stavedlo.h"
 #include "cesty/volba.h"
 

@@ -39,6 +39,23 @@ stul.klavesa("Escape")
 s.time.sleep(0.5)
 assert stul.okna() == predtim, "nabídka se nezavřela"
 
+# the arrow keys move the pointer: 12 pixels to the side, up and down by the rows of a raster of 5
+stul.ukaz(700, 402)
+for klavesa, kam in (("Left", (688, 402)), ("Down", (688, 405)), ("Down", (688, 410)), ("Up", (688, 405)),
+                     ("Right", (700, 405))):
+    stul.klavesa(klavesa)
+    s.time.sleep(0.3)
+    assert stul.kurzor() == kam, "klávesa %s: kurzor na %s" % (klavesa, stul.kurzor())
+
+# F11 puts the window away and stops the clock; where nothing can take it away it comes back by itself,
+# and the pause stays
+PAUZA = (376, 3, 56, 14)
+stul.klavesa("F11")
+s.time.sleep(2.5)
+stul.cekej_na("pauza po minimalizaci", lambda o: o.bodu(*PAUZA, (255, 0, 0)) > 100)
+stul.klavesa("F10")
+stul.cekej_na("konec pauzy", lambda o: o.bodu(*PAUZA, (255, 0, 0)) == 0)
+
 # an idle desk paints nothing: two pictures of the relief a second apart are equal
 stul.ukaz(700, 400)
 s.time.sleep(1.5)

@@ -1,0 +1,410 @@
+// testy/cesty/nahodny_provoz_test.cpp - thousands of random hands at the desk; after each the tables must
+// hold together. A fault is reported with the shortest script that still shows it.
+#include "app/kontrola.h"
+#include "cesty/barvi_prvek.h"
+#include "cesty/cisla_vlaku.h"
+#include "cesty/duvod.h"
+#include "cesty/makra.h"
+#include "cesty/prekazky.h"
+#include "cesty/stavedlo.h"
+#include "cesty/uvolneni.h"
+#include "prvky/navestidla.h"
+#include "zaklad/chyba.h"
+
+#include <random>
+#include <sstream>
+
+namespace {
+
+enum class Co {
+    klik,
+    klik_ctrl,
+    klik_ser,
+    pn,
+    cil,
+    cesta, // both picks of a route of the tables
+    esc,
+    plocha,
+    rc,
+    dn,
+    stuj,
+    rnz,
+    zam,
+    ab,
+    hod,
+    enter,
+    obsad,
+    vlak,
+    zasobnik,
+    pv_vz,
+    makro,
+    cekej,
+    porucha, // a fault made on purpose: a signal cleared by nobody
+    pocet
+};
+constexpr std::array kSlova = {"klik",     "klik ctrl", "klik ser", "PN",    "cil",    "cesta",
+                               "Esc",      "plocha",    "RC",       "DN",    "STUJ",   "RNZ",
+                               "ZAM",      "AB",        "hod",      "Enter", "obsad",  "vlak",
+                               "zasobnik", "PV/VZ",     "makro",    "cekej", "porucha"};
+static_assert(kSlova.size() == static_cast<std::size_t>(Co::pocet));
+
+struct Ukon {
+    Co co;
+    int cislo;
+};
+
+struct Svet : Stavedlo {
+    static inline std::size_t jizdy = 0; // routes run over by trains
+    Svet() {
+        relief.lblcas[0].viditelny = true;
+        nastav_cas("8:00:00");
+        jizdy = 0;
+    }
+    void TestBody() override {}
+};
+
+constexpr std::array kNavestidla = {240, 241, 242, 41, 42, 40, 43, 46, 48, 246, 604, 605};
+constexpr std::array kCile = {40, 41, 42, 43, 44, 46, 47, 84, 117, 118, 120, 604};
+constexpr std::array kKoleje = {40, 41, 42, 43, 44, 45, 46, 47, 84, 117, 118, 120};
+constexpr std::array kVyhybky = {5, 6, 7};
+
+template <std::size_t N> int vyber_z(const std::array<int, N>& pole, int cislo) {
+    return pole[static_cast<std::size_t>(cislo) % N];
+}
+
+// A train comes to a free track, or goes from one that no route has locked.
+void obsad(int n) {
+    if (relief.kolej[n].barva == barvy::seda) {
+        barvi_prvek(n, barvy::cervena);
+        pis_cislo(n, text_cisla(1000 + n));
+    } else if (relief.kolej[n].barva == barvy::cervena) {
+        barvi_prvek(n, barvy::seda);
+        pis_cislo(n, "", true);
+    }
+}
+
+// A train can take the route: it stands, and nothing is in its way but at its start.
+bool lze_jet(const Cesta& c) {
+    const Barva start = relief.kolej[c.prvky[0]].barva;
+    if (!c.Postavena || c.Umazat != 0 || c.cas_ruseni >= 0 || c.PN || c.prvky[0] >= 600 ||
+        (start != barvy::cervena && start != barvy::seda))
+        return false;
+    for (std::size_t k = 1; k < c.prvky.size(); ++k)
+        if (druh_na(c, k) == druh_prvku::kolej && relief.kolej[c.prvky[k]].barva == barvy::cervena)
+            return false;
+    return true;
+}
+
+// A train runs over the first such route from `od` on, section by section, and off its record.
+void jed(std::size_t od) {
+    std::size_t i = od;
+    while (i < cesty.size() && (cesty[i].zacatek < 0 || !lze_jet(cesty[i])))
+        ++i;
+    if (i >= cesty.size())
+        return;
+    if (relief.kolej[cesty[i].prvky[0]].barva == barvy::seda)
+        obsad(cesty[i].prvky[0]);
+    kopie_ab(static_cast<int>(i));
+    cesty[i].Vlak = 0;
+    navestidla(cesty[i].zacatek)[cesty[i].zacatek].barva = barvy::seda;
+    for (std::size_t k = 1; k < cesty[i].prvky.size(); ++k) {
+        const int n = cesty[i].prvky[k], ocas = cesty[i].prvky[k - 1];
+        if (druh_na(cesty[i], k) == druh_prvku::vyhybka)
+            vyhybka_stav(n, poloha_na(cesty[i], k) + 150, false, false);
+        else if (druh_na(cesty[i], k) == druh_prvku::kolej)
+            barvi_prvek(n, barvy::cervena);
+        cesty[i].Umazat = static_cast<std::uint8_t>(k);
+        if (druh_na(cesty[i], k - 1) == druh_prvku::vyhybka) {
+            vyhybka_stav(ocas, poloha_na(cesty[i], k - 1), false, false);
+        } else if (druh_na(cesty[i], k - 1) == druh_prvku::kolej) {
+            barvi_prvek(ocas, je_cislo_koleje(ocas) && ocas < 600 ? barvy::azurova : barvy::seda,
+                        je_cislo_koleje(ocas) && ocas < 600);
+            if (ocas < 600)
+                pis_cislo(ocas, "", true);
+        } else {
+            relief.lblVykolejka[ocas].barva = barvy::seda;
+        }
+    }
+    const int konec = cesty[i].prvky.back();
+    ++Svet::jizdy;
+    smaz_cestu(static_cast<int>(i));
+    if (konec >= 600) { // it leaves the picture at the far end of the line
+        barvi_prvek(konec, barvy::seda);
+        for (const int zdroj : {1041, 1042})
+            pis_cislo(konec, text_cisla(zdroj), true);
+    }
+    zmena_zasobniku();
+}
+
+// A free switch is thrown, one after another: a second throw would leave the first one moving.
+void hod(int n, PovelVyhybky povel) {
+    if (stav_vyhybky_cislo(n) < 50 && stav_vyhybek.prehoz_cas == -3)
+        hod_vyhybku(n, povel);
+}
+
+// ZAM only ever stays for a short while.
+void zam_a_zpet(int s) {
+    zam(s);
+    Stavedlo::cekej(3);
+    zam(s);
+}
+
+void enter() {
+    if (makro_se_zaznamenava())
+        uloz_makro();
+    else if (prikaz_radek.obsazen && prikaz_radek.blikani_prikazu)
+        potvrd_varovani();
+    else if (prikaz_radek.obsazen)
+        potvrd_prikaz();
+    dalsi_zprava();
+}
+
+void vyber_cestu(const Svet& svet, int cislo) {
+    const std::size_t i = static_cast<std::size_t>(cislo) % (svet.zat.size() + svet.zpc.size());
+    const bool posun = i >= svet.zat.size();
+    const ZaznamCesty& z = posun ? svet.zpc[i - svet.zat.size()] : svet.zat[i];
+    if (je_na_ser(z.zacatek))
+        klik_navestidlo_ser(z.zacatek, Tlacitko::leve);
+    else if (!posun && cislo % 7 == 0)
+        volba_pn(z.zacatek);
+    else
+        klik_navestidlo(z.zacatek, Tlacitko::leve, posun);
+    klik_cil(z.konec);
+}
+
+void proved(const Svet& svet, const Ukon& u) {
+    const int s = vyber_z(kNavestidla, u.cislo);
+    switch (u.co) {
+    case Co::klik: klik_navestidlo(s, Tlacitko::leve, false); break;
+    case Co::klik_ctrl: klik_navestidlo(s, Tlacitko::leve, true); break;
+    case Co::klik_ser: klik_navestidlo_ser(545, Tlacitko::leve); break;
+    case Co::pn: volba_pn(s); break;
+    case Co::cil: klik_cil(vyber_z(kCile, u.cislo)); break;
+    case Co::cesta: vyber_cestu(svet, u.cislo); break;
+    case Co::esc: zrus_volbu(); break;
+    case Co::plocha: klik_plocha(); break;
+    case Co::rc: zrus_cestu(s); break;
+    case Co::dn: obnov_cestu(s); break;
+    case Co::stuj: navestidlo_stuj(s); break;
+    case Co::rnz: rnz(s); break;
+    case Co::zam: zam_a_zpet(s); break;
+    case Co::ab: prepni_ab(s); break;
+    case Co::hod: hod(vyber_z(kVyhybky, u.cislo), static_cast<PovelVyhybky>(u.cislo / 3 % 4)); break;
+    case Co::enter: enter(); break;
+    case Co::obsad: obsad(vyber_z(kKoleje, u.cislo)); break;
+    case Co::vlak: jed(static_cast<std::size_t>(u.cislo) % cesty.size() / 2); break;
+    case Co::zasobnik: odeber_ze_zasobniku(u.cislo % 4); break;
+    case Co::pv_vz: prepni_pv_vz(u.cislo % 2 == 0); break;
+    case Co::makro: u.cislo % 2 == 0 ? zacni_makro('A') : prehraj_makro('A'); break;
+    case Co::cekej: Stavedlo::cekej(u.cislo % 20 + 1); break;
+    case Co::porucha: relief.navestidlo[246].barva = barvy::zelena; break;
+    case Co::pocet: break;
+    }
+}
+
+// What the script has brought about, by the log: a test that sets no routes proves nothing.
+struct Souhrn {
+    std::size_t postavene = 0, posunove = 0, privolavaci = 0, zrusene = 0, jizdy = 0;
+};
+
+// A section that a train route holds is held by it alone; a standing signal has its route.
+std::string kontrola_zaveru() {
+    std::vector<int> drzi(kNejvyssiPrvek + 1, -1);
+    for (std::size_t i = 0; i < cesty.size(); ++i) {
+        const Cesta& c = cesty[i];
+        if (!c.prehozena || c.PN || !c.VC || c.Umazat != 0)
+            continue;
+        for (std::size_t k = 1; k < c.prvky.size(); ++k) {
+            if (druh_na(c, k) != druh_prvku::kolej || c.prvky[k] >= 600)
+                continue;
+            // The single track in the middle of a route is held by its arrow, which only routes that end
+            // there ask: the real junction has no others.
+            if (c.prvky[k] == 118 && k + 1 < c.prvky.size())
+                continue;
+            int& kdo = drzi[static_cast<std::size_t>(c.prvky[k])];
+            if (kdo >= 0)
+                return "track " + std::to_string(c.prvky[k]) + " is held by two train routes";
+            kdo = static_cast<int>(i);
+        }
+    }
+    for (const int s : kNavestidla) {
+        const bool cesta = std::any_of(cesty.begin(), cesty.end(),
+                                       [s](const Cesta& c) { return c.zacatek == s && c.Postavena; });
+        if (navestidla(s)[s].barva == barvy::zelena && !cesta)
+            return "signal " + std::to_string(s) + " is cleared without a route";
+    }
+    return {};
+}
+
+// "Why not?" says nothing exactly when the machine does something: asked of the first route that is to
+// be commanded, just before the tick. Asking changes nothing.
+std::string kontrola_duvodu() {
+    const std::int32_t ted = ted_s();
+    const auto ma_fazi = [ted](FazeCesty faze) {
+        return [=](const Cesta& c) { return c.zacatek >= 0 && faze_cesty(c, ted) == faze; };
+    };
+    const auto pred = cesty;
+    const auto prvni = std::find_if(cesty.begin(), cesty.end(), ma_fazi(FazeCesty::staveni));
+    const auto i = static_cast<std::size_t>(prvni - cesty.begin());
+    const bool rusi_se = std::any_of(cesty.begin(), cesty.end(), ma_fazi(FazeCesty::zruseni));
+    const Text duvod = duvod_cekani(static_cast<int>(i));
+    if (cesty != pred)
+        return "asking for a reason changed a route";
+    if (prvni == cesty.end() || rusi_se)
+        return {};
+    tik_volby();
+    if (cesty[i].prehozena != duvod.empty())
+        return "route " + std::to_string(i) + (duvod.empty() ? " waits for no reason" : " did not wait: ") +
+               na_utf8(duvod);
+    return {};
+}
+
+// The operator takes everything back and all trains go: nothing may stay locked.
+std::string kontrola_klidu() {
+    zrus_volbu();
+    for (int kolo = 0; kolo < 40 && cesty[0].zacatek >= 0; ++kolo) {
+        for (const int n : kKoleje)
+            if (relief.kolej[n].barva == barvy::cervena)
+                obsad(n);
+        while (!radky_zasobniku().empty() && cesty.size() > 1 &&
+               !cesty[static_cast<std::size_t>(radky_zasobniku().front())].prehozena)
+            odeber_ze_zasobniku(radky_zasobniku().front());
+        for (const int s : {240, 241, 242, 41, 42, 40, 43, 46, 48, 246, 604, 605, 545}) {
+            zrus_cestu(s);
+            rnz(s);
+        }
+        potvrd_varovani();
+        Stavedlo::cekej(40);
+    }
+    if (cesty[0].zacatek >= 0)
+        return "route cannot be taken back: " + na_utf8(popis_cesty(0)) + ": " + na_utf8(duvod_cekani(0));
+    for (int n = 0; n <= relief.kolej.nejvyssi(); ++n)
+        if (n > 0 && je_kolej(n) && relief.kolej[n].barva != barvy::seda &&
+            relief.kolej[n].barva != barvy::cervena)
+            return "track " + std::to_string(n) + " stays locked";
+    for (const int n : kVyhybky)
+        if (stav_vyhybky_cislo(n) >= 50)
+            return "switch " + std::to_string(n) + " stays locked";
+    for (const int k : {0, 1, 2})
+        if (relief.lblSouhlas[k].barva != barvy::seda)
+            return "consent lamp " + std::to_string(k) + " stays lit";
+    if (relief.lblSouhlas2[604].barva != barvy::seda)
+        return "the line stays held";
+    if (relief.lblZasobnik_pocet[0].text() != "00" || !relief.lblZasobnik_blokv[0].text->empty())
+        return "the stack shows a route that is gone";
+    return {};
+}
+
+// What does not hold after the script; empty when all is well. `kde`: the step that broke it.
+std::string zkus(const std::vector<Ukon>& skript, std::size_t* kde = nullptr, Souhrn* souhrn = nullptr) {
+    Svet svet;
+    for (std::size_t i = 0; i < skript.size(); ++i) {
+        if (kde != nullptr)
+            *kde = i;
+        try {
+            proved(svet, skript[i]);
+        } catch (const BehovaChyba& chyba) {
+            return "run-time error " + std::to_string(static_cast<int>(chyba.kod)) + " " + chyba.co;
+        }
+        if (const auto nalez = kontrola_stavu())
+            return na_utf8(*nalez);
+        if (std::string nalez = kontrola_zaveru(); !nalez.empty())
+            return nalez;
+        if (std::string nalez = kontrola_duvodu(); !nalez.empty())
+            return nalez;
+    }
+    if (kde != nullptr)
+        *kde = skript.size() - 1;
+    if (std::string nalez = kontrola_klidu(); !nalez.empty())
+        return nalez;
+    if (souhrn != nullptr) {
+        souhrn->postavene += svet.zapsano_kodu(gtn::postavena_vlak);
+        souhrn->posunove += svet.zapsano_kodu(gtn::postavena_posun);
+        souhrn->privolavaci += svet.zapsano_kodu(gtn::konec_pn);
+        souhrn->zrusene += svet.zapsano_kodu(gtn::zrusena);
+        souhrn->jizdy += svet.jizdy;
+    }
+    return {};
+}
+
+std::vector<Ukon> zkrat(std::vector<Ukon> skript) {
+    for (std::size_t kus = std::max<std::size_t>(skript.size() / 2, 1); kus > 0; kus /= 2)
+        for (std::size_t od = 0; od < skript.size();) {
+            std::vector<Ukon> kratsi = skript;
+            const auto zacatek = kratsi.begin() + static_cast<std::ptrdiff_t>(od);
+            kratsi.erase(zacatek, zacatek + static_cast<std::ptrdiff_t>(std::min(kus, kratsi.size() - od)));
+            if (zkus(kratsi).empty())
+                od += kus;
+            else
+                skript = std::move(kratsi);
+        }
+    return skript;
+}
+
+std::string tisk(const std::vector<Ukon>& skript) {
+    std::ostringstream text;
+    for (const Ukon& u : skript)
+        text << "  " << kSlova[static_cast<std::size_t>(u.co)] << " " << u.cislo << "\n";
+    return text.str();
+}
+
+// Hands as often as an operator uses them: what frees comes more often than what blocks.
+Ukon nahodny_ukon(std::mt19937& nahoda) {
+    struct Cetnost {
+        Co co;
+        unsigned podil;
+    };
+    constexpr std::array<Cetnost, 22> kCetnosti = {
+        {{Co::cesta, 30}, {Co::klik, 6},   {Co::klik_ctrl, 4}, {Co::klik_ser, 2}, {Co::pn, 3},
+         {Co::cil, 6},    {Co::esc, 2},    {Co::plocha, 1},    {Co::rc, 12},      {Co::dn, 3},
+         {Co::stuj, 2},   {Co::rnz, 8},    {Co::zam, 1},       {Co::ab, 2},       {Co::hod, 2},
+         {Co::enter, 12}, {Co::obsad, 12}, {Co::vlak, 12},     {Co::zasobnik, 8}, {Co::pv_vz, 1},
+         {Co::makro, 1},  {Co::cekej, 30}}};
+    unsigned soucet = 0;
+    for (const Cetnost& c : kCetnosti)
+        soucet += c.podil;
+    unsigned los = static_cast<unsigned>(nahoda() % soucet);
+    const int cislo = static_cast<int>(nahoda() % 1000);
+    for (const Cetnost& c : kCetnosti) {
+        if (los < c.podil)
+            return {c.co, cislo};
+        los -= c.podil;
+    }
+    return {Co::cekej, cislo};
+}
+
+class NahodnyProvoz : public testing::TestWithParam<unsigned> {};
+
+} // namespace
+
+TEST_P(NahodnyProvoz, TablesHoldTogetherAfterEveryHand) {
+    std::mt19937 nahoda(GetParam());
+    std::vector<Ukon> skript(2000);
+    for (Ukon& u : skript)
+        u = nahodny_ukon(nahoda);
+    std::size_t kde = 0;
+    Souhrn souhrn;
+    const std::string vada = zkus(skript, &kde, &souhrn);
+    if (vada.empty()) {
+        EXPECT_GT(souhrn.postavene, 20u);
+        EXPECT_GT(souhrn.posunove, 2u);
+        EXPECT_GT(souhrn.privolavaci, 2u);
+        EXPECT_GT(souhrn.zrusene, 10u);
+        EXPECT_GT(souhrn.jizdy, 10u);
+        return;
+    }
+    skript.resize(kde + 1);
+    FAIL() << vada << "\nshortest script:\n" << tisk(zkrat(skript));
+}
+
+INSTANTIATE_TEST_SUITE_P(Semena, NahodnyProvoz, testing::Range(1u, 5u));
+
+TEST(NahodnyProvozZkraceni, FaultIsFoundAndItsScriptShortened) {
+    std::vector<Ukon> skript(20, {Co::cekej, 1});
+    EXPECT_TRUE(zkus(skript).empty());
+    skript[13] = {Co::porucha, 0};
+    std::size_t kde = 0;
+    EXPECT_EQ(zkus(skript, &kde), "signal 246 is cleared without a route");
+    EXPECT_EQ(kde, 13u);
+    EXPECT_EQ(tisk(zkrat(skript)), "  porucha 0\n");
+}
