@@ -494,6 +494,23 @@ TEST(Tesk, EveryLineOfHrabovReachesItsTracks) {
     }
 }
 
+TEST(Tesk, JavorinLiesBetweenItsThreeLines) {
+    for (const int konec : {84, 85})
+        for (const int kolej : {0, 1, 2, 3}) {
+            const auto koleje = koleje_cesty(tesk(), konec, true, kolej);
+            EXPECT_FALSE(koleje.empty()) << konec << " " << kolej;
+            EXPECT_TRUE(obsahuje(koleje, konec == 84 ? 413 : 414)) << konec << " " << kolej;
+        }
+    for (const int kolej : {0, 1, 2, 3})
+        for (const int trat : {604, 606}) {
+            EXPECT_FALSE(koleje_cesty(tesk(), kolej, true, trat).empty()) << kolej << " " << trat;
+            EXPECT_FALSE(koleje_cesty(tesk(), trat, false, kolej).empty()) << kolej << " " << trat;
+        }
+    EXPECT_EQ(koleje_cesty(tesk(), 654, true, 97), (std::vector<int>{654, 418, 97}));
+    const auto zpet = koleje_cesty(tesk(), 10, false, 656);
+    EXPECT_TRUE(obsahuje(zpet, 427) && obsahuje(zpet, 97) && obsahuje(zpet, 419));
+}
+
 TEST(Tesk, WhoCrossesTheRoadOfHrabovLeavesItOnce) {
     for (const int trat : {650, 652, 97})
         for (const int kolej : {9, 10, 11, 12, 13, 14, 15, 16, 17, 18}) {

@@ -1,0 +1,37 @@
+#!/usr/bin/python3
+# testy/obrazovka/potize_startu.py - what keeps the start screen shut: a missing file, a second instance.
+import os
+import subprocess
+import sys
+import time
+
+import stul as s
+
+program, slozka = s.priprav(sys.argv[1:])
+os.rename(os.path.join(slozka, "data", "tesk.stg"), os.path.join(slozka, "data", "jinam"))
+
+# a missing data file: a box, and after it the end with code 1
+stul = s.Stul(program, slozka)
+stul.cekej_na("hlášení o souboru", lambda o: o.bodu(0, 0, 1024, 768, s.CERNA) < 1024 * 768 - 5000)
+stul.obraz("chybi_soubor")
+for _ in range(10):
+    stul.klavesa("Return")
+    time.sleep(1)
+    if stul.program.poll() is not None:
+        break
+assert stul.program.poll() == 1, "bez souboru program nekončí: %s" % stul.program.poll()
+
+# a second instance: the same, while the first one shows its start screen
+os.rename(os.path.join(slozka, "data", "jinam"), os.path.join(slozka, "data", "tesk.stg"))
+stul.program = subprocess.Popen([program], cwd=slozka, env=stul.prostredi)
+stul.cekej_na("úvodní formulář", s.je_formular)
+druha = subprocess.Popen([program], cwd=slozka, env=stul.prostredi)
+for _ in range(10):
+    time.sleep(1)
+    stul.obraz("druha_instance")
+    stul.klavesa("Escape")
+    if druha.poll() is not None:
+        break
+assert druha.poll() == 1, "druhá instance běží: %s" % druha.poll()
+assert stul.program.poll() is None, "první instance skončila"
+print("v pořádku")
