@@ -8,6 +8,7 @@
 #include "desk/menu.h"
 #include "ui/brana.h"
 #include "ui/pismo.h"
+#include "zaklad/cisla.h"
 
 #include <QCloseEvent>
 #include <QCursor>
@@ -28,6 +29,7 @@ namespace {
 constexpr int kPrekreslovani_ms = 40;
 // Where the lists of the bottom panel stand, pixels of the desk.
 constexpr QRect kMistoSeznamu(4, 640, 1016, 126);
+constexpr int kVyskaListy = 20 * kTwipu; // of the top bar
 constexpr QRgb kNajetiPrvku = 0xFF5A6A7C;
 
 constexpr const char* kVzhledSeznamu =
@@ -91,6 +93,21 @@ Klavesa klavesa_qt(const QKeyEvent& udalost) {
         if (p.qt == udalost.key())
             k.kod = p.kod;
     return k;
+}
+
+// The element is outlined under the pointer. Empty rows of the train table and the command line are not.
+bool zvyraznuje_se(const Nalezeny& kde) {
+    if (!tabulka(kde.druh).je(kde.n) || kde.druh == Druh::lblPrikaz || kde.druh == Druh::lblVolba)
+        return false;
+    const Prvek& p = tabulka(kde.druh)[kde.n];
+    return p.viditelny && (kde.druh != Druh::lblTabulka_vlaku || !orez(p.text()).empty());
+}
+
+// Tells one open menu from another: its name and the element it was opened on; empty when none is open.
+Text otisk_nabidky() {
+    if (menu.jmeno.empty())
+        return {};
+    return menu.jmeno + ' ' + text_cisla(static_cast<int>(menu.druh)) + ' ' + text_cisla(menu.prvek);
 }
 
 // Name that the pointer shows over an element.
@@ -290,9 +307,9 @@ void HlavniOkno::obnov_pole() {
 }
 
 void HlavniOkno::obnov_nabidku() {
-    if (menu.jmeno == nabidka_ukazuje)
+    if (otisk_nabidky() == nabidka_ukazuje)
         return;
-    nabidka_ukazuje = menu.jmeno;
+    nabidka_ukazuje = otisk_nabidky();
     if (nabidka != nullptr) {
         nabidka->disconnect(this);
         nabidka->close();
@@ -326,7 +343,7 @@ void HlavniOkno::obnov_nabidku() {
     // The choice is told after the menu has gone; what is closed without one is closed in the core too.
     connect(nabidka, &QMenu::aboutToHide, this, [this] {
         QTimer::singleShot(0, this, [this, ukazovala = nabidka_ukazuje] {
-            if (menu.jmeno == ukazovala && (nabidka == nullptr || !nabidka->isVisible()))
+            if (otisk_nabidky() == ukazovala && (nabidka == nullptr || !nabidka->isVisible()))
                 v_jadre(zavri_menu);
             obnov();
         });
@@ -359,6 +376,9 @@ void HlavniOkno::mousePressEvent(QMouseEvent* udalost) {
     najed(misto);
     const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(misto));
     const Tlacitko tlacitko = tlacitko_mysi(udalost->button());
+    if (!kde && udalost->button() == Qt::LeftButton && !isFullScreen() && windowHandle() != nullptr &&
+        na_twipy(misto).y() < kVyskaListy && windowHandle()->startSystemMove())
+        return; // the window is dragged by its bar
     v_jadre([&] {
         if (kde)
             klik(kde->druh, kde->n, tlacitko, udalost->modifiers().testFlag(Qt::ControlModifier));
@@ -370,7 +390,8 @@ void HlavniOkno::mousePressEvent(QMouseEvent* udalost) {
 
 void HlavniOkno::mouseDoubleClickEvent(QMouseEvent* udalost) {
     const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(udalost->position()));
-    if (udalost->button() != Qt::LeftButton || !kde) {
+    // Keys of the bar and of the panel take two quick clicks as two.
+    if (udalost->button() != Qt::LeftButton || !kde || kde->druh > Druh::lblPN) {
         mousePressEvent(udalost);
         return;
     }
@@ -482,7 +503,7 @@ void HlavniOkno::paintEvent(QPaintEvent* udalost) {
                                .intersected(platno.obraz().rect());
         p.drawImage(body.topLeft(), platno.obraz(), body);
     }
-    if (najety && tabulka(najety->druh).je(najety->n) && tabulka(najety->druh)[najety->n].viditelny) {
+    if (najety && zvyraznuje_se(*najety)) {
         const QRect cil = platno.v_bodech(misto_vstupu(najety->druh, tabulka(najety->druh)[najety->n]));
         p.setPen(QColor::fromRgb(kNajetiPrvku));
         p.drawRect(cil.adjusted(0, 0, -1, -1));
