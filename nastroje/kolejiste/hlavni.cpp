@@ -1,7 +1,7 @@
 // nastroje/kolejiste/hlavni.cpp - tesk-kolejiste, the compiler of the junction.
 //
 //   tesk-kolejiste [--data SLOZKA] [--nahled SOUBOR.svg] [--nahled2 SOUBOR.svg] [--soused PRVEK]
-//                  [--cesta OD STRANA DO] [--chybi] ZDROJ...
+//                  [--cesta OD STRANA DO] [--chybi] [--tabulka] ZDROJ...
 //
 // Reads all sources, reports every fault with its file and line, and writes the data files only when
 // there is none. --soused prints what stands around an element: a track "26", a switch "v14", a derailer
@@ -9,8 +9,10 @@
 // numbers that are not drawn. Exit status: 0; 1 the sources have faults; 2 wrong use or a file that cannot be
 // read or written.
 #include "kolejiste/graf.h"
+#include "kolejiste/kontrola_tras.h"
 #include "kolejiste/kontroly.h"
 #include "kolejiste/kresba.h"
+#include "kolejiste/trasy.h"
 #include "kolejiste/vystup.h"
 #include "zaklad/chyba.h"
 
@@ -38,7 +40,13 @@ bool zapis(const std::filesystem::path& kam, const Bajty& obsah) {
     return zapis(kam, std::string_view(reinterpret_cast<const char*>(obsah.data()), obsah.size()));
 }
 
-void vypis_souhrn(const Plan& plan, const std::vector<ZaznamReliefu>& jeden, const Graf& graf) {
+int pocet_tras(const std::vector<Trasa>& trasy, DruhTrasy druh) {
+    return static_cast<int>(
+        std::count_if(trasy.begin(), trasy.end(), [&](const Trasa& t) { return t.druh == druh; }));
+}
+
+void vypis_souhrn(const Plan& plan, const std::vector<ZaznamReliefu>& jeden, const Graf& graf,
+                  const std::vector<Trasa>& trasy) {
     std::printf("%-6s %-24s %6s %9s %8s %8s\n", "kód", "název", "koleje", "návěstidla", "výhybky", "délka m");
     for (std::size_t b = 0; b < plan.bloky.size(); ++b) {
         int koleje = 0, navestidla = 0, vyhybky = 0, delka = 0;
@@ -53,6 +61,11 @@ void vypis_souhrn(const Plan& plan, const std::vector<ZaznamReliefu>& jeden, con
                     koleje, navestidla, vyhybky, delka);
     }
     std::printf("záznamů reliefu %zu, spojů %zu\n", jeden.size(), graf.spoje.size() / 2);
+    std::printf("vlakových cest %d, posunových %d\n", pocet_tras(trasy, DruhTrasy::vlak),
+                pocet_tras(trasy, DruhTrasy::posun));
+    if (const int ceka = cekajici_povinne(plan, trasy))
+        std::printf("z %zu cest, o které program žádá, jich %d ještě nemá nakreslené prvky\n",
+                    plan.pravidla_tras.povinne.size(), ceka);
     std::size_t povinnych = 0, chybi = 0;
     for (const auto& [druh, cisla] : plan.pozadavky.povinne)
         povinnych += cisla.size();
@@ -65,7 +78,7 @@ void vypis_souhrn(const Plan& plan, const std::vector<ZaznamReliefu>& jeden, con
 int preloz(int argc, char** argv) {
     std::string slozka, nahled_jeden, nahled_dva;
     std::vector<std::string> zdroje, dotazy, cesty;
-    bool vypsat_chybejici = false;
+    bool vypsat_chybejici = false, vypsat_trasy = false;
     for (int i = 1; i < argc; ++i) {
         const std::string a = argv[i];
         std::string* kam = a == "--data"      ? &slozka
@@ -74,6 +87,8 @@ int preloz(int argc, char** argv) {
                                               : nullptr;
         if (a == "--chybi") {
             vypsat_chybejici = true;
+        } else if (a == "--tabulka") {
+            vypsat_trasy = true;
         } else if (a == "--cesta" && i + 3 < argc) {
             cesty.insert(cesty.end(), argv + i + 1, argv + i + 4);
             i += 3;
@@ -92,7 +107,7 @@ int preloz(int argc, char** argv) {
     }
     if (zdroje.empty()) {
         std::fprintf(stderr, "tesk-kolejiste [--data SLOZKA] [--nahled SVG] [--nahled2 SVG] [--soused PRVEK] "
-                             "[--cesta OD STRANA DO] [--chybi] ZDROJ...\n");
+                             "[--cesta OD STRANA DO] [--chybi] [--tabulka] ZDROJ...\n");
         return 2;
     }
     Plan plan;
@@ -112,6 +127,8 @@ int preloz(int argc, char** argv) {
     const Graf graf = sestav_graf(plan, zavady);
     const auto jeden = nakresli(plan, Obraz::jeden, zavady), dva = nakresli(plan, Obraz::dva, zavady);
     zkontroluj(plan, graf, jeden, dva, zavady);
+    const std::vector<Trasa> trasy = odvod_trasy(plan, graf, zavady);
+    zkontroluj_trasy(plan, graf, trasy, zavady);
 
     if (!nahled_jeden.empty() && !zapis(nahled_jeden, nahled(jeden, Obraz::jeden)))
         return 2;
@@ -143,6 +160,8 @@ int preloz(int argc, char** argv) {
                 std::printf(" %d", n);
             std::printf("\n");
         }
+    if (vypsat_trasy)
+        std::printf("%s", tabulka_tras(plan, trasy).c_str());
     if (!zavady.empty()) {
         std::stable_sort(zavady.begin(), zavady.end(), [](const Zavada& a, const Zavada& b) {
             return std::tie(a.misto.soubor, a.misto.radek) < std::tie(b.misto.soubor, b.misto.radek);
@@ -159,12 +178,13 @@ int preloz(int argc, char** argv) {
         if (!zapis(s / "tesk.rea", soubor_reliefu(jeden, "Tesk, jeden monitor")) ||
             !zapis(s / "tesk.reb", soubor_reliefu(dva, "Tesk, dva monitory")) ||
             !zapis(s / "tesk.top", soubor_delek(plan)) || !zapis(s / "tesk.pzz", soubor_prejezdu(plan)) ||
-            !zapis(s / "tesk.stg", soubor_vazeb(plan)) || !zapis(s / "tesk.zat", Bajty{}) ||
-            !zapis(s / "tesk.zpc", Bajty{}) || !zapis(s / "tesk.mak", Bajty{}))
+            !zapis(s / "tesk.stg", soubor_vazeb(plan)) ||
+            !zapis(s / "tesk.zat", soubor_tras(trasy, DruhTrasy::vlak)) ||
+            !zapis(s / "tesk.zpc", soubor_tras(trasy, DruhTrasy::posun)) || !zapis(s / "tesk.mak", Bajty{}))
             return 2;
     }
-    if (dotazy.empty() && cesty.empty() && !vypsat_chybejici)
-        vypis_souhrn(plan, jeden, graf);
+    if (dotazy.empty() && cesty.empty() && !vypsat_chybejici && !vypsat_trasy)
+        vypis_souhrn(plan, jeden, graf, trasy);
     return 0;
 }
 

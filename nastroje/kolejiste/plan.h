@@ -172,6 +172,57 @@ struct Pozadavky {
     std::map<int, int> kolej_prejezdu; // crossing record to its track
 };
 
+enum class DruhTrasy : std::uint8_t { vlak, posun }; // tables tesk.zat and tesk.zpc
+inline constexpr std::array kDruhyTras = {DruhTrasy::vlak, DruhTrasy::posun};
+
+struct PrvekTrasy { // an element named in a rule about routes
+    Typ typ = Typ::kolej;
+    int cislo = 0;
+    auto operator<=>(const PrvekTrasy&) const = default;
+};
+
+// What the author says of the routes beyond what the drawing gives.
+struct PravidlaTras {
+    struct RucniTrasa { // the way of a route, or a route that runs past signals
+        Misto misto;
+        DruhTrasy druh{};
+        int zacatek = 0, konec = 0;
+        std::vector<PrvekTrasy> pres; // elements of the way, in running order
+        std::set<int> kolem;          // signals that do not end it
+    };
+    struct Zakaz { // no such route; an empty set stands for all
+        Misto misto;
+        std::set<DruhTrasy> druhy;
+        std::set<int> zacatky, konce;
+    };
+    struct Povinna { // the program asks for it by number
+        Misto misto;
+        int zacatek = 0, konec = 0;
+        std::vector<std::set<int>> koleje; // one of each set lies on it
+    };
+    struct Odjezdy { // a train that stands there can be sent on in that sense
+        Misto misto;
+        DruhTrasy druh{};
+        Strana strana{};
+        std::set<int> koleje;
+    };
+    struct Programova { // a route that the program makes itself
+        Misto misto;
+        int zacatek = 0, konec = 0;
+        std::vector<int> koleje;
+    };
+    std::vector<RucniTrasa> rucni;
+    std::vector<Zakaz> zakazy;
+    std::vector<Povinna> povinne;
+    std::vector<Povinna> nesmi; // pairs that the table may not hold
+    std::vector<Odjezdy> odjezdy;
+    std::vector<Programova> programove;
+    std::map<int, int> saha;     // end to the track behind it that its routes run on to
+    std::set<int> jen_vlak;      // tracks without shunt routes
+    std::set<int> prujezdne;     // targets that routes also run through, where no signal stands at their end
+    std::map<int, int> rychlost; // speed class over the branch of a switch, where it is not 40 km/h
+};
+
 struct Plan {
     std::vector<Blok> bloky;
     std::vector<Kolej> koleje;
@@ -183,12 +234,14 @@ struct Plan {
     std::vector<UzavrenyKonec> konce;
     std::vector<PrejezdTrati> prejezdy;
     Pozadavky pozadavky;
+    PravidlaTras pravidla_tras;
 
     const Kolej* kolej(int cislo) const;
     const Vyhybka* vyhybka(int cislo) const;
     // Track of a signal: as the relief counts it, and for the signals at the right ends of the lines
     // the last section of the line.
     int kolej_navestidla(const Navestidlo& navestidlo) const;
+    const Navestidlo* navestidlo(int cislo) const;
     // The signal at that end of the track, who leaves the track there obeys it; none when nothing stands
     // there.
     const Navestidlo* navestidlo_u(int kolej, Strana strana) const;

@@ -186,6 +186,15 @@ private:
     // Own name behind the three letters of the block.
     Text se_stanici(const Text& vlastni) { return z_utf8(blok().kod) + " " + vlastni; }
     Konec konec_prvku();
+    PrvekTrasy prvek_cesty();
+    // Numbers up to the next keyword; "5-9" for a whole run.
+    std::set<int> rada();
+    // Rules about routes say why they are there; the reason stands at the end.
+    void duvod() {
+        if (!je_text() || slova[dalsi].text.empty())
+            nesrozumitelne("chybí důvod v uvozovkách");
+        ++dalsi;
+    }
 
     void cti_blok();
     void cti_kolej(bool obraz);
@@ -194,6 +203,7 @@ private:
     void cti_vykolejku();
     void cti_kresbu(const std::string& slovo_);
     bool cti_pozadavek(const std::string& slovo_);
+    bool cti_pravidlo_tras(const std::string& slovo_);
 };
 
 Konec Veta::konec_prvku() {
@@ -450,25 +460,137 @@ void Veta::cti_kresbu(const std::string& slovo_) {
     pridej_kresbu(std::move(k));
 }
 
-// "druh N N N", "N-N" for a whole run.
+std::set<int> Veta::rada() {
+    std::set<int> cisla;
+    while (!konec()) {
+        const std::string& s = slova[dalsi].text;
+        const std::size_t pomlcka = s.find('-', 1);
+        const auto od = cele_cislo(std::string_view(s).substr(0, pomlcka));
+        const auto po =
+            pomlcka == std::string::npos ? od : cele_cislo(std::string_view(s).substr(pomlcka + 1));
+        if (!od || !po || *od > *po || slova[dalsi].v_uvozovkach)
+            break;
+        if (*po > kNejvyssiPrvek)
+            nesrozumitelne("čísla prvků jsou 0 až 999");
+        for (int n = *od; n <= *po; ++n)
+            cisla.insert(n);
+        ++dalsi;
+    }
+    return cisla;
+}
+
+PrvekTrasy Veta::prvek_cesty() {
+    const std::string& s = slovo("prvek cesty").text;
+    PrvekTrasy p;
+    std::string_view kdo = s;
+    if (kdo.starts_with('v') || kdo.starts_with('d')) {
+        p.typ = kdo[0] == 'v' ? Typ::vyhybka : Typ::vykolejka;
+        kdo.remove_prefix(1);
+    }
+    const auto n = cele_cislo(kdo);
+    if (!n)
+        nesrozumitelne("\"" + s + "\" není prvek cesty");
+    p.cislo = *n;
+    return p;
+}
+
+// "trasa", "nechci" and the like; every one ends with its reason in quotes.
+bool Veta::cti_pravidlo_tras(const std::string& slovo_) {
+    PravidlaTras& p = plan.pravidla_tras;
+    const auto druh = [&] {
+        if (klic("vlak"))
+            return DruhTrasy::vlak;
+        if (!klic("posun"))
+            nesrozumitelne("chybí druh cesty: vlak nebo posun");
+        return DruhTrasy::posun;
+    };
+    const auto jednou = [&](bool novy, int n) {
+        if (!novy)
+            nesrozumitelne("o čísle " + std::to_string(n) + " to už řečeno je");
+    };
+    if (slovo_ == "trasa") {
+        PravidlaTras::RucniTrasa t{misto, druh(), 0, 0, {}, {}};
+        t.zacatek = cislo("návěstidlo");
+        t.konec = cislo("konec");
+        prvek = "trasa " + std::to_string(t.zacatek) + " " + std::to_string(t.konec);
+        while (!konec() && !je_text()) {
+            if (klic("pres"))
+                while (!konec() && !je_text() && slova[dalsi].text != "kolem")
+                    t.pres.push_back(prvek_cesty());
+            else if (klic("kolem"))
+                t.kolem.merge(rada());
+            else
+                nezname();
+        }
+        for (const PravidlaTras::RucniTrasa& jina : p.rucni)
+            if (jina.druh == t.druh && jina.zacatek == t.zacatek && jina.konec == t.konec)
+                nesrozumitelne("už stojí v " + jina.misto.soubor + ":" + std::to_string(jina.misto.radek));
+        p.rucni.push_back(std::move(t));
+    } else if (slovo_ == "nechci") {
+        PravidlaTras::Zakaz z{misto, {}, {}, {}};
+        if (klic("cesty"))
+            z.druhy = {DruhTrasy::vlak, DruhTrasy::posun};
+        else
+            z.druhy = {druh()};
+        if (klic("od"))
+            z.zacatky = rada();
+        if (klic("do"))
+            z.konce = rada();
+        if (z.zacatky.empty() && z.konce.empty())
+            nesrozumitelne("chybí od nebo do a čísla");
+        p.zakazy.push_back(std::move(z));
+    } else if (slovo_ == "povinna" || slovo_ == "nesmi") {
+        PravidlaTras::Povinna c{misto, 0, 0, {}};
+        c.zacatek = cislo("návěstidlo");
+        c.konec = cislo("konec");
+        prvek += " " + std::to_string(c.zacatek) + " " + std::to_string(c.konec);
+        while (slovo_ == "povinna" && !konec() && !je_text()) {
+            if (klic("pres")) {
+                while (je_cislo())
+                    c.koleje.push_back({cislo("kolej")});
+            } else if (klic("jedna_z")) {
+                c.koleje.push_back(rada());
+            } else {
+                nezname();
+            }
+        }
+        (slovo_ == "povinna" ? p.povinne : p.nesmi).push_back(std::move(c));
+    } else if (slovo_ == "odjezdy") {
+        PravidlaTras::Odjezdy o{misto, druh(), strana(), {}};
+        o.koleje = rada();
+        p.odjezdy.push_back(std::move(o));
+    } else if (slovo_ == "programova") {
+        PravidlaTras::Programova c{misto, 0, 0, {}};
+        c.zacatek = cislo("návěstidlo");
+        c.konec = cislo("konec");
+        prvek += " " + std::to_string(c.zacatek) + " " + std::to_string(c.konec);
+        while (je_cislo())
+            c.koleje.push_back(cislo("kolej"));
+        if (c.koleje.empty())
+            nesrozumitelne("chybí koleje cesty");
+        p.programove.push_back(std::move(c));
+    } else if (slovo_ == "saha") {
+        const int n = cislo("konec");
+        jednou(p.saha.try_emplace(n, cislo("kolej za ním")).second, n);
+    } else if (slovo_ == "jen_vlak") {
+        p.jen_vlak.merge(rada());
+    } else if (slovo_ == "prujezdna") {
+        p.prujezdne.merge(rada());
+    } else if (slovo_ == "rychlost") {
+        const int trida = cislo("třída rychlosti");
+        if (trida < 0 || trida > 3)
+            nesrozumitelne("třídy rychlosti jsou 0 až 3");
+        for (const int n : rada())
+            jednou(p.rychlost.try_emplace(n, trida).second, n);
+    } else {
+        return false;
+    }
+    duvod();
+    return true;
+}
+
 bool Veta::cti_pozadavek(const std::string& slovo_) {
     Pozadavky& p = plan.pozadavky;
-    const auto rada = [&] {
-        std::set<int> cisla;
-        while (!konec()) {
-            const std::string& s = slova[dalsi].text;
-            const std::size_t pomlcka = s.find('-', 1);
-            const auto od = cele_cislo(std::string_view(s).substr(0, pomlcka));
-            const auto po =
-                pomlcka == std::string::npos ? od : cele_cislo(std::string_view(s).substr(pomlcka + 1));
-            if (!od || !po || *od > *po)
-                break;
-            for (int n = *od; n <= *po; ++n)
-                cisla.insert(n);
-            ++dalsi;
-        }
-        return cisla;
-    };
     if (slovo_ == "povinne" || slovo_ == "zakazane") {
         const std::string druh = slovo("druh prvku").text;
         if (!druh_podle_jmena(druh))
@@ -552,7 +674,7 @@ void Veta::cti() {
                co == "sipka" || co == "prejezd_stanice" || co == "prejezd_trati" || co == "stitek" ||
                co == "cara") {
         cti_kresbu(co);
-    } else if (!cti_pozadavek(co)) {
+    } else if (!cti_pozadavek(co) && !cti_pravidlo_tras(co)) {
         prvek.clear();
         nesrozumitelne("nerozumím slovu \"" + co + "\"");
     }
@@ -603,6 +725,13 @@ const Vyhybka* Plan::vyhybka(int cislo) const {
     for (const Vyhybka& v : vyhybky)
         if (v.cislo == cislo)
             return &v;
+    return nullptr;
+}
+
+const Navestidlo* Plan::navestidlo(int cislo) const {
+    for (const Navestidlo& n : navestidla)
+        if (n.cislo == cislo)
+            return &n;
     return nullptr;
 }
 

@@ -13,6 +13,7 @@
 #include "prvky/souhlasy.h"
 #include "prvky/stanoviste.h"
 #include "prvky/vyhybky.h"
+#include "technologie/provoz2.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
 
@@ -185,6 +186,26 @@ void smaz() {
         smaz_radek_zprav();
 }
 
+// Not before the login: the screen ends with a running clock.
+void ukaz_provoz2() {
+    if (!prihlaseni_bezi())
+        otevri_provoz2();
+}
+
+// A key while the maintenance screen covers the desk; false when it is none of its keys.
+bool klavesa_provozu2(const Klavesa& k) {
+    switch (k.kod) {
+    case KodKlavesy::enter:
+    case KodKlavesy::esc:
+    case KodKlavesy::f10: zavri_provoz2(); return true; // the end of the pause is the end of the screen
+    case KodKlavesy::sipka_nahoru: posun_vyber_provozu2(-1); return true;
+    case KodKlavesy::sipka_dolu: posun_vyber_provozu2(1); return true;
+    case KodKlavesy::tab: dalsi_seznam_provozu2(k.shift); return true;
+    case KodKlavesy::delete_: smaz_v_provozu2(); return true;
+    default: return false;
+    }
+}
+
 // Alt with a letter plays its macro, with Shift as well it begins the recording; Ctrl makes no difference.
 bool pismeno(const Klavesa& k) {
     if (!k.alt)
@@ -255,6 +276,7 @@ void klik_na_desku(Druh druh) {
     case Druh::cmdVLAK: prepni_panel(Panel::vlak); break;
     case Druh::lblZasobnik_PV: prepni_pv_vz(false); break;
     case Druh::lblZasobnik_VZ: prepni_pv_vz(true); break;
+    case Druh::lblZasobnik_EZ: ukaz_provoz2(); break;
     case Druh::lblrychlost_simulace: zrychli(); break;
     default: break;
     }
@@ -288,6 +310,7 @@ constexpr JmenoKlavesy kJmenaKlaves[] = {
     {"Down", KodKlavesy::sipka_dolu},
     {"Delete", KodKlavesy::delete_},
     {"Del", KodKlavesy::delete_},
+    {"Tab", KodKlavesy::tab},
 };
 
 // Takes "Ctrl+" and the like from the front; false when it is not there.
@@ -301,7 +324,7 @@ bool uber_predponu(TextPohled& jmeno, TextPohled predpona) {
 } // namespace
 
 void klik(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
-    if (!tabulka(druh).je(n))
+    if (!tabulka(druh).je(n) || provoz2_otevren()) // the maintenance screen covers the desk
         return;
     zavri_menu();
     if (klik_na_prvek(druh, n, tlacitko, ctrl))
@@ -313,7 +336,7 @@ void klik(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
 }
 
 void dvojklik(Druh druh, int n) {
-    if (!tabulka(druh).je(n))
+    if (!tabulka(druh).je(n) || provoz2_otevren())
         return;
     zavri_menu();
 }
@@ -340,6 +363,8 @@ void pohyb_mysi() {
 }
 
 void klik_na_plochu() {
+    if (provoz2_otevren())
+        return;
     zavri_menu();
     klik_plocha();
 }
@@ -347,12 +372,18 @@ void klik_na_plochu() {
 void klik_na_radek(Seznam& seznam, int radek) {
     const bool je = radek >= 0 && static_cast<std::size_t>(radek) < seznam.radky.size();
     seznam.vybrany = je ? radek : -1;
+    if (provoz2_otevren())
+        vybran_radek_provozu2(seznam);
     ++revize_reliefu;
 }
 
 bool klavesa(const Klavesa& k) {
+    const bool konec = k.kod == KodKlavesy::f10 && k.ctrl && k.alt;
+    if (provoz2_otevren() && !konec && k.kod != KodKlavesy::f11)
+        return klavesa_provozu2(k);
     switch (k.kod) {
-    case KodKlavesy::zadna: return false;
+    case KodKlavesy::zadna:
+    case KodKlavesy::tab: return false;
     case KodKlavesy::enter: enter(); return true;
     case KodKlavesy::esc:
         if (menu.jmeno.empty())
@@ -368,7 +399,7 @@ bool klavesa(const Klavesa& k) {
     case KodKlavesy::f8: return false;
     case KodKlavesy::f9: otevri_prohlizec_gvd(); return true;
     case KodKlavesy::f10:
-        if (!(k.ctrl && k.alt)) {
+        if (!konec) {
             prepni_pauzu();
             return true;
         }
@@ -385,6 +416,7 @@ bool klavesa(const Klavesa& k) {
     case KodKlavesy::print_screen:
         pipni_klavesou();
         zastav_hodiny();
+        ukaz_provoz2();
         return true;
     case KodKlavesy::sipka_vlevo:
     case KodKlavesy::sipka_vpravo:

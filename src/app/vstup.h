@@ -30,6 +30,7 @@ enum class KodKlavesy : std::uint8_t {
     sipka_nahoru,
     sipka_dolu,
     delete_,
+    tab,
     pismeno, // with `znak`, upper case
 };
 

@@ -156,3 +156,20 @@ Text duvod_cekani(int i) {
     }
     return {};
 }
+
+Text duvod_zasobniku() {
+    for (std::size_t i = 0; i < cesty.size(); ++i)
+        if (ceka_na_ni_zasobnik(cesty[i]))
+            return duvod_cekani(static_cast<int>(i));
+    return {};
+}
+
+Text duvod_u_navestidla(int s) {
+    if (s < 0)
+        return {};
+    for (std::size_t i = 0; i < cesty.size(); ++i)
+        if (cesty[i].zacatek == s)
+            if (Text duvod = duvod_cekani(static_cast<int>(i)); !duvod.empty())
+                return duvod;
+    return {};
+}

@@ -139,6 +139,7 @@ SeznamMaker nacti_makra() {
         if (!seznam.klavesy.empty())
             seznam.klavesy += '\x0D';
         seznam.klavesy += makro.pismeno;
+        seznam.pismena.push_back(makro.pismeno);
         seznam.radky.push_back(std::move(radek));
     }
     return seznam;

@@ -10,8 +10,9 @@
 
 // What the maintenance screen shows of the macros.
 struct SeznamMaker {
-    std::vector<Text> radky; // one macro a line
-    Text klavesy;            // their letters, separated by character 13
+    std::vector<Text> radky;   // one macro a line
+    Text klavesy;              // their letters, separated by character 13
+    std::vector<Text> pismena; // the letter of each line, as its record holds it
 };
 
 // --- at any time, without change

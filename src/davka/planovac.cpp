@@ -3,8 +3,10 @@
 
 #include "app/casovace.h"
 #include "davka/virtualni_svet.h"
+#include "technologie/provoz2.h"
 
 #include <algorithm>
+#include <array>
 
 Planovac planovac;
 
@@ -20,19 +22,34 @@ void proved(void (*telo)()) {
         planovac.po_kroku();
 }
 
-// The panel starts, stops and retimes its lamp by itself: a new period counts from now.
-void sleduj_panel() {
-    const int perioda = perioda_blikani_diag();
-    if (perioda == planovac.perioda_panelu)
-        return;
-    planovac.perioda_panelu = perioda;
-    planovac.splatno_panelu = svet.cas_ms + perioda;
+// Timers without a period of their own: they start, stop and change by what they serve.
+struct PromennyCasovac {
+    int (*perioda)();
+    void (*telo)();
+};
+constexpr std::array kPromenne = {
+    PromennyCasovac{perioda_blikani_diag, krok_blikani_diag},
+    PromennyCasovac{perioda_provozu2, tik_provozu2},
+};
+
+// A new period counts from now.
+void sleduj_promenne() {
+    planovac.periody_promennych.resize(kPromenne.size());
+    planovac.splatno_promennych.resize(kPromenne.size());
+    for (std::size_t i = 0; i < kPromenne.size(); ++i) {
+        const int perioda = kPromenne[i].perioda();
+        if (perioda == planovac.periody_promennych[i])
+            continue;
+        planovac.periody_promennych[i] = perioda;
+        planovac.splatno_promennych[i] = svet.cas_ms + perioda;
+    }
 }
 
 std::int64_t nejblizsi() {
     std::int64_t cas = *std::min_element(planovac.splatno.begin(), planovac.splatno.end());
-    if (planovac.perioda_panelu > 0)
-        cas = std::min(cas, planovac.splatno_panelu);
+    for (std::size_t i = 0; i < kPromenne.size(); ++i)
+        if (planovac.periody_promennych[i] > 0)
+            cas = std::min(cas, planovac.splatno_promennych[i]);
     return cas;
 }
 
@@ -42,11 +59,12 @@ void proved_splatne() {
             planovac.splatno[i] = dalsi_nasobek(svet.cas_ms, casovace[i].perioda_ms);
             proved(casovace[i].telo);
         }
-    if (planovac.perioda_panelu > 0 && planovac.splatno_panelu <= svet.cas_ms) {
-        planovac.splatno_panelu += planovac.perioda_panelu;
-        proved(krok_blikani_diag);
-    }
-    sleduj_panel();
+    for (std::size_t i = 0; i < kPromenne.size(); ++i)
+        if (planovac.periody_promennych[i] > 0 && planovac.splatno_promennych[i] <= svet.cas_ms) {
+            planovac.splatno_promennych[i] += planovac.periody_promennych[i];
+            proved(kPromenne[i].telo);
+        }
+    sleduj_promenne();
 }
 
 } // namespace
@@ -56,12 +74,12 @@ void spust_planovac() {
     planovac.splatno.clear();
     for (const Casovac& casovac : casovace)
         planovac.splatno.push_back(dalsi_nasobek(svet.cas_ms, casovac.perioda_ms));
-    sleduj_panel();
+    sleduj_promenne();
 }
 
 bool plyn_do(std::int64_t do_ms, const std::function<bool()>& dost) {
     if (planovac.bezi) {
-        sleduj_panel(); // the operator's command may have changed it
+        sleduj_promenne(); // the operator's command may have changed it
         for (std::int64_t cas = nejblizsi(); cas <= do_ms; cas = nejblizsi()) {
             svet.cas_ms = cas;
             proved_splatne();

@@ -3,7 +3,7 @@
 // Each timer is due at the multiples of its period, counted from virtual millisecond 0, and runs with
 // the virtual clock standing at that moment. When several are due at once they run in the order of the
 // table of app/casovace.h: clock, movement, route machine, blinking; the flashing lamp of the signal
-// panel comes last.
+// panel and the date of an open maintenance screen come last.
 #pragma once
 
 #include <cstdint>
@@ -11,10 +11,10 @@
 #include <vector>
 
 struct Planovac {
-    bool bezi = false;                 // the main screen exists
-    std::vector<std::int64_t> splatno; // virtual millisecond at which each timer is due next
-    int perioda_panelu = 0;            // of the signal panel, as last seen; 0 does not run
-    std::int64_t splatno_panelu = 0;
+    bool bezi = false;                   // the main screen exists
+    std::vector<std::int64_t> splatno;   // virtual millisecond at which each timer is due next
+    std::vector<int> periody_promennych; // of the timers that come and go, as last seen; 0 does not run
+    std::vector<std::int64_t> splatno_promennych;
     std::function<void()> po_kroku; // after each body: the check of the state
 };
 extern Planovac planovac;

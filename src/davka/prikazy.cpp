@@ -16,6 +16,7 @@
 #include "davka/vypisy.h"
 #include "desk/zprava.h"
 #include "jizda/vlak.h"
+#include "technologie/provoz2.h"
 #include "zaklad/cisla.h"
 #include "zaklad/soubory.h"
 
@@ -264,7 +265,18 @@ CilRuky prvek_ruky(Slova slova, std::size_t nejvice_slov) {
 }
 
 Seznam* seznam_desky(std::string_view slovo) {
-    return slovo == "lstZpravy" ? &relief.lstZpravy : slovo == "lstDenik" ? &relief.lstDenik : nullptr;
+    struct SeznamPodleJmena {
+        std::string_view jmeno;
+        Seznam* seznam;
+    };
+    const std::array seznamy = {
+        SeznamPodleJmena{"lstZpravy", &relief.lstZpravy}, SeznamPodleJmena{"lstDenik", &relief.lstDenik},
+        SeznamPodleJmena{"lstZasobnik", &provoz2.lstZasobnik},
+        SeznamPodleJmena{"lstVYL_UPO", &provoz2.lstVYL_UPO}, SeznamPodleJmena{"lstmakra", &provoz2.lstmakra}};
+    for (const SeznamPodleJmena& s : seznamy)
+        if (s.jmeno == slovo)
+            return s.seznam;
+    return nullptr;
 }
 
 void prikaz_klik(BehSkriptu&, Slova slova) {

@@ -6,12 +6,14 @@
 #include "app/casovace.h"
 #include "app/simulace.h"
 #include "cesty/dotazy.h"
+#include "cesty/duvod.h"
 #include "cesty/zasobnik.h"
 #include "davka/popisy.h"
 #include "davka/skript.h"
 #include "davka/virtualni_svet.h"
 #include "prvky/panel.h"
 #include "prvky/souhlasy.h"
+#include "technologie/provoz2.h"
 #include "zaklad/platforma.h"
 
 #include <algorithm>
@@ -56,6 +58,16 @@ template <auto& tabulka> void vypis_tabulku(ZaznamJsonu& z) {
 }
 
 // --- one function a word
+
+// The routes, and beside their fields why each waits now: empty when it waits for nothing.
+void vypis_cesty(ZaznamJsonu& z) {
+    Json tabulka_cest = zaznamy(cesty);
+    auto& radky = std::get<SeznamJsonu>(tabulka_cest.hodnota);
+    for (std::size_t i = 0; i < radky.size(); ++i)
+        pridej(std::get<ZaznamJsonu>(radky[i].hodnota), "duvod",
+               json_text(duvod_cekani(static_cast<int>(i))));
+    pridej(z, "radky", std::move(tabulka_cest));
+}
 
 void vypis_hodiny(ZaznamJsonu& z) {
     pridej(z, "cas", json_text(prvek(relief.lblcas, 0).text()));
@@ -154,12 +166,38 @@ void vypis_menu(ZaznamJsonu& z) {
     pridej(z, "polozky", zaznamy(menu.polozky));
 }
 
+void vypis_provoz2(ZaznamJsonu& z) {
+    struct PopisSeznamu {
+        std::string_view jmeno;
+        const Seznam& seznam;
+    };
+    pridej(z, "hlava", json_text(hlava_technologie()));
+    pridej(z, "titul", json_text(kTitulProvoz2));
+    pridej(z, "lblDatum", json_text(provoz2.lblDatum));
+    ZaznamJsonu vybrane;
+    for (const PopisSeznamu& s :
+         {PopisSeznamu{"lstZasobnik", provoz2.lstZasobnik}, PopisSeznamu{"lstVYL_UPO", provoz2.lstVYL_UPO},
+          PopisSeznamu{"lstmakra", provoz2.lstmakra}, PopisSeznamu{"lstPocitace", provoz2.lstPocitace}}) {
+        pridej(z, s.jmeno, texty(s.seznam.radky));
+        pridej(vybrane, s.jmeno, s.seznam.vybrany);
+    }
+    pridej(z, "vybrany", Json(std::move(vybrane)));
+    pridej(z, "podrobnosti", texty(provoz2.podrobnosti));
+    pridej(z, "lblKlavesy_maker", json_text(provoz2.lblKlavesy_maker));
+    pridej(z, "lblcisla", json_text(provoz2.lblcisla));
+    pridej(z, "lblcisla1", json_text(provoz2.lblcisla1));
+    pridej(z, "lblCisla2", json_text(provoz2.lblCisla2));
+    pridej(z, "lblCisla3", json_text(provoz2.lblCisla3));
+}
+
 void vypis_obrazovka(ZaznamJsonu& z) {
     pridej(z, "obrazovka", json_text(simulace.obrazovka));
     if (simulace.obrazovka == "frmMain") {
         pridej(z, "lstZpravy", texty(relief.lstZpravy.radky));
         pridej(z, "lstDenik", texty(relief.lstDenik.radky));
     }
+    if (provoz2_otevren())
+        vypis_provoz2(z);
 }
 
 void vypis_pipnuti(ZaznamJsonu& z) {
@@ -218,7 +256,7 @@ struct Vypis {
 constexpr std::array kVypisy = {
     Vypis{"hodiny", "", vypis_hodiny},
     Vypis{"prikaz", "", vypis_prikaz},
-    Vypis{"cesty", "cesta", vypis_tabulku<cesty>},
+    Vypis{"cesty", "cesta", vypis_cesty},
     Vypis{"vlaky", "vlak", vypis_tabulku<vlaky>},
     Vypis{"koleje_vlaky", "", vypis_tabulku<koleje_vlaky>},
     Vypis{"prejezdy", "", vypis_tabulku<prejezdy>},

@@ -210,7 +210,7 @@ bool vstup(int c, int i, int v, std::uint8_t odkud) {
         if (!vstup_na_kolej(c, i, v, odkud))
             return false;
     } else if (kam == druh_prvku::vyhybka && !pn && odkud != druh_prvku::vykolejka) {
-        const Cesta cesta = cesta_c(c);
+        const Cesta& cesta = cesta_c(c);
         obsad_vyhybku(cesta, i + 1);
         if (druh_c(cesta, i + 2) == druh_prvku::vyhybka)
             obsad_vyhybku(cesta, i + 2); // two coupled switches are shown occupied together
@@ -228,6 +228,7 @@ bool vstup(int c, int i, int v, std::uint8_t odkud) {
     vlak.prvky.push_back(prvek_c(cesta, i + 1));
     vlak.prvky_druh.push_back(kam);
     vlak.prvky_poloha.push_back(poloha_c(cesta, i + 1));
+    uber_z_opustenych(v);
     if (kam == druh_prvku::kolej)
         kontrola_vstupu(c, i, v);
     return true;
@@ -340,7 +341,10 @@ void uvolni_kolej(int v, int j) {
             vymaz_cislo(protismerna, true, {});
     }
     const Text cislo = vlak_c(v).posun ? Text{} : text_cisla(zobrazene_cislo(vlak_c(v)));
-    if (vlak_na_koleji(e)) {
+    // The number that stays on the label of a track with two of them goes with its train.
+    if (cislovana && !vlak_na_koleji(e))
+        smaz_cislo_z_dvou(e, zobrazene_cislo(vlak_c(v)));
+    if (vlak_na_koleji(e) || drzi_jiny(e, v)) {
         nastav_metry(e, kPodruhemVlaku_m);
         return;
     }

@@ -1,6 +1,7 @@
 // jizda/na_koleji.cpp - lists of trains on tracks, and the number labels.
 #include "jizda/na_koleji.h"
 
+#include "cesty/cisla_vlaku.h"
 #include "desk/stitky.h"
 #include "jizda/zastavky.h"
 #include "relief/relief.h"
@@ -57,6 +58,22 @@ void zobraz_jeden_stitek(int e, const std::vector<std::int16_t>& seznam) {
     const int vlak = prvni_vlak(seznam.begin(), seznam.end());
     nastav_text(stitek, vlak >= 0 && e < 500 ? text_vlaku(vlak) : Text{});
     stitek.viditelny = !orez(stitek.text()).empty();
+}
+
+// Out of the lists of those tracks for which the condition holds; their labels follow.
+template <class Podminka> void uber_ze_seznamu(int vlak, Podminka podminka) {
+    for (std::size_t i = 0; i < koleje_vlaky.size(); ++i) {
+        const std::vector<std::int16_t>& seznam = koleje_vlaky[i].vlaky;
+        const int prvek = koleje_vlaky[i].prvek;
+        if (std::find(seznam.begin(), seznam.end(), vlak) == seznam.end() || !podminka(prvek))
+            continue;
+        uber_z_koleje(prvek, vlak);
+        if (vlak_na_koleji(prvek))
+            continue;
+        const std::int32_t cislo = zobrazene_cislo(vlaky[static_cast<std::size_t>(vlak)]);
+        smaz_cislo_z_dvou(prvek, cislo);
+        pis_cislo(prvek, text_cisla(cislo), true);
+    }
 }
 
 } // namespace
@@ -148,15 +165,21 @@ void nastav_pozadi_stitku(int stitek, Barva pozadi) {
 }
 
 void uber_z_opustenych(int vlak) {
-    const Vlak& v = vlaky[static_cast<std::size_t>(vlak)];
-    for (std::size_t i = 0; i < koleje_vlaky.size(); ++i) {
-        const KolejVlaky& kolej = koleje_vlaky[i];
-        if (std::find(kolej.vlaky.begin(), kolej.vlaky.end(), vlak) == kolej.vlaky.end() ||
-            drzi_prvek(v, kolej.prvek))
-            continue;
-        const int prvek = kolej.prvek;
-        uber_z_koleje(prvek, vlak);
-        if (!vlak_na_koleji(prvek))
-            zobraz_kolej(static_cast<int>(i));
-    }
+    uber_ze_seznamu(vlak,
+                    [vlak](int prvek) { return !drzi_prvek(vlaky[static_cast<std::size_t>(vlak)], prvek); });
+}
+
+void uber_ze_vsech(int vlak) {
+    uber_ze_seznamu(vlak, [](int) { return true; });
+}
+
+void smaz_cislo_z_dvou(int prvek, std::int32_t cislo) {
+    const int zaznam = zaznam_koleje(prvek);
+    if (zaznam < 0 || !je_cislo_koleje(prvek) || !je_cislo_koleje(prvek + 200))
+        return;
+    for (const int stitek : {prvek, prvek + 200})
+        if (cele_z_textu(orez(relief.cislo_koleje[stitek].text())) == cislo) {
+            zobraz_kolej(zaznam);
+            return;
+        }
 }

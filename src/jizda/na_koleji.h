@@ -4,6 +4,8 @@
 #include "jizda/vlak.h"
 #include "relief/prvek.h"
 
+#include <cstdint>
+
 // --- by everything that moves, makes or takes away a train
 
 // Puts a train into the list of an element: without `vedle` (-1) at the low end for `smer` true, at the
@@ -24,6 +26,10 @@ void nastav_pozadi_stitku(int stitek, Barva pozadi);
 // Takes a train out of the lists of all tracks that it does not hold: its tail was pulled up by hand, and
 // its number stayed there until now.
 void uber_z_opustenych(int vlak);
+// Out of every list: the train leaves the area.
+void uber_ze_vsech(int vlak);
+// A track with two labels shows its name again where it still shows this number; nothing stands there now.
+void smaz_cislo_z_dvou(int prvek, std::int32_t cislo);
 
 // --- at any time, without change
 

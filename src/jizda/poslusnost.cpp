@@ -120,17 +120,20 @@ bool spravny_smer(const Vlak& vlak, int stanice) {
     return cil == stanice || (cil == 4 && stanice == 5) || (cil == 5 && stanice == 4);
 }
 
-void smaz_hlaseni_zpozdeni(std::int32_t cislo) {
+// Delays are told by the number of the timetable, which is the first one.
+void smaz_hlaseni_zpozdeni(const Vlak& vlak) {
     constexpr std::size_t kSloupecCisla = 16;
     const auto jeho = [&](const Text& radek) {
+        const std::int32_t cislo = cele_z_textu(vyrez(radek, kSloupecCisla));
         return radek.find("Zpoždění vlaku"_cz) != Text::npos &&
-               cele_z_textu(vyrez(radek, kSloupecCisla)) == cislo;
+               (cislo == vlak.cislo || cislo == zobrazene_cislo(vlak));
     };
     std::vector<Text>& radky = relief.lstZpravy.radky;
     const auto konec = std::remove_if(radky.begin(), radky.end(), jeho);
     if (konec == radky.end())
         return;
     radky.erase(konec, radky.end());
+    relief.lstZpravy.vybrany = std::min(relief.lstZpravy.vybrany, static_cast<int>(radky.size()) - 1);
     ++revize_reliefu;
 }
 
@@ -140,10 +143,11 @@ void zapocti_odchod_zalohy(const Vlak& vlak) {
         return;
     if (vlak.vozy_urceni.front() == "ZAL" || vlak.vozy_urceni.back() == "ZAL")
         --stav_provozu.pocet_zaloh;
-    if (vlak.vozy_urceni.front() == "ZAL" && !vlak.vozy.empty() && vlak.vozy.front() == "731") {
-        stav_provozu.zaloha_731_jede = false;
-        stav_provozu.zaloha_731_strana = vlak.prvky.back() == 557;
-    }
+    for (std::size_t i = 0; i < std::min(vlak.vozy.size(), vlak.vozy_urceni.size()); ++i)
+        if (vlak.vozy_urceni[i] == "ZAL" && vlak.vozy[i] == "731") {
+            stav_provozu.zaloha_731_jede = false;
+            stav_provozu.zaloha_731_strana = vlak.prvky.back() == 557;
+        }
 }
 
 } // namespace
@@ -197,8 +201,9 @@ bool srovnej_smer(int cesta, int i, int v) {
     if (vlak.vozy.empty())
         return false;
     // A cab at both ends, a shunt, a light engine; else a locomotive at the far end.
-    const bool vzdy = je_v(static_cast<int>(cislo_z_textu(vlak.vozy.front())), {943, 954, 560}) ||
-                      !cesta_c(cesta).VC || vlak.druh == 16;
+    const Text& celo = vlak.vozy.front();
+    const bool vzdy =
+        celo == "943" || celo == "954" || celo == "560" || !cesta_c(cesta).VC || vlak.druh == 16;
     if (!vzdy && !je_loko(vlak.vozy.back()))
         return false;
     otoc_vlak(v);
@@ -269,11 +274,13 @@ void vlak_opustil(int v, int stanice) {
          j < prvky.size(); ++j) {
         if (vlak_c(v).prvky_druh[j] != druh_prvku::kolej)
             continue;
+        if (drzi_jiny(prvky[j], v))
+            continue; // another train stands there too: the track stays occupied
         barvi_prvek(prvky[j], barvy::seda);
         pis_cislo(prvky[j], text_cisla(cislo), true);
         nastav_metry(prvky[j], 0);
     }
-    uber_z_koleje(prvky.back(), v);
+    uber_ze_vsech(v);
     if (!spravny_smer(vlak_c(v), stanice)) {
         Text veta = " Vlak ";
         veta += text_cisla(cislo);
@@ -282,7 +289,7 @@ void vlak_opustil(int v, int stanice) {
         veta += ") !";
         zprava(" POZOR "_cz, veta, barvy::bila, 0, false, 0xFFFFFF, barvy::cervena);
     }
-    smaz_hlaseni_zpozdeni(cislo);
+    smaz_hlaseni_zpozdeni(vlak_c(v));
     zapocti_odchod_zalohy(vlak_c(v));
     zrus_vlak(v);
 }

@@ -366,8 +366,7 @@ void zkrat_vlak(int v) {
         switch (vlak.prvky_druh[static_cast<std::size_t>(j)]) {
         case druh_prvku::kolej:
             // A track under another train, or under the head itself, stays occupied.
-            if (std::none_of(vlaky.begin(), vlaky.end(),
-                             [e](const Vlak& jiny) { return jiny.cislo > 0 && drzi_prvek(jiny, e); })) {
+            if (!drzi_jiny(e, v) && !drzi_prvek(vlak, e)) {
                 barvi_prvek(e, barvy::seda);
                 nastav_metry(e, 0);
             }

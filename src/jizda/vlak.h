@@ -84,6 +84,8 @@ std::vector<KolejVlaky> prvni_koleje_vlaky();
 
 // The train holds the track: one of its entries from the tail to the head.
 bool drzi_prvek(const Vlak& v, int kolej);
+// Another train than v holds the track.
+bool drzi_jiny(int kolej, int v);
 
 // The number that the operator sees: cislo2 when it is in force, else cislo.
 inline std::int32_t zobrazene_cislo(const Vlak& v) {

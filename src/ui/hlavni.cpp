@@ -68,7 +68,7 @@ void ukaz_hlavni_obrazovku() {
 }
 
 // Boxes and dialogues as dark as the desk.
-void nastav_vzhled() {
+void nastav_vzhled(QApplication& aplikace) {
     QApplication::setStyle(QStringLiteral("Fusion"));
     const QColor plocha(18, 22, 27), pole(5, 7, 10), tlacitko(42, 50, 59), text(213, 219, 225),
         vyber(32, 80, 192);
@@ -81,6 +81,7 @@ void nastav_vzhled() {
     paleta.setColor(QPalette::Disabled, QPalette::WindowText, QColor(107, 119, 130));
     paleta.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(107, 119, 130));
     QApplication::setPalette(paleta);
+    aplikace.setStyleSheet(QStringLiteral("QMessageBox { border: 1px solid #6b7782; }"));
 }
 
 void priprav(const VolbyStartu& volby) {
@@ -110,7 +111,7 @@ int main(int pocet, char** slova) {
     QApplication aplikace(pocet, slova);
     QApplication::setApplicationName(QStringLiteral("KPS RVZ TESK"));
     QApplication::setQuitOnLastWindowClosed(false);
-    nastav_vzhled();
+    nastav_vzhled(aplikace);
     nova_simulace();
     zapln_platformu();
     nastav_cestu_aplikace();

@@ -5,9 +5,12 @@
 #include "app/konec.h"
 #include "app/simulace.h"
 #include "app/vstup.h"
+#include "cesty/duvod.h"
 #include "desk/menu.h"
 #include "ui/brana.h"
 #include "ui/pismo.h"
+#include "ui/technologie.h"
+#include "zaklad/cisla.h"
 
 #include <QCloseEvent>
 #include <QCursor>
@@ -28,6 +31,7 @@ namespace {
 constexpr int kPrekreslovani_ms = 40;
 // Where the lists of the bottom panel stand, pixels of the desk.
 constexpr QRect kMistoSeznamu(4, 640, 1016, 126);
+constexpr int kVyskaListy = 20 * kTwipu; // of the top bar
 constexpr QRgb kNajetiPrvku = 0xFF5A6A7C;
 
 constexpr const char* kVzhledSeznamu =
@@ -74,6 +78,8 @@ constexpr Preklad kKlavesy[] = {
     {Qt::Key_Up, KodKlavesy::sipka_nahoru},
     {Qt::Key_Down, KodKlavesy::sipka_dolu},
     {Qt::Key_Delete, KodKlavesy::delete_},
+    {Qt::Key_Tab, KodKlavesy::tab},
+    {Qt::Key_Backtab, KodKlavesy::tab},
 };
 
 // The keys of the numeric block are taken from the main block too: portable keyboards have no other.
@@ -91,6 +97,31 @@ Klavesa klavesa_qt(const QKeyEvent& udalost) {
         if (p.qt == udalost.key())
             k.kod = p.kod;
     return k;
+}
+
+// The element is outlined under the pointer. Empty rows of the train table and the command line are not.
+bool zvyraznuje_se(const Nalezeny& kde) {
+    if (!tabulka(kde.druh).je(kde.n) || kde.druh == Druh::lblPrikaz || kde.druh == Druh::lblVolba)
+        return false;
+    const Prvek& p = tabulka(kde.druh)[kde.n];
+    return p.viditelny && (kde.druh != Druh::lblTabulka_vlaku || !orez(p.text()).empty());
+}
+
+// Tells one open menu from another: its name and the element it was opened on; empty when none is open.
+Text otisk_nabidky() {
+    if (menu.jmeno.empty())
+        return {};
+    return menu.jmeno + ' ' + text_cisla(static_cast<int>(menu.druh)) + ' ' + text_cisla(menu.prvek);
+}
+
+// What the waiting line of the stack, or a start signal, has to say to "why not?".
+Text duvod_prvku(const Nalezeny& kde) {
+    switch (kde.druh) {
+    case Druh::lblZasobnik_blokv: return duvod_zasobniku();
+    case Druh::navestidlo:
+    case Druh::navestidlo_ser: return duvod_u_navestidla(kde.n);
+    default: return {};
+    }
 }
 
 // Name that the pointer shows over an element.
@@ -151,6 +182,9 @@ HlavniOkno::HlavniOkno() {
             obnov();
         });
     }
+
+    technologie = new ObrazovkaTechnologie(
+        this, [this](QKeyEvent* udalost) { return stisk(udalost); }, [this] { obnov(); });
 
     for (const Casovac& casovac : casovace) {
         auto* okna = new QTimer(this);
@@ -230,6 +264,7 @@ void HlavniOkno::obnov() {
         obnov_seznam(s);
     obnov_pole();
     obnov_nabidku();
+    technologie->obnov();
     if (const int perioda = perioda_blikani_diag(); perioda == 0)
         blikani_diag.stop();
     else if (!blikani_diag.isActive() || blikani_diag.interval() != perioda)
@@ -290,9 +325,9 @@ void HlavniOkno::obnov_pole() {
 }
 
 void HlavniOkno::obnov_nabidku() {
-    if (menu.jmeno == nabidka_ukazuje)
+    if (otisk_nabidky() == nabidka_ukazuje)
         return;
-    nabidka_ukazuje = menu.jmeno;
+    nabidka_ukazuje = otisk_nabidky();
     if (nabidka != nullptr) {
         nabidka->disconnect(this);
         nabidka->close();
@@ -326,7 +361,7 @@ void HlavniOkno::obnov_nabidku() {
     // The choice is told after the menu has gone; what is closed without one is closed in the core too.
     connect(nabidka, &QMenu::aboutToHide, this, [this] {
         QTimer::singleShot(0, this, [this, ukazovala = nabidka_ukazuje] {
-            if (menu.jmeno == ukazovala && (nabidka == nullptr || !nabidka->isVisible()))
+            if (otisk_nabidky() == ukazovala && (nabidka == nullptr || !nabidka->isVisible()))
                 v_jadre(zavri_menu);
             obnov();
         });
@@ -359,6 +394,9 @@ void HlavniOkno::mousePressEvent(QMouseEvent* udalost) {
     najed(misto);
     const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(misto));
     const Tlacitko tlacitko = tlacitko_mysi(udalost->button());
+    if (!kde && udalost->button() == Qt::LeftButton && !isFullScreen() && windowHandle() != nullptr &&
+        na_twipy(misto).y() < kVyskaListy && windowHandle()->startSystemMove())
+        return; // the window is dragged by its bar
     v_jadre([&] {
         if (kde)
             klik(kde->druh, kde->n, tlacitko, udalost->modifiers().testFlag(Qt::ControlModifier));
@@ -370,7 +408,8 @@ void HlavniOkno::mousePressEvent(QMouseEvent* udalost) {
 
 void HlavniOkno::mouseDoubleClickEvent(QMouseEvent* udalost) {
     const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(udalost->position()));
-    if (udalost->button() != Qt::LeftButton || !kde) {
+    // Keys of the bar and of the panel take two quick clicks as two.
+    if (udalost->button() != Qt::LeftButton || !kde || kde->druh > Druh::lblPN) {
         mousePressEvent(udalost);
         return;
     }
@@ -462,11 +501,16 @@ bool HlavniOkno::event(QEvent* udalost) {
     if (udalost->type() == QEvent::ToolTip) {
         const auto* napoveda = static_cast<QHelpEvent*>(udalost);
         const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(napoveda->pos()));
-        const Text text = kde ? jmenovka(*kde) : Text{};
-        if (orez(text).empty())
+        Text text = kde ? Text(orez(jmenovka(*kde))) : Text{};
+        if (kde)
+            v_jadre([&] {
+                if (const Text duvod = duvod_prvku(*kde); !duvod.empty())
+                    text += (text.empty() ? "" : "\n") + duvod;
+            });
+        if (text.empty())
             QToolTip::hideText();
         else
-            QToolTip::showText(napoveda->globalPos(), na_qstring(orez(text)), this);
+            QToolTip::showText(napoveda->globalPos(), na_qstring(text), this);
         return true;
     }
     return QWidget::event(udalost);
@@ -482,7 +526,7 @@ void HlavniOkno::paintEvent(QPaintEvent* udalost) {
                                .intersected(platno.obraz().rect());
         p.drawImage(body.topLeft(), platno.obraz(), body);
     }
-    if (najety && tabulka(najety->druh).je(najety->n) && tabulka(najety->druh)[najety->n].viditelny) {
+    if (najety && zvyraznuje_se(*najety)) {
         const QRect cil = platno.v_bodech(misto_vstupu(najety->druh, tabulka(najety->druh)[najety->n]));
         p.setPen(QColor::fromRgb(kNajetiPrvku));
         p.drawRect(cil.adjusted(0, 0, -1, -1));

@@ -82,7 +82,8 @@ QWidget* rodic() {
 }
 
 void okno(TextPohled titul, TextPohled text) {
-    QMessageBox box(QMessageBox::NoIcon, na_qstring(titul), na_qstring(text), QMessageBox::Ok, rodic());
+    QMessageBox box(QMessageBox::NoIcon, na_qstring(titul), na_qstring(text), QMessageBox::NoButton, rodic());
+    box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
     box.exec();
 }
 

@@ -11,6 +11,8 @@
 #include <QPainterPath>
 #include <QScreen>
 
+#include <array>
+
 namespace {
 
 constexpr QSize kVelikost(560, 300);
@@ -57,39 +59,43 @@ void nakresli_zhlavi(QPainter& p) {
 } // namespace
 
 QPolygon obrys_uvodu() {
-    const int s = kVelikost.width(), v = kVelikost.height(), z = 12; // z: the step of a corner
-    return QPolygon({
-        {0, 2 * z},
-        {z, 2 * z},
-        {z, z},
-        {2 * z, z},
-        {2 * z, 0}, // left upper corner
-        {s / 2 - 5 * z, 0},
-        {s / 2 - 4 * z, z},
-        {s / 2 + 4 * z, z},
-        {s / 2 + 5 * z, 0}, // notch above
-        {s - 2 * z, 0},
-        {s - 2 * z, z},
-        {s - z, z},
-        {s - z, 2 * z},
-        {s, 2 * z},         // right upper corner
-        {s - z / 2, v / 2}, // right side
-        {s, v - 2 * z},
-        {s - z, v - 2 * z},
-        {s - z, v - z},
-        {s - 2 * z, v - z},
-        {s - 2 * z, v}, // right lower one
-        {s / 2 + 5 * z, v},
-        {s / 2 + 4 * z, v - z},
-        {s / 2 - 4 * z, v - z},
-        {s / 2 - 5 * z, v}, // notch below
-        {2 * z, v},
-        {2 * z, v - z},
-        {z, v - z},
-        {z, v - 2 * z},
-        {0, v - 2 * z}, // left lower corner
-        {z / 2, v / 2}, // left side
-    });
+    constexpr int s = kVelikost.width(), v = kVelikost.height(), z = 12; // z: the step of a corner
+    constexpr std::array kRohy = {
+        // left upper corner, notch above, right upper corner, right side
+        QPoint(0, 2 * z),
+        QPoint(z, 2 * z),
+        QPoint(z, z),
+        QPoint(2 * z, z),
+        QPoint(2 * z, 0),
+        QPoint(s / 2 - 5 * z, 0),
+        QPoint(s / 2 - 4 * z, z),
+        QPoint(s / 2 + 4 * z, z),
+        QPoint(s / 2 + 5 * z, 0),
+        QPoint(s - 2 * z, 0),
+        QPoint(s - 2 * z, z),
+        QPoint(s - z, z),
+        QPoint(s - z, 2 * z),
+        QPoint(s, 2 * z),
+        QPoint(s - z / 2, v / 2),
+        // right lower corner, notch below, left lower corner, left side
+        QPoint(s, v - 2 * z),
+        QPoint(s - z, v - 2 * z),
+        QPoint(s - z, v - z),
+        QPoint(s - 2 * z, v - z),
+        QPoint(s - 2 * z, v),
+        QPoint(s / 2 + 5 * z, v),
+        QPoint(s / 2 + 4 * z, v - z),
+        QPoint(s / 2 - 4 * z, v - z),
+        QPoint(s / 2 - 5 * z, v),
+        QPoint(2 * z, v),
+        QPoint(2 * z, v - z),
+        QPoint(z, v - z),
+        QPoint(z, v - 2 * z),
+        QPoint(0, v - 2 * z),
+        QPoint(z / 2, v / 2),
+    };
+    static_assert(kRohy.size() == 30);
+    return QPolygon(QList<QPoint>(kRohy.begin(), kRohy.end()));
 }
 
 UvodniObrazovka::UvodniObrazovka() : QWidget(nullptr, Qt::FramelessWindowHint | Qt::SplashScreen) {

@@ -24,7 +24,7 @@ assert stul.program.poll() == 1, "bez souboru program nekončí: %s" % stul.prog
 # a second instance: the same, while the first one shows its start screen
 os.rename(os.path.join(slozka, "data", "jinam"), os.path.join(slozka, "data", "tesk.stg"))
 stul.program = subprocess.Popen([program], cwd=slozka, env=stul.prostredi)
-stul.cekej_na("úvodní formulář", lambda o: o.bodu(*s.FORMULAR, s.BARVA_FORMULARE) > 1000)
+stul.cekej_na("úvodní formulář", s.je_formular)
 druha = subprocess.Popen([program], cwd=slozka, env=stul.prostredi)
 for _ in range(10):
     time.sleep(1)

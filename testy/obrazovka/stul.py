@@ -140,7 +140,7 @@ class Stul:
         beh = subprocess.run(["import", "-window", "root", "-depth", "8", "rgb:-"], env=self.prostredi,
                              check=True, capture_output=True)
         assert len(beh.stdout) == self.sirka * self.vyska * 3
-        return Obraz(beh.stdout, self.sirka)
+        return Obraz(beh.stdout, self.sirka, self.vyska)
 
     def cekej_na(self, co, podminka, nejdele=30):
         """The picture for which the condition holds; the test fails when none comes in time."""
@@ -156,8 +156,8 @@ class Stul:
 
 
 class Obraz:
-    def __init__(self, bajty, sirka):
-        self.bajty, self.sirka = bajty, sirka
+    def __init__(self, bajty, sirka, vyska):
+        self.bajty, self.sirka, self.vyska = bajty, sirka, vyska
 
     def bod(self, x, y):
         i = 3 * (y * self.sirka + x)
@@ -191,33 +191,38 @@ def priprav(argumenty):
 
 
 # What tells the screens from one another, in pixels of the 1024 by 768 desk.
-FORMULAR = (200, 180, 100, 100)  # a corner of the start screen in the middle of the display
 BARVA_FORMULARE = (18, 22, 27)
 RADEK_PRIKAZU = (0, 23, 60, 16)
 HODINY = (22, 3, 72, 14)
 
 
-def je_prihlaseni(obraz):
-    """A green code stands on the command line."""
-    return obraz.bodu(*RADEK_PRIKAZU, ZELENA) > 100
+def je_prihlaseni(obraz, krat=1):
+    """A green code stands on the command line; `krat` is the scale of the desk."""
+    return obraz.bodu(*(krat * x for x in RADEK_PRIKAZU), ZELENA) > 100
 
 
-def prihlas(stul):
+def je_formular(obraz):
+    """The start screen stands in the middle of the display."""
+    return obraz.bodu(obraz.sirka // 2 - 310, obraz.vyska // 2 - 200, 100, 100, BARVA_FORMULARE) > 1000
+
+
+def prihlas(stul, krat=1):
     """From the start screen to the running clock, as an operator does it."""
-    ukazuje = lambda o: o.bodu(*FORMULAR, BARVA_FORMULARE) > 1000
-    stul.cekej_na("úvodní formulář", ukazuje)
+    radek = tuple(krat * x for x in RADEK_PRIKAZU)
+    prihlaseni = lambda o: je_prihlaseni(o, krat)
+    stul.cekej_na("úvodní formulář", je_formular)
     for _ in range(10):  # drawn is not yet in focus: a machine under load may lose the first key
         stul.klavesa("Return")
         time.sleep(1)
-        if not ukazuje(stul.obraz()):
+        if not je_formular(stul.obraz()):
             break
-    stul.cekej_na("přihlášení INIT", je_prihlaseni, 40)
+    stul.cekej_na("přihlášení INIT", prihlaseni, 40)
     for dalsi in ("TPC", "ARCHIV"):
-        predtim = stul.obraz().vyrez(*RADEK_PRIKAZU)
+        predtim = stul.obraz().vyrez(*radek)
         stul.klavesa("Return")
-        stul.cekej_na("přihlášení " + dalsi, lambda o: je_prihlaseni(o) and o.vyrez(*RADEK_PRIKAZU) != predtim)
+        stul.cekej_na("přihlášení " + dalsi, lambda o: prihlaseni(o) and o.vyrez(*radek) != predtim)
     stul.klavesa("Return")
-    return stul.cekej_na("prázdný příkazový řádek", lambda o: not je_prihlaseni(o))
+    return stul.cekej_na("prázdný příkazový řádek", lambda o: not prihlaseni(o))
 
 
 def ukonci(stul):

@@ -1,0 +1,542 @@
+// nastroje/kolejiste/kontrola_tras.cpp - the proof of the routes.
+#include "kolejiste/kontrola_tras.h"
+
+#include "kolejiste/kresba.h"
+#include "relief/relief.h"
+
+#include <algorithm>
+#include <bitset>
+#include <cstdlib>
+
+namespace kolejiste {
+
+namespace {
+
+constexpr std::size_t kNejvicPrvku = 256; // a train counts the elements of its route in a byte
+constexpr int kOdstupTrati = 50;          // sections of a line follow one another by this number
+
+std::string s(int n) {
+    return std::to_string(n);
+}
+
+// --- what the running and the locking do by number
+
+struct Dvojice {
+    int a, b;
+};
+// The crossing of Hrabov is closed by a train on one of the first and opened by it on one of the second.
+constexpr std::array kPrejezd0Zavira = {107, 108, 427};
+constexpr std::array kPrejezd0Otvira = {100, 106, 543, 544, 4, 427};
+constexpr std::array kPrejezd1 = {279, 280};
+// Where trains leave the area, by their sense.
+constexpr std::array kOdchodVlevo = {86, 87, 88, 89, 90, 212, 213, 219, 25, 91, 92, 119, 557, 595};
+constexpr std::array kOdchodVpravo = {41, 42, 43, 62, 63, 64, 65, 66, 67, 68, 69, 55, 56, 112, 574};
+// A train on the first element of a route may not have entered the line of a neighbour, nor turned.
+constexpr std::array kNePrvni = {84, 85, 117, 115, 116, 118};
+constexpr std::array kNikdy = {335, 336}; // drawn a second time
+
+template <class Pole> bool je_mezi(const Pole& pole, int n) {
+    return std::find(pole.begin(), pole.end(), n) != pole.end();
+}
+
+// The sense of a train turns where the drawing is folded.
+bool obraci_se(DruhPrvku odkud, int kolej) {
+    if (odkud == DruhPrvku::kolej)
+        return kolej == 115 || kolej == 116 || kolej == 118;
+    return kolej == 118 || kolej == 335 || kolej == 336;
+}
+
+constexpr int kTratniUseky = 600;
+// Ends that stand for the section of a line behind them.
+constexpr std::array<Dvojice, 6> kJinyKonec = {
+    {{84, 212}, {85, 213}, {117, 219}, {93, 634}, {94, 636}, {96, 632}}};
+
+// The track of a start signal, by which the machine of the routes and the trains know it.
+int kolej_startu(const Plan& plan, int signal) {
+    if (signal == 513 || signal == 998)
+        return 118;
+    if (signal >= 600 && signal < 700)
+        return signal % 2 ? plan.posledni_oddil(signal - 1) : signal;
+    if (signal > 500 && signal < 600 && signal != 511)
+        return signal;
+    return ::kolej_navestidla(signal);
+}
+
+// Ends of switches: A of switch n is 2n, B 2n+1.
+using Konce = std::bitset<512>;
+struct Naroky { // what a route needs of ends of switches, of its own and by the couplings
+    Konce plus, minus;
+    void chce(int vyhybka, bool konec_b, bool v_minus) {
+        (v_minus ? minus : plus).set(static_cast<std::size_t>(2 * vyhybka + konec_b));
+    }
+};
+// Elements that stop a second route: a track is held by shunt routes among themselves, of the others only
+// switches count, for a calling-on route holds no track.
+using Zamcene = std::bitset<2048>;
+
+struct Projeta { // a route as far as it could be followed
+    bool cela = false;
+    Konec vystup; // out of its last element
+};
+
+class Kontrola {
+public:
+    Kontrola(const Plan& plan_, const Graf& graf_, const std::vector<Trasa>& trasy_,
+             std::vector<Zavada>& zavady_)
+        : plan(plan_), graf(graf_), trasy(trasy_), zavady(zavady_) {
+        for (const Kolej& k : plan.koleje)
+            if (!k.vzor)
+                koleje[k.cislo] = &k;
+        for (const Vyhybka& v : plan.vyhybky)
+            vyhybky[v.cislo] = &v;
+        for (const Navestidlo& n : plan.navestidla) {
+            navestidla[n.cislo] = &n;
+            u_konce[{plan.kolej_navestidla(n), n.u_konce()}].push_back(&n);
+        }
+    }
+    void vse();
+
+private:
+    const Plan& plan;
+    const Graf& graf;
+    const std::vector<Trasa>& trasy;
+    std::vector<Zavada>& zavady;
+    std::map<int, const Kolej*> koleje;
+    std::map<int, const Vyhybka*> vyhybky;
+    std::map<int, const Navestidlo*> navestidla;
+    std::map<std::pair<int, Strana>, std::vector<const Navestidlo*>> u_konce;
+    std::vector<Projeta> projete;
+
+    static std::string jmeno(const Trasa& t) {
+        return (t.druh == DruhTrasy::vlak ? "cesta " : "posun ") + s(t.zaznam.zacatek) + " " +
+               s(t.zaznam.konec);
+    }
+    void zavada(const Trasa& t, std::string text) { zavady.push_back({t.misto, jmeno(t), std::move(text)}); }
+    bool ma_kolej(const ZaznamCesty& z, int n, std::size_t od = 0) const {
+        for (std::size_t k = od; k < z.prvky.size(); ++k)
+            if (z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::kolej) && z.prvky[k] == n)
+                return true;
+        return false;
+    }
+    BodKresby misto_vyhybky(const Vyhybka& v, Obraz obraz) const {
+        return na_plochu(plan.bloky[v.blok], v.kde, obraz);
+    }
+
+    bool tvar_zaznamu(const Trasa& t);
+    Projeta projed(const Trasa& t);
+    void konec(const Trasa& t);
+    void trat(const Trasa& t);
+    void zvlastni_koleje(const Trasa& t);
+    void prejezdy(const Trasa& t);
+    void smysl(const Trasa& t, const Projeta& p);
+    Naroky naroky(const ZaznamCesty& z) const;
+    Zamcene zamcene(const Trasa& t) const;
+    void dvojice();
+    void boky();
+    void podle_cisel();
+    void odjezdy();
+};
+
+// The three lists agree, every element is there once and exists.
+bool Kontrola::tvar_zaznamu(const Trasa& t) {
+    const ZaznamCesty& z = t.zaznam;
+    if (z.prvky.size() < 2 || z.prvky.size() != z.druhy.size() || z.prvky.size() != z.polohy.size()) {
+        zavada(t, "seznamy prvků, druhů a poloh nejsou stejně dlouhé nebo jsou prázdné");
+        return false;
+    }
+    std::set<std::pair<int, int>> videno;
+    std::size_t delka = z.prvky.size();
+    for (std::size_t k = 0; k < z.prvky.size(); ++k) {
+        const int n = z.prvky[k];
+        bool je = false;
+        switch (static_cast<DruhPrvku>(z.druhy[k])) {
+        case DruhPrvku::kolej: je = koleje.contains(n); break;
+        case DruhPrvku::vyhybka: je = vyhybky.contains(n); break;
+        case DruhPrvku::vykolejka:
+            je = std::any_of(plan.vykolejky.begin(), plan.vykolejky.end(),
+                             [&](const Vykolejka& v) { return v.cislo == n; });
+            break;
+        }
+        if (!je) {
+            zavada(t, "prvek " + s(n) + " druhu " + s(z.druhy[k]) + " není nakreslen");
+            return false;
+        }
+        if (!videno.insert({z.druhy[k], n}).second)
+            zavada(t, "prvek " + popis_prvku_trasy(z, k) + " v ní je dvakrát");
+    }
+    if (z.druhy.back() != static_cast<std::uint8_t>(DruhPrvku::kolej))
+        zavada(t, "nekončí na koleji, vlak by z ní vyjel mimo koleje");
+    // the locking appends the rest of a line
+    for (int n = z.prvky.back(); n >= kTratniUseky && n <= kNejvyssiPrvek; n += kOdstupTrati)
+        delka += koleje.contains(n);
+    if (delka > kNejvicPrvku)
+        zavada(t, "má víc než 256 prvků");
+    return true;
+}
+
+Projeta Kontrola::projed(const Trasa& t) {
+    const ZaznamCesty& z = t.zaznam;
+    const auto od = navestidla.find(z.zacatek);
+    if (od == navestidla.end()) {
+        zavada(t, "návěstidlo " + s(z.zacatek) + " není nakresleno");
+        return {};
+    }
+    const Navestidlo& n = *od->second;
+    if (t.druh == DruhTrasy::vlak && n.posunove)
+        zavada(t, "vlaková cesta nezačíná u posunového návěstidla");
+    const int kolej = plan.kolej_navestidla(n);
+    if (z.prvky[0] != kolej || z.druhy[0] != static_cast<std::uint8_t>(DruhPrvku::kolej) ||
+        kolej != kolej_startu(plan, z.zacatek)) {
+        zavada(t,
+               "nezačíná kolejí " + s(kolej_startu(plan, z.zacatek)) + " před návěstidlem " + s(z.zacatek));
+        return {};
+    }
+    Konec vystup{Typ::kolej, kolej, n.u_konce() == Strana::vpravo ? Port::vpravo : Port::vlevo};
+    for (std::size_t k = 1; k < z.prvky.size(); ++k) {
+        const auto vstup = graf.soused(vystup);
+        const auto druh = static_cast<DruhPrvku>(z.druhy[k]);
+        const Typ typ = druh == DruhPrvku::kolej     ? Typ::kolej
+                        : druh == DruhPrvku::vyhybka ? Typ::vyhybka
+                                                     : Typ::vykolejka;
+        if (!vstup || vstup->typ != typ || vstup->cislo != z.prvky[k]) {
+            zavada(t, "prvek " + popis_prvku_trasy(z, k) + " nenavazuje na " + popis_prvku_trasy(z, k - 1));
+            return {};
+        }
+        const std::vector<Pruchod> ven = pruchody(plan, *vstup);
+        const auto p = std::find_if(ven.begin(), ven.end(), [&](const Pruchod& x) {
+            return typ != Typ::vyhybka || x.poloha == z.polohy[k];
+        });
+        if (p == ven.end()) {
+            zavada(t, "výhybka " + s(z.prvky[k]) + " v poloze " + s(z.polohy[k]) + " tudy nevede");
+            return {};
+        }
+        vystup = p->kam;
+        // who starts at this signal does not run past another one
+        if (typ != Typ::kolej || k + 1 == z.prvky.size())
+            continue;
+        const Kolej& ta = *koleje.at(z.prvky[k]);
+        if (ta.cil && ta.cislo != z.konec && !plan.pravidla_tras.prujezdne.contains(ta.cislo) &&
+            t.kolem.empty())
+            zavada(t, "projíždí kolejí " + s(ta.cislo) + ", která je cílem");
+        if (const auto i =
+                u_konce.find({ta.cislo, vystup.port == Port::vpravo ? Strana::vpravo : Strana::vlevo});
+            i != u_konce.end())
+            for (const Navestidlo* jine : i->second) {
+                const bool plati = !jine->posunove || (t.druh == DruhTrasy::posun && ta.cil);
+                if (plati && !t.kolem.contains(jine->cislo))
+                    zavada(t, "míjí návěstidlo " + s(jine->cislo));
+            }
+    }
+    return {true, vystup};
+}
+
+void Kontrola::konec(const Trasa& t) {
+    const ZaznamCesty& z = t.zaznam;
+    const auto cil = koleje.find(z.konec);
+    if (cil == koleje.end() || !cil->second->cil)
+        zavada(t, "kolej " + s(z.konec) + " není cílem");
+    else if (z.konec < kTratniUseky && !cil->second->stitky[0] && !cil->second->jediny_vpravo)
+        zavada(t, "kolej " + s(z.konec) + " nemá štítek, zamčená by se neobarvila");
+    const int posledni = z.prvky.back();
+    bool ok = posledni == z.konec;
+    for (const Dvojice& d : kJinyKonec)
+        if (z.konec == d.a && posledni != d.a)
+            ok = posledni == d.b;
+    if (posledni >= kTratniUseky && z.konec >= kTratniUseky) // a line is known by its lowest number
+        ok = z.konec == kTratniUseky + posledni % kOdstupTrati;
+    if (!ok)
+        zavada(t, "končí kolejí " + s(posledni) + ", ne " + s(z.konec));
+}
+
+// The direction that a route lays in a line follows from the picture; the locking appends the sections
+// behind the one that stands in the route.
+void Kontrola::trat(const Trasa& t) {
+    const ZaznamCesty& z = t.zaznam;
+    const int posledni = z.prvky.back();
+    if (posledni < kTratniUseky)
+        return;
+    if (t.druh == DruhTrasy::posun) {
+        zavada(t, "posun na trať " + s(posledni) + " by neměl její směr");
+        return;
+    }
+    const bool vpravo = navestidla.at(z.zacatek)->strana == Strana::vpravo;
+    const int prvni_oddil = kTratniUseky + posledni % kOdstupTrati;
+    const int ma_byt = vpravo ? prvni_oddil : plan.posledni_oddil(prvni_oddil);
+    if (posledni != ma_byt)
+        zavada(t, "do trati vjíždí oddílem " + s(posledni) + ", má být " + s(ma_byt));
+    for (std::size_t k = 1; k + 1 < z.prvky.size(); ++k)
+        if (z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::kolej) && z.prvky[k] >= kTratniUseky &&
+            z.prvky[k] % kOdstupTrati == posledni % kOdstupTrati)
+            zavada(t, "oddíl " + s(z.prvky[k]) + " trati by v ní byl dvakrát");
+    for (const Obraz o : kObrazy) {
+        const int x1 = konce_koleje(plan, *koleje.at(z.prvky[0]), o)[0].x,
+                  x2 = konce_koleje(plan, *koleje.at(posledni), o)[1].x;
+        if ((x1 <= x2 || z.prvky[0] == 118) != vpravo)
+            zavada(t, std::string("směr trati by podle obrazu vyšel opačně") +
+                          (o == Obraz::jeden ? " (jeden monitor)" : " (dva monitory)"));
+    }
+}
+
+void Kontrola::zvlastni_koleje(const Trasa& t) {
+    const ZaznamCesty& z = t.zaznam;
+    const auto je_kolej = [&](std::size_t k) {
+        return z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::kolej);
+    };
+    if (je_kolej(1) && je_mezi(kNePrvni, z.prvky[1]))
+        zavada(t, "kolej " + s(z.prvky[1]) + " nesmí být hned za návěstidlem");
+    for (std::size_t k = 1; k < z.prvky.size(); ++k) {
+        if (!je_kolej(k))
+            continue;
+        const int n = z.prvky[k];
+        if (je_mezi(kNikdy, n))
+            zavada(t, "kolej " + s(n) + " je jen druhým obrazem");
+        if ((n == 115 || n == 116) && !je_kolej(k - 1))
+            zavada(t, "na kolej " + s(n) + " se vjíždí z výhybky, smysl jízdy by se neobrátil");
+        if (n == 118 && k + 1 == z.prvky.size() &&
+            !(je_kolej(k - 1) && (z.prvky[k - 1] == 187 || z.prvky[k - 1] == 303)))
+            zavada(t, "před kolejí 118 má být 187 nebo 303");
+    }
+    for (const Krizeni& d : kKrizeni)
+        if (ma_kolej(z, d.a) && ma_kolej(z, d.b))
+            zavada(t, "koleje " + s(d.a) + " a " + s(d.b) + " se kříží, v jedné cestě nemohou být obě");
+}
+
+// The counter of a crossing rises once and falls once, or the road stays closed.
+void Kontrola::prejezdy(const Trasa& t) {
+    const ZaznamCesty& z = t.zaznam;
+    const auto pocet = [&](const auto& cisla) {
+        return std::count_if(cisla.begin(), cisla.end(), [&](int n) { return ma_kolej(z, n, 1); });
+    };
+    const auto zavira = pocet(kPrejezd0Zavira), otvira = pocet(kPrejezd0Otvira), druhy = pocet(kPrejezd1);
+    // what lies in front of the signal is not run over by this route
+    if (zavira > 1 || (zavira == 1) != (otvira == 1) || (zavira == 0 && otvira > 0))
+        zavada(t, "přejezd 0 uzavře " + s(static_cast<int>(zavira)) + "krát a otevře " +
+                      s(static_cast<int>(otvira)) + "krát");
+    if (druhy > 1 || (druhy && zavira))
+        zavada(t, "vede přes přejezdy víckrát");
+}
+
+// A train keeps its sense along the route but for the folds. So every signal that it comes to behind the
+// route must be for that sense, and it leaves the area only where the running lets it go.
+void Kontrola::smysl(const Trasa& t, const Projeta& p) {
+    const ZaznamCesty& z = t.zaznam;
+    bool vpravo = navestidla.at(z.zacatek)->strana == Strana::vpravo;
+    for (std::size_t k = 1; k < z.prvky.size(); ++k)
+        if (z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::kolej) &&
+            obraci_se(static_cast<DruhPrvku>(z.druhy[k - 1]), z.prvky[k]))
+            vpravo = !vpravo;
+    const Strana ven = p.vystup.port == Port::vpravo ? Strana::vpravo : Strana::vlevo;
+    int posledni = z.prvky.back();
+    if (posledni >= kTratniUseky)
+        posledni =
+            ven == Strana::vpravo ? plan.posledni_oddil(posledni) : kTratniUseky + posledni % kOdstupTrati;
+    if (const auto i = u_konce.find({posledni, ven}); i != u_konce.end())
+        for (const Navestidlo* n : i->second)
+            if ((n->strana == Strana::vpravo) != vpravo)
+                zavada(t, "přijíždí k návěstidlu " + s(n->cislo) + ", které platí pro opačný smysl");
+    if ((je_mezi(kOdchodVlevo, posledni) && vpravo && !graf.soused({Typ::kolej, posledni, p.vystup.port})) ||
+        (je_mezi(kOdchodVpravo, posledni) && !vpravo && !graf.soused({Typ::kolej, posledni, p.vystup.port})))
+        zavada(t, "vlak by na koleji " + s(posledni) + " oblast neopustil: jede opačným smyslem");
+}
+
+Naroky Kontrola::naroky(const ZaznamCesty& z) const {
+    Naroky n;
+    for (std::size_t k = 1; k < z.prvky.size(); ++k) {
+        if (z.druhy[k] != static_cast<std::uint8_t>(DruhPrvku::vyhybka))
+            continue;
+        const int p = z.polohy[k];
+        const bool dks = p >= tvary::kPrvniDKS;
+        const Vyhybka& v = *vyhybky.at(z.prvky[k]);
+        n.chce(v.cislo, false, konec_a_minus(p));
+        if (dks)
+            n.chce(v.cislo, true, konec_b_minus(p));
+        // Throwing a switch drags the coupled ones, one level deep: of a double slip the end that faces the
+        // other switch follows or leads, and which one that is the places of the pictures tell.
+        for (const int cislo : v.vazby) {
+            const auto i = vyhybky.find(cislo);
+            if (i == vyhybky.end())
+                continue;
+            const Vyhybka& b = *i->second;
+            const bool vlevo = misto_vyhybky(v, Obraz::jeden).x < misto_vyhybky(b, Obraz::jeden).x;
+            const bool v_minus = dks && vlevo ? konec_b_minus(p) : konec_a_minus(p);
+            n.chce(b.cislo, b.poloha >= tvary::kPrvniDKS && !vlevo, v_minus);
+        }
+    }
+    return n;
+}
+
+Zamcene Kontrola::zamcene(const Trasa& t) const {
+    Zamcene d;
+    const ZaznamCesty& z = t.zaznam;
+    for (std::size_t k = 1; k < z.prvky.size(); ++k) {
+        const auto n = static_cast<std::size_t>(z.prvky[k]);
+        if (z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::vyhybka))
+            d.set(2 * n + 1);
+        else if (z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::kolej) && t.druh == DruhTrasy::posun &&
+                 k + 1 < z.prvky.size())
+            d.set(2 * n);
+    }
+    return d;
+}
+
+std::string popis_konce(std::size_t i) {
+    return "výhybka " + s(static_cast<int>(i / 2)) + (i % 2 ? " koncem B" : "");
+}
+
+void Kontrola::dvojice() {
+    std::vector<Naroky> chteji;
+    std::vector<Zamcene> drzi;
+    for (const Trasa& t : trasy) {
+        chteji.push_back(naroky(t.zaznam));
+        drzi.push_back(zamcene(t));
+        const Konce oboji = chteji.back().plus & chteji.back().minus;
+        for (std::size_t i = 0; i < oboji.size(); ++i)
+            if (oboji[i])
+                zavada(t, "potřebuje, aby " + popis_konce(i) +
+                              " ležela v plusu i v mínusu: spojené výhybky si odporují");
+    }
+    for (std::size_t a = 0; a < trasy.size(); ++a)
+        for (std::size_t b = a + 1; b < trasy.size(); ++b) {
+            const Konce spor = (chteji[a].plus & chteji[b].minus) | (chteji[a].minus & chteji[b].plus);
+            if (spor.none() || (drzi[a] & drzi[b]).any())
+                continue;
+            for (std::size_t i = 0; i < spor.size(); ++i)
+                if (spor[i])
+                    zavada(trasy[a], "může stát zároveň s " + jmeno(trasy[b]) + ", která má ležet " +
+                                         popis_konce(i) + " opačně");
+        }
+}
+
+// Flank: between two switches that follow each other on neighbouring rows the locking asks for the one at
+// the fourth corner of their rectangle, but only at its own setting. So whoever runs over that one must
+// exclude the route anyway.
+void Kontrola::boky() {
+    for (const Obraz obraz : kObrazy) {
+        std::map<BodKresby, std::vector<int>> na_miste;
+        for (const auto& [n, v] : vyhybky)
+            na_miste[misto_vyhybky(*v, obraz)].push_back(n);
+        std::map<int, std::vector<std::size_t>> cesty_pres;
+        for (std::size_t i = 0; i < trasy.size(); ++i)
+            for (std::size_t k = 1; k < trasy[i].zaznam.prvky.size(); ++k)
+                if (trasy[i].zaznam.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::vyhybka))
+                    cesty_pres[trasy[i].zaznam.prvky[k]].push_back(i);
+        for (const Trasa& t : trasy)
+            for (std::size_t k = 1; k + 1 < t.zaznam.prvky.size(); ++k) {
+                const ZaznamCesty& z = t.zaznam;
+                const auto vyhybka = static_cast<std::uint8_t>(DruhPrvku::vyhybka);
+                if (z.druhy[k] != vyhybka || z.druhy[k + 1] != vyhybka)
+                    continue;
+                const int a = z.prvky[k], b = z.prvky[k + 1];
+                const BodKresby ma = misto_vyhybky(*vyhybky.at(a), obraz),
+                                mb = misto_vyhybky(*vyhybky.at(b), obraz);
+                if ((a >= 53 && a <= 55) || std::abs(ma.y - mb.y) != kRadek)
+                    continue;
+                for (const BodKresby roh : {BodKresby{mb.x, ma.y}, BodKresby{ma.x, mb.y}})
+                    for (const int n : na_miste[roh])
+                        if (n != a && n != b && std::abs(n - a) <= 3)
+                            for (const std::size_t i : cesty_pres[n])
+                                if ((zamcene(t) & zamcene(trasy[i])).none())
+                                    zavada(t, "výhybka " + s(n) + " ji chrání z boku, ale " +
+                                                  jmeno(trasy[i]) + " po ní může stát zároveň");
+            }
+    }
+}
+
+// What the program asks for: pairs that must be in the table or may not, lines that it runs trains on.
+void Kontrola::podle_cisel() {
+    const PravidlaTras& p = plan.pravidla_tras;
+    std::map<std::pair<int, int>, const Trasa*> vlakove;
+    std::set<int> vlakove_od; // tracks
+    for (const Trasa& t : trasy)
+        if (t.druh == DruhTrasy::vlak) {
+            vlakove[{t.zaznam.zacatek, t.zaznam.konec}] = &t;
+            vlakove_od.insert(t.zaznam.prvky[0]);
+        }
+    for (const PravidlaTras::Povinna& c : p.povinne) {
+        const std::string kdo = "cesta " + s(c.zacatek) + " " + s(c.konec);
+        const auto i = vlakove.find({c.zacatek, c.konec});
+        if (i == vlakove.end()) {
+            const auto od = navestidla.find(c.zacatek);
+            if (od != navestidla.end() && koleje.contains(plan.kolej_navestidla(*od->second)) &&
+                koleje.contains(c.konec) &&
+                !ceka_na_dokresleni(plan, graf, plan.kolej_navestidla(*od->second), od->second->u_konce()))
+                zavady.push_back({c.misto, kdo, "program ji potřebuje a v tabulce není"});
+            continue;
+        }
+        for (const std::set<int>& jedna : c.koleje)
+            if (std::none_of(jedna.begin(), jedna.end(),
+                             [&](int n) { return ma_kolej(i->second->zaznam, n); }))
+                zavady.push_back({c.misto, kdo, "má vést přes kolej " + s(*jedna.begin())});
+    }
+    for (const PravidlaTras::Povinna& c : p.nesmi)
+        if (vlakove.contains({c.zacatek, c.konec}))
+            zavady.push_back({c.misto, "cesta " + s(c.zacatek) + " " + s(c.konec), "v tabulce nesmí být"});
+    for (const PravidlaTras::Programova& c : p.programove) {
+        const std::string kdo = "cesta " + s(c.zacatek) + " " + s(c.konec) + " programu";
+        if (!std::all_of(c.koleje.begin(), c.koleje.end(), [&](int n) { return koleje.contains(n); }))
+            continue; // not drawn yet
+        if (!navestidla.contains(c.zacatek))
+            zavady.push_back({c.misto, kdo, "návěstidlo " + s(c.zacatek) + " není nakresleno"});
+        else if (!vlakove_od.contains(c.koleje.back()))
+            zavady.push_back({c.misto, kdo, "z koleje " + s(c.koleje.back()) + " nevede žádná cesta dál"});
+    }
+}
+
+void Kontrola::odjezdy() {
+    std::set<std::tuple<int, Strana, DruhTrasy>> vedou;
+    for (const Trasa& t : trasy)
+        if (const auto od = navestidla.find(t.zaznam.zacatek); od != navestidla.end())
+            vedou.insert({t.zaznam.prvky[0], od->second->u_konce(), t.druh});
+    for (const PravidlaTras::Odjezdy& o : plan.pravidla_tras.odjezdy)
+        for (const int n : o.koleje)
+            if (koleje.contains(n) && !vedou.contains({n, o.strana, o.druh}) &&
+                !ceka_na_dokresleni(plan, graf, n, o.strana))
+                zavady.push_back({o.misto, "kolej " + s(n),
+                                  std::string("nevede z ní žádná cesta ") +
+                                      (o.strana == Strana::vpravo ? "vpravo" : "vlevo")});
+}
+
+void Kontrola::vse() {
+    std::set<std::tuple<DruhTrasy, int, int>> dvojice_cest;
+    bool uplne = true;
+    for (const Trasa& t : trasy) {
+        if (!dvojice_cest.insert({t.druh, t.zaznam.zacatek, t.zaznam.konec}).second)
+            zavada(t, "je v tabulce dvakrát, druhou nikdo nenajde");
+        if (!tvar_zaznamu(t)) {
+            uplne = false;
+            continue;
+        }
+        const Projeta p = projed(t);
+        konec(t);
+        zvlastni_koleje(t);
+        prejezdy(t);
+        if (p.cela) {
+            trat(t);
+            smysl(t, p);
+        }
+    }
+    if (!uplne)
+        return; // the rest reads elements that do not exist
+    dvojice();
+    boky();
+    podle_cisel();
+    odjezdy();
+}
+
+} // namespace
+
+void zkontroluj_trasy(const Plan& plan, const Graf& graf, const std::vector<Trasa>& trasy,
+                      std::vector<Zavada>& zavady) {
+    Kontrola(plan, graf, trasy, zavady).vse();
+}
+
+int cekajici_povinne(const Plan& plan, const std::vector<Trasa>& trasy) {
+    int ceka = 0;
+    for (const PravidlaTras::Povinna& c : plan.pravidla_tras.povinne)
+        ceka += std::none_of(trasy.begin(), trasy.end(), [&](const Trasa& t) {
+            return t.druh == DruhTrasy::vlak && t.zaznam.zacatek == c.zacatek && t.zaznam.konec == c.konec;
+        });
+    return ceka;
+}
+
+} // namespace kolejiste

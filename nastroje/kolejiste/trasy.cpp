@@ -1,0 +1,448 @@
+// nastroje/kolejiste/trasy.cpp - derives the routes and writes their tables.
+#include "kolejiste/trasy.h"
+
+#include "relief/relief.h"
+
+#include <queue>
+
+#include <algorithm>
+#include <bitset>
+#include <tuple>
+
+namespace kolejiste {
+
+namespace {
+
+constexpr int kTratniUseky = 600; // from here on sections of lines
+constexpr int kTrat638 = 638;     // the one section of a line that is a station track too
+
+std::string s(int n) {
+    return std::to_string(n);
+}
+
+bool je_trat(int kolej) {
+    return kolej >= kTratniUseky;
+}
+bool je_posunova(int kolej) {
+    return kolej > 500 && kolej < kTratniUseky;
+}
+
+Strana strana_konce(Port port) {
+    return port == Port::vpravo ? Strana::vpravo : Strana::vlevo;
+}
+Port port_strany(Strana strana) {
+    return strana == Strana::vpravo ? Port::vpravo : Port::vlevo;
+}
+
+const char* jmeno_druhu(DruhTrasy druh) {
+    return druh == DruhTrasy::vlak ? "vlaková" : "posunová";
+}
+
+std::uint8_t druh_prvku(Typ typ) {
+    switch (typ) {
+    case Typ::kolej: return static_cast<std::uint8_t>(DruhPrvku::kolej);
+    case Typ::vyhybka: return static_cast<std::uint8_t>(DruhPrvku::vyhybka);
+    case Typ::vykolejka: return static_cast<std::uint8_t>(DruhPrvku::vykolejka);
+    }
+    return 0;
+}
+
+// How far the search has come: out of an element by `vystup`, having met so many of the elements that the
+// way must run over.
+struct Stav {
+    Konec vystup;
+    Krok krok;
+    std::size_t splneno = 0; // elements of the wanted way
+    int minusu = 0, prvku = 1;
+    std::size_t odkud = 0;
+};
+
+struct Nalez {
+    int konec = 0;
+    std::vector<Krok> kroky;
+    int minusu = 0;
+};
+
+// What a route does on a track that it enters.
+struct Dojezd {
+    bool konci = false, pokracuje = false;
+    int konec = 0;
+    int saha = -1; // the track behind, which belongs to the route
+};
+
+class Odvozeni {
+public:
+    Odvozeni(const Plan& plan_, const Graf& graf_, std::vector<Zavada>& zavady_)
+        : plan(plan_), graf(graf_), pravidla(plan_.pravidla_tras), zavady(zavady_) {
+        for (const Kolej& k : plan.koleje)
+            if (!k.vzor)
+                koleje[k.cislo] = &k;
+        for (const Navestidlo& n : plan.navestidla)
+            navestidla[{plan.kolej_navestidla(n), n.u_konce()}].push_back(&n);
+    }
+    std::vector<Trasa> vsechny();
+
+private:
+    const Plan& plan;
+    const Graf& graf;
+    const PravidlaTras& pravidla;
+    std::vector<Zavada>& zavady;
+    std::map<int, const Kolej*> koleje;
+    std::map<std::pair<int, Strana>, std::vector<const Navestidlo*>> navestidla;
+    std::set<int> hlaseno; // tracks already reported
+
+    Dojezd dojezd(DruhTrasy druh, const Konec& vystup, const std::set<int>& kolem);
+    std::vector<Nalez> hledej(DruhTrasy druh, const Navestidlo& od, const std::vector<PrvekTrasy>& pres,
+                              const std::set<int>& kolem);
+    Trasa zaznam(DruhTrasy druh, const Navestidlo& od, const Nalez& nalez, const Misto& misto) const;
+    bool zacina(DruhTrasy druh, const Navestidlo& n) const;
+    bool zakazana(DruhTrasy druh, int zacatek, int konec,
+                  std::set<const PravidlaTras::Zakaz*>& pouzite) const;
+};
+
+Dojezd Odvozeni::dojezd(DruhTrasy druh, const Konec& vystup, const std::set<int>& kolem) {
+    const Kolej& k = *koleje.at(vystup.cislo);
+    const bool vlak = druh == DruhTrasy::vlak;
+    if (je_trat(k.cislo)) // the whole line belongs to the route into it, under its lowest number
+        return vlak ? Dojezd{true, false, kTratniUseky + k.cislo % 50, -1} : Dojezd{};
+    if (vlak ? k.cil && je_posunova(k.cislo) : pravidla.jen_vlak.contains(k.cislo))
+        return {};
+    const auto dal = graf.soused(vystup);
+    if (const auto i = pravidla.saha.find(k.cislo);
+        i != pravidla.saha.end() && dal && dal->typ == Typ::kolej && dal->cislo == i->second)
+        return {k.cil.has_value(), false, k.cislo, i->second};
+    bool navestidlo = false, hlavni = false;
+    if (const auto i = navestidla.find({k.cislo, strana_konce(vystup.port)}); i != navestidla.end())
+        for (const Navestidlo* n : i->second)
+            if (!kolem.contains(n->cislo))
+                (n->posunove ? navestidlo : hlavni) = true;
+    navestidlo = navestidlo || hlavni;
+    if (!k.cil) {
+        if (hlavni && hlaseno.insert(k.cislo).second)
+            zavady.push_back({k.misto, "kolej " + s(k.cislo),
+                              "cesty k návěstidlu na jejím konci by nebylo kam zadat: není cílem"});
+        return {false, !hlavni && dal.has_value(), 0, -1};
+    }
+    const bool projede = dal && pravidla.prujezdne.contains(k.cislo);
+    if (vlak)
+        return {hlavni || !dal, !hlavni && projede, k.cislo, -1};
+    return {true, !navestidlo && projede, k.cislo, -1};
+}
+
+std::vector<Nalez> Odvozeni::hledej(DruhTrasy druh, const Navestidlo& od, const std::vector<PrvekTrasy>& pres,
+                                    const std::set<int>& kolem) {
+    const int kolej = plan.kolej_navestidla(od);
+    std::vector<Stav> stavy;
+    // the straightest first; among equals the one found first, whose switches stand in plus earlier
+    using Klic = std::tuple<int, int, std::size_t>;
+    std::priority_queue<Klic, std::vector<Klic>, std::greater<>> fronta;
+    std::set<std::pair<Konec, std::size_t>> hotove;
+    const auto pridej = [&](Stav stav) {
+        fronta.emplace(stav.minusu, stav.prvku, stavy.size());
+        stavy.push_back(std::move(stav));
+    };
+    pridej({{Typ::kolej, kolej, port_strany(od.u_konce())}, {Typ::kolej, kolej, 0}, 0, 0, 1, 0});
+    std::map<int, Nalez> nalezy; // by end
+    std::vector<int> poradi;
+    while (!fronta.empty()) {
+        const std::size_t i = std::get<2>(fronta.top());
+        fronta.pop();
+        const Stav stav = stavy[i];
+        if (!hotove.insert({stav.vystup, stav.splneno}).second)
+            continue;
+        if (i > 0 && stav.krok.typ == Typ::kolej) {
+            const Dojezd d = dojezd(druh, stav.vystup, kolem);
+            if (d.konci && stav.splneno == pres.size() && !nalezy.contains(d.konec)) {
+                Nalez n{d.konec, {}, stav.minusu};
+                for (std::size_t k = i; k != 0; k = stavy[k].odkud)
+                    n.kroky.push_back(stavy[k].krok);
+                n.kroky.push_back(stavy[0].krok);
+                std::reverse(n.kroky.begin(), n.kroky.end());
+                if (d.saha >= 0)
+                    n.kroky.push_back({Typ::kolej, d.saha, 0});
+                nalezy.emplace(d.konec, std::move(n));
+                poradi.push_back(d.konec);
+            }
+            if (!d.pokracuje)
+                continue;
+        }
+        const auto vstup = graf.soused(stav.vystup);
+        if (!vstup)
+            continue;
+        for (const Pruchod& p : pruchody(plan, *vstup)) {
+            const bool chteny = stav.splneno < pres.size() && pres[stav.splneno].typ == vstup->typ &&
+                                pres[stav.splneno].cislo == vstup->cislo;
+            pridej({p.kam,
+                    {vstup->typ, vstup->cislo, p.poloha},
+                    stav.splneno + chteny,
+                    stav.minusu + (vstup->typ == Typ::vyhybka ? minusu(p.poloha) : 0),
+                    stav.prvku + 1,
+                    i});
+        }
+    }
+    std::vector<Nalez> vysledek;
+    for (const int konec : poradi)
+        vysledek.push_back(std::move(nalezy.at(konec)));
+    return vysledek;
+}
+
+// The marks of the third list are those that the locking would set: before the signal, on every target
+// and at the end the number of the train is written when its tail leaves.
+Trasa Odvozeni::zaznam(DruhTrasy druh, const Navestidlo& od, const Nalez& nalez, const Misto& misto) const {
+    Trasa t{druh, misto, {}, {}};
+    ZaznamCesty& z = t.zaznam;
+    z.zacatek = static_cast<std::int16_t>(od.cislo);
+    z.konec = static_cast<std::int16_t>(nalez.konec);
+    int trida = 0; // the slowest branch counts: 1, 2, 3 are 40, 60, 80 km/h, 0 is no limit
+    for (std::size_t k = 0; k < nalez.kroky.size(); ++k) {
+        const Krok& krok = nalez.kroky[k];
+        int poloha = krok.poloha;
+        if (krok.typ == Typ::kolej) {
+            const Kolej& kolej = *koleje.at(krok.cislo);
+            const bool cil = kolej.cil && (kolej.cislo < kTratniUseky || kolej.cislo == kTrat638);
+            poloha = k == 0 || k + 1 == nalez.kroky.size() || cil ? 2 : 0;
+        } else if (krok.typ == Typ::vyhybka && minusu(poloha) > 0) {
+            const auto i = pravidla.rychlost.find(krok.cislo);
+            const int odbockou = i == pravidla.rychlost.end() ? 1 : i->second;
+            if (odbockou != 0 && (trida == 0 || odbockou < trida))
+                trida = odbockou;
+        }
+        z.prvky.push_back(static_cast<std::int16_t>(krok.cislo));
+        z.druhy.push_back(druh_prvku(krok.typ));
+        z.polohy.push_back(static_cast<std::uint8_t>(poloha));
+    }
+    z.rychlost = static_cast<std::uint8_t>(trida);
+    return t;
+}
+
+bool Odvozeni::zacina(DruhTrasy druh, const Navestidlo& n) const {
+    const int kolej = plan.kolej_navestidla(n);
+    if (!koleje.contains(kolej))
+        return false; // its track is not drawn yet
+    if (druh == DruhTrasy::vlak)
+        return !n.posunove;
+    return !je_trat(kolej) && (n.posunove || !pravidla.jen_vlak.contains(kolej));
+}
+
+bool Odvozeni::zakazana(DruhTrasy druh, int zacatek, int konec,
+                        std::set<const PravidlaTras::Zakaz*>& pouzite) const {
+    bool ano = false;
+    for (const PravidlaTras::Zakaz& z : pravidla.zakazy)
+        if (z.druhy.contains(druh) && (z.zacatky.empty() || z.zacatky.contains(zacatek)) &&
+            (z.konce.empty() || z.konce.contains(konec))) {
+            pouzite.insert(&z);
+            ano = true;
+        }
+    return ano;
+}
+
+std::vector<Trasa> Odvozeni::vsechny() {
+    std::vector<Trasa> trasy;
+    std::set<const PravidlaTras::Zakaz*> pouzite;
+    for (const DruhTrasy druh : kDruhyTras)
+        for (const Navestidlo& od : plan.navestidla) {
+            if (!zacina(druh, od))
+                continue;
+            std::vector<std::pair<int, Trasa>> odtud; // with the ends of switches in minus
+            const auto rucni = [&](int konec) {
+                return std::find_if(pravidla.rucni.begin(), pravidla.rucni.end(), [&](const auto& r) {
+                    return r.druh == druh && r.zacatek == od.cislo && r.konec == konec;
+                });
+            };
+            for (const Nalez& n : hledej(druh, od, {}, {}))
+                if (!zakazana(druh, od.cislo, n.konec, pouzite) && rucni(n.konec) == pravidla.rucni.end())
+                    odtud.emplace_back(n.minusu, zaznam(druh, od, n, od.misto));
+            for (const PravidlaTras::RucniTrasa& r : pravidla.rucni) {
+                if (r.druh != druh || r.zacatek != od.cislo || !koleje.contains(r.konec))
+                    continue;
+                const std::vector<Nalez> nalezy = hledej(druh, od, r.pres, r.kolem);
+                const auto n = std::find_if(nalezy.begin(), nalezy.end(),
+                                            [&](const Nalez& x) { return x.konec == r.konec; });
+                if (n == nalezy.end()) {
+                    zavady.push_back(
+                        {r.misto, "trasa " + s(r.zacatek) + " " + s(r.konec), "takovou cestu nelze projet"});
+                    continue;
+                }
+                Trasa t = zaznam(druh, od, *n, r.misto);
+                t.kolem = r.kolem;
+                for (const Nalez& sam : hledej(druh, od, {}, {}))
+                    if (sam.konec == r.konec && zaznam(druh, od, sam, {}).zaznam == t.zaznam)
+                        zavady.push_back({r.misto, "trasa " + s(r.zacatek) + " " + s(r.konec),
+                                          "tudy vede i bez tohoto pravidla"});
+                odtud.emplace_back(n->minusu, std::move(t));
+            }
+            std::stable_sort(odtud.begin(), odtud.end(), [](const auto& a, const auto& b) {
+                return std::tuple(a.first, a.second.zaznam.prvky.size(), a.second.zaznam.konec) <
+                       std::tuple(b.first, b.second.zaznam.prvky.size(), b.second.zaznam.konec);
+            });
+            for (auto& [minusu, t] : odtud)
+                trasy.push_back(std::move(t));
+        }
+    // Rules that no route heeds, although all that they name is drawn, are mistakes.
+    const auto nakresleno = [&](const std::set<int>& zacatky, const std::set<int>& konce) {
+        return std::all_of(zacatky.begin(), zacatky.end(), [&](int n) { return plan.navestidlo(n); }) &&
+               std::all_of(konce.begin(), konce.end(), [&](int n) { return koleje.contains(n); });
+    };
+    for (const PravidlaTras::Zakaz& z : pravidla.zakazy)
+        if (!pouzite.contains(&z) && nakresleno(z.zacatky, z.konce))
+            zavady.push_back({z.misto, "nechci", "žádná taková cesta by nebyla"});
+    for (const PravidlaTras::RucniTrasa& r : pravidla.rucni) {
+        const Navestidlo* od = plan.navestidlo(r.zacatek);
+        if (od && koleje.contains(plan.kolej_navestidla(*od)) && !zacina(r.druh, *od))
+            zavady.push_back(
+                {r.misto, "trasa " + s(r.zacatek) + " " + s(r.konec),
+                 std::string("od tohoto návěstidla nezačíná ") + jmeno_druhu(r.druh) + " cesta"});
+    }
+    for (const auto& [n, trida] : pravidla.rychlost)
+        if (trida == 1)
+            zavady.push_back({{"kolejiste", 0}, "rychlost " + s(n), "40 km/h platí i bez tohoto pravidla"});
+    return trasy;
+}
+
+// Elements that a route holds against all others: its switches, and its tracks but for the one in front
+// of the signal.
+using Drzene = std::bitset<2 * (kNejvyssiPrvek + 1)>;
+Drzene drzene(const ZaznamCesty& z) {
+    Drzene d;
+    for (std::size_t k = 1; k < z.prvky.size(); ++k) {
+        if (z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::vykolejka))
+            continue;
+        const bool vyhybka = z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::vyhybka);
+        int n = z.prvky[k];
+        for (const Krizeni& x : kKrizeni)
+            if (!vyhybka && n == x.b)
+                n = x.a;
+        d.set(static_cast<std::size_t>(2 * n + vyhybka));
+    }
+    return d;
+}
+
+} // namespace
+
+bool konec_a_minus(int p) {
+    return p < tvary::kPrvniDKS ? (p - 1) % 3 == 1 : p == 26 || p == 27 || p == 30 || p == 32;
+}
+
+bool konec_b_minus(int p) {
+    return p >= tvary::kPrvniDKS && (p == 26 || p == 28 || p == 30 || p == 31);
+}
+
+int minusu(int poloha) {
+    return konec_a_minus(poloha) + konec_b_minus(poloha);
+}
+
+std::vector<Trasa> odvod_trasy(const Plan& plan, const Graf& graf, std::vector<Zavada>& zavady) {
+    return Odvozeni(plan, graf, zavady).vsechny();
+}
+
+bool ceka_na_dokresleni(const Plan& plan, const Graf& graf, int kolej, Strana strana) {
+    std::set<Konec> videno;
+    std::vector<Konec> fronta{{Typ::kolej, kolej, port_strany(strana)}};
+    while (!fronta.empty()) {
+        const Konec vystup = fronta.back();
+        fronta.pop_back();
+        if (vystup.typ == Typ::kolej && vystup.cislo != kolej) {
+            const Kolej* k = plan.kolej(vystup.cislo);
+            if (k->cil || je_trat(k->cislo))
+                continue;
+            for (const UzavrenyKonec& u : plan.konce)
+                if (u.konec == vystup && u.jak == Zakonceni::okraj)
+                    return true;
+        }
+        if (const auto vstup = graf.soused(vystup))
+            for (const Pruchod& p : pruchody(plan, *vstup))
+                if (videno.insert(p.kam).second)
+                    fronta.push_back(p.kam);
+    }
+    return false;
+}
+
+Bajty soubor_tras(const std::vector<Trasa>& trasy, DruhTrasy druh) {
+    Zapisovac a;
+    std::size_t radek = 0;
+    for (const Trasa& t : trasy) {
+        if (t.druh != druh)
+            continue;
+        if (++radek == kRadekProgramovych) {
+            const ZaznamCesty prazdny{-3, -3, {-3}, {0}, {0}, 0};
+            popis_zaznamu_cesty(a, prazdny);
+            ++radek;
+        }
+        popis_zaznamu_cesty(a, t.zaznam);
+    }
+    return a.bajty;
+}
+
+std::string popis_prvku_trasy(const ZaznamCesty& z, std::size_t k) {
+    const std::string n = s(z.prvky[k]);
+    switch (static_cast<DruhPrvku>(z.druhy[k])) {
+    case DruhPrvku::vyhybka: {
+        const int p = z.polohy[k];
+        std::string text = "v" + n + (konec_a_minus(p) ? "-" : "+");
+        if (p >= tvary::kPrvniDKS)
+            text += konec_b_minus(p) ? "-" : "+";
+        return text;
+    }
+    case DruhPrvku::vykolejka: return "d" + n;
+    case DruhPrvku::kolej: break;
+    }
+    return n;
+}
+
+std::string tabulka_tras(const Plan& plan, const std::vector<Trasa>& trasy) {
+    std::vector<Drzene> drzi;
+    for (const Trasa& t : trasy)
+        drzi.push_back(drzene(t.zaznam));
+    std::vector<int> vylucuje(trasy.size());
+    std::size_t dvojic = 0;
+    for (std::size_t a = 0; a < trasy.size(); ++a)
+        for (std::size_t b = a + 1; b < trasy.size(); ++b)
+            if ((drzi[a] & drzi[b]).any()) {
+                ++vylucuje[a], ++vylucuje[b];
+                ++dvojic;
+            }
+    constexpr std::array kRychlosti = {"MAX", "40", "60", "80"};
+    std::string text;
+    const auto sloupec = [](std::string co, std::size_t sirka) { // counts characters, not bytes
+        std::size_t znaku = 0;
+        for (const char c : co)
+            znaku += (static_cast<unsigned char>(c) & 0xC0) != 0x80;
+        co.append(sirka - std::min(sirka, znaku), ' ');
+        return co;
+    };
+    for (std::size_t b = 0; b < plan.bloky.size(); ++b)
+        for (const DruhTrasy druh : kDruhyTras) {
+            std::string radky;
+            int pocet = 0;
+            std::size_t nejdelsi = 0;
+            for (std::size_t i = 0; i < trasy.size(); ++i) {
+                const ZaznamCesty& z = trasy[i].zaznam;
+                const Navestidlo* od = plan.navestidlo(z.zacatek);
+                if (trasy[i].druh != druh || !od || od->blok != b)
+                    continue;
+                ++pocet;
+                nejdelsi = std::max(nejdelsi, z.prvky.size());
+                const Kolej* cil = plan.kolej(z.konec);
+                std::string kam = s(z.konec);
+                if (cil && cil->cil)
+                    kam += " " + na_utf8(*cil->cil);
+                radky += "  " + sloupec(s(z.zacatek) + " " + na_utf8(od->jmeno), 14) + sloupec(kam, 16) +
+                         sloupec(druh == DruhTrasy::vlak ? kRychlosti[z.rychlost % 4] : "PC", 4) +
+                         sloupec(s(vylucuje[i]), 5);
+                for (std::size_t k = 0; k < z.prvky.size(); ++k)
+                    radky += " " + popis_prvku_trasy(z, k);
+                radky += "\n";
+            }
+            if (pocet)
+                text += plan.bloky[b].kod + " " + plan.bloky[b].nazev + ": " + s(pocet) +
+                        (druh == DruhTrasy::vlak ? " vlakových" : " posunových") + " cest, nejvýš " +
+                        s(static_cast<int>(nejdelsi)) + " prvků\n" + radky;
+        }
+    const auto vlakovych =
+        std::count_if(trasy.begin(), trasy.end(), [](const Trasa& t) { return t.druh == DruhTrasy::vlak; });
+    text += "cest " + std::to_string(trasy.size()) + ", z toho vlakových " + std::to_string(vlakovych) +
+            "; dvojic, které nemohou stát spolu, " + std::to_string(dvojic) + "\n";
+    return text;
+}
+
+} // namespace kolejiste

@@ -1,0 +1,141 @@
+// testy/ui/platno_test.cpp - the desk as a picture: what is redrawn, what the pointer finds.
+#include "relief/relief.h"
+#include "relief/tvary_vyhybek.h"
+#include "ui/platno.h"
+
+#include <QGuiApplication>
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace {
+
+constexpr int kRadek = 690; // first row of the relief, twips
+
+// A desk of one track with a signal before it, drawn at the size of the desk.
+struct Stul : testing::Test {
+    Platno platno;
+
+    void SetUp() override {
+        relief = novy_relief();
+        Prvek& kolej = relief.kolej.zaloz(1);
+        kolej.viditelny = true;
+        kolej.barva = barvy::seda;
+        kolej.x1 = 3000;
+        kolej.x2 = 6000;
+        kolej.y1 = kolej.y2 = kRadek + kOsaRadku;
+        do_popredi(kolej);
+        Prvek& navestidlo = relief.navestidlo.zaloz(1);
+        navestidlo.viditelny = true;
+        navestidlo.vlastni_velikost = true;
+        navestidlo.vlevo = 2880;
+        navestidlo.nahore = kRadek;
+        nastav_text(navestidlo, znak(229));
+        do_popredi(navestidlo);
+        platno.nastav_velikost(QSize(1024, 768), kSirkaStolu);
+        platno.obnov();
+    }
+    void TearDown() override { relief = Relief{}; }
+
+    QColor barva_v(int x, int y) const { return platno.obraz().pixelColor(x, y); }
+};
+
+} // namespace
+
+TEST_F(Stul, PaintsNothingWhileNothingChanges) {
+    EXPECT_TRUE(platno.obnov().isEmpty());
+}
+
+TEST_F(Stul, PaintsTheTrackInItsColourOnBlack) {
+    EXPECT_EQ(barva_v(300, 52), QColor(0x80, 0x80, 0x80));
+    EXPECT_EQ(barva_v(300, 49), QColor(Qt::black));
+    EXPECT_EQ(barva_v(300, 56), QColor(Qt::black));
+}
+
+TEST_F(Stul, RepaintsOnlyThePlaceOfTheTrackThatWasOccupied) {
+    relief.kolej[1].barva = barvy::cervena;
+    const QRegion zmenene = platno.obnov();
+    EXPECT_EQ(barva_v(300, 52), QColor(0xFF, 0, 0));
+    EXPECT_TRUE(QRect(190, 40, 220, 30).contains(zmenene.boundingRect()));
+}
+
+TEST_F(Stul, TrackThatIsHiddenLeavesNoTrace) {
+    relief.kolej[1].viditelny = false;
+    platno.obnov();
+    EXPECT_EQ(barva_v(300, 52), QColor(Qt::black));
+}
+
+TEST_F(Stul, PartialRepaintGivesTheSamePictureAsAFullOne) {
+    relief.kolej[1].barva = barvy::zelena;
+    relief.navestidlo[1].ramecek = true;
+    relief.navestidlo[1].pozadi = barvy::azurova;
+    relief.lblPauza[0].viditelny = true;
+    platno.obnov();
+    const QImage castecny = platno.obraz().copy();
+    platno.prekresli();
+    EXPECT_EQ(castecny, platno.obraz());
+}
+
+TEST_F(Stul, PointerFindsTheSignalThoughItsGlyphIsOnlyEightPixelsWide) {
+    const Nalezeny navestidlo{Druh::navestidlo, 1};
+    for (const int x : {192, 196, 199, 191}) // one pixel beside it too: a target is ten pixels wide
+        EXPECT_EQ(platno.prvek_pod(QPoint(x * kTwipu, 52 * kTwipu)), navestidlo) << x;
+    EXPECT_EQ(platno.prvek_pod(QPoint(180 * kTwipu, 52 * kTwipu)), std::nullopt);
+}
+
+TEST_F(Stul, PointerPassesThroughATrackThatTakesNoInput) {
+    EXPECT_EQ(platno.prvek_pod(QPoint(300 * kTwipu, 52 * kTwipu)), std::nullopt);
+}
+
+TEST_F(Stul, PointerDoesNotFindWhatIsHidden) {
+    relief.navestidlo[1].viditelny = false;
+    platno.obnov();
+    EXPECT_EQ(platno.prvek_pod(QPoint(196 * kTwipu, 52 * kTwipu)), std::nullopt);
+}
+
+TEST_F(Stul, KeepsItsProportionsInAnyWindow) {
+    platno.nastav_velikost(QSize(2000, 768), kSirkaStolu);
+    EXPECT_DOUBLE_EQ(platno.meritko().bod(), 1.0);
+    EXPECT_EQ(platno.meritko().x0, 488);
+    platno.nastav_velikost(QSize(2048, 2048), kSirkaStolu);
+    EXPECT_DOUBLE_EQ(platno.meritko().bod(), 2.0);
+    EXPECT_EQ(platno.meritko().y0, 256);
+}
+
+TEST_F(Stul, WhateverAReliefFileHoldsIsDrawnSafely) {
+    std::mt19937 g(7);
+    const auto pod = [&](unsigned n) { return static_cast<int>(g() % n); };
+    const auto hodnota = [&] {
+        const int k = pod(6);
+        return k == 0 ? -32768 : k == 1 ? 32767 : k == 2 ? 0 : pod(65536) - 32768;
+    };
+    for (int kolo = 0; kolo < 12; ++kolo) {
+        platno.nastav_velikost(QSize(1 + pod(1500), 1 + pod(1000)), kSirkaStolu);
+        for (int i = 0; i < 300; ++i) {
+            Prvek& p =
+                (relief.*kDruhy[static_cast<std::size_t>(pod(kDruhy.size()))].tabulka).zaloz(pod(1000));
+            p.viditelny = pod(5) > 0;
+            p.ramecek = pod(2) == 0;
+            p.barva = static_cast<Barva>(g());
+            p.obrazek = static_cast<std::int16_t>(hodnota());
+            p.zarovnani = static_cast<std::uint8_t>(pod(3));
+            for (Vlastnost<std::int32_t>* v :
+                 {&p.x1, &p.x2, &p.y1, &p.y2, &p.vlevo, &p.nahore, &p.sirka, &p.vyska})
+                *v = hodnota();
+            Text text;
+            for (int k = pod(30); k > 0; --k)
+                text += static_cast<char>(pod(256));
+            p.text = text;
+            p.stav = std::to_string(pod(400) - 50);
+        }
+        EXPECT_FALSE(platno.obnov().isEmpty());
+        platno.prvek_pod(platno.na_twipy(QPointF(pod(1500), pod(1000))));
+    }
+}
+
+int main(int pocet, char** slova) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QGuiApplication aplikace(pocet, slova);
+    testing::InitGoogleTest(&pocet, slova);
+    return RUN_ALL_TESTS();
+}
