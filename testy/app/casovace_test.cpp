@@ -2,6 +2,8 @@
 #include "app/cas.h"
 #include "app/casovace.h"
 #include "app/vstup.h"
+#include "gvd/gvd.h"
+#include "jizda/vlak.h"
 #include "pomocne/virtualni_platforma.h"
 #include "relief/relief.h"
 #include "zaklad/chyba.h"
@@ -131,6 +133,29 @@ TEST_F(Hodiny, MidnightShowsTheNextDayAndNoDate) {
     EXPECT_EQ(cas(), "0:00:00");
     EXPECT_EQ(simulace.den, 2);
     EXPECT_EQ(relief.lblDEN[0].text(), "úterý"_cz);
+}
+
+TEST_F(Hodiny, TrafficOfTheFirstMinuteBelongsToTheOldDay) {
+    GvdVlak nedelni;
+    nedelni.stanice = {27, 12};
+    nedelni.prijezdy = {0, 20};
+    nedelni.odjezdy = {0, -1};
+    nedelni.cislo = 601;
+    nedelni.dny = 64;
+    nedelni.vozy = {"742"};
+    nedelni.vozy_vlaky = {0};
+    GvdVlak pondelni = nedelni;
+    pondelni.cislo = 602;
+    pondelni.dny = 1;
+    gvd_vlaky = {pondelni, nedelni};
+    relief.kolej.zaloz(55).barva = barvy::seda;
+    relief.kolej.zaloz(56).barva = barvy::seda;
+    simulace.den = 64;
+    nastav("23:59:59");
+    krok(1000);
+    EXPECT_EQ(vlaky[0].cislo, 601);
+    EXPECT_EQ(vlaky[1].cislo, 0);
+    EXPECT_EQ(simulace.den, 1);
 }
 
 TEST_F(Hodiny, WeekGoesRound) {

@@ -8,6 +8,7 @@
 #include "cesty/cesta.h"
 #include "cesty/vyber.h"
 #include "desk/zprava.h"
+#include "gvd/gvd.h"
 #include "jizda/vlak.h"
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/virtualni_platforma.h"
@@ -281,6 +282,35 @@ TEST_F(Start, TrainsStartWithNoElementHeld) {
         EXPECT_EQ(v.rezerva, -3);
         EXPECT_EQ(v.prvek_konec, -3);
     }
+}
+
+// A train from Borovec at 12:01 is announced by the traffic step that ends the fill, at 11:59:58.
+TEST_F(Start, TrafficIsThereAtOnceUnlessASavedSimulationBringsIt) {
+    GvdVlak radek;
+    radek.stanice = {2, 9};
+    radek.prijezdy = {-1, 740};
+    radek.odjezdy = {721, -1};
+    radek.cislo = 4701;
+    radek.dny = 0x7F;
+    radek.vozy = {"754"};
+    radek.vozy_vlaky = {0};
+    Zapisovac soubor;
+    soubor.l(0);
+    soubor.text("");
+    popis_gvd_vlaku(soubor, radek);
+    svet.zapis("GVD/GVDtyden.dat", soubor.bajty);
+    spust();
+    EXPECT_EQ(vlaky[0].cislo, 4701);
+    EXPECT_EQ(relief.kolej[63].barva(), barvy::zelena);
+    EXPECT_EQ(svet.pipnuti, (std::vector<Pipnuti>{{500, 200}, {400, 150}}));
+    EXPECT_FALSE(simulace.nova_pipnuti);
+
+    nova_simulace();
+    simulace.cesta_aplikace = svet.cesta();
+    simulace.nacitani_zaznamu = true;
+    spust();
+    EXPECT_EQ(vlaky[0].cislo, 0);
+    EXPECT_EQ(gvd_vlaky.size(), 1u);
 }
 
 TEST_F(Start, TrainTableStandsInThreeColumns) {
