@@ -331,6 +331,8 @@ TEST(PravidlaTras, WayToTheEdgeOfTheDrawingExcusesAMissingRoute) {
     const Preklad p(bez + "odjezdy vlak vpravo 11 \"x\"\npovinna 211 72 \"x\"\n");
     EXPECT_EQ(p.vsechny(), "");
     EXPECT_EQ(p.konce(DruhTrasy::vlak, 211), (std::set<int>{}));
+    const Preklad natrvalo(bez + "slepa 74 \"dál nic nepovede\"\nodjezdy vlak vpravo 11 \"x\"\n");
+    HLASI(natrvalo.vsechny(), "kolej 11: nevede z ní žádná cesta vpravo");
 }
 
 // --- the proof
