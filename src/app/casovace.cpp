@@ -5,6 +5,9 @@
 #include "app/cas.h"
 #include "app/simulace.h"
 #include "cesty/tik_volby.h"
+#include "gvd/provoz.h"
+#include "jizda/krok_jizdy.h"
+#include "jizda/zastavky.h"
 #include "prvky/panel.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
@@ -54,6 +57,7 @@ void dalsi_den() {
 
 constexpr std::array kCasovace = {
     Casovac{"tmrHodiny", "hodiny", 150, &krok_hodin},
+    Casovac{"tmrJizdy", "jizdy", 1000, &krok_jizdy},
     Casovac{"tmrVolby", "volby", 1100, &tik_volby},
     Casovac{"tmrBlikani", "blikani", 500, &krok_blikani},
 };
@@ -87,6 +91,8 @@ void krok_hodin() {
 void krok_minuty() {
     simulace.minuty_simulace = na_integer(simulace.minuty_simulace + 1);
     relief.lblcas_od_zacatku[0].text = text_cisla(simulace.minuty_simulace);
+    krok_provozu();
+    aktualizuj_cekani();
     if (minuta_dne(cas_hodin()) == 0)
         dalsi_den();
     gtn_vyprazdni(); // a crash of the machine costs the log one minute at most

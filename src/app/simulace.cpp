@@ -9,6 +9,7 @@
 #include "desk/stitky.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
+#include "gvd/stav_provozu.h"
 #include "jizda/vlak.h"
 #include "prvky/panel.h"
 #include "prvky/souhlasy.h"
@@ -36,6 +37,7 @@ void nova_simulace() {
     relief = novy_relief();
     ++revize_reliefu;
     prejezdy.clear();
+    stav_provozu = StavProvozu{};
     gvd_vlaky.clear();
     vlaky = prvni_vlaky();
     koleje_vlaky = prvni_koleje_vlaky();

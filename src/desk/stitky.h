@@ -1,9 +1,11 @@
 // desk/stitky.h - notes on elements: tag, restriction (NVL) and possession (VYL).
 #pragma once
 
+#include "relief/prvek.h"
 #include "zaklad/text.h"
 
 #include <cstdint>
+#include <optional>
 #include <vector>
 
 struct StitekPrvku {
@@ -15,3 +17,6 @@ extern std::vector<StitekPrvku> stitky; // starts with one empty record
 
 // Index of the record of the element; -1 when it has none.
 int stitek_prvku(int prvek);
+// Background that a note gives the label: the possession rules before the restriction, that before the
+// tag; nothing when all three texts are empty.
+std::optional<Barva> pozadi_stitku(const StitekPrvku& stitek);

@@ -9,6 +9,7 @@
 
 #include "zaklad/text.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <vector>
 
@@ -54,6 +55,10 @@ struct Vlak {
     std::int16_t zpozdeni_vstup = 0;        // delay carried in, minutes
     std::int16_t zpozdeni = 0;              // present delay, minutes
 
+    // Derived, not saved: length of `prvky` when the stop handling last ran at the end of a route. It runs
+    // once for an arrival, else a station that stands twice in the timetable would hold the train twice.
+    std::size_t obslouzeno = 0;
+
     bool operator==(const Vlak&) const = default;
 };
 
@@ -76,6 +81,11 @@ std::vector<Vlak> prvni_vlaky();
 std::vector<KolejVlaky> prvni_koleje_vlaky();
 
 // --- at any time, without change
+
+// The train holds the track: one of its entries from the tail to the head.
+bool drzi_prvek(const Vlak& v, int kolej);
+// Another train than v holds the track.
+bool drzi_jiny(int kolej, int v);
 
 // The number that the operator sees: cislo2 when it is in force, else cislo.
 inline std::int32_t zobrazene_cislo(const Vlak& v) {

@@ -1,0 +1,23 @@
+// gvd/stav_provozu.h - what the traffic remembers between its minutes; all of it is saved.
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+// The nearest announced train of one entry station.
+struct DalsiVlak {
+    std::int16_t cas = 10; // minutes until its entry
+    std::int32_t cislo = 0;
+    std::uint8_t druh = 0;
+    std::int16_t predpoklad = 0; // expected minute of the entry, delay included
+    bool operator==(const DalsiVlak&) const = default;
+};
+
+struct StavProvozu {
+    std::array<DalsiVlak, 39> dalsi_vlaky{}; // by station code
+    std::int16_t pocet_zaloh = 0;            // standby locomotives ("ZAL") in the area
+    bool zaloha_731_jede = false;            // a standby locomotive of series 731 is in the area
+    bool zaloha_731_strana = false;          // the side from which the next one comes: true 569, false 538
+    bool operator==(const StavProvozu&) const = default;
+};
+extern StavProvozu stav_provozu;

@@ -1,0 +1,495 @@
+// jizda/krok_jizdy.cpp - the movement step: head pass, tail pass, route pass.
+//
+// There is no graph of tracks in the running. A train moves along a set route only: its next element is
+// the next entry of the route on whose list its head stands.
+#include "jizda/krok_jizdy.h"
+
+#include "app/cas.h"
+#include "app/simulace.h"
+#include "cesty/barvi_prvek.h"
+#include "cesty/cesta.h"
+#include "cesty/cisla_vlaku.h"
+#include "cesty/dotazy.h"
+#include "cesty/volba.h"
+#include "jizda/metry.h"
+#include "jizda/na_koleji.h"
+#include "jizda/poslusnost.h"
+#include "jizda/souprava.h"
+#include "jizda/vlak.h"
+#include "jizda/zastavky.h"
+#include "prvky/navestidla.h"
+#include "prvky/panel.h"
+#include "prvky/stanicni_prejezdy.h"
+#include "prvky/vyhybky.h"
+#include "relief/relief.h"
+#include "relief/topologie.h"
+#include "save/gtn.h"
+#include "zaklad/chyba.h"
+#include "zaklad/cisla.h"
+#include "zaklad/platforma.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <initializer_list>
+
+namespace {
+
+constexpr int kKonecUseku_m = 9;      // the last metres of a section are never run: the head jumps to the end
+constexpr int kDelkaVyhybky_m = 20;   // of train length that a switch or a derailer takes
+constexpr int kPodruhemVlaku_m = 150; // where a train finds itself when the one before it has left the track
+constexpr int kRychlostTlaceni = 30;  // km/h of a train pushed from behind
+
+Vlak& vlak_c(int v) {
+    return vlaky[static_cast<std::size_t>(v)];
+}
+Cesta& cesta_c(int c) {
+    return cesty[static_cast<std::size_t>(c)];
+}
+int pocet_cest() {
+    return static_cast<int>(cesty.size());
+}
+int posledni(const Cesta& cesta) {
+    return static_cast<int>(cesta.prvky.size()) - 1;
+}
+std::int16_t prvek_c(const Cesta& cesta, int i) {
+    return cesta.prvky[static_cast<std::size_t>(i)];
+}
+// Kinds and positions beyond the end read as 0.
+std::uint8_t druh_c(const Cesta& cesta, int i) {
+    return static_cast<std::size_t>(i) < cesta.druhy.size() ? cesta.druhy[static_cast<std::size_t>(i)]
+                                                            : std::uint8_t{0};
+}
+std::uint8_t poloha_c(const Cesta& cesta, int i) {
+    return static_cast<std::size_t>(i) < cesta.polohy.size() ? cesta.polohy[static_cast<std::size_t>(i)]
+                                                             : std::uint8_t{0};
+}
+
+bool je_v(int prvek, std::initializer_list<int> cisla) {
+    return std::find(cisla.begin(), cisla.end(), prvek) != cisla.end();
+}
+
+// --- the route under the head
+
+// Index at which the head of v stands on route c; -1 when it does not stand on it, or when the route may
+// not be entered (signal at stop, cancellation running).
+int misto_na_ceste(const Cesta& cesta, const Vlak& vlak) {
+    if (!cesta.Postavena || cesta.cas_ruseni >= 0)
+        return -1;
+    const int po = std::min<int>(cesta.Umazat, posledni(cesta));
+    for (int i = 0; i <= po; ++i)
+        if (prvek_c(cesta, i) == vlak.prvky.back() && druh_c(cesta, i) == vlak.prvky_druh.back())
+            return i;
+    return -1;
+}
+
+// An older route of v that is fully run goes; a calling-on route only when its locking was released.
+void oznac_stare_cesty(int nova, int v) {
+    for (int c = 0; c < pocet_cest(); ++c) {
+        Cesta& stara = cesta_c(c);
+        if (c == nova || stara.Vlak != v || stara.Umazat != posledni(stara))
+            continue;
+        if (!stara.PN || stara.PN_zaver)
+            stara.Vlak = kKOdstraneni;
+        return;
+    }
+}
+
+// The gates before a route that the head of v stands on at index i.
+bool vezmi_cestu(int c, int i, int v) {
+    if (cesta_c(c).Umazat == 0 && cesta_c(c).PN && cesta_c(c).PN_do < ted_s())
+        return false; // the calling-on aspect is over
+    if (cesta_c(c).VC == vlak_c(v).posun)
+        return false; // a train takes train routes, a shunt takes shunt routes
+    if (!srovnej_smer(c, i, v))
+        return false;
+    if (i == 0 && !muze_vyjet(v, vlak_c(v).smer))
+        return false;
+    if (cesta_c(c).Vlak >= 0 && cesta_c(c).Vlak != v)
+        return false;
+    if (cesta_c(c).Vlak < 0) {
+        cesta_c(c).Vlak = static_cast<std::int16_t>(v);
+        oznac_stare_cesty(c, v);
+    }
+    if (i == 0)
+        omez_rychlost(c, v);
+    return true;
+}
+
+// --- passing the start of a route
+
+void zhasni_navestidlo(const Cesta& cesta) {
+    const int s = cesta.zacatek;
+    if (navestidla(s).je(s))
+        navestidla(s)[s].barva = barvy::seda;
+    if (simulace.detail_navestidlo == s)
+        obnov_panel(s);
+    gtn_zapis(s, gtn::barva_navestidla, barvy::seda);
+}
+
+void zapocti_prejezd(int k) {
+    StanicniPrejezd& prejezd = stanicni_prejezdy[static_cast<std::size_t>(k)];
+    if (prejezd.pocet < 255) // a counter never wraps
+        ++prejezd.pocet;
+    gtn_zapis(k, gtn::prejezd, 1);
+    if (!prejezd.UZ) {
+        prejezd.uzavren = false;
+        prejezd.cas = kZadny;
+    }
+    if (prejezd.pocet != 128)
+        gtn_zapis(k, gtn::barva_navestidla, 2); // the code of a signal here is meant
+}
+
+void opust_zacatek(int c) {
+    if (cesta_c(c).Umazat != 0)
+        return; // the work was done when the next section was still occupied
+    if (cesta_c(c).VC && !cesta_c(c).PN && ab_zapnuto(cesta_c(c).zacatek))
+        kopie_ab(c);
+    const Cesta& cesta = cesta_c(c);
+    if (!je_v(prvek_c(cesta, 0), {212, 213, 219}) && !cesta.PN)
+        zhasni_navestidlo(cesta);
+    cesta_c(c).Umazat = 1;
+    if (cesta_c(c).prejezd < stanicni_prejezdy.size())
+        zapocti_prejezd(cesta_c(c).prejezd);
+}
+
+// --- entering the next entry
+
+// A train comes to an end from which a route over a station crossing stands: the crossing closes in 30 s.
+void prejezd_za_cestou(int n, int c) {
+    const bool prvni = (n >= 9 && n <= 17) || je_v(n, {650, 652, 97});
+    const bool druhy = (n >= 36 && n <= 40) || je_v(n, {666, 668});
+    if (!prvni && !druhy)
+        return;
+    for (int k = 0; k < pocet_cest(); ++k) {
+        const Cesta& dalsi = cesta_c(k);
+        if (k != c && prvek_c(dalsi, 0) == n && dalsi.Postavena && dalsi.Umazat == 0 &&
+            dalsi.cas_ruseni < 0 && dalsi.prejezd != kBezPrejezdu) {
+            stanicni_prejezdy[prvni ? 0 : 1].cas = ted_s() + 30;
+            return;
+        }
+    }
+}
+
+void obsad_vyhybku(const Cesta& cesta, int i) {
+    vyhybka_stav(prvek_c(cesta, i), poloha_c(cesta, i) + stav_vyhybky::obsazena, false, false);
+}
+
+// The head enters track `n`, entry i + 1, from kind `odkud`. False: an occupied section stops it.
+bool vstup_na_kolej(int c, int i, int v, std::uint8_t odkud) {
+    const Cesta& cesta = cesta_c(c);
+    const int n = prvek_c(cesta, i + 1);
+    const bool obsazena = je_kolej(n) && relief.kolej[n].barva == barvy::cervena;
+    // The only stop for a train in front; shunts and calling-on routes run up to what stands there. Out of
+    // a switch the test is not made, which is meant.
+    if (odkud == druh_prvku::kolej && obsazena && cesta.VC && !cesta.PN) {
+        vlak_c(v).rychlost = 0;
+        return false;
+    }
+    if (i + 1 == posledni(cesta))
+        prejezd_za_cestou(n, c);
+    if (je_cislo_koleje(n) && n < 600)
+        pridej_na_kolej(n, v, vlak_c(v).smer, -1);
+    rychlost_trati_prvek(n, v);
+    // The drawing is folded: on these tracks the sense of travel turns.
+    const bool obrat = odkud == druh_prvku::kolej ? je_v(n, {115, 116, 118}) : je_v(n, {118, 335, 336});
+    if (obrat)
+        vlak_c(v).smer = !vlak_c(v).smer;
+    if (!obsazena)
+        nastav_metry(n, 0);
+    barvi_prvek(n, barvy::cervena);
+    return true;
+}
+
+// The head goes on from entry i to entry i + 1 of route c; false when it stays before an occupied section.
+bool vstup(int c, int i, int v, std::uint8_t odkud) {
+    const std::uint8_t kam = druh_c(cesta_c(c), i + 1);
+    const int n = prvek_c(cesta_c(c), i + 1);
+    const bool pn = cesta_c(c).PN;
+    if (kam == druh_prvku::kolej) {
+        if (!vstup_na_kolej(c, i, v, odkud))
+            return false;
+    } else if (kam == druh_prvku::vyhybka && !pn && odkud != druh_prvku::vykolejka) {
+        const Cesta& cesta = cesta_c(c);
+        obsad_vyhybku(cesta, i + 1);
+        if (druh_c(cesta, i + 2) == druh_prvku::vyhybka)
+            obsad_vyhybku(cesta, i + 2); // two coupled switches are shown occupied together
+    } else if (kam == druh_prvku::vykolejka && !pn && odkud == druh_prvku::kolej &&
+               relief.lblVykolejka.je(n)) {
+        relief.lblVykolejka[n].barva = barvy::cervena;
+    }
+    if (odkud == druh_prvku::kolej) {
+        const int opustena = prvek_c(cesta_c(c), i);
+        nastav_metry(opustena, delka_koleje(opustena));
+    }
+    Cesta& cesta = cesta_c(c);
+    Vlak& vlak = vlak_c(v);
+    cesta.Umazat = na_byte(i + 1);
+    vlak.prvky.push_back(prvek_c(cesta, i + 1));
+    vlak.prvky_druh.push_back(kam);
+    vlak.prvky_poloha.push_back(poloha_c(cesta, i + 1));
+    uber_z_opustenych(v);
+    if (kam == druh_prvku::kolej)
+        kontrola_vstupu(c, i, v);
+    return true;
+}
+
+// --- end of a route
+
+// True: the train is done for this step; false: the search goes on with the next route.
+bool konec_cesty(int c, int v) {
+    const int e = vlak_c(v).prvky.back();
+    const int delka = delka_koleje(e);
+    if (metry(e) < delka) {
+        nastav_metry(e, delka);
+        return true;
+    }
+    if (!je_nastaveno_z(e))
+        vlak_c(v).rychlost = 0;
+    if (vlak_c(v).obslouzeno != vlak_c(v).prvky.size()) {
+        vlak_c(v).obslouzeno = vlak_c(v).prvky.size();
+        vlak_v_cili(e, v);
+    }
+    if (!vlak_c(v).muze_jet)
+        return true;
+    zpusob_odjezdu(e, v);
+    if (!cesta_c(c).PN || cesta_c(c).PN_zaver) {
+        smaz_cestu(c);
+        zmena_zasobniku();
+        return true;
+    }
+    return vlak_c(v).cislo < 1;
+}
+
+// --- head pass
+
+std::int16_t delka_kroku(std::uint8_t rychlost, std::int32_t dt) {
+    const double cele = dolu(static_cast<double>(rychlost) * dt / 3600.0);
+    return na_integer(cele * simulace.rychlost * 0.97);
+}
+
+[[noreturn]] void vadna_cesta() {
+    platforma.okno("KPS RVZ TESK"_cz, "Chyba: cesta bez koncového úseku"_cz);
+    gtn_zavri();
+    platforma.ukonci(1);
+    throw KonecProgramu{1};
+}
+
+// One advance of v along route c from index i; true when the train is done for this step.
+bool jed(int c, int i, int v, std::int32_t dt) {
+    const std::int16_t krok = delka_kroku(vlak_c(v).rychlost, dt);
+    uprav_rychlost(v);
+    const int e = vlak_c(v).prvky.back();
+    const std::uint8_t druh = vlak_c(v).prvky_druh.back();
+    const bool na_konci_seznamu = i == posledni(cesta_c(c));
+    if (druh != druh_prvku::kolej) {
+        if (na_konci_seznamu)
+            vadna_cesta();
+        vstup(c, i, v, druh); // crossed in one step, whatever the speed
+        return true;
+    }
+    const double celo = metry(e);
+    if (celo + krok <= delka_koleje(e) - kKonecUseku_m) {
+        nastav_metry(e, celo + krok);
+        uvnitr_prvku(c, i, v);
+        return true;
+    }
+    if (na_konci_seznamu)
+        return konec_cesty(c, v);
+    if (i == 0)
+        opust_zacatek(c);
+    vstup(c, i, v, druh);
+    return true;
+}
+
+void krok_cela(int v, std::int32_t dt) {
+    const Vlak& vlak = vlak_c(v);
+    if (vlak.cislo <= 0 || !(vlak.posun || vlak.muze_jet) || vlak.prvky.empty() || !ma_loko(vlak))
+        return;
+    for (int c = 0; c < pocet_cest() && cesta_c(c).zacatek >= 0; ++c) {
+        const int i = misto_na_ceste(cesta_c(c), vlak_c(v));
+        if (i >= 0 && vezmi_cestu(c, i, v) && jed(c, i, v, dt))
+            return;
+    }
+}
+
+// --- tail pass
+
+// Length that v takes from its rearmost entry to its head: metres of the tracks, 20 m a switch; derailers
+// do not count.
+std::int32_t obsazena_delka(const Vlak& vlak) {
+    double delka = 0;
+    for (std::size_t j = static_cast<std::size_t>(vlak.prvek_konec); j < vlak.prvky.size(); ++j) {
+        if (vlak.prvky_druh[j] == druh_prvku::kolej)
+            delka = zaokrouhli(delka + metry(vlak.prvky[j]));
+        else if (vlak.prvky_druh[j] == druh_prvku::vyhybka)
+            delka += kDelkaVyhybky_m;
+    }
+    return na_long(delka);
+}
+
+void uvolni_kolej(int v, int j) {
+    const int e = vlak_c(v).prvky[static_cast<std::size_t>(j)];
+    const bool popsana = vlak_c(v).prvky_poloha[static_cast<std::size_t>(j)] == 2;
+    const bool cislovana = je_cislo_koleje(e) && e < 600;
+    if (cislovana) {
+        uber_z_koleje(e, v);
+        // The number ran ahead over a route against the train's sense: it is taken back.
+        const int protismerna =
+            cesta_od_prvku(e, vlak_c(v).prvky[static_cast<std::size_t>(j) + 1], vlak_c(v).smer);
+        if (protismerna >= 0)
+            vymaz_cislo(protismerna, true, {});
+    }
+    const Text cislo = vlak_c(v).posun ? Text{} : text_cisla(zobrazene_cislo(vlak_c(v)));
+    // The number that stays on the label of a track with two of them goes with its train.
+    if (cislovana && !vlak_na_koleji(e))
+        smaz_cislo_z_dvou(e, zobrazene_cislo(vlak_c(v)));
+    if (vlak_na_koleji(e) || drzi_jiny(e, v)) {
+        nastav_metry(e, kPodruhemVlaku_m);
+        return;
+    }
+    if (cislovana) {
+        barvi_prvek(e, barvy::azurova, true);
+        pis_cislo(e, cislo, true);
+    } else {
+        barvi_prvek(e, barvy::seda);
+        if (popsana)
+            pis_cislo(e, cislo, true);
+    }
+    nastav_metry(e, 0);
+}
+
+void uvolni_vyhybku(int v, int j) {
+    Vlak& vlak = vlak_c(v);
+    const int n = vlak.prvky[static_cast<std::size_t>(j)];
+    if (n == vlak.konec_omezeni)
+        vlak.omezeni_ukonceno = true; // the whole train has cleared the last switch of its route
+    const int stav = stav_vyhybky_cislo(n);
+    if (stav < 100 || stav > 150) // in between another route has reserved it
+        vyhybka_stav(n, vlak.prvky_poloha[static_cast<std::size_t>(j)], false, false);
+}
+
+void krok_konce(int v) {
+    if (vlak_c(v).cislo <= 0 || !vlak_c(v).muze_jet || vlak_c(v).prvky.empty() || vlak_c(v).prvek_konec < 0)
+        return;
+    std::int32_t delka = obsazena_delka(vlak_c(v));
+    // The head is never released.
+    for (int j = vlak_c(v).prvek_konec; j + 1 < static_cast<int>(vlak_c(v).prvky.size()); ++j) {
+        const std::uint8_t druh = vlak_c(v).prvky_druh[static_cast<std::size_t>(j)];
+        const int e = vlak_c(v).prvky[static_cast<std::size_t>(j)];
+        if (druh == druh_prvku::kolej) {
+            const int useku = delka_koleje(e);
+            if (delka - useku < vlak_c(v).delka)
+                return;
+            uvolni_kolej(v, j);
+            delka -= useku;
+            ohlas_odjezd(v, j);
+        } else if (druh == druh_prvku::vyhybka || druh == druh_prvku::vykolejka) {
+            // Derailers are no part of the sum but are taken out of it: what lies behind one is released
+            // 20 m later. This is meant.
+            if (delka - kDelkaVyhybky_m < vlak_c(v).delka)
+                return;
+            delka -= kDelkaVyhybky_m;
+            if (druh == druh_prvku::vyhybka)
+                uvolni_vyhybku(v, j);
+            else if (relief.lblVykolejka.je(e))
+                relief.lblVykolejka[e].barva = barvy::seda;
+        } else {
+            continue;
+        }
+        ++vlak_c(v).prvek_konec;
+    }
+}
+
+// --- route pass
+
+// A route that a removal moves down waits for the next step: this is meant.
+void uklid_cesty() {
+    bool zmena = false;
+    for (int c = 0; c < pocet_cest(); ++c) {
+        const int v = cesta_c(c).Vlak;
+        const bool osirela = v >= 0 && (v >= static_cast<int>(vlaky.size()) || vlak_c(v).cislo < 1);
+        if (cesta_c(c).zacatek >= 0 && (osirela || v == kKOdstraneni)) {
+            smaz_cestu(c);
+            zmena = true;
+        }
+    }
+    if (zmena)
+        zmena_zasobniku();
+}
+
+// --- speeds
+
+struct RychlostPrvku {
+    std::int16_t prvek;
+    std::uint8_t rychlost;
+};
+
+// Elements that set the line speed when the head enters them, by the sense of travel.
+constexpr RychlostPrvku kRychlostiVpravo[] = {
+    {135, 40}, {136, 40},  {140, 40},  {141, 40},  {145, 40},  {552, 40},  {131, 60}, {132, 60},
+    {133, 60}, {197, 60},  {198, 60},  {311, 60},  {312, 60},  {84, 65},   {85, 65},  {118, 70},
+    {306, 70}, {296, 75},  {298, 75},  {295, 80},  {300, 80},  {413, 80},  {414, 80}, {531, 85},
+    {532, 85}, {600, 100}, {602, 100}, {720, 100}, {722, 100}, {774, 100}, {776, 100}};
+constexpr RychlostPrvku kRychlostiVlevo[] = {
+    {531, 40}, {532, 40}, {135, 60},  {136, 60},  {141, 60},  {145, 60}, {295, 60}, {300, 60},
+    {311, 60}, {312, 60}, {84, 65},   {85, 65},   {413, 65},  {414, 65}, {118, 70}, {306, 70},
+    {117, 75}, {978, 75}, {980, 75},  {270, 80},  {271, 80},  {418, 80}, {419, 80}, {686, 80},
+    {720, 80}, {722, 80}, {738, 80},  {323, 85},  {326, 85},  {774, 90}, {776, 90}, {19, 100},
+    {20, 100}, {21, 100}, {107, 100}, {108, 100}, {234, 100}, {235, 100}};
+
+} // namespace
+
+void rychlost_trati_prvek(int prvek, int v) {
+    const auto najdi = [&](const auto& tabulka_rychlosti) {
+        for (const RychlostPrvku& r : tabulka_rychlosti)
+            if (r.prvek == prvek)
+                vlak_c(v).rychlost_trati = r.rychlost;
+    };
+    if (vlak_c(v).smer)
+        najdi(kRychlostiVpravo);
+    else
+        najdi(kRychlostiVlevo);
+}
+
+// Acceleration is per step, not per unit of time, and depends on the consist.
+void uprav_rychlost(int v) {
+    Vlak& vlak = vlak_c(v);
+    if (!vlak.muze_jet)
+        return;
+    if (vlak.vozy.empty() || (!je_loko(vlak.vozy[0]) && vlak.vozy[0] != "943" && vlak.vozy[0] != "954")) {
+        // Pushed from behind: exactly 30 km/h, from a stand too, above any limit. This is meant.
+        vlak.rychlost = kRychlostTlaceni;
+        return;
+    }
+    float d = 1;
+    if (vlak.druh >= 10)
+        d = static_cast<float>(vlak.delka) / 350.0f + 1.0f;
+    if (vlak.druh == 13)
+        d = d / 2.0f + 1.0f;
+    if (vlak.druh == 16)
+        d = 1;
+    const int cil =
+        vlak.rychlost_cesty != 0 && !vlak.omezeni_ukonceno ? vlak.rychlost_cesty : vlak.rychlost_trati;
+    const int r = cil - vlak.rychlost;
+    const float a = 3.0f * static_cast<float>(simulace.rychlost) / d;
+    if (r < 0 || a > static_cast<float>(std::abs(r)))
+        vlak.rychlost = na_byte(cil);
+    else
+        vlak.rychlost = na_byte(static_cast<double>(static_cast<float>(vlak.rychlost) + a));
+    vlak.rychlost = std::min(vlak.rychlost, vlak.max_rychlost);
+}
+
+void krok_jizdy() {
+    if (simulace.pauza || cesty.empty())
+        return;
+    const auto dt = static_cast<std::int32_t>(static_cast<std::uint32_t>(platforma.tik_ms()) -
+                                              static_cast<std::uint32_t>(simulace.tick_jizdy));
+    const int pocet = static_cast<int>(vlaky.size()); // trains made on the way move from the next step on
+    for (int v = 0; v < pocet; ++v)
+        krok_cela(v, dt);
+    for (int v = 0; v < pocet; ++v)
+        krok_konce(v);
+    uklid_cesty();
+    simulace.tick_jizdy = platforma.tik_ms();
+}

@@ -1,0 +1,13 @@
+// jizda/krok_jizdy.h - the movement of all trains: tmrJizdy, every 1000 ms.
+#pragma once
+
+// One step: every head advances at most once, every tail releases what it has left, used routes go.
+// Nothing in a pause.
+void krok_jizdy();
+
+// --- at any time
+
+// Next speed of train v. Braking takes no distance: there is no braking curve, which is meant.
+void uprav_rychlost(int v);
+// Line speed that entering the element puts in force, if it is one of those that set it.
+void rychlost_trati_prvek(int prvek, int v);

@@ -1,0 +1,185 @@
+// jizda/na_koleji.cpp - lists of trains on tracks, and the number labels.
+#include "jizda/na_koleji.h"
+
+#include "cesty/cisla_vlaku.h"
+#include "desk/stitky.h"
+#include "jizda/zastavky.h"
+#include "relief/relief.h"
+#include "save/gtn.h"
+#include "zaklad/cisla.h"
+
+#include <algorithm>
+
+namespace {
+
+// No second label of their own: 212, 213 and 219 are labels of line ends.
+bool je_stitek_trati(int stitek) {
+    return stitek == 212 || stitek == 213 || stitek == 219;
+}
+
+Text text_vlaku(int vlak) {
+    return vlak < 0 ? Text{} : text_cisla(zobrazene_cislo(vlaky[static_cast<std::size_t>(vlak)]));
+}
+
+// First train in [od, po) that is no shunting movement; -1 when there is none.
+template <class It> int prvni_vlak(It od, It po) {
+    const It nalezeny = std::find_if(
+        od, po, [](std::int16_t v) { return v >= 0 && !vlaky[static_cast<std::size_t>(v)].posun; });
+    return nalezeny == po ? -1 : *nalezeny;
+}
+
+// Two labels: the lowest train of the list on the left one, the highest on the right one.
+void zobraz_dva_stitky(int e, const std::vector<std::int16_t>& seznam) {
+    Prvek& levy = relief.cislo_koleje[e];
+    Prvek& pravy = relief.cislo_koleje[e + 200];
+    if (levy.popis() != pravy.popis())
+        return;
+    const int vlak_vlevo = prvni_vlak(seznam.begin(), seznam.end());
+    const int vlak_vpravo = prvni_vlak(seznam.rbegin(), seznam.rend());
+    const Text text_vlevo = text_vlaku(vlak_vlevo);
+    Text text_vpravo = text_vlaku(vlak_vpravo);
+    if (text_vlevo == text_vpravo)
+        text_vpravo = pravy.popis;
+    if (text_vlevo.empty())
+        nastav_pozadi_stitku(e, barvy::cerna);
+    nastav_text(levy, text_vlevo);
+    levy.viditelny = !text_vlevo.empty();
+    if (e != 19) {
+        pravy.barva = relief.kolej[e].barva;
+        nastav_pozadi_stitku(e + 200, barvy::cerna);
+        nastav_text(pravy, text_vpravo);
+    }
+    zobraz_cislo(e, e, vlak_vlevo);
+    zobraz_cislo(e + 200, e, vlak_vpravo);
+}
+
+void zobraz_jeden_stitek(int e, const std::vector<std::int16_t>& seznam) {
+    Prvek& stitek = relief.cislo_koleje[e];
+    const int vlak = prvni_vlak(seznam.begin(), seznam.end());
+    nastav_text(stitek, vlak >= 0 && e < 500 ? text_vlaku(vlak) : Text{});
+    stitek.viditelny = !orez(stitek.text()).empty();
+}
+
+// Out of the lists of those tracks for which the condition holds; their labels follow.
+template <class Podminka> void uber_ze_seznamu(int vlak, Podminka podminka) {
+    for (std::size_t i = 0; i < koleje_vlaky.size(); ++i) {
+        const std::vector<std::int16_t>& seznam = koleje_vlaky[i].vlaky;
+        const int prvek = koleje_vlaky[i].prvek;
+        if (std::find(seznam.begin(), seznam.end(), vlak) == seznam.end() || !podminka(prvek))
+            continue;
+        uber_z_koleje(prvek, vlak);
+        if (vlak_na_koleji(prvek))
+            continue;
+        const std::int32_t cislo = zobrazene_cislo(vlaky[static_cast<std::size_t>(vlak)]);
+        smaz_cislo_z_dvou(prvek, cislo);
+        pis_cislo(prvek, text_cisla(cislo), true);
+    }
+}
+
+} // namespace
+
+int zaznam_koleje(int prvek) {
+    for (std::size_t i = 0; i < koleje_vlaky.size(); ++i)
+        if (koleje_vlaky[i].prvek == prvek)
+            return static_cast<int>(i);
+    return -1;
+}
+
+bool vlak_na_koleji(int prvek) {
+    const int zaznam = zaznam_koleje(prvek);
+    return zaznam >= 0 && koleje_vlaky[static_cast<std::size_t>(zaznam)].vlaky.front() >= 0;
+}
+
+void pridej_na_kolej(int prvek, int vlak, bool smer, int vedle) {
+    if (prvek == 118)
+        smer = !smer;
+    int zaznam = zaznam_koleje(prvek);
+    if (zaznam < 0) {
+        zaznam = static_cast<int>(koleje_vlaky.size());
+        koleje_vlaky.push_back({static_cast<std::int16_t>(prvek), {kZadny}});
+    }
+    std::vector<std::int16_t>& seznam = koleje_vlaky[static_cast<std::size_t>(zaznam)].vlaky;
+    const auto novy = static_cast<std::int16_t>(vlak);
+    if (seznam.front() < 0) {
+        seznam.front() = novy;
+    } else if (vedle < 0) {
+        seznam.insert(smer ? seznam.begin() : seznam.end(), novy);
+    } else {
+        auto misto = std::find(seznam.begin(), seznam.end(), vedle);
+        if (smer && misto != seznam.end())
+            ++misto;
+        seznam.insert(misto, novy);
+    }
+    gtn_zapis(prvek, gtn::vlak_na_kolej, zobrazene_cislo(vlaky[static_cast<std::size_t>(vlak)]));
+    zobraz_kolej(zaznam);
+}
+
+void uber_z_koleje(int prvek, int vlak) {
+    const int zaznam = zaznam_koleje(prvek);
+    if (zaznam < 0)
+        return;
+    std::vector<std::int16_t>& seznam = koleje_vlaky[static_cast<std::size_t>(zaznam)].vlaky;
+    const auto misto = std::find(seznam.begin(), seznam.end(), vlak);
+    if (misto == seznam.end())
+        return;
+    gtn_zapis(prvek, gtn::vlak_z_koleje, zobrazene_cislo(vlaky[static_cast<std::size_t>(vlak)]));
+    if (seznam.size() == 1) {
+        seznam.front() = kZadny;
+        return;
+    }
+    seznam.erase(misto);
+    zobraz_kolej(zaznam);
+}
+
+void zobraz_kolej(int zaznam) {
+    const KolejVlaky kolej = koleje_vlaky[static_cast<std::size_t>(zaznam)];
+    const int e = kolej.prvek;
+    if (!je_cislo_koleje(e) || !je_kolej(e))
+        return;
+    if (je_cislo_koleje(e + 200))
+        zobraz_dva_stitky(e, kolej.vlaky);
+    else
+        zobraz_jeden_stitek(e, kolej.vlaky);
+}
+
+void zobraz_cislo(int stitek, int prvek, int vlak) {
+    if (vlak < 0)
+        return;
+    if (!vlaky[static_cast<std::size_t>(vlak)].muze_jet) {
+        zobraz_cekani(vlak);
+        return;
+    }
+    Prvek& p = relief.cislo_koleje[stitek];
+    nastav_pozadi_stitku(stitek, barvy::cerna);
+    if (!je_stitek_trati(stitek))
+        p.barva = relief.kolej[prvek].barva;
+    if (const int i = stitek_prvku(prvek); i >= 0)
+        if (const auto pozadi = pozadi_stitku(stitky[static_cast<std::size_t>(i)]))
+            nastav_pozadi_stitku(stitek, *pozadi);
+}
+
+void nastav_pozadi_stitku(int stitek, Barva pozadi) {
+    Prvek& p = relief.cislo_koleje[stitek];
+    p.pozadi = pozadi;
+    p.ramecek = pozadi != barvy::cerna;
+}
+
+void uber_z_opustenych(int vlak) {
+    uber_ze_seznamu(vlak,
+                    [vlak](int prvek) { return !drzi_prvek(vlaky[static_cast<std::size_t>(vlak)], prvek); });
+}
+
+void uber_ze_vsech(int vlak) {
+    uber_ze_seznamu(vlak, [](int) { return true; });
+}
+
+void smaz_cislo_z_dvou(int prvek, std::int32_t cislo) {
+    const int zaznam = zaznam_koleje(prvek);
+    if (zaznam < 0 || !je_cislo_koleje(prvek) || !je_cislo_koleje(prvek + 200))
+        return;
+    for (const int stitek : {prvek, prvek + 200})
+        if (cele_z_textu(orez(relief.cislo_koleje[stitek].text())) == cislo) {
+            zobraz_kolej(zaznam);
+            return;
+        }
+}

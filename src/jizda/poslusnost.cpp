@@ -1,0 +1,295 @@
+// jizda/poslusnost.cpp - sense and limits of routes, warnings, level crossings, leaving the area.
+#include "jizda/poslusnost.h"
+
+#include "app/simulace.h"
+#include "cesty/barvi_prvek.h"
+#include "cesty/cisla_vlaku.h"
+#include "cesty/dotazy.h"
+#include "desk/zprava.h"
+#include "gvd/gvd.h"
+#include "gvd/stav_provozu.h"
+#include "jizda/metry.h"
+#include "jizda/na_koleji.h"
+#include "jizda/souprava.h"
+#include "jizda/spojovani.h"
+#include "jizda/vlak.h"
+#include "jizda/zastavky.h"
+#include "relief/prejezdy.h"
+#include "relief/relief.h"
+#include "relief/topologie.h"
+#include "zaklad/cisla.h"
+
+#include <algorithm>
+#include <array>
+#include <initializer_list>
+
+namespace {
+
+constexpr int kMinutNaRozjezd = 5;   // so long after the start the trains already under way are not told of
+constexpr int kRychlostPosunu = 30;  // km/h over a shunt or calling-on route
+constexpr int kRychlostVstupu = 100; // km/h over a route made for a train that enters the area
+
+Vlak& vlak_c(int v) {
+    return vlaky[static_cast<std::size_t>(v)];
+}
+const Cesta& cesta_c(int c) {
+    return cesty[static_cast<std::size_t>(c)];
+}
+int prvek_c(const Cesta& cesta, int i) {
+    return cesta.prvky[static_cast<std::size_t>(i)];
+}
+bool je_v(int cislo, std::initializer_list<int> cisla) {
+    return std::find(cisla.begin(), cisla.end(), cislo) != cisla.end();
+}
+
+// --- warnings
+
+// The signal in front of which the route ends, and its name for the operator.
+int navestidlo_konce(const Cesta& cesta, bool smer) {
+    if (cesta.konec >= 600)
+        return cesta.konec % 50 + (smer ? 601 : 600);
+    return cesta.konec + 200;
+}
+Text jmeno_konce(const Cesta& cesta, bool smer) {
+    const int s = navestidlo_konce(cesta, smer);
+    return relief.navestidlo.je(s) ? jmeno_navestidla(s) : jmeno_navestidla(cesta.zacatek);
+}
+
+// A train runs towards a signal at danger. Nothing follows from it: the operator is told.
+void varuj(TextPohled text) {
+    if (simulace.minuty_simulace <= kMinutNaRozjezd)
+        return;
+    pipni(100, 200);
+    zprava(" POZOR "_cz, text, barvy::bila, 0, false, 0xFFFFFF, barvy::cervena);
+}
+
+Text veta_projel(int v, TextPohled na, TextPohled kde) {
+    Text veta = " Vlak ";
+    veta += text_cisla(zobrazene_cislo(vlak_c(v)));
+    veta += na;
+    veta += kde;
+    veta += " okolo navesti VYSTRAHA!";
+    return veta;
+}
+
+// Told once: while the same stands on the command line it is not told again.
+bool uz_receno(const Text& cast) {
+    return prikaz_radek.obsazen && relief.lblVolba[0].text().find(cast) != Text::npos;
+}
+
+// The end of a long section comes near and no route goes on from it.
+void varuj_na_konci_useku(const Cesta& cesta, int e, int v) {
+    const bool smer = vlak_c(v).smer;
+    const bool dlouhy =
+        je_v(e, {120, 123}) || (smer && je_v(e, {654, 656})) || (!smer && je_v(e, {604, 606}));
+    if (!dlouhy && e != 118)
+        return;
+    const double zbyva = delka_koleje(e) - metry(e);
+    if (zbyva <= (e == 118 ? 600 : 500) || zbyva >= 700 || je_nastaveno_z(e))
+        return;
+    if (e == 118) {
+        if (!uz_receno("TK THN-MOK okolo navesti VYSTRAHA!"))
+            varuj(veta_projel(v, " projel na ", "TK THN-MOK"));
+        return;
+    }
+    const Text kde = jmeno_konce(cesta, smer);
+    // Two blanks behind "na" here, one in the other warnings: as designed.
+    if (!uz_receno(kde + " okolo navesti VYSTRAHA!"))
+        varuj(veta_projel(v, " projel na  ", kde));
+}
+
+// --- leaving
+
+struct Vystup {
+    int od, po;
+    bool smer;
+    int stanice; // 0: none named
+};
+constexpr std::array kVystupy = {
+    Vystup{86, 90, false, 1},   Vystup{62, 65, true, 2},     Vystup{66, 69, true, 6},
+    Vystup{41, 43, true, 4},    Vystup{213, 213, false, 20}, Vystup{212, 212, false, 19},
+    Vystup{219, 219, false, 5}, Vystup{25, 25, false, 0},    Vystup{91, 92, false, 0},
+    Vystup{119, 119, false, 0}, Vystup{557, 557, false, 0},  Vystup{595, 595, false, 0},
+    Vystup{55, 56, true, 0},    Vystup{112, 112, true, 0},   Vystup{574, 574, true, 0}};
+
+// Vrbice and Dubnice lie in one direction.
+bool spravny_smer(const Vlak& vlak, int stanice) {
+    if (stanice == 0 || vlak.stanice.empty())
+        return true;
+    const int cil = vlak.stanice.back();
+    return cil == stanice || (cil == 4 && stanice == 5) || (cil == 5 && stanice == 4);
+}
+
+// Delays are told by the number of the timetable, which is the first one.
+void smaz_hlaseni_zpozdeni(const Vlak& vlak) {
+    constexpr std::size_t kSloupecCisla = 16;
+    const auto jeho = [&](const Text& radek) {
+        const std::int32_t cislo = cele_z_textu(vyrez(radek, kSloupecCisla));
+        return radek.find("Zpoždění vlaku"_cz) != Text::npos &&
+               (cislo == vlak.cislo || cislo == zobrazene_cislo(vlak));
+    };
+    std::vector<Text>& radky = relief.lstZpravy.radky;
+    const auto konec = std::remove_if(radky.begin(), radky.end(), jeho);
+    if (konec == radky.end())
+        return;
+    radky.erase(konec, radky.end());
+    relief.lstZpravy.vybrany = std::min(relief.lstZpravy.vybrany, static_cast<int>(radky.size()) - 1);
+    ++revize_reliefu;
+}
+
+// The standby locomotive of the stabling yard goes out; which side it took decides where the next comes from.
+void zapocti_odchod_zalohy(const Vlak& vlak) {
+    if (vlak.vozy_urceni.empty())
+        return;
+    if (vlak.vozy_urceni.front() == "ZAL" || vlak.vozy_urceni.back() == "ZAL")
+        --stav_provozu.pocet_zaloh;
+    for (std::size_t i = 0; i < std::min(vlak.vozy.size(), vlak.vozy_urceni.size()); ++i)
+        if (vlak.vozy_urceni[i] == "ZAL" && vlak.vozy[i] == "731") {
+            stav_provozu.zaloha_731_jede = false;
+            stav_provozu.zaloha_731_strana = vlak.prvky.back() == 557;
+        }
+}
+
+} // namespace
+
+bool smer_cesty(const Cesta& cesta) {
+    const int s = cesta.zacatek;
+    if (s < 0)
+        return false;
+    if (je_v(s, {225, 317, 318, 519, 520, 576, 577}))
+        return true;
+    const int glyf = glyf_navestidla(s);
+    if (je_na_ser(s))
+        return glyf == 240 || glyf == 242;
+    // 176 is 228 in automatic mode; signal 18 stands on the fold of its picture.
+    return je_v(glyf, {8, 229, 227}) || (je_v(glyf, {228, 176}) && s != 18);
+}
+
+bool muze_vyjet(int v, bool smer) {
+    for (const KolejVlaky& kolej : koleje_vlaky) {
+        const auto& seznam = kolej.vlaky;
+        if (seznam.size() < 2)
+            continue;
+        const auto misto = std::find(seznam.begin(), seznam.end(), v);
+        if (misto == seznam.end())
+            continue;
+        const bool prvni = misto == seznam.begin();
+        const bool posledni = misto + 1 == seznam.end();
+        if ((prvni && smer) || (posledni && !smer) || (!prvni && !posledni))
+            return false;
+    }
+    return true;
+}
+
+int cesta_od_prvku(int prvek, int dalsi, bool smer) {
+    for (std::size_t c = 0; c < cesty.size(); ++c) {
+        const Cesta& cesta = cesty[c];
+        if (cesta.zacatek < 0 || cesta.prvky.front() != prvek || cesta.Umazat != 0)
+            continue;
+        const bool vhodna =
+            prvek == 118 ? cesta.prvky.size() > 1 && cesta.prvky[1] == dalsi : smer_cesty(cesta) != smer;
+        if (vhodna)
+            return static_cast<int>(c);
+    }
+    return -1;
+}
+
+bool srovnej_smer(int cesta, int i, int v) {
+    if (i >= 2 || smer_cesty(cesta_c(cesta)) == vlak_c(v).smer)
+        return true;
+    const Vlak& vlak = vlak_c(v);
+    if (vlak.vozy.empty())
+        return false;
+    // A cab at both ends, a shunt, a light engine; else a locomotive at the far end.
+    const Text& celo = vlak.vozy.front();
+    const bool vzdy =
+        celo == "943" || celo == "954" || celo == "560" || !cesta_c(cesta).VC || vlak.druh == 16;
+    if (!vzdy && !je_loko(vlak.vozy.back()))
+        return false;
+    otoc_vlak(v);
+    return true;
+}
+
+void omez_rychlost(int cesta, int v) {
+    const Cesta& c = cesta_c(cesta);
+    Vlak& vlak = vlak_c(v);
+    if (c.ZT == kZTprogramu) {
+        vlak.rychlost_cesty = kRychlostVstupu;
+        vlak.omezeni_ukonceno = true;
+        return;
+    }
+    constexpr std::array<std::uint8_t, 4> kTridy = {0, 40, 60, 80};
+    if (!c.VC || c.PN)
+        vlak.rychlost_cesty = kRychlostPosunu;
+    else if (c.rychlost == 0)
+        vlak.rychlost_cesty = vlak.rychlost_trati;
+    else if (c.rychlost < kTridy.size())
+        vlak.rychlost_cesty = kTridy[c.rychlost];
+    vlak.omezeni_ukonceno = false;
+    vlak.konec_omezeni = c.vyhybka;
+}
+
+void kontrola_vstupu(int cesta, int i, int v) {
+    const Cesta& c = cesta_c(cesta);
+    const int n = prvek_c(c, i + 1);
+    const bool smer = vlak_c(v).smer;
+    const bool posledni = static_cast<std::size_t>(i) + 2 == c.prvky.size();
+    if (posledni && n >= 600 && !je_v(n, {604, 606, 654, 656})) {
+        const int s = n % 50 + (smer ? 601 : 600);
+        if (relief.navestidlo.je(s) && relief.navestidlo[s].barva != barvy::zelena)
+            varuj(veta_projel(v, " projel na ", jmeno_navestidla(s)));
+    }
+    if (i == 0 && je_v(n, {84, 85, 117}) && !je_nastaveno_z(n))
+        varuj(veta_projel(v, " projel na ", jmeno_konce(c, smer)));
+}
+
+void uvnitr_prvku(int cesta, int i, int v) {
+    const int e = vlak_c(v).prvky.back();
+    const bool cely = static_cast<std::size_t>(vlak_c(v).prvek_konec) + 1 == vlak_c(v).prvky.size();
+    if (cely && (e > 600 || e == 96))
+        vlak_v_cili(e, v); // stopped on the line once the whole train is on the section
+    varuj_na_konci_useku(cesta_c(cesta), e, v);
+    if (e == 118 && i > 0) {
+        const double celo = metry(e);
+        const bool od_mokriny = prvek_c(cesta_c(cesta), i - 1) == 303;
+        if (od_mokriny ? celo > 700 && celo < 850 : celo > 5200 && celo < 5350)
+            vlak_v_cili(e, v); // the platform of Kamenec
+    }
+    if (je_v(e, {120, 123, 213, 600, 602, 654, 656}))
+        kontrola_prejezdu(e, vlak_c(v).smer, vlak_c(v).delka);
+}
+
+void zpusob_odjezdu(int prvek, int v) {
+    for (const Vystup& vystup : kVystupy)
+        if (prvek >= vystup.od && prvek <= vystup.po && vlak_c(v).smer == vystup.smer) {
+            vlak_opustil(v, vystup.stanice);
+            return;
+        }
+}
+
+void vlak_opustil(int v, int stanice) {
+    const std::int32_t cislo = zobrazene_cislo(vlak_c(v));
+    const std::vector<std::int16_t> prvky = vlak_c(v).prvky;
+    for (std::size_t j = static_cast<std::size_t>(std::max<std::int16_t>(vlak_c(v).prvek_konec, 0));
+         j < prvky.size(); ++j) {
+        if (vlak_c(v).prvky_druh[j] != druh_prvku::kolej)
+            continue;
+        if (drzi_jiny(prvky[j], v))
+            continue; // another train stands there too: the track stays occupied
+        barvi_prvek(prvky[j], barvy::seda);
+        pis_cislo(prvky[j], text_cisla(cislo), true);
+        nastav_metry(prvky[j], 0);
+    }
+    uber_ze_vsech(v);
+    if (!spravny_smer(vlak_c(v), stanice)) {
+        Text veta = " Vlak ";
+        veta += text_cisla(cislo);
+        veta += " odjel nesprávným směrem ("_cz;
+        veta += kod_stanice(stanice);
+        veta += ") !";
+        zprava(" POZOR "_cz, veta, barvy::bila, 0, false, 0xFFFFFF, barvy::cervena);
+    }
+    smaz_hlaseni_zpozdeni(vlak_c(v));
+    zapocti_odchod_zalohy(vlak_c(v));
+    zrus_vlak(v);
+}

@@ -1,0 +1,131 @@
+// jizda/posun.cpp - trains become shunting movements, and shunting movements trains.
+#include "jizda/posun.h"
+
+#include "cesty/cesta.h"
+#include "cesty/cisla_vlaku.h"
+#include "desk/tabulka_vlaku.h"
+#include "desk/zprava.h"
+#include "jizda/na_koleji.h"
+#include "jizda/souprava.h"
+#include "jizda/vlak.h"
+#include "jizda/zastavky.h"
+#include "relief/relief.h"
+#include "zaklad/cisla.h"
+#include "zaklad/nahoda.h"
+
+#include <algorithm>
+#include <array>
+
+namespace {
+
+constexpr std::uint8_t kLokomotivniVlak = 16;   // category of a light engine
+constexpr int kPrvniMotorovyVuz = 800;          // series from which on a lone vehicle is no light engine
+constexpr std::int32_t kPrvniSmyslene = 70'000; // made-up numbers lie above this one
+constexpr std::int32_t kZaSmyslenymi = 80'000;  // and below this one
+
+Vlak& vlak_c(int v) {
+    return vlaky[static_cast<std::size_t>(v)];
+}
+
+void odmitni(TextPohled veta) {
+    zprava(" ZMENA "_cz, veta, barvy::bila, 0, false, 0xFFFFFF, barvy::cervena);
+}
+
+// The three refusals differ in their blanks: as designed.
+bool smi_se_zmenit(int v, int prvek) {
+    const Vlak& vlak = vlak_c(v);
+    const Text popis = je_cislo_koleje(prvek) ? relief.cislo_koleje[prvek].popis() : Text{};
+    if (vlak.prvky.empty() || static_cast<std::size_t>(vlak.prvek_konec) + 1 != vlak.prvky.size()) {
+        odmitni(Text(" Na koleji"_cz) + popis + Text(" není změna možná!"_cz));
+        return false;
+    }
+    if (!vlak.posun || vlak.prvky.back() <= 200)
+        return true;
+    if (je_cislo_koleje(prvek))
+        odmitni(Text(" Na koleji "_cz) + popis + Text("není změna možná!"_cz));
+    else
+        odmitni(Text(" Na koleji "_cz) + jmeno(prvek) + Text(" není změna možná!"_cz));
+    return false;
+}
+
+void stane_se_vlakem(int v) {
+    Vlak& vlak = vlak_c(v);
+    const int prvni = vlak.stanice.empty() ? 0 : vlak.stanice.front();
+    if (prvni == 17 || prvni == 18 || prvni == 33 || prvni == 34)
+        vlak.stanice_index = 1;
+    zobraz_cekani(v);
+    if (jen_loko(vlak) && vlak.druh != kLokomotivniVlak &&
+        cislo_z_textu(vlak.vozy.front()) < kPrvniMotorovyVuz)
+        vlak_na_posun_cislo(v);
+    if (radek_tabulky(zobrazene_cislo(vlak_c(v))) < 0)
+        pridej_do_tabulky(v);
+    otoc_podle_stanic(v);
+}
+
+void stane_se_posunem(int v) {
+    const std::int32_t cislo = zobrazene_cislo(vlak_c(v));
+    for (std::size_t c = 0; c < cesty.size(); ++c)
+        if (cesty[c].zacatek >= 0 && cesty[c].prvky.front() == vlak_c(v).prvky.back() && cesty[c].VC &&
+            !cesty[c].PN)
+            vymaz_cislo(static_cast<int>(c), true, text_cisla(cislo));
+    vlak_c(v).muze_jet = true;
+    if (cislo > kPrvniSmyslene && cislo < kZaSmyslenymi)
+        smaz_z_tabulky(cislo);
+}
+
+// Where a light engine goes, by what its locomotive does next.
+std::uint8_t cil_stroje(const Vlak& vlak, int odkud) {
+    struct Cil {
+        TextPohled urceni;
+        std::uint8_t stanice;
+    };
+    constexpr std::array<Cil, 3> kCile = {{{"dkv", 28}, {"vh", 34}, {"bor", 2}}};
+    const Text urceni = vlak.vozy_urceni.empty() ? Text{} : mala_pismena(vlak.vozy_urceni.front());
+    for (const Cil& cil : kCile)
+        if (urceni == cil.urceni)
+            return cil.stanice;
+    return odkud == 12 ? 9 : 12;
+}
+
+} // namespace
+
+void zmena_posun(int v, int prvek) {
+    if (!smi_se_zmenit(v, prvek))
+        return;
+    vlak_c(v).posun = !vlak_c(v).posun;
+    if (vlak_c(v).posun)
+        stane_se_posunem(v);
+    else
+        stane_se_vlakem(v);
+    for (std::size_t i = 0; i < koleje_vlaky.size(); ++i)
+        if (koleje_vlaky[i].prvek == prvek || koleje_vlaky[i].vlaky.front() == v)
+            zobraz_kolej(static_cast<int>(i));
+    for (std::size_t c = 0; c < cesty.size(); ++c)
+        if (cesty[c].Umazat == 0 && cesty[c].prvky.front() == prvek && cesty[c].Postavena && cesty[c].VC)
+            postup_cisla(static_cast<int>(c));
+}
+
+void vlak_na_posun_cislo(int v) {
+    Vlak& vlak = vlak_c(v);
+    vlak.cislo = na_long(dolu(static_cast<double>(nahodne()) * 9999.0 + kPrvniSmyslene));
+    vlak.druh = kLokomotivniVlak;
+    vlak.cislo2 = 0;
+    vlak.druh2 = 0;
+    vlak.cislo2_platne = false;
+    vlak.stanice_zmeny = 0;
+    vlak.pokyn.clear();
+    const int doma = stanice_prvku(vlak.prvky.back());
+    const auto odkud = static_cast<std::uint8_t>(doma == 0 ? 9 : doma);
+    vlak.stanice = {odkud, cil_stroje(vlak, odkud)};
+    const std::int16_t ted = cas_min();
+    vlak.prijezd = {ted, na_integer(ted + 15)};
+    vlak.odjezd = {na_integer(ted + 2), kZadny};
+    vlak.odjezd_realny = vlak.odjezd;
+    vlak.max_rychlost = 80;
+    vlak.muze_jet = false;
+    vlak.posun = false;
+    vlak.stanice_index = 0;
+    vlak.zpozdeni = 0;
+    vlak.zpozdeni_vstup = 0;
+    pridej_do_tabulky(v);
+}

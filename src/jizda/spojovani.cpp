@@ -1,0 +1,417 @@
+// jizda/spojovani.cpp - coupling, splitting, turning, the end of a record, the next train of a set.
+#include "jizda/spojovani.h"
+
+#include "app/simulace.h"
+#include "cesty/barvi_prvek.h"
+#include "cesty/cesta.h"
+#include "cesty/dotazy.h"
+#include "desk/tabulka_vlaku.h"
+#include "desk/zprava.h"
+#include "gvd/gvd.h"
+#include "gvd/skladba.h"
+#include "jizda/metry.h"
+#include "jizda/na_koleji.h"
+#include "jizda/souprava.h"
+#include "jizda/vlak.h"
+#include "jizda/zastavky.h"
+#include "prvky/vyhybky.h"
+#include "relief/relief.h"
+#include "zaklad/cisla.h"
+#include "zaklad/platforma.h"
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+
+namespace {
+
+constexpr int kDelkaLoko_m = 18;           // of a locomotive, and of a consist that would have none
+constexpr std::int16_t kNaPovel = -10;     // working departure of a stop that ends only by order
+constexpr std::uint8_t kRychlostDilu = 40; // line speed of a part that was split off
+constexpr int kPrvniMotorovyVuz = 800;     // series from which on a lone vehicle is a train of its own
+constexpr int kPrvniRidiciVuz = 900;       // driving trailers
+constexpr int kKolejVytahu = 32;           // beside the stub of the locomotives
+constexpr int kKusaKolej = 574;            // that stub
+
+Vlak& vlak_c(int v) {
+    return vlaky[static_cast<std::size_t>(v)];
+}
+double rada(TextPohled vuz) {
+    return cislo_z_textu(vuz);
+}
+bool cely_na_prvku(const Vlak& v) {
+    return !v.prvky.empty() && static_cast<std::size_t>(v.prvek_konec) + 1 == v.prvky.size();
+}
+bool je_vlak(int v) {
+    return v >= 0 && static_cast<std::size_t>(v) < vlaky.size() && vlak_c(v).cislo > 0;
+}
+
+// The three lists of the vehicles always change together.
+template <class Uprava> void uprav_vozy(Vlak& v, Uprava uprava) {
+    uprava(v.vozy);
+    uprava(v.vozy_urceni);
+    uprava(v.vozy_obrazek);
+}
+void srovnej_seznamy(Vlak& v) {
+    v.vozy_urceni.resize(v.vozy.size());
+    v.vozy_obrazek.resize(v.vozy.size());
+}
+
+// --- coupling
+
+void pripoj_na_konec(Vlak& vlak, const Vlak& druhy) {
+    const auto pridej = [](std::vector<Text>& kam, const std::vector<Text>& co) {
+        kam.insert(kam.end(), co.begin(), co.end());
+    };
+    pridej(vlak.vozy, druhy.vozy);
+    pridej(vlak.vozy_urceni, druhy.vozy_urceni);
+    pridej(vlak.vozy_obrazek, druhy.vozy_obrazek);
+}
+void pripoj_do_cela(Vlak& vlak, const Vlak& druhy) {
+    const auto pridej = [](std::vector<Text>& kam, const std::vector<Text>& co) {
+        kam.insert(kam.begin(), co.begin(), co.end());
+    };
+    pridej(vlak.vozy, druhy.vozy);
+    pridej(vlak.vozy_urceni, druhy.vozy_urceni);
+    pridej(vlak.vozy_obrazek, druhy.vozy_obrazek);
+}
+
+// Vehicles of the other record come to the side on which it stands; one that faces the other way is
+// turned where its order would come out wrong.
+void spoj_vozy(int a, int b, bool zustava_b) {
+    const bool smer = vlak_c(zustava_b ? b : a).smer;
+    if (zustava_b) {
+        if (!smer && vlak_c(a).smer != smer)
+            otoc_vlak(a);
+        smer ? pripoj_na_konec(vlak_c(b), vlak_c(a)) : pripoj_do_cela(vlak_c(b), vlak_c(a));
+        return;
+    }
+    if (vlak_c(b).smer != smer)
+        otoc_vlak(b);
+    smer ? pripoj_do_cela(vlak_c(a), vlak_c(b)) : pripoj_na_konec(vlak_c(a), vlak_c(b));
+}
+
+// A stop that waited for this coupling has a departure again.
+void obnov_odjezd(Vlak& vlak) {
+    const auto i = static_cast<std::size_t>(std::max<int>(vlak.stanice_index, 0));
+    if (i + 1 >= vlak.stanice.size() || i >= vlak.odjezd_realny.size() || i >= vlak.odjezd.size() ||
+        vlak.odjezd_realny[i] != kNaPovel)
+        return;
+    if (((vlak.priznaky & 2) != 0 && !posledni_je_loko(vlak)) ||
+        ((vlak.priznaky & 1) != 0 && !druhy_je_loko(vlak)))
+        return;
+    const int nejdrive = cas_min() + (vlak.druh >= 10 && vlak.druh != 16 ? 6 : 3);
+    vlak.odjezd_realny[i] = na_integer(std::max<int>(nejdrive, vlak.odjezd[i]));
+}
+
+// --- splitting
+
+// Units are not split.
+bool je_jednotka(TextPohled vuz) {
+    constexpr std::array<TextPohled, 5> kJednotky = {"560", "060", "681", "682", "683"};
+    return std::find(kJednotky.begin(), kJednotky.end(), vuz) != kJednotky.end();
+}
+
+void rozdel_vozy(Vlak& vlak, Vlak& dil, std::size_t i) {
+    srovnej_seznamy(vlak);
+    const bool posledni = i + 1 == vlak.vozy.size();
+    const auto presun = [&](std::vector<Text>& odkud, std::vector<Text>& kam) {
+        const auto od = odkud.begin() + static_cast<std::ptrdiff_t>(posledni ? i : 0);
+        const auto po = odkud.begin() + static_cast<std::ptrdiff_t>(i) + 1;
+        kam.assign(std::make_move_iterator(od), std::make_move_iterator(po));
+        odkud.erase(od, po);
+    };
+    presun(vlak.vozy, dil.vozy);
+    presun(vlak.vozy_urceni, dil.vozy_urceni);
+    presun(vlak.vozy_obrazek, dil.vozy_obrazek);
+}
+
+// The length goes with the carriages; a locomotive counts by itself.
+void rozdel_delku(Vlak& vlak, Vlak& dil) {
+    const auto pocet_vozu = [](const Vlak& v) {
+        return static_cast<int>(
+            std::count_if(v.vozy.begin(), v.vozy.end(), [](const Text& vuz) { return !je_loko(vuz); }));
+    };
+    const int m = pocet_vozu(dil);
+    const int n = pocet_vozu(vlak) + m;
+    const int lokomotiv = static_cast<int>(dil.vozy.size()) - m;
+    const int delka = (n == 0 ? 0 : vlak.delka * m / n) + kDelkaLoko_m * lokomotiv;
+    dil.delka = na_integer(delka < 1 ? kDelkaLoko_m : delka);
+    const int zbytek = vlak.delka - dil.delka;
+    vlak.delka = na_integer(zbytek < 1 ? kDelkaLoko_m : zbytek);
+}
+
+// A locomotive that comes off on track 32 at the end of the stub clears the platform at once.
+void odstav_na_kusou(int v) {
+    Vlak& vlak = vlak_c(v);
+    if (vlak.prvky.back() != kKolejVytahu || !vlak.smer || vlak.vozy_urceni.empty() ||
+        !(je_ciselny(vlak.vozy_urceni[0]) || vlak.vozy_urceni[0] == "DKV") || !je_kolej(kKusaKolej) ||
+        !je_volna(kKusaKolej))
+        return;
+    uber_z_koleje(kKolejVytahu, v);
+    vlak.smer = false;
+    vlak.posun = true;
+    vlak.prvky.back() = kKusaKolej;
+    pridej_na_kolej(kKusaKolej, v, false, -1);
+    barvi_prvek(kKusaKolej, barvy::cervena);
+}
+
+// --- the next train
+
+// Which vehicle tells the number of the next train; -1 when none does. Vehicles that stay with the
+// present number are passed over.
+int vuz_s_dalsim_cislem(const Vlak& vlak) {
+    for (std::size_t i = 0; i < vlak.vozy_urceni.size(); ++i) {
+        const auto cislo = ciselny_text(vlak.vozy_urceni[i]);
+        if (!cislo || *cislo <= 0 || *cislo != vlak.cislo)
+            return static_cast<int>(i);
+    }
+    return -1;
+}
+
+const GvdVlak* radek_gvd(double cislo) {
+    const auto radek = std::find_if(gvd_vlaky.begin(), gvd_vlaky.end(),
+                                    [cislo](const GvdVlak& g) { return g.cislo == cislo; });
+    return radek == gvd_vlaky.end() ? nullptr : &*radek;
+}
+
+// The row of a number stays while another train still runs under it.
+void smaz_radek_vlaku(int v) {
+    const std::int32_t cislo = zobrazene_cislo(vlak_c(v));
+    for (std::size_t i = 0; i < vlaky.size(); ++i)
+        if (static_cast<int>(i) != v && vlaky[i].cislo > 0 && !vlaky[i].posun &&
+            zobrazene_cislo(vlaky[i]) == cislo)
+            return;
+    smaz_z_tabulky(cislo);
+}
+
+void prevezmi_radek(Vlak& vlak, const GvdVlak& radek) {
+    vlak.nazev = radek.nazev;
+    vlak.druh = radek.druh;
+    vlak.cislo = radek.cislo;
+    vlak.druh2 = radek.druh2;
+    vlak.cislo2 = radek.cislo2;
+    vlak.cislo2_platne = false;
+    vlak.stanice_zmeny = radek.stanice_zmeny;
+    vlak.poznamka = radek.poznamka;
+    vlak.pokyn = radek.kolej;
+    vlak.loko_rada = radek.loko_rada;
+    vlak.loko_rada2 = radek.loko_rada2;
+    vlak.dny = radek.dny;
+    vlak.priznaky = radek.priznaky;
+    vlak.stanice_index = -1;
+    vlak.zpozdeni = 0;
+    vlak.zpozdeni_vstup = 0;
+    vlak.stanice = radek.stanice;
+    const auto dnesni = [](const std::vector<std::int16_t>& casy) {
+        std::vector<std::int16_t> vysledek;
+        vysledek.reserve(casy.size());
+        for (const std::int16_t cas : casy)
+            vysledek.push_back(na_integer(cas + korekce(cas)));
+        return vysledek;
+    };
+    vlak.prijezd = dnesni(radek.prijezdy);
+    vlak.odjezd = dnesni(radek.odjezdy);
+    vlak.odjezd_realny = vlak.odjezd;
+}
+
+// The first stop sends the train back the way it came: its locomotive comes off the head.
+bool musi_objet(const Vlak& vlak) {
+    if (vlak.stanice.size() < 2 || vlak.vozy.empty() || !je_loko(vlak.vozy.front()))
+        return false;
+    const int druha = vlak.stanice[1];
+    if (vlak.smer)
+        return (druha == 8 || druha == 11 || druha == 5) && rada(vlak.vozy.back()) < kPrvniRidiciVuz;
+    return druha == 7;
+}
+
+} // namespace
+
+int novy_vlak() {
+    auto volny = std::find_if(vlaky.begin(), vlaky.end(), [](const Vlak& v) { return v.cislo < 1; });
+    if (volny == vlaky.end())
+        volny = vlaky.emplace(vlaky.end());
+    *volny = Vlak{};
+    volny->cislo = kZadny;
+    volny->rezerva = kZadny;
+    volny->prvek_konec = 0;
+    return static_cast<int>(volny - vlaky.begin());
+}
+
+void zrus_vlak(int v) {
+    const std::int32_t cislo = zobrazene_cislo(vlak_c(v));
+    bool jeste_jeden = false;
+    for (std::size_t i = 0; i < vlaky.size(); ++i)
+        jeste_jeden = jeste_jeden ||
+                      (static_cast<int>(i) != v && vlaky[i].cislo > 0 && zobrazene_cislo(vlaky[i]) == cislo);
+    if (!jeste_jeden || !jen_loko(vlak_c(v)))
+        smaz_z_tabulky(cislo);
+    Vlak& vlak = vlak_c(v);
+    vlak.cislo = kZadny;
+    vlak.cislo2 = kZadny;
+    vlak.stanice_zmeny = 0;
+    vlak.zpozdeni = 0;
+    vlak.zpozdeni_vstup = 0;
+    vlak.cislo2_platne = false;
+    vlak.stanice_index = 0;
+    vlak.posun = false;
+    vlak.muze_jet = true;
+    vlak.pokyn.clear();
+    vlak.poznamka.clear();
+    vlak.nazev.clear();
+    vlak.priznaky = 0;
+    vlak.loko_rada2 = 0;
+    vlak.prvky.assign(1, 0);
+    vlak.prvky_druh.assign(1, 0);
+    vlak.prvky_poloha.assign(1, 0);
+    vlak.prvek_konec = 0;
+    vlak.obslouzeno = 0;
+}
+
+void otoc_vlak(int v) {
+    Vlak& vlak = vlak_c(v);
+    if (vlak.vozy.size() > 1) {
+        srovnej_seznamy(vlak);
+        uprav_vozy(vlak, [](std::vector<Text>& seznam) { std::reverse(seznam.begin(), seznam.end()); });
+    }
+    vlak.smer = !vlak.smer;
+}
+
+void otoc_nouzove(int v) {
+    vlak_c(v).smer = !vlak_c(v).smer;
+}
+
+void spoj(int a, int b) {
+    if (!je_vlak(a) || !je_vlak(b) || a == b)
+        return;
+    if (!cely_na_prvku(vlak_c(a)) || !cely_na_prvku(vlak_c(b)) ||
+        vlak_c(a).prvky.back() != vlak_c(b).prvky.back()) {
+        zprava(" SPOJIT "_cz, " Nelze spojit vlak, který není celou délkou na koleji!"_cz, barvy::bila, 0,
+               false, 0xFFFFFF, barvy::cervena);
+        platforma.pipni(100, 200); // sounds even when the sound is off: this one is meant
+        return;
+    }
+    const bool a_je_stroj = jen_loko(vlak_c(a)) || vlak_c(a).druh == 16;
+    const bool zustava_b = a_je_stroj && !jen_loko(vlak_c(b));
+    const int zustal = zustava_b ? b : a;
+    const int zanikl = zustava_b ? a : b;
+    srovnej_seznamy(vlak_c(a));
+    srovnej_seznamy(vlak_c(b));
+    spoj_vozy(a, b, zustava_b);
+    vlak_c(zustal).delka = na_integer(vlak_c(zustal).delka + vlak_c(zanikl).delka);
+    uber_z_koleje(vlak_c(zustal).prvky.back(), zanikl);
+    uber_z_opustenych(zanikl);
+    zrus_vlak(zanikl);
+    for (Cesta& cesta : cesty)
+        if (cesta.Vlak == zanikl && cesta.Umazat == 0)
+            cesta.Vlak = static_cast<std::int16_t>(zustal);
+    vlak_c(zustal).rychlost = 0;
+    otoc_podle_stanic(zustal);
+    zobraz_cekani(zustal);
+    obnov_odjezd(vlak_c(zustal));
+}
+
+int odvesit(int v, int i) {
+    if (i < 0 || static_cast<std::size_t>(i) >= vlak_c(v).vozy.size() || vlak_c(v).vozy.size() < 2 ||
+        vlak_c(v).cislo < 0 || vlak_c(v).prvky.empty() ||
+        je_jednotka(vlak_c(v).vozy[static_cast<std::size_t>(i)]))
+        return kZadny;
+    const int d = novy_vlak();
+    Vlak& vlak = vlak_c(v);
+    Vlak& dil = vlak_c(d);
+    const bool posledni = static_cast<std::size_t>(i) + 1 == vlak.vozy.size();
+    const int celo = vlak.prvky.back();
+    dil.cislo = vlak.cislo;
+    dil.druh = vlak.druh;
+    dil.max_rychlost = vlak.max_rychlost;
+    dil.smer = vlak.smer;
+    dil.stanice = vlak.stanice;
+    dil.prijezd = vlak.prijezd;
+    dil.odjezd = vlak.odjezd;
+    dil.odjezd_realny = vlak.odjezd_realny;
+    dil.rychlost_trati = kRychlostDilu;
+    dil.posun = true;
+    dil.muze_jet = true;
+    if (vlak.stanice_index >= 0 && static_cast<std::size_t>(vlak.stanice_index) < vlak.odjezd_realny.size())
+        vlak.odjezd_realny[static_cast<std::size_t>(vlak.stanice_index)] = kNaPovel;
+    nastav_metry(celo, vlak.delka);
+    dil.prvky.assign(1, vlak.prvky.back());
+    dil.prvky_druh.assign(1, vlak.prvky_druh.back());
+    dil.prvky_poloha.assign(1, vlak.prvky_poloha.back());
+    rozdel_vozy(vlak, dil, static_cast<std::size_t>(i));
+    pridej_na_kolej(celo, d, posledni ? !vlak.smer : vlak.smer, v);
+    rozdel_delku(vlak, dil);
+    odstav_na_kusou(d);
+    for (Cesta& cesta : cesty)
+        if ((cesta.Vlak == v || cesta.Vlak == d) && cesta.Umazat == 0)
+            cesta.Vlak = kZadny;
+    navazny_vlak(d);
+    // A through train keeps its timetable; only at its last stop it becomes the next one.
+    const Vlak& zbyl = vlak_c(v);
+    if (zbyl.posun ||
+        (zbyl.stanice_index >= 0 && static_cast<std::size_t>(zbyl.stanice_index) + 1 == zbyl.stanice.size()))
+        navazny_vlak(v);
+    return d;
+}
+
+void zkrat_vlak(int v) {
+    Vlak& vlak = vlak_c(v);
+    if (vlak.prvky.empty())
+        return;
+    const int konec = static_cast<int>(vlak.prvky.size()) - 1;
+    const int od = std::max<int>(vlak.prvek_konec, 0);
+    vlak.prvek_konec = na_integer(konec);
+    for (int j = od; j < konec; ++j) {
+        const int e = vlak.prvky[static_cast<std::size_t>(j)];
+        switch (vlak.prvky_druh[static_cast<std::size_t>(j)]) {
+        case druh_prvku::kolej:
+            // A track under another train, or under the head itself, stays occupied.
+            if (!drzi_jiny(e, v) && !drzi_prvek(vlak, e)) {
+                barvi_prvek(e, barvy::seda);
+                nastav_metry(e, 0);
+            }
+            break;
+        case druh_prvku::vyhybka:
+            if (const int stav = stav_vyhybky_cislo(e); stav < 100 || stav > 150)
+                vyhybka_stav(e, vlak.prvky_poloha[static_cast<std::size_t>(j)], false, false);
+            break;
+        case druh_prvku::vykolejka:
+            if (relief.lblVykolejka.je(e))
+                relief.lblVykolejka[e].barva = barvy::seda;
+            break;
+        default: break;
+        }
+    }
+}
+
+void navazny_vlak(int v) {
+    if (vlak_c(v).vozy.empty() || (jen_loko(vlak_c(v)) && rada(vlak_c(v).vozy.front()) < kPrvniMotorovyVuz))
+        return;
+    srovnej_seznamy(vlak_c(v));
+    const int i = vuz_s_dalsim_cislem(vlak_c(v));
+    if (i < 0)
+        return; // every vehicle stays with its train
+    if (i > 0) {
+        if (vlak_c(v).vozy_urceni[static_cast<std::size_t>(i)].empty())
+            return;
+        v = odvesit(v, i);
+        if (v < 0)
+            return;
+    }
+    const auto dalsi = ciselny_text(vlak_c(v).vozy_urceni.front());
+    if (!dalsi || *dalsi == vlak_c(v).cislo)
+        return;
+    const GvdVlak* radek = radek_gvd(*dalsi);
+    if (radek == nullptr)
+        return;
+    smaz_radek_vlaku(v);
+    prevezmi_radek(vlak_c(v), *radek);
+    if (musi_objet(vlak_c(v)))
+        odvesit(v, 0);
+    if (radek_tabulky(zobrazene_cislo(vlak_c(v))) < 0)
+        pridej_do_tabulky(v);
+    if (const int zaznam = vlak_c(v).prvky.empty() ? -1 : zaznam_koleje(vlak_c(v).prvky.back()); zaznam >= 0)
+        zobraz_kolej(zaznam);
+    zobraz_cekani(v);
+    vlak_c(v).stanice_index = -1;
+}

@@ -1,0 +1,519 @@
+// jizda/zastavky.cpp - station stops, waiting and its labels, departures, the journal, the number change.
+#include "jizda/zastavky.h"
+
+#include "app/cas.h"
+#include "app/simulace.h"
+#include "cesty/cesta.h"
+#include "cesty/dotazy.h"
+#include "desk/tabulka_vlaku.h"
+#include "jizda/metry.h"
+#include "jizda/na_koleji.h"
+#include "jizda/posun.h"
+#include "jizda/souprava.h"
+#include "jizda/spojovani.h"
+#include "jizda/vlak.h"
+#include "prvky/stanicni_prejezdy.h"
+#include "relief/relief.h"
+#include "save/gtn.h"
+#include "zaklad/cisla.h"
+
+#include <algorithm>
+#include <array>
+#include <initializer_list>
+#include <span>
+
+namespace {
+
+constexpr std::int16_t kNaPovel = -10; // working departure of a stop that ends only on the operator's order
+constexpr int kCekaNaPovel = 10;       // minutes that such a stop shows
+constexpr int kNepojede = 99;          // minutes shown by a train that will not go by itself
+constexpr int kPobytVychozi = 5;       // least dwell where the train starts
+constexpr int kRychlostZTrati = 5;     // km/h at which a train starts from a stop on a line
+constexpr int kDen = 1440;
+
+constexpr Barva kPozadiTrati = 0x808000;  // label of a train that waits on a line
+constexpr Barva kPozadiMinuty = 0x00FFFF; // label in the last minute
+constexpr Barva kPozadiDvou = 0x808080;   // two minutes before
+
+Vlak& vlak_c(int v) {
+    return vlaky[static_cast<std::size_t>(v)];
+}
+bool je_v(int prvek, std::initializer_list<int> cisla) {
+    return std::find(cisla.begin(), cisla.end(), prvek) != cisla.end();
+}
+// A time of stop i; a list that is too short has none.
+std::int16_t cas_zastavky(const std::vector<std::int16_t>& casy, int i) {
+    return i >= 0 && static_cast<std::size_t>(i) < casy.size() ? casy[static_cast<std::size_t>(i)]
+                                                               : std::int16_t{kZadny};
+}
+void nastav_odjezd(Vlak& vlak, int i, std::int16_t minuta) {
+    if (i >= 0 && static_cast<std::size_t>(i) < vlak.odjezd_realny.size())
+        vlak.odjezd_realny[static_cast<std::size_t>(i)] = minuta;
+}
+// Station of stop i; 0, which is none, beyond the ends.
+int stanice_zastavky(const Vlak& vlak, int i) {
+    return i >= 0 && static_cast<std::size_t>(i) < vlak.stanice.size()
+               ? vlak.stanice[static_cast<std::size_t>(i)]
+               : 0;
+}
+double rada(TextPohled vuz) {
+    return cislo_z_textu(vuz);
+}
+Text urceni(const Vlak& vlak, std::size_t i) {
+    return i < vlak.vozy_urceni.size() ? vlak.vozy_urceni[i] : Text{};
+}
+
+// --- where stops are
+
+enum class PoStopu : std::uint8_t { nic, otocit, tesk, hajovice, dolni };
+
+struct MistoStopu {
+    int od, po;
+    int stanice;
+    int pobyt = 1; // least dwell, minutes
+    PoStopu potom = PoStopu::nic;
+    int od_metru = -1; // on a line against the sense: only so far in; -1 anywhere
+};
+constexpr std::array kMista = {MistoStopu{26, 35, 9, 1, PoStopu::tesk},
+                               MistoStopu{9, 18, 8},
+                               MistoStopu{44, 46, 7, 1, PoStopu::otocit},
+                               MistoStopu{93, 94, 7, 1, PoStopu::otocit},
+                               MistoStopu{96, 96, 7, 1, PoStopu::otocit},
+                               MistoStopu{638, 638, 7, 1, PoStopu::otocit},
+                               MistoStopu{86, 90, 1},
+                               MistoStopu{70, 75, 13},
+                               MistoStopu{66, 69, 6},
+                               MistoStopu{62, 65, 2},
+                               MistoStopu{41, 43, 4},
+                               MistoStopu{36, 40, 11},
+                               MistoStopu{0, 3, 3, 1, PoStopu::otocit},
+                               MistoStopu{78, 83, 15, 1, PoStopu::dolni},
+                               MistoStopu{47, 54, 12, 4, PoStopu::hajovice}, // 55 and 56 are exits
+                               MistoStopu{57, 61, 12, 4, PoStopu::hajovice},
+                               MistoStopu{118, 118, 10},
+                               MistoStopu{604, 604, 32, 1, PoStopu::nic, 2500},
+                               MistoStopu{606, 606, 32, 1, PoStopu::nic, 2500},
+                               MistoStopu{654, 654, 24, 1, PoStopu::nic, 5000},
+                               MistoStopu{656, 656, 24, 1, PoStopu::nic, 5000},
+                               MistoStopu{674, 674, 14},
+                               MistoStopu{676, 676, 14},
+                               MistoStopu{720, 720, 35},
+                               MistoStopu{722, 722, 35},
+                               MistoStopu{728, 728, 22},
+                               MistoStopu{730, 730, 22},
+                               MistoStopu{824, 824, 21},
+                               MistoStopu{826, 826, 21},
+                               MistoStopu{928, 928, 23},
+                               MistoStopu{930, 930, 23}};
+
+const MistoStopu* najdi_misto(int prvek) {
+    const auto misto = std::find_if(kMista.begin(), kMista.end(),
+                                    [prvek](const MistoStopu& m) { return prvek >= m.od && prvek <= m.po; });
+    return misto == kMista.end() ? nullptr : &*misto;
+}
+
+// --- locomotives at the stops
+
+bool stoji_ve_stanici(const Vlak& vlak, int kod) {
+    return stanice_zastavky(vlak, vlak.stanice_index) == kod;
+}
+
+bool je_na_posledni(const Vlak& vlak) {
+    return vlak.stanice_index >= 0 && static_cast<std::size_t>(vlak.stanice_index) + 1 == vlak.stanice.size();
+}
+
+// The engine at one end is another one than the train goes on with, and it does not stay for the branch.
+bool ma_odejit(const Vlak& vlak, std::size_t i) {
+    return je_loko(vlak.vozy[i]) && rada(vlak.vozy[i]) != vlak.loko_rada2 && urceni(vlak, i) != "VH";
+}
+
+// Tesk main station: the train gives up its locomotive when another series takes over.
+void vymen_loko_v_tesku(int v) {
+    const Vlak& vlak = vlak_c(v);
+    if (!stoji_ve_stanici(vlak, 9) || vlak.loko_rada2 == 0 || vlak.vozy.size() < 2)
+        return;
+    const std::size_t posledni = vlak.vozy.size() - 1;
+    if (!ma_odejit(vlak, 0) && !ma_odejit(vlak, posledni))
+        return;
+    const int odvesena = odvesit(v, ma_odejit(vlak, 0) ? 0 : static_cast<int>(posledni));
+    if (odvesena < 0)
+        return;
+    Vlak& nova = vlak_c(odvesena);
+    if (nova.vozy.empty() || rada(nova.vozy.front()) <= 800 || urceni(nova, 0) == urceni(vlak_c(v), 0))
+        return;
+    // A railcar goes on as a train of its own.
+    if (nova.prvky.back() != 574 && je_ciselny(urceni(nova, 0)))
+        nova.posun = false;
+    navazny_vlak(odvesena);
+}
+
+// Hajovice: the locomotive at the head leaves when another series takes over.
+void vymen_loko_v_hajovicich(int v) {
+    const Vlak& vlak = vlak_c(v);
+    if (vlak.stanice_index <= 0 || !stoji_ve_stanici(vlak, 12) || vlak.loko_rada2 == 0 ||
+        vlak.vozy.size() < 2 || rada(vlak.vozy[0]) == vlak.loko_rada2)
+        return;
+    if (!je_loko(vlak.vozy[1]) || je_loko(vlak.vozy[0]))
+        odvesit(v, 0);
+}
+
+// Lower station: towards Rybnice and Vysni Hrabov the train goes on the other way round, and its
+// locomotive comes off to run to the other end.
+void odves_v_dolnim(int v) {
+    const Vlak& vlak = vlak_c(v);
+    const int dalsi = stanice_zastavky(vlak, vlak.stanice_index + 1);
+    if (!stoji_ve_stanici(vlak, 15) || vlak.vozy.size() < 2 || !je_loko(vlak.vozy[0]))
+        return;
+    if (dalsi == 7 && !vlak.smer)
+        odvesit(v, 0);
+    else if (dalsi == 8 && vlak.smer)
+        odvesit(v, je_loko(vlak.vozy[1]) ? 1 : 0);
+}
+
+// --- a set at a platform
+
+void postav_soupravu(int prvek, int v) {
+    const Vlak& vlak = vlak_c(v);
+    const TextPohled pokyn = orez(vlak.pokyn);
+    if (vlak.stanice_index > 0 || prvek < 26 || prvek > 35 || pokyn.empty() || vlak.stanice.empty() ||
+        !je_v(vlak.stanice.front(), {9, 33, 34}) || je_nastaveno_posun_z(prvek) || !je_cislo_koleje(prvek) ||
+        orez(relief.cislo_koleje[prvek].popis()) != pokyn)
+        return;
+    if (const auto cil = ciselny_text(urceni(vlak, 0)); cil && *cil != vlak.cislo)
+        navazny_vlak(v);
+    zmena_posun(v, prvek);
+    if (urceni(vlak_c(v), 0) == "ZAL")
+        odvesit(v, 0);
+    if (const std::size_t vozu = vlak_c(v).vozy.size(); vozu > 0 && urceni(vlak_c(v), vozu - 1) == "ZAL")
+        odvesit(v, static_cast<int>(vozu) - 1);
+    for (Cesta& cesta : cesty)
+        if (cesta.Vlak == v)
+            cesta.Vlak = kKOdstraneni;
+}
+
+// --- labels of waiting trains
+
+bool ukazuje_vlak(int stitek, const Vlak& vlak) {
+    return je_cislo_koleje(stitek) &&
+           cele_z_textu(orez(relief.cislo_koleje[stitek].text())) == zobrazene_cislo(vlak);
+}
+
+// Label of a station track that shows the train waiting on element e; -1 when none does.
+int stitek_ve_stanici(int e, const Vlak& vlak) {
+    if (je_v(e, {212, 213, 219}))
+        return -1;
+    if (e < 200 && !je_v(e + 200, {212, 213, 219}) && ukazuje_vlak(e + 200, vlak))
+        return e + 200;
+    return ukazuje_vlak(e, vlak) ? e : -1;
+}
+
+int stitek_na_trati(int e, const Vlak& vlak) {
+    for (int n = e % 50 + 600; n <= 950; n += 50)
+        for (const int stitek : {n, n + 2})
+            if (ukazuje_vlak(stitek, vlak))
+                return stitek;
+    return -1;
+}
+
+void obarvi_stitek(int stitek, Barva barva, Barva pozadi) {
+    if (!je_cislo_koleje(stitek))
+        return;
+    relief.cislo_koleje[stitek].barva = barva;
+    nastav_pozadi_stitku(stitek, pozadi);
+}
+
+// Departures sound once in a simulated minute, whatever their number.
+void ohlas_zvukem() {
+    if (simulace.upozorneni_minuty || simulace.pauza || simulace.zvuk_vypnut)
+        return;
+    pipni(900, 100);
+    simulace.upozorneni_minuty = true;
+}
+
+void ukaz_ve_stanici(int v, int zbyva) {
+    const Vlak& vlak = vlak_c(v);
+    const int stitek = stitek_ve_stanici(vlak.prvky.back(), vlak);
+    if (stitek < 0)
+        return;
+    if (zbyva > 2) {
+        const bool pripraven = muze_tahnout(v) && ma_tazne_loko(vlak);
+        obarvi_stitek(stitek, pripraven ? barvy::bila : barvy::cerna, barvy::cervena);
+        blikej_v_tabulce(zobrazene_cislo(vlak), false);
+        return;
+    }
+    obarvi_stitek(stitek, barvy::cervena,
+                  zbyva == 2   ? kPozadiDvou
+                  : zbyva == 1 ? kPozadiMinuty
+                               : barvy::cerna);
+    ohlas_zvukem();
+}
+
+void ukaz_na_trati(int v, int zbyva) {
+    Vlak& vlak = vlak_c(v);
+    const int e = vlak.prvky.back();
+    const int stitek = e == 118 ? 998 : stitek_na_trati(e, vlak);
+    if (zbyva > 0) {
+        if (je_cislo_koleje(stitek))
+            nastav_pozadi_stitku(stitek, kPozadiTrati);
+        return;
+    }
+    if (e == 118) {
+        if (je_cislo_koleje(stitek))
+            nastav_pozadi_stitku(stitek, barvy::cerna);
+    } else {
+        obarvi_stitek(stitek, barvy::bila, barvy::cerna);
+    }
+    ohlas_zvukem();
+    blikej_v_tabulce(zobrazene_cislo(vlak), false);
+    vlak.rychlost = kRychlostZTrati;
+}
+
+// Minutes to the departure from stop i.
+int zbyva_do_odjezdu(Vlak& vlak, int i) {
+    if (cas_zastavky(vlak.odjezd_realny, i) == kNaPovel)
+        return kCekaNaPovel;
+    const int posledni = static_cast<int>(vlak.stanice.size()) - 1;
+    const bool konci = i == posledni && vlak.stanice.back() == 9 && !vlak.odjezd_realny.empty() &&
+                       vlak.odjezd_realny.back() < 0;
+    if (!ma_loko(vlak) || konci) {
+        nastav_odjezd(vlak, i, kNaPovel);
+        return kNepojede;
+    }
+    return cas_zastavky(vlak.odjezd_realny, i) - cas_min();
+}
+
+// --- journal
+
+struct RadekDeniku {
+    int od, po;
+    TextPohled text;
+    int stanice;
+};
+constexpr std::array kDenik = {RadekDeniku{86, 90, " odjel z Lhotína v "_cz, 1},
+                               RadekDeniku{62, 65, " odjel z Borovce v "_cz, 2},
+                               RadekDeniku{66, 69, " odjel z Rokytna v "_cz, 6},
+                               RadekDeniku{26, 35, " odjel z Teska hl. n. v "_cz, 9},
+                               RadekDeniku{9, 17, " odjel z Teska Vyšního Hrabova v "_cz, 8},
+                               RadekDeniku{44, 46, " odjel z Teska Rybnic v "_cz, 7},
+                               RadekDeniku{93, 94, " odjel z Teska Rybnic v "_cz, 7},
+                               RadekDeniku{96, 96, " odjel z Teska Rybnic v "_cz, 7},
+                               RadekDeniku{638, 638, " odjel z Teska Rybnic v "_cz, 7},
+                               RadekDeniku{70, 75, " odjel z Teska Knížecích Luk v "_cz, 13},
+                               RadekDeniku{36, 40, " odjel z Teska Mokřiny v "_cz, 11},
+                               RadekDeniku{41, 43, " odjel z Dubnice v "_cz, 4},
+                               RadekDeniku{78, 83, " odjel z Teska dolního n. v "_cz, 15},
+                               RadekDeniku{0, 3, " odjel z Javořína v "_cz, 3}};
+
+void pis_do_deniku(int v, const RadekDeniku& radek) {
+    const Vlak& vlak = vlak_c(v);
+    // In Javorin the train goes by its first number even after the change: this is meant.
+    const std::int32_t cislo = radek.stanice == 3 ? vlak.cislo : zobrazene_cislo(vlak);
+    Text text = "Vlak " + text_cisla(cislo);
+    text += radek.text;
+    text += text_minuty(minuta_dne(cas_hodin()));
+    relief.lstDenik.radky.push_back(std::move(text));
+    ++revize_reliefu;
+}
+
+// The tail has left the area of a station crossing.
+void opust_prejezd(int e) {
+    const bool prvni = je_v(e, {4, 100, 106, 427, 543, 544});
+    if (!prvni && !je_v(e, {279, 280}))
+        return;
+    const int k = prvni ? 0 : 1;
+    StanicniPrejezd& prejezd = stanicni_prejezdy[static_cast<std::size_t>(k)];
+    if (prejezd.pocet > 0) // a counter never wraps
+        --prejezd.pocet;
+    if (prejezd.pocet == 128 && !prejezd.UZ && !prejezd.uzavren && prejezd.cas < 0)
+        gtn_zapis(k, gtn::prejezd, 0);
+}
+
+// --- change of direction
+
+struct Obrat {
+    int odkud, kam;
+    bool smer; // in which the train has come
+};
+constexpr std::array kObraty = {
+    Obrat{9, 3, true},   Obrat{9, 5, true},    Obrat{9, 8, true},   Obrat{9, 10, true},  Obrat{9, 11, true},
+    Obrat{9, 34, true},  Obrat{9, 7, false},   Obrat{9, 12, false}, Obrat{9, 27, false}, Obrat{9, 28, false},
+    Obrat{3, 19, true},  Obrat{3, 20, true},   Obrat{12, 7, true},  Obrat{12, 11, true}, Obrat{12, 15, true},
+    Obrat{12, 2, false}, Obrat{12, 13, false}, Obrat{7, 11, true},  Obrat{15, 8, true},  Obrat{15, 7, false}};
+
+} // namespace
+
+std::int16_t cas_min() {
+    return na_integer(simulace.minuty_simulace + simulace.cas_zacatku);
+}
+
+int stanice_prvku(int prvek) {
+    const MistoStopu* misto = najdi_misto(prvek);
+    return misto == nullptr ? 0 : misto->stanice;
+}
+
+void vlak_v_cili(int prvek, int v) {
+    if (vlak_c(v).posun) {
+        postav_soupravu(prvek, v);
+        return;
+    }
+    const MistoStopu* misto = najdi_misto(prvek);
+    if (misto == nullptr)
+        return;
+    if (misto->od_metru >= 0 && !vlak_c(v).smer && metry(prvek) < misto->od_metru)
+        return;
+    stanice_stop(misto->stanice, v, misto->pobyt);
+    switch (misto->potom) {
+    case PoStopu::nic: return;
+    case PoStopu::otocit: break;
+    case PoStopu::hajovice: vymen_loko_v_hajovicich(v); return;
+    case PoStopu::dolni: odves_v_dolnim(v); break;
+    case PoStopu::tesk:
+        vymen_loko_v_tesku(v);
+        if (je_na_posledni(vlak_c(v)))
+            navazny_vlak(v);
+        break;
+    }
+    otoc_podle_stanic(v);
+}
+
+void stanice_stop(int kod, int v, int doba) {
+    Vlak& vlak = vlak_c(v);
+    const auto od = static_cast<std::size_t>(std::max(0, vlak.stanice_index + 1));
+    std::size_t misto = od;
+    while (misto < vlak.stanice.size() && vlak.stanice[misto] != kod)
+        ++misto;
+    if (misto >= vlak.stanice.size())
+        return; // not in its timetable: it runs through
+    const int i = static_cast<int>(misto);
+    vlak.stanice_index = na_integer(i);
+    const bool pobyt = cas_zastavky(vlak.prijezd, i) >= 0;
+    const bool vychozi = !pobyt && kod == 9 && vlak.stanice.front() == 9 && cas_zastavky(vlak.odjezd, i) > 0;
+    if (pobyt || vychozi) {
+        zastav_vlak(v, pobyt ? doba : kPobytVychozi, i);
+        zobraz_cekani(v);
+    }
+    if (vlak_c(v).stanice_zmeny == kod)
+        prepni_cislo(v);
+}
+
+void zastav_vlak(int v, int doba, int i) {
+    Vlak& vlak = vlak_c(v);
+    vlak.stanice_index = na_integer(i);
+    vlak.zpozdeni = std::max<std::int16_t>(vlak.zpozdeni, 0);
+    vlak.muze_jet = false;
+    vlak.rychlost = 0;
+    const int odjezd = cas_zastavky(vlak.odjezd, i);
+    const int prijezd = cas_zastavky(vlak.prijezd, i);
+    if (odjezd < 0 || prijezd < 0 || cas_zastavky(vlak.odjezd_realny, i) == kNaPovel)
+        return;
+    doba = std::min(doba, odjezd - prijezd);
+    if (odjezd >= cas_min() + doba)
+        nastav_odjezd(vlak, i, na_integer(odjezd));
+    else if (!simulace.pauza)
+        nastav_odjezd(vlak, i, na_integer(cas_min() + doba));
+}
+
+void zobraz_cekani(int v) {
+    Vlak& vlak = vlak_c(v);
+    if (vlak.posun || vlak.stanice.empty() || (vlak.stanice_index < 0 && vlak.stanice.front() != 9))
+        return;
+    const int zbyva = zbyva_do_odjezdu(vlak, std::max<int>(vlak.stanice_index, 0));
+    vlak.muze_jet = zbyva <= 0;
+    if (zbyva > 0)
+        vlak.rychlost = 0;
+    if (zbyva <= 1)
+        blikej_v_tabulce(zobrazene_cislo(vlak), zbyva == 1);
+    if (vlak.prvky.empty())
+        return;
+    const int e = vlak.prvky.back();
+    if (e < 600 && e != 118)
+        ukaz_ve_stanici(v, zbyva);
+    else
+        ukaz_na_trati(v, zbyva);
+}
+
+void aktualizuj_cekani() {
+    simulace.upozorneni_minuty = false;
+    for (std::size_t v = 0; v < vlaky.size(); ++v)
+        if (vlaky[v].cislo > 0 && !vlaky[v].muze_jet && !vlaky[v].posun)
+            zobraz_cekani(static_cast<int>(v));
+}
+
+bool muze_tahnout(int v) {
+    const Vlak& vlak = vlak_c(v);
+    int j = std::min(static_cast<int>(vlak.stanice.size()) - 1, static_cast<int>(vlak.stanice_index));
+    while (j >= 0 && !je_v(stanice_zastavky(vlak, j), {9, 12}))
+        --j;
+    if (j < 0)
+        return true;
+    if ((vlak.priznaky & 1) != 0 && !druhy_je_loko(vlak))
+        return false;
+    return (vlak.priznaky & 2) == 0 || posledni_je_loko(vlak);
+}
+
+void odjezd_povel(int v) {
+    Vlak& vlak = vlak_c(v);
+    vlak.stanice_index = std::max<std::int16_t>(vlak.stanice_index, 0);
+    nastav_odjezd(vlak, vlak.stanice_index, na_integer(cas_min() + 1));
+    zobraz_cekani(v);
+}
+
+void ohlas_odjezd(int v, int j) {
+    const int e = vlak_c(v).prvky[static_cast<std::size_t>(j)];
+    opust_prejezd(e); // a shunting movement leaves it as a train does
+    if (vlak_c(v).posun)
+        return;
+    for (const RadekDeniku& radek : kDenik)
+        if (e >= radek.od && e <= radek.po) {
+            pis_do_deniku(v, radek);
+            spocti_zpozdeni(v, radek.stanice);
+            return;
+        }
+}
+
+void spocti_zpozdeni(int v, int kod) {
+    Vlak& vlak = vlak_c(v);
+    if (vlak.posun)
+        return;
+    const auto stanice = std::find(vlak.stanice.begin(), vlak.stanice.end(), kod);
+    if (stanice == vlak.stanice.end())
+        return;
+    const std::int16_t odjezd = cas_zastavky(vlak.odjezd, static_cast<int>(stanice - vlak.stanice.begin()));
+    if (odjezd < 0)
+        return;
+    int zpozdeni = cas_min() - odjezd;
+    if (zpozdeni == 1)
+        zpozdeni = 0; // a minute late is on time: this is meant
+    if (zpozdeni > 1300)
+        zpozdeni -= kDen;
+    else if (zpozdeni < -1000)
+        zpozdeni += kDen;
+    vlak.zpozdeni = na_integer(zpozdeni);
+}
+
+void prepni_cislo(int v) {
+    Vlak& vlak = vlak_c(v);
+    if (vlak.cislo2 <= 0 || vlak.cislo2_platne)
+        return;
+    const Text stare = text_cisla(vlak.cislo);
+    const Text nove = text_cisla(vlak.cislo2);
+    vlak.cislo2_platne = true;
+    for (int n = 0; n <= relief.cislo_koleje.nejvyssi(); ++n) {
+        if (!je_cislo_koleje(n) || orez(relief.cislo_koleje[n].text()) != stare)
+            continue;
+        Text text = relief.cislo_koleje[n].text(); // blanks around the number stay
+        text.replace(text.find(stare), stare.size(), nove);
+        nastav_text(relief.cislo_koleje[n], text);
+    }
+    prepis_v_tabulce(vlak.cislo, v);
+}
+
+void otoc_podle_stanic(int v) {
+    const Vlak& vlak = vlak_c(v);
+    const int i = std::max<int>(vlak.stanice_index, 0);
+    const int odkud = stanice_zastavky(vlak, i);
+    const int kam = stanice_zastavky(vlak, i + 1);
+    if (std::any_of(kObraty.begin(), kObraty.end(),
+                    [&](const Obrat& o) { return o.odkud == odkud && o.kam == kam && o.smer == vlak.smer; }))
+        otoc_vlak(v);
+}
