@@ -215,6 +215,9 @@ Projeta Kontrola::projed(const Trasa& t) {
         if (typ != Typ::kolej || k + 1 == z.prvky.size())
             continue;
         const Kolej& ta = *koleje.at(z.prvky[k]);
+        if (ta.cil && ta.cislo != z.konec && !plan.pravidla_tras.prujezdne.contains(ta.cislo) &&
+            t.kolem.empty())
+            zavada(t, "projíždí kolejí " + s(ta.cislo) + ", která je cílem");
         if (const auto i =
                 u_konce.find({ta.cislo, vystup.port == Port::vpravo ? Strana::vpravo : Strana::vlevo});
             i != u_konce.end())

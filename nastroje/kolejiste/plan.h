@@ -175,10 +175,10 @@ struct Pozadavky {
 enum class DruhTrasy : std::uint8_t { vlak, posun }; // tables tesk.zat and tesk.zpc
 inline constexpr std::array kDruhyTras = {DruhTrasy::vlak, DruhTrasy::posun};
 
-struct Prvek { // an element named in a rule about routes
+struct PrvekTrasy { // an element named in a rule about routes
     Typ typ = Typ::kolej;
     int cislo = 0;
-    auto operator<=>(const Prvek&) const = default;
+    auto operator<=>(const PrvekTrasy&) const = default;
 };
 
 // What the author says of the routes beyond what the drawing gives.
@@ -187,8 +187,8 @@ struct PravidlaTras {
         Misto misto;
         DruhTrasy druh{};
         int zacatek = 0, konec = 0;
-        std::vector<Prvek> pres; // elements of the way, in running order
-        std::set<int> kolem;     // signals that do not end it
+        std::vector<PrvekTrasy> pres; // elements of the way, in running order
+        std::set<int> kolem;          // signals that do not end it
     };
     struct Zakaz { // no such route; an empty set stands for all
         Misto misto;
@@ -219,6 +219,7 @@ struct PravidlaTras {
     std::vector<Programova> programove;
     std::map<int, int> saha;     // end to the track behind it that its routes run on to
     std::set<int> jen_vlak;      // tracks without shunt routes
+    std::set<int> prujezdne;     // targets that routes also run through, where no signal stands at their end
     std::map<int, int> rychlost; // speed class over the branch of a switch, where it is not 40 km/h
 };
 

@@ -92,7 +92,7 @@ private:
     std::set<int> hlaseno; // tracks already reported
 
     Dojezd dojezd(DruhTrasy druh, const Konec& vystup, const std::set<int>& kolem);
-    std::vector<Nalez> hledej(DruhTrasy druh, const Navestidlo& od, const std::vector<Prvek>& pres,
+    std::vector<Nalez> hledej(DruhTrasy druh, const Navestidlo& od, const std::vector<PrvekTrasy>& pres,
                               const std::set<int>& kolem);
     Trasa zaznam(DruhTrasy druh, const Navestidlo& od, const Nalez& nalez, const Misto& misto) const;
     bool zacina(DruhTrasy druh, const Navestidlo& n) const;
@@ -123,12 +123,13 @@ Dojezd Odvozeni::dojezd(DruhTrasy druh, const Konec& vystup, const std::set<int>
                               "cesty k návěstidlu na jejím konci by nebylo kam zadat: není cílem"});
         return {false, !hlavni && dal.has_value(), 0, -1};
     }
+    const bool projede = dal && pravidla.prujezdne.contains(k.cislo);
     if (vlak)
-        return {hlavni || !dal, !hlavni && dal.has_value(), k.cislo, -1};
-    return {true, !navestidlo && dal.has_value(), k.cislo, -1};
+        return {hlavni || !dal, !hlavni && projede, k.cislo, -1};
+    return {true, !navestidlo && projede, k.cislo, -1};
 }
 
-std::vector<Nalez> Odvozeni::hledej(DruhTrasy druh, const Navestidlo& od, const std::vector<Prvek>& pres,
+std::vector<Nalez> Odvozeni::hledej(DruhTrasy druh, const Navestidlo& od, const std::vector<PrvekTrasy>& pres,
                                     const std::set<int>& kolem) {
     const int kolej = plan.kolej_navestidla(od);
     std::vector<Stav> stavy;

@@ -2,8 +2,8 @@
 //
 // A train route leads from a main signal to the next main signal of its facing, to a track that ends in a
 // buffer stop or at the edge of the area, or into a line. A shunt route starts at a main or a shunting
-// signal and ends at every track with a target that it comes to; it runs on where no signal stands in its
-// way. Lines belong to trains only, targets from 501 to 599 to shunting only.
+// signal and ends at every track with a target that it comes to. Routes run on through a target only where
+// the source says so. Lines belong to trains only, targets from 501 to 599 to shunting only.
 //
 // Between a start and an end there is one route, the straightest way: the fewest ends of switches in
 // minus, then the fewest elements. Where another one is wanted the source says so.

@@ -186,7 +186,7 @@ private:
     // Own name behind the three letters of the block.
     Text se_stanici(const Text& vlastni) { return z_utf8(blok().kod) + " " + vlastni; }
     Konec konec_prvku();
-    Prvek prvek_cesty();
+    PrvekTrasy prvek_cesty();
     // Numbers up to the next keyword; "5-9" for a whole run.
     std::set<int> rada();
     // Rules about routes say why they are there; the reason stands at the end.
@@ -479,9 +479,9 @@ std::set<int> Veta::rada() {
     return cisla;
 }
 
-Prvek Veta::prvek_cesty() {
+PrvekTrasy Veta::prvek_cesty() {
     const std::string& s = slovo("prvek cesty").text;
-    Prvek p;
+    PrvekTrasy p;
     std::string_view kdo = s;
     if (kdo.starts_with('v') || kdo.starts_with('d')) {
         p.typ = kdo[0] == 'v' ? Typ::vyhybka : Typ::vykolejka;
@@ -574,6 +574,8 @@ bool Veta::cti_pravidlo_tras(const std::string& slovo_) {
         jednou(p.saha.try_emplace(n, cislo("kolej za ním")).second, n);
     } else if (slovo_ == "jen_vlak") {
         p.jen_vlak.merge(rada());
+    } else if (slovo_ == "prujezdna") {
+        p.prujezdne.merge(rada());
     } else if (slovo_ == "rychlost") {
         const int trida = cislo("třída rychlosti");
         if (trida < 0 || trida > 3)

@@ -5,6 +5,7 @@
 #include "app/cas.h"
 #include "app/simulace.h"
 #include "cesty/tik_volby.h"
+#include "gvd/provoz.h"
 #include "jizda/krok_jizdy.h"
 #include "jizda/zastavky.h"
 #include "prvky/panel.h"
@@ -90,6 +91,7 @@ void krok_hodin() {
 void krok_minuty() {
     simulace.minuty_simulace = na_integer(simulace.minuty_simulace + 1);
     relief.lblcas_od_zacatku[0].text = text_cisla(simulace.minuty_simulace);
+    krok_provozu();
     aktualizuj_cekani();
     if (minuta_dne(cas_hodin()) == 0)
         dalsi_den();

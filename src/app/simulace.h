@@ -45,6 +45,7 @@ struct Simulace {
     int detail_navestidlo = kZadny;   // signal shown in the panel
     bool ticho_souhlasu = false;      // the consent beep is silenced
     bool nova_zprava = false;         // a delay message has come, the next blink step shows it
+    bool nova_pipnuti = false;        // a new train has beeped in this traffic step
     bool upozorneni_minuty = false;   // a departure has sounded in this simulated minute
     bool pn_bezi = false;             // a calling-on aspect runs, the blink step beeps
     Text obrazovka = "frmParametry";  // screen that is open: frmParametry, frmUvod (splash), frmMain, ...

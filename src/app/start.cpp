@@ -10,6 +10,7 @@
 #include "desk/stitky.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
+#include "gvd/zaplneni.h"
 #include "jizda/vlak.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stanicni_prejezdy.h"
@@ -376,8 +377,11 @@ void start_simulace() {
         relief.lblcas[n].viditelny = true;
     if (!nacti_jizdni_rad())
         return;
+    if (!simulace.nacitani_zaznamu)
+        zaplneni_kolejiste(minuta_dne(cas_hodin()));
     relief.lblrychlost_simulace[0].text = text_cisla(simulace.rychlost);
     simulace.tick_jizdy = platforma.tik_ms();
     pipni(400, 150);
     zprava(" INIT ", " OK ", barvy::zelena, 0, false, barvy::bila, 0, false);
+    simulace.nova_pipnuti = false;
 }

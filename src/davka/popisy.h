@@ -13,6 +13,7 @@
 #include "desk/stitky.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
+#include "gvd/stav_provozu.h"
 #include "jizda/vlak.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "relief/prejezdy.h"
@@ -128,6 +129,13 @@ template <class A, ZaznamJe<GvdVlak> Z> void popis_poli(A& a, Z& z) {
     a.pole("navazny_vlak", z.navazny_vlak);
     a.pole("dny", z.dny);
     a.pole("priznaky", z.priznaky);
+}
+
+template <class A, ZaznamJe<DalsiVlak> Z> void popis_poli(A& a, Z& z) {
+    a.pole("cas", z.cas);
+    a.pole("cislo", z.cislo);
+    a.pole("druh", z.druh);
+    a.pole("predpoklad", z.predpoklad);
 }
 
 template <class A, ZaznamJe<Vyber> Z> void popis_poli(A& a, Z& z) {

@@ -242,6 +242,11 @@ void vypis_nastaveni(ZaznamJsonu& z) {
     pridej(z, "radky", Json(std::move(radky)));
 }
 
+// By station code: row 1 is the nearest train from LHO.
+void vypis_dalsi_vlaky(ZaznamJsonu& z) {
+    pridej(z, "radky", zaznamy(stav_provozu.dalsi_vlaky));
+}
+
 struct Vypis {
     std::string_view slovo;
     std::string_view zaznam; // the word for one of its rows: `nastav vlak 3`, `over cesta 0`
@@ -258,6 +263,7 @@ constexpr std::array kVypisy = {
     Vypis{"stanicni_prejezdy", "", vypis_tabulku<stanicni_prejezdy>},
     Vypis{"stitky", "", vypis_tabulku<stitky>},
     Vypis{"cekajici_vlaky", "", vypis_cekajici},
+    Vypis{"dalsi_vlaky", "", vypis_dalsi_vlaky},
     Vypis{"gvd_vlaky", "", vypis_tabulku<gvd_vlaky>},
     Vypis{"zpravy", "", vypis_zpravy},
     Vypis{"denik", "", vypis_denik},
@@ -273,7 +279,7 @@ constexpr std::array kVypisy = {
 };
 
 // Words of the language whose tables this version of the program does not have yet.
-constexpr std::array<std::string_view, 2> kZatimNe = {"info", "dalsi_vlaky"};
+constexpr std::array<std::string_view, 1> kZatimNe = {"info"};
 
 const Vypis* najdi_vypis(std::string_view slovo) {
     const auto nalezeny = std::find_if(kVypisy.begin(), kVypisy.end(), [&](const Vypis& v) {

@@ -1,20 +1,33 @@
-// gvd/skladba.h - the make-up of trains from the rows of the timetable.
+// gvd/skladba.h - a timetable row becomes a running train: its record, vehicles and pictures.
 #pragma once
 
-#include "app/simulace.h"
-#include "zaklad/cisla.h"
+#include "zaklad/text.h"
 
 #include <cstdint>
 
+// Where `index` of vytvor_vlak says that the train has just come to its entry.
+inline constexpr int kNaVstupu = -3;
+
+// --- by the traffic and the start
+
+// Makes the train of a timetable row on an element and returns its index in `vlaky`. `muze_jet`: it may
+// run at once. `index`: the stop of its route at which it stands, kNaVstupu for a train at its entry. A
+// new train beeps, once a minute at most.
+std::int16_t vytvor_vlak(bool smer, int element, bool muze_jet, int index, int gvd_index);
+
 // --- at any time, without change
 
-// What lifts a time of the timetable into running minutes: the days played so far, and one day more for a
-// time that lies far behind the present minute. 0 for no time (0 and below).
-inline std::int16_t korekce(std::int16_t minuta) {
-    constexpr int kDen = 1440;
-    if (minuta <= 0)
-        return 0;
-    const int ted = simulace.minuty_simulace + simulace.cas_zacatku;
-    const bool zitra = static_cast<double>(ted % kDen) / minuta > 1.5;
-    return na_integer(ted / kDen * kDen + (zitra ? kDen : 0));
-}
+// What lifts a time of the timetable into running minutes: the days since the first one, in minutes, and
+// one more when the time lies so far behind that tomorrow is meant. 0 for 0 and below: no time.
+std::int16_t korekce(std::int16_t minuta);
+// Number of the train whose set comes from this one with the same locomotive and that runs today; 0 none.
+std::int32_t cislo_vlaku_pred(int vlak);
+
+// --- at any time; draws by chance
+
+// File name of a picture of the series: the variants in DATA\VOZY are drawn by the weights in their
+// names. Empty when there is none.
+Text obrazek_vozu(int rada);
+
+// File name of the picture of a vehicle that is given by its type. Empty for an unknown one.
+Text obrazek_vozu_textem(TextPohled text);

@@ -5,9 +5,11 @@
 #include "app/konec.h"
 #include "app/simulace.h"
 #include "app/vstup.h"
+#include "cesty/duvod.h"
 #include "desk/menu.h"
 #include "ui/brana.h"
 #include "ui/pismo.h"
+#include "ui/technologie.h"
 #include "zaklad/cisla.h"
 
 #include <QCloseEvent>
@@ -76,6 +78,8 @@ constexpr Preklad kKlavesy[] = {
     {Qt::Key_Up, KodKlavesy::sipka_nahoru},
     {Qt::Key_Down, KodKlavesy::sipka_dolu},
     {Qt::Key_Delete, KodKlavesy::delete_},
+    {Qt::Key_Tab, KodKlavesy::tab},
+    {Qt::Key_Backtab, KodKlavesy::tab},
 };
 
 // The keys of the numeric block are taken from the main block too: portable keyboards have no other.
@@ -108,6 +112,16 @@ Text otisk_nabidky() {
     if (menu.jmeno.empty())
         return {};
     return menu.jmeno + ' ' + text_cisla(static_cast<int>(menu.druh)) + ' ' + text_cisla(menu.prvek);
+}
+
+// What the waiting line of the stack, or a start signal, has to say to "why not?".
+Text duvod_prvku(const Nalezeny& kde) {
+    switch (kde.druh) {
+    case Druh::lblZasobnik_blokv: return duvod_zasobniku();
+    case Druh::navestidlo:
+    case Druh::navestidlo_ser: return duvod_u_navestidla(kde.n);
+    default: return {};
+    }
 }
 
 // Name that the pointer shows over an element.
@@ -168,6 +182,9 @@ HlavniOkno::HlavniOkno() {
             obnov();
         });
     }
+
+    technologie = new ObrazovkaTechnologie(
+        this, [this](QKeyEvent* udalost) { return stisk(udalost); }, [this] { obnov(); });
 
     for (const Casovac& casovac : casovace) {
         auto* okna = new QTimer(this);
@@ -247,6 +264,7 @@ void HlavniOkno::obnov() {
         obnov_seznam(s);
     obnov_pole();
     obnov_nabidku();
+    technologie->obnov();
     if (const int perioda = perioda_blikani_diag(); perioda == 0)
         blikani_diag.stop();
     else if (!blikani_diag.isActive() || blikani_diag.interval() != perioda)
@@ -483,11 +501,16 @@ bool HlavniOkno::event(QEvent* udalost) {
     if (udalost->type() == QEvent::ToolTip) {
         const auto* napoveda = static_cast<QHelpEvent*>(udalost);
         const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(napoveda->pos()));
-        const Text text = kde ? jmenovka(*kde) : Text{};
-        if (orez(text).empty())
+        Text text = kde ? Text(orez(jmenovka(*kde))) : Text{};
+        if (kde)
+            v_jadre([&] {
+                if (const Text duvod = duvod_prvku(*kde); !duvod.empty())
+                    text += (text.empty() ? "" : "\n") + duvod;
+            });
+        if (text.empty())
             QToolTip::hideText();
         else
-            QToolTip::showText(napoveda->globalPos(), na_qstring(orez(text)), this);
+            QToolTip::showText(napoveda->globalPos(), na_qstring(text), this);
         return true;
     }
     return QWidget::event(udalost);

@@ -14,6 +14,8 @@
 #include <array>
 #include <optional>
 
+class ObrazovkaTechnologie;
+
 class HlavniOkno : public QWidget {
 public:
     HlavniOkno();
@@ -66,6 +68,7 @@ private:
     QLineEdit* pole = nullptr;
     std::array<ZobrazenySeznam, 2> seznamy;
     QMenu* nabidka = nullptr;
+    ObrazovkaTechnologie* technologie = nullptr;
     Text nabidka_ukazuje;
     std::optional<Nalezeny> najety;
     bool minimalizovane = false;

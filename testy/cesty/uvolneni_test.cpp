@@ -174,6 +174,33 @@ TEST_F(Uvolneni, DirectionStaysForTheTrainOnTheLine) {
     EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::azurova);
 }
 
+TEST_F(Uvolneni, DirectionStaysForAnotherRouteOntoTheLine) {
+    zat.push_back({46, 604, {46, 604}, {1, 1}, {0, 0}, 0});
+    postav_tabulky();
+    postav(241, 604);
+    postav(46, 604);
+    zrus_cestu(46);
+    cekej(6);
+    ASSERT_EQ(cesty.size(), 1u);
+    EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::azurova);
+    zrus_cestu(241);
+    cekej(6);
+    EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::seda);
+}
+
+TEST_F(Uvolneni, CancellationBeforeTheSignalClearedTakesTheHighlightsAway) {
+    zarad(240, 41);
+    cekej(4);
+    klik(240);
+    relief.cislo_koleje[41].pozadi = barvy::zelena;
+    relief.cislo_koleje[41].ramecek = true;
+    zrus_cestu(240);
+    cekej(1);
+    ASSERT_EQ(cesty[0].zacatek, -3);
+    EXPECT_FALSE(relief.navestidlo[240].ramecek);
+    EXPECT_FALSE(relief.cislo_koleje[41].ramecek);
+}
+
 TEST_F(Uvolneni, CancelledRouteOutPutsTheLampOut) {
     postav(40, 84);
     ASSERT_EQ(relief.lblSouhlas[0].barva, barvy::modra);
@@ -212,6 +239,18 @@ TEST_F(Uvolneni, RoutesBehindACancelledOneAreWalkedInTheSameTick) {
     cekej(5);
     EXPECT_EQ(cesty[0].konec, 42);
     EXPECT_TRUE(cesty[0].prehozena);
+}
+
+TEST_F(Uvolneni, RouteBlockedByACancelledOneGoesInTheSameTick) {
+    postav(240, 41);
+    zarad(240, 42);
+    std::swap(cesty[0], cesty[1]);
+    zrus_cestu(240);
+    cekej(4);
+    EXPECT_FALSE(cesty[0].prehozena);
+    cekej(1);
+    ASSERT_EQ(cesty.size(), 1u);
+    EXPECT_TRUE(cesty[0].prehozena) << "the walk began anew with nothing held back";
 }
 
 // --- STUJ and DN

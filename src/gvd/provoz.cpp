@@ -1,0 +1,447 @@
+// gvd/provoz.cpp - the traffic step.
+#include "gvd/provoz.h"
+
+#include "app/cas.h"
+#include "app/simulace.h"
+#include "cesty/barvi_prvek.h"
+#include "cesty/cesta.h"
+#include "cesty/cisla_vlaku.h"
+#include "cesty/dotazy.h"
+#include "desk/tabulka_vlaku.h"
+#include "gvd/gvd.h"
+#include "gvd/skladba.h"
+#include "gvd/stav_provozu.h"
+#include "gvd/zaplneni.h"
+#include "jizda/na_koleji.h"
+#include "jizda/vlak.h"
+#include "jizda/zastavky.h"
+#include "prvky/souhlasy.h"
+#include "zaklad/cisla.h"
+#include "zaklad/nahoda.h"
+
+#include <algorithm>
+#include <array>
+#include <span>
+#include <vector>
+
+namespace {
+
+constexpr int kDen_min = 1440;
+constexpr TextPohled kZpozdeniVlaku = "Zpoždění vlaku "_cz;
+constexpr std::size_t kMistoCisla = 16;    // the number in a delay line, counted from 1
+constexpr std::int16_t kPoOhlaseni = 100;  // the announced train no longer is the nearest one
+constexpr std::int32_t kCislaDepa = 70000; // numbers from here run as trains at the depot of VH
+constexpr int kLoko731 = 731;
+
+const GvdVlak& radek(int gvd_index) {
+    return gvd_vlaky.at(static_cast<std::size_t>(gvd_index));
+}
+
+bool je_souhlasova(int stanice) {
+    return stanice == 19 || stanice == 20 || stanice == 5;
+}
+
+// Minute that the row's entry is counted from.
+int zakladni_cas(const GvdVlak& r) {
+    return je_souhlasova(r.stanice.front()) || r.prijezdy.front() <= -1 ? r.odjezdy.front()
+                                                                        : r.prijezdy.front();
+}
+
+bool volny_prvek(int e) {
+    return je_kolej(e) && je_volna(e);
+}
+
+// First free one; -1 when there is none.
+int prvni_volny(std::span<const int> prvky) {
+    const auto nalezeny = std::find_if(prvky.begin(), prvky.end(), volny_prvek);
+    return nalezeny == prvky.end() ? -1 : *nalezeny;
+}
+
+void nastav_tag(int e, TextPohled metry) {
+    relief.kolej[e].stav = metry;
+}
+
+// --- delays
+
+struct Zpozdeny {
+    std::int32_t cislo = 0;
+    std::int16_t minut = 0;
+};
+
+bool precti_radek_zpozdeni(TextPohled radek_zprav, Zpozdeny& z) {
+    if (radek_zprav.find(orez(kZpozdeniVlaku)) == TextPohled::npos)
+        return false;
+    const TextPohled konec =
+        radek_zprav.size() > 3 ? radek_zprav.substr(radek_zprav.size() - 3) : radek_zprav;
+    z = {cele_z_textu(vyrez(radek_zprav, kMistoCisla)), na_integer(cislo_z_textu(konec))};
+    return true;
+}
+
+// The delay lines, read once a step: by number, of equal ones the first line of the list.
+std::vector<Zpozdeny> zpozdeni_kroku;
+
+void precti_zpozdeni() {
+    zpozdeni_kroku.clear();
+    Zpozdeny z;
+    for (const Text& r : relief.lstZpravy.radky)
+        if (precti_radek_zpozdeni(r, z))
+            zpozdeni_kroku.push_back(z);
+    std::stable_sort(zpozdeni_kroku.begin(), zpozdeni_kroku.end(),
+                     [](const Zpozdeny& a, const Zpozdeny& b) { return a.cislo < b.cislo; });
+}
+
+std::int16_t zpozdeni_v_kroku(std::int32_t cislo) {
+    if (zpozdeni_kroku.empty())
+        return 0;
+    const auto z = std::lower_bound(zpozdeni_kroku.begin(), zpozdeni_kroku.end(), cislo,
+                                    [](const Zpozdeny& a, std::int32_t c) { return a.cislo < c; });
+    return z != zpozdeni_kroku.end() && z->cislo == cislo ? z->minut : std::int16_t{0};
+}
+
+void losuj_zpozdeni(int gvd_index) {
+    const std::int16_t minut = nahodne_zpozdeni(gvd_index);
+    if (minut <= 0)
+        return;
+    relief.lstZpravy.radky.push_back(Text(kZpozdeniVlaku) + text_cisla(radek(gvd_index).cislo) + " +" +
+                                     text_cisla(minut) + Text("´"_cz));
+    simulace.nova_zprava = true;
+    precti_zpozdeni();
+}
+
+// --- entries
+
+void objev_vlak(int gvd_index, int element, bool smer, bool muze_jet) {
+    const std::int16_t v = vytvor_vlak(smer, element, muze_jet, kNaVstupu, gvd_index);
+    pridej_do_tabulky(v);
+    barvi_prvek(element, muze_jet ? barvy::cervena : barvy::zelena);
+    pis_cislo(element, text_cisla(radek(gvd_index).cislo));
+    postav_cesty_z(element);
+}
+
+// The announced train leaves the neighbouring station: the element that shows its number is the one.
+void rozjed(std::int32_t cislo, std::span<const int> prvky) {
+    for (const int e : prvky) {
+        if (!je_cislo_koleje(e) || !je_kolej(e) ||
+            cislo_z_textu(orez(relief.cislo_koleje[e].text())) != cislo)
+            continue;
+        barvi_prvek(e, barvy::cervena);
+        nastav_tag(e, "400");
+        const int v = spust_vlak(cislo);
+        const Vlak& vlak = vlaky[static_cast<std::size_t>(v)];
+        if (vlak.cislo == cislo || vlak.cislo2 == cislo)
+            vlak_v_cili(e, v);
+        return;
+    }
+}
+
+// A locomotive or set of the post: it shunts in, and its first vehicle then stands by.
+void vstup_z_posty(int gvd_index) {
+    constexpr int kPosta = 574;
+    if (!volny_prvek(kPosta))
+        return;
+    const std::int16_t v = vytvor_vlak(false, kPosta, true, kNaVstupu, gvd_index);
+    Vlak& vlak = vlaky[static_cast<std::size_t>(v)];
+    if (!vlak.vozy_urceni.empty())
+        vlak.vozy_urceni.front() = "ZAL";
+    ++stav_provozu.pocet_zaloh;
+    pridej_do_tabulky(v);
+    barvi_prvek(kPosta, barvy::cervena);
+    vlak.posun = true;
+    pridej_na_kolej(kPosta, v, false, -1);
+    postav_cesty_z(kPosta);
+}
+
+void vstup_z_depa_vh(int gvd_index) {
+    constexpr int kDepoVH = 25;
+    bool jsou_vozy = false;
+    if (!volny_prvek(kDepoVH) || kontrola_soupravy(radek(gvd_index).cislo, jsou_vozy) != 0)
+        return;
+    const std::int16_t v = vytvor_vlak(true, kDepoVH, true, kNaVstupu, gvd_index);
+    Vlak& vlak = vlaky[static_cast<std::size_t>(v)];
+    const bool posun = vlak.cislo < kCislaDepa;
+    vlak.posun = posun;
+    pridej_do_tabulky(v);
+    barvi_prvek(kDepoVH, barvy::cervena);
+    pis_cislo(kDepoVH, posun ? Text{} : text_cisla(vlak.cislo));
+    postav_cesty_z(kDepoVH);
+    nastav_tag(kDepoVH, "500");
+    posun_po_vytvoreni(v);
+}
+
+// --- announcements
+
+struct StaniceOhlaseni {
+    int kod;
+    bool predjizdi;            // a late train may be put on the overtaking track
+    int predjizdna;            // that track
+    int manipulacni;           // track of category Mn
+    std::array<int, 5> koleje; // the others in order; 0 none
+    bool smer;
+};
+constexpr std::uint8_t kMn = 15;
+constexpr std::array kOhlasovane = {
+    StaniceOhlaseni{6, true, 69, 66, {68, 67, 69, 66, 0}, false},
+    StaniceOhlaseni{1, true, 86, 89, {87, 88, 86, 89, 90}, true},
+    StaniceOhlaseni{2, true, 65, 62, {63, 64, 65, 62, 0}, false},
+    StaniceOhlaseni{4, false, 0, 43, {42, 41, 43, 0, 0}, false},
+};
+
+std::span<const int> koleje_ohlaseni(const StaniceOhlaseni& s) {
+    return {s.koleje.begin(), std::find(s.koleje.begin(), s.koleje.end(), 0)};
+}
+
+const StaniceOhlaseni* ohlasovana(int stanice) {
+    const auto s = std::find_if(kOhlasovane.begin(), kOhlasovane.end(),
+                                [stanice](const StaniceOhlaseni& o) { return o.kod == stanice; });
+    return s == kOhlasovane.end() ? nullptr : &*s;
+}
+
+int kolej_ohlaseni(const StaniceOhlaseni& s, bool predbiha, std::uint8_t druh) {
+    if (predbiha && volny_prvek(s.predjizdna))
+        return s.predjizdna;
+    if (druh == kMn && volny_prvek(s.manipulacni))
+        return s.manipulacni;
+    return prvni_volny(koleje_ohlaseni(s));
+}
+
+// A later train is due before this late one, which may be overtaken.
+bool je_predbihan(const GvdVlak& r) {
+    const DalsiVlak& dalsi = stav_provozu.dalsi_vlaky[r.stanice.front()];
+    return dalsi.predpoklad != 0 && dalsi.predpoklad < zpozdeni_vlaku(r.cislo) + r.odjezdy.front() &&
+           dalsi.cislo != r.cislo;
+}
+
+// --- the step
+
+// Standby locomotives of series 731 come in turns from the two sides of the main station.
+void zaloha_731() {
+    constexpr int kStranaA = 569, kStranaB = 538;
+    const auto privez = [](int element) {
+        if (!stav_provozu.zaloha_731_jede && volny_prvek(element))
+            vytvor_lokomotivu(kLoko731, element, true, "ZAL", true);
+    };
+    if (stav_provozu.zaloha_731_strana)
+        privez(kStranaA);
+    if (!stav_provozu.zaloha_731_strana)
+        privez(kStranaB);
+}
+
+void zapis_dalsi_vlak(const GvdVlak& r, int zbyva, int zpozdeni) {
+    const std::size_t stanice = r.stanice.front();
+    if (zbyva <= 5 || stanice >= stav_provozu.dalsi_vlaky.size())
+        return;
+    DalsiVlak& dalsi = stav_provozu.dalsi_vlaky[stanice];
+    if (dalsi.cas <= zbyva)
+        return;
+    dalsi = {na_integer(zbyva), r.cislo, r.druh, na_integer(zpozdeni + r.odjezdy.front())};
+}
+
+void krok_radku(int gvd_index, int ted) {
+    const GvdVlak& r = radek(gvd_index);
+    const bool aktivni = aktivni_dnes(r);
+    if (!aktivni && zpozdeni_v_kroku(r.cislo) <= 0)
+        return;
+    const int stanice = r.stanice.front();
+    int zbyva = (zakladni_cas(r) - ted) % kDen_min;
+    const bool ceka = je_cekajici(r.cislo);
+    if (ceka)
+        zbyva = stanice == 9 ? 30 : 1;
+    if (zbyva == 20 && aktivni && simulace.zpozdeni_povoleno && stanice != 28 && stanice != 30 &&
+        stanice != 9 && stanice != 34)
+        losuj_zpozdeni(gvd_index);
+    const int zpozdeni = zpozdeni_v_kroku(r.cislo);
+    if (!ceka)
+        zbyva = (zbyva + zpozdeni) % kDen_min;
+    zapis_dalsi_vlak(r, zbyva, zpozdeni);
+    if (zbyva == 0)
+        vstup_v_minute(gvd_index);
+    else if (!aktivni)
+        return;
+    else if (zbyva == 1 && je_souhlasova(stanice))
+        vstup_se_souhlasem(gvd_index);
+    else if (zbyva == 1 || zbyva == 2)
+        ohlaseni(gvd_index);
+    else if (zbyva >= 16 && zbyva <= 30 && stanice == 9)
+        stanice_start(gvd_index);
+}
+
+} // namespace
+
+void krok_provozu() {
+    simulace.nova_pipnuti = false;
+    zaloha_731();
+    const int ted = minuta_dne(cas_hodin());
+    precti_zpozdeni();
+    for (std::size_t i = 0; i < gvd_vlaky.size(); ++i)
+        krok_radku(static_cast<int>(i), ted);
+}
+
+void vstup_v_minute(int gvd_index) {
+    const GvdVlak& r = radek(gvd_index);
+    const int stanice = r.stanice.front();
+    const auto objev_na = [&](std::span<const int> prvky, bool smer) {
+        if (const int e = prvni_volny(prvky); e >= 0)
+            objev_vlak(gvd_index, e, smer, true);
+    };
+    if (const StaniceOhlaseni* s = ohlasovana(stanice)) {
+        rozjed(r.cislo, koleje_ohlaseni(*s));
+        return;
+    }
+    switch (stanice) {
+    case 28:
+        if (cil_volny(112))
+            objev_na(std::array{112}, false);
+        break;
+    case 27: objev_na(std::array{55, 56}, false); break;
+    case 31: objev_na(std::array{91, 92}, true); break;
+    case 33: vstup_z_posty(gvd_index); break;
+    case 34: vstup_z_depa_vh(gvd_index); break;
+    default: // 30 too: its rows stand there for the sake of their vehicles
+        break;
+    }
+}
+
+void vstup_se_souhlasem(int gvd_index) {
+    const GvdVlak& r = radek(gvd_index);
+    const int k = r.stanice.front() == 19 ? 0 : r.stanice.front() == 20 ? 1 : 2;
+    const KonecTrati& konec = kKonceTrati[static_cast<std::size_t>(k)];
+    if (!relief.lblSouhlas.je(k) || !je_kolej(konec.navestidlo) || !je_kolej(konec.usek))
+        return;
+    Prvek& lampa = relief.lblSouhlas[k];
+    if (!je_cekajici(r.cislo)) {
+        lampa.popis = text_cisla(r.cislo);
+        simulace.ticho_souhlasu = false;
+        return;
+    }
+    for (const int e : {konec.navestidlo, konec.usek})
+        if (!cil_volny(e) || !je_volna(e))
+            return;
+
+    const std::int16_t v = vytvor_vlak(true, konec.navestidlo, true, kNaVstupu, gvd_index);
+    pridej_do_tabulky(v);
+    barvi_prvek(konec.navestidlo, barvy::cervena);
+    for (const int e : {konec.navestidlo, konec.usek})
+        pis_cislo(e, text_cisla(r.cislo));
+    pridej_cestu_souhlasu(k);
+    postav_cesty_z(konec.usek);
+    vyrad_cekajici(gvd_index);
+
+    if (relief.lblPredvidany_odjezd.je(k)) {
+        nastav_text(relief.lblPredvidany_odjezd[k], text_cisla_mist(minuta_dne(cas_hodin()) % 60, 2));
+        relief.lblPredvidany_odjezd[k].viditelny = true;
+    }
+    nastav_text(lampa, znak(konec.znak_dovnitr));
+    lampa.barva = barvy::modra;
+    souhlasy.souhlas[static_cast<std::size_t>(k)] = false;
+}
+
+void ohlaseni(int gvd_index) {
+    const GvdVlak& r = radek(gvd_index);
+    const StaniceOhlaseni* s = ohlasovana(r.stanice.front());
+    if (s == nullptr ||
+        std::any_of(vlaky.begin(), vlaky.end(), [&r](const Vlak& v) { return v.cislo == r.cislo; }))
+        return;
+    bool predbiha = false;
+    if (s->predjizdi) {
+        predbiha = je_predbihan(r);
+        DalsiVlak& dalsi = stav_provozu.dalsi_vlaky[r.stanice.front()];
+        if (dalsi.cislo == r.cislo)
+            dalsi.cas = kPoOhlaseni;
+    }
+    if (const int e = kolej_ohlaseni(*s, predbiha, r.druh); e >= 0)
+        objev_vlak(gvd_index, e, s->smer, false);
+}
+
+// Thresholds as they are written, draws in single precision: 0.9 itself is just below the first one.
+std::int16_t nahodne_zpozdeni(int gvd_index) {
+    const int druh = radek(gvd_index).druh;
+    const double r1 = nahodne();
+    int nejvyse = 30;
+    bool zpozden = false;
+    switch (druh) {
+    case 1:
+    case 2:
+    case 3:
+    case 4:
+    case 8: zpozden = r1 >= 0.9; break;
+    case 5:
+    case 6: zpozden = r1 > 0.85; break;
+    case 7: zpozden = r1 > 0.81; break;
+    default: zpozden = r1 > 0.8; nejvyse = 90;
+    }
+    if (!zpozden)
+        return 0;
+    const std::int16_t minut = na_integer(dolu(static_cast<double>(nahodne()) * nejvyse));
+    return minut >= 1 && minut <= 4 ? std::int16_t{5} : minut;
+}
+
+void pridej_cekajici(std::int32_t cislo) {
+    std::vector<std::int32_t>& cekajici = souhlasy.cekajici_vlaky;
+    if (je_cekajici(cislo))
+        return;
+    if (cekajici.size() == 1 && cekajici.front() == 0)
+        cekajici.front() = cislo;
+    else
+        cekajici.push_back(cislo);
+}
+
+void vyrad_cekajici(int gvd_index) {
+    std::vector<std::int32_t>& cekajici = souhlasy.cekajici_vlaky;
+    const auto misto = std::find(cekajici.begin(), cekajici.end(), radek(gvd_index).cislo);
+    if (misto == cekajici.end())
+        return;
+    if (cekajici.size() == 1)
+        cekajici.front() = 0;
+    else
+        cekajici.erase(misto);
+}
+
+int spust_vlak(std::int32_t cislo) {
+    const auto v = std::find_if(vlaky.begin(), vlaky.end(), [cislo](const Vlak& vlak) {
+        return vlak.cislo == cislo || vlak.cislo2 == cislo;
+    });
+    if (v == vlaky.end())
+        return 0;
+    v->muze_jet = true;
+    return static_cast<int>(v - vlaky.begin());
+}
+
+void postav_cesty_z(int e) {
+    for (std::size_t i = 0; i < cesty.size(); ++i) {
+        const Cesta& c = cesty[i];
+        if (prvni_prvek(c) == e && c.Postavena && c.cas_ruseni < 0 && c.Umazat == 0) {
+            postup_cisla(static_cast<int>(i));
+            return;
+        }
+    }
+}
+
+void pridej_cestu_souhlasu(int k) {
+    constexpr std::array<std::int16_t, 3> kPrvniNavestidla = {284, 285, 317};
+    const KonecTrati& konec = kKonceTrati.at(static_cast<std::size_t>(k));
+    if (cesty.front().zacatek >= 0)
+        cesty.emplace_back();
+    Cesta& c = cesty.back();
+    c = Cesta{};
+    c.zacatek = kPrvniNavestidla[static_cast<std::size_t>(k)];
+    c.konec = na_integer(konec.usek);
+    c.prvky = {na_integer(konec.navestidlo), na_integer(konec.usek)};
+    c.druhy = {druh_prvku::kolej, druh_prvku::kolej};
+    c.polohy = {0, 0};
+    c.VC = c.prehozena = c.Postavena = c.Provedena = true;
+    c.prejezd = kBezPrejezdu;
+    c.ZT = kZTprogramu;
+}
+
+std::int16_t zpozdeni_vlaku(std::int32_t cislo) {
+    Zpozdeny z;
+    for (const Text& r : relief.lstZpravy.radky)
+        if (precti_radek_zpozdeni(r, z) && z.cislo == cislo)
+            return z.minut;
+    return 0;
+}
+
+bool je_cekajici(std::int32_t cislo) {
+    const std::vector<std::int32_t>& cekajici = souhlasy.cekajici_vlaky;
+    return cislo != 0 && std::find(cekajici.begin(), cekajici.end(), cislo) != cekajici.end();
+}

@@ -1,0 +1,385 @@
+// gvd/skladba.cpp - composition of trains: times, vehicles, pictures, first speed.
+#include "gvd/skladba.h"
+
+#include "app/cas.h"
+#include "app/simulace.h"
+#include "cesty/cesta.h"
+#include "gvd/gvd.h"
+#include "gvd/provoz.h"
+#include "jizda/na_koleji.h"
+#include "jizda/souprava.h"
+#include "jizda/spojovani.h"
+#include "zaklad/cisla.h"
+#include "zaklad/nahoda.h"
+#include "zaklad/soubory.h"
+
+#include <algorithm>
+#include <array>
+#include <cstddef>
+#include <initializer_list>
+#include <utility>
+
+namespace {
+
+constexpr int kDen_min = 1440;
+constexpr int kTratovePrvky = 600;            // line elements begin here
+constexpr int kPrvkySeSeznamem = 500;         // elements below have their list of trains from the start
+constexpr int kDepo538 = 538, kDepo569 = 569; // where sets come out of the depot of the main station
+constexpr int kJednotka = 560;                // electric unit: 560, 060, 560p
+constexpr std::uint8_t kPosilaVpredu = 1, kPripraz = 2;
+constexpr std::int16_t kJenNaPovel = -10; // departure only on the operator's order
+
+bool ma_ridici_vuz(int rada) {
+    return rada == 943 || rada == 954;
+}
+
+// The vehicle is given by a number, and it is this series.
+bool je_rada(const Text& vuz, int rada) {
+    const auto cislo = ciselny_text(vuz);
+    return cislo && *cislo == rada;
+}
+
+std::uint8_t prvni_rychlost(int stanice, std::uint8_t rychlost) {
+    switch (stanice) {
+    case 1:
+    case 6: return std::min<std::uint8_t>(rychlost, 100);
+    case 2:
+    case 5:
+    case 10:
+    case 11:
+    case 12: return 70;
+    case 9:
+    case 16:
+    case 17:
+    case 18: return 40;
+    case 13: return 100;
+    case 19:
+    case 20: return std::min<std::uint8_t>(rychlost, 65);
+    case 27:
+    case 28:
+    case 30:
+    case 31: return 60;
+    default: return 80;
+    }
+}
+
+void pridej_casy(Vlak& v, const GvdVlak& r) {
+    for (std::size_t i = 0; i < r.stanice.size(); ++i) {
+        v.prijezd.push_back(na_integer(r.prijezdy[i] + korekce(r.prijezdy[i])));
+        v.odjezd.push_back(na_integer(r.odjezdy[i] + korekce(r.odjezdy[i])));
+    }
+    v.odjezd_realny = v.odjezd;
+}
+
+// What each vehicle does next. A set that comes out of the depot first runs as its own train.
+void pridej_urceni(Vlak& v, const GvdVlak& r, int element) {
+    const bool z_depa = element == kDepo569 || element == kDepo538;
+    for (std::size_t i = 0; i < v.vozy.size(); ++i) {
+        if (z_depa)
+            v.vozy_urceni.push_back(text_cisla(v.cislo));
+        else if (v.loko_rada == kJednotka)
+            v.vozy_urceni.push_back(r.navazny_vlak);
+        else if (i < r.vozy_vlaky.size() && r.vozy_vlaky[i] != 0)
+            v.vozy_urceni.push_back(text_cisla(r.vozy_vlaky[i]));
+        else
+            v.vozy_urceni.emplace_back();
+    }
+    if (!v.vozy_urceni.empty() && cislo_z_textu(v.vozy_urceni.front()) == 0)
+        v.vozy_urceni.front() = r.navazny_vlak;
+}
+
+Text nahrad(Text text, TextPohled co, TextPohled cim) {
+    for (std::size_t misto = text.find(co); misto != Text::npos; misto = text.find(co, misto + cim.size()))
+        text.replace(misto, co.size(), cim);
+    return text;
+}
+
+Text obrazek_ridiciho(int rada) {
+    return text_cisla(rada) + "p.ico";
+}
+
+// The picture of one vehicle. `ridici`: a driving trailer shows its cab.
+Text obrazek_vozidla(const Text& vuz, bool ridici) {
+    const auto rada = ciselny_text(vuz);
+    if (!rada)
+        return obrazek_vozu_textem(vuz);
+    if (ridici && (*rada == 943 || *rada == 954))
+        return obrazek_ridiciho(static_cast<int>(*rada));
+    return *rada < 0 || *rada > INT16_MAX ? Text{} : obrazek_vozu(na_integer(*rada));
+}
+
+// The unit has one cab with the pantograph and one without; the latter looks forward in its direction.
+void obrazky_jednotky(Vlak& v, const Text& jmeno) {
+    std::fill(v.vozy_obrazek.begin() + 1, v.vozy_obrazek.end(), nahrad(jmeno, "560", "060"));
+    v.vozy_obrazek.back() = jmeno;
+    (v.smer ? v.vozy_obrazek.front() : v.vozy_obrazek.back()) = nahrad(jmeno, "560", "560p");
+}
+
+void pridej_obrazky(Vlak& v) {
+    if (v.vozy.empty())
+        return;
+    v.vozy_obrazek.resize(v.vozy.size());
+    if (v.loko_rada == 0) // a set without a locomotive: its first vehicle is drawn as what it is
+        v.vozy_obrazek.front() = obrazek_vozidla(v.vozy.front(), v.smer);
+    else
+        v.vozy_obrazek.front() =
+            ma_ridici_vuz(v.loko_rada) && v.smer ? obrazek_ridiciho(v.loko_rada) : obrazek_vozu(v.loko_rada);
+    if (je_rada(v.vozy.front(), kJednotka)) {
+        obrazky_jednotky(v, Text(v.vozy_obrazek.front()));
+        return;
+    }
+    for (std::size_t i = 1; i < v.vozy.size(); ++i)
+        v.vozy_obrazek[i] = obrazek_vozidla(v.vozy[i], !v.smer);
+}
+
+void nasad(Vlak& v, std::size_t i, int rada) {
+    v.vozy[i] = text_cisla(rada);
+    v.vozy_obrazek[i] = obrazek_vozu(rada);
+}
+
+bool meni_lokomotivu(int stanice) {
+    return stanice == 9 || stanice == 12;
+}
+
+// A train that is placed on its way has already changed its locomotive where it has been.
+void lokomotivy_na_ceste(Vlak& v, int index) {
+    if (v.vozy.empty())
+        return;
+    const auto po = v.stanice.begin() + std::min<std::ptrdiff_t>(index + 1, std::ssize(v.stanice));
+    if (std::find_if(v.stanice.begin(), po, meni_lokomotivu) == po)
+        return;
+    const bool ma_druhy = v.vozy.size() > 1;
+    if (v.loko_rada2 != 0) {
+        nasad(v, 0, v.loko_rada2);
+        if (v.vozy.size() > 2 && je_rada(v.vozy[1], v.loko_rada)) {
+            v.vozy[1] = v.vozy[2];
+            v.vozy_obrazek[1] = v.vozy_obrazek[2];
+        }
+    }
+    if (!ma_druhy || std::find(v.stanice.begin(), po, 12) == po)
+        return;
+    const int pomocna = v.loko_rada2 != 0 ? v.loko_rada2 : v.loko_rada;
+    if ((v.priznaky & kPosilaVpredu) != 0)
+        nasad(v, 1, pomocna);
+    if ((v.priznaky & kPripraz) != 0)
+        nasad(v, v.vozy.size() - 1, pomocna);
+}
+
+// Stops at which the locomotive is still to be changed: the train leaves them on order only.
+void oznac_vymeny(Vlak& v) {
+    if (v.vozy.empty())
+        return;
+    const bool pripraz = !jen_loko(v) && (v.priznaky & kPripraz) != 0;
+    if (!pripraz && v.loko_rada2 == 0)
+        return;
+    const bool druhy_neni_loko = v.vozy.size() > 1 && !je_loko(v.vozy[1]);
+    if (je_rada(v.vozy.front(), v.loko_rada2) && !druhy_neni_loko)
+        return;
+    for (std::size_t i = 0; i < v.stanice.size(); ++i)
+        if (meni_lokomotivu(v.stanice[i]))
+            v.odjezd_realny[i] = kJenNaPovel;
+}
+
+void srovnej_lokomotivy(Vlak& v) {
+    if (v.vozy.empty())
+        return;
+    if (v.vozy.size() > 2 && je_loko(v.vozy[1]) && *ciselny_text(v.vozy[1]) < 700) {
+        std::swap(v.vozy[0], v.vozy[1]);
+        std::swap(v.vozy_obrazek[0], v.vozy_obrazek[1]);
+    }
+    if (v.loko_rada2 != 0 && je_rada(v.vozy.front(), v.loko_rada2))
+        v.vozy_urceni.front() = "0";
+}
+
+// Minutes by which a train comes late to its entry.
+std::int16_t zpozdeni_na_vstupu(const GvdVlak& r) {
+    const int prvni = r.stanice.front();
+    const bool odjezdem = r.prijezdy.front() <= -1 || prvni == 5 || prvni == 19 || prvni == 20;
+    const int t = odjezdem ? r.odjezdy.front() : r.prijezdy.front();
+    return na_integer(std::max(minuta_dne(cas_hodin()) - t, 0));
+}
+
+void pipni_na_novy_vlak() {
+    if (simulace.zvuk_vypnut || simulace.nova_pipnuti)
+        return;
+    pipni(500, 200);
+    simulace.nova_pipnuti = true;
+}
+
+// --- pictures
+
+struct SlozkaObrazku {
+    Text cesta;
+    std::uint64_t otisk = 0;
+    std::vector<Text> jmena;
+};
+SlozkaObrazku slozka_obrazku; // listed anew when the folder has changed
+
+const std::vector<Text>& obrazky() {
+    const Text cesta = simulace.cesta_aplikace + "DATA\\VOZY\\";
+    const std::uint64_t otisk = otisk_souboru(cesta);
+    if (cesta != slozka_obrazku.cesta || otisk != slozka_obrazku.otisk || otisk == 0)
+        slozka_obrazku = {cesta, otisk, soubory_slozky(cesta, "*_*.*")};
+    return slozka_obrazku.jmena;
+}
+
+// The name ends, in front of one of its "_", with the series, and has a suffix behind it.
+bool patri_k_rade(TextPohled jmeno, TextPohled rada_s_podtrzitkem) {
+    const std::size_t misto = jmeno.find(rada_s_podtrzitkem);
+    return misto != TextPohled::npos &&
+           jmeno.find('.', misto + rada_s_podtrzitkem.size()) != TextPohled::npos;
+}
+
+int vaha(TextPohled jmeno) {
+    const std::size_t podtrzitko = jmeno.find('_');
+    if (podtrzitko + 1 >= jmeno.size() || jmeno[podtrzitko + 1] == ' ')
+        return 0;
+    return cele_z_textu(jmeno.substr(podtrzitko + 1));
+}
+
+} // namespace
+
+std::int16_t vytvor_vlak(bool smer, int element, bool muze_jet, int index, int gvd_index) {
+    const GvdVlak& r = gvd_vlaky.at(static_cast<std::size_t>(gvd_index));
+    const int i = novy_vlak();
+    Vlak v;
+    v.stanice_index = na_integer(index - 1);
+    v.prvky = {na_integer(element)};
+    v.prvky_druh = {druh_prvku::kolej};
+    v.prvky_poloha = {static_cast<std::uint8_t>(element < kTratovePrvky ? 2 : 0)};
+    v.prvek_konec = 0;
+
+    v.cislo = r.cislo;
+    v.cislo2 = r.cislo2;
+    v.delka = r.delka;
+    v.druh = r.druh;
+    v.druh2 = r.druh2;
+    v.gvd_hodnota = r.gvd_hodnota;
+    v.loko_rada = r.loko_rada;
+    v.loko_rada2 = r.loko_rada2;
+    v.hodnota_2 = r.hodnota_2;
+    v.dny = r.dny;
+    v.stanice_zmeny = r.stanice_zmeny;
+    v.stanice = r.stanice;
+    v.pokyn = r.kolej;
+    v.nazev = r.nazev;
+    v.max_rychlost = r.rychlost;
+    v.poznamka = r.poznamka;
+    v.vozy = r.vozy;
+    v.smer = smer;
+    v.muze_jet = muze_jet;
+    v.priznaky = r.priznaky;
+
+    pridej_casy(v, r);
+    pridej_urceni(v, r, element);
+    pridej_obrazky(v);
+    if (index == kNaVstupu)
+        v.zpozdeni = zpozdeni_na_vstupu(r);
+    v.zpozdeni_vstup = zpozdeni_vlaku(v.cislo);
+    index = std::max(index, 0);
+    v.rychlost_trati = prvni_rychlost(v.stanice.at(static_cast<std::size_t>(index)), v.max_rychlost);
+    if (simulace.minuty_simulace == 0)
+        v.rychlost = v.rychlost_trati;
+    if (index >= 1)
+        lokomotivy_na_ceste(v, index);
+    oznac_vymeny(v);
+    srovnej_lokomotivy(v);
+
+    vlaky[static_cast<std::size_t>(i)] = std::move(v);
+    if (element < kPrvkySeSeznamem)
+        pridej_na_kolej(element, i, smer, -1);
+    if (index < 1)
+        pipni_na_novy_vlak();
+    return na_integer(i);
+}
+
+std::int16_t korekce(std::int16_t minuta) {
+    if (minuta <= 0)
+        return 0;
+    const int m = simulace.minuty_simulace + simulace.cas_zacatku;
+    const bool az_zitra = static_cast<double>(m % kDen_min) / minuta > 1.5;
+    return na_integer(m / kDen_min * kDen_min + (az_zitra ? kDen_min : 0));
+}
+
+std::int32_t cislo_vlaku_pred(int vlak) {
+    const Vlak& v = vlaky.at(static_cast<std::size_t>(vlak));
+    for (const GvdVlak& r : gvd_vlaky)
+        if (r.loko_rada == v.loko_rada && aktivni_dnes(r) && je_rada(r.navazny_vlak, v.cislo))
+            return r.cislo;
+    return 0;
+}
+
+// Names in the order of the folder; the first one whose running sum of weights reaches the draw.
+Text obrazek_vozu(int rada) {
+    const Text hledana = text_cisla(rada) + "_";
+    const std::vector<Text>& jmena = obrazky();
+    std::int64_t soucet = 0;
+    for (const Text& jmeno : jmena)
+        if (patri_k_rade(jmeno, hledana))
+            soucet += vaha(jmeno);
+    if (soucet == 0)
+        return {};
+    const auto x = static_cast<std::int64_t>(dolu(nahodne() * static_cast<double>(soucet)));
+    std::int64_t dosud = 0;
+    for (const Text& jmeno : jmena)
+        if (patri_k_rade(jmeno, hledana)) {
+            dosud += vaha(jmeno);
+            if (dosud >= x)
+                return jmeno;
+        }
+    return {};
+}
+
+Text obrazek_vozu_textem(TextPohled text) {
+    const Text typ = nahrad(Text(text), "OBB", "ÖBB"_cz);
+    const auto obsahuje = [&typ](TextPohled co) { return typ.find(co) != Text::npos; };
+    const auto obsahuje_neco = [&](std::initializer_list<TextPohled> co) {
+        return std::any_of(co.begin(), co.end(), obsahuje);
+    };
+    struct Pravidlo {
+        TextPohled obsahuje, obrazek;
+    };
+    static const std::array kZnacene = {
+        Pravidlo{"DB B", "DB B.ico"},
+        Pravidlo{"DB A", "DB A.ico"},
+        Pravidlo{"DB W", "DB Wrmz.ico"},
+        Pravidlo{"ZSSK B", "ZSSK B.ico"},
+    };
+    static const std::array kDalsi = {
+        Pravidlo{"MÁV Bcmz"_cz, "MÁV Bcmz.ico"_cz},
+        Pravidlo{"MÁV B"_cz, "MÁV B.ico"_cz},
+        Pravidlo{"MÁV A"_cz, "MÁV A.ico"_cz},
+        Pravidlo{"ZSSK Apeer", "ZSSK A.ico"},
+    };
+    static const std::array kObecne = {
+        Pravidlo{"BDs", "BDs.ico"},
+        Pravidlo{"BR", "BR.ico"},
+        Pravidlo{"Post", "Post.ico"},
+    };
+    const auto prvni_z = [&](const auto& pravidla) -> TextPohled {
+        for (const Pravidlo& p : pravidla)
+            if (obsahuje(p.obsahuje))
+                return p.obrazek;
+        return {};
+    };
+
+    if (const TextPohled obrazek = prvni_z(kZnacene); !obrazek.empty())
+        return Text(obrazek);
+    if (typ == "ÖBB Bmpz"_cz || typ == "ÖBB Bmpz61"_cz)
+        return Text("ÖBB Bmz61.ico"_cz);
+    if (const TextPohled obrazek = prvni_z(kDalsi); !obrazek.empty())
+        return Text(obrazek);
+    if (mala_pismena(typ).find("wr") != Text::npos) // dining cars: WR, WRm, wrm
+        return "wrm.ico";
+    if (obsahuje_neco({"Bee", "Bpee", "Bmee"}))
+        return "Bee.ico";
+    if (obsahuje_neco({"Bp", "Bdt", "Bg", "Bt", "Btee"}))
+        return "B.ico";
+    if (const TextPohled obrazek = prvni_z(kObecne); !obrazek.empty())
+        return Text(obrazek);
+    if (typ.starts_with('A'))
+        return "A.ico";
+    if (typ.starts_with('B'))
+        return "B.ico";
+    return {};
+}

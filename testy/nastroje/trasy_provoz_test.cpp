@@ -1,0 +1,213 @@
+// testy/nastroje/trasy_provoz_test.cpp - the derived routes set by the route machine itself, on the whole
+// junction: each by itself, and pairs of them.
+#include "app/cas.h"
+#include "app/kontrola.h"
+#include "app/start.h"
+#include "app/vstup.h"
+#include "cesty/cesta.h"
+#include "cesty/tik_volby.h"
+#include "cesty/volba.h"
+#include "kolejiste/kontroly.h"
+#include "kolejiste/kresba.h"
+#include "kolejiste/trasy.h"
+#include "kolejiste/vystup.h"
+#include "pomocne/virtualni_platforma.h"
+#include "prvky/stanicni_prejezdy.h"
+#include "prvky/stav_vyhybek.h"
+#include "prvky/vyhybky.h"
+#include "relief/relief.h"
+
+#include <algorithm>
+#include <random>
+#include <set>
+#include <sstream>
+
+namespace {
+
+struct Data {
+    Bajty rea, reb, top, pzz, stg, zat, zpc;
+    std::vector<kolejiste::Trasa> trasy;
+};
+
+const Data& data() {
+    static const Data data = [] {
+        using namespace kolejiste;
+        Data d;
+        Plan plan;
+        std::vector<Zavada> zavady;
+        std::vector<std::filesystem::path> zdroje;
+        for (const auto& polozka : std::filesystem::directory_iterator(TESK_ZDROJE_KOLEJISTE))
+            if (polozka.path().extension() == ".tk")
+                zdroje.push_back(polozka.path());
+        std::sort(zdroje.begin(), zdroje.end());
+        for (const auto& zdroj : zdroje) {
+            std::ifstream f(zdroj, std::ios::binary);
+            std::ostringstream text;
+            text << f.rdbuf();
+            precti(text.str(), zdroj.filename().string(), plan, zavady);
+        }
+        const Graf graf = sestav_graf(plan, zavady);
+        d.rea = soubor_reliefu(nakresli(plan, Obraz::jeden, zavady), "");
+        d.reb = soubor_reliefu(nakresli(plan, Obraz::dva, zavady), "");
+        d.top = soubor_delek(plan);
+        d.pzz = soubor_prejezdu(plan);
+        d.stg = soubor_vazeb(plan);
+        d.trasy = odvod_trasy(plan, graf, zavady);
+        d.zat = soubor_tras(d.trasy, DruhTrasy::vlak);
+        d.zpc = soubor_tras(d.trasy, DruhTrasy::posun);
+        return d;
+    }();
+    return data;
+}
+
+bool je_vlak(const kolejiste::Trasa& t) {
+    return t.druh == kolejiste::DruhTrasy::vlak;
+}
+
+std::string jmeno(const kolejiste::Trasa& t) {
+    return std::string(je_vlak(t) ? "cesta " : "posun ") + std::to_string(t.zaznam.zacatek) + " " +
+           std::to_string(t.zaznam.konec);
+}
+
+class ProvozTras : public testing::Test {
+protected:
+    VirtualniPlatforma svet;
+    Relief klid; // the rest state
+
+    void SetUp() override {
+        const Data& d = data();
+        svet.zapis("data/tesk.rea", d.rea);
+        svet.zapis("data/tesk.reb", d.reb);
+        svet.zapis("data/tesk.top", d.top);
+        svet.zapis("data/tesk.pzz", d.pzz);
+        svet.zapis("data/tesk.stg", d.stg);
+        svet.zapis("data/tesk.zat", d.zat);
+        svet.zapis("data/tesk.zpc", d.zpc);
+        svet.zapis("data/tesk.mak", "");
+        svet.zapis("GVD/GVDprazdny.dat", Bajty{0, 0, 0, 0, 0, 0});
+        svet.nastaveni_pis("Obrazovka", "X", "1024");
+        svet.nastaveni_pis("Obrazovka", "Y", "768");
+        VolbyStartu volby;
+        volby.gvd = "GVDprazdny";
+        prevezmi_volby(volby);
+        priprava_simulace();
+        nastav_hodiny(volby);
+        start_simulace();
+        for (int i = 0; i < 3; ++i)
+            klavesa({KodKlavesy::enter});
+        ASSERT_FALSE(simulace.pauza);
+        klid = relief;
+    }
+    void do_klidu() {
+        relief = klid;
+        cesty.assign(1, Cesta{});
+        std::fill(stav_vyhybek.vyhybka_pohyb.begin(), stav_vyhybek.vyhybka_pohyb.end(), false);
+    }
+    static void cekej(int s) {
+        for (int i = 0; i < s; ++i) {
+            relief.lblcas[0].text = text_casu(sekundy_textu(cas_hodin()) + 1);
+            tik_volby();
+        }
+    }
+    static bool zarad(const kolejiste::Trasa& t) {
+        return najdi_cestu(t.zaznam.zacatek, t.zaznam.konec,
+                           je_vlak(t) ? druh_volby::vlak : druh_volby::posun, false);
+    }
+    // The switches of the route lie as it needs them, and are locked for it.
+    static std::string vyhybky(const kolejiste::Trasa& t, bool pn = false) {
+        const ZaznamCesty& z = t.zaznam;
+        const int zaver = pn ? 100 : je_vlak(t) ? 50 : 200;
+        for (std::size_t k = 1; k < z.prvky.size(); ++k)
+            if (z.druhy[k] == 2 && stav_vyhybky_cislo(z.prvky[k]) != z.polohy[k] + zaver)
+                return "switch " + std::to_string(z.prvky[k]) + " is in state " +
+                       std::to_string(stav_vyhybky_cislo(z.prvky[k]));
+        return {};
+    }
+    static bool stoji(int zacatek) {
+        return std::any_of(cesty.begin(), cesty.end(),
+                           [&](const Cesta& c) { return c.zacatek == zacatek && c.Postavena; });
+    }
+};
+
+// Elements that only one of two routes can have.
+std::set<std::pair<int, int>> prvky(const ZaznamCesty& z) {
+    std::set<std::pair<int, int>> p;
+    for (std::size_t k = 1; k < z.prvky.size(); ++k) {
+        int n = z.prvky[k];
+        for (const kolejiste::Krizeni& x : kolejiste::kKrizeni)
+            if (z.druhy[k] == 1 && n == x.b)
+                n = x.a;
+        if (z.druhy[k] != 4)
+            p.insert({z.druhy[k], n});
+    }
+    return p;
+}
+
+} // namespace
+
+TEST_F(ProvozTras, EveryRouteCanBeSet) {
+    for (const kolejiste::Trasa& t : data().trasy) {
+        do_klidu();
+        ASSERT_TRUE(zarad(t)) << jmeno(t);
+        cekej(10);
+        ASSERT_EQ(cesty.size(), 1u);
+        EXPECT_TRUE(cesty[0].Postavena) << jmeno(t);
+        EXPECT_EQ(vyhybky(t), "") << jmeno(t);
+        EXPECT_EQ(navestidla(t.zaznam.zacatek)[t.zaznam.zacatek].barva,
+                  je_vlak(t) ? barvy::zelena : barvy::bila)
+            << jmeno(t);
+        const auto potiz = kontrola_stavu();
+        EXPECT_FALSE(potiz) << jmeno(t) << ": " << potiz.value_or(Text());
+    }
+}
+
+TEST_F(ProvozTras, EveryTrainRouteCanBeRunOnTheCallingOnSignal) {
+    for (const kolejiste::Trasa& t : data().trasy) {
+        if (!je_vlak(t))
+            continue;
+        do_klidu();
+        ASSERT_TRUE(najdi_cestu(t.zaznam.zacatek, t.zaznam.konec, druh_volby::pn, false)) << jmeno(t);
+        cekej(10);
+        EXPECT_TRUE(cesty[0].Postavena) << jmeno(t);
+        EXPECT_EQ(vyhybky(t, true), "") << jmeno(t);
+    }
+}
+
+// Of two thousand pairs: those without a common element stand together, and whenever two stand, each
+// has its switches.
+TEST_F(ProvozTras, TwoRoutesStandTogetherExactlyWhenTheyShareNothing) {
+    const std::vector<kolejiste::Trasa>& trasy = data().trasy;
+    std::mt19937 nahoda(7);
+    int spolu = 0, ne = 0;
+    for (int i = 0; i < 2000; ++i) {
+        // near ones meet more often than far ones
+        const std::size_t prvni = nahoda() % trasy.size();
+        const std::size_t druha =
+            i % 2 ? nahoda() % trasy.size() : (prvni + 1 + nahoda() % 60) % trasy.size();
+        const kolejiste::Trasa &a = trasy[prvni], &b = trasy[druha];
+        if (a.zaznam.zacatek == b.zaznam.zacatek)
+            continue;
+        do_klidu();
+        ASSERT_TRUE(zarad(a));
+        cekej(10);
+        ASSERT_TRUE(zarad(b));
+        cekej(10);
+        ASSERT_TRUE(stoji(a.zaznam.zacatek)) << jmeno(a);
+        const auto pa = prvky(a.zaznam), pb = prvky(b.zaznam);
+        const bool spolecne =
+            std::any_of(pa.begin(), pa.end(), [&](const auto& p) { return pb.contains(p); });
+        EXPECT_EQ(vyhybky(a), "") << jmeno(a) << ", " << jmeno(b);
+        if (stoji(b.zaznam.zacatek)) {
+            ++spolu;
+            EXPECT_EQ(vyhybky(b), "") << jmeno(a) << ", " << jmeno(b);
+        } else {
+            ++ne;
+        }
+        // two trains that run into one line from its ends share no section yet, but its direction
+        if (a.zaznam.konec != b.zaznam.konec) {
+            EXPECT_EQ(stoji(b.zaznam.zacatek), !spolecne) << jmeno(a) << ", " << jmeno(b);
+        }
+    }
+    EXPECT_GT(spolu, 100);
+    EXPECT_GT(ne, 100);
+}
