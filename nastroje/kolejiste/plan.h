@@ -219,6 +219,7 @@ struct PravidlaTras {
     std::vector<Programova> programove;
     std::map<int, int> saha;     // end to the track behind it that its routes run on to
     std::set<int> jen_vlak;      // tracks without shunt routes
+    std::set<int> slepe;         // tracks that end at the edge for good, though they are no target
     std::set<int> prujezdne;     // targets that routes also run through, where no signal stands at their end
     std::map<int, int> rychlost; // speed class over the branch of a switch, where it is not 40 km/h
 };

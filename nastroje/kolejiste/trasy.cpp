@@ -343,7 +343,7 @@ bool ceka_na_dokresleni(const Plan& plan, const Graf& graf, int kolej, Strana st
         fronta.pop_back();
         if (vystup.typ == Typ::kolej && vystup.cislo != kolej) {
             const Kolej* k = plan.kolej(vystup.cislo);
-            if (k->cil || je_trat(k->cislo))
+            if (k->cil || je_trat(k->cislo) || plan.pravidla_tras.slepe.contains(k->cislo))
                 continue;
             for (const UzavrenyKonec& u : plan.konce)
                 if (u.konec == vystup && u.jak == Zakonceni::okraj)

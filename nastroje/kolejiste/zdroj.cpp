@@ -574,6 +574,8 @@ bool Veta::cti_pravidlo_tras(const std::string& slovo_) {
         jednou(p.saha.try_emplace(n, cislo("kolej za ním")).second, n);
     } else if (slovo_ == "jen_vlak") {
         p.jen_vlak.merge(rada());
+    } else if (slovo_ == "slepa") {
+        p.slepe.merge(rada());
     } else if (slovo_ == "prujezdna") {
         p.prujezdne.merge(rada());
     } else if (slovo_ == "rychlost") {

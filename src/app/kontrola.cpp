@@ -200,6 +200,52 @@ Nalez souhlasy_trati() {
     return std::nullopt;
 }
 
+// What stands below the tail is history; what a train holds runs without a gap from the tail to the head.
+Nalez zaznamy_vlaku() {
+    for (std::size_t i = 0; i < vlaky.size(); ++i) {
+        const Vlak& v = vlaky[i];
+        if (v.cislo < 1)
+            continue;
+        if (v.stanice_index >= 0 && !v.stanice.empty() &&
+            static_cast<std::size_t>(v.stanice_index) >= v.stanice.size())
+            return na_miste("vlaky", i, "stanice_index ukazuje za poslední stanici"_cz);
+        if (v.prvky.size() != v.prvky_druh.size() || v.prvky.size() != v.prvky_poloha.size())
+            return na_miste("vlaky", i, "seznamy prvků, druhů a poloh nejsou stejně dlouhé"_cz);
+        if (v.prvky.empty())
+            continue;
+        if (v.prvek_konec < 0 || static_cast<std::size_t>(v.prvek_konec) >= v.prvky.size())
+            return na_miste("vlaky", i, "prvek_konec neukazuje na držený prvek"_cz);
+        for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j)
+            if (!je_prvek_cesty(v.prvky[j], v.prvky_druh[j]))
+                return na_miste("vlaky", i,
+                                veta({"prvek "_cz, text_cisla(v.prvky[j]), " druhu "_cz,
+                                      text_cisla(v.prvky_druh[j]), " neexistuje"_cz}));
+    }
+    return std::nullopt;
+}
+
+// Under a train every track is occupied, and no switch moves. A train that is announced at a neighbouring
+// station stands there on green.
+Nalez drzene_prvky() {
+    for (std::size_t i = 0; i < vlaky.size(); ++i) {
+        const Vlak& v = vlaky[i];
+        if (v.cislo < 1 || v.prvky.empty())
+            continue;
+        const bool ohlaseny = !v.muze_jet && !v.posun && v.stanice_index < 0;
+        for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j) {
+            const int n = v.prvky[j];
+            if (v.prvky_druh[j] == druh_prvku::kolej && relief.kolej[n].barva != barvy::cervena && !ohlaseny)
+                return na_miste("vlaky", i,
+                                veta({"drží kolej "_cz, text_cisla(n), ", která není obsazená"_cz}));
+            if (v.prvky_druh[j] == druh_prvku::vyhybka &&
+                static_cast<std::size_t>(n) < stav_vyhybek.vyhybka_pohyb.size() &&
+                stav_vyhybek.vyhybka_pohyb[static_cast<std::size_t>(n)])
+                return na_miste("vlaky", i, veta({"pod vlakem se přestavuje výhybka "_cz, text_cisla(n)}));
+        }
+    }
+    return std::nullopt;
+}
+
 Nalez vlaky_na_kolejich() {
     for (std::size_t i = 0; i < koleje_vlaky.size(); ++i) {
         if (koleje_vlaky[i].vlaky.empty())
@@ -207,6 +253,9 @@ Nalez vlaky_na_kolejich() {
         for (const std::int16_t v : koleje_vlaky[i].vlaky)
             if (v != kZadny && !je_index_vlaku(v))
                 return na_miste("koleje_vlaky", i, veta({"vlak "_cz, text_cisla(v), " neexistuje"_cz}));
+        if (koleje_vlaky[i].vlaky.size() > 1 &&
+            std::count(koleje_vlaky[i].vlaky.begin(), koleje_vlaky[i].vlaky.end(), kZadny) > 0)
+            return na_miste("koleje_vlaky", i, "prázdné místo mezi vlaky"_cz);
     }
     return std::nullopt;
 }
@@ -216,8 +265,9 @@ Nalez vlaky_na_kolejich() {
 std::optional<Text> kontrola_stavu() {
     if (!relief.lblcas.je(0) || !relief.lblcas[0].viditelny)
         return std::nullopt;
-    constexpr std::array kKontroly = {hodiny, koleje, vyhybky,        zaznamy_cest,     zavery_vyhybek,
-                                      volba,  pult,   souhlasy_trati, vlaky_na_kolejich};
+    constexpr std::array kKontroly = {hodiny,      koleje, vyhybky,        zaznamy_cest,      zavery_vyhybek,
+                                      volba,       pult,   souhlasy_trati, vlaky_na_kolejich, zaznamy_vlaku,
+                                      drzene_prvky};
     for (const auto kontrola : kKontroly)
         if (Nalez nalez = kontrola())
             return nalez;

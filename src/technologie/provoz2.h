@@ -29,7 +29,7 @@ struct Provoz2 {
 extern Provoz2 provoz2;
 
 // How many rows each list shows at once, in the order of Provoz2.
-inline constexpr std::array<int, 4> kRadkuProvozu2 = {20, 9, 9, 8};
+inline constexpr std::array<int, 4> kRadkuProvozu2 = {20, 10, 12, 9};
 
 inline constexpr TextPohled kObrazovkaProvoz2 = "frmTechnologie2";
 inline constexpr TextPohled kTitulProvoz2 = "PROVOZ 2";

@@ -43,11 +43,11 @@ struct OknoSeznamu {
 constexpr std::array<OknoSeznamu, 4> kOkna = {{
     {&Provoz2::lstZasobnik, "Zásobník jízdních cest"_cz, {12, 78}, 560, kRadkuProvozu2[0]},
     {&Provoz2::lstVYL_UPO, "VYL+UPO"_cz, {584, 78}, 428, kRadkuProvozu2[1]},
-    {&Provoz2::lstmakra, "Seznam maker"_cz, {584, 250}, 428, kRadkuProvozu2[2]},
-    {&Provoz2::lstPocitace, "Zapojené počítače"_cz, {584, 474}, 428, kRadkuProvozu2[3]},
+    {&Provoz2::lstmakra, "Seznam maker"_cz, {584, 266}, 428, kRadkuProvozu2[2]},
+    {&Provoz2::lstPocitace, "Zapojené počítače"_cz, {584, 533}, 428, kRadkuProvozu2[3]},
 }};
-constexpr QRect kKlavesyMaker(584, 412, 428, 50);
-constexpr QRect kPodrobnosti(12, 418, 560, 284);
+constexpr QRect kKlavesyMaker(584, 471, 428, 50);
+constexpr QRect kPodrobnosti(12, 416, 560, 278);
 
 struct TlacitkoObrazovky {
     QRect misto;
@@ -345,13 +345,16 @@ void ObrazovkaTechnologie::paintEvent(QPaintEvent*) {
             y += kVyskaRadku + 3;
         }
 
+    pero.text(280, 730, "šipky: řádek   Tab: další seznam"_cz, kTlumena);
+    const bool lze_smazat = provoz2.lstZasobnik.vybrany >= 0 || provoz2.lstmakra.vybrany >= 0;
     for (std::size_t t = 0; t < kTlacitka.size(); ++t) {
         const TlacitkoObrazovky& tlacitko = kTlacitka[t];
-        pero.plocha(tlacitko.misto,
-                    pod_ukazatelem.tlacitko == static_cast<int>(t) ? kTlacitkoPod : kTlacitko);
+        const bool pod = pod_ukazatelem.tlacitko == static_cast<int>(t);
+        pero.plocha(tlacitko.misto, pod ? kTlacitkoPod : kTlacitko);
         pero.obrys(tlacitko.misto, kRamec);
         const int sirka = static_cast<int>(tlacitko.text.size()) * kSirkaBunky;
         pero.text(tlacitko.misto.x() + (tlacitko.misto.width() - sirka) / 2,
-                  tlacitko.misto.y() + (tlacitko.misto.height() - kVyskaBunky) / 2, tlacitko.text, kBila);
+                  tlacitko.misto.y() + (tlacitko.misto.height() - kVyskaBunky) / 2, tlacitko.text,
+                  tlacitko.klavesa == "Delete" && !lze_smazat ? kTlumena : kBila);
     }
 }

@@ -205,3 +205,47 @@ TEST_F(Kontrola, TracksHoldTrainsThatExist) {
     koleje_vlaky[0].vlaky.clear();
     EXPECT_TRUE(obsahuje(nalez(), "seznam vlaků je prázdný"));
 }
+
+TEST_F(Kontrola, TrainHoldsOccupiedTracksThatExist) {
+    Vlak& v = vlaky[2];
+    v.cislo = 1234;
+    v.posun = true;
+    v.prvky = {62, 440, 7};
+    v.prvky_druh = {1, 1, 2};
+    v.prvky_poloha = {0, 0, 2};
+    v.prvek_konec = 1;
+    EXPECT_EQ(nalez(), "vlaky 2: drží kolej 440, která není obsazená");
+    relief.kolej[440].barva = barvy::cervena;
+    EXPECT_EQ(nalez(), ""); // 62 is history
+    stav_vyhybek.vyhybka_pohyb.assign(10, false);
+    stav_vyhybek.vyhybka_pohyb[7] = true;
+    EXPECT_EQ(nalez(), "vlaky 2: pod vlakem se přestavuje výhybka 7");
+    stav_vyhybek.vyhybka_pohyb[7] = false;
+    v.prvky.back() = 8;
+    EXPECT_EQ(nalez(), "vlaky 2: prvek 8 druhu 2 neexistuje");
+    v.prvek_konec = 3;
+    EXPECT_EQ(nalez(), "vlaky 2: prvek_konec neukazuje na držený prvek");
+    v.prvky_druh.pop_back();
+    EXPECT_EQ(nalez(), "vlaky 2: seznamy prvků, druhů a poloh nejsou stejně dlouhé");
+    v.cislo = -3;
+    EXPECT_EQ(nalez(), ""); // a free record holds nothing
+}
+
+TEST_F(Kontrola, AnnouncedTrainStandsOnAGreenTrack) {
+    Vlak& v = vlaky[0];
+    v.cislo = 1234;
+    v.prvky = {62};
+    v.prvky_druh = {1};
+    v.prvky_poloha = {0};
+    v.prvek_konec = 0;
+    v.stanice_index = -4;
+    relief.kolej[62].barva = barvy::zelena;
+    EXPECT_EQ(nalez(), "");
+    v.muze_jet = true;
+    EXPECT_EQ(nalez(), "vlaky 0: drží kolej 62, která není obsazená");
+}
+
+TEST_F(Kontrola, ListOfATrackHasNoGap) {
+    koleje_vlaky.push_back({62, {0, -3}});
+    EXPECT_EQ(nalez(), "koleje_vlaky 1: prázdné místo mezi vlaky");
+}

@@ -331,6 +331,8 @@ TEST(PravidlaTras, WayToTheEdgeOfTheDrawingExcusesAMissingRoute) {
     const Preklad p(bez + "odjezdy vlak vpravo 11 \"x\"\npovinna 211 72 \"x\"\n");
     EXPECT_EQ(p.vsechny(), "");
     EXPECT_EQ(p.konce(DruhTrasy::vlak, 211), (std::set<int>{}));
+    const Preklad natrvalo(bez + "slepa 74 \"dál nic nepovede\"\nodjezdy vlak vpravo 11 \"x\"\n");
+    HLASI(natrvalo.vsechny(), "kolej 11: nevede z ní žádná cesta vpravo");
 }
 
 // --- the proof
@@ -462,6 +464,99 @@ TEST(KontrolaTras, TrackOfANeighbourStandsNeverBehindTheSignal) {
                          t.zaznam.druhy[1] = 1;
                      }),
           "kolej 117 nesmí být hned za návěstidlem");
+}
+
+// A line drawn left of the station that it leaves to the right: the picture would lay the wrong direction.
+TEST(KontrolaTras, DirectionOfALineFollowsThePicture) {
+    const std::string zdroj = R"(
+stanice BOR "Borovec"
+jeden 10,5
+dva   10,5
+kolej  87  40,1  50,1 700m stitek 1 cil
+okraj 87:vlevo
+navestidlo 287 S1 vpravo
+kolej 600   0,1  10,1 2500m stitek "" cil "BOR 1TK"
+spoj 87:vpravo 600:vlevo
+okraj 600:vpravo
+navestidlo 600 L vlevo
+navestidlo 601 S vpravo
+)";
+    const std::string text = Preklad(zdroj).vsechny();
+    HLASI(text, "cesta 287 600: směr trati by podle obrazu vyšel opačně (jeden monitor)");
+    HLASI(text, "cesta 287 600: směr trati by podle obrazu vyšel opačně (dva monitory)");
+    std::string dobry = zdroj;
+    dobry.replace(dobry.find("40,1  50,1"), 10, "-9,1  -1,1");
+    EXPECT_EQ(Preklad(dobry).vsechny().find("směr trati"), std::string::npos);
+}
+
+// The drawing is folded where two left ends meet: who comes from the left goes on to the right.
+TEST(KontrolaTras, SenseTurnsOnlyWhereTheRunningTurnsIt) {
+    const std::string zdroj = R"(
+stanice BOR "Borovec"
+jeden 10,5
+dva   10,5
+kolej  71  20,1  30,1 400m stitek K1 cil
+kolej 187   9,1  20,1 100m
+okraj 71:vpravo
+navestidlo 71 L1 vlevo
+kolej N     0,3  20,3 6050m stitek K2 cil
+spoj 187:vlevo N:vlevo
+okraj N:vpravo
+)";
+    const auto s_koleji = [&](const std::string& n, const std::string& dalsi) {
+        std::string text = zdroj;
+        for (std::size_t i; (i = text.find(" N:")) != std::string::npos;)
+            text.replace(i, 3, " " + n + ":");
+        text.replace(text.find("kolej N  "), 9, "kolej " + n);
+        return Preklad(text + dalsi).vsechny();
+    };
+    HLASI(s_koleji("72", "navestidlo 272 S2 vpravo\n"),
+          "cesta 71 72: přijíždí k návěstidlu 272, které platí pro opačný smysl");
+    const std::string pres_118 = s_koleji("118", "navestidlo 318 S2 vpravo\n");
+    EXPECT_EQ(pres_118.find("cesta"), std::string::npos) << pres_118;
+    // the train leaves the area on 41 to the right only, but it still runs to the left
+    HLASI(s_koleji("41", ""), "vlak by na koleji 41 oblast neopustil: jede opačným smyslem");
+    EXPECT_EQ(s_koleji("25", "").find("oblast neopustil"), std::string::npos);
+}
+
+TEST(KontrolaTras, LongTrackToMokrinaIsReachedOverItsOwnSections) {
+    const auto s_pred = [](const std::string& pred) {
+        return Preklad("stanice BOR \"Borovec\"\njeden 10,5\ndva 10,5\n"
+                       "kolej 71 20,1 30,1 400m stitek K1 cil\nokraj 71:vpravo\nnavestidlo 71 L1 vlevo\n" +
+                       pred + "kolej 118 -9,1 9,1 6050m stitek K2 cil\nokraj 118:vlevo\n")
+            .vsechny();
+    };
+    EXPECT_EQ(s_pred("kolej 303 9,1 20,1 90m\n").find("cesta 71 118"), std::string::npos);
+    HLASI(s_pred("kolej 304 9,1 20,1 90m\n"), "cesta 71 118: před kolejí 118 má být 187 nebo 303");
+    HLASI(s_pred("spoj 71:vlevo 118:vpravo\n"), "cesta 71 118: kolej 118 nesmí být hned za návěstidlem");
+}
+
+TEST(KontrolaTras, TwoTracksThatCrossAreNotInOneRoute) {
+    std::string jinak = kVyhybna;
+    jinak.replace(jinak.find("kolej 401   6,1  10,1"), 21, "kolej 106 6,1 8,1\nkolej 543 8,1 10,1");
+    HLASI(Preklad(jinak).vsechny(), "cesta 271 11: koleje 106 a 543 se kříží");
+}
+
+TEST(KontrolaTras, FoldBehindASwitchDoesNotTurnTheSense) {
+    std::string jinak = kVyhybna;
+    jinak.replace(jinak.find("kolej 401   6,1"), 15, "kolej 115   6,1");
+    HLASI(Preklad(jinak).vsechny(), "na kolej 115 se vjíždí z výhybky, smysl jízdy by se neobrátil");
+}
+
+TEST(KontrolaTras, TrainCannotCountBeyondAByte) {
+    const auto rada = [](int kolik) {
+        std::string zdroj =
+            "stanice BOR \"Borovec\"\njeden 10,5\ndva 10,5\n"
+            "kolej 71 -5,1 0,1 400m stitek K1 cil\nokraj 71:vlevo\nnavestidlo 271 S1 vpravo\n";
+        for (int i = 0; i < kolik; ++i)
+            zdroj += "kolej " + std::to_string(i < 198 ? 301 + i : 501 + i - 198) + " " + std::to_string(i) +
+                     ",1 " + std::to_string(i + 1) + ",1 60m\n";
+        return Preklad(zdroj + "kolej 72 " + std::to_string(kolik) + ",1 " + std::to_string(kolik + 9) +
+                       ",1 400m stitek K2 cil\nokraj 72:vpravo\n")
+            .vsechny();
+    };
+    EXPECT_EQ(rada(254).find("256 prvků"), std::string::npos);
+    HLASI(rada(255), "cesta 271 72: má víc než 256 prvků");
 }
 
 // --- the tables

@@ -1,0 +1,606 @@
+// testy/jizda/krok_jizdy_test.cpp - the movement step and whole journeys over the little junction.
+#include "cesty/dotazy.h"
+#include "gvd/stav_provozu.h"
+#include "jizda/poslusnost.h"
+#include "jizda/svet_vlaku.h"
+#include "prvky/stanicni_prejezdy.h"
+#include "zaklad/chyba.h"
+
+#include <algorithm>
+
+namespace {
+
+class Jizda : public SVlaky {};
+
+} // namespace
+
+TEST_F(Jizda, StandingTrainGathersSpeedFirstAndMovesInTheNextStep) {
+    const int v = vlak_na(62, true, 11);
+    cesta(radek(0));
+    krok();
+    EXPECT_EQ(metry(62), 0);
+    EXPECT_EQ(vlak(v).rychlost, 3);
+    krok(2000);
+    EXPECT_EQ(metry(62), 1); // Int(3 * 2000 / 3600) = 1
+}
+
+TEST_F(Jizda, StepIsCutToWholeMetresBeforeTheFactors) {
+    const int v = vlak_na(62, true, 11);
+    cesta(radek(0));
+    vlak(v).rychlost = 30;
+    krok(100);
+    EXPECT_EQ(metry(62), 0);
+    vlak(v).rychlost = 50;
+    krok(100);
+    EXPECT_EQ(metry(62), 1);
+    simulace.rychlost = 4;
+    vlak(v).rychlost = 100;
+    krok(1000);
+    EXPECT_EQ(metry(62), 106); // Int(27.7) * 4 * 0.97 = 104.76
+}
+
+TEST_F(Jizda, TrainWithoutARouteOrALocomotiveStands) {
+    const int v = vlak_na(62, true, 11);
+    vlak(v).rychlost = 50;
+    krok();
+    EXPECT_EQ(metry(62), 0);
+    cesta(radek(0));
+    vlak(v).vozy = {"943", "B"};
+    krok();
+    EXPECT_EQ(metry(62), 0);
+    vlak(v).vozy = {"943", "754"};
+    krok();
+    EXPECT_GT(metry(62), 0);
+}
+
+TEST_F(Jizda, LastNineMetresOfASectionAreNeverRun) {
+    const int v = vlak_na(62, true, 11);
+    cesta(radek(0));
+    vlak(v).rychlost = 50;
+    nastav_metry(62, 390); // of 400
+    krok(100);
+    EXPECT_EQ(metry(62), 391);
+    EXPECT_EQ(vlak(v).prvky.size(), 1u);
+    vlak(v).rychlost = 50;
+    krok(100);
+    EXPECT_EQ(metry(62), 400);
+    EXPECT_EQ(vlak(v).prvky, (std::vector<std::int16_t>{62, 440}));
+}
+
+TEST_F(Jizda, WholeJourneyFromTheSignalOverTheSwitchToTheTrack) {
+    const int v = vlak_na(62, true, 1234);
+    nastav_metry(62, 60);
+    cesta(radek(0));
+    krok();
+    EXPECT_EQ(cesty[0].Vlak, v);
+    EXPECT_EQ(relief.navestidlo[262].barva, barvy::zelena);
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 440; }));
+    EXPECT_EQ(relief.navestidlo[262].barva, barvy::seda);
+    EXPECT_EQ(relief.kolej[440].barva, barvy::cervena);
+    EXPECT_EQ(cesty[0].Umazat, 1);
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 7; }));
+    EXPECT_EQ(stav_vyhybky_cislo(7), 152);
+    // The tail leaves 62: cyan and free, its number gone.
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvek_konec > 0; }));
+    EXPECT_EQ(relief.kolej[62].barva, barvy::azurova);
+    EXPECT_TRUE(odjete.test(62));
+    EXPECT_EQ(metry(62), 0);
+    EXPECT_NE(stitek(62), "1234");
+    ASSERT_FALSE(relief.lstDenik.radky.empty());
+    EXPECT_EQ(relief.lstDenik.radky.back(), "Vlak 1234 odjel z Borovce v 8:00"_cz);
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 63; }));
+    EXPECT_EQ(stitek(63), "1234");
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvek_konec == 3; }));
+    EXPECT_EQ(stav_vyhybky_cislo(7), 2);
+    EXPECT_EQ(relief.kolej[440].barva, barvy::seda);
+    EXPECT_TRUE(vlak(v).omezeni_ukonceno);
+    // The end of the route: no stop, no exit for this sense; the route goes.
+    vlak(v).smer = false;
+    ASSERT_TRUE(jed_dokud([&] { return cesty[0].zacatek < 0; }));
+    EXPECT_EQ(metry(63), 600);
+    EXPECT_EQ(vlak(v).rychlost, 0);
+}
+
+TEST_F(Jizda, TrainThatReachesTheExitLeavesTheArea) {
+    const int v = vlak_na(62, true, 1234);
+    pridej_do_tabulky(v);
+    zastavky(v, {2}, {-3}, {-3});
+    vlak(v).stanice_index = 0;
+    relief.lstZpravy.radky = {Text("Zpoždění vlaku 1234 +5´"_cz), Text("Zpoždění vlaku 12345 +5´"_cz)};
+    cesta(radek(0));
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).cislo < 0; }));
+    krok();
+    EXPECT_EQ(relief.kolej[63].barva, barvy::seda);
+    EXPECT_EQ(metry(63), 0);
+    EXPECT_FALSE(vlak_na_koleji(63));
+    EXPECT_NE(stitek(63), "1234");
+    EXPECT_EQ(radek_tabulky(1234), -1);
+    EXPECT_EQ(relief.lstZpravy.radky.size(), 1u);
+    EXPECT_EQ(cesty[0].zacatek, -3);
+    EXPECT_FALSE(prikaz_radek.obsazen); // Borovec is where it was going
+}
+
+TEST_F(Jizda, WrongExitIsToldButVrbiceAndDubniceAreOneDirection) {
+    const int v = vlak_na(62, true, 1234);
+    zastavky(v, {2, 6}, {-3, 500}, {480, -3});
+    vlak_opustil(v, 2);
+    EXPECT_EQ(relief.lblVolba[0].text(), " Vlak 1234 odjel nesprávným směrem (BOR) !"_cz);
+    skryj_prikaz();
+    const int w = vlak_na(63, true, 55);
+    zastavky(w, {9, 5}, {-3, 500}, {480, -3});
+    vlak_opustil(w, 4);
+    EXPECT_FALSE(prikaz_radek.obsazen);
+    EXPECT_EQ(relief.kolej[63].barva, barvy::seda);
+}
+
+TEST_F(Jizda, OccupiedTrackStopsATrainBeforeIt) {
+    pridej_kolej(441, false);
+    const int v = vlak_na(62, true, 11);
+    cesta({262, 441, {62, 440, 441}, {1, 1, 1}, {0, 0, 0}, 0});
+    barvi_prvek(440, barvy::cervena);
+    ASSERT_TRUE(jed_dokud([&] { return cesty[0].Umazat == 1; }));
+    for (int i = 0; i < 5; ++i)
+        krok();
+    EXPECT_EQ(vlak(v).prvky.size(), 1u);
+    EXPECT_EQ(cesty.size(), 1u); // the start work is done once
+    barvi_prvek(440, barvy::seda);
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 440; }));
+}
+
+TEST_F(Jizda, CallingOnRouteLeadsOntoAnOccupiedTrackAndStays) {
+    pridej_kolej(12);
+    vlak_na(12, true, 22);
+    nastav_metry(12, 30);
+    const int v = vlak_na(62, true, 11);
+    const int c = cesta({262, 12, {62, 440, 7, 12}, {1, 1, 2, 1}, {0, 0, 2, 0}, 0});
+    cesty[static_cast<std::size_t>(c)].PN = true;
+    cesty[static_cast<std::size_t>(c)].PN_do = ted_s() + 1000;
+    relief.imgVyhybka[7].stav = "102"_cz;
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 12; }));
+    EXPECT_EQ(stav_vyhybky_cislo(7), 102);
+    EXPECT_EQ(metry(12), 30); // it is at the place of the one that stands there
+    EXPECT_EQ(vlak(v).rychlost_cesty, 30);
+    EXPECT_EQ(relief.navestidlo[262].barva, barvy::zelena); // a calling-on route leaves its signal alone
+    ASSERT_TRUE(jed_dokud([&] { return metry(12) == 60; }));
+    for (int i = 0; i < 10; ++i)
+        krok();
+    EXPECT_EQ(cesty[0].zacatek, 262); // until its locking is released
+    EXPECT_EQ(vlak(v).rychlost, 0);
+    cesty[0].PN_zaver = true;
+    krok();
+    EXPECT_EQ(cesty[0].zacatek, -3);
+}
+
+TEST_F(Jizda, CallingOnAspectThatIsOverIsNotEntered) {
+    const int v = vlak_na(62, true, 11);
+    const int c = cesta(radek(0));
+    cesty[static_cast<std::size_t>(c)].PN = true;
+    cesty[static_cast<std::size_t>(c)].PN_do = ted_s() - 1;
+    for (int i = 0; i < 10; ++i)
+        krok();
+    EXPECT_EQ(metry(62), 0);
+    EXPECT_EQ(vlak(v).rychlost, 0);
+}
+
+TEST_F(Jizda, CancelledRouteIsNotEntered) {
+    vlak_na(62, true, 11);
+    const int c = cesta(radek(0));
+    cesty[static_cast<std::size_t>(c)].cas_ruseni = ted_s() + 180;
+    for (int i = 0; i < 10; ++i)
+        krok();
+    EXPECT_EQ(metry(62), 0);
+    EXPECT_EQ(cesty[0].Vlak, -3); // and a route without a train is not removed
+}
+
+TEST_F(Jizda, TrainsTakeTrainRoutesAndShuntsShuntRoutes) {
+    const int v = vlak_na(62, true, 11);
+    vlak(v).posun = true;
+    cesta(radek(0));
+    krok();
+    krok();
+    EXPECT_EQ(cesty[0].Vlak, -3);
+    cesta(radek(0), false);
+    krok();
+    EXPECT_EQ(cesty[1].Vlak, v);
+    EXPECT_EQ(vlak(v).rychlost_cesty, 30);
+}
+
+TEST_F(Jizda, WaitingTrainKeepsItsTail) {
+    const int v = vlak_na(63, true, 11);
+    Vlak& t = vlak(v);
+    t.prvky = {62, 440, 7, 63};
+    t.prvky_druh = {1, 1, 2, 1};
+    t.prvky_poloha = {0, 0, 2, 0};
+    for (const int e : {62, 440})
+        barvi_prvek(e, barvy::cervena);
+    nastav_metry(62, 400);
+    nastav_metry(440, 80);
+    nastav_metry(63, 500);
+    t.muze_jet = false;
+    krok();
+    EXPECT_EQ(t.prvek_konec, 0);
+    t.muze_jet = true;
+    krok();
+    EXPECT_EQ(t.prvek_konec, 3);
+}
+
+TEST_F(Jizda, SwitchesCountTwentyMetresOfATrain) {
+    const int v = vlak_na(63, true, 11);
+    Vlak& t = vlak(v);
+    t.delka = 200;
+    t.prvky = {440, 7, 63};
+    t.prvky_druh = {1, 2, 1};
+    t.prvky_poloha = {0, 2, 0};
+    barvi_prvek(440, barvy::cervena);
+    nastav_metry(440, 80);
+    nastav_metry(63, 179); // 80 + 20 + 179 - 80 < 200
+    krok();
+    EXPECT_EQ(t.prvek_konec, 0);
+    nastav_metry(63, 180);
+    krok();
+    EXPECT_EQ(t.prvek_konec, 1);
+    nastav_metry(63, 200);
+    krok();
+    EXPECT_EQ(t.prvek_konec, 2);
+}
+
+TEST_F(Jizda, DerailerIsReleasedTwentyMetresLater) {
+    const int v = vlak_na(63, true, 11);
+    Vlak& t = vlak(v);
+    t.delka = 100;
+    t.prvky = {0, 440, 63};
+    t.prvky_druh = {4, 1, 1};
+    t.prvky_poloha = {0, 0, 0};
+    relief.lblVykolejka[0].barva = barvy::cervena;
+    barvi_prvek(440, barvy::cervena);
+    nastav_metry(440, 0);
+    nastav_metry(63, 119);
+    krok();
+    EXPECT_EQ(t.prvek_konec, 0);
+    nastav_metry(63, 120);
+    krok();
+    EXPECT_EQ(t.prvek_konec, 1);
+    EXPECT_EQ(relief.lblVykolejka[0].barva, barvy::seda);
+}
+
+TEST_F(Jizda, TailThatLeavesASecondTrainBehindKeepsTheTrackRed) {
+    const int v = vlak_na(62, true, 11);
+    const int druhy = vlak_na(62, true, 22);
+    Vlak& t = vlak(v);
+    t.prvky = {62, 440};
+    t.prvky_druh = {1, 1};
+    t.prvky_poloha = {0, 0};
+    barvi_prvek(440, barvy::cervena);
+    nastav_metry(62, 400);
+    nastav_metry(440, 70);
+    krok();
+    EXPECT_EQ(t.prvek_konec, 1);
+    EXPECT_EQ(metry(62), 150);
+    EXPECT_EQ(relief.kolej[62].barva, barvy::cervena);
+    EXPECT_EQ(stitek(62), "22");
+    EXPECT_EQ(vlak(druhy).prvky.back(), 62);
+}
+
+TEST_F(Jizda, HeadIsNeverReleased) {
+    const int v = vlak_na(440, true, 11);
+    nastav_metry(440, 150); // more than its 80 m
+    krok();
+    EXPECT_EQ(vlak(v).prvek_konec, 0);
+    EXPECT_EQ(relief.kolej[440].barva, barvy::cervena);
+}
+
+TEST_F(Jizda, RouteOfATrainThatIsGoneIsRemoved) {
+    cesta(radek(0));
+    cesta(radek(1));
+    cesta(radek(2));
+    cesty[0].Vlak = 5; // a free record
+    cesty[1].Vlak = kKOdstraneni;
+    krok();
+    ASSERT_EQ(cesty.size(), 2u); // the one that moved down waits for the next step
+    EXPECT_EQ(cesty[0].Vlak, kKOdstraneni);
+    krok();
+    ASSERT_EQ(cesty.size(), 1u);
+    EXPECT_EQ(cesty[0].zacatek, 63);
+}
+
+TEST_F(Jizda, RouteWithoutAFinalTrackEndsTheProgram) {
+    const int v = vlak_na(62, true, 11);
+    cesta({262, 7, {62, 7}, {1, 2}, {0, 2}, 0});
+    nastav_metry(62, 400);
+    vlak(v).rychlost = 50;
+    krok();
+    ASSERT_EQ(vlak(v).prvky.back(), 7);
+    EXPECT_THROW(krok(), KonecProgramu);
+    ASSERT_EQ(svet.okna.size(), 1u);
+    EXPECT_EQ(svet.okna[0].text, "Chyba: cesta bez koncového úseku"_cz);
+    EXPECT_EQ(svet.konec, 1);
+}
+
+TEST_F(Jizda, NothingMovesInAPause) {
+    const int v = vlak_na(62, true, 11);
+    cesta(radek(0));
+    vlak(v).rychlost = 50;
+    zastav_hodiny();
+    krok(60'000);
+    EXPECT_EQ(metry(62), 0);
+    spust_hodiny();
+    krok(100);
+    EXPECT_EQ(metry(62), 1); // the pause costs nothing
+}
+
+// --- speeds
+
+TEST_F(Jizda, PushedTrainRunsThirtyWhateverItsLimit) {
+    const int v = vlak_na(62, true, 11, {"B", "754"});
+    vlak(v).max_rychlost = 20;
+    uprav_rychlost(v);
+    EXPECT_EQ(vlak(v).rychlost, 30);
+    vlak(v).muze_jet = false;
+    vlak(v).rychlost = 0;
+    uprav_rychlost(v);
+    EXPECT_EQ(vlak(v).rychlost, 0);
+}
+
+TEST_F(Jizda, HeavyGoodsTrainGathersSpeedSlowly) {
+    const int v = vlak_na(62, true, 11);
+    Vlak& t = vlak(v);
+    t.druh = 14;
+    t.delka = 700;
+    uprav_rychlost(v);
+    EXPECT_EQ(t.rychlost, 1);
+    t.druh = 13; // 3 / 2 + 1 = 2.5: 1.2 km/h a step
+    t.rychlost = 10;
+    uprav_rychlost(v);
+    EXPECT_EQ(t.rychlost, 11);
+    t.druh = 16;
+    uprav_rychlost(v);
+    EXPECT_EQ(t.rychlost, 14);
+    t.delka = 1750; // 3 / 6 = 0.5 km/h: a half goes to the even number
+    t.druh = 14;
+    t.rychlost = 10;
+    uprav_rychlost(v);
+    EXPECT_EQ(t.rychlost, 10);
+    t.rychlost = 11;
+    uprav_rychlost(v);
+    EXPECT_EQ(t.rychlost, 12);
+}
+
+TEST_F(Jizda, BrakingTakesNoDistance) {
+    const int v = vlak_na(62, true, 11);
+    vlak(v).rychlost = 100;
+    uprav_rychlost(v);
+    EXPECT_EQ(vlak(v).rychlost, 60);
+    vlak(v).max_rychlost = 50;
+    uprav_rychlost(v);
+    EXPECT_EQ(vlak(v).rychlost, 50);
+}
+
+TEST_F(Jizda, LimitOfTheRouteBindsUntilItsSwitchIsCleared) {
+    const int v = vlak_na(62, true, 11);
+    vlak(v).rychlost_trati = 40;
+    RadekCesty r = radek(0);
+    r.rychlost = 2;
+    cesta(r);
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).rychlost == 60; })); // above the line speed: meant
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).omezeni_ukonceno; }));
+    krok();
+    krok();
+    EXPECT_EQ(vlak(v).rychlost, 40);
+}
+
+TEST_F(Jizda, SpeedClassesAndProgramRoutesLimitTheTrain) {
+    const int v = vlak_na(62, true, 11);
+    const int c = cesta(radek(0));
+    Cesta& r = cesty[static_cast<std::size_t>(c)];
+    const std::array<int, 5> limity = {60, 40, 60, 80, 80}; // above 3: as it was
+    for (std::uint8_t trida = 0; trida < 5; ++trida) {
+        r.rychlost = trida;
+        omez_rychlost(c, v);
+        EXPECT_EQ(vlak(v).rychlost_cesty, limity[trida]);
+        EXPECT_FALSE(vlak(v).omezeni_ukonceno);
+    }
+    EXPECT_EQ(vlak(v).konec_omezeni, 7);
+    r.ZT = kZTprogramu;
+    omez_rychlost(c, v);
+    EXPECT_EQ(vlak(v).rychlost_cesty, 100);
+    EXPECT_TRUE(vlak(v).omezeni_ukonceno);
+}
+
+TEST_F(Jizda, ElementsSetTheLineSpeedByTheSense) {
+    const int v = vlak_na(62, true, 11);
+    rychlost_trati_prvek(135, v);
+    EXPECT_EQ(vlak(v).rychlost_trati, 40);
+    rychlost_trati_prvek(19, v);
+    EXPECT_EQ(vlak(v).rychlost_trati, 40);
+    vlak(v).smer = false;
+    rychlost_trati_prvek(135, v);
+    EXPECT_EQ(vlak(v).rychlost_trati, 60);
+    rychlost_trati_prvek(19, v);
+    EXPECT_EQ(vlak(v).rychlost_trati, 100);
+    rychlost_trati_prvek(774, v);
+    EXPECT_EQ(vlak(v).rychlost_trati, 90);
+}
+
+// --- sense and starting
+
+TEST_F(Jizda, LocomotiveHauledTrainNeverTurnsAtTheStartByItself) {
+    const int v = vlak_na(62, false, 11);
+    cesta(radek(0)); // to the right
+    for (int i = 0; i < 20; ++i)
+        krok();
+    EXPECT_EQ(metry(62), 0);
+    EXPECT_FALSE(vlak(v).smer);
+    EXPECT_FALSE(prikaz_radek.obsazen);
+}
+
+TEST_F(Jizda, TrainWithACabOrALocomotiveAtTheFarEndTurns) {
+    for (const auto& vozy : std::vector<std::vector<Text>>{{"943", "843"}, {"560", "060"}, {"B", "754"}}) {
+        const int v = vlak_na(62, false, 11, vozy);
+        const int c = cesta(radek(0));
+        EXPECT_TRUE(srovnej_smer(c, 0, v));
+        EXPECT_TRUE(vlak(v).smer);
+        EXPECT_EQ(vlak(v).vozy.front(), vozy.back());
+    }
+    const int v = vlak_na(62, false, 11);
+    vlak(v).druh = 16;
+    EXPECT_TRUE(srovnej_smer(0, 0, v));
+    EXPECT_EQ(vlak(v).vozy, (std::vector<Text>{"B", "754"}));
+    EXPECT_TRUE(vlak(v).smer);
+    const int w = vlak_na(62, false, 12);
+    EXPECT_TRUE(srovnej_smer(0, 2, w)); // further on the senses are not compared
+    EXPECT_FALSE(vlak(w).smer);
+    EXPECT_FALSE(srovnej_smer(0, 1, w));
+}
+
+TEST_F(Jizda, BoxedInTrainStartsOnlyTowardsTheFreeEnd) {
+    const int a = vlak_na(62, false, 11);
+    EXPECT_TRUE(muze_vyjet(a, true));
+    const int b = vlak_na(62, false, 22);
+    const int c = vlak_na(62, false, 33);
+    EXPECT_FALSE(muze_vyjet(a, true));
+    EXPECT_TRUE(muze_vyjet(a, false));
+    EXPECT_FALSE(muze_vyjet(b, false));
+    EXPECT_FALSE(muze_vyjet(b, true));
+    EXPECT_TRUE(muze_vyjet(c, true));
+    EXPECT_FALSE(muze_vyjet(c, false));
+}
+
+TEST_F(Jizda, GlyphOfTheSignalTellsTheSenseOfTheRoute) {
+    Cesta c;
+    EXPECT_FALSE(smer_cesty(c));
+    c.zacatek = 262;
+    for (const auto& [glyf, smer] : std::vector<std::pair<int, bool>>{{8, true},
+                                                                      {229, true},
+                                                                      {227, true},
+                                                                      {228, true},
+                                                                      {176, true},
+                                                                      {15, false},
+                                                                      {230, false},
+                                                                      {226, false},
+                                                                      {183, false}}) {
+        relief.navestidlo[262].text = " " + znak(glyf) + " ";
+        EXPECT_EQ(smer_cesty(c), smer) << glyf;
+    }
+    c.zacatek = 540;
+    EXPECT_TRUE(smer_cesty(c));
+    relief.navestidlo_ser[540].text = znak(241);
+    EXPECT_FALSE(smer_cesty(c));
+    relief.navestidlo.zaloz(18).text = znak(228);
+    c.zacatek = 18;
+    EXPECT_FALSE(smer_cesty(c));
+    c.zacatek = 576;
+    EXPECT_TRUE(smer_cesty(c));
+}
+
+// --- warnings and exits
+
+TEST_F(Jizda, BlockSignalAtDangerIsToldAfterTheFirstMinutes) {
+    const int v = vlak_na(63, true, 11);
+    cesta(radek(4));
+    simulace.minuty_simulace = 5;
+    vlak(v).rychlost = 60;
+    nastav_metry(63, 600);
+    krok();
+    ASSERT_EQ(vlak(v).prvky.back(), 640);
+    EXPECT_FALSE(prikaz_radek.obsazen); // the signal is at stop, but the simulation has just begun
+    vlak_opustil(v, 0);
+    krok();
+    const int w = vlak_na(63, true, 22);
+    cesta(radek(4));
+    simulace.minuty_simulace = 6;
+    vlak(w).rychlost = 60;
+    nastav_metry(63, 600);
+    krok();
+    ASSERT_EQ(vlak(w).prvky.back(), 640);
+    EXPECT_EQ(relief.lblVolba[0].text(), " Vlak 22 projel na BOR S641 okolo navesti VYSTRAHA!");
+    EXPECT_NE(std::find(svet.pipnuti.begin(), svet.pipnuti.end(), VirtualniPlatforma::Pipnuti{100, 200}),
+              svet.pipnuti.end());
+}
+
+TEST_F(Jizda, EndOfTheLongSectionIsToldOnceInItsWindow) {
+    pridej_kolej(118);
+    relief.kolej[118].stav = TextPohled("0");
+    zapis_soubor(simulace.cesta_aplikace + "data\\tesk.top", soubor_topologie({{118, 6000}}));
+    const int v = vlak_na(118, true, 11);
+    const int c = cesta({262, 118, {62, 118}, {1, 1}, {0, 0}, 0});
+    simulace.minuty_simulace = 6;
+    const auto varuje = [&](double zbyva) {
+        skryj_prikaz();
+        nastav_metry(118, 6000 - zbyva);
+        uvnitr_prvku(c, 1, v);
+        return prikaz_radek.obsazen;
+    };
+    EXPECT_FALSE(varuje(700));
+    EXPECT_FALSE(varuje(600));
+    EXPECT_TRUE(varuje(699.5));
+    EXPECT_EQ(relief.lblVolba[0].text(), " Vlak 11 projel na TK THN-MOK okolo navesti VYSTRAHA!");
+    const std::size_t pipnuti = svet.pipnuti.size();
+    uvnitr_prvku(c, 1, v);
+    EXPECT_EQ(svet.pipnuti.size(), pipnuti); // while it stands on the line
+    skryj_prikaz();
+    uvnitr_prvku(c, 1, v);
+    EXPECT_TRUE(prikaz_radek.obsazen);
+}
+
+TEST_F(Jizda, WrongSenseAtAnExitStaysAtTheEndOfTheRoute) {
+    pridej_kolej(213);
+    const int v = vlak_na(213, true, 11);
+    zpusob_odjezdu(213, v);
+    EXPECT_EQ(vlak(v).cislo, 11);
+    vlak(v).smer = false;
+    zpusob_odjezdu(213, v);
+    EXPECT_EQ(vlak(v).cislo, -3);
+}
+
+TEST_F(Jizda, StandbyLocomotiveThatLeavesIsCountedOut) {
+    pridej_kolej(557);
+    const int v = vlak_na(557, false, 74801, {"731"});
+    vlak(v).vozy_urceni = {"ZAL"};
+    stav_provozu.pocet_zaloh = 2;
+    stav_provozu.zaloha_731_jede = true;
+    zpusob_odjezdu(557, v);
+    EXPECT_EQ(stav_provozu.pocet_zaloh, 1);
+    EXPECT_FALSE(stav_provozu.zaloha_731_jede);
+    EXPECT_TRUE(stav_provozu.zaloha_731_strana);
+}
+
+// --- crossings
+
+TEST_F(Jizda, ShuntOverACrossingLowersItsCounterAgain) {
+    pridej_kolej(100, false);
+    const int v = vlak_na(62, true, 11);
+    vlak(v).posun = true;
+    const int c = cesta({262, 63, {62, 100, 63}, {1, 1, 1}, {0, 0, 0}, 0}, false);
+    cesty[static_cast<std::size_t>(c)].prejezd = 0;
+    stanicni_prejezdy[0].uzavren = true;
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 100; }));
+    EXPECT_EQ(stanicni_prejezdy[0].pocet, 129);
+    EXPECT_FALSE(stanicni_prejezdy[0].uzavren);
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvek_konec == 2; }));
+    EXPECT_EQ(stanicni_prejezdy[0].pocet, 128);
+}
+
+TEST_F(Jizda, ApproachClosesTheCrossingOfTheNextRoute) {
+    pridej_kolej(12);
+    const int v = vlak_na(62, true, 11);
+    cesta({262, 12, {62, 12}, {1, 1}, {0, 0}, 0});
+    nastav_metry(62, 400);
+    vlak(v).rychlost = 50;
+    const int dalsi = cesta({64, 63, {12, 63}, {1, 1}, {0, 0}, 0});
+    cesty[static_cast<std::size_t>(dalsi)].prejezd = 0;
+    krok();
+    ASSERT_EQ(vlak(v).prvky.back(), 12);
+    EXPECT_EQ(stanicni_prejezdy[0].cas, ted_s() + 30);
+    EXPECT_EQ(stanicni_prejezdy[1].cas, -3);
+}
+
+// --- many trains
+
+TEST_F(Jizda, HundredTrainsKeepTheirState) {
+    for (int i = 0; i < 100; ++i)
+        vlak_na(62, false, 1000 + i);
+    for (int i = 0; i < 50; ++i)
+        krok();
+    EXPECT_EQ(std::count_if(vlaky.begin(), vlaky.end(), [](const Vlak& v) { return v.cislo > 0; }), 100);
+    EXPECT_EQ(metry(62), 0);
+}

@@ -1,0 +1,87 @@
+// testy/jizda/na_koleji_test.cpp - lists of trains on tracks, and the number labels.
+#include "jizda/svet_vlaku.h"
+
+namespace {
+
+class NaKoleji : public SVlaky {
+protected:
+    static const std::vector<std::int16_t>& seznam(int prvek) {
+        return koleje_vlaky.at(static_cast<std::size_t>(zaznam_koleje(prvek))).vlaky;
+    }
+};
+using Indexy = std::vector<std::int16_t>;
+
+} // namespace
+
+TEST_F(NaKoleji, SingleTrainStandsOnTheLeftLabelAndTheNameOnTheRight) {
+    vlak_na(62, true, 1234);
+    EXPECT_EQ(stitek(62), "1234");
+    EXPECT_EQ(stitek(262), "K62");
+    EXPECT_TRUE(relief.cislo_koleje[62].viditelny);
+}
+
+TEST_F(NaKoleji, TwoTrainsStandByTheirOrderOnTheTrack) {
+    const int a = vlak_na(62, true, 11);
+    const int b = vlak_na(62, true, 22);
+    EXPECT_EQ(seznam(62), (Indexy{static_cast<std::int16_t>(b), static_cast<std::int16_t>(a)}));
+    EXPECT_EQ(stitek(62), "22");
+    EXPECT_EQ(stitek(262), "11");
+    const int c = vlak_na(62, false, 33);
+    EXPECT_EQ(seznam(62).back(), c);
+    EXPECT_EQ(stitek(262), "33");
+}
+
+TEST_F(NaKoleji, ShuntShowsNoNumber) {
+    const int a = vlak_na(62, false, 11);
+    const int b = vlak_na(62, false, 22);
+    vlak(b).posun = true;
+    zobraz_kolej(zaznam_koleje(62));
+    EXPECT_EQ(stitek(62), "11");
+    EXPECT_EQ(stitek(262), "K62");
+    vlak(a).posun = true;
+    zobraz_kolej(zaznam_koleje(62));
+    EXPECT_EQ(stitek(62), "");
+    EXPECT_FALSE(relief.cislo_koleje[62].viditelny);
+    EXPECT_EQ(stitek(262), "K62");
+}
+
+TEST_F(NaKoleji, RemovalOfTheOnlyTrainLeavesItsNumberOnTheLabel) {
+    const int a = vlak_na(62, true, 11);
+    uber_z_koleje(62, a);
+    EXPECT_EQ(seznam(62), (Indexy{-3}));
+    EXPECT_FALSE(vlak_na_koleji(62));
+    EXPECT_EQ(stitek(62), "11");
+    zobraz_kolej(zaznam_koleje(62));
+    EXPECT_EQ(stitek(62), "");
+}
+
+TEST_F(NaKoleji, SenseTurnsInTheListOf118) {
+    pridej_kolej(118);
+    const int a = vlak_na(118, true, 11);
+    const int b = vlak_na(118, true, 22);
+    const int c = vlak_na(118, false, 33);
+    EXPECT_EQ(seznam(118), (Indexy{static_cast<std::int16_t>(c), static_cast<std::int16_t>(a),
+                                   static_cast<std::int16_t>(b)}));
+}
+
+TEST_F(NaKoleji, TrainGoesBesideTheOneThatIsNamed) {
+    const int a = vlak_na(62, false, 11);
+    const int b = vlak_na(62, false, 22);
+    const int pred = novy_vlak();
+    vlak(pred).cislo = 33;
+    pridej_na_kolej(62, pred, false, b);
+    const int za = novy_vlak();
+    vlak(za).cislo = 44;
+    pridej_na_kolej(62, za, true, a);
+    EXPECT_EQ(seznam(62), (Indexy{static_cast<std::int16_t>(a), static_cast<std::int16_t>(za),
+                                  static_cast<std::int16_t>(pred), static_cast<std::int16_t>(b)}));
+}
+
+TEST_F(NaKoleji, RecordsGrowOnlyByTracksThatAreUsed) {
+    const std::size_t pred = koleje_vlaky.size();
+    uber_z_koleje(63, 0);
+    EXPECT_FALSE(vlak_na_koleji(63));
+    EXPECT_EQ(koleje_vlaky.size(), pred);
+    vlak_na(63, true, 1);
+    EXPECT_EQ(koleje_vlaky.size(), pred + 1);
+}

@@ -1,0 +1,368 @@
+// testy/jizda/spojovani_test.cpp - coupling, splitting, turning, the next train of a set; train and shunt.
+#include "gvd/gvd.h"
+#include "gvd/skladba.h"
+#include "jizda/posun.h"
+#include "jizda/svet_vlaku.h"
+
+#include <algorithm>
+
+namespace {
+
+using Vozy = std::vector<Text>;
+
+class Spojovani : public SVlaky {
+protected:
+    Spojovani() {
+        pridej_kolej(32);
+        pridej_kolej(574);
+    }
+    static GvdVlak radek_gvd(std::int32_t cislo) {
+        GvdVlak g;
+        g.cislo = cislo;
+        g.druh = 7;
+        g.stanice = {9, 2};
+        g.prijezdy = {-1, 600};
+        g.odjezdy = {540, -1};
+        g.vozy = {"843"};
+        g.vozy_vlaky = {0, 0};
+        g.kolej = "3";
+        g.nazev = "Bystrice";
+        g.loko_rada = 843;
+        return g;
+    }
+    static int poradi(int kolej, int v) {
+        const auto& seznam = koleje_vlaky.at(static_cast<std::size_t>(zaznam_koleje(kolej))).vlaky;
+        return static_cast<int>(std::find(seznam.begin(), seznam.end(), v) - seznam.begin());
+    }
+};
+
+} // namespace
+
+TEST_F(Spojovani, FreeRecordIsUsedAgainAndTheTableGrowsByOne) {
+    for (std::size_t i = 0; i < kPrvnichVlaku; ++i)
+        vlaky[i].cislo = 100;
+    EXPECT_EQ(novy_vlak(), static_cast<int>(kPrvnichVlaku));
+    EXPECT_EQ(vlaky.size(), kPrvnichVlaku + 1);
+    EXPECT_EQ(vlaky.back().cislo, -3);
+    EXPECT_EQ(vlaky.back().rezerva, -3);
+    EXPECT_EQ(vlaky.back().prvek_konec, 0);
+    vlaky[7].cislo = -3;
+    vlaky[7].rychlost_cesty = 40;
+    EXPECT_EQ(novy_vlak(), 7);
+    EXPECT_EQ(vlaky[7].rychlost_cesty, 0); // nothing of the last train stays
+}
+
+TEST_F(Spojovani, EndOfARecordTakesItsRowUnlessItsLocomotiveOnlyRanAlong) {
+    const int v = vlak_na(62, true, 77);
+    const int loko = vlak_na(63, true, 77, {"754"});
+    pridej_do_tabulky(v);
+    zrus_vlak(loko);
+    EXPECT_EQ(radek_tabulky(77), 0);
+    EXPECT_EQ(vlak(loko).cislo, -3);
+    EXPECT_TRUE(vlak(loko).muze_jet);
+    EXPECT_EQ(vlak(loko).prvky.size(), 1u);
+    EXPECT_EQ(vlak(loko).prvek_konec, 0);
+    zrus_vlak(v);
+    EXPECT_EQ(radek_tabulky(77), -1);
+}
+
+TEST_F(Spojovani, LocomotiveAlwaysJoinsTheTrain) {
+    for (const bool loko_prvni : {true, false}) {
+        const int v = vlak_na(62, false, 77, {"B", "Bd"});
+        const int loko = vlak_na(62, false, 88, {"754"});
+        vlak(loko).delka = 18;
+        cesty[0].zacatek = 262;
+        cesty[0].Vlak = static_cast<std::int16_t>(loko);
+        cesty[0].Umazat = 0;
+        loko_prvni ? spoj(loko, v) : spoj(v, loko);
+        EXPECT_EQ(vlak(v).cislo, 77);
+        EXPECT_EQ(vlak(loko).cislo, -3);
+        EXPECT_EQ(vlak(v).vozy.size(), 3u);
+        EXPECT_EQ(vlak(v).vozy_urceni.size(), 3u);
+        EXPECT_EQ(vlak(v).delka, 58);
+        EXPECT_EQ(cesty[0].Vlak, v);
+        EXPECT_EQ(koleje_vlaky[static_cast<std::size_t>(zaznam_koleje(62))].vlaky,
+                  std::vector<std::int16_t>{static_cast<std::int16_t>(v)});
+        uber_ze_vsech(v);
+        zrus_vlak(v);
+    }
+}
+
+TEST_F(Spojovani, VehiclesComeToTheSideOnWhichTheOtherTrainStands) {
+    const auto spojene = [&](bool smer_a, bool smer_b, const Vozy& vozy_a) {
+        const int a = vlak_na(62, smer_a, 77, vozy_a);
+        const int b = vlak_na(62, smer_b, 88, {"363", "C"});
+        spoj(a, b);
+        const int zbyl = vlak(a).cislo > 0 ? a : b;
+        const Vozy vozy = vlak(zbyl).vozy;
+        uber_ze_vsech(zbyl);
+        zrus_vlak(zbyl);
+        return vozy;
+    };
+    EXPECT_EQ(spojene(true, true, {"754", "B"}), (Vozy{"363", "C", "754", "B"}));
+    EXPECT_EQ(spojene(true, false, {"754", "B"}), (Vozy{"C", "363", "754", "B"})); // the other one is turned
+    EXPECT_EQ(spojene(false, false, {"754", "B"}), (Vozy{"754", "B", "363", "C"}));
+    EXPECT_EQ(spojene(false, true, {"754", "B"}), (Vozy{"754", "B", "C", "363"}));
+    // The locomotive joins.
+    EXPECT_EQ(spojene(true, true, {"754"}), (Vozy{"363", "C", "754"}));
+    EXPECT_EQ(spojene(false, false, {"754"}), (Vozy{"754", "363", "C"}));
+    EXPECT_EQ(spojene(true, false, {"754", "731"}), (Vozy{"731", "754", "363", "C"}));
+}
+
+TEST_F(Spojovani, TrainThatIsNotWhollyOnTheTrackIsNotCoupled) {
+    const int a = vlak_na(62, true, 77);
+    const int b = vlak_na(62, true, 88);
+    vlak(b).prvky = {440, 62};
+    vlak(b).prvky_druh = {1, 1};
+    vlak(b).prvky_poloha = {0, 0};
+    simulace.zvuk_vypnut = true;
+    spoj(a, b);
+    EXPECT_EQ(vlak(b).cislo, 88);
+    EXPECT_EQ(relief.lblPrikaz[0].text(), " SPOJIT ");
+    EXPECT_EQ(relief.lblVolba[0].text(), " Nelze spojit vlak, který není celou délkou na koleji!"_cz);
+    ASSERT_EQ(svet.pipnuti.size(), 1u); // even when the sound is off
+    EXPECT_EQ(svet.pipnuti[0], (VirtualniPlatforma::Pipnuti{100, 200}));
+}
+
+TEST_F(Spojovani, CouplingGivesTheStopItsDepartureBack) {
+    const int v = vlak_na(62, true, 77, {"B", "B"});
+    zastavky(v, {9, 2, 6}, {-3, 478, 500}, {470, 482, -3});
+    vlak(v).stanice_index = 1;
+    vlak(v).odjezd_realny[1] = -10;
+    vlak(v).priznaky = 2;
+    const int prvni = vlak_na(62, true, 88, {"754"});
+    spoj(v, prvni);
+    EXPECT_EQ(vlak(v).odjezd_realny[1], -10); // the assisting one at the end is still missing
+    vlak(v).priznaky = 0;
+    const int druhy = vlak_na(62, true, 88, {"754"});
+    spoj(v, druhy);
+    EXPECT_EQ(vlak(v).odjezd_realny[1], 483); // three minutes
+    vlak(v).odjezd_realny[1] = -10;
+    vlak(v).druh = 14;
+    spoj(v, vlak_na(62, true, 88, {"754"}));
+    EXPECT_EQ(vlak(v).odjezd_realny[1], 486);
+    vlak(v).odjezd_realny[1] = -10;
+    vlak(v).odjezd[1] = 495;
+    spoj(v, vlak_na(62, true, 88, {"754"}));
+    EXPECT_EQ(vlak(v).odjezd_realny[1], 495);
+}
+
+TEST_F(Spojovani, SplitLeavesTheFrontPartOnTheSideOfTheHead) {
+    for (const bool smer : {true, false}) {
+        const int v = vlak_na(62, smer, 77, {"754", "B"});
+        zastavky(v, {9, 2, 6}, {-3, 478, 500}, {470, 482, -3});
+        vlak(v).stanice_index = 1;
+        vlak(v).delka = 42;
+        const int d = odvesit(v, 0);
+        ASSERT_GE(d, 0);
+        EXPECT_EQ(vlak(d).vozy, Vozy{"754"});
+        EXPECT_EQ(vlak(v).vozy, Vozy{"B"});
+        EXPECT_EQ(vlak(d).delka, 18);
+        EXPECT_EQ(vlak(v).delka, 24);
+        EXPECT_EQ(vlak(d).cislo, 77);
+        EXPECT_TRUE(vlak(d).posun);
+        EXPECT_TRUE(vlak(d).muze_jet);
+        EXPECT_EQ(vlak(d).stanice_index, 0);
+        EXPECT_EQ(vlak(d).odjezd_realny[1], 482);
+        EXPECT_EQ(vlak(v).odjezd_realny[1], -10);
+        EXPECT_EQ(metry(62), 42);
+        EXPECT_EQ(poradi(62, d) > poradi(62, v), smer);
+        EXPECT_EQ(vlak(d).prvky, std::vector<std::int16_t>{62});
+        uber_ze_vsech(v);
+        uber_ze_vsech(d);
+        zrus_vlak(v);
+        zrus_vlak(d);
+    }
+}
+
+TEST_F(Spojovani, LastVehicleComesOffAloneAtTheOtherEnd) {
+    const int v = vlak_na(62, true, 77, {"B", "C", "754"});
+    vlak(v).delka = 90;
+    const int d = odvesit(v, 2);
+    EXPECT_EQ(vlak(d).vozy, Vozy{"754"});
+    EXPECT_EQ(vlak(v).vozy, (Vozy{"B", "C"}));
+    EXPECT_LT(poradi(62, d), poradi(62, v));
+}
+
+TEST_F(Spojovani, LengthGoesWithTheCarriagesAndLocomotivesCountEighteenMetres) {
+    const int v = vlak_na(62, true, 77, {"754", "B", "B", "B"});
+    vlak(v).delka = 100;
+    const int d = odvesit(v, 1);
+    EXPECT_EQ(vlak(d).delka, 51); // 100 * 1 / 3 + 18
+    EXPECT_EQ(vlak(v).delka, 49);
+    const int w = vlak_na(63, true, 88, {"754", "731"});
+    vlak(w).delka = 18;
+    const int e = odvesit(w, 0);
+    EXPECT_EQ(vlak(e).delka, 18); // no carriage at all
+    EXPECT_EQ(vlak(w).delka, 18); // never shorter than a locomotive
+}
+
+TEST_F(Spojovani, UnitsAndSingleVehiclesAreNotSplit) {
+    const int v = vlak_na(62, true, 77, {"560", "060", "754"});
+    EXPECT_EQ(odvesit(v, 0), -3);
+    EXPECT_EQ(odvesit(v, 1), -3);
+    EXPECT_EQ(odvesit(v, 7), -3);
+    const int w = vlak_na(63, true, 88, {"754"});
+    EXPECT_EQ(odvesit(w, 0), -3);
+    EXPECT_FALSE(prikaz_radek.obsazen);
+    EXPECT_EQ(vlak(v).vozy.size(), 3u);
+}
+
+TEST_F(Spojovani, SplitTakesTheRoutesThatWaitForTheTrain) {
+    const int v = vlak_na(62, true, 77, {"754", "B"});
+    cesta(radek(0));
+    cesty[0].Vlak = static_cast<std::int16_t>(v);
+    odvesit(v, 0);
+    EXPECT_EQ(cesty[0].Vlak, -3);
+}
+
+TEST_F(Spojovani, LocomotiveOnTrack32GoesToTheStubAtOnce) {
+    const int v = vlak_na(32, true, 77, {"754", "B"});
+    vlak(v).vozy_urceni = {"DKV", ""};
+    const int d = odvesit(v, 0);
+    EXPECT_EQ(vlak(d).prvky, std::vector<std::int16_t>{574});
+    EXPECT_FALSE(vlak(d).smer);
+    EXPECT_EQ(relief.kolej[574].barva, barvy::cervena);
+    EXPECT_EQ(koleje_vlaky[static_cast<std::size_t>(zaznam_koleje(574))].vlaky[0], d);
+    const int w = vlak_na(32, true, 78, {"754", "B"});
+    vlak(w).vozy_urceni = {"DKV", ""};
+    EXPECT_EQ(vlak(odvesit(w, 0)).prvky, std::vector<std::int16_t>{32}); // the stub is occupied
+}
+
+TEST_F(Spojovani, ShortenedTrainLeavesTheTracksBehindFree) {
+    const int v = vlak_na(62, true, 77);
+    Vlak& t = vlak(v);
+    t.prvky = {62, 440, 7, 0, 63};
+    t.prvky_druh = {1, 1, 2, 4, 1};
+    t.prvky_poloha = {0, 0, 2, 0, 0};
+    for (const int e : {440, 63})
+        barvi_prvek(e, barvy::cervena);
+    relief.lblVykolejka[0].barva = barvy::cervena;
+    vyhybka_stav(7, 152, false, false);
+    nastav_metry(63, 250);
+    zkrat_vlak(v);
+    EXPECT_EQ(t.prvek_konec, 4);
+    EXPECT_EQ(relief.kolej[62].barva, barvy::seda);
+    EXPECT_EQ(relief.kolej[440].barva, barvy::seda);
+    EXPECT_EQ(relief.kolej[63].barva, barvy::cervena);
+    EXPECT_EQ(relief.lblVykolejka[0].barva, barvy::seda);
+    EXPECT_EQ(stav_vyhybky_cislo(7), 2);
+    EXPECT_EQ(metry(63), 250);
+    EXPECT_EQ(stitek(62), "77"); // until it moves
+    EXPECT_TRUE(vlak_na_koleji(62));
+    uber_z_opustenych(v);
+    EXPECT_FALSE(vlak_na_koleji(62));
+    EXPECT_NE(stitek(62), "77");
+}
+
+TEST_F(Spojovani, TurnReversesTheVehiclesAndTheEmergencyTurnOnlyTheSense) {
+    const int v = vlak_na(62, true, 77, {"754", "B", "C"});
+    vlak(v).vozy_urceni = {"DKV", "", "5"};
+    otoc_vlak(v);
+    EXPECT_EQ(vlak(v).vozy, (Vozy{"C", "B", "754"}));
+    EXPECT_EQ(vlak(v).vozy_urceni, (Vozy{"5", "", "DKV"}));
+    EXPECT_FALSE(vlak(v).smer);
+    otoc_nouzove(v);
+    EXPECT_TRUE(vlak(v).smer);
+    EXPECT_EQ(vlak(v).vozy.front(), "C");
+}
+
+// --- the next train
+
+TEST_F(Spojovani, FinishedSetTakesOnItsNextTrain) {
+    simulace.minuty_simulace = 1440;
+    gvd_vlaky = {radek_gvd(5678)};
+    const int v = vlak_na(62, true, 77, {"843", "943"});
+    vlak(v).vozy_urceni = {"5678", "5678"};
+    vlak(v).cislo2 = 78;
+    vlak(v).cislo2_platne = true;
+    vlak(v).zpozdeni = 9;
+    pridej_do_tabulky(v);
+    navazny_vlak(v);
+    EXPECT_EQ(vlak(v).cislo, 5678);
+    EXPECT_EQ(zobrazene_cislo(vlak(v)), 5678);
+    EXPECT_EQ(vlak(v).zpozdeni, 0);
+    EXPECT_EQ(vlak(v).stanice_index, -1);
+    EXPECT_EQ(vlak(v).odjezd, (std::vector<std::int16_t>{1980, -1})); // of the second day
+    EXPECT_EQ(vlak(v).pokyn, "3");
+    EXPECT_EQ(radek_tabulky(78), -1);
+    EXPECT_EQ(radek_tabulky(5678), 0);
+    EXPECT_EQ(stitek(62), "5678");
+    EXPECT_FALSE(vlak(v).muze_jet);
+}
+
+TEST_F(Spojovani, SetWithoutANextTrainStaysAsItIs) {
+    gvd_vlaky = {radek_gvd(5678)};
+    const auto zustane = [&](const Vozy& vozy, const Vozy& urceni) {
+        const int v = vlak_na(62, true, 77, vozy);
+        vlak(v).vozy_urceni = urceni;
+        navazny_vlak(v);
+        const bool stejny = vlak(v).cislo == 77 && vlak(v).vozy == vozy;
+        uber_ze_vsech(v);
+        zrus_vlak(v);
+        return stejny;
+    };
+    EXPECT_TRUE(zustane({"843"}, {"ZAL"}));
+    EXPECT_TRUE(zustane({"843"}, {"5679"})); // not in the timetable
+    EXPECT_TRUE(zustane({"843", "943"}, {"77", "77"}));
+    EXPECT_TRUE(zustane({"843", "943"}, {"77", ""}));
+    EXPECT_TRUE(zustane({"754"}, {"5678"})); // a light engine
+    EXPECT_FALSE(zustane({"843"}, {"5678"}));
+}
+
+TEST_F(Spojovani, TimesFarBehindThePresentBelongToTomorrow) {
+    EXPECT_EQ(korekce(0), 0);
+    EXPECT_EQ(korekce(-3), 0);
+    EXPECT_EQ(korekce(480), 0);
+    EXPECT_EQ(korekce(320), 0); // 480 / 320 = 1.5
+    EXPECT_EQ(korekce(319), 1440);
+    simulace.minuty_simulace = 1440;
+    EXPECT_EQ(korekce(480), 1440);
+    EXPECT_EQ(korekce(319), 2880);
+}
+
+// --- train and shunt
+
+TEST_F(Spojovani, TrainBecomesAShuntAndItsNumberGoesFromTheLabel) {
+    const int v = vlak_na(62, true, 77);
+    zmena_posun(v, 62);
+    EXPECT_TRUE(vlak(v).posun);
+    EXPECT_TRUE(vlak(v).muze_jet);
+    EXPECT_EQ(stitek(62), "");
+    zmena_posun(v, 62);
+    EXPECT_FALSE(vlak(v).posun);
+    EXPECT_EQ(stitek(62), "77");
+    EXPECT_EQ(radek_tabulky(77), 0);
+}
+
+TEST_F(Spojovani, LightEngineGetsANumberAndATimetableOfItsOwn) {
+    const int v = vlak_na(62, true, 77, {"754"});
+    vlak(v).posun = true;
+    vlak(v).vozy_urceni = {"DKV"};
+    zmena_posun(v, 62);
+    EXPECT_GE(vlak(v).cislo, 70000);
+    EXPECT_LT(vlak(v).cislo, 80000);
+    EXPECT_EQ(vlak(v).druh, 16);
+    EXPECT_EQ(vlak(v).stanice, (std::vector<std::uint8_t>{2, 28}));
+    EXPECT_EQ(vlak(v).odjezd_realny, (std::vector<std::int16_t>{482, -3}));
+    EXPECT_FALSE(vlak(v).muze_jet);
+    const std::int32_t cislo = vlak(v).cislo;
+    zmena_posun(v, 62);
+    EXPECT_EQ(radek_tabulky(cislo), -1); // a made-up number goes from the table
+}
+
+TEST_F(Spojovani, ChangeIsRefusedOffTheStationTracks) {
+    const int v = vlak_na(62, true, 77);
+    vlak(v).prvky = {440, 62};
+    vlak(v).prvky_druh = {1, 1};
+    vlak(v).prvky_poloha = {0, 0};
+    zmena_posun(v, 62);
+    EXPECT_EQ(relief.lblVolba[0].text(), " Na kolejiK62 není změna možná!"_cz);
+    EXPECT_FALSE(vlak(v).posun);
+    skryj_prikaz();
+    const int w = vlak_na(340, true, 88);
+    vlak(w).posun = true;
+    zmena_posun(w, 340);
+    EXPECT_EQ(relief.lblVolba[0].text(), " Na koleji  není změna možná!"_cz);
+    EXPECT_TRUE(vlak(w).posun);
+}
