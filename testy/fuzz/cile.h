@@ -161,11 +161,12 @@ inline Bajty vzor_provozu() {
     };
     vlak({19, 3, 8, 9}, 601, 1);
     vlak({1, 8, 9, 12}, 605, 2);
-    vlak({9, 8, 1}, 625, 3);
+    vlak({9, 8, 1}, 625, 20);
+    vlak({9, 12, 2}, 650, 22);
     vlak({34, 9}, 610, 4);
     vlak({33, 9}, 615, 6);
     vlak({7, 13, 6}, 595, 8);
-    vlak({8, 24, 3}, 585, 10);
+    vlak({8, 24, 3}, 590, 10);
     return soubor.bajty;
 }
 inline Bajty vzor_gvd() {

@@ -1,4 +1,6 @@
 // testy/gvd/zaplneni_test.cpp - the layout at the start minute; locomotives and sets out of the depot.
+#include "fuzz/cile.h"
+#include "gvd/provoz.h"
 #include "gvd/zaplneni.h"
 #include "pomocne/provoz_sveta.h"
 
@@ -138,6 +140,25 @@ TEST_F(Zaplneni, EmptyLayoutAndEmptyTimetableAreHarmless) {
         pridej(radek(2000 + kod, {{kod, -1, 640}, {9, 660, -1}})).kolej = "13k";
     EXPECT_NO_THROW(zaplneni_kolejiste(630));
     EXPECT_EQ(pocet_vlaku(), 0);
+}
+
+// What the damaged timetables are made from is no idle example.
+TEST_F(Zaplneni, ExampleOfTheDamagedTimetablesFillsTheLayout) {
+    fuzz::postav_pro_provoz();
+    nacti_gvd_z(fuzz::vzor_provozu());
+    ASSERT_EQ(gvd_vlaky.size(), 8u);
+    hodiny("9:59:00");
+    zaplneni_kolejiste(599);
+    EXPECT_NE(najdi(20), nullptr); // at the platform
+    EXPECT_NE(najdi(8), nullptr);  // in Rybnice
+    EXPECT_NE(najdi(10), nullptr); // on its way to Javořín
+    EXPECT_EQ(cesty.back().ZT, 999);
+    hodiny("10:06:00");
+    krok_provozu();
+    EXPECT_NE(najdi(2), nullptr); // announced
+    hodiny("10:25:00");
+    krok_provozu();
+    EXPECT_NE(najdi(22), nullptr); // out of the depot
 }
 
 // --- where a train is placed
