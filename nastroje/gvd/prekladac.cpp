@@ -173,6 +173,18 @@ struct Prekladac {
             hlas_na(radek_vlaku, "jízda sahá za druhý den");
     }
 
+    // The trains that take over the vehicles grow with the train itself.
+    void posun_navazne(GvdVlak& v, int krok) {
+        for (std::int16_t& dalsi : v.vozy_vlaky) {
+            if (dalsi > 0 && dalsi + krok > INT16_MAX)
+                hlas_na(radek_vlaku, "číslo za „dale“ přeroste 32767");
+            else if (dalsi > 0)
+                dalsi = static_cast<std::int16_t>(dalsi + krok);
+        }
+        if (const auto navazny = ciselny_text(v.navazny_vlak); navazny && *navazny > 0 && *navazny < 399'999)
+            v.navazny_vlak = text_cisla(static_cast<std::int32_t>(*navazny) + krok);
+    }
+
     void vloz_vlak() {
         const auto prvni = [](const GvdVlak& v) {
             return v.odjezdy.empty() ? 0 : static_cast<int>(v.odjezdy[0]);
@@ -190,6 +202,7 @@ struct Prekladac {
             dalsi.cislo += takt->krok_cisla;
             if (dalsi.cislo2 > 0)
                 dalsi.cislo2 += takt->krok_cisla;
+            posun_navazne(dalsi, takt->krok_cisla);
             for (auto* casy : {&dalsi.prijezdy, &dalsi.odjezdy})
                 for (std::int16_t& t : *casy)
                     if (t >= 0)

@@ -93,7 +93,10 @@ void cti_hlavicku(Ctenar& c, Text& popis) {
 } // namespace
 
 void nacti_gvd() {
-    const Bajty bajty = nacti_soubor(simulace.soubor_gvd);
+    nacti_gvd_z(nacti_soubor(simulace.soubor_gvd));
+}
+
+void nacti_gvd_z(std::span<const std::uint8_t> bajty) {
     Ctenar c{bajty};
     Text popis;
     cti_hlavicku(c, popis);

@@ -8,6 +8,7 @@
 #include "zaklad/text.h"
 
 #include <cstdint>
+#include <span>
 #include <vector>
 
 struct GvdVlak {
@@ -73,6 +74,8 @@ extern std::vector<GvdVlak> gvd_vlaky;
 // lengths would be read past its end later on and is left out; a cut record ends the reading. A missing
 // file is the run-time error 53.
 void nacti_gvd();
+// The same from the bytes of a file.
+void nacti_gvd_z(std::span<const std::uint8_t> bajty);
 // Description in the header of a timetable; empty when the file is missing or damaged.
 Text popis_gvd(TextPohled soubor);
 

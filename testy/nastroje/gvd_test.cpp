@@ -81,6 +81,23 @@ TEST(PrekladGvd, ClockFaceServiceRepeatsToTheLastDeparture) {
     EXPECT_EQ(rad.vlaky[2].prijezdy[0], -1);
 }
 
+TEST(PrekladGvd, RepeatedTrainHandsItsSetToTheRepeatedOne) {
+    std::vector<ChybaZdroje> chyby;
+    const char* zdroj = "vlak Os 12\ndny Po\nrychlost 80\nvozy 843 054\ndale 0 14\nsouprava 14\n"
+                        "stavi LHO - 8:10\nstavi TVH 8:20 -\ntakt 60 10:10 4\n";
+    const JizdniRad rad = preloz_jizdni_rad(zdroj, chyby);
+    ASSERT_TRUE(chyby.empty());
+    ASSERT_EQ(rad.vlaky.size(), 3u);
+    EXPECT_EQ(rad.vlaky[2].cislo, 20);
+    EXPECT_EQ(rad.vlaky[2].vozy_vlaky, (std::vector<std::int16_t>{0, 22}));
+    EXPECT_EQ(rad.vlaky[2].navazny_vlak, "22");
+
+    const auto velke = chyby_zdroje("vlak Os 12\ndny Po\nrychlost 80\nvozy 843\ndale 32766\n"
+                                    "stavi LHO - 8:10\nstavi TVH 8:20 -\ntakt 60 9:10 4\n");
+    ASSERT_EQ(velke.size(), 1u);
+    EXPECT_EQ(velke[0].radek, 1);
+}
+
 TEST(PrekladGvd, FaultsNameTheLineAndTheTrain) {
     const auto chyby =
         chyby_zdroje("vlak Os 12\n  dny Po\n  rychlost 80\n  vozy 943\n  stavi XYZ 8:00 8:01\n");

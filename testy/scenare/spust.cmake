@@ -1,5 +1,6 @@
 # Runs one operator script twice, from its file and through a pipe, each time in a fresh installation:
-# both give the expected output, and both write the same train-number log, byte for byte.
+# both give the expected output, and both write the same train-number log, byte for byte; and the events
+# that the log must hold.
 file(REMOVE_RECURSE ${SLOZKA})
 get_filename_component(jmeno ${SCENAR} NAME_WE)
 
@@ -49,6 +50,20 @@ endif()
 foreach(log ${logy})
   porovnej(${SLOZKA}/1/program/GTN/${log} ${SLOZKA}/2/program/GTN/${log} "the logs differ")
 endforeach()
+
+# Where the script has a file *.udalosti, the events of its log are compared one by one.
+string(REGEX REPLACE "\\.tesk$" ".udalosti" udalosti ${SCENAR})
+if(EXISTS ${udalosti})
+  file(GLOB log ${SLOZKA}/1/program/GTN/*)
+  execute_process(COMMAND ${PYTHON} ${VYPIS_GTN} ${log} OUTPUT_FILE ${SLOZKA}/1/udalosti RESULT_VARIABLE kod)
+  if(kod)
+    message(FATAL_ERROR "${jmeno}: the log cannot be read")
+  elseif(DEFINED ENV{TESK_PREPIS})
+    configure_file(${SLOZKA}/1/udalosti ${udalosti} COPYONLY)
+  else()
+    porovnej(${udalosti} ${SLOZKA}/1/udalosti "the log holds other events")
+  endif()
+endif()
 
 string(REGEX REPLACE "\\.tesk$" ".ocekavano" ocekavano ${SCENAR})
 if(DEFINED ENV{TESK_PREPIS})
