@@ -480,6 +480,12 @@ void uprav_rychlost(int v) {
     vlak.rychlost = std::min(vlak.rychlost, vlak.max_rychlost);
 }
 
+void obnov_obslouzene() {
+    for (Vlak& vlak : vlaky)
+        if (vlak.cislo > 0 && !vlak.muze_jet)
+            vlak.obslouzeno = vlak.prvky.size();
+}
+
 void krok_jizdy() {
     if (simulace.pauza || cesty.empty())
         return;

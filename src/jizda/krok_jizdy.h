@@ -5,6 +5,11 @@
 // Nothing in a pause.
 void krok_jizdy();
 
+// --- after a load
+
+// Trains that wait at a stop have been looked after there: their departure is no new arrival.
+void obnov_obslouzene();
+
 // --- at any time
 
 // Next speed of train v. Braking takes no distance: there is no braking curve, which is meant.

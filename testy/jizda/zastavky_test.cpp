@@ -155,6 +155,8 @@ TEST_F(Zastavky, StationThatStandsTwiceIsServedTwiceButOnceForAnArrival) {
     EXPECT_FALSE(vlak(v).muze_jet);
     EXPECT_EQ(cesty[0].zacatek, 62); // the train waits on its route
     krok();
+    vlak(v).obslouzeno = 0; // as a load leaves it
+    obnov_obslouzene();
     minuta();
     ASSERT_TRUE(vlak(v).muze_jet);
     krok();
