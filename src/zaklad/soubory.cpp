@@ -30,17 +30,18 @@ bool je_na_disku(const std::string& cesta) {
     return ::stat(cesta.c_str(), &st) == 0;
 }
 
-// Name in `slozka` (empty or ending with "/") equal to `jmeno` but for case; empty when there is none.
-std::string jmeno_ve_slozce(const std::string& slozka, TextPohled jmeno) {
+// Names in `slozka` (empty or ending with "/") equal to `jmeno` but for case, by byte order.
+std::vector<std::string> jmena_ve_slozce(const std::string& slozka, TextPohled jmeno) {
     std::error_code kod;
-    std::string nejlepsi;
+    std::vector<std::string> jmena;
     for (fs::directory_iterator it(slozka.empty() ? "." : slozka, kod), konec; !kod && it != konec;
          it.increment(kod)) {
         std::string nalezene = it->path().filename().string();
-        if (stejne_jmeno(nalezene, jmeno) && (nejlepsi.empty() || nalezene < nejlepsi))
-            nejlepsi = std::move(nalezene);
+        if (stejne_jmeno(nalezene, jmeno))
+            jmena.push_back(std::move(nalezene));
     }
-    return nejlepsi;
+    std::sort(jmena.begin(), jmena.end());
+    return jmena;
 }
 
 // The path with the disk's slashes. Of a name with a zero byte the disk would take the part before it:
@@ -53,32 +54,47 @@ std::string s_lomitky(TextPohled cesta) {
     return prosta;
 }
 
-// Walks the path part by part; `uplna` tells whether every part was found.
+// Walks the path part by part from `i` on. A folder may stand there under several cases ("data" beside
+// "DATA"): the one that holds the rest of the path is meant. `hotovo` becomes the path found; when there is
+// none, the longest beginning that exists and the rest as written.
+bool rozres_od(const std::string& prosta, std::size_t i, std::string& hotovo) {
+    while (i < prosta.size() && prosta[i] == '/') {
+        hotovo += '/';
+        ++i;
+    }
+    if (i >= prosta.size())
+        return true;
+    const std::size_t konec = std::min(prosta.find('/', i), prosta.size());
+    const std::string cast = prosta.substr(i, konec - i);
+    std::vector<std::string> moznosti{cast, na_utf8(cast)};
+    if (!je_na_disku(hotovo + moznosti[0]) && !je_na_disku(hotovo + moznosti[1]))
+        moznosti.clear();
+    for (std::string& jmeno : jmena_ve_slozce(hotovo, cast))
+        moznosti.push_back(std::move(jmeno));
+    std::string nejdelsi;
+    for (const std::string& moznost : moznosti) {
+        std::string pokus = hotovo + moznost;
+        if (!je_na_disku(pokus))
+            continue;
+        if (rozres_od(prosta, konec, pokus)) {
+            hotovo = std::move(pokus);
+            return true;
+        }
+        if (nejdelsi.empty())
+            nejdelsi = std::move(pokus);
+    }
+    hotovo = nejdelsi.empty() ? hotovo + na_utf8(prosta.substr(i)) : nejdelsi;
+    return false;
+}
+
+// The path on disk; `uplna` tells whether all of it exists.
 std::string rozres(TextPohled cesta, bool& uplna) {
     std::string prosta = s_lomitky(cesta);
     uplna = !prosta.empty();
-    if (uplna && je_na_disku(prosta))
+    if (!uplna || je_na_disku(prosta))
         return prosta;
     std::string hotovo;
-    std::size_t i = 0;
-    while (i < prosta.size()) {
-        if (prosta[i] == '/') {
-            hotovo += '/';
-            ++i;
-            continue;
-        }
-        const std::size_t konec = std::min(prosta.find('/', i), prosta.size());
-        const std::string cast = prosta.substr(i, konec - i);
-        std::string nalezena = cast;
-        if (uplna && !je_na_disku(hotovo + nalezena)) {
-            nalezena = na_utf8(cast);
-            if (!je_na_disku(hotovo + nalezena))
-                nalezena = jmeno_ve_slozce(hotovo, cast);
-        }
-        uplna = uplna && !nalezena.empty();
-        hotovo += uplna ? nalezena : na_utf8(cast);
-        i = konec;
-    }
+    uplna = rozres_od(prosta, 0, hotovo);
     return hotovo;
 }
 

@@ -62,6 +62,14 @@ TEST_F(Soubory, ExactNameWinsThenTheFirstByByteOrder) {
     EXPECT_EQ(cti("DATA\\tesk.top"), "maly");
 }
 
+TEST_F(Soubory, FolderUnderTwoCasesIsTheOneThatHoldsTheFile) {
+    poloz("data/tesk.top", "delky");
+    poloz("DATA/VOZY/560.ico", "vuz");
+    EXPECT_EQ(cti("DATA\\tesk.top"), "delky");
+    EXPECT_EQ(cti("data\\vozy\\560.ICO"), "vuz");
+    EXPECT_FALSE(soubor_existuje(slozka.cesta + "Data\\VOZY\\tesk.top"));
+}
+
 TEST_F(Soubory, CzechNamesAreFoundInAnyCase) {
     poloz("gvd/GVD Léto Žatec.dat", "leto");
     poloz("gvd/日.dat", "jiny svet");
