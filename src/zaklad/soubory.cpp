@@ -66,11 +66,13 @@ bool rozres_od(const std::string& prosta, std::size_t i, std::string& hotovo) {
         return true;
     const std::size_t konec = std::min(prosta.find('/', i), prosta.size());
     const std::string cast = prosta.substr(i, konec - i);
-    std::vector<std::string> moznosti{cast, na_utf8(cast)};
-    if (!je_na_disku(hotovo + moznosti[0]) && !je_na_disku(hotovo + moznosti[1]))
-        moznosti.clear();
-    for (std::string& jmeno : jmena_ve_slozce(hotovo, cast))
-        moznosti.push_back(std::move(jmeno));
+    // the exact name first, then the others, each tried once
+    std::vector<std::string> moznosti = jmena_ve_slozce(hotovo, cast);
+    for (const std::string& presne : {na_utf8(cast), cast})
+        if (const auto jmeno = std::find(moznosti.begin(), moznosti.end(), presne); jmeno != moznosti.end())
+            std::rotate(moznosti.begin(), jmeno, jmeno + 1);
+        else if (je_na_disku(hotovo + presne))
+            moznosti.insert(moznosti.begin(), presne);
     std::string nejdelsi;
     for (const std::string& moznost : moznosti) {
         std::string pokus = hotovo + moznost;
