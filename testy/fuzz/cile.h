@@ -5,6 +5,7 @@
 #pragma once
 
 #include "app/cas.h"
+#include "cesty/tabulky.h"
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
 #include "gvd/zaplneni.h"
@@ -183,6 +184,51 @@ inline Bajty vzor_gvd() {
     return soubor.bajty;
 }
 
+inline void zkus_cesty(Vstup vstup) {
+    zaznamy<ZaznamCesty>(vstup, [](auto& a, auto& z) { popis_zaznamu_cesty(a, z); });
+    const std::vector<ZaznamCesty> cesty_souboru = cti_cesty(Bajty(vstup.begin(), vstup.end()));
+    musi(cesty_souboru.size() <= vstup.size() / 11, "a route takes eleven bytes at least");
+    for (const ZaznamCesty& z : cesty_souboru)
+        musi(z.druhy.size() == z.prvky.size() && z.polohy.size() == z.prvky.size(),
+             "the lists of a route go together");
+}
+inline Bajty vzor_cest() {
+    const ZaznamCesty prvni{287, 600, {87, 33, 404, 600}, {1, 2, 1, 1}, {2, 12, 0, 2}, 0};
+    const ZaznamCesty druhy{601, 12, {650, 107, 12}, {1, 1, 1}, {2, 0, 2}, 1};
+    Zapisovac soubor;
+    popis_zaznamu_cesty(soubor, prvni);
+    popis_zaznamu_cesty(soubor, druhy);
+    return soubor.bajty;
+}
+
+inline void zkus_vazby(Vstup vstup) {
+    zaznamy<ZaznamVazeb>(vstup, [](auto& a, auto& z) { popis_zaznamu_vazeb(a, z); });
+    musi(cti_vazby(Bajty(vstup.begin(), vstup.end())).size() <= vstup.size() / 5,
+         "a switch takes five bytes");
+}
+inline Bajty vzor_vazeb() {
+    const ZaznamVazeb samotna{14, {255}, "14/1"};
+    const ZaznamVazeb sprazena{53, {54, 55}, "53/54"};
+    Zapisovac soubor;
+    popis_zaznamu_vazeb(soubor, samotna);
+    popis_zaznamu_vazeb(soubor, sprazena);
+    return soubor.bajty;
+}
+
+inline void zkus_makra(Vstup vstup) {
+    zaznamy<ZaznamMakra>(vstup, [](auto& a, auto& z) { popis_zaznamu_makra(a, z); });
+    musi(cti_makra(Bajty(vstup.begin(), vstup.end())).size() <= vstup.size() / 8,
+         "a macro takes eight bytes");
+}
+inline Bajty vzor_maker() {
+    const ZaznamMakra prvni{"A", {1, 2}, {287, 511}, {600, 558}};
+    const ZaznamMakra druhe{"B", {1}, {601}, {12}};
+    Zapisovac soubor;
+    popis_zaznamu_makra(soubor, prvni);
+    popis_zaznamu_makra(soubor, druhe);
+    return soubor.bajty;
+}
+
 // Texts from files: conversions of characters and numbers.
 inline void zkus_texty(Vstup vstup) {
     const TextPohled text(reinterpret_cast<const char*>(vstup.data()), vstup.size());
@@ -215,6 +261,8 @@ inline constexpr std::array kCile = {
     Cil{"relief", zkus_relief, vzor_reliefu},      Cil{"topologie", zkus_topologii, vzor_topologie},
     Cil{"prejezdy", zkus_prejezdy, vzor_prejezdu}, Cil{"gvd", zkus_gvd, vzor_gvd},
     Cil{"provoz", zkus_provoz, vzor_provozu},      Cil{"texty", zkus_texty, vzor_textu},
+    Cil{"cesty", zkus_cesty, vzor_cest},           Cil{"vazby", zkus_vazby, vzor_vazeb},
+    Cil{"makra", zkus_makra, vzor_maker},
 };
 
 } // namespace fuzz
