@@ -19,6 +19,7 @@
 #include "cesty/volba.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
+#include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/vyhybky.h"
 #include "relief/relief.h"
@@ -31,11 +32,6 @@
 #include <algorithm>
 #include <string>
 #include <vector>
-
-struct Udalost {
-    int kod, prvek, hodnota;
-    bool operator==(const Udalost&) const = default;
-};
 
 inline Bajty bajty_cest(const std::vector<ZaznamCesty>& zaznamy) {
     Zapisovac z;

@@ -7,6 +7,7 @@
 #include "cesty/zasobnik.h"
 #include "desk/menu.h"
 #include "pomocne/male_kolejiste.h"
+#include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/navestidla.h"
 #include "prvky/stanoviste.h"
@@ -29,7 +30,7 @@ struct ObsluhaNavestidla : testing::Test {
         relief.lblcas[0].text = "12:00:00";
         simulace.pauza = false;
         gtn_otevri();
-        zacatek_logu = log().size();
+        zacatek_logu = bajty_logu(svet).size();
     }
     static Prvek& navestidlo(int n, int glyf, TextPohled nazev) {
         Prvek& prvek = navestidla(n).zaloz(n);
@@ -61,29 +62,7 @@ struct ObsluhaNavestidla : testing::Test {
         c.PN_do = ted_s() + zbyva;
         return c;
     }
-    Bajty log() const {
-        gtn_vyprazdni();
-        return svet.precti("GTN/260105.gtn");
-    }
-    struct Udalost {
-        int kod, prvek, hodnota;
-        bool operator==(const Udalost&) const = default;
-    };
-    std::vector<Udalost> udalosti() const {
-        const Bajty b = log();
-        std::vector<Udalost> vse;
-        for (std::size_t i = zacatek_logu; i + 11 <= b.size(); i += 11)
-            vse.push_back({b[i + 4], b[i + 5] + 256 * b[i + 6],
-                           b[i + 7] + 256 * b[i + 8] + 65536 * b[i + 9] + 16777216 * b[i + 10]});
-        return vse;
-    }
-    static const PolozkaMenu& polozka(TextPohled jmeno) {
-        const auto m = std::find_if(menu.polozky.begin(), menu.polozky.end(),
-                                    [&](const PolozkaMenu& x) { return x.jmeno == jmeno; });
-        if (m == menu.polozky.end())
-            throw std::runtime_error(std::string(jmeno));
-        return *m;
-    }
+    std::vector<Udalost> udalosti() const { return udalosti_logu(svet, zacatek_logu); }
     // Captions of the enabled entries, in order.
     static std::string nabidka(int s) {
         menu_navestidla(s);
@@ -438,7 +417,7 @@ TEST_F(Automat, EveryPostHasItsOwnPairs) {
     std::vector<RadekCesty> radky;
     for (const auto& [post, pary] : seznamy)
         for (const auto& [z, k] : pary) {
-            navestidlo(z, 229, "XXX " + text_cisla(z));
+            navestidlo(z, 229, "THN " + text_cisla(z));
             radky.push_back({static_cast<std::int16_t>(z),
                              static_cast<std::int16_t>(k),
                              {100, static_cast<std::int16_t>(k)},
@@ -470,13 +449,13 @@ TEST_F(ObsluhaNavestidla, PostMenuKeepsTheLookOfTheRealDesk) {
                                  "REZIM", "AH", "VDS", "DK", "RESET", "PR. VLAKY", "POPISKY"}));
     EXPECT_EQ(menu.polozky[0].jmeno, "miNazev_stanoviste");
     EXPECT_EQ(menu.polozky[1].jmeno, "miNazev_stanoviste_zkr");
-    EXPECT_EQ(polozka("miRESET").akce, nullptr);
-    EXPECT_TRUE(polozka("miAH").povolena);
+    EXPECT_EQ(polozka_menu("miRESET").akce, nullptr);
+    EXPECT_TRUE(polozka_menu("miAH").povolena);
     for (int post = 0; post <= 38; ++post) {
         menu_stanoviste(post);
         const bool predpoved = (post >= 1 && post <= 6 && post != 3) || (post >= 17 && post <= 20);
-        EXPECT_EQ(polozka("miPredvidane_vlaky").viditelna, predpoved) << post;
-        EXPECT_EQ(polozka("miAH").povolena,
+        EXPECT_EQ(polozka_menu("miPredvidane_vlaky").viditelna, predpoved) << post;
+        EXPECT_EQ(polozka_menu("miAH").povolena,
                   post == 1 || post == 2 || post == 4 || post == 6 || post == 11 || post == 13);
     }
 }
@@ -486,7 +465,7 @@ TEST_F(ObsluhaNavestidla, StationNamesGoOffAndOnTogether) {
     relief.popis_stanice.zaloz(3).viditelny = true;
     relief.popis_stanice.zaloz(7).viditelny = true;
     menu_stanoviste(1);
-    polozka("miPopisky").akce(polozka("miPopisky").cil);
+    polozka_menu("miPopisky").akce(polozka_menu("miPopisky").cil);
     EXPECT_FALSE(relief.popis_stanice[3].viditelny());
     EXPECT_FALSE(relief.popis_stanice[7].viditelny());
     prepni_popisky();

@@ -4,6 +4,7 @@
 #include "cesty/cesta.h"
 #include "cesty/tik_volby.h"
 #include "desk/menu.h"
+#include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/prejezdy_stanice.h"
 
@@ -18,13 +19,6 @@ struct PrejezdStanice : testing::Test {
         relief.lblPrejezd.zaloz(1).barva = barvy::seda;
         relief.lblcas[0].text = "12:00:00";
         simulace.pauza = false;
-    }
-    static const PolozkaMenu& polozka(TextPohled jmeno) {
-        const auto p = std::find_if(menu.polozky.begin(), menu.polozky.end(),
-                                    [&](const PolozkaMenu& x) { return x.jmeno == jmeno; });
-        if (p == menu.polozky.end())
-            throw std::runtime_error(std::string(jmeno));
-        return *p;
     }
     static Text pruh(std::initializer_list<int> glyfy) {
         Text text;
@@ -145,17 +139,17 @@ TEST_F(PrejezdStanice, MenuNamesTheCrossingByItsKilometre) {
 
 TEST_F(PrejezdStanice, MenuOffersTheEmergencyOpeningOrTheEndOfTheClosure) {
     menu_prejezdu(0);
-    EXPECT_TRUE(polozka("miNOT").viditelna);
-    EXPECT_FALSE(polozka("miZUZ").viditelna);
-    polozka("miUZ").akce(polozka("miUZ").cil);
+    EXPECT_TRUE(polozka_menu("miNOT").viditelna);
+    EXPECT_FALSE(polozka_menu("miZUZ").viditelna);
+    polozka_menu("miUZ").akce(polozka_menu("miUZ").cil);
     menu_prejezdu(0);
-    EXPECT_FALSE(polozka("miNOT").viditelna);
-    EXPECT_TRUE(polozka("miZUZ").viditelna);
-    EXPECT_EQ(polozka("miZUZ").text, "ZUZ");
-    polozka("miZUZ").akce(polozka("miZUZ").cil);
+    EXPECT_FALSE(polozka_menu("miNOT").viditelna);
+    EXPECT_TRUE(polozka_menu("miZUZ").viditelna);
+    EXPECT_EQ(polozka_menu("miZUZ").text, "ZUZ");
+    polozka_menu("miZUZ").akce(polozka_menu("miZUZ").cil);
     EXPECT_EQ(stanicni_prejezdy[0], StanicniPrejezd{});
-    EXPECT_EQ(polozka("miSTIT").akce, nullptr);
-    EXPECT_EQ(polozka("miDK").akce, nullptr);
+    EXPECT_EQ(polozka_menu("miSTIT").akce, nullptr);
+    EXPECT_EQ(polozka_menu("miDK").akce, nullptr);
 }
 
 TEST_F(PrejezdStanice, MenuShowsTheCounterToTheDeveloperOnly) {

@@ -2,6 +2,7 @@
 #include "app/blikani.h"
 #include "desk/menu.h"
 #include "desk/zprava.h"
+#include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/souhlasy.h"
 #include "zaklad/cisla.h"
@@ -19,18 +20,13 @@ struct Souhlas : testing::Test {
         relief.lblcas[0].text = "12:00:00";
         simulace.pauza = false;
         gtn_otevri();
-        zapsano = log().size();
-    }
-    Bajty log() const {
-        gtn_vyprazdni();
-        return svet.precti("GTN/260105.gtn");
+        zapsano = bajty_logu(svet).size();
     }
     // Records of the log since the test began: code and element.
     std::vector<std::pair<int, int>> udalosti() const {
-        const Bajty b = log();
         std::vector<std::pair<int, int>> vse;
-        for (std::size_t i = zapsano; i + 11 <= b.size(); i += 11)
-            vse.emplace_back(b[i + 4], b[i + 5] + 256 * b[i + 6]);
+        for (const Udalost& u : udalosti_logu(svet, zapsano))
+            vse.emplace_back(u.kod, u.prvek);
         return vse;
     }
     std::size_t zapsano = 0;

@@ -3,6 +3,7 @@
 #include "app/simulace.h"
 #include "desk/menu.h"
 #include "pomocne/male_kolejiste.h"
+#include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/vyhybky.h"
 #include "zaklad/chyba.h"
@@ -30,50 +31,24 @@ struct Vyhybka : testing::Test {
         relief.lblcas[0].text = "12:00:00";
         simulace.pauza = false;
         gtn_otevri();
-        zacatek_logu = log().size();
+        zacatek_logu = bajty_logu(svet).size();
     }
     static void stav(int n, int s) {
         relief.imgVyhybka[n].stav = text_cisla(s);
         relief.imgVyhybka[n].obrazek = static_cast<std::int16_t>(s + 100);
     }
     static int stav(int n) { return stav_vyhybky_cislo(n); }
-    Bajty log() const {
-        gtn_vyprazdni();
-        return svet.precti("GTN/260105.gtn");
-    }
-    struct Udalost {
-        int kod, prvek, hodnota;
-        bool operator==(const Udalost&) const = default;
-    };
-    std::vector<Udalost> udalosti() const {
-        const Bajty b = log();
-        std::vector<Udalost> vse;
-        for (std::size_t i = zacatek_logu; i + 11 <= b.size(); i += 11)
-            vse.push_back({b[i + 4], b[i + 5] + 256 * b[i + 6],
-                           b[i + 7] + 256 * b[i + 8] + 65536 * b[i + 9] + 16777216 * b[i + 10]});
-        return vse;
-    }
-    static const PolozkaMenu& polozka(TextPohled jmeno) {
-        const auto m = std::find_if(menu.polozky.begin(), menu.polozky.end(),
-                                    [&](const PolozkaMenu& x) { return x.jmeno == jmeno; });
-        if (m == menu.polozky.end())
-            throw std::runtime_error(std::string(jmeno));
-        return *m;
-    }
+    std::vector<Udalost> udalosti() const { return udalosti_logu(svet, zacatek_logu); }
     // Which of S+, S-, S+ b, S- b the menu of n offers.
     static std::string nabidka(int n) {
         menu_vyhybky(n);
         std::string vse;
         for (const TextPohled jmeno : {"miPLUS", "miMINUS", "miPLUS_B", "miMINUS_B"})
-            vse += polozka(jmeno).povolena ? '1' : '0';
+            vse += polozka_menu(jmeno).povolena ? '1' : '0';
         return vse;
     }
     std::size_t zacatek_logu = 0;
 };
-
-std::ostream& operator<<(std::ostream& o, const Vyhybka::Udalost& u) {
-    return o << "{" << u.kod << ", " << u.prvek << ", " << u.hodnota << "}";
-}
 
 } // namespace
 
@@ -451,7 +426,7 @@ TEST_F(Vyhybka, MenuOffersWhatThePositionAllowsInEveryState) {
             continue; // no such position
         }
         EXPECT_EQ(nabidka(6), cekano) << s;
-        EXPECT_TRUE(polozka("miVyh_nouz").povolena);
+        EXPECT_TRUE(polozka_menu("miVyh_nouz").povolena);
     }
 }
 
@@ -472,7 +447,7 @@ TEST_F(Vyhybka, SecondThrowByHandLeavesTheFirstSwitchMovingUntilNouz) {
     EXPECT_EQ(stav_vyhybek.prehoz_vyhybka, 6);
     EXPECT_TRUE(vyhybka_v_pohybu(5));
     menu_vyhybky(5);
-    polozka("miVyh_nouz").akce(polozka("miVyh_nouz").cil);
+    polozka_menu("miVyh_nouz").akce(polozka_menu("miVyh_nouz").cil);
     EXPECT_FALSE(vyhybka_v_pohybu(5));
     EXPECT_EQ(stav(5), 3);
     EXPECT_EQ(stav_vyhybek.prehoz_vyhybka, 6);
@@ -489,7 +464,7 @@ TEST_F(Vyhybka, EmergencyEndFreesALockedSwitchAndLeavesItsPartnersAlone) {
 
 TEST_F(Vyhybka, OrderThatTheStateNoLongerAllowsIsRefused) {
     menu_vyhybky(1);
-    const PolozkaMenu plus = polozka("miPLUS");
+    const PolozkaMenu plus = polozka_menu("miPLUS");
     stav(1, 52); // a route has locked it while the menu was open
     plus.akce(plus.cil);
     EXPECT_EQ(stav(1), 52);
