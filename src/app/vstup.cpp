@@ -8,6 +8,7 @@
 #include "cesty/vyber.h"
 #include "cesty/zasobnik.h"
 #include "desk/menu.h"
+#include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
@@ -256,6 +257,12 @@ bool klik_na_prvek(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
     case Druh::imgStanoviste:
         if (leve || prave)
             menu_stanoviste(n);
+        return true;
+    case Druh::lblTabulka_vlaku:
+        if (leve)
+            hledej_radek(n);
+        else if (prave)
+            menu_tabulky(n);
         return true;
     default: return false;
     }

@@ -209,6 +209,36 @@ void napln_vozy(const Vlak& v) {
     }
 }
 
+void ukaz_vozy() {
+    const int pocet = vozu_na_panelu();
+    int sberacu = 0;
+    bool pokracuje = false;
+    for (int n = 0; n < kSberacu; ++n)
+        if (relief.imgSberac.je(n))
+            relief.imgSberac[n].viditelny = false;
+    for (int i = 0; i <= relief.imgObrzaek_vlaku.nejvyssi(); ++i) {
+        Prvek& obrazek = relief.imgObrzaek_vlaku[i];
+        const bool vejde_se = simulace.dva_monitory || obrazek.vlevo() + obrazek.sirka() <= kPravyOkraj;
+        obrazek.viditelny = i < pocet && vejde_se;
+        relief.lblPopis_vozu[i].viditelny = obrazek.viditelny;
+        pokracuje = pokracuje || (i < pocet && !vejde_se);
+        if (!obrazek.viditelny || sberacu >= kSberacu || !ma_sberac(obrazek.popis()) ||
+            !relief.imgSberac.je(sberacu))
+            continue;
+        Prvek& sberac = relief.imgSberac[sberacu++];
+        sberac.vlevo = obrazek.vlevo() + (obrazek.sirka() - sberac.sirka()) / 2;
+        sberac.viditelny = true;
+    }
+    relief.lblPokracuje[0].viditelny = pokracuje;
+}
+
+void napln_stranku(TextPohled text, int vlak) {
+    Prvek& radek = relief.lblIinfo_o_vlaku[0];
+    radek.text = Text(text) + text_vlaku(vlak);
+    radek.stav = text_cisla(vlak);
+    napln_vozy(vlaky[static_cast<std::size_t>(vlak)]);
+}
+
 } // namespace
 
 int vlak_na_panelu() {
@@ -286,36 +316,24 @@ Text popis_vozu(TextPohled vuz, TextPohled urceni) {
     return text;
 }
 
-void ukaz_vozy() {
-    const int pocet = vozu_na_panelu();
-    int sberacu = 0;
-    bool pokracuje = false;
-    for (int n = 0; n < kSberacu; ++n)
-        if (relief.imgSberac.je(n))
-            relief.imgSberac[n].viditelny = false;
-    for (int i = 0; i <= relief.imgObrzaek_vlaku.nejvyssi(); ++i) {
-        Prvek& obrazek = relief.imgObrzaek_vlaku[i];
-        const bool vejde_se = simulace.dva_monitory || obrazek.vlevo() + obrazek.sirka() <= kPravyOkraj;
-        obrazek.viditelny = i < pocet && vejde_se;
-        relief.lblPopis_vozu[i].viditelny = obrazek.viditelny;
-        pokracuje = pokracuje || (i < pocet && !vejde_se);
-        if (!obrazek.viditelny || sberacu >= kSberacu || !ma_sberac(obrazek.popis()) ||
-            !relief.imgSberac.je(sberacu))
-            continue;
-        Prvek& sberac = relief.imgSberac[sberacu++];
-        sberac.vlevo = obrazek.vlevo() + (obrazek.sirka() - sberac.sirka()) / 2;
-        sberac.viditelny = true;
-    }
-    relief.lblPokracuje[0].viditelny = pokracuje;
+void ukaz_stranku_vlaku() {
+    const int vlak = vlak_na_panelu();
+    if (vlak >= 0 && relief.lblIinfo_o_vlaku[0].text->empty())
+        napln_stranku({}, vlak);
+    ukaz_vozy();
 }
 
 void info_o_vlaku(TextPohled text, int vlak) {
-    const Vlak* v = vlak_c(vlak);
-    if (v == nullptr)
+    if (vlak_c(vlak) == nullptr)
         return;
-    Prvek& radek = relief.lblIinfo_o_vlaku[0];
-    radek.text = Text(text) + text_vlaku(vlak);
-    radek.stav = text_cisla(vlak);
-    napln_vozy(*v);
+    napln_stranku(text, vlak);
     prepni_panel(Panel::vlak);
+}
+
+void zapomen_info(int vlak) {
+    if (vlak_na_panelu() != vlak)
+        return;
+    relief.lblIinfo_o_vlaku[0].stav = Text{};
+    for (int i = 0; i <= relief.imgObrzaek_vlaku.nejvyssi(); ++i)
+        relief.imgObrzaek_vlaku[i].povoleny = false;
 }

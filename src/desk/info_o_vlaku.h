@@ -17,9 +17,15 @@
 void info_o_vlaku(TextPohled text, int vlak);
 // The page is open and the train is the one on it.
 bool info_ukazuje(int vlak);
-// Vehicles of the train on display from the left; called when the train page opens. On one monitor those
-// that do not fit are hidden, and lblPokracuje says that the set goes on.
-void ukaz_vozy();
+// The train page opens: the line of the train on display, when the bar has been emptied, and its vehicles
+// from the left. On one monitor those that do not fit are hidden, and lblPokracuje says that the set goes
+// on.
+void ukaz_stranku_vlaku();
+
+// --- when a train is no more
+
+// The train is no longer on display: its pictures take no clicks, since its index will be another train's.
+void zapomen_info(int vlak);
 
 // --- at any time, without change
 

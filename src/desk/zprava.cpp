@@ -198,7 +198,7 @@ void prepni_panel(Panel panel) {
     if (panel == Panel::tabulka)
         relief.lblIinfo_o_vlaku[0].text = Text{};
     if (panel == Panel::vlak) {
-        ukaz_vozy();
+        ukaz_stranku_vlaku();
     } else {
         ukaz(relief.imgObrzaek_vlaku, false);
         ukaz(relief.lblPopis_vozu, false);
