@@ -28,9 +28,11 @@ constexpr int kPosledniSoused = 6;       // codes up to here are neighbours: the
 constexpr int kPosledniLokomotiva = 800; // series above run without a locomotive
 constexpr int kTHN = 9, kTHJ = 12;       // the two ends of the main station
 
+// The train of an index; none for a free record.
 const Vlak* vlak_c(int v) {
-    return v >= 0 && static_cast<std::size_t>(v) < vlaky.size() ? &vlaky[static_cast<std::size_t>(v)]
-                                                                : nullptr;
+    if (v < 0 || static_cast<std::size_t>(v) >= vlaky.size() || vlaky[static_cast<std::size_t>(v)].cislo < 1)
+        return nullptr;
+    return &vlaky[static_cast<std::size_t>(v)];
 }
 
 int rada_vozu(const std::vector<Text>& vozy, std::size_t i) {
@@ -244,8 +246,9 @@ void napln_stranku(TextPohled text, int vlak) {
 int vlak_na_panelu() {
     const Text& skryty = relief.lblIinfo_o_vlaku[0].stav;
     const auto cislo = ciselny_text(skryty);
-    return cislo && *cislo >= 0 && *cislo < static_cast<double>(vlaky.size()) ? static_cast<int>(*cislo)
-                                                                              : kZadny;
+    if (!cislo || *cislo < 0 || *cislo >= static_cast<double>(vlaky.size()))
+        return kZadny;
+    return vlak_c(static_cast<int>(*cislo)) != nullptr ? static_cast<int>(*cislo) : kZadny;
 }
 
 int vozu_na_panelu() {

@@ -50,6 +50,8 @@ Text radek_predpovedi(const Predvidany& p) {
 std::vector<Predvidany> predvidane(int stanice, int ted) {
     std::vector<Predvidany> vlaky_stanice;
     for (const GvdVlak& r : gvd_vlaky) {
+        if (r.stanice.empty())
+            continue;
         const bool konci = r.stanice.back() == stanice;
         if ((r.stanice.front() != stanice && !konci) || !aktivni_dnes(r))
             continue;
@@ -58,8 +60,9 @@ std::vector<Predvidany> predvidane(int stanice, int ted) {
         const int m = zpozdeni + prvni - ted;
         if (m < 0 || m > kPredpoved_min)
             continue;
+        const int posledni = r.odjezdy.back() >= 0 ? r.odjezdy.back() : r.prijezdy.back();
         if (konci)
-            vlaky_stanice.push_back({zpozdeni + r.odjezdy.back(), r.odjezdy.back(), zpozdeni, &r});
+            vlaky_stanice.push_back({zpozdeni + r.odjezdy.back(), posledni, zpozdeni, &r});
         else
             vlaky_stanice.push_back({m, prvni, zpozdeni, &r});
     }

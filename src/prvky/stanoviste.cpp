@@ -99,7 +99,8 @@ void menu_stanoviste(int post) {
     nove.polozky.push_back({"miAH", "AH", ma_prujezdne_cesty(post), true, automat, post});
     for (const TextPohled bez_ucinku : {"VDS", "DK", "RESET"})
         nove.polozky.push_back({"mi" + Text(bez_ucinku), Text(bez_ucinku), true, true, nullptr, post});
-    nove.polozky.push_back({"miPredvidane_vlaky", "PR. VLAKY", true, ma_predpoved(post), predvidane_vlaky, post});
+    nove.polozky.push_back(
+        {"miPredvidane_vlaky", "PR. VLAKY", true, ma_predpoved(post), predvidane_vlaky, post});
     nove.polozky.push_back({"miPopisky", "POPISKY", true, true, akce_popisky, post});
     otevri_menu(std::move(nove));
 }
