@@ -9,6 +9,7 @@
 #include "cesty/zasobnik.h"
 #include "desk/menu.h"
 #include "desk/zprava.h"
+#include "jizda/lokomotivy.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stanoviste.h"
@@ -257,6 +258,7 @@ bool klik_na_prvek(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
         if (leve || prave)
             menu_stanoviste(n);
         return true;
+    case Druh::popis_stanice: return (leve || prave) && menu_depa(n);
     default: return false;
     }
 }
@@ -435,7 +437,9 @@ void pis_do_pole(TextPohled text) {
 
 bool zvol_v_menu(TextPohled jmeno) {
     const auto polozka = std::find_if(menu.polozky.begin(), menu.polozky.end(), [&](const PolozkaMenu& p) {
-        return stejne_bez_velikosti(p.jmeno, jmeno) && p.viditelna;
+        const bool jeji = stejne_bez_velikosti(p.jmeno, jmeno) ||
+                          (!p.druhe_jmeno.empty() && stejne_bez_velikosti(p.druhe_jmeno, jmeno));
+        return jeji && p.viditelna;
     });
     if (polozka == menu.polozky.end() || !polozka->povolena)
         return false;
