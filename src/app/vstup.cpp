@@ -8,6 +8,7 @@
 #include "cesty/vyber.h"
 #include "cesty/zasobnik.h"
 #include "desk/menu.h"
+#include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
 #include "jizda/lokomotivy.h"
 #include "prvky/prejezdy_stanice.h"
@@ -259,6 +260,12 @@ bool klik_na_prvek(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
             menu_stanoviste(n);
         return true;
     case Druh::popis_stanice: return (leve || prave) && menu_depa(n);
+    case Druh::lblTabulka_vlaku:
+        if (leve)
+            hledej_radek(n);
+        else if (prave)
+            menu_tabulky(n);
+        return true;
     default: return false;
     }
 }

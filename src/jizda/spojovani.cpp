@@ -5,6 +5,7 @@
 #include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
+#include "desk/info_o_vlaku.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
@@ -246,6 +247,7 @@ void zrus_vlak(int v) {
                       (static_cast<int>(i) != v && vlaky[i].cislo > 0 && zobrazene_cislo(vlaky[i]) == cislo);
     if (!jeste_jeden || !jen_loko(vlak_c(v)))
         smaz_z_tabulky(cislo);
+    zapomen_info(v);
     Vlak& vlak = vlak_c(v);
     vlak.cislo = kZadny;
     vlak.cislo2 = kZadny;
