@@ -11,6 +11,7 @@
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
 #include "jizda/lokomotivy.h"
+#include "jizda/spojovani.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stanoviste.h"
@@ -260,6 +261,10 @@ bool klik_na_prvek(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
             menu_stanoviste(n);
         return true;
     case Druh::popis_stanice: return (leve || prave) && menu_depa(n);
+    case Druh::imgObrzaek_vlaku:
+        if (leve)
+            odvesit_klik(n);
+        return true;
     case Druh::lblTabulka_vlaku:
         if (leve)
             hledej_radek(n);
