@@ -10,6 +10,8 @@
 #include "desk/menu.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
+#include "jizda/lokomotivy.h"
+#include "jizda/spojovani.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stanoviste.h"
@@ -258,6 +260,11 @@ bool klik_na_prvek(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
         if (leve || prave)
             menu_stanoviste(n);
         return true;
+    case Druh::popis_stanice: return (leve || prave) && menu_depa(n);
+    case Druh::imgObrzaek_vlaku:
+        if (leve)
+            odvesit_klik(n);
+        return true;
     case Druh::lblTabulka_vlaku:
         if (leve)
             hledej_radek(n);
@@ -442,7 +449,9 @@ void pis_do_pole(TextPohled text) {
 
 bool zvol_v_menu(TextPohled jmeno) {
     const auto polozka = std::find_if(menu.polozky.begin(), menu.polozky.end(), [&](const PolozkaMenu& p) {
-        return stejne_bez_velikosti(p.jmeno, jmeno) && p.viditelna;
+        const bool jeji = stejne_bez_velikosti(p.jmeno, jmeno) ||
+                          (!p.druhe_jmeno.empty() && stejne_bez_velikosti(p.druhe_jmeno, jmeno));
+        return jeji && p.viditelna;
     });
     if (polozka == menu.polozky.end() || !polozka->povolena)
         return false;
