@@ -16,6 +16,7 @@
 #include "prvky/souhlasy.h"
 #include "prvky/stanoviste.h"
 #include "prvky/vyhybky.h"
+#include "save/debug_vypis.h"
 #include "technologie/provoz2.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
@@ -291,6 +292,7 @@ void klik_na_desku(Druh druh) {
     case Druh::lblZasobnik_PV: prepni_pv_vz(false); break;
     case Druh::lblZasobnik_VZ: prepni_pv_vz(true); break;
     case Druh::lblZasobnik_EZ: ukaz_provoz2(); break;
+    case Druh::imgDEBUG: debug_vypis(); break;
     case Druh::lblrychlost_simulace: zrychli(); break;
     default: break;
     }
