@@ -9,6 +9,7 @@
 #include "cesty/zasobnik.h"
 #include "desk/menu.h"
 #include "desk/tabulka_vlaku.h"
+#include "desk/zadani.h"
 #include "desk/zprava.h"
 #include "jizda/lokomotivy.h"
 #include "jizda/spojovani.h"
@@ -31,10 +32,6 @@ constexpr int kKrokKurzoru = 12; // pixels to the left or right
 constexpr int kRastrKurzoru = 5; // raster of the rows, pixels
 constexpr int kNejvyssiRychlost = 8;
 constexpr int kNejvyssiRychlostHry = 3; // without the debug marker
-
-// What the input field is for.
-constexpr int kRezimJednotka = 4;
-constexpr int kRezimCisloVlaku = 5;
 
 void pipni_klavesou() {
     pipni(800, 10);
@@ -123,10 +120,9 @@ bool odpovez_na_radek() {
 
 void enter() {
     if (vstup_otevren()) {
-        prikaz_radek.rezim_zadani = 0;
-        relief.txtZadav_pole[0].text = Text{};
-    }
-    if (!odpovez_na_radek() && vyber.mys_nad_prvkem && !simulace.pauza)
+        zpracuj_zadani(relief.txtZadav_pole[0].text());
+        potvrd_prikaz();
+    } else if (!odpovez_na_radek() && vyber.mys_nad_prvkem && !simulace.pauza)
         klik(vyber.mys_druh, vyber.mys_prvek, Tlacitko::leve, false);
     dalsi_zprava();
 }
@@ -134,17 +130,10 @@ void enter() {
 void esc() {
     pipni_klavesou();
     platforma.kurzor_viditelny(true);
-    if (vstup_otevren()) {
-        const bool cislo_vlaku = prikaz_radek.rezim_zadani == kRezimCisloVlaku;
-        prikaz_radek.rezim_zadani = 0;
-        prikaz_radek.kod_zpravy = 0;
-        relief.txtZadav_pole[0].text = Text{};
-        skryj_prikaz();
-        if (cislo_vlaku) // the question had stopped the clock
-            spust_hodiny();
-        return;
-    }
-    zrus_volbu();
+    if (vstup_otevren())
+        zahod_zadani();
+    else
+        zrus_volbu();
 }
 
 // Right click on what is under the pointer, or the search of a unit by its name.
@@ -156,9 +145,7 @@ void f2() {
         klik(vyber.mys_druh, vyber.mys_prvek, Tlacitko::prave, false);
         return;
     }
-    relief.txtZadav_pole[0].text = Text{};
-    prikaz_radek.rezim_zadani = kRezimJednotka;
-    zprava(" JEDNOTKA? ", {}, barvy::azurova, 0, true);
+    otevri_hledani();
 }
 
 void otevri_prohlizec_gvd() {
