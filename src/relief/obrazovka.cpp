@@ -113,7 +113,7 @@ constexpr Misto kMista[] = {
     prvek(Druh::lblVerze, {576, 3, 290, 14}).barva(barvy::seda),
     prvek(Druh::imgSound, {902, 2, 16, 16}).obrazek(kObrazekZvukZapnut),
     prvek(Druh::imgUloz, {922, 2, 16, 16}),
-    prvek(Druh::imgDEBUG, {942, 2, 16, 16}).skryty(),
+    prvek(Druh::imgDEBUG, {942, 2, 16, 16}).tip("Ladící výpis"_cz),
     prvek(Druh::imgPauza, {962, 2, 16, 16}).tip("Pauza [F10]"_cz),
     prvek(Druh::imgMinimalizuj, {982, 2, 16, 16}).tip("Minimalizovat okno simulace [F11]"_cz),
     prvek(Druh::imgKONEC, {1002, 2, 16, 16}),
