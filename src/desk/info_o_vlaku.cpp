@@ -44,10 +44,18 @@ Text prvni_urceni(const Vlak& v) {
     return v.vozy_urceni.empty() ? Text{} : v.vozy_urceni.front();
 }
 
+// Row of a number: today's, else the first one.
 const GvdVlak* radek_gvd(double cislo) {
-    const auto radek = std::find_if(gvd_vlaky.begin(), gvd_vlaky.end(),
-                                    [cislo](const GvdVlak& g) { return g.cislo == cislo; });
-    return radek == gvd_vlaky.end() ? nullptr : &*radek;
+    const GvdVlak* nalezeny = nullptr;
+    for (const GvdVlak& r : gvd_vlaky) {
+        if (r.cislo != cislo)
+            continue;
+        if (aktivni_dnes(r))
+            return &r;
+        if (nalezeny == nullptr)
+            nalezeny = &r;
+    }
+    return nalezeny;
 }
 
 // --- a train
@@ -378,10 +386,7 @@ void info_o_vlaku(TextPohled text, int vlak) {
 }
 
 void info_podle_gvd(std::int32_t cislo) {
-    const GvdVlak* radek = nullptr;
-    for (const GvdVlak& r : gvd_vlaky)
-        if (r.cislo == cislo && (radek == nullptr || (aktivni_dnes(r) && !aktivni_dnes(*radek))))
-            radek = &r;
+    const GvdVlak* radek = radek_gvd(cislo);
     if (radek == nullptr)
         return;
     uvolni_vozy();
