@@ -17,6 +17,7 @@
 #include "prvky/stanoviste.h"
 #include "prvky/vyhybky.h"
 #include "save/debug_vypis.h"
+#include "save/ulozeni.h"
 #include "technologie/provoz2.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
@@ -210,8 +211,21 @@ bool klavesa_provozu2(const Klavesa& k) {
     }
 }
 
+// The save dialogue, the clock standing. Not before the login: the end of a save starts the clock.
+void uloz() {
+    if (prihlaseni_bezi())
+        return;
+    zastav_hodiny();
+    uloz_dialog();
+}
+
 // Alt with a letter plays its macro, with Shift as well it begins the recording; Ctrl makes no difference.
 bool pismeno(const Klavesa& k) {
+    if (k.ctrl && !k.alt && k.pismeno == 'S') {
+        pipni_klavesou();
+        uloz();
+        return true;
+    }
     if (!k.alt)
         return false;
     if (k.shift) {
@@ -282,6 +296,7 @@ void klik_na_desku(Druh druh) {
     case Druh::lblPrikaz:
     case Druh::lblVolba: enter(); break;
     case Druh::imgSound: prepni_zvuk(); break;
+    case Druh::imgUloz: uloz(); break;
     case Druh::imgPauza: prepni_pauzu(); break;
     case Druh::imgMinimalizuj: minimalizuj_okno(); break;
     case Druh::imgKONEC: konec_programu(true); break;
