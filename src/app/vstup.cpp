@@ -8,11 +8,15 @@
 #include "cesty/vyber.h"
 #include "cesty/zasobnik.h"
 #include "desk/menu.h"
+#include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
+#include "jizda/lokomotivy.h"
+#include "jizda/spojovani.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stanoviste.h"
 #include "prvky/vyhybky.h"
+#include "save/debug_vypis.h"
 #include "technologie/provoz2.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
@@ -257,6 +261,17 @@ bool klik_na_prvek(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
         if (leve || prave)
             menu_stanoviste(n);
         return true;
+    case Druh::popis_stanice: return (leve || prave) && menu_depa(n);
+    case Druh::imgObrzaek_vlaku:
+        if (leve)
+            odvesit_klik(n);
+        return true;
+    case Druh::lblTabulka_vlaku:
+        if (leve)
+            hledej_radek(n);
+        else if (prave)
+            menu_tabulky(n);
+        return true;
     default: return false;
     }
 }
@@ -277,6 +292,7 @@ void klik_na_desku(Druh druh) {
     case Druh::lblZasobnik_PV: prepni_pv_vz(false); break;
     case Druh::lblZasobnik_VZ: prepni_pv_vz(true); break;
     case Druh::lblZasobnik_EZ: ukaz_provoz2(); break;
+    case Druh::imgDEBUG: debug_vypis(); break;
     case Druh::lblrychlost_simulace: zrychli(); break;
     default: break;
     }
@@ -435,7 +451,9 @@ void pis_do_pole(TextPohled text) {
 
 bool zvol_v_menu(TextPohled jmeno) {
     const auto polozka = std::find_if(menu.polozky.begin(), menu.polozky.end(), [&](const PolozkaMenu& p) {
-        return stejne_bez_velikosti(p.jmeno, jmeno) && p.viditelna;
+        const bool jeji = stejne_bez_velikosti(p.jmeno, jmeno) ||
+                          (!p.druhe_jmeno.empty() && stejne_bez_velikosti(p.druhe_jmeno, jmeno));
+        return jeji && p.viditelna;
     });
     if (polozka == menu.polozky.end() || !polozka->povolena)
         return false;
