@@ -5,6 +5,7 @@
 #include "app/kontrola.h"
 
 #include "app/cas.h"
+#include "app/kontrola_jizdy.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/vyber.h"
@@ -250,11 +251,13 @@ Nalez vlaky_na_kolejich() {
 } // namespace
 
 std::optional<Text> kontrola_stavu() {
-    if (!relief.lblcas.je(0) || !relief.lblcas[0].viditelny)
+    if (!relief.lblcas.je(0) || !relief.lblcas[0].viditelny) {
+        zapomen_kontrolu_jizdy();
         return std::nullopt;
-    constexpr std::array kKontroly = {hodiny,      koleje, vyhybky,        zaznamy_cest,      zavery_vyhybek,
-                                      volba,       pult,   souhlasy_trati, vlaky_na_kolejich, zaznamy_vlaku,
-                                      drzene_prvky};
+    }
+    constexpr std::array kKontroly = {
+        hodiny, koleje,         vyhybky,           zaznamy_cest,  zavery_vyhybek, volba,
+        pult,   souhlasy_trati, vlaky_na_kolejich, zaznamy_vlaku, drzene_prvky,   kontrola_jizdy};
     for (const auto kontrola : kKontroly)
         if (Nalez nalez = kontrola())
             return nalez;
