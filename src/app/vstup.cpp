@@ -7,18 +7,21 @@
 #include "cesty/volba.h"
 #include "cesty/vyber.h"
 #include "cesty/zasobnik.h"
+#include "desk/info_o_vlaku.h"
 #include "desk/menu.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zadani.h"
 #include "desk/zprava.h"
 #include "jizda/lokomotivy.h"
 #include "jizda/menu_koleje.h"
+#include "jizda/na_koleji.h"
 #include "jizda/spojovani.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stanoviste.h"
 #include "prvky/vyhybky.h"
 #include "save/debug_vypis.h"
+#include "save/ulozeni.h"
 #include "technologie/provoz2.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
@@ -26,6 +29,7 @@
 #include <algorithm>
 #include <array>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -33,6 +37,7 @@ constexpr int kKrokKurzoru = 12; // pixels to the left or right
 constexpr int kRastrKurzoru = 5; // raster of the rows, pixels
 constexpr int kNejvyssiRychlost = 8;
 constexpr int kNejvyssiRychlostHry = 3; // without the debug marker
+constexpr int kPrvkyTrati = 600;        // tracks of the lines begin here
 
 void pipni_klavesou() {
     pipni(800, 10);
@@ -198,8 +203,21 @@ bool klavesa_provozu2(const Klavesa& k) {
     }
 }
 
+// The save dialogue, the clock standing. Not before the login: the end of a save starts the clock.
+void uloz() {
+    if (prihlaseni_bezi())
+        return;
+    zastav_hodiny();
+    uloz_dialog();
+}
+
 // Alt with a letter plays its macro, with Shift as well it begins the recording; Ctrl makes no difference.
 bool pismeno(const Klavesa& k) {
+    if (k.ctrl && !k.alt && k.pismeno == 'S') {
+        pipni_klavesou();
+        uloz();
+        return true;
+    }
     if (!k.alt)
         return false;
     if (k.shift) {
@@ -209,6 +227,25 @@ bool pismeno(const Klavesa& k) {
         prehraj_makro(k.pismeno);
     }
     return true;
+}
+
+// F8: the trains on the track under the pointer, one after the other with each press.
+void info_pod_kurzorem() {
+    if (simulace.pauza || !vyber.mys_nad_prvkem)
+        return;
+    const bool je_stitek = vyber.mys_druh == Druh::cislo_koleje;
+    if (!je_stitek && vyber.mys_druh != Druh::kolej && vyber.mys_druh != Druh::Image1)
+        return;
+    const int e = je_stitek ? prvek_popisku(vyber.mys_prvek) : vyber.mys_prvek;
+    if (e >= kPrvkyTrati)
+        return;
+    pipni_klavesou();
+    if (!vlak_na_koleji(e))
+        return;
+    const std::vector<std::int16_t>& seznam = koleje_vlaky[static_cast<std::size_t>(zaznam_koleje(e))].vlaky;
+    const auto ukazany = std::find_if(seznam.begin(), seznam.end(), [](int v) { return info_ukazuje(v); });
+    const bool dalsi = ukazany != seznam.end() && ukazany + 1 != seznam.end();
+    info_o_vlaku({}, dalsi ? *(ukazany + 1) : seznam.front());
 }
 
 // Press on an element of the relief; false when the kind is no such element.
@@ -261,6 +298,7 @@ void klik_na_desku(Druh druh) {
     case Druh::lblPrikaz:
     case Druh::lblVolba: enter(); break;
     case Druh::imgSound: prepni_zvuk(); break;
+    case Druh::imgUloz: uloz(); break;
     case Druh::imgPauza: prepni_pauzu(); break;
     case Druh::imgMinimalizuj: minimalizuj_okno(); break;
     case Druh::imgKONEC: konec_programu(true); break;
@@ -395,7 +433,7 @@ bool klavesa(const Klavesa& k) {
         pipni_klavesou();
         prepni_panel(Panel::vlak);
         return true;
-    case KodKlavesy::f8: return false;
+    case KodKlavesy::f8: info_pod_kurzorem(); return true;
     case KodKlavesy::f9: otevri_prohlizec_gvd(); return true;
     case KodKlavesy::f10:
         if (!konec) {
