@@ -42,6 +42,9 @@ constexpr Barva kZvyraznenyRadek = 0xFF00FF;
 Vlak& vlak_c(int v) {
     return vlaky[static_cast<std::size_t>(v)];
 }
+bool je_vlak(int v) {
+    return v >= 0 && static_cast<std::size_t>(v) < vlaky.size() && vlak_c(v).cislo > 0;
+}
 
 // --- the trains of the menu
 
@@ -51,9 +54,7 @@ int vlak_polozky(int poradi) {
         return kZadny;
     const auto i = static_cast<std::size_t>(poradi);
     const int v = stav_menu_koleje.vlak[i];
-    const bool je = v >= 0 && static_cast<std::size_t>(v) < vlaky.size() && vlak_c(v).cislo > 0 &&
-                    vlak_c(v).cislo == stav_menu_koleje.cislo[i];
-    return je ? v : kZadny;
+    return je_vlak(v) && vlak_c(v).cislo == stav_menu_koleje.cislo[i] ? v : kZadny;
 }
 
 void vyber_vlaky(int e) {
@@ -64,7 +65,7 @@ void vyber_vlaky(int e) {
         return;
     std::size_t i = 0;
     for (const std::int16_t v : koleje_vlaky[static_cast<std::size_t>(zaznam)].vlaky) {
-        if (v < 0 || i == kVlakuVMenu)
+        if (!je_vlak(v) || i == kVlakuVMenu)
             continue;
         stav_menu_koleje.vlak[i] = v;
         stav_menu_koleje.cislo[i] = vlak_c(v).cislo;
@@ -222,7 +223,7 @@ int vlak_s_cislem(int e, std::int32_t cislo) {
     if (zaznam < 0)
         return kZadny;
     for (const std::int16_t v : koleje_vlaky[static_cast<std::size_t>(zaznam)].vlaky)
-        if (v >= 0 && !vlak_c(v).posun && zobrazene_cislo(vlak_c(v)) == cislo)
+        if (je_vlak(v) && !vlak_c(v).posun && zobrazene_cislo(vlak_c(v)) == cislo)
             return v;
     return kZadny;
 }
