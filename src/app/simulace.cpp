@@ -2,6 +2,7 @@
 #include "app/simulace.h"
 
 #include "app/blikani.h"
+#include "app/kontrola_jizdy.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
 #include "cesty/vyber.h"
@@ -53,6 +54,7 @@ void nova_simulace() {
     menu = Menu{};
     blikani = Blikani{};
     provoz2 = Provoz2{};
+    zapomen_kontrolu_jizdy();
 }
 
 bool je_ladeni() {

@@ -64,10 +64,8 @@ std::uint8_t prvni_rychlost(int stanice, std::uint8_t rychlost) {
 }
 
 void pridej_casy(Vlak& v, const GvdVlak& r) {
-    for (std::size_t i = 0; i < r.stanice.size(); ++i) {
-        v.prijezd.push_back(na_integer(r.prijezdy[i] + korekce(r.prijezdy[i])));
-        v.odjezd.push_back(na_integer(r.odjezdy[i] + korekce(r.odjezdy[i])));
-    }
+    v.prijezd = dnesni_casy(r.prijezdy);
+    v.odjezd = dnesni_casy(r.odjezdy);
     v.odjezd_realny = v.odjezd;
 }
 
@@ -300,6 +298,14 @@ std::int16_t korekce(std::int16_t minuta) {
     const int m = simulace.minuty_simulace + simulace.cas_zacatku;
     const bool az_zitra = static_cast<double>(m % kDen_min) / minuta > 1.5;
     return na_integer(m / kDen_min * kDen_min + (az_zitra ? kDen_min : 0));
+}
+
+std::vector<std::int16_t> dnesni_casy(const std::vector<std::int16_t>& casy) {
+    std::vector<std::int16_t> dnesni;
+    dnesni.reserve(casy.size());
+    for (const std::int16_t cas : casy)
+        dnesni.push_back(na_integer(cas + korekce(cas)));
+    return dnesni;
 }
 
 std::int32_t cislo_vlaku_pred(int vlak) {
