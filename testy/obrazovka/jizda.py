@@ -55,8 +55,7 @@ soubor("gvd/GVD_vlak.dat", b"\0" * 4 + text("jeden vlak") + pole("B", (1, 2)) + 
        5 * text("") + struct.pack("<BB", 127, 0))
 
 stul = s.Stul(program, slozka)
-s.nastav_cas(stul, "12", "00")
-s.prihlas(stul)
+s.prihlas(stul)  # at 12:00
 
 # the announced train stands green at the neighbour's platform, then red when its minute has come
 VLAK, TRAT, VYJEZD = s.stred(13, 8), s.stred(45, 8), s.stred(85, 8)
