@@ -228,15 +228,8 @@ void prevezmi_radek(Vlak& vlak, const GvdVlak& radek) {
     vlak.zpozdeni = 0;
     vlak.zpozdeni_vstup = 0;
     vlak.stanice = radek.stanice;
-    const auto dnesni = [](const std::vector<std::int16_t>& casy) {
-        std::vector<std::int16_t> vysledek;
-        vysledek.reserve(casy.size());
-        for (const std::int16_t cas : casy)
-            vysledek.push_back(na_integer(cas + korekce(cas)));
-        return vysledek;
-    };
-    vlak.prijezd = dnesni(radek.prijezdy);
-    vlak.odjezd = dnesni(radek.odjezdy);
+    vlak.prijezd = dnesni_casy(radek.prijezdy);
+    vlak.odjezd = dnesni_casy(radek.odjezdy);
     vlak.odjezd_realny = vlak.odjezd;
 }
 
