@@ -412,13 +412,26 @@ void uvolni_kolej(int v, int j) {
     nastav_metry(e, 0);
 }
 
+// A route that this train does not run on has the switch still before it: one that was released under the
+// train by RNZ may have been locked anew.
+bool drzi_jina_cesta(int n, int v) {
+    return std::any_of(cesty.begin(), cesty.end(), [&](const Cesta& c) {
+        if (c.zacatek < 0 || !c.prehozena || c.PN_zaver || c.Vlak == v)
+            return false;
+        for (int i = c.Umazat + 1; i <= posledni(c); ++i)
+            if (prvek_c(c, i) == n && druh_c(c, i) == druh_prvku::vyhybka)
+                return true;
+        return false;
+    });
+}
+
 void uvolni_vyhybku(int v, int j) {
     Vlak& vlak = vlak_c(v);
     const int n = vlak.prvky[static_cast<std::size_t>(j)];
     if (n == vlak.konec_omezeni)
         vlak.omezeni_ukonceno = true; // the whole train has cleared the last switch of its route
     const int stav = stav_vyhybky_cislo(n);
-    if (stav < 100 || stav > 150) // in between another route has reserved it
+    if ((stav < 100 || stav > 150) && !drzi_jina_cesta(n, v)) // in between another route has reserved it
         vyhybka_stav(n, vlak.prvky_poloha[static_cast<std::size_t>(j)], false, false);
 }
 
