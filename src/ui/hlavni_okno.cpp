@@ -8,6 +8,7 @@
 #include "cesty/duvod.h"
 #include "desk/menu.h"
 #include "ui/brana.h"
+#include "ui/nabidka.h"
 #include "ui/pismo.h"
 #include "ui/technologie.h"
 #include "zaklad/cisla.h"
@@ -17,11 +18,10 @@
 #include <QGuiApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QToolTip>
-#include <QWidgetAction>
 #include <QWindow>
 
 #include <cmath>
@@ -40,13 +40,6 @@ constexpr const char* kVzhledSeznamu =
     "QScrollBar:vertical { background: #15191e; width: 14px; margin: 0; }"
     "QScrollBar::handle:vertical { background: #505b68; min-height: 20px; }"
     "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }";
-constexpr const char* kVzhledNabidky =
-    "QMenu { background: #c8ccd0; color: #000; border: 1px solid #fff; padding: 1px; }"
-    "QMenu::item { padding: 2px 14px 2px 14px; min-width: 70px; }"
-    "QMenu::item:selected { background: #000080; color: #fff; }"
-    "QMenu::item:disabled { color: #8a9098; background: transparent; }";
-constexpr const char* kVzhledHlavy = "background: #000080; color: #fff; padding: 2px 14px;";
-
 HlavniOkno* jedine = nullptr;
 
 Tlacitko tlacitko_mysi(Qt::MouseButton tlacitko) {
@@ -97,6 +90,12 @@ Klavesa klavesa_qt(const QKeyEvent& udalost) {
         if (p.qt == udalost.key())
             k.kod = p.kod;
     return k;
+}
+
+constexpr Druh kTlacitkaPanelu[] = {Druh::cmdZpravy, Druh::cmDenik, Druh::cmdTABULKA, Druh::cmdVLAK};
+
+bool je_sipka(int klavesa) {
+    return klavesa >= Qt::Key_Left && klavesa <= Qt::Key_Down;
 }
 
 // The element is outlined under the pointer. Empty rows of the train table and the command line are not.
@@ -222,6 +221,10 @@ QRect HlavniOkno::v_okne(const QRect& twipy) const {
         .toAlignedRect();
 }
 
+QFont HlavniOkno::pismo_stolu() const {
+    return pismo_poli(kVyskaBunky * platno.meritko().bod() / devicePixelRatioF());
+}
+
 Bod HlavniOkno::kurzor_na_stole() const {
     const QPoint t = na_twipy(QPointF(mapFromGlobal(QCursor::pos())) + QPointF(0.5, 0.5));
     return {t.x() / kTwipu, t.y() / kTwipu};
@@ -240,12 +243,11 @@ void HlavniOkno::nastav_kurzor_na_stole(Bod kam) {
 void HlavniOkno::umisti() {
     sirka_pri_umisteni = sirka_stolu();
     platno.nastav_velikost((QSizeF(size()) * devicePixelRatioF()).toSize(), sirka_pri_umisteni);
-    const double bod = platno.meritko().bod() / devicePixelRatioF();
     for (ZobrazenySeznam& s : seznamy) {
         s.okno->setGeometry(v_okne(QRect(kMistoSeznamu.topLeft() * kTwipu, kMistoSeznamu.size() * kTwipu)));
-        s.okno->setFont(pismo_poli(kVyskaBunky * bod));
+        s.okno->setFont(pismo_stolu());
     }
-    pole->setFont(pismo_poli(kVyskaBunky * bod));
+    pole->setFont(pismo_stolu());
     update();
 }
 
@@ -264,6 +266,7 @@ void HlavniOkno::obnov() {
         obnov_seznam(s);
     obnov_pole();
     obnov_nabidku();
+    obnov_ohnisko();
     technologie->obnov();
     if (const int perioda = perioda_blikani_diag(); perioda == 0)
         blikani_diag.stop();
@@ -294,7 +297,7 @@ void HlavniOkno::obnov_seznam(ZobrazenySeznam& s) {
     s.okno->setCurrentRow(novy.vybrany < s.okno->count() ? novy.vybrany : -1);
     if (s.zobrazeny.viditelny != novy.viditelny) {
         s.okno->setVisible(novy.viditelny);
-        if (novy.viditelny)
+        if (novy.viditelny && !ohnisko)
             s.okno->setFocus();
         else
             setFocus();
@@ -336,28 +339,10 @@ void HlavniOkno::obnov_nabidku() {
     }
     if (menu.jmeno.empty())
         return;
-    nabidka = new QMenu(this);
-    nabidka->setStyleSheet(QLatin1String(kVzhledNabidky));
-    nabidka->setFont(pismo_poli(kVyskaBunky * platno.meritko().bod() / devicePixelRatioF()));
-    if (!menu.hlava.empty()) {
-        auto* hlava = new QLabel(na_qstring(menu.hlava));
-        hlava->setFont(nabidka->font());
-        hlava->setStyleSheet(QLatin1String(kVzhledHlavy));
-        auto* akce_hlavy = new QWidgetAction(nabidka);
-        akce_hlavy->setDefaultWidget(hlava);
-        akce_hlavy->setEnabled(false);
-        nabidka->addAction(akce_hlavy);
-    }
-    for (const PolozkaMenu& polozka : menu.polozky) {
-        if (!polozka.viditelna)
-            continue;
-        QAction* akce = nabidka->addAction(na_qstring(polozka.text));
-        akce->setEnabled(polozka.povolena);
-        connect(akce, &QAction::triggered, this, [this, jmeno = polozka.jmeno] {
-            v_jadre([&] { zvol_v_menu(jmeno); });
-            obnov();
-        });
-    }
+    nabidka = postav_nabidku(this, menu, pismo_stolu(), [this](const Text& jmeno) {
+        v_jadre([&] { zvol_v_menu(jmeno); });
+        obnov();
+    });
     // The choice is told after the menu has gone; what is closed without one is closed in the core too.
     connect(nabidka, &QMenu::aboutToHide, this, [this] {
         QTimer::singleShot(0, this, [this, ukazovala = nabidka_ukazuje] {
@@ -366,7 +351,11 @@ void HlavniOkno::obnov_nabidku() {
             obnov();
         });
     });
-    nabidka->popup(QCursor::pos());
+    const QPoint u_prvku = menu.misto ? v_okne(QRect(menu.misto->vlevo, menu.misto->nahore, 1, 1)).topLeft()
+                                      : mapFromGlobal(QCursor::pos());
+    nabidka->popup(mapToGlobal(u_prvku)); // it keeps within the screen by itself
+    if (z_klavesy)
+        vyber_prvni(*nabidka);
 }
 
 // --- from the operator to the core
@@ -389,21 +378,26 @@ void HlavniOkno::najed(QPointF misto) {
     najety = kde;
 }
 
-void HlavniOkno::mousePressEvent(QMouseEvent* udalost) {
-    const QPointF misto = udalost->position();
-    najed(misto);
+void HlavniOkno::klepni(QPointF misto, Tlacitko tlacitko, bool ctrl) {
     const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(misto));
-    const Tlacitko tlacitko = tlacitko_mysi(udalost->button());
-    if (!kde && udalost->button() == Qt::LeftButton && !isFullScreen() && windowHandle() != nullptr &&
-        na_twipy(misto).y() < kVyskaListy && windowHandle()->startSystemMove())
-        return; // the window is dragged by its bar
     v_jadre([&] {
         if (kde)
-            klik(kde->druh, kde->n, tlacitko, udalost->modifiers().testFlag(Qt::ControlModifier));
+            klik(kde->druh, kde->n, tlacitko, ctrl);
         else
             klik_na_plochu();
     });
     obnov();
+}
+
+void HlavniOkno::mousePressEvent(QMouseEvent* udalost) {
+    const QPointF misto = udalost->position();
+    najed(misto);
+    zaostri({});
+    const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(misto));
+    if (!kde && udalost->button() == Qt::LeftButton && !isFullScreen() && windowHandle() != nullptr &&
+        na_twipy(misto).y() < kVyskaListy && windowHandle()->startSystemMove())
+        return; // the window is dragged by its bar
+    klepni(misto, tlacitko_mysi(udalost->button()), udalost->modifiers().testFlag(Qt::ControlModifier));
 }
 
 void HlavniOkno::mouseDoubleClickEvent(QMouseEvent* udalost) {
@@ -413,7 +407,11 @@ void HlavniOkno::mouseDoubleClickEvent(QMouseEvent* udalost) {
         mousePressEvent(udalost);
         return;
     }
-    v_jadre([&] { dvojklik(kde->druh, kde->n); });
+    poklepej(*kde);
+}
+
+void HlavniOkno::poklepej(const Nalezeny& kde) {
+    v_jadre([&] { dvojklik(kde.druh, kde.n); });
     obnov();
 }
 
@@ -426,7 +424,43 @@ void HlavniOkno::leaveEvent(QEvent*) {
     najed({-1, -1});
 }
 
+// What the hand does with the buttons of the mouse, for those who have none: at the pointer.
+bool HlavniOkno::stisk_za_mys(const QKeyEvent& udalost) {
+    const bool ctrl = udalost.modifiers().testFlag(Qt::ControlModifier);
+    const int klavesa = udalost.key();
+    const QPointF misto = QPointF(mapFromGlobal(QCursor::pos())) + QPointF(0.5, 0.5);
+    if (ctrl && je_sipka(klavesa)) {
+        const QPoint smer(klavesa == Qt::Key_Left    ? -1
+                          : klavesa == Qt::Key_Right ? 1
+                                                     : 0,
+                          klavesa == Qt::Key_Up     ? -1
+                          : klavesa == Qt::Key_Down ? 1
+                                                    : 0);
+        if (const std::optional<QPoint> kam = platno.soused(na_twipy(misto), smer))
+            nastav_kurzor_na_stole({kam->x() / kTwipu, kam->y() / kTwipu});
+        return true;
+    }
+    if (klavesa == Qt::Key_Space && ohnisko) {
+        v_jadre([&] { klik(*ohnisko, 0, Tlacitko::leve, false); });
+        obnov();
+        return true;
+    }
+    if (klavesa != Qt::Key_Insert && klavesa != Qt::Key_Menu)
+        return false;
+    najed(misto);
+    if (klavesa == Qt::Key_Menu || udalost.modifiers().testFlag(Qt::ShiftModifier))
+        klepni(misto, Tlacitko::prave, ctrl);
+    else if (!udalost.modifiers().testFlag(Qt::AltModifier))
+        klepni(misto, Tlacitko::leve, ctrl);
+    else if (najety && najety->druh <= Druh::lblPN)
+        poklepej(*najety);
+    return true;
+}
+
 bool HlavniOkno::stisk(QKeyEvent* udalost) {
+    const QScopedValueRollback po_klavese(z_klavesy, true);
+    if (!provoz2_otevren() && stisk_za_mys(*udalost))
+        return true;
     const Klavesa k = klavesa_qt(*udalost);
     if (k.kod == KodKlavesy::zadna)
         return false;
@@ -434,6 +468,55 @@ bool HlavniOkno::stisk(QKeyEvent* udalost) {
     v_jadre([&] { znama = klavesa(k); });
     obnov();
     return znama;
+}
+
+// --- the focus of the keys: the desk as a whole, one of the panel's buttons, or the list below them
+
+void HlavniOkno::zaostri(std::optional<Druh> tlacitko) {
+    if (ohnisko == tlacitko)
+        return;
+    for (const std::optional<Druh>& co : {ohnisko, tlacitko})
+        if (co)
+            update(v_okne(misto_vstupu(*co, tabulka(*co)[0])));
+    ohnisko = tlacitko;
+}
+
+bool HlavniOkno::focusNextPrevChild(bool dalsi) {
+    if (provoz2_otevren())
+        return false; // the maintenance screen has lists of its own
+    if (!pole->isHidden())
+        return true; // until it is answered, the field keeps the keys
+    // the places in order: the desk, the buttons, the list that is open
+    constexpr int kTlacitek = static_cast<int>(std::size(kTlacitkaPanelu));
+    QListWidget* seznam = nullptr;
+    for (const ZobrazenySeznam& s : seznamy)
+        if (!s.okno->isHidden())
+            seznam = s.okno;
+    const int mist = 1 + kTlacitek + (seznam != nullptr ? 1 : 0);
+    int kde = seznam != nullptr && seznam->hasFocus() ? kTlacitek + 1 : 0;
+    for (int i = 0; i < kTlacitek; ++i)
+        if (ohnisko == kTlacitkaPanelu[i])
+            kde = i + 1;
+    kde = (kde + (dalsi ? 1 : mist - 1)) % mist;
+    zaostri(kde >= 1 && kde <= kTlacitek ? std::optional(kTlacitkaPanelu[kde - 1]) : std::nullopt);
+    if (kde > kTlacitek)
+        seznam->setFocus();
+    else
+        setFocus();
+    return true;
+}
+
+// A new delay brings the keys to the button of the messages, unless the operator is writing.
+void HlavniOkno::obnov_ohnisko() {
+    const bool zelene = relief.cmdZpravy[0].pozadi == barvy::zelena;
+    const std::size_t radku = relief.lstZpravy.radky.size();
+    const bool nova = zelene && (!zpravy_zelene || radku > zprav);
+    zpravy_zelene = zelene;
+    zprav = radku;
+    if (!nova || !pole->isHidden() || provoz2_otevren())
+        return;
+    setFocus();
+    zaostri(Druh::cmdZpravy);
 }
 
 void HlavniOkno::keyPressEvent(QKeyEvent* udalost) {
@@ -458,6 +541,8 @@ bool HlavniOkno::eventFilter(QObject* cil, QEvent* udalost) {
                        k->key() == Qt::Key_PageDown || k->key() == Qt::Key_Home || k->key() == Qt::Key_End;
     if (pohyb && !s_modifikatorem)
         return false;
+    if (k->key() == Qt::Key_Tab || k->key() == Qt::Key_Backtab)
+        return false; // on to the next place of the keys
     return stisk(k);
 }
 
@@ -530,5 +615,11 @@ void HlavniOkno::paintEvent(QPaintEvent* udalost) {
         const QRect cil = platno.v_bodech(misto_vstupu(najety->druh, tabulka(najety->druh)[najety->n]));
         p.setPen(QColor::fromRgb(kNajetiPrvku));
         p.drawRect(cil.adjusted(0, 0, -1, -1));
+    }
+    if (ohnisko && tabulka(*ohnisko).je(0)) {
+        const int okraj = platno.meritko().bodu(2);
+        const QRect cil = platno.v_bodech(misto_vstupu(*ohnisko, tabulka(*ohnisko)[0]));
+        p.setPen(QPen(barva_qt(tabulka(*ohnisko)[0].barva), platno.meritko().bodu(1), Qt::DotLine));
+        p.drawRect(cil.adjusted(okraj, okraj, -okraj - 1, -okraj - 1));
     }
 }

@@ -19,7 +19,7 @@ constexpr double kTloustkaKoleje = 3; // of a track line, pixels of the desk
 constexpr double kMezeraUseku = 1;    // by which a level track stops short of its ends: sections part there
 constexpr double kOdsazeniNohy = 0.6; // part of a leg that the switch leaves out on the side not set
 constexpr double kOdsazeniPohybu = 0.4;
-constexpr int kNejmensiCil = 10 * kTwipu; // no target for the pointer is smaller
+constexpr int kNejmensiCil = 13 * kTwipu; // no target for the pointer is smaller
 constexpr int kPresahRadku = 2;           // of the command line above and below its text, pixels of the desk
 constexpr int kPresahCisla = 2;           // what a label clears beside its text, pixels of the desk
 
@@ -51,6 +51,7 @@ enum class Zpusob : std::uint8_t {
     pruh,
     ramec,
     vuz,
+    popis_vozu,
     sberac,
 };
 
@@ -123,7 +124,7 @@ constexpr Styl kStyly[] = {
     {Druh::cmdVLAK, Zpusob::tlacitko, {}, false, true, 3},
     {Druh::lblIinfo_o_vlaku, Zpusob::odstavec, {}, false, true, 3},
     {Druh::imgObrzaek_vlaku, Zpusob::vuz, {}, false, true, 3},
-    {Druh::lblPopis_vozu, Zpusob::napis, {}, false, true, 3},
+    {Druh::lblPopis_vozu, Zpusob::popis_vozu, {}, false, true, 3},
     {Druh::lblPokracuje, Zpusob::napis, {}, false, false, 3},
     {Druh::shpVyhledavani, Zpusob::ramec, {}, false, false, 7},
 };
@@ -311,16 +312,43 @@ std::vector<TextPohled> radky_textu(TextPohled text, std::size_t sirka) {
     return radky;
 }
 
+std::size_t sloupcu_odstavce(const Prvek& prvek, bool zalamovat) {
+    return zalamovat && prvek.sirka > kSirkaZnaku ? static_cast<std::size_t>(prvek.sirka / kSirkaZnaku)
+                                                  : TextPohled::npos - 1;
+}
+
 void nakresli_odstavec(QPainter& p, const Meritko& m, const Prvek& prvek, bool zalamovat) {
     if (prvek.ramecek)
         p.fillRect(v_bodech(m, prvek), barva_qt(prvek.pozadi));
     const double sirka = kSirkaBunky * m.bod(), vyska = kVyskaBunky * m.bod();
-    const std::size_t sloupcu =
-        zalamovat && prvek.sirka > kSirkaZnaku ? static_cast<std::size_t>(prvek.sirka / kSirkaZnaku) : 1000;
+    const std::size_t sloupcu = sloupcu_odstavce(prvek, zalamovat);
     double y = m.y(prvek.nahore);
     for (const TextPohled radek : radky_textu(prvek.text(), sloupcu)) {
         const double x = zacatek_radku(m, prvek, sirka * static_cast<double>(radek.size()));
         kresli_radek(p, x, y, sirka, vyska, radek, prvek.barva, Znaky::pismena);
+        y += vyska;
+    }
+}
+
+// Lines under a vehicle's picture: what it is, and in brackets the train that it goes on with. The next
+// vehicle stands close by, so that no line may be wider than the picture.
+std::vector<TextPohled> radky_popisu(const Prvek& prvek) {
+    const auto sloupcu = static_cast<std::size_t>(std::max(1, prvek.sirka / kSirkaZnaku));
+    const TextPohled text = prvek.text();
+    const std::size_t zavorka = text.rfind(" (");
+    std::vector<TextPohled> radky = radky_textu(text.substr(0, zavorka), sloupcu);
+    if (zavorka != TextPohled::npos)
+        for (const TextPohled radek : radky_textu(text.substr(zavorka + 1), sloupcu))
+            radky.push_back(radek);
+    return radky;
+}
+
+void nakresli_popis_vozu(QPainter& p, const Meritko& m, const Prvek& prvek) {
+    const double sirka = kSirkaBunky * m.bod(), vyska = kVyskaBunky * m.bod();
+    double y = m.y(prvek.nahore);
+    for (const TextPohled radek : radky_popisu(prvek)) {
+        kresli_radek(p, zacatek_radku(m, prvek, sirka * static_cast<double>(radek.size())), y, sirka, vyska,
+                     radek, prvek.barva, Znaky::pismena);
         y += vyska;
     }
 }
@@ -585,6 +613,16 @@ QRect misto_kresby(Druh druh, int, const Prvek& prvek) {
         }
         break;
     }
+    case Zpusob::odstavec:
+    case Zpusob::radky:
+    case Zpusob::popis_vozu: { // the text may run on below its rectangle
+        const bool popis = styl(druh).zpusob == Zpusob::popis_vozu;
+        const std::size_t sloupcu = sloupcu_odstavce(prvek, styl(druh).zpusob == Zpusob::odstavec);
+        const auto radku =
+            static_cast<int>((popis ? radky_popisu(prvek) : radky_textu(prvek.text(), sloupcu)).size());
+        r = QRect(prvek.vlevo, prvek.nahore, prvek.sirka, std::max<int>(prvek.vyska, radku * kVyskaZnaku));
+        break;
+    }
     default: r = QRect(prvek.vlevo, prvek.nahore, prvek.sirka, prvek.vyska); break;
     }
     return r.adjusted(-kRezerva, -kRezerva, kRezerva, kRezerva);
@@ -631,6 +669,7 @@ void nakresli_prvek(QPainter& p, const Meritko& m, Druh druh, int n, const Prvek
         return;
     case Zpusob::ramec: nakresli_ramec(p, m, prvek); return;
     case Zpusob::vuz: nakresli_vuz(p, m, prvek); return;
+    case Zpusob::popis_vozu: nakresli_popis_vozu(p, m, prvek); return;
     case Zpusob::sberac: nakresli_sberac(p, m, prvek); return;
     }
 }

@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cstdlib>
 #include <tuple>
 
 namespace {
@@ -170,4 +171,27 @@ std::optional<Nalezeny> Platno::prvek_pod(QPoint twipy) const {
     if (nalezeny == nullptr)
         return std::nullopt;
     return Nalezeny{nalezeny->druh, nalezeny->n};
+}
+
+std::optional<QPoint> Platno::soused(QPoint odkud, QPoint smer) const {
+    constexpr int kNejmensiKrok = 4 * kTwipu, kVahaStranou = 4;
+    std::optional<QPoint> nejblizsi;
+    int nejmene = 0;
+    for (const Polozka& polozka : poradi) {
+        const Prvek& prvek =
+            nakreslene[static_cast<std::size_t>(polozka.druh)][static_cast<std::size_t>(polozka.n)];
+        if (!bere_vstup(polozka.druh) || !prvek.viditelny ||
+            (polozka.druh == Druh::lblTabulka_vlaku && prvek.text().find_first_not_of(' ') == Text::npos))
+            continue;
+        const QPoint stred = misto_vstupu(polozka.druh, prvek).center();
+        const QPoint cesta = stred - odkud;
+        const int vpred = QPoint::dotProduct(cesta, smer);
+        const int stranou = std::abs(cesta.x() * smer.y()) + std::abs(cesta.y() * smer.x());
+        const int cena = vpred + kVahaStranou * stranou;
+        if (vpred < kNejmensiKrok || (nejblizsi && cena >= nejmene))
+            continue;
+        nejblizsi = stred;
+        nejmene = cena;
+    }
+    return nejblizsi;
 }
