@@ -7,6 +7,9 @@
 #include "app/vstup.h"
 #include "cesty/duvod.h"
 #include "desk/menu.h"
+#include "desk/stitky.h"
+#include "jizda/menu_koleje.h"
+#include "technologie/provoz2.h"
 #include "ui/brana.h"
 #include "ui/nabidka.h"
 #include "ui/pismo.h"
@@ -94,6 +97,10 @@ Klavesa klavesa_qt(const QKeyEvent& udalost) {
 
 constexpr Druh kTlacitkaPanelu[] = {Druh::cmdZpravy, Druh::cmDenik, Druh::cmdTABULKA, Druh::cmdVLAK};
 
+bool je_tabulator(const QKeyEvent& k) {
+    return k.key() == Qt::Key_Tab || k.key() == Qt::Key_Backtab;
+}
+
 bool je_sipka(int klavesa) {
     return klavesa >= Qt::Key_Left && klavesa <= Qt::Key_Down;
 }
@@ -123,16 +130,39 @@ Text duvod_prvku(const Nalezeny& kde) {
     }
 }
 
+// Texts of the notes on a track, a line each.
+Text poznamky(int prvek) {
+    const int i = stitek_prvku(prvek);
+    if (i < 0)
+        return {};
+    const StitekPrvku& s = stitky[static_cast<std::size_t>(i)];
+    Text text;
+    const auto pridej = [&text](TextPohled druh, const Text& poznamka) {
+        if (poznamka.empty())
+            return;
+        text += '\n';
+        text += druh;
+        text += poznamka;
+    };
+    pridej("VYL: ", s.vyluka);
+    pridej("NVL: ", s.nvl);
+    pridej("STIT: ", s.stitek);
+    return text;
+}
+
 // Name that the pointer shows over an element.
 Text jmenovka(const Nalezeny& kde) {
     const Prvek& p = tabulka(kde.druh)[kde.n];
     switch (kde.druh) {
-    case Druh::Image1:
+    case Druh::Image1: return p.stav() + poznamky(kde.n);
+    case Druh::cislo_koleje: return p.popis() + poznamky(prvek_popisku(kde.n));
     case Druh::imgStanoviste: return p.stav;
+    case Druh::lblPopis_vozu: return p.text;
+    case Druh::imgObrzaek_vlaku:
+        return relief.lblPopis_vozu.je(kde.n) ? relief.lblPopis_vozu[kde.n].text() : p.popis();
     case Druh::navestidlo:
     case Druh::navestidlo_ser:
     case Druh::imgVyhybka:
-    case Druh::cislo_koleje:
     case Druh::imgSound:
     case Druh::imgUloz:
     case Druh::imgKONEC:
@@ -481,11 +511,15 @@ void HlavniOkno::zaostri(std::optional<Druh> tlacitko) {
     ohnisko = tlacitko;
 }
 
-bool HlavniOkno::focusNextPrevChild(bool dalsi) {
-    if (provoz2_otevren())
-        return false; // the maintenance screen has lists of its own
+// A window that is hidden gives the keys back to the desk. The way from place to place is dalsi_ohnisko().
+bool HlavniOkno::focusNextPrevChild(bool) {
+    setFocus();
+    return true;
+}
+
+void HlavniOkno::dalsi_ohnisko(bool dalsi) {
     if (!pole->isHidden())
-        return true; // until it is answered, the field keeps the keys
+        return; // until it is answered, the field keeps the keys
     // the places in order: the desk, the buttons, the list that is open
     constexpr int kTlacitek = static_cast<int>(std::size(kTlacitkaPanelu));
     QListWidget* seznam = nullptr;
@@ -503,7 +537,6 @@ bool HlavniOkno::focusNextPrevChild(bool dalsi) {
         seznam->setFocus();
     else
         setFocus();
-    return true;
 }
 
 // A new delay brings the keys to the button of the messages, unless the operator is writing.
@@ -528,6 +561,10 @@ bool HlavniOkno::eventFilter(QObject* cil, QEvent* udalost) {
     if (udalost->type() != QEvent::KeyPress)
         return QWidget::eventFilter(cil, udalost);
     auto* k = static_cast<QKeyEvent*>(udalost);
+    if (je_tabulator(*k)) {
+        dalsi_ohnisko(k->key() == Qt::Key_Tab);
+        return true;
+    }
     const bool s_modifikatorem = k->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
     if (cil == pole) {
         // The field keeps what writes and moves in it, copying included; the desk takes the rest.
@@ -541,8 +578,6 @@ bool HlavniOkno::eventFilter(QObject* cil, QEvent* udalost) {
                        k->key() == Qt::Key_PageDown || k->key() == Qt::Key_Home || k->key() == Qt::Key_End;
     if (pohyb && !s_modifikatorem)
         return false;
-    if (k->key() == Qt::Key_Tab || k->key() == Qt::Key_Backtab)
-        return false; // on to the next place of the keys
     return stisk(k);
 }
 
@@ -583,6 +618,11 @@ void HlavniOkno::resizeEvent(QResizeEvent*) {
 }
 
 bool HlavniOkno::event(QEvent* udalost) {
+    if (udalost->type() == QEvent::KeyPress && !provoz2_otevren())
+        if (const auto* k = static_cast<QKeyEvent*>(udalost); je_tabulator(*k)) {
+            dalsi_ohnisko(k->key() == Qt::Key_Tab);
+            return true;
+        }
     if (udalost->type() == QEvent::ToolTip) {
         const auto* napoveda = static_cast<QHelpEvent*>(udalost);
         const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(napoveda->pos()));
@@ -595,7 +635,8 @@ bool HlavniOkno::event(QEvent* udalost) {
         if (text.empty())
             QToolTip::hideText();
         else
-            QToolTip::showText(napoveda->globalPos(), na_qstring(text), this);
+            QToolTip::showText(napoveda->globalPos(), na_qstring(text), this,
+                               v_okne(misto_vstupu(kde->druh, tabulka(kde->druh)[kde->n])));
         return true;
     }
     return QWidget::event(udalost);

@@ -63,6 +63,7 @@ private:
     void klepni(QPointF misto, Tlacitko tlacitko, bool ctrl);
     void poklepej(const Nalezeny& kde);
     void zaostri(std::optional<Druh> tlacitko);
+    void dalsi_ohnisko(bool dalsi);
     void obnov_ohnisko();
     void obnov_seznam(ZobrazenySeznam& s);
     void obnov_pole();

@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -448,8 +449,41 @@ void nakresli_ikonu(QPainter& p, const Meritko& m, Druh druh, const Prvek& prvek
     }
 }
 
-// Target of a track's end: at rest a small mark, else the sign of the note on the track.
-void nakresli_cil(QPainter& p, const Meritko& m, const Prvek& prvek) {
+// Left edge of the sign of a note within its target, twips: where the labels of the track leave room for
+// it, beside a train's number if there is so much, else beside their names.
+int misto_znacky(int n, const Prvek& cil, int sirka) {
+    constexpr int kMezera = 2 * kTwipu, kCisloVlaku = 5, kDruhyPopisek = 200;
+    for (const int nejmene : {kCisloVlaku, 0}) {
+        std::array<std::pair<int, int>, 2> obsazeno{}; // by the labels, from the left
+        std::size_t pocet = 0;
+        for (const int popisek : {n, n + kDruhyPopisek}) {
+            if (!relief.cislo_koleje.je(popisek))
+                continue;
+            const Prvek& p = relief.cislo_koleje[popisek];
+            const int znaku = std::max(nejmene, static_cast<int>(p.popis->size()));
+            if (p.nahore < cil.nahore + cil.vyska && p.nahore + kVyskaZnaku > cil.nahore)
+                obsazeno[pocet++] = {p.vlevo - kMezera, p.vlevo + znaku * kSirkaZnaku + kMezera};
+        }
+        std::sort(obsazeno.begin(), obsazeno.begin() + static_cast<std::ptrdiff_t>(pocet));
+        int od = cil.vlevo, nejlepsi = 0, kde = 0;
+        for (std::size_t i = 0; i <= pocet; ++i) {
+            const int po = i < pocet ? obsazeno[i].first : cil.vlevo + cil.sirka;
+            if (po - od > nejlepsi) {
+                nejlepsi = po - od;
+                kde = nejmene > 0 || pocet == 0 ? od + (nejlepsi - sirka) / 2 : po - sirka;
+            }
+            if (i < pocet)
+                od = std::max(od, obsazeno[i].second);
+        }
+        if (nejlepsi >= sirka)
+            return kde;
+    }
+    return cil.vlevo + (cil.sirka - sirka) / 2;
+}
+
+// Target of a track's end: nothing at rest, else the sign of the note on the track.
+void nakresli_cil(QPainter& p, const Meritko& m, int n, const Prvek& prvek) {
+    constexpr int kSirkaZnacky = 10 * kTwipu;
     const QRect plocha = v_bodech(m, prvek);
     struct Stitek {
         int obrazek;
@@ -460,7 +494,8 @@ void nakresli_cil(QPainter& p, const Meritko& m, const Prvek& prvek) {
     for (const Stitek& s : kStitky)
         if (prvek.obrazek == s.obrazek) {
             QRect deska(0, 0, m.bodu(10), m.bodu(13));
-            deska.moveCenter(plocha.center());
+            deska.moveTo(m.x(misto_znacky(n, prvek, kSirkaZnacky)),
+                         plocha.y() + (plocha.height() - deska.height()) / 2);
             p.fillRect(deska, odstin(s.barva));
             kresli_radek(p, deska.x() + m.bod(), deska.y(), kSirkaBunky * m.bod(), kVyskaBunky * m.bod(),
                          s.pismeno, barvy::bila, Znaky::pismena);
@@ -657,7 +692,7 @@ void nakresli_prvek(QPainter& p, const Meritko& m, Druh druh, int n, const Prvek
     case Zpusob::radky: nakresli_odstavec(p, m, prvek, false); return;
     case Zpusob::nastupiste: nakresli_nastupiste(p, m, prvek); return;
     case Zpusob::vyhybka: nakresli_vyhybku(p, m, prvek.vlevo, prvek.nahore, stav_vyhybky(prvek)); return;
-    case Zpusob::cil: nakresli_cil(p, m, prvek); return;
+    case Zpusob::cil: nakresli_cil(p, m, n, prvek); return;
     case Zpusob::lampa: nakresli_lampu(p, m, n, prvek); return;
     case Zpusob::znacka: p.fillRect(v_bodech(m, prvek), barva_qt(prvek.barva)); return;
     case Zpusob::stanoviste: nakresli_stanoviste(p, m, prvek); return;

@@ -288,6 +288,10 @@ void Parametry::start() {
     v_jadre([&] {
         uloz_volby(moznosti);
         prevezmi_volby(volby);
+        if (!qEnvironmentVariableIsEmpty("DESKA_SIM")) {
+            simulace.nacitani_zaznamu = true;
+            simulace.soubor_zaznamu = z_qstring(qEnvironmentVariable("DESKA_SIM"));
+        }
     });
     if (!je_konec())
         spustit(volby);

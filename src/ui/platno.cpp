@@ -134,12 +134,28 @@ void Platno::kresli(const QRegion& kde) {
     nakresli_podklad(p, m, stul & kde.boundingRect());
     for (const NapisPozadi& napis : nakreslene_napisy)
         nakresli_napis_pozadi(p, m, napis);
-    for (const Polozka& polozka : poradi) {
+    const auto nakresli = [&](const Polozka& polozka) {
         const Prvek& prvek =
             nakreslene[static_cast<std::size_t>(polozka.druh)][static_cast<std::size_t>(polozka.n)];
         if (prvek.viditelny && kde.intersects(v_bodech(polozka.misto)))
             nakresli_prvek(p, m, polozka.druh, polozka.n, prvek);
-    }
+    };
+    // Targets lie at the bottom, where they are in nobody's way; but the sign of a note on them lies over
+    // the line of its track.
+    const auto pod_znackou = [](const Polozka& polozka) {
+        return polozka.druh == Druh::kolej || polozka.druh == Druh::most;
+    };
+    const auto je_cil = [](const Polozka& polozka) { return polozka.druh == Druh::Image1; };
+    const auto posledni_cara = std::find_if(poradi.rbegin(), poradi.rend(), pod_znackou).base();
+    for (auto i = poradi.begin(); i != posledni_cara; ++i)
+        if (!je_cil(*i))
+            nakresli(*i);
+    for (const Polozka& polozka : poradi)
+        if (je_cil(polozka))
+            nakresli(polozka);
+    for (auto i = posledni_cara; i != poradi.end(); ++i)
+        if (!je_cil(*i))
+            nakresli(*i);
 }
 
 std::optional<Nalezeny> Platno::prvek_pod(QPoint twipy) const {
