@@ -162,9 +162,12 @@ void obnov_odjete() {
     for (int n = 0; n < 600; ++n) {
         if (!je_kolej(n) || relief.kolej[n].barva != barvy::azurova)
             continue;
+        if (const int vzor = vzor_zrcadla(n); je_kolej(vzor) && relief.kolej[vzor].barva == barvy::azurova)
+            continue; // it only repeats that colour, and goes with it
+        // Nothing is reserved behind a train on its route, nor is the track before the start signal.
         const bool drzena = nektera([n](const Cesta& c) {
-            return c.prehozena &&
-                   (c.konec == n || std::find(c.prvky.begin(), c.prvky.end(), n) != c.prvky.end());
+            return c.prehozena && nevjel(c) &&
+                   (c.konec == n || std::find(c.prvky.begin() + 1, c.prvky.end(), n) != c.prvky.end());
         });
         if (!drzena)
             odjete.set(static_cast<std::size_t>(n));
