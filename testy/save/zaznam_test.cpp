@@ -56,6 +56,7 @@ void postav_vzorove_kolejiste() {
 
 TEST_F(ZaznamSimulace, EmptySimulationHasTheLengthOfItsFields) {
     postav_vzorove_kolejiste();
+    prejezdy.clear();
     relief.lblcas[0].text = TextPohled("11:59:58");
     relief.lblGVD[0].text = TextPohled("GVD2005");
     const Zaznam z = zaznam_simulace();
@@ -324,7 +325,7 @@ TEST_F(ZaznamSimulace, EveryTableReadsBackAsItWas) {
     z.souhlas_tag = {"1", "", "3"};
     z.tabulka[23] = "Os  1";
     z.tabulka_blikani[23] = -1;
-    z.zpravy = {"první"_cz, ""};
+    z.zpravy = {Text("první"_cz), ""};
     EXPECT_EQ(precti_zaznam(bajty_zaznamu(z)), z);
 }
 
