@@ -14,6 +14,7 @@
 #include "jizda/vlak.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stanicni_prejezdy.h"
+#include "prvky/vyhybky.h"
 #include "relief/relief.h"
 #include "relief/topologie.h"
 #include "zaklad/chyba.h"
@@ -39,8 +40,10 @@ struct VidenyVlak {
     std::size_t prvku = 0; // length of its list
     std::int16_t konec = 0, celo = 0, delka = 0;
     bool muze_jet = false;
+    bool sdili = false;              // a track with another train
     bool prebyva = false;            // held more than its length
     std::vector<std::int16_t> volne; // tracks it came to by a shunt or calling-on route laid towards a train
+    std::vector<std::int16_t> nezavrene; // switches it came to on the calling-on aspect
 };
 struct VidenaCesta {
     std::int16_t zacatek = kZadny, konec = kZadny;
@@ -136,6 +139,40 @@ Nalez vjezdy() {
                 continue;
             return vlak_textem(i, veta({"vlakovou cestou vjel na kolej "_cz, text_cisla(n),
                                         ", kterou drží vlak "_cz, text_cisla(static_cast<std::int64_t>(k))}));
+        }
+    }
+    return std::nullopt;
+}
+
+// --- switches under a train
+
+// On the calling-on aspect a train does not lock the switches that it runs over: the route holds them, and
+// the operator may release it under the train.
+const Cesta* cesta_na_vyhybku(std::size_t i) {
+    const VidenyVlak* drive = videny(i);
+    const Vlak& v = vlaky[i];
+    if (drive == nullptr || v.prvky.size() != drive->prvku + 1 || v.prvky_druh.back() != druh_prvku::vyhybka)
+        return nullptr;
+    const auto cesta = std::find_if(cesty.begin(), cesty.end(), [&](const Cesta& c) {
+        return c.Vlak == static_cast<int>(i) && c.Umazat < c.prvky.size() &&
+               c.prvky[c.Umazat] == v.prvky.back() && druh_na(c, c.Umazat) == druh_prvku::vyhybka;
+    });
+    return cesta == cesty.end() ? nullptr : &*cesta;
+}
+
+Nalez vyhybky_pod_vlaky() {
+    for (std::size_t i = 0; i < vlaky.size(); ++i) {
+        const Vlak& v = vlaky[i];
+        if (!jede(v))
+            continue;
+        for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j) {
+            const int n = v.prvky[j];
+            if (v.prvky_druh[j] != druh_prvku::vyhybka || !vyhybka_v_pohybu(n))
+                continue;
+            const VidenyVlak* drive = videny(i);
+            const Cesta* prave = cesta_na_vyhybku(i);
+            if ((drive == nullptr || !je_mezi(drive->nezavrene, n)) && (prave == nullptr || !prave->PN))
+                return vlak_textem(i, veta({"pod vlakem se přestavuje výhybka "_cz, text_cisla(n)}));
         }
     }
     return std::nullopt;
@@ -241,6 +278,15 @@ Nalez souvislost() {
 
 // --- the length under a train
 
+// Where two trains stand on one track, each writes its metres over those of the other.
+bool sdili_kolej(std::size_t i) {
+    const Vlak& v = vlaky[i];
+    for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j)
+        if (v.prvky_druh[j] == druh_prvku::kolej && drzi_jiny(v.prvky[j], static_cast<int>(i)))
+            return true;
+    return false;
+}
+
 // Metres that it takes from entry `od` to its head, and what its rearmost entry takes of them.
 double drzena_delka(const Vlak& v) {
     double delka = 0;
@@ -268,7 +314,8 @@ Nalez delky() {
     for (std::size_t i = 0; i < vlaky.size(); ++i) {
         const Vlak& v = vlaky[i];
         const VidenyVlak* drive = videny(i);
-        if (!jede(v) || drive == nullptr || drive->delka != v.delka || !drive->muze_jet || !v.muze_jet)
+        if (!jede(v) || drive == nullptr || drive->delka != v.delka || !drive->muze_jet || !v.muze_jet ||
+            drive->sdili || sdili_kolej(i))
             continue;
         const bool na_vice_prvcich = static_cast<std::size_t>(v.prvek_konec) + 1 < v.prvky.size();
         if (v.prvek_konec > drive->konec && na_vice_prvcich && drzena_delka(v) < v.delka)
@@ -303,7 +350,8 @@ bool zavira(const Cesta& c) {
 Nalez prejezd_navesti(const Cesta& c, const VidenaCesta& drive) {
     if (c.PN || !c.prejezd_zaver || c.prejezd >= stanicni_prejezdy.size())
         return std::nullopt;
-    if (stanicni_prejezdy[c.prejezd].cas > ted_s())
+    const StanicniPrejezd& p = stanicni_prejezdy[c.prejezd];
+    if (p.cas > ted_s() && !p.uzavren && p.pocet == 128) // a closed road may have another closing before it
         return cesta_textem(c, "návěst dovoluje jízdu přes přejezd, který se teprve zavírá"_cz);
     if (!drive.zavirala && !zavira(c))
         return cesta_textem(c, "návěst dovoluje jízdu přes přejezd, který se nezavíral"_cz);
@@ -406,10 +454,14 @@ void zapamatuj_vlaky() {
         n.delka = v.delka;
         n.muze_jet = v.muze_jet;
         n.prebyva = prebyva_konec(v);
+        n.sdili = sdili_kolej(i);
         if (const VidenyVlak* drive = videny(i)) {
             for (const std::int16_t volna : drive->volne)
                 if (drzi_prvek(v, volna))
                     n.volne.push_back(volna);
+            n.nezavrene = drive->nezavrene;
+            if (const Cesta* pn = cesta_na_vyhybku(i); pn != nullptr && pn->PN)
+                n.nezavrene.push_back(pn->prvky[pn->Umazat]);
             const Cesta* cesta = vjel(i) ? cesta_vjezdu(i) : nullptr;
             if (cesta != nullptr && je_volny_vjezd(*cesta) && smeruje_na(i, n.celo))
                 n.volne.push_back(n.celo);
@@ -442,7 +494,7 @@ void zapamatuj_sipky() {
 } // namespace
 
 std::optional<Text> kontrola_jizdy() {
-    constexpr std::array kKontroly = {vjezdy, souvislost, delky, navesti, smery_trati};
+    constexpr std::array kKontroly = {vjezdy, vyhybky_pod_vlaky, souvislost, delky, navesti, smery_trati};
     Nalez nalez;
     for (const auto kontrola : kKontroly)
         if (nalez = kontrola(); nalez)
