@@ -11,6 +11,7 @@
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
 #include "gvd/stav_provozu.h"
+#include "jizda/menu_koleje.h"
 #include "jizda/vlak.h"
 #include "prvky/panel.h"
 #include "prvky/souhlasy.h"
@@ -52,6 +53,7 @@ void nova_simulace() {
     stitky = std::vector<StitekPrvku>(1);
     prikaz_radek = Prikaz{};
     menu = Menu{};
+    stav_menu_koleje = MenuKoleje{};
     blikani = Blikani{};
     provoz2 = Provoz2{};
     zapomen_kontrolu_jizdy();
