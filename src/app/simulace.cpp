@@ -2,6 +2,7 @@
 #include "app/simulace.h"
 
 #include "app/blikani.h"
+#include "app/parametry.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
 #include "cesty/vyber.h"
@@ -53,6 +54,7 @@ void nova_simulace() {
     menu = Menu{};
     blikani = Blikani{};
     provoz2 = Provoz2{};
+    parametry = Parametry{};
 }
 
 bool je_ladeni() {
