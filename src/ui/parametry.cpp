@@ -367,7 +367,7 @@ QWidget* OknoParametru::hlavni_stranka() {
     mrizka->addWidget(cboRychlost, 3, 1);
     mrizka->setColumnStretch(1, 1);
 
-    auto* rad = new QGroupBox(QStringLiteral("Jízdní řád"));
+    auto* rad = new QGroupBox(QStringLiteral("&Jízdní řád"));
     miGVD = new TlacitkoNabidky(meritko);
     connect(miGVD, &QPushButton::clicked, this, [this] {
         prikaz([] { otevri_nabidku_gvd(); });
@@ -517,7 +517,7 @@ QWidget* OknoParametru::pata() {
         s_obrazkem(imgStranka[i], i == 0 ? Obrazek::moznosti : Obrazek::o_aplikaci, kAzur);
     }
     QPushButton* navod = tlacitko(QStringLiteral("Návod"), [this] { prikaz([] { otevri_navod(); }); });
-    QPushButton* konec = tlacitko(QStringLiteral("Konec"), [this] { close(); });
+    QPushButton* konec = tlacitko(QStringLiteral("&Konec"), [this] { close(); });
     QPushButton* otevrit = tlacitko(QStringLiteral("&Otevřít záznam…"), [this] { otevri(); });
     QPushButton* spustit = tlacitko(QStringLiteral("&Spustit simulaci"), [this] { start(); });
     spustit->setObjectName(QStringLiteral("start"));
