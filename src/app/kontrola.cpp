@@ -4,6 +4,7 @@
 // its function to the list at the end of the file.
 #include "app/kontrola.h"
 
+#include "app/cas.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/vyber.h"
@@ -40,23 +41,9 @@ Text prvek_textem(TextPohled druh, int n, TextPohled co) {
     return veta({druh, " ", text_cisla(n), ": ", co});
 }
 
-// "8:05:30": a reading of the clock, as the arithmetic of time takes it.
-bool je_cas_hodin(TextPohled cas) {
-    const std::size_t prvni = cas.find(':');
-    if (prvni == TextPohled::npos || prvni < 1 || prvni > 2 || cas.size() != prvni + 6 ||
-        cas[prvni + 3] != ':')
-        return false;
-    const auto cislice = [&](std::size_t i) { return cas[i] >= '0' && cas[i] <= '9'; };
-    for (std::size_t i = 0; i < cas.size(); ++i)
-        if (i != prvni && i != prvni + 3 && !cislice(i))
-            return false;
-    const int hodina = prvni == 1 ? cas[0] - '0' : (cas[0] - '0') * 10 + (cas[1] - '0');
-    return hodina < 24 && cas[prvni + 1] < '6' && cas[prvni + 4] < '6';
-}
-
 Nalez hodiny() {
     const Text cas = relief.lblcas[0].text;
-    if (!je_cas_hodin(cas))
+    if (!je_text_casu(cas))
         return veta({"hodiny: čas „"_cz, cas, "“ není čas"_cz});
     if (simulace.dva_monitory && relief.lblcas.je(1) && relief.lblcas[1].text() != cas)
         return Text("hodiny: druhý monitor ukazuje jiný čas"_cz);

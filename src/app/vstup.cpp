@@ -7,12 +7,20 @@
 #include "cesty/volba.h"
 #include "cesty/vyber.h"
 #include "cesty/zasobnik.h"
+#include "desk/info_o_vlaku.h"
 #include "desk/menu.h"
+#include "desk/tabulka_vlaku.h"
+#include "desk/zadani.h"
 #include "desk/zprava.h"
+#include "jizda/lokomotivy.h"
+#include "jizda/na_koleji.h"
+#include "jizda/spojovani.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stanoviste.h"
 #include "prvky/vyhybky.h"
+#include "save/debug_vypis.h"
+#include "save/ulozeni.h"
 #include "technologie/provoz2.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
@@ -20,6 +28,7 @@
 #include <algorithm>
 #include <array>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -27,10 +36,7 @@ constexpr int kKrokKurzoru = 12; // pixels to the left or right
 constexpr int kRastrKurzoru = 5; // raster of the rows, pixels
 constexpr int kNejvyssiRychlost = 8;
 constexpr int kNejvyssiRychlostHry = 3; // without the debug marker
-
-// What the input field is for.
-constexpr int kRezimJednotka = 4;
-constexpr int kRezimCisloVlaku = 5;
+constexpr int kPrvkyTrati = 600;        // tracks of the lines begin here
 
 void pipni_klavesou() {
     pipni(800, 10);
@@ -119,10 +125,9 @@ bool odpovez_na_radek() {
 
 void enter() {
     if (vstup_otevren()) {
-        prikaz_radek.rezim_zadani = 0;
-        relief.txtZadav_pole[0].text = Text{};
-    }
-    if (!odpovez_na_radek() && vyber.mys_nad_prvkem && !simulace.pauza)
+        zpracuj_zadani(relief.txtZadav_pole[0].text());
+        potvrd_prikaz();
+    } else if (!odpovez_na_radek() && vyber.mys_nad_prvkem && !simulace.pauza)
         klik(vyber.mys_druh, vyber.mys_prvek, Tlacitko::leve, false);
     dalsi_zprava();
 }
@@ -130,17 +135,10 @@ void enter() {
 void esc() {
     pipni_klavesou();
     platforma.kurzor_viditelny(true);
-    if (vstup_otevren()) {
-        const bool cislo_vlaku = prikaz_radek.rezim_zadani == kRezimCisloVlaku;
-        prikaz_radek.rezim_zadani = 0;
-        prikaz_radek.kod_zpravy = 0;
-        relief.txtZadav_pole[0].text = Text{};
-        skryj_prikaz();
-        if (cislo_vlaku) // the question had stopped the clock
-            spust_hodiny();
-        return;
-    }
-    zrus_volbu();
+    if (vstup_otevren())
+        zahod_zadani();
+    else
+        zrus_volbu();
 }
 
 // Right click on what is under the pointer, or the search of a unit by its name.
@@ -152,9 +150,7 @@ void f2() {
         klik(vyber.mys_druh, vyber.mys_prvek, Tlacitko::prave, false);
         return;
     }
-    relief.txtZadav_pole[0].text = Text{};
-    prikaz_radek.rezim_zadani = kRezimJednotka;
-    zprava(" JEDNOTKA? ", {}, barvy::azurova, 0, true);
+    otevri_hledani();
 }
 
 void otevri_prohlizec_gvd() {
@@ -206,8 +202,21 @@ bool klavesa_provozu2(const Klavesa& k) {
     }
 }
 
+// The save dialogue, the clock standing. Not before the login: the end of a save starts the clock.
+void uloz() {
+    if (prihlaseni_bezi())
+        return;
+    zastav_hodiny();
+    uloz_dialog();
+}
+
 // Alt with a letter plays its macro, with Shift as well it begins the recording; Ctrl makes no difference.
 bool pismeno(const Klavesa& k) {
+    if (k.ctrl && !k.alt && k.pismeno == 'S') {
+        pipni_klavesou();
+        uloz();
+        return true;
+    }
     if (!k.alt)
         return false;
     if (k.shift) {
@@ -229,6 +238,25 @@ int prvek_popisku(int n) {
     return n;
 }
 constexpr int kNejvyssiPopisek = 650; // labels behind it take no pick
+
+// F8: the trains on the track under the pointer, one after the other with each press.
+void info_pod_kurzorem() {
+    if (simulace.pauza || !vyber.mys_nad_prvkem)
+        return;
+    const bool je_stitek = vyber.mys_druh == Druh::cislo_koleje;
+    if (!je_stitek && vyber.mys_druh != Druh::kolej && vyber.mys_druh != Druh::Image1)
+        return;
+    const int e = je_stitek ? prvek_popisku(vyber.mys_prvek) : vyber.mys_prvek;
+    if (e >= kPrvkyTrati)
+        return;
+    pipni_klavesou();
+    if (!vlak_na_koleji(e))
+        return;
+    const std::vector<std::int16_t>& seznam = koleje_vlaky[static_cast<std::size_t>(zaznam_koleje(e))].vlaky;
+    const auto ukazany = std::find_if(seznam.begin(), seznam.end(), [](int v) { return info_ukazuje(v); });
+    const bool dalsi = ukazany != seznam.end() && ukazany + 1 != seznam.end();
+    info_o_vlaku({}, dalsi ? *(ukazany + 1) : seznam.front());
+}
 
 // Press on an element of the relief; false when the kind is no such element.
 bool klik_na_prvek(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
@@ -257,6 +285,17 @@ bool klik_na_prvek(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
         if (leve || prave)
             menu_stanoviste(n);
         return true;
+    case Druh::popis_stanice: return (leve || prave) && menu_depa(n);
+    case Druh::imgObrzaek_vlaku:
+        if (leve)
+            odvesit_klik(n);
+        return true;
+    case Druh::lblTabulka_vlaku:
+        if (leve)
+            hledej_radek(n);
+        else if (prave)
+            menu_tabulky(n);
+        return true;
     default: return false;
     }
 }
@@ -267,6 +306,7 @@ void klik_na_desku(Druh druh) {
     case Druh::lblPrikaz:
     case Druh::lblVolba: enter(); break;
     case Druh::imgSound: prepni_zvuk(); break;
+    case Druh::imgUloz: uloz(); break;
     case Druh::imgPauza: prepni_pauzu(); break;
     case Druh::imgMinimalizuj: minimalizuj_okno(); break;
     case Druh::imgKONEC: konec_programu(true); break;
@@ -277,6 +317,7 @@ void klik_na_desku(Druh druh) {
     case Druh::lblZasobnik_PV: prepni_pv_vz(false); break;
     case Druh::lblZasobnik_VZ: prepni_pv_vz(true); break;
     case Druh::lblZasobnik_EZ: ukaz_provoz2(); break;
+    case Druh::imgDEBUG: debug_vypis(); break;
     case Druh::lblrychlost_simulace: zrychli(); break;
     default: break;
     }
@@ -396,7 +437,7 @@ bool klavesa(const Klavesa& k) {
         pipni_klavesou();
         prepni_panel(Panel::vlak);
         return true;
-    case KodKlavesy::f8: return false;
+    case KodKlavesy::f8: info_pod_kurzorem(); return true;
     case KodKlavesy::f9: otevri_prohlizec_gvd(); return true;
     case KodKlavesy::f10:
         if (!konec) {
@@ -435,7 +476,9 @@ void pis_do_pole(TextPohled text) {
 
 bool zvol_v_menu(TextPohled jmeno) {
     const auto polozka = std::find_if(menu.polozky.begin(), menu.polozky.end(), [&](const PolozkaMenu& p) {
-        return stejne_bez_velikosti(p.jmeno, jmeno) && p.viditelna;
+        const bool jeji = stejne_bez_velikosti(p.jmeno, jmeno) ||
+                          (!p.druhe_jmeno.empty() && stejne_bez_velikosti(p.druhe_jmeno, jmeno));
+        return jeji && p.viditelna;
     });
     if (polozka == menu.polozky.end() || !polozka->povolena)
         return false;

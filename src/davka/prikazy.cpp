@@ -17,6 +17,7 @@
 #include "davka/vypisy.h"
 #include "desk/zprava.h"
 #include "jizda/vlak.h"
+#include "save/ulozeni.h"
 #include "technologie/provoz2.h"
 #include "zaklad/cisla.h"
 #include "zaklad/soubory.h"
@@ -110,6 +111,45 @@ void prikaz_spust(BehSkriptu& beh, Slova slova) {
         dokonci_start(beh);
 }
 
+// A save by its name: one without a folder lies in the folder of saves, as in the dialogue; a path counts
+// from where the runner was started, or else from the program's folder.
+Text cesta_zaznamu(std::string_view utf8) {
+    const Text jmeno = text_slova(utf8);
+    if (jmeno.find_first_of("/\\") == Text::npos)
+        return simulace.cesta_aplikace + "save\\" + jmeno;
+    const Text slozka = jmeno.substr(0, jmeno.find_last_of("/\\") + 1);
+    return soubor_existuje(slozka) ? jmeno : simulace.cesta_aplikace + jmeno;
+}
+
+// An existing one; the ending may be left out.
+Text nalezeny_zaznam(std::string_view utf8) {
+    const Text cesta = cesta_zaznamu(utf8);
+    for (const Text& moznost : {cesta, cesta + ".sim", text_slova(utf8)})
+        if (delka_souboru(moznost))
+            return moznost;
+    return cesta; // the start tells that there is none
+}
+
+void prikaz_nacti(BehSkriptu& beh, Slova slova) {
+    otevri_obrazovku_startu();
+    vypln_obrazovku_startu(slova.subspan(1));
+    zavri_menu();
+    priprav_nacteni(nalezeny_zaznam(slova[0]), moznosti_startu());
+    dokonci_start(beh);
+}
+
+// The open command by its button: the dialogue takes the next answer.
+void prikaz_otevrit(BehSkriptu& beh) {
+    otevri_obrazovku_startu();
+    if (otevri_zaznam())
+        dokonci_start(beh);
+}
+
+void prikaz_uloz(BehSkriptu&, Slova slova) {
+    zastav_hodiny();
+    uloz_simulaci(cesta_zaznamu(slova[0]), false);
+}
+
 bool je_prihlaseni() {
     const Text& slovo = relief.lblPrikaz[0].text;
     return relief.lblPrikaz[0].viditelny && (slovo == " INIT " || slovo == " TPC " || slovo == " ARCHIV ");
@@ -160,7 +200,11 @@ Seznam* seznam_desky(std::string_view slovo) {
 
 void prikaz_klik(BehSkriptu& beh, Slova slova) {
     if (!beh.spusteno) {
-        if (!klik_startu(slova))
+        if (slova[0] == "cmdStart")
+            prikaz_spust(beh, slova.subspan(1));
+        else if (slova[0] == "cmdOtevrit")
+            prikaz_otevrit(beh);
+        else if (!klik_startu(slova))
             chyba_pred_startem("klik " + slova[0]);
         return;
     }
@@ -441,6 +485,10 @@ constexpr std::array kPrikazy = {
                  "spust [cas=H:MM] [den=0..6] [rychlost=1..8] [gvd=JMENO] [pp=0/1] [zpozdeni=0/1] "
                  "[zvuk=0/1] [dual=0/1] [autosave=0/1] [autosaved=N] [noresize=0/1]",
                  prikaz_spust},
+    PopisPrikazu{"nacti", 1, kMnoho, Kdy::pred_startem, false,
+                 "nacti SOUBOR.sim [zvuk=0/1] [dual=0/1] [autosave=0/1] [autosaved=N] [noresize=0/1]",
+                 prikaz_nacti},
+    PopisPrikazu{"uloz", 1, 1, Kdy::po_startu, false, "uloz SOUBOR", prikaz_uloz},
     PopisPrikazu{"prihlas", 0, 0, Kdy::po_startu, false, "prihlas", prikaz_prihlas},
     PopisPrikazu{"klik", 1, 3, Kdy::kdykoli, false, "klik DRUH CISLO [ctrl] | klik plocha", prikaz_klik},
     PopisPrikazu{"pravy", 1, 2, Kdy::po_startu, false, "pravy DRUH CISLO", prikaz_pravy},
@@ -459,9 +507,6 @@ constexpr std::array kPrikazy = {
     PopisPrikazu{"nastav", 2, kMnoho, Kdy::kdykoli, false, "nastav CO [CISLO] POLE=HODNOTA ...",
                  prikaz_nastav},
 };
-
-// Commands of the language whose rooms this version of the program does not have yet.
-constexpr std::array<std::string_view, 2> kZatimNe = {"nacti", "uloz"};
 
 constexpr auto kJmena = [] {
     std::array<std::string_view, kPrikazy.size()> jmena{};
@@ -500,11 +545,8 @@ void proved_radek(BehSkriptu& beh, std::string_view radek, bool jen_pohled) {
         return;
     const auto prikaz = std::find_if(kPrikazy.begin(), kPrikazy.end(),
                                      [&](const PopisPrikazu& p) { return p.jmeno == slova[0]; });
-    if (prikaz == kPrikazy.end()) {
-        if (std::find(kZatimNe.begin(), kZatimNe.end(), slova[0]) != kZatimNe.end())
-            chyba_skriptu("příkaz " + v_uvozovkach(slova[0]) + " tato verze programu nemá");
+    if (prikaz == kPrikazy.end())
         chyba_skriptu("neznámý příkaz " + v_uvozovkach(slova[0]) + napoveda(slova[0], kJmena));
-    }
     const Slova zbytek = Slova(slova).subspan(1);
     if (zbytek.size() < prikaz->nejmene || zbytek.size() > prikaz->nejvice)
         chyba_skriptu("příkaz se píše: " + std::string(prikaz->zapis));

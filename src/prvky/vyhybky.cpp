@@ -3,6 +3,7 @@
 
 #include "app/cas.h"
 #include "cesty/barvi_prvek.h"
+#include "cesty/cesta.h"
 #include "cesty/tabulky.h"
 #include "desk/menu.h"
 #include "relief/relief.h"
@@ -284,6 +285,13 @@ void vyhybka_stav(int n, int stav, bool vazby, bool vykolejky) {
         });
 }
 
+void rezervuj_vykolejku(int n) {
+    if (kod_znaku(orez(relief.lblVykolejka[n].text())) == kZnakMimoKolej)
+        vykolejka_v_pohybu(n);
+    else
+        relief.lblVykolejka[n].barva = barvy::azurova;
+}
+
 void menu_vyhybky(int n) {
     const ZaznamVazeb* zaznam = najdi_vazby(n);
     const Moznosti m = moznosti(n);
@@ -322,4 +330,31 @@ void hod_vyhybku(int n, PovelVyhybky povel) {
 
 void vyhybka_nouz(int n) {
     vyhybka_stav(n, nouz(poloha_stavu(stav_vyhybky_cislo(n))), false, false);
+}
+
+void obnov_pohyb_vyhybek() {
+    stav_vyhybek.vyhybka_pohyb.assign(static_cast<std::size_t>(relief.imgVyhybka.nejvyssi() + 1), false);
+    const auto rozjed = [](int n) {
+        nastav_pohyb(n, true);
+        relief.imgVyhybka[n].obrazek = na_integer(vyhybka_obrazek(stav_vyhybky_cislo(n)) + 100);
+    };
+    for (const Cesta& c : cesty) {
+        if (c.zacatek < 0 || !c.prehozena || c.Provedena || c.Umazat != 0)
+            continue;
+        for (std::size_t k = 1; k < c.prvky.size(); ++k) {
+            const int n = c.prvky[k];
+            if (druh_na(c, k) == druh_prvku::vyhybka && relief.imgVyhybka.je(n) &&
+                stav_vyhybky_cislo(n) == poloha_na(c, k))
+                rozjed(n); // one that stood there already has been reserved instead
+            else if (druh_na(c, k) == druh_prvku::vykolejka && relief.lblVykolejka.je(n) &&
+                     relief.lblVykolejka[n].barva != barvy::bila)
+                rezervuj_vykolejku(n);
+        }
+    }
+    const int n = stav_vyhybek.prehoz_vyhybka;
+    if (stav_vyhybek.prehoz_cas != -3 && relief.imgVyhybka.je(n) && stav_vyhybky_cislo(n) < 50) {
+        rozjed(n);
+        if (!je_anglicka(stav_vyhybky_cislo(n)))
+            rozjed_vykolejky(n, stav_vyhybky_cislo(n));
+    }
 }

@@ -113,7 +113,7 @@ constexpr Misto kMista[] = {
     prvek(Druh::lblVerze, {576, 3, 290, 14}).barva(barvy::seda),
     prvek(Druh::imgSound, {902, 2, 16, 16}).obrazek(kObrazekZvukZapnut),
     prvek(Druh::imgUloz, {922, 2, 16, 16}),
-    prvek(Druh::imgDEBUG, {942, 2, 16, 16}).skryty(),
+    prvek(Druh::imgDEBUG, {942, 2, 16, 16}).tip("Ladící výpis"_cz),
     prvek(Druh::imgPauza, {962, 2, 16, 16}).tip("Pauza [F10]"_cz),
     prvek(Druh::imgMinimalizuj, {982, 2, 16, 16}).tip("Minimalizovat okno simulace [F11]"_cz),
     prvek(Druh::imgKONEC, {1002, 2, 16, 16}),
@@ -162,7 +162,7 @@ constexpr Misto kMista[] = {
     prvek(Druh::shpblikacka, {8, 643, 11, 8}).barva(kZnackaTabulky).rada(48, 0, 0),
 
     // Vehicles of the train on display: the panel moves them side by side.
-    prvek(Druh::imgObrzaek_vlaku, {4, 686, 80, 40}).rada(40, 80, 0).skryty(),
+    prvek(Druh::imgObrzaek_vlaku, {4, 686, 80, 40}).rada(40, 80, 0).skryty().nepovoleny(),
     prvek(Druh::imgSberac, {4, 670, 24, 14}).skryty(),
     prvek(Druh::lblPopis_vozu, {4, 728, 80, 13}).rada(40, 80, 0).na_stred().skryty(),
     prvek(Druh::lblPokracuje, {980, 700, 40, 14}, ">>>"_cz).skryty(),

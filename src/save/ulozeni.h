@@ -16,6 +16,8 @@ void uloz_dialog();
 // The start screen's open command: asks for a file; with one takes and stores the options, prepares the
 // simulation and answers true: the splash screen goes on as after a start. False: the start screen stays.
 bool nacti_dialog(const MoznostiStartu& moznosti);
+// The same without the dialogue.
+void priprav_nacteni(TextPohled soubor, const MoznostiStartu& moznosti);
 
 // --- by the minute step and the dialogue
 
@@ -23,9 +25,14 @@ bool nacti_dialog(const MoznostiStartu& moznosti);
 // old longer file keeps its end behind the record, where no reader looks. Whatever happens while it is
 // written, the old file stays readable.
 void uloz_simulaci(TextPohled soubor, bool tichy);
+// The periodic save: in silence, under the name of this moment. The newest ten are kept.
+void uloz_prubezne();
 
 // --- by start_simulace, in the pause
 
 // Reads the file and puts the whole state in place of the present one, or changes nothing: then a box, and
 // the process ends. True when the simulation goes on.
 bool nacti_simulaci(TextPohled soubor);
+// Once the timetable has been read too: the consents that stand, by the trains that were given one. The file
+// does not say.
+void obnov_souhlasy();

@@ -1,4 +1,6 @@
 // testy/jizda/spojovani_test.cpp - coupling, splitting, turning, the next train of a set; train and shunt.
+#include "app/vstup.h"
+#include "desk/info_o_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"
 #include "jizda/posun.h"
@@ -153,7 +155,7 @@ TEST_F(Spojovani, SplitLeavesTheFrontPartOnTheSideOfTheHead) {
         zastavky(v, {9, 2, 6}, {-3, 478, 500}, {470, 482, -3});
         vlak(v).stanice_index = 1;
         vlak(v).delka = 42;
-        const int d = odvesit(v, 0);
+        const int d = odvesit(v, 0, false);
         ASSERT_GE(d, 0);
         EXPECT_EQ(vlak(d).vozy, Vozy{"754"});
         EXPECT_EQ(vlak(v).vozy, Vozy{"B"});
@@ -178,7 +180,7 @@ TEST_F(Spojovani, SplitLeavesTheFrontPartOnTheSideOfTheHead) {
 TEST_F(Spojovani, LastVehicleComesOffAloneAtTheOtherEnd) {
     const int v = vlak_na(62, true, 77, {"B", "C", "754"});
     vlak(v).delka = 90;
-    const int d = odvesit(v, 2);
+    const int d = odvesit(v, 2, false);
     EXPECT_EQ(vlak(d).vozy, Vozy{"754"});
     EXPECT_EQ(vlak(v).vozy, (Vozy{"B", "C"}));
     EXPECT_LT(poradi(62, d), poradi(62, v));
@@ -187,23 +189,23 @@ TEST_F(Spojovani, LastVehicleComesOffAloneAtTheOtherEnd) {
 TEST_F(Spojovani, LengthGoesWithTheCarriagesAndLocomotivesCountEighteenMetres) {
     const int v = vlak_na(62, true, 77, {"754", "B", "B", "B"});
     vlak(v).delka = 100;
-    const int d = odvesit(v, 1);
+    const int d = odvesit(v, 1, false);
     EXPECT_EQ(vlak(d).delka, 51); // 100 * 1 / 3 + 18
     EXPECT_EQ(vlak(v).delka, 49);
     const int w = vlak_na(63, true, 88, {"754", "731"});
     vlak(w).delka = 18;
-    const int e = odvesit(w, 0);
+    const int e = odvesit(w, 0, false);
     EXPECT_EQ(vlak(e).delka, 18); // no carriage at all
     EXPECT_EQ(vlak(w).delka, 18); // never shorter than a locomotive
 }
 
 TEST_F(Spojovani, UnitsAndSingleVehiclesAreNotSplit) {
     const int v = vlak_na(62, true, 77, {"560", "060", "754"});
-    EXPECT_EQ(odvesit(v, 0), -3);
-    EXPECT_EQ(odvesit(v, 1), -3);
-    EXPECT_EQ(odvesit(v, 7), -3);
+    EXPECT_EQ(odvesit(v, 0, false), -3);
+    EXPECT_EQ(odvesit(v, 1, false), -3);
+    EXPECT_EQ(odvesit(v, 7, false), -3);
     const int w = vlak_na(63, true, 88, {"754"});
-    EXPECT_EQ(odvesit(w, 0), -3);
+    EXPECT_EQ(odvesit(w, 0, false), -3);
     EXPECT_FALSE(prikaz_radek.obsazen);
     EXPECT_EQ(vlak(v).vozy.size(), 3u);
 }
@@ -212,21 +214,21 @@ TEST_F(Spojovani, SplitTakesTheRoutesThatWaitForTheTrain) {
     const int v = vlak_na(62, true, 77, {"754", "B"});
     cesta(radek(0));
     cesty[0].Vlak = static_cast<std::int16_t>(v);
-    odvesit(v, 0);
+    odvesit(v, 0, false);
     EXPECT_EQ(cesty[0].Vlak, -3);
 }
 
 TEST_F(Spojovani, LocomotiveOnTrack32GoesToTheStubAtOnce) {
     const int v = vlak_na(32, true, 77, {"754", "B"});
     vlak(v).vozy_urceni = {"DKV", ""};
-    const int d = odvesit(v, 0);
+    const int d = odvesit(v, 0, false);
     EXPECT_EQ(vlak(d).prvky, std::vector<std::int16_t>{574});
     EXPECT_FALSE(vlak(d).smer);
     EXPECT_EQ(relief.kolej[574].barva, barvy::cervena);
     EXPECT_EQ(koleje_vlaky[static_cast<std::size_t>(zaznam_koleje(574))].vlaky[0], d);
     const int w = vlak_na(32, true, 78, {"754", "B"});
     vlak(w).vozy_urceni = {"DKV", ""};
-    EXPECT_EQ(vlak(odvesit(w, 0)).prvky, std::vector<std::int16_t>{32}); // the stub is occupied
+    EXPECT_EQ(vlak(odvesit(w, 0, false)).prvky, std::vector<std::int16_t>{32}); // the stub is occupied
 }
 
 TEST_F(Spojovani, ShortenedTrainLeavesTheTracksBehindFree) {
@@ -265,6 +267,99 @@ TEST_F(Spojovani, TurnReversesTheVehiclesAndTheEmergencyTurnOnlyTheSense) {
     otoc_nouzove(v);
     EXPECT_TRUE(vlak(v).smer);
     EXPECT_EQ(vlak(v).vozy.front(), "C");
+}
+
+// --- the pictures of the train page
+
+TEST_F(Spojovani, ClickOnAPictureTakesTheFrontOfTheTrainOff) {
+    const int v = vlak_na(62, true, 77, {"754", "731", "B", "C"});
+    info_o_vlaku({}, v);
+    klik(Druh::imgObrzaek_vlaku, 1, Tlacitko::leve, false);
+    EXPECT_EQ(vlak(v).vozy, (Vozy{"B", "C"}));
+    EXPECT_EQ(vozu_na_panelu(), 2); // the page follows
+    EXPECT_EQ(vlak_na_panelu(), v);
+    EXPECT_FALSE(prikaz_radek.obsazen);
+    klik(Druh::imgObrzaek_vlaku, 3, Tlacitko::leve, false); // no vehicle stands there any more
+    EXPECT_EQ(vlak(v).vozy, (Vozy{"B", "C"}));
+}
+
+TEST_F(Spojovani, PartOfARunningTrainIsNotSplitOff) {
+    const int v = vlak_na(62, true, 77, {"754", "B"});
+    vlak(v).prvky = {440, 62};
+    vlak(v).prvky_druh = {1, 1};
+    vlak(v).prvky_poloha = {0, 0};
+    info_o_vlaku({}, v);
+    odvesit_klik(0);
+    EXPECT_EQ(vlak(v).vozy.size(), 2u);
+    EXPECT_EQ(relief.lblPrikaz[0].text(), " ODVESIT ");
+    EXPECT_EQ(relief.lblPrikaz[0].barva, barvy::cervena);
+    EXPECT_EQ(relief.lblPrikaz[0].pozadi, barvy::bila);
+    EXPECT_EQ(relief.lblVolba[0].text(), " Nelze odvěsit část jedoucího vlaku!"_cz);
+    ASSERT_EQ(svet.pipnuti.size(), 1u);
+    EXPECT_EQ(svet.pipnuti[0], (VirtualniPlatforma::Pipnuti{100, 200}));
+    simulace.zvuk_vypnut = true; // this refusal is silent then, the one of coupling is not
+    odvesit_klik(0);
+    EXPECT_EQ(svet.pipnuti.size(), 1u);
+}
+
+TEST_F(Spojovani, NothingComesOffOnALineOrAtItsEnd) {
+    for (const int e : {84, 85, 117, 120, 123, 212, 213, 219, 602, 600, 36}) {
+        pridej_kolej(e);
+        const int v = vlak_na(e, true, 77, {"754", "B"});
+        info_o_vlaku({}, v);
+        odvesit_klik(0);
+        EXPECT_EQ(vlak(v).vozy.size(), e == 600 || e == 36 ? 1u : 2u) << e;
+        vlaky = prvni_vlaky();
+        koleje_vlaky = prvni_koleje_vlaky();
+    }
+}
+
+TEST_F(Spojovani, OldPicturesAreDrawnAnewAndNothingElseHappens) {
+    const int v = vlak_na(62, true, 77, {"754", "B", "C"});
+    info_o_vlaku({}, v);
+    vlak(v).vozy.pop_back();
+    odvesit_klik(0);
+    EXPECT_EQ(vlak(v).vozy, (Vozy{"754", "B"}));
+    EXPECT_EQ(vozu_na_panelu(), 2);
+    odvesit_klik(0);
+    EXPECT_EQ(vlak(v).vozy, Vozy{"B"});
+}
+
+TEST_F(Spojovani, TrainPageFollowsWhatHappensToItsTrain) {
+    const int v = vlak_na(62, true, 77, {"754", "B", "C"});
+    odvesit(v, 0, false);
+    EXPECT_EQ(vlak_na_panelu(), -3); // the page was not open
+    info_o_vlaku({}, v);
+    odvesit(v, 0, false);
+    EXPECT_EQ(vozu_na_panelu(), 1);
+    prepni_panel(Panel::denik);
+    const int w = vlak_na(63, true, 88, {"754", "B", "C"});
+    odvesit(w, 0, true);
+    EXPECT_EQ(vlak_na_panelu(), w);
+    EXPECT_TRUE(info_ukazuje(w));
+    prepni_panel(Panel::denik);
+    zmena_posun(w, 63, true);
+    EXPECT_FALSE(info_ukazuje(w));
+    zmena_posun(w, 63, false);
+    EXPECT_TRUE(info_ukazuje(w));
+}
+
+TEST_F(Spojovani, CoupledTrainIsShown) {
+    const int a = vlak_na(62, true, 77, {"B", "C"});
+    const int b = vlak_na(62, true, 88, {"754"});
+    spoj(a, b);
+    EXPECT_TRUE(info_ukazuje(a));
+    EXPECT_EQ(vozu_na_panelu(), 3);
+}
+
+TEST_F(Spojovani, RouteOfTheTrainThatJoinedEndsThere) {
+    const int v = vlak_na(63, true, 77, {"B", "C"});
+    const int loko = vlak_na(63, true, 88, {"754"});
+    cesta(radek(0));
+    cesty[0].Vlak = static_cast<std::int16_t>(loko);
+    cesty[0].Umazat = 3;
+    spoj(v, loko);
+    EXPECT_EQ(cesty[0].zacatek, -3); // its record may be used again at once
 }
 
 // --- the next train
@@ -325,11 +420,11 @@ TEST_F(Spojovani, TimesFarBehindThePresentBelongToTomorrow) {
 
 TEST_F(Spojovani, TrainBecomesAShuntAndItsNumberGoesFromTheLabel) {
     const int v = vlak_na(62, true, 77);
-    zmena_posun(v, 62);
+    zmena_posun(v, 62, false);
     EXPECT_TRUE(vlak(v).posun);
     EXPECT_TRUE(vlak(v).muze_jet);
     EXPECT_EQ(stitek(62), "");
-    zmena_posun(v, 62);
+    zmena_posun(v, 62, false);
     EXPECT_FALSE(vlak(v).posun);
     EXPECT_EQ(stitek(62), "77");
     EXPECT_EQ(radek_tabulky(77), 0);
@@ -339,7 +434,7 @@ TEST_F(Spojovani, LightEngineGetsANumberAndATimetableOfItsOwn) {
     const int v = vlak_na(62, true, 77, {"754"});
     vlak(v).posun = true;
     vlak(v).vozy_urceni = {"DKV"};
-    zmena_posun(v, 62);
+    zmena_posun(v, 62, false);
     EXPECT_GE(vlak(v).cislo, 70000);
     EXPECT_LT(vlak(v).cislo, 80000);
     EXPECT_EQ(vlak(v).druh, 16);
@@ -347,7 +442,7 @@ TEST_F(Spojovani, LightEngineGetsANumberAndATimetableOfItsOwn) {
     EXPECT_EQ(vlak(v).odjezd_realny, (std::vector<std::int16_t>{482, -3}));
     EXPECT_FALSE(vlak(v).muze_jet);
     const std::int32_t cislo = vlak(v).cislo;
-    zmena_posun(v, 62);
+    zmena_posun(v, 62, false);
     EXPECT_EQ(radek_tabulky(cislo), -1); // a made-up number goes from the table
 }
 
@@ -356,13 +451,13 @@ TEST_F(Spojovani, ChangeIsRefusedOffTheStationTracks) {
     vlak(v).prvky = {440, 62};
     vlak(v).prvky_druh = {1, 1};
     vlak(v).prvky_poloha = {0, 0};
-    zmena_posun(v, 62);
+    zmena_posun(v, 62, false);
     EXPECT_EQ(relief.lblVolba[0].text(), " Na kolejiK62 není změna možná!"_cz);
     EXPECT_FALSE(vlak(v).posun);
     skryj_prikaz();
     const int w = vlak_na(340, true, 88);
     vlak(w).posun = true;
-    zmena_posun(w, 340);
+    zmena_posun(w, 340, false);
     EXPECT_EQ(relief.lblVolba[0].text(), " Na koleji  není změna možná!"_cz);
     EXPECT_TRUE(vlak(w).posun);
 }
