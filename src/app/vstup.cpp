@@ -13,6 +13,7 @@
 #include "desk/zadani.h"
 #include "desk/zprava.h"
 #include "jizda/lokomotivy.h"
+#include "jizda/menu_koleje.h"
 #include "jizda/na_koleji.h"
 #include "jizda/spojovani.h"
 #include "prvky/prejezdy_stanice.h"
@@ -228,17 +229,6 @@ bool pismeno(const Klavesa& k) {
     return true;
 }
 
-// Number labels of a track: the left and the right one are one target. The labels 212, 213 and 219 are
-// line ends of their own.
-int prvek_popisku(int n) {
-    if (n > 600 && n % 2 != 0)
-        return n - 1;
-    if (n >= 200 && n <= 399 && n != 212 && n != 213 && n != 219)
-        return n - 200;
-    return n;
-}
-constexpr int kNejvyssiPopisek = 650; // labels behind it take no pick
-
 // F8: the trains on the track under the pointer, one after the other with each press.
 void info_pod_kurzorem() {
     if (simulace.pauza || !vyber.mys_nad_prvkem)
@@ -269,8 +259,10 @@ bool klik_na_prvek(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
             klik_cil(n);
         return true;
     case Druh::cislo_koleje:
-        if (leve && prvek_popisku(n) <= kNejvyssiPopisek)
-            klik_cil(prvek_popisku(n));
+        if (leve)
+            klik_cisla(n);
+        else if (prave)
+            menu_koleje(n);
         return true;
     case Druh::imgVyhybka:
         if (prave)
@@ -380,6 +372,8 @@ void dvojklik(Druh druh, int n) {
     if (!tabulka(druh).je(n) || provoz2_otevren())
         return;
     zavri_menu();
+    if (druh == Druh::cislo_koleje)
+        dvojklik_cisla(n);
 }
 
 void najeti(Druh druh, int n) {
@@ -390,6 +384,8 @@ void najeti(Druh druh, int n) {
     vyber.mys_druh = druh;
     vyber.mys_prvek = n;
     simulace.najety_prvek = druh == Druh::navestidlo || druh == Druh::navestidlo_ser ? n : kZadny;
+    if (druh == Druh::cislo_koleje)
+        najeti_cisla(n);
 }
 
 void odjeti() {

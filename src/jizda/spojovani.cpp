@@ -94,13 +94,14 @@ void spoj_vozy(int a, int b, bool zustava_b) {
     smer ? pripoj_do_cela(vlak_c(a), vlak_c(b)) : pripoj_na_konec(vlak_c(a), vlak_c(b));
 }
 
-// Routes that wait for the joined train go to the one that stays; the one that it came by ends here.
+// Routes that wait for the joined train go to the one that stays, and so does a calling-on route that the
+// operator has still to release; the one that it came by ends here.
 void predej_cesty(int zanikl, int zustal) {
     for (int c = static_cast<int>(cesty.size()) - 1; c >= 0; --c) {
         Cesta& cesta = cesty[static_cast<std::size_t>(c)];
         if (cesta.Vlak != zanikl)
             continue;
-        if (cesta.Umazat == 0) {
+        if (cesta.Umazat == 0 || (cesta.PN && !cesta.PN_zaver)) {
             cesta.Vlak = static_cast<std::int16_t>(zustal);
             continue;
         }
