@@ -17,7 +17,7 @@
 #include "prvky/stav_vyhybek.h"
 #include "relief/prejezdy.h"
 #include "save/gtn.h"
-#include "technologie/provoz2.h"
+#include "technologie/technologie.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
 #include "zaklad/soubory.h"
@@ -52,7 +52,7 @@ void nova_simulace() {
     prikaz_radek = Prikaz{};
     menu = Menu{};
     blikani = Blikani{};
-    provoz2 = Provoz2{};
+    zapomen_technologii();
 }
 
 bool je_ladeni() {
