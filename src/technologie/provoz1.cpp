@@ -20,7 +20,7 @@ Provoz1 provoz1;
 namespace {
 
 constexpr TextPohled kZnacky = "\\|/-";   // the mark turns in this order
-constexpr std::size_t kSirkaDriveru = 20; // a line of the panel, the mark behind it
+constexpr std::size_t kSirkaDriveru = 16; // a line of the panel, the mark behind it
 
 // Drivers of the panel itself, for the look of the real one.
 constexpr std::array<TextPohled, 3> kPevneDrivery = {"PN  |L1", "VC  |L1", "S+  |13"};

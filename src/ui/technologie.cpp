@@ -66,23 +66,24 @@ constexpr int kVyskaHlavy = 20; // of a list, pixels of the desk
 constexpr int kSirkaPosuvniku = 6;
 
 // A list: where its head begins, how wide it is, how many rows one below another it shows, in how many
-// columns, and how many times its letters are larger. All places are in pixels of the desk.
+// columns, how many times its letters are larger, and how high a row is. All places are in pixels of the
+// desk.
 struct OknoSeznamu {
     QPoint roh;
     int sirka, radku;
     int sloupcu = 1;
     double krat = 1;
+    int vyska_radku = 15;
     bool s_cisly = true;
 
-    int vyska_radku() const { return krat > 1 ? 21 : 15; }
     int naraz() const { return radku * sloupcu; }
     int sirka_cisel() const { return s_cisly ? static_cast<int>(4 * kSirkaBunky * krat) : 0; }
     QRect hlava() const { return {roh.x(), roh.y(), sirka, kVyskaHlavy}; }
-    QRect telo() const { return {roh.x(), roh.y() + kVyskaHlavy, sirka, radku * vyska_radku() + 6}; }
+    QRect telo() const { return {roh.x(), roh.y() + kVyskaHlavy, sirka, radku * vyska_radku + 6}; }
     QRect radek(int i) const {
         const int sloupec = (sirka - 2 - kSirkaPosuvniku) / sloupcu;
-        return {roh.x() + 1 + i / radku * sloupec, roh.y() + kVyskaHlavy + 3 + i % radku * vyska_radku(),
-                sloupec, vyska_radku()};
+        return {roh.x() + 1 + i / radku * sloupec, roh.y() + kVyskaHlavy + 3 + i % radku * vyska_radku,
+                sloupec, vyska_radku};
     }
 };
 
@@ -100,12 +101,12 @@ constexpr std::array<OknoSeznamu, 4> kOknaProvozu2 = {{
     {{584, 533}, 428, 9},
 }};
 constexpr std::array<OknoSeznamu, 2> kOknaPenetu = {{
-    {{12, 78}, 420, 19, 1, 1.5},
-    {{444, 78}, 568, 13, 1, 1.5},
+    {{12, 78}, 420, 19, 1, 1.5, 30},
+    {{444, 78}, 568, 13, 1, 1.5, 30},
 }};
 constexpr std::array<OknoSeznamu, 2> kOknaDohledu = {{
-    {{12, 78}, 1000, 23, 1, 1.5},
-    {{12, 618}, 1000, 2, 1, 1.5, false},
+    {{12, 78}, 1000, 23, 1, 1.5, 21},
+    {{12, 618}, 1000, 2, 1, 1.5, 21, false},
 }};
 constexpr std::array<OknoSeznamu, 2> kOknaSekvence = {{
     {{12, 130}, 560, 33, 3},
@@ -474,7 +475,7 @@ void ObrazovkaTechnologie::paintEvent(QPaintEvent*) {
     if (*ktera == Technologie::sekvence)
         nakresli_funkci(pero);
 
-    pero.text(280, 722, "šipky: řádek a obrazovka   Tab: další seznam"_cz, kTlumena);
+    pero.text(280, 730, "šipky: řádek a obrazovka   Tab: další seznam"_cz, kTlumena);
     for (std::size_t t = *ktera == Technologie::provoz2 ? 0 : 1; t < kTlacitka.size(); ++t) {
         const bool lze = t > 0 || provoz2.lstZasobnik.vybrany >= 0 || provoz2.lstmakra.vybrany >= 0;
         nakresli_tlacitko(pero, kTlacitka[t], pod_ukazatelem.tlacitko == static_cast<int>(t),
@@ -504,7 +505,8 @@ void ObrazovkaTechnologie::nakresli_seznam(const Pero& pero, Technologie ktera, 
         const bool pod = pod_ukazatelem.seznam == static_cast<int>(s) && pod_ukazatelem.radek == radek;
         if (vybrany || (pod && radek < radku))
             pero.plocha(misto, vybrany ? kVyber : kPodUkazatelem);
-        const int x = misto.x() + 5, y = misto.y() + 1;
+        const int x = misto.x() + 5;
+        const int y = misto.y() + (misto.height() - static_cast<int>(kVyskaBunky * okno.krat)) / 2;
         if (okno.s_cisly)
             pero.text(x, y, cislo_radku(cisla, radek), kTlumena, okno.krat);
         if (radek >= radku)
