@@ -19,6 +19,19 @@ std::int32_t v_mezich(std::int32_t hodnota, std::int32_t delka) {
 
 } // namespace
 
+bool je_text_casu(TextPohled cas) {
+    const std::size_t prvni = cas.find(':');
+    if (prvni == TextPohled::npos || prvni < 1 || prvni > 2 || cas.size() != prvni + 6 ||
+        cas[prvni + 3] != ':')
+        return false;
+    const auto cislice = [&](std::size_t i) { return cas[i] >= '0' && cas[i] <= '9'; };
+    for (std::size_t i = 0; i < cas.size(); ++i)
+        if (i != prvni && i != prvni + 3 && !cislice(i))
+            return false;
+    const int hodina = prvni == 1 ? cas[0] - '0' : (cas[0] - '0') * 10 + (cas[1] - '0');
+    return hodina < 24 && cas[prvni + 1] < '6' && cas[prvni + 4] < '6';
+}
+
 std::int32_t sekundy_textu(TextPohled cas) {
     std::array<std::int64_t, 3> casti{};
     for (std::int64_t& cast : casti) {

@@ -8,6 +8,8 @@
 
 #include <cstdint>
 
+// The text is a reading of the clock: "8:05:30", the hour with one digit or two.
+bool je_text_casu(TextPohled cas);
 // Seconds since midnight of a text "h:mm:ss" or "h:mm"; what cannot be read counts 0.
 std::int32_t sekundy_textu(TextPohled cas);
 // "h:mm:ss" of seconds since midnight, taken modulo a day: the hour without a leading zero.

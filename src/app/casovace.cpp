@@ -11,6 +11,7 @@
 #include "prvky/panel.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
+#include "save/ulozeni.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
 
@@ -96,6 +97,8 @@ void krok_minuty() {
     if (minuta_dne(cas_hodin()) == 0)
         dalsi_den();
     gtn_vyprazdni(); // a crash of the machine costs the log one minute at most
+    if (je_cas_ulozit())
+        uloz_prubezne();
 }
 
 Text soubor_autosave() {

@@ -19,6 +19,7 @@
 #include "relief/prejezdy.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
+#include "save/ulozeni.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 #include "zaklad/nahoda.h"
@@ -373,11 +374,15 @@ void start_simulace() {
     for (Vlak& v : vlaky)
         v.prvek_konec = v.rezerva = kZadny;
     rozmisti_tabulku();
+    if (simulace.nacitani_zaznamu && !nacti_simulaci(simulace.soubor_zaznamu))
+        return;
     for (int n = 0; n <= relief.lblcas.nejvyssi(); ++n)
         relief.lblcas[n].viditelny = true;
     if (!nacti_jizdni_rad())
         return;
-    if (!simulace.nacitani_zaznamu)
+    if (simulace.nacitani_zaznamu)
+        obnov_souhlasy();
+    else
         zaplneni_kolejiste(minuta_dne(cas_hodin()));
     relief.lblrychlost_simulace[0].text = text_cisla(simulace.rychlost);
     simulace.tick_jizdy = platforma.tik_ms();

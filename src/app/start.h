@@ -40,7 +40,7 @@ void nastav_hodiny(const VolbyStartu& volby);
 // Stage one. An error 340 is silently skipped, any other shows a box with the step's number; both go
 // on with the next step, so that a failed start leaves magenta or missing elements but never stops.
 void priprava_simulace();
-// Stage two, ten seconds later. A missing timetable is fatal.
+// Stage two, ten seconds later. A missing timetable, and a saved simulation that cannot be read, are fatal.
 void start_simulace();
 // How long the splash screen stays, whatever the loading took, ms.
 inline constexpr int kUvodniObrazovka_ms = 10000;

@@ -34,7 +34,6 @@ constexpr std::int32_t kPrestaveni_s = 5; // switches have run, the route may be
 constexpr std::int32_t kZavirani_s = 40;  // the crossing begins to close
 constexpr std::int32_t kPrivolavaci_s = 30;
 constexpr int kZnakVKoleji = 21; // glyph of a derailer in the way of a route
-constexpr int kZnakChrani = 23;  // and of one that protects
 
 // What one walk carries from route to route.
 struct Pruchod {
@@ -179,24 +178,13 @@ void prikaz_vyhybce(int n, int poloha) {
         prehod(n, poloha, true, false);
 }
 
-void prikaz_vykolejce(int n) {
-    Prvek& vykolejka = relief.lblVykolejka[n];
-    if (kod_znaku(orez(vykolejka.text())) == kZnakChrani) {
-        vykolejka.barva = barvy::cerna;
-        vykolejka.pozadi = barvy::seda;
-        vykolejka.ramecek = true;
-    } else {
-        vykolejka.barva = barvy::azurova;
-    }
-}
-
 void prikaz_prvkum(const Cesta& c) {
     const std::size_t posledni = posledni_index(c);
     for (std::size_t k = 1; k <= posledni; ++k) {
         const int n = c.prvky[k];
         switch (druh_na(c, k)) {
         case druh_prvku::vyhybka: prikaz_vyhybce(n, poloha_na(c, k)); break;
-        case druh_prvku::vykolejka: prikaz_vykolejce(n); break;
+        case druh_prvku::vykolejka: rezervuj_vykolejku(n); break;
         case druh_prvku::kolej:
             if (k == posledni && !c.VC)
                 return; // the last track of a shunt route stays as it is
@@ -299,7 +287,8 @@ void uzavri_prvky(const Cesta& c) {
         case druh_prvku::kolej:
             if (k == posledni && !c.VC)
                 return;
-            if (!c.PN)
+            // What has been occupied since, by a train on the calling-on aspect, stays occupied.
+            if (!c.PN && relief.kolej[n].barva != barvy::cervena)
                 barvi_prvek(n, c.VC ? barvy::zelena : barvy::bila, false, k == posledni);
             break;
         }

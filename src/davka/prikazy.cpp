@@ -16,6 +16,7 @@
 #include "davka/vypisy.h"
 #include "desk/zprava.h"
 #include "jizda/vlak.h"
+#include "save/ulozeni.h"
 #include "technologie/technologie.h"
 #include "zaklad/cisla.h"
 #include "zaklad/soubory.h"
@@ -229,6 +230,46 @@ void prikaz_spust(BehSkriptu& beh, Slova slova) {
     spust_planovac();
     plyn_do(svet.cas_ms + kUvodniObrazovka_ms);
     start_simulace();
+}
+
+// A save by its name: one without a folder lies in the folder of saves, as in the dialogue; a path counts
+// from where the runner was started, or else from the program's folder.
+Text cesta_zaznamu(std::string_view utf8) {
+    const Text jmeno = text_slova(utf8);
+    if (jmeno.find_first_of("/\\") == Text::npos)
+        return simulace.cesta_aplikace + "save\\" + jmeno;
+    const Text slozka = jmeno.substr(0, jmeno.find_last_of("/\\") + 1);
+    return soubor_existuje(slozka) ? jmeno : simulace.cesta_aplikace + jmeno;
+}
+
+// An existing one; the ending may be left out.
+Text nalezeny_zaznam(std::string_view utf8) {
+    const Text cesta = cesta_zaznamu(utf8);
+    for (const Text& moznost : {cesta, cesta + ".sim", text_slova(utf8)})
+        if (delka_souboru(moznost))
+            return moznost;
+    return cesta; // the start tells that there is none
+}
+
+void prikaz_nacti(BehSkriptu& beh, Slova slova) {
+    StartovniObrazovka o = vychozi_obrazovka();
+    for (const std::string& slovo : slova.subspan(1))
+        vypln(o, prirazeni(slovo));
+    if (o.dva_monitory) {
+        o.moznosti.bez_dvou_monitoru = false;
+        svet.rezim.sirka = 2048;
+    }
+    simulace.dva_monitory = o.dva_monitory;
+    beh.spusteno = true;
+    priprav_nacteni(nalezeny_zaznam(slova[0]), o.moznosti);
+    spust_planovac();
+    plyn_do(svet.cas_ms + kUvodniObrazovka_ms);
+    start_simulace();
+}
+
+void prikaz_uloz(BehSkriptu&, Slova slova) {
+    zastav_hodiny();
+    uloz_simulaci(cesta_zaznamu(slova[0]), false);
 }
 
 bool je_prihlaseni() {
@@ -548,6 +589,10 @@ constexpr std::array kPrikazy = {
                  "spust [cas=H:MM] [den=0..6] [rychlost=1..8] [gvd=JMENO] [pp=0/1] [zpozdeni=0/1] "
                  "[zvuk=0/1] [dual=0/1] [autosave=0/1] [autosaved=N] [noresize=0/1]",
                  prikaz_spust},
+    PopisPrikazu{"nacti", 1, kMnoho, Kdy::pred_startem, false,
+                 "nacti SOUBOR.sim [zvuk=0/1] [dual=0/1] [autosave=0/1] [autosaved=N] [noresize=0/1]",
+                 prikaz_nacti},
+    PopisPrikazu{"uloz", 1, 1, Kdy::po_startu, false, "uloz SOUBOR", prikaz_uloz},
     PopisPrikazu{"prihlas", 0, 0, Kdy::po_startu, false, "prihlas", prikaz_prihlas},
     PopisPrikazu{"klik", 1, 3, Kdy::po_startu, false, "klik DRUH CISLO [ctrl] | klik plocha", prikaz_klik},
     PopisPrikazu{"pravy", 1, 2, Kdy::po_startu, false, "pravy DRUH CISLO", prikaz_pravy},
@@ -566,9 +611,6 @@ constexpr std::array kPrikazy = {
     PopisPrikazu{"nastav", 2, kMnoho, Kdy::kdykoli, false, "nastav CO [CISLO] POLE=HODNOTA ...",
                  prikaz_nastav},
 };
-
-// Commands of the language whose rooms this version of the program does not have yet.
-constexpr std::array<std::string_view, 2> kZatimNe = {"nacti", "uloz"};
 
 constexpr auto kJmena = [] {
     std::array<std::string_view, kPrikazy.size()> jmena{};
@@ -607,11 +649,8 @@ void proved_radek(BehSkriptu& beh, std::string_view radek, bool jen_pohled) {
         return;
     const auto prikaz = std::find_if(kPrikazy.begin(), kPrikazy.end(),
                                      [&](const PopisPrikazu& p) { return p.jmeno == slova[0]; });
-    if (prikaz == kPrikazy.end()) {
-        if (std::find(kZatimNe.begin(), kZatimNe.end(), slova[0]) != kZatimNe.end())
-            chyba_skriptu("příkaz " + v_uvozovkach(slova[0]) + " tato verze programu nemá");
+    if (prikaz == kPrikazy.end())
         chyba_skriptu("neznámý příkaz " + v_uvozovkach(slova[0]) + napoveda(slova[0], kJmena));
-    }
     const Slova zbytek = Slova(slova).subspan(1);
     if (zbytek.size() < prikaz->nejmene || zbytek.size() > prikaz->nejvice)
         chyba_skriptu("příkaz se píše: " + std::string(prikaz->zapis));

@@ -7,6 +7,8 @@
 #include "relief/relief.h"
 #include "zaklad/text.h"
 
+#include <cstdint>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -17,7 +19,15 @@ struct PolozkaMenu {
     bool viditelna = true;
     void (*akce)(int cil) = nullptr; // what the entry does; none: kept for the look of the real desk
     int cil = kZadny;                // element, train or row that it acts on
+    bool podmenu = false;            // stands in the submenu of the last entry before it that does not
+    Text druhe_jmeno{};              // it answers to this name too; empty: to none
     bool operator==(const PolozkaMenu&) const = default;
+};
+
+// A corner of the desk, twips.
+struct MistoMenu {
+    std::int32_t vlevo = 0, nahore = 0;
+    bool operator==(const MistoMenu&) const = default;
 };
 
 struct Menu {
@@ -26,6 +36,7 @@ struct Menu {
     Druh druh = Druh::kolej;
     int prvek = kZadny; // the element on which it was opened
     std::vector<PolozkaMenu> polozky;
+    std::optional<MistoMenu> misto{}; // where it opens; none: at the pointer
     bool operator==(const Menu&) const = default;
 };
 extern Menu menu;

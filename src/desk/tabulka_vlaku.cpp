@@ -2,6 +2,7 @@
 #include "desk/tabulka_vlaku.h"
 
 #include "app/blikani.h"
+#include "desk/menu.h"
 #include "gvd/gvd.h"
 #include "jizda/vlak.h"
 #include "relief/relief.h"
@@ -17,6 +18,10 @@ constexpr std::size_t kSloupecUdaju = 12;
 constexpr std::size_t kSirkaDruhu = kSloupecCisla - 2; // then a blank
 constexpr std::size_t kSirkaCisla = kSloupecUdaju - kSloupecCisla;
 
+// The frame of the search stands so far round its label, and closes in for so many half-seconds.
+constexpr int kOdstupHledani = 200;
+constexpr int kKrokuHledani = 6;
+
 // Text padded with blanks, or cut, to a width.
 Text pole_radku(TextPohled text, std::size_t sirka) {
     Text pole(text.substr(0, sirka));
@@ -28,14 +33,20 @@ bool je_prazdny(int i) {
     return orez(relief.lblTabulka_vlaku[i].text()).empty();
 }
 
+std::int32_t cislo_radku(int i) {
+    return cele_z_textu(vyrez(relief.lblTabulka_vlaku[i].text(), kSloupecCisla, kSirkaCisla));
+}
+
 void presun(int odkud, int kam) {
     relief.lblTabulka_vlaku[kam].text = Text(relief.lblTabulka_vlaku[odkud].text());
+    relief.lblTabulka_vlaku[kam].barva = relief.lblTabulka_vlaku[odkud].barva();
     blikani.blikani_radku[static_cast<std::size_t>(kam)] =
         blikani.blikani_radku[static_cast<std::size_t>(odkud)];
 }
 
 void zapis(int i, TextPohled text) {
     relief.lblTabulka_vlaku[i].text = text;
+    relief.lblTabulka_vlaku[i].barva = barvy::bila;
     blikani.blikani_radku[static_cast<std::size_t>(i)] = false;
 }
 
@@ -56,6 +67,10 @@ Text radek_vlaku(const Vlak& v) {
     pis_druh_a_cislo(radek, v);
     vloz_do(radek, kSloupecUdaju, udaje);
     return radek;
+}
+
+void smaz_radek(int radek) {
+    smaz_z_tabulky(cislo_radku(radek));
 }
 
 } // namespace
@@ -87,7 +102,7 @@ int radek_tabulky(std::int32_t cislo) {
     if (cislo <= 0)
         return -1;
     for (int i = 0; i < kRadkuTabulky; ++i)
-        if (cele_z_textu(vyrez(relief.lblTabulka_vlaku[i].text(), kSloupecCisla, kSirkaCisla)) == cislo)
+        if (cislo_radku(i) == cislo)
             return i;
     return -1;
 }
@@ -104,4 +119,32 @@ void prepis_v_tabulce(std::int32_t cislo, int vlak) {
 void blikej_v_tabulce(std::int32_t cislo, bool blika) {
     if (const int i = radek_tabulky(cislo); i >= 0)
         blikani.blikani_radku[static_cast<std::size_t>(i)] = blika;
+}
+
+void hledej_radek(int radek) {
+    const std::int32_t cislo = cislo_radku(radek);
+    if (cislo <= 0)
+        return;
+    for (int n = 0; n <= relief.cislo_koleje.nejvyssi(); ++n) {
+        if (!relief.cislo_koleje.je(n) || cele_z_textu(orez(relief.cislo_koleje[n].text())) != cislo)
+            continue;
+        const Prvek& stitek = relief.cislo_koleje[n];
+        Prvek& ramecek = relief.shpVyhledavani[0];
+        ramecek.vlevo = stitek.vlevo() - kOdstupHledani;
+        ramecek.nahore = stitek.nahore() - kOdstupHledani;
+        ramecek.sirka = stitek.sirka() + 2 * kOdstupHledani;
+        ramecek.vyska = stitek.vyska() + 2 * kOdstupHledani;
+        ramecek.viditelny = true;
+        do_popredi(ramecek);
+        blikani.ramecek_hledani = kKrokuHledani;
+        return;
+    }
+}
+
+void menu_tabulky(int radek) {
+    if (je_prazdny(radek))
+        return;
+    Menu nove{"mnuTabulka", {}, Druh::lblTabulka_vlaku, radek, {}};
+    nove.polozky.push_back({"miSmazat", "SMAZ", true, true, smaz_radek, radek});
+    otevri_menu(std::move(nove));
 }

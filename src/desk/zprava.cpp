@@ -2,6 +2,7 @@
 #include "desk/zprava.h"
 
 #include "app/simulace.h"
+#include "desk/info_o_vlaku.h"
 #include "relief/relief.h"
 #include "zaklad/platforma.h"
 
@@ -196,7 +197,9 @@ void prepni_panel(Panel panel) {
     relief.lblIinfo_o_vlaku[0].viditelny = panel == Panel::vlak;
     if (panel == Panel::tabulka)
         relief.lblIinfo_o_vlaku[0].text = Text{};
-    if (panel != Panel::vlak) {
+    if (panel == Panel::vlak) {
+        ukaz_stranku_vlaku();
+    } else {
         ukaz(relief.imgObrzaek_vlaku, false);
         ukaz(relief.lblPopis_vozu, false);
         ukaz(relief.imgSberac, false);

@@ -41,8 +41,9 @@ const GvdVlak& radek(int gvd_index) {
     return gvd_vlaky.at(static_cast<std::size_t>(gvd_index));
 }
 
+// 0 fills the rest of a list of tracks; the relief does have an element of that number.
 bool volny_prvek(int e) {
-    return je_kolej(e) && je_volna(e);
+    return e != 0 && je_kolej(e) && je_volna(e);
 }
 
 template <class Prvky> int prvni_volny(const Prvky& prvky) {
@@ -337,7 +338,8 @@ void umisti_vlak_do_stanice(int stanice, int predchozi, int dalsi, int index, in
     const int element = prvni_volny(kde->koleje);
     if (element < 0)
         return;
-    if (kde->na_trati && !je_cela_nakreslena(*najdi_cestu_na_trati(element)))
+    if (const CestaNaTrati* trat = kde->na_trati ? najdi_cestu_na_trati(element) : nullptr;
+        trat != nullptr && !je_cela_nakreslena(*trat))
         return;
     const int v = umisti_vlak(element, kde->smer, kde->index, gvd_index);
     if (kde->na_trati)

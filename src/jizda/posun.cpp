@@ -3,6 +3,8 @@
 
 #include "cesty/cesta.h"
 #include "cesty/cisla_vlaku.h"
+#include "cesty/dotazy.h"
+#include "desk/info_o_vlaku.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
 #include "jizda/na_koleji.h"
@@ -44,7 +46,7 @@ bool smi_se_zmenit(int v, int prvek) {
     if (je_cislo_koleje(prvek))
         odmitni(Text(" Na koleji "_cz) + popis + Text("není změna možná!"_cz));
     else
-        odmitni(Text(" Na koleji "_cz) + jmeno(prvek) + Text(" není změna možná!"_cz));
+        odmitni(Text(" Na koleji "_cz) + jmeno_konce(prvek) + Text(" není změna možná!"_cz));
     return false;
 }
 
@@ -89,7 +91,7 @@ std::uint8_t cil_stroje(const Vlak& vlak, int odkud) {
 
 } // namespace
 
-void zmena_posun(int v, int prvek) {
+void zmena_posun(int v, int prvek, bool tise) {
     if (!smi_se_zmenit(v, prvek))
         return;
     vlak_c(v).posun = !vlak_c(v).posun;
@@ -100,6 +102,8 @@ void zmena_posun(int v, int prvek) {
     for (std::size_t i = 0; i < koleje_vlaky.size(); ++i)
         if (koleje_vlaky[i].prvek == prvek || koleje_vlaky[i].vlaky.front() == v)
             zobraz_kolej(static_cast<int>(i));
+    if (!tise || info_ukazuje(v))
+        info_o_vlaku({}, v);
     for (std::size_t c = 0; c < cesty.size(); ++c)
         if (cesty[c].Umazat == 0 && cesty[c].prvky.front() == prvek && cesty[c].Postavena && cesty[c].VC)
             postup_cisla(static_cast<int>(c));

@@ -5,6 +5,8 @@
 #include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
+#include "cesty/zasobnik.h"
+#include "desk/info_o_vlaku.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
@@ -30,6 +32,7 @@ constexpr std::int16_t kNaPovel = -10;     // working departure of a stop that e
 constexpr std::uint8_t kRychlostDilu = 40; // line speed of a part that was split off
 constexpr int kPrvniMotorovyVuz = 800;     // series from which on a lone vehicle is a train of its own
 constexpr int kPrvniRidiciVuz = 900;       // driving trailers
+constexpr int kPosledniVeStanici = 600;    // sections of lines are numbered above
 constexpr int kKolejVytahu = 32;           // beside the stub of the locomotives
 constexpr int kKusaKolej = 574;            // that stub
 
@@ -91,6 +94,22 @@ void spoj_vozy(int a, int b, bool zustava_b) {
     smer ? pripoj_do_cela(vlak_c(a), vlak_c(b)) : pripoj_na_konec(vlak_c(a), vlak_c(b));
 }
 
+// Routes that wait for the joined train go to the one that stays, and so does a calling-on route that the
+// operator has still to release; the one that it came by ends here.
+void predej_cesty(int zanikl, int zustal) {
+    for (int c = static_cast<int>(cesty.size()) - 1; c >= 0; --c) {
+        Cesta& cesta = cesty[static_cast<std::size_t>(c)];
+        if (cesta.Vlak != zanikl)
+            continue;
+        if (cesta.Umazat == 0 || (cesta.PN && !cesta.PN_zaver)) {
+            cesta.Vlak = static_cast<std::int16_t>(zustal);
+            continue;
+        }
+        smaz_cestu(c);
+        zmena_zasobniku();
+    }
+}
+
 // A stop that waited for this coupling has a departure again.
 void obnov_odjezd(Vlak& vlak) {
     const auto i = static_cast<std::size_t>(std::max<int>(vlak.stanice_index, 0));
@@ -105,6 +124,13 @@ void obnov_odjezd(Vlak& vlak) {
 }
 
 // --- splitting
+
+// Wholly on one element of the station: a train on a line or at its end is on its way.
+bool stoji_na_koleji(const Vlak& v) {
+    constexpr std::array<int, 8> kKonceTrati = {84, 85, 117, 120, 123, 212, 213, 219};
+    return cely_na_prvku(v) && v.prvky.back() <= kPosledniVeStanici &&
+           std::find(kKonceTrati.begin(), kKonceTrati.end(), v.prvky.back()) == kKonceTrati.end();
+}
 
 // Units are not split.
 bool je_jednotka(TextPohled vuz) {
@@ -203,15 +229,8 @@ void prevezmi_radek(Vlak& vlak, const GvdVlak& radek) {
     vlak.zpozdeni = 0;
     vlak.zpozdeni_vstup = 0;
     vlak.stanice = radek.stanice;
-    const auto dnesni = [](const std::vector<std::int16_t>& casy) {
-        std::vector<std::int16_t> vysledek;
-        vysledek.reserve(casy.size());
-        for (const std::int16_t cas : casy)
-            vysledek.push_back(na_integer(cas + korekce(cas)));
-        return vysledek;
-    };
-    vlak.prijezd = dnesni(radek.prijezdy);
-    vlak.odjezd = dnesni(radek.odjezdy);
+    vlak.prijezd = dnesni_casy(radek.prijezdy);
+    vlak.odjezd = dnesni_casy(radek.odjezdy);
     vlak.odjezd_realny = vlak.odjezd;
 }
 
@@ -246,6 +265,7 @@ void zrus_vlak(int v) {
                       (static_cast<int>(i) != v && vlaky[i].cislo > 0 && zobrazene_cislo(vlaky[i]) == cislo);
     if (!jeste_jeden || !jen_loko(vlak_c(v)))
         smaz_z_tabulky(cislo);
+    zapomen_info(v);
     Vlak& vlak = vlak_c(v);
     vlak.cislo = kZadny;
     vlak.cislo2 = kZadny;
@@ -302,16 +322,15 @@ void spoj(int a, int b) {
     uber_z_koleje(vlak_c(zustal).prvky.back(), zanikl);
     uber_z_opustenych(zanikl);
     zrus_vlak(zanikl);
-    for (Cesta& cesta : cesty)
-        if (cesta.Vlak == zanikl && cesta.Umazat == 0)
-            cesta.Vlak = static_cast<std::int16_t>(zustal);
+    predej_cesty(zanikl, zustal);
     vlak_c(zustal).rychlost = 0;
     otoc_podle_stanic(zustal);
+    info_o_vlaku({}, zustal);
     zobraz_cekani(zustal);
     obnov_odjezd(vlak_c(zustal));
 }
 
-int odvesit(int v, int i) {
+int odvesit(int v, int i, bool zobraz) {
     if (i < 0 || static_cast<std::size_t>(i) >= vlak_c(v).vozy.size() || vlak_c(v).vozy.size() < 2 ||
         vlak_c(v).cislo < 0 || vlak_c(v).prvky.empty() ||
         je_jednotka(vlak_c(v).vozy[static_cast<std::size_t>(i)]))
@@ -351,7 +370,26 @@ int odvesit(int v, int i) {
     if (zbyl.posun ||
         (zbyl.stanice_index >= 0 && static_cast<std::size_t>(zbyl.stanice_index) + 1 == zbyl.stanice.size()))
         navazny_vlak(v);
+    if (zobraz || info_ukazuje(v))
+        info_o_vlaku({}, v);
     return d;
+}
+
+void odvesit_klik(int i) {
+    const int v = vlak_na_panelu();
+    if (v < 0 || !je_vlak(v))
+        return;
+    if (vozu_na_panelu() != static_cast<int>(vlak_c(v).vozy.size())) {
+        info_o_vlaku({}, v); // the pictures are old ones
+        return;
+    }
+    if (!stoji_na_koleji(vlak_c(v))) {
+        zprava(" ODVESIT "_cz, " Nelze odvěsit část jedoucího vlaku!"_cz, barvy::bila, 0, false, 0xFFFFFF,
+               barvy::cervena);
+        pipni(100, 200);
+        return;
+    }
+    odvesit(v, i, true);
 }
 
 void zkrat_vlak(int v) {
@@ -394,7 +432,7 @@ void navazny_vlak(int v) {
     if (i > 0) {
         if (vlak_c(v).vozy_urceni[static_cast<std::size_t>(i)].empty())
             return;
-        v = odvesit(v, i);
+        v = odvesit(v, i, false);
         if (v < 0)
             return;
     }
@@ -407,7 +445,7 @@ void navazny_vlak(int v) {
     smaz_radek_vlaku(v);
     prevezmi_radek(vlak_c(v), *radek);
     if (musi_objet(vlak_c(v)))
-        odvesit(v, 0);
+        odvesit(v, 0, false);
     if (radek_tabulky(zobrazene_cislo(vlak_c(v))) < 0)
         pridej_do_tabulky(v);
     if (const int zaznam = vlak_c(v).prvky.empty() ? -1 : zaznam_koleje(vlak_c(v).prvky.back()); zaznam >= 0)

@@ -21,8 +21,11 @@ void otoc_nouzove(int v);
 // Couples two records that stand wholly on one element; else a refusal on the command line.
 void spoj(int a, int b);
 // Splits off the vehicles 0 to i (the last one alone when i is the last); index of the new record, -3
-// when nothing was done.
-int odvesit(int v, int i);
+// when nothing was done. `zobraz`: the train is shown on the train page; else only when it stands there.
+int odvesit(int v, int i, bool zobraz);
+// Click on the picture of vehicle i of the train on the train page: it comes off with those before it. A
+// train on its way is refused on the command line; pictures that do not fit the train are drawn anew.
+void odvesit_klik(int i);
 // The tail is pulled up onto the head's element: the way out of a stuck tail. Numbers stay on the tracks
 // behind until the train moves.
 void zkrat_vlak(int v);

@@ -135,7 +135,7 @@ void vymen_loko_v_tesku(int v) {
     const std::size_t posledni = vlak.vozy.size() - 1;
     if (!ma_odejit(vlak, 0) && !ma_odejit(vlak, posledni))
         return;
-    const int odvesena = odvesit(v, ma_odejit(vlak, 0) ? 0 : static_cast<int>(posledni));
+    const int odvesena = odvesit(v, ma_odejit(vlak, 0) ? 0 : static_cast<int>(posledni), false);
     if (odvesena < 0)
         return;
     Vlak& nova = vlak_c(odvesena);
@@ -154,7 +154,7 @@ void vymen_loko_v_hajovicich(int v) {
         vlak.vozy.size() < 2 || rada(vlak.vozy[0]) == vlak.loko_rada2)
         return;
     if (!je_loko(vlak.vozy[1]) || je_loko(vlak.vozy[0]))
-        odvesit(v, 0);
+        odvesit(v, 0, false);
 }
 
 // Lower station: towards Rybnice and Vysni Hrabov the train goes on the other way round, and its
@@ -165,9 +165,9 @@ void odves_v_dolnim(int v) {
     if (!stoji_ve_stanici(vlak, 15) || vlak.vozy.size() < 2 || !je_loko(vlak.vozy[0]))
         return;
     if (dalsi == 7 && !vlak.smer)
-        odvesit(v, 0);
+        odvesit(v, 0, false);
     else if (dalsi == 8 && vlak.smer)
-        odvesit(v, je_loko(vlak.vozy[1]) ? 1 : 0);
+        odvesit(v, je_loko(vlak.vozy[1]) ? 1 : 0, false);
 }
 
 // --- a set at a platform
@@ -181,11 +181,11 @@ void postav_soupravu(int prvek, int v) {
         return;
     if (const auto cil = ciselny_text(urceni(vlak, 0)); cil && *cil != vlak.cislo)
         navazny_vlak(v);
-    zmena_posun(v, prvek);
+    zmena_posun(v, prvek, true);
     if (urceni(vlak_c(v), 0) == "ZAL")
-        odvesit(v, 0);
+        odvesit(v, 0, false);
     if (const std::size_t vozu = vlak_c(v).vozy.size(); vozu > 0 && urceni(vlak_c(v), vozu - 1) == "ZAL")
-        odvesit(v, static_cast<int>(vozu) - 1);
+        odvesit(v, static_cast<int>(vozu) - 1, false);
     for (Cesta& cesta : cesty)
         if (cesta.Vlak == v)
             cesta.Vlak = kKOdstraneni;
@@ -495,16 +495,8 @@ void prepni_cislo(int v) {
     Vlak& vlak = vlak_c(v);
     if (vlak.cislo2 <= 0 || vlak.cislo2_platne)
         return;
-    const Text stare = text_cisla(vlak.cislo);
-    const Text nove = text_cisla(vlak.cislo2);
     vlak.cislo2_platne = true;
-    for (int n = 0; n <= relief.cislo_koleje.nejvyssi(); ++n) {
-        if (!je_cislo_koleje(n) || orez(relief.cislo_koleje[n].text()) != stare)
-            continue;
-        Text text = relief.cislo_koleje[n].text(); // blanks around the number stay
-        text.replace(text.find(stare), stare.size(), nove);
-        nastav_text(relief.cislo_koleje[n], text);
-    }
+    prepis_cislo_na_stitcich(vlak.cislo, vlak.cislo2);
     prepis_v_tabulce(vlak.cislo, v);
 }
 

@@ -5,6 +5,7 @@
 #include "cesty/uvolneni.h"
 #include "cesty/volba.h"
 #include "desk/menu.h"
+#include "desk/predvidane_vlaky.h"
 #include "gvd/gvd.h"
 #include "prvky/navestidla.h"
 #include "relief/relief.h"
@@ -39,16 +40,9 @@ constexpr std::array<PrujezdnaCesta, 16> kPrujezdneCesty = {{
     {13, 72, 622},
 }};
 
-// Stations about which the timetable can say what comes next.
-constexpr std::array kSPredpovedi = {1, 2, 4, 5, 6, 17, 18, 19, 20};
-
 bool ma_prujezdne_cesty(int post) {
     return std::any_of(kPrujezdneCesty.begin(), kPrujezdneCesty.end(),
                        [&](const PrujezdnaCesta& p) { return p.post == post; });
-}
-
-bool ma_predpoved(int post) {
-    return std::find(kSPredpovedi.begin(), kSPredpovedi.end(), post) != kSPredpovedi.end();
 }
 
 bool jede_z(int s) {
@@ -105,7 +99,8 @@ void menu_stanoviste(int post) {
     nove.polozky.push_back({"miAH", "AH", ma_prujezdne_cesty(post), true, automat, post});
     for (const TextPohled bez_ucinku : {"VDS", "DK", "RESET"})
         nove.polozky.push_back({"mi" + Text(bez_ucinku), Text(bez_ucinku), true, true, nullptr, post});
-    nove.polozky.push_back({"miPredvidane_vlaky", "PR. VLAKY", true, ma_predpoved(post), nullptr, post});
+    nove.polozky.push_back(
+        {"miPredvidane_vlaky", "PR. VLAKY", true, ma_predpoved(post), predvidane_vlaky, post});
     nove.polozky.push_back({"miPopisky", "POPISKY", true, true, akce_popisky, post});
     otevri_menu(std::move(nove));
 }

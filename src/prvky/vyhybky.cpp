@@ -3,8 +3,10 @@
 
 #include "app/cas.h"
 #include "cesty/barvi_prvek.h"
+#include "cesty/cesta.h"
 #include "cesty/tabulky.h"
 #include "desk/menu.h"
+#include "jizda/vlak.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
 #include "zaklad/cisla.h"
@@ -182,11 +184,13 @@ void nastav_pohyb(int n, bool pohyb) {
     stav_vyhybek.vyhybka_pohyb[index] = pohyb;
 }
 
-// The short piece of track 4 is a part of switch 14 and wears its colour.
+// The short piece of track 4 is a part of switch 14 and wears its colour; but a train that has left the
+// switch and stands on the piece keeps it occupied.
 void obarvi_kolej_4(int stav) {
     constexpr std::array kTridy = {barvy::seda, barvy::zelena, barvy::azurova, barvy::cervena, barvy::bila};
     const auto trida = static_cast<std::size_t>(stav / 50);
-    if (stav >= 0 && poloha_stavu(stav) == 8 && trida < kTridy.size() && je_kolej(4))
+    if (stav >= 0 && poloha_stavu(stav) == 8 && trida < kTridy.size() && je_kolej(4) &&
+        (kTridy[trida] == barvy::cervena || !drzi_jiny(4, kZadny)))
         barvi_prvek(4, kTridy[trida]);
 }
 
@@ -284,6 +288,13 @@ void vyhybka_stav(int n, int stav, bool vazby, bool vykolejky) {
         });
 }
 
+void rezervuj_vykolejku(int n) {
+    if (kod_znaku(orez(relief.lblVykolejka[n].text())) == kZnakMimoKolej)
+        vykolejka_v_pohybu(n);
+    else
+        relief.lblVykolejka[n].barva = barvy::azurova;
+}
+
 void menu_vyhybky(int n) {
     const ZaznamVazeb* zaznam = najdi_vazby(n);
     const Moznosti m = moznosti(n);
@@ -322,4 +333,31 @@ void hod_vyhybku(int n, PovelVyhybky povel) {
 
 void vyhybka_nouz(int n) {
     vyhybka_stav(n, nouz(poloha_stavu(stav_vyhybky_cislo(n))), false, false);
+}
+
+void obnov_pohyb_vyhybek() {
+    stav_vyhybek.vyhybka_pohyb.assign(static_cast<std::size_t>(relief.imgVyhybka.nejvyssi() + 1), false);
+    const auto rozjed = [](int n) {
+        nastav_pohyb(n, true);
+        relief.imgVyhybka[n].obrazek = na_integer(vyhybka_obrazek(stav_vyhybky_cislo(n)) + 100);
+    };
+    for (const Cesta& c : cesty) {
+        if (c.zacatek < 0 || !c.prehozena || c.Provedena || c.Umazat != 0)
+            continue;
+        for (std::size_t k = 1; k < c.prvky.size(); ++k) {
+            const int n = c.prvky[k];
+            if (druh_na(c, k) == druh_prvku::vyhybka && relief.imgVyhybka.je(n) &&
+                stav_vyhybky_cislo(n) == poloha_na(c, k))
+                rozjed(n); // one that stood there already has been reserved instead
+            else if (druh_na(c, k) == druh_prvku::vykolejka && relief.lblVykolejka.je(n) &&
+                     relief.lblVykolejka[n].barva != barvy::bila)
+                rezervuj_vykolejku(n);
+        }
+    }
+    const int n = stav_vyhybek.prehoz_vyhybka;
+    if (stav_vyhybek.prehoz_cas != -3 && relief.imgVyhybka.je(n) && stav_vyhybky_cislo(n) < 50) {
+        rozjed(n);
+        if (!je_anglicka(stav_vyhybky_cislo(n)))
+            rozjed_vykolejky(n, stav_vyhybky_cislo(n));
+    }
 }

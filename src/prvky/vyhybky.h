@@ -44,6 +44,8 @@ void prehod(int n, int poloha, bool vazby, bool vykolejky);
 // Ends a throw, or gives switch n a state: picture, state text, log. `vazby`: the free coupled switches
 // end theirs; `vykolejky`: the derailers driven by n show their new position.
 void vyhybka_stav(int n, int stav, bool vazby, bool vykolejky);
+// A route takes derailer n: one that protects begins to move onto the rail, one that lies there is reserved.
+void rezervuj_vykolejku(int n);
 
 // --- on the operator's command
 
@@ -53,3 +55,10 @@ void menu_vyhybky(int n);
 void hod_vyhybku(int n, PovelVyhybky povel);
 // NOUZ: ends any movement at once in the emergency position.
 void vyhybka_nouz(int n);
+
+// --- after a load
+
+// The movements that the other tables tell of: of the switches and derailers of a route that has been
+// commanded and not locked yet, and of the switch thrown by hand. A switch coupled with one of these looks
+// at rest until both stand: no table says whether it had to move.
+void obnov_pohyb_vyhybek();

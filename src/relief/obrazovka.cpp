@@ -162,7 +162,7 @@ constexpr Misto kMista[] = {
     prvek(Druh::shpblikacka, {8, 643, 11, 8}).barva(kZnackaTabulky).rada(48, 0, 0),
 
     // Vehicles of the train on display: the panel moves them side by side.
-    prvek(Druh::imgObrzaek_vlaku, {4, 686, 80, 40}).rada(40, 80, 0).skryty(),
+    prvek(Druh::imgObrzaek_vlaku, {4, 686, 80, 40}).rada(40, 80, 0).skryty().nepovoleny(),
     prvek(Druh::imgSberac, {4, 670, 24, 14}).skryty(),
     prvek(Druh::lblPopis_vozu, {4, 728, 80, 13}).rada(40, 80, 0).na_stred().skryty(),
     prvek(Druh::lblPokracuje, {980, 700, 40, 14}, ">>>"_cz).skryty(),

@@ -85,15 +85,18 @@ void nastav_vzhled(QApplication& aplikace) {
 }
 
 void priprav(const VolbyStartu& volby) {
-    parametry->hide();
+    if (!parametry) // the start is on its way: a key that waited behind the first one changes nothing
+        return;
+    Parametry* formular = parametry.release();
+    formular->hide();
     uvod = std::make_unique<UvodniObrazovka>();
     uvod->show();
-    QCoreApplication::processEvents();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
     v_jadre([&] {
         priprava_simulace();
         nastav_hodiny(volby);
     });
-    parametry.release()->deleteLater(); // it is this screen's own command that runs here
+    formular->deleteLater(); // it is this screen's own command that runs here
     QTimer::singleShot(kUvodniObrazovka_ms, [] {
         if (!je_konec())
             ukaz_hlavni_obrazovku();

@@ -263,6 +263,8 @@ void Parametry::vyber_gvd() {
 }
 
 void Parametry::start() {
+    if (!isVisible()) // keys pressed before the screen had gone
+        return;
     const int hodina = cislo_pole(txtHodiny, 24), minuta = cislo_pole(txtMinuty, 60);
     if (hodina < 0 || minuta < 0) {
         v_jadre([] { platforma.okno(kTitul, "Neplatný čas!"_cz); });

@@ -12,6 +12,7 @@
 #include <system_error>
 #include <unistd.h>
 #include <utility>
+#include <vector>
 
 namespace fs = std::filesystem;
 
@@ -130,6 +131,75 @@ std::uint64_t zmeny = 0;
     }
 }
 
+// Writes all of it: 0, or the reason why not.
+int zapis_vse(int soubor, const std::uint8_t* bajty, std::size_t delka) {
+    while (delka > 0) {
+        const ssize_t kus = ::write(soubor, bajty, delka);
+        if (kus == 0)
+            return ENOSPC;
+        if (kus < 0 && errno != EINTR)
+            return errno;
+        if (kus > 0) {
+            bajty += kus;
+            delka -= static_cast<std::size_t>(kus);
+        }
+    }
+    return 0;
+}
+
+// Whatever `odkud` holds from `misto` on goes to the end of `kam`.
+int zkopiruj_konec(int odkud, std::size_t misto, int kam) {
+    std::vector<std::uint8_t> kus(64 * 1024);
+    for (;;) {
+        const ssize_t precteno = ::pread(odkud, kus.data(), kus.size(), static_cast<off_t>(misto));
+        if (precteno == 0)
+            return 0;
+        if (precteno < 0 && errno != EINTR)
+            return errno;
+        if (precteno < 0)
+            continue;
+        if (const int duvod = zapis_vse(kam, kus.data(), static_cast<std::size_t>(precteno)); duvod != 0)
+            return duvod;
+        misto += static_cast<std::size_t>(precteno);
+    }
+}
+
+// A name is on disk only with its folder. A folder that cannot be synchronised is left to the system.
+void uloz_slozku(const std::string& soubor) {
+    const std::size_t lomitko = soubor.rfind('/');
+    const std::string slozka = lomitko == std::string::npos ? "." : soubor.substr(0, lomitko + 1);
+    const int otevrena = ::open(slozka.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (otevrena < 0)
+        return;
+    const Zavirac zavirac{otevrena};
+    ::fsync(otevrena);
+}
+
+// `obsah`, and behind it what the open file `konec_z` (-1 none) holds beyond that length, is written beside
+// `cil` and put in its place when it is complete on disk.
+void zapis_vedle(TextPohled cesta, const std::string& cil, const Bajty& obsah, int konec_z) {
+    ++zmeny;
+    const std::string docasny = cil + ".nove";
+    const int soubor = ::open(docasny.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    if (soubor < 0)
+        chyba_zapisu(cesta, errno);
+    int duvod = zapis_vse(soubor, obsah.data(), obsah.size());
+    if (duvod == 0 && konec_z >= 0)
+        duvod = zkopiruj_konec(konec_z, obsah.size(), soubor);
+    if (duvod == 0 && ::fsync(soubor) != 0)
+        duvod = errno;
+    if (::close(soubor) != 0 && duvod == 0)
+        duvod = errno;
+    if (duvod == 0 && ::rename(docasny.c_str(), cil.c_str()) != 0)
+        duvod = errno;
+    if (duvod == 0) {
+        uloz_slozku(cil);
+        return;
+    }
+    ::unlink(docasny.c_str());
+    chyba_zapisu(cesta, duvod);
+}
+
 // Both in lower case.
 bool odpovida(TextPohled jmeno, TextPohled vzor) {
     if (vzor.empty())
@@ -197,31 +267,23 @@ Bajty nacti_soubor(TextPohled cesta) {
 }
 
 void zapis_soubor(TextPohled cesta, const Bajty& obsah) {
-    ++zmeny;
+    zapis_vedle(cesta, cesta_k_zapisu(cesta), obsah, -1);
+}
+
+void prepis_zacatek_souboru(TextPohled cesta, const Bajty& obsah) {
     const std::string cil = cesta_k_zapisu(cesta);
-    const std::string docasny = cil + ".nove";
-    const int soubor = ::open(docasny.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
-    if (soubor < 0)
+    const int stary = ::open(cil.c_str(), O_RDWR | O_CLOEXEC | O_NONBLOCK);
+    if (stary < 0 && errno != ENOENT)
         chyba_zapisu(cesta, errno);
-    std::size_t zapsano = 0;
-    int duvod = 0;
-    while (duvod == 0 && zapsano < obsah.size()) {
-        const ssize_t kus = ::write(soubor, obsah.data() + zapsano, obsah.size() - zapsano);
-        if (kus > 0)
-            zapsano += static_cast<std::size_t>(kus);
-        else if (kus == 0 || errno != EINTR)
-            duvod = kus == 0 ? ENOSPC : errno;
-    }
-    if (duvod == 0 && ::fsync(soubor) != 0)
-        duvod = errno;
-    if (::close(soubor) != 0 && duvod == 0)
-        duvod = errno;
-    if (duvod == 0 && ::rename(docasny.c_str(), cil.c_str()) != 0)
-        duvod = errno;
-    if (duvod == 0)
+    if (stary < 0) {
+        zapis_vedle(cesta, cil, obsah, -1);
         return;
-    ::unlink(docasny.c_str());
-    chyba_zapisu(cesta, duvod);
+    }
+    const Zavirac zavirac{stary};
+    struct stat st {};
+    if (::fstat(stary, &st) != 0 || !S_ISREG(st.st_mode))
+        chyba(KodChyby::pristup_odepren, Text(cesta));
+    zapis_vedle(cesta, cil, obsah, stary);
 }
 
 bool zaloz_slozku(TextPohled cesta) {

@@ -30,6 +30,9 @@ Bajty nacti_soubor(TextPohled cesta);
 // Whole new content, written beside the old file and put in its place only when it is complete on
 // disk, so that a fault leaves the old file as it was. Run-time error 61, 70 or 76 on a fault.
 void zapis_soubor(TextPohled cesta, const Bajty& obsah);
+// New content at the beginning of a file that is not shortened: what an older, longer file holds behind it
+// stays. As safe as zapis_soubor; a file that may not be written is refused (70) although its folder may.
+void prepis_zacatek_souboru(TextPohled cesta, const Bajty& obsah);
 // Makes the folder; false on a fault (an existing folder is no fault).
 bool zaloz_slozku(TextPohled cesta);
 // Removes a file; false when there was none or it stays.

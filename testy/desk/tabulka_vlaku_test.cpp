@@ -1,8 +1,12 @@
 // testy/desk/tabulka_vlaku_test.cpp - the train table.
 #include "app/blikani.h"
+#include "app/vstup.h"
+#include "desk/menu.h"
 #include "desk/tabulka_vlaku.h"
 #include "jizda/vlak.h"
+#include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"
+#include "zaklad/cisla.h"
 
 namespace {
 
@@ -64,4 +68,81 @@ TEST_F(TabulkaVlaku, LinesBelowMoveUp) {
     smaz_z_tabulky(22);
     smaz_z_tabulky(0);
     EXPECT_EQ(radek_tabulky(11), 0);
+}
+
+TEST_F(TabulkaVlaku, LineIsCutToItsWidth) {
+    vlak(123456).zpozdeni = -120;
+    vlaky[0].delka = 32767;
+    vlaky[0].max_rychlost = 160;
+    pridej_do_tabulky(0);
+    EXPECT_EQ(radek(0), "R   123456  +-12032767m, LHO, 160km/h    ");
+    vlaky[0].stanice = {9, 7}; // a station without a code
+    pridej_do_tabulky(0);
+    EXPECT_EQ(radek(1), "R   123456  +-12032767m, , 160km/h       ");
+    EXPECT_EQ(radek(1).size(), 41u);
+}
+
+TEST_F(TabulkaVlaku, NewTrainTakesTheFirstEmptyLine) {
+    for (const int cislo : {11, 22, 33})
+        pridej(cislo);
+    relief.lblTabulka_vlaku[1].text = Text(41, ' ');
+    blikani.blikani_radku[1] = true;
+    pridej(44);
+    EXPECT_EQ(radek_tabulky(44), 1);
+    EXPECT_FALSE(blikani.blikani_radku[1]); // the flashing of the one before is over
+    EXPECT_EQ(radek_tabulky(33), 2);
+}
+
+TEST_F(TabulkaVlaku, RightClickOffersToTakeTheLineOutAndTheTrainGoesOn) {
+    for (const int cislo : {11, 22, 33})
+        pridej(cislo);
+    klik(Druh::lblTabulka_vlaku, 1, Tlacitko::prave, false);
+    EXPECT_EQ(menu.jmeno, "mnuTabulka");
+    EXPECT_EQ(menu.prvek, 1);
+    ASSERT_EQ(menu.polozky.size(), 1u);
+    EXPECT_EQ(polozka_menu("miSmazat").text, "SMAZ");
+    EXPECT_TRUE(zvol_v_menu("miSmazat"));
+    EXPECT_EQ(radek_tabulky(22), -1);
+    EXPECT_EQ(radek_tabulky(33), 1);
+    EXPECT_EQ(vlaky[0].cislo, 33);
+    klik(Druh::lblTabulka_vlaku, 2, Tlacitko::prave, false); // empty now
+    EXPECT_EQ(menu.jmeno, "");
+    klik(Druh::lblTabulka_vlaku, 0, Tlacitko::prostredni, false);
+    EXPECT_EQ(menu.jmeno, "");
+}
+
+TEST_F(TabulkaVlaku, LeftClickFramesTheFirstLabelThatShowsTheNumber) {
+    pridej(1234);
+    for (const int n : {301, 40, 41, 12}) {
+        Prvek& stitek = relief.cislo_koleje.zaloz(n);
+        stitek.text = Text(n == 12 ? " 12345 " : " 1234 ");
+        stitek.vlevo = 1000 + n;
+        stitek.nahore = 2000 + n;
+        stitek.sirka = 600;
+        stitek.vyska = 195;
+    }
+    klik(Druh::lblTabulka_vlaku, 0, Tlacitko::leve, false);
+    const Prvek& ramecek = relief.shpVyhledavani[0];
+    EXPECT_EQ(ramecek.vlevo(), 1040 - 200);
+    EXPECT_EQ(ramecek.nahore(), 2040 - 200);
+    EXPECT_EQ(ramecek.sirka(), 600 + 400);
+    EXPECT_EQ(ramecek.vyska(), 195 + 400);
+    EXPECT_EQ(blikani.ramecek_hledani, 6);
+    simulace.pauza = false;
+    for (int i = 0; i < 8; ++i)
+        krok_blikani();
+    EXPECT_EQ(blikani.ramecek_hledani, 0);
+    EXPECT_EQ(ramecek.sirka(), 600 + 400 - 6 * 80);
+    EXPECT_TRUE(ramecek.viditelny);
+}
+
+TEST_F(TabulkaVlaku, TrainThatNoLabelShowsIsNotFramed) {
+    pridej(1234);
+    relief.cislo_koleje.zaloz(5);
+    const Prvek pred = relief.shpVyhledavani[0];
+    for (const int radek : {0, 1, 23}) { // not shown; empty lines, though empty labels read as 0 too
+        klik(Druh::lblTabulka_vlaku, radek, Tlacitko::leve, false);
+        EXPECT_EQ(blikani.ramecek_hledani, 0);
+        EXPECT_EQ(relief.shpVyhledavani[0], pred);
+    }
 }

@@ -96,6 +96,14 @@ TEST_F(Zaplneni, TakenTracksLeaveTheTrainOut) {
     EXPECT_EQ(pocet_vlaku(), 0);
 }
 
+TEST_F(Zaplneni, TrainOfATakenLineIsLeftOutAndNotPutOnElementZero) {
+    koleje({0, 604, 654});
+    EXPECT_EQ(umisti(32, 8), 604);
+    EXPECT_EQ(umisti(32, 8), -1);
+    EXPECT_EQ(umisti(24, 8), 654);
+    EXPECT_EQ(umisti(1, 8), -1); // 86 is not drawn
+}
+
 TEST_F(Zaplneni, TrainOfAnotherDayAndOneWhoseSetRunsAreLeftOut) {
     do_tesku().dny = 2;
     vlaky_na_trati(630, true);

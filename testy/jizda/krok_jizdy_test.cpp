@@ -281,6 +281,36 @@ TEST_F(Jizda, TailThatLeavesASecondTrainBehindKeepsTheTrackRed) {
     EXPECT_EQ(vlak(druhy).prvky.back(), 62);
 }
 
+TEST_F(Jizda, SwitchThatAnotherRouteHasLockedIsNotFreedBehindTheTail) {
+    for (const bool zavrena : {false, true}) {
+        vlaky = prvni_vlaky();
+        const int v = vlak_na(63, true, 11);
+        Vlak& t = vlak(v);
+        t.prvky = {7, 63};
+        t.prvky_druh = {2, 1};
+        t.prvky_poloha = {2, 0};
+        nastav_metry(63, 70);
+        cesty = std::vector<Cesta>(1);
+        if (zavrena)
+            cesta({262, 63, {62, 440, 7, 63}, {1, 1, 2, 1}, {2, 0, 2, 0}, 0}, false);
+        vyhybka_stav(7, 202, false, false); // released by RNZ under the train, and locked anew
+        krok();
+        EXPECT_EQ(t.prvek_konec, 1);
+        EXPECT_EQ(stav_vyhybky_cislo(7), zavrena ? 202 : 2);
+    }
+}
+
+TEST_F(Jizda, PieceOfSwitch14StaysOccupiedUnderATrainThatHasLeftTheSwitch) {
+    pridej_kolej(4, false);
+    relief.imgVyhybka.zaloz(14).stav = "158"_cz;
+    const int v = vlak_na(4, true, 11);
+    vyhybka_stav(14, 8, false, false);
+    EXPECT_EQ(relief.kolej[4].barva, barvy::cervena);
+    vlak(v).cislo = kZadny;
+    vyhybka_stav(14, 8, false, false);
+    EXPECT_EQ(relief.kolej[4].barva, barvy::seda);
+}
+
 TEST_F(Jizda, HeadIsNeverReleased) {
     const int v = vlak_na(440, true, 11);
     nastav_metry(440, 150); // more than its 80 m

@@ -1,4 +1,7 @@
 // testy/jizda/spojovani_test.cpp - coupling, splitting, turning, the next train of a set; train and shunt.
+#include "app/vstup.h"
+#include "cesty/cisla_vlaku.h"
+#include "desk/info_o_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"
 #include "jizda/posun.h"
@@ -147,13 +150,26 @@ TEST_F(Spojovani, CouplingGivesTheStopItsDepartureBack) {
     EXPECT_EQ(vlak(v).odjezd_realny[1], 495);
 }
 
+TEST_F(Spojovani, TrainThatNeedsTwoLocomotivesWaitsForTheSecondOne) {
+    const int v = vlak_na(62, false, 77, {"B", "B"});
+    zastavky(v, {9, 2}, {-3, 500}, {482, -3});
+    vlak(v).odjezd_realny[0] = -10;
+    vlak(v).priznaky = 1;
+    spoj(v, vlak_na(62, false, 88, {"754"})); // behind the carriages: no second one at the front
+    EXPECT_EQ(vlak(v).odjezd_realny[0], -10);
+    otoc_vlak(v);
+    spoj(v, vlak_na(62, true, 88, {"754"}));
+    EXPECT_EQ(vlak(v).vozy, (Vozy{"754", "754", "B", "B"}));
+    EXPECT_EQ(vlak(v).odjezd_realny[0], 483);
+}
+
 TEST_F(Spojovani, SplitLeavesTheFrontPartOnTheSideOfTheHead) {
     for (const bool smer : {true, false}) {
         const int v = vlak_na(62, smer, 77, {"754", "B"});
         zastavky(v, {9, 2, 6}, {-3, 478, 500}, {470, 482, -3});
         vlak(v).stanice_index = 1;
         vlak(v).delka = 42;
-        const int d = odvesit(v, 0);
+        const int d = odvesit(v, 0, false);
         ASSERT_GE(d, 0);
         EXPECT_EQ(vlak(d).vozy, Vozy{"754"});
         EXPECT_EQ(vlak(v).vozy, Vozy{"B"});
@@ -178,7 +194,7 @@ TEST_F(Spojovani, SplitLeavesTheFrontPartOnTheSideOfTheHead) {
 TEST_F(Spojovani, LastVehicleComesOffAloneAtTheOtherEnd) {
     const int v = vlak_na(62, true, 77, {"B", "C", "754"});
     vlak(v).delka = 90;
-    const int d = odvesit(v, 2);
+    const int d = odvesit(v, 2, false);
     EXPECT_EQ(vlak(d).vozy, Vozy{"754"});
     EXPECT_EQ(vlak(v).vozy, (Vozy{"B", "C"}));
     EXPECT_LT(poradi(62, d), poradi(62, v));
@@ -187,23 +203,27 @@ TEST_F(Spojovani, LastVehicleComesOffAloneAtTheOtherEnd) {
 TEST_F(Spojovani, LengthGoesWithTheCarriagesAndLocomotivesCountEighteenMetres) {
     const int v = vlak_na(62, true, 77, {"754", "B", "B", "B"});
     vlak(v).delka = 100;
-    const int d = odvesit(v, 1);
+    const int d = odvesit(v, 1, false);
     EXPECT_EQ(vlak(d).delka, 51); // 100 * 1 / 3 + 18
     EXPECT_EQ(vlak(v).delka, 49);
     const int w = vlak_na(63, true, 88, {"754", "731"});
     vlak(w).delka = 18;
-    const int e = odvesit(w, 0);
+    const int e = odvesit(w, 0, false);
     EXPECT_EQ(vlak(e).delka, 18); // no carriage at all
     EXPECT_EQ(vlak(w).delka, 18); // never shorter than a locomotive
+    const int tri = vlak_na(64, true, 99, {"754", "754", "754"});
+    vlak(tri).delka = 60;
+    EXPECT_EQ(vlak(odvesit(tri, 1, false)).delka, 36);
+    EXPECT_EQ(vlak(tri).delka, 24);
 }
 
 TEST_F(Spojovani, UnitsAndSingleVehiclesAreNotSplit) {
     const int v = vlak_na(62, true, 77, {"560", "060", "754"});
-    EXPECT_EQ(odvesit(v, 0), -3);
-    EXPECT_EQ(odvesit(v, 1), -3);
-    EXPECT_EQ(odvesit(v, 7), -3);
+    EXPECT_EQ(odvesit(v, 0, false), -3);
+    EXPECT_EQ(odvesit(v, 1, false), -3);
+    EXPECT_EQ(odvesit(v, 7, false), -3);
     const int w = vlak_na(63, true, 88, {"754"});
-    EXPECT_EQ(odvesit(w, 0), -3);
+    EXPECT_EQ(odvesit(w, 0, false), -3);
     EXPECT_FALSE(prikaz_radek.obsazen);
     EXPECT_EQ(vlak(v).vozy.size(), 3u);
 }
@@ -212,21 +232,21 @@ TEST_F(Spojovani, SplitTakesTheRoutesThatWaitForTheTrain) {
     const int v = vlak_na(62, true, 77, {"754", "B"});
     cesta(radek(0));
     cesty[0].Vlak = static_cast<std::int16_t>(v);
-    odvesit(v, 0);
+    odvesit(v, 0, false);
     EXPECT_EQ(cesty[0].Vlak, -3);
 }
 
 TEST_F(Spojovani, LocomotiveOnTrack32GoesToTheStubAtOnce) {
     const int v = vlak_na(32, true, 77, {"754", "B"});
     vlak(v).vozy_urceni = {"DKV", ""};
-    const int d = odvesit(v, 0);
+    const int d = odvesit(v, 0, false);
     EXPECT_EQ(vlak(d).prvky, std::vector<std::int16_t>{574});
     EXPECT_FALSE(vlak(d).smer);
     EXPECT_EQ(relief.kolej[574].barva, barvy::cervena);
     EXPECT_EQ(koleje_vlaky[static_cast<std::size_t>(zaznam_koleje(574))].vlaky[0], d);
     const int w = vlak_na(32, true, 78, {"754", "B"});
     vlak(w).vozy_urceni = {"DKV", ""};
-    EXPECT_EQ(vlak(odvesit(w, 0)).prvky, std::vector<std::int16_t>{32}); // the stub is occupied
+    EXPECT_EQ(vlak(odvesit(w, 0, false)).prvky, std::vector<std::int16_t>{32}); // the stub is occupied
 }
 
 TEST_F(Spojovani, ShortenedTrainLeavesTheTracksBehindFree) {
@@ -265,6 +285,99 @@ TEST_F(Spojovani, TurnReversesTheVehiclesAndTheEmergencyTurnOnlyTheSense) {
     otoc_nouzove(v);
     EXPECT_TRUE(vlak(v).smer);
     EXPECT_EQ(vlak(v).vozy.front(), "C");
+}
+
+// --- the pictures of the train page
+
+TEST_F(Spojovani, ClickOnAPictureTakesTheFrontOfTheTrainOff) {
+    const int v = vlak_na(62, true, 77, {"754", "731", "B", "C"});
+    info_o_vlaku({}, v);
+    klik(Druh::imgObrzaek_vlaku, 1, Tlacitko::leve, false);
+    EXPECT_EQ(vlak(v).vozy, (Vozy{"B", "C"}));
+    EXPECT_EQ(vozu_na_panelu(), 2); // the page follows
+    EXPECT_EQ(vlak_na_panelu(), v);
+    EXPECT_FALSE(prikaz_radek.obsazen);
+    klik(Druh::imgObrzaek_vlaku, 3, Tlacitko::leve, false); // no vehicle stands there any more
+    EXPECT_EQ(vlak(v).vozy, (Vozy{"B", "C"}));
+}
+
+TEST_F(Spojovani, PartOfARunningTrainIsNotSplitOff) {
+    const int v = vlak_na(62, true, 77, {"754", "B"});
+    vlak(v).prvky = {440, 62};
+    vlak(v).prvky_druh = {1, 1};
+    vlak(v).prvky_poloha = {0, 0};
+    info_o_vlaku({}, v);
+    odvesit_klik(0);
+    EXPECT_EQ(vlak(v).vozy.size(), 2u);
+    EXPECT_EQ(relief.lblPrikaz[0].text(), " ODVESIT ");
+    EXPECT_EQ(relief.lblPrikaz[0].barva, barvy::cervena);
+    EXPECT_EQ(relief.lblPrikaz[0].pozadi, barvy::bila);
+    EXPECT_EQ(relief.lblVolba[0].text(), " Nelze odvěsit část jedoucího vlaku!"_cz);
+    ASSERT_EQ(svet.pipnuti.size(), 1u);
+    EXPECT_EQ(svet.pipnuti[0], (VirtualniPlatforma::Pipnuti{100, 200}));
+    simulace.zvuk_vypnut = true; // this refusal is silent then, the one of coupling is not
+    odvesit_klik(0);
+    EXPECT_EQ(svet.pipnuti.size(), 1u);
+}
+
+TEST_F(Spojovani, NothingComesOffOnALineOrAtItsEnd) {
+    for (const int e : {84, 85, 117, 120, 123, 212, 213, 219, 602, 600, 36}) {
+        pridej_kolej(e);
+        const int v = vlak_na(e, true, 77, {"754", "B"});
+        info_o_vlaku({}, v);
+        odvesit_klik(0);
+        EXPECT_EQ(vlak(v).vozy.size(), e == 600 || e == 36 ? 1u : 2u) << e;
+        vlaky = prvni_vlaky();
+        koleje_vlaky = prvni_koleje_vlaky();
+    }
+}
+
+TEST_F(Spojovani, OldPicturesAreDrawnAnewAndNothingElseHappens) {
+    const int v = vlak_na(62, true, 77, {"754", "B", "C"});
+    info_o_vlaku({}, v);
+    vlak(v).vozy.pop_back();
+    odvesit_klik(0);
+    EXPECT_EQ(vlak(v).vozy, (Vozy{"754", "B"}));
+    EXPECT_EQ(vozu_na_panelu(), 2);
+    odvesit_klik(0);
+    EXPECT_EQ(vlak(v).vozy, Vozy{"B"});
+}
+
+TEST_F(Spojovani, TrainPageFollowsWhatHappensToItsTrain) {
+    const int v = vlak_na(62, true, 77, {"754", "B", "C"});
+    odvesit(v, 0, false);
+    EXPECT_EQ(vlak_na_panelu(), -3); // the page was not open
+    info_o_vlaku({}, v);
+    odvesit(v, 0, false);
+    EXPECT_EQ(vozu_na_panelu(), 1);
+    prepni_panel(Panel::denik);
+    const int w = vlak_na(63, true, 88, {"754", "B", "C"});
+    odvesit(w, 0, true);
+    EXPECT_EQ(vlak_na_panelu(), w);
+    EXPECT_TRUE(info_ukazuje(w));
+    prepni_panel(Panel::denik);
+    zmena_posun(w, 63, true);
+    EXPECT_FALSE(info_ukazuje(w));
+    zmena_posun(w, 63, false);
+    EXPECT_TRUE(info_ukazuje(w));
+}
+
+TEST_F(Spojovani, CoupledTrainIsShown) {
+    const int a = vlak_na(62, true, 77, {"B", "C"});
+    const int b = vlak_na(62, true, 88, {"754"});
+    spoj(a, b);
+    EXPECT_TRUE(info_ukazuje(a));
+    EXPECT_EQ(vozu_na_panelu(), 3);
+}
+
+TEST_F(Spojovani, RouteOfTheTrainThatJoinedEndsThere) {
+    const int v = vlak_na(63, true, 77, {"B", "C"});
+    const int loko = vlak_na(63, true, 88, {"754"});
+    cesta(radek(0));
+    cesty[0].Vlak = static_cast<std::int16_t>(loko);
+    cesty[0].Umazat = 3;
+    spoj(v, loko);
+    EXPECT_EQ(cesty[0].zacatek, -3); // its record may be used again at once
 }
 
 // --- the next train
@@ -310,6 +423,46 @@ TEST_F(Spojovani, SetWithoutANextTrainStaysAsItIs) {
     EXPECT_FALSE(zustane({"843"}, {"5678"}));
 }
 
+TEST_F(Spojovani, VehicleOfAnotherNextTrainComesOff) {
+    gvd_vlaky = {radek_gvd(5678)};
+    const int v = vlak_na(62, true, 77, {"843", "843"});
+    vlak(v).vozy_urceni = {"77", "5678"};
+    navazny_vlak(v);
+    EXPECT_EQ(vlak(v).cislo, 77);
+    EXPECT_EQ(vlak(v).vozy, Vozy{"843"});
+    const auto dalsi =
+        std::find_if(vlaky.begin(), vlaky.end(), [](const Vlak& x) { return x.cislo == 5678; });
+    ASSERT_NE(dalsi, vlaky.end());
+    EXPECT_EQ(dalsi->vozy, Vozy{"843"});
+    EXPECT_EQ(dalsi->vozy_urceni, Vozy{"5678"});
+}
+
+TEST_F(Spojovani, LocomotiveComesOffWhenTheNextTrainGoesBack) {
+    const auto objede = [&](std::uint8_t druha, bool smer, const Vozy& vozy) {
+        GvdVlak g = radek_gvd(5678);
+        g.stanice = {9, druha};
+        gvd_vlaky = {g};
+        const int v = vlak_na(62, smer, 77, vozy);
+        vlak(v).vozy_urceni.assign(vozy.size(), "5678");
+        navazny_vlak(v);
+        EXPECT_EQ(vlak(v).cislo, 5678);
+        const bool odvesena = vlak(v).vozy.size() < vozy.size();
+        vlaky = prvni_vlaky();
+        koleje_vlaky = prvni_koleje_vlaky();
+        return odvesena;
+    };
+    for (const int druha : {8, 11, 5}) {
+        EXPECT_TRUE(objede(static_cast<std::uint8_t>(druha), true, {"754", "B"})) << druha;
+        EXPECT_FALSE(objede(static_cast<std::uint8_t>(druha), false, {"754", "B"})) << druha;
+        EXPECT_FALSE(objede(static_cast<std::uint8_t>(druha), true, {"754", "943"}))
+            << druha; // driving trailer
+        EXPECT_FALSE(objede(static_cast<std::uint8_t>(druha), true, {"B", "754"})) << druha;
+    }
+    EXPECT_TRUE(objede(7, false, {"754", "943"}));
+    EXPECT_FALSE(objede(7, true, {"754", "B"}));
+    EXPECT_FALSE(objede(2, true, {"754", "B"}));
+}
+
 TEST_F(Spojovani, TimesFarBehindThePresentBelongToTomorrow) {
     EXPECT_EQ(korekce(0), 0);
     EXPECT_EQ(korekce(-3), 0);
@@ -325,11 +478,11 @@ TEST_F(Spojovani, TimesFarBehindThePresentBelongToTomorrow) {
 
 TEST_F(Spojovani, TrainBecomesAShuntAndItsNumberGoesFromTheLabel) {
     const int v = vlak_na(62, true, 77);
-    zmena_posun(v, 62);
+    zmena_posun(v, 62, false);
     EXPECT_TRUE(vlak(v).posun);
     EXPECT_TRUE(vlak(v).muze_jet);
     EXPECT_EQ(stitek(62), "");
-    zmena_posun(v, 62);
+    zmena_posun(v, 62, false);
     EXPECT_FALSE(vlak(v).posun);
     EXPECT_EQ(stitek(62), "77");
     EXPECT_EQ(radek_tabulky(77), 0);
@@ -339,7 +492,7 @@ TEST_F(Spojovani, LightEngineGetsANumberAndATimetableOfItsOwn) {
     const int v = vlak_na(62, true, 77, {"754"});
     vlak(v).posun = true;
     vlak(v).vozy_urceni = {"DKV"};
-    zmena_posun(v, 62);
+    zmena_posun(v, 62, false);
     EXPECT_GE(vlak(v).cislo, 70000);
     EXPECT_LT(vlak(v).cislo, 80000);
     EXPECT_EQ(vlak(v).druh, 16);
@@ -347,8 +500,64 @@ TEST_F(Spojovani, LightEngineGetsANumberAndATimetableOfItsOwn) {
     EXPECT_EQ(vlak(v).odjezd_realny, (std::vector<std::int16_t>{482, -3}));
     EXPECT_FALSE(vlak(v).muze_jet);
     const std::int32_t cislo = vlak(v).cislo;
-    zmena_posun(v, 62);
+    zmena_posun(v, 62, false);
     EXPECT_EQ(radek_tabulky(cislo), -1); // a made-up number goes from the table
+}
+
+TEST_F(Spojovani, LightEngineGoesWhereItsNextWorkIs) {
+    const auto kam = [&](int kolej, TextPohled urceni) {
+        const int v = vlak_na(kolej, true, 77, {"754"});
+        vlak(v).posun = true;
+        vlak(v).vozy_urceni = {Text(urceni)};
+        vlak_na_posun_cislo(v);
+        const std::vector<std::uint8_t> stanice = vlak(v).stanice;
+        vlaky = prvni_vlaky();
+        koleje_vlaky = prvni_koleje_vlaky();
+        return stanice;
+    };
+    pridej_kolej(50);
+    using Stanice = std::vector<std::uint8_t>;
+    EXPECT_EQ(kam(32, "DKV"), (Stanice{9, 28}));
+    EXPECT_EQ(kam(32, "Vh"), (Stanice{9, 34}));
+    EXPECT_EQ(kam(32, "bor"), (Stanice{9, 2}));
+    EXPECT_EQ(kam(32, "5678"), (Stanice{9, 12}));
+    EXPECT_EQ(kam(50, ""), (Stanice{12, 9}));
+}
+
+TEST_F(Spojovani, LightEngineHasAQuarterOfAnHour) {
+    const int v = vlak_na(32, true, 77, {"754"});
+    vlak(v).cislo2 = 5;
+    vlak(v).pokyn = "3";
+    vlak_na_posun_cislo(v);
+    EXPECT_EQ(vlak(v).prijezd, (std::vector<std::int16_t>{480, 495}));
+    EXPECT_EQ(vlak(v).odjezd, (std::vector<std::int16_t>{482, -3}));
+    EXPECT_EQ(vlak(v).cislo2, 0);
+    EXPECT_EQ(vlak(v).max_rychlost, 80);
+    EXPECT_EQ(vlak(v).pokyn, "");
+    EXPECT_EQ(vlak(v).stanice_index, 0);
+    EXPECT_EQ(radek_tabulky(vlak(v).cislo), 0);
+}
+
+TEST_F(Spojovani, SetFromTheYardOrTheDepotHasServedItsFirstStop) {
+    for (const int odkud : {17, 18, 33, 34, 9}) {
+        const int v = vlak_na(32, true, 77, {"754", "B"});
+        vlak(v).posun = true;
+        zastavky(v, {static_cast<std::uint8_t>(odkud), 9, 2}, {-3, 470, 500}, {460, 490, -3});
+        zmena_posun(v, 32, true);
+        EXPECT_EQ(vlak(v).stanice_index, odkud == 9 ? -1 : 1) << odkud;
+        vlaky = prvni_vlaky();
+        koleje_vlaky = prvni_koleje_vlaky();
+    }
+}
+
+TEST_F(Spojovani, NumberRunsAheadOverTheRouteOfATrainOnly) {
+    const int v = vlak_na(62, true, 77);
+    postup_cisla(cesta(radek(1)));
+    ASSERT_EQ(stitek(64), "77");
+    zmena_posun(v, 62, false);
+    EXPECT_NE(stitek(64), "77");
+    zmena_posun(v, 62, false);
+    EXPECT_EQ(stitek(64), "77");
 }
 
 TEST_F(Spojovani, ChangeIsRefusedOffTheStationTracks) {
@@ -356,13 +565,23 @@ TEST_F(Spojovani, ChangeIsRefusedOffTheStationTracks) {
     vlak(v).prvky = {440, 62};
     vlak(v).prvky_druh = {1, 1};
     vlak(v).prvky_poloha = {0, 0};
-    zmena_posun(v, 62);
+    zmena_posun(v, 62, false);
+    EXPECT_EQ(relief.lblPrikaz[0].text(), " ZMENA ");
+    EXPECT_EQ(relief.lblPrikaz[0].barva, barvy::cervena);
+    EXPECT_EQ(relief.lblPrikaz[0].pozadi, barvy::bila);
     EXPECT_EQ(relief.lblVolba[0].text(), " Na kolejiK62 není změna možná!"_cz);
     EXPECT_FALSE(vlak(v).posun);
     skryj_prikaz();
     const int w = vlak_na(340, true, 88);
     vlak(w).posun = true;
-    zmena_posun(w, 340);
+    zmena_posun(w, 340, false);
     EXPECT_EQ(relief.lblVolba[0].text(), " Na koleji  není změna možná!"_cz);
     EXPECT_TRUE(vlak(w).posun);
+    skryj_prikaz();
+    pridej_kolej(503);
+    const int x = vlak_na(503, true, 99);
+    vlak(x).posun = true;
+    zmena_posun(x, 503, false);
+    EXPECT_EQ(relief.lblVolba[0].text(), " Na koleji K503není změna možná!"_cz);
+    EXPECT_TRUE(vlak(x).posun);
 }

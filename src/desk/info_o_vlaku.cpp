@@ -1,0 +1,403 @@
+// desk/info_o_vlaku.cpp - the line about a train and the pictures of its vehicles.
+#include "desk/info_o_vlaku.h"
+
+#include "app/cas.h"
+#include "app/simulace.h"
+#include "desk/zprava.h"
+#include "gvd/gvd.h"
+#include "gvd/provoz.h"
+#include "gvd/skladba.h"
+#include "jizda/souprava.h"
+#include "jizda/vlak.h"
+#include "relief/relief.h"
+#include "zaklad/cisla.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace {
+
+constexpr int kPravyOkraj = 14400; // a picture that reaches beyond it is hidden on one monitor
+constexpr int kSberacu = 4;
+constexpr Barva kStisknuteTlacitko = 0x800000;
+
+constexpr std::uint8_t kDruheLoko = 1, kPripraz = 2, kSvatek = 128;
+constexpr int kPrvniNakladni = 10;       // categories below are passenger trains
+constexpr int kLokomotivniVlak = 16;     // category of a light engine
+constexpr int kPosledniSoused = 6;       // codes up to here are neighbours: the train only passes
+constexpr int kPosledniLokomotiva = 800; // series above run without a locomotive
+constexpr int kTHN = 9, kTHJ = 12;       // the two ends of the main station
+
+// The train of an index; none for a free record.
+const Vlak* vlak_c(int v) {
+    if (v < 0 || static_cast<std::size_t>(v) >= vlaky.size() || vlaky[static_cast<std::size_t>(v)].cislo < 1)
+        return nullptr;
+    return &vlaky[static_cast<std::size_t>(v)];
+}
+
+int rada_vozu(const std::vector<Text>& vozy, std::size_t i) {
+    return i < vozy.size() ? static_cast<int>(cele_z_textu(vozy[i])) : 0;
+}
+
+Text prvni_urceni(const Vlak& v) {
+    return v.vozy_urceni.empty() ? Text{} : v.vozy_urceni.front();
+}
+
+// Row of a number: today's, else the first one.
+const GvdVlak* radek_gvd(double cislo) {
+    const GvdVlak* nalezeny = nullptr;
+    for (const GvdVlak& r : gvd_vlaky) {
+        if (r.cislo != cislo)
+            continue;
+        if (aktivni_dnes(r))
+            return &r;
+        if (nalezeny == nullptr)
+            nalezeny = &r;
+    }
+    return nalezeny;
+}
+
+// --- a train
+
+// First and last station with their times. A train of a neighbour only passes its first station.
+Text text_trasy(const Vlak& v) {
+    const std::size_t pocet = std::min({v.stanice.size(), v.prijezd.size(), v.odjezd.size()});
+    if (pocet == 0)
+        return {};
+    const int odjezd = v.odjezd.front() >= 0 ? v.odjezd.front() : v.prijezd.front();
+    const int prijezd = v.prijezd[pocet - 1] >= 0 ? v.prijezd[pocet - 1] : v.odjezd[pocet - 1];
+    Text text = "(";
+    text += nazev_stanice(v.stanice.front());
+    text += v.stanice.front() <= kPosledniSoused ? " průj. "_cz : " odj. "_cz;
+    text += text_minuty(odjezd);
+    if (pocet > 1) {
+        text += " ... ";
+        text += nazev_stanice(v.stanice[pocet - 1]);
+        text += " příj. "_cz;
+        text += text_minuty(prijezd);
+    }
+    return text + ")";
+}
+
+// The train from which the locomotive of the change comes today; without one the number of the train itself.
+std::int32_t odkud_lokomotiva(const Vlak& v) {
+    for (const GvdVlak& r : gvd_vlaky) {
+        const std::size_t pocet = std::min(r.vozy.size(), r.vozy_vlaky.size());
+        for (std::size_t i = 0; i < pocet; ++i)
+            if (r.vozy_vlaky[i] == v.cislo && rada_vozu(r.vozy, i) == v.loko_rada2 && aktivni_dnes(r))
+                return r.cislo;
+    }
+    return zobrazene_cislo(v);
+}
+
+// What the locomotives of the train still have to do at the main station.
+Text prace_lokomotiv(const Vlak& v) {
+    const auto stavi = [&v](int kod) {
+        return std::find(v.stanice.begin(), v.stanice.end(), kod) != v.stanice.end();
+    };
+    const bool z_thj = stavi(kTHJ) && !stavi(kTHN);
+    const bool osobni = v.druh < kPrvniNakladni, pripraz = (v.priznaky & kPripraz) != 0;
+    const int pomocna = v.loko_rada2 != 0 ? v.loko_rada2 : v.loko_rada;
+    Text text;
+    if ((v.priznaky & kDruheLoko) != 0 && v.loko_rada2 != 0 && druhy_je_loko(v))
+        text += Text("; z THJ lok. 2x") + text_cisla(v.loko_rada2);
+    if (pripraz && posledni_je_loko(v)) {
+        text += "; THN-TRY sune; TRY kolej T4";
+    } else if (pripraz && osobni) {
+        text += z_thj ? "; z THJ " : "; z THN ";
+        text += text_cisla(pomocna) + "pk";
+    } else if (pripraz) {
+        text += z_thj ? "; z THJ přípřež ř."_cz : "; z THN přípřež ř."_cz;
+        text += text_cisla(pomocna);
+    }
+    const bool ceka_na_vymenu = (v.priznaky & (kDruheLoko | kPripraz)) == 0 && v.loko_rada2 != 0 &&
+                                rada_vozu(v.vozy, 0) != v.loko_rada2;
+    if (ceka_na_vymenu) {
+        text += z_thj ? "; z THJ lok.ř."_cz : "; z THN lok.ř."_cz;
+        text += text_cisla(v.loko_rada2) + "(" + text_cisla(odkud_lokomotiva(v)) + ")";
+    }
+    return text;
+}
+
+Text text_jedouciho(const Vlak& v, bool jede = true) {
+    Text text(zkratka_druhu(v.cislo2_platne ? v.druh2 : v.druh));
+    text += " " + text_cisla(zobrazene_cislo(v));
+    if (v.cislo2 > 0 && !v.cislo2_platne)
+        text += "/" + text_cisla(v.cislo2);
+    text += " ";
+    if ((v.dny & kSvatek) != 0)
+        text += "pp ";
+    text += v.nazev + " ";
+    text += text_trasy(v);
+    if (jede)
+        text += v.smer ? ">> " : "<< ";
+    else
+        text += " ";
+    text += text_cisla(v.zpozdeni) + "min; ";
+    text += text_cisla(v.delka) + "m, " + text_cisla(v.max_rychlost) + "km/h";
+    if (!v.pokyn.empty())
+        text += "; Kolej " + v.pokyn;
+    return text + prace_lokomotiv(v);
+}
+
+// What a row of the timetable says of its train, before there is one.
+Vlak vlak_podle_gvd(const GvdVlak& r) {
+    Vlak v;
+    v.stanice = r.stanice;
+    v.prijezd = r.prijezdy;
+    v.odjezd = r.odjezdy;
+    v.druh = r.druh;
+    v.cislo = r.cislo;
+    v.druh2 = r.druh2;
+    v.cislo2 = r.cislo2;
+    v.nazev = r.nazev;
+    v.max_rychlost = r.rychlost;
+    v.delka = r.delka;
+    v.loko_rada = r.loko_rada;
+    v.loko_rada2 = r.loko_rada2;
+    v.vozy = r.vozy;
+    v.pokyn = r.kolej;
+    v.dny = r.dny;
+    v.priznaky = r.priznaky;
+    v.zpozdeni = zpozdeni_vlaku(r.cislo);
+    return v;
+}
+
+// --- a shunting movement
+
+// Departure from the main station that the set stands there for: its own, else that of its next train.
+Text odjezd_z_hlavniho(const Vlak& v) {
+    const std::size_t i = static_cast<std::size_t>(std::max<int>(v.stanice_index, 0));
+    const Text urceni = prvni_urceni(v);
+    if (i >= v.stanice.size() || v.stanice[i] != kTHN || v.druh == kLokomotivniVlak || urceni == "ZAL" ||
+        v.vozy.size() < 2)
+        return {};
+    const auto veta = [](int minuta, int cil) {
+        Text text = " (Tesk hl.n. odj. ";
+        text += text_minuty(minuta);
+        text += " směr "_cz;
+        text += kod_stanice(cil);
+        return text + ")";
+    };
+    if (i < v.odjezd.size() && v.odjezd[i] >= 0)
+        return veta(v.odjezd[i], v.stanice.back());
+    const auto cislo = ciselny_text(urceni);
+    const GvdVlak* dalsi = cislo ? radek_gvd(*cislo) : nullptr;
+    if (dalsi == nullptr)
+        return {};
+    for (std::size_t k = 0; k < dalsi->stanice.size(); ++k)
+        if (dalsi->stanice[k] == kTHN && dalsi->odjezdy[k] >= 0)
+            return veta(dalsi->odjezdy[k], dalsi->stanice.back());
+    return {};
+}
+
+Text text_posunu(int vlak, const Vlak& v) {
+    const Text urceni = prvni_urceni(v);
+    const bool stroj = v.vozy.size() == 1 && jen_loko(v);
+    const std::int32_t predchozi = cislo_vlaku_pred(vlak);
+    const std::int32_t cislo = predchozi != 0 ? predchozi : zobrazene_cislo(v);
+    Text text;
+    if (v.vozy.size() > 1 || rada_vozu(v.vozy, 0) > kPosledniLokomotiva)
+        text = " Souprava vlaku " + text_cisla(cislo);
+    else if (stroj && urceni == "DKV")
+        text = " Lokomotiva do DKV";
+    else if ((stroj && urceni.empty()) || v.druh == kLokomotivniVlak)
+        text = " Lokomotiva pro ?????";
+    else if (cislo != 0)
+        text = " Souprava vlaku " + text_cisla(cislo);
+    if (const Text spoj = navazny_spoj(urceni); !spoj.empty())
+        text += " " + spoj;
+    return text + odjezd_z_hlavniho(v);
+}
+
+// --- vehicles
+
+// Draws from the wire: engines and units of the series up to 699.
+bool ma_sberac(TextPohled vuz) {
+    const auto rada = ciselny_text(vuz);
+    return rada && *rada > 100 && *rada < 700;
+}
+
+bool ma_ram(TextPohled obrazek) {
+    const TextPohled jmeno = obrazek.substr(0, obrazek.rfind('.'));
+    return jmeno.ends_with("_l");
+}
+
+// The pictures stand for no vehicle: they take no clicks.
+void uvolni_vozy() {
+    for (int i = 0; i <= relief.imgObrzaek_vlaku.nejvyssi(); ++i)
+        relief.imgObrzaek_vlaku[i].povoleny = false;
+}
+
+// The element i of a row: made like the one before it when the train is longer than the row.
+Prvek& v_rade(TabulkaPrvku& prvky, int i) {
+    if (!prvky.je(i)) {
+        const Prvek vzor = prvky[i - 1];
+        Prvek& novy = prvky.zaloz(i);
+        novy = vzor;
+        novy.vlevo = vzor.vlevo() + vzor.sirka();
+    }
+    return prvky[i];
+}
+
+void napln_vozy(const Vlak& v) {
+    const int pocet = static_cast<int>(std::min<std::size_t>(v.vozy.size(), kNejvyssiPrvek + 1));
+    for (int i = 0; i < pocet; ++i) {
+        const std::size_t k = static_cast<std::size_t>(i);
+        Prvek& obrazek = v_rade(relief.imgObrzaek_vlaku, i);
+        obrazek.stav = k < v.vozy_obrazek.size() ? v.vozy_obrazek[k] : Text{};
+        obrazek.popis = v.vozy[k];
+        obrazek.ramecek = ma_ram(obrazek.stav());
+        obrazek.povoleny = true;
+        v_rade(relief.lblPopis_vozu, i).text =
+            popis_vozu(v.vozy[k], k < v.vozy_urceni.size() ? TextPohled(v.vozy_urceni[k]) : TextPohled{});
+    }
+    for (int i = pocet; i <= relief.imgObrzaek_vlaku.nejvyssi(); ++i) {
+        Prvek& obrazek = relief.imgObrzaek_vlaku[i];
+        obrazek.stav = Text{};
+        obrazek.popis = Text{};
+        obrazek.ramecek = false;
+        obrazek.povoleny = false;
+        relief.lblPopis_vozu[i].text = Text{};
+    }
+}
+
+void ukaz_vozy() {
+    const int pocet = vozu_na_panelu();
+    int sberacu = 0;
+    bool pokracuje = false;
+    for (int n = 0; n < kSberacu; ++n)
+        if (relief.imgSberac.je(n))
+            relief.imgSberac[n].viditelny = false;
+    for (int i = 0; i <= relief.imgObrzaek_vlaku.nejvyssi(); ++i) {
+        Prvek& obrazek = relief.imgObrzaek_vlaku[i];
+        const bool vejde_se = simulace.dva_monitory || obrazek.vlevo() + obrazek.sirka() <= kPravyOkraj;
+        obrazek.viditelny = i < pocet && vejde_se;
+        relief.lblPopis_vozu[i].viditelny = obrazek.viditelny;
+        pokracuje = pokracuje || (i < pocet && !vejde_se);
+        if (!obrazek.viditelny || sberacu >= kSberacu || !ma_sberac(obrazek.popis()) ||
+            !relief.imgSberac.je(sberacu))
+            continue;
+        Prvek& sberac = relief.imgSberac[sberacu++];
+        sberac.vlevo = obrazek.vlevo() + (obrazek.sirka() - sberac.sirka()) / 2;
+        sberac.viditelny = true;
+    }
+    relief.lblPokracuje[0].viditelny = pokracuje;
+}
+
+void napln_stranku(TextPohled text, int vlak) {
+    Prvek& radek = relief.lblIinfo_o_vlaku[0];
+    radek.text = Text(text) + text_vlaku(vlak);
+    radek.stav = text_cisla(vlak);
+    napln_vozy(vlaky[static_cast<std::size_t>(vlak)]);
+}
+
+} // namespace
+
+int vlak_na_panelu() {
+    const Text& skryty = relief.lblIinfo_o_vlaku[0].stav;
+    const auto cislo = ciselny_text(skryty);
+    if (!cislo || *cislo < 0 || *cislo >= static_cast<double>(vlaky.size()))
+        return kZadny;
+    return vlak_c(static_cast<int>(*cislo)) != nullptr ? static_cast<int>(*cislo) : kZadny;
+}
+
+int vozu_na_panelu() {
+    int pocet = 0;
+    while (relief.imgObrzaek_vlaku.je(pocet) && relief.imgObrzaek_vlaku[pocet].povoleny)
+        ++pocet;
+    return pocet;
+}
+
+bool info_ukazuje(int vlak) {
+    return relief.cmdVLAK[0].pozadi == kStisknuteTlacitko && vlak_na_panelu() == vlak;
+}
+
+Text text_vlaku(int vlak) {
+    const Vlak* v = vlak_c(vlak);
+    if (v == nullptr)
+        return {};
+    return v->posun ? text_posunu(vlak, *v) : text_jedouciho(*v);
+}
+
+Text navazny_spoj(TextPohled cislo) {
+    const auto hledane = ciselny_text(cislo);
+    if (!hledane || *hledane == 0)
+        return {};
+    const GvdVlak* spoj = radek_gvd(*hledane);
+    for (const GvdVlak& r : gvd_vlaky)
+        if (r.vozy_vlaky.size() >= 2 && r.vozy_vlaky[1] == *hledane && aktivni_dnes(r)) {
+            spoj = &r;
+            break;
+        }
+    if (spoj == nullptr)
+        return {};
+    Text text(zkratka_druhu(spoj->druh));
+    text += " " + text_cisla(spoj->cislo);
+    for (std::size_t i = 0; i < spoj->stanice.size(); ++i)
+        if ((spoj->stanice[i] == kTHN || spoj->stanice[i] == kTHJ) && spoj->prijezdy[i] >= 0) {
+            text += " (příj. "_cz;
+            text += text_minuty(spoj->prijezdy[i]) + " z ";
+            text += kod_stanice(spoj->stanice.front());
+            return text + ")";
+        }
+    return text;
+}
+
+Text popis_vozu(TextPohled vuz, TextPohled urceni) {
+    struct Dopravce {
+        TextPohled rada, popis;
+    };
+    constexpr std::array<Dopravce, 4> kDopravci = {
+        {{"350", "ZSSK 350"}, {"753", "UNIPETROL 753"}, {"741", "VIAMONT 741"}, {"740", "OKD 740"}}};
+    Text text;
+    for (const Dopravce& d : kDopravci)
+        if (orez(vuz) == d.rada)
+            text = d.popis;
+    if (text.empty() && je_ciselny(vuz)) {
+        text = "ČD "_cz;
+        text += vuz;
+    } else if (text.empty()) {
+        text = vuz;
+        for (std::size_t misto = text.find("OBB"); misto != Text::npos; misto = text.find("OBB", misto + 3))
+            text.replace(misto, 3, "ÖBB"_cz);
+    }
+    if (!urceni.empty() && urceni != "0") {
+        text += " (";
+        text += urceni;
+        text += ")";
+    }
+    return text;
+}
+
+void ukaz_stranku_vlaku() {
+    const int vlak = vlak_na_panelu();
+    if (vlak >= 0 && relief.lblIinfo_o_vlaku[0].text->empty())
+        napln_stranku({}, vlak);
+    ukaz_vozy();
+}
+
+void info_o_vlaku(TextPohled text, int vlak) {
+    if (vlak_c(vlak) == nullptr)
+        return;
+    napln_stranku(text, vlak);
+    prepni_panel(Panel::vlak);
+}
+
+void info_podle_gvd(std::int32_t cislo) {
+    const GvdVlak* radek = radek_gvd(cislo);
+    if (radek == nullptr)
+        return;
+    uvolni_vozy();
+    relief.lblIinfo_o_vlaku[0].stav = Text{};
+    relief.lblIinfo_o_vlaku[0].text = text_jedouciho(vlak_podle_gvd(*radek), false);
+    prepni_panel(Panel::vlak);
+}
+
+void zapomen_info(int vlak) {
+    if (vlak_na_panelu() != vlak)
+        return;
+    relief.lblIinfo_o_vlaku[0].stav = Text{};
+    uvolni_vozy();
+}

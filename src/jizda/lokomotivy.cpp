@@ -1,0 +1,151 @@
+// jizda/lokomotivy.cpp - locomotives called out of the depots.
+#include "jizda/lokomotivy.h"
+
+#include "cesty/barvi_prvek.h"
+#include "cesty/cesta.h"
+#include "cesty/cisla_vlaku.h"
+#include "cesty/dotazy.h"
+#include "desk/menu.h"
+#include "desk/tabulka_vlaku.h"
+#include "gvd/provoz.h"
+#include "gvd/skladba.h"
+#include "jizda/metry.h"
+#include "jizda/na_koleji.h"
+#include "jizda/spojovani.h"
+#include "jizda/vlak.h"
+#include "jizda/zastavky.h"
+#include "relief/relief.h"
+#include "zaklad/cisla.h"
+#include "zaklad/nahoda.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+#include <vector>
+
+namespace {
+
+constexpr std::uint8_t kLokomotivniVlak = 16; // category of a light engine
+constexpr std::uint8_t kRychlost = 80;
+
+// A gate of the main depot: the name that opens the menu, and the track behind the gate.
+struct Brana {
+    int popis;
+    int kolej;
+    bool smer; // in which the locomotive comes out
+    void (*akce)(int rada);
+};
+constexpr int kPopisVh = 34;
+constexpr int kKolejVh = 25;
+
+constexpr std::array<TextPohled, 10> kRady = {"210", "230", "2x230", "240", "242",
+                                              "362", "363", "731",   "742", "754"};
+constexpr std::array<TextPohled, 2> kRadyVh = {"842", "850"};
+constexpr TextPohled kDvojice = "2x230";
+
+void akce_brany_28(int i) {
+    loko_menu(28, kRady.at(static_cast<std::size_t>(i)));
+}
+void akce_brany_30(int i) {
+    loko_menu(30, kRady.at(static_cast<std::size_t>(i)));
+}
+void akce_vh(int i) {
+    loko_vh_menu(kRadyVh.at(static_cast<std::size_t>(i)));
+}
+
+constexpr std::array kBrany = {Brana{28, 112, false, akce_brany_28}, Brana{30, 119, true, akce_brany_30}};
+
+const Brana* najdi_branu(int popis) {
+    const auto brana =
+        std::find_if(kBrany.begin(), kBrany.end(), [popis](const Brana& b) { return b.popis == popis; });
+    return brana == kBrany.end() ? nullptr : &*brana;
+}
+
+bool je_volno(int kolej) {
+    return je_kolej(kolej) && cil_volny(kolej) && je_volna(kolej);
+}
+
+// A record of vehicles of one series, standing on the track, for a run of some minutes between two places.
+int nova_lokomotiva(TextPohled rada, std::size_t pocet, int kolej, bool smer,
+                    std::array<std::uint8_t, 2> odkud_kam, int jizda_min) {
+    const int v = novy_vlak();
+    Vlak& vlak = vlaky[static_cast<std::size_t>(v)];
+    vlak.cislo = na_long(dolu(static_cast<double>(nahodne()) * 200.0 + 74'800.0));
+    vlak.druh = kLokomotivniVlak;
+    vlak.smer = smer;
+    vlak.muze_jet = true;
+    vlak.max_rychlost = vlak.rychlost_trati = kRychlost;
+    vlak.loko_rada = na_integer(cele_z_textu(rada));
+    vlak.vozy.assign(pocet, Text(rada));
+    vlak.vozy_urceni.assign(pocet, Text{});
+    for (std::size_t i = 0; i < pocet; ++i)
+        vlak.vozy_obrazek.push_back(obrazek_vozu(vlak.loko_rada));
+    vlak.prvky = {na_integer(kolej)};
+    vlak.prvky_druh = {druh_prvku::kolej};
+    vlak.prvky_poloha = {2};
+    vlak.stanice.assign(odkud_kam.begin(), odkud_kam.end());
+    vlak.prijezd = {kZadny, na_integer(cas_min() + jizda_min)};
+    vlak.odjezd = {cas_min(), kZadny};
+    vlak.odjezd_realny = vlak.odjezd;
+    return v;
+}
+
+Menu nove_menu(TextPohled jmeno, int popis) {
+    const Text hlava =
+        relief.popis_stanice.je(popis) ? Text(orez(relief.popis_stanice[popis].text())) : Text{};
+    return {Text(jmeno), hlava, Druh::popis_stanice, popis, {}};
+}
+
+// Entries are known by their caption, and by their place in the array of the menu.
+void pridej_radu(Menu& nove, TextPohled pole, TextPohled rada, std::size_t i, void (*akce)(int)) {
+    nove.polozky.push_back({"mi" + Text(rada), Text(rada), true, true, akce, static_cast<int>(i)});
+    nove.polozky.back().druhe_jmeno = Text(pole) + text_cisla(static_cast<std::int64_t>(i));
+}
+
+} // namespace
+
+bool menu_depa(int popis) {
+    if (popis == kPopisVh) {
+        Menu nove = nove_menu("mnuLOKO_VH", popis);
+        for (std::size_t i = 0; i < kRadyVh.size(); ++i)
+            pridej_radu(nove, "miLOKO_VH", kRadyVh[i], i, akce_vh);
+        otevri_menu(std::move(nove));
+        return true;
+    }
+    const Brana* brana = najdi_branu(popis);
+    if (brana == nullptr)
+        return false;
+    Menu nove = nove_menu("mnuLOKO", popis);
+    for (std::size_t i = 0; i < kRady.size(); ++i)
+        pridej_radu(nove, "miLoko", kRady[i], i, brana->akce);
+    otevri_menu(std::move(nove));
+    return true;
+}
+
+void loko_menu(int misto, TextPohled rada) {
+    const Brana* brana = najdi_branu(misto);
+    if (brana == nullptr || std::find(kRady.begin(), kRady.end(), rada) == kRady.end() ||
+        !je_volno(brana->kolej))
+        return;
+    const bool dvojice = rada == kDvojice;
+    const int v =
+        nova_lokomotiva(dvojice ? "230" : rada, dvojice ? 2 : 1, brana->kolej, brana->smer, {27, 12}, 2);
+    vlaky[static_cast<std::size_t>(v)].delka = dvojice ? 36 : 18;
+    vlaky[static_cast<std::size_t>(v)].posun = true;
+    pridej_na_kolej(brana->kolej, v, brana->smer, -1);
+    barvi_prvek(brana->kolej, barvy::cervena);
+    nastav_metry(brana->kolej, 500);
+}
+
+void loko_vh_menu(TextPohled rada) {
+    if (std::find(kRadyVh.begin(), kRadyVh.end(), rada) == kRadyVh.end() || !je_volno(kKolejVh))
+        return;
+    const int v = nova_lokomotiva(rada, 1, kKolejVh, true, {34, 9}, 7);
+    vlaky[static_cast<std::size_t>(v)].delka = 20;
+    pridej_na_kolej(kKolejVh, v, true, -1);
+    barvi_prvek(kKolejVh, barvy::cervena);
+    nastav_metry(kKolejVh, 200);
+    pridej_do_tabulky(v);
+    pis_cislo(kKolejVh, text_cisla(vlaky[static_cast<std::size_t>(v)].cislo));
+    postav_cesty_z(kKolejVh);
+}
