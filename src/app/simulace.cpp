@@ -3,6 +3,7 @@
 
 #include "app/blikani.h"
 #include "app/kontrola_jizdy.h"
+#include "app/parametry.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
 #include "cesty/vyber.h"
@@ -57,6 +58,7 @@ void nova_simulace() {
     blikani = Blikani{};
     zapomen_technologii();
     zapomen_kontrolu_jizdy();
+    parametry = Parametry{};
 }
 
 bool je_ladeni() {

@@ -262,6 +262,8 @@ bool klik_na_prvek(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
     case Druh::Image1:
         if (leve)
             klik_cil(n);
+        else if (prave && je_cislo_koleje(n)) // its label may be dark, under a shunting movement
+            menu_koleje(n);
         return true;
     case Druh::cislo_koleje:
         if (leve)

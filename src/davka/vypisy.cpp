@@ -4,10 +4,12 @@
 #include "app/blikani.h"
 #include "app/cas.h"
 #include "app/casovace.h"
+#include "app/parametry.h"
 #include "app/simulace.h"
 #include "cesty/dotazy.h"
 #include "cesty/duvod.h"
 #include "cesty/zasobnik.h"
+#include "davka/obrazovka_startu.h"
 #include "davka/popisy.h"
 #include "davka/skript.h"
 #include "davka/virtualni_svet.h"
@@ -219,6 +221,8 @@ void vypis_technologii(ZaznamJsonu& z, Technologie ktera) {
 
 void vypis_obrazovka(ZaznamJsonu& z) {
     pridej(z, "obrazovka", json_text(simulace.obrazovka));
+    if (simulace.obrazovka == kObrazovkaStartu)
+        vypis_obrazovky_startu(z);
     if (simulace.obrazovka == "frmMain") {
         pridej(z, "lstZpravy", texty(relief.lstZpravy.radky));
         pridej(z, "lstDenik", texty(relief.lstDenik.radky));
