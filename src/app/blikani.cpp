@@ -177,6 +177,12 @@ void ramecek_hledani() {
 
 } // namespace
 
+void ukaz_prejezdy() {
+    for (int k = 0; k < 2; ++k)
+        ukaz_prejezd(k);
+    prejezdy_trati();
+}
+
 void krok_blikani() {
     if (simulace.pauza)
         return;
@@ -186,9 +192,7 @@ void krok_blikani() {
     lampy_souhlasu();
     for (std::size_t k = 0; k < stanicni_prejezdy.size(); ++k)
         zavri_prejezd_vcas(k);
-    for (int k = 0; k < 2; ++k)
-        ukaz_prejezd(k);
-    prejezdy_trati();
+    ukaz_prejezdy();
     nova_zprava();
     if (simulace.pn_bezi)
         pipni(1200, 30);

@@ -18,3 +18,8 @@ inline constexpr int kZnackaRozsvicena = 0x78D5F8; // and lit
 // Flashes the marks, the command line, the clock picture, the consents, the crossings and the search
 // frame; closes a station crossing whose time has come. Nothing in a pause: phases are kept.
 void krok_blikani();
+
+// --- after a load
+
+// The lamps of all crossings as their tables tell.
+void ukaz_prejezdy();

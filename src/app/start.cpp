@@ -6,6 +6,7 @@
 #include "app/rezim.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
+#include "cesty/volba.h"
 #include "cesty/vyber.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
@@ -388,5 +389,7 @@ void start_simulace() {
     simulace.tick_jizdy = platforma.tik_ms();
     pipni(400, 150);
     zprava(" INIT ", " OK ", barvy::zelena, 0, false, barvy::bila, 0, false);
+    if (simulace.nacitani_zaznamu)
+        pripomen_varovani(); // behind the login
     simulace.nova_pipnuti = false;
 }

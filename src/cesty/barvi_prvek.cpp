@@ -90,6 +90,13 @@ bool je_v_rohu(const Prvek& n, const Prvek& a, const Prvek& b) {
 
 } // namespace
 
+int vzor_zrcadla(int n) {
+    const auto zrcadlo = std::find_if(kZrcadla.begin(), kZrcadla.end(), [n](const Zrcadlo& z) {
+        return std::find(z.kopie.begin(), z.kopie.end(), n) != z.kopie.end();
+    });
+    return zrcadlo == kZrcadla.end() ? -3 : zrcadlo->vzor;
+}
+
 void barvi_prvek(int n, Barva barva, bool uvolni, bool posledni) {
     if (uvolni && je_hranicni(n))
         barva = barvy::seda; // nothing would paint a line end grey later

@@ -20,3 +20,5 @@ void obnov_lampu_souhlasu(int n);
 // when it is locked or moves; -3 when there is no such switch.
 int bocni_vyhybka(int a, int b);
 bool sousedni_volne(int a, int b);
+// The track whose colour n repeats in another picture of it; -3 when n is no such picture.
+int vzor_zrcadla(int n);

@@ -166,14 +166,26 @@ void uklid_odjete() {
 
 void obnov_odjete() {
     odjete.reset();
+    // Nothing is reserved behind a train on its route, nor is the track before the start signal.
+    std::bitset<kNejvyssiPrvek + 1> drzene;
+    const auto drzi = [&drzene](int n) {
+        if (n >= 0 && n <= kNejvyssiPrvek)
+            drzene.set(static_cast<std::size_t>(n));
+    };
+    for (const Cesta& c : cesty) {
+        if (!c.prehozena || !nevjel(c))
+            continue;
+        drzi(c.konec);
+        for (std::size_t k = 1; k < c.prvky.size(); ++k)
+            if (druh_na(c, k) == druh_prvku::kolej)
+                drzi(c.prvky[k]);
+    }
     for (int n = 0; n < 600; ++n) {
         if (!je_kolej(n) || relief.kolej[n].barva != barvy::azurova)
             continue;
-        const bool drzena = nektera([n](const Cesta& c) {
-            return c.prehozena &&
-                   (c.konec == n || std::find(c.prvky.begin(), c.prvky.end(), n) != c.prvky.end());
-        });
-        if (!drzena)
-            odjete.set(static_cast<std::size_t>(n));
+        // A picture that only repeats the colour of another track goes with that one.
+        const int vzor = vzor_zrcadla(n);
+        const bool kopie = je_kolej(vzor) && relief.kolej[vzor].barva == barvy::azurova;
+        odjete.set(static_cast<std::size_t>(n), !kopie && !drzene.test(static_cast<std::size_t>(n)));
     }
 }

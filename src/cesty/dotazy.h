@@ -62,5 +62,5 @@ std::uint32_t odebrane_cesty();
 
 // Paints grey what a tail has left and no train's route holds any more.
 void uklid_odjete();
-// After a load: every cyan section that no commanded route holds was left by a tail.
+// After a load: every cyan section that no commanded route holds ahead of its train was left by a tail.
 void obnov_odjete();

@@ -116,3 +116,12 @@ bool najdi_cestu(int zacatek, int konec, int druh, bool automaticky) {
     vyber.volba_druh = druh_volby::zadny;
     return static_cast<bool>(nalezena);
 }
+
+void pripomen_varovani() {
+    for (Cesta& c : cesty)
+        if (c.zacatek >= 0 && c.varovani != 0 && !c.prehozena) {
+            c.varovani = 0; // what it was about may be over
+            varuj_pred_stitky(c);
+            varuj_pred_pn(c);
+        }
+}

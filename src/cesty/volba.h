@@ -32,6 +32,9 @@ void klik_plocha();
 // Enter on " POZOR STITEK ", " POZOR NVL ", " POZOR VYLUKA ", " POZOR PN ": releases all routes that a
 // warning holds.
 void potvrd_varovani();
+// After a load: the warnings that routes still wait for are told again; a route whose reason is gone waits no
+// longer.
+void pripomen_varovani();
 
 // --- by the selection, AH and macros
 

@@ -548,7 +548,9 @@ void uprav_rychlost(int v) {
 
 void obnov_obslouzene() {
     for (Vlak& vlak : vlaky)
-        if (vlak.cislo > 0 && !vlak.muze_jet)
+        if (vlak.cislo > 0 && !vlak.muze_jet && !vlak.posun && !vlak.prvky.empty() &&
+            vlak.prvky_druh.back() == druh_prvku::kolej &&
+            metry(vlak.prvky.back()) >= delka_koleje(vlak.prvky.back()))
             vlak.obslouzeno = vlak.prvky.size();
 }
 

@@ -7,7 +7,8 @@ void krok_jizdy();
 
 // --- after a load
 
-// Trains that wait at a stop have been looked after there: their departure is no new arrival.
+// Trains that wait at the end of their element have been looked after there: their departure is no new
+// arrival.
 void obnov_obslouzene();
 
 // --- at any time

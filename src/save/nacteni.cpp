@@ -320,7 +320,8 @@ void obnov_smery(const Zaznam& z) {
         }
         if (relief.lblPredvidany_odjezd.je(k)) {
             Prvek& odjezd = relief.lblPredvidany_odjezd[k];
-            nastav_text(odjezd, z.predvidany_odjezd[i]);
+            if (odjezd.text() != z.predvidany_odjezd[i])
+                nastav_text(odjezd, z.predvidany_odjezd[i]);
             if (!odjezd.text->empty())
                 odjezd.viditelny = true;
         }
@@ -437,6 +438,7 @@ void dopocti() {
     obnov_odjete();
     obnov_obslouzene();
     obnov_odpocty();
+    ukaz_prejezdy();
     aktualizuj_cekani();
     zmena_zasobniku();
 }
@@ -543,6 +545,13 @@ void obnov_souhlasy() {
             for (std::size_t k = 0; k < kStaniceKoncu.size(); ++k)
                 if (radek.cislo == cislo && radek.stanice.front() == kStaniceKoncu[k])
                     souhlasy.souhlas[k] = true;
+    }
+    // The minute of a train that has gone in is out, although its text stays until the next consent ends.
+    for (std::size_t k = 0; k < kStaniceKoncu.size(); ++k) {
+        const auto je_sedy = [](int n) { return !je_kolej(n) || relief.kolej[n].barva == barvy::seda; };
+        if (souhlasy.souhlas[k] && je_sedy(kKonceTrati[k].usek) && je_sedy(kKonceTrati[k].navestidlo) &&
+            relief.lblPredvidany_odjezd.je(static_cast<int>(k)))
+            relief.lblPredvidany_odjezd[static_cast<int>(k)].viditelny = false;
     }
 }
 

@@ -107,5 +107,6 @@ void uloz_prubezne() {
     zastav_hodiny();
     const Text soubor = soubor_autosave();
     uloz_simulaci(soubor, true);
-    promaz_autosave(soubor);
+    if (soubor_existuje(soubor))
+        promaz_autosave(soubor);
 }

@@ -134,28 +134,27 @@ void Platno::kresli(const QRegion& kde) {
     nakresli_podklad(p, m, stul & kde.boundingRect());
     for (const NapisPozadi& napis : nakreslene_napisy)
         nakresli_napis_pozadi(p, m, napis);
-    const auto nakresli = [&](const Polozka& polozka) {
-        const Prvek& prvek =
-            nakreslene[static_cast<std::size_t>(polozka.druh)][static_cast<std::size_t>(polozka.n)];
-        if (prvek.viditelny && kde.intersects(v_bodech(polozka.misto)))
-            nakresli_prvek(p, m, polozka.druh, polozka.n, prvek);
+    const auto nakresli = [&](Druh druh, int n, const QRect& misto) {
+        const Prvek& prvek = nakreslene[static_cast<std::size_t>(druh)][static_cast<std::size_t>(n)];
+        if (prvek.viditelny && kde.intersects(v_bodech(misto)))
+            nakresli_prvek(p, m, druh, n, prvek);
     };
-    // Targets lie at the bottom, where they are in nobody's way; but the sign of a note on them lies over
-    // the line of its track.
-    const auto pod_znackou = [](const Polozka& polozka) {
-        return polozka.druh == Druh::kolej || polozka.druh == Druh::most;
+    const auto je = [&](Druh druh, int n) {
+        const std::vector<Prvek>& prvky = nakreslene[static_cast<std::size_t>(druh)];
+        return static_cast<std::size_t>(n) < prvky.size() && prvky[static_cast<std::size_t>(n)].existuje;
     };
-    const auto je_cil = [](const Polozka& polozka) { return polozka.druh == Druh::Image1; };
-    const auto posledni_cara = std::find_if(poradi.rbegin(), poradi.rend(), pod_znackou).base();
-    for (auto i = poradi.begin(); i != posledni_cara; ++i)
-        if (!je_cil(*i))
-            nakresli(*i);
-    for (const Polozka& polozka : poradi)
-        if (je_cil(polozka))
-            nakresli(polozka);
-    for (auto i = posledni_cara; i != poradi.end(); ++i)
-        if (!je_cil(*i))
-            nakresli(*i);
+    for (const Polozka& polozka : poradi) {
+        // Targets lie at the bottom, where they are in nobody's way; but the sign of a note on one is
+        // drawn with its track, over the line.
+        if (polozka.druh == Druh::Image1 && je(Druh::kolej, polozka.n))
+            continue;
+        nakresli(polozka.druh, polozka.n, polozka.misto);
+        if (polozka.druh == Druh::kolej && je(Druh::Image1, polozka.n)) {
+            const auto n = static_cast<std::size_t>(polozka.n);
+            const Prvek& cil = nakreslene[static_cast<std::size_t>(Druh::Image1)][n];
+            nakresli(Druh::Image1, polozka.n, misto_kresby(Druh::Image1, polozka.n, cil));
+        }
+    }
 }
 
 std::optional<Nalezeny> Platno::prvek_pod(QPoint twipy) const {

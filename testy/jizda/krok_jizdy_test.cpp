@@ -4,6 +4,7 @@
 #include "jizda/poslusnost.h"
 #include "jizda/svet_vlaku.h"
 #include "prvky/stanicni_prejezdy.h"
+#include "relief/topologie.h"
 #include "zaklad/chyba.h"
 
 #include <algorithm>
@@ -182,6 +183,40 @@ TEST_F(Jizda, CallingOnAspectThatIsOverIsNotEntered) {
     EXPECT_EQ(vlak(v).rychlost, 0);
 }
 
+TEST_F(Jizda, RouteThatGoesInAStepHidesNoLaterRouteFromTheTrainsBehindIt) {
+    pridej_kolej(90, false);
+    pridej_kolej(91, false);
+    const int v1 = vlak_na(91, true, 11), v2 = vlak_na(62, true, 12);
+    RadekCesty dojeta = radek(0);
+    dojeta.konec = 91;
+    dojeta.prvky = {90, 91};
+    dojeta.druhy = {druh_prvku::kolej, druh_prvku::kolej};
+    dojeta.polohy = {0, 0};
+    cesta(dojeta);
+    cesty[0].Umazat = 1;
+    cesty[0].Vlak = static_cast<std::int16_t>(v1);
+    nastav_metry(91, delka_koleje(91));
+    cesta(radek(0));
+    vlak(v2).rychlost = 50;
+    krok();
+    ASSERT_EQ(cesty.size(), 1u);
+    EXPECT_EQ(cesty[0].zacatek, radek(0).zacatek);
+    EXPECT_EQ(cesty[0].Vlak, v2);
+    EXPECT_GT(metry(62), 0);
+}
+
+TEST_F(Jizda, OfTwoRoutesFromATrackTheFirstThatMayBeEnteredIsTaken) {
+    const int v = vlak_na(62, true, 11);
+    cesta(radek(0));
+    cesta(radek(0));
+    cesta(radek(0));
+    cesty[0].cas_ruseni = 5;
+    krok();
+    EXPECT_NE(cesty[0].Vlak, v);
+    EXPECT_EQ(cesty[1].Vlak, v);
+    EXPECT_NE(cesty[2].Vlak, v);
+}
+
 TEST_F(Jizda, CancelledRouteIsNotEntered) {
     vlak_na(62, true, 11);
     const int c = cesta(radek(0));
@@ -331,6 +366,15 @@ TEST_F(Jizda, RouteOfATrainThatIsGoneIsRemoved) {
     krok();
     ASSERT_EQ(cesty.size(), 1u);
     EXPECT_EQ(cesty[0].zacatek, 63);
+}
+
+TEST_F(Jizda, RouteThatNoTrainHasTakenStays) {
+    cesta(radek(0));
+    cesta(radek(1));
+    cesty[0].Umazat = static_cast<std::uint8_t>(cesty[0].prvky.size() - 1);
+    for (int i = 0; i < 5; ++i)
+        krok();
+    EXPECT_EQ(cesty.size(), 2u);
 }
 
 TEST_F(Jizda, RouteWithoutAFinalTrackEndsTheProgram) {

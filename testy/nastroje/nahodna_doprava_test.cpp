@@ -16,6 +16,7 @@
 #include "jizda/spojovani.h"
 #include "jizda/zastavky.h"
 #include "pomocne/cele_kolejiste.h"
+#include "pomocne/zdroje.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
 #include "zaklad/nahoda.h"
@@ -27,7 +28,7 @@ namespace {
 const Bajty& jizdni_rad() {
     static const Bajty bajty = [] {
         std::vector<ChybaZdroje> chyby;
-        const auto zdroj = std::filesystem::path(TESK_ZDROJE_KOLEJISTE) / "gvd" / "GVD_cvicny.gvd";
+        const auto zdroj = std::filesystem::path(kZdrojeKolejiste) / "gvd" / "GVD_cvicny.gvd";
         return zapis_jizdni_rad(preloz_jizdni_rad(obsah_souboru(zdroj), chyby));
     }();
     return bajty;

@@ -2,6 +2,7 @@
 #include "gvd/prekladac.h"
 #include "gvd/skladba.h"
 #include "pomocne/provoz_sveta.h"
+#include "pomocne/zdroje.h"
 #include "vozy/prekladac.h"
 #include "vozy/rastr.h"
 
@@ -45,7 +46,7 @@ std::string obsah(const fs::path& soubor) {
 
 std::vector<fs::path> soubory(const std::string& slozka, const std::string& pripona) {
     std::vector<fs::path> nalezene;
-    for (const auto& s : fs::directory_iterator(fs::path(TESK_ZDROJE_KOLEJISTE) / slozka))
+    for (const auto& s : fs::directory_iterator(fs::path(kZdrojeKolejiste) / slozka))
         if (s.path().extension() == pripona)
             nalezene.push_back(s.path());
     std::sort(nalezene.begin(), nalezene.end());

@@ -8,6 +8,7 @@
 #include "kolejiste/trasy.h"
 #include "kolejiste/vystup.h"
 #include "pomocne/virtualni_platforma.h"
+#include "pomocne/zdroje.h"
 
 #include <algorithm>
 #include <filesystem>
@@ -33,7 +34,7 @@ inline const DataKolejiste& data_kolejiste() {
         Plan plan;
         std::vector<Zavada> zavady;
         std::vector<std::filesystem::path> zdroje;
-        for (const auto& polozka : std::filesystem::directory_iterator(TESK_ZDROJE_KOLEJISTE))
+        for (const auto& polozka : std::filesystem::directory_iterator(kZdrojeKolejiste))
             if (polozka.path().extension() == ".tk")
                 zdroje.push_back(polozka.path());
         std::sort(zdroje.begin(), zdroje.end());
