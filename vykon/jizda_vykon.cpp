@@ -1,6 +1,8 @@
 // vykon/jizda_vykon.cpp - the movement step with many trains under way.
+#include "app/casovace.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
+#include "davka/davka.h"
 #include "jizda/krok_jizdy.h"
 #include "jizda/metry.h"
 #include "jizda/na_koleji.h"
@@ -12,15 +14,20 @@
 
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+#include <sstream>
+
 namespace {
 
 std::int32_t tik = 1000;
 
-// As many trains as asked, each on a track of its own with a standing route over the next two.
+// As many trains as asked, at most one on each element that there can be: a line of sections in a row, on
+// each a train with its own standing route to the next section.
 struct Koleje {
     DocasnaSlozka slozka;
 
-    explicit Koleje(int pocet) {
+    // `useku` sections to a train: with two of them the next one is free.
+    explicit Koleje(int pocet, int useku = 1) {
         nova_simulace();
         platforma = prazdna_platforma();
         platforma.tik_ms = [] { return tik; };
@@ -28,8 +35,8 @@ struct Koleje {
         relief.lblcas[0].text = TextPohled("8:00:00");
         zaloz_slozku(slozka.cesta + "data");
         zapis_soubor(slozka.cesta + "data\\tesk.top", {});
-        for (int n = 1; n <= 3 * pocet; ++n) {
-            relief.kolej.zaloz(n).barva = barvy::seda;
+        for (int n = 0; n < pocet * useku; ++n) {
+            relief.kolej.zaloz(n).barva = n % useku == 0 ? barvy::cervena : barvy::zelena;
             relief.kolej[n].stav = TextPohled("0");
             relief.cislo_koleje.zaloz(n).popis = "K" + text_cisla(n);
             relief.navestidlo.zaloz(n).text = znak(229);
@@ -37,27 +44,27 @@ struct Koleje {
         spust_hodiny();
         cesty.clear();
         for (int i = 0; i < pocet; ++i)
-            pridej(i);
+            pridej(i * useku, (i * useku + 1) % (pocet * useku));
     }
     ~Koleje() {
         nova_simulace();
         platforma = prazdna_platforma();
     }
 
-    static void pridej(int i) {
-        const auto n = static_cast<std::int16_t>(3 * i + 1);
+    static void pridej(int misto, int dalsi) {
+        const auto n = static_cast<std::int16_t>(misto);
         Cesta c;
         c.zacatek = n;
-        c.konec = static_cast<std::int16_t>(n + 2);
-        c.prvky = {n, static_cast<std::int16_t>(n + 1), c.konec};
-        c.druhy = {1, 1, 1};
-        c.polohy = {0, 0, 0};
+        c.konec = static_cast<std::int16_t>(dalsi);
+        c.prvky = {n, c.konec};
+        c.druhy = {1, 1};
+        c.polohy = {0, 0};
         c.VC = c.prehozena = c.Postavena = c.Provedena = true;
         c.prejezd = kBezPrejezdu;
         cesty.push_back(c);
         const int v = novy_vlak();
         Vlak& vlak = vlaky[static_cast<std::size_t>(v)];
-        vlak.cislo = 1000 + i;
+        vlak.cislo = 1000 + misto;
         vlak.delka = 200;
         vlak.max_rychlost = vlak.rychlost_trati = 100;
         vlak.smer = vlak.muze_jet = true;
@@ -67,23 +74,104 @@ struct Koleje {
         vlak.prvky = {n};
         vlak.prvky_druh = {1};
         vlak.prvky_poloha = {0};
-        relief.kolej[n].barva = barvy::cervena;
         pridej_na_kolej(n, v, true, -1);
     }
 };
 
-// Every train moves on within its track.
+benchmark::Counter na_vlak(int pocet) {
+    return {static_cast<double>(pocet),
+            benchmark::Counter::kIsIterationInvariantRate | benchmark::Counter::kInvert};
+}
+
+// Every train moves on within its section.
 void krok_vlaku(benchmark::State& stav) {
     const int pocet = static_cast<int>(stav.range(0));
     const Koleje koleje(pocet);
     for (auto _ : stav) {
         tik += 1000;
-        for (int i = 0; i < pocet; ++i)
-            nastav_metry(3 * i + 1, 0);
+        for (int n = 0; n < pocet; ++n)
+            nastav_metry(n, 0);
         krok_jizdy();
     }
+    stav.SetComplexityN(stav.range(0));
+    stav.counters["na vlak"] = na_vlak(pocet);
 }
-BENCHMARK(krok_vlaku)->Arg(10)->Arg(100);
+BENCHMARK(krok_vlaku)->Arg(10)->Arg(100)->Arg(1000)->Unit(benchmark::kMicrosecond)->Complexity(benchmark::oN);
+
+// Every train runs into the next section: labels, lists of trains on tracks, colours, the log.
+void vjezd_vlaku(benchmark::State& stav) {
+    const int pocet = static_cast<int>(stav.range(0));
+    const Koleje koleje(pocet, 2);
+    for (int n = 0; n < 2 * pocet; n += 2)
+        nastav_metry(n, 5000);
+    const auto cesty_na_zacatku = cesty;
+    const auto vlaky_na_zacatku = vlaky;
+    const auto koleje_na_zacatku = koleje_vlaky;
+    const Relief relief_na_zacatku = relief;
+    for (auto _ : stav) {
+        stav.PauseTiming();
+        cesty = cesty_na_zacatku;
+        vlaky = vlaky_na_zacatku;
+        koleje_vlaky = koleje_na_zacatku;
+        relief = relief_na_zacatku;
+        tik += 1000;
+        stav.ResumeTiming();
+        krok_jizdy();
+    }
+    if (relief.kolej[1].barva != barvy::cervena)
+        stav.SkipWithError("no train has moved");
+    stav.SetComplexityN(stav.range(0));
+    stav.counters["na vlak"] = na_vlak(pocet);
+}
+BENCHMARK(vjezd_vlaku)
+    ->Arg(10)
+    ->Arg(50)
+    ->Arg(100)
+    ->Arg(200)
+    ->Arg(300)
+    ->Arg(500)
+    ->Unit(benchmark::kMicrosecond)
+    ->Complexity(benchmark::oN);
+
+// An hour at speed 1 with all four timers at their periods; the trains run up and down their sections.
+void simulovana_hodina(benchmark::State& stav) {
+    const Koleje koleje(static_cast<int>(stav.range(0)));
+    std::vector<std::int32_t> splatno(casovace.size());
+    for (auto _ : stav) {
+        const std::int32_t zacatek = tik;
+        for (std::size_t k = 0; k < casovace.size(); ++k)
+            splatno[k] = tik + casovace[k].perioda_ms;
+        while (tik - zacatek < 3'600'000) {
+            tik = *std::min_element(splatno.begin(), splatno.end());
+            for (std::size_t k = 0; k < casovace.size(); ++k)
+                if (splatno[k] == tik) {
+                    casovace[k].telo();
+                    splatno[k] += casovace[k].perioda_ms;
+                }
+            if ((tik - zacatek) % 5000 == 0)
+                for (int n = 0; n < stav.range(0); ++n)
+                    nastav_metry(n, 0);
+        }
+    }
+    if (relief.lblcas[0].text() == "8:00:00")
+        stav.SkipWithError("the clock has not moved");
+}
+BENCHMARK(simulovana_hodina)->Arg(30)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+// An hour of the week for learning on the whole junction, the start included, as the runner plays it.
+void hodina_cvicneho_tydne(benchmark::State& stav) {
+    for (auto _ : stav) {
+        std::istringstream skript("semeno 3\npc 2026-01-05 08:00:00\n"
+                                  "spust cas=6:00 den=0 rychlost=1 gvd=GVD_cvicny zpozdeni=0\n"
+                                  "prihlas\ncekej_do 7:00:00\n");
+        std::ostringstream vystup, chyby;
+        if (spust_davku({.slozka = TESK_INSTALACE}, skript, vystup, chyby) != navrat::v_poradku)
+            stav.SkipWithError(chyby.str().c_str());
+    }
+    nova_simulace();
+    platforma = prazdna_platforma();
+}
+BENCHMARK(hodina_cvicneho_tydne)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 // Every train waits at a stop: the pass of each simulated minute.
 void cekajici_vlaky(benchmark::State& stav) {

@@ -28,15 +28,15 @@ std::set<Text> drivejsi(TextPohled seznam) {
     return jmena;
 }
 
-void zapis(const Text& slozka, const Text& seznam, const std::vector<Obrazek>& obrazky) {
+void zapis(const Text& slozka, const Text& seznam, const std::vector<vozy::Obrazek>& obrazky) {
     std::set<Text> zbyle = drivejsi(seznam);
     Bajty novy;
-    for (const Obrazek& o : obrazky) {
-        std::vector<Rastr> rastry;
+    for (const vozy::Obrazek& o : obrazky) {
+        std::vector<vozy::Rastr> rastry;
         for (const int zvetseni : kZvetseni)
-            rastry.push_back(nakresli(o, zvetseni));
+            rastry.push_back(vozy::nakresli(o, zvetseni));
         const Text jmeno = z_utf8(o.jmeno);
-        zapis_soubor(slozka + "/" + jmeno, ikona(rastry));
+        zapis_soubor(slozka + "/" + jmeno, vozy::ikona(rastry));
         zbyle.erase(jmeno);
         novy.insert(novy.end(), jmeno.begin(), jmeno.end());
         novy.push_back('\n');
@@ -55,15 +55,15 @@ int main(int argc, char** argv) {
     }
     const char* soubor = argv[1];
     try {
-        std::vector<ZdrojVozu> zdroje;
+        std::vector<vozy::Zdroj> zdroje;
         for (int i = 3; i < argc; ++i) {
             soubor = argv[i];
             const Bajty b = nacti_soubor(soubor);
             zdroje.push_back({soubor, std::string(b.begin(), b.end())});
         }
-        std::vector<ChybaVozu> chyby;
-        const std::vector<Obrazek> obrazky = preloz_vozy(zdroje, chyby);
-        for (const ChybaVozu& c : chyby)
+        std::vector<vozy::Chyba> chyby;
+        const std::vector<vozy::Obrazek> obrazky = vozy::preloz(zdroje, chyby);
+        for (const vozy::Chyba& c : chyby)
             std::fprintf(stderr, "%s:%d: %s\n", c.soubor.c_str(), c.radek, c.zprava.c_str());
         if (!chyby.empty())
             return 1;

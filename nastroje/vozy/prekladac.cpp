@@ -10,6 +10,7 @@
 #include <set>
 #include <tuple>
 
+namespace vozy {
 namespace {
 
 constexpr double kNejdal_dm = 300;   // no coordinate lies further
@@ -85,7 +86,7 @@ std::optional<std::uint32_t> odstin(std::string_view text) {
 }
 
 struct Prekladac {
-    const std::vector<ZdrojVozu>& zdroje;
+    const std::vector<Zdroj>& zdroje;
     std::map<std::string, Slovo> barvy; // common to all
     std::map<std::string, Kresba> tvary;
     std::vector<Kresba> obrazky;
@@ -448,7 +449,7 @@ struct Prekladac {
 
 } // namespace
 
-std::vector<Obrazek> preloz_vozy(const std::vector<ZdrojVozu>& zdroje, std::vector<ChybaVozu>& chyby) {
+std::vector<Obrazek> preloz(const std::vector<Zdroj>& zdroje, std::vector<Chyba>& chyby) {
     Prekladac p{.zdroje = zdroje,
                 .barvy = {},
                 .tvary = {},
@@ -469,3 +470,5 @@ std::vector<Obrazek> preloz_vozy(const std::vector<ZdrojVozu>& zdroje, std::vect
         chyby.push_back({zdroje[static_cast<std::size_t>(soubor)].jmeno, radek, zprava});
     return hotove;
 }
+
+} // namespace vozy

@@ -9,6 +9,8 @@
 #include <string_view>
 #include <vector>
 
+namespace vozy {
+
 // A picture is drawn shortened: three pixels of the desk to a metre of length, five to a metre of
 // height. A coach of 26.4 m fills the eighty pixels that the desk has for a vehicle, and is still high
 // enough to be known by its windows.
@@ -31,11 +33,11 @@ struct Obrazek {
     std::vector<Plocha> plochy; // in the order in which they are painted
 };
 
-struct ZdrojVozu {
+struct Zdroj {
     std::string jmeno, text;
 };
 
-struct ChybaVozu {
+struct Chyba {
     std::string soubor;
     int radek = 0; // from 1
     std::string zprava;
@@ -43,4 +45,6 @@ struct ChybaVozu {
 
 // Compiles all the sources together: a shape may be used in any of them. Every fault is collected, in
 // the order of files and lines; with any fault the result is not to be used.
-std::vector<Obrazek> preloz_vozy(const std::vector<ZdrojVozu>& zdroje, std::vector<ChybaVozu>& chyby);
+std::vector<Obrazek> preloz(const std::vector<Zdroj>& zdroje, std::vector<Chyba>& chyby);
+
+} // namespace vozy

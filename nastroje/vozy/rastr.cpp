@@ -6,6 +6,7 @@
 #include <cmath>
 #include <cstddef>
 
+namespace vozy {
 namespace {
 
 constexpr int kVzorku = 8; // samples of a pixel in each direction
@@ -150,3 +151,5 @@ Bajty ikona(const std::vector<Rastr>& rastry) {
         pridej_bitmapu(b, r);
     return b;
 }
+
+} // namespace vozy

@@ -7,6 +7,8 @@
 #include <cstdint>
 #include <vector>
 
+namespace vozy {
+
 struct Rastr {
     int sirka = 0, vyska = 0;
     std::vector<std::uint32_t> body; // 0xAARRGGBB, colours not multiplied by alpha; from the top row
@@ -18,3 +20,5 @@ Rastr nakresli(const Obrazek& obrazek, int zvetseni);
 
 // Icon file that holds the pictures, at most 255 by 255 pixels each, with 32 bits a pixel.
 Bajty ikona(const std::vector<Rastr>& rastry);
+
+} // namespace vozy

@@ -3,6 +3,7 @@
 #
 #   python3 nastroje/vozy/vzornik.py <build>/instalace/DATA/VOZY docs/obrazky/vozy.png
 import pathlib
+import re
 import sys
 
 from PIL import Image, ImageDraw, ImageFont
@@ -19,11 +20,15 @@ def nejvetsi(soubor):
     return ikona.ico.getimage(max(ikona.ico.sizes())).convert("RGBA")
 
 
+def poradi(soubor):
+    """By series, then by name: locomotives and units first, vehicles named by their type behind them."""
+    rada = re.search(r"(?<!\d)(\d{3})(p?)[_.]", soubor.name)
+    return (0, rada[1], rada[2], soubor.name) if rada else (1, soubor.name.lower())
+
+
 def main():
     slozka, vystup = pathlib.Path(sys.argv[1]), sys.argv[2]
-    soubory = sorted(slozka.glob("*.ico"), key=lambda s: s.name.lower())
-    if len(sys.argv) > 3:
-        soubory = [s for s in soubory if any(c in s.name for c in sys.argv[3:])]
+    soubory = sorted(slozka.glob("*.ico"), key=poradi)
     na_radek = (SIRKA_LISTU - OKRAJ) // POLE[0]
     radku = -(-len(soubory) // na_radek)
     list_ = Image.new("RGB", (SIRKA_LISTU, 2 * OKRAJ + radku * POLE[1]), POZADI)

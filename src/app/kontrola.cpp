@@ -5,6 +5,7 @@
 #include "app/kontrola.h"
 
 #include "app/cas.h"
+#include "app/kontrola_jizdy.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/vyber.h"
@@ -133,8 +134,8 @@ Nalez zavery_vyhybek() {
     std::vector<Zaver> zavery(static_cast<std::size_t>(relief.imgVyhybka.nejvyssi() + 1));
     for (std::size_t i = 0; i < cesty.size(); ++i) {
         const Cesta& c = cesty[i];
-        if (c.zacatek < 0 || !c.prehozena)
-            continue;
+        if (c.zacatek < 0 || !c.prehozena || c.PN_zaver)
+            continue; // RNZ has released the switches; the record waits for its train
         for (std::size_t k = c.Umazat; k < c.prvky.size(); ++k) {
             if (c.druhy[k] != druh_prvku::vyhybka)
                 continue;
@@ -211,23 +212,27 @@ Nalez zaznamy_vlaku() {
     return std::nullopt;
 }
 
-// Under a train every track is occupied, and no switch moves. A train that is announced at a neighbouring
-// station stands there on green.
-Nalez drzene_prvky() {
+// A train that is announced at a neighbouring station stands there on green.
+bool je_ohlaseny(const Vlak& v) {
+    return v.cislo > 0 && !v.muze_jet && !v.posun && v.stanice_index < 0;
+}
+bool stoji_tu_ohlaseny(int n) {
+    return std::any_of(vlaky.begin(), vlaky.end(),
+                       [n](const Vlak& v) { return je_ohlaseny(v) && drzi_prvek(v, n); });
+}
+
+// Under a train every track is occupied.
+Nalez drzene_koleje() {
     for (std::size_t i = 0; i < vlaky.size(); ++i) {
         const Vlak& v = vlaky[i];
         if (v.cislo < 1 || v.prvky.empty())
             continue;
-        const bool ohlaseny = !v.muze_jet && !v.posun && v.stanice_index < 0;
         for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j) {
             const int n = v.prvky[j];
-            if (v.prvky_druh[j] == druh_prvku::kolej && relief.kolej[n].barva != barvy::cervena && !ohlaseny)
+            if (v.prvky_druh[j] == druh_prvku::kolej && relief.kolej[n].barva != barvy::cervena &&
+                !stoji_tu_ohlaseny(n))
                 return na_miste("vlaky", i,
                                 veta({"drží kolej "_cz, text_cisla(n), ", která není obsazená"_cz}));
-            if (v.prvky_druh[j] == druh_prvku::vyhybka &&
-                static_cast<std::size_t>(n) < stav_vyhybek.vyhybka_pohyb.size() &&
-                stav_vyhybek.vyhybka_pohyb[static_cast<std::size_t>(n)])
-                return na_miste("vlaky", i, veta({"pod vlakem se přestavuje výhybka "_cz, text_cisla(n)}));
         }
     }
     return std::nullopt;
@@ -250,11 +255,13 @@ Nalez vlaky_na_kolejich() {
 } // namespace
 
 std::optional<Text> kontrola_stavu() {
-    if (!relief.lblcas.je(0) || !relief.lblcas[0].viditelny)
+    if (!relief.lblcas.je(0) || !relief.lblcas[0].viditelny) {
+        zapomen_kontrolu_jizdy();
         return std::nullopt;
-    constexpr std::array kKontroly = {hodiny,      koleje, vyhybky,        zaznamy_cest,      zavery_vyhybek,
-                                      volba,       pult,   souhlasy_trati, vlaky_na_kolejich, zaznamy_vlaku,
-                                      drzene_prvky};
+    }
+    constexpr std::array kKontroly = {
+        hodiny, koleje,         vyhybky,           zaznamy_cest,  zavery_vyhybek, volba,
+        pult,   souhlasy_trati, vlaky_na_kolejich, zaznamy_vlaku, drzene_koleje,  kontrola_jizdy};
     for (const auto kontrola : kKontroly)
         if (Nalez nalez = kontrola())
             return nalez;

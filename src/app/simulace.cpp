@@ -2,6 +2,7 @@
 #include "app/simulace.h"
 
 #include "app/blikani.h"
+#include "app/kontrola_jizdy.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
 #include "cesty/vyber.h"
@@ -10,6 +11,7 @@
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
 #include "gvd/stav_provozu.h"
+#include "jizda/menu_koleje.h"
 #include "jizda/vlak.h"
 #include "prvky/panel.h"
 #include "prvky/souhlasy.h"
@@ -51,8 +53,10 @@ void nova_simulace() {
     stitky = std::vector<StitekPrvku>(1);
     prikaz_radek = Prikaz{};
     menu = Menu{};
+    stav_menu_koleje = MenuKoleje{};
     blikani = Blikani{};
     provoz2 = Provoz2{};
+    zapomen_kontrolu_jizdy();
 }
 
 bool je_ladeni() {

@@ -7,10 +7,14 @@
 #include "cesty/volba.h"
 #include "cesty/vyber.h"
 #include "cesty/zasobnik.h"
+#include "desk/info_o_vlaku.h"
 #include "desk/menu.h"
 #include "desk/tabulka_vlaku.h"
+#include "desk/zadani.h"
 #include "desk/zprava.h"
 #include "jizda/lokomotivy.h"
+#include "jizda/menu_koleje.h"
+#include "jizda/na_koleji.h"
 #include "jizda/spojovani.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
@@ -25,6 +29,7 @@
 #include <algorithm>
 #include <array>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -32,10 +37,7 @@ constexpr int kKrokKurzoru = 12; // pixels to the left or right
 constexpr int kRastrKurzoru = 5; // raster of the rows, pixels
 constexpr int kNejvyssiRychlost = 8;
 constexpr int kNejvyssiRychlostHry = 3; // without the debug marker
-
-// What the input field is for.
-constexpr int kRezimJednotka = 4;
-constexpr int kRezimCisloVlaku = 5;
+constexpr int kPrvkyTrati = 600;        // tracks of the lines begin here
 
 void pipni_klavesou() {
     pipni(800, 10);
@@ -124,10 +126,9 @@ bool odpovez_na_radek() {
 
 void enter() {
     if (vstup_otevren()) {
-        prikaz_radek.rezim_zadani = 0;
-        relief.txtZadav_pole[0].text = Text{};
-    }
-    if (!odpovez_na_radek() && vyber.mys_nad_prvkem && !simulace.pauza)
+        zpracuj_zadani(relief.txtZadav_pole[0].text());
+        potvrd_prikaz();
+    } else if (!odpovez_na_radek() && vyber.mys_nad_prvkem && !simulace.pauza)
         klik(vyber.mys_druh, vyber.mys_prvek, Tlacitko::leve, false);
     dalsi_zprava();
 }
@@ -135,17 +136,10 @@ void enter() {
 void esc() {
     pipni_klavesou();
     platforma.kurzor_viditelny(true);
-    if (vstup_otevren()) {
-        const bool cislo_vlaku = prikaz_radek.rezim_zadani == kRezimCisloVlaku;
-        prikaz_radek.rezim_zadani = 0;
-        prikaz_radek.kod_zpravy = 0;
-        relief.txtZadav_pole[0].text = Text{};
-        skryj_prikaz();
-        if (cislo_vlaku) // the question had stopped the clock
-            spust_hodiny();
-        return;
-    }
-    zrus_volbu();
+    if (vstup_otevren())
+        zahod_zadani();
+    else
+        zrus_volbu();
 }
 
 // Right click on what is under the pointer, or the search of a unit by its name.
@@ -157,9 +151,7 @@ void f2() {
         klik(vyber.mys_druh, vyber.mys_prvek, Tlacitko::prave, false);
         return;
     }
-    relief.txtZadav_pole[0].text = Text{};
-    prikaz_radek.rezim_zadani = kRezimJednotka;
-    zprava(" JEDNOTKA? ", {}, barvy::azurova, 0, true);
+    otevri_hledani();
 }
 
 void otevri_prohlizec_gvd() {
@@ -237,16 +229,24 @@ bool pismeno(const Klavesa& k) {
     return true;
 }
 
-// Number labels of a track: the left and the right one are one target. The labels 212, 213 and 219 are
-// line ends of their own.
-int prvek_popisku(int n) {
-    if (n > 600 && n % 2 != 0)
-        return n - 1;
-    if (n >= 200 && n <= 399 && n != 212 && n != 213 && n != 219)
-        return n - 200;
-    return n;
+// F8: the trains on the track under the pointer, one after the other with each press.
+void info_pod_kurzorem() {
+    if (simulace.pauza || !vyber.mys_nad_prvkem)
+        return;
+    const bool je_stitek = vyber.mys_druh == Druh::cislo_koleje;
+    if (!je_stitek && vyber.mys_druh != Druh::kolej && vyber.mys_druh != Druh::Image1)
+        return;
+    const int e = je_stitek ? prvek_popisku(vyber.mys_prvek) : vyber.mys_prvek;
+    if (e >= kPrvkyTrati)
+        return;
+    pipni_klavesou();
+    if (!vlak_na_koleji(e))
+        return;
+    const std::vector<std::int16_t>& seznam = koleje_vlaky[static_cast<std::size_t>(zaznam_koleje(e))].vlaky;
+    const auto ukazany = std::find_if(seznam.begin(), seznam.end(), [](int v) { return info_ukazuje(v); });
+    const bool dalsi = ukazany != seznam.end() && ukazany + 1 != seznam.end();
+    info_o_vlaku({}, dalsi ? *(ukazany + 1) : seznam.front());
 }
-constexpr int kNejvyssiPopisek = 650; // labels behind it take no pick
 
 // Press on an element of the relief; false when the kind is no such element.
 bool klik_na_prvek(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
@@ -259,8 +259,10 @@ bool klik_na_prvek(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
             klik_cil(n);
         return true;
     case Druh::cislo_koleje:
-        if (leve && prvek_popisku(n) <= kNejvyssiPopisek)
-            klik_cil(prvek_popisku(n));
+        if (leve)
+            klik_cisla(n);
+        else if (prave)
+            menu_koleje(n);
         return true;
     case Druh::imgVyhybka:
         if (prave)
@@ -370,6 +372,8 @@ void dvojklik(Druh druh, int n) {
     if (!tabulka(druh).je(n) || provoz2_otevren())
         return;
     zavri_menu();
+    if (druh == Druh::cislo_koleje)
+        dvojklik_cisla(n);
 }
 
 void najeti(Druh druh, int n) {
@@ -380,6 +384,8 @@ void najeti(Druh druh, int n) {
     vyber.mys_druh = druh;
     vyber.mys_prvek = n;
     simulace.najety_prvek = druh == Druh::navestidlo || druh == Druh::navestidlo_ser ? n : kZadny;
+    if (druh == Druh::cislo_koleje)
+        najeti_cisla(n);
 }
 
 void odjeti() {
@@ -427,7 +433,7 @@ bool klavesa(const Klavesa& k) {
         pipni_klavesou();
         prepni_panel(Panel::vlak);
         return true;
-    case KodKlavesy::f8: return false;
+    case KodKlavesy::f8: info_pod_kurzorem(); return true;
     case KodKlavesy::f9: otevri_prohlizec_gvd(); return true;
     case KodKlavesy::f10:
         if (!konec) {

@@ -13,6 +13,8 @@ std::bitset<kNejvyssiPrvek + 1> odjete;
 
 namespace {
 
+std::uint32_t odebrano = 0; // routes taken out, for caches only: no part of a simulation
+
 // Tracks that lie in two parts, drawn apart: a route takes both or none.
 constexpr std::array<std::array<int, 2>, 4> kDvojiceUseku = {
     {{309, 328}, {177, 178}, {316, 369}, {106, 543}}};
@@ -138,8 +140,13 @@ bool sude_navestidlo(int s) {
 
 void smaz_cestu(int i) {
     cesty.erase(cesty.begin() + i);
+    ++odebrano;
     if (cesty.empty())
         cesty.emplace_back();
+}
+
+std::uint32_t odebrane_cesty() {
+    return odebrano;
 }
 
 void uklid_odjete() {

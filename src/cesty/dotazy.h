@@ -8,6 +8,7 @@
 #include "zaklad/text.h"
 
 #include <bitset>
+#include <cstdint>
 
 // Numbered sections that a tail has left: they keep the cyan tint while the train is still on its
 // route, but are free for the next one. A section leaves the set when it is painted again.
@@ -54,6 +55,8 @@ int glyf_navestidla(int s);
 
 // Takes record i out; the later ones move down by one. Without the last route the empty record stands.
 void smaz_cestu(int i);
+// How many routes have been taken out so far: whoever keeps places in `cesty` for a while asks it.
+std::uint32_t odebrane_cesty();
 
 // --- by the route machine and after a load
 

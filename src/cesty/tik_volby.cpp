@@ -287,7 +287,8 @@ void uzavri_prvky(const Cesta& c) {
         case druh_prvku::kolej:
             if (k == posledni && !c.VC)
                 return;
-            if (!c.PN)
+            // What has been occupied since, by a train on the calling-on aspect, stays occupied.
+            if (!c.PN && relief.kolej[n].barva != barvy::cervena)
                 barvi_prvek(n, c.VC ? barvy::zelena : barvy::bila, false, k == posledni);
             break;
         }

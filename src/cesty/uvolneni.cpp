@@ -201,11 +201,17 @@ void navestidlo_stuj(int s) {
 
 void rnz(int s) {
     const std::int32_t ted = ted_s();
-    Cesta* c =
-        prvni_cesta([&](const Cesta& x) { return x.zacatek == s && x.PN && x.Provedena && ted > x.PN_do; });
+    const auto skoncila = [&](const Cesta& x) {
+        return x.zacatek == s && x.PN && x.Provedena && ted > x.PN_do;
+    };
+    Cesta* c = prvni_cesta([&](const Cesta& x) { return skoncila(x) && !x.PN_zaver; });
+    if (c == nullptr)
+        c = prvni_cesta(skoncila);
     if (c == nullptr)
         return;
-    for (std::size_t k = 1; k < c->prvky.size(); ++k) {
+    // A second RNZ, while the train still stands across the route, touches no switch: they are free for
+    // other routes since the first one.
+    for (std::size_t k = 1; k < c->prvky.size() && !c->PN_zaver; ++k) {
         const int n = c->prvky[k];
         if (druh_na(*c, k) == druh_prvku::vyhybka)
             vyhybka_stav(n, poloha_na(*c, k), false, false);

@@ -27,6 +27,7 @@ struct Vyber {
     bool mys_nad_prvkem = false;
     Druh mys_druh = Druh::kolej;
     int mys_prvek = kZadny;
+    std::int32_t mys_cislo_vlaku = 0; // the train whose row of the train table is highlighted; 0 none
 
     bool operator==(const Vyber&) const = default;
 };

@@ -5,6 +5,7 @@
 #include "app/simulace.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
+#include "gvd/provoz.h"
 #include "gvd/skladba.h"
 #include "jizda/souprava.h"
 #include "jizda/vlak.h"
@@ -43,10 +44,18 @@ Text prvni_urceni(const Vlak& v) {
     return v.vozy_urceni.empty() ? Text{} : v.vozy_urceni.front();
 }
 
+// Row of a number: today's, else the first one.
 const GvdVlak* radek_gvd(double cislo) {
-    const auto radek = std::find_if(gvd_vlaky.begin(), gvd_vlaky.end(),
-                                    [cislo](const GvdVlak& g) { return g.cislo == cislo; });
-    return radek == gvd_vlaky.end() ? nullptr : &*radek;
+    const GvdVlak* nalezeny = nullptr;
+    for (const GvdVlak& r : gvd_vlaky) {
+        if (r.cislo != cislo)
+            continue;
+        if (aktivni_dnes(r))
+            return &r;
+        if (nalezeny == nullptr)
+            nalezeny = &r;
+    }
+    return nalezeny;
 }
 
 // --- a train
@@ -69,6 +78,17 @@ Text text_trasy(const Vlak& v) {
         text += text_minuty(prijezd);
     }
     return text + ")";
+}
+
+// The train from which the locomotive of the change comes today; without one the number of the train itself.
+std::int32_t odkud_lokomotiva(const Vlak& v) {
+    for (const GvdVlak& r : gvd_vlaky) {
+        const std::size_t pocet = std::min(r.vozy.size(), r.vozy_vlaky.size());
+        for (std::size_t i = 0; i < pocet; ++i)
+            if (r.vozy_vlaky[i] == v.cislo && rada_vozu(r.vozy, i) == v.loko_rada2 && aktivni_dnes(r))
+                return r.cislo;
+    }
+    return zobrazene_cislo(v);
 }
 
 // What the locomotives of the train still have to do at the main station.
@@ -95,12 +115,12 @@ Text prace_lokomotiv(const Vlak& v) {
                                 rada_vozu(v.vozy, 0) != v.loko_rada2;
     if (ceka_na_vymenu) {
         text += z_thj ? "; z THJ lok.ř."_cz : "; z THN lok.ř."_cz;
-        text += text_cisla(v.loko_rada2) + "(" + text_cisla(zobrazene_cislo(v)) + ")";
+        text += text_cisla(v.loko_rada2) + "(" + text_cisla(odkud_lokomotiva(v)) + ")";
     }
     return text;
 }
 
-Text text_jedouciho(const Vlak& v) {
+Text text_jedouciho(const Vlak& v, bool jede = true) {
     Text text(zkratka_druhu(v.cislo2_platne ? v.druh2 : v.druh));
     text += " " + text_cisla(zobrazene_cislo(v));
     if (v.cislo2 > 0 && !v.cislo2_platne)
@@ -110,12 +130,38 @@ Text text_jedouciho(const Vlak& v) {
         text += "pp ";
     text += v.nazev + " ";
     text += text_trasy(v);
-    text += v.smer ? ">> " : "<< ";
+    if (jede)
+        text += v.smer ? ">> " : "<< ";
+    else
+        text += " ";
     text += text_cisla(v.zpozdeni) + "min; ";
     text += text_cisla(v.delka) + "m, " + text_cisla(v.max_rychlost) + "km/h";
     if (!v.pokyn.empty())
         text += "; Kolej " + v.pokyn;
     return text + prace_lokomotiv(v);
+}
+
+// What a row of the timetable says of its train, before there is one.
+Vlak vlak_podle_gvd(const GvdVlak& r) {
+    Vlak v;
+    v.stanice = r.stanice;
+    v.prijezd = r.prijezdy;
+    v.odjezd = r.odjezdy;
+    v.druh = r.druh;
+    v.cislo = r.cislo;
+    v.druh2 = r.druh2;
+    v.cislo2 = r.cislo2;
+    v.nazev = r.nazev;
+    v.max_rychlost = r.rychlost;
+    v.delka = r.delka;
+    v.loko_rada = r.loko_rada;
+    v.loko_rada2 = r.loko_rada2;
+    v.vozy = r.vozy;
+    v.pokyn = r.kolej;
+    v.dny = r.dny;
+    v.priznaky = r.priznaky;
+    v.zpozdeni = zpozdeni_vlaku(r.cislo);
+    return v;
 }
 
 // --- a shunting movement
@@ -176,6 +222,12 @@ bool ma_sberac(TextPohled vuz) {
 bool ma_ram(TextPohled obrazek) {
     const TextPohled jmeno = obrazek.substr(0, obrazek.rfind('.'));
     return jmeno.ends_with("_l");
+}
+
+// The pictures stand for no vehicle: they take no clicks.
+void uvolni_vozy() {
+    for (int i = 0; i <= relief.imgObrzaek_vlaku.nejvyssi(); ++i)
+        relief.imgObrzaek_vlaku[i].povoleny = false;
 }
 
 // The element i of a row: made like the one before it when the train is longer than the row.
@@ -333,10 +385,19 @@ void info_o_vlaku(TextPohled text, int vlak) {
     prepni_panel(Panel::vlak);
 }
 
+void info_podle_gvd(std::int32_t cislo) {
+    const GvdVlak* radek = radek_gvd(cislo);
+    if (radek == nullptr)
+        return;
+    uvolni_vozy();
+    relief.lblIinfo_o_vlaku[0].stav = Text{};
+    relief.lblIinfo_o_vlaku[0].text = text_jedouciho(vlak_podle_gvd(*radek), false);
+    prepni_panel(Panel::vlak);
+}
+
 void zapomen_info(int vlak) {
     if (vlak_na_panelu() != vlak)
         return;
     relief.lblIinfo_o_vlaku[0].stav = Text{};
-    for (int i = 0; i <= relief.imgObrzaek_vlaku.nejvyssi(); ++i)
-        relief.imgObrzaek_vlaku[i].povoleny = false;
+    uvolni_vozy();
 }

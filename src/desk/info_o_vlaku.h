@@ -15,6 +15,9 @@
 // Shows the train on the train page: `text` and behind it the composed line, and its vehicles. An index
 // below 0 changes nothing.
 void info_o_vlaku(TextPohled text, int vlak);
+// The same of a number that no train runs under: what the timetable says, of today's row before that of
+// another day. No vehicles are shown, there is nothing to detach. Unknown number: nothing changes.
+void info_podle_gvd(std::int32_t cislo);
 // The page is open and the train is the one on it.
 bool info_ukazuje(int vlak);
 // The train page opens: the line of the train on display, when the bar has been emptied, and its vehicles

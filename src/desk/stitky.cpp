@@ -5,6 +5,14 @@
 
 std::vector<StitekPrvku> stitky{1};
 
+namespace {
+
+constexpr Barva kPozadiVyluky = 0x000080;
+constexpr Barva kPozadiNvl = 0xFF0000;
+constexpr Barva kPozadiStitku = 0x808000;
+
+} // namespace
+
 int stitek_prvku(int prvek) {
     const auto nalezeny =
         std::find_if(stitky.begin(), stitky.end(), [&](const StitekPrvku& s) { return s.prvek == prvek; });
@@ -13,10 +21,14 @@ int stitek_prvku(int prvek) {
 
 std::optional<Barva> pozadi_stitku(const StitekPrvku& stitek) {
     if (!stitek.vyluka.empty())
-        return 0x000080;
+        return kPozadiVyluky;
     if (!stitek.nvl.empty())
-        return 0xFF0000;
+        return kPozadiNvl;
     if (!stitek.stitek.empty())
-        return 0x808000;
+        return kPozadiStitku;
     return std::nullopt;
+}
+
+bool je_pozadi_stitku(Barva pozadi) {
+    return pozadi == kPozadiVyluky || pozadi == kPozadiNvl || pozadi == kPozadiStitku;
 }

@@ -39,12 +39,14 @@ std::int32_t cislo_radku(int i) {
 
 void presun(int odkud, int kam) {
     relief.lblTabulka_vlaku[kam].text = Text(relief.lblTabulka_vlaku[odkud].text());
+    relief.lblTabulka_vlaku[kam].barva = relief.lblTabulka_vlaku[odkud].barva();
     blikani.blikani_radku[static_cast<std::size_t>(kam)] =
         blikani.blikani_radku[static_cast<std::size_t>(odkud)];
 }
 
 void zapis(int i, TextPohled text) {
     relief.lblTabulka_vlaku[i].text = text;
+    relief.lblTabulka_vlaku[i].barva = barvy::bila;
     blikani.blikani_radku[static_cast<std::size_t>(i)] = false;
 }
 

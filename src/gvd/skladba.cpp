@@ -64,10 +64,8 @@ std::uint8_t prvni_rychlost(int stanice, std::uint8_t rychlost) {
 }
 
 void pridej_casy(Vlak& v, const GvdVlak& r) {
-    for (std::size_t i = 0; i < r.stanice.size(); ++i) {
-        v.prijezd.push_back(na_integer(r.prijezdy[i] + korekce(r.prijezdy[i])));
-        v.odjezd.push_back(na_integer(r.odjezdy[i] + korekce(r.odjezdy[i])));
-    }
+    v.prijezd = dnesni_casy(r.prijezdy);
+    v.odjezd = dnesni_casy(r.odjezdy);
     v.odjezd_realny = v.odjezd;
 }
 
@@ -105,10 +103,11 @@ Text obrazek_vozidla(const Text& vuz, bool ridici) {
         return obrazek_vozu_textem(vuz);
     if (ridici && (*rada == 943 || *rada == 954))
         return obrazek_ridiciho(static_cast<int>(*rada));
-    return *rada < 0 || *rada > INT16_MAX ? Text{} : obrazek_vozu(na_integer(*rada));
+    return obrazek_vozu(orez(vuz)); // as it is written: a trailer 054 is no 54
 }
 
-// The unit has one cab with the pantograph and one without; the latter looks forward in its direction.
+// Two motor coaches with a cab each, trailers between them. "p" is the one with its cab at the right end:
+// the front one of a train that runs to the right, otherwise the last one.
 void obrazky_jednotky(Vlak& v, const Text& jmeno) {
     std::fill(v.vozy_obrazek.begin() + 1, v.vozy_obrazek.end(), nahrad(jmeno, "560", "060"));
     v.vozy_obrazek.back() = jmeno;
@@ -301,6 +300,14 @@ std::int16_t korekce(std::int16_t minuta) {
     return na_integer(m / kDen_min * kDen_min + (az_zitra ? kDen_min : 0));
 }
 
+std::vector<std::int16_t> dnesni_casy(const std::vector<std::int16_t>& casy) {
+    std::vector<std::int16_t> dnesni;
+    dnesni.reserve(casy.size());
+    for (const std::int16_t cas : casy)
+        dnesni.push_back(na_integer(cas + korekce(cas)));
+    return dnesni;
+}
+
 std::int32_t cislo_vlaku_pred(int vlak) {
     const Vlak& v = vlaky.at(static_cast<std::size_t>(vlak));
     for (const GvdVlak& r : gvd_vlaky)
@@ -309,9 +316,14 @@ std::int32_t cislo_vlaku_pred(int vlak) {
     return 0;
 }
 
-// Names in the order of the folder; the first one whose running sum of weights reaches the draw.
 Text obrazek_vozu(int rada) {
-    const Text hledana = text_cisla(rada) + "_";
+    return obrazek_vozu(text_cisla(rada));
+}
+
+// Sorted names, so that the same draw gives the same picture on every machine; the first one whose
+// running sum of weights reaches the draw.
+Text obrazek_vozu(TextPohled rada) {
+    const Text hledana = Text(rada) + "_";
     const std::vector<Text>& jmena = obrazky();
     std::int64_t soucet = 0;
     for (const Text& jmeno : jmena)
@@ -337,7 +349,7 @@ Text obrazek_vozu_textem(TextPohled text) {
         return std::any_of(co.begin(), co.end(), obsahuje);
     };
     struct Pravidlo {
-        TextPohled obsahuje, obrazek;
+        TextPohled text, obrazek;
     };
     static const std::array kZnacene = {
         Pravidlo{"DB B", "DB B.ico"},
@@ -356,9 +368,38 @@ Text obrazek_vozu_textem(TextPohled text) {
         Pravidlo{"BR", "BR.ico"},
         Pravidlo{"Post", "Post.ico"},
     };
+    // By the beginning: coaches by their class, wagons by the letters of their kind.
+    static const std::array kPodleZacatku = {
+        Pravidlo{"A", "A.ico"},
+        Pravidlo{"B", "B.ico"},
+        Pravidlo{"ÖBB A"_cz, "ÖBB A.ico"_cz},
+        Pravidlo{"ÖBB B"_cz, "ÖBB Bmz61.ico"_cz},
+        Pravidlo{"WL", "WL.ico"},      // sleeping car
+        Pravidlo{"D", "Ds.ico"},       // luggage van
+        Pravidlo{"Ea", "Eas.ico"},     // open
+        Pravidlo{"Fa", "Falls.ico"},   // hopper
+        Pravidlo{"Fc", "Falls.ico"},   //
+        Pravidlo{"Ga", "Gbs.ico"},     // covered
+        Pravidlo{"Gb", "Gbs.ico"},     //
+        Pravidlo{"Ha", "Habbins.ico"}, // with sliding walls
+        Pravidlo{"Hb", "Habbins.ico"}, //
+        Pravidlo{"Kb", "Kbs.ico"},     // flat, two axles
+        Pravidlo{"Ki", "Kbs.ico"},     //
+        Pravidlo{"La", "Laaers.ico"},  // for cars
+        Pravidlo{"Re", "Res.ico"},     // flat
+        Pravidlo{"Rg", "Res.ico"},     //
+        Pravidlo{"Ri", "Rils.ico"},    // flat under a tarpaulin
+        Pravidlo{"Sg", "Sgnss.ico"},   // for containers
+        Pravidlo{"Sh", "Shimmns.ico"}, // for coils
+        Pravidlo{"Ta", "Tads.ico"},    // with an opening roof
+        Pravidlo{"Td", "Tads.ico"},    //
+        Pravidlo{"Ua", "Uacs.ico"},    // for powder
+        Pravidlo{"Uc", "Uacs.ico"},    //
+        Pravidlo{"Za", "Zaes.ico"},    // tank
+    };
     const auto prvni_z = [&](const auto& pravidla) -> TextPohled {
         for (const Pravidlo& p : pravidla)
-            if (obsahuje(p.obsahuje))
+            if (obsahuje(p.text))
                 return p.obrazek;
         return {};
     };
@@ -377,9 +418,8 @@ Text obrazek_vozu_textem(TextPohled text) {
         return "B.ico";
     if (const TextPohled obrazek = prvni_z(kObecne); !obrazek.empty())
         return Text(obrazek);
-    if (typ.starts_with('A'))
-        return "A.ico";
-    if (typ.starts_with('B'))
-        return "B.ico";
+    for (const Pravidlo& p : kPodleZacatku)
+        if (typ.starts_with(p.text))
+            return Text(p.obrazek);
     return {};
 }

@@ -4,6 +4,7 @@
 #include "zaklad/text.h"
 
 #include <cstdint>
+#include <vector>
 
 // Where `index` of vytvor_vlak says that the train has just come to its entry.
 inline constexpr int kNaVstupu = -3;
@@ -20,6 +21,8 @@ std::int16_t vytvor_vlak(bool smer, int element, bool muze_jet, int index, int g
 // What lifts a time of the timetable into running minutes: the days since the first one, in minutes, and
 // one more when the time lies so far behind that tomorrow is meant. 0 for 0 and below: no time.
 std::int16_t korekce(std::int16_t minuta);
+// Times of a timetable row, each lifted into running minutes.
+std::vector<std::int16_t> dnesni_casy(const std::vector<std::int16_t>& casy);
 // Number of the train whose set comes from this one with the same locomotive and that runs today; 0 none.
 std::int32_t cislo_vlaku_pred(int vlak);
 
@@ -28,6 +31,7 @@ std::int32_t cislo_vlaku_pred(int vlak);
 // File name of a picture of the series: the variants in DATA\VOZY are drawn by the weights in their
 // names. Empty when there is none.
 Text obrazek_vozu(int rada);
+Text obrazek_vozu(TextPohled rada); // with the leading zero that the vehicle is written with
 
 // File name of the picture of a vehicle that is given by its type. Empty for an unknown one.
 Text obrazek_vozu_textem(TextPohled text);

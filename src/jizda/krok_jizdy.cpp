@@ -32,6 +32,8 @@
 #include <array>
 #include <cmath>
 #include <initializer_list>
+#include <numeric>
+#include <vector>
 
 namespace {
 
@@ -302,11 +304,62 @@ bool jed(int c, int i, int v, std::int32_t dt) {
     return true;
 }
 
+// Which routes hold an element, so that a train looks at those under its head only and a step costs as
+// much for each train however many routes stand. Indices in route order, each once for an element. The
+// table is made anew when a route has been taken out; routes that a step adds come behind those in it.
+struct CestyNaPrvku {
+    std::uint32_t odebrano = 0;                    // state of odebrane_cesty() at which it was made
+    int pocet = 0;                                 // routes that it knows
+    std::array<int, kNejvyssiPrvek + 2> zacatky{}; // of each element in `seznam`
+    std::vector<int> seznam;
+
+    template <class Co> void pro_kazdy(Co co) {
+        std::array<int, kNejvyssiPrvek + 1> naposled;
+        naposled.fill(-1);
+        for (int c = 0; c < pocet; ++c)
+            for (const std::int16_t n : cesta_c(c).prvky)
+                if (n >= 0 && n <= kNejvyssiPrvek && naposled[static_cast<std::size_t>(n)] != c) {
+                    naposled[static_cast<std::size_t>(n)] = c;
+                    co(static_cast<std::size_t>(n), c);
+                }
+    }
+
+    void sestav() {
+        odebrano = odebrane_cesty();
+        pocet = 0;
+        while (pocet < pocet_cest() && cesta_c(pocet).zacatek >= 0)
+            ++pocet;
+        zacatky.fill(0);
+        pro_kazdy([this](std::size_t n, int) { ++zacatky[n + 1]; });
+        std::partial_sum(zacatky.begin(), zacatky.end(), zacatky.begin());
+        seznam.resize(static_cast<std::size_t>(zacatky.back()));
+        std::array<int, kNejvyssiPrvek + 2> kam = zacatky;
+        pro_kazdy([&](std::size_t n, int c) { seznam[static_cast<std::size_t>(kam[n]++)] = c; });
+    }
+
+    // The first route from index `od` on that may hold the element; -1 when there is none.
+    int dalsi(int prvek, int od) {
+        if (odebrano != odebrane_cesty())
+            sestav();
+        if (prvek >= 0 && prvek <= kNejvyssiPrvek) {
+            const auto po = seznam.begin() + zacatky[static_cast<std::size_t>(prvek) + 1];
+            const auto c =
+                std::lower_bound(seznam.begin() + zacatky[static_cast<std::size_t>(prvek)], po, od);
+            if (c != po)
+                return *c;
+        }
+        const int pridana = std::max(od, pocet);
+        return pridana < pocet_cest() && cesta_c(pridana).zacatek >= 0 ? pridana : -1;
+    }
+};
+CestyNaPrvku cesty_na_prvku;
+
 void krok_cela(int v, std::int32_t dt) {
     const Vlak& vlak = vlak_c(v);
     if (vlak.cislo <= 0 || !(vlak.posun || vlak.muze_jet) || vlak.prvky.empty() || !ma_loko(vlak))
         return;
-    for (int c = 0; c < pocet_cest() && cesta_c(c).zacatek >= 0; ++c) {
+    const auto dalsi = [v](int od) { return cesty_na_prvku.dalsi(vlak_c(v).prvky.back(), od); };
+    for (int c = dalsi(0); c >= 0; c = dalsi(c + 1)) {
         const int i = misto_na_ceste(cesta_c(c), vlak_c(v));
         if (i >= 0 && vezmi_cestu(c, i, v) && jed(c, i, v, dt))
             return;
@@ -359,13 +412,26 @@ void uvolni_kolej(int v, int j) {
     nastav_metry(e, 0);
 }
 
+// A route that this train does not run on has the switch still before it: one that was released under the
+// train by RNZ may have been locked anew.
+bool drzi_jina_cesta(int n, int v) {
+    return std::any_of(cesty.begin(), cesty.end(), [&](const Cesta& c) {
+        if (c.zacatek < 0 || !c.prehozena || c.PN_zaver || c.Vlak == v)
+            return false;
+        for (int i = c.Umazat + 1; i <= posledni(c); ++i)
+            if (prvek_c(c, i) == n && druh_c(c, i) == druh_prvku::vyhybka)
+                return true;
+        return false;
+    });
+}
+
 void uvolni_vyhybku(int v, int j) {
     Vlak& vlak = vlak_c(v);
     const int n = vlak.prvky[static_cast<std::size_t>(j)];
     if (n == vlak.konec_omezeni)
         vlak.omezeni_ukonceno = true; // the whole train has cleared the last switch of its route
     const int stav = stav_vyhybky_cislo(n);
-    if (stav < 100 || stav > 150) // in between another route has reserved it
+    if ((stav < 100 || stav > 150) && !drzi_jina_cesta(n, v)) // in between another route has reserved it
         vyhybka_stav(n, vlak.prvky_poloha[static_cast<std::size_t>(j)], false, false);
 }
 
@@ -494,6 +560,7 @@ void krok_jizdy() {
     const auto dt = static_cast<std::int32_t>(static_cast<std::uint32_t>(platforma.tik_ms()) -
                                               static_cast<std::uint32_t>(simulace.tick_jizdy));
     const int pocet = static_cast<int>(vlaky.size()); // trains made on the way move from the next step on
+    cesty_na_prvku.sestav();
     for (int v = 0; v < pocet; ++v)
         krok_cela(v, dt);
     for (int v = 0; v < pocet; ++v)

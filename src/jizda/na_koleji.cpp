@@ -183,3 +183,14 @@ void smaz_cislo_z_dvou(int prvek, std::int32_t cislo) {
             return;
         }
 }
+
+void prepis_cislo_na_stitcich(std::int32_t stare, std::int32_t nove) {
+    const Text puvodni = text_cisla(stare);
+    for (int n = 0; n <= relief.cislo_koleje.nejvyssi(); ++n) {
+        if (!je_cislo_koleje(n) || orez(relief.cislo_koleje[n].text()) != puvodni)
+            continue;
+        Text text = relief.cislo_koleje[n].text(); // blanks around the number stay
+        text.replace(text.find(puvodni), puvodni.size(), text_cisla(nove));
+        nastav_text(relief.cislo_koleje[n], text);
+    }
+}

@@ -30,6 +30,8 @@ void uber_z_opustenych(int vlak);
 void uber_ze_vsech(int vlak);
 // A track with two labels shows its name again where it still shows this number; nothing stands there now.
 void smaz_cislo_z_dvou(int prvek, std::int32_t cislo);
+// Every label that shows the number `stare` shows `nove`: the train has got another number.
+void prepis_cislo_na_stitcich(std::int32_t stare, std::int32_t nove);
 
 // --- at any time, without change
 

@@ -3,6 +3,7 @@
 
 #include "cesty/cesta.h"
 #include "cesty/cisla_vlaku.h"
+#include "cesty/dotazy.h"
 #include "desk/info_o_vlaku.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
@@ -45,7 +46,7 @@ bool smi_se_zmenit(int v, int prvek) {
     if (je_cislo_koleje(prvek))
         odmitni(Text(" Na koleji "_cz) + popis + Text("není změna možná!"_cz));
     else
-        odmitni(Text(" Na koleji "_cz) + jmeno(prvek) + Text(" není změna možná!"_cz));
+        odmitni(Text(" Na koleji "_cz) + jmeno_konce(prvek) + Text(" není změna možná!"_cz));
     return false;
 }
 

@@ -94,13 +94,14 @@ void spoj_vozy(int a, int b, bool zustava_b) {
     smer ? pripoj_do_cela(vlak_c(a), vlak_c(b)) : pripoj_na_konec(vlak_c(a), vlak_c(b));
 }
 
-// Routes that wait for the joined train go to the one that stays; the one that it came by ends here.
+// Routes that wait for the joined train go to the one that stays, and so does a calling-on route that the
+// operator has still to release; the one that it came by ends here.
 void predej_cesty(int zanikl, int zustal) {
     for (int c = static_cast<int>(cesty.size()) - 1; c >= 0; --c) {
         Cesta& cesta = cesty[static_cast<std::size_t>(c)];
         if (cesta.Vlak != zanikl)
             continue;
-        if (cesta.Umazat == 0) {
+        if (cesta.Umazat == 0 || (cesta.PN && !cesta.PN_zaver)) {
             cesta.Vlak = static_cast<std::int16_t>(zustal);
             continue;
         }
@@ -228,15 +229,8 @@ void prevezmi_radek(Vlak& vlak, const GvdVlak& radek) {
     vlak.zpozdeni = 0;
     vlak.zpozdeni_vstup = 0;
     vlak.stanice = radek.stanice;
-    const auto dnesni = [](const std::vector<std::int16_t>& casy) {
-        std::vector<std::int16_t> vysledek;
-        vysledek.reserve(casy.size());
-        for (const std::int16_t cas : casy)
-            vysledek.push_back(na_integer(cas + korekce(cas)));
-        return vysledek;
-    };
-    vlak.prijezd = dnesni(radek.prijezdy);
-    vlak.odjezd = dnesni(radek.odjezdy);
+    vlak.prijezd = dnesni_casy(radek.prijezdy);
+    vlak.odjezd = dnesni_casy(radek.odjezdy);
     vlak.odjezd_realny = vlak.odjezd;
 }
 

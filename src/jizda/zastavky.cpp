@@ -495,16 +495,8 @@ void prepni_cislo(int v) {
     Vlak& vlak = vlak_c(v);
     if (vlak.cislo2 <= 0 || vlak.cislo2_platne)
         return;
-    const Text stare = text_cisla(vlak.cislo);
-    const Text nove = text_cisla(vlak.cislo2);
     vlak.cislo2_platne = true;
-    for (int n = 0; n <= relief.cislo_koleje.nejvyssi(); ++n) {
-        if (!je_cislo_koleje(n) || orez(relief.cislo_koleje[n].text()) != stare)
-            continue;
-        Text text = relief.cislo_koleje[n].text(); // blanks around the number stay
-        text.replace(text.find(stare), stare.size(), nove);
-        nastav_text(relief.cislo_koleje[n], text);
-    }
+    prepis_cislo_na_stitcich(vlak.cislo, vlak.cislo2);
     prepis_v_tabulce(vlak.cislo, v);
 }
 

@@ -6,6 +6,7 @@
 #include "cesty/cesta.h"
 #include "cesty/tabulky.h"
 #include "desk/menu.h"
+#include "jizda/vlak.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
 #include "zaklad/cisla.h"
@@ -183,11 +184,13 @@ void nastav_pohyb(int n, bool pohyb) {
     stav_vyhybek.vyhybka_pohyb[index] = pohyb;
 }
 
-// The short piece of track 4 is a part of switch 14 and wears its colour.
+// The short piece of track 4 is a part of switch 14 and wears its colour; but a train that has left the
+// switch and stands on the piece keeps it occupied.
 void obarvi_kolej_4(int stav) {
     constexpr std::array kTridy = {barvy::seda, barvy::zelena, barvy::azurova, barvy::cervena, barvy::bila};
     const auto trida = static_cast<std::size_t>(stav / 50);
-    if (stav >= 0 && poloha_stavu(stav) == 8 && trida < kTridy.size() && je_kolej(4))
+    if (stav >= 0 && poloha_stavu(stav) == 8 && trida < kTridy.size() && je_kolej(4) &&
+        (kTridy[trida] == barvy::cervena || !drzi_jiny(4, kZadny)))
         barvi_prvek(4, kTridy[trida]);
 }
 

@@ -3,6 +3,7 @@
 
 #include "prvky/panel.h"
 #include "relief/tvary_vyhybek.h"
+#include "ui/obrazky_vozu.h"
 #include "ui/pismo.h"
 #include "zaklad/cisla.h"
 
@@ -26,6 +27,7 @@ constexpr QRgb kSvetla[] = {0xFFFFD21E, 0xFF19E64B, 0xFFFF2D1E, 0xFFFFFFFF, 0xFF
 constexpr QRgb kPruhy[] = {0xFFFFD21E, 0xFF19E64B};
 constexpr QRgb kTmavaPlocha = 0xFF15191E;
 constexpr QRgb kLinka = 0xFF3C4550;
+constexpr QRgb kKolejnice = 0xFF5A626A;
 constexpr QRgb kIkona = 0xFFC8D2DC;
 constexpr QRgb kIkonaStanoviste = 0xFF808C98;
 
@@ -487,27 +489,21 @@ void nakresli_ramec(QPainter& p, const Meritko& m, const Prvek& prvek) {
     p.fillRect(plocha.right() - tl + 1, plocha.y(), tl, plocha.height(), barva);
 }
 
-// A vehicle without a drawing of its own: a body on two bogies, with a cab when it is an engine.
+// A vehicle stands in the middle of its place on a rail that runs on to the next one. The state names the
+// picture; without it the place stays empty, as for a train that is not drawn.
 void nakresli_vuz(QPainter& p, const Meritko& m, const Prvek& prvek) {
-    const QRectF r = v_bodech(m, prvek);
-    const double b = m.bod();
-    const bool loko = !prvek.stav->empty() && prvek.stav->front() >= '0' && prvek.stav->front() <= '9';
-    const QRectF skrin(r.x() + b, r.y() + r.height() * 0.3, r.width() - 2 * b, r.height() * 0.45);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setPen(QPen(odstin(0xFF707880), b));
-    p.setBrush(odstin(loko ? 0xFF8C2F24 : 0xFF2F5D45));
-    p.drawRoundedRect(skrin, 2 * b, 2 * b);
-    p.setPen(Qt::NoPen);
-    p.setBrush(odstin(0xFFD8DEE4));
-    const int oken = loko ? 2 : std::max(3, static_cast<int>(skrin.width() / (9 * b)));
-    for (int k = 0; k < oken; ++k)
-        p.drawRect(QRectF(skrin.x() + 3 * b + k * (skrin.width() - 9 * b) / std::max(1, oken - 1),
-                          skrin.y() + 3 * b, 3 * b, 4 * b));
-    p.setBrush(odstin(0xFF9098A0));
-    for (const double kde : {0.15, 0.25, 0.75, 0.85})
-        p.drawEllipse(QPointF(r.x() + r.width() * kde, skrin.bottom() + 2.5 * b), 2.5 * b, 2.5 * b);
-    p.setBrush(Qt::NoBrush);
-    p.setRenderHint(QPainter::Antialiasing, false);
+    const QPixmap& o = obrazek(prvek.stav(), m.bod());
+    if (o.isNull())
+        return;
+    const QRect r = v_bodech(m, prvek);
+    const int kolejnice = m.bodu(1);
+    const int dole = r.bottom() + 1 - kolejnice;
+    p.fillRect(r.x(), dole, r.width(), kolejnice, odstin(kKolejnice));
+    p.drawPixmap(r.x() + (r.width() - o.width()) / 2, dole - o.height(), o);
+    if (prvek.ramecek) {
+        p.setPen(QPen(odstin(kLinka), kolejnice));
+        p.drawRect(r.adjusted(0, 0, -1, -1));
+    }
 }
 
 void nakresli_sberac(QPainter& p, const Meritko& m, const Prvek& prvek) {

@@ -6,6 +6,8 @@
 #include "relief/prejezdy.h"
 #include "relief/relief.h"
 
+#include <array>
+
 namespace {
 
 using Pipnuti = VirtualniPlatforma::Pipnuti;
@@ -114,6 +116,29 @@ TEST_F(BlikaniDesky, ClockPictureRunsThroughFourPictures) {
     EXPECT_EQ(obrazky, (std::vector<int>{111, 112, 113, 110, 111}));
 }
 
+TEST_F(BlikaniDesky, ClockPictureOfTheSecondMonitorFollows) {
+    relief.imgToc2.zaloz(0);
+    krok_blikani();
+    EXPECT_EQ(relief.imgToc2[0].obrazek, 0);
+    simulace.dva_monitory = true;
+    for (int i = 0; i < 6; ++i) {
+        krok_blikani();
+        EXPECT_EQ(relief.imgToc2[0].obrazek, relief.imgToc[0].obrazek);
+    }
+}
+
+TEST_F(BlikaniDesky, NothingBeepsWithTheSoundOff) {
+    simulace.zvuk_vypnut = true;
+    simulace.nova_zprava = true;
+    simulace.pn_bezi = true;
+    lampa(0, 8).popis = TextPohled("4711");
+    zprava(" POZOR PN ", "text", barvy::cervena);
+    for (int i = 0; i < 4; ++i)
+        krok_blikani();
+    EXPECT_TRUE(svet.pipnuti.empty());
+    EXPECT_FALSE(simulace.nova_zprava);
+}
+
 TEST_F(BlikaniDesky, ConsentLampMovesAndKeepsItsGlyph) {
     Prvek& p = lampa(2, 176);
     p.popis = TextPohled("4711");
@@ -215,6 +240,30 @@ TEST_F(BlikaniDesky, CrossingsOfOneGroupShareTheirNumber) {
     prejezdy[4].zona = false;
     krok_blikani();
     EXPECT_FALSE(relief.shpPrejezdy[10].viditelny);
+}
+
+TEST_F(BlikaniDesky, EveryLineCrossingDrivesItsOwnLampAndNumber) {
+    // crossing -> number of its label; the lamp of its zone stands ten higher
+    constexpr std::array kNapisy = {0, 1, 0, 1, 0, 1, 2, 3, 4, 6, 7};
+    prejezdy.resize(kNapisy.size());
+    for (const int n : {0, 1, 2, 3, 4, 6, 7}) {
+        relief.lblPrejezdy.zaloz(n);
+        relief.shpPrejezdy.zaloz(n);
+        relief.shpPrejezdy.zaloz(n + 10);
+    }
+    for (std::size_t k = 0; k < kNapisy.size(); ++k) {
+        prejezdy.assign(kNapisy.size(), Prejezd{});
+        prejezdy[k].zona = prejezdy[k].uvolnen = prejezdy[k].vyluka = true;
+        krok_blikani();
+        for (const int n : {0, 1, 2, 3, 4, 6, 7}) {
+            const bool sviti = n == kNapisy[k];
+            EXPECT_EQ(relief.shpPrejezdy[n + 10].viditelny(), sviti) << k << ' ' << n;
+            EXPECT_EQ(relief.lblPrejezdy[n].barva, sviti ? barvy::bila : kModrozelena) << k << ' ' << n;
+            if (n >= 2) {
+                EXPECT_EQ(relief.shpPrejezdy[n].okraj, sviti ? barvy::cervena : 0x008000) << k << ' ' << n;
+            }
+        }
+    }
 }
 
 TEST_F(BlikaniDesky, SingleCrossingsSkipTheLampNumberFive) {

@@ -1,4 +1,5 @@
 // testy/cesty/tik_volby_test.cpp - the route machine, branch by branch.
+#include "cesty/barvi_prvek.h"
 #include "cesty/stavedlo.h"
 #include "cesty/tik_volby.h"
 #include "prvky/stanicni_prejezdy.h"
@@ -55,6 +56,16 @@ TEST_F(StavebCest, SwitchInPositionIsReservedAtOnce) {
     EXPECT_FALSE(vyhybka_v_pohybu(5));
     cekej(6);
     EXPECT_EQ(stav(5), 52);
+}
+
+TEST_F(StavebCest, SectionOccupiedWhileTheSwitchesRunStaysOccupied) {
+    zarad(240, 41);
+    cekej(2);
+    ASSERT_EQ(barva(41), barvy::azurova);
+    barvi_prvek(41, barvy::cervena);
+    cekej(6);
+    EXPECT_TRUE(cesty[0].Postavena);
+    EXPECT_EQ(barva(41), barvy::cervena);
 }
 
 TEST_F(StavebCest, ShuntRouteIsWhite) {

@@ -345,6 +345,20 @@ TEST_F(Uvolneni, RNZUnderATrainLeavesTheRecordToItsEnd) {
     EXPECT_EQ(cesty[0].zacatek, -3);
 }
 
+TEST_F(Uvolneni, SecondRNZTouchesNoSwitchThatAnotherRouteHasLocked) {
+    postav(240, 41, druh_volby::pn);
+    cekej(31);
+    cesty[0].Umazat = 1;
+    cesty[0].Vlak = 0;
+    vlaky[0].prvky = {40, 5};
+    vlaky[0].prvek_konec = 0;
+    rnz(240);
+    ASSERT_EQ(stav(5), 2);
+    vyhybka_stav(5, 202, false, false); // locked by a shunt route since
+    rnz(240);
+    EXPECT_EQ(stav(5), 202);
+}
+
 TEST_F(Uvolneni, RNZFreesTheLineOfACallingOnRoute) {
     postav(241, 604, druh_volby::pn);
     EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::azurova);

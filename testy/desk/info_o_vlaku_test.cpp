@@ -203,6 +203,8 @@ TEST_F(InfoVlaku, ChangeOfTheLocomotiveIsToldUntilItIsDone) {
     EXPECT_TRUE(text_vlaku(0).ends_with("; z THN lok.ř.754(1234)"_cz));
     v.stanice = {1, 12, 5};
     EXPECT_TRUE(text_vlaku(0).ends_with("; z THJ lok.ř.754(1234)"_cz));
+    radek(1400).vozy_vlaky = {1234, 0}; // the timetable tells which train brings it
+    EXPECT_TRUE(text_vlaku(0).ends_with("; z THJ lok.ř.754(1400)"_cz));
     v.vozy.front() = "754";
     EXPECT_TRUE(text_vlaku(0).ends_with("km/h"));
 }
@@ -430,6 +432,29 @@ TEST_F(InfoVlaku, TrainThatIsNoMoreIsNotOnDisplay) {
     EXPECT_EQ(radka(), rikalo); // what stood there may still be read
     vlak();                     // its record becomes another train
     EXPECT_FALSE(info_ukazuje(0));
+}
+
+TEST_F(InfoVlaku, NumberWithoutATrainIsToldByTheTimetable) {
+    vlak();
+    info_o_vlaku({}, 0);
+    GvdVlak& r = radek(1400);
+    r.delka = 71;
+    r.rychlost = 90;
+    r.kolej = "4";
+    r.dny = 2;
+    radek(1400).stanice = {6, 12, 9, 1};
+    relief.lstZpravy.radky = {Text("Zpoždění vlaku 1400 +8´"_cz)};
+    info_podle_gvd(1400); // today's row
+    EXPECT_TRUE(radka().starts_with("Os 1400  (Rokytno průj. 12:00 ... Lhotín příj. 13:20) 8min; "_cz));
+    EXPECT_EQ(vlak_na_panelu(), kZadny);
+    EXPECT_EQ(vozu_na_panelu(), 0);
+    EXPECT_FALSE(relief.imgObrzaek_vlaku[0].viditelny);
+    gvd_vlaky.pop_back();
+    info_podle_gvd(1400);
+    EXPECT_EQ(radka(), "Os 1400  (Borovec průj. 12:00 ... Lhotín příj. 13:20) 8min; 71m, 90km/h; Kolej 4"_cz);
+    const Relief pred = relief;
+    info_podle_gvd(77);
+    EXPECT_EQ(relief, pred);
 }
 
 TEST_F(InfoVlaku, EmptyPageShowsNothing) {

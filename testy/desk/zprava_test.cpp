@@ -2,6 +2,7 @@
 #include "app/blikani.h"
 #include "app/vstup.h"
 #include "desk/zprava.h"
+#include "gvd/provoz.h"
 #include "pomocne/virtualni_platforma.h"
 #include "relief/relief.h"
 
@@ -239,6 +240,33 @@ TEST_F(DolniPanel, DeleteTakesTheSelectedDelayAway) {
     klik_na_radek(relief.lstZpravy, 7);
     klavesa({KodKlavesy::delete_});
     EXPECT_EQ(relief.lstZpravy.radky.size(), 2u);
+}
+
+TEST_F(DolniPanel, DeletedDelayMakesTheTrainPunctual) {
+    relief.lstZpravy.radky = {Text("Zpoždění vlaku 1234 +7´"_cz), Text("Zpoždění vlaku 5678 +15´"_cz)};
+    ASSERT_EQ(zpozdeni_vlaku(1234), 7);
+    klik(Druh::cmdZpravy, 0, Tlacitko::leve, false);
+    klik_na_radek(relief.lstZpravy, 0);
+    klavesa({KodKlavesy::delete_});
+    EXPECT_EQ(zpozdeni_vlaku(1234), 0);
+    EXPECT_EQ(zpozdeni_vlaku(5678), 15);
+    klik(Druh::cmDenik, 0, Tlacitko::leve, false);
+    klik_na_radek(relief.lstZpravy, 0);
+    klavesa({KodKlavesy::delete_}); // the journal is open: nothing is deleted behind it
+    EXPECT_EQ(zpozdeni_vlaku(5678), 15);
+}
+
+TEST_F(DolniPanel, NewDelayIsMarkedAndItsListSelectedOnce) {
+    simulace.pauza = false;
+    relief.lstZpravy.radky = {Text("Zpoždění vlaku 1234 +7´"_cz)};
+    simulace.nova_zprava = true;
+    krok_blikani();
+    EXPECT_EQ(relief.cmdZpravy[0].pozadi, barvy::zelena);
+    EXPECT_EQ(relief.lstZpravy.vybrany, 0);
+    EXPECT_EQ(svet.pipnuti, (std::vector<Pipnuti>{{500, 50}}));
+    EXPECT_FALSE(simulace.nova_zprava);
+    krok_blikani();
+    EXPECT_EQ(svet.pipnuti.size(), 1u);
 }
 
 TEST_F(DolniPanel, SoundKeySilencesEveryBeep) {

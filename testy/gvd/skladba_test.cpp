@@ -351,6 +351,22 @@ TEST_F(Skladba, SameSeriesMayShowDifferentPictures) {
     EXPECT_GT(std::set<Text>(w.vozy_obrazek.begin() + 1, w.vozy_obrazek.end()).size(), 1u);
 }
 
+TEST_F(Skladba, TrailerIsNotDrawnAsALocomotiveWhoseNumberEndsAlike) {
+    obrazky({"054_1.ico", "a754_9.ico", "954_9.ico"});
+    GvdVlak r = radek(1, {{8, -1, 600}, {9, 640, -1}});
+    r.loko_rada = 843;
+    r.vozy = {"843", "054", " 054 "};
+    r.vozy_vlaky = {0, 0, 0};
+    pridej(r);
+    EXPECT_EQ(vytvor(false, 87).vozy_obrazek, (Texty{"", "054_1.ico", "054_1.ico"}));
+}
+
+TEST_F(Skladba, FolderWithoutPicturesLeavesTheNamesEmpty) {
+    zaloz_slozku(simulace.cesta_aplikace + "DATA\\VOZY");
+    EXPECT_EQ(obrazek_vozu(810), "");
+    EXPECT_EQ(obrazek_vozu(TextPohled()), "");
+}
+
 TEST_F(Skladba, CabOfTheUnitFollowsTheDirection) {
     obrazky({"560_5.ico"});
     GvdVlak r = radek(1, {{8, -1, 600}, {9, 640, -1}});
@@ -404,7 +420,16 @@ TEST(ObrazekTextem, FirstRuleThatHoldsNamesThePicture) {
                          Typ{"Post", "Post.ico"},
                          Typ{"Aee", "A.ico"},
                          Typ{"Bc", "B.ico"},
-                         Typ{"Falls", ""},
+                         Typ{"ÖBB Amz"_cz, "ÖBB A.ico"_cz},
+                         Typ{"OBB Bmz", "ÖBB Bmz61.ico"_cz},
+                         Typ{"WLAB", "WL.ico"},
+                         Typ{"Ds", "Ds.ico"},
+                         Typ{"Eas-u", "Eas.ico"},
+                         Typ{"Falls", "Falls.ico"},
+                         Typ{"Sgnss", "Sgnss.ico"},
+                         Typ{"Zaes", "Zaes.ico"},
+                         Typ{"ZSSK", ""},
+                         Typ{"x", ""},
                          Typ{"", ""}})
         EXPECT_EQ(obrazek_vozu_textem(t.typ), t.obrazek) << na_utf8(t.typ);
 }

@@ -4,6 +4,7 @@
 #include "jizda/poslusnost.h"
 #include "jizda/svet_vlaku.h"
 #include "prvky/stanicni_prejezdy.h"
+#include "relief/topologie.h"
 #include "zaklad/chyba.h"
 
 #include <algorithm>
@@ -182,6 +183,40 @@ TEST_F(Jizda, CallingOnAspectThatIsOverIsNotEntered) {
     EXPECT_EQ(vlak(v).rychlost, 0);
 }
 
+TEST_F(Jizda, RouteThatGoesInAStepHidesNoLaterRouteFromTheTrainsBehindIt) {
+    pridej_kolej(90, false);
+    pridej_kolej(91, false);
+    const int v1 = vlak_na(91, true, 11), v2 = vlak_na(62, true, 12);
+    RadekCesty dojeta = radek(0);
+    dojeta.konec = 91;
+    dojeta.prvky = {90, 91};
+    dojeta.druhy = {druh_prvku::kolej, druh_prvku::kolej};
+    dojeta.polohy = {0, 0};
+    cesta(dojeta);
+    cesty[0].Umazat = 1;
+    cesty[0].Vlak = static_cast<std::int16_t>(v1);
+    nastav_metry(91, delka_koleje(91));
+    cesta(radek(0));
+    vlak(v2).rychlost = 50;
+    krok();
+    ASSERT_EQ(cesty.size(), 1u);
+    EXPECT_EQ(cesty[0].zacatek, radek(0).zacatek);
+    EXPECT_EQ(cesty[0].Vlak, v2);
+    EXPECT_GT(metry(62), 0);
+}
+
+TEST_F(Jizda, OfTwoRoutesFromATrackTheFirstThatMayBeEnteredIsTaken) {
+    const int v = vlak_na(62, true, 11);
+    cesta(radek(0));
+    cesta(radek(0));
+    cesta(radek(0));
+    cesty[0].cas_ruseni = 5;
+    krok();
+    EXPECT_NE(cesty[0].Vlak, v);
+    EXPECT_EQ(cesty[1].Vlak, v);
+    EXPECT_NE(cesty[2].Vlak, v);
+}
+
 TEST_F(Jizda, CancelledRouteIsNotEntered) {
     vlak_na(62, true, 11);
     const int c = cesta(radek(0));
@@ -279,6 +314,36 @@ TEST_F(Jizda, TailThatLeavesASecondTrainBehindKeepsTheTrackRed) {
     EXPECT_EQ(relief.kolej[62].barva, barvy::cervena);
     EXPECT_EQ(stitek(62), "22");
     EXPECT_EQ(vlak(druhy).prvky.back(), 62);
+}
+
+TEST_F(Jizda, SwitchThatAnotherRouteHasLockedIsNotFreedBehindTheTail) {
+    for (const bool zavrena : {false, true}) {
+        vlaky = prvni_vlaky();
+        const int v = vlak_na(63, true, 11);
+        Vlak& t = vlak(v);
+        t.prvky = {7, 63};
+        t.prvky_druh = {2, 1};
+        t.prvky_poloha = {2, 0};
+        nastav_metry(63, 70);
+        cesty = std::vector<Cesta>(1);
+        if (zavrena)
+            cesta({262, 63, {62, 440, 7, 63}, {1, 1, 2, 1}, {2, 0, 2, 0}, 0}, false);
+        vyhybka_stav(7, 202, false, false); // released by RNZ under the train, and locked anew
+        krok();
+        EXPECT_EQ(t.prvek_konec, 1);
+        EXPECT_EQ(stav_vyhybky_cislo(7), zavrena ? 202 : 2);
+    }
+}
+
+TEST_F(Jizda, PieceOfSwitch14StaysOccupiedUnderATrainThatHasLeftTheSwitch) {
+    pridej_kolej(4, false);
+    relief.imgVyhybka.zaloz(14).stav = "158"_cz;
+    const int v = vlak_na(4, true, 11);
+    vyhybka_stav(14, 8, false, false);
+    EXPECT_EQ(relief.kolej[4].barva, barvy::cervena);
+    vlak(v).cislo = kZadny;
+    vyhybka_stav(14, 8, false, false);
+    EXPECT_EQ(relief.kolej[4].barva, barvy::seda);
 }
 
 TEST_F(Jizda, HeadIsNeverReleased) {

@@ -1,5 +1,6 @@
 // testy/jizda/spojovani_test.cpp - coupling, splitting, turning, the next train of a set; train and shunt.
 #include "app/vstup.h"
+#include "cesty/cisla_vlaku.h"
 #include "desk/info_o_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"
@@ -149,6 +150,19 @@ TEST_F(Spojovani, CouplingGivesTheStopItsDepartureBack) {
     EXPECT_EQ(vlak(v).odjezd_realny[1], 495);
 }
 
+TEST_F(Spojovani, TrainThatNeedsTwoLocomotivesWaitsForTheSecondOne) {
+    const int v = vlak_na(62, false, 77, {"B", "B"});
+    zastavky(v, {9, 2}, {-3, 500}, {482, -3});
+    vlak(v).odjezd_realny[0] = -10;
+    vlak(v).priznaky = 1;
+    spoj(v, vlak_na(62, false, 88, {"754"})); // behind the carriages: no second one at the front
+    EXPECT_EQ(vlak(v).odjezd_realny[0], -10);
+    otoc_vlak(v);
+    spoj(v, vlak_na(62, true, 88, {"754"}));
+    EXPECT_EQ(vlak(v).vozy, (Vozy{"754", "754", "B", "B"}));
+    EXPECT_EQ(vlak(v).odjezd_realny[0], 483);
+}
+
 TEST_F(Spojovani, SplitLeavesTheFrontPartOnTheSideOfTheHead) {
     for (const bool smer : {true, false}) {
         const int v = vlak_na(62, smer, 77, {"754", "B"});
@@ -197,6 +211,10 @@ TEST_F(Spojovani, LengthGoesWithTheCarriagesAndLocomotivesCountEighteenMetres) {
     const int e = odvesit(w, 0, false);
     EXPECT_EQ(vlak(e).delka, 18); // no carriage at all
     EXPECT_EQ(vlak(w).delka, 18); // never shorter than a locomotive
+    const int tri = vlak_na(64, true, 99, {"754", "754", "754"});
+    vlak(tri).delka = 60;
+    EXPECT_EQ(vlak(odvesit(tri, 1, false)).delka, 36);
+    EXPECT_EQ(vlak(tri).delka, 24);
 }
 
 TEST_F(Spojovani, UnitsAndSingleVehiclesAreNotSplit) {
@@ -405,6 +423,46 @@ TEST_F(Spojovani, SetWithoutANextTrainStaysAsItIs) {
     EXPECT_FALSE(zustane({"843"}, {"5678"}));
 }
 
+TEST_F(Spojovani, VehicleOfAnotherNextTrainComesOff) {
+    gvd_vlaky = {radek_gvd(5678)};
+    const int v = vlak_na(62, true, 77, {"843", "843"});
+    vlak(v).vozy_urceni = {"77", "5678"};
+    navazny_vlak(v);
+    EXPECT_EQ(vlak(v).cislo, 77);
+    EXPECT_EQ(vlak(v).vozy, Vozy{"843"});
+    const auto dalsi =
+        std::find_if(vlaky.begin(), vlaky.end(), [](const Vlak& x) { return x.cislo == 5678; });
+    ASSERT_NE(dalsi, vlaky.end());
+    EXPECT_EQ(dalsi->vozy, Vozy{"843"});
+    EXPECT_EQ(dalsi->vozy_urceni, Vozy{"5678"});
+}
+
+TEST_F(Spojovani, LocomotiveComesOffWhenTheNextTrainGoesBack) {
+    const auto objede = [&](std::uint8_t druha, bool smer, const Vozy& vozy) {
+        GvdVlak g = radek_gvd(5678);
+        g.stanice = {9, druha};
+        gvd_vlaky = {g};
+        const int v = vlak_na(62, smer, 77, vozy);
+        vlak(v).vozy_urceni.assign(vozy.size(), "5678");
+        navazny_vlak(v);
+        EXPECT_EQ(vlak(v).cislo, 5678);
+        const bool odvesena = vlak(v).vozy.size() < vozy.size();
+        vlaky = prvni_vlaky();
+        koleje_vlaky = prvni_koleje_vlaky();
+        return odvesena;
+    };
+    for (const int druha : {8, 11, 5}) {
+        EXPECT_TRUE(objede(static_cast<std::uint8_t>(druha), true, {"754", "B"})) << druha;
+        EXPECT_FALSE(objede(static_cast<std::uint8_t>(druha), false, {"754", "B"})) << druha;
+        EXPECT_FALSE(objede(static_cast<std::uint8_t>(druha), true, {"754", "943"}))
+            << druha; // driving trailer
+        EXPECT_FALSE(objede(static_cast<std::uint8_t>(druha), true, {"B", "754"})) << druha;
+    }
+    EXPECT_TRUE(objede(7, false, {"754", "943"}));
+    EXPECT_FALSE(objede(7, true, {"754", "B"}));
+    EXPECT_FALSE(objede(2, true, {"754", "B"}));
+}
+
 TEST_F(Spojovani, TimesFarBehindThePresentBelongToTomorrow) {
     EXPECT_EQ(korekce(0), 0);
     EXPECT_EQ(korekce(-3), 0);
@@ -446,12 +504,71 @@ TEST_F(Spojovani, LightEngineGetsANumberAndATimetableOfItsOwn) {
     EXPECT_EQ(radek_tabulky(cislo), -1); // a made-up number goes from the table
 }
 
+TEST_F(Spojovani, LightEngineGoesWhereItsNextWorkIs) {
+    const auto kam = [&](int kolej, TextPohled urceni) {
+        const int v = vlak_na(kolej, true, 77, {"754"});
+        vlak(v).posun = true;
+        vlak(v).vozy_urceni = {Text(urceni)};
+        vlak_na_posun_cislo(v);
+        const std::vector<std::uint8_t> stanice = vlak(v).stanice;
+        vlaky = prvni_vlaky();
+        koleje_vlaky = prvni_koleje_vlaky();
+        return stanice;
+    };
+    pridej_kolej(50);
+    using Stanice = std::vector<std::uint8_t>;
+    EXPECT_EQ(kam(32, "DKV"), (Stanice{9, 28}));
+    EXPECT_EQ(kam(32, "Vh"), (Stanice{9, 34}));
+    EXPECT_EQ(kam(32, "bor"), (Stanice{9, 2}));
+    EXPECT_EQ(kam(32, "5678"), (Stanice{9, 12}));
+    EXPECT_EQ(kam(50, ""), (Stanice{12, 9}));
+}
+
+TEST_F(Spojovani, LightEngineHasAQuarterOfAnHour) {
+    const int v = vlak_na(32, true, 77, {"754"});
+    vlak(v).cislo2 = 5;
+    vlak(v).pokyn = "3";
+    vlak_na_posun_cislo(v);
+    EXPECT_EQ(vlak(v).prijezd, (std::vector<std::int16_t>{480, 495}));
+    EXPECT_EQ(vlak(v).odjezd, (std::vector<std::int16_t>{482, -3}));
+    EXPECT_EQ(vlak(v).cislo2, 0);
+    EXPECT_EQ(vlak(v).max_rychlost, 80);
+    EXPECT_EQ(vlak(v).pokyn, "");
+    EXPECT_EQ(vlak(v).stanice_index, 0);
+    EXPECT_EQ(radek_tabulky(vlak(v).cislo), 0);
+}
+
+TEST_F(Spojovani, SetFromTheYardOrTheDepotHasServedItsFirstStop) {
+    for (const int odkud : {17, 18, 33, 34, 9}) {
+        const int v = vlak_na(32, true, 77, {"754", "B"});
+        vlak(v).posun = true;
+        zastavky(v, {static_cast<std::uint8_t>(odkud), 9, 2}, {-3, 470, 500}, {460, 490, -3});
+        zmena_posun(v, 32, true);
+        EXPECT_EQ(vlak(v).stanice_index, odkud == 9 ? -1 : 1) << odkud;
+        vlaky = prvni_vlaky();
+        koleje_vlaky = prvni_koleje_vlaky();
+    }
+}
+
+TEST_F(Spojovani, NumberRunsAheadOverTheRouteOfATrainOnly) {
+    const int v = vlak_na(62, true, 77);
+    postup_cisla(cesta(radek(1)));
+    ASSERT_EQ(stitek(64), "77");
+    zmena_posun(v, 62, false);
+    EXPECT_NE(stitek(64), "77");
+    zmena_posun(v, 62, false);
+    EXPECT_EQ(stitek(64), "77");
+}
+
 TEST_F(Spojovani, ChangeIsRefusedOffTheStationTracks) {
     const int v = vlak_na(62, true, 77);
     vlak(v).prvky = {440, 62};
     vlak(v).prvky_druh = {1, 1};
     vlak(v).prvky_poloha = {0, 0};
     zmena_posun(v, 62, false);
+    EXPECT_EQ(relief.lblPrikaz[0].text(), " ZMENA ");
+    EXPECT_EQ(relief.lblPrikaz[0].barva, barvy::cervena);
+    EXPECT_EQ(relief.lblPrikaz[0].pozadi, barvy::bila);
     EXPECT_EQ(relief.lblVolba[0].text(), " Na kolejiK62 není změna možná!"_cz);
     EXPECT_FALSE(vlak(v).posun);
     skryj_prikaz();
@@ -460,4 +577,11 @@ TEST_F(Spojovani, ChangeIsRefusedOffTheStationTracks) {
     zmena_posun(w, 340, false);
     EXPECT_EQ(relief.lblVolba[0].text(), " Na koleji  není změna možná!"_cz);
     EXPECT_TRUE(vlak(w).posun);
+    skryj_prikaz();
+    pridej_kolej(503);
+    const int x = vlak_na(503, true, 99);
+    vlak(x).posun = true;
+    zmena_posun(x, 503, false);
+    EXPECT_EQ(relief.lblVolba[0].text(), " Na koleji K503není změna možná!"_cz);
+    EXPECT_TRUE(vlak(x).posun);
 }

@@ -3,6 +3,7 @@
 #include "kolejiste/kontroly.h"
 #include "kolejiste/kresba.h"
 #include "kolejiste/vystup.h"
+#include "pomocne/zdroje.h"
 #include "relief/nacti_relief.h"
 #include "relief/relief.h"
 
@@ -80,7 +81,7 @@ const Preklad& tesk() {
     static const Preklad preklad = [] {
         Preklad p;
         std::vector<std::filesystem::path> zdroje;
-        for (const auto& polozka : std::filesystem::directory_iterator(TESK_ZDROJE_KOLEJISTE))
+        for (const auto& polozka : std::filesystem::directory_iterator(kZdrojeKolejiste))
             if (polozka.path().extension() == ".tk")
                 zdroje.push_back(polozka.path());
         std::sort(zdroje.begin(), zdroje.end());

@@ -2,16 +2,11 @@
 // junction: each by itself, and pairs of them.
 #include "app/cas.h"
 #include "app/kontrola.h"
-#include "app/start.h"
-#include "app/vstup.h"
 #include "cesty/cesta.h"
 #include "cesty/tik_volby.h"
 #include "cesty/volba.h"
-#include "kolejiste/kontroly.h"
-#include "kolejiste/kresba.h"
 #include "kolejiste/trasy.h"
-#include "kolejiste/vystup.h"
-#include "pomocne/virtualni_platforma.h"
+#include "pomocne/cele_kolejiste.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "prvky/stav_vyhybek.h"
 #include "prvky/vyhybky.h"
@@ -20,45 +15,8 @@
 #include <algorithm>
 #include <random>
 #include <set>
-#include <sstream>
 
 namespace {
-
-struct Data {
-    Bajty rea, reb, top, pzz, stg, zat, zpc;
-    std::vector<kolejiste::Trasa> trasy;
-};
-
-const Data& data() {
-    static const Data data = [] {
-        using namespace kolejiste;
-        Data d;
-        Plan plan;
-        std::vector<Zavada> zavady;
-        std::vector<std::filesystem::path> zdroje;
-        for (const auto& polozka : std::filesystem::directory_iterator(TESK_ZDROJE_KOLEJISTE))
-            if (polozka.path().extension() == ".tk")
-                zdroje.push_back(polozka.path());
-        std::sort(zdroje.begin(), zdroje.end());
-        for (const auto& zdroj : zdroje) {
-            std::ifstream f(zdroj, std::ios::binary);
-            std::ostringstream text;
-            text << f.rdbuf();
-            precti(text.str(), zdroj.filename().string(), plan, zavady);
-        }
-        const Graf graf = sestav_graf(plan, zavady);
-        d.rea = soubor_reliefu(nakresli(plan, Obraz::jeden, zavady), "");
-        d.reb = soubor_reliefu(nakresli(plan, Obraz::dva, zavady), "");
-        d.top = soubor_delek(plan);
-        d.pzz = soubor_prejezdu(plan);
-        d.stg = soubor_vazeb(plan);
-        d.trasy = odvod_trasy(plan, graf, zavady);
-        d.zat = soubor_tras(d.trasy, DruhTrasy::vlak);
-        d.zpc = soubor_tras(d.trasy, DruhTrasy::posun);
-        return d;
-    }();
-    return data;
-}
 
 bool je_vlak(const kolejiste::Trasa& t) {
     return t.druh == kolejiste::DruhTrasy::vlak;
@@ -75,26 +33,7 @@ protected:
     Relief klid; // the rest state
 
     void SetUp() override {
-        const Data& d = data();
-        svet.zapis("data/tesk.rea", d.rea);
-        svet.zapis("data/tesk.reb", d.reb);
-        svet.zapis("data/tesk.top", d.top);
-        svet.zapis("data/tesk.pzz", d.pzz);
-        svet.zapis("data/tesk.stg", d.stg);
-        svet.zapis("data/tesk.zat", d.zat);
-        svet.zapis("data/tesk.zpc", d.zpc);
-        svet.zapis("data/tesk.mak", "");
-        svet.zapis("GVD/GVDprazdny.dat", Bajty{0, 0, 0, 0, 0, 0});
-        svet.nastaveni_pis("Obrazovka", "X", "1024");
-        svet.nastaveni_pis("Obrazovka", "Y", "768");
-        VolbyStartu volby;
-        volby.gvd = "GVDprazdny";
-        prevezmi_volby(volby);
-        priprava_simulace();
-        nastav_hodiny(volby);
-        start_simulace();
-        for (int i = 0; i < 3; ++i)
-            klavesa({KodKlavesy::enter});
+        spust_cele_kolejiste(svet, Bajty{0, 0, 0, 0, 0, 0}, {});
         ASSERT_FALSE(simulace.pauza);
         klid = relief;
     }
@@ -146,7 +85,7 @@ std::set<std::pair<int, int>> prvky(const ZaznamCesty& z) {
 } // namespace
 
 TEST_F(ProvozTras, EveryRouteCanBeSet) {
-    for (const kolejiste::Trasa& t : data().trasy) {
+    for (const kolejiste::Trasa& t : data_kolejiste().trasy) {
         do_klidu();
         ASSERT_TRUE(zarad(t)) << jmeno(t);
         cekej(10);
@@ -162,7 +101,7 @@ TEST_F(ProvozTras, EveryRouteCanBeSet) {
 }
 
 TEST_F(ProvozTras, EveryTrainRouteCanBeRunOnTheCallingOnSignal) {
-    for (const kolejiste::Trasa& t : data().trasy) {
+    for (const kolejiste::Trasa& t : data_kolejiste().trasy) {
         if (!je_vlak(t))
             continue;
         do_klidu();
@@ -176,7 +115,7 @@ TEST_F(ProvozTras, EveryTrainRouteCanBeRunOnTheCallingOnSignal) {
 // Of two thousand pairs: those without a common element stand together, and whenever two stand, each
 // has its switches.
 TEST_F(ProvozTras, TwoRoutesStandTogetherExactlyWhenTheyShareNothing) {
-    const std::vector<kolejiste::Trasa>& trasy = data().trasy;
+    const std::vector<kolejiste::Trasa>& trasy = data_kolejiste().trasy;
     std::mt19937 nahoda(7);
     int spolu = 0, ne = 0;
     for (int i = 0; i < 2000; ++i) {

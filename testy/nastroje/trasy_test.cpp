@@ -2,6 +2,7 @@
 #include "kolejiste/kontrola_tras.h"
 #include "kolejiste/kontroly.h"
 #include "kolejiste/kresba.h"
+#include "pomocne/zdroje.h"
 
 #include <gtest/gtest.h>
 
@@ -120,7 +121,7 @@ const Preklad& tesk() {
     static const Preklad preklad = [] {
         Preklad p;
         std::vector<std::filesystem::path> zdroje;
-        for (const auto& polozka : std::filesystem::directory_iterator(TESK_ZDROJE_KOLEJISTE))
+        for (const auto& polozka : std::filesystem::directory_iterator(kZdrojeKolejiste))
             if (polozka.path().extension() == ".tk")
                 zdroje.push_back(polozka.path());
         std::sort(zdroje.begin(), zdroje.end());

@@ -1,40 +1,78 @@
-// testy/pomocne/cele_kolejiste.h - the whole junction and its training timetable in the folder of a test.
+// testy/pomocne/cele_kolejiste.h - the whole junction, compiled from its source, as an installation.
 #pragma once
 
 #include "app/start.h"
 #include "app/vstup.h"
-#include "cesty/tabulky.h"
+#include "kolejiste/kontroly.h"
+#include "kolejiste/kresba.h"
+#include "kolejiste/trasy.h"
+#include "kolejiste/vystup.h"
 #include "pomocne/virtualni_platforma.h"
+#include "pomocne/zdroje.h"
 
+#include <algorithm>
 #include <filesystem>
+#include <fstream>
+#include <sstream>
 
-// Copies the files that the build has made, pictures of vehicles aside.
-inline void zapis_cele_kolejiste(const VirtualniPlatforma& svet) {
-    const std::filesystem::path odkud(TESK_INSTALACE);
-    for (const char* slozka : {"data", "gvd"}) {
-        std::filesystem::create_directories(svet.koren / slozka);
-        for (const auto& soubor : std::filesystem::directory_iterator(odkud / slozka))
-            if (soubor.path().extension() != ".fon")
-                std::filesystem::copy_file(soubor.path(), svet.koren / slozka / soubor.path().filename(),
-                                           std::filesystem::copy_options::overwrite_existing);
-    }
+struct DataKolejiste {
+    Bajty rea, reb, top, pzz, stg, zat, zpc;
+    std::vector<kolejiste::Trasa> trasy;
+};
+
+inline std::string obsah_souboru(const std::filesystem::path& cesta) {
+    std::ifstream f(cesta, std::ios::binary);
+    std::ostringstream text;
+    text << f.rdbuf();
+    return text.str();
 }
 
-inline void prihlas_se() {
-    for (int i = 0; i < 3; ++i)
-        klavesa({KodKlavesy::enter});
+inline const DataKolejiste& data_kolejiste() {
+    static const DataKolejiste data = [] {
+        using namespace kolejiste;
+        DataKolejiste d;
+        Plan plan;
+        std::vector<Zavada> zavady;
+        std::vector<std::filesystem::path> zdroje;
+        for (const auto& polozka : std::filesystem::directory_iterator(kZdrojeKolejiste))
+            if (polozka.path().extension() == ".tk")
+                zdroje.push_back(polozka.path());
+        std::sort(zdroje.begin(), zdroje.end());
+        for (const auto& zdroj : zdroje)
+            precti(obsah_souboru(zdroj), zdroj.filename().string(), plan, zavady);
+        const Graf graf = sestav_graf(plan, zavady);
+        d.rea = soubor_reliefu(nakresli(plan, Obraz::jeden, zavady), "");
+        d.reb = soubor_reliefu(nakresli(plan, Obraz::dva, zavady), "");
+        d.top = soubor_delek(plan);
+        d.pzz = soubor_prejezdu(plan);
+        d.stg = soubor_vazeb(plan);
+        d.trasy = odvod_trasy(plan, graf, zavady);
+        d.zat = soubor_tras(d.trasy, DruhTrasy::vlak);
+        d.zpc = soubor_tras(d.trasy, DruhTrasy::posun);
+        return d;
+    }();
+    return data;
 }
 
-// From the start screen to the running clock, with the training timetable.
-inline void spust_cele_kolejiste(int hodina, int minuta = 0, int rychlost = 1) {
-    VolbyStartu volby;
-    volby.hodina = static_cast<std::uint8_t>(hodina);
-    volby.minuta = static_cast<std::uint8_t>(minuta);
-    volby.rychlost = static_cast<std::uint8_t>(rychlost);
-    volby.gvd = "GVD_cvicny";
+// Writes the installation, with one timetable, and runs the start up to the first tick.
+inline void spust_cele_kolejiste(VirtualniPlatforma& svet, const Bajty& gvd, VolbyStartu volby) {
+    const DataKolejiste& d = data_kolejiste();
+    svet.zapis("data/tesk.rea", d.rea);
+    svet.zapis("data/tesk.reb", d.reb);
+    svet.zapis("data/tesk.top", d.top);
+    svet.zapis("data/tesk.pzz", d.pzz);
+    svet.zapis("data/tesk.stg", d.stg);
+    svet.zapis("data/tesk.zat", d.zat);
+    svet.zapis("data/tesk.zpc", d.zpc);
+    svet.zapis("data/tesk.mak", "");
+    svet.zapis("GVD/GVDzkusebni.dat", gvd);
+    svet.nastaveni_pis("Obrazovka", "X", "1024");
+    svet.nastaveni_pis("Obrazovka", "Y", "768");
+    volby.gvd = "GVDzkusebni";
     prevezmi_volby(volby);
     priprava_simulace();
     nastav_hodiny(volby);
     start_simulace();
-    prihlas_se();
+    for (int i = 0; i < 3; ++i)
+        klavesa({KodKlavesy::enter});
 }

@@ -1,0 +1,510 @@
+// app/kontrola_jizdy.cpp - the state checks that need to know what was before.
+//
+// A table alone does not tell whether a train may be where it is: two trains on one track are right when
+// the second one shunted there, and wrong when its signal was at proceed. So each look remembers what it
+// has seen, and the next one judges what has happened in between.
+#include "app/kontrola_jizdy.h"
+
+#include "app/cas.h"
+#include "app/simulace.h"
+#include "cesty/cesta.h"
+#include "cesty/smer_trati.h"
+#include "cesty/tabulky.h"
+#include "jizda/metry.h"
+#include "jizda/vlak.h"
+#include "prvky/souhlasy.h"
+#include "prvky/stanicni_prejezdy.h"
+#include "prvky/vyhybky.h"
+#include "relief/relief.h"
+#include "relief/topologie.h"
+#include "zaklad/chyba.h"
+#include "zaklad/cisla.h"
+#include "zaklad/soubory.h"
+
+#include <algorithm>
+#include <array>
+#include <cstdint>
+#include <initializer_list>
+#include <vector>
+
+namespace {
+
+using Nalez = std::optional<Text>;
+
+constexpr int kDelkaVyhybky_m = 20; // of train length
+
+// --- what the last look has seen
+
+struct VidenyVlak {
+    std::int32_t cislo = kZadny;
+    std::size_t prvku = 0; // length of its list
+    std::int16_t konec = 0, celo = 0, delka = 0;
+    bool muze_jet = false;
+    bool sdili = false;              // a track with another train
+    bool prebyva = false;            // held more than its length
+    std::vector<std::int16_t> volne; // tracks it came to by a shunt or calling-on route laid towards a train
+    std::vector<std::int16_t> nezavrene; // switches it came to on the calling-on aspect
+};
+struct VidenaCesta {
+    std::int16_t zacatek = kZadny, konec = kZadny;
+    std::int32_t Kdy_prehoz = kZadny;
+    bool Provedena = false;
+    bool zavirala = false; // its crossing was closing or closed
+};
+struct VidenaSipka {
+    std::int16_t cislo = 0;
+    bool svitila = false;
+    Text smer;
+};
+struct Videno {
+    std::int64_t tick_jizdy = 0;
+    std::vector<VidenyVlak> vlaky;
+    std::vector<VidenaCesta> cesty;
+    std::vector<VidenaSipka> sipky;
+};
+Videno videno;
+
+Text veta(std::initializer_list<TextPohled> kusy) {
+    Text text;
+    for (const TextPohled kus : kusy)
+        text += kus;
+    return text;
+}
+Text vlak_textem(std::size_t v, TextPohled co) {
+    return veta({"vlaky ", text_cisla(static_cast<std::int64_t>(v)), ": ", co});
+}
+Text cesta_textem(const Cesta& c, TextPohled co) {
+    return veta({"cesta od návěstidla "_cz, text_cisla(c.zacatek), " k "_cz, text_cisla(c.konec), ": ", co});
+}
+
+bool jede(const Vlak& v) {
+    return v.cislo > 0 && !v.prvky.empty() && v.prvky.size() == v.prvky_druh.size() && v.prvek_konec >= 0 &&
+           static_cast<std::size_t>(v.prvek_konec) < v.prvky.size();
+}
+// What the last look has seen of the same train; nullptr when it was not there yet.
+const VidenyVlak* videny(std::size_t i) {
+    return i < videno.vlaky.size() && videno.vlaky[i].cislo == vlaky[i].cislo ? &videno.vlaky[i] : nullptr;
+}
+bool je_mezi(const std::vector<std::int16_t>& seznam, int n) {
+    return std::find(seznam.begin(), seznam.end(), n) != seznam.end();
+}
+
+// --- a train enters a track
+
+// It has gone on by one entry, and that is a track.
+bool vjel(std::size_t i) {
+    const Vlak& v = vlaky[i];
+    const VidenyVlak* drive = videny(i);
+    return drive != nullptr && v.prvky.size() == drive->prvku + 1 && drive->prvku > 0 &&
+           v.prvky[drive->prvku - 1] == drive->celo && v.prvky_druh.back() == druh_prvku::kolej;
+}
+const Cesta* cesta_vjezdu(std::size_t i) {
+    const auto cesta = std::find_if(cesty.begin(), cesty.end(), [&](const Cesta& c) {
+        return c.Vlak == static_cast<int>(i) && c.Umazat > 0 && c.Umazat < c.prvky.size() &&
+               c.prvky[c.Umazat] == vlaky[i].prvky.back() && druh_na(c, c.Umazat) == druh_prvku::kolej;
+    });
+    return cesta == cesty.end() ? nullptr : &*cesta;
+}
+bool je_volny_vjezd(const Cesta& c) {
+    return !c.VC || c.PN;
+}
+// Another train has the track n still before it on a train route.
+bool smeruje_na(std::size_t vjel_vlak, int n) {
+    return std::any_of(cesty.begin(), cesty.end(), [&](const Cesta& c) {
+        if (c.zacatek < 0 || !c.prehozena || je_volny_vjezd(c) || c.Vlak == static_cast<int>(vjel_vlak))
+            return false;
+        const auto pred = std::min<std::ptrdiff_t>(c.Umazat + 1, std::ssize(c.prvky));
+        return std::find(c.prvky.begin() + pred, c.prvky.end(), n) != c.prvky.end();
+    });
+}
+
+// On a train route a train never comes to a track where another one stands; on sight it may: in shunting
+// and on the calling-on aspect. Who comes on sight to a track that a train route already leads to is met
+// there by that train.
+Nalez vjezdy() {
+    for (std::size_t i = 0; i < vlaky.size(); ++i) {
+        if (!jede(vlaky[i]) || !vjel(i))
+            continue;
+        const int n = vlaky[i].prvky.back();
+        const Cesta* cesta = cesta_vjezdu(i);
+        if (cesta == nullptr)
+            return vlak_textem(i, veta({"na kolej "_cz, text_cisla(n), " nevede jeho cesta"_cz}));
+        if (je_volny_vjezd(*cesta))
+            continue;
+        for (std::size_t k = 0; k < vlaky.size(); ++k) {
+            if (k == i || !jede(vlaky[k]) || !drzi_prvek(vlaky[k], n))
+                continue;
+            const VidenyVlak* druhy = videny(k);
+            if (druhy == nullptr || je_mezi(druhy->volne, n))
+                continue;
+            return vlak_textem(i, veta({"vlakovou cestou vjel na kolej "_cz, text_cisla(n),
+                                        ", kterou drží vlak "_cz, text_cisla(static_cast<std::int64_t>(k))}));
+        }
+    }
+    return std::nullopt;
+}
+
+// --- switches under a train
+
+// On the calling-on aspect a train does not lock the switches that it runs over: the route holds them, and
+// the operator may release it under the train.
+const Cesta* cesta_na_vyhybku(std::size_t i) {
+    const VidenyVlak* drive = videny(i);
+    const Vlak& v = vlaky[i];
+    if (drive == nullptr || v.prvky.size() != drive->prvku + 1 || v.prvky_druh.back() != druh_prvku::vyhybka)
+        return nullptr;
+    const auto cesta = std::find_if(cesty.begin(), cesty.end(), [&](const Cesta& c) {
+        return c.Vlak == static_cast<int>(i) && c.Umazat < c.prvky.size() &&
+               c.prvky[c.Umazat] == v.prvky.back() && druh_na(c, c.Umazat) == druh_prvku::vyhybka;
+    });
+    return cesta == cesty.end() ? nullptr : &*cesta;
+}
+
+Nalez vyhybky_pod_vlaky() {
+    for (std::size_t i = 0; i < vlaky.size(); ++i) {
+        const Vlak& v = vlaky[i];
+        if (!jede(v))
+            continue;
+        for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j) {
+            const int n = v.prvky[j];
+            if (v.prvky_druh[j] != druh_prvku::vyhybka || !vyhybka_v_pohybu(n))
+                continue;
+            const VidenyVlak* drive = videny(i);
+            const Cesta* prave = cesta_na_vyhybku(i);
+            if ((drive == nullptr || !je_mezi(drive->nezavrene, n)) && (prave == nullptr || !prave->PN))
+                return vlak_textem(i, veta({"pod vlakem se přestavuje výhybka "_cz, text_cisla(n)}));
+        }
+    }
+    return std::nullopt;
+}
+
+// --- the path under a train
+
+// Neighbours: two entries that follow one another in a route of the tables, in either sense.
+struct Sousedi {
+    std::array<std::uint64_t, 2> otisky{};
+    Text slozka;
+    std::vector<std::uint64_t> dvojice; // sorted
+};
+Sousedi sousedi;
+
+std::uint64_t klic(int n, int druh) {
+    return static_cast<std::uint64_t>(static_cast<std::uint16_t>(n)) << 8 | static_cast<std::uint8_t>(druh);
+}
+std::uint64_t klic_dvojice(std::uint64_t a, std::uint64_t b) {
+    return std::min(a, b) << 32 | std::max(a, b);
+}
+
+void nacti_sousedy() {
+    const std::array<Text, 2> soubory = {simulace.cesta_aplikace + "data\\tesk.zat",
+                                         simulace.cesta_aplikace + "data\\tesk.zpc"};
+    const std::array<std::uint64_t, 2> otisky = {otisk_souboru(soubory[0]), otisk_souboru(soubory[1])};
+    if (otisky == sousedi.otisky && sousedi.slozka == simulace.cesta_aplikace)
+        return;
+    sousedi = {otisky, simulace.cesta_aplikace, {}};
+    for (std::size_t f = 0; f < soubory.size(); ++f) {
+        if (otisky[f] == 0)
+            continue; // no such table
+        for (const ZaznamCesty& z : cti_cesty(nacti_soubor(soubory[f])))
+            for (std::size_t k = 0; k + 1 < std::min(z.prvky.size(), z.druhy.size()); ++k)
+                sousedi.dvojice.push_back(
+                    klic_dvojice(klic(z.prvky[k], z.druhy[k]), klic(z.prvky[k + 1], z.druhy[k + 1])));
+    }
+    std::sort(sousedi.dvojice.begin(), sousedi.dvojice.end());
+    sousedi.dvojice.erase(std::unique(sousedi.dvojice.begin(), sousedi.dvojice.end()), sousedi.dvojice.end());
+}
+
+// The sections of a line follow by fifties; numbers that are not drawn are passed over.
+bool sousedi_na_trati(int a, int b) {
+    if (a > b)
+        std::swap(a, b);
+    if (a < 600 || (b - a) % kKrokTrati != 0)
+        return false;
+    for (int n = a + kKrokTrati; n < b; n += kKrokTrati)
+        if (relief.kolej.je(n))
+            return false;
+    return true;
+}
+// Where only routes made for trains from the lines lead.
+bool sousedi_vstupem(int a, int b) {
+    for (const KonecTrati& k : kKonceTrati)
+        if ((a == k.navestidlo && b == k.usek) || (b == k.navestidlo && a == k.usek))
+            return true;
+    return trat_za_koleji(a) == b || trat_za_koleji(b) == a;
+}
+bool sousedi_na_ceste(int a, int druh_a, int b, int druh_b) {
+    for (const Cesta& c : cesty)
+        for (std::size_t k = 0; k + 1 < c.prvky.size(); ++k) {
+            const auto je = [&](std::size_t m, int n, int druh) {
+                return c.prvky[m] == n && druh_na(c, m) == druh;
+            };
+            if ((je(k, a, druh_a) && je(k + 1, b, druh_b)) || (je(k, b, druh_b) && je(k + 1, a, druh_a)))
+                return true;
+        }
+    return false;
+}
+bool jsou_sousedi(int a, int druh_a, int b, int druh_b) {
+    if (druh_a == druh_prvku::kolej && druh_b == druh_prvku::kolej &&
+        (sousedi_na_trati(a, b) || sousedi_vstupem(a, b)))
+        return true;
+    return std::binary_search(sousedi.dvojice.begin(), sousedi.dvojice.end(),
+                              klic_dvojice(klic(a, druh_a), klic(b, druh_b))) ||
+           sousedi_na_ceste(a, druh_a, b, druh_b);
+}
+
+bool zmenil_se(std::size_t i) {
+    const VidenyVlak* drive = videny(i);
+    const Vlak& v = vlaky[i];
+    return drive == nullptr || drive->prvku != v.prvky.size() || drive->konec != v.prvek_konec ||
+           drive->celo != v.prvky.back();
+}
+
+// A train lies on its path without a gap.
+Nalez souvislost() {
+    for (std::size_t i = 0; i < vlaky.size(); ++i) {
+        const Vlak& v = vlaky[i];
+        if (!jede(v) || !zmenil_se(i))
+            continue;
+        nacti_sousedy();
+        if (sousedi.dvojice.empty())
+            return std::nullopt; // an installation without tables
+        for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j + 1 < v.prvky.size(); ++j)
+            if (!jsou_sousedi(v.prvky[j], v.prvky_druh[j], v.prvky[j + 1], v.prvky_druh[j + 1]))
+                return vlak_textem(i, veta({"drží prvky "_cz, text_cisla(v.prvky[j]), " a "_cz,
+                                            text_cisla(v.prvky[j + 1]), ", které spolu nesousedí"_cz}));
+    }
+    return std::nullopt;
+}
+
+// --- the length under a train
+
+// Where two trains stand on one track, each writes its metres over those of the other.
+bool sdili_kolej(std::size_t i) {
+    const Vlak& v = vlaky[i];
+    for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j)
+        if (v.prvky_druh[j] == druh_prvku::kolej && drzi_jiny(v.prvky[j], static_cast<int>(i)))
+            return true;
+    return false;
+}
+
+// Metres that it takes from entry `od` to its head, and what its rearmost entry takes of them.
+double drzena_delka(const Vlak& v) {
+    double delka = 0;
+    for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j) {
+        if (v.prvky_druh[j] == druh_prvku::kolej)
+            delka = zaokrouhli(delka + metry(v.prvky[j]));
+        else if (v.prvky_druh[j] == druh_prvku::vyhybka)
+            delka += kDelkaVyhybky_m;
+    }
+    return delka;
+}
+// The rearmost entry could be free: the train has left it with its whole length.
+bool prebyva_konec(const Vlak& v) {
+    const auto konec = static_cast<std::size_t>(v.prvek_konec);
+    if (konec + 1 >= v.prvky.size())
+        return false; // the head is never released
+    const int posledni =
+        v.prvky_druh[konec] == druh_prvku::kolej ? delka_koleje(v.prvky[konec]) : kDelkaVyhybky_m;
+    return drzena_delka(v) - posledni >= v.delka;
+}
+
+// The tail leaves a track neither before the train has left it nor, once it may run, later.
+Nalez delky() {
+    const bool jelo_se = simulace.tick_jizdy != videno.tick_jizdy;
+    for (std::size_t i = 0; i < vlaky.size(); ++i) {
+        const Vlak& v = vlaky[i];
+        const VidenyVlak* drive = videny(i);
+        if (!jede(v) || drive == nullptr || drive->delka != v.delka || !drive->muze_jet || !v.muze_jet ||
+            drive->sdili || sdili_kolej(i))
+            continue;
+        const bool na_vice_prvcich = static_cast<std::size_t>(v.prvek_konec) + 1 < v.prvky.size();
+        if (v.prvek_konec > drive->konec && na_vice_prvcich && drzena_delka(v) < v.delka)
+            return vlak_textem(i, veta({"drží "_cz, text_cisla(drzena_delka(v)), " m, ale je dlouhý "_cz,
+                                        text_cisla(v.delka), " m"_cz}));
+        if (jelo_se && drive->prebyva && drive->konec == v.prvek_konec && drive->prvku == v.prvky.size() &&
+            prebyva_konec(v))
+            return vlak_textem(
+                i, veta({"drží prvek "_cz, text_cisla(v.prvky[static_cast<std::size_t>(v.prvek_konec)]),
+                         ", který už celý opustil"_cz}));
+    }
+    return std::nullopt;
+}
+
+// --- signals that clear
+
+const VidenaCesta* videna(const Cesta& c) {
+    const auto drive = std::find_if(videno.cesty.begin(), videno.cesty.end(), [&](const VidenaCesta& v) {
+        return v.zacatek == c.zacatek && v.konec == c.konec && v.Kdy_prehoz == c.Kdy_prehoz;
+    });
+    return drive == videno.cesty.end() ? nullptr : &*drive;
+}
+bool zavira(const Cesta& c) {
+    if (c.prejezd >= stanicni_prejezdy.size())
+        return false;
+    const StanicniPrejezd& p = stanicni_prejezdy[c.prejezd];
+    return p.uzavren || p.UZ || p.pocet != 128 || p.cas >= 0;
+}
+
+// A train stands before the signal: the road is closed first. NOT, by which the operator opens it in
+// between, is his to answer for.
+Nalez prejezd_navesti(const Cesta& c, const VidenaCesta& drive) {
+    if (c.PN || !c.prejezd_zaver || c.prejezd >= stanicni_prejezdy.size())
+        return std::nullopt;
+    const StanicniPrejezd& p = stanicni_prejezdy[c.prejezd];
+    if (p.cas > ted_s() && !p.uzavren && p.pocet == 128) // a closed road may have another closing before it
+        return cesta_textem(c, "návěst dovoluje jízdu přes přejezd, který se teprve zavírá"_cz);
+    if (!drive.zavirala && !zavira(c))
+        return cesta_textem(c, "návěst dovoluje jízdu přes přejezd, který se nezavíral"_cz);
+    return std::nullopt;
+}
+
+// Sense in which a route runs over the sections of the line group: 1 up, -1 down, 0 not to be told.
+int smer_po_trati(const std::vector<std::int16_t>& prvky, std::size_t od, int zaklad) {
+    for (std::size_t k = od; k + 1 < prvky.size(); ++k)
+        if (prvky[k] >= 600 && prvky[k + 1] >= 600 && zaklad_trati(prvky[k]) == zaklad &&
+            zaklad_trati(prvky[k + 1]) == zaklad)
+            return prvky[k] < prvky[k + 1] ? 1 : -1;
+    return 0;
+}
+bool stoji_na_trati(const Vlak& v, int zaklad) {
+    for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j)
+        if (v.prvky_druh[j] == druh_prvku::kolej && v.prvky[j] >= 600 && zaklad_trati(v.prvky[j]) == zaklad)
+            return true;
+    return false;
+}
+
+// Towards a line, and towards the neighbours with consent, a signal clears only when nobody comes.
+Nalez smer_navesti(const Cesta& c) {
+    if (!c.VC || c.PN)
+        return std::nullopt;
+    for (const Cesta& jina : cesty)
+        if (&jina != &c && jina.ZT == kZTprogramu && c.ZT != kZTprogramu && jina.konec == c.konec &&
+            konec_trati(c.konec) >= 0)
+            return cesta_textem(c, "návěst dovoluje jízdu proti vlaku, který má souhlas"_cz);
+    if (posledni_prvek(c) < 600 || c.ZT == kZTprogramu)
+        return std::nullopt;
+    const int zaklad = zaklad_trati(posledni_prvek(c));
+    const int smer = smer_po_trati(c.prvky, 1, zaklad);
+    if (smer == 0)
+        return std::nullopt;
+    if (relief.lblSouhlas2.je(sipka_konce(c.konec)) &&
+        !sipka_drzi(sipka_konce(c.konec), smer > 0 ? kSipkaVpravo : kSipkaVlevo))
+        return cesta_textem(c, "návěst dovoluje jízdu na trať, jejíž směr nedrží"_cz);
+    for (const Cesta& jina : cesty)
+        if (&jina != &c && jina.zacatek >= 0 && jina.VC && !jina.PN && jina.prehozena &&
+            jina.Umazat < posledni_index(jina) && smer_po_trati(jina.prvky, jina.Umazat, zaklad) == -smer)
+            return cesta_textem(c, "návěst dovoluje jízdu na trať proti jiné cestě"_cz);
+    for (const Vlak& v : vlaky)
+        if (jede(v) && stoji_na_trati(v, zaklad) &&
+            smer_po_trati(v.prvky, static_cast<std::size_t>(v.prvek_konec), zaklad) == -smer)
+            return cesta_textem(c, "návěst dovoluje jízdu na trať proti vlaku"_cz);
+    return std::nullopt;
+}
+
+Nalez navesti() {
+    for (const Cesta& c : cesty) {
+        const VidenaCesta* drive = c.zacatek < 0 ? nullptr : videna(c);
+        if (drive == nullptr || drive->Provedena || !c.Provedena || !c.Postavena || c.Umazat != 0)
+            continue;
+        if (Nalez nalez = prejezd_navesti(c, *drive))
+            return nalez;
+        if (Nalez nalez = smer_navesti(c))
+            return nalez;
+    }
+    return std::nullopt;
+}
+
+// --- directions of the lines
+
+bool jsou_vlaky_u_sipky(int n) {
+    if (n < 600)
+        return relief.kolej.je(n) && relief.kolej[n].barva == barvy::cervena;
+    for (int usek = zaklad_trati(n); usek <= kNejvyssiPrvek; usek += kKrokTrati)
+        if (relief.kolej.je(usek) && relief.kolej[usek].barva == barvy::cervena)
+            return true;
+    return false;
+}
+
+// A direction is given up before the other one is taken; under a train nobody takes it.
+Nalez smery_trati() {
+    for (const VidenaSipka& drive : videno.sipky)
+        if (drive.svitila && !drive.smer.empty() && relief.lblSouhlas2.je(drive.cislo) &&
+            jsou_vlaky_u_sipky(drive.cislo)) {
+            const Prvek& sipka = relief.lblSouhlas2[drive.cislo];
+            if (sipka.barva == barvy::azurova && !orez(sipka.text()).empty() &&
+                orez(sipka.text()) != TextPohled(drive.smer))
+                return veta({"lblSouhlas2 ", text_cisla(drive.cislo), ": směr se obrátil pod vlakem"_cz});
+        }
+    return std::nullopt;
+}
+
+// --- remembering
+
+void zapamatuj_vlaky() {
+    std::vector<VidenyVlak> nove(vlaky.size());
+    for (std::size_t i = 0; i < vlaky.size(); ++i) {
+        const Vlak& v = vlaky[i];
+        if (!jede(v))
+            continue;
+        VidenyVlak& n = nove[i];
+        n.cislo = v.cislo;
+        n.prvku = v.prvky.size();
+        n.konec = v.prvek_konec;
+        n.celo = v.prvky.back();
+        n.delka = v.delka;
+        n.muze_jet = v.muze_jet;
+        n.prebyva = prebyva_konec(v);
+        n.sdili = sdili_kolej(i);
+        if (const VidenyVlak* drive = videny(i)) {
+            for (const std::int16_t volna : drive->volne)
+                if (drzi_prvek(v, volna))
+                    n.volne.push_back(volna);
+            n.nezavrene = drive->nezavrene;
+            if (const Cesta* pn = cesta_na_vyhybku(i); pn != nullptr && pn->PN)
+                n.nezavrene.push_back(pn->prvky[pn->Umazat]);
+            const Cesta* cesta = vjel(i) ? cesta_vjezdu(i) : nullptr;
+            if (cesta != nullptr && je_volny_vjezd(*cesta) && smeruje_na(i, n.celo))
+                n.volne.push_back(n.celo);
+        }
+    }
+    videno.vlaky = std::move(nove);
+    videno.tick_jizdy = simulace.tick_jizdy;
+}
+void zapamatuj_cesty() {
+    std::vector<VidenaCesta> nove;
+    for (const Cesta& c : cesty) {
+        if (c.zacatek < 0 || !c.prehozena)
+            continue;
+        const VidenaCesta* drive = videna(c);
+        nove.push_back({c.zacatek, c.konec, c.Kdy_prehoz, c.Provedena,
+                        zavira(c) || (drive != nullptr && drive->zavirala)});
+    }
+    videno.cesty = std::move(nove);
+}
+void zapamatuj_sipky() {
+    videno.sipky.clear();
+    for (int n = 0; n <= relief.lblSouhlas2.nejvyssi(); ++n)
+        if (relief.lblSouhlas2.je(n)) {
+            const Prvek& sipka = relief.lblSouhlas2[n];
+            videno.sipky.push_back(
+                {static_cast<std::int16_t>(n), sipka.barva == barvy::azurova, Text(orez(sipka.text()))});
+        }
+}
+
+} // namespace
+
+std::optional<Text> kontrola_jizdy() {
+    constexpr std::array kKontroly = {vjezdy, vyhybky_pod_vlaky, souvislost, delky, navesti, smery_trati};
+    Nalez nalez;
+    for (const auto kontrola : kKontroly)
+        if (nalez = kontrola(); nalez)
+            break;
+    zapamatuj_vlaky();
+    zapamatuj_cesty();
+    zapamatuj_sipky();
+    return nalez;
+}
+
+void zapomen_kontrolu_jizdy() {
+    videno = Videno{};
+}

@@ -1,0 +1,193 @@
+// testy/nastroje/nahodna_doprava_test.cpp - the timetable of a week on the whole junction, worked by an
+// operator of random habits: after every step of every timer the state holds together.
+#include "app/cas.h"
+#include "app/casovace.h"
+#include "app/kontrola.h"
+#include "cesty/cesta.h"
+#include "cesty/dotazy.h"
+#include "cesty/tabulky.h"
+#include "cesty/uvolneni.h"
+#include "cesty/volba.h"
+#include "desk/zprava.h"
+#include "gvd/prekladac.h"
+#include "jizda/poslusnost.h"
+#include "jizda/posun.h"
+#include "jizda/souprava.h"
+#include "jizda/spojovani.h"
+#include "jizda/zastavky.h"
+#include "pomocne/cele_kolejiste.h"
+#include "pomocne/zdroje.h"
+#include "prvky/prejezdy_stanice.h"
+#include "prvky/souhlasy.h"
+#include "zaklad/nahoda.h"
+
+#include <random>
+
+namespace {
+
+const Bajty& jizdni_rad() {
+    static const Bajty bajty = [] {
+        std::vector<ChybaZdroje> chyby;
+        const auto zdroj = std::filesystem::path(kZdrojeKolejiste) / "gvd" / "GVD_cvicny.gvd";
+        return zapis_jizdni_rad(preloz_jizdni_rad(obsah_souboru(zdroj), chyby));
+    }();
+    return bajty;
+}
+
+class NahodnaDoprava : public testing::TestWithParam<unsigned> {
+protected:
+    VirtualniPlatforma svet;
+    std::mt19937 los;
+    std::vector<ZaznamCesty> vlakove, posunove;
+    std::string posledni_ukon; // of the operator's hands, for the report
+    int odjelo = 0, postaveno = 0;
+
+    bool nahodou(unsigned promile) { return los() % 1000 < promile; }
+
+    void zacni(unsigned semeno, std::uint8_t den) {
+        los.seed(semeno);
+        zasej_nahodu(semeno);
+        VolbyStartu volby;
+        volby.hodina = 5;
+        volby.den = den;
+        spust_cele_kolejiste(svet, jizdni_rad(), volby);
+        ASSERT_FALSE(simulace.pauza);
+        simulace.rychlost = 8;
+        vlakove = cti_cesty(data_kolejiste().zat);
+        posunove = cti_cesty(data_kolejiste().zpc);
+    }
+
+    void ukon(const std::string& co) { posledni_ukon = na_utf8(cas_hodin()) + " " + co; }
+
+    // The timers for one second; the first fault, or nothing.
+    std::string sekunda() {
+        for (int ms = 50; ms <= 1000; ms += 50) {
+            svet.posun_ms(50);
+            for (const Casovac& casovac : casovace) {
+                if (svet.tik % casovac.perioda_ms != 0)
+                    continue;
+                casovac.telo();
+                if (const auto nalez = kontrola_stavu())
+                    return na_utf8(cas_hodin()) + " " + std::string(casovac.krok) + ": " + na_utf8(*nalez) +
+                           " (after: " + posledni_ukon + ")";
+            }
+        }
+        return {};
+    }
+
+    void obsluz_cestu(std::size_t i) {
+        const Vlak& v = vlaky[i];
+        const int e = v.prvky.back();
+        for (const Cesta& c : cesty)
+            if (c.zacatek >= 0 && ((prvni_prvek(c) == e && c.Umazat == 0) ||
+                                   (c.Vlak == static_cast<int>(i) && c.Umazat < posledni_index(c))))
+                return; // it has a way to go
+        std::vector<const ZaznamCesty*> mozne;
+        const bool kamkoli = nahodou(50);
+        for (const ZaznamCesty& z : v.posun ? posunove : vlakove) {
+            Cesta c;
+            c.zacatek = z.zacatek;
+            if (!z.prvky.empty() && z.prvky.front() == e && (kamkoli || smer_cesty(c) == v.smer))
+                mozne.push_back(&z);
+        }
+        if (mozne.empty())
+            return;
+        const ZaznamCesty& z = *mozne[los() % mozne.size()];
+        const int druh = v.posun ? druh_volby::posun : nahodou(60) ? druh_volby::pn : druh_volby::vlak;
+        ukon("route " + std::to_string(druh) + " " + std::to_string(z.zacatek) + " " +
+             std::to_string(z.konec) + " for train " + std::to_string(i));
+        najdi_cestu(z.zacatek, z.konec, druh, false);
+    }
+
+    void obsluz_vlak(std::size_t i) {
+        const Vlak& v = vlaky[i];
+        if (v.cislo < 1 || v.prvky.empty() || v.prvky_druh.back() != druh_prvku::kolej)
+            return;
+        const int e = v.prvky.back();
+        if (relief.kolej[e].barva == barvy::zelena)
+            return; // announced: it stands in the neighbouring station
+        if (!v.posun && !v.muze_jet && ma_loko(v) && v.stanice_index >= 0 && nahodou(20)) {
+            ukon("departure of train " + std::to_string(i));
+            odjezd_povel(static_cast<int>(i));
+        }
+        if (v.rychlost == 0 && nahodou(2)) {
+            ukon("change of train " + std::to_string(i));
+            zmena_posun(static_cast<int>(i), e, false);
+        }
+        if (v.rychlost == 0 && nahodou(1)) {
+            ukon("turn of train " + std::to_string(i));
+            otoc_vlak(static_cast<int>(i));
+        }
+        if (v.rychlost == 0 && v.vozy.size() > 1 && nahodou(2)) {
+            ukon("split of train " + std::to_string(i));
+            odvesit(static_cast<int>(i), static_cast<int>(los() % v.vozy.size()), true);
+        }
+        for (std::size_t k = 0; k < vlaky.size(); ++k)
+            if (k != i && vlaky[k].cislo > 0 && !vlaky[k].prvky.empty() && vlaky[k].prvky.back() == e &&
+                nahodou(50)) {
+                ukon("coupling of trains " + std::to_string(i) + " " + std::to_string(k));
+                spoj(static_cast<int>(i), static_cast<int>(k));
+                break;
+            }
+        if (vlaky[i].cislo > 0 && (vlaky[i].muze_jet || vlaky[i].posun))
+            obsluz_cestu(i);
+    }
+
+    void obsluz_cesty() {
+        for (std::size_t i = 0; i < cesty.size(); ++i) {
+            const Cesta c = cesty[i];
+            if (c.zacatek < 0 || c.ZT == kZTprogramu)
+                continue;
+            if (c.PN && pn_skoncila(c.zacatek) && nahodou(100)) {
+                ukon("RNZ " + std::to_string(c.zacatek));
+                rnz(c.zacatek);
+            } else if (c.Umazat == 0 && !c.prehozena && nahodou(40)) {
+                ukon("route " + std::to_string(c.zacatek) + " off the stack");
+                smaz_cestu(static_cast<int>(i));
+            } else if (c.Umazat == 0 && nahodou(6)) {
+                ukon("RC " + std::to_string(c.zacatek));
+                zrus_cestu(c.zacatek);
+            }
+        }
+    }
+
+    void obsluha() {
+        for (int i = 0; i < 5 && prikaz_radek.obsazen; ++i)
+            klavesa({KodKlavesy::enter});
+        for (const int k : {0, 1, 2})
+            if (!relief.lblSouhlas[k].popis->empty() && nahodou(200)) {
+                ukon("consent " + std::to_string(k));
+                souhlas_us(k);
+            }
+        for (const int k : {0, 1})
+            if (nahodou(2)) {
+                ukon("crossing " + std::to_string(k));
+                nahodou(500) ? prejezd_uz(k) : prejezd_not(k);
+            }
+        for (std::size_t i = 0; i < vlaky.size(); ++i)
+            if (nahodou(300))
+                obsluz_vlak(i);
+        obsluz_cesty();
+    }
+};
+
+} // namespace
+
+TEST_P(NahodnaDoprava, StateHoldsTogetherThroughADayOfTheWeek) {
+    const auto den = static_cast<std::uint8_t>((GetParam() - 1) % 7);
+    zacni(GetParam(), den);
+    std::size_t cest_drive = 0;
+    while (simulace.minuty_simulace < 5 * 60) {
+        obsluha();
+        ASSERT_EQ(sekunda(), "");
+        std::size_t stoji = 0;
+        for (const Cesta& c : cesty)
+            stoji += c.Postavena ? 1 : 0;
+        postaveno += stoji > cest_drive ? 1 : 0;
+        cest_drive = stoji;
+    }
+    EXPECT_GT(postaveno, 30);
+    EXPECT_GT(relief.lstDenik.radky.size(), 10u);
+}
+
+INSTANTIATE_TEST_SUITE_P(Dny, NahodnaDoprava, testing::Range(1u, 15u));
