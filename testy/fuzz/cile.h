@@ -240,6 +240,14 @@ inline void postav_pro_nacteni() {
     static const DocasnaSlozka slozka;
     nova_simulace();
     simulace.cesta_aplikace = slozka.cesta;
+    static const bool zapsano = [] {
+        zaloz_slozku(slozka.cesta + "data");
+        zapis_soubor(slozka.cesta + "data\\tesk.top", soubor_topologie(kMaleDelky));
+        for (const char* prazdny : {"stg", "zat", "zpc", "mak"})
+            zapis_soubor(slozka.cesta + "data\\tesk." + prazdny, {});
+        return true;
+    }();
+    musi(zapsano, "the folder can be written");
     relief.lblcas[0].text = TextPohled("11:59:58");
     for (const int n : {1, 2, 3, 4, 6, 9, 13, 14, 18}) {
         relief.kolej.zaloz(n).barva = barvy::seda;
