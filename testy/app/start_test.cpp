@@ -15,6 +15,7 @@
 #include "prvky/stav_vyhybek.h"
 #include "relief/prejezdy.h"
 #include "relief/relief.h"
+#include "save/ulozeni.h"
 #include "zaklad/chyba.h"
 
 namespace {
@@ -305,10 +306,14 @@ TEST_F(Start, TrafficIsThereAtOnceUnlessASavedSimulationBringsIt) {
     EXPECT_EQ(svet.pipnuti, (std::vector<Pipnuti>{{500, 200}, {400, 150}}));
     EXPECT_FALSE(simulace.nova_pipnuti);
 
+    vlaky[0].cislo = 0; // the train has gone before the save
+    relief.kolej[63].barva = barvy::seda;
+    const Text zaznam = svet.cesta() + "save\\hra.sim";
+    uloz_simulaci(zaznam, true);
     nova_simulace();
     simulace.cesta_aplikace = svet.cesta();
-    simulace.nacitani_zaznamu = true;
-    spust();
+    priprav_nacteni(zaznam, {});
+    start_simulace();
     EXPECT_EQ(vlaky[0].cislo, 0);
     EXPECT_EQ(gvd_vlaky.size(), 1u);
 }

@@ -22,7 +22,6 @@
 #include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <numeric>
 #include <span>
 #include <string_view>
 
@@ -235,9 +234,11 @@ inline Bajty vzor_maker() {
     return soubor.bajty;
 }
 
-// A desk of a few elements at rest, before the login.
+// A desk of a few elements at rest, before the login; a refused load has left it as it was.
 inline void postav_pro_nacteni() {
     static const DocasnaSlozka slozka;
+    if (simulace.cesta_aplikace == slozka.cesta && relief.lblcas.je(0) && cas_hodin() == "11:59:58")
+        return;
     nova_simulace();
     simulace.cesta_aplikace = slozka.cesta;
     static const bool zapsano = [] {
@@ -284,8 +285,10 @@ inline void zkus_zaznam(Vstup vstup) {
     }
     musi(!kontrola_stavu(), "what is loaded can stand together");
     zaznam_simulace();
-    if (std::accumulate(vstup.begin(), vstup.end(), 0u) % 8 != 0) // every eighth runs on
+    if (vstup.size() > 100 && vstup[vstup.size() / 2] % 8 != 0) { // some run on
+        nova_simulace();
         return;
+    }
     try {
         obnov_souhlasy();
         spust_hodiny();
@@ -299,6 +302,7 @@ inline void zkus_zaznam(Vstup vstup) {
     } catch (const BehovaChyba&) { // told in a box, and the end of the program
     } catch (const KonecProgramu&) {
     }
+    nova_simulace();
 }
 inline Bajty vzor_zaznamu() {
     postav_pro_nacteni();
