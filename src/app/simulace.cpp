@@ -3,6 +3,7 @@
 
 #include "app/blikani.h"
 #include "app/kontrola_jizdy.h"
+#include "app/parametry.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
 #include "cesty/vyber.h"
@@ -19,7 +20,7 @@
 #include "prvky/stav_vyhybek.h"
 #include "relief/prejezdy.h"
 #include "save/gtn.h"
-#include "technologie/provoz2.h"
+#include "technologie/technologie.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
 #include "zaklad/soubory.h"
@@ -55,8 +56,9 @@ void nova_simulace() {
     menu = Menu{};
     stav_menu_koleje = MenuKoleje{};
     blikani = Blikani{};
-    provoz2 = Provoz2{};
+    zapomen_technologii();
     zapomen_kontrolu_jizdy();
+    parametry = Parametry{};
 }
 
 bool je_ladeni() {

@@ -5,6 +5,7 @@
 // changes the one that is named. A new table needs its list here and its row in vypisy.cpp.
 #pragma once
 
+#include "app/parametry.h"
 #include "cesty/cesta.h"
 #include "cesty/vyber.h"
 #include "davka/json.h"
@@ -27,6 +28,30 @@
 
 template <class Z, class Zaznam>
 concept ZaznamJe = std::same_as<std::remove_const_t<Z>, Zaznam>;
+
+// Without the selected field, which is printed by its name.
+template <class A, ZaznamJe<Parametry> Z> void popis_poli(A& a, Z& z) {
+    a.pole("lblVerze", z.lblVerze);
+    a.pole("lblInfo_verze", z.lblInfo_verze);
+    a.pole("txtHodiny", z.txtHodiny);
+    a.pole("txtMinuty", z.txtMinuty);
+    a.pole("cboDen", z.cboDen);
+    a.pole("cboRychlost", z.cboRychlost);
+    a.pole("lblAktualni_GVD", z.lblAktualni_GVD);
+    a.pole("lblGVD_popis_aktualni", z.lblGVD_popis_aktualni);
+    a.pole("miGVD", z.miGVD);
+    a.pole("miOblibena", z.miOblibena);
+    a.pole("chkZpozdeni", z.chkZpozdeni);
+    a.pole("chkPP", z.chkPP);
+    a.pole("chkZvuk", z.chkZvuk);
+    a.pole("chkAutosave", z.chkAutosave);
+    a.pole("txtAutosave", z.txtAutosave);
+    a.pole("chkNoresize", z.chkNoresize);
+    a.pole("chkDualMonitor", z.chkDualMonitor);
+    a.pole("lblMonitor", z.lblMonitor);
+    a.pole("vlevo", z.vlevo);
+    a.pole("stranka", z.stranka);
+}
 
 template <class A, ZaznamJe<Cesta> Z> void popis_poli(A& a, Z& z) {
     a.pole("zacatek", z.zacatek);

@@ -4,11 +4,12 @@
 #include "app/bezpecne.h"
 #include "app/cas.h"
 #include "app/casovace.h"
-#include "app/nastaveni.h"
+#include "app/parametry.h"
 #include "app/simulace.h"
 #include "app/start.h"
 #include "app/vstup.h"
 #include "cesty/cesta.h"
+#include "davka/obrazovka_startu.h"
 #include "davka/planovac.h"
 #include "davka/popisy.h"
 #include "davka/skript.h"
@@ -17,7 +18,7 @@
 #include "desk/zprava.h"
 #include "jizda/vlak.h"
 #include "save/ulozeni.h"
-#include "technologie/provoz2.h"
+#include "technologie/technologie.h"
 #include "zaklad/cisla.h"
 #include "zaklad/soubory.h"
 
@@ -35,6 +36,10 @@ using Slova = std::span<const std::string>;
 
 std::string v_uvozovkach(std::string_view text) {
     return "„" + std::string(text) + "“";
+}
+
+[[noreturn]] void chyba_pred_startem(std::string_view co) {
+    chyba_skriptu("příkaz " + v_uvozovkach(co) + " potřebuje spuštěnou simulaci");
 }
 
 // --- set-up
@@ -91,145 +96,19 @@ void prikaz_ladeni(BehSkriptu&, Slova slova) {
 
 // --- start
 
-// What the start screen shows before the operator touches it, and what the command fills in.
-struct StartovniObrazovka {
-    Text hodiny, minuty; // as typed
-    VolbyStartu volby;
-    MoznostiStartu moznosti;
-    bool dva_monitory = false;
-};
-
-std::vector<Text> jizdni_rady() {
-    std::vector<Text> jmena = soubory_slozky(simulace.cesta_aplikace + "gvd", "GVD*.dat");
-    for (Text& jmeno : jmena)
-        jmeno.resize(jmeno.size() - 4);
-    return jmena;
-}
-
-// The last item of the list of speeds, and the fastest that the simulation knows.
-constexpr int kNejrychlejsiVolba = 4, kNejrychlejsi = 8;
-
-StartovniObrazovka vychozi_obrazovka() {
-    constexpr TextPohled kSekce = "Nastaveni";
-    const NastennyCas ted = platforma.nastenny_cas();
-    const auto zaskrtnuto = [&](TextPohled klic, int vychozi) {
-        return nastaveni_cislo(kSekce, klic, vychozi) != 0;
-    };
-    StartovniObrazovka o;
-    o.hodiny = text_cisla(ted.hodina);
-    o.minuty = text_cisla_mist(ted.minuta, 2);
-    o.volby.den = static_cast<std::uint8_t>(ted.den_tydne());
-    o.volby.rychlost =
-        na_byte(std::clamp(nastaveni_cislo(kSekce, "Rychlost", 0), 0, kNejrychlejsiVolba - 1) + 1);
-    o.volby.pp = zaskrtnuto("PP", 1);
-    o.volby.zpozdeni = zaskrtnuto("Zpozdeni", 1);
-    o.moznosti.noresize = zaskrtnuto("Noresize", 0);
-    o.moznosti.bez_dvou_monitoru = zaskrtnuto("Dual", 0);
-    o.moznosti.zvuk_vypnut = zaskrtnuto("Zvuk", 0);
-    o.moznosti.autosave = zaskrtnuto("Autosave", 0);
-    o.moznosti.autosaved = text_cisla(nastaveni_cislo(kSekce, "Autosaved", 60));
-
-    const std::vector<Text> rady = jizdni_rady();
-    const Text posledni = platforma.nastaveni_cti(kSekce, "GVD").value_or("");
-    if (!rady.empty())
-        o.volby.gvd = rady.front();
-    for (const Text& rad : rady)
-        if (stejne_bez_velikosti(rad + ".dat", posledni))
-            o.volby.gvd = rad;
-    return o;
-}
-
-void vyber_jizdni_rad(StartovniObrazovka& o, std::string_view utf8) {
-    const Text jmeno = text_slova(utf8);
-    const std::vector<Text> rady = jizdni_rady();
-    const auto nalezeny = std::find_if(rady.begin(), rady.end(), [&](const Text& rad) {
-        return stejne_bez_velikosti(rad, jmeno) || stejne_bez_velikosti(rad + ".dat", jmeno);
-    });
-    if (nalezeny == rady.end()) {
-        std::string nabidka;
-        for (const Text& rad : rady)
-            nabidka += (nabidka.empty() ? "" : ", ") + na_utf8(rad);
-        chyba_skriptu("jízdní řád " + v_uvozovkach(utf8) + " ve složce gvd není" +
-                      (nabidka.empty() ? "" : "; jsou tam: " + nabidka));
-    }
-    o.volby.gvd = *nalezeny;
-}
-
-bool priznak_slova(const Prirazeni& p) {
-    const auto priznak = priznak_textu(p.hodnota);
-    if (!priznak)
-        chyba_skriptu(std::string(p.pole) + ": čeká se 0 nebo 1, ne " + v_uvozovkach(p.hodnota));
-    return *priznak;
-}
-
-void vypln(StartovniObrazovka& o, const Prirazeni& p) {
-    constexpr std::array<std::string_view, 10> kPole = {
-        "cas", "den", "rychlost", "gvd", "pp", "zpozdeni", "zvuk", "dual", "autosave", "autosaved"};
-    if (p.pole == "cas") {
-        const std::size_t dvojtecka = p.hodnota.find(':');
-        if (dvojtecka == std::string_view::npos)
-            chyba_skriptu("cas se píše jako 8:05, ne " + v_uvozovkach(p.hodnota));
-        o.hodiny = text_slova(p.hodnota.substr(0, dvojtecka));
-        o.minuty = text_slova(p.hodnota.substr(dvojtecka + 1));
-    } else if (p.pole == "den") {
-        o.volby.den = static_cast<std::uint8_t>(cislo_slova(p.hodnota, 0, 6, p.pole));
-    } else if (p.pole == "rychlost") {
-        o.volby.rychlost = static_cast<std::uint8_t>(cislo_slova(p.hodnota, 1, kNejrychlejsi, p.pole));
-    } else if (p.pole == "gvd") {
-        vyber_jizdni_rad(o, p.hodnota);
-    } else if (p.pole == "pp") {
-        o.volby.pp = priznak_slova(p);
-    } else if (p.pole == "zpozdeni") {
-        o.volby.zpozdeni = priznak_slova(p);
-    } else if (p.pole == "zvuk") {
-        o.moznosti.zvuk_vypnut = priznak_slova(p);
-    } else if (p.pole == "dual") {
-        o.dva_monitory = priznak_slova(p);
-    } else if (p.pole == "autosave") {
-        o.moznosti.autosave = priznak_slova(p);
-    } else if (p.pole == "autosaved") {
-        o.moznosti.autosaved = text_slova(p.hodnota);
-    } else if (p.pole == "noresize") {
-        o.moznosti.noresize = priznak_slova(p);
-    } else {
-        chyba_skriptu("spust nezná " + v_uvozovkach(p.pole) + napoveda(p.pole, kPole));
-    }
-}
-
-// The time of the screen, strict as its check: both fields numeric and in their bounds.
-bool prevezmi_cas(const StartovniObrazovka& o, VolbyStartu& volby) {
-    const auto hodiny = ciselny_text(o.hodiny), minuty = ciselny_text(o.minuty);
-    if (!hodiny || !minuty || *hodiny <= -1 || *hodiny >= 24 || *minuty <= -1 || *minuty >= 60)
-        return false;
-    const double h = zaokrouhli(*hodiny), m = zaokrouhli(*minuty);
-    if (h < 0 || h > 23 || m < 0 || m > 59)
-        return false;
-    volby.hodina = na_byte(h);
-    volby.minuta = na_byte(m);
-    return true;
-}
-
-void prikaz_spust(BehSkriptu& beh, Slova slova) {
-    StartovniObrazovka o = vychozi_obrazovka();
-    for (const std::string& slovo : slova)
-        vypln(o, prirazeni(slovo));
-    if (!prevezmi_cas(o, o.volby)) {
-        platforma.okno("KPS RVZ TESK"_cz, "Neplatný čas!"_cz);
-        return;
-    }
-    if (o.dva_monitory) {
-        o.moznosti.bez_dvou_monitoru = false;
-        svet.rezim.sirka = 2048;
-    }
-    simulace.dva_monitory = o.dva_monitory;
+// The start screen has handed over: the ten seconds of the splash screen, and the desk.
+void dokonci_start(BehSkriptu& beh) {
     beh.spusteno = true;
-    uloz_volby(o.moznosti);
-    prevezmi_volby(o.volby);
-    priprava_simulace();
-    nastav_hodiny(o.volby);
     spust_planovac();
     plyn_do(svet.cas_ms + kUvodniObrazovka_ms);
     start_simulace();
+}
+
+void prikaz_spust(BehSkriptu& beh, Slova slova) {
+    otevri_obrazovku_startu();
+    vypln_obrazovku_startu(slova);
+    if (start_prikaz())
+        dokonci_start(beh);
 }
 
 // A save by its name: one without a folder lies in the folder of saves, as in the dialogue; a path counts
@@ -252,19 +131,18 @@ Text nalezeny_zaznam(std::string_view utf8) {
 }
 
 void prikaz_nacti(BehSkriptu& beh, Slova slova) {
-    StartovniObrazovka o = vychozi_obrazovka();
-    for (const std::string& slovo : slova.subspan(1))
-        vypln(o, prirazeni(slovo));
-    if (o.dva_monitory) {
-        o.moznosti.bez_dvou_monitoru = false;
-        svet.rezim.sirka = 2048;
-    }
-    simulace.dva_monitory = o.dva_monitory;
-    beh.spusteno = true;
-    priprav_nacteni(nalezeny_zaznam(slova[0]), o.moznosti);
-    spust_planovac();
-    plyn_do(svet.cas_ms + kUvodniObrazovka_ms);
-    start_simulace();
+    otevri_obrazovku_startu();
+    vypln_obrazovku_startu(slova.subspan(1));
+    zavri_menu();
+    priprav_nacteni(nalezeny_zaznam(slova[0]), moznosti_startu());
+    dokonci_start(beh);
+}
+
+// The open command by its button: the dialogue takes the next answer.
+void prikaz_otevrit(BehSkriptu& beh) {
+    otevri_obrazovku_startu();
+    if (otevri_zaznam())
+        dokonci_start(beh);
 }
 
 void prikaz_uloz(BehSkriptu&, Slova slova) {
@@ -306,25 +184,39 @@ CilRuky prvek_ruky(Slova slova, std::size_t nejvice_slov) {
 }
 
 Seznam* seznam_desky(std::string_view slovo) {
-    struct SeznamPodleJmena {
-        std::string_view jmeno;
-        Seznam* seznam;
-    };
-    const std::array seznamy = {
-        SeznamPodleJmena{"lstZpravy", &relief.lstZpravy}, SeznamPodleJmena{"lstDenik", &relief.lstDenik},
-        SeznamPodleJmena{"lstZasobnik", &provoz2.lstZasobnik},
-        SeznamPodleJmena{"lstVYL_UPO", &provoz2.lstVYL_UPO}, SeznamPodleJmena{"lstmakra", &provoz2.lstmakra}};
-    for (const SeznamPodleJmena& s : seznamy)
-        if (s.jmeno == slovo)
-            return s.seznam;
+    if (slovo == "lstZpravy")
+        return &relief.lstZpravy;
+    if (slovo == "lstDenik")
+        return &relief.lstDenik;
+    for (std::size_t i = 0; i < kTechnologie.size(); ++i)
+        for (const SeznamTechnologie& s : seznamy_technologie(static_cast<Technologie>(i)))
+            if (s.jmeno == slovo)
+                return s.seznam;
     return nullptr;
 }
 
-void prikaz_klik(BehSkriptu&, Slova slova) {
+void prikaz_klik(BehSkriptu& beh, Slova slova) {
+    if (!beh.spusteno) {
+        if (slova[0] == "cmdStart")
+            prikaz_spust(beh, slova.subspan(1));
+        else if (slova[0] == "cmdOtevrit")
+            prikaz_otevrit(beh);
+        else if (!klik_startu(slova))
+            chyba_pred_startem("klik " + slova[0]);
+        return;
+    }
     if (slova[0] == "plocha") {
         if (slova.size() > 1)
             chyba_skriptu("klik plocha nemá další slova");
         klik_na_plochu();
+        return;
+    }
+    if (const auto zalozka = technologie_podle_jmena(slova[0])) {
+        if (slova.size() > 1)
+            chyba_skriptu("klik " + slova[0] + " nemá další slova");
+        if (!technologie_kryje_stul())
+            chyba_skriptu("záložka " + slova[0] + " není vidět: žádná obrazovka technologie není otevřená");
+        klik_na_zalozku(*zalozka);
         return;
     }
     if (Seznam* seznam = seznam_desky(slova[0])) {
@@ -390,15 +282,25 @@ void prikaz_menu(BehSkriptu&, Slova slova) {
     chyba_skriptu("menu " + hlava + " nemá položku " + v_uvozovkach(slova[0]) + "; má: " + nabidka);
 }
 
-void prikaz_klavesa(BehSkriptu&, Slova slova) {
+void prikaz_klavesa(BehSkriptu& beh, Slova slova) {
+    if (!beh.spusteno) {
+        if (slova[0] == "Enter")
+            prikaz_spust(beh, {});
+        else if (!klavesa_startu(slova[0]))
+            chyba_pred_startem("klavesa " + slova[0]);
+        return;
+    }
     const Klavesa k = klavesa_podle_jmena(text_slova(slova[0]));
     if (k.kod == KodKlavesy::zadna)
         chyba_skriptu("klávesu " + v_uvozovkach(slova[0]) + " pult nezná");
     klavesa(k);
 }
 
-void prikaz_pis(BehSkriptu&, Slova slova) {
-    pis_do_pole(text_slova(slova[0]));
+void prikaz_pis(BehSkriptu& beh, Slova slova) {
+    if (!beh.spusteno)
+        pis_startu(slova[0]);
+    else
+        pis_do_pole(text_slova(slova[0]));
 }
 
 void prikaz_odpovez(BehSkriptu&, Slova slova) {
@@ -560,7 +462,12 @@ void prikaz_nastav(BehSkriptu&, Slova slova) {
 
 // --- the table of commands
 
-enum class Kdy : std::uint8_t { pred_startem, po_startu, kdykoli };
+enum class Kdy : std::uint8_t {
+    priprava,     // set-up: before the start screen
+    pred_startem, // on the start screen
+    po_startu,    // on the desk
+    kdykoli,      // on either, or on none
+};
 
 struct PopisPrikazu {
     std::string_view jmeno;
@@ -574,12 +481,11 @@ struct PopisPrikazu {
 constexpr std::size_t kMnoho = 64;
 
 constexpr std::array kPrikazy = {
-    PopisPrikazu{"slozka", 1, 1, Kdy::pred_startem, false, "slozka SLOZKA", prikaz_slozka},
-    PopisPrikazu{"semeno", 1, 1, Kdy::pred_startem, false, "semeno N", prikaz_semeno},
-    PopisPrikazu{"pc", 2, 2, Kdy::pred_startem, false, "pc RRRR-MM-DD HH:MM:SS", prikaz_pc},
-    PopisPrikazu{"nastaveni", 3, 3, Kdy::pred_startem, false, "nastaveni SEKCE KLIC HODNOTA",
-                 prikaz_nastaveni},
-    PopisPrikazu{"ladeni", 1, 1, Kdy::pred_startem, false, "ladeni ano", prikaz_ladeni},
+    PopisPrikazu{"slozka", 1, 1, Kdy::priprava, false, "slozka SLOZKA", prikaz_slozka},
+    PopisPrikazu{"semeno", 1, 1, Kdy::priprava, false, "semeno N", prikaz_semeno},
+    PopisPrikazu{"pc", 2, 2, Kdy::priprava, false, "pc RRRR-MM-DD HH:MM:SS", prikaz_pc},
+    PopisPrikazu{"nastaveni", 3, 3, Kdy::priprava, false, "nastaveni SEKCE KLIC HODNOTA", prikaz_nastaveni},
+    PopisPrikazu{"ladeni", 1, 1, Kdy::priprava, false, "ladeni ano", prikaz_ladeni},
     PopisPrikazu{"spust", 0, kMnoho, Kdy::pred_startem, false,
                  "spust [cas=H:MM] [den=0..6] [rychlost=1..8] [gvd=JMENO] [pp=0/1] [zpozdeni=0/1] "
                  "[zvuk=0/1] [dual=0/1] [autosave=0/1] [autosaved=N] [noresize=0/1]",
@@ -589,14 +495,14 @@ constexpr std::array kPrikazy = {
                  prikaz_nacti},
     PopisPrikazu{"uloz", 1, 1, Kdy::po_startu, false, "uloz SOUBOR", prikaz_uloz},
     PopisPrikazu{"prihlas", 0, 0, Kdy::po_startu, false, "prihlas", prikaz_prihlas},
-    PopisPrikazu{"klik", 1, 3, Kdy::po_startu, false, "klik DRUH CISLO [ctrl] | klik plocha", prikaz_klik},
+    PopisPrikazu{"klik", 1, 3, Kdy::kdykoli, false, "klik DRUH CISLO [ctrl] | klik plocha", prikaz_klik},
     PopisPrikazu{"pravy", 1, 2, Kdy::po_startu, false, "pravy DRUH CISLO", prikaz_pravy},
     PopisPrikazu{"prostredni", 1, 2, Kdy::po_startu, false, "prostredni DRUH CISLO", prikaz_prostredni},
     PopisPrikazu{"dvojklik", 1, 2, Kdy::po_startu, false, "dvojklik DRUH CISLO", prikaz_dvojklik},
     PopisPrikazu{"najed", 1, 2, Kdy::po_startu, false, "najed DRUH CISLO | najed plocha", prikaz_najed},
-    PopisPrikazu{"menu", 1, 1, Kdy::po_startu, false, "menu POLOZKA", prikaz_menu},
-    PopisPrikazu{"klavesa", 1, 1, Kdy::po_startu, false, "klavesa NAZEV", prikaz_klavesa},
-    PopisPrikazu{"pis", 1, 1, Kdy::po_startu, false, "pis TEXT", prikaz_pis},
+    PopisPrikazu{"menu", 1, 1, Kdy::kdykoli, false, "menu POLOZKA", prikaz_menu},
+    PopisPrikazu{"klavesa", 1, 1, Kdy::kdykoli, false, "klavesa NAZEV", prikaz_klavesa},
+    PopisPrikazu{"pis", 1, 1, Kdy::kdykoli, false, "pis TEXT", prikaz_pis},
     PopisPrikazu{"odpovez", 1, 1, Kdy::kdykoli, false, "odpovez ano|ne|zrus|TEXT", prikaz_odpovez},
     PopisPrikazu{"cekej", 1, 1, Kdy::kdykoli, false, "cekej 30s | 1500ms | 10min", prikaz_cekej},
     PopisPrikazu{"cekej_do", 1, 1, Kdy::po_startu, false, "cekej_do H:MM:SS", prikaz_cekej_do},
@@ -651,9 +557,12 @@ void proved_radek(BehSkriptu& beh, std::string_view radek, bool jen_pohled) {
         chyba_skriptu("příkaz se píše: " + std::string(prikaz->zapis));
     if (jen_pohled && !prikaz->pohled)
         return;
-    if (prikaz->kdy == Kdy::pred_startem && beh.spusteno)
+    const bool pred = prikaz->kdy == Kdy::priprava || prikaz->kdy == Kdy::pred_startem;
+    if (pred && beh.spusteno)
         chyba_skriptu("příkaz " + v_uvozovkach(slova[0]) + " patří před spuštění simulace");
     if (prikaz->kdy == Kdy::po_startu && !beh.spusteno)
-        chyba_skriptu("příkaz " + v_uvozovkach(slova[0]) + " potřebuje spuštěnou simulaci");
+        chyba_pred_startem(slova[0]);
+    if (prikaz->kdy == Kdy::priprava)
+        zavri_obrazovku_startu();
     bezpecne([&] { prikaz->proved(beh, zbytek); });
 }

@@ -1,14 +1,13 @@
 // ui/hlavni.cpp - the desk's program: start screen, splash screen, main screen.
+#include "app/parametry.h"
 #include "app/simulace.h"
 #include "app/start.h"
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
 #include "ui/parametry.h"
-#include "ui/pismo.h"
 #include "ui/platforma_qt.h"
 #include "ui/uvod.h"
 #include "ui/zvuk.h"
-#include "zaklad/nahoda.h"
 #include "zaklad/platforma.h"
 
 #include <QApplication>
@@ -23,7 +22,7 @@
 
 namespace {
 
-std::unique_ptr<Parametry> parametry;
+std::unique_ptr<OknoParametru> formular;
 std::unique_ptr<UvodniObrazovka> uvod;
 std::unique_ptr<HlavniOkno> hlavni_okno;
 
@@ -50,8 +49,14 @@ void hlaseni_startu(QtMsgType druh, const QMessageLogContext&, const QString& te
 void ukaz_hlavni_obrazovku() {
     hlavni_okno = std::make_unique<HlavniOkno>();
     const QScreen* obrazovka = QGuiApplication::primaryScreen();
+    const bool pres_monitory = simulace.dva_monitory && obrazovka != nullptr &&
+                               obrazovka->virtualGeometry().width() > obrazovka->geometry().width();
     // The desk takes the screen unless the operator keeps his own display: then it comes in a window.
     if (simulace.noresize && obrazovka != nullptr && obrazovka->size().height() > kVyskaStolu / kTwipu) {
+        hlavni_okno->show();
+    } else if (pres_monitory) { // a full screen is one monitor; the desk of two lies over both
+        hlavni_okno->setWindowFlag(Qt::FramelessWindowHint);
+        hlavni_okno->setGeometry(obrazovka->virtualGeometry());
         hlavni_okno->show();
     } else {
         if (obrazovka != nullptr) // a screen without a window manager grants no size by itself
@@ -84,19 +89,24 @@ void nastav_vzhled(QApplication& aplikace) {
     aplikace.setStyleSheet(QStringLiteral("QMessageBox { border: 1px solid #6b7782; }"));
 }
 
-void priprav(const VolbyStartu& volby) {
-    if (!parametry) // the start is on its way: a key that waited behind the first one changes nothing
-        return;
-    Parametry* formular = parametry.release();
-    formular->hide();
-    uvod = std::make_unique<UvodniObrazovka>();
-    uvod->show();
+// The core lets the user interface run once when the splash screen is to be seen. Keys and clicks wait: they
+// belong to the screen that was there when they were made.
+void nech_bezet_ui() {
+    if (simulace.obrazovka == "frmUvod" && !uvod) {
+        if (formular)
+            formular->hide();
+        uvod = std::make_unique<UvodniObrazovka>();
+        uvod->show();
+    }
     QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
-    v_jadre([&] {
-        priprava_simulace();
-        nastav_hodiny(volby);
-    });
-    formular->deleteLater(); // it is this screen's own command that runs here
+}
+
+// The start screen's own command ends here, so the screen itself goes only when its event is done.
+void zacni_start() {
+    if (!formular)
+        return;
+    formular->hide();
+    formular.release()->deleteLater();
     QTimer::singleShot(kUvodniObrazovka_ms, [] {
         if (!je_konec())
             ukaz_hlavni_obrazovku();
@@ -117,20 +127,20 @@ int main(int pocet, char** slova) {
     nastav_vzhled(aplikace);
     nova_simulace();
     zapln_platformu();
-    nastav_cestu_aplikace();
+    platforma.nech_bezet_ui = nech_bezet_ui;
     zapni_zvuk();
-    nacti_pismo(soubor_aplikace("data\\kps.fon"));
 
-    int kod = 1;
-    if (instalace_v_poradku()) {
-        zasej_nahodu(platforma.semeno());
-        parametry = std::make_unique<Parametry>(priprav);
-        parametry->show();
-        kod = je_konec() ? navratovy_kod() : QApplication::exec();
+    bool pripravena = false;
+    v_jadre([&] { pripravena = nacti_start(slozka_programu()); });
+    if (pripravena && !je_konec()) {
+        formular = std::make_unique<OknoParametru>(zacni_start);
+        formular->show();
+        formular->activateWindow();
     }
+    const int kod = je_konec() ? navratovy_kod() : QApplication::exec();
     hlavni_okno.reset();
     uvod.reset();
-    parametry.reset();
+    formular.reset();
     vypni_zvuk();
     return kod;
 }

@@ -1,16 +1,13 @@
-// ui/parametry.cpp - the start screen: what is to be simulated, and the start command.
+// ui/parametry.cpp - the start screen: shows the core's record of it and hands the operator's choices back.
 #include "ui/parametry.h"
 
-#include "app/nastaveni.h"
 #include "app/simulace.h"
-#include "gvd/gvd.h"
+#include "app/vstup.h"
+#include "desk/menu.h"
 #include "ui/brana.h"
+#include "ui/kresba.h"
 #include "ui/pismo.h"
-#include "zaklad/chyba.h"
-#include "zaklad/cisla.h"
-#include "zaklad/nahoda.h"
-#include "zaklad/platforma.h"
-#include "zaklad/soubory.h"
+#include "ui/uvod.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
@@ -18,309 +15,699 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QPushButton>
+#include <QMenu>
+#include <QPainter>
+#include <QPainterPath>
+#include <QRegularExpression>
 #include <QScreen>
+#include <QScrollBar>
+#include <QTextBlock>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 namespace {
 
-constexpr TextPohled kSekce = "Nastaveni";
-constexpr TextPohled kTitul = "KPS RVZ TESK";
+constexpr QColor kAzur(0, 229, 229), kPismo(213, 219, 225), kTlumene(138, 148, 158), kCara(52, 61, 71);
 
+// Lengths are of the screen's own measure and are scaled with it.
 constexpr const char* kVzhled =
-    "QWidget { background: #12161b; color: #d5dbe1; }"
-    "QLabel#nadpis { color: #ffffff; }"
-    "QLabel#podnadpis, QLabel#tlumeny { color: #8a949e; }"
-    "QGroupBox { border: 1px solid #343d47; margin-top: 14px; padding: 8px 10px 10px 10px; }"
-    "QGroupBox::title { subcontrol-origin: margin; left: 8px; padding: 0 4px; color: #00e5e5; }"
-    "QLineEdit, QComboBox { background: #05070a; border: 1px solid #4a5560; padding: 3px 6px; color: #fff;"
-    " selection-background-color: #2050c0; }"
-    "QLineEdit:focus, QComboBox:focus { border-color: #00e5e5; }"
-    "QComboBox QAbstractItemView { background: #05070a; color: #fff; selection-background-color: #000080; }"
-    "QPushButton { background: #2a323b; border: 1px solid #4a5560; padding: 5px 14px; }"
-    "QPushButton:hover, QPushButton:focus { border-color: #00e5e5; }"
-    "QPushButton#start { background: #0a6b1f; border-color: #19e64b; color: #fff; padding: 9px 34px; }"
+    "OknoParametru, QWidget#plocha { background: #12161b; }"
+    "QWidget { color: #d5dbe1; font-size: 13px; }"
+    "QWidget#hlava { background: #000; }"
+    "QLabel#tlumeny { color: #8a949e; }"
+    "QGroupBox { border: 1px solid #343d47; border-radius: 3px; margin-top: 9px; padding: 14px 10px 8px "
+    "10px; }"
+    "QGroupBox::title { subcontrol-origin: margin; left: 9px; padding: 0 5px; color: #00e5e5; }"
+    "QLineEdit, QComboBox, QPlainTextEdit { background: #05070a; border: 1px solid #4a5560;"
+    " border-radius: 2px; color: #fff; selection-background-color: #2050c0; selection-color: #fff; }"
+    "QLineEdit, QComboBox { padding: 4px 6px; }"
+    "QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus { border-color: #00e5e5; }"
+    "QLineEdit#cas { font-size: 26px; padding: 3px 4px; }"
+    "QLabel#cas { font-size: 26px; }"
+    "QComboBox::drop-down { border: none; width: 22px; }"
+    "QComboBox::down-arrow { width: 0; height: 0; }"
+    "QComboBox QAbstractItemView { background: #05070a; color: #fff; border: 1px solid #4a5560;"
+    " selection-background-color: #000080; outline: 0; }"
+    "QPushButton { background: #232a32; border: 1px solid #4a5560; border-radius: 2px; padding: 5px 11px; }"
+    "QPushButton:hover { background: #2d3640; }"
+    "QPushButton:focus { border-color: #00e5e5; }"
+    "QPushButton:pressed { background: #0b3f40; }"
+    "QPushButton#rad { background: #05070a; color: #fff; text-align: left; padding: 6px 8px; }"
+    "QPushButton#stranka { background: transparent; border: 1px solid transparent; padding: 4px 8px;"
+    " text-align: left; }"
+    "QPushButton#stranka:hover { background: #1d242b; }"
+    "QPushButton#stranka:focus { border-color: #00e5e5; }"
+    "QPushButton#stranka:checked { background: #0b2f30; border-color: #0e6b6c; color: #fff; }"
+    "QPushButton#start { background: #0a6b1f; border-color: #14a035; color: #fff; padding: 9px 26px; }"
     "QPushButton#start:hover { background: #0d8a29; }"
-    "QCheckBox::indicator { width: 13px; height: 13px; border: 1px solid #6b7782; background: #05070a; }"
-    "QCheckBox::indicator:checked { background: #19e64b; }"
-    "QCheckBox:focus { color: #00e5e5; }";
+    "QPushButton#start:focus { border-color: #fff; }"
+    "QCheckBox { spacing: 8px; padding: 3px 2px; }"
+    "QCheckBox::indicator { width: 13px; height: 13px; border: 1px solid #6b7782; border-radius: 2px;"
+    " background: #05070a; }"
+    "QCheckBox::indicator:checked { background: #19e64b; border: 3px solid #05070a; }"
+    "QCheckBox::indicator:checked:focus, QCheckBox::indicator:focus { border-color: #00e5e5; }"
+    "QCheckBox:focus { color: #00e5e5; }"
+    "QCheckBox:disabled { color: #5d6771; }"
+    "QCheckBox::indicator:disabled { border-color: #3a444e; background: #12161b; }"
+    "QMenu { background: #1a2027; border: 1px solid #4a5560; padding: 2px; }"
+    "QMenu::item { padding: 5px 22px 5px 12px; color: #fff; }"
+    "QMenu::item:selected { background: #000080; }"
+    "QScrollBar:vertical { background: #0b0e12; width: 12px; margin: 0; }"
+    "QScrollBar::handle:vertical { background: #3c4753; min-height: 20px; border-radius: 2px; }"
+    "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }";
 
-constexpr TextPohled kSoubory[] = {"data\\tesk.zat", "data\\tesk.rea", "data\\tesk.reb", "data\\tesk.pzz",
-                                   "data\\tesk.top", "data\\tesk.mak", "data\\tesk.stg", "data\\tesk.zpc"};
-
-std::vector<Text> soubory_gvd() {
-    return soubory_slozky(simulace.cesta_aplikace + "gvd", "GVD*.dat");
+// The style sheet with its lengths multiplied.
+QString vzhled(double krat) {
+    static const QRegularExpression delka(QStringLiteral("(\\d+)px"));
+    const QString puvodni = QString::fromUtf8(kVzhled);
+    QString novy;
+    qsizetype konec = 0;
+    for (auto it = delka.globalMatch(puvodni); it.hasNext();) {
+        const QRegularExpressionMatch nalez = it.next();
+        const int bodu = nalez.captured(1).toInt();
+        novy += puvodni.mid(konec, nalez.capturedStart() - konec);
+        novy += QString::number(bodu <= 1 ? bodu : qRound(bodu * krat)) + QStringLiteral("px");
+        konec = nalez.capturedEnd();
+    }
+    return novy + puvodni.mid(konec);
 }
 
-QString bez_pripony(const Text& soubor) {
-    return na_qstring(soubor.substr(0, soubor.size() - 4));
+// --- pictures of the buttons
+
+enum class Obrazek : std::uint8_t { moznosti, o_aplikaci, konec, navod, slozka, start };
+
+void nakresli(QPainter& p, Obrazek co) { // in a square of 16 by 16
+    constexpr double kStred = 8;
+    switch (co) {
+    case Obrazek::moznosti: { // two sliders
+        for (const auto& [y, jezdec] : {std::pair{5.0, 10.5}, std::pair{11.0, 5.5}}) {
+            p.drawLine(QPointF(2, y), QPointF(14, y));
+            p.setBrush(p.pen().color());
+            p.drawEllipse(QPointF(jezdec, y), 1.8, 1.8);
+        }
+        return;
+    }
+    case Obrazek::o_aplikaci:
+        p.drawEllipse(QPointF(kStred, kStred), 6, 6);
+        p.drawLine(QPointF(kStred, 7.5), QPointF(kStred, 11));
+        p.drawPoint(QPointF(kStred, 5));
+        return;
+    case Obrazek::konec:
+        p.drawArc(QRectF(3, 3, 10, 10), 125 * 16, 290 * 16);
+        p.drawLine(QPointF(kStred, 2), QPointF(kStred, 7));
+        return;
+    case Obrazek::navod: // an open book
+        p.drawLine(QPointF(kStred, 4.5), QPointF(kStred, 13));
+        p.drawPolyline(QPolygonF{{8, 4.5}, {5.5, 3}, {2, 3}, {2, 11.5}, {5.5, 11.5}, {8, 13}});
+        p.drawPolyline(QPolygonF{{8, 4.5}, {10.5, 3}, {14, 3}, {14, 11.5}, {10.5, 11.5}, {8, 13}});
+        return;
+    case Obrazek::slozka:
+        p.drawPolygon(QPolygonF{{2, 3.5}, {6.5, 3.5}, {8, 5.5}, {14, 5.5}, {14, 13}, {2, 13}});
+        return;
+    case Obrazek::start:
+        p.setBrush(p.pen().color());
+        p.drawPolygon(QPolygonF{{4.5, 3}, {13, 8}, {4.5, 13}});
+        return;
+    }
 }
 
-// A number of a field in its bounds, by the rules of the store; -1 when it is none.
-int cislo_pole(const QLineEdit* pole, int pod) {
-    const std::optional<double> hodnota = ciselny_text(z_qstring(pole->text()));
-    if (!hodnota || !(*hodnota > -1) || !(*hodnota < pod))
-        return -1;
-    const double cele = zaokrouhli(*hodnota);
-    return cele < 0 || cele >= pod ? -1 : static_cast<int>(cele);
+QIcon obrazek(Obrazek co, const QColor& barva) {
+    QIcon ikona;
+    for (const int velikost : {16, 32, 64}) {
+        QPixmap pixmapa(velikost, velikost);
+        pixmapa.fill(Qt::transparent);
+        QPainter p(&pixmapa);
+        p.setRenderHint(QPainter::Antialiasing);
+        p.scale(velikost / 16.0, velikost / 16.0);
+        p.setPen(QPen(barva, 1.4, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        nakresli(p, co);
+        p.end();
+        ikona.addPixmap(pixmapa);
+    }
+    return ikona;
+}
+
+// The head of the screen: the name, and a station throat with a route set through it.
+class Hlava : public QWidget {
+public:
+    Hlava(double krat, QWidget* rodic) : QWidget(rodic), meritko(krat) {
+        setFixedHeight(qRound(92 * krat));
+        setAccessibleName(na_qstring(parametry.lblVerze).trimmed());
+    }
+
+protected:
+    void paintEvent(QPaintEvent*) override {
+        QPainter p(this);
+        const double pomer = devicePixelRatioF();
+        p.scale(1 / pomer, 1 / pomer);
+        const double k = meritko * pomer;
+        const int sirka = qRound(width() * pomer), vyska = qRound(height() * pomer);
+        p.fillRect(0, 0, sirka, vyska, Qt::black);
+        Meritko m;
+        m.k = 1.5 * k / kTwipu;
+        m.x0 = sirka - qRound(408 * k);
+        m.y0 = qRound(18 * k);
+        nakresli_zhlavi(p, m);
+        const auto radek = [&](double x, double y, double krat, TextPohled text, Barva barva) {
+            kresli_radek(p, x * k, y * k, kSirkaBunky * krat * k, kVyskaBunky * krat * k, text, barva,
+                         Znaky::pismena);
+        };
+        radek(24, 18, 2.5, "KPS RVZ TESK", barvy::bila);
+        radek(25, 60, 1, "verze "_cz, barvy::seda);
+        radek(25 + 6 * kSirkaBunky, 60, 1, text_verze(), barvy::seda);
+        p.fillRect(0, vyska - std::max(1, qRound(k)), sirka, std::max(1, qRound(k)), kCara);
+    }
+
+private:
+    double meritko;
+};
+
+// A small triangle, at the right edge of what opens a list.
+void nakresli_sipku(QPainter& p, const QRect& kde, double krat) {
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(Qt::NoPen);
+    p.setBrush(kTlumene);
+    const QPointF stred(kde.right() - 12 * krat, kde.center().y() + 0.5);
+    p.drawPolygon(QPolygonF{stred + QPointF(-4, -2) * krat, stred + QPointF(4, -2) * krat,
+                            stred + QPointF(0, 3) * krat});
+}
+
+class VyberZeSeznamu : public QComboBox {
+public:
+    explicit VyberZeSeznamu(double krat) : meritko(krat) {}
+
+protected:
+    void paintEvent(QPaintEvent* udalost) override {
+        QComboBox::paintEvent(udalost);
+        QPainter p(this);
+        nakresli_sipku(p, rect(), meritko);
+    }
+
+private:
+    double meritko;
+};
+
+class TlacitkoNabidky : public QPushButton {
+public:
+    explicit TlacitkoNabidky(double krat) : meritko(krat) {}
+
+protected:
+    void paintEvent(QPaintEvent* udalost) override {
+        QPushButton::paintEvent(udalost);
+        QPainter p(this);
+        nakresli_sipku(p, rect(), meritko);
+    }
+
+private:
+    double meritko;
+};
+
+// Text of the core for a button or box; "&" would underline the next letter.
+QString popisek(TextPohled text) {
+    return na_qstring(text).replace(u'&', QStringLiteral("&&"));
 }
 
 } // namespace
 
-bool instalace_v_poradku() {
-    if (platforma.bezi_jina_instance()) {
-        platforma.okno(kTitul, "Již je spuštěna jedna instance simulátoru TESK! Další instanci bez ukončení "
-                               "předešlé nelze spustit!"_cz);
-        return false;
-    }
-    if (simulace.cesta_aplikace.starts_with("\\\\")) {
-        platforma.okno(kTitul, "Simulátor není možné spouštět ze sítě. Překopírujte si ho na místní pevný "
-                               "disk."_cz);
-        return false;
-    }
-    for (const TextPohled soubor : kSoubory) {
-        const Text cesta = simulace.cesta_aplikace + Text(soubor);
-        if (delka_souboru(cesta))
-            continue;
-        platforma.okno(kTitul, Text("Soubor "_cz) + cesta +
-                                   Text(" je poškozen, nelze ho otevřít nebo chybí! Nahraďte jej originálním "
-                                        "souborem z instalačního balíčku."_cz));
-        return false;
-    }
-    if (soubory_gvd().empty()) {
-        platforma.okno(kTitul,
-                       "Nenalezen žádný soubor s GVD daty (...\\GVD\\*GVD*.dat)! Simulaci nelze spustit. "
-                       "Problém odstraníte opětovným rozbalením(spuštěním) instalačního balíčku."_cz);
-        return false;
-    }
-    return true;
+int OknoParametru::px(double bodu) const {
+    return qRound(bodu * meritko);
 }
 
-Parametry::Parametry(std::function<void(const VolbyStartu&)> co) : spustit(std::move(co)) {
-    setWindowTitle(QStringLiteral("KPS RVZ TESK"));
-    setStyleSheet(QLatin1String(kVzhled));
-    setFont(pismo_poli(13));
+QFont OknoParametru::pismo(double vyska) const {
+    return pismo_poli(vyska * meritko);
+}
 
-    auto* nadpis = new QLabel(QStringLiteral("KPS RVZ TESK"));
-    nadpis->setObjectName(QStringLiteral("nadpis"));
-    nadpis->setFont(pismo_poli(39));
-    auto* podnadpis = new QLabel(QStringLiteral("Simulátor stanoviště dispečera železničního uzlu · verze %1")
-                                     .arg(na_qstring(text_verze())));
-    podnadpis->setObjectName(QStringLiteral("podnadpis"));
+QPushButton* OknoParametru::tlacitko(const QString& text, std::function<void()> akce) {
+    auto* t = new QPushButton(text);
+    connect(t, &QPushButton::clicked, this, std::move(akce));
+    return t;
+}
 
-    auto* cas = new QGroupBox(QStringLiteral("Začátek simulace"));
-    txtHodiny = new QLineEdit, txtMinuty = new QLineEdit;
-    for (QLineEdit* pole : {txtHodiny, txtMinuty}) {
-        pole->setMaxLength(4);
-        pole->setFixedWidth(52);
-        pole->setAlignment(Qt::AlignCenter);
-        pole->installEventFilter(this);
-    }
-    cboDen = new QComboBox;
-    cboDen->addItems({QStringLiteral("Pondělí"), QStringLiteral("Úterý"), QStringLiteral("Středa"),
-                      QStringLiteral("Čtvrtek"), QStringLiteral("Pátek"), QStringLiteral("Sobota"),
-                      QStringLiteral("Neděle")});
-    cboRychlost = new QComboBox;
-    cboRychlost->addItems(
-        {QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("3"), QStringLiteral("4")});
-    auto* nahodny = new QPushButton(QStringLiteral("Náhodný čas"));
-    connect(nahodny, &QPushButton::clicked, this, [this] { // never hour 23 nor minute 59: kept so
-        const int hodina = static_cast<int>(nahodne() * 23), minuta = static_cast<int>(nahodne() * 59);
-        txtHodiny->setText(QString::number(hodina));
-        txtMinuty->setText(na_qstring(text_cisla_mist(minuta, 2)));
+QCheckBox* OknoParametru::policko(const QString& text, std::function<void(bool)> zmena) {
+    auto* p = new QCheckBox(text);
+    connect(p, &QCheckBox::toggled, this,
+            [this, zmena = std::move(zmena)](bool zapnuto) { prikaz([&] { zmena(zapnuto); }); });
+    return p;
+}
+
+QLineEdit* OknoParametru::pole(PoleStartu ktere) {
+    auto* p = new QLineEdit;
+    p->setMaxLength(8);
+    p->setAlignment(Qt::AlignCenter);
+    p->installEventFilter(this);
+    connect(p, &QLineEdit::textEdited, this, [this, ktere](const QString& text) {
+        prikaz([&] { pis_do_pole_startu(ktere, z_qstring(text)); });
     });
-    auto* radek_casu = new QHBoxLayout;
-    radek_casu->addWidget(txtHodiny);
-    radek_casu->addWidget(new QLabel(QStringLiteral(":")));
-    radek_casu->addWidget(txtMinuty);
-    radek_casu->addSpacing(12);
-    radek_casu->addWidget(nahodny);
-    radek_casu->addStretch();
+    return p;
+}
+
+OknoParametru::OknoParametru(std::function<void()> co) : spusteno(std::move(co)) {
+    if (const QScreen* obrazovka = QGuiApplication::primaryScreen()) {
+        // the screen of the desk's own size is shown as it is; from half as much more it grows in halves
+        const QSize s = obrazovka->availableSize();
+        meritko = std::max(1.0, std::floor(2 * std::min(s.width() / 1280.0, s.height() / 960.0)) / 2);
+    }
+    setWindowTitle(QStringLiteral("KPS RVZ TESK"));
+    setObjectName(QStringLiteral("plocha"));
+    setAttribute(Qt::WA_StyledBackground);
+    setStyleSheet(vzhled(meritko));
+
+    stranky = new QStackedWidget;
+    stranky->addWidget(hlavni_stranka());
+    stranky->addWidget(stranka_moznosti());
+    stranky->addWidget(stranka_o_aplikaci());
+    auto* stred = new QVBoxLayout;
+    stred->setContentsMargins(px(20), px(12), px(20), px(14));
+    stred->setSpacing(px(12));
+    stred->addWidget(stranky, 1);
+    stred->addWidget(pata());
+    auto* vse = new QVBoxLayout(this);
+    vse->setContentsMargins(0, 0, 0, 0);
+    vse->setSpacing(0);
+    vse->addWidget(hlava());
+    vse->addLayout(stred, 1);
+
+    ukaz();
+    for (QWidget* ovladac : findChildren<QWidget*>()) { // the style counts in every size
+        ovladac->ensurePolished();
+        if (QLayout* rozvrzeni = ovladac->layout())
+            rozvrzeni->invalidate();
+    }
+    const int sirka = std::max(sizeHint().width(), px(820));
+    setFixedSize(sirka, std::max(sizeHint().height(), layout()->totalHeightForWidth(sirka)) + px(16));
+    umisti();
+    txtHodiny->setFocus();
+}
+
+QWidget* OknoParametru::hlava() {
+    return new Hlava(meritko, this);
+}
+
+QWidget* OknoParametru::hlavni_stranka() {
+    auto* cas = new QGroupBox(QStringLiteral("Začátek služby"));
+    txtHodiny = pole(PoleStartu::txtHodiny);
+    txtMinuty = pole(PoleStartu::txtMinuty);
+    for (QLineEdit* p : {txtHodiny, txtMinuty}) {
+        p->setObjectName(QStringLiteral("cas"));
+        p->setFixedWidth(px(64));
+    }
+    txtHodiny->setAccessibleName(QStringLiteral("Hodiny"));
+    txtMinuty->setAccessibleName(QStringLiteral("Minuty"));
+    auto* dvojtecka = new QLabel(QStringLiteral(":"));
+    dvojtecka->setObjectName(QStringLiteral("cas"));
+    QPushButton* nahodny =
+        tlacitko(QStringLiteral("&Náhodný čas"), [this] { prikaz([] { nahodny_cas(); }); });
+    miOblibena = new TlacitkoNabidky(meritko);
+    miOblibena->setText(QStringLiteral("O&blíbené"));
+    connect(miOblibena, &QPushButton::clicked, this, [this] {
+        prikaz([] { otevri_oblibene(); });
+        nabidka(miOblibena);
+    });
+    QPushButton* pridat =
+        tlacitko(QStringLiteral("&Přidat oblíbený"), [this] { prikaz([] { pridej_oblibeny(); }); });
+    cboDen = new VyberZeSeznamu(meritko);
+    for (const TextPohled den : kDnyStartu)
+        cboDen->addItem(na_qstring(den));
+    connect(cboDen, &QComboBox::currentIndexChanged, this,
+            [this](int i) { prikaz([&] { parametry.cboDen = i; }); });
+    cboRychlost = new VyberZeSeznamu(meritko);
+    for (int i = 1; i <= kRychlostiStartu; ++i)
+        cboRychlost->addItem(QString::number(i));
+    connect(cboRychlost, &QComboBox::currentIndexChanged, this,
+            [this](int i) { prikaz([&] { parametry.cboRychlost = i; }); });
+    const auto popis = [](const QString& text, QWidget* komu) {
+        auto* l = new QLabel(text);
+        l->setBuddy(komu);
+        return l;
+    };
+    auto* hodiny = new QHBoxLayout;
+    hodiny->setSpacing(px(5));
+    hodiny->addWidget(txtHodiny);
+    hodiny->addWidget(dvojtecka);
+    hodiny->addWidget(txtMinuty);
+    hodiny->addStretch();
+    hodiny->addWidget(nahodny);
+    auto* oblibene = new QHBoxLayout;
+    oblibene->setSpacing(px(6));
+    oblibene->addWidget(miOblibena, 1);
+    oblibene->addWidget(pridat, 1);
     auto* mrizka = new QGridLayout(cas);
-    mrizka->addWidget(new QLabel(QStringLiteral("Čas")), 0, 0);
-    mrizka->addLayout(radek_casu, 0, 1);
-    mrizka->addWidget(new QLabel(QStringLiteral("Den")), 1, 0);
-    mrizka->addWidget(cboDen, 1, 1);
-    mrizka->addWidget(new QLabel(QStringLiteral("Rychlost")), 2, 0);
-    mrizka->addWidget(cboRychlost, 2, 1);
+    mrizka->setContentsMargins(0, 0, 0, 0);
+    mrizka->setHorizontalSpacing(px(12));
+    mrizka->setVerticalSpacing(px(8));
+    mrizka->addWidget(popis(QStringLiteral("Č&as"), txtHodiny), 0, 0);
+    mrizka->addLayout(hodiny, 0, 1);
+    mrizka->addLayout(oblibene, 1, 1);
+    mrizka->addWidget(popis(QStringLiteral("&Den"), cboDen), 2, 0);
+    mrizka->addWidget(cboDen, 2, 1);
+    mrizka->addWidget(popis(QStringLiteral("&Rychlost"), cboRychlost), 3, 0);
+    mrizka->addWidget(cboRychlost, 3, 1);
     mrizka->setColumnStretch(1, 1);
 
-    auto* rad = new QGroupBox(QStringLiteral("Jízdní řád"));
-    miGVD = new QComboBox;
+    auto* rad = new QGroupBox(QStringLiteral("&Jízdní řád"));
+    miGVD = new TlacitkoNabidky(meritko);
+    connect(miGVD, &QPushButton::clicked, this, [this] {
+        prikaz([] { otevri_nabidku_gvd(); });
+        nabidka(miGVD);
+    });
+    miGVD->setObjectName(QStringLiteral("rad"));
+    miGVD->setAccessibleName(QStringLiteral("Jízdní řád"));
     lblGVD_popis_aktualni = new QLabel;
     lblGVD_popis_aktualni->setObjectName(QStringLiteral("tlumeny"));
     lblGVD_popis_aktualni->setWordWrap(true);
-    lblGVD_popis_aktualni->setMinimumHeight(30);
-    chkZpozdeni = new QCheckBox(QStringLiteral("Zpoždění vlaků na vstupu"));
-    chkPP = new QCheckBox(QStringLiteral("Vlaky PP"));
-    auto* sloupec_radu = new QVBoxLayout(rad);
-    sloupec_radu->addWidget(miGVD);
-    sloupec_radu->addWidget(lblGVD_popis_aktualni);
-    sloupec_radu->addWidget(chkZpozdeni);
-    sloupec_radu->addWidget(chkPP);
-    sloupec_radu->addStretch();
+    lblGVD_popis_aktualni->setTextFormat(Qt::PlainText);
+    lblGVD_popis_aktualni->setAlignment(Qt::AlignTop);
+    lblGVD_popis_aktualni->setFixedHeight(px(50)); // three lines; more are in the tip
+    chkZpozdeni =
+        policko(QStringLiteral("&Zpoždění vlaků na vstupu"), [](bool z) { parametry.chkZpozdeni = z; });
+    chkPP = policko(QStringLiteral("&Vlaky PP (podle potřeby)"), [](bool z) { parametry.chkPP = z; });
+    auto* sloupec = new QVBoxLayout(rad);
+    sloupec->setContentsMargins(0, 0, 0, 0);
+    sloupec->setSpacing(px(6));
+    sloupec->addWidget(miGVD);
+    sloupec->addWidget(lblGVD_popis_aktualni);
+    sloupec->addStretch();
+    sloupec->addWidget(chkZpozdeni);
+    sloupec->addWidget(chkPP);
 
-    auto* moznosti = new QGroupBox(QStringLiteral("Nastavení dalších možností"));
-    chkZvuk = new QCheckBox(QStringLiteral("Zvuk vypnut"));
-    chkNoresize = new QCheckBox(QStringLiteral("Neměnit rozlišení (stůl v okně)"));
-    chkDualMonitor = new QCheckBox(QStringLiteral("Zakázat podporu dvou monitorů"));
-    chkAutosave = new QCheckBox(QStringLiteral("Ukládat samočinně po"));
-    txtAutosave = new QLineEdit;
-    txtAutosave->setFixedWidth(52);
-    txtAutosave->setAlignment(Qt::AlignCenter);
+    lblInfo_verze = new QPlainTextEdit;
+    lblInfo_verze->setReadOnly(true);
+    lblInfo_verze->setTabChangesFocus(true);
+    lblInfo_verze->setLineWrapMode(QPlainTextEdit::NoWrap);
+    lblInfo_verze->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    constexpr int kNejvicRadku = 16; // further timetables are scrolled to
+    const int radku = std::min(static_cast<int>(parametry.lblInfo_verze.size()), kNejvicRadku);
+    lblInfo_verze->setMinimumHeight(px(radku * kVyskaBunky + 20));
+    lblInfo_verze->setStyleSheet(QStringLiteral("font-family: '%1'; font-size: %2px;")
+                                     .arg(pismo(kVyskaBunky).family())
+                                     .arg(pismo(kVyskaBunky).pixelSize()));
+    lblInfo_verze->document()->setDocumentMargin(px(8));
+    lblInfo_verze->setAccessibleName(QStringLiteral("Verze souborů"));
+    lblInfo_verze->installEventFilter(this);
+
+    auto* stranka = new QWidget;
+    auto* horni = new QHBoxLayout;
+    horni->setSpacing(px(14));
+    horni->addWidget(cas, 1);
+    horni->addWidget(rad, 1);
+    auto* vse = new QVBoxLayout(stranka);
+    vse->setContentsMargins(0, 0, 0, 0);
+    vse->setSpacing(px(12));
+    vse->addLayout(horni);
+    vse->addWidget(lblInfo_verze, 1);
+    return stranka;
+}
+
+QWidget* OknoParametru::stranka_moznosti() {
+    auto* skupina = new QGroupBox(na_qstring(kStrankyStartu[1]));
+    chkZvuk = policko(QStringLiteral("&Zvuk vypnut"), [](bool z) { nastav_zvuk(z); });
+    chkNoresize = policko(QStringLiteral("&Neměnit rozlišení (stůl v okně)"),
+                          [](bool z) { parametry.chkNoresize = z; });
+    chkDualMonitor = policko(QStringLiteral("Zakázat podporu &dvou monitorů"),
+                             [](bool z) { parametry.chkDualMonitor = z; });
+    chkAutosave = policko(QStringLiteral("Ukládat &samočinně po"), [](bool z) { parametry.chkAutosave = z; });
+    txtAutosave = pole(PoleStartu::txtAutosave);
+    txtAutosave->setFixedWidth(px(64));
+    txtAutosave->setAccessibleName(QStringLiteral("Perioda ukládání v odehraných minutách"));
     lblMonitor = new QLabel;
     lblMonitor->setObjectName(QStringLiteral("tlumeny"));
-    auto* radek_ukladani = new QHBoxLayout;
-    radek_ukladani->addWidget(chkAutosave);
-    radek_ukladani->addWidget(txtAutosave);
-    radek_ukladani->addWidget(new QLabel(QStringLiteral("odehraných minutách")));
-    radek_ukladani->addStretch();
-    auto* mrizka_moznosti = new QGridLayout(moznosti);
-    mrizka_moznosti->addWidget(chkZvuk, 0, 0);
-    mrizka_moznosti->addWidget(chkNoresize, 1, 0);
-    mrizka_moznosti->addWidget(chkDualMonitor, 0, 1);
-    mrizka_moznosti->addLayout(radek_ukladani, 1, 1);
-    mrizka_moznosti->addWidget(lblMonitor, 2, 0, 1, 2);
+    auto* ukladani = new QHBoxLayout;
+    ukladani->setSpacing(px(8));
+    ukladani->addWidget(chkAutosave);
+    ukladani->addWidget(txtAutosave);
+    ukladani->addWidget(new QLabel(QStringLiteral("odehraných minutách")));
+    ukladani->addStretch();
+    auto* sloupec = new QVBoxLayout(skupina);
+    sloupec->setContentsMargins(0, 0, 0, 0);
+    sloupec->setSpacing(px(7));
+    sloupec->addWidget(chkZvuk);
+    sloupec->addLayout(ukladani);
+    sloupec->addWidget(chkNoresize);
+    sloupec->addWidget(chkDualMonitor);
+    sloupec->addWidget(lblMonitor);
 
-    auto* spustit_simulaci = new QPushButton(QStringLiteral("Spustit simulaci"));
-    spustit_simulaci->setObjectName(QStringLiteral("start"));
-    auto* konec = new QPushButton(QStringLiteral("Konec"));
-    connect(spustit_simulaci, &QPushButton::clicked, this, [this] { start(); });
-    connect(konec, &QPushButton::clicked, this, [] { skonci(0); });
-    connect(miGVD, &QComboBox::currentIndexChanged, this, [this] { vyber_gvd(); });
-    connect(chkZvuk, &QCheckBox::toggled, this, [](bool zapnuto) { simulace.zvuk_vypnut = zapnuto; });
-
-    auto* napoveda = new QLabel(QStringLiteral("Enter: spustit"));
-    napoveda->setObjectName(QStringLiteral("tlumeny"));
-    auto* pata = new QHBoxLayout;
-    pata->addWidget(napoveda);
-    pata->addStretch();
-    pata->addWidget(konec);
-    pata->addWidget(spustit_simulaci);
-
-    auto* stred = new QHBoxLayout;
-    stred->addWidget(cas, 1);
-    stred->addWidget(rad, 1);
-    auto* vse = new QVBoxLayout(this);
-    vse->setContentsMargins(24, 20, 24, 20);
-    vse->addWidget(nadpis);
-    vse->addWidget(podnadpis);
-    vse->addSpacing(8);
-    vse->addLayout(stred);
-    vse->addWidget(moznosti);
-    vse->addSpacing(6);
-    vse->addLayout(pata);
-    setFixedSize(sizeHint().expandedTo({640, 0}));
-    if (const QScreen* obrazovka = QGuiApplication::primaryScreen())
-        move(obrazovka->availableGeometry().center() - QPoint(width() / 2, height() / 2));
-
-    v_jadre([this] { napln(); });
-    txtHodiny->setFocus();
-    txtHodiny->selectAll();
-}
-
-void Parametry::napln() {
-    const NastennyCas ted = platforma.nastenny_cas();
-    txtHodiny->setText(QString::number(ted.hodina));
-    txtMinuty->setText(na_qstring(text_cisla_mist(ted.minuta, 2)));
-    cboDen->setCurrentIndex(ted.den_tydne());
-
-    const RezimObrazovky rezim = platforma.rezim();
-    simulace.dva_monitory = rezim.sirka / 2.5 > rezim.vyska;
-    lblMonitor->setText(simulace.dva_monitory ? QStringLiteral("DUAL monitor detected")
-                                              : QStringLiteral("SINGLE monitor  detected"));
-
-    const Text ulozeny = platforma.nastaveni_cti(kSekce, "GVD").value_or(Text{});
-    for (const Text& soubor : soubory_gvd()) {
-        miGVD->addItem(bez_pripony(soubor));
-        if (stejne_bez_velikosti(soubor, ulozeny))
-            miGVD->setCurrentIndex(miGVD->count() - 1);
+    auto* provoz = new QGroupBox(QStringLiteral("Mimořádnosti v provozu"));
+    auto* sloupec_provozu = new QVBoxLayout(provoz);
+    sloupec_provozu->setContentsMargins(0, 0, 0, 0);
+    sloupec_provozu->setSpacing(px(7));
+    for (const TextPohled volba : kVolbyBezUcinku) {
+        auto* p = new QCheckBox(popisek(volba));
+        p->setEnabled(false);
+        sloupec_provozu->addWidget(p);
     }
 
-    const auto volba = [](TextPohled klic, int vychozi) {
-        return nastaveni_cislo(kSekce, klic, vychozi) != 0;
+    auto* stranka = new QWidget;
+    auto* vse = new QVBoxLayout(stranka);
+    vse->setContentsMargins(0, 0, 0, 0);
+    vse->setSpacing(px(12));
+    vse->addWidget(skupina);
+    vse->addWidget(provoz);
+    vse->addStretch();
+    return stranka;
+}
+
+QWidget* OknoParametru::stranka_o_aplikaci() {
+    auto* skupina = new QGroupBox(na_qstring(kStrankyStartu[2]));
+    auto* text = new QLabel(
+        QStringLiteral(
+            "<p style='color:#fff'>%1</p>"
+            "<p>Simulátor pracoviště dispečera, který z jednoho stolu řídí provoz v uzlu Tesk: hlavní "
+            "nádraží, sousední stanice a tratě mezi nimi.</p>"
+            "<p>Vlaky jedou podle týdenního jízdního řádu, ale jen po cestách, které jim postavíte. "
+            "Zabezpečovací zařízení odmítá a varuje jako skutečné. Nic se neboduje a nic se "
+            "nestane samo.</p>"
+            "<p style='color:#00e5e5'>Klávesy této obrazovky</p>"
+            "<table cellspacing='4'>"
+            "<tr><td>Enter</td><td>spustí simulaci</td></tr>"
+            "<tr><td>šipky nahoru a dolů</td><td>v poli hodin a minut mění čas, na konci dokola</td></tr>"
+            "<tr><td>Tab, Shift+Tab</td><td>další a předchozí pole</td></tr>"
+            "<tr><td>Ctrl+O</td><td>otevře uloženou simulaci</td></tr>"
+            "<tr><td>F1</td><td>návod</td></tr>"
+            "<tr><td>Esc</td><td>zpět na hlavní stránku</td></tr>"
+            "</table>")
+            .arg(na_qstring(parametry.lblVerze).trimmed()));
+    text->setWordWrap(true);
+    text->setTextFormat(Qt::RichText);
+    auto* sloupec = new QVBoxLayout(skupina);
+    sloupec->setContentsMargins(0, 0, 0, 0);
+    sloupec->addWidget(text);
+    auto* stranka = new QWidget;
+    auto* vse = new QVBoxLayout(stranka);
+    vse->setContentsMargins(0, 0, 0, 0);
+    vse->addWidget(skupina);
+    vse->addStretch();
+    return stranka;
+}
+
+QWidget* OknoParametru::pata() {
+    const auto s_obrazkem = [&](QPushButton* t, Obrazek co, const QColor& barva) {
+        t->setIcon(obrazek(co, barva));
+        t->setIconSize({px(16), px(16)});
+        return t;
     };
-    cboRychlost->setCurrentIndex(std::clamp(nastaveni_cislo(kSekce, "Rychlost", 0), 0, 3));
-    chkZpozdeni->setChecked(volba("Zpozdeni", 1));
-    chkPP->setChecked(volba("PP", 1));
-    chkNoresize->setChecked(volba("Noresize", 0));
-    chkDualMonitor->setChecked(volba("Dual", 0));
-    chkZvuk->setChecked(volba("Zvuk", 0));
-    chkAutosave->setChecked(volba("Autosave", 0));
-    txtAutosave->setText(QString::number(nastaveni_cislo(kSekce, "Autosaved", 60)));
+    for (std::size_t i = 0; i < imgStranka.size(); ++i) {
+        const int stranka = static_cast<int>(i) + 1;
+        imgStranka[i] =
+            tlacitko(na_qstring(kStrankyStartu[i + 1]), [this, stranka] { vyber_stranku(stranka); });
+        imgStranka[i]->setObjectName(QStringLiteral("stranka"));
+        imgStranka[i]->setCheckable(true);
+        s_obrazkem(imgStranka[i], i == 0 ? Obrazek::moznosti : Obrazek::o_aplikaci, kAzur);
+    }
+    QPushButton* navod = tlacitko(QStringLiteral("Návod"), [this] { prikaz([] { otevri_navod(); }); });
+    QPushButton* konec = tlacitko(QStringLiteral("&Konec"), [this] { close(); });
+    QPushButton* otevrit = tlacitko(QStringLiteral("&Otevřít záznam…"), [this] { otevri(); });
+    QPushButton* spustit = tlacitko(QStringLiteral("&Spustit simulaci"), [this] { start(); });
+    spustit->setObjectName(QStringLiteral("start"));
+    spustit->setToolTip(QStringLiteral("Enter"));
+    otevrit->setToolTip(QStringLiteral("Ctrl+O"));
+    navod->setToolTip(QStringLiteral("F1"));
+    s_obrazkem(navod, Obrazek::navod, kPismo);
+    s_obrazkem(konec, Obrazek::konec, QColor(255, 96, 80));
+    s_obrazkem(otevrit, Obrazek::slozka, kPismo);
+    s_obrazkem(spustit, Obrazek::start, Qt::white);
+
+    auto* pata = new QWidget;
+    auto* odkazy = new QVBoxLayout;
+    odkazy->setSpacing(px(2));
+    for (QPushButton* t : imgStranka)
+        odkazy->addWidget(t);
+    auto* radek = new QHBoxLayout(pata);
+    radek->setContentsMargins(0, 0, 0, 0);
+    radek->setSpacing(px(8));
+    radek->addLayout(odkazy);
+    radek->addStretch();
+    radek->addWidget(konec, 0, Qt::AlignBottom);
+    radek->addWidget(navod, 0, Qt::AlignBottom);
+    radek->addWidget(otevrit, 0, Qt::AlignBottom);
+    radek->addWidget(spustit, 0, Qt::AlignBottom);
+    return pata;
 }
 
-void Parametry::vyber_gvd() {
-    Text popis;
-    try {
-        popis = popis_gvd(simulace.cesta_aplikace + "GVD\\" + z_qstring(miGVD->currentText()) + ".dat");
-    } catch (const BehovaChyba& e) {
-        popis = text_chyby(e.kod); // a damaged timetable must not keep the others from being chosen
+// --- from the core to the screen
+
+void OknoParametru::ukaz() {
+    const auto text = [](QLineEdit* kam, const Text& co) {
+        const QString novy = na_qstring(co);
+        if (kam->text() != novy)
+            kam->setText(novy);
+    };
+    const auto zapnuto = [](QCheckBox* kam, bool co) {
+        const QSignalBlocker ticho(kam);
+        kam->setChecked(co);
+    };
+    const auto index = [](QComboBox* kam, int co) {
+        const QSignalBlocker ticho(kam);
+        kam->setCurrentIndex(co);
+    };
+    text(txtHodiny, parametry.txtHodiny);
+    text(txtMinuty, parametry.txtMinuty);
+    text(txtAutosave, parametry.txtAutosave);
+    index(cboDen, parametry.cboDen);
+    index(cboRychlost, parametry.cboRychlost);
+    miGVD->setText(popisek(parametry.lblAktualni_GVD));
+    lblGVD_popis_aktualni->setText(na_qstring(parametry.lblGVD_popis_aktualni));
+    lblGVD_popis_aktualni->setToolTip(na_qstring(parametry.lblGVD_popis_aktualni).toHtmlEscaped());
+    zapnuto(chkZpozdeni, parametry.chkZpozdeni);
+    zapnuto(chkPP, parametry.chkPP);
+    zapnuto(chkZvuk, parametry.chkZvuk);
+    zapnuto(chkAutosave, parametry.chkAutosave);
+    zapnuto(chkNoresize, parametry.chkNoresize);
+    zapnuto(chkDualMonitor, parametry.chkDualMonitor);
+    lblMonitor->setText(na_qstring(parametry.lblMonitor));
+    stranky->setCurrentIndex(parametry.stranka);
+    for (std::size_t i = 0; i < imgStranka.size(); ++i)
+        imgStranka[i]->setChecked(parametry.stranka == static_cast<int>(i) + 1);
+    if (lblInfo_verze->document()->isEmpty()) { // the files are looked at once, when the screen is loaded
+        QTextCursor kam(lblInfo_verze->document());
+        QTextCharFormat format;
+        for (const Text& radek : parametry.lblInfo_verze) {
+            const bool nadpis = radek.ends_with(':');
+            format.setForeground(nadpis ? kAzur : kPismo);
+            if (!kam.atStart())
+                kam.insertBlock();
+            kam.insertText((nadpis ? QString() : QStringLiteral("  ")) + na_qstring(radek), format);
+        }
+        lblInfo_verze->verticalScrollBar()->setValue(0);
     }
-    lblGVD_popis_aktualni->setText(na_qstring(popis));
 }
 
-void Parametry::start() {
-    if (!isVisible()) // keys pressed before the screen had gone
+// In the middle of the display; with two monitors at the left, so that it does not stand on both.
+void OknoParametru::umisti() {
+    const QScreen* obrazovka = QGuiApplication::primaryScreen();
+    if (obrazovka == nullptr)
         return;
-    const int hodina = cislo_pole(txtHodiny, 24), minuta = cislo_pole(txtMinuty, 60);
-    if (hodina < 0 || minuta < 0) {
-        v_jadre([] { platforma.okno(kTitul, "Neplatný čas!"_cz); });
+    QRect plocha = obrazovka->availableGeometry();
+    const QSize velikost = size();
+    QPoint roh = plocha.center() - QPoint(velikost.width() / 2, velikost.height() / 2);
+    if (parametry.vlevo != kZadny)
+        roh.setX(plocha.left() + parametry.vlevo / kTwipu);
+    move(roh);
+}
+
+// --- from the operator to the core
+
+void OknoParametru::prikaz(const std::function<void()>& telo) {
+    v_jadre(telo);
+    if (je_konec())
         return;
+    ukaz();
+    if (isVisible() && QGuiApplication::focusWindow() == nullptr)
+        activateWindow(); // a box has closed, and no window manager gives the focus back
+}
+
+void OknoParametru::nabidka(QWidget* pod) {
+    if (menu.jmeno.empty())
+        return;
+    QMenu okno(this);
+    okno.setFont(font());
+    for (const PolozkaMenu& p : menu.polozky) {
+        QAction* akce = okno.addAction(popisek(p.text));
+        akce->setData(na_qstring(p.jmeno));
+        akce->setEnabled(p.povolena);
+        akce->setVisible(p.viditelna);
+        if (p.text == parametry.lblAktualni_GVD)
+            okno.setActiveAction(akce);
     }
-    txtMinuty->setText(na_qstring(text_cisla_mist(minuta, 2)));
-    VolbyStartu volby;
-    volby.hodina = static_cast<std::uint8_t>(hodina);
-    volby.minuta = static_cast<std::uint8_t>(minuta);
-    volby.den = static_cast<std::uint8_t>(cboDen->currentIndex());
-    volby.rychlost = static_cast<std::uint8_t>(cboRychlost->currentIndex() + 1);
-    volby.gvd = z_qstring(miGVD->currentText());
-    volby.pp = chkPP->isChecked();
-    volby.zpozdeni = chkZpozdeni->isChecked();
-    MoznostiStartu moznosti;
-    moznosti.noresize = chkNoresize->isChecked();
-    moznosti.bez_dvou_monitoru = chkDualMonitor->isChecked();
-    moznosti.zvuk_vypnut = chkZvuk->isChecked();
-    moznosti.autosave = chkAutosave->isChecked();
-    moznosti.autosaved = z_qstring(txtAutosave->text());
-    v_jadre([&] {
-        uloz_volby(moznosti);
-        prevezmi_volby(volby);
+    okno.setMinimumWidth(pod->width());
+    const QAction* zvolena = okno.exec(pod->mapToGlobal(QPoint(0, pod->height())));
+    prikaz([&] {
+        if (zvolena != nullptr)
+            zvol_v_menu(z_qstring(zvolena->data().toString()));
+        else
+            zavri_menu();
     });
-    if (!je_konec())
-        spustit(volby);
 }
 
-void Parametry::keyPressEvent(QKeyEvent* udalost) {
-    if (udalost->key() == Qt::Key_Return || udalost->key() == Qt::Key_Enter)
-        start();
-    else
-        QWidget::keyPressEvent(udalost);
+void OknoParametru::vyber_stranku(int stranka) {
+    prikaz([&] { prepni_stranku(stranka); });
 }
 
-// Up and down in the fields of the time go round; a field that is entered selects its text.
-bool Parametry::eventFilter(QObject* cil, QEvent* udalost) {
-    auto* pole = qobject_cast<QLineEdit*>(cil);
-    if (pole == nullptr || (pole != txtHodiny && pole != txtMinuty))
-        return QWidget::eventFilter(cil, udalost);
-    if (udalost->type() == QEvent::FocusIn)
-        QMetaObject::invokeMethod(pole, &QLineEdit::selectAll, Qt::QueuedConnection);
-    if (udalost->type() != QEvent::KeyPress)
+void OknoParametru::start() {
+    predej(start_prikaz);
+}
+
+void OknoParametru::otevri() {
+    predej(otevri_zaznam);
+}
+
+// Keys that were pressed before the screen had gone come here late: the core refuses a second start.
+void OknoParametru::predej(bool (*prikaz_startu)()) {
+    bool pripravena = false;
+    v_jadre([&] { pripravena = prikaz_startu(); });
+    if (je_konec())
+        return;
+    ukaz();
+    if (pripravena)
+        spusteno();
+}
+
+void OknoParametru::keyPressEvent(QKeyEvent* udalost) {
+    const bool ctrl = udalost->modifiers() == Qt::ControlModifier;
+    switch (udalost->key()) {
+    case Qt::Key_Return:
+    case Qt::Key_Enter: start(); return;
+    case Qt::Key_Escape: vyber_stranku(parametry.stranka); return;
+    case Qt::Key_F1: prikaz([] { otevri_navod(); }); return;
+    case Qt::Key_O:
+        if (ctrl) {
+            otevri();
+            return;
+        }
+        break;
+    default: break;
+    }
+    QWidget::keyPressEvent(udalost);
+}
+
+bool OknoParametru::eventFilter(QObject* cil, QEvent* udalost) {
+    const bool klavesa_dolu = udalost->type() == QEvent::KeyPress;
+    const int kod = klavesa_dolu ? static_cast<QKeyEvent*>(udalost)->key() : 0;
+    auto* okno_textu = qobject_cast<QLineEdit*>(cil);
+    if (okno_textu == nullptr) { // the list of versions takes no Enter of its own
+        if (kod != Qt::Key_Return && kod != Qt::Key_Enter && kod != Qt::Key_Escape)
+            return false;
+        keyPressEvent(static_cast<QKeyEvent*>(udalost));
+        return true;
+    }
+    const PoleStartu ktere = cil == txtHodiny   ? PoleStartu::txtHodiny
+                             : cil == txtMinuty ? PoleStartu::txtMinuty
+                                                : PoleStartu::txtAutosave;
+    if (udalost->type() == QEvent::FocusIn) {
+        v_jadre([&] { vyber_pole(ktere); });
+        QMetaObject::invokeMethod(okno_textu, &QLineEdit::selectAll, Qt::QueuedConnection);
+    }
+    if (ktere == PoleStartu::txtAutosave || (kod != Qt::Key_Up && kod != Qt::Key_Down))
         return false;
-    const int klavesa_qt = static_cast<QKeyEvent*>(udalost)->key();
-    if (klavesa_qt != Qt::Key_Up && klavesa_qt != Qt::Key_Down)
-        return false;
-    const int pod = pole == txtHodiny ? 24 : 60;
-    const int hodnota = std::max(0, cislo_pole(pole, pod));
-    const int nova = (hodnota + (klavesa_qt == Qt::Key_Up ? 1 : pod - 1)) % pod;
-    pole->setText(pole == txtHodiny ? QString::number(nova) : na_qstring(text_cisla_mist(nova, 2)));
+    prikaz([&] { krok_casu(ktere, kod == Qt::Key_Up ? 1 : -1); });
+    okno_textu->selectAll();
     return true;
 }
 
-void Parametry::closeEvent(QCloseEvent* udalost) {
+void OknoParametru::closeEvent(QCloseEvent* udalost) {
     udalost->accept();
     if (isVisible())
-        skonci(0);
+        v_jadre([] { konec_startu(); });
 }

@@ -1,20 +1,24 @@
-// ui/parametry.h - the start screen: what is to be simulated, and the start command.
+// ui/parametry.h - the start screen: shows the core's record of it and hands the operator's choices back.
 #pragma once
 
-#include "app/start.h"
+#include "app/parametry.h"
 
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLabel>
 #include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QStackedWidget>
 #include <QWidget>
 
+#include <array>
 #include <functional>
 
-class Parametry : public QWidget {
+class OknoParametru : public QWidget {
 public:
-    // `spustit` is called once, with the choices that the screen has checked.
-    explicit Parametry(std::function<void(const VolbyStartu&)> spustit);
+    // `spusteno` is called once, when the simulation has been prepared.
+    explicit OknoParametru(std::function<void()> spusteno);
 
 protected:
     void keyPressEvent(QKeyEvent* udalost) override;
@@ -22,17 +26,35 @@ protected:
     void closeEvent(QCloseEvent* udalost) override;
 
 private:
-    void napln();
-    void vyber_gvd();
+    int px(double bodu) const; // a length of the screen's own measure in pixels
+    QFont pismo(double vyska) const;
+    QPushButton* tlacitko(const QString& text, std::function<void()> prikaz);
+    QCheckBox* policko(const QString& text, std::function<void(bool)> zmena);
+    QLineEdit* pole(PoleStartu ktere);
+    QWidget* hlava();
+    QWidget* hlavni_stranka();
+    QWidget* stranka_moznosti();
+    QWidget* stranka_o_aplikaci();
+    QWidget* pata();
+
+    void ukaz(); // the record's fields into the controls
+    void umisti();
+    void prikaz(const std::function<void()>& telo); // one operation of the screen, and what it changed
+    void nabidka(QWidget* pod);                     // the menu that the core has opened
+    void vyber_stranku(int stranka);
     void start();
+    void otevri();
+    void predej(bool (*prikaz_startu)());
 
-    std::function<void(const VolbyStartu&)> spustit;
-    QLineEdit *txtHodiny, *txtMinuty, *txtAutosave;
-    QComboBox *cboDen, *cboRychlost, *miGVD;
-    QLabel *lblGVD_popis_aktualni, *lblMonitor;
-    QCheckBox *chkZpozdeni, *chkPP, *chkZvuk, *chkAutosave, *chkNoresize, *chkDualMonitor;
+    std::function<void()> spusteno;
+    double meritko = 1;
+    QLineEdit *txtHodiny = nullptr, *txtMinuty = nullptr, *txtAutosave = nullptr;
+    QComboBox *cboDen = nullptr, *cboRychlost = nullptr;
+    QPushButton *miGVD = nullptr, *miOblibena = nullptr;
+    QLabel *lblGVD_popis_aktualni = nullptr, *lblMonitor = nullptr;
+    QPlainTextEdit* lblInfo_verze = nullptr;
+    QCheckBox *chkZpozdeni = nullptr, *chkPP = nullptr, *chkZvuk = nullptr, *chkAutosave = nullptr,
+              *chkNoresize = nullptr, *chkDualMonitor = nullptr;
+    std::array<QPushButton*, 2> imgStranka{};
+    QStackedWidget* stranky = nullptr;
 };
-
-// The checks before the screen may open: one instance, all data files, a timetable. False after the box
-// that tells what is wrong.
-bool instalace_v_poradku();

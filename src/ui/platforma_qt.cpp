@@ -1,7 +1,6 @@
 // ui/platforma_qt.cpp - the world outside, as the window system gives it.
 #include "ui/platforma_qt.h"
 
-#include "app/simulace.h"
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
 #include "ui/pismo.h"
@@ -17,9 +16,9 @@
 #include <QDir>
 #include <QElapsedTimer>
 #include <QEventLoop>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QLockFile>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
@@ -30,12 +29,14 @@
 #include <QUrl>
 
 #include <algorithm>
-#include <memory>
+#include <cerrno>
+#include <fcntl.h>
+#include <sys/file.h>
+#include <vector>
 
 namespace {
 
 QElapsedTimer hodiny_procesu;
-std::unique_ptr<QLockFile> zamek;
 
 QString slozka_uzivatele() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
@@ -121,7 +122,8 @@ RezimObrazovky rezim() {
     const QScreen* obrazovka = QApplication::primaryScreen();
     if (obrazovka == nullptr)
         return {};
-    const QSizeF velikost = QSizeF(obrazovka->size()) * obrazovka->devicePixelRatio();
+    // all monitors side by side are one display
+    const QSizeF velikost = QSizeF(obrazovka->virtualSize()) * obrazovka->devicePixelRatio();
     return {qRound(velikost.width()), qRound(velikost.height()), qRound(obrazovka->refreshRate()),
             obrazovka->depth()};
 }
@@ -132,11 +134,15 @@ void cekej(double sekundy) {
     smycka.exec();
 }
 
+// The lock is the kernel's: it goes with the process that holds it, however that one ends. A folder that
+// cannot be written to locks nobody out.
 bool bezi_jina() {
     QDir().mkpath(slozka_uzivatele());
-    zamek = std::make_unique<QLockFile>(slozka_uzivatele() + QStringLiteral("/bezi.lock"));
-    zamek->setStaleLockTime(0); // a lock belongs to its process, however long it runs
-    return !zamek->tryLock(0) && zamek->error() == QLockFile::LockFailedError;
+    const QByteArray soubor = QFile::encodeName(slozka_uzivatele() + QStringLiteral("/bezi.lock"));
+    static int zamek = -1; // held to the end of the process
+    if (zamek < 0)
+        zamek = ::open(soubor.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
+    return zamek >= 0 && ::flock(zamek, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
 }
 
 } // namespace
@@ -178,6 +184,7 @@ void zapln_platformu() {
 
     // The desk is drawn in its own proportions to any size of the screen. So no mode of the display is
     // ever changed, and yet the desk's own sizes can always be had.
+    p.registruj_pismo = [](TextPohled soubor) { return nacti_pismo(na_disku(soubor)); };
     p.rezim = rezim;
     p.rezimy = [] { return std::vector<RezimObrazovky>{rezim(), {1024, 768, 60, 32}, {2048, 768, 60, 32}}; };
     p.nastav_rezim = [](const RezimObrazovky&) { return true; };
@@ -212,19 +219,13 @@ void zapln_platformu() {
     platforma = p;
 }
 
-void nastav_cestu_aplikace() {
+Text slozka_programu() {
     const QString slozka = QCoreApplication::applicationDirPath();
     const Text zapsana = z_qstring(slozka);
-    if (na_qstring(zapsana) == slozka) {
-        simulace.cesta_aplikace = zapsana.ends_with('/') ? zapsana : zapsana + "\\";
-        return;
-    }
+    if (na_qstring(zapsana) == slozka)
+        return zapsana;
     QDir::setCurrent(slozka);
-    simulace.cesta_aplikace = ".\\";
-}
-
-QString soubor_aplikace(const char* jmeno) {
-    return na_disku(simulace.cesta_aplikace + jmeno);
+    return ".";
 }
 
 const char* rada_bez_obrazovky() {

@@ -22,11 +22,9 @@ void radek(QPainter& p, int x, int y, double krat, TextPohled text, Barva barva)
     kresli_radek(p, x, y, kSirkaBunky * krat, kVyskaBunky * krat, text, barva, Znaky::pismena);
 }
 
-// A station throat with a route set through it, as the desk would show it.
-void nakresli_zhlavi(QPainter& p) {
-    Meritko m;
-    m.k = 2.0 / kTwipu;
-    m.x0 = 24, m.y0 = 122;
+} // namespace
+
+void nakresli_zhlavi(QPainter& p, const Meritko& m) {
     const auto kolej = [&](int odkud, int kam, int v_radku, Barva barva) {
         Prvek k;
         k.viditelny = true;
@@ -55,8 +53,6 @@ void nakresli_zhlavi(QPainter& p) {
     navestidlo(3, 0, 229, barvy::zelena), navestidlo(19, 0, 230, barvy::seda);
     navestidlo(20, 1, 230, barvy::seda), navestidlo(21, 2, 230, barvy::seda);
 }
-
-} // namespace
 
 QPolygon obrys_uvodu() {
     constexpr int s = kVelikost.width(), v = kVelikost.height(), z = 12; // z: the step of a corner
@@ -122,7 +118,10 @@ void UvodniObrazovka::paintEvent(QPaintEvent*) {
     p.drawPolygon(obrys_uvodu());
     radek(p, 40, 34, 3, "KPS RVZ TESK", barvy::bila);
     radek(p, 42, 80, 1, "Simulátor stanoviště dispečera železničního uzlu"_cz, 0xB8B0A8);
-    nakresli_zhlavi(p);
+    Meritko m;
+    m.k = 2.0 / kTwipu;
+    m.x0 = 24, m.y0 = 122;
+    nakresli_zhlavi(p, m);
     p.fillRect(40, 212, kVelikost.width() - 80, 1, QColor(60, 69, 80));
     radek(p, 40, 226, 1, z_qstring(popisek), barvy::azurova);
     radek(p, 40, 250, 1, Text("verze "_cz) + text_verze(), barvy::seda);

@@ -33,6 +33,7 @@ Platforma prazdna_platforma() {
     p.nastaveni_pis = [](TextPohled, TextPohled, TextPohled) {};
     p.nastaveni_smaz = [](TextPohled, TextPohled) {};
     p.nastaveni_klice = [](TextPohled) { return std::vector<Text>{}; };
+    p.registruj_pismo = [](TextPohled) { return false; };
     p.rezim = [] { return RezimObrazovky{}; };
     p.rezimy = [] { return std::vector<RezimObrazovky>{}; };
     p.nastav_rezim = [](const RezimObrazovky&) { return false; };

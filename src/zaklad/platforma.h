@@ -59,6 +59,9 @@ struct Platforma {
     std::function<void(TextPohled sekce, TextPohled klic)> nastaveni_smaz;
     std::function<std::vector<Text>(TextPohled sekce)> nastaveni_klice; // keys of a section, in order
 
+    // Screen font, registered until the process ends; false: it cannot be.
+    std::function<bool(TextPohled soubor)> registruj_pismo;
+
     // Display modes and the task bar.
     std::function<RezimObrazovky()> rezim;
     std::function<std::vector<RezimObrazovky>()> rezimy;

@@ -306,16 +306,29 @@ TEST_F(Start, TrafficIsThereAtOnceUnlessASavedSimulationBringsIt) {
     EXPECT_EQ(svet.pipnuti, (std::vector<Pipnuti>{{500, 200}, {400, 150}}));
     EXPECT_FALSE(simulace.nova_pipnuti);
 
-    vlaky[0].cislo = 0; // the train has gone before the save
-    relief.kolej[63].barva = barvy::seda;
-    const Text zaznam = svet.cesta() + "save\\hra.sim";
+    // the start from a save: no traffic step runs, and another crossing file is not read
+    const Text zaznam = svet.cesta() + "save\\stav.sim";
     uloz_simulaci(zaznam, true);
+    const std::vector<Vlak> ulozene_vlaky = vlaky;
+    const std::vector<Prejezd> ulozene_prejezdy = prejezdy;
+    svet.zapis("data/tesk.pzz", soubor_prejezdu({{0, "JINY", 640, 77}, {0, "DALSI", 640, 88}}));
+    svet.pipnuti.clear();
     nova_simulace();
     simulace.cesta_aplikace = svet.cesta();
-    priprav_nacteni(zaznam, {});
+    simulace.nacitani_zaznamu = true;
+    simulace.soubor_zaznamu = zaznam;
+    priprava_simulace();
     start_simulace();
-    EXPECT_EQ(vlaky[0].cislo, 0);
+    ASSERT_EQ(vlaky.size(), ulozene_vlaky.size());
+    for (std::size_t i = 0; i < vlaky.size(); ++i) {
+        EXPECT_EQ(vlaky[i].cislo, ulozene_vlaky[i].cislo) << i;
+        EXPECT_EQ(vlaky[i].prvky, ulozene_vlaky[i].prvky) << i;
+        EXPECT_EQ(vlaky[i].odjezd_realny, ulozene_vlaky[i].odjezd_realny) << i;
+    }
+    EXPECT_EQ(prejezdy, ulozene_prejezdy);
     EXPECT_EQ(gvd_vlaky.size(), 1u);
+    EXPECT_EQ(svet.pipnuti, (std::vector<Pipnuti>{{400, 150}})) << "no train was announced anew";
+    EXPECT_TRUE(simulace.pauza);
 }
 
 TEST_F(Start, TrainTableStandsInThreeColumns) {

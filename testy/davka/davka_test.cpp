@@ -126,6 +126,69 @@ TEST_F(Davka, TimeThatTheScreenRefusesStartsNothing) {
     }
 }
 
+TEST_F(Davka, StartScreenIsSeenAndWorkedBeforeTheStart) {
+    vypis("pc 2026-01-10 14:07:30\nover obrazovka obrazovka=frmParametry txtHodiny=14 txtMinuty=07 cboDen=5\n"
+          "over obrazovka miGVD=GVD_druhe,GVD_male lblAktualni_GVD=GVD_druhe lblGVD_popis_aktualni=\"maly "
+          "rad\"\n"
+          "klik txtHodiny\nover obrazovka vybrane=txtHodiny\npis 23\nklavesa Up\nover obrazovka txtHodiny=0\n"
+          "klik txtMinuty\npis 00\nklavesa Down\nover obrazovka txtMinuty=59\n"
+          "klik cboDen 2\nklik cboRychlost 3\nklik chkPP\nklik chkZvuk\nklik imgStranka 1\n"
+          "over obrazovka stranka=1 chkPP=ne chkZvuk=ano\n"
+          "klik miGVD\nmenu miGVD1\nklavesa Enter\n"
+          "over hodiny cas=0:58:58 den=4 rychlost=4\nover lblGVD text=GVD_male\nover pipnuti pocet=0\n"
+          "over obrazovka obrazovka=frmMain\n");
+    EXPECT_FALSE(simulace.pp_povoleno);
+}
+
+TEST_F(Davka, FavouriteTimesAreKeptInTheSettings) {
+    vypis("klik miOblibena\nover okna pocet=1\nover menu menu=null\nklik txtHodiny\npis 9\nklik "
+          "txtMinuty\npis 5\n"
+          "klik cmdPridat\nover obrazovka miOblibena=9:05\nklik cmdNahodny\n"
+          "klik miOblibena\nmenu miOblibena0\nover obrazovka txtHodiny=9 txtMinuty=05\n");
+}
+
+TEST_F(Davka, RefusedTimeStaysInTheFields) {
+    vypis("spust cas=24:00\nover okna pocet=1\nover obrazovka obrazovka=frmParametry txtHodiny=24 "
+          "txtMinuty=00\n"
+          "over nastaveni pocet=0\nspust cas=23:59\nover hodiny cas=23:58:58\n");
+}
+
+TEST_F(Davka, MissingDataFileEndsTheStart) {
+    smaz_soubor(slozka.cesta + "data\\tesk.mak");
+    for (const char* skript : {"spust\nvypis okna\n", "vypis obrazovka\nvypis okna\n"}) {
+        const Vysledek v = proved(skript);
+        EXPECT_EQ(v.kod, navrat::konec_simulace);
+        EXPECT_TRUE(obsahuje(v.vystup, "tesk.mak je poškozen, nelze ho otevřít nebo chybí!")) << v.vystup;
+    }
+}
+
+TEST_F(Davka, SetUpFillsTheStartScreenAnew) {
+    vypis("over obrazovka txtHodiny=8\nklik cboDen 6\npc 2026-01-05 17:30:00\nover obrazovka txtHodiny=17 "
+          "cboDen=0\n");
+}
+
+TEST_F(Davka, TwoMonitorsAreDetectedOnTheStartScreen) {
+    vypis("nastaveni Nastaveni Dual 1\nover obrazovka lblMonitor=\"SINGLE monitor  detected\" "
+          "chkDualMonitor=ano\n"
+          "spust dual=1 cas=25:00\nover obrazovka lblMonitor=\"DUAL monitor detected\" chkDualMonitor=ne "
+          "vlevo=4000\nspust cas=12:00\nover lblcas 1 text=11:59:58\n");
+}
+
+TEST_F(Davka, ManualAndEndOfTheStartScreen) {
+    const std::string v = vypis("klik cmdNavod\nvypis okna\n");
+    EXPECT_TRUE(obsahuje(v, R"("titul": "Chyba", "text": "Nepodařilo se otevřít soubor s návodem)")) << v;
+    EXPECT_EQ(proved("klik imgKONEC\n").kod, navrat::konec_simulace);
+}
+
+TEST_F(Davka, StartScreenHasNoControlsOfTheDesk) {
+    EXPECT_TRUE(obsahuje(duvod("klavesa F10\n"), "potřebuje spuštěnou simulaci"));
+    EXPECT_TRUE(obsahuje(duvod("pis 7\n"), "není vybrané žádné pole"));
+    EXPECT_TRUE(obsahuje(duvod("klik cboDen 7\n"), "od 0 do 6"));
+    EXPECT_TRUE(obsahuje(duvod("klik cboDen\n"), "píše se klik cboDen CISLO"));
+    EXPECT_TRUE(obsahuje(duvod("klik chkPP 1\n"), "píše se klik chkPP"));
+    EXPECT_TRUE(obsahuje(duvod("menu miGVD0\n"), "žádné menu není otevřené"));
+}
+
 TEST_F(Davka, StartAtMidnightBelongsToTheDayBefore) {
     const std::string v = vypis("spust cas=0:00 den=0\nvypis hodiny\n");
     EXPECT_TRUE(obsahuje(v, R"("cas": "23:59:58", "den": 64, "den_text": "pondělí", "cas_zacatku": -1)"))
@@ -380,7 +443,7 @@ TEST_F(Davka, MissingTimetableEndsTheStart) {
     std::filesystem::remove_all(slozka.cesta.substr(0, slozka.cesta.size() - 1) + "/gvd");
     const Vysledek v = proved("spust cas=12:00\nvypis okna\n");
     EXPECT_EQ(v.kod, navrat::konec_simulace);
-    EXPECT_TRUE(obsahuje(v.vystup, "Soubor nenalezen")) << v.vystup;
+    EXPECT_TRUE(obsahuje(v.vystup, "Nenalezen žádný soubor s GVD daty")) << v.vystup;
 }
 
 TEST_F(Davka, RunTimeErrorIsABoxAndTheEnd) {

@@ -54,6 +54,18 @@ TEST_F(Provoz, TrainDelayedOverMidnightStillSetsOff) {
     EXPECT_EQ(barva(87), barvy::cervena);
 }
 
+TEST_F(Provoz, ArrivalAtMidnightIsAnArrival) {
+    koleje({87});
+    pridej(radek(1234, {{1, 0, 5}, {8, 10, -1}}));
+    const int i = vytvor_vlak(true, 87, false, -3, 0);
+    relief.cislo_koleje[87].text = TextPohled("1234");
+    relief.kolej[87].barva = barvy::zelena;
+    hodiny("0:00:00");
+    krok_provozu();
+    EXPECT_EQ(barva(87), barvy::cervena) << "not at five past, when it leaves";
+    EXPECT_EQ(vlaky[static_cast<std::size_t>(i)].stanice_index, 0);
+}
+
 TEST_F(Provoz, MinutePastGivesNoBranch) {
     lhotin();
     koleje({112, 55});

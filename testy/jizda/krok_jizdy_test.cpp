@@ -368,6 +368,15 @@ TEST_F(Jizda, RouteOfATrainThatIsGoneIsRemoved) {
     EXPECT_EQ(cesty[0].zacatek, 63);
 }
 
+TEST_F(Jizda, RouteThatNoTrainHasTakenStays) {
+    cesta(radek(0));
+    cesta(radek(1));
+    cesty[0].Umazat = static_cast<std::uint8_t>(cesty[0].prvky.size() - 1);
+    for (int i = 0; i < 5; ++i)
+        krok();
+    EXPECT_EQ(cesty.size(), 2u);
+}
+
 TEST_F(Jizda, RouteWithoutAFinalTrackEndsTheProgram) {
     const int v = vlak_na(62, true, 11);
     cesta({262, 7, {62, 7}, {1, 2}, {0, 2}, 0});

@@ -74,6 +74,19 @@ TEST_F(MenuKolejeTest, BothLabelsOfATrackOpenOneMenu) {
     EXPECT_EQ(menu.prvek, 640);
 }
 
+TEST_F(MenuKolejeTest, TrackWhoseLabelIsDarkIsReachedByItsTarget) {
+    posun_na(64, {"754"}, "DKV");
+    zobraz_kolej(zaznam_koleje(64));
+    ASSERT_FALSE(relief.cislo_koleje[64].viditelny); // shunting movements show no number
+    klik(Druh::Image1, 64, Tlacitko::prave, false);
+    EXPECT_EQ(menu.prvek, 64);
+    EXPECT_EQ(popisky_vlaku(), std::vector<Text>{"DKVx"});
+    zavri_menu();
+    relief.Image1.zaloz(999); // a target without a label
+    klik(Druh::Image1, 999, Tlacitko::prave, false);
+    EXPECT_TRUE(menu.jmeno.empty());
+}
+
 TEST_F(MenuKolejeTest, LabelsOfLineEndsAreNoSecondLabels) {
     for (const int n : {212, 213, 219}) {
         relief.cislo_koleje.zaloz(n);

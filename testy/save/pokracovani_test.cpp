@@ -19,10 +19,9 @@
 #include "desk/stitky.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
-#include "gvd/prekladac.h"
 #include "gvd/stav_provozu.h"
 #include "jizda/vlak.h"
-#include "pomocne/cele_kolejiste.h"
+#include "pomocne/instalace.h"
 #include "pomocne/pult.h"
 #include "prvky/navestidla.h"
 #include "prvky/panel.h"
@@ -92,20 +91,6 @@ struct Stav {
         nahoda = nahoda_;
     }
 };
-
-// --- the training timetable
-
-Bajty cvicny_rad() {
-    std::vector<ChybaZdroje> chyby;
-    const auto zdroj = std::filesystem::path(kZdrojeKolejiste) / "gvd" / "GVD_cvicny.gvd";
-    return zapis_jizdni_rad(preloz_jizdni_rad(obsah_souboru(zdroj), chyby));
-}
-
-VolbyStartu od_hodiny(int hodina) {
-    VolbyStartu volby;
-    volby.hodina = static_cast<std::uint8_t>(hodina);
-    return volby;
-}
 
 // --- the robot
 
@@ -380,6 +365,8 @@ std::string radky(const Rozdily& r) {
 
 class Pokracovani : public SPlatformou, public testing::WithParamInterface<int> {
 protected:
+    void SetUp() override { zapis_instalaci(svet); }
+
     // The timers for so long, from equal phases on; the robot acts once in three seconds.
     void bez(int sekund, unsigned semeno, int zasah_po_s = 3) {
         std::mt19937 los(semeno);
@@ -401,8 +388,7 @@ protected:
         svet.okna.clear();
         priprav_nacteni(soubor, {});
         start_simulace();
-        for (int i = 0; i < 3; ++i)
-            klavesa({KodKlavesy::enter});
+        prihlas_se();
         prepni_pv_vz(false); // the order of the stack is the operator's to choose again
     }
 };
@@ -441,7 +427,7 @@ struct Vytizeni {
 
 TEST_P(Pokracovani, SaveAtAnyMomentEqualsNeverHavingSaved) {
     const Text soubor = svet.cesta() + "save\\zkouska.sim";
-    spust_cele_kolejiste(svet, cvicny_rad(), od_hodiny(GetParam()));
+    spust_instalaci(GetParam());
     prepni_pv_vz(false);
     bez(1, 0); // the lamps of the crossings are lit
     Vytizeni vytizeni;
