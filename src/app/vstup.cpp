@@ -49,11 +49,6 @@ bool prihlaseni_bezi() {
     return kod == " INIT " || kod == " TPC " || kod == " ARCHIV ";
 }
 
-// A warning of the end of a route: until it is accepted, the route machine leaves the route alone.
-bool je_varovani(TextPohled kod) {
-    return kod == " POZOR STITEK " || kod == " POZOR NVL " || kod == " POZOR VYLUKA " || kod == " POZOR PN ";
-}
-
 void nastav_rychlost(int rychlost) {
     simulace.rychlost = na_byte(rychlost);
     relief.lblrychlost_simulace[0].text = text_cisla(rychlost);
@@ -125,12 +120,17 @@ bool odpovez_na_radek() {
     return true;
 }
 
+// Something to click lies under the pointer. The line itself is no such thing: a click on it is this key.
+bool je_cil_pod_kurzorem() {
+    return vyber.mys_nad_prvkem && vyber.mys_druh != Druh::lblPrikaz && vyber.mys_druh != Druh::lblVolba;
+}
+
 void enter() {
     const bool byl_pohled = zavri_pohled_sekvence();
     if (vstup_otevren()) {
         zpracuj_zadani(relief.txtZadav_pole[0].text());
         potvrd_prikaz();
-    } else if (!odpovez_na_radek() && !byl_pohled && vyber.mys_nad_prvkem && !simulace.pauza)
+    } else if (!odpovez_na_radek() && !byl_pohled && je_cil_pod_kurzorem() && !simulace.pauza)
         klik(vyber.mys_druh, vyber.mys_prvek, Tlacitko::leve, false);
     dalsi_zprava();
 }

@@ -179,6 +179,15 @@ TEST_F(Klavesy, EnterInAPauseDoesNotClick) {
     EXPECT_FALSE(relief.lstDenik.viditelny);
 }
 
+TEST_F(Klavesy, EnterOverTheEmptyLineFindsNothingToClick) {
+    for (const Druh druh : {Druh::lblPrikaz, Druh::lblVolba}) {
+        najeti(druh, 0);
+        EXPECT_TRUE(stiskni("Enter"));
+        klik(druh, 0, Tlacitko::leve, false);
+        EXPECT_FALSE(prikaz_radek.obsazen);
+    }
+}
+
 TEST_F(Klavesy, ClickOnTheLineAnswersItLikeEnter) {
     for (const Druh druh : {Druh::lblPrikaz, Druh::lblVolba}) {
         zprava(" M ", "text", barvy::cervena);
