@@ -1,11 +1,22 @@
 #!/usr/bin/env python3
-# nastroje/vypis_gtn.py - prints a train-number log as text: one event a line.
+# nastroje/vypis_gtn.py - reads a train-number log: as text, as JSON lines, or as a time-distance diagram.
 #
-#   vypis_gtn.py SOUBOR.gtn          time, event, element, value
+#   vypis_gtn.py LOG.gtn                       one event a line: second, code, event, element, value
+#   vypis_gtn.py LOG.gtn --hodiny --kolejiste DIR      clock times and names of the elements
+#   vypis_gtn.py LOG.gtn --json --kod 73,75 --prvek 287 --od 8:00 --do 8:30
+#   vypis_gtn.py LOG.gtn --nakres jizdy.svg    the trains as lines over time and distance
 #
-# The time is simulated seconds; colours are 0x00BBGGRR. A cut last record is told and left out.
+# docs/gtn.md tells it all. Colours are 0x00BBGGRR; a cut last record is told and left out.
+import argparse
+import heapq
+import json
+import math
+import pathlib
+import re
 import struct
 import sys
+from collections import namedtuple
+from xml.sax.saxutils import escape
 
 UDALOSTI = {
     0: "automat", 11: "volba vlakové cesty", 12: "volba posunové cesty", 13: "volba přivolávací návěsti",
@@ -16,35 +27,488 @@ UDALOSTI = {
     103: "souhlas", 104: "nouzové rušení závěru", 131: "vlak na kolej", 132: "vlak z koleje",
 }
 BARVY = {73, 75}
+NA_KOLEJ, Z_KOLEJE = 131, 132
+S_VLAKEM = {90, NA_KOLEJ, Z_KOLEJE}  # the value is a train number
+# what the element of each code is
+KOLEJ, NAVESTIDLO, VYHYBKA, JINE = "kolej", "navestidlo", "vyhybka", ""
+DRUH_PRVKU = {73: KOLEJ, 90: KOLEJ, 131: KOLEJ, 132: KOLEJ, 74: VYHYBKA, 76: JINE, 103: JINE}
+DNY = ("pondělí", "úterý", "středa", "čtvrtek", "pátek", "sobota", "neděle")
+DELKA_ZAZNAMU = 11
+
+Hlavicka = namedtuple("Hlavicka", "datum cas nazev den revize major minor")
+Zaznam = namedtuple("Zaznam", "cas kod prvek hodnota")
 
 
-def text(bajty, misto):
-    (delka,) = struct.unpack_from("<H", bajty, misto)
-    return bajty[misto + 2:misto + 2 + delka].decode("cp1250"), misto + 2 + delka
+class Chyba(Exception):
+    """Told to the user in one line, exit status 1."""
 
 
-def main():
-    if len(sys.argv) != 2:
-        sys.exit("použití: vypis_gtn.py SOUBOR.gtn")
-    with open(sys.argv[1], "rb") as soubor:
-        bajty = soubor.read()
+# --- the file
+
+
+def cti_log(bajty):
+    """Header, whole records, and how many bytes of a cut record are left over."""
+    def text(misto):
+        (delka,) = struct.unpack_from("<H", bajty, misto)
+        konec = misto + 2 + delka
+        if konec > len(bajty):
+            raise Chyba("hlavička logu je poškozena")
+        return bajty[misto + 2:konec].decode("cp1250", "replace"), konec
+
     try:
-        datum, misto = text(bajty, 0)
-        misto += 4
-        nazev, misto = text(bajty, misto)
+        datum, misto = text(0)
+        (cas,) = struct.unpack_from("<i", bajty, misto)
+        nazev, misto = text(misto + 4)
         den, revize, major, minor = struct.unpack_from("<Bhhh", bajty, misto)
-        misto += 7
-    except (struct.error, UnicodeDecodeError):
-        sys.exit("hlavička logu je poškozena")
-    print(f"{nazev} {major}.{minor}.{revize}, {datum}, den {den}")
-    while misto + 11 <= len(bajty):
-        cas, kod, prvek, hodnota = struct.unpack_from("<iBhi", bajty, misto)
-        misto += 11
-        udaj = f"0x{hodnota & 0xFFFFFFFF:08X}" if kod in BARVY else str(hodnota)
-        print(f"{cas:7d}  {kod:3d} {UDALOSTI.get(kod, '?'):32s} {prvek:5d}  {udaj}")
-    if misto != len(bajty):
-        print(f"({len(bajty) - misto} B nedokončeného záznamu)")
+    except struct.error:
+        raise Chyba("hlavička logu je poškozena") from None
+    misto += 7
+    zbyva = (len(bajty) - misto) % DELKA_ZAZNAMU
+    zaznamy = [Zaznam(*z) for z in struct.iter_unpack("<iBhi", bajty[misto:len(bajty) - zbyva])]
+    return Hlavicka(datum, cas, nazev, den, revize, major, minor), zaznamy, zbyva
+
+
+# --- time
+
+
+def hodiny(cas):
+    """Clock of an absolute second: "8:00:05", a day later "+1 8:00:05"."""
+    den, s = divmod(cas, 86400)
+    return ("%+d " % den if den else "") + "%d:%02d:%02d" % (s // 3600, s // 60 % 60, s % 60)
+
+
+def cas_z_textu(co):
+    """"8:00", "8:00:05", "+1 0:30" (the next day), or plain seconds."""
+    shoda = re.fullmatch(r"\s*(?:\+(\d+)\s+)?(\d{1,2}):(\d{2})(?::(\d{2}))?\s*", co)
+    if shoda is None:
+        if re.fullmatch(r"\s*-?\d+\s*", co):
+            return int(co)
+        raise argparse.ArgumentTypeError("čas se píše 8:00, 8:00:05 nebo +1 0:30, ne %r" % co)
+    den, h, m, s = (int(x or 0) for x in shoda.groups())
+    if h > 23 or m > 59 or s > 59:
+        raise argparse.ArgumentTypeError("takový čas není: %r" % co)
+    return den * 86400 + h * 3600 + m * 60 + s
+
+
+def cisla(co):
+    """"73,75-76" as a set."""
+    vybrana = set()
+    for cast in co.split(","):
+        shoda = re.fullmatch(r"\s*(\d+)\s*(?:-\s*(\d+)\s*)?", cast)
+        if shoda is None:
+            raise argparse.ArgumentTypeError("čísla se píší 73,75 nebo 600-606, ne %r" % co)
+        od, do = int(shoda[1]), int(shoda[2] or shoda[1])
+        if do - od > 1000000:
+            raise argparse.ArgumentTypeError("příliš dlouhý rozsah: %r" % cast)
+        vybrana.update(range(od, do + 1))
+    return vybrana
+
+
+# --- the layout: names of elements, and how far the stations lie from one another
+
+
+def slova_radku(radek):
+    """Words of a statement: blanks part them, quotes hold them together, # begins a comment."""
+    slova = []
+    for slovo in re.findall(r'"[^"]*"|[^\s"]+', radek):
+        if slovo.startswith("#"):
+            break
+        slova.append(slovo.strip('"'))
+    return slova
+
+
+class Kolejiste:
+    """What the readable sources (kolejiste/*.tk) tell about stations, tracks, signals and switches."""
+
+    def __init__(self, slozka):
+        self.stanice = {}        # code: name
+        self.koleje = {}         # number: (code, length in metres, label)
+        self.nazvy = {KOLEJ: {}, NAVESTIDLO: {}, VYHYBKA: {}}
+        self.stanicni = {}       # code: tracks of the station itself, not of a line
+        self.hrany = {}          # place: [(place, metres)]
+        self.kod = ""
+        soubory = sorted(pathlib.Path(slozka).glob("*.tk"))
+        if not soubory:
+            raise Chyba("ve složce %s není kolejiště (*.tk)" % slozka)
+        for soubor in soubory:
+            self.kod = ""
+            for radek in soubor.read_text(encoding="utf-8").splitlines():
+                slova = slova_radku(radek)
+                prikaz = getattr(self, "_" + slova[0], None) if slova else None
+                if prikaz is not None:
+                    try:
+                        prikaz(slova[1:])
+                    except (IndexError, ValueError):
+                        pass  # the compiler of the layout tells what is wrong with a line
+
+    def jmeno(self, kod, prvek):
+        """Name of the element of an event, empty when it has none."""
+        return self.nazvy.get(DRUH_PRVKU.get(kod, NAVESTIDLO), {}).get(prvek, "")
+
+    # statements of the sources
+
+    def _stanice(self, s):
+        self.kod = s[0]
+        self.stanice[s[0]] = s[1]
+
+    _trat = _stanice
+
+    def _kolej(self, s):
+        cislo, levy, pravy = int(s[0]), s[1], s[2]
+        slova = s[3:]
+        delka = int(slova.pop(0)[:-1]) if slova and re.fullmatch(r"\d+m", slova[0]) else 60
+        stitek = slova[slova.index("stitek") + 1] if "stitek" in slova else ""
+        cil = ""
+        if "cil" in slova:
+            za = slova[slova.index("cil") + 1:]
+            cil = za[0] if za and za[0] not in ("dva", "vpravo", "u", "sirka", "druhy") else ""
+        self.koleje[cislo] = (self.kod, delka, stitek)
+        jmeno = cil or (self.kod + " " + stitek if stitek else "")
+        if jmeno:
+            self.nazvy[KOLEJ][cislo] = jmeno
+        if stitek and not cil:
+            self.stanicni.setdefault(self.kod, []).append(cislo)
+        strany = ((cislo, "vlevo"), (cislo, "vpravo"))
+        self._spoj_mista(*strany, delka)
+        for strana, misto in zip(strany, (levy, pravy)):
+            self._spoj_mista(strana, self._misto(misto), 0)
+
+    def _navestidlo(self, s):
+        self.nazvy[NAVESTIDLO][int(s[0])] = self.kod + " " + s[1]
+
+    _posunove = _navestidlo
+
+    def _vyhybka(self, s):
+        jmeno = s[s.index("jmeno") + 1] if "jmeno" in s else s[0]
+        self.nazvy[VYHYBKA][int(s[0])] = jmeno
+        # the six places where the cell of a switch can be left; its legs are about as long as a short track
+        x, y = (int(v) for v in s[1].split(","))
+        mista = [(self.kod, sx, sy) for sx in (x, x + 2) for sy in (2 * y, 2 * y + 1, 2 * y + 2)]
+        for misto in mista[1:]:
+            self._spoj_mista(mista[0], misto, 30)
+
+    _dks = _vyhybka
+
+    def _vykolejka(self, s):
+        x, y = (int(v) for v in s[1].split(","))
+        self._spoj_mista((self.kod, x, 2 * y + 1), (self.kod, x + 1, 2 * y + 1), 5)
+
+    def _spoj(self, s):
+        konce = []
+        for konec in s[:2]:
+            cislo, strana = konec.split(":")
+            konce.append((int(cislo), strana))
+        self._spoj_mista(*konce, 0)
+
+    def _misto(self, co):
+        # middle of a row is odd, its upper edge even
+        sloupec, radek = co.rstrip("^").split(",")
+        return self.kod, int(sloupec), 2 * int(radek) + (0 if co.endswith("^") else 1)
+
+    def _spoj_mista(self, a, b, metry):
+        self.hrany.setdefault(a, []).append((b, metry))
+        self.hrany.setdefault(b, []).append((a, metry))
+
+    # distances
+
+    def vzdalenosti(self, koleje):
+        """Metres from the nearest of these tracks to every place that can be reached."""
+        nejblize = {}
+        # places of different shapes cannot be compared: a counter decides between equal distances
+        halda = [(0, i, (k, strana)) for i, (k, strana) in
+                 enumerate((k, strana) for k in koleje for strana in ("vlevo", "vpravo"))]
+        poradi = len(halda)
+        while halda:
+            metry, _, misto = heapq.heappop(halda)
+            if misto in nejblize:
+                continue
+            nejblize[misto] = metry
+            for soused, delka in self.hrany.get(misto, ()):
+                if soused not in nejblize:
+                    heapq.heappush(halda, (metry + delka, poradi, soused))
+                    poradi += 1
+        return nejblize
+
+    def mezi_stanicemi(self, kody):
+        """{(A, B): metres} of all pairs that are joined, between their nearest station tracks."""
+        vysledek = {}
+        for a in kody:
+            od = self.vzdalenosti(self.stanicni.get(a, ()))
+            for b in kody:
+                cesty = [od[(k, s)] for k in self.stanicni.get(b, ()) for s in ("vlevo", "vpravo") if (k, s) in od]
+                if cesty:
+                    vysledek[a, b] = min(cesty)
+        return vysledek
+
+
+# --- trains
+
+
+class Jizda:
+    """One number through the log."""
+
+    def __init__(self, cislo):
+        self.cislo = cislo
+        self.body = []  # (second, station code)
+
+    @property
+    def posun(self):
+        """Numbers from 70000 on are those of locomotives and shunting movements."""
+        return self.cislo >= 70000
+
+
+def jizdy_vlaku(zaznamy, kolejiste):
+    """The runs of the log, by their arrivals on station tracks and departures from them.
+
+    A train that leaves a track under a number that never came there is the one that came last and is still
+    there: it has got its next number, and a run of that number begins where the old one ended.
+    """
+    stanice = {k: kod for kod, koleje in kolejiste.stanicni.items() for k in koleje}
+    jizdy, podle_cisla, na_koleji = [], {}, {}
+    for z in zaznamy:
+        if z.kod not in (NA_KOLEJ, Z_KOLEJE) or z.hodnota <= 0 or z.prvek not in stanice:
+            continue
+        stoji = na_koleji.setdefault(z.prvek, [])
+        jizda = podle_cisla.get(z.hodnota)
+        if z.kod == Z_KOLEJE and jizda not in stoji and stoji:
+            predesla = stoji.pop()
+            jizda = Jizda(z.hodnota)
+            jizda.body = predesla.body[-1:]
+            jizdy.append(jizda)
+        elif jizda is None:
+            jizda = Jizda(z.hodnota)
+            jizdy.append(jizda)
+        podle_cisla[z.hodnota] = jizda
+        jizda.body.append((z.cas, stanice[z.prvek]))
+        if z.kod == NA_KOLEJ:
+            stoji.append(jizda)
+        elif jizda in stoji:
+            stoji.remove(jizda)
+    return jizdy
+
+
+def osa_nakresu(jizdy, kolejiste, kody=None):
+    """[(code, metres from the first station)]: the stations of the diagram from the top down.
+
+    Without a wish: the two farthest stations that trains have visited, and those on the way between them.
+    """
+    navstivene = {kod for jizda in jizdy for _, kod in jizda.body}
+    chtene = kody is not None
+    if chtene:
+        cizi = [k for k in kody if k not in kolejiste.stanice]
+        if cizi:
+            raise Chyba("stanice %s v kolejišti není; jsou tu %s" % (", ".join(cizi), ", ".join(kolejiste.stanice)))
+    else:
+        kody = [k for k in kolejiste.stanice if k in navstivene]
+    metry = kolejiste.mezi_stanicemi(kody)
+    if chtene:
+        # in the order of the wish, each as far from the one before as the tracks are long
+        osa = [(kody[0], 0)]
+        for a, b in zip(kody, kody[1:]):
+            if (a, b) not in metry:
+                raise Chyba("mezi stanicemi %s a %s nevede kolej" % (a, b))
+            osa.append((b, osa[-1][1] + metry[a, b]))
+        return osa
+    if not metry:
+        return []
+    prvni, posledni = min(metry, key=lambda par: (-metry[par], par))
+    return sorted(((k, metry[prvni, k]) for k in kody if (prvni, k) in metry and (k, posledni) in metry
+                   and metry[prvni, k] + metry[k, posledni] <= 1.25 * metry[prvni, posledni] + 500),
+                  key=lambda x: (x[1], x[0]))
+
+
+# --- the diagram
+
+OKRAJ_VLEVO, OKRAJ_VPRAVO, OKRAJ_NAHORE, OKRAJ_DOLE = 160, 36, 92, 54
+PISMO = "font-family=\"'DejaVu Sans', 'Noto Sans', sans-serif\""
+
+
+def nakres(hlavicka, zaznamy, kolejiste, kody=None):
+    """The trains of the log as SVG text: time from left to right, stations from the top down."""
+    jizdy = jizdy_vlaku(zaznamy, kolejiste)
+    osa = osa_nakresu(jizdy, kolejiste, kody)
+    if len(osa) < 2:
+        raise Chyba("v záznamu není vlak, který by jel mezi dvěma stanicemi")
+    metry = dict(osa)
+    vlaky = []  # (run, [(second, metres)])
+    for jizda in jizdy:
+        body = [(cas, metry[kod]) for cas, kod in jizda.body if kod in metry]
+        if len({m for _, m in body}) >= 2:
+            vlaky.append((jizda, body))
+    if not vlaky:
+        raise Chyba("v záznamu není vlak, který by jel mezi dvěma stanicemi")
+
+    # from the first departure to the last arrival; who has stood there before comes in at the edge
+    casy = [cas for _, body in vlaky for a, b in zip(body, body[1:]) if a[1] != b[1] for cas in (a[0], b[0])]
+    od = (min(casy) - 120) // 600 * 600
+    do = max(-(-(max(casy) + 60) // 600) * 600, od + 1800)
+    minut = (do - od) // 60
+    na_minutu = min(14.0, max(2.0, 1100 / minut))
+    delka_osy = osa[-1][1] or 1
+    vyska_osy = min(960, max(400, 150 * (len(osa) - 1)))
+    sirka = OKRAJ_VLEVO + minut * na_minutu + OKRAJ_VPRAVO
+    vyska = OKRAJ_NAHORE + vyska_osy + OKRAJ_DOLE
+
+    def x(cas):
+        return OKRAJ_VLEVO + (min(max(cas, od), do) - od) / 60 * na_minutu
+
+    def y(m):
+        return OKRAJ_NAHORE + m / delka_osy * vyska_osy
+
+    dole = OKRAJ_NAHORE + vyska_osy
+    svg = ['<svg xmlns="http://www.w3.org/2000/svg" width="%.0f" height="%.0f" viewBox="0 0 %.0f %.0f" %s>'
+           % (sirka, vyska, sirka, vyska, PISMO),
+           "<title>Nákresný jízdní řád podle záznamu %s</title>" % escape(hlavicka.datum),
+           '<rect width="100%" height="100%" fill="#fffdf7"/>',
+           '<text x="%d" y="34" font-size="20" font-weight="bold" fill="#222">Splněný grafikon</text>' % OKRAJ_VLEVO,
+           '<text x="%d" y="54" font-size="12" fill="#666">%s</text>' % (OKRAJ_VLEVO, escape(
+               "%s, záznam z %s, %s, %s až %s" % (hlavicka.nazev, hlavicka.datum,
+                                                  DNY[hlavicka.den % 7], hodiny(od)[:-3], hodiny(do)[:-3])))]
+
+    # time: hours strong, ten minutes thin
+    for cas in range(od, do + 1, 600):
+        hodina, pul = cas % 3600 == 0, cas % 1800 == 0
+        svg.append('<line x1="%.1f" y1="%.1f" x2="%.1f" y2="%.1f" stroke="%s" stroke-width="%s"/>'
+                   % (x(cas), OKRAJ_NAHORE, x(cas), dole, "#9a9484" if hodina else "#ddd6c4", 1.2 if hodina else 0.6))
+        if hodina or (pul and na_minutu >= 2.5) or na_minutu >= 5:
+            for misto in (OKRAJ_NAHORE - 10, dole + 20):
+                svg.append('<text x="%.1f" y="%.1f" font-size="%d" text-anchor="middle" fill="#444"%s>%s</text>'
+                           % (x(cas), misto, 12 if hodina else 10, ' font-weight="bold"' if hodina else "",
+                              hodiny(cas)[:-3]))
+
+    # stations at their distances
+    for kod, m in osa:
+        svg.append('<line x1="%d" y1="%.1f" x2="%.1f" y2="%.1f" stroke="#6b6658" stroke-width="1.2"/>'
+                   % (OKRAJ_VLEVO, y(m), x(do), y(m)))
+        svg.append('<text x="%d" y="%.1f" font-size="13" text-anchor="end" fill="#222">%s</text>'
+                   % (OKRAJ_VLEVO - 24, y(m) - 1, escape(kolejiste.stanice[kod])))
+        svg.append('<text x="%d" y="%.1f" font-size="10" text-anchor="end" fill="#888">%s · %s km</text>'
+                   % (OKRAJ_VLEVO - 24, y(m) + 12, kod, ("%.1f" % (m / 1000)).replace(".", ",")))
+
+    # trains: down in one colour, up in the other; locomotives and shunting broken
+    popisy = []
+    for jizda, body in vlaky:
+        dolu = body[-1][1] >= body[0][1]
+        barva = "#7a7a7a" if jizda.posun else "#b3261e" if dolu else "#1d4f91"
+        cara = ' stroke-dasharray="6 4"' if jizda.posun else ""
+        svg.append('<polyline points="%s" fill="none" stroke="%s" stroke-width="1.8" stroke-linejoin="round"%s>'
+                   "<title>vlak %d</title></polyline>"
+                   % (" ".join("%.1f,%.1f" % (x(c), y(m)) for c, m in body), barva, cara, jizda.cislo))
+        # the number lies along the longest run between two stations, on a ground of its own
+        useky = [(a, b) for a, b in zip(body, body[1:]) if a[1] != b[1]]
+        (c1, m1), (c2, m2) = max(useky, key=lambda u: math.hypot(x(u[1][0]) - x(u[0][0]), y(u[1][1]) - y(u[0][1])))
+        uhel = math.degrees(math.atan2(y(m2) - y(m1), x(c2) - x(c1)))
+        misto = 'transform="translate(%.1f %.1f) rotate(%.1f)"' % ((x(c1) + x(c2)) / 2, (y(m1) + y(m2)) / 2, uhel)
+        pul = 3.6 * len(str(jizda.cislo)) + 3
+        popisy.append('<g %s><rect x="%.1f" y="-7" width="%.1f" height="14" fill="#fffdf7"/>'
+                      '<text y="4.2" font-size="12" text-anchor="middle" fill="%s">%d</text></g>'
+                      % (misto, -pul, 2 * pul, barva, jizda.cislo))
+    svg += popisy
+
+    legenda = [("#b3261e", "", "směr " + kolejiste.stanice[osa[-1][0]]),
+               ("#1d4f91", "", "směr " + kolejiste.stanice[osa[0][0]])]
+    if any(jizda.posun for jizda, _ in vlaky):
+        legenda.append(("#7a7a7a", ' stroke-dasharray="6 4"', "lokomotivy a posun"))
+    lx = OKRAJ_VLEVO
+    for barva, cara, text in legenda:
+        svg.append('<line x1="%d" y1="%.1f" x2="%d" y2="%.1f" stroke="%s" stroke-width="1.8"%s/>'
+                   '<text x="%d" y="%.1f" font-size="11" fill="#444">%s</text>'
+                   % (lx, dole + 40, lx + 28, dole + 40, barva, cara, lx + 34, dole + 44, escape(text)))
+        lx += 60 + 7 * len(text)
+    svg.append("</svg>")
+    return "\n".join(svg) + "\n"
+
+
+# --- the program
+
+
+def radek_textu(z, kolejiste, s_hodinami):
+    udaj = "0x%08X" % (z.hodnota & 0xFFFFFFFF) if z.kod in BARVY else str(z.hodnota)
+    cas = "%11s" % hodiny(z.cas) if s_hodinami else "%7d" % z.cas
+    radek = "%s  %3d %-32s %5d  %s" % (cas, z.kod, UDALOSTI.get(z.kod, "?"), z.prvek, udaj)
+    jmeno = kolejiste.jmeno(z.kod, z.prvek) if kolejiste else ""
+    return "%-68s%s" % (radek, jmeno) if jmeno else radek
+
+
+def radek_jsonu(z, kolejiste):
+    udaje = {"cas": z.cas, "hodiny": hodiny(z.cas), "kod": z.kod, "udalost": UDALOSTI.get(z.kod),
+             "prvek": z.prvek, "hodnota": z.hodnota}
+    if z.kod in BARVY:
+        udaje["barva"] = "0x%08X" % (z.hodnota & 0xFFFFFFFF)
+    if kolejiste and kolejiste.jmeno(z.kod, z.prvek):
+        udaje["jmeno"] = kolejiste.jmeno(z.kod, z.prvek)
+    return json.dumps(udaje, ensure_ascii=False)
+
+
+def vyber(zaznamy, volby):
+    """The records that all given filters let through."""
+    for z in zaznamy:
+        if (volby.od is None or z.cas >= volby.od) and (volby.do is None or z.cas <= volby.do) \
+                and (volby.prvek is None or z.prvek in volby.prvek) \
+                and (volby.kod is None or z.kod in volby.kod) \
+                and (volby.vlak is None or (z.kod in S_VLAKEM and z.hodnota in volby.vlak)):
+            yield z
+
+
+def volby_programu(argumenty):
+    p = argparse.ArgumentParser(prog="vypis_gtn.py", description="Čte záznam GTN: vypíše události, nebo nakreslí jízdy vlaků.")
+    p.add_argument("log", metavar="LOG.gtn")
+    p.add_argument("--json", action="store_true", help="jeden objekt JSON na řádek; první je hlavička")
+    p.add_argument("--hodiny", action="store_true", help="čas jako na hodinách stolu místo sekund")
+    p.add_argument("--od", type=cas_z_textu, metavar="ČAS", help="jen události od tohoto času (8:00, 8:00:05, +1 0:30)")
+    p.add_argument("--do", type=cas_z_textu, metavar="ČAS", help="jen události do tohoto času včetně")
+    p.add_argument("--prvek", type=cisla, metavar="ČÍSLA", help="jen události těchto prvků (287,600-606)")
+    p.add_argument("--kod", type=cisla, metavar="ČÍSLA", help="jen události těchto kódů (73,75)")
+    p.add_argument("--vlak", type=cisla, metavar="ČÍSLA", help="jen události těchto vlaků (kódy 90, 131, 132)")
+    p.add_argument("--kolejiste", metavar="SLOŽKA", help="zdroje kolejiště (*.tk): k prvkům jména")
+    p.add_argument("--nakres", metavar="SOUBOR.svg", help="nakreslí splněný grafikon (- na standardní výstup)")
+    p.add_argument("--osa", metavar="KÓDY", help="stanice na ose nákresu (LHO,TVH,THN)")
+    return p.parse_args(argumenty)
+
+
+def hlavni(argumenty, vystup):
+    volby = volby_programu(argumenty)
+    try:
+        with open(volby.log, "rb") as soubor:
+            hlavicka, zaznamy, zbyva = cti_log(soubor.read())
+    except OSError as potiz:
+        raise Chyba("%s: %s" % (volby.log, potiz.strerror)) from None
+    vybrane = list(vyber(zaznamy, volby))
+    slozka = volby.kolejiste
+    if slozka is None and volby.nakres:
+        slozka = pathlib.Path(__file__).resolve().parent.parent / "kolejiste"
+    kolejiste = Kolejiste(slozka) if slozka is not None else None
+    if volby.nakres:
+        svg = nakres(hlavicka, vybrane, kolejiste, volby.osa.split(",") if volby.osa else None)
+        if volby.nakres == "-":
+            vystup.write(svg)
+        else:
+            try:
+                pathlib.Path(volby.nakres).write_text(svg, encoding="utf-8")
+            except OSError as potiz:
+                raise Chyba("%s: %s" % (volby.nakres, potiz.strerror)) from None
+        return
+    if volby.json:
+        vystup.write(json.dumps({"nazev": hlavicka.nazev, "datum": hlavicka.datum, "cas": hlavicka.cas,
+                                 "den": hlavicka.den, "zbyva": zbyva,
+                                 "verze": "%d.%d.%d" % (hlavicka.major, hlavicka.minor, hlavicka.revize)},
+                                ensure_ascii=False) + "\n")
+        for z in vybrane:
+            vystup.write(radek_jsonu(z, kolejiste) + "\n")
+        return
+    h = hlavicka
+    vystup.write(f"{h.nazev} {h.major}.{h.minor}.{h.revize}, {h.datum}, den {h.den}\n")
+    for z in vybrane:
+        vystup.write(radek_textu(z, kolejiste, volby.hodiny) + "\n")
+    if zbyva:
+        vystup.write(f"({zbyva} B nedokončeného záznamu)\n")
 
 
 if __name__ == "__main__":
-    main()
+    sys.stdout.reconfigure(encoding="utf-8")
+    try:
+        hlavni(sys.argv[1:], sys.stdout)
+    except Chyba as potiz:
+        sys.exit("vypis_gtn.py: %s" % potiz)
+    except BrokenPipeError:
+        sys.stderr.close()

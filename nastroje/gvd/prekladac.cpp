@@ -1,6 +1,7 @@
 // nastroje/gvd/prekladac.cpp - reads the timetable source statement by statement.
 #include "gvd/prekladac.h"
 
+#include "slova.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -12,11 +13,6 @@
 namespace {
 
 constexpr std::int16_t kBezCasu = -1; // no arrival: the train starts or only passes
-
-struct Slovo {
-    std::string text;
-    bool v_uvozovkach = false;
-};
 
 // Abbreviations that the desk does not print but that timetables are written with.
 constexpr std::array<std::pair<std::string_view, int>, 17> kZkratky = {{
@@ -105,27 +101,10 @@ struct Prekladac {
     }
 
     std::vector<Slovo> slova(std::string_view text) {
-        std::vector<Slovo> vysledek;
-        std::size_t i = 0;
-        while (i < text.size()) {
-            if (text[i] == ' ' || text[i] == '\t' || text[i] == '\r') {
-                ++i;
-            } else if (text[i] == '#') {
-                break;
-            } else if (text[i] == '"') {
-                const std::size_t konec = text.find('"', i + 1);
-                if (konec == std::string_view::npos) {
-                    hlas("chybí konec textu v uvozovkách");
-                    break;
-                }
-                vysledek.push_back({std::string(text.substr(i + 1, konec - i - 1)), true});
-                i = konec + 1;
-            } else {
-                const std::size_t konec = std::min(text.find_first_of(" \t\r#", i), text.size());
-                vysledek.push_back({std::string(text.substr(i, konec - i)), false});
-                i = konec;
-            }
-        }
+        bool neuzavrene = false;
+        std::vector<Slovo> vysledek = slova_radku(text, neuzavrene);
+        if (neuzavrene)
+            hlas("chybí konec textu v uvozovkách");
         return vysledek;
     }
 

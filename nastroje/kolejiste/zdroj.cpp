@@ -1,6 +1,7 @@
 // nastroje/kolejiste/zdroj.cpp - reads the source of the junction, a statement a line.
 #include "kolejiste/plan.h"
 #include "relief/relief.h"
+#include "slova.h"
 
 #include <algorithm>
 #include <charconv>
@@ -8,11 +9,6 @@
 namespace kolejiste {
 
 namespace {
-
-struct Slovo {
-    std::string text;
-    bool v_uvozovkach = false;
-};
 
 // A statement that cannot be understood; caught at the end of its line.
 struct Nesrozumitelne {
@@ -23,25 +19,10 @@ struct Nesrozumitelne {
 }
 
 std::vector<Slovo> rozdel(std::string_view radek) {
-    std::vector<Slovo> slova;
-    std::size_t i = 0;
-    while (i < radek.size()) {
-        if (radek[i] == '#')
-            break;
-        if (radek[i] == ' ' || radek[i] == '\t' || radek[i] == '\r') {
-            ++i;
-        } else if (radek[i] == '"') {
-            const std::size_t konec = radek.find('"', i + 1);
-            if (konec == std::string_view::npos)
-                nesrozumitelne("uvozovky nejsou uzavřeny");
-            slova.push_back({std::string(radek.substr(i + 1, konec - i - 1)), true});
-            i = konec + 1;
-        } else {
-            const std::size_t konec = std::min(radek.find_first_of(" \t\r#\"", i), radek.size());
-            slova.push_back({std::string(radek.substr(i, konec - i)), false});
-            i = konec;
-        }
-    }
+    bool neuzavrene = false;
+    std::vector<Slovo> slova = slova_radku(radek, neuzavrene);
+    if (neuzavrene)
+        nesrozumitelne("uvozovky nejsou uzavřeny");
     return slova;
 }
 

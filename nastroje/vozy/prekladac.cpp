@@ -1,6 +1,8 @@
 // nastroje/vozy/prekladac.cpp - reads the drawings statement by statement and unfolds them.
 #include "vozy/prekladac.h"
 
+#include "slova.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -21,11 +23,6 @@ constexpr int kNejviceOpakovani = 100;
 constexpr std::size_t kNejvicePloch = 20'000; // of one picture
 constexpr int kDilkuKruznice = 48;
 constexpr std::size_t kNejhloubeji = 20; // shapes within shapes
-
-struct Slovo {
-    std::string text;
-    bool v_uvozovkach = false;
-};
 
 struct Radek {
     int soubor = 0, cislo = 0;
@@ -103,27 +100,10 @@ struct Prekladac {
     // --- reading
 
     std::vector<Slovo> slova(Radek& r, std::string_view text) {
-        std::vector<Slovo> vysledna;
-        std::size_t i = 0;
-        while (i < text.size()) {
-            if (text[i] == ' ' || text[i] == '\t' || text[i] == '\r') {
-                ++i;
-            } else if (text[i] == '#') {
-                break;
-            } else if (text[i] == '"') {
-                const std::size_t konec = text.find('"', i + 1);
-                if (konec == std::string_view::npos) {
-                    hlas(r, "chybí konec textu v uvozovkách");
-                    break;
-                }
-                vysledna.push_back({std::string(text.substr(i + 1, konec - i - 1)), true});
-                i = konec + 1;
-            } else {
-                const std::size_t konec = std::min(text.find_first_of(" \t\r#\"", i), text.size());
-                vysledna.push_back({std::string(text.substr(i, konec - i)), false});
-                i = konec;
-            }
-        }
+        bool neuzavrene = false;
+        std::vector<Slovo> vysledna = slova_radku(text, neuzavrene);
+        if (neuzavrene)
+            hlas(r, "chybí konec textu v uvozovkách");
         return vysledna;
     }
 

@@ -212,13 +212,16 @@ Nalez zaznamy_vlaku() {
     return std::nullopt;
 }
 
-// A train that is announced at a neighbouring station stands there on green.
-bool je_ohlaseny(const Vlak& v) {
-    return v.cislo > 0 && !v.muze_jet && !v.posun && v.stanice_index < 0;
+// A train that is announced at a neighbouring station appears there on green. The operator may work with it
+// before its minute comes: make it a shunting movement, split it, send it off.
+bool je_kolej_souseda(int n) {
+    return (n >= 41 && n <= 43) || (n >= 62 && n <= 69) || (n >= 86 && n <= 90);
 }
 bool stoji_tu_ohlaseny(int n) {
-    return std::any_of(vlaky.begin(), vlaky.end(),
-                       [n](const Vlak& v) { return je_ohlaseny(v) && drzi_prvek(v, n); });
+    return je_kolej_souseda(n) && relief.kolej[n].barva == barvy::zelena &&
+           std::any_of(vlaky.begin(), vlaky.end(), [n](const Vlak& v) {
+               return v.cislo > 0 && v.prvek_konec == 0 && !v.prvky.empty() && v.prvky.front() == n;
+           });
 }
 
 // Under a train every track is occupied.

@@ -20,7 +20,7 @@
 #include "prvky/stav_vyhybek.h"
 #include "relief/prejezdy.h"
 #include "save/gtn.h"
-#include "technologie/provoz2.h"
+#include "technologie/technologie.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
 #include "zaklad/soubory.h"
@@ -56,7 +56,7 @@ void nova_simulace() {
     menu = Menu{};
     stav_menu_koleje = MenuKoleje{};
     blikani = Blikani{};
-    provoz2 = Provoz2{};
+    zapomen_technologii();
     zapomen_kontrolu_jizdy();
     parametry = Parametry{};
 }

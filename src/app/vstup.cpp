@@ -22,7 +22,8 @@
 #include "prvky/vyhybky.h"
 #include "save/debug_vypis.h"
 #include "save/ulozeni.h"
-#include "technologie/provoz2.h"
+#include "technologie/sekvence.h"
+#include "technologie/technologie.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
 
@@ -125,10 +126,11 @@ bool odpovez_na_radek() {
 }
 
 void enter() {
+    const bool byl_pohled = zavri_pohled_sekvence();
     if (vstup_otevren()) {
         zpracuj_zadani(relief.txtZadav_pole[0].text());
         potvrd_prikaz();
-    } else if (!odpovez_na_radek() && vyber.mys_nad_prvkem && !simulace.pauza)
+    } else if (!odpovez_na_radek() && !byl_pohled && vyber.mys_nad_prvkem && !simulace.pauza)
         klik(vyber.mys_druh, vyber.mys_prvek, Tlacitko::leve, false);
     dalsi_zprava();
 }
@@ -136,9 +138,10 @@ void enter() {
 void esc() {
     pipni_klavesou();
     platforma.kurzor_viditelny(true);
+    const bool byl_pohled = zavri_pohled_sekvence();
     if (vstup_otevren())
         zahod_zadani();
-    else
+    else if (!byl_pohled)
         zrus_volbu();
 }
 
@@ -184,21 +187,23 @@ void smaz() {
 }
 
 // Not before the login: the screen ends with a running clock.
-void ukaz_provoz2() {
+void ukaz_technologii(Technologie ktera) {
     if (!prihlaseni_bezi())
-        otevri_provoz2();
+        otevri_technologii(ktera);
 }
 
-// A key while the maintenance screen covers the desk; false when it is none of its keys.
-bool klavesa_provozu2(const Klavesa& k) {
+// A key while a maintenance screen covers the desk; false when it is none of its keys.
+bool klavesa_technologie(const Klavesa& k) {
     switch (k.kod) {
     case KodKlavesy::enter:
     case KodKlavesy::esc:
-    case KodKlavesy::f10: zavri_provoz2(); return true; // the end of the pause is the end of the screen
-    case KodKlavesy::sipka_nahoru: posun_vyber_provozu2(-1); return true;
-    case KodKlavesy::sipka_dolu: posun_vyber_provozu2(1); return true;
-    case KodKlavesy::tab: dalsi_seznam_provozu2(k.shift); return true;
-    case KodKlavesy::delete_: smaz_v_provozu2(); return true;
+    case KodKlavesy::f10: zavri_technologii(); return true; // the end of the pause is the end of the screen
+    case KodKlavesy::sipka_nahoru: posun_vyber_technologie(-1); return true;
+    case KodKlavesy::sipka_dolu: posun_vyber_technologie(1); return true;
+    case KodKlavesy::sipka_vlevo: dalsi_technologie(-1); return true;
+    case KodKlavesy::sipka_vpravo: dalsi_technologie(1); return true;
+    case KodKlavesy::tab: dalsi_seznam_technologie(k.shift); return true;
+    case KodKlavesy::delete_: smaz_v_technologii(); return true;
     default: return false;
     }
 }
@@ -310,7 +315,7 @@ void klik_na_desku(Druh druh) {
     case Druh::cmdVLAK: prepni_panel(Panel::vlak); break;
     case Druh::lblZasobnik_PV: prepni_pv_vz(false); break;
     case Druh::lblZasobnik_VZ: prepni_pv_vz(true); break;
-    case Druh::lblZasobnik_EZ: ukaz_provoz2(); break;
+    case Druh::lblZasobnik_EZ: ukaz_technologii(Technologie::provoz2); break;
     case Druh::imgDEBUG: debug_vypis(); break;
     case Druh::lblrychlost_simulace: zrychli(); break;
     default: break;
@@ -359,8 +364,9 @@ bool uber_predponu(TextPohled& jmeno, TextPohled predpona) {
 } // namespace
 
 void klik(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
-    if (!tabulka(druh).je(n) || provoz2_otevren()) // the maintenance screen covers the desk
+    if (!tabulka(druh).je(n) || technologie_kryje_stul())
         return;
+    zavri_pohled_sekvence();
     zavri_menu();
     if (klik_na_prvek(druh, n, tlacitko, ctrl))
         return;
@@ -371,7 +377,7 @@ void klik(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
 }
 
 void dvojklik(Druh druh, int n) {
-    if (!tabulka(druh).je(n) || provoz2_otevren())
+    if (!tabulka(druh).je(n) || technologie_kryje_stul())
         return;
     zavri_menu();
     if (druh == Druh::cislo_koleje)
@@ -402,24 +408,30 @@ void pohyb_mysi() {
 }
 
 void klik_na_plochu() {
-    if (provoz2_otevren())
+    if (technologie_kryje_stul())
         return;
+    zavri_pohled_sekvence();
     zavri_menu();
     klik_plocha();
+}
+
+void klik_na_zalozku(Technologie ktera) {
+    if (technologie_kryje_stul())
+        otevri_technologii(ktera);
 }
 
 void klik_na_radek(Seznam& seznam, int radek) {
     const bool je = radek >= 0 && static_cast<std::size_t>(radek) < seznam.radky.size();
     seznam.vybrany = je ? radek : -1;
-    if (provoz2_otevren())
-        vybran_radek_provozu2(seznam);
+    if (technologie_kryje_stul())
+        vybran_radek_technologie(seznam);
     ++revize_reliefu;
 }
 
 bool klavesa(const Klavesa& k) {
     const bool konec = k.kod == KodKlavesy::f10 && k.ctrl && k.alt;
-    if (provoz2_otevren() && !konec && k.kod != KodKlavesy::f11)
-        return klavesa_provozu2(k);
+    if (technologie_kryje_stul() && !konec && k.kod != KodKlavesy::f11)
+        return klavesa_technologie(k);
     switch (k.kod) {
     case KodKlavesy::zadna:
     case KodKlavesy::tab: return false;
@@ -455,7 +467,7 @@ bool klavesa(const Klavesa& k) {
     case KodKlavesy::print_screen:
         pipni_klavesou();
         zastav_hodiny();
-        ukaz_provoz2();
+        ukaz_technologii(Technologie::provoz1);
         return true;
     case KodKlavesy::sipka_vlevo:
     case KodKlavesy::sipka_vpravo:
@@ -482,8 +494,11 @@ bool zvol_v_menu(TextPohled jmeno) {
         return false;
     const PolozkaMenu zvolena = *polozka;
     zavri_menu();
+    auto rizikova = rizikova_funkce(zvolena.jmeno, zvolena.cil); // its conditions as they stand before it
     if (zvolena.akce != nullptr)
         zvolena.akce(zvolena.cil);
+    if (rizikova)
+        ohlas_rizikovou_funkci(std::move(*rizikova));
     return true;
 }
 

@@ -9,6 +9,8 @@
 
 #include <cstdint>
 
+enum class Technologie : std::uint8_t; // technologie/technologie.h
+
 enum class Tlacitko : std::uint8_t { leve, prave, prostredni };
 
 enum class KodKlavesy : std::uint8_t {
@@ -52,6 +54,9 @@ void pohyb_mysi();
 void klik_na_plochu();
 // Click on a line of a list.
 void klik_na_radek(Seznam& seznam, int radek);
+
+// Click on a tab of an open maintenance screen.
+void klik_na_zalozku(Technologie ktera);
 
 // A key of the main screen. Answers whether the screen knows the key at all.
 bool klavesa(const Klavesa& k);

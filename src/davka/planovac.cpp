@@ -3,7 +3,7 @@
 
 #include "app/casovace.h"
 #include "davka/virtualni_svet.h"
-#include "technologie/provoz2.h"
+#include "technologie/technologie.h"
 
 #include <algorithm>
 #include <array>
@@ -29,7 +29,8 @@ struct PromennyCasovac {
 };
 constexpr std::array kPromenne = {
     PromennyCasovac{perioda_blikani_diag, krok_blikani_diag},
-    PromennyCasovac{perioda_provozu2, tik_provozu2},
+    PromennyCasovac{perioda_technologie, tik_technologie},
+    PromennyCasovac{perioda_driveru, tik_driveru},
 };
 
 // A new period counts from now.

@@ -18,7 +18,7 @@
 #include "desk/zprava.h"
 #include "jizda/vlak.h"
 #include "save/ulozeni.h"
-#include "technologie/provoz2.h"
+#include "technologie/technologie.h"
 #include "zaklad/cisla.h"
 #include "zaklad/soubory.h"
 
@@ -184,17 +184,14 @@ CilRuky prvek_ruky(Slova slova, std::size_t nejvice_slov) {
 }
 
 Seznam* seznam_desky(std::string_view slovo) {
-    struct SeznamPodleJmena {
-        std::string_view jmeno;
-        Seznam* seznam;
-    };
-    const std::array seznamy = {
-        SeznamPodleJmena{"lstZpravy", &relief.lstZpravy}, SeznamPodleJmena{"lstDenik", &relief.lstDenik},
-        SeznamPodleJmena{"lstZasobnik", &provoz2.lstZasobnik},
-        SeznamPodleJmena{"lstVYL_UPO", &provoz2.lstVYL_UPO}, SeznamPodleJmena{"lstmakra", &provoz2.lstmakra}};
-    for (const SeznamPodleJmena& s : seznamy)
-        if (s.jmeno == slovo)
-            return s.seznam;
+    if (slovo == "lstZpravy")
+        return &relief.lstZpravy;
+    if (slovo == "lstDenik")
+        return &relief.lstDenik;
+    for (std::size_t i = 0; i < kTechnologie.size(); ++i)
+        for (const SeznamTechnologie& s : seznamy_technologie(static_cast<Technologie>(i)))
+            if (s.jmeno == slovo)
+                return s.seznam;
     return nullptr;
 }
 
@@ -212,6 +209,14 @@ void prikaz_klik(BehSkriptu& beh, Slova slova) {
         if (slova.size() > 1)
             chyba_skriptu("klik plocha nemá další slova");
         klik_na_plochu();
+        return;
+    }
+    if (const auto zalozka = technologie_podle_jmena(slova[0])) {
+        if (slova.size() > 1)
+            chyba_skriptu("klik " + slova[0] + " nemá další slova");
+        if (!technologie_kryje_stul())
+            chyba_skriptu("záložka " + slova[0] + " není vidět: žádná obrazovka technologie není otevřená");
+        klik_na_zalozku(*zalozka);
         return;
     }
     if (Seznam* seznam = seznam_desky(slova[0])) {

@@ -16,7 +16,10 @@
 #include "desk/info_o_vlaku.h"
 #include "prvky/panel.h"
 #include "prvky/souhlasy.h"
+#include "technologie/dohled.h"
 #include "technologie/provoz2.h"
+#include "technologie/sekvence.h"
+#include "technologie/technologie.h"
 #include "zaklad/platforma.h"
 
 #include <algorithm>
@@ -186,28 +189,34 @@ void vypis_menu(ZaznamJsonu& z) {
     pridej(z, "polozky", zaznamy(menu.polozky));
 }
 
-void vypis_provoz2(ZaznamJsonu& z) {
-    struct PopisSeznamu {
-        std::string_view jmeno;
-        const Seznam& seznam;
-    };
+// A maintenance screen: its head, its lists by their names, what it says beside them.
+void vypis_technologii(ZaznamJsonu& z, Technologie ktera) {
     pridej(z, "hlava", json_text(hlava_technologie()));
-    pridej(z, "titul", json_text(kTitulProvoz2));
-    pridej(z, "lblDatum", json_text(provoz2.lblDatum));
+    pridej(z, "titul", json_text(kTechnologie[static_cast<std::size_t>(ktera)].titul));
+    pridej(z, "lblDatum", json_text(technologie.lblDatum));
     ZaznamJsonu vybrane;
-    for (const PopisSeznamu& s :
-         {PopisSeznamu{"lstZasobnik", provoz2.lstZasobnik}, PopisSeznamu{"lstVYL_UPO", provoz2.lstVYL_UPO},
-          PopisSeznamu{"lstmakra", provoz2.lstmakra}, PopisSeznamu{"lstPocitace", provoz2.lstPocitace}}) {
-        pridej(z, s.jmeno, texty(s.seznam.radky));
-        pridej(vybrane, s.jmeno, s.seznam.vybrany);
+    for (const SeznamTechnologie& s : seznamy_technologie(ktera)) {
+        pridej(z, s.jmeno, texty(s.seznam->radky));
+        pridej(vybrane, s.jmeno, s.seznam->vybrany);
     }
     pridej(z, "vybrany", Json(std::move(vybrane)));
-    pridej(z, "podrobnosti", texty(provoz2.podrobnosti));
-    pridej(z, "lblKlavesy_maker", json_text(provoz2.lblKlavesy_maker));
-    pridej(z, "lblcisla", json_text(provoz2.lblcisla));
-    pridej(z, "lblcisla1", json_text(provoz2.lblcisla1));
-    pridej(z, "lblCisla2", json_text(provoz2.lblCisla2));
-    pridej(z, "lblCisla3", json_text(provoz2.lblCisla3));
+    switch (ktera) {
+    case Technologie::provoz2:
+        pridej(z, "podrobnosti", texty(provoz2.podrobnosti));
+        pridej(z, "lblKlavesy_maker", json_text(provoz2.lblKlavesy_maker));
+        break;
+    case Technologie::dohled: pridej(z, "hlava_prejezdu", json_text(kHlavaPrejezdu)); break;
+    case Technologie::sekvence:
+        pridej(z, "funkce", json_text(sekvence.funkce.nazev));
+        pridej(z, "jen_pohled", technologie.jen_pohled);
+        break;
+    case Technologie::provoz1:
+    case Technologie::penet: break;
+    }
+    pridej(z, "lblcisla", json_text(technologie.lblcisla));
+    pridej(z, "lblcisla1", json_text(technologie.lblcisla1));
+    pridej(z, "lblCisla2", json_text(technologie.lblCisla2));
+    pridej(z, "lblCisla3", json_text(technologie.lblCisla3));
 }
 
 void vypis_obrazovka(ZaznamJsonu& z) {
@@ -218,8 +227,8 @@ void vypis_obrazovka(ZaznamJsonu& z) {
         pridej(z, "lstZpravy", texty(relief.lstZpravy.radky));
         pridej(z, "lstDenik", texty(relief.lstDenik.radky));
     }
-    if (provoz2_otevren())
-        vypis_provoz2(z);
+    if (const auto ktera = otevrena_technologie())
+        vypis_technologii(z, *ktera);
 }
 
 void vypis_pipnuti(ZaznamJsonu& z) {

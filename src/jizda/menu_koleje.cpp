@@ -1,7 +1,6 @@
 // jizda/menu_koleje.cpp - the menu of a track, and the clicks on its number labels.
 #include "jizda/menu_koleje.h"
 
-#include "app/cas.h"
 #include "app/simulace.h"
 #include "cesty/dotazy.h"
 #include "cesty/volba.h"
@@ -11,7 +10,6 @@
 #include "desk/tabulka_vlaku.h"
 #include "desk/zadani.h"
 #include "desk/zprava.h"
-#include "gvd/gvd.h"
 #include "jizda/na_koleji.h"
 #include "jizda/posun.h"
 #include "jizda/souprava.h"
@@ -21,7 +19,6 @@
 #include "relief/topologie.h"
 #include "zaklad/cisla.h"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
@@ -228,31 +225,6 @@ int vlak_s_cislem(int e, std::int32_t cislo) {
     return kZadny;
 }
 
-// What the timetable says of a train that is not here: first and last station with their times.
-Text text_z_gvd(const GvdVlak& r) {
-    Text text(zkratka_druhu(r.druh));
-    text += " " + text_cisla(r.cislo) + " " + r.nazev;
-    if (r.stanice.empty() || r.odjezdy.empty() || r.prijezdy.empty())
-        return text;
-    text += " (";
-    text += nazev_stanice(r.stanice.front());
-    text += " odj. " + text_minuty(r.odjezdy.front()) + " ... ";
-    text += nazev_stanice(r.stanice.back());
-    text += " příj. "_cz;
-    text += text_minuty(r.prijezdy.back());
-    return text + ")";
-}
-
-// The train page without a train: a text and no vehicles.
-void ukaz_text(TextPohled text) {
-    relief.lblIinfo_o_vlaku[0].text = text;
-    relief.lblIinfo_o_vlaku[0].stav = Text{};
-    for (int n = 0; n <= relief.imgObrzaek_vlaku.nejvyssi(); ++n)
-        if (relief.imgObrzaek_vlaku.je(n))
-            relief.imgObrzaek_vlaku[n].povoleny = false;
-    prepni_panel(Panel::vlak);
-}
-
 // A number that runs ahead of its train, stands on a line, or is known from the timetable only.
 void info_podle_cisla(std::int32_t cislo) {
     for (std::size_t v = 0; v < vlaky.size(); ++v)
@@ -260,10 +232,7 @@ void info_podle_cisla(std::int32_t cislo) {
             info_o_vlaku({}, static_cast<int>(v));
             return;
         }
-    const auto radek = std::find_if(gvd_vlaky.begin(), gvd_vlaky.end(),
-                                    [cislo](const GvdVlak& g) { return g.cislo == cislo; });
-    if (radek != gvd_vlaky.end())
-        ukaz_text(text_z_gvd(*radek));
+    info_podle_gvd(cislo);
 }
 
 } // namespace

@@ -480,8 +480,10 @@ void prevezmi(Zaznam& z, std::int16_t minuty) {
     dopocti();
 }
 
-void nacti(TextPohled soubor) {
-    Zaznam z = precti_zaznam(nacti_soubor(soubor));
+} // namespace
+
+void nacti_simulaci_z(std::span<const std::uint8_t> bajty) {
+    Zaznam z = precti_zaznam(bajty);
     varuj_pred_verzi(z);
     over_hlavicku(z);
     const std::int16_t minuty = casova_znacka(z);
@@ -497,6 +499,8 @@ void nacti(TextPohled soubor) {
         throw;
     }
 }
+
+namespace {
 
 bool ukonci_nenactene(TextPohled soubor, const BehovaChyba& chyba) {
     Text text("Stav simulace ze soboru "_cz); // the word has always been spelt so
@@ -519,10 +523,10 @@ constexpr std::array<std::uint8_t, 3> kStaniceKoncu = {19, 20, 5};
 
 bool nacti_simulaci(TextPohled soubor) {
     if (je_ladeni()) {
-        nacti(soubor); // a fault stops the program at its place
+        nacti_simulaci_z(nacti_soubor(soubor)); // a fault stops the program at its place
     } else {
         try {
-            nacti(soubor);
+            nacti_simulaci_z(nacti_soubor(soubor));
         } catch (const BehovaChyba& chyba) {
             return ukonci_nenactene(soubor, chyba);
         } catch (const std::bad_alloc&) {

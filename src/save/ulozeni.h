@@ -8,6 +8,9 @@
 #include "app/start.h"
 #include "zaklad/text.h"
 
+#include <cstdint>
+#include <span>
+
 // --- on the operator's command
 
 // Ctrl+S and imgUloz, the clock standing: asks for a file, asks once more before an old one is overwritten,
@@ -33,6 +36,9 @@ void uloz_prubezne();
 // Reads the file and puts the whole state in place of the present one, or changes nothing: then a box, and
 // the process ends. True when the simulation goes on.
 bool nacti_simulaci(TextPohled soubor);
+// The same from the bytes of a file, without the boxes that tell how it went; a run-time error when the
+// state is refused and nothing has changed.
+void nacti_simulaci_z(std::span<const std::uint8_t> bajty);
 // Once the timetable has been read too: the consents that stand, by the trains that were given one. The file
 // does not say.
 void obnov_souhlasy();

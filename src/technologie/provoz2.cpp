@@ -1,28 +1,23 @@
-// technologie/provoz2.cpp - the maintenance screen PROVOZ 2.
+// technologie/provoz2.cpp - PROVOZ 2: the stack of routes, the possessions, the macros.
 #include "technologie/provoz2.h"
 
-#include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
 #include "cesty/duvod.h"
 #include "cesty/makra.h"
 #include "cesty/tabulky.h"
 #include "cesty/zasobnik.h"
-#include "desk/menu.h"
 #include "desk/stitky.h"
 #include "relief/topologie.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
-#include "zaklad/platforma.h"
 
-#include <algorithm>
+#include <array>
 #include <utility>
 
 Provoz2 provoz2;
 
 namespace {
-
-constexpr int kPeriodaData_ms = 500;
 
 // The computers that the real workstation reports; nothing of the simulation hangs on them.
 constexpr std::array kPocitace = {
@@ -30,20 +25,12 @@ constexpr std::array kPocitace = {
     "ZPC 2   zadávací 2"_cz,        "ARCHIV  záznam událostí"_cz,   "GTN     čísla vlaků"_cz,
 };
 
-constexpr std::array kSeznamy = {&Provoz2::lstZasobnik, &Provoz2::lstVYL_UPO, &Provoz2::lstmakra,
-                                 &Provoz2::lstPocitace};
-
-// Which of the lists holds the selected line; as many as there are lists when none does.
-std::size_t vybrany_seznam() {
-    const auto ma_vyber = [](Seznam Provoz2::*s) { return (provoz2.*s).vybrany >= 0; };
-    return static_cast<std::size_t>(std::find_if(kSeznamy.begin(), kSeznamy.end(), ma_vyber) -
-                                    kSeznamy.begin());
-}
-
-void vyber_radek(Seznam& seznam, int radek) {
-    seznam.vybrany = std::clamp(radek, -1, static_cast<int>(seznam.radky.size()) - 1);
-    vybran_radek_provozu2(seznam);
-}
+constexpr std::array<SeznamTechnologie, 4> kSeznamy = {{
+    {"lstZasobnik", "Zásobník jízdních cest"_cz, &provoz2.lstZasobnik, 20},
+    {"lstVYL_UPO", "VYL+UPO", &provoz2.lstVYL_UPO, 10},
+    {"lstmakra", "Seznam maker", &provoz2.lstmakra, 12},
+    {"lstPocitace", "Zapojené počítače"_cz, &provoz2.lstPocitace, 9},
+}};
 
 // Index in `cesty` of the selected route; -1 when the line no longer tells what the stack holds.
 int vybrana_cesta() {
@@ -88,25 +75,6 @@ void napln_makra() {
     provoz2.lblKlavesy_maker = std::move(makra.klavesy);
 }
 
-void napln_cisla() {
-    Text* const sloupce[] = {&provoz2.lblcisla, &provoz2.lblcisla1, &provoz2.lblCisla2, &provoz2.lblCisla3};
-    for (std::size_t i = 0; i < kSeznamy.size(); ++i) {
-        const auto radku = static_cast<int>((provoz2.*kSeznamy[i]).radky.size());
-        *sloupce[i] = cisla_radku(std::max(radku, kRadkuProvozu2[i]));
-    }
-}
-
-void napln_provoz2() {
-    provoz2 = Provoz2{};
-    for (Seznam Provoz2::*seznam : kSeznamy)
-        (provoz2.*seznam).viditelny = true;
-    napln_zasobnik();
-    napln_vyluky();
-    napln_makra();
-    provoz2.lstPocitace.radky.assign(kPocitace.begin(), kPocitace.end());
-    napln_cisla();
-}
-
 // --- details of a route
 
 Text rychlost_tridy(int trida) {
@@ -146,28 +114,25 @@ std::vector<Text> podrobnosti_cesty(int i) {
 
 } // namespace
 
-// --- on the operator's command
+// --- for the screen
 
-void otevri_provoz2() {
-    zastav_hodiny();
-    zavri_menu();
-    simulace.obrazovka = kObrazovkaProvoz2;
-    napln_provoz2();
-    tik_provozu2();
-}
-
-void zavri_provoz2() {
-    if (!provoz2_otevren())
-        return;
-    simulace.obrazovka = "frmMain";
+void napln_provoz2() {
     provoz2 = Provoz2{};
-    spust_hodiny();
+    napln_zasobnik();
+    napln_vyluky();
+    napln_makra();
+    provoz2.lstPocitace.radky.assign(kPocitace.begin(), kPocitace.end());
 }
 
-void vybran_radek_provozu2(Seznam& seznam) {
-    for (Seznam Provoz2::*jiny : kSeznamy)
-        if (&(provoz2.*jiny) != &seznam)
-            (provoz2.*jiny).vybrany = -1;
+void zapomen_provoz2() {
+    provoz2 = Provoz2{};
+}
+
+std::span<const SeznamTechnologie> seznamy_provozu2() {
+    return kSeznamy;
+}
+
+void vybran_v_provozu2() {
     const int makro = provoz2.lstmakra.vybrany;
     provoz2.lblKlavesy_maker.clear();
     for (std::size_t i = 0; i < provoz2.pismena_maker.size(); ++i) {
@@ -181,74 +146,9 @@ void vybran_radek_provozu2(Seznam& seznam) {
     provoz2.podrobnosti = cesta < 0 ? std::vector<Text>{} : podrobnosti_cesty(cesta);
 }
 
-void posun_vyber_provozu2(int o_kolik) {
-    const std::size_t s = vybrany_seznam();
-    if (s == kSeznamy.size()) {
-        dalsi_seznam_provozu2(false);
-        return;
-    }
-    Seznam& seznam = provoz2.*kSeznamy[s];
-    vyber_radek(seznam, std::max(0, seznam.vybrany + o_kolik));
-}
-
-void dalsi_seznam_provozu2(bool zpet) {
-    const std::size_t pocet = kSeznamy.size(), ted = vybrany_seznam();
-    for (std::size_t krok = 1; krok <= pocet; ++krok) {
-        // without a selection the first list comes next, and the last one before
-        const std::size_t s =
-            zpet ? (ted + pocet - krok) % pocet : ((ted == pocet ? pocet - 1 : ted) + krok) % pocet;
-        if (Seznam& seznam = provoz2.*kSeznamy[s]; !seznam.radky.empty()) {
-            vyber_radek(seznam, 0);
-            return;
-        }
-    }
-}
-
-void smaz_v_provozu2() {
-    const std::size_t s = vybrany_seznam();
-    if (s == kSeznamy.size())
-        return;
-    const int radek = (provoz2.*kSeznamy[s]).vybrany;
-    if (&(provoz2.*kSeznamy[s]) == &provoz2.lstZasobnik)
+void smaz_v_provozu2(const Seznam& seznam) {
+    if (&seznam == &provoz2.lstZasobnik)
         odeber_ze_zasobniku(vybrana_cesta());
-    else if (&(provoz2.*kSeznamy[s]) == &provoz2.lstmakra)
-        smaz_makro(provoz2.pismena_maker[static_cast<std::size_t>(radek)]);
-    else
-        return;
-    napln_provoz2();
-    tik_provozu2();
-    vyber_radek(provoz2.*kSeznamy[s], radek);
-}
-
-// --- by its timer
-
-void tik_provozu2() {
-    if (!provoz2_otevren())
-        return;
-    const NastennyCas ted = platforma.nastenny_cas();
-    const auto dve = [](int cislo) { return text_cisla_mist(cislo, 2); };
-    provoz2.lblDatum = " " + dve(ted.den) + "." + dve(ted.mesic) + "." + dve(ted.rok % 100) + " " +
-                       dve(ted.hodina) + ":" + dve(ted.minuta) + ":" + dve(ted.sekunda);
-}
-
-int perioda_provozu2() {
-    return provoz2_otevren() ? kPeriodaData_ms : 0;
-}
-
-// --- at any time
-
-bool provoz2_otevren() {
-    return simulace.obrazovka == kObrazovkaProvoz2;
-}
-
-Text hlava_technologie() {
-    return " RVZ     Tesk     t0049 f0230      ver " + text_cisla(kVerzeMajor) + "." +
-           text_cisla(kVerzeMinor);
-}
-
-Text cisla_radku(int pocet) {
-    Text text;
-    for (int i = 1; i <= pocet; ++i)
-        text += (i < 10 ? " " : "") + text_cisla(i) + "\x0D\x0A";
-    return text;
+    else if (&seznam == &provoz2.lstmakra)
+        smaz_makro(provoz2.pismena_maker[static_cast<std::size_t>(seznam.vybrany)]);
 }

@@ -7,7 +7,11 @@
 #include "app/vstup.h"
 #include "cesty/duvod.h"
 #include "desk/menu.h"
+#include "desk/stitky.h"
+#include "jizda/menu_koleje.h"
+#include "technologie/provoz2.h"
 #include "ui/brana.h"
+#include "ui/nabidka.h"
 #include "ui/pismo.h"
 #include "ui/technologie.h"
 #include "zaklad/cisla.h"
@@ -17,11 +21,10 @@
 #include <QGuiApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QPainter>
+#include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QToolTip>
-#include <QWidgetAction>
 #include <QWindow>
 
 #include <cmath>
@@ -40,13 +43,6 @@ constexpr const char* kVzhledSeznamu =
     "QScrollBar:vertical { background: #15191e; width: 14px; margin: 0; }"
     "QScrollBar::handle:vertical { background: #505b68; min-height: 20px; }"
     "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }";
-constexpr const char* kVzhledNabidky =
-    "QMenu { background: #c8ccd0; color: #000; border: 1px solid #fff; padding: 1px; }"
-    "QMenu::item { padding: 2px 14px 2px 14px; min-width: 70px; }"
-    "QMenu::item:selected { background: #000080; color: #fff; }"
-    "QMenu::item:disabled { color: #8a9098; background: transparent; }";
-constexpr const char* kVzhledHlavy = "background: #000080; color: #fff; padding: 2px 14px;";
-
 HlavniOkno* jedine = nullptr;
 
 Tlacitko tlacitko_mysi(Qt::MouseButton tlacitko) {
@@ -99,6 +95,16 @@ Klavesa klavesa_qt(const QKeyEvent& udalost) {
     return k;
 }
 
+constexpr Druh kTlacitkaPanelu[] = {Druh::cmdZpravy, Druh::cmDenik, Druh::cmdTABULKA, Druh::cmdVLAK};
+
+bool je_tabulator(const QKeyEvent& k) {
+    return k.key() == Qt::Key_Tab || k.key() == Qt::Key_Backtab;
+}
+
+bool je_sipka(int klavesa) {
+    return klavesa >= Qt::Key_Left && klavesa <= Qt::Key_Down;
+}
+
 // The element is outlined under the pointer. Empty rows of the train table and the command line are not.
 bool zvyraznuje_se(const Nalezeny& kde) {
     if (!tabulka(kde.druh).je(kde.n) || kde.druh == Druh::lblPrikaz || kde.druh == Druh::lblVolba)
@@ -124,16 +130,39 @@ Text duvod_prvku(const Nalezeny& kde) {
     }
 }
 
+// Texts of the notes on a track, a line each.
+Text poznamky(int prvek) {
+    const int i = stitek_prvku(prvek);
+    if (i < 0)
+        return {};
+    const StitekPrvku& s = stitky[static_cast<std::size_t>(i)];
+    Text text;
+    const auto pridej = [&text](TextPohled druh, const Text& poznamka) {
+        if (poznamka.empty())
+            return;
+        text += '\n';
+        text += druh;
+        text += poznamka;
+    };
+    pridej("VYL: ", s.vyluka);
+    pridej("NVL: ", s.nvl);
+    pridej("STIT: ", s.stitek);
+    return text;
+}
+
 // Name that the pointer shows over an element.
 Text jmenovka(const Nalezeny& kde) {
     const Prvek& p = tabulka(kde.druh)[kde.n];
     switch (kde.druh) {
-    case Druh::Image1:
+    case Druh::Image1: return p.stav() + poznamky(kde.n);
+    case Druh::cislo_koleje: return p.popis() + poznamky(prvek_popisku(kde.n));
     case Druh::imgStanoviste: return p.stav;
+    case Druh::lblPopis_vozu: return p.text;
+    case Druh::imgObrzaek_vlaku:
+        return relief.lblPopis_vozu.je(kde.n) ? relief.lblPopis_vozu[kde.n].text() : p.popis();
     case Druh::navestidlo:
     case Druh::navestidlo_ser:
     case Druh::imgVyhybka:
-    case Druh::cislo_koleje:
     case Druh::imgSound:
     case Druh::imgUloz:
     case Druh::imgKONEC:
@@ -222,6 +251,10 @@ QRect HlavniOkno::v_okne(const QRect& twipy) const {
         .toAlignedRect();
 }
 
+QFont HlavniOkno::pismo_stolu() const {
+    return pismo_poli(kVyskaBunky * platno.meritko().bod() / devicePixelRatioF());
+}
+
 Bod HlavniOkno::kurzor_na_stole() const {
     const QPoint t = na_twipy(QPointF(mapFromGlobal(QCursor::pos())) + QPointF(0.5, 0.5));
     return {t.x() / kTwipu, t.y() / kTwipu};
@@ -240,12 +273,11 @@ void HlavniOkno::nastav_kurzor_na_stole(Bod kam) {
 void HlavniOkno::umisti() {
     sirka_pri_umisteni = sirka_stolu();
     platno.nastav_velikost((QSizeF(size()) * devicePixelRatioF()).toSize(), sirka_pri_umisteni);
-    const double bod = platno.meritko().bod() / devicePixelRatioF();
     for (ZobrazenySeznam& s : seznamy) {
         s.okno->setGeometry(v_okne(QRect(kMistoSeznamu.topLeft() * kTwipu, kMistoSeznamu.size() * kTwipu)));
-        s.okno->setFont(pismo_poli(kVyskaBunky * bod));
+        s.okno->setFont(pismo_stolu());
     }
-    pole->setFont(pismo_poli(kVyskaBunky * bod));
+    pole->setFont(pismo_stolu());
     update();
 }
 
@@ -264,6 +296,7 @@ void HlavniOkno::obnov() {
         obnov_seznam(s);
     obnov_pole();
     obnov_nabidku();
+    obnov_ohnisko();
     technologie->obnov();
     if (const int perioda = perioda_blikani_diag(); perioda == 0)
         blikani_diag.stop();
@@ -294,7 +327,7 @@ void HlavniOkno::obnov_seznam(ZobrazenySeznam& s) {
     s.okno->setCurrentRow(novy.vybrany < s.okno->count() ? novy.vybrany : -1);
     if (s.zobrazeny.viditelny != novy.viditelny) {
         s.okno->setVisible(novy.viditelny);
-        if (novy.viditelny)
+        if (novy.viditelny && !ohnisko)
             s.okno->setFocus();
         else
             setFocus();
@@ -336,28 +369,10 @@ void HlavniOkno::obnov_nabidku() {
     }
     if (menu.jmeno.empty())
         return;
-    nabidka = new QMenu(this);
-    nabidka->setStyleSheet(QLatin1String(kVzhledNabidky));
-    nabidka->setFont(pismo_poli(kVyskaBunky * platno.meritko().bod() / devicePixelRatioF()));
-    if (!menu.hlava.empty()) {
-        auto* hlava = new QLabel(na_qstring(menu.hlava));
-        hlava->setFont(nabidka->font());
-        hlava->setStyleSheet(QLatin1String(kVzhledHlavy));
-        auto* akce_hlavy = new QWidgetAction(nabidka);
-        akce_hlavy->setDefaultWidget(hlava);
-        akce_hlavy->setEnabled(false);
-        nabidka->addAction(akce_hlavy);
-    }
-    for (const PolozkaMenu& polozka : menu.polozky) {
-        if (!polozka.viditelna)
-            continue;
-        QAction* akce = nabidka->addAction(na_qstring(polozka.text));
-        akce->setEnabled(polozka.povolena);
-        connect(akce, &QAction::triggered, this, [this, jmeno = polozka.jmeno] {
-            v_jadre([&] { zvol_v_menu(jmeno); });
-            obnov();
-        });
-    }
+    nabidka = postav_nabidku(this, menu, pismo_stolu(), [this](const Text& jmeno) {
+        v_jadre([&] { zvol_v_menu(jmeno); });
+        obnov();
+    });
     // The choice is told after the menu has gone; what is closed without one is closed in the core too.
     connect(nabidka, &QMenu::aboutToHide, this, [this] {
         QTimer::singleShot(0, this, [this, ukazovala = nabidka_ukazuje] {
@@ -366,7 +381,11 @@ void HlavniOkno::obnov_nabidku() {
             obnov();
         });
     });
-    nabidka->popup(QCursor::pos());
+    const QPoint u_prvku = menu.misto ? v_okne(QRect(menu.misto->vlevo, menu.misto->nahore, 1, 1)).topLeft()
+                                      : mapFromGlobal(QCursor::pos());
+    nabidka->popup(mapToGlobal(u_prvku)); // it keeps within the screen by itself
+    if (z_klavesy)
+        vyber_prvni(*nabidka);
 }
 
 // --- from the operator to the core
@@ -389,21 +408,26 @@ void HlavniOkno::najed(QPointF misto) {
     najety = kde;
 }
 
-void HlavniOkno::mousePressEvent(QMouseEvent* udalost) {
-    const QPointF misto = udalost->position();
-    najed(misto);
+void HlavniOkno::klepni(QPointF misto, Tlacitko tlacitko, bool ctrl) {
     const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(misto));
-    const Tlacitko tlacitko = tlacitko_mysi(udalost->button());
-    if (!kde && udalost->button() == Qt::LeftButton && !isFullScreen() && windowHandle() != nullptr &&
-        na_twipy(misto).y() < kVyskaListy && windowHandle()->startSystemMove())
-        return; // the window is dragged by its bar
     v_jadre([&] {
         if (kde)
-            klik(kde->druh, kde->n, tlacitko, udalost->modifiers().testFlag(Qt::ControlModifier));
+            klik(kde->druh, kde->n, tlacitko, ctrl);
         else
             klik_na_plochu();
     });
     obnov();
+}
+
+void HlavniOkno::mousePressEvent(QMouseEvent* udalost) {
+    const QPointF misto = udalost->position();
+    najed(misto);
+    zaostri({});
+    const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(misto));
+    if (!kde && udalost->button() == Qt::LeftButton && !isFullScreen() && windowHandle() != nullptr &&
+        na_twipy(misto).y() < kVyskaListy && windowHandle()->startSystemMove())
+        return; // the window is dragged by its bar
+    klepni(misto, tlacitko_mysi(udalost->button()), udalost->modifiers().testFlag(Qt::ControlModifier));
 }
 
 void HlavniOkno::mouseDoubleClickEvent(QMouseEvent* udalost) {
@@ -413,7 +437,11 @@ void HlavniOkno::mouseDoubleClickEvent(QMouseEvent* udalost) {
         mousePressEvent(udalost);
         return;
     }
-    v_jadre([&] { dvojklik(kde->druh, kde->n); });
+    poklepej(*kde);
+}
+
+void HlavniOkno::poklepej(const Nalezeny& kde) {
+    v_jadre([&] { dvojklik(kde.druh, kde.n); });
     obnov();
 }
 
@@ -426,7 +454,43 @@ void HlavniOkno::leaveEvent(QEvent*) {
     najed({-1, -1});
 }
 
+// What the hand does with the buttons of the mouse, for those who have none: at the pointer.
+bool HlavniOkno::stisk_za_mys(const QKeyEvent& udalost) {
+    const bool ctrl = udalost.modifiers().testFlag(Qt::ControlModifier);
+    const int klavesa = udalost.key();
+    const QPointF misto = QPointF(mapFromGlobal(QCursor::pos())) + QPointF(0.5, 0.5);
+    if (ctrl && je_sipka(klavesa)) {
+        const QPoint smer(klavesa == Qt::Key_Left    ? -1
+                          : klavesa == Qt::Key_Right ? 1
+                                                     : 0,
+                          klavesa == Qt::Key_Up     ? -1
+                          : klavesa == Qt::Key_Down ? 1
+                                                    : 0);
+        if (const std::optional<QPoint> kam = platno.soused(na_twipy(misto), smer))
+            nastav_kurzor_na_stole({kam->x() / kTwipu, kam->y() / kTwipu});
+        return true;
+    }
+    if (klavesa == Qt::Key_Space && ohnisko) {
+        v_jadre([&] { klik(*ohnisko, 0, Tlacitko::leve, false); });
+        obnov();
+        return true;
+    }
+    if (klavesa != Qt::Key_Insert && klavesa != Qt::Key_Menu)
+        return false;
+    najed(misto);
+    if (klavesa == Qt::Key_Menu || udalost.modifiers().testFlag(Qt::ShiftModifier))
+        klepni(misto, Tlacitko::prave, ctrl);
+    else if (!udalost.modifiers().testFlag(Qt::AltModifier))
+        klepni(misto, Tlacitko::leve, ctrl);
+    else if (najety && najety->druh <= Druh::lblPN)
+        poklepej(*najety);
+    return true;
+}
+
 bool HlavniOkno::stisk(QKeyEvent* udalost) {
+    const QScopedValueRollback po_klavese(z_klavesy, true);
+    if (!provoz2_otevren() && stisk_za_mys(*udalost))
+        return true;
     const Klavesa k = klavesa_qt(*udalost);
     if (k.kod == KodKlavesy::zadna)
         return false;
@@ -434,6 +498,58 @@ bool HlavniOkno::stisk(QKeyEvent* udalost) {
     v_jadre([&] { znama = klavesa(k); });
     obnov();
     return znama;
+}
+
+// --- the focus of the keys: the desk as a whole, one of the panel's buttons, or the list below them
+
+void HlavniOkno::zaostri(std::optional<Druh> tlacitko) {
+    if (ohnisko == tlacitko)
+        return;
+    for (const std::optional<Druh>& co : {ohnisko, tlacitko})
+        if (co)
+            update(v_okne(misto_vstupu(*co, tabulka(*co)[0])));
+    ohnisko = tlacitko;
+}
+
+// A window that is hidden gives the keys back to the desk. The way from place to place is dalsi_ohnisko().
+bool HlavniOkno::focusNextPrevChild(bool) {
+    setFocus();
+    return true;
+}
+
+void HlavniOkno::dalsi_ohnisko(bool dalsi) {
+    if (!pole->isHidden())
+        return; // until it is answered, the field keeps the keys
+    // the places in order: the desk, the buttons, the list that is open
+    constexpr int kTlacitek = static_cast<int>(std::size(kTlacitkaPanelu));
+    QListWidget* seznam = nullptr;
+    for (const ZobrazenySeznam& s : seznamy)
+        if (!s.okno->isHidden())
+            seznam = s.okno;
+    const int mist = 1 + kTlacitek + (seznam != nullptr ? 1 : 0);
+    int kde = seznam != nullptr && seznam->hasFocus() ? kTlacitek + 1 : 0;
+    for (int i = 0; i < kTlacitek; ++i)
+        if (ohnisko == kTlacitkaPanelu[i])
+            kde = i + 1;
+    kde = (kde + (dalsi ? 1 : mist - 1)) % mist;
+    zaostri(kde >= 1 && kde <= kTlacitek ? std::optional(kTlacitkaPanelu[kde - 1]) : std::nullopt);
+    if (kde > kTlacitek)
+        seznam->setFocus();
+    else
+        setFocus();
+}
+
+// A new delay brings the keys to the button of the messages, unless the operator is writing.
+void HlavniOkno::obnov_ohnisko() {
+    const bool zelene = relief.cmdZpravy[0].pozadi == barvy::zelena;
+    const std::size_t radku = relief.lstZpravy.radky.size();
+    const bool nova = zelene && (!zpravy_zelene || radku > zprav);
+    zpravy_zelene = zelene;
+    zprav = radku;
+    if (!nova || !pole->isHidden() || provoz2_otevren())
+        return;
+    setFocus();
+    zaostri(Druh::cmdZpravy);
 }
 
 void HlavniOkno::keyPressEvent(QKeyEvent* udalost) {
@@ -445,6 +561,10 @@ bool HlavniOkno::eventFilter(QObject* cil, QEvent* udalost) {
     if (udalost->type() != QEvent::KeyPress)
         return QWidget::eventFilter(cil, udalost);
     auto* k = static_cast<QKeyEvent*>(udalost);
+    if (je_tabulator(*k)) {
+        dalsi_ohnisko(k->key() == Qt::Key_Tab);
+        return true;
+    }
     const bool s_modifikatorem = k->modifiers() & (Qt::ControlModifier | Qt::AltModifier);
     if (cil == pole) {
         // The field keeps what writes and moves in it, copying included; the desk takes the rest.
@@ -498,6 +618,11 @@ void HlavniOkno::resizeEvent(QResizeEvent*) {
 }
 
 bool HlavniOkno::event(QEvent* udalost) {
+    if (udalost->type() == QEvent::KeyPress && !provoz2_otevren())
+        if (const auto* k = static_cast<QKeyEvent*>(udalost); je_tabulator(*k)) {
+            dalsi_ohnisko(k->key() == Qt::Key_Tab);
+            return true;
+        }
     if (udalost->type() == QEvent::ToolTip) {
         const auto* napoveda = static_cast<QHelpEvent*>(udalost);
         const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(napoveda->pos()));
@@ -510,7 +635,8 @@ bool HlavniOkno::event(QEvent* udalost) {
         if (text.empty())
             QToolTip::hideText();
         else
-            QToolTip::showText(napoveda->globalPos(), na_qstring(text), this);
+            QToolTip::showText(napoveda->globalPos(), na_qstring(text), this,
+                               v_okne(misto_vstupu(kde->druh, tabulka(kde->druh)[kde->n])));
         return true;
     }
     return QWidget::event(udalost);
@@ -530,5 +656,11 @@ void HlavniOkno::paintEvent(QPaintEvent* udalost) {
         const QRect cil = platno.v_bodech(misto_vstupu(najety->druh, tabulka(najety->druh)[najety->n]));
         p.setPen(QColor::fromRgb(kNajetiPrvku));
         p.drawRect(cil.adjusted(0, 0, -1, -1));
+    }
+    if (ohnisko && tabulka(*ohnisko).je(0)) {
+        const int okraj = platno.meritko().bodu(2);
+        const QRect cil = platno.v_bodech(misto_vstupu(*ohnisko, tabulka(*ohnisko)[0]));
+        p.setPen(QPen(barva_qt(tabulka(*ohnisko)[0].barva), platno.meritko().bodu(1), Qt::DotLine));
+        p.drawRect(cil.adjusted(okraj, okraj, -okraj - 1, -okraj - 1));
     }
 }

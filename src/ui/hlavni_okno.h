@@ -1,6 +1,7 @@
 // ui/hlavni_okno.h - the main screen: the desk in a window, its timers, its keys and its pointer.
 #pragma once
 
+#include "app/vstup.h"
 #include "relief/relief.h"
 #include "ui/platno.h"
 #include "zaklad/platforma.h"
@@ -43,6 +44,7 @@ protected:
     void closeEvent(QCloseEvent* udalost) override;
     bool event(QEvent* udalost) override;
     bool eventFilter(QObject* cil, QEvent* udalost) override;
+    bool focusNextPrevChild(bool dalsi) override;
 
 private:
     // A list of the bottom panel and the copy of what it shows.
@@ -56,10 +58,17 @@ private:
     void umisti();
     QPoint na_twipy(QPointF misto) const;
     QRect v_okne(const QRect& twipy) const;
+    QFont pismo_stolu() const;
     void najed(QPointF misto);
+    void klepni(QPointF misto, Tlacitko tlacitko, bool ctrl);
+    void poklepej(const Nalezeny& kde);
+    void zaostri(std::optional<Druh> tlacitko);
+    void dalsi_ohnisko(bool dalsi);
+    void obnov_ohnisko();
     void obnov_seznam(ZobrazenySeznam& s);
     void obnov_pole();
     void obnov_nabidku();
+    bool stisk_za_mys(const QKeyEvent& udalost);
     bool stisk(QKeyEvent* udalost);
     void zmenit_viditelnost_okna();
 
@@ -71,6 +80,10 @@ private:
     ObrazovkaTechnologie* technologie = nullptr;
     Text nabidka_ukazuje;
     std::optional<Nalezeny> najety;
+    std::optional<Druh> ohnisko; // the panel's button that the space bar presses
+    bool z_klavesy = false;      // what happens now comes from a key
+    bool zpravy_zelene = false;
+    std::size_t zprav = 0;
     bool minimalizovane = false;
     int sirka_pri_umisteni = 0;
 };

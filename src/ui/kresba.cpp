@@ -12,6 +12,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 namespace {
 
@@ -19,7 +20,7 @@ constexpr double kTloustkaKoleje = 3; // of a track line, pixels of the desk
 constexpr double kMezeraUseku = 1;    // by which a level track stops short of its ends: sections part there
 constexpr double kOdsazeniNohy = 0.6; // part of a leg that the switch leaves out on the side not set
 constexpr double kOdsazeniPohybu = 0.4;
-constexpr int kNejmensiCil = 10 * kTwipu; // no target for the pointer is smaller
+constexpr int kNejmensiCil = 13 * kTwipu; // no target for the pointer is smaller
 constexpr int kPresahRadku = 2;           // of the command line above and below its text, pixels of the desk
 constexpr int kPresahCisla = 2;           // what a label clears beside its text, pixels of the desk
 
@@ -51,6 +52,7 @@ enum class Zpusob : std::uint8_t {
     pruh,
     ramec,
     vuz,
+    popis_vozu,
     sberac,
 };
 
@@ -123,7 +125,7 @@ constexpr Styl kStyly[] = {
     {Druh::cmdVLAK, Zpusob::tlacitko, {}, false, true, 3},
     {Druh::lblIinfo_o_vlaku, Zpusob::odstavec, {}, false, true, 3},
     {Druh::imgObrzaek_vlaku, Zpusob::vuz, {}, false, true, 3},
-    {Druh::lblPopis_vozu, Zpusob::napis, {}, false, true, 3},
+    {Druh::lblPopis_vozu, Zpusob::popis_vozu, {}, false, true, 3},
     {Druh::lblPokracuje, Zpusob::napis, {}, false, false, 3},
     {Druh::shpVyhledavani, Zpusob::ramec, {}, false, false, 7},
 };
@@ -311,16 +313,43 @@ std::vector<TextPohled> radky_textu(TextPohled text, std::size_t sirka) {
     return radky;
 }
 
+std::size_t sloupcu_odstavce(const Prvek& prvek, bool zalamovat) {
+    return zalamovat && prvek.sirka > kSirkaZnaku ? static_cast<std::size_t>(prvek.sirka / kSirkaZnaku)
+                                                  : TextPohled::npos - 1;
+}
+
 void nakresli_odstavec(QPainter& p, const Meritko& m, const Prvek& prvek, bool zalamovat) {
     if (prvek.ramecek)
         p.fillRect(v_bodech(m, prvek), barva_qt(prvek.pozadi));
     const double sirka = kSirkaBunky * m.bod(), vyska = kVyskaBunky * m.bod();
-    const std::size_t sloupcu =
-        zalamovat && prvek.sirka > kSirkaZnaku ? static_cast<std::size_t>(prvek.sirka / kSirkaZnaku) : 1000;
+    const std::size_t sloupcu = sloupcu_odstavce(prvek, zalamovat);
     double y = m.y(prvek.nahore);
     for (const TextPohled radek : radky_textu(prvek.text(), sloupcu)) {
         const double x = zacatek_radku(m, prvek, sirka * static_cast<double>(radek.size()));
         kresli_radek(p, x, y, sirka, vyska, radek, prvek.barva, Znaky::pismena);
+        y += vyska;
+    }
+}
+
+// Lines under a vehicle's picture: what it is, and in brackets the train that it goes on with. The next
+// vehicle stands close by, so that no line may be wider than the picture.
+std::vector<TextPohled> radky_popisu(const Prvek& prvek) {
+    const auto sloupcu = static_cast<std::size_t>(std::max(1, prvek.sirka / kSirkaZnaku));
+    const TextPohled text = prvek.text();
+    const std::size_t zavorka = text.rfind(" (");
+    std::vector<TextPohled> radky = radky_textu(text.substr(0, zavorka), sloupcu);
+    if (zavorka != TextPohled::npos)
+        for (const TextPohled radek : radky_textu(text.substr(zavorka + 1), sloupcu))
+            radky.push_back(radek);
+    return radky;
+}
+
+void nakresli_popis_vozu(QPainter& p, const Meritko& m, const Prvek& prvek) {
+    const double sirka = kSirkaBunky * m.bod(), vyska = kVyskaBunky * m.bod();
+    double y = m.y(prvek.nahore);
+    for (const TextPohled radek : radky_popisu(prvek)) {
+        kresli_radek(p, zacatek_radku(m, prvek, sirka * static_cast<double>(radek.size())), y, sirka, vyska,
+                     radek, prvek.barva, Znaky::pismena);
         y += vyska;
     }
 }
@@ -420,8 +449,41 @@ void nakresli_ikonu(QPainter& p, const Meritko& m, Druh druh, const Prvek& prvek
     }
 }
 
-// Target of a track's end: at rest a small mark, else the sign of the note on the track.
-void nakresli_cil(QPainter& p, const Meritko& m, const Prvek& prvek) {
+// Left edge of the sign of a note within its target, twips: where the labels of the track leave room for
+// it, beside a train's number if there is so much, else beside their names.
+int misto_znacky(int n, const Prvek& cil, int sirka) {
+    constexpr int kMezera = 2 * kTwipu, kCisloVlaku = 5, kDruhyPopisek = 200;
+    for (const int nejmene : {kCisloVlaku, 0}) {
+        std::array<std::pair<int, int>, 2> obsazeno{}; // by the labels, from the left
+        std::size_t pocet = 0;
+        for (const int popisek : {n, n + kDruhyPopisek}) {
+            if (!relief.cislo_koleje.je(popisek))
+                continue;
+            const Prvek& p = relief.cislo_koleje[popisek];
+            const int znaku = std::max(nejmene, static_cast<int>(p.popis->size()));
+            if (p.nahore < cil.nahore + cil.vyska && p.nahore + kVyskaZnaku > cil.nahore)
+                obsazeno[pocet++] = {p.vlevo - kMezera, p.vlevo + znaku * kSirkaZnaku + kMezera};
+        }
+        std::sort(obsazeno.begin(), obsazeno.begin() + static_cast<std::ptrdiff_t>(pocet));
+        int od = cil.vlevo, nejlepsi = 0, kde = 0;
+        for (std::size_t i = 0; i <= pocet; ++i) {
+            const int po = i < pocet ? obsazeno[i].first : cil.vlevo + cil.sirka;
+            if (po - od > nejlepsi) {
+                nejlepsi = po - od;
+                kde = nejmene > 0 || pocet == 0 ? od + (nejlepsi - sirka) / 2 : po - sirka;
+            }
+            if (i < pocet)
+                od = std::max(od, obsazeno[i].second);
+        }
+        if (nejlepsi >= sirka)
+            return kde;
+    }
+    return cil.vlevo + (cil.sirka - sirka) / 2;
+}
+
+// Target of a track's end: nothing at rest, else the sign of the note on the track.
+void nakresli_cil(QPainter& p, const Meritko& m, int n, const Prvek& prvek) {
+    constexpr int kSirkaZnacky = 10 * kTwipu;
     const QRect plocha = v_bodech(m, prvek);
     struct Stitek {
         int obrazek;
@@ -432,7 +494,8 @@ void nakresli_cil(QPainter& p, const Meritko& m, const Prvek& prvek) {
     for (const Stitek& s : kStitky)
         if (prvek.obrazek == s.obrazek) {
             QRect deska(0, 0, m.bodu(10), m.bodu(13));
-            deska.moveCenter(plocha.center());
+            deska.moveTo(m.x(misto_znacky(n, prvek, kSirkaZnacky)),
+                         plocha.y() + (plocha.height() - deska.height()) / 2);
             p.fillRect(deska, odstin(s.barva));
             kresli_radek(p, deska.x() + m.bod(), deska.y(), kSirkaBunky * m.bod(), kVyskaBunky * m.bod(),
                          s.pismeno, barvy::bila, Znaky::pismena);
@@ -585,6 +648,16 @@ QRect misto_kresby(Druh druh, int, const Prvek& prvek) {
         }
         break;
     }
+    case Zpusob::odstavec:
+    case Zpusob::radky:
+    case Zpusob::popis_vozu: { // the text may run on below its rectangle
+        const bool popis = styl(druh).zpusob == Zpusob::popis_vozu;
+        const std::size_t sloupcu = sloupcu_odstavce(prvek, styl(druh).zpusob == Zpusob::odstavec);
+        const auto radku =
+            static_cast<int>((popis ? radky_popisu(prvek) : radky_textu(prvek.text(), sloupcu)).size());
+        r = QRect(prvek.vlevo, prvek.nahore, prvek.sirka, std::max<int>(prvek.vyska, radku * kVyskaZnaku));
+        break;
+    }
     default: r = QRect(prvek.vlevo, prvek.nahore, prvek.sirka, prvek.vyska); break;
     }
     return r.adjusted(-kRezerva, -kRezerva, kRezerva, kRezerva);
@@ -619,7 +692,7 @@ void nakresli_prvek(QPainter& p, const Meritko& m, Druh druh, int n, const Prvek
     case Zpusob::radky: nakresli_odstavec(p, m, prvek, false); return;
     case Zpusob::nastupiste: nakresli_nastupiste(p, m, prvek); return;
     case Zpusob::vyhybka: nakresli_vyhybku(p, m, prvek.vlevo, prvek.nahore, stav_vyhybky(prvek)); return;
-    case Zpusob::cil: nakresli_cil(p, m, prvek); return;
+    case Zpusob::cil: nakresli_cil(p, m, n, prvek); return;
     case Zpusob::lampa: nakresli_lampu(p, m, n, prvek); return;
     case Zpusob::znacka: p.fillRect(v_bodech(m, prvek), barva_qt(prvek.barva)); return;
     case Zpusob::stanoviste: nakresli_stanoviste(p, m, prvek); return;
@@ -631,6 +704,7 @@ void nakresli_prvek(QPainter& p, const Meritko& m, Druh druh, int n, const Prvek
         return;
     case Zpusob::ramec: nakresli_ramec(p, m, prvek); return;
     case Zpusob::vuz: nakresli_vuz(p, m, prvek); return;
+    case Zpusob::popis_vozu: nakresli_popis_vozu(p, m, prvek); return;
     case Zpusob::sberac: nakresli_sberac(p, m, prvek); return;
     }
 }

@@ -4,6 +4,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <cstdlib>
 #include <tuple>
 
 namespace {
@@ -133,11 +134,26 @@ void Platno::kresli(const QRegion& kde) {
     nakresli_podklad(p, m, stul & kde.boundingRect());
     for (const NapisPozadi& napis : nakreslene_napisy)
         nakresli_napis_pozadi(p, m, napis);
+    const auto nakresli = [&](Druh druh, int n, const QRect& misto) {
+        const Prvek& prvek = nakreslene[static_cast<std::size_t>(druh)][static_cast<std::size_t>(n)];
+        if (prvek.viditelny && kde.intersects(v_bodech(misto)))
+            nakresli_prvek(p, m, druh, n, prvek);
+    };
+    const auto je = [&](Druh druh, int n) {
+        const std::vector<Prvek>& prvky = nakreslene[static_cast<std::size_t>(druh)];
+        return static_cast<std::size_t>(n) < prvky.size() && prvky[static_cast<std::size_t>(n)].existuje;
+    };
     for (const Polozka& polozka : poradi) {
-        const Prvek& prvek =
-            nakreslene[static_cast<std::size_t>(polozka.druh)][static_cast<std::size_t>(polozka.n)];
-        if (prvek.viditelny && kde.intersects(v_bodech(polozka.misto)))
-            nakresli_prvek(p, m, polozka.druh, polozka.n, prvek);
+        // Targets lie at the bottom, where they are in nobody's way; but the sign of a note on one is
+        // drawn with its track, over the line.
+        if (polozka.druh == Druh::Image1 && je(Druh::kolej, polozka.n))
+            continue;
+        nakresli(polozka.druh, polozka.n, polozka.misto);
+        if (polozka.druh == Druh::kolej && je(Druh::Image1, polozka.n)) {
+            const auto n = static_cast<std::size_t>(polozka.n);
+            const Prvek& cil = nakreslene[static_cast<std::size_t>(Druh::Image1)][n];
+            nakresli(Druh::Image1, polozka.n, misto_kresby(Druh::Image1, polozka.n, cil));
+        }
     }
 }
 
@@ -170,4 +186,27 @@ std::optional<Nalezeny> Platno::prvek_pod(QPoint twipy) const {
     if (nalezeny == nullptr)
         return std::nullopt;
     return Nalezeny{nalezeny->druh, nalezeny->n};
+}
+
+std::optional<QPoint> Platno::soused(QPoint odkud, QPoint smer) const {
+    constexpr int kNejmensiKrok = 4 * kTwipu, kVahaStranou = 4;
+    std::optional<QPoint> nejblizsi;
+    int nejmene = 0;
+    for (const Polozka& polozka : poradi) {
+        const Prvek& prvek =
+            nakreslene[static_cast<std::size_t>(polozka.druh)][static_cast<std::size_t>(polozka.n)];
+        if (!bere_vstup(polozka.druh) || !prvek.viditelny ||
+            (polozka.druh == Druh::lblTabulka_vlaku && prvek.text().find_first_not_of(' ') == Text::npos))
+            continue;
+        const QPoint stred = misto_vstupu(polozka.druh, prvek).center();
+        const QPoint cesta = stred - odkud;
+        const int vpred = QPoint::dotProduct(cesta, smer);
+        const int stranou = std::abs(cesta.x() * smer.y()) + std::abs(cesta.y() * smer.x());
+        const int cena = vpred + kVahaStranou * stranou;
+        if (vpred < kNejmensiKrok || (nejblizsi && cena >= nejmene))
+            continue;
+        nejblizsi = stred;
+        nejmene = cena;
+    }
+    return nejblizsi;
 }

@@ -39,6 +39,9 @@ public:
     // Element under the place in twips that takes input: the topmost one that holds it, among elements
     // that overlap in one layer the nearest one.
     std::optional<Nalezeny> prvek_pod(QPoint twipy) const;
+    // Middle of the next element that takes input, from a place in twips on to the left, right, up or
+    // down; what lies aside of that way counts as further off.
+    std::optional<QPoint> soused(QPoint odkud, QPoint smer) const;
 
 private:
     struct Polozka { // one element in drawing order

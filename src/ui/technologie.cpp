@@ -1,6 +1,7 @@
 // ui/technologie.cpp - the maintenance screens over the desk.
 #include "ui/technologie.h"
 
+#include "app/simulace.h"
 #include "app/vstup.h"
 #include "cesty/duvod.h"
 #include "cesty/zasobnik.h"
@@ -16,48 +17,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 #include <utility>
-
-namespace {
-
-// Colours of the terminal, as the relief writes them: 0x00BBGGRR.
-constexpr Barva kJantar = 0x30B0FF, kZelena = 0x60E060, kTlumena = 0x508050, kBila = 0xF0F0F0;
-constexpr QRgb kPozadi = 0xFF0A0E0B, kRamec = 0xFF2E5A38, kHlava = 0xFF143020, kVyber = 0xFF1E5A30;
-constexpr QRgb kPodUkazatelem = 0xFF14301C, kTlacitko = 0xFF23402B, kTlacitkoPod = 0xFF2F6B40;
-
-constexpr int kVyskaRadku = 15; // of a list, pixels of the desk
-constexpr int kSirkaCisel = 4 * kSirkaBunky;
-constexpr int kSirkaPosuvniku = 6;
-
-// A list: where its head begins, how wide it is. All places are in pixels of the desk.
-struct OknoSeznamu {
-    Seznam Provoz2::*seznam;
-    TextPohled nadpis;
-    QPoint roh;
-    int sirka, radku;
-
-    QRect hlava() const { return {roh.x(), roh.y(), sirka, 20}; }
-    QRect telo() const { return {roh.x(), roh.y() + 20, sirka, radku * kVyskaRadku + 6}; }
-    QRect radek(int i) const { return {roh.x() + 1, roh.y() + 23 + i * kVyskaRadku, sirka - 2, kVyskaRadku}; }
-};
-constexpr std::array<OknoSeznamu, 4> kOkna = {{
-    {&Provoz2::lstZasobnik, "Zásobník jízdních cest"_cz, {12, 78}, 560, kRadkuProvozu2[0]},
-    {&Provoz2::lstVYL_UPO, "VYL+UPO"_cz, {584, 78}, 428, kRadkuProvozu2[1]},
-    {&Provoz2::lstmakra, "Seznam maker"_cz, {584, 266}, 428, kRadkuProvozu2[2]},
-    {&Provoz2::lstPocitace, "Zapojené počítače"_cz, {584, 533}, 428, kRadkuProvozu2[3]},
-}};
-constexpr QRect kKlavesyMaker(584, 471, 428, 50);
-constexpr QRect kPodrobnosti(12, 416, 560, 278);
-
-struct TlacitkoObrazovky {
-    QRect misto;
-    TextPohled text;
-    TextPohled klavesa; // the key that does the same
-};
-constexpr std::array<TlacitkoObrazovky, 2> kTlacitka = {{
-    {QRect(12, 714, 240, 44), "Smazat řádek [Delete]"_cz, "Delete"},
-    {QRect(772, 714, 240, 44), "ZAVŘÍT [Esc]"_cz, "Esc"},
-}};
 
 // Draws in pixels of the desk on the device's pixels.
 struct Pero {
@@ -83,14 +44,118 @@ struct Pero {
                      kVyskaBunky * krat * m.bod(), text, barva, Znaky::pismena);
     }
     // As many characters as the width holds; what is cut ends with two points.
-    void text_do(int x, int y, int sirka, TextPohled co, Barva barva) const {
-        const auto mist = static_cast<std::size_t>(std::max(0, sirka / kSirkaBunky));
+    void text_do(int x, int y, int sirka, TextPohled co, Barva barva, double krat = 1) const {
+        const auto mist = static_cast<std::size_t>(std::max(0.0, sirka / (kSirkaBunky * krat)));
         if (co.size() <= mist)
-            text(x, y, co, barva);
+            text(x, y, co, barva, krat);
         else if (mist > 2)
-            text(x, y, Text(co.substr(0, mist - 2)) + "..", barva);
+            text(x, y, Text(co.substr(0, mist - 2)) + "..", barva, krat);
     }
 };
+
+namespace {
+
+// Colours of the terminal, as the relief writes them: 0x00BBGGRR.
+constexpr Barva kJantar = 0x30B0FF, kZelena = 0x60E060, kTlumena = 0x508050, kBila = 0xF0F0F0;
+constexpr Barva kCervena = 0x5050FF;
+constexpr QRgb kPozadi = 0xFF0A0E0B, kRamec = 0xFF2E5A38, kHlava = 0xFF143020, kVyber = 0xFF1E5A30;
+constexpr QRgb kPodUkazatelem = 0xFF14301C, kTlacitko = 0xFF23402B, kTlacitkoPod = 0xFF2F6B40;
+constexpr QRgb kVystraha = 0xFF6A1414, kRamecVystrahy = 0xFFC04040;
+
+constexpr int kVyskaHlavy = 20; // of a list, pixels of the desk
+constexpr int kSirkaPosuvniku = 6;
+
+// A list: where its head begins, how wide it is, how many rows one below another it shows, in how many
+// columns, how many times its letters are larger, and how high a row is. All places are in pixels of the
+// desk.
+struct OknoSeznamu {
+    QPoint roh;
+    int sirka, radku;
+    int sloupcu = 1;
+    double krat = 1;
+    int vyska_radku = 15;
+    bool s_cisly = true;
+
+    int naraz() const { return radku * sloupcu; }
+    int sirka_cisel() const { return s_cisly ? static_cast<int>(4 * kSirkaBunky * krat) : 0; }
+    QRect hlava() const { return {roh.x(), roh.y(), sirka, kVyskaHlavy}; }
+    QRect telo() const { return {roh.x(), roh.y() + kVyskaHlavy, sirka, radku * vyska_radku + 6}; }
+    QRect radek(int i) const {
+        const int sloupec = (sirka - 2 - kSirkaPosuvniku) / sloupcu;
+        return {roh.x() + 1 + i / radku * sloupec, roh.y() + kVyskaHlavy + 3 + i % radku * vyska_radku,
+                sloupec, vyska_radku};
+    }
+};
+
+// The windows of each screen, in the order of its lists.
+constexpr std::array<OknoSeznamu, 4> kOknaProvozu1 = {{
+    {{12, 78}, 612, 12},
+    {{636, 78}, 376, 37, 2},
+    {{12, 296}, 612, 12},
+    {{12, 514}, 612, 8},
+}};
+constexpr std::array<OknoSeznamu, 4> kOknaProvozu2 = {{
+    {{12, 78}, 560, 20},
+    {{584, 78}, 428, 10},
+    {{584, 266}, 428, 12},
+    {{584, 533}, 428, 9},
+}};
+constexpr std::array<OknoSeznamu, 2> kOknaPenetu = {{
+    {{12, 78}, 420, 19, 1, 1.5, 30},
+    {{444, 78}, 568, 13, 1, 1.5, 30},
+}};
+constexpr std::array<OknoSeznamu, 2> kOknaDohledu = {{
+    {{12, 78}, 1000, 23, 1, 1.5, 21},
+    {{12, 618}, 1000, 2, 1, 1.5, 21, false},
+}};
+constexpr std::array<OknoSeznamu, 2> kOknaSekvence = {{
+    {{12, 130}, 560, 33, 3},
+    {{584, 230}, 428, 8},
+}};
+constexpr QRect kKlavesyMaker(584, 471, 428, 50);
+constexpr QRect kPodrobnosti(12, 416, 560, 278);
+constexpr QRect kRizikova(12, 78, 1000, 40);
+constexpr QRect kFunkce(584, 130, 428, 88);
+
+std::span<const OknoSeznamu> okna(Technologie ktera) {
+    switch (ktera) {
+    case Technologie::provoz1: return kOknaProvozu1;
+    case Technologie::provoz2: return kOknaProvozu2;
+    case Technologie::penet: return kOknaPenetu;
+    case Technologie::dohled: return kOknaDohledu;
+    case Technologie::sekvence: return kOknaSekvence;
+    }
+    return {};
+}
+
+struct TlacitkoObrazovky {
+    QRect misto;
+    TextPohled text;
+    TextPohled klavesa; // the key that does the same
+};
+constexpr std::array<TlacitkoObrazovky, 2> kTlacitka = {{
+    {QRect(12, 714, 240, 44), "Smazat řádek [Delete]"_cz, "Delete"},
+    {QRect(772, 714, 240, 44), "ZAVŘÍT [Esc]"_cz, "Esc"},
+}};
+
+// The view of the confirmation sequence: a corner of the desk over the bottom panel, and its button.
+constexpr QRect kPohled(520, 618, 500, 148);
+constexpr TlacitkoObrazovky kZavritPohled = {QRect(880, 734, 132, 24), "ZAVŘÍT [Esc]"_cz, "Esc"};
+
+constexpr int kMezeraZalozek = 4, kVyskaZalozek = 26, kRadaZalozek = 36;
+
+// The tabs stand in one row at the right edge.
+QRect misto_zalozky(std::size_t i) {
+    int x = 1012;
+    for (std::size_t j = kTechnologie.size(); j-- > i;) {
+        const int sirka = static_cast<int>(kTechnologie[j].zalozka.size()) * kSirkaBunky + 24;
+        x -= sirka;
+        if (j == i)
+            return {x, kRadaZalozek, sirka, kVyskaZalozek};
+        x -= kMezeraZalozek;
+    }
+    return {};
+}
 
 // Cut at blanks to lines of so many characters; a word longer than a line is cut itself.
 std::vector<Text> zalom(TextPohled text, std::size_t mist) {
@@ -116,6 +181,48 @@ TextPohled cislo_radku(TextPohled cisla, int i) {
     return cisla.substr(0, cisla.find('\x0D'));
 }
 
+// Middle of a place, for a text of one line.
+void text_na_stred(const Pero& pero, const QRect& misto, TextPohled text, Barva barva, double krat = 1) {
+    const int sirka = static_cast<int>(static_cast<double>(text.size()) * kSirkaBunky * krat);
+    const int vyska = static_cast<int>(kVyskaBunky * krat);
+    pero.text(misto.x() + (misto.width() - sirka) / 2, misto.y() + (misto.height() - vyska) / 2, text, barva,
+              krat);
+}
+
+void nakresli_tlacitko(const Pero& pero, const TlacitkoObrazovky& tlacitko, bool pod, Barva barva) {
+    pero.plocha(tlacitko.misto, pod ? kTlacitkoPod : kTlacitko);
+    pero.obrys(tlacitko.misto, kRamec);
+    text_na_stred(pero, tlacitko.misto, tlacitko.text, barva);
+}
+
+void nakresli_ramecek(const Pero& pero, const QRect& misto, TextPohled nadpis) {
+    pero.plocha({misto.x(), misto.y(), misto.width(), kVyskaHlavy}, kHlava);
+    pero.obrys(misto, kRamec);
+    pero.text(misto.x() + 6, misto.y() + 4, nadpis, kJantar);
+}
+
+// Telegrams of PE-NET: the bits that are set shine.
+void nakresli_telegram(const Pero& pero, int x, int y, TextPohled radek, double krat) {
+    constexpr std::size_t kBity = 11; // where they begin
+    pero.text(x, y, radek.substr(0, kBity), kZelena, krat);
+    for (std::size_t i = kBity; i < radek.size(); ++i)
+        pero.text(x + static_cast<int>(static_cast<double>(i) * kSirkaBunky * krat), y, radek.substr(i, 1),
+                  radek[i] == '1' ? kJantar : kTlumena, krat);
+}
+
+// Heading of a risky function, and what ran.
+void nakresli_vystrahu(const Pero& pero, const QRect& misto, bool bezi, double krat) {
+    if (bezi)
+        pero.plocha(misto, kVystraha);
+    pero.obrys(misto, bezi ? kRamecVystrahy : kRamec);
+    text_na_stred(pero, misto, kRizikovaFunkce, bezi ? kBila : kTlumena, krat);
+}
+
+// A condition ends with ANO or NE; one that did not hold is red.
+Barva barva_podminky(TextPohled radek) {
+    return radek.size() > 2 && radek.substr(radek.size() - 2) == "NE" ? kCervena : kZelena;
+}
+
 } // namespace
 
 ObrazovkaTechnologie::ObrazovkaTechnologie(QWidget* rodic, std::function<bool(QKeyEvent*)> stisk_,
@@ -125,65 +232,96 @@ ObrazovkaTechnologie::ObrazovkaTechnologie(QWidget* rodic, std::function<bool(QK
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
-    connect(&datum, &QTimer::timeout, this, [this] {
-        v_jadre(tik_provozu2);
-        obnov();
-    });
+    for (const auto& [casovac, telo] :
+         {std::pair{&datum, &tik_technologie}, std::pair{&znacky, &tik_driveru}})
+        connect(casovac, &QTimer::timeout, this, [this, telo = telo] {
+            v_jadre(telo);
+            obnov();
+        });
 }
 
 // --- from the core to the screen
 
 void ObrazovkaTechnologie::obnov() {
-    if (provoz2_otevren() == isHidden()) {
+    const auto ktera = otevrena_technologie();
+    if (ktera.has_value() == isHidden()) {
         if (isHidden()) {
-            prvni_radek = {};
             zobrazeny = {};
-            datum.start(perioda_provozu2());
-            setGeometry(parentWidget()->rect());
+            setGeometry(misto_na_okne());
             show();
             raise();
-            setFocus();
         } else {
-            datum.stop();
             hide();
-            parentWidget()->setFocus();
+            if (hasFocus())
+                parentWidget()->setFocus();
         }
     }
-    if (isHidden())
-        return;
-    if (geometry() != parentWidget()->rect())
-        setGeometry(parentWidget()->rect());
-    if (zobrazeny == provoz2)
-        return;
-    for (std::size_t s = 0; s < kOkna.size(); ++s) {
-        const bool jiny_vyber = (zobrazeny.*kOkna[s].seznam) != provoz2.*kOkna[s].seznam;
-        prvni_radek[s] = std::clamp(prvni_radek[s], 0, nejvyssi_posun(s));
-        if (jiny_vyber)
-            ukaz_vybrany(s);
+    for (const auto& [casovac, perioda] :
+         {std::pair{&datum, perioda_technologie()}, std::pair{&znacky, perioda_driveru()}}) {
+        if (perioda == 0)
+            casovac->stop();
+        else if (!casovac->isActive())
+            casovac->start(perioda);
     }
-    zobrazeny = provoz2;
+    if (!ktera)
+        return;
+    if (technologie_kryje_stul() && !hasFocus())
+        setFocus();
+    if (const QRect misto = misto_na_okne(); geometry() != misto)
+        setGeometry(misto);
+    Obsah novy{ktera, technologie, provoz1, provoz2, penet, dohled, sekvence};
+    if (zobrazeny == novy)
+        return;
+    if (zobrazeny.ktera != ktera) {
+        prvni_radek = {};
+        pod_ukazatelem = {};
+    }
+    zobrazeny = std::move(novy);
+    for (std::size_t s = 0; s < okna(*ktera).size(); ++s) {
+        prvni_radek[s] = std::clamp(prvni_radek[s], 0, nejvyssi_posun(s));
+        if (const int vybrany = seznamy_technologie(*ktera)[s].seznam->vybrany; vybrany != minuly_vyber[s]) {
+            minuly_vyber[s] = vybrany;
+            ukaz_vybrany(s);
+        }
+    }
     update();
 }
 
-int ObrazovkaTechnologie::nejvyssi_posun(std::size_t seznam) const {
-    return std::max(0, static_cast<int>((provoz2.*kOkna[seznam].seznam).radky.size()) - kOkna[seznam].radku);
+int ObrazovkaTechnologie::nejvyssi_posun(std::size_t s) const {
+    const Technologie ktera = *zobrazeny.ktera;
+    const auto radku = static_cast<int>(seznamy_technologie(ktera)[s].seznam->radky.size());
+    return std::max(0, radku - okna(ktera)[s].naraz());
 }
 
-void ObrazovkaTechnologie::ukaz_vybrany(std::size_t seznam) {
-    const int vybrany = (provoz2.*kOkna[seznam].seznam).vybrany;
+void ObrazovkaTechnologie::ukaz_vybrany(std::size_t s) {
+    const Technologie ktera = *zobrazeny.ktera;
+    const int vybrany = seznamy_technologie(ktera)[s].seznam->vybrany;
     if (vybrany >= 0)
-        prvni_radek[seznam] = std::clamp(prvni_radek[seznam], vybrany - kOkna[seznam].radku + 1, vybrany);
+        prvni_radek[s] = std::clamp(prvni_radek[s], vybrany - okna(ktera)[s].naraz() + 1, vybrany);
 }
 
 // --- places
 
+// Of the desk of one monitor, in the middle of the window; the corner of this widget is taken off.
 Meritko ObrazovkaTechnologie::meritko() const {
-    const QSizeF velikost = QSizeF(size()) * devicePixelRatioF();
+    const double pomer = devicePixelRatioF();
+    const QSizeF velikost = QSizeF(parentWidget()->size()) * pomer;
     Meritko m;
     m.k = std::min(velikost.width() / kSirkaStolu, velikost.height() / kVyskaStolu);
-    m.x0 = static_cast<int>((velikost.width() - kSirkaStolu * m.k) / 2);
-    m.y0 = static_cast<int>((velikost.height() - kVyskaStolu * m.k) / 2);
+    m.x0 = static_cast<int>((velikost.width() - kSirkaStolu * m.k) / 2 - x() * pomer);
+    m.y0 = static_cast<int>((velikost.height() - kVyskaStolu * m.k) / 2 - y() * pomer);
     return m;
+}
+
+QRect ObrazovkaTechnologie::misto_na_okne() const {
+    if (!technologie.jen_pohled)
+        return parentWidget()->rect();
+    const double pomer = devicePixelRatioF();
+    const Meritko m = meritko(); // taken from where the widget stands now: put back by its corner
+    const double bod = m.bod() / pomer;
+    const QPointF roh(x() + m.x0 / pomer, y() + m.y0 / pomer);
+    return QRectF(roh + QPointF(kPohled.x(), kPohled.y()) * bod, QSizeF(kPohled.size()) * bod)
+        .toAlignedRect();
 }
 
 QPoint ObrazovkaTechnologie::na_stul(QPointF misto) const {
@@ -193,17 +331,29 @@ QPoint ObrazovkaTechnologie::na_stul(QPointF misto) const {
 }
 
 ObrazovkaTechnologie::Misto ObrazovkaTechnologie::misto_pod(QPointF misto) const {
+    const auto ktera = otevrena_technologie();
     const QPoint bod = na_stul(misto);
     Misto m;
+    if (!ktera)
+        return m;
+    if (technologie.jen_pohled) {
+        if (kZavritPohled.misto.contains(bod))
+            m.tlacitko = 1;
+        return m;
+    }
     for (std::size_t t = 0; t < kTlacitka.size(); ++t)
-        if (kTlacitka[t].misto.contains(bod))
+        if (kTlacitka[t].misto.contains(bod) && (t > 0 || *ktera == Technologie::provoz2))
             m.tlacitko = static_cast<int>(t);
-    for (std::size_t s = 0; s < kOkna.size(); ++s)
-        for (int r = 0; r < kOkna[s].radku; ++r)
-            if (kOkna[s].radek(r).contains(bod)) {
+    for (std::size_t z = 0; z < kTechnologie.size(); ++z)
+        if (misto_zalozky(z).contains(bod))
+            m.zalozka = static_cast<int>(z);
+    const auto seznamy = seznamy_technologie(*ktera);
+    for (std::size_t s = 0; s < seznamy.size(); ++s)
+        for (int r = 0; r < okna(*ktera)[s].naraz(); ++r)
+            if (okna(*ktera)[s].radek(r).contains(bod)) {
                 m.seznam = static_cast<int>(s);
                 const int radek = r + prvni_radek[s];
-                if (radek < static_cast<int>((provoz2.*kOkna[s].seznam).radky.size()))
+                if (radek < static_cast<int>(seznamy[s].seznam->radky.size()))
                     m.radek = radek;
             }
     return m;
@@ -214,12 +364,15 @@ ObrazovkaTechnologie::Misto ObrazovkaTechnologie::misto_pod(QPointF misto) const
 void ObrazovkaTechnologie::mousePressEvent(QMouseEvent* udalost) {
     if (udalost->button() != Qt::LeftButton)
         return;
+    const auto ktera = otevrena_technologie();
     const Misto m = misto_pod(udalost->position());
     v_jadre([&] {
         if (m.tlacitko >= 0)
             klavesa(klavesa_podle_jmena(kTlacitka[static_cast<std::size_t>(m.tlacitko)].klavesa));
-        else if (m.seznam >= 0)
-            klik_na_radek(provoz2.*kOkna[static_cast<std::size_t>(m.seznam)].seznam, m.radek);
+        else if (m.zalozka >= 0)
+            klik_na_zalozku(static_cast<Technologie>(m.zalozka));
+        else if (m.seznam >= 0 && ktera)
+            klik_na_radek(*seznamy_technologie(*ktera)[static_cast<std::size_t>(m.seznam)].seznam, m.radek);
     });
     po_vstupu();
 }
@@ -257,104 +410,165 @@ void ObrazovkaTechnologie::keyPressEvent(QKeyEvent* udalost) {
     udalost->accept(); // nothing goes on to the desk below
 }
 
-// Over a route of the stack: why it waits.
+// Over a route of the stack: why it waits. Over a line that is cut: the whole of it.
 bool ObrazovkaTechnologie::event(QEvent* udalost) {
     if (udalost->type() != QEvent::ToolTip)
         return QWidget::event(udalost);
     const auto* napoveda = static_cast<QHelpEvent*>(udalost);
+    const auto ktera = otevrena_technologie();
     const Misto m = misto_pod(napoveda->pos());
-    Text duvod;
-    if (m.seznam == 0 && m.radek >= 0)
+    Text text;
+    if (ktera && m.seznam >= 0 && m.radek >= 0)
         v_jadre([&] {
-            const std::vector<int> cesty_zasobniku = radky_zasobniku();
-            if (static_cast<std::size_t>(m.radek) < cesty_zasobniku.size())
-                duvod = duvod_cekani(cesty_zasobniku[static_cast<std::size_t>(m.radek)]);
+            const SeznamTechnologie& s = seznamy_technologie(*ktera)[static_cast<std::size_t>(m.seznam)];
+            const auto radek = static_cast<std::size_t>(m.radek);
+            if (s.seznam == &provoz2.lstZasobnik) {
+                const std::vector<int> cesty_zasobniku = radky_zasobniku();
+                if (radek < cesty_zasobniku.size())
+                    text = duvod_cekani(cesty_zasobniku[radek]);
+            } else if (s.seznam == &provoz1.lstporuchy_volby && radek < s.seznam->radky.size()) {
+                text = s.seznam->radky[radek];
+            }
         });
-    if (duvod.empty())
+    if (text.empty())
         QToolTip::hideText();
     else
-        QToolTip::showText(napoveda->globalPos(), na_qstring(duvod), this);
+        QToolTip::showText(napoveda->globalPos(), na_qstring(text), this);
     return true;
 }
 
 // --- painting
 
 void ObrazovkaTechnologie::paintEvent(QPaintEvent*) {
+    const auto ktera = otevrena_technologie();
     QPainter p(this);
     const double pomer = devicePixelRatioF();
     p.scale(1 / pomer, 1 / pomer);
     p.fillRect(QRectF(QPointF(0, 0), QSizeF(size()) * pomer), QColor::fromRgba(kPozadi));
+    if (!ktera)
+        return;
     const Meritko m = meritko();
     const Pero pero{p, m};
+    if (technologie.jen_pohled) {
+        nakresli_pohled(pero);
+        return;
+    }
 
     pero.plocha({0, 0, 1024, 24}, kHlava);
     pero.text(4, 6, hlava_technologie(), kZelena);
-    pero.text(1024 - 20 * kSirkaBunky, 6, provoz2.lblDatum, kJantar);
-    pero.text(12, 36, kTitulProvoz2, kJantar, 2);
+    pero.text(1024 - 20 * kSirkaBunky, 6, technologie.lblDatum, kJantar);
+    pero.text(12, 36, kTechnologie[static_cast<std::size_t>(*ktera)].titul, kJantar, 2);
+    for (std::size_t z = 0; z < kTechnologie.size(); ++z) {
+        const QRect misto = misto_zalozky(z);
+        const bool tato = z == static_cast<std::size_t>(*ktera);
+        const bool pod = pod_ukazatelem.zalozka == static_cast<int>(z);
+        pero.plocha(misto, tato ? kVyber : pod ? kTlacitkoPod : kHlava);
+        pero.obrys(misto, kRamec);
+        text_na_stred(pero, misto, kTechnologie[z].zalozka, tato ? kBila : kZelena);
+    }
     pero.plocha({12, 68, 1000, 1}, kRamec);
 
-    const Text* const cisla[] = {&provoz2.lblcisla, &provoz2.lblcisla1, &provoz2.lblCisla2,
-                                 &provoz2.lblCisla3};
-    for (std::size_t s = 0; s < kOkna.size(); ++s) {
-        const OknoSeznamu& okno = kOkna[s];
-        const Seznam& seznam = provoz2.*okno.seznam;
-        const auto radku = static_cast<int>(seznam.radky.size());
-        pero.plocha(okno.hlava(), kHlava);
-        pero.text(okno.roh.x() + 6, okno.roh.y() + 4, okno.nadpis, kJantar);
-        pero.obrys(okno.hlava().united(okno.telo()), kRamec);
-        for (int i = 0; i < okno.radku; ++i) {
-            const QRect misto = okno.radek(i);
-            const int radek = prvni_radek[s] + i;
-            const bool vybrany = radek == seznam.vybrany;
-            const bool pod = pod_ukazatelem.seznam == static_cast<int>(s) && pod_ukazatelem.radek == radek;
-            if (vybrany || (pod && radek < radku))
-                pero.plocha(misto, vybrany ? kVyber : kPodUkazatelem);
-            pero.text(misto.x() + 5, misto.y() + 1, cislo_radku(*cisla[s], radek), kTlumena);
-            if (radek < radku)
-                pero.text_do(misto.x() + 5 + kSirkaCisel, misto.y() + 1,
-                             misto.width() - 10 - kSirkaCisel - kSirkaPosuvniku,
-                             seznam.radky[static_cast<std::size_t>(radek)], vybrany ? kBila : kZelena);
-        }
-        if (radku > okno.radku) { // how much of the list is seen, and where it stands
-            const QRect telo = okno.telo().adjusted(0, 2, -2, -2);
-            const int delka = std::max(12, telo.height() * okno.radku / radku);
-            const int posun = (telo.height() - delka) * prvni_radek[s] / nejvyssi_posun(s);
-            pero.plocha({telo.right() - kSirkaPosuvniku + 1, telo.y() + posun, kSirkaPosuvniku, delka},
-                        kRamec);
-        }
-    }
+    for (std::size_t s = 0; s < okna(*ktera).size(); ++s)
+        nakresli_seznam(pero, *ktera, s);
+    if (*ktera == Technologie::provoz2)
+        nakresli_provoz2(pero);
+    if (*ktera == Technologie::sekvence)
+        nakresli_funkci(pero);
 
-    // letters of the macros, side by side
+    pero.text(280, 730, "šipky: řádek a obrazovka   Tab: další seznam"_cz, kTlumena);
+    for (std::size_t t = *ktera == Technologie::provoz2 ? 0 : 1; t < kTlacitka.size(); ++t) {
+        const bool lze = t > 0 || provoz2.lstZasobnik.vybrany >= 0 || provoz2.lstmakra.vybrany >= 0;
+        nakresli_tlacitko(pero, kTlacitka[t], pod_ukazatelem.tlacitko == static_cast<int>(t),
+                          lze ? kBila : kTlumena);
+    }
+}
+
+void ObrazovkaTechnologie::nakresli_seznam(const Pero& pero, Technologie ktera, std::size_t s) const {
+    const OknoSeznamu& okno = okna(ktera)[s];
+    const SeznamTechnologie& popis = seznamy_technologie(ktera)[s];
+    const Seznam& seznam = *popis.seznam;
+    const auto radku = static_cast<int>(seznam.radky.size());
+    const int sloupec = okno.radek(0).width();
+    pero.plocha(okno.hlava(), kHlava);
+    // a head with columns of its own stands over those of the rows
+    const bool sloupce = popis.nadpis.front() == ' ';
+    for (int k = 0; k < (sloupce ? okno.sloupcu : 1); ++k)
+        pero.text(okno.roh.x() + 6 + k * sloupec + (sloupce ? okno.sirka_cisel() : 0),
+                  okno.roh.y() + (okno.krat > 1 && sloupce ? 1 : 4), popis.nadpis, kJantar,
+                  sloupce ? okno.krat : 1);
+    pero.obrys(okno.hlava().united(okno.telo()), kRamec);
+    const Text& cisla = cisla_seznamu(s);
+    for (int i = 0; i < okno.naraz(); ++i) {
+        const QRect misto = okno.radek(i);
+        const int radek = prvni_radek[s] + i;
+        const bool vybrany = radek == seznam.vybrany;
+        const bool pod = pod_ukazatelem.seznam == static_cast<int>(s) && pod_ukazatelem.radek == radek;
+        if (vybrany || (pod && radek < radku))
+            pero.plocha(misto, vybrany ? kVyber : kPodUkazatelem);
+        const int x = misto.x() + 5;
+        const int y = misto.y() + (misto.height() - static_cast<int>(kVyskaBunky * okno.krat)) / 2;
+        if (okno.s_cisly)
+            pero.text(x, y, cislo_radku(cisla, radek), kTlumena, okno.krat);
+        if (radek >= radku)
+            continue;
+        const Text& text = seznam.radky[static_cast<std::size_t>(radek)];
+        const int za_cisly = x + okno.sirka_cisel();
+        if (&seznam == &penet.lstIndikace)
+            nakresli_telegram(pero, za_cisly, y, text, okno.krat);
+        else
+            pero.text_do(za_cisly, y, misto.width() - 8 - okno.sirka_cisel(), text,
+                         &seznam == &sekvence.lstPodminky ? barva_podminky(text)
+                         : vybrany                        ? kBila
+                                                          : kZelena,
+                         okno.krat);
+    }
+    if (radku > okno.naraz()) { // how much of the list is seen, and where it stands
+        const QRect telo = okno.telo().adjusted(0, 2, -2, -2);
+        const int delka = std::max(12, telo.height() * okno.naraz() / radku);
+        const int posun = (telo.height() - delka) * prvni_radek[s] / nejvyssi_posun(s);
+        pero.plocha({telo.right() - kSirkaPosuvniku + 1, telo.y() + posun, kSirkaPosuvniku, delka}, kRamec);
+    }
+}
+
+// Letters of the macros side by side, and what there is to know about the selected route.
+void ObrazovkaTechnologie::nakresli_provoz2(const Pero& pero) const {
     Text klavesy = provoz2.lblKlavesy_maker;
     std::replace(klavesy.begin(), klavesy.end(), '\x0D', ' ');
     pero.obrys(kKlavesyMaker, kRamec);
     pero.text(kKlavesyMaker.x() + 6, kKlavesyMaker.y() + 5, "Klávesy"_cz, kJantar);
     pero.text_do(kKlavesyMaker.x() + 6, kKlavesyMaker.y() + 26, kKlavesyMaker.width() - 12, klavesy, kZelena);
 
-    pero.obrys(kPodrobnosti, kRamec);
-    pero.plocha(QRect(kPodrobnosti.topLeft(), QSize(kPodrobnosti.width(), 20)), kHlava);
-    pero.text(kPodrobnosti.x() + 6, kPodrobnosti.y() + 4, "Vybraná cesta"_cz, kJantar);
+    nakresli_ramecek(pero, kPodrobnosti, "Vybraná cesta"_cz);
     int y = kPodrobnosti.y() + 28;
     const auto mist = static_cast<std::size_t>((kPodrobnosti.width() - 12) / kSirkaBunky);
     for (std::size_t i = 0; i < provoz2.podrobnosti.size(); ++i)
         for (const Text& radek : zalom(provoz2.podrobnosti[i], mist)) {
-            if (y + kVyskaRadku > kPodrobnosti.bottom())
+            if (y + kVyskaHlavy > kPodrobnosti.bottom())
                 break;
             const bool duvod = i + 1 == provoz2.podrobnosti.size();
             pero.text(kPodrobnosti.x() + 6, y, radek, i == 0 ? kBila : duvod ? kJantar : kZelena);
-            y += kVyskaRadku + 3;
+            y += 18;
         }
+}
 
-    pero.text(280, 730, "šipky: řádek   Tab: další seznam"_cz, kTlumena);
-    const bool lze_smazat = provoz2.lstZasobnik.vybrany >= 0 || provoz2.lstmakra.vybrany >= 0;
-    for (std::size_t t = 0; t < kTlacitka.size(); ++t) {
-        const TlacitkoObrazovky& tlacitko = kTlacitka[t];
-        const bool pod = pod_ukazatelem.tlacitko == static_cast<int>(t);
-        pero.plocha(tlacitko.misto, pod ? kTlacitkoPod : kTlacitko);
-        pero.obrys(tlacitko.misto, kRamec);
-        const int sirka = static_cast<int>(tlacitko.text.size()) * kSirkaBunky;
-        pero.text(tlacitko.misto.x() + (tlacitko.misto.width() - sirka) / 2,
-                  tlacitko.misto.y() + (tlacitko.misto.height() - kVyskaBunky) / 2, tlacitko.text,
-                  tlacitko.klavesa == "Delete" && !lze_smazat ? kTlumena : kBila);
-    }
+// What ran, large; without a function the heading is dark.
+void ObrazovkaTechnologie::nakresli_funkci(const Pero& pero) const {
+    const Text& nazev = sekvence.funkce.nazev;
+    nakresli_vystrahu(pero, kRizikova, !nazev.empty(), 2);
+    nakresli_ramecek(pero, kFunkce, "Riziková funkce"_cz);
+    pero.text_do(kFunkce.x() + 12, kFunkce.y() + 42, kFunkce.width() - 24,
+                 nazev.empty() ? Text("žádná neprobíhá"_cz) : nazev, nazev.empty() ? kTlumena : kBila, 2);
+}
+
+// The corner of the desk that tells what the risky function has passed over.
+void ObrazovkaTechnologie::nakresli_pohled(const Pero& pero) const {
+    pero.obrys(kPohled, kRamecVystrahy);
+    nakresli_vystrahu(pero, {kPohled.x(), kPohled.y(), kPohled.width(), 26}, true, 1);
+    const int x = kPohled.x() + 10;
+    int y = kPohled.y() + 32;
+    pero.text_do(x, y, kPohled.width() - 20, sekvence.funkce.nazev, kBila);
+    pero.text(x + 37 * kSirkaBunky, y, "KONTROLOVANÉ PODMÍNKY"_cz, kTlumena);
+    for (const Text& radek : sekvence.lstPodminky.radky)
+        pero.text_do(x, y += 17, kPohled.width() - 20, radek, barva_podminky(radek));
+    nakresli_tlacitko(pero, kZavritPohled, pod_ukazatelem.tlacitko == 1, kBila);
 }

@@ -8,8 +8,12 @@ void zasej_nahodu(std::uint64_t semeno) {
 }
 
 float nahodne() {
-    nahoda.stav += 0x9E3779B97F4A7C15u;
-    std::uint64_t z = nahoda.stav;
+    return nahodne(nahoda);
+}
+
+float nahodne(Nahoda& zdroj) {
+    zdroj.stav += 0x9E3779B97F4A7C15u;
+    std::uint64_t z = zdroj.stav;
     z = (z ^ (z >> 30)) * 0xBF58476D1CE4E5B9u;
     z = (z ^ (z >> 27)) * 0x94D049BB133111EBu;
     z ^= z >> 31;

@@ -16,3 +16,5 @@ extern Nahoda nahoda;
 void zasej_nahodu(std::uint64_t semeno);
 // Next number, 0 <= x < 1, in single precision: draws are compared with constants, and the width shows.
 float nahodne();
+// The same from a stream of somebody's own: what is only seen draws from one.
+float nahodne(Nahoda& zdroj);

@@ -241,7 +241,15 @@ TEST_F(Kontrola, AnnouncedTrainStandsOnAGreenTrack) {
     v.stanice_index = -4;
     relief.kolej[62].barva = barvy::zelena;
     EXPECT_EQ(nalez(), "");
-    v.muze_jet = true;
+    v.posun = v.muze_jet = true; // the operator has made it a shunting movement
+    EXPECT_EQ(nalez(), "");
+    relief.kolej[62].barva = barvy::seda;
+    EXPECT_EQ(nalez(), "vlaky 0: drží kolej 62, která není obsazená");
+    relief.kolej[62].barva = barvy::zelena;
+    v.prvky = {440, 62}; // it has come to it from elsewhere
+    v.prvky_druh = {1, 1};
+    v.prvky_poloha = {0, 0};
+    v.prvek_konec = 1;
     EXPECT_EQ(nalez(), "vlaky 0: drží kolej 62, která není obsazená");
 }
 

@@ -577,3 +577,33 @@ TEST_F(Davka, ProgramRefusesWhatItDoesNotKnow) {
     EXPECT_EQ(v.kod, navrat::chyba_skriptu);
     EXPECT_TRUE(v.chyby.starts_with("tesk-davka: složka")) << v.chyby;
 }
+
+TEST_F(Davka, SavedSimulationIsOpenedAgainByItsName) {
+    vypis(kStart + "cekej 10s\n"
+                   "klik navestidlo 262\n"
+                   "klik Image1 63\n"
+                   "cekej 20s\n"
+                   "over cesty 0 Postavena=ano\n"
+                   "uloz hra.sim\n"
+                   "over hodiny pauza=ne\n"
+                   "over okna radky.0.titul=\"KPS RVZ TESK\"\n");
+    EXPECT_TRUE(soubor_existuje(slozka.cesta + "save\\hra.sim"));
+    for (const char* jmeno : {"hra.sim", "hra", "save/hra.sim"})
+        vypis(std::string("nacti ") + jmeno +
+              "\n"
+              "over cesty 0 Postavena=ano zacatek=262\n"
+              "over kolej 63 barva=0x0000FF00\n"
+              "over hodiny pauza=ano\n"
+              "prihlas\n"
+              "over hodiny pauza=ne\n"
+              "cekej 1min\n");
+    vypis("nacti hra.sim dual=1 autosave=1 autosaved=1\nprihlas\ncekej 3min\n");
+    EXPECT_FALSE(soubory_slozky(slozka.cesta + "save\\autosave", "*.sim").empty());
+}
+
+TEST_F(Davka, SaveThatCannotBeReadEndsTheSimulation) {
+    const Vysledek v = proved("nacti neni.sim\nvypis okna\n");
+    EXPECT_EQ(v.kod, navrat::konec_simulace);
+    EXPECT_TRUE(obsahuje(v.vystup, "Stav simulace ze soboru")) << v.vystup;
+    EXPECT_TRUE(obsahuje(duvod("uloz hra.sim\n"), "potřebuje spuštěnou simulaci"));
+}

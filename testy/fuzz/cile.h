@@ -5,13 +5,18 @@
 #pragma once
 
 #include "app/cas.h"
+#include "app/casovace.h"
+#include "app/kontrola.h"
 #include "cesty/tabulky.h"
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
 #include "gvd/zaplneni.h"
 #include "jizda/vlak.h"
 #include "pomocne/male_kolejiste.h"
+#include "prvky/stav_vyhybek.h"
 #include "relief/topologie.h"
+#include "save/ulozeni.h"
+#include "save/zaznam.h"
 #include "zaklad/chyba.h"
 
 #include <array>
@@ -229,6 +234,124 @@ inline Bajty vzor_maker() {
     return soubor.bajty;
 }
 
+// A desk of a few elements at rest, before the login; a refused load has left it as it was.
+inline void postav_pro_nacteni() {
+    static const DocasnaSlozka slozka;
+    if (simulace.cesta_aplikace == slozka.cesta && relief.lblcas.je(0) && cas_hodin() == "11:59:58")
+        return;
+    nova_simulace();
+    simulace.cesta_aplikace = slozka.cesta;
+    static const bool zapsano = [] {
+        zaloz_slozku(slozka.cesta + "data");
+        zapis_soubor(slozka.cesta + "data\\tesk.top", soubor_topologie(kMaleDelky));
+        for (const char* prazdny : {"stg", "zat", "zpc", "mak"})
+            zapis_soubor(slozka.cesta + "data\\tesk." + prazdny, {});
+        return true;
+    }();
+    musi(zapsano, "the folder can be written");
+    relief.lblcas[0].text = TextPohled("11:59:58");
+    for (const int n : {1, 2, 3, 4, 6, 9, 13, 14, 18}) {
+        relief.kolej.zaloz(n).barva = barvy::seda;
+        relief.kolej[n].stav = TextPohled("0");
+        relief.cislo_koleje.zaloz(n).popis = text_cisla(n);
+    }
+    for (const int n : {5, 7, 14})
+        relief.imgVyhybka.zaloz(n).stav = TextPohled("2");
+    for (const int n : {1, 2, 8, 11})
+        relief.navestidlo.zaloz(n).text = znak(229);
+    for (int k = 0; k < 3; ++k) {
+        relief.lblSouhlas.zaloz(k).text = znak(8);
+        relief.lblVykolejka.zaloz(k).text = znak(21);
+        relief.lblPrejezd.zaloz(k);
+    }
+    relief.lblSouhlas2.zaloz(5).text = TextPohled(">>");
+    prejezdy = {{false, false, false, 3, 100, "P1"}};
+    stav_vyhybek.vyhybka_pohyb.assign(15, false);
+    simulace.den = 1;
+    simulace.cas_zacatku = 719;
+}
+
+// A save of any bytes is refused and nothing has changed, or the simulation goes on from it. It may then end
+// with a run-time error, as deadlines beyond all days do; it never ends otherwise.
+inline void zkus_zaznam(Vstup vstup) {
+    postav_pro_nacteni();
+    try {
+        nacti_simulaci_z(vstup);
+    } catch (const BehovaChyba&) {
+        musi(cas_hodin() == "11:59:58" && cesty.size() == 1 && vlaky.size() == kPrvnichVlaku &&
+                 prejezdy.size() == 1 && relief.kolej[3].barva == barvy::seda && simulace.pauza,
+             "a refused save changes nothing");
+        return;
+    }
+    musi(!kontrola_stavu(), "what is loaded can stand together");
+    zaznam_simulace();
+    if (vstup.size() > 100 && vstup[vstup.size() / 2] % 8 != 0) { // some run on
+        nova_simulace();
+        return;
+    }
+    try {
+        obnov_souhlasy();
+        spust_hodiny();
+        for (int i = 0; i < 12; ++i) {
+            relief.lblcas[0].text = text_casu(sekundy_textu(cas_hodin()) + 10);
+            simulace.tick_jizdy -= 1000;
+            for (const Casovac& casovac : casovace)
+                casovac.telo();
+            krok_minuty();
+        }
+    } catch (const BehovaChyba&) { // told in a box, and the end of the program
+    } catch (const KonecProgramu&) {
+    }
+    nova_simulace();
+}
+inline Bajty vzor_zaznamu() {
+    postav_pro_nacteni();
+    const auto cesta = [](std::int16_t s, std::int16_t konec, std::vector<std::int16_t> prvky,
+                          std::vector<std::uint8_t> druhy, std::vector<std::uint8_t> polohy) {
+        Cesta c;
+        c.zacatek = s;
+        c.konec = konec;
+        c.prvky = std::move(prvky);
+        c.druhy = std::move(druhy);
+        c.polohy = std::move(polohy);
+        c.VC = true;
+        c.cas_stavby = 0;
+        c.prejezd = kBezPrejezdu;
+        return c;
+    };
+    cesty = {cesta(1, 3, {1, 5, 2, 3}, {1, 2, 1, 1}, {2, 2, 0, 2}),
+             cesta(2, 4, {2, 7, 4}, {1, 2, 1}, {2, 3, 2}), cesta(8, 9, {6, 0, 9}, {1, 4, 1}, {2, 0, 2})};
+    cesty[0].prehozena = cesty[0].Postavena = cesty[0].Provedena = true;
+    cesty[0].Vlak = 0;
+    cesty[0].Umazat = 1;
+    cesty[1].prehozena = true;
+    cesty[1].Kdy_prehoz = 43200;
+    Vlak& v = vlaky[0];
+    v.cislo = 4701;
+    v.delka = 100;
+    v.max_rychlost = v.rychlost_trati = 90;
+    v.muze_jet = v.smer = true;
+    v.stanice = {9, 3};
+    v.prijezd = {-3, 740};
+    v.odjezd = v.odjezd_realny = {725, -3};
+    v.vozy = {"754", "Bp"};
+    v.vozy_urceni = {"ZAL", ""};
+    v.vozy_obrazek = {"", ""};
+    v.prvky = {1, 5};
+    v.prvky_druh = {1, 2};
+    v.prvky_poloha = {2, 2};
+    v.prvek_konec = 0;
+    koleje_vlaky.push_back({1, {0}});
+    relief.kolej[1].barva = barvy::cervena;
+    relief.imgVyhybka[5].stav = TextPohled("152");
+    relief.kolej[3].barva = barvy::zelena;
+    stitky.push_back({4, "a", "b", "c"});
+    relief.lstZpravy.radky = {"Zprava"};
+    const Bajty vzor = bajty_zaznamu(zaznam_simulace());
+    nova_simulace();
+    return vzor;
+}
+
 // Texts from files: conversions of characters and numbers.
 inline void zkus_texty(Vstup vstup) {
     const TextPohled text(reinterpret_cast<const char*>(vstup.data()), vstup.size());
@@ -262,7 +385,7 @@ inline constexpr std::array kCile = {
     Cil{"prejezdy", zkus_prejezdy, vzor_prejezdu}, Cil{"gvd", zkus_gvd, vzor_gvd},
     Cil{"provoz", zkus_provoz, vzor_provozu},      Cil{"texty", zkus_texty, vzor_textu},
     Cil{"cesty", zkus_cesty, vzor_cest},           Cil{"vazby", zkus_vazby, vzor_vazeb},
-    Cil{"makra", zkus_makra, vzor_maker},
+    Cil{"makra", zkus_makra, vzor_maker},          Cil{"zaznam", zkus_zaznam, vzor_zaznamu},
 };
 
 } // namespace fuzz

@@ -388,7 +388,7 @@ TEST_F(MenuKolejeTest, DoubleClickOnANumberWithoutATrainAsksTheTimetable) {
     relief.cislo_koleje[64].text = TextPohled("5678");
     dvojklik(Druh::cislo_koleje, 64);
     Text ceka(zkratka_druhu(7));
-    ceka += " 5678 Bystrice (Tesk hl. n. odj. 9:00 ... Borovec příj. 10:00)"_cz;
+    ceka += " 5678 Bystrice (Tesk hl. n. odj. 9:00 ... Borovec příj. 10:00) 0min; 0m, 0km/h"_cz;
     EXPECT_EQ(relief.lblIinfo_o_vlaku[0].text(), ceka);
     EXPECT_TRUE(relief.lblIinfo_o_vlaku[0].viditelny);
     EXPECT_EQ(vlak_na_panelu(), -3); // no train to take a vehicle from

@@ -38,6 +38,9 @@ class Relief:
     def cislo_koleje(self, cislo, sloupec, radek, jmeno):
         self.zaznam(3, cislo, 0, jmeno, sloupec * ZNAK, 0, RELIEF_Y + radek * RADEK, 0)
 
+    def cil(self, cislo, sloupec, po, radek, jmeno):
+        self.zaznam(4, cislo, 0, jmeno, sloupec * ZNAK, (po - sloupec) * ZNAK, RELIEF_Y + radek * RADEK, RADEK)
+
     def vyhybka(self, cislo, sloupec, radek, stav):
         self.zaznam(12, cislo, 0, str(stav), sloupec * ZNAK, 0, RELIEF_Y + radek * RADEK, 0)
 
@@ -118,6 +121,42 @@ class Stul:
         self.ukaz(x, y)
         time.sleep(0.1)
         self.xdotool("click", tlacitko)
+
+    def poklepej(self, x, y):
+        self.ukaz(x, y)
+        time.sleep(0.1)
+        self.xdotool("click", "--repeat", 2, "--delay", 60, 1)
+
+    def klikni_s_ctrl(self, x, y):
+        self.ukaz(x, y)
+        time.sleep(0.1)
+        self.xdotool("keydown", "ctrl")
+        self.xdotool("click", 1)
+        self.xdotool("keyup", "ctrl")
+
+    def nabidka(self, klavesy, x, y):
+        """A right click opens the menu, then the keys walk in it and its submenus to the last one, an Enter."""
+        self.ukaz(700, 480)  # over nothing: no tip stands there
+        time.sleep(0.7)
+        predtim = self.okna()
+        self.klikni(x, y, 3)
+        self.cekej("nabídka", lambda: self.okna() > predtim)
+        for jmeno in klavesy.split():
+            okna = self.okna()
+            self.klavesa(jmeno)
+            if jmeno == "Right":
+                self.cekej("podnabídka", lambda: self.okna() > okna)
+        self.klavesa("Return")
+        self.cekej("zavřená nabídka", lambda: self.okna() == predtim)
+
+    def cekej(self, co, podminka, nejdele=10):
+        """Until the condition holds; the test fails when it does not in time."""
+        konec = time.monotonic() + nejdele
+        while not podminka():
+            if time.monotonic() > konec:
+                self.obraz("selhalo")
+                raise AssertionError("nedočkal se: " + co)
+            time.sleep(0.1)
 
     def kurzor(self):
         """Where the pointer is, pixels of the screen."""

@@ -40,15 +40,9 @@ TEST_F(Provoz2Obrazovka, ClickOnEzStopsTheClockAndShowsTheStack) {
     EXPECT_EQ(radky(), (std::vector<Text>{popis_cesty(0), popis_cesty(1)}));
 }
 
-TEST_F(Provoz2Obrazovka, PrintScreenOpensItToo) {
-    stiskni("PrintScreen");
-    EXPECT_EQ(simulace.obrazovka, "frmTechnologie2");
-    EXPECT_TRUE(simulace.pauza);
-}
-
 TEST_F(Provoz2Obrazovka, OpeningClosesAnOpenMenu) {
     otevri_menu({"mnuVYHYBKA", "", Druh::imgVyhybka, 5, {}});
-    otevri_provoz2();
+    otevri_technologii(Technologie::provoz2);
     EXPECT_TRUE(menu.jmeno.empty());
 }
 
@@ -80,7 +74,7 @@ TEST_F(Provoz2Obrazovka, NewSimulationForgetsIt) {
     otevri();
     nova_simulace();
     EXPECT_EQ(provoz2, Provoz2{});
-    EXPECT_FALSE(provoz2_otevren());
+    EXPECT_FALSE((otevrena_technologie() == Technologie::provoz2));
 }
 
 TEST_F(Provoz2Obrazovka, NoTimerMovesARouteWhileItIsOpen) {
@@ -109,7 +103,7 @@ TEST_F(Provoz2Obrazovka, CoversTheDesk) {
     EXPECT_EQ(simulace.rychlost, rychlost);
     stiskni("Alt+Shift+A");
     EXPECT_FALSE(makro_se_zaznamenava());
-    EXPECT_TRUE(provoz2_otevren());
+    EXPECT_TRUE((otevrena_technologie() == Technologie::provoz2));
 }
 
 TEST_F(Provoz2Obrazovka, ProgramCanBeEndedFromIt) {
@@ -128,22 +122,22 @@ TEST_F(Provoz2Obrazovka, HeadTellsMajorAndMinorVersion) {
 TEST_F(Provoz2Obrazovka, DateFollowsTheComputersClockAndNotTheSimulation) {
     svet.cas = {2005, 1, 1, 12, 38, 39, 0};
     otevri();
-    EXPECT_EQ(provoz2.lblDatum, " 01.01.05 12:38:39");
+    EXPECT_EQ(technologie.lblDatum, " 01.01.05 12:38:39");
     const Text cas = cas_hodin();
     svet.cas = {2031, 12, 24, 7, 5, 9, 0};
-    EXPECT_EQ(provoz2.lblDatum, " 01.01.05 12:38:39") << "only its timer writes it";
-    tik_provozu2();
-    EXPECT_EQ(provoz2.lblDatum, " 24.12.31 07:05:09");
+    EXPECT_EQ(technologie.lblDatum, " 01.01.05 12:38:39") << "only its timer writes it";
+    tik_technologie();
+    EXPECT_EQ(technologie.lblDatum, " 24.12.31 07:05:09");
     EXPECT_EQ(cas_hodin(), cas);
 }
 
 TEST_F(Provoz2Obrazovka, DateStandsWhileItIsClosed) {
-    tik_provozu2();
-    EXPECT_EQ(provoz2.lblDatum, "");
-    EXPECT_EQ(perioda_provozu2(), 0);
+    tik_technologie();
+    EXPECT_EQ(technologie.lblDatum, "");
+    EXPECT_EQ(perioda_technologie(), 0);
     otevri();
-    EXPECT_GT(perioda_provozu2(), 0);
-    EXPECT_LE(perioda_provozu2(), 1000);
+    EXPECT_GT(perioda_technologie(), 0);
+    EXPECT_LE(perioda_technologie(), 1000);
 }
 
 TEST_F(Provoz2Obrazovka, NumbersOfRowsHaveALeadingBlankBelowTen) {
@@ -159,8 +153,8 @@ TEST_F(Provoz2Obrazovka, EveryLineOfALongListHasItsNumber) {
         makra.push_back({Text(1, static_cast<char>('A' + i)), {1}, {240}, {41}});
     zapis_makra(makra);
     otevri();
-    EXPECT_EQ(provoz2.lblCisla2, cisla_radku(26));
-    EXPECT_EQ(provoz2.lblcisla, cisla_radku(kRadkuProvozu2[0]));
+    EXPECT_EQ(technologie.lblCisla2, cisla_radku(26));
+    EXPECT_EQ(technologie.lblcisla, cisla_radku(20));
 }
 
 // --- the stack
@@ -198,7 +192,7 @@ TEST_F(Provoz2Obrazovka, DeleteTakesTheRouteOutOfTheStack) {
     EXPECT_TRUE(radky().empty());
     EXPECT_EQ(cesty[0].zacatek, -3);
     EXPECT_EQ(provoz2.lstZasobnik.vybrany, -1);
-    EXPECT_TRUE(provoz2_otevren());
+    EXPECT_TRUE((otevrena_technologie() == Technologie::provoz2));
 }
 
 TEST_F(Provoz2Obrazovka, DeleteOfTheRouteThatTheStackWaitsForEmptiesTheWaitingLine) {
@@ -300,7 +294,7 @@ TEST_F(Provoz2Obrazovka, DeleteTakesAllRecordsOfTheLetter) {
 TEST_F(Provoz2Obrazovka, OpensWithoutAMacroFile) {
     std::filesystem::remove(svet.koren / "data" / "tesk.mak");
     otevri();
-    EXPECT_TRUE(provoz2_otevren());
+    EXPECT_TRUE((otevrena_technologie() == Technologie::provoz2));
     EXPECT_TRUE(provoz2.lstmakra.radky.empty());
 }
 

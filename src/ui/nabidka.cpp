@@ -1,0 +1,87 @@
+// ui/nabidka.cpp - the pop-up menu of the desk as a window.
+#include "ui/nabidka.h"
+
+#include "ui/pismo.h"
+
+#include <QLabel>
+#include <QWidgetAction>
+
+#include <utility>
+
+namespace {
+
+constexpr const char* kVzhledNabidky =
+    "QMenu { background: #c8ccd0; color: #000; border: 1px solid #fff; padding: 1px; }"
+    "QMenu::item { padding: 2px 22px 2px 14px; min-width: 70px; }"
+    "QMenu::item:selected { background: #000080; color: #fff; }"
+    "QMenu::item:disabled { color: #7c838b; background: transparent; }"
+    "QMenu::separator { height: 1px; background: #8a9098; margin: 2px 4px; }"
+    "QMenu::right-arrow { width: 9px; height: 9px; right: 5px; }";
+constexpr const char* kVzhledHlavy = "background: #000080; color: #fff; padding: 2px 14px;";
+constexpr const char* kVzhledUdaje = "background: #dfe2e5; color: #20262c; padding: 1px 14px;";
+
+// A line that cannot be chosen.
+void pridej_radek(QMenu& nabidka, const Text& text, const char* vzhled) {
+    auto* radek = new QLabel(na_qstring(text));
+    radek->setFont(nabidka.font());
+    radek->setStyleSheet(QLatin1String(vzhled));
+    auto* akce = new QWidgetAction(&nabidka);
+    akce->setDefaultWidget(radek);
+    akce->setEnabled(false);
+    nabidka.addAction(akce);
+}
+
+// What stands on top of a menu and does nothing tells about its element: its name, its length. An entry
+// that is kept for the look of the real desk is named after its caption.
+bool je_udaj(const PolozkaMenu& polozka) {
+    return polozka.akce == nullptr && !polozka.podmenu && polozka.jmeno != "mi" + polozka.text;
+}
+
+} // namespace
+
+QMenu* postav_nabidku(QWidget* rodic, const Menu& co, const QFont& pismo,
+                      std::function<void(const Text& jmeno)> zvoleno) {
+    auto* nabidka = new QMenu(rodic);
+    nabidka->setStyleSheet(QLatin1String(kVzhledNabidky));
+    nabidka->setFont(pismo);
+    if (!co.hlava.empty())
+        pridej_radek(*nabidka, co.hlava, kVzhledHlavy);
+
+    bool zahlavi = true; // still among the lines on top
+    QMenu* podnabidka = nullptr;
+    for (std::size_t i = 0; i < co.polozky.size(); ++i) {
+        const PolozkaMenu& polozka = co.polozky[i];
+        if (!polozka.viditelna)
+            continue;
+        const bool ma_podnabidku = !polozka.podmenu && i + 1 < co.polozky.size() && co.polozky[i + 1].podmenu;
+        zahlavi = zahlavi && !ma_podnabidku && je_udaj(polozka);
+        if (zahlavi) {
+            if (polozka.text != co.hlava && !polozka.text.empty())
+                pridej_radek(*nabidka, polozka.text, kVzhledUdaje);
+            continue;
+        }
+        if (!polozka.podmenu && !ma_podnabidku && podnabidka != nullptr)
+            nabidka->addSeparator(); // the trains end, the commands of the track begin
+        if (!polozka.podmenu)
+            podnabidka = nullptr;
+        if (ma_podnabidku) {
+            podnabidka = nabidka->addMenu(na_qstring(polozka.text));
+            podnabidka->setFont(pismo);
+            continue;
+        }
+        QMenu* kam = polozka.podmenu && podnabidka != nullptr ? podnabidka : nabidka;
+        QAction* akce = kam->addAction(na_qstring(polozka.text));
+        akce->setEnabled(polozka.povolena);
+        QObject::connect(akce, &QAction::triggered, nabidka,
+                         [zvoleno, jmeno = polozka.jmeno] { zvoleno(jmeno); });
+    }
+    return nabidka;
+}
+
+void vyber_prvni(QMenu& nabidka) {
+    for (QAction* akce : nabidka.actions())
+        if (akce->isEnabled() && !akce->isSeparator()) {
+            nabidka.setActiveAction(akce);
+            return;
+        }
+}
