@@ -125,12 +125,17 @@ bool odpovez_na_radek() {
     return true;
 }
 
+// What Enter would click lies under the pointer. The line itself is no such thing: a click on it is Enter.
+bool je_cil_enteru() {
+    return vyber.mys_nad_prvkem && vyber.mys_druh != Druh::lblPrikaz && vyber.mys_druh != Druh::lblVolba;
+}
+
 void enter() {
     const bool byl_pohled = zavri_pohled_sekvence();
     if (vstup_otevren()) {
         zpracuj_zadani(relief.txtZadav_pole[0].text());
         potvrd_prikaz();
-    } else if (!odpovez_na_radek() && !byl_pohled && vyber.mys_nad_prvkem && !simulace.pauza)
+    } else if (!odpovez_na_radek() && !byl_pohled && je_cil_enteru() && !simulace.pauza)
         klik(vyber.mys_druh, vyber.mys_prvek, Tlacitko::leve, false);
     dalsi_zprava();
 }

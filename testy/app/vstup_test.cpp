@@ -156,6 +156,17 @@ TEST_F(Klavesy, EnterInAPauseDoesNotClick) {
     EXPECT_FALSE(relief.lstDenik.viditelny);
 }
 
+TEST_F(Klavesy, EnterOverTheEmptyLineDoesNothing) {
+    spust_hodiny();
+    for (const Druh druh : {Druh::lblPrikaz, Druh::lblVolba}) {
+        najeti(druh, 0); // the message was answered by a click, and the pointer stays where it is
+        klavesa({KodKlavesy::enter});
+        klik(druh, 0, Tlacitko::leve, false);
+        EXPECT_FALSE(prikaz_radek.obsazen);
+    }
+    EXPECT_TRUE(svet.pipnuti.empty());
+}
+
 TEST_F(Klavesy, ClickOnTheLineAnswersItLikeEnter) {
     for (const Druh druh : {Druh::lblPrikaz, Druh::lblVolba}) {
         zprava(" M ", "text", barvy::cervena);
