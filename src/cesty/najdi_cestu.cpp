@@ -62,9 +62,8 @@ Cesta& zarad_cestu(const NalezenaCesta& nalezena, int druh, bool automaticky) {
     return c;
 }
 
-// Notes on the track where the route ends, from the gravest: each is told, one confirmation frees all.
-void varuj_pred_stitky(Cesta& c) {
-    const int i = stitek_prvku(posledni_prvek(c));
+void varuj_pred_stitky(Cesta& c, int prvek) {
+    const int i = stitek_prvku(prvek);
     if (i < 0)
         return;
     const StitekPrvku& stitek = stitky[static_cast<std::size_t>(i)];
@@ -77,6 +76,15 @@ void varuj_pred_stitky(Cesta& c) {
         c.varovani = -1;
         varuj(slovo, " " + Text(text), 100);
     }
+}
+
+// Notes on the track where the route ends, from the gravest: each is told, one confirmation frees all.
+// A route to a line ends on the section next to it, the note hangs on the line's own label.
+void varuj_pred_stitky(Cesta& c) {
+    const int posledni = posledni_prvek(c);
+    varuj_pred_stitky(c, posledni);
+    if (c.konec != posledni)
+        varuj_pred_stitky(c, c.konec);
 }
 
 // Stations are the first three letters of the signals' names.

@@ -266,7 +266,7 @@ void stav_cestu(Cesta& c, Pruchod& pruchod) {
 
 void uzavri_vyhybku(const Cesta& c, int n, int poloha) {
     const int trida = !c.VC ? stav_vyhybky::posun : c.PN ? stav_vyhybky::rezervace : stav_vyhybky::vlak;
-    vyhybka_stav(n, poloha + trida, true, konec_trojice(poloha) != 1);
+    vyhybka_stav(n, poloha + trida, true, true); // a derailer that ran with it has arrived, too
 }
 
 void uzavri_vykolejku(int n) {

@@ -190,6 +190,10 @@ void pripis_konec(int e) {
 
 // --- Esc
 
+bool ceka_na_potvrzeni(const Cesta& c) {
+    return c.zacatek >= 0 && c.varovani != 0;
+}
+
 // The route that was just picked goes again, as long as its switches have not been commanded. False:
 // the newest route is on its way, and Esc ends here.
 bool vrat_vybranou_cestu() {
@@ -200,6 +204,7 @@ bool vrat_vybranou_cestu() {
         return false;
     if (posledni.zacatek < 0 || posledni.konec != vyber.volba_konec)
         return true;
+    const bool varovana = posledni.varovani != 0;
     vrat_barvu_konce(posledni);
     odznac_navestidlo(posledni.zacatek);
     uvolni_cekani(posledni);
@@ -211,6 +216,8 @@ bool vrat_vybranou_cestu() {
         smaz_cestu(static_cast<int>(cesty.size()) - 1);
     }
     zmena_zasobniku();
+    if (varovana && std::none_of(cesty.begin(), cesty.end(), ceka_na_potvrzeni))
+        odvolej_varovani();
     return true;
 }
 

@@ -20,9 +20,9 @@ constexpr int kOdstupVpravo = 5;
 constexpr Barva kPozadiTlacitka = 0xE0E0E0;
 constexpr Barva kStisknuteTlacitko = 0x800000;
 
-// Words whose line flashes until it is answered.
-constexpr std::array kBlikaveKody = {" POZOR STITEK "_cz, " POZOR NVL "_cz, " POZOR VYLUKA "_cz,
-                                     " POZOR PN "_cz, " ZPRÁVA "_cz};
+// Words of the warnings of routes.
+constexpr std::array kVarovani = {" POZOR STITEK "_cz, " POZOR NVL "_cz, " POZOR VYLUKA "_cz,
+                                  " POZOR PN "_cz};
 
 bool je_vyzva_cesty(TextPohled kod) {
     return kod == " VC "_cz || kod == " PC "_cz || kod == " PN "_cz;
@@ -71,8 +71,8 @@ void vypis_radek(TextPohled kod, TextPohled text) {
     dvojce(relief.lblPrikaz);
     dvojce(relief.lblVolba);
     prikaz_radek.obsazen = true;
-    prikaz_radek.blikani_prikazu =
-        std::find(kBlikaveKody.begin(), kBlikaveKody.end(), kod) != kBlikaveKody.end();
+    // these flash until they are answered
+    prikaz_radek.blikani_prikazu = je_varovani(kod) || kod == " ZPRÁVA "_cz;
 }
 
 void zobraz(const ZpravaFronty& z, int kod) {
@@ -100,6 +100,10 @@ ZpravaFronty stojici_zprava() {
 }
 
 } // namespace
+
+bool je_varovani(TextPohled kod) {
+    return std::find(kVarovani.begin(), kVarovani.end(), kod) != kVarovani.end();
+}
 
 void zprava(TextPohled prikaz, TextPohled volba, Barva pozadi, int kod, bool vstup, Barva pozadi_volby,
             Barva popredi, bool do_fronty) {
@@ -145,6 +149,18 @@ void dalsi_zprava() {
     const ZpravaFronty z = std::move(fronta.front());
     fronta.erase(fronta.begin());
     zprava(z.prikaz, z.volba, z.pozadi, 0, z.vstup, z.pozadi_volby, z.popredi);
+}
+
+void odvolej_varovani() {
+    std::vector<ZpravaFronty>& fronta = prikaz_radek.fronta_zprav;
+    fronta.erase(std::remove_if(fronta.begin(), fronta.end(),
+                                [](const ZpravaFronty& z) { return je_varovani(z.prikaz); }),
+                 fronta.end());
+    if (!prikaz_radek.obsazen || !je_varovani(relief.lblPrikaz[0].text()))
+        return;
+    skryj_prikaz();
+    prikaz_radek.kod_zpravy = 0;
+    dalsi_zprava();
 }
 
 void zobraz_prikaz(TextPohled prikaz, TextPohled volba, Barva popredi, Barva pozadi) {

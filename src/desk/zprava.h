@@ -42,6 +42,10 @@ void skryj_prikaz();
 void potvrd_prikaz();
 // The first waiting message comes to the line.
 void dalsi_zprava();
+// A warning of a route: until it is confirmed, the route machine leaves the route alone.
+bool je_varovani(TextPohled kod);
+// Warnings that stand or wait go unconfirmed: no route waits for them any more.
+void odvolej_varovani();
 // Writes the line without the rules of zprava, as the selection of a route does: code and text in
 // `popredi` on `pozadi`.
 void zobraz_prikaz(TextPohled prikaz, TextPohled volba, Barva popredi, Barva pozadi);

@@ -170,6 +170,23 @@ TEST_F(StavebCest, DerailerOnTheRailsGoesCyan) {
     EXPECT_EQ(relief.lblVykolejka[1].barva, barvy::azurova);
 }
 
+TEST_F(StavebCest, DerailerThatRunsWithASwitchOfTheRouteComesToRest) {
+    vyhybka(202, 2400, 4390, 24);
+    Prvek& vykolejka = relief.lblVykolejka.zaloz(0);
+    vykolejka.text = znak(21);
+    zat.push_back({246, 43, {46, 202, 43}, {1, 2, 1}, {0, 23, 0}, 0});
+    postav_tabulky();
+    zarad(246, 43);
+    cekej(2);
+    EXPECT_EQ(vykolejka.pozadi, barvy::seda) << "it moves";
+    cekej(10);
+    EXPECT_EQ(stav(202), 73);
+    EXPECT_EQ(vykolejka.text(), znak(23));
+    EXPECT_EQ(vykolejka.barva, barvy::seda);
+    EXPECT_EQ(vykolejka.pozadi, barvy::cerna);
+    EXPECT_FALSE(vykolejka.ramecek);
+}
+
 TEST_F(StavebCest, DoubleSlipIsCommandedAndLocked) {
     zarad(240, 47);
     cekej(2);

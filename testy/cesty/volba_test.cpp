@@ -278,6 +278,49 @@ TEST_F(Volba, NotesOnTheEndHoldTheRouteUntilOneConfirmation) {
     EXPECT_TRUE(cesty[0].prehozena) << "the first Enter has freed it";
 }
 
+TEST_F(Volba, NoteOnTheLabelOfALineWarnsARouteThatEndsFartherOn) {
+    zat.push_back({240, 604, {40, 6, 654}, {1, 2, 1}, {0, 5, 0}, 0});
+    postav_tabulky();
+    pridej_stitek(604, "", "", "vyluka");
+    klik(240);
+    klik_cil(604);
+    EXPECT_NE(cesty[0].varovani, 0);
+    EXPECT_EQ(volba(), " vyluka");
+}
+
+TEST_F(Volba, EscTakesTheWarningsOfTheDroppedRouteAlong) {
+    pridej_stitek(41, "stitek", "nvl", "vyluka");
+    klik(240);
+    klik_cil(41);
+    zrus_volbu();
+    EXPECT_EQ(prikaz(), "");
+    EXPECT_FALSE(prikaz_radek.obsazen);
+    EXPECT_FALSE(prikaz_radek.blikani_prikazu);
+    dalsi_zprava();
+    EXPECT_EQ(prikaz(), "") << "none of the three waits";
+}
+
+TEST_F(Volba, EscLeavesTheWarningOfAnotherRoute) {
+    pridej_stitek(41, "", "nvl", "");
+    pridej_stitek(42, "", "jine", "");
+    zarad(240, 41);
+    klik(240);
+    klik_cil(42);
+    zrus_volbu();
+    ASSERT_EQ(cesty.size(), 1u);
+    EXPECT_NE(cesty[0].varovani, 0);
+    EXPECT_EQ(prikaz(), " POZOR NVL ");
+}
+
+TEST_F(Volba, MessageBehindTheWarningsOfADroppedRouteComes) {
+    pridej_stitek(41, "", "nvl", "");
+    klik(240);
+    klik_cil(41);
+    zprava(" M ", "jina", barvy::cervena);
+    zrus_volbu();
+    EXPECT_EQ(prikaz(), " M ");
+}
+
 TEST_F(Volba, TagOnTheLineStopsClicksOnMainSignals) {
     pridej_stitek(41, "stitek", "", "");
     klik(240);
