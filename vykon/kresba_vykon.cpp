@@ -1,5 +1,6 @@
 // vykon/kresba_vykon.cpp - drawing of the desk: everything anew, one change, nothing.
 #ifdef TESK_S_KRESBOU
+#include "app/simulace.h"
 #include "prvky/panel.h"
 #include "relief/relief.h"
 #include "relief/tvary_vyhybek.h"
@@ -7,7 +8,8 @@
 #include "ui/platno.h"
 #include "zaklad/cisla.h"
 
-#include <QGuiApplication>
+#include <QApplication>
+#include <QListWidget>
 #include <benchmark/benchmark.h>
 
 namespace {
@@ -19,7 +21,7 @@ void zaloz_aplikaci() {
     static char* slova[] = {jmeno, nullptr};
     if (QCoreApplication::instance() == nullptr) {
         qputenv("QT_QPA_PLATFORM", "offscreen");
-        new QGuiApplication(pocet, slova); // lives as long as the process
+        new QApplication(pocet, slova); // lives as long as the process
         nacti_pismo(QStringLiteral(TESK_INSTALACE "data/kps.fon"));
     }
 }
@@ -90,6 +92,68 @@ BENCHMARK(cely_stul)
     ->Args({1024, 768})
     ->Args({2048, 1536})
     ->Args({3840, 2160});
+
+// The bottom panel as full as it can be: 24 rows of the table with their marks, a train of 40 vehicles with
+// captions of three lines, four pantographs, and a line about the train that wraps.
+Relief plny_panel() {
+    Relief r = plny_relief();
+    for (int n = 0; n < 24; ++n) {
+        Prvek& radek = r.lblTabulka_vlaku[n];
+        radek.viditelny = true;
+        radek.barva = barvy::bila;
+        radek.vlevo = 630 + n / 8 * 4700;
+        radek.nahore = 640 * 15 + n % 8 * 205;
+        radek.text = "Os  17860  +12 142m, PLH,  80km/h        ";
+        for (const int znacka : {n, n + 24}) {
+            r.shpblikacka[znacka].viditelny = true;
+            r.shpblikacka[znacka].vlevo = radek.vlevo - 500 + znacka / 24 * 200;
+            r.shpblikacka[znacka].nahore = radek.nahore + 40;
+        }
+    }
+    r.lblIinfo_o_vlaku[0].viditelny = true;
+    r.lblIinfo_o_vlaku[0].barva = barvy::bila;
+    r.lblIinfo_o_vlaku[0].text = Text(360, 'm');
+    constexpr const char* kObrazky[] = {"modra-362_3_l.ico", "A.ico", "B.ico", "Eas.ico"};
+    for (int n = 0; n < 40; ++n) {
+        r.imgObrzaek_vlaku[n].viditelny = true;
+        r.imgObrzaek_vlaku[n].stav = kObrazky[n % 4];
+        r.imgObrzaek_vlaku[n].ramecek = n % 4 == 0;
+        r.lblPopis_vozu[n].viditelny = true;
+        r.lblPopis_vozu[n].barva = barvy::bila;
+        r.lblPopis_vozu[n].text = "UNIPETROL 753 (17861)";
+    }
+    return r;
+}
+
+// Both monitors: there all the 40 vehicles are seen.
+void plny_stul(benchmark::State& stav) {
+    Stul stul(QSize(2048, 768));
+    simulace.cesta_aplikace = TESK_INSTALACE;
+    relief = plny_panel();
+    stul.platno.nastav_velikost(QSize(2048, 768), 2 * kSirkaStolu);
+    stul.platno.obnov();
+    for (auto _ : stav)
+        stul.platno.prekresli();
+}
+BENCHMARK(plny_stul)
+    ->Unit(benchmark::kMillisecond)
+    ->Name("full repaint with 40 vehicles and a full train table, two monitors");
+
+// The list as the window shows it: 200 messages, of which a dozen are seen.
+void plny_seznam(benchmark::State& stav) {
+    zaloz_aplikaci();
+    QListWidget seznam;
+    seznam.setUniformItemSizes(true);
+    seznam.setFont(pismo_poli(kVyskaBunky));
+    seznam.resize(1016, 126);
+    for (int i = 0; i < 200; ++i)
+        seznam.addItem(QStringLiteral("Vlak %1 bude zpožděn o 25 minut").arg(10000 + i));
+    seznam.scrollToBottom();
+    QImage obraz(1016, 126, QImage::Format_RGB32);
+    for (auto _ : stav)
+        seznam.render(&obraz);
+}
+BENCHMARK(plny_seznam)->Unit(benchmark::kMillisecond)->Name("repaint of a list of 200 messages");
 
 void jedna_zmena(benchmark::State& stav) {
     Stul stul(QSize(1024, 768));

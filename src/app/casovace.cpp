@@ -101,15 +101,6 @@ void krok_minuty() {
         uloz_prubezne();
 }
 
-Text soubor_autosave() {
-    const NastennyCas ted = platforma.nastenny_cas();
-    const std::int32_t simulovano = sekundy_textu(cas_hodin());
-    const auto dve = [](int hodnota) { return text_cisla_mist(hodnota, 2); };
-    return simulace.cesta_aplikace + "save\\autosave\\autosave_" + dve(ted.rok % 100) + dve(ted.mesic) +
-           dve(ted.den) + "_" + dve(ted.hodina) + dve(ted.minuta) + dve(ted.sekunda) + "_" +
-           dve(simulovano / 3600) + dve(simulovano / 60 % 60) + dve(simulovano % 60) + ".sim";
-}
-
 bool je_cas_ulozit() {
     return simulace.autosave && simulace.autosave_minut > 0 &&
            simulace.minuty_simulace % simulace.autosave_minut == 0;

@@ -28,8 +28,6 @@ void krok_blikani_diag();
 // 0 while nothing in the panel flashes, else 250 or 500 ms.
 int perioda_blikani_diag();
 
-// Name of the file of the periodic save: wall-clock date and time, and the simulated time.
-Text soubor_autosave();
 // The played minutes have come to a multiple of the period, and the periodic save is on.
 bool je_cas_ulozit();
 

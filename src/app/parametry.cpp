@@ -405,5 +405,6 @@ MoznostiStartu moznosti_startu() {
     m.zvuk_vypnut = parametry.chkZvuk;
     m.autosave = parametry.chkAutosave;
     m.autosaved = parametry.txtAutosave;
+    m.den = na_byte(parametry.cboDen);
     return m;
 }

@@ -327,6 +327,7 @@ void uloz_volby(const MoznostiStartu& m) {
         platforma.nastaveni_pis(kNastaveni, "Autosaved", m.autosaved);
     if (m.bez_dvou_monitoru)
         simulace.dva_monitory = false;
+    simulace.den_startu = m.den;
 }
 
 void prevezmi_volby(const VolbyStartu& v) {

@@ -17,13 +17,15 @@ struct VolbyStartu {
     bool pp = true, zpozdeni = true;
 };
 
-// The options of the start screen's second page, for a start and for an open alike.
+// What the start screen hands over for a start and for an open alike: the options of its second page,
+// and the day of its list.
 struct MoznostiStartu {
     bool noresize = false;          // never change the display mode
     bool bez_dvou_monitoru = false; // box "Zakázat podporu dvou monitorů"
     bool zvuk_vypnut = false;
     bool autosave = false;
     Text autosaved = "60"; // period of the periodic save in played minutes, as typed
+    std::uint8_t den = 0;  // day chosen in the list, 0 Monday: the log is filed under it
 };
 
 // Takes the options into the run state and stores them; a period that is no number is not stored. Two

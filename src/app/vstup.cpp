@@ -351,7 +351,39 @@ constexpr JmenoKlavesy kJmenaKlaves[] = {
     {"Delete", KodKlavesy::delete_},
     {"Del", KodKlavesy::delete_},
     {"Tab", KodKlavesy::tab},
+    // the same keys by the names that keyboards and toolkits give them
+    {"Return", KodKlavesy::enter},
+    {"NumEnter", KodKlavesy::enter},
+    {"Escape", KodKlavesy::esc},
+    {"PrtSc", KodKlavesy::print_screen},
+    {"/", KodKlavesy::num_lomeno}, // portable keyboards have no numeric block
+    {"+", KodKlavesy::num_plus},
+    {"-", KodKlavesy::num_minus},
+    // a hand may press these too
+    {"F1", KodKlavesy::jina},
+    {"F4", KodKlavesy::jina},
+    {"F5", KodKlavesy::jina},
+    {"F6", KodKlavesy::jina},
+    {"F7", KodKlavesy::jina},
+    {"F12", KodKlavesy::jina},
+    {"Backspace", KodKlavesy::jina},
+    {"Insert", KodKlavesy::jina},
+    {"Home", KodKlavesy::jina},
+    {"End", KodKlavesy::jina},
+    {"PageUp", KodKlavesy::jina},
+    {"PageDown", KodKlavesy::jina},
+    {"Pause", KodKlavesy::jina},
+    {"Mezera", KodKlavesy::jina},
+    {"Space", KodKlavesy::jina},
+    {"Num*", KodKlavesy::jina},
+    {"Num.", KodKlavesy::jina},
 };
+
+bool je_cislice(TextPohled jmeno) {
+    if (jmeno.size() == 4 && stejne_bez_velikosti(jmeno.substr(0, 3), "Num"))
+        jmeno.remove_prefix(3);
+    return jmeno.size() == 1 && jmeno[0] >= '0' && jmeno[0] <= '9';
+}
 
 // Takes "Ctrl+" and the like from the front; false when it is not there.
 bool uber_predponu(TextPohled& jmeno, TextPohled predpona) {
@@ -434,6 +466,7 @@ bool klavesa(const Klavesa& k) {
         return klavesa_technologie(k);
     switch (k.kod) {
     case KodKlavesy::zadna:
+    case KodKlavesy::jina:
     case KodKlavesy::tab: return false;
     case KodKlavesy::enter: enter(); return true;
     case KodKlavesy::esc:
@@ -519,6 +552,10 @@ Klavesa klavesa_podle_jmena(TextPohled jmeno) {
             k.kod = znama.kod;
             return k;
         }
+    if (je_cislice(jmeno)) {
+        k.kod = KodKlavesy::jina;
+        return k;
+    }
     const Text velka = velka_pismena(jmeno);
     if (velka.size() != 1 || velka[0] < 'A' || velka[0] > 'Z')
         return {};

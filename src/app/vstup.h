@@ -33,7 +33,8 @@ enum class KodKlavesy : std::uint8_t {
     sipka_dolu,
     delete_,
     tab,
-    pismeno, // with `znak`, upper case
+    pismeno, // with Klavesa::pismeno, upper case
+    jina,    // of the keyboard, but without a use on the desk
 };
 
 struct Klavesa {
@@ -68,5 +69,5 @@ void pis_do_pole(TextPohled text);
 bool zvol_v_menu(TextPohled jmeno);
 
 // Name of a key as the headless runner and the manual write it: "Enter", "F2", "Ctrl+S", "Num/",
-// "Alt+Shift+A"; kod zadna when it is no key of the desk.
+// "Alt+Shift+A"; kod jina for a key that the desk has no use for, zadna when no keyboard has it.
 Klavesa klavesa_podle_jmena(TextPohled jmeno);

@@ -187,6 +187,13 @@ bool klavesa_startu(const std::string& jmeno) {
         krok_casu(parametry.vybrane, k.kod == KodKlavesy::sipka_nahoru ? 1 : -1);
         return true;
     }
+    if (k.kod == KodKlavesy::tab) {
+        otevri_obrazovku_startu();
+        constexpr int kPoli = static_cast<int>(PoleStartu::txtAutosave); // behind `zadne`
+        const int nyni = static_cast<int>(parametry.vybrane);
+        vyber_pole(static_cast<PoleStartu>(k.shift ? (nyni <= 1 ? kPoli : nyni - 1) : nyni % kPoli + 1));
+        return true;
+    }
     if (k.kod == KodKlavesy::esc) {
         zavri_menu();
         return true;

@@ -145,14 +145,18 @@ void prikaz_otevrit(BehSkriptu& beh) {
         dokonci_start(beh);
 }
 
-void prikaz_uloz(BehSkriptu&, Slova slova) {
-    zastav_hodiny();
-    uloz_simulaci(cesta_zaznamu(slova[0]), false);
-}
-
 bool je_prihlaseni() {
     const Text& slovo = relief.lblPrikaz[0].text;
     return relief.lblPrikaz[0].viditelny && (slovo == " INIT " || slovo == " TPC " || slovo == " ARCHIV ");
+}
+
+// A save ends with a running clock; during the login it goes on standing, for nobody has taken over yet.
+void prikaz_uloz(BehSkriptu&, Slova slova) {
+    const bool pauza_startu = je_prihlaseni() && simulace.pauza;
+    zastav_hodiny();
+    uloz_simulaci(cesta_zaznamu(slova[0]), false);
+    if (pauza_startu)
+        simulace.pauza = true;
 }
 
 void prikaz_prihlas(BehSkriptu&, Slova) {
@@ -361,9 +365,11 @@ void prikaz_over(BehSkriptu& beh, Slova slova) {
     for (const std::string& slovo : slova.subspan(cil.slov)) {
         const Prirazeni p = prirazeni(slovo);
         std::optional<Json> hodnota = najdi_pole(nalez, p.pole);
-        if (!hodnota && p.pole == "pocet")
-            hodnota = najdi_pole(nalez, "radky.pocet");
-        const bool cesta_k_radku = p.pole.find('.') != std::string_view::npos;
+        const bool radek_cislem = !p.pole.empty() && p.pole[0] >= '0' && p.pole[0] <= '9';
+        if (!hodnota && (p.pole == "pocet" || radek_cislem)) // of a table the rows are meant
+            hodnota = najdi_pole(nalez, "radky." + std::string(p.pole));
+        const bool cesta_k_radku =
+            p.pole.find('.') != std::string_view::npos || (radek_cislem && clen(nalez, "radky") != nullptr);
         if (!hodnota && !neni && !cesta_k_radku) {
             std::vector<std::string_view> pole;
             for (const ClenJsonu& c : std::get<ZaznamJsonu>(nalez.hodnota))
@@ -530,7 +536,8 @@ constexpr auto kZapisy = [] {
 
 void nastav_slozku(const std::string& utf8) {
     std::error_code kod;
-    const std::filesystem::path cela = std::filesystem::absolute(utf8, kod).lexically_normal();
+    const std::string na_disku = najdi_soubor(text_slova(utf8)).value_or(utf8);
+    const std::filesystem::path cela = std::filesystem::absolute(na_disku, kod).lexically_normal();
     if (kod || !std::filesystem::is_directory(cela, kod))
         chyba_skriptu("složka " + v_uvozovkach(utf8) + " neexistuje");
     Text cesta = text_slova(cela.string());

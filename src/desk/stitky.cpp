@@ -10,6 +10,7 @@ namespace {
 constexpr Barva kPozadiVyluky = 0x000080;
 constexpr Barva kPozadiNvl = 0xFF0000;
 constexpr Barva kPozadiStitku = 0x808000;
+constexpr std::int16_t kObrazekVyluky = 103, kObrazekNvl = 102, kObrazekStitku = 101;
 
 } // namespace
 
@@ -27,6 +28,14 @@ std::optional<Barva> pozadi_stitku(const StitekPrvku& stitek) {
     if (!stitek.stitek.empty())
         return kPozadiStitku;
     return std::nullopt;
+}
+
+std::int16_t obrazek_stitku(const StitekPrvku& stitek) {
+    if (!stitek.vyluka.empty())
+        return kObrazekVyluky;
+    if (!stitek.nvl.empty())
+        return kObrazekNvl;
+    return stitek.stitek.empty() ? std::int16_t{0} : kObrazekStitku;
 }
 
 bool je_pozadi_stitku(Barva pozadi) {

@@ -20,5 +20,7 @@ int stitek_prvku(int prvek);
 // Background that a note gives the label: the possession rules before the restriction, that before the
 // tag; nothing when all three texts are empty.
 std::optional<Barva> pozadi_stitku(const StitekPrvku& stitek);
+// Picture of the target by the same order; 0 when the element has no note.
+std::int16_t obrazek_stitku(const StitekPrvku& stitek);
 // The background is one that notes give.
 bool je_pozadi_stitku(Barva pozadi);

@@ -39,17 +39,6 @@ constexpr std::array<PopisStitku, 3> kStitky = {{{" STIT ", &StitekPrvku::stitek
                                                  {" NVL ", &StitekPrvku::nvl},
                                                  {" VYL ", &StitekPrvku::vyluka}}}; // by DruhStitku
 
-// Pictures of a target with a note, by the background of its label.
-constexpr std::int16_t kObrazekStitku = 101, kObrazekNvl = 102, kObrazekVyluky = 103;
-
-std::int16_t obrazek_stitku(const StitekPrvku& s) {
-    if (!s.vyluka.empty())
-        return kObrazekVyluky;
-    if (!s.nvl.empty())
-        return kObrazekNvl;
-    return s.stitek.empty() ? std::int16_t{0} : kObrazekStitku;
-}
-
 StitekPrvku& zaloz_stitek(int prvek) {
     const int i = stitek_prvku(prvek);
     if (i >= 0)

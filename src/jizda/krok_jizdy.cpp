@@ -99,6 +99,8 @@ void oznac_stare_cesty(int nova, int v) {
 
 // The gates before a route that the head of v stands on at index i.
 bool vezmi_cestu(int c, int i, int v) {
+    if (cesta_c(c).Vlak == kKOdstraneni)
+        return false; // run over already, its locking is gone: nobody else may follow on it
     if (cesta_c(c).Umazat == 0 && cesta_c(c).PN && cesta_c(c).PN_do < ted_s())
         return false; // the calling-on aspect is over
     if (cesta_c(c).VC == vlak_c(v).posun)

@@ -7,6 +7,8 @@
 #include "relief/relief.h"
 #include "zaklad/cisla.h"
 
+#include <utility>
+
 namespace {
 
 constexpr int kVystraha_s = 30; // from UZ to the lowered barriers
@@ -55,14 +57,19 @@ void menu_prejezdu(int k) {
         return;
     const StanicniPrejezd& p = prejezd(k);
     const Text stav = text_cisla(p.pocet) + " " + (p.uzavren ? "-1" : "0");
+    // One entry in its place of the menu: what it does is the same, how it is called tells what it ends.
+    PolozkaMenu otevreni{"miNOT", "NOT", true, true, prejezd_not, k};
+    if (p.UZ) {
+        otevreni.druhe_jmeno = std::exchange(otevreni.jmeno, "miZUZ");
+        otevreni.text = "ZUZ";
+    }
     otevri_menu({"mnuPREJEZD",
                  Text(kNazvyPrejezdu[static_cast<std::size_t>(k)]),
                  Druh::lblPrejezd,
                  k,
                  {{"miprejezd_debug", stav, true, simulace.polozky_ladeni, nullptr, k},
                   {"miUZ", "UZ", true, true, prejezd_uz, k},
-                  {"miNOT", "NOT", true, !p.UZ, prejezd_not, k},
-                  {"miZUZ", "ZUZ", true, p.UZ, prejezd_not, k},
+                  otevreni,
                   {"miSTIT", "STIT", true, true, nullptr, k},
                   {"miDK", "DK", true, true, nullptr, k}}});
 }

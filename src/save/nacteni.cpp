@@ -37,9 +37,8 @@
 namespace {
 
 constexpr int kDen_min = 1440;
-constexpr int kHledanyRozdil_min = 100; // a time mark further off than this is one of another day
-constexpr int kNejvyssiPoloha = 49;     // position of a switch
-constexpr std::int16_t kObrazekStitku = 101, kObrazekNvl = 102, kObrazekVyluky = 103;
+constexpr int kHledanyRozdil_min = 100;        // a time mark further off than this is one of another day
+constexpr int kNejvyssiPoloha = 49;            // position of a switch
 constexpr std::size_t kNejviceZaznamu = 32768; // indices have 16 bits
 
 [[noreturn]] void vada(Text co) {
@@ -326,10 +325,6 @@ void obnov_smery(const Zaznam& z) {
                 odjezd.viditelny = true;
         }
     }
-}
-
-std::int16_t obrazek_stitku(const StitekPrvku& stitek) {
-    return !stitek.vyluka.empty() ? kObrazekVyluky : !stitek.nvl.empty() ? kObrazekNvl : kObrazekStitku;
 }
 
 // Notes on the labels of their tracks and on the targets.

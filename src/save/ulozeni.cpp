@@ -1,10 +1,11 @@
 // save/ulozeni.cpp - writing the simulation to a file.
 #include "save/ulozeni.h"
 
-#include "app/casovace.h"
+#include "app/cas.h"
 #include "app/simulace.h"
 #include "save/zaznam.h"
 #include "zaklad/chyba.h"
+#include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
 #include "zaklad/soubory.h"
 
@@ -109,4 +110,13 @@ void uloz_prubezne() {
     uloz_simulaci(soubor, true);
     if (soubor_existuje(soubor))
         promaz_autosave(soubor);
+}
+
+Text soubor_autosave() {
+    const NastennyCas ted = platforma.nastenny_cas();
+    const std::int32_t simulovano = sekundy_textu(cas_hodin());
+    const auto dve = [](int hodnota) { return text_cisla_mist(hodnota, 2); };
+    return simulace.cesta_aplikace + "save\\autosave\\autosave_" + dve(ted.rok % 100) + dve(ted.mesic) +
+           dve(ted.den) + "_" + dve(ted.hodina) + dve(ted.minuta) + dve(ted.sekunda) + "_" +
+           dve(simulovano / 3600) + dve(simulovano / 60 % 60) + dve(simulovano % 60) + ".sim";
 }

@@ -42,3 +42,8 @@ void nacti_simulaci_z(std::span<const std::uint8_t> bajty);
 // Once the timetable has been read too: the consents that stand, by the trains that were given one. The file
 // does not say.
 void obnov_souhlasy();
+
+// --- at any time, without change
+
+// File of the periodic save of this moment: wall-clock date and time, and the simulated time.
+Text soubor_autosave();

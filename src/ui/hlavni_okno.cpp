@@ -9,7 +9,7 @@
 #include "desk/menu.h"
 #include "desk/stitky.h"
 #include "jizda/menu_koleje.h"
-#include "technologie/provoz2.h"
+#include "technologie/technologie.h"
 #include "ui/brana.h"
 #include "ui/nabidka.h"
 #include "ui/pismo.h"
@@ -489,7 +489,7 @@ bool HlavniOkno::stisk_za_mys(const QKeyEvent& udalost) {
 
 bool HlavniOkno::stisk(QKeyEvent* udalost) {
     const QScopedValueRollback po_klavese(z_klavesy, true);
-    if (!provoz2_otevren() && stisk_za_mys(*udalost))
+    if (!technologie_kryje_stul() && stisk_za_mys(*udalost))
         return true;
     const Klavesa k = klavesa_qt(*udalost);
     if (k.kod == KodKlavesy::zadna)
@@ -546,7 +546,7 @@ void HlavniOkno::obnov_ohnisko() {
     const bool nova = zelene && (!zpravy_zelene || radku > zprav);
     zpravy_zelene = zelene;
     zprav = radku;
-    if (!nova || !pole->isHidden() || provoz2_otevren())
+    if (!nova || !pole->isHidden() || technologie_kryje_stul())
         return;
     setFocus();
     zaostri(Druh::cmdZpravy);
@@ -618,7 +618,7 @@ void HlavniOkno::resizeEvent(QResizeEvent*) {
 }
 
 bool HlavniOkno::event(QEvent* udalost) {
-    if (udalost->type() == QEvent::KeyPress && !provoz2_otevren())
+    if (udalost->type() == QEvent::KeyPress && !technologie_kryje_stul())
         if (const auto* k = static_cast<QKeyEvent*>(udalost); je_tabulator(*k)) {
             dalsi_ohnisko(k->key() == Qt::Key_Tab);
             return true;

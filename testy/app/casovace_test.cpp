@@ -6,6 +6,7 @@
 #include "jizda/vlak.h"
 #include "pomocne/virtualni_platforma.h"
 #include "relief/relief.h"
+#include "save/ulozeni.h"
 #include "zaklad/chyba.h"
 
 #include <array>

@@ -577,6 +577,14 @@ TEST_F(StartovniObrazovka, OpenStoresTheOptionsButNotTheChoicesOfAStart) {
     EXPECT_EQ(svet.nastaveni_cti("Nastaveni", "GVD"), std::nullopt);
 }
 
+TEST_F(StartovniObrazovka, LogOfAnOpenedSimulationIsFiledUnderTheDayOfTheList) {
+    ASSERT_TRUE(nacti());
+    parametry.cboDen = 4;
+    svet.soubory = {svet.cesta() + "save\\a.sim"};
+    EXPECT_TRUE(otevri_zaznam());
+    EXPECT_EQ(simulace.den_startu, 4);
+}
+
 TEST_F(StartovniObrazovka, NewSimulationForgetsTheScreen) {
     ASSERT_TRUE(nacti());
     prepni_stranku(1);

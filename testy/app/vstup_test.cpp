@@ -36,9 +36,32 @@ TEST_F(Klavesy, AreKnownByTheirNames) {
     const Klavesa konec = klavesa_podle_jmena("Ctrl+Alt+F10");
     EXPECT_EQ(konec.kod, KodKlavesy::f10);
     EXPECT_TRUE(konec.ctrl && konec.alt && !konec.shift);
-    EXPECT_EQ(klavesa_podle_jmena("F12").kod, KodKlavesy::zadna);
+    EXPECT_EQ(klavesa_podle_jmena("F13").kod, KodKlavesy::zadna);
     EXPECT_EQ(klavesa_podle_jmena("").kod, KodKlavesy::zadna);
     EXPECT_EQ(klavesa_podle_jmena("Ctrl+").kod, KodKlavesy::zadna);
+}
+
+TEST_F(Klavesy, AreKnownByTheNamesOfOtherKeyboardsToo) {
+    EXPECT_EQ(klavesa_podle_jmena("Return").kod, KodKlavesy::enter);
+    EXPECT_EQ(klavesa_podle_jmena("escape").kod, KodKlavesy::esc);
+    EXPECT_EQ(klavesa_podle_jmena("PrtSc").kod, KodKlavesy::print_screen);
+    EXPECT_EQ(klavesa_podle_jmena("/").kod, KodKlavesy::num_lomeno);
+    EXPECT_EQ(klavesa_podle_jmena("+").kod, KodKlavesy::num_plus);
+    EXPECT_EQ(klavesa_podle_jmena("-").kod, KodKlavesy::num_minus);
+    const Klavesa plus = klavesa_podle_jmena("Ctrl++");
+    EXPECT_EQ(plus.kod, KodKlavesy::num_plus);
+    EXPECT_TRUE(plus.ctrl);
+}
+
+TEST_F(Klavesy, KeyWithoutAUseOnTheDeskDoesNothing) {
+    const bool pauza = simulace.pauza;
+    for (const char* jmeno : {"F1", "F4", "F5", "F6", "F7", "F12", "PageUp", "PageDown", "Home", "End",
+                              "Insert", "Space", "Backspace", "7", "Num0", "Num*", "Alt+F4", "Tab"})
+        EXPECT_FALSE(stiskni(jmeno)) << jmeno;
+    EXPECT_EQ(klavesa_podle_jmena("Ctrl+PageUp").kod, KodKlavesy::jina);
+    EXPECT_EQ(klavesa_podle_jmena("Num12").kod, KodKlavesy::zadna);
+    EXPECT_EQ(simulace.pauza, pauza);
+    EXPECT_TRUE(svet.pipnuti.empty());
 }
 
 TEST_F(Klavesy, UnknownKeyIsRefused) {

@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
 #include <functional>
 #include <iostream>
 #include <iterator>
@@ -138,6 +139,12 @@ TEST_F(Davka, StartScreenIsSeenAndWorkedBeforeTheStart) {
           "over hodiny cas=0:58:58 den=4 rychlost=4\nover lblGVD text=GVD_male\nover pipnuti pocet=0\n"
           "over obrazovka obrazovka=frmMain\n");
     EXPECT_FALSE(simulace.pp_povoleno);
+}
+
+TEST_F(Davka, TabGoesRoundTheFieldsOfTheStartScreen) {
+    vypis("klavesa Tab\nover obrazovka vybrane=txtHodiny\nklavesa Tab\nover obrazovka vybrane=txtMinuty\n"
+          "klavesa Tab\nklavesa Tab\nover obrazovka vybrane=txtHodiny\nklavesa Shift+Tab\n"
+          "over obrazovka vybrane=txtAutosave\npis 15\nover obrazovka txtAutosave=15\n");
 }
 
 TEST_F(Davka, FavouriteTimesAreKeptInTheSettings) {
@@ -284,6 +291,35 @@ TEST_F(Davka, TypingGoesIntoTheOpenField) {
                    "over prikaz pole=\"k 63\"\npis děčín\nover txtZadav_pole text=děčín\n");
 }
 
+TEST_F(Davka, KeysWithoutAUseOnTheDeskAreNoErrorOfTheScript) {
+    vypis(kStart + "vypis pipnuti\nklavesa F1\nklavesa PageUp\nklavesa Space\nklavesa 7\nklavesa Tab\n"
+                   "klavesa A\nover pipnuti pocet=0\nover prikaz viditelny=ne\nover hodiny pauza=ne\n");
+}
+
+// --- saves
+
+TEST_F(Davka, SaveDuringTheLoginLeavesTheClockStanding) {
+    vypis("spust cas=12:00\nuloz pred.sim\nover hodiny pauza=ano\nover lblPauza viditelny=ne\n"
+          "over prikaz prikaz=\" INIT \"\ncekej 5s\nover hodiny cas=11:59:58\nprihlas\ncekej 5s\n"
+          "uloz po.sim\nover hodiny pauza=ne\n");
+    vypis("nacti pred.sim\nover hodiny cas=11:59:58 pauza=ano\nover prikaz prikaz=\" INIT \"\n");
+}
+
+TEST_F(Davka, FolderOfTheProgramIsFoundWhateverItsCase) {
+    const std::string misto = slozka.cesta.substr(0, slozka.cesta.size() - 1);
+    std::filesystem::create_directory(misto + "/Jina Instalace");
+    for (const char* co : {"data", "gvd"})
+        std::filesystem::copy(misto + "/" + co, misto + "/Jina Instalace/" + (co[0] == 'd' ? "DATA" : "Gvd"),
+                              std::filesystem::copy_options::recursive);
+    for (const char* jmeno : {"/jina INSTALACE", "/Jina Instalace/", "\\JINA instalace\\"})
+        vypis("slozka \"" + misto + jmeno + "\"\nspust cas=12:00 gvd=gvd_DRUHE\nuloz \"ma prace.sim\"\n" +
+              "over okna 0 text=\"Stav simulace byl uložen do souboru " + misto +
+              "/Jina Instalace\\save\\ma prace.sim!\"\n");
+    EXPECT_TRUE(std::filesystem::exists(misto + "/Jina Instalace/save/ma prace.sim"));
+    vypis("slozka \"" + misto +
+          "/jina instalace\"\nnacti \"SAVE/Ma Prace.SIM\"\nover lblGVD text=GVD_druhe\n");
+}
+
 // --- looking
 
 TEST_F(Davka, ElementShowsAllItsAttributes) {
@@ -362,11 +398,12 @@ TEST_F(Davka, ChecksCompareByTheKindOfTheValue) {
                    "over navestidlo 262 kody=229 text=ĺ\nover cesta 0 zacatek=-3 prvky=-3 VC=ne\n"
                    "over cesty pocet=1 radky.0.konec=-3\nover menu menu=null\nover volba volba_zacatek=-3\n"
                    "over cekajici_vlaky 0 hodnota=0\nover panel svetla=false,false,false,false,false,false\n"
-                   "over kolej 999 existuje=ne\nover tabulka 3 text=\"\" blika=ne\n");
-    for (const char* over :
-         {"kolej 62 barva=0x00FF00", "kolej 62 viditelny=ne", "kolej 62 viditelny=mozna", "kolej 62 x1=15",
-          "kolej 62 x1=", "navestidlo 262 text=x", "cesta 7 zacatek=-3", "kolej 999 barva=0x00808080",
-          "menu menu=mnuVLAK", "cesty radky.5.konec=-3", "tabulka blika=ne"})
+                   "over kolej 999 existuje=ne\nover tabulka 3 text=\"\" blika=ne\n"
+                   "over tabulka 3=\"\" pocet=24\nover cesty 0.konec=-3\nover cekajici_vlaky 0=0\n");
+    for (const char* over : {"kolej 62 barva=0x00FF00", "kolej 62 viditelny=ne", "kolej 62 viditelny=mozna",
+                             "kolej 62 x1=15", "kolej 62 x1=", "navestidlo 262 text=x", "cesta 7 zacatek=-3",
+                             "kolej 999 barva=0x00808080", "menu menu=mnuVLAK", "cesty radky.5.konec=-3",
+                             "cesty 5.konec=-3", "zpravy 0=x", "tabulka blika=ne"})
         EXPECT_EQ(proved(kStart + "over " + over + "\n").kod, navrat::over_selhal) << over;
 }
 

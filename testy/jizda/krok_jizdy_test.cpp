@@ -368,6 +368,27 @@ TEST_F(Jizda, RouteOfATrainThatIsGoneIsRemoved) {
     EXPECT_EQ(cesty[0].zacatek, 63);
 }
 
+TEST_F(Jizda, RouteThatItsTrainHasRunIsTakenByNobodyElse) {
+    pridej_kolej(90, false);
+    const int v1 = vlak_na(62, true, 11), v2 = vlak_na(90, true, 12);
+    cesta(radek(0)); // the way on of the first train, from the end of the route it has run
+    RadekCesty dojeta = radek(0);
+    dojeta.konec = 62;
+    dojeta.prvky = {90, 62};
+    dojeta.druhy = {druh_prvku::kolej, druh_prvku::kolej};
+    dojeta.polohy = {0, 0};
+    cesta(dojeta);
+    cesty[1].Umazat = 1;
+    cesty[1].Vlak = static_cast<std::int16_t>(v1);
+    vlak(v2).rychlost = 50;
+    krok();
+    ASSERT_EQ(cesty.size(), 1u); // the locking under it is gone: it goes with the step
+    EXPECT_EQ(cesty[0].Vlak, v1);
+    krok();
+    EXPECT_EQ(metry(90), 0);
+    EXPECT_EQ(vlak(v2).prvky.size(), 1u);
+}
+
 TEST_F(Jizda, RouteThatNoTrainHasTakenStays) {
     cesta(radek(0));
     cesta(radek(1));

@@ -1,6 +1,7 @@
 // testy/prvky/prejezdy_stanice_test.cpp - the operator's commands on the station crossings.
 #include "app/blikani.h"
 #include "app/cas.h"
+#include "app/vstup.h"
 #include "cesty/cesta.h"
 #include "cesty/tik_volby.h"
 #include "desk/menu.h"
@@ -9,6 +10,7 @@
 #include "prvky/prejezdy_stanice.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace {
 
@@ -137,19 +139,28 @@ TEST_F(PrejezdStanice, MenuNamesTheCrossingByItsKilometre) {
     EXPECT_EQ(menu.hlava, "5,910");
 }
 
-TEST_F(PrejezdStanice, MenuOffersTheEmergencyOpeningOrTheEndOfTheClosure) {
+TEST_F(PrejezdStanice, EmergencyOpeningIsCalledEndOfTheClosureWhileTheOperatorHoldsTheCrossing) {
+    const auto texty = [] {
+        std::vector<Text> videt;
+        for (const PolozkaMenu& polozka : menu.polozky)
+            if (polozka.viditelna)
+                videt.push_back(polozka.text);
+        return videt;
+    };
     menu_prejezdu(0);
-    EXPECT_TRUE(polozka_menu("miNOT").viditelna);
-    EXPECT_FALSE(polozka_menu("miZUZ").viditelna);
-    polozka_menu("miUZ").akce(polozka_menu("miUZ").cil);
+    EXPECT_EQ(texty(), (std::vector<Text>{"UZ", "NOT", "STIT", "DK"}));
+    EXPECT_FALSE(zvol_v_menu("miZUZ"));
+    EXPECT_TRUE(zvol_v_menu("miUZ"));
     menu_prejezdu(0);
-    EXPECT_FALSE(polozka_menu("miNOT").viditelna);
-    EXPECT_TRUE(polozka_menu("miZUZ").viditelna);
-    EXPECT_EQ(polozka_menu("miZUZ").text, "ZUZ");
-    polozka_menu("miZUZ").akce(polozka_menu("miZUZ").cil);
-    EXPECT_EQ(stanicni_prejezdy[0], StanicniPrejezd{});
+    EXPECT_EQ(texty(), (std::vector<Text>{"UZ", "ZUZ", "STIT", "DK"}));
     EXPECT_EQ(polozka_menu("miSTIT").akce, nullptr);
     EXPECT_EQ(polozka_menu("miDK").akce, nullptr);
+    EXPECT_TRUE(zvol_v_menu("miZUZ"));
+    EXPECT_EQ(stanicni_prejezdy[0], StanicniPrejezd{});
+    prejezd_uz(0);
+    menu_prejezdu(0);
+    EXPECT_TRUE(zvol_v_menu("miNOT")); // the same entry
+    EXPECT_EQ(stanicni_prejezdy[0], StanicniPrejezd{});
 }
 
 TEST_F(PrejezdStanice, MenuShowsTheCounterToTheDeveloperOnly) {

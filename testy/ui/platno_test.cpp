@@ -139,3 +139,102 @@ int main(int pocet, char** slova) {
     testing::InitGoogleTest(&pocet, slova);
     return RUN_ALL_TESTS();
 }
+
+// --- the sign of a note, and the way from element to element
+
+namespace {
+
+constexpr QColor kVyluka(0x80, 0, 0);
+
+// The track of the desk with its target and labels at both of its ends, and a note on it.
+void poloz_poznamku(int obrazek) {
+    Prvek& cil = relief.Image1.zaloz(1);
+    cil.viditelny = true;
+    cil.vlevo = 3000;
+    cil.nahore = kRadek;
+    cil.sirka = 3000;
+    cil.vyska = kVyskaZnaku;
+    cil.obrazek = static_cast<std::int16_t>(obrazek);
+    do_pozadi(cil);
+    for (const auto& [n, vlevo] : {std::pair{1, 3240}, std::pair{201, 5400}}) {
+        Prvek& cislo = relief.cislo_koleje.zaloz(n);
+        cislo.viditelny = true;
+        cislo.vlastni_velikost = true;
+        cislo.vlevo = vlevo;
+        cislo.nahore = kRadek;
+        cislo.popis = " 1 ";
+        nastav_text(cislo, " 1 ");
+        do_popredi(cislo);
+    }
+}
+
+} // namespace
+
+TEST_F(Stul, SignOfANoteLiesOverTheLineOfItsTrackBetweenTheLabels) {
+    poloz_poznamku(103);
+    platno.obnov();
+    int vlevo = 1024, vpravo = 0;
+    for (int x = 200; x < 400; ++x)
+        if (barva_v(x, 47) == kVyluka) {
+            vlevo = std::min(vlevo, x);
+            vpravo = std::max(vpravo, x);
+        }
+    EXPECT_EQ(vpravo - vlevo + 1, 10);
+    EXPECT_GT(vlevo, 216 + 40) << "a train's number has room";
+    EXPECT_LT(vpravo, 360);
+    EXPECT_NE(barva_v(vlevo, 52), QColor(0x80, 0x80, 0x80)) << "the line does not cross the sign";
+}
+
+TEST_F(Stul, SignOfANoteIsGoneWithTheNote) {
+    poloz_poznamku(101);
+    platno.obnov();
+    const QImage se_znackou = platno.obraz().copy();
+    relief.Image1[1].obrazek = 0;
+    platno.obnov();
+    const QImage bez_znacky = platno.obraz().copy();
+    EXPECT_NE(se_znackou, bez_znacky);
+    platno.prekresli();
+    EXPECT_EQ(platno.obraz(), bez_znacky);
+}
+
+TEST_F(Stul, NoTargetIsSmallerThanAHandNeeds) {
+    const Prvek& navestidlo = relief.navestidlo[1];
+    const QRect cil = misto_vstupu(Druh::navestidlo, navestidlo);
+    EXPECT_GE(cil.width(), 13 * kTwipu);
+    EXPECT_GE(cil.height(), 13 * kTwipu);
+}
+
+TEST_F(Stul, KeysFindTheNextElementThatWay) {
+    poloz_poznamku(0);
+    platno.obnov();
+    const QPoint u_prvniho(3240 + 180, kRadek + kVyskaZnaku / 2);
+    const auto vpravo = platno.soused(u_prvniho, {1, 0});
+    ASSERT_TRUE(vpravo);
+    EXPECT_GT(vpravo->x(), u_prvniho.x());
+    const auto vlevo = platno.soused(u_prvniho, {-1, 0});
+    ASSERT_TRUE(vlevo);
+    EXPECT_EQ(*vlevo, misto_vstupu(Druh::navestidlo, relief.navestidlo[1]).center());
+    relief.navestidlo[1].viditelny = false;
+    platno.obnov();
+    EXPECT_NE(platno.soused(u_prvniho, {-1, 0}), vlevo) << "what is not seen is passed over";
+}
+
+TEST_F(Stul, CaptionOfAVehicleKeepsWithinItsPicture) {
+    Prvek& popis = relief.lblPopis_vozu[0];
+    popis.viditelny = true;
+    popis.barva = barvy::bila;
+    popis.vlevo = 3000;
+    popis.nahore = 728 * kTwipu;
+    popis.text = "UNIPETROL 753 (99152)";
+    const QRegion zmenene = platno.obnov();
+    bool pod_prvnim_radkem = false;
+    for (int y = 728; y < 768; ++y)
+        for (int x = 0; x < 1024; ++x)
+            if (barva_v(x, y) == QColor(Qt::white)) {
+                EXPECT_GE(x, 200);
+                EXPECT_LT(x, 280);
+                pod_prvnim_radkem |= y >= 754;
+            }
+    EXPECT_TRUE(pod_prvnim_radkem) << "its three lines stand under each other";
+    EXPECT_GE(zmenene.boundingRect().bottom(), 766);
+}
