@@ -97,12 +97,19 @@ bool je_ve_volbe(TextPohled jmeno) {
            (" " + relief.lblVolba[0].text() + " ").find(" " + Text(jmeno) + " ") != Text::npos;
 }
 
+// The prompt names the signal that was clicked: the start of the route, or of the one before it that the
+// same click made.
+bool je_zacatek_ve_volbe(const Cesta& c) {
+    return je_ve_volbe(jmeno_navestidla(c.zacatek)) ||
+           je_ve_volbe(jmeno_navestidla(zacatek_dvojite_volby(c.zacatek, c.konec)));
+}
+
 // The prompt that picked this route has done its work.
 void skryj_vyzvu(const Cesta& c) {
     const TextPohled slovo = relief.lblPrikaz[0].text();
     if (!prikaz_radek.obsazen || (slovo != " VC " && slovo != " PC " && slovo != " PN "))
         return;
-    if (je_ve_volbe(jmeno_navestidla(c.zacatek)) && (!c.VC || je_ve_volbe(jmeno_konce(c.konec)))) {
+    if (je_zacatek_ve_volbe(c) && (!c.VC || je_ve_volbe(jmeno_konce(c.konec)))) {
         skryj_prikaz();
         nastav_text(relief.lblVolba[0], {});
     }

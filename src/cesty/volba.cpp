@@ -296,6 +296,13 @@ void klik_cil(int e) {
     najdi_cestu(vyber.volba_zacatek, konec, druh, false);
 }
 
+int zacatek_dvojite_volby(int dal, int konec) {
+    const auto d = std::find_if(kDvojiteKonce.begin(), kDvojiteKonce.end(), [=](const DvojityKonec& x) {
+        return x.dal == dal && (x.konec == konec || x.jiny == konec);
+    });
+    return d == kDvojiteKonce.end() ? kZadny : d->zacatek;
+}
+
 void zrus_volbu() {
     if (makro_se_zaznamenava())
         zrus_makro();

@@ -49,6 +49,24 @@ TEST_F(StavebCest, TrainRouteFromPickToClearedSignal) {
     EXPECT_EQ(zapsano({75, 240, barvy::zelena}), 1u);
 }
 
+TEST_F(StavebCest, PromptOfAPickOverAShortSectionGoesWithItsSecondRoute) {
+    kolej(12, 3000, 4000, 4975);
+    kolej(20, 5000, 6000, 4975);
+    cil(12, "TST L12");
+    cil(20, "TST L20");
+    navest(601, 229, "TST S601");
+    navest(212, 229, "TST S212");
+    zat = {{601, 12, {40, 12}, {1, 1}, {0, 0}, 0}, {212, 20, {12, 20}, {1, 1}, {0, 0}, 0}};
+    postav_tabulky();
+    klik(601);
+    klik_cil(20);
+    ASSERT_EQ(volba(), "TST S601 TST L20");
+    prepni_pv_vz(false);
+    relief.kolej[20].barva = barvy::cervena; // what waits has been taken over, too
+    cekej(3);
+    EXPECT_EQ(prikaz(), "");
+}
+
 TEST_F(StavebCest, SwitchInPositionIsReservedAtOnce) {
     zarad(240, 41);
     cekej(2);
