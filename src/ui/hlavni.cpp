@@ -11,9 +11,12 @@
 #include "zaklad/platforma.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
 #include <QPalette>
 #include <QScreen>
 #include <QTimer>
+#include <QTranslator>
 
 #include <cstdio>
 #include <cstdlib>
@@ -72,6 +75,14 @@ void ukaz_hlavni_obrazovku() {
     }
 }
 
+// The window system's own dialogues speak Czech too, where its translations are installed.
+void nastav_jazyk(QApplication& aplikace) {
+    QLocale::setDefault(QLocale(QLocale::Czech));
+    auto* cestina = new QTranslator(&aplikace);
+    if (cestina->load(QStringLiteral("qtbase_cs"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QApplication::installTranslator(cestina);
+}
+
 // Boxes and dialogues as dark as the desk.
 void nastav_vzhled(QApplication& aplikace) {
     QApplication::setStyle(QStringLiteral("Fusion"));
@@ -124,6 +135,7 @@ int main(int pocet, char** slova) {
     QApplication aplikace(pocet, slova);
     QApplication::setApplicationName(QStringLiteral("KPS RVZ TESK"));
     QApplication::setQuitOnLastWindowClosed(false);
+    nastav_jazyk(aplikace);
     nastav_vzhled(aplikace);
     nova_simulace();
     zapln_platformu();

@@ -267,6 +267,7 @@ def nastav_cas(stul, hodina, minuta):
             if rozdil(*obrazy, cely) > 100:  # more than the cursor
                 break
         stul.klavesa("Tab")
+    stul.klavesa("alt+d")
     stul.klavesa("Home")
 
 
