@@ -516,7 +516,8 @@ constexpr std::array<std::uint8_t, 3> kStaniceKoncu = {19, 20, 5};
 
 } // namespace
 
-bool nacti_simulaci(TextPohled soubor) {
+bool nacti_simulaci(TextPohled jmeno) {
+    const Text soubor(jmeno); // the name may stand in the very state that the file replaces
     if (je_ladeni()) {
         nacti_simulaci_z(nacti_soubor(soubor)); // a fault stops the program at its place
     } else {
