@@ -173,10 +173,12 @@ void obnov_odjete() {
             drzene.set(static_cast<std::size_t>(n));
     };
     for (const Cesta& c : cesty) {
-        if (!c.prehozena || !nevjel(c))
+        if (!c.prehozena)
             continue;
-        drzi(c.konec);
-        for (std::size_t k = 1; k < c.prvky.size(); ++k)
+        if (nevjel(c))
+            drzi(c.konec);
+        // a calling-on route keeps its tracks reserved before the train that runs on it
+        for (std::size_t k = std::size_t{c.Umazat} + 1; k < c.prvky.size(); ++k)
             if (druh_na(c, k) == druh_prvku::kolej)
                 drzi(c.prvky[k]);
     }

@@ -137,3 +137,18 @@ TEST_F(Dotazy, AfterALoadCyanThatNoRouteHoldsWasLeftByATail) {
     uklid_odjete();
     EXPECT_EQ(barva(43), barvy::seda);
 }
+
+TEST_F(Dotazy, AfterALoadTheTracksBeforeATrainOnACallingOnRouteStayReserved) {
+    zarad(240, 41);
+    cesty[0].prehozena = true;
+    cesty[0].Vlak = 0;
+    cesty[0].Umazat = 1; // the head is on the first section behind the signal
+    ASSERT_GT(cesty[0].prvky.size(), 2u);
+    const int pred_vlakem = cesty[0].prvky.back();
+    relief.kolej[pred_vlakem].barva = relief.kolej[cesty[0].prvky.front()].barva = barvy::azurova;
+    obnov_odjete();
+    EXPECT_FALSE(je_volna(pred_vlakem));
+    EXPECT_TRUE(je_volna(cesty[0].prvky.front()));
+    uklid_odjete();
+    EXPECT_EQ(barva(pred_vlakem), barvy::azurova);
+}
