@@ -195,35 +195,24 @@ void nakresli_sipku(QPainter& p, const QRect& kde, double krat) {
                             stred + QPointF(0, 3) * krat});
 }
 
-class VyberZeSeznamu : public QComboBox {
+// A control that opens something under it, with the arrow that says so.
+template <class Prvek> class SeSipkou : public Prvek {
 public:
-    explicit VyberZeSeznamu(double krat) : meritko(krat) {}
+    explicit SeSipkou(double krat) : meritko(krat) {}
 
 protected:
     void paintEvent(QPaintEvent* udalost) override {
-        QComboBox::paintEvent(udalost);
+        Prvek::paintEvent(udalost);
         QPainter p(this);
-        nakresli_sipku(p, rect(), meritko);
+        nakresli_sipku(p, this->rect(), meritko);
     }
 
 private:
     double meritko;
 };
 
-class TlacitkoNabidky : public QPushButton {
-public:
-    explicit TlacitkoNabidky(double krat) : meritko(krat) {}
-
-protected:
-    void paintEvent(QPaintEvent* udalost) override {
-        QPushButton::paintEvent(udalost);
-        QPainter p(this);
-        nakresli_sipku(p, rect(), meritko);
-    }
-
-private:
-    double meritko;
-};
+using VyberZeSeznamu = SeSipkou<QComboBox>;
+using TlacitkoNabidky = SeSipkou<QPushButton>;
 
 // Text of the core for a button or box; "&" would underline the next letter.
 QString popisek(TextPohled text) {
