@@ -186,8 +186,9 @@ std::vector<Nalez> Odvozeni::hledej(DruhTrasy druh, const Navestidlo& od, const 
     return vysledek;
 }
 
-// The marks of the third list are those that the locking would set: before the signal, on every target
-// and at the end the number of the train is written when its tail leaves.
+// The marks of the third list tell where the number goes off the labels when the tail leaves: before the
+// signal, on every target and at the end. A section of a line has none: the number stands on the line as
+// long as the train is on any part of it, and the locking marks the last one.
 Trasa Odvozeni::zaznam(DruhTrasy druh, const Navestidlo& od, const Nalez& nalez, const Misto& misto) const {
     Trasa t{druh, misto, {}, {}};
     ZaznamCesty& z = t.zaznam;
@@ -199,8 +200,8 @@ Trasa Odvozeni::zaznam(DruhTrasy druh, const Navestidlo& od, const Nalez& nalez,
         int poloha = krok.poloha;
         if (krok.typ == Typ::kolej) {
             const Kolej& kolej = *koleje.at(krok.cislo);
-            const bool cil = kolej.cil && (kolej.cislo < kTratniUseky || kolej.cislo == kTrat638);
-            poloha = k == 0 || k + 1 == nalez.kroky.size() || cil ? 2 : 0;
+            const bool trat = kolej.cislo >= kTratniUseky && kolej.cislo != kTrat638;
+            poloha = k == 0 || (!trat && (kolej.cil || k + 1 == nalez.kroky.size())) ? 2 : 0;
         } else if (krok.typ == Typ::vyhybka && minusu(poloha) > 0) {
             const auto i = pravidla.rychlost.find(krok.cislo);
             const int odbockou = i == pravidla.rychlost.end() ? 1 : i->second;
