@@ -434,7 +434,7 @@ void uvolni_vyhybku(int v, int j) {
         vlak.omezeni_ukonceno = true; // the whole train has cleared the last switch of its route
     const int stav = stav_vyhybky_cislo(n);
     if ((stav < 100 || stav > 150) && !drzi_jina_cesta(n, v)) // in between another route has reserved it
-        vyhybka_stav(n, vlak.prvky_poloha[static_cast<std::size_t>(j)], false, false);
+        uvolni_zaver_vyhybky(n, vlak.prvky_poloha[static_cast<std::size_t>(j)]);
 }
 
 void krok_konce(int v) {
