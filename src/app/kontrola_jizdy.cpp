@@ -285,14 +285,16 @@ std::vector<std::int16_t> sdilene_koleje(std::size_t i) {
     const Vlak& v = vlaky[i];
     const VidenyVlak* drive = videny(i);
     std::vector<std::int16_t> sdilene;
-    for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j) {
+    bool pred_jinou = false; // another track lies between this one and the head
+    for (std::size_t j = v.prvky.size(); j-- > static_cast<std::size_t>(v.prvek_konec);) {
         const std::int16_t n = v.prvky[j];
         if (v.prvky_druh[j] != druh_prvku::kolej)
             continue;
-        const bool sdili = drive != nullptr ? je_mezi(drive->sdilene, n)
-                                            : j + 1 < v.prvky.size() && metry(n) != delka_koleje(n);
-        if (sdili || drzi_jiny(n, static_cast<int>(i)))
+        const bool sdilela =
+            drive != nullptr ? je_mezi(drive->sdilene, n) : pred_jinou && metry(n) != delka_koleje(n);
+        if (sdilela || drzi_jiny(n, static_cast<int>(i)))
             sdilene.push_back(n);
+        pred_jinou = true;
     }
     return sdilene;
 }
