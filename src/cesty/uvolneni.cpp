@@ -38,6 +38,19 @@ int index_cesty(const Cesta& c) {
     return static_cast<int>(&c - cesty.data());
 }
 
+// The locking of a calling-on route falls. A second time, while the train still stands across the route, it
+// touches no switch: they are free for other routes since the first one.
+void uvolni_zaver_privolavaci(Cesta& c) {
+    for (std::size_t k = 1; k < c.prvky.size() && !c.PN_zaver; ++k) {
+        const int n = c.prvky[k];
+        if (druh_na(c, k) == druh_prvku::vyhybka)
+            vyhybka_stav(n, poloha_na(c, k), false, false);
+        if (druh_na(c, k) == druh_prvku::vykolejka)
+            relief.lblVykolejka[n].barva = barvy::seda;
+    }
+    c.PN_zaver = true;
+}
+
 // Elements that no route ever paints, and the end of a route where something may stand, tell nothing
 // about the locking.
 bool bez_barvy_zaveru(const Cesta& c, std::size_t k) {
@@ -209,16 +222,7 @@ void rnz(int s) {
         c = prvni_cesta(skoncila);
     if (c == nullptr)
         return;
-    // A second RNZ, while the train still stands across the route, touches no switch: they are free for
-    // other routes since the first one.
-    for (std::size_t k = 1; k < c->prvky.size() && !c->PN_zaver; ++k) {
-        const int n = c->prvky[k];
-        if (druh_na(*c, k) == druh_prvku::vyhybka)
-            vyhybka_stav(n, poloha_na(*c, k), false, false);
-        if (druh_na(*c, k) == druh_prvku::vykolejka)
-            relief.lblVykolejka[n].barva = barvy::seda;
-    }
-    c->PN_zaver = true;
+    uvolni_zaver_privolavaci(*c);
     gtn_zapis(s, gtn::rnz, 0);
     if (c->PN_do > 0)
         odeber_odpocet_pn(s); // the tick that would do it has not come yet
@@ -232,4 +236,16 @@ void rnz(int s) {
     }
     zmena_zasobniku();
     obnov_panel_kdyz_ukazuje(s);
+}
+
+void opust_privolavaci(Cesta& c) {
+    if (!c.PN || !c.Provedena)
+        return;
+    uvolni_zaver_privolavaci(c);
+    if (c.PN_do > 0) {
+        c.PN_do = -3;
+        nastav_navest(c.zacatek, barvy::seda);
+        odeber_odpocet_pn(c.zacatek);
+    }
+    obnov_panel_kdyz_ukazuje(c.zacatek);
 }

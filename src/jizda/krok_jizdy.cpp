@@ -10,6 +10,7 @@
 #include "cesty/cesta.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
+#include "cesty/uvolneni.h"
 #include "cesty/volba.h"
 #include "jizda/metry.h"
 #include "jizda/na_koleji.h"
@@ -478,6 +479,7 @@ void uklid_cesty() {
         const int v = cesta_c(c).Vlak;
         const bool osirela = v >= 0 && (v >= static_cast<int>(vlaky.size()) || vlak_c(v).cislo < 1);
         if (cesta_c(c).zacatek >= 0 && (osirela || v == kKOdstraneni)) {
+            opust_privolavaci(cesta_c(c));
             smaz_cestu(c);
             zmena = true;
         }
