@@ -217,21 +217,9 @@ int dvojce_hranice(int n) {
     return n == 213 ? 85 : n == 212 ? 84 : n == 219 ? 117 : kZadny;
 }
 
-// On a track with two labels of one name the number that ran ahead of its train stands on the first one. The
-// erasing leaves those to the running, which never comes when the route is taken back.
-void smaz_z_dvou(int n, TextPohled text) {
-    if (n >= 600 || !ma_dva_stejne_stitky(n) || !ukazuje(n, text) ||
-        (je_kolej(n) && relief.kolej[n].barva == barvy::cervena))
-        return;
-    Prvek& stitek = relief.cislo_koleje[n];
-    nastav_text(stitek, stitek.popis());
-    stitek.viditelny = !orez(stitek.text()).empty();
-}
-
 void smaz_z_konce(const Cesta& cesta, TextPohled text, bool tiche) {
     const int posledni = posledni_prvek(cesta);
     pis_cislo(posledni, text, true, tiche);
-    smaz_z_dvou(posledni, text);
     if (dvojce_hranice(posledni) != kZadny)
         pis_cislo(dvojce_hranice(posledni), text, true, tiche);
     if (je_konec_pred_trati(posledni))

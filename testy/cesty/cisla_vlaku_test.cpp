@@ -202,33 +202,6 @@ TEST_F(Cisla, NumberFollowsTheChainOfRoutes) {
     EXPECT_EQ(text(40), "1234");
 }
 
-TEST_F(Cisla, NumberThatRanAheadToATrackWithTwoLabelsIsTakenBack) {
-    stitek(241, "K41");
-    pis_cislo(40, "1234");
-    postav(240, 41);
-    ASSERT_EQ(text(41), "1234");
-    navestidlo_stuj(240);
-    EXPECT_EQ(text(41), "K41");
-    obnov_cestu(240);
-    EXPECT_EQ(text(41), "1234");
-    zrus_cestu(240);
-    cekej(6);
-    EXPECT_EQ(cesty[0].zacatek, -3);
-    EXPECT_EQ(text(41), "K41");
-    EXPECT_EQ(text(241), "K41");
-    EXPECT_TRUE(relief.cislo_koleje[41].viditelny);
-}
-
-TEST_F(Cisla, NumberOfATrainOnATrackWithTwoLabelsStays) {
-    stitek(241, "K41");
-    pis_cislo(40, "1234");
-    postav(240, 41, druh_volby::pn);
-    relief.kolej[41].barva = barvy::cervena;
-    pis_cislo(41, "1234");
-    vymaz_cislo(0, false, {});
-    EXPECT_EQ(text(41), "1234");
-}
-
 TEST_F(Cisla, SecondLabelGivesTheNumberWhenTheFirstShowsItsName) {
     stitek(240, "K40");
     relief.cislo_koleje[240].text = TextPohled("77");
