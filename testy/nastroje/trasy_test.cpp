@@ -605,6 +605,8 @@ TEST(TrasyTesku, LinesAreEnteredAndLeft) {
     EXPECT_EQ(p.vlak(287, 600), "87 v33+ 404 v36+ v37+ 600");
     EXPECT_EQ(p.najdi(DruhTrasy::vlak, 601, 12)->zaznam.prvky[0], 650);
     EXPECT_EQ(p.najdi(DruhTrasy::vlak, 12, 600)->zaznam.prvky.back(), 650);
+    EXPECT_EQ(p.najdi(DruhTrasy::vlak, 12, 600)->zaznam.polohy.back(), 0)
+        << "the number of the train stays on the line until its far end";
     EXPECT_EQ(p.najdi(DruhTrasy::vlak, 287, 600)->zaznam.rychlost, 0);
     EXPECT_EQ(p.najdi(DruhTrasy::vlak, 286, 600)->zaznam.rychlost, 1);
 }
