@@ -29,7 +29,6 @@
 
 namespace {
 
-constexpr std::size_t kNejvicCest = 256;  // the walk counts in one byte
 constexpr std::int32_t kPrestaveni_s = 5; // switches have run, the route may be locked
 constexpr std::int32_t kZavirani_s = 40;  // the crossing begins to close
 constexpr std::int32_t kPrivolavaci_s = 30;
