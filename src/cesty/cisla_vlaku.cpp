@@ -300,7 +300,7 @@ void vrat_jmeno_koleje(int prvek) {
     if (prvek >= 600 || !je_cislo_koleje(prvek) || !je_kolej(prvek) || !je_volna(prvek))
         return;
     Prvek& stitek = relief.cislo_koleje[prvek];
-    if (!orez(stitek.text()).empty() || orez(stitek.popis()).empty())
+    if (orez(stitek.popis()).empty())
         return;
     nastav_text(stitek, stitek.popis());
     stitek.viditelny = true;
