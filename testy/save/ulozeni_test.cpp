@@ -142,6 +142,7 @@ TEST_F(Ulozeni, OldFileIsOverwrittenOnlyWithAYes) {
     zastav_hodiny();
     uloz_dialog();
     EXPECT_EQ(svet.otazky, std::vector<Text>{Text("Soubor již existuje. Přepsat?"_cz)});
+    EXPECT_EQ(svet.tituly_otazek, std::vector<Text>{Text("Uložit záznam"_cz)});
     EXPECT_EQ(svet.precti("save/hra.sim"), stary);
     EXPECT_NE(svet.precti("save/jiny.sim"), stary);
     svet.soubory = {soubor()};
