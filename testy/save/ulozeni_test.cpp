@@ -335,6 +335,16 @@ TEST_F(Ulozeni, CrossingsComeFromTheFileAlone) {
     EXPECT_EQ(vlaky.size(), 51u);
 }
 
+TEST_F(Ulozeni, CrossingThatTheOperatorKeepsClosedIsWhiteAgain) {
+    stanicni_prejezdy[0].UZ = true;
+    relief.lblPrejezd[0].barva = barvy::bila;
+    uloz();
+    nacti();
+    EXPECT_TRUE(stanicni_prejezdy[0].UZ);
+    EXPECT_EQ(relief.lblPrejezd[0].barva, barvy::bila);
+    EXPECT_EQ(relief.lblPrejezd[1].barva, barvy::seda);
+}
+
 TEST_F(Ulozeni, EmptyDelayListIsReadAsNothing) {
     ASSERT_TRUE(relief.lstZpravy.radky.empty());
     uloz();
