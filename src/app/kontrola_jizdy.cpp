@@ -322,9 +322,7 @@ bool prebyva_konec(const Vlak& v) {
 
 // The tail leaves a track neither before the train has left it nor, once it may run, later.
 Nalez delky() {
-    // the movement has made a step: the end of a pause sets both marks of time at once
-    const bool jelo_se =
-        simulace.tick_jizdy != videno.tick_jizdy && simulace.tick_jizdy != simulace.tick_hodin;
+    const bool jelo_se = simulace.tick_jizdy != videno.tick_jizdy;
     for (std::size_t i = 0; i < vlaky.size(); ++i) {
         const Vlak& v = vlaky[i];
         const VidenyVlak* drive = videny(i);
@@ -517,6 +515,10 @@ std::optional<Text> kontrola_jizdy() {
     zapamatuj_cesty();
     zapamatuj_sipky();
     return nalez;
+}
+
+void prijmi_konec_pauzy() {
+    videno.tick_jizdy = simulace.tick_jizdy;
 }
 
 void zapomen_kontrolu_jizdy() {

@@ -203,6 +203,19 @@ TEST_F(Provoz, TrainIsAnnouncedTwoMinutesBeforeAndSetsOffAtItsMinute) {
     EXPECT_EQ(relief.kolej[87].stav, "400");
 }
 
+TEST_F(Provoz, NobodySetsOffWhereOnlyTheNumberHasRunAhead) {
+    lhotin();
+    pridej(z_lhotina(1701, 632));
+    v("10:30:00");
+    Vlak* vlak = najdi(1701);
+    ASSERT_NE(vlak, nullptr);
+    vlak->prvky = {600}; // sent off before its minute; its number has run back over a route to track 87
+    relief.kolej[87].barva = barvy::zelena;
+    v("10:32:00");
+    EXPECT_EQ(cislo_na(87), "1701");
+    EXPECT_EQ(barva(87), barvy::zelena);
+}
+
 TEST_F(Provoz, FullStationAnnouncesNobodyAndTheTrainNeverComes) {
     lhotin();
     for (const int n : {86, 87, 88, 89, 90})
