@@ -4,6 +4,7 @@
 #include "cesty/dotazy.h"
 #include "cesty/smer_trati.h"
 #include "cesty/zvyrazneni.h"
+#include "jizda/na_koleji.h"
 #include "relief/prejezdy.h"
 #include "save/gtn.h"
 #include "zaklad/cisla.h"
@@ -192,21 +193,26 @@ int dvojce_hranice(int n) {
     return n == 213 ? 85 : n == 212 ? 84 : n == 219 ? 117 : kZadny;
 }
 
-// On a track with two labels of one name the number that ran ahead of its train stands on the first one. The
-// erasing leaves those to the running, which never comes when the route is taken back.
-void smaz_z_dvou(int n, TextPohled text) {
-    if (n >= 600 || !ma_dva_stejne_stitky(n) || !ukazuje(n, text) ||
-        (je_kolej(n) && relief.kolej[n].barva == barvy::cervena))
+// The number that ran ahead of its train goes from labels that the erasing leaves to the running, which never
+// comes when the route is taken back: on a track with two labels of one name it stands on the first one, and
+// on a track where another train stands (a calling-on route leads there) it hides the number of that train.
+void smaz_predbezne(int n, TextPohled text) {
+    if (n >= 600 || !ukazuje(n, text))
         return;
-    Prvek& stitek = relief.cislo_koleje[n];
-    nastav_text(stitek, stitek.popis());
-    stitek.viditelny = !orez(stitek.text()).empty();
+    if (je_kolej(n) && relief.kolej[n].barva == barvy::cervena) {
+        if (vlak_na_koleji(n))
+            zobraz_kolej(zaznam_koleje(n));
+    } else if (ma_dva_stejne_stitky(n)) {
+        Prvek& stitek = relief.cislo_koleje[n];
+        nastav_text(stitek, stitek.popis());
+        stitek.viditelny = !orez(stitek.text()).empty();
+    }
 }
 
 void smaz_z_konce(const Cesta& cesta, TextPohled text, bool tiche) {
     const int posledni = posledni_prvek(cesta);
     pis_cislo(posledni, text, true, tiche);
-    smaz_z_dvou(posledni, text);
+    smaz_predbezne(posledni, text);
     if (dvojce_hranice(posledni) != kZadny)
         pis_cislo(dvojce_hranice(posledni), text, true, tiche);
     if (je_konec_pred_trati(posledni))
@@ -281,4 +287,11 @@ void vymaz_cislo(int i, bool tiche, TextPohled text) {
             return;
         smaz_z_konce(*cesta, cislo, tiche);
     }
+}
+
+void vrat_nazev_konce(const Cesta& cesta) {
+    const int n = cesta.konec;
+    if (n < 600 && je_cislo_koleje(n) && je_kolej(n) && je_volna(n) &&
+        orez(relief.cislo_koleje[n].text()).empty())
+        smaz_z_koleje(n);
 }

@@ -158,6 +158,7 @@ void proved_zruseni(int i) {
         stanicni_prejezdy[c.prejezd].cas = -3;
     if (konec < 600 && c.VC && je_kolej(konec))
         uvolni_prvek(konec);
+    vrat_nazev_konce(c);
     if (!c.Postavena) {
         odznac_navestidlo(c.zacatek);
         vrat_barvu_konce(c);
@@ -228,6 +229,8 @@ void rnz(int s) {
         odeber_odpocet_pn(s); // the tick that would do it has not come yet
     const int konec = c->konec;
     if (c->Umazat == 0) {
+        vymaz_cislo(index_cesty(*c), false, {}); // the train has not come
+        vrat_nazev_konce(*c);
         smaz_cestu(index_cesty(*c));
         obnov_lampu_souhlasu(konec);
         uvolni_smer(konec);
