@@ -2,7 +2,6 @@
 #include "app/simulace.h"
 
 #include "app/blikani.h"
-#include "app/kontrola_jizdy.h"
 #include "app/kontrola_majitelu.h"
 #include "app/parametry.h"
 #include "cesty/cesta.h"
@@ -70,7 +69,6 @@ bool je_ladeni() {
 void spust_hodiny() {
     simulace.tick_hodin = platforma.tik_ms();
     simulace.tick_jizdy = platforma.tik_ms();
-    prijmi_konec_pauzy();
     simulace.pauza = false;
     relief.lblPauza[0].viditelny = false;
 }
