@@ -10,6 +10,7 @@
 #include "cesty/cesta.h"
 #include "cesty/smer_trati.h"
 #include "cesty/tabulky.h"
+#include "jizda/krok_jizdy.h"
 #include "jizda/metry.h"
 #include "jizda/vlak.h"
 #include "prvky/souhlasy.h"
