@@ -5,6 +5,7 @@
 #include "cesty/smer_trati.h"
 #include "cesty/zvyrazneni.h"
 #include "jizda/na_koleji.h"
+#include "jizda/vlak.h"
 #include "relief/prejezdy.h"
 #include "save/gtn.h"
 #include "zaklad/cisla.h"
@@ -27,6 +28,14 @@ bool ukazuje_cislo(int stitek) {
     const TextPohled text = orez(relief.cislo_koleje[stitek].text());
     return !text.empty() && text != orez(relief.cislo_koleje[stitek].popis()) &&
            !(stitek == kT2 && text == "T2");
+}
+
+// Number before the signal of a route, by the first label of its track or the second one.
+Text cislo_pred_navestidlem(int kolej) {
+    for (const int stitek : {kolej, kolej + 200})
+        if (ukazuje_cislo(stitek))
+            return Text(orez(relief.cislo_koleje[stitek].text()));
+    return {};
 }
 
 // Labels of the line of section n, in the order of the sections.
@@ -142,20 +151,42 @@ void posun_cisla(const std::vector<int>& stitky, TextPohled text) {
         vyprazdni_stitek(relief.cislo_koleje[stitky[misto]]);
 }
 
-// The last number has left the line: labels at rest, line crossings clear, and the arrow out, unless there
-// is a train whose number has found no room on the labels.
+// The last number has left the line: labels at rest, arrow out, line crossings clear.
 void uvolni_trat(int n, const std::vector<int>& stitky, bool tise) {
     for (const int clen : stitky) {
         Prvek& stitek = relief.cislo_koleje[clen];
         if (orez(stitek.text()).empty())
             nastav_text(stitek, stitek.popis());
     }
-    if (!tise && std::none_of(stitky.begin(), stitky.end(), ukazuje_cislo) && !trat_drzi_cesta(n) &&
-        !stoji_vlak_na_trati(n))
+    if (!tise && std::none_of(stitky.begin(), stitky.end(), ukazuje_cislo) && !trat_drzi_cesta(n))
         zhasni_sipku(zaklad_trati(n));
     for (Prejezd& prejezd : prejezdy)
         if (prejezd.kolej >= 600 && zaklad_trati(prejezd.kolej) == zaklad_trati(n))
             prejezd.uvolnen = false;
+}
+
+// Number of the train that a route leads into a line or has led there; none when it runs elsewhere now.
+Text cislo_cesty_na_trat(const Cesta& c) {
+    if (!c.VC || !c.Postavena || c.cas_ruseni >= 0)
+        return {};
+    if (c.Vlak < 0)
+        return c.Umazat == 0 ? cislo_pred_navestidlem(kolej_navestidla(c.zacatek)) : Text{};
+    if (static_cast<std::size_t>(c.Vlak) >= vlaky.size())
+        return {};
+    const Vlak& vlak = vlaky[static_cast<std::size_t>(c.Vlak)];
+    const bool jede = vlak.cislo > 0 && !vlak.prvky.empty() &&
+                      std::find(c.prvky.begin(), c.prvky.end(), vlak.prvky.back()) != c.prvky.end();
+    return jede ? text_cisla(zobrazene_cislo(vlak)) : Text{};
+}
+
+// A line may hold more trains than it has labels: one that found no label free takes the one that falls free.
+void dopln_cisla(int n, TextPohled smazane) {
+    for (const Cesta& c : cesty) {
+        if (!vede_na_trat(c) || zaklad_trati(posledni_prvek(c)) != zaklad_trati(n))
+            continue;
+        if (const Text cislo = cislo_cesty_na_trat(c); cislo != orez(smazane))
+            pis_na_trat(n, cislo);
+    }
 }
 
 void smaz_z_trati(int n, TextPohled text, bool tise) {
@@ -168,19 +199,13 @@ void smaz_z_trati(int n, TextPohled text, bool tise) {
         smaz_z_koleje(pred_trati);
     const std::vector<int> stitky = stitky_trati(n);
     posun_cisla(stitky, text);
+    if (!tise)
+        dopln_cisla(n, text);
     if (cil_volny(n))
         uvolni_trat(n, stitky, tise);
 }
 
 // --- chains of routes
-
-// Number before the signal of a route, by the first label of its track or the second one.
-Text cislo_pred_navestidlem(int kolej) {
-    for (const int stitek : {kolej, kolej + 200})
-        if (ukazuje_cislo(stitek))
-            return Text(orez(relief.cislo_koleje[stitek].text()));
-    return {};
-}
 
 void pis_na_konec(const Cesta& cesta, TextPohled text) {
     pis_cislo(cesta.konec, text);
@@ -193,26 +218,18 @@ int dvojce_hranice(int n) {
     return n == 213 ? 85 : n == 212 ? 84 : n == 219 ? 117 : kZadny;
 }
 
-// The number that ran ahead of its train goes from labels that the erasing leaves to the running, which never
-// comes when the route is taken back: on a track with two labels of one name it stands on the first one, and
-// on a track where another train stands (a calling-on route leads there) it hides the number of that train.
-void smaz_predbezne(int n, TextPohled text) {
-    if (n >= 600 || !ukazuje(n, text))
-        return;
-    if (je_kolej(n) && relief.kolej[n].barva == barvy::cervena) {
-        if (vlak_na_koleji(n))
-            zobraz_kolej(zaznam_koleje(n));
-    } else if (ma_dva_stejne_stitky(n)) {
-        Prvek& stitek = relief.cislo_koleje[n];
-        nastav_text(stitek, stitek.popis());
-        stitek.viditelny = !orez(stitek.text()).empty();
-    }
+// Where a train stands, the number that ran ahead over a calling-on route hid the number of that train.
+void ukaz_stojici_vlak(int n) {
+    if (n < 600 && je_kolej(n) && relief.kolej[n].barva == barvy::cervena && vlak_na_koleji(n))
+        zobraz_kolej(zaznam_koleje(n));
 }
 
 void smaz_z_konce(const Cesta& cesta, TextPohled text, bool tiche) {
     const int posledni = posledni_prvek(cesta);
+    const bool ukazoval = ukazuje(posledni, text);
     pis_cislo(posledni, text, true, tiche);
-    smaz_predbezne(posledni, text);
+    if (ukazoval)
+        ukaz_stojici_vlak(posledni);
     if (dvojce_hranice(posledni) != kZadny)
         pis_cislo(dvojce_hranice(posledni), text, true, tiche);
     if (je_konec_pred_trati(posledni))
@@ -289,9 +306,12 @@ void vymaz_cislo(int i, bool tiche, TextPohled text) {
     }
 }
 
-void vrat_nazev_konce(const Cesta& cesta) {
-    const int n = cesta.konec;
-    if (n < 600 && je_cislo_koleje(n) && je_kolej(n) && je_volna(n) &&
-        orez(relief.cislo_koleje[n].text()).empty())
-        smaz_z_koleje(n);
+void vrat_jmeno_koleje(int prvek) {
+    if (prvek >= 600 || !je_cislo_koleje(prvek) || !je_kolej(prvek) || !je_volna(prvek))
+        return;
+    Prvek& stitek = relief.cislo_koleje[prvek];
+    if (orez(stitek.popis()).empty())
+        return;
+    nastav_text(stitek, stitek.popis());
+    stitek.viditelny = true;
 }

@@ -1,7 +1,6 @@
 // cesty/cisla_vlaku.h - train numbers on the labels: how they follow the routes.
 #pragma once
 
-#include "cesty/cesta.h"
 #include "zaklad/text.h"
 
 // --- by the route machine, the running and the traffic
@@ -15,5 +14,6 @@ void postup_cisla(int i);
 // Takes the number off the end of route i and of the routes that follow. `text` empty: the number
 // before its signal. `tiche`: the route stays locked.
 void vymaz_cislo(int i, bool tiche, TextPohled text);
-// A route is gone: the label of its end, from which a number went while it was locked, shows its name again.
-void vrat_nazev_konce(const Cesta& cesta);
+// The track at the end of a route that is no more shows its name again when it is free: no train is
+// announced there now, and its number may be known nowhere else.
+void vrat_jmeno_koleje(int prvek);

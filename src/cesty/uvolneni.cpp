@@ -38,19 +38,6 @@ int index_cesty(const Cesta& c) {
     return static_cast<int>(&c - cesty.data());
 }
 
-// The locking of a calling-on route falls. A second time, while the train still stands across the route, it
-// touches no switch: they are free for other routes since the first one.
-void uvolni_zaver_privolavaci(Cesta& c) {
-    for (std::size_t k = 1; k < c.prvky.size() && !c.PN_zaver; ++k) {
-        const int n = c.prvky[k];
-        if (druh_na(c, k) == druh_prvku::vyhybka)
-            vyhybka_stav(n, poloha_na(c, k), false, false);
-        if (druh_na(c, k) == druh_prvku::vykolejka)
-            relief.lblVykolejka[n].barva = barvy::seda;
-    }
-    c.PN_zaver = true;
-}
-
 // Elements that no route ever paints, and the end of a route where something may stand, tell nothing
 // about the locking.
 bool bez_barvy_zaveru(const Cesta& c, std::size_t k) {
@@ -100,7 +87,7 @@ void uvolni_prvky(const Cesta& c) {
     for (std::size_t k = 1; k < c.prvky.size(); ++k) {
         const int n = c.prvky[k];
         switch (druh_na(c, k)) {
-        case druh_prvku::vyhybka: vyhybka_stav(n, stav_vyhybky_cislo(n) % 50, false, false); break;
+        case druh_prvku::vyhybka: uvolni_zaver_vyhybky(n, stav_vyhybky_cislo(n) % 50); break;
         case druh_prvku::vykolejka: relief.lblVykolejka[n].barva = barvy::seda; break;
         case druh_prvku::kolej:
             // Sections of a line are only ever painted by shunt routes.
@@ -158,7 +145,7 @@ void proved_zruseni(int i) {
         stanicni_prejezdy[c.prejezd].cas = -3;
     if (konec < 600 && c.VC && je_kolej(konec))
         uvolni_prvek(konec);
-    vrat_nazev_konce(c);
+    vrat_jmeno_koleje(konec);
     if (!c.Postavena) {
         odznac_navestidlo(c.zacatek);
         vrat_barvu_konce(c);
@@ -223,14 +210,23 @@ void rnz(int s) {
         c = prvni_cesta(skoncila);
     if (c == nullptr)
         return;
-    uvolni_zaver_privolavaci(*c);
+    // A second RNZ, while the train still stands across the route, touches no switch: they are free for
+    // other routes since the first one.
+    for (std::size_t k = 1; k < c->prvky.size() && !c->PN_zaver; ++k) {
+        const int n = c->prvky[k];
+        if (druh_na(*c, k) == druh_prvku::vyhybka)
+            uvolni_zaver_vyhybky(n, poloha_na(*c, k));
+        if (druh_na(*c, k) == druh_prvku::vykolejka)
+            relief.lblVykolejka[n].barva = barvy::seda;
+    }
+    c->PN_zaver = true;
     gtn_zapis(s, gtn::rnz, 0);
     if (c->PN_do > 0)
         odeber_odpocet_pn(s); // the tick that would do it has not come yet
     const int konec = c->konec;
     if (c->Umazat == 0) {
         vymaz_cislo(index_cesty(*c), false, {}); // the train has not come
-        vrat_nazev_konce(*c);
+        vrat_jmeno_koleje(konec);
         smaz_cestu(index_cesty(*c));
         obnov_lampu_souhlasu(konec);
         uvolni_smer(konec);
@@ -239,16 +235,4 @@ void rnz(int s) {
     }
     zmena_zasobniku();
     obnov_panel_kdyz_ukazuje(s);
-}
-
-void opust_privolavaci(Cesta& c) {
-    if (!c.PN || !c.Provedena)
-        return;
-    uvolni_zaver_privolavaci(c);
-    if (c.PN_do > 0) {
-        c.PN_do = -3;
-        nastav_navest(c.zacatek, barvy::seda);
-        odeber_odpocet_pn(c.zacatek);
-    }
-    obnov_panel_kdyz_ukazuje(c.zacatek);
 }

@@ -4,8 +4,6 @@
 // gives the signal again. STUJ only puts the signal to stop. RNZ releases a calling-on route.
 #pragma once
 
-#include "cesty/cesta.h"
-
 // --- on the operator's command; refused without a word when the rules do not allow it
 
 void zrus_cestu(int s);      // RC
@@ -17,9 +15,3 @@ void rnz(int s);             // RNZ
 
 // The cancellation of route i is due: everything back to rest, the record goes.
 void proved_zruseni(int i);
-
-// --- by the movement
-
-// The train of a route is gone, and the record goes after it. Nobody could give RNZ any more: what a
-// calling-on route still locks falls free, and its aspect ends.
-void opust_privolavaci(Cesta& cesta);

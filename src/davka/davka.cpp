@@ -3,6 +3,7 @@
 
 #include "app/cas.h"
 #include "app/kontrola.h"
+#include "app/kontrola_majitelu.h"
 #include "app/simulace.h"
 #include "davka/planovac.h"
 #include "davka/prikazy.h"
@@ -21,7 +22,9 @@
 namespace {
 
 void zkontroluj_stav() {
-    const std::optional<Text> nalez = kontrola_stavu();
+    std::optional<Text> nalez = kontrola_stavu();
+    if (!nalez)
+        nalez = kontrola_majitelu();
     if (nalez)
         throw ChybaStavu{na_utf8(*nalez)};
 }
@@ -129,6 +132,9 @@ int hlavni_davky(const std::vector<std::string>& argumenty, const std::string& v
             continue;
         }
         std::string hodnota;
+        const std::string_view jmeno = std::string_view(volba).substr(0, volba.find('='));
+        if (jmeno != "--slozka" && jmeno != "--vystup" && jmeno != "--semeno")
+            return chyba_spusteni("neznámá volba „" + volba + "“");
         if (const std::size_t rovna_se = volba.find('='); rovna_se != std::string::npos) {
             hodnota = volba.substr(rovna_se + 1);
             volba.resize(rovna_se);
@@ -141,13 +147,11 @@ int hlavni_davky(const std::vector<std::string>& argumenty, const std::string& v
             volby.slozka = hodnota;
         } else if (volba == "--vystup") {
             soubor_vystupu = hodnota;
-        } else if (volba == "--semeno") {
+        } else {
             const auto semeno = cele_cislo(hodnota, 0, std::numeric_limits<std::int64_t>::max());
             if (!semeno)
                 return chyba_spusteni("semeno je celé číslo, ne „" + hodnota + "“");
             volby.semeno = static_cast<std::uint64_t>(*semeno);
-        } else {
-            return chyba_spusteni("neznámá volba „" + volba + "“");
         }
     }
     if (!skript) {

@@ -7,17 +7,18 @@
 #include "ui/parametry.h"
 #include "ui/platforma_qt.h"
 #include "ui/uvod.h"
+#include "ui/vzhled.h"
 #include "ui/zvuk.h"
 #include "zaklad/platforma.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QPalette>
 #include <QScreen>
 #include <QTimer>
 #include <QTranslator>
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -83,23 +84,6 @@ void nastav_jazyk(QApplication& aplikace) {
         QApplication::installTranslator(cestina);
 }
 
-// Boxes and dialogues as dark as the desk.
-void nastav_vzhled(QApplication& aplikace) {
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    const QColor plocha(18, 22, 27), pole(5, 7, 10), tlacitko(42, 50, 59), text(213, 219, 225),
-        vyber(32, 80, 192);
-    QPalette paleta(text, tlacitko, QColor(74, 85, 96), QColor(5, 7, 10), QColor(60, 69, 80), text, Qt::white,
-                    pole, plocha);
-    paleta.setColor(QPalette::Highlight, vyber);
-    paleta.setColor(QPalette::HighlightedText, Qt::white);
-    paleta.setColor(QPalette::ToolTipBase, QColor(255, 255, 220));
-    paleta.setColor(QPalette::ToolTipText, Qt::black);
-    paleta.setColor(QPalette::Disabled, QPalette::WindowText, QColor(107, 119, 130));
-    paleta.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(107, 119, 130));
-    QApplication::setPalette(paleta);
-    aplikace.setStyleSheet(QStringLiteral("QMessageBox { border: 1px solid #6b7782; }"));
-}
-
 // The core lets the user interface run once when the splash screen is to be seen. Keys and clicks wait: they
 // belong to the screen that was there when they were made.
 void nech_bezet_ui() {
@@ -131,6 +115,7 @@ int main(int pocet, char** slova) {
         std::fputs(rada_bez_obrazovky(), stderr);
         return 1;
     }
+    std::signal(SIGXFSZ, SIG_IGN); // a limit of the file size is told like a full disk
     qInstallMessageHandler(hlaseni_startu);
     QApplication aplikace(pocet, slova);
     QApplication::setApplicationName(QStringLiteral("KPS RVZ TESK"));

@@ -613,6 +613,16 @@ TEST(TrasyTesku, LinesAreEnteredAndLeft) {
     EXPECT_EQ(p.najdi(DruhTrasy::vlak, 286, 600)->zaznam.rychlost, 1);
 }
 
+TEST(TrasyTesku, NumberStaysOnALineUntilItsLastSection) {
+    const auto znacka_konce = [](int od, int kam) {
+        return tesk().najdi(DruhTrasy::vlak, od, kam)->zaznam.polohy.back();
+    };
+    for (const auto& [od, kam] : {std::pair{287, 600}, {202, 604}, {12, 600}, {10, 606}})
+        EXPECT_EQ(znacka_konce(od, kam), 0) << od << " - " << kam << ": the locking marks the last section";
+    EXPECT_EQ(znacka_konce(601, 12), 2);
+    EXPECT_EQ(znacka_konce(2, 84), 2) << "the line end of a neighbour is no line of sections";
+}
+
 TEST(TrasyTesku, RouteToVrbiceRunsOnToTheEdge) {
     const Trasa* t = tesk().najdi(DruhTrasy::vlak, 26, 117);
     ASSERT_TRUE(t);
