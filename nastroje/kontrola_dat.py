@@ -48,7 +48,11 @@ JEN_JMENA = {36, 37, 38}  # names without a track, for trains that the start sha
 VPRAVO_OD_HRABOVA, VLEVO_OD_HRABOVA = {9, 15}, {1, 3, 24, 32}
 HRABOV = 8
 VSTUPY = {1, 2, 4, 5, 6, 9, 19, 20, 27, 28, 30, 31, 33, 34}
+HLAVNI = 9
 KOLEJE_HLAVNIHO = range(26, 36)
+# where trains stop, by station
+KOLEJE_STANIC = {1: range(86, 91), 2: range(62, 66), 3: range(4), 4: range(41, 44), 6: range(66, 70),
+                 8: range(9, 19), HLAVNI: KOLEJE_HLAVNIHO, 11: range(36, 41), 13: range(70, 76), 15: range(78, 84)}
 NEJVYSSI_CISLO = 399998
 
 # --- log
@@ -538,7 +542,7 @@ def zkontroluj_spojeni(k, jmeno, spojeni):
 # --- timetable
 
 
-def zkontroluj_gvd(k, jmeno, vlaky, relief, obrazky):
+def zkontroluj_gvd(k, jmeno, vlaky, relief, delky, obrazky):
     nazvy = {relief.podle[CISLO_KOLEJE][n].nazev for n in KOLEJE_HLAVNIHO if relief.ma(CISLO_KOLEJE, n)}
     podle_cisla = defaultdict(list)
     for v in vlaky:
@@ -563,6 +567,7 @@ def zkontroluj_gvd(k, jmeno, vlaky, relief, obrazky):
         k.plati(not v.kolej or v.kolej in nazvy, jmeno, f'{kdo}: kolej "{v.kolej}" na hlavním nádraží není')
         k.plati(v.text_2 == "" and v.text_3 == "", jmeno, f"{kdo}: obsazená pole, která nikdo nečte")
         zkontroluj_casy(k, jmeno, kdo, v)
+        zkontroluj_delku_vlaku(k, jmeno, kdo, v, relief, delky)
         for vuz in v.vozy or ():
             k.plati(vuz.strip(), jmeno, f"{kdo}: vůz beze jména")
         dalsi = {n for n in v.vozy_vlaky or () if n}
@@ -577,6 +582,17 @@ def zkontroluj_gvd(k, jmeno, vlaky, relief, obrazky):
     for cislo, radky in podle_cisla.items():
         dny = [v.dny for v in radky]
         k.plati(all(not a & b for i, a in enumerate(dny) for b in dny[i + 1:]), jmeno, f"vlak {cislo} jede v jeden den dvakrát")
+
+
+def zkontroluj_delku_vlaku(k, jmeno, kdo, v, relief, delky):
+    """Where it stops it fits on a track, at the main station on the planned one: only so it can be coupled."""
+    for stanice, prijezd in zip(v.stanice, v.prijezdy):
+        koleje = [n for n in KOLEJE_STANIC.get(stanice, ()) if relief.ma(CISLO_KOLEJE, n)]
+        if stanice == HLAVNI and v.kolej:
+            koleje = [n for n in koleje if relief.podle[CISLO_KOLEJE][n].nazev == v.kolej]
+        if koleje and prijezd >= 0:
+            k.plati(v.delka < max(delky.get(n, 60) for n in koleje), jmeno,
+                    f"{kdo}: {v.delka} m se nevejde na kolej ve stanici {stanice}")
 
 
 def zkontroluj_casy(k, jmeno, kdo, v):
@@ -800,7 +816,8 @@ def zkontroluj_instalaci(k, slozka, navic):
     k.plati(soubory, "gvd", "není žádný jízdní řád")
     for soubor in soubory:
         obsah = (pathlib.Path(gvd) / soubor).read_bytes()
-        zkontroluj_gvd(k, f"gvd/{soubor}", zaznamy(k, f"gvd/{soubor}", obsah, cti_vlak, hlavicka=True), relief, obrazky)
+        zkontroluj_gvd(k, f"gvd/{soubor}", zaznamy(k, f"gvd/{soubor}", obsah, cti_vlak, hlavicka=True), relief,
+                       delky, obrazky)
 
     for podslozka, pripona in (("save", ".sim"), ("save/autosave", ".sim"), ("GTN", ".gtn")):
         kde = najdi(slozka, podslozka)
