@@ -23,6 +23,7 @@ JMENA_TYPU = {KOLEJ: "kolej", NAVESTIDLO: "navestidlo", CISLO_KOLEJE: "cislo_kol
               NAVESTIDLO_SER: "navestidlo_ser", PREJEZD: "lblPrejezd", PREJEZDY: "lblPrejezdy", MOST: "most",
               NASTUPISTE: "lblnastupiste", STANOVISTE: "imgStanoviste", POPIS: "popis_stanice",
               VYHYBKA: "imgVyhybka", SOUHLAS: "lblSouhlas", SIPKA: "lblSouhlas2", VYKOLEJKA: "lblVykolejka"}
+TYP_PRVKU = {1: KOLEJ, 2: VYHYBKA, 4: VYKOLEJKA}  # by the kind of an entry of a route
 BEZ_PRVKU = {POZADI_KONEC, POZADI_ZNAK}  # painted on the background, no element of their own
 
 # --- numbers with a meaning of their own
@@ -206,6 +207,10 @@ def trojice(stav):
     return set()
 
 
+def stav_vyhybky(prvek):
+    return int(prvek.nazev) if prvek.nazev.strip().isdigit() else 0
+
+
 class Relief:
     """Elements of one layout by kind and number."""
 
@@ -214,6 +219,10 @@ class Relief:
         for p in prvky:
             if p.typ in self.podle:
                 self.podle[p.typ].setdefault(p.cislo, p)
+
+    def pocet(self, typ):
+        """Length of an array with a place for each number."""
+        return max(self.podle[typ], default=0) + 1
 
     def ma(self, typ, cislo):
         return cislo in self.podle[typ]
@@ -292,7 +301,7 @@ def zkontroluj_relief(k, jmeno, prvky, sirka):
         elif p.typ == STANOVISTE:
             k.plati(p.cislo in STANICE, jmeno, f"{kdo}: není kód stanice")
         elif p.typ == VYHYBKA:
-            stav = int(p.nazev) if p.nazev.strip().isdigit() else 0
+            stav = stav_vyhybky(p)
             k.plati(1 <= p.cislo <= 255, jmeno, f"{kdo}: číslo mimo rozsah výhybek")
             k.plati(stav in trojice(stav), jmeno, f'{kdo}: základní stav "{p.nazev}" není koncová poloha')
         elif p.typ == SOUHLAS:
@@ -351,7 +360,7 @@ def zkontroluj_dvojici(k, jeden, dva, prvky1, prvky2):
 def zkontroluj_delky(k, jmeno, zaznamy_delek, relief):
     delky = {}
     for kolej, delka in zaznamy_delek:
-        text = kolej.decode("cp1250") + delka.decode("cp1250")
+        text = (kolej + delka).decode("cp1250", "replace")
         if not k.plati(kolej.strip().isdigit() and delka.strip().isdigit(), jmeno, f'záznam "{text}" nejsou dvě čísla'):
             continue
         n, metry = int(kolej), int(delka)
@@ -413,19 +422,19 @@ def posledni_prvek(cesta, vlevo, relief):
     if cesta.konec in ZA_STANICI and not vlevo:
         return ZA_STANICI[cesta.konec]
     if cesta.konec >= 600 and vlevo:
-        return relief.rada(cesta.konec)[-1]
+        return (relief.rada(cesta.konec) or [cesta.konec])[-1]
     return cesta.konec
 
 
 def konce_prvku(relief, druh, n):
-    """End points of an element in the picture; the first is the left one."""
+    """Points at which an element may meet others in the picture; none when it is not drawn there."""
+    p = relief.podle[TYP_PRVKU[druh]].get(n)
+    if not p:
+        return ()
     if druh == 1:
-        p = relief.podle[KOLEJ][n]
         return ((p.a, p.c), (p.b, p.d))
     if druh == 4:
-        p = relief.podle[VYKOLEJKA][n]
         return ((p.a, p.c + 97), (p.a + 120, p.c + 97))
-    p = relief.podle[VYHYBKA][n]
     x, y = p.a, p.c
     return tuple((xx, yy) for xx in (x, x + 240) for yy in (y, y + 97, y + 195))
 
@@ -476,17 +485,16 @@ def zkontroluj_cesty(k, jmeno, cesty, reliefy, vlakove):
 
 def zkontroluj_prvky_cesty(k, jmeno, kdo, c, relief):
     """Every element exists in its kind, once; switches lie in a position of their shape."""
-    typy = {1: KOLEJ, 2: VYHYBKA, 4: VYKOLEJKA}
     vporadku = True
     for i, (n, druh, poloha) in enumerate(zip(c.prvky, c.druhy, c.polohy)):
-        typ = typy.get(druh)
+        typ = TYP_PRVKU.get(druh)
         if not k.plati(typ and relief.ma(typ, n), jmeno, f"{kdo}: prvek {n} druhu {druh} v kolejišti není"):
             vporadku = False
             continue
         if druh == 1:
             k.plati(poloha in (0, 2), jmeno, f"{kdo}: kolej {n} má polohu {poloha}")
         elif druh == 2:
-            k.plati(poloha in trojice(int(relief.podle[VYHYBKA][n].nazev)), jmeno,
+            k.plati(poloha in trojice(stav_vyhybky(relief.podle[VYHYBKA][n])), jmeno,
                     f"{kdo}: výhybka {n} nemá polohu {poloha}")
     k.plati(c.druhy[0] == 1 and c.prvky[0] == relief.kolej_navestidla(c.zacatek), jmeno,
             f"{kdo}: začíná prvkem {c.prvky[0]}, návěstidlo stojí na {relief.kolej_navestidla(c.zacatek)}")
@@ -513,9 +521,9 @@ def zkontroluj_smer(k, jmeno, kdo, c, reliefy, vlevo):
     k.plati([p for p in c.prvky[1:] if p in rada] == [posledni], jmeno, f"{kdo}: drží víc úseků jedné tratě")
     k.plati(posledni == (rada[-1] if vlevo else rada[0]), jmeno, f"{kdo}: úsek {posledni} není první za návěstidlem")
     for relief in reliefy:
-        prvni = relief.podle[KOLEJ][c.prvky[0]]
-        nahoru = prvni.a <= relief.podle[KOLEJ][posledni].b or c.prvky[0] == 118
-        k.plati(nahoru != vlevo, jmeno, f"{kdo}: kresba říká opačný směr tratě než návěstidlo")
+        prvni, konec = relief.podle[KOLEJ].get(c.prvky[0]), relief.podle[KOLEJ].get(posledni)
+        nahoru = c.prvky[0] == 118 or prvni and konec and prvni.a <= konec.b
+        k.plati(prvni and konec and nahoru != vlevo, jmeno, f"{kdo}: kresba říká opačný směr tratě než návěstidlo")
 
 
 def zkontroluj_prejezdy_cesty(k, jmeno, kdo, c):
@@ -677,6 +685,10 @@ def zkontroluj_hru(k, jmeno, bajty, relief):
     except Konec as duvod:
         k.vada(jmeno, str(duvod))
         return
+    prazdne = [pole for pole, hodnota in h.items() if hodnota is None and pole not in ("prejezdy", "zpravy")]
+    if prazdne:  # only without crossings and without messages an array was never made
+        k.vada(jmeno, f"chybí pole {', '.join(prazdne)}")
+        return
     k.souhrn.append(f"{jmeno}: {len(bajty)} B, {h['cas']}, vlaků {sum(v['cislo'] > 0 for v in h['vlaky'])}, "
                     f"cest {sum(c['zacatek'] >= 0 for c in h['cesty'])}, za záznamem {len(bajty) - ctecka.misto} B")
     k.plati(h["podpis"] == "123", jmeno, f'podpis "{h["podpis"]}"')
@@ -688,11 +700,11 @@ def zkontroluj_hru(k, jmeno, bajty, relief):
                 "minuty od začátku nesouhlasí s hodinami")
     velikosti = (("dalsi_vlaky", 39), ("stanicni_prejezdy", 2), ("koleje_barva", 1000), ("koleje_poloha", 1000),
                  ("koleje_popis", 1000), ("tabulka", 24), ("tabulka_blikani", 24),
-                 ("vyhybky", max(relief.podle[VYHYBKA]) + 1), ("navestidla_barva", max(relief.podle[NAVESTIDLO]) + 1),
-                 ("navestidla_pozadi", max(relief.podle[NAVESTIDLO]) + 1),
-                 ("vykolejky_znak", max(relief.podle[VYKOLEJKA]) + 1),
-                 ("vykolejky_barva", max(relief.podle[VYKOLEJKA]) + 1),
-                 ("souhlas2_smer", max(relief.podle[SIPKA]) + 1), ("souhlas2_barva", max(relief.podle[SIPKA]) + 1))
+                 ("vyhybky", relief.pocet(VYHYBKA)), ("navestidla_barva", relief.pocet(NAVESTIDLO)),
+                 ("navestidla_pozadi", relief.pocet(NAVESTIDLO)),
+                 ("vykolejky_znak", relief.pocet(VYKOLEJKA)),
+                 ("vykolejky_barva", relief.pocet(VYKOLEJKA)),
+                 ("souhlas2_smer", relief.pocet(SIPKA)), ("souhlas2_barva", relief.pocet(SIPKA)))
     for pole, pocet in velikosti:
         k.plati(len(h[pole] or ()) == pocet, jmeno, f"{pole}: {len(h[pole] or ())} prvků místo {pocet}")
     k.plati(len(h["vlaky"]) >= 51 and h["cesty"] and h["koleje_vlaky"] and h["cekajici_vlaky"] and h["stitky"], jmeno,
@@ -714,9 +726,8 @@ def zkontroluj_tabulky_hry(k, jmeno, h, relief):
         for skupina in (("stanice", "prijezd", "odjezd", "odjezd_realny"), ("vozy", "vozy_urceni", "vozy_obrazek"),
                         ("prvky", "prvky_druh", "prvky_poloha")):
             k.plati(len({len(v[p] or ()) for p in skupina}) == 1, jmeno, f"{kdo}: {', '.join(skupina)} nejsou stejně dlouhé")
-        typy = {1: KOLEJ, 2: VYHYBKA, 4: VYKOLEJKA}
         for n, druh in zip(v["prvky"] or (), v["prvky_druh"] or ()):
-            k.plati(n == 0 or druh in typy and relief.ma(typy[druh], n), jmeno, f"{kdo}: prvek {n} druhu {druh} není")
+            k.plati(n == 0 or druh in TYP_PRVKU and relief.ma(TYP_PRVKU[druh], n), jmeno, f"{kdo}: prvek {n} druhu {druh} není")
     for i, c in enumerate(h["cesty"]):
         k.plati(len({len(c[p] or ()) for p in ("prvky", "druhy", "polohy")}) == 1, jmeno, f"cesta {i}: pole prvků")
         k.plati(c["Vlak"] < 0 or c["Vlak"] < len(h["vlaky"]) and h["vlaky"][c["Vlak"]]["cislo"] > 0, jmeno,
