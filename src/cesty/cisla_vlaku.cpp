@@ -4,6 +4,7 @@
 #include "cesty/dotazy.h"
 #include "cesty/smer_trati.h"
 #include "cesty/zvyrazneni.h"
+#include "jizda/na_koleji.h"
 #include "jizda/vlak.h"
 #include "relief/prejezdy.h"
 #include "save/gtn.h"
@@ -150,16 +151,14 @@ void posun_cisla(const std::vector<int>& stitky, TextPohled text) {
         vyprazdni_stitek(relief.cislo_koleje[stitky[misto]]);
 }
 
-// The last number has left the line: labels at rest, line crossings clear, and the arrow out, unless there
-// is a train whose number has found no room on the labels.
+// The last number has left the line: labels at rest, arrow out, line crossings clear.
 void uvolni_trat(int n, const std::vector<int>& stitky, bool tise) {
     for (const int clen : stitky) {
         Prvek& stitek = relief.cislo_koleje[clen];
         if (orez(stitek.text()).empty())
             nastav_text(stitek, stitek.popis());
     }
-    if (!tise && std::none_of(stitky.begin(), stitky.end(), ukazuje_cislo) && !trat_drzi_cesta(n) &&
-        !stoji_vlak_na_trati(n))
+    if (!tise && std::none_of(stitky.begin(), stitky.end(), ukazuje_cislo) && !trat_drzi_cesta(n))
         zhasni_sipku(zaklad_trati(n));
     for (Prejezd& prejezd : prejezdy)
         if (prejezd.kolej >= 600 && zaklad_trati(prejezd.kolej) == zaklad_trati(n))
@@ -219,9 +218,18 @@ int dvojce_hranice(int n) {
     return n == 213 ? 85 : n == 212 ? 84 : n == 219 ? 117 : kZadny;
 }
 
+// Where a train stands, the number that ran ahead over a calling-on route hid the number of that train.
+void ukaz_stojici_vlak(int n) {
+    if (n < 600 && je_kolej(n) && relief.kolej[n].barva == barvy::cervena && vlak_na_koleji(n))
+        zobraz_kolej(zaznam_koleje(n));
+}
+
 void smaz_z_konce(const Cesta& cesta, TextPohled text, bool tiche) {
     const int posledni = posledni_prvek(cesta);
+    const bool ukazoval = ukazuje(posledni, text);
     pis_cislo(posledni, text, true, tiche);
+    if (ukazoval)
+        ukaz_stojici_vlak(posledni);
     if (dvojce_hranice(posledni) != kZadny)
         pis_cislo(dvojce_hranice(posledni), text, true, tiche);
     if (je_konec_pred_trati(posledni))
@@ -302,7 +310,7 @@ void vrat_jmeno_koleje(int prvek) {
     if (prvek >= 600 || !je_cislo_koleje(prvek) || !je_kolej(prvek) || !je_volna(prvek))
         return;
     Prvek& stitek = relief.cislo_koleje[prvek];
-    if (!orez(stitek.text()).empty() || orez(stitek.popis()).empty())
+    if (orez(stitek.popis()).empty())
         return;
     nastav_text(stitek, stitek.popis());
     stitek.viditelny = true;
