@@ -15,6 +15,7 @@
 #include "gvd/gvd.h"
 #include "jizda/krok_jizdy.h"
 #include "jizda/zastavky.h"
+#include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
 #include "prvky/vyhybky.h"
 #include "relief/relief.h"
@@ -433,6 +434,7 @@ void dopocti() {
     obnov_odjete();
     obnov_obslouzene();
     obnov_odpocty();
+    obnov_barvu_prejezdu();
     ukaz_prejezdy();
     aktualizuj_cekani();
     zmena_zasobniku();

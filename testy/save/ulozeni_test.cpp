@@ -16,6 +16,7 @@
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/navestidla.h"
+#include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stav_vyhybek.h"
 #include "prvky/vyhybky.h"
@@ -332,6 +333,15 @@ TEST_F(Ulozeni, CrossingsComeFromTheFileAlone) {
     ASSERT_EQ(prejezdy.size(), 1u);
     EXPECT_EQ(prejezdy[0], (Prejezd{false, false, true, 640, 500, "BOR 1"}));
     EXPECT_EQ(vlaky.size(), 51u);
+}
+
+TEST_F(Ulozeni, CrossingClosedByTheOperatorIsWhiteAfterTheLoad) {
+    prejezd_uz(1);
+    uloz();
+    nacti();
+    EXPECT_TRUE(stanicni_prejezdy[1].UZ);
+    EXPECT_EQ(relief.lblPrejezd[1].barva, barvy::bila);
+    EXPECT_EQ(relief.lblPrejezd[0].barva, barvy::seda);
 }
 
 TEST_F(Ulozeni, EmptyDelayListIsReadAsNothing) {
