@@ -132,6 +132,9 @@ int hlavni_davky(const std::vector<std::string>& argumenty, const std::string& v
             continue;
         }
         std::string hodnota;
+        const std::string_view jmeno = std::string_view(volba).substr(0, volba.find('='));
+        if (jmeno != "--slozka" && jmeno != "--vystup" && jmeno != "--semeno")
+            return chyba_spusteni("neznámá volba „" + volba + "“");
         if (const std::size_t rovna_se = volba.find('='); rovna_se != std::string::npos) {
             hodnota = volba.substr(rovna_se + 1);
             volba.resize(rovna_se);
@@ -144,13 +147,11 @@ int hlavni_davky(const std::vector<std::string>& argumenty, const std::string& v
             volby.slozka = hodnota;
         } else if (volba == "--vystup") {
             soubor_vystupu = hodnota;
-        } else if (volba == "--semeno") {
+        } else {
             const auto semeno = cele_cislo(hodnota, 0, std::numeric_limits<std::int64_t>::max());
             if (!semeno)
                 return chyba_spusteni("semeno je celé číslo, ne „" + hodnota + "“");
             volby.semeno = static_cast<std::uint64_t>(*semeno);
-        } else {
-            return chyba_spusteni("neznámá volba „" + volba + "“");
         }
     }
     if (!skript) {

@@ -52,12 +52,6 @@ void prejezd_not(int k) {
     prejezd(k).pocet = kBezVlaku;
 }
 
-void obnov_barvu_prejezdu() {
-    for (int k = 0; je_prejezd(k); ++k)
-        if (prejezd(k).UZ)
-            obarvi_popisek(k, barvy::bila);
-}
-
 void menu_prejezdu(int k) {
     if (!je_prejezd(k))
         return;

@@ -23,8 +23,3 @@ void prejezd_uz(int k);
 // NOT and ZUZ: the emergency opening, and the end of the operator's closure. Both clear everything,
 // the counter too: so a counter held by a train that was taken away is set right.
 void prejezd_not(int k);
-
-// --- after a load
-
-// The label of a crossing that the operator has closed is white.
-void obnov_barvu_prejezdu();

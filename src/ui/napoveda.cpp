@@ -79,6 +79,7 @@ const char* ucel(Druh druh) {
     case Druh::lblPrava: return "oprávnění přihlášeného";
     case Druh::lblMereni_casu: return "měří se čas do uvolnění rušené cesty";
     case Druh::lblZasobnik_pocet: return "kolik zvolených cest čeká na postavení";
+    case Druh::lblZasobnik_blokv: return "cesta, na kterou zásobník čeká";
     case Druh::lblZasobnik_EZ: return "EZ: seznam zvolených cest (PROVOZ 2)";
     case Druh::lblZasobnik_PV: return "PV: každá zvolená cesta se zkouší sama";
     case Druh::lblZasobnik_VZ: return "VZ: cesty se staví v pořadí volby";
@@ -99,6 +100,10 @@ QString napoveda_prvku(const Nalezeny& kde) {
     case Druh::cislo_koleje: return na_qstring(orez(p.popis())) + poznamky(prvek_popisku(kde.n));
     case Druh::imgStanoviste: return na_qstring(nazev_stanice(kde.n));
     case Druh::lblSouhlas: return souhlas(kde.n, p);
+    case Druh::popis_stanice:
+        if (kde.n == 28 || kde.n == 30)
+            return cesky("depo: nabídka lokomotiv, které přijedou před bránu");
+        return kde.n == 34 ? cesky("depo: nabídka motorových vozů") : QString();
     case Druh::lblPrejezdy:
     case Druh::shpPrejezdy: return prejezd_na_trati(kde.n);
     case Druh::lblPrejezd:

@@ -16,7 +16,6 @@
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/navestidla.h"
-#include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stav_vyhybek.h"
 #include "prvky/vyhybky.h"
@@ -143,6 +142,7 @@ TEST_F(Ulozeni, OldFileIsOverwrittenOnlyWithAYes) {
     zastav_hodiny();
     uloz_dialog();
     EXPECT_EQ(svet.otazky, std::vector<Text>{Text("Soubor již existuje. Přepsat?"_cz)});
+    EXPECT_EQ(svet.tituly_otazek, std::vector<Text>{Text("Uložit záznam"_cz)});
     EXPECT_EQ(svet.precti("save/hra.sim"), stary);
     EXPECT_NE(svet.precti("save/jiny.sim"), stary);
     svet.soubory = {soubor()};
@@ -335,13 +335,14 @@ TEST_F(Ulozeni, CrossingsComeFromTheFileAlone) {
     EXPECT_EQ(vlaky.size(), 51u);
 }
 
-TEST_F(Ulozeni, CrossingClosedByTheOperatorIsWhiteAfterTheLoad) {
-    prejezd_uz(1);
+TEST_F(Ulozeni, CrossingThatTheOperatorKeepsClosedIsWhiteAgain) {
+    stanicni_prejezdy[0].UZ = true;
+    relief.lblPrejezd[0].barva = barvy::bila;
     uloz();
     nacti();
-    EXPECT_TRUE(stanicni_prejezdy[1].UZ);
-    EXPECT_EQ(relief.lblPrejezd[1].barva, barvy::bila);
-    EXPECT_EQ(relief.lblPrejezd[0].barva, barvy::seda);
+    EXPECT_TRUE(stanicni_prejezdy[0].UZ);
+    EXPECT_EQ(relief.lblPrejezd[0].barva, barvy::bila);
+    EXPECT_EQ(relief.lblPrejezd[1].barva, barvy::seda);
 }
 
 TEST_F(Ulozeni, EmptyDelayListIsReadAsNothing) {
