@@ -4,6 +4,7 @@
 #include "cesty/dotazy.h"
 #include "cesty/smer_trati.h"
 #include "cesty/zvyrazneni.h"
+#include "jizda/na_koleji.h"
 #include "jizda/vlak.h"
 #include "relief/prejezdy.h"
 #include "save/gtn.h"
@@ -220,6 +221,8 @@ int dvojce_hranice(int n) {
 void smaz_z_konce(const Cesta& cesta, TextPohled text, bool tiche) {
     const int posledni = posledni_prvek(cesta);
     pis_cislo(posledni, text, true, tiche);
+    if (posledni < 600)
+        smaz_cislo_z_dvou(posledni, cele_z_textu(text));
     if (dvojce_hranice(posledni) != kZadny)
         pis_cislo(dvojce_hranice(posledni), text, true, tiche);
     if (je_konec_pred_trati(posledni))

@@ -180,14 +180,21 @@ void uber_ze_vsech(int vlak) {
 }
 
 void smaz_cislo_z_dvou(int prvek, std::int32_t cislo) {
-    const int zaznam = zaznam_koleje(prvek);
-    if (zaznam < 0 || !je_cislo_koleje(prvek) || !je_cislo_koleje(prvek + 200))
+    if (!je_cislo_koleje(prvek) || !je_cislo_koleje(prvek + 200) || je_stitek_trati(prvek + 200))
         return;
-    for (const int stitek : {prvek, prvek + 200})
-        if (cele_z_textu(orez(relief.cislo_koleje[stitek].text())) == cislo) {
-            zobraz_kolej(zaznam);
-            return;
-        }
+    Prvek& levy = relief.cislo_koleje[prvek];
+    Prvek& pravy = relief.cislo_koleje[prvek + 200];
+    const auto ukazuje = [cislo](const Prvek& p) { return cele_z_textu(orez(p.text())) == cislo; };
+    if (cislo <= 0 || levy.popis() != pravy.popis() || (!ukazuje(levy) && !ukazuje(pravy)))
+        return;
+    if (const int zaznam = zaznam_koleje(prvek); zaznam >= 0) {
+        zobraz_kolej(zaznam);
+        return;
+    }
+    for (Prvek* stitek : {&levy, &pravy}) { // no train has ever stood here
+        nastav_text(*stitek, stitek->popis());
+        stitek->viditelny = true;
+    }
 }
 
 void prepis_cislo_na_stitcich(std::int32_t stare, std::int32_t nove) {

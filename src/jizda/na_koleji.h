@@ -28,7 +28,8 @@ void nastav_pozadi_stitku(int stitek, Barva pozadi);
 void uber_z_opustenych(int vlak);
 // Out of every list: the train leaves the area.
 void uber_ze_vsech(int vlak);
-// A track with two labels shows its name again where it still shows this number; nothing stands there now.
+// A track with two labels shows its name and the trains that stand on it where it still shows this number,
+// which has left or comes no more.
 void smaz_cislo_z_dvou(int prvek, std::int32_t cislo);
 // Every label that shows the number `stare` shows `nove`: the train has got another number.
 void prepis_cislo_na_stitcich(std::int32_t stare, std::int32_t nove);

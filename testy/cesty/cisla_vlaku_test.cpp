@@ -2,6 +2,7 @@
 #include "cesty/cisla_vlaku.h"
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"
+#include "jizda/na_koleji.h"
 #include "jizda/vlak.h"
 #include "relief/prejezdy.h"
 
@@ -240,6 +241,36 @@ TEST_F(Cisla, StopTakesTheNumberOffAndDNBringsItBack) {
     EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::azurova);
     obnov_cestu(241);
     EXPECT_EQ(text(604), "1234");
+}
+
+TEST_F(Cisla, CancelledRouteTakesItsNumberOffATrackWithTwoLabels) {
+    stitek(241, "K41");
+    pis_cislo(40, "1234");
+    postav(240, 41);
+    ASSERT_EQ(text(41), "1234");
+    zrus_cestu(240);
+    EXPECT_EQ(text(41), "K41");
+    EXPECT_EQ(text(241), "K41");
+    EXPECT_EQ(text(40), "1234");
+}
+
+TEST_F(Cisla, ReleasedCallingOnRouteGivesTheLabelBackToTheTrainThatStandsThere) {
+    stitek(241, "K41");
+    vlaky[3].cislo = 77;
+    vlaky[3].muze_jet = true;
+    vlaky[3].prvky = {41};
+    vlaky[3].prvky_druh = {1};
+    relief.kolej[41].barva = barvy::cervena;
+    pridej_na_kolej(41, 3, true, -1);
+    pis_cislo(40, "1234");
+    postav(240, 41, druh_volby::pn);
+    ASSERT_EQ(text(41), "1234") << "announced by the cleared route";
+    cekej(31);
+    rnz(240);
+    EXPECT_EQ(text(41), "77");
+    EXPECT_EQ(text(241), "K41");
+    vlaky = prvni_vlaky();
+    koleje_vlaky = prvni_koleje_vlaky();
 }
 
 TEST_F(Cisla, RingOfRoutesEnds) {
