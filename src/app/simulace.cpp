@@ -70,7 +70,6 @@ bool je_ladeni() {
 void spust_hodiny() {
     simulace.tick_hodin = platforma.tik_ms();
     simulace.tick_jizdy = platforma.tik_ms();
-    prijmi_konec_pauzy();
     simulace.pauza = false;
     relief.lblPauza[0].viditelny = false;
 }

@@ -19,6 +19,8 @@ extern std::bitset<kNejvyssiPrvek + 1> odjete;
 // The track n is free: grey, or left by a tail. Four tracks lie in two parts that are drawn apart
 // and count as one: both must be free.
 bool je_volna(int n);
+// Of the two parts the one for which je_volna(n) says no: n itself first; n when it is free.
+int nevolny_usek(int n);
 // No other route holds n as its end; for a line section also: no train stands on it.
 bool cil_volny(int n);
 // A route stands from track n, and no train has entered it.

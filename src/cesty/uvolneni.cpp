@@ -87,7 +87,7 @@ void uvolni_prvky(const Cesta& c) {
     for (std::size_t k = 1; k < c.prvky.size(); ++k) {
         const int n = c.prvky[k];
         switch (druh_na(c, k)) {
-        case druh_prvku::vyhybka: vyhybka_stav(n, stav_vyhybky_cislo(n) % 50, false, false); break;
+        case druh_prvku::vyhybka: uvolni_zaver_vyhybky(n, stav_vyhybky_cislo(n) % 50); break;
         case druh_prvku::vykolejka: relief.lblVykolejka[n].barva = barvy::seda; break;
         case druh_prvku::kolej:
             // Sections of a line are only ever painted by shunt routes.
@@ -135,8 +135,12 @@ void uvolni_vyhybku_bez_vlaku(const Cesta& c, std::size_t k) {
     const int stav = stav_vyhybky_cislo(n);
     const bool stoji = stoji_na_vyhybce(n);
     // two coupled switches are shown occupied before the head comes to the second one
-    if (stav == poloha + zaver || (stav == poloha + stav_vyhybky::obsazena && !stoji))
-        vyhybka_stav(n, poloha + (stoji ? stav_vyhybky::obsazena : 0), false, false);
+    if (stav != poloha + zaver && (stav != poloha + stav_vyhybky::obsazena || stoji))
+        return;
+    if (stoji)
+        vyhybka_stav(n, poloha + stav_vyhybky::obsazena, false, false);
+    else
+        uvolni_zaver_vyhybky(n, poloha);
 }
 
 void uvolni_prvek_bez_vlaku(const Cesta& c, std::size_t k) {
@@ -192,6 +196,7 @@ void proved_zruseni(int i) {
         stanicni_prejezdy[c.prejezd].cas = -3;
     if (konec < 600 && c.VC && je_kolej(konec))
         uvolni_prvek(konec);
+    vrat_jmeno_koleje(konec);
     if (!c.Postavena) {
         odznac_navestidlo(c.zacatek);
         vrat_barvu_konce(c);
@@ -261,7 +266,7 @@ void rnz(int s) {
     for (std::size_t k = 1; k < c->prvky.size() && !c->PN_zaver; ++k) {
         const int n = c->prvky[k];
         if (druh_na(*c, k) == druh_prvku::vyhybka)
-            vyhybka_stav(n, poloha_na(*c, k), false, false);
+            uvolni_zaver_vyhybky(n, poloha_na(*c, k));
         if (druh_na(*c, k) == druh_prvku::vykolejka)
             relief.lblVykolejka[n].barva = barvy::seda;
     }
@@ -271,6 +276,8 @@ void rnz(int s) {
         odeber_odpocet_pn(s); // the tick that would do it has not come yet
     const int konec = c->konec;
     if (c->Umazat == 0) {
+        vymaz_cislo(index_cesty(*c), false, {}); // the train has not come
+        vrat_jmeno_koleje(konec);
         smaz_cestu(index_cesty(*c));
         obnov_lampu_souhlasu(konec);
         uvolni_smer(konec);
@@ -285,6 +292,10 @@ void ukonci_bez_vlaku(int i) {
     const Cesta& c = cesty.at(static_cast<std::size_t>(i));
     const int konec = c.konec;
     const bool neprojeta = c.Umazat < posledni_index(c);
+    if (c.PN && c.PN_do > 0) { // the aspect that was still shown ends, too
+        nastav_navest(c.zacatek, barvy::seda);
+        odeber_odpocet_pn(c.zacatek);
+    }
     if (c.Provedena && !c.PN_zaver)
         for (std::size_t k = c.PN ? 1 : std::size_t{c.Umazat} + 1; k < c.prvky.size(); ++k)
             if (!drzi_jina(c, k))

@@ -134,9 +134,14 @@ void rozjed(std::int32_t cislo, std::span<const int> prvky) {
         barvi_prvek(e, barvy::cervena);
         nastav_tag(e, "400");
         const int v = spust_vlak(cislo);
-        const Vlak& vlak = vlaky[static_cast<std::size_t>(v)];
-        if (vlak.cislo == cislo || vlak.cislo2 == cislo)
-            vlak_v_cili(e, v);
+        Vlak& vlak = vlaky[static_cast<std::size_t>(v)];
+        if (vlak.cislo != cislo && vlak.cislo2 != cislo)
+            return;
+        if (vlak.stanice_index >= 0) { // ordered to depart by hand: its label and its row wait no more
+            zobraz_cekani(v);
+            vlak.muze_jet = true;
+        }
+        vlak_v_cili(e, v);
         return;
     }
 }

@@ -435,7 +435,7 @@ void uvolni_vyhybku(int v, int j) {
         vlak.omezeni_ukonceno = true; // the whole train has cleared the last switch of its route
     const int stav = stav_vyhybky_cislo(n);
     if ((stav < 100 || stav > 150) && !drzi_jina_cesta(n, v)) // in between another route has reserved it
-        vyhybka_stav(n, vlak.prvky_poloha[static_cast<std::size_t>(j)], false, false);
+        uvolni_zaver_vyhybky(n, vlak.prvky_poloha[static_cast<std::size_t>(j)]);
 }
 
 void krok_konce(int v) {
@@ -557,9 +557,12 @@ void obnov_obslouzene() {
             vlak.obslouzeno = vlak.prvky.size();
 }
 
+std::uint32_t kroku_jizdy = 0;
+
 void krok_jizdy() {
     if (simulace.pauza || cesty.empty())
         return;
+    ++kroku_jizdy;
     const auto dt = static_cast<std::int32_t>(static_cast<std::uint32_t>(platforma.tik_ms()) -
                                               static_cast<std::uint32_t>(simulace.tick_jizdy));
     const int pocet = static_cast<int>(vlaky.size()); // trains made on the way move from the next step on

@@ -20,6 +20,7 @@ constexpr double kTloustkaKoleje = 3; // of a track line, pixels of the desk
 constexpr double kMezeraUseku = 1;    // by which a level track stops short of its ends: sections part there
 constexpr double kOdsazeniNohy = 0.6; // part of a leg that the switch leaves out on the side not set
 constexpr double kOdsazeniPohybu = 0.4;
+constexpr double kNejmensiKontrast = 3;
 constexpr int kNejmensiCil = 13 * kTwipu; // no target for the pointer is smaller
 constexpr int kPresahRadku = 2;           // of the command line above and below its text, pixels of the desk
 constexpr int kPresahCisla = 2;           // what a label clears beside its text, pixels of the desk
@@ -255,6 +256,17 @@ int nasobek(const Styl& s, const Prvek& prvek) { // station names grow with thei
     return s.druh == Druh::popis_stanice ? std::clamp(prvek.vyska / kVyskaZnaku, 1, 3) : 1;
 }
 
+// How far the light of two colours stands apart: 1 for the same, 21 for black and white.
+double kontrast(Barva a, Barva b) {
+    const auto jas = [](Barva barva) {
+        const QColor c = barva_qt(barva);
+        const auto slozka = [](double v) { return v * v * (0.3 + 0.7 * v * v); }; // near enough to the eye
+        return 0.2126 * slozka(c.redF()) + 0.7152 * slozka(c.greenF()) + 0.0722 * slozka(c.blueF());
+    };
+    const double x = jas(a) + 0.05, y = jas(b) + 0.05;
+    return std::max(x, y) / std::min(x, y);
+}
+
 // First column of a line of `delka` characters in the width of the element, pixels of the picture.
 double zacatek_radku(const Meritko& m, const Prvek& prvek, double delka_px) {
     const double vlevo = m.x(prvek.vlevo), volno = prvek.sirka * m.k - delka_px;
@@ -291,6 +303,11 @@ void nakresli_napis(QPainter& p, const Meritko& m, const Styl& s, const Prvek& p
                 Qt::black);
         }
     }
+    // The colours are given; where they are too near to each other, a shadow parts the letters from the
+    // ground.
+    if (prvek.ramecek && prvek.barva != prvek.pozadi &&
+        kontrast(prvek.barva, prvek.pozadi) < kNejmensiKontrast)
+        kresli_radek(p, x + m.bodu(1), y + m.bodu(1), sirka, vyska, text, barvy::cerna, s.znaky);
     kresli_radek(p, x, y, sirka, vyska, text, prvek.barva, s.znaky);
 }
 
@@ -536,8 +553,7 @@ void nakresli_stanoviste(QPainter& p, const Meritko& m, const Prvek& prvek) {
 void nakresli_tlacitko(QPainter& p, const Meritko& m, const Styl& s, const Prvek& prvek) {
     const QRect plocha = v_bodech(m, prvek);
     nakresli_napis(p, m, s, prvek);
-    p.setPen(QPen(odstin(kLinka), 1));
-    p.drawRect(plocha.adjusted(0, 0, -1, -1));
+    nakresli_obrys(p, plocha, m.bodu(1), odstin(kLinka));
 }
 
 void nakresli_ramec(QPainter& p, const Meritko& m, const Prvek& prvek) {
@@ -545,11 +561,7 @@ void nakresli_ramec(QPainter& p, const Meritko& m, const Prvek& prvek) {
     const int tl = m.bodu(2);
     if (plocha.width() <= 2 * tl || plocha.height() <= 2 * tl)
         return;
-    const QColor barva = odstin(0xFFFFD21E);
-    p.fillRect(plocha.x(), plocha.y(), plocha.width(), tl, barva);
-    p.fillRect(plocha.x(), plocha.bottom() - tl + 1, plocha.width(), tl, barva);
-    p.fillRect(plocha.x(), plocha.y(), tl, plocha.height(), barva);
-    p.fillRect(plocha.right() - tl + 1, plocha.y(), tl, plocha.height(), barva);
+    nakresli_obrys(p, plocha, tl, odstin(0xFFFFD21E));
 }
 
 // A vehicle stands in the middle of its place on a rail that runs on to the next one. The state names the
@@ -564,8 +576,7 @@ void nakresli_vuz(QPainter& p, const Meritko& m, const Prvek& prvek) {
     p.fillRect(r.x(), dole, r.width(), kolejnice, odstin(kKolejnice));
     p.drawPixmap(r.x() + (r.width() - o.width()) / 2, dole - o.height(), o);
     if (prvek.ramecek) {
-        p.setPen(QPen(odstin(kLinka), kolejnice));
-        p.drawRect(r.adjusted(0, 0, -1, -1));
+        nakresli_obrys(p, r, kolejnice, odstin(kLinka));
     }
 }
 
@@ -612,6 +623,13 @@ void nakresli_panel(QPainter& p, const Meritko& m) {
 }
 
 } // namespace
+
+void nakresli_obrys(QPainter& p, const QRect& kde, int tl, const QColor& barva) {
+    p.fillRect(kde.x(), kde.y(), kde.width(), tl, barva);
+    p.fillRect(kde.x(), kde.bottom() - tl + 1, kde.width(), tl, barva);
+    p.fillRect(kde.x(), kde.y(), tl, kde.height(), barva);
+    p.fillRect(kde.right() - tl + 1, kde.y(), tl, kde.height(), barva);
+}
 
 bool bere_vstup(Druh druh) {
     return styl(druh).vstup;
@@ -715,7 +733,6 @@ void nakresli_napis_pozadi(QPainter& p, const Meritko& m, const NapisPozadi& nap
 }
 
 void nakresli_podklad(QPainter& p, const Meritko& m, const QRect& plocha) {
-    p.fillRect(plocha, Qt::black);
     const int tl = m.bodu(1);
     const auto pas = [&](int od, int po) {
         const int a = m.y(od * kTwipu), b = m.y(po * kTwipu);

@@ -1,6 +1,7 @@
 // ui/platforma_qt.cpp - the world outside, as the window system gives it.
 #include "ui/platforma_qt.h"
 
+#include "app/simulace.h"
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
 #include "ui/pismo.h"
@@ -18,14 +19,18 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
+#include <QSplitter>
 #include <QStandardPaths>
 #include <QTimer>
+#include <QTreeView>
 #include <QUrl>
 
 #include <algorithm>
@@ -82,9 +87,22 @@ QWidget* rodic() {
     return QApplication::activeWindow();
 }
 
+// Over a desk of two monitors a dialogue stands on the left one, not on the seam between them.
+void na_levy_monitor(QDialog& dialog) {
+    const HlavniOkno* hlavni = HlavniOkno::otevrene();
+    if (!simulace.dva_monitory || hlavni == nullptr || dialog.parentWidget() != hlavni)
+        return;
+    dialog.ensurePolished();
+    if (!dialog.testAttribute(Qt::WA_Resized))
+        dialog.adjustSize();
+    const QRect stul = hlavni->geometry();
+    dialog.move(stul.x() + stul.width() / 4 - dialog.width() / 2, stul.center().y() - dialog.height() / 2);
+}
+
 void okno(TextPohled titul, TextPohled text) {
     QMessageBox box(QMessageBox::NoIcon, na_qstring(titul), na_qstring(text), QMessageBox::NoButton, rodic());
     box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+    na_levy_monitor(box);
     box.exec();
 }
 
@@ -94,21 +112,45 @@ bool otazka(TextPohled titul, TextPohled text, bool vychozi) {
     QPushButton* ne = box.addButton(QStringLiteral("&Ne"), QMessageBox::NoRole);
     box.setDefaultButton(vychozi ? ano : ne);
     box.setEscapeButton(ne);
+    na_levy_monitor(box);
     box.exec();
     return box.clickedButton() == ano;
 }
 
+// The window system's icons under Czech names.
+class CeskeSoubory : public QFileIconProvider {
+public:
+    QString type(const QFileInfo& soubor) const override {
+        return soubor.isDir() ? QStringLiteral("Složka") : QStringLiteral("Záznam simulace");
+    }
+};
+
 std::optional<Text> soubor(TextPohled slozka, TextPohled vzor, bool ulozit) {
     const QString kde = QString::fromStdString(cesta_k_zapisu(slozka));
-    const QString filtr = QStringLiteral("Soubory záznamů simulace (%1)").arg(na_qstring(vzor));
-    const QString vybrany =
-        ulozit
-            ? QFileDialog::getSaveFileName(rodic(), QStringLiteral("Uložit rozehranou simulaci"), kde, filtr,
-                                           nullptr, QFileDialog::DontConfirmOverwrite)
-            : QFileDialog::getOpenFileName(rodic(), QStringLiteral("Načíst rozehranou simulaci"), kde, filtr);
-    if (vybrany.isEmpty())
+    QFileDialog dialog(rodic(),
+                       ulozit ? QStringLiteral("Uložit rozehranou simulaci")
+                              : QStringLiteral("Načíst rozehranou simulaci"),
+                       kde, QStringLiteral("Soubory záznamů simulace (%1)").arg(na_qstring(vzor)));
+    dialog.setAcceptMode(ulozit ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(ulozit ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite); // the core asks
+    // what follows is for the dialogue of the window system's own library; a desktop brings its own
+    CeskeSoubory ikony;
+    dialog.setIconProvider(&ikony);
+    dialog.setSidebarUrls({QUrl::fromLocalFile(kde), QUrl::fromLocalFile(QDir::homePath())});
+    const int pismo = dialog.fontMetrics().height();
+    dialog.resize(46 * pismo, 28 * pismo);
+    if (auto* pricka = dialog.findChild<QSplitter*>())
+        pricka->setSizes({9 * pismo, 37 * pismo});
+    if (auto* soubory = dialog.findChild<QTreeView*>()) {
+        soubory->header()->setStretchLastSection(false);
+        soubory->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        soubory->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    }
+    na_levy_monitor(dialog);
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
-    return z_qstring(vybrany);
+    return z_qstring(dialog.selectedFiles().front());
 }
 
 // --- programs and documents

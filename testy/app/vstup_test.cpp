@@ -245,6 +245,8 @@ TEST_F(Klavesy, PrintScreenPauses) {
 }
 
 TEST_F(Klavesy, ImagesOfTheBarSendTheirKeys) {
+    EXPECT_EQ(relief.imgPauza[0].popis, "Pauza [F10]"_cz);
+    EXPECT_EQ(relief.imgMinimalizuj[0].popis, "Minimalizovat okno simulace [F11]"_cz);
     klik(Druh::imgPauza, 0, Tlacitko::leve, false);
     EXPECT_TRUE(simulace.pauza);
     klik(Druh::imgMinimalizuj, 0, Tlacitko::leve, false);

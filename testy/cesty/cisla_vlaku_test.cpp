@@ -2,6 +2,8 @@
 #include "cesty/cisla_vlaku.h"
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"
+#include "jizda/na_koleji.h"
+#include "jizda/vlak.h"
 #include "relief/prejezdy.h"
 
 struct Cisla : Stavedlo {
@@ -79,6 +81,35 @@ TEST_F(Cisla, NumbersMoveUpAndTheLastOnePutsTheArrowOut) {
     pis_cislo(604, "22");
     pis_cislo(704, "22", true);
     EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::seda);
+}
+
+TEST_F(Cisla, TrainWithoutAFreeLabelTakesTheOneThatFallsFree) {
+    for (const char* cislo : {"11", "22", "33"})
+        pis_cislo(604, cislo);
+    pis_cislo(41, "44");
+    postav(241, 604);
+    EXPECT_EQ(text(704), "33") << "the line has three labels, and all are taken";
+    pis_cislo(704, "11", true, true);
+    EXPECT_EQ(text(704), "") << "a signal at stop: nothing is said of who comes";
+    pis_cislo(704, "22", true);
+    EXPECT_EQ(text(604), "33");
+    EXPECT_EQ(text(654), "44") << "the train before the cleared signal";
+    // on its way the number goes with the train
+    pis_cislo(654, "44", true);
+    EXPECT_EQ(text(654), "") << "it is not written again";
+    pis_cislo(41, "", true);
+    vlaky[3].cislo = 44;
+    vlaky[3].prvky = {41, 6, 604};
+    vlaky[3].prvky_druh = {1, 2, 1};
+    cesty[0].Vlak = 3;
+    cesty[0].Umazat = 2;
+    pis_cislo(704, "33", true);
+    EXPECT_EQ(text(604), "44");
+    vlaky[3].prvky.push_back(77);
+    pis_cislo(704, "55", true);
+    pis_cislo(704, "44", true);
+    EXPECT_EQ(text(604), "") << "it runs elsewhere by now";
+    vlaky[3] = Vlak{};
 }
 
 TEST_F(Cisla, StandingRouteKeepsTheArrow) {
@@ -170,6 +201,56 @@ TEST_F(Cisla, NumberFollowsTheChainOfRoutes) {
     zrus_cestu(240);
     EXPECT_EQ(text(604), "") << "taken off along the chain";
     EXPECT_EQ(text(40), "1234");
+}
+
+TEST_F(Cisla, NumberOfATrainOnATrackWithTwoLabelsStays) {
+    stitek(241, "K41");
+    pis_cislo(40, "1234");
+    postav(240, 41, druh_volby::pn);
+    relief.kolej[41].barva = barvy::cervena;
+    pis_cislo(41, "1234");
+    vymaz_cislo(0, false, {});
+    EXPECT_EQ(text(41), "1234");
+}
+
+TEST_F(Cisla, EndOfACancelledRouteShowsItsNameAgainAfterTheNumberHasGone) {
+    pis_cislo(604, "1234");
+    postav(604, 41);
+    postav(41, 40);
+    ASSERT_EQ(text(40), "1234");
+    zrus_cestu(604);
+    EXPECT_EQ(text(40), "") << "taken off along the chain";
+    zrus_cestu(41);
+    cekej(6);
+    EXPECT_EQ(cesty[0].zacatek, -3);
+    EXPECT_EQ(text(40), "K40");
+    EXPECT_EQ(text(41), "K41");
+}
+
+TEST_F(Cisla, RNZTakesBackTheNumberOfATrainThatHasNotCome) {
+    pis_cislo(40, "1234");
+    relief.kolej[40].barva = barvy::cervena;
+    postav(240, 41, druh_volby::pn);
+    ASSERT_EQ(text(41), "1234");
+    cekej(31);
+    rnz(240);
+    EXPECT_EQ(cesty[0].zacatek, -3);
+    EXPECT_EQ(text(41), "K41");
+    EXPECT_EQ(text(40), "1234");
+}
+
+// The number of the train that is called on hides the one of the train at the end until it has come.
+TEST_F(Cisla, NumberOfTheStandingTrainComesBackWithRNZ) {
+    vlaky[3].cislo = 77;
+    pridej_na_kolej(41, 3, true, -1);
+    relief.kolej[41].barva = barvy::cervena;
+    ASSERT_EQ(text(41), "77");
+    pis_cislo(40, "1234");
+    postav(240, 41, druh_volby::pn);
+    ASSERT_EQ(text(41), "1234");
+    cekej(31);
+    rnz(240);
+    EXPECT_EQ(text(41), "77");
 }
 
 TEST_F(Cisla, SecondLabelGivesTheNumberWhenTheFirstShowsItsName) {
