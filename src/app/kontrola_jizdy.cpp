@@ -518,6 +518,11 @@ std::optional<Text> kontrola_jizdy() {
     return nalez;
 }
 
+void prijmi_zkraceni(int v) {
+    if (v >= 0 && static_cast<std::size_t>(v) < videno.vlaky.size())
+        videno.vlaky[static_cast<std::size_t>(v)] = VidenyVlak{};
+}
+
 void zapomen_kontrolu_jizdy() {
     videno = Videno{};
 }

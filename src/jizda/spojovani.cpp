@@ -1,6 +1,7 @@
 // jizda/spojovani.cpp - coupling, splitting, turning, the end of a record, the next train of a set.
 #include "jizda/spojovani.h"
 
+#include "app/kontrola_jizdy.h"
 #include "app/simulace.h"
 #include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"
@@ -400,6 +401,7 @@ void zkrat_vlak(int v) {
     const int konec = static_cast<int>(vlak.prvky.size()) - 1;
     const int od = std::max<int>(vlak.prvek_konec, 0);
     vlak.prvek_konec = na_integer(konec);
+    prijmi_zkraceni(v);
     for (int j = od; j < konec; ++j) {
         const int e = vlak.prvky[static_cast<std::size_t>(j)];
         switch (vlak.prvky_druh[static_cast<std::size_t>(j)]) {

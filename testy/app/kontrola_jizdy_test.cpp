@@ -160,6 +160,22 @@ TEST_F(KontrolaJizdy, EndOfAPauseIsNoStepOfTheMovement) {
     EXPECT_EQ(nalez(), "vlaky " + std::to_string(v) + ": drží prvek 62, který už celý opustil");
 }
 
+TEST_F(KontrolaJizdy, ShortenedTrainHoldsLessThanItsLength) {
+    const int v = vlak_na(62, true, 1234);
+    vlak(v).delka = 100;
+    vlak(v).prvky = {62, 440};
+    vlak(v).prvky_druh = {1, 1};
+    vlak(v).prvky_poloha = {0, 0};
+    barvi_prvek(440, barvy::cervena);
+    nastav_metry(62, delka_koleje(62));
+    const int c = cesta(pres_vyhybku());
+    ASSERT_EQ(nalez(), "");
+    zkrat_vlak(v);
+    vjed(v, c, 2); // and goes on before anybody looks
+    EXPECT_EQ(nalez(), "");
+    EXPECT_EQ(nalez(), "");
+}
+
 TEST_F(KontrolaJizdy, TrainThatHasSharedATrackFindsItselfSomewhereOnIt) {
     const int v = vlak_na(62, true, 1234);
     vlak(v).delka = 100;
