@@ -1,7 +1,7 @@
 // prvky/souhlasy.h - consents of the three line ends.
 #pragma once
 
-#include "app/vstup.h"
+#include "desk/tlacitko.h"
 #include "zaklad/text.h"
 
 #include <array>
