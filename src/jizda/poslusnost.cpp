@@ -1,4 +1,4 @@
-// jizda/poslusnost.cpp - sense and limits of routes, warnings, level crossings, leaving the area.
+// jizda/poslusnost.cpp - sense of routes, warnings, level crossings, leaving the area.
 #include "jizda/poslusnost.h"
 
 #include "app/simulace.h"
@@ -25,9 +25,7 @@
 
 namespace {
 
-constexpr int kMinutNaRozjezd = 5;   // so long after the start the trains already under way are not told of
-constexpr int kRychlostPosunu = 30;  // km/h over a shunt or calling-on route
-constexpr int kRychlostVstupu = 100; // km/h over a route made for a train that enters the area
+constexpr int kMinutNaRozjezd = 5; // so long after the start the trains already under way are not told of
 
 Vlak& vlak_c(int v) {
     return vlaky[static_cast<std::size_t>(v)];
@@ -208,25 +206,6 @@ bool srovnej_smer(int cesta, int i, int v) {
         return false;
     otoc_vlak(v);
     return true;
-}
-
-void omez_rychlost(int cesta, int v) {
-    const Cesta& c = cesta_c(cesta);
-    Vlak& vlak = vlak_c(v);
-    if (c.ZT == kZTprogramu) {
-        vlak.rychlost_cesty = kRychlostVstupu;
-        vlak.omezeni_ukonceno = true;
-        return;
-    }
-    constexpr std::array<std::uint8_t, 4> kTridy = {0, 40, 60, 80};
-    if (!c.VC || c.PN)
-        vlak.rychlost_cesty = kRychlostPosunu;
-    else if (c.rychlost == 0)
-        vlak.rychlost_cesty = vlak.rychlost_trati;
-    else if (c.rychlost < kTridy.size())
-        vlak.rychlost_cesty = kTridy[c.rychlost];
-    vlak.omezeni_ukonceno = false;
-    vlak.konec_omezeni = c.vyhybka;
 }
 
 void kontrola_vstupu(int cesta, int i, int v) {
