@@ -1,0 +1,243 @@
+// gvd/soupravy.cpp - locomotives and sets out of the depots.
+#include "gvd/soupravy.h"
+
+#include "app/cas.h"
+#include "cesty/barvi_prvek.h"
+#include "cesty/cisla_vlaku.h"
+#include "cesty/dotazy.h"
+#include "desk/tabulka_vlaku.h"
+#include "gvd/gvd.h"
+#include "gvd/provoz.h"
+#include "gvd/skladba.h"
+#include "gvd/stav_provozu.h"
+#include "jizda/na_koleji.h"
+#include "jizda/souprava.h"
+#include "jizda/vlak.h"
+#include "jizda/zastavky.h"
+#include "zaklad/cisla.h"
+#include "zaklad/nahoda.h"
+
+#include <algorithm>
+#include <array>
+#include <initializer_list>
+#include <optional>
+
+namespace {
+
+constexpr int kDen_min = 1440;
+constexpr int kLoko731 = 731;
+constexpr int kDepo538 = 538, kDepo569 = 569; // where sets come out of the depot of the main station
+constexpr TextPohled kZaloha = "ZAL";
+constexpr TextPohled kPosunova = "210"; // series of the shunting locomotive
+constexpr std::array kKolejeDepa = {558, 559, 560, 503, 509, 510};
+
+const GvdVlak& radek(int gvd_index) {
+    return gvd_vlaky.at(static_cast<std::size_t>(gvd_index));
+}
+
+// 0 fills the rest of a list of tracks; the relief does have an element of that number.
+bool volny_prvek(int e) {
+    return e != 0 && je_kolej(e) && je_volna(e);
+}
+
+template <class Prvky> int prvni_volny(const Prvky& prvky) {
+    const auto nalezeny = std::find_if(std::begin(prvky), std::end(prvky), volny_prvek);
+    return nalezeny == std::end(prvky) ? -1 : *nalezeny;
+}
+
+// The text is the number of a train.
+bool je_cislo_vlaku(const Text& text, std::int32_t cislo) {
+    const auto hodnota = ciselny_text(text);
+    return hodnota && *hodnota == cislo;
+}
+
+// The train that the row's set goes on as; nothing for rows that keep no set.
+std::optional<std::int16_t> predava(const GvdVlak& r) {
+    return r.vozy.size() > 1 && r.vozy_vlaky.size() > 1 ? std::optional(r.vozy_vlaky[1]) : std::nullopt;
+}
+
+bool je_jeden_z(int kod, std::initializer_list<int> kody) {
+    return std::find(kody.begin(), kody.end(), kod) != kody.end();
+}
+
+void nasad_posunovou(Vlak& v, std::size_t i) {
+    v.vozy[i] = kPosunova;
+    v.vozy_urceni[i] = kZaloha;
+    v.vozy_obrazek[i] = obrazek_vozu(210);
+    ++stav_provozu.pocet_zaloh;
+}
+
+// The shunting locomotive takes the place of the vehicle at the side of the depot.
+void pripoj_posunovou(Vlak& v, int element) {
+    if (v.vozy.empty())
+        return;
+    if (element == kDepo569) {
+        nasad_posunovou(v, 0);
+        return;
+    }
+    for (auto* udaje : {&v.vozy, &v.vozy_urceni, &v.vozy_obrazek})
+        std::rotate(udaje->begin(), udaje->begin() + 1, udaje->end());
+    nasad_posunovou(v, v.vozy.size() - 1);
+}
+
+// First free one of the depot's tracks; -1 none. Without any the locomotive exists, but on no track.
+int kolej_depa() {
+    return prvni_volny(kKolejeDepa);
+}
+
+} // namespace
+
+void vytvor_lokomotivu(int rada, int element, bool smer, TextPohled urceni, bool posun) {
+    const bool v_depu = element == 0;
+    if (v_depu)
+        element = std::max(kolej_depa(), 0);
+    else if (!je_kolej(element))
+        return;
+    const auto volny = std::find_if(vlaky.begin(), vlaky.end(), [](const Vlak& v) { return v.cislo < 1; });
+    if (volny == vlaky.end())
+        return;
+    const auto i = static_cast<int>(volny - vlaky.begin());
+    Vlak v;
+    v.cislo = na_long(74800 + dolu(nahodne() * 200.0));
+    v.druh = 16;
+    v.max_rychlost = v.rychlost_trati = 80;
+    v.delka = 20;
+    v.smer = smer;
+    v.posun = posun;
+    v.muze_jet = true;
+    v.loko_rada = na_integer(rada);
+    v.vozy = {text_cisla(rada)};
+    v.vozy_urceni = {Text(urceni)};
+    v.vozy_obrazek = {obrazek_vozu(rada)};
+    v.prvky = {na_integer(element)};
+    v.prvky_druh = {druh_prvku::kolej};
+    v.prvky_poloha = {2};
+    v.prvek_konec = 0;
+    v.stanice = {34, 9};
+    v.prijezd = {kZadny, na_integer(cas_min() + 7)};
+    v.odjezd = {cas_min(), kZadny};
+    v.odjezd_realny = v.odjezd;
+    vlaky[static_cast<std::size_t>(i)] = v;
+    if (urceni == kZaloha) {
+        ++stav_provozu.pocet_zaloh;
+        if (rada == kLoko731)
+            stav_provozu.zaloha_731_jede = true;
+    }
+    if (element == 0)
+        return;
+
+    pridej_na_kolej(element, i, smer, -1);
+    barvi_prvek(element, barvy::cervena);
+    relief.kolej[element].stav = TextPohled("200");
+    if (posun) {
+        pis_cislo(element, {});
+        return;
+    }
+    pridej_do_tabulky(i);
+    pis_cislo(element, text_cisla(v.cislo));
+    postav_cesty_z(element);
+}
+
+std::int16_t kontrola_soupravy(std::int32_t cislo, bool& jsou_vozy) {
+    jsou_vozy = false;
+    for (const Vlak& v : vlaky) {
+        if (v.cislo < 1)
+            continue;
+        const bool ma_vozy =
+            std::any_of(v.vozy.begin(), v.vozy.end(), [](const Text& vuz) { return !je_loko(vuz); });
+        if (v.cislo == cislo && ma_vozy) {
+            if (je_cislo_vlaku(v.vozy.front(), v.loko_rada2 > 0 ? v.loko_rada2 : v.loko_rada))
+                jsou_vozy = true;
+            return -1;
+        }
+        for (std::size_t i = 0; i < v.vozy.size() && i < v.vozy_urceni.size(); ++i) {
+            if (!je_cislo_vlaku(v.vozy_urceni[i], cislo))
+                continue;
+            if (je_loko(v.vozy[i]))
+                return -1;
+            jsou_vozy = true;
+        }
+    }
+    std::int16_t vysledek = 0;
+    const int ted = minuta_dne(cas_hodin());
+    for (const GvdVlak& r : gvd_vlaky) {
+        if (!aktivni_dnes(r))
+            continue;
+        const int m = (r.odjezdy.front() - ted) % kDen_min;
+        if (m <= 0 || m >= 45)
+            continue;
+        if (je_cislo_vlaku(r.navazny_vlak, cislo))
+            jsou_vozy = true;
+        if (predava(r) == cislo)
+            vysledek = -1;
+    }
+    return vysledek;
+}
+
+bool souprava_pripravena(int gvd_index, std::int16_t ted) {
+    const std::int32_t cislo = radek(gvd_index).cislo;
+    return std::none_of(gvd_vlaky.begin(), gvd_vlaky.end(), [=](const GvdVlak& r) {
+        return predava(r) == cislo && r.odjezdy.front() > ted && aktivni_dnes(r);
+    });
+}
+
+void stanice_start(int gvd_index) {
+    const GvdVlak& r = radek(gvd_index);
+    bool jsou_vozy = false;
+    if (kontrola_soupravy(r.cislo, jsou_vozy) != 0 || (r.vozy.size() == 1 && jsou_vozy))
+        return;
+    const int element = je_jeden_z(r.stanice.back(), {19, 20, 1}) ? kDepo569 : kDepo538;
+    if (!je_kolej(element))
+        return;
+    if (!je_volna(element)) {
+        pridej_cekajici(r.cislo);
+        return;
+    }
+    vyrad_cekajici(gvd_index);
+    const int i = vytvor_vlak(true, element, true, kNaVstupu, gvd_index);
+    Vlak& v = vlaky[static_cast<std::size_t>(i)];
+    v.posun = true;
+    pridej_do_tabulky(i);
+    barvi_prvek(element, barvy::cervena);
+    pridej_na_kolej(element, i, true, -1);
+    if (jsou_vozy && v.loko_rada != 560)
+        pripoj_posunovou(v, element);
+    relief.kolej[element].stav = TextPohled("600");
+    posun_po_vytvoreni(i);
+    if (element == kDepo538 && !jsou_vozy && stav_provozu.pocet_zaloh < 2)
+        pridej_posunovou(i);
+}
+
+void posun_po_vytvoreni(int vlak) {
+    const Vlak& v = vlaky.at(static_cast<std::size_t>(vlak));
+    if (v.vozy.empty() || je_jeden_z(v.loko_rada, {560, 943, 954}) ||
+        (v.loko_rada == 843 && v.vozy.back() == "943"))
+        return;
+    const int druha = v.stanice.size() > 1 ? v.stanice[1] : 0;
+    const int treti = v.stanice.size() > 2 ? v.stanice[2] : 0;
+    const int posledni = v.stanice.empty() ? 0 : v.stanice.back();
+    if (druha == 34 && je_jeden_z(treti, {8, 10, 11})) {
+        obrat_soupravy(vlak);
+        return;
+    }
+    // Both may hold, and the order of the vehicles is then as before: this is meant.
+    if (posledni == 4 && druha == 7)
+        obrat_soupravy(vlak);
+    if (je_jeden_z(druha, {5, 8, 1, 3, 20, 19, 10, 11}) || posledni == 4)
+        obrat_soupravy(vlak);
+}
+
+void pridej_posunovou(int vlak) {
+    Vlak& v = vlaky.at(static_cast<std::size_t>(vlak));
+    const bool na_konec = !v.vozy.empty() && je_loko(v.vozy.front());
+    for (auto* udaje : {&v.vozy, &v.vozy_urceni, &v.vozy_obrazek})
+        udaje->insert(na_konec ? udaje->end() : udaje->begin(), Text{});
+    nasad_posunovou(v, na_konec ? v.vozy.size() - 1 : 0);
+}
+
+void obrat_soupravy(int vlak) {
+    Vlak& v = vlaky.at(static_cast<std::size_t>(vlak));
+    for (auto* udaje : {&v.vozy, &v.vozy_urceni, &v.vozy_obrazek})
+        std::reverse(udaje->begin(), udaje->end());
+    v.smer = true;
+}

@@ -1,0 +1,263 @@
+// gvd/umisteni.cpp - places the train of a timetable row where it is on its way.
+#include "gvd/umisteni.h"
+
+#include "cesty/barvi_prvek.h"
+#include "cesty/cesta.h"
+#include "cesty/cisla_vlaku.h"
+#include "cesty/dotazy.h"
+#include "desk/tabulka_vlaku.h"
+#include "gvd/gvd.h"
+#include "gvd/skladba.h"
+#include "gvd/soupravy.h"
+#include "jizda/vlak.h"
+#include "jizda/zastavky.h"
+#include "relief/topologie.h"
+#include "zaklad/cisla.h"
+
+#include <algorithm>
+#include <array>
+#include <initializer_list>
+#include <optional>
+#include <span>
+
+namespace {
+
+const GvdVlak& radek(int gvd_index) {
+    return gvd_vlaky.at(static_cast<std::size_t>(gvd_index));
+}
+
+// 0 fills the rest of a list of tracks; the relief does have an element of that number.
+bool volny_prvek(int e) {
+    return e != 0 && je_kolej(e) && je_volna(e);
+}
+
+template <class Prvky> int prvni_volny(const Prvky& prvky) {
+    const auto nalezeny = std::find_if(std::begin(prvky), std::end(prvky), volny_prvek);
+    return nalezeny == std::end(prvky) ? -1 : *nalezeny;
+}
+
+bool je_jeden_z(int kod, std::initializer_list<int> kody) {
+    return std::find(kody.begin(), kody.end(), kod) != kody.end();
+}
+
+// The sense of a train that stands at `stanice` and goes on to `dalsi`.
+bool smer_ve_stanici(int stanice, int dalsi) {
+    const auto je = [dalsi](std::initializer_list<int> kody) {
+        return std::find(kody.begin(), kody.end(), dalsi) != kody.end();
+    };
+    switch (stanice) {
+    case 1: return je({8});
+    case 3: return je({32, 8, 24});
+    case 7: return je({12, 27, 22, 23, 28, 2, 13});
+    case 8: return je({3, 0, 24, 1, 32, 20});
+    case 9: return je({7});
+    case 10: return true;
+    case 11: return je({4});
+    case 12: return je({2, 13});
+    case 13: return je({21, 6, 14});
+    case 14: return je({6, 21});
+    case 15: return je({7});
+    case 21: return je({6});
+    case 22: return je({2, 23});
+    case 23: return je({2});
+    case 24: return !je({32, 3});
+    case 32: return !je({3});
+    case 35: return je({13});
+    default: return false;
+    }
+}
+
+// Tracks of the main station, by the planned one.
+struct KolejHlavniStanice {
+    TextPohled kolej;
+    std::array<int, 2> prvky; // the first free one
+};
+constexpr std::array kHlavniStanice = {
+    KolejHlavniStanice{"1", {26, 27}},   KolejHlavniStanice{"2", {27, 28}},
+    KolejHlavniStanice{"3", {28, 29}},   KolejHlavniStanice{"4", {29, 30}},
+    KolejHlavniStanice{"5", {30, 31}},   KolejHlavniStanice{"6", {31, 30}},
+    KolejHlavniStanice{"5k", {32, 33}},  KolejHlavniStanice{"9k", {33, 34}},
+    KolejHlavniStanice{"11k", {34, 35}}, KolejHlavniStanice{"13k", {35, 35}},
+};
+
+// Sections of a line that a placed train still has before it, and the route on which it runs there.
+struct CestaNaTrati {
+    std::int16_t klic, zacatek, konec;
+    std::array<std::int16_t, 7> prvky; // 0 none
+    std::int16_t sipka;                // arrow of the line
+    bool stoupa;                       // towards larger numbers: ">>"
+};
+constexpr std::array<CestaNaTrati, 16> kCestyNaTrati = {{
+    {96, 613, 96, {96, 632, 682}, 632, true},
+    {604, 202, 604, {604, 654}, 604, true},
+    {606, 10, 606, {606}, 606, false},
+    {638, 613, 638, {638, 688, 738}, 638, true},
+    {654, 202, 604, {654}, 604, true},
+    {656, 10, 606, {656, 606}, 606, false},
+    {674, 273, 624, {674, 724, 774, 824, 874}, 624, true},
+    {676, 68, 626, {676, 626}, 626, false},
+    {720, 633, 620, {720, 770}, 620, true},
+    {722, 72, 622, {722, 672, 622}, 622, false},
+    {728, 639, 628, {728, 778, 828, 878, 928, 978}, 628, true},
+    {730, 63, 630, {730, 680, 630}, 630, false},
+    {824, 273, 624, {824, 874}, 624, true},
+    {826, 68, 626, {826, 776, 726, 676, 626}, 626, false},
+    {928, 639, 628, {928, 978}, 628, true},
+    {930, 63, 630, {930, 880, 830, 780, 730, 680, 630}, 630, false},
+}};
+
+std::span<const std::int16_t> prvky_na_trati(const CestaNaTrati& c) {
+    return {c.prvky.begin(), std::find(c.prvky.begin(), c.prvky.end(), 0)};
+}
+
+const CestaNaTrati* najdi_cestu_na_trati(int element) {
+    const auto c = std::find_if(kCestyNaTrati.begin(), kCestyNaTrati.end(),
+                                [element](const CestaNaTrati& t) { return t.klic == element; });
+    return c == kCestyNaTrati.end() ? nullptr : &*c;
+}
+
+bool je_cela_nakreslena(const CestaNaTrati& c) {
+    const auto prvky = prvky_na_trati(c);
+    return std::all_of(prvky.begin(), prvky.end(), [](int e) { return je_kolej(e); });
+}
+
+// Element for a row at a stop: the tracks that come into question in their order.
+struct Umisteni {
+    std::array<int, 5> koleje{}; // 0 none
+    int index = 0;
+    bool smer = false;
+    bool na_trati = false; // with the route of a line
+};
+
+// The tracks of a station for a train that comes from `predchozi` and goes to `dalsi`.
+std::optional<Umisteni> vyber_koleje(int stanice, int predchozi, int dalsi, int index, const GvdVlak& r) {
+    const bool smer = smer_ve_stanici(stanice, dalsi);
+    const int druh = r.druh;
+    const auto na = [&](std::initializer_list<int> kody) {
+        return std::any_of(kody.begin(), kody.end(), [&](int k) { return k == predchozi || k == dalsi; });
+    };
+    const auto koleje = [&](std::array<int, 5> k) { return Umisteni{k, index, smer, false}; };
+    const auto trat = [&](int tam, int zpet) { return Umisteni{{smer ? tam : zpet}, index, smer, true}; };
+    switch (stanice) {
+    case 1: return koleje({86});
+    case 3:
+        if (druh >= 10)
+            return koleje({1});
+        if (na({19}))
+            return koleje({2});
+        if (na({20}))
+            return koleje({3});
+        return std::nullopt;
+    case 7:
+        if (na({13}))
+            return smer ? Umisteni{{96}, index, true, true} : Umisteni{{93}, index - 1, false, false};
+        if (na({22, 2}))
+            return smer ? Umisteni{{638}, index, true, true} : Umisteni{{94}, index - 1, false, false};
+        if (na({27, 12}))
+            return koleje({44, 45});
+        return std::nullopt;
+    case 8:
+        if (druh < 10)
+            return na({3, 24, 32}) ? koleje({10, 9, 11}) : koleje({smer ? 12 : 11});
+        if (na({3}))
+            return koleje({18});
+        return na({9}) ? koleje({11, 10}) : koleje({16, 17});
+    case 9:
+        for (const KolejHlavniStanice& k : kHlavniStanice)
+            if (r.kolej == k.kolej)
+                return koleje({k.prvky[0], k.prvky[1]});
+        return std::nullopt;
+    case 11:
+        if (druh >= 15)
+            return koleje({38, 39});
+        return smer ? koleje({36}) : koleje({37, 40});
+    case 12: return dalsi == 2 ? koleje({59, 60}) : koleje({50, 51, 54, 52, 53});
+    case 13:
+        if (druh == 15)
+            return koleje({74});
+        return smer ? koleje({73, 74}) : koleje({72, 71, 70});
+    case 14: return trat(674, 676);
+    case 15:
+        if (druh == 15)
+            return koleje({82, 78});
+        return smer ? koleje({79, 78}) : koleje({78, 79});
+    case 21: return trat(824, 826);
+    case 22: return trat(728, 730);
+    case 23: return trat(928, 930);
+    case 24: return trat(654, 656);
+    case 32: return trat(604, 606);
+    case 35: return trat(720, 722);
+    default: return std::nullopt;
+    }
+}
+
+} // namespace
+
+void umisti_vlak_do_stanice(int stanice, int predchozi, int dalsi, int index, int gvd_index) {
+    const auto kde = vyber_koleje(stanice, predchozi, dalsi, index, radek(gvd_index));
+    if (!kde)
+        return;
+    const int element = prvni_volny(kde->koleje);
+    if (element < 0)
+        return;
+    if (const CestaNaTrati* trat = kde->na_trati ? najdi_cestu_na_trati(element) : nullptr;
+        trat != nullptr && !je_cela_nakreslena(*trat))
+        return;
+    const int v = umisti_vlak(element, kde->smer, kde->index, gvd_index);
+    if (kde->na_trati)
+        cesta_na_trati(element, v);
+}
+
+int umisti_vlak(int element, bool smer, int index, int gvd_index) {
+    barvi_prvek(element, barvy::cervena);
+    relief.kolej[element].stav = text_cisla(delka_koleje(element) - 20);
+    pis_cislo(element, text_cisla(radek(gvd_index).cislo));
+    const int i = vytvor_vlak(smer, element, true, index, gvd_index);
+    Vlak& v = vlaky[static_cast<std::size_t>(i)];
+    if (element == 96 || element > 600) {
+        v.omezeni_ukonceno = true;
+        v.rychlost_cesty = 100;
+        if (je_jeden_z(element, {638, 654, 606, 96}))
+            v.prvky_poloha.front() = 2;
+    }
+    pridej_do_tabulky(i);
+    const auto zastavka = static_cast<std::size_t>(std::max(index, 0));
+    if (v.cislo2 > 0 && v.stanice_zmeny != 0 && zastavka < v.stanice.size() &&
+        v.stanice_zmeny == v.stanice[zastavka])
+        prepni_cislo(i);
+    if (index < 1 && v.stanice.size() > 1 && v.stanice[1] == 7 && v.stanice.back() == 4)
+        obrat_soupravy(i);
+    vlak_v_cili(element, i);
+    return i;
+}
+
+void cesta_na_trati(int element, int vlak) {
+    const CestaNaTrati* vzor = najdi_cestu_na_trati(element);
+    if (vzor == nullptr)
+        return;
+    if (cesty.front().zacatek >= 0)
+        cesty.emplace_back();
+    Cesta& c = cesty.back();
+    c = Cesta{};
+    c.zacatek = vzor->zacatek;
+    c.konec = vzor->konec;
+    const auto prvky = prvky_na_trati(*vzor);
+    c.prvky.assign(prvky.begin(), prvky.end());
+    c.druhy.assign(prvky.size(), druh_prvku::kolej);
+    c.polohy.assign(prvky.size(), 0);
+    c.polohy.back() = 2;
+    if (element == 638)
+        c.polohy.front() = 2;
+    c.VC = c.prehozena = c.Postavena = c.Provedena = true;
+    c.prejezd = kBezPrejezdu;
+    c.ZT = kZTprogramu;
+    c.Vlak = na_integer(vlak);
+
+    if (element == 96)
+        pis_cislo(632, text_cisla(zobrazene_cislo(vlaky[static_cast<std::size_t>(vlak)])));
+    if (!relief.lblSouhlas2.je(vzor->sipka))
+        return;
+    Prvek& sipka = relief.lblSouhlas2[vzor->sipka];
+    nastav_text(sipka, vzor->stoupa ? ">>" : "<<");
+    sipka.barva = barvy::azurova;
+}
