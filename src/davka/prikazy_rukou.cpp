@@ -1,0 +1,158 @@
+// davka/prikazy_rukou.cpp - commands that are a hand on the desk.
+#include "davka/prikazy_rukou.h"
+
+#include "app/klavesy.h"
+#include "app/vstup.h"
+#include "davka/obrazovka_startu.h"
+#include "davka/prikazy_startu.h"
+#include "davka/skript.h"
+#include "davka/virtualni_svet.h"
+#include "davka/vypisy.h"
+#include "desk/menu.h"
+#include "technologie/technologie.h"
+
+#include <vector>
+
+namespace {
+
+struct CilRuky {
+    Druh druh = Druh::kolej;
+    int cislo = 0;
+};
+
+CilRuky prvek_ruky(Slova slova, std::size_t nejvice_slov) {
+    const Cil cil = precti_cil(slova);
+    if (!cil.druh)
+        chyba_skriptu(v_uvozovkach(cil.slovo) + " je tabulka, ne prvek");
+    if (slova.size() > cil.slov + nejvice_slov)
+        chyba_skriptu("přebývá " + v_uvozovkach(slova[cil.slov + nejvice_slov]));
+    if (!tabulka(*cil.druh).je(cil.cislo))
+        chyba_skriptu("prvek " + cil.slovo + " " + std::to_string(cil.cislo) + " neexistuje");
+    return {*cil.druh, cil.cislo};
+}
+
+Seznam* seznam_desky(std::string_view slovo) {
+    if (slovo == "lstZpravy")
+        return &relief.lstZpravy;
+    if (slovo == "lstDenik")
+        return &relief.lstDenik;
+    for (std::size_t i = 0; i < kTechnologie.size(); ++i)
+        for (const SeznamTechnologie& s : seznamy_technologie(static_cast<Technologie>(i)))
+            if (s.jmeno == slovo)
+                return s.seznam;
+    return nullptr;
+}
+
+} // namespace
+
+void prikaz_klik(BehSkriptu& beh, Slova slova) {
+    if (!beh.spusteno) {
+        if (slova[0] == "cmdStart")
+            prikaz_spust(beh, slova.subspan(1));
+        else if (slova[0] == "cmdOtevrit")
+            prikaz_otevrit(beh);
+        else if (!klik_startu(slova))
+            chyba_pred_startem("klik " + slova[0]);
+        return;
+    }
+    if (slova[0] == "plocha") {
+        if (slova.size() > 1)
+            chyba_skriptu("klik plocha nemá další slova");
+        klik_na_plochu();
+        return;
+    }
+    if (const auto zalozka = technologie_podle_jmena(slova[0])) {
+        if (slova.size() > 1)
+            chyba_skriptu("klik " + slova[0] + " nemá další slova");
+        if (!technologie_kryje_stul())
+            chyba_skriptu("záložka " + slova[0] + " není vidět: žádná obrazovka technologie není otevřená");
+        klik_na_zalozku(*zalozka);
+        return;
+    }
+    if (Seznam* seznam = seznam_desky(slova[0])) {
+        if (slova.size() != 2)
+            chyba_skriptu("píše se klik " + slova[0] + " RADEK");
+        const auto radku = static_cast<std::int64_t>(seznam->radky.size());
+        if (radku == 0)
+            chyba_skriptu("seznam " + slova[0] + " je prázdný");
+        klik_na_radek(*seznam, static_cast<int>(cislo_slova(slova[1], 0, radku - 1, "řádek seznamu")));
+        return;
+    }
+    const bool ctrl = slova.size() > 1 && slova.back() == "ctrl";
+    const CilRuky cil = prvek_ruky(ctrl ? slova.first(slova.size() - 1) : slova, 0);
+    klik(cil.druh, cil.cislo, Tlacitko::leve, ctrl);
+}
+
+void prikaz_pravy(BehSkriptu&, Slova slova) {
+    const CilRuky cil = prvek_ruky(slova, 0);
+    klik(cil.druh, cil.cislo, Tlacitko::prave, false);
+}
+
+void prikaz_prostredni(BehSkriptu&, Slova slova) {
+    const CilRuky cil = prvek_ruky(slova, 0);
+    klik(cil.druh, cil.cislo, Tlacitko::prostredni, false);
+}
+
+void prikaz_dvojklik(BehSkriptu&, Slova slova) {
+    const CilRuky cil = prvek_ruky(slova, 0);
+    dvojklik(cil.druh, cil.cislo);
+}
+
+void prikaz_najed(BehSkriptu&, Slova slova) {
+    if (slova[0] == "plocha") {
+        pohyb_mysi();
+        odjeti();
+        return;
+    }
+    const CilRuky cil = prvek_ruky(slova, 0);
+    pohyb_mysi();
+    najeti(cil.druh, cil.cislo);
+}
+
+void prikaz_menu(BehSkriptu&, Slova slova) {
+    const Text jmeno = text_slova(slova[0]);
+    if (menu.jmeno.empty())
+        chyba_skriptu("žádné menu není otevřené");
+    // the names first: afterwards the menu is closed
+    std::string stav;
+    for (const PolozkaMenu& p : menu.polozky)
+        if (p.jmeno == jmeno)
+            stav = !p.viditelna ? "je skrytá" : !p.povolena ? "je zakázaná" : "nejde zvolit";
+    std::vector<std::string> jmena;
+    for (const PolozkaMenu& p : menu.polozky)
+        jmena.push_back(na_utf8(p.jmeno));
+    const std::string hlava = na_utf8(menu.jmeno);
+    if (zvol_v_menu(jmeno))
+        return;
+    if (!stav.empty())
+        chyba_skriptu("položka " + v_uvozovkach(slova[0]) + " menu " + hlava + " " + stav);
+    std::string nabidka;
+    for (const std::string& j : jmena)
+        nabidka += (nabidka.empty() ? "" : ", ") + j;
+    chyba_skriptu("menu " + hlava + " nemá položku " + v_uvozovkach(slova[0]) + "; má: " + nabidka);
+}
+
+void prikaz_klavesa(BehSkriptu& beh, Slova slova) {
+    if (!beh.spusteno) {
+        if (slova[0] == "Enter")
+            prikaz_spust(beh, {});
+        else if (!klavesa_startu(slova[0]))
+            chyba_pred_startem("klavesa " + slova[0]);
+        return;
+    }
+    const Klavesa k = klavesa_podle_jmena(text_slova(slova[0]));
+    if (k.kod == KodKlavesy::zadna)
+        chyba_skriptu("klávesu " + v_uvozovkach(slova[0]) + " pult nezná");
+    klavesa(k);
+}
+
+void prikaz_pis(BehSkriptu& beh, Slova slova) {
+    if (!beh.spusteno)
+        pis_startu(slova[0]);
+    else
+        pis_do_pole(text_slova(slova[0]));
+}
+
+void prikaz_odpovez(BehSkriptu&, Slova slova) {
+    svet.odpovedi.push_back(text_slova(slova[0]));
+}
