@@ -24,7 +24,5 @@ struct ChybaStavu {
     std::string co; // UTF-8
 };
 
-// The words as a message quotes them.
-std::string v_uvozovkach(std::string_view text);
 // An error of the script: the command needs a simulation that has been started.
 [[noreturn]] void chyba_pred_startem(std::string_view prikaz);

@@ -124,7 +124,7 @@ int hlavni_davky(const std::vector<std::string>& argumenty, const std::string& v
         }
         if (!volba.starts_with("--")) {
             if (skript)
-                return chyba_spusteni("skript je jen jeden, přebývá „" + volba + "“");
+                return chyba_spusteni("skript je jen jeden, přebývá " + v_uvozovkach(volba));
             skript = volba;
             continue;
         }
@@ -135,7 +135,7 @@ int hlavni_davky(const std::vector<std::string>& argumenty, const std::string& v
         } else if (i + 1 < argumenty.size()) {
             hodnota = argumenty[++i];
         } else {
-            return chyba_spusteni("za volbou „" + volba + "“ chybí hodnota");
+            return chyba_spusteni("za volbou " + v_uvozovkach(volba) + " chybí hodnota");
         }
         if (volba == "--slozka") {
             volby.slozka = hodnota;
@@ -144,10 +144,10 @@ int hlavni_davky(const std::vector<std::string>& argumenty, const std::string& v
         } else if (volba == "--semeno") {
             const auto semeno = cele_cislo(hodnota, 0, std::numeric_limits<std::int64_t>::max());
             if (!semeno)
-                return chyba_spusteni("semeno je celé číslo, ne „" + hodnota + "“");
+                return chyba_spusteni("semeno je celé číslo, ne " + v_uvozovkach(hodnota));
             volby.semeno = static_cast<std::uint64_t>(*semeno);
         } else {
-            return chyba_spusteni("neznámá volba „" + volba + "“");
+            return chyba_spusteni("neznámá volba " + v_uvozovkach(volba));
         }
     }
     if (!skript) {
@@ -159,7 +159,7 @@ int hlavni_davky(const std::vector<std::string>& argumenty, const std::string& v
     if (soubor_vystupu) {
         do_souboru.open(*soubor_vystupu, std::ios::binary | std::ios::trunc);
         if (!do_souboru)
-            return chyba_spusteni("do souboru „" + *soubor_vystupu + "“ nelze psát");
+            return chyba_spusteni("do souboru " + v_uvozovkach(*soubor_vystupu) + " nelze psát");
     }
     std::ostream& vystup = soubor_vystupu ? do_souboru : std::cout;
     int kod = navrat::chyba_skriptu;
@@ -169,7 +169,7 @@ int hlavni_davky(const std::vector<std::string>& argumenty, const std::string& v
     } else {
         std::ifstream soubor(*skript, std::ios::binary);
         if (!soubor || std::filesystem::is_directory(*skript))
-            return chyba_spusteni("skript „" + *skript + "“ nelze otevřít");
+            return chyba_spusteni("skript " + v_uvozovkach(*skript) + " nelze otevřít");
         kod = spust_davku(volby, soubor, vystup, std::cerr);
     }
     if (!vystup)

@@ -362,6 +362,43 @@ void pridej_radek(ZaznamJsonu& cil, const ZaznamJsonu& cely, const Json& radek, 
             pridej(cil, c.klic, (*seznam)[index]);
 }
 
+void pridej_prvek(ZaznamJsonu& z, Druh druh, int cislo) {
+    pridej(z, "cislo", cislo);
+    for (ClenJsonu& c : popis_prvku(druh, cislo))
+        z.push_back(std::move(c));
+}
+
+void pridej_vse(ZaznamJsonu& z, const Cil& cil) {
+    const Vypis& co = *najdi_vypis(cil.slovo);
+    if (co.zaznam == cil.slovo)
+        chyba_skriptu("za " + v_uvozovkach(cil.slovo) + " chybí číslo záznamu");
+    co.napln(z);
+}
+
+// Index of the row that is asked for by its number or name; the length of the list when there is none.
+std::size_t index_radku(const SeznamJsonu& seznam, const Cil& cil) {
+    if (cil.jmeno.empty())
+        return std::min(static_cast<std::size_t>(cil.cislo), seznam.size());
+    const auto radek =
+        std::find_if(seznam.begin(), seznam.end(), [&](const Json& r) { return ma_jmeno(r, cil.jmeno); });
+    return static_cast<std::size_t>(radek - seznam.begin());
+}
+
+void pridej_radek_tabulky(ZaznamJsonu& z, const Cil& cil) {
+    ZaznamJsonu cely;
+    najdi_vypis(cil.slovo)->napln(cely);
+    const SeznamJsonu* seznam = radky(cely);
+    if (seznam == nullptr)
+        chyba_skriptu(v_uvozovkach(cil.slovo) + " není tabulka, nemá řádek " +
+                      v_uvozovkach(cil.jmeno.empty() ? std::to_string(cil.cislo) : cil.jmeno));
+    const std::size_t index = index_radku(*seznam, cil);
+    const bool je = index < seznam->size();
+    pridej(z, "i", je ? Json(index) : Json(cil.cislo));
+    pridej(z, "existuje", je);
+    if (je)
+        pridej_radek(z, cely, (*seznam)[index], index);
+}
+
 } // namespace
 
 Cil precti_cil(std::span<const std::string> slova) {
@@ -372,7 +409,7 @@ Cil precti_cil(std::span<const std::string> slova) {
     cil.slov = 1;
     cil.druh = druh_podle_jmena(cil.slovo);
     if (!cil.druh && najdi_vypis(cil.slovo) == nullptr)
-        chyba_skriptu("„" + cil.slovo + "“ není druh prvku ani tabulka" + napoveda(cil.slovo, kSlova));
+        chyba_skriptu(v_uvozovkach(cil.slovo) + " není druh prvku ani tabulka" + napoveda(cil.slovo, kSlova));
     const bool dalsi = slova.size() > 1 && slova[1].find('=') == std::string::npos;
     if (!cil.druh) {
         if (dalsi) {
@@ -388,8 +425,8 @@ Cil precti_cil(std::span<const std::string> slova) {
         cil.cislo = static_cast<int>(*cislo);
         cil.slov = 2;
     } else if (potrebuje_cislo(*cil.druh)) {
-        chyba_skriptu("za „" + cil.slovo + "“ chybí číslo prvku" +
-                      (dalsi ? ", je tam „" + slova[1] + "“" : ""));
+        chyba_skriptu("za " + v_uvozovkach(cil.slovo) + " chybí číslo prvku" +
+                      (dalsi ? ", je tam " + v_uvozovkach(slova[1]) : std::string()));
     } else {
         cil.cislo = 0;
     }
@@ -431,36 +468,12 @@ ZaznamJsonu popis_prvku(Druh druh, int cislo) {
 ZaznamJsonu vypis(const Cil& cil) {
     ZaznamJsonu z;
     pridej(z, "vypis", json_utf8(cil.slovo));
-    if (cil.druh) {
-        pridej(z, "cislo", cil.cislo);
-        for (ClenJsonu& c : popis_prvku(*cil.druh, cil.cislo))
-            z.push_back(std::move(c));
-        return z;
-    }
-    const Vypis& co = *najdi_vypis(cil.slovo);
-    if (cil.cislo == kZadny && cil.jmeno.empty()) {
-        if (co.zaznam == cil.slovo)
-            chyba_skriptu("za „" + cil.slovo + "“ chybí číslo záznamu");
-        co.napln(z);
-        return z;
-    }
-    ZaznamJsonu cely;
-    co.napln(cely);
-    const SeznamJsonu* seznam = radky(cely);
-    if (seznam == nullptr)
-        chyba_skriptu("„" + cil.slovo + "“ není tabulka, nemá řádek „" +
-                      (cil.jmeno.empty() ? std::to_string(cil.cislo) : cil.jmeno) + "“");
-    std::size_t index = seznam->size();
-    if (cil.jmeno.empty())
-        index = static_cast<std::size_t>(cil.cislo);
+    if (cil.druh)
+        pridej_prvek(z, *cil.druh, cil.cislo);
+    else if (cil.cislo == kZadny && cil.jmeno.empty())
+        pridej_vse(z, cil);
     else
-        for (std::size_t i = seznam->size(); i-- > 0;)
-            if (ma_jmeno((*seznam)[i], cil.jmeno))
-                index = i;
-    pridej(z, "i", index < seznam->size() ? Json(index) : Json(cil.cislo));
-    pridej(z, "existuje", index < seznam->size());
-    if (index < seznam->size())
-        pridej_radek(z, cely, (*seznam)[index], index);
+        pridej_radek_tabulky(z, cil);
     return z;
 }
 
