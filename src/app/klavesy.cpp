@@ -174,7 +174,7 @@ void info_pod_kurzorem() {
     pipni_klavesou();
     if (!vlak_na_koleji(e))
         return;
-    const std::vector<std::int16_t>& seznam = koleje_vlaky[static_cast<std::size_t>(zaznam_koleje(e))].vlaky;
+    const std::vector<std::int16_t>& seznam = kolej_vlaky_c(zaznam_koleje(e)).vlaky;
     const auto ukazany = std::find_if(seznam.begin(), seznam.end(), [](int v) { return info_ukazuje(v); });
     const bool dalsi = ukazany != seznam.end() && ukazany + 1 != seznam.end();
     info_o_vlaku({}, dalsi ? *(ukazany + 1) : seznam.front());

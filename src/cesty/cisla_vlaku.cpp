@@ -238,7 +238,7 @@ void pis_cislo(int prvek, TextPohled text, bool mazat, bool tise) {
 }
 
 void postup_cisla(int i) {
-    const Cesta* cesta = &cesty.at(static_cast<std::size_t>(i));
+    const Cesta* cesta = &cesta_c(i);
     if (!cesta->VC || bezi_proti_sipce(*cesta))
         return; // a shunting movement carries no number
     const Text text = cislo_pred_navestidlem(kolej_navestidla(cesta->zacatek));
@@ -254,7 +254,7 @@ void postup_cisla(int i) {
 }
 
 void vymaz_cislo(int i, bool tiche, TextPohled text) {
-    const Cesta* cesta = &cesty.at(static_cast<std::size_t>(i));
+    const Cesta* cesta = &cesta_c(i);
     // Signal 639 stands at the far end of its line: the label before it is that of the second section.
     const int kolej = cesta->zacatek == 639 ? 688 : kolej_navestidla(cesta->zacatek);
     const Text cislo = orez(text).empty() ? cislo_pred_navestidlem(kolej) : Text(orez(text));

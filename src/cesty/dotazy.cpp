@@ -120,7 +120,7 @@ Text popis_cesty(const Cesta& c) {
 }
 
 Text popis_cesty(int i) {
-    return popis_cesty(cesty.at(static_cast<std::size_t>(i)));
+    return popis_cesty(cesta_c(i));
 }
 
 int glyf_navestidla(int s) {

@@ -336,7 +336,7 @@ void rozsvit_navestidlo(Cesta& c, std::int32_t ted) {
 }
 
 void uzavri_cestu(int i, Pruchod& pruchod) {
-    Cesta& c = cesty[static_cast<std::size_t>(i)];
+    Cesta& c = cesta_c(i);
     if (pruchod.ted <= c.Kdy_prehoz)
         return;
     uzavri_prvky(c);
@@ -368,7 +368,7 @@ void uzavri_cestu(int i, Pruchod& pruchod) {
 
 // One action of route i; true when the route is gone and the walk must start again.
 bool krok_cesty(int i, Pruchod& pruchod) {
-    Cesta& c = cesty[static_cast<std::size_t>(i)];
+    Cesta& c = cesta_c(i);
     switch (faze_cesty(c, pruchod.ted)) {
     case FazeCesty::zruseni: proved_zruseni(i); return true;
     case FazeCesty::privolavaci: blikni_privolavaci(c, pruchod.ted); break;

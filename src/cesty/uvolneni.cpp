@@ -102,7 +102,7 @@ void uvolni_prvky(const Cesta& c) {
 bool vlak_stoji_v_cili(const Cesta& c) {
     if (c.Vlak < 0 || static_cast<std::size_t>(c.Vlak) >= vlaky.size())
         return false;
-    const Vlak& v = vlaky[static_cast<std::size_t>(c.Vlak)];
+    const Vlak& v = vlak_c(c.Vlak);
     return !v.prvky.empty() && v.prvky.back() == posledni_prvek(c) &&
            v.prvek_konec == static_cast<int>(v.prvky.size()) - 1;
 }
@@ -134,7 +134,7 @@ void zrus_cestu(int s) {
 }
 
 void proved_zruseni(int i) {
-    Cesta& c = cesty.at(static_cast<std::size_t>(i));
+    Cesta& c = cesta_c(i);
     const int konec = c.konec;
     if (navestidla(c.zacatek).je(c.zacatek) && !je_zablokovano(c.zacatek))
         navestidla(c.zacatek)[c.zacatek].barva = barvy::seda;

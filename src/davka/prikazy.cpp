@@ -88,8 +88,7 @@ void prikaz_cekej(BehSkriptu&, Slova slova) {
 }
 
 void prikaz_cekej_do(BehSkriptu&, Slova slova) {
-    constexpr std::int32_t kDen = 24 * 3600;
-    const auto vpred = [](std::int32_t od, std::int32_t k) { return ((k - od) % kDen + kDen) % kDen; };
+    const auto vpred = [](std::int32_t od, std::int32_t k) { return ((k - od) % kDen_s + kDen_s) % kDen_s; };
     std::int32_t ted = sekundy_textu(cas_hodin());
     std::int32_t zbyva = vpred(ted, cas_slova(slova[0]));
     const auto stoji = [] { return simulace.pauza || simulace.rychlost == 0; };
@@ -102,7 +101,7 @@ void prikaz_cekej_do(BehSkriptu&, Slova slova) {
     while (zbyva > 0) {
         if (stoji())
             chyba_skriptu("cekej_do: hodiny simulace stojí na " + na_utf8(cas_hodin()));
-        plyn_do(svet.cas_ms + kDen * 1000LL, dost);
+        plyn_do(svet.cas_ms + kDen_s * 1000LL, dost);
     }
 }
 

@@ -30,13 +30,13 @@ constexpr int kPosledniLokomotiva = 800; // series above run without a locomotiv
 constexpr int kTHN = 9, kTHJ = 12;       // the two ends of the main station
 
 // The train of an index; none for a free record.
-const Vlak* vlak_c(int v) {
-    if (v < 0 || static_cast<std::size_t>(v) >= vlaky.size() || vlaky[static_cast<std::size_t>(v)].cislo < 1)
+const Vlak* skutecny_vlak(int v) {
+    if (v < 0 || static_cast<std::size_t>(v) >= vlaky.size() || vlak_c(v).cislo < 1)
         return nullptr;
-    return &vlaky[static_cast<std::size_t>(v)];
+    return &vlak_c(v);
 }
 
-int rada_vozu(const std::vector<Text>& vozy, std::size_t i) {
+int rada_na(const std::vector<Text>& vozy, std::size_t i) {
     return i < vozy.size() ? static_cast<int>(cele_z_textu(vozy[i])) : 0;
 }
 
@@ -45,7 +45,7 @@ Text prvni_urceni(const Vlak& v) {
 }
 
 // Row of a number: today's, else the first one.
-const GvdVlak* radek_gvd(double cislo) {
+const GvdVlak* radek_s_cislem(double cislo) {
     const GvdVlak* nalezeny = nullptr;
     for (const GvdVlak& r : gvd_vlaky) {
         if (r.cislo != cislo)
@@ -85,7 +85,7 @@ std::int32_t odkud_lokomotiva(const Vlak& v) {
     for (const GvdVlak& r : gvd_vlaky) {
         const std::size_t pocet = std::min(r.vozy.size(), r.vozy_vlaky.size());
         for (std::size_t i = 0; i < pocet; ++i)
-            if (r.vozy_vlaky[i] == v.cislo && rada_vozu(r.vozy, i) == v.loko_rada2 && aktivni_dnes(r))
+            if (r.vozy_vlaky[i] == v.cislo && rada_na(r.vozy, i) == v.loko_rada2 && aktivni_dnes(r))
                 return r.cislo;
     }
     return zobrazene_cislo(v);
@@ -112,7 +112,7 @@ Text prace_lokomotiv(const Vlak& v) {
         text += text_cisla(pomocna);
     }
     const bool ceka_na_vymenu = (v.priznaky & (kDruheLoko | kPripraz)) == 0 && v.loko_rada2 != 0 &&
-                                rada_vozu(v.vozy, 0) != v.loko_rada2;
+                                rada_na(v.vozy, 0) != v.loko_rada2;
     if (ceka_na_vymenu) {
         text += z_thj ? "; z THJ lok.ř."_cz : "; z THN lok.ř."_cz;
         text += text_cisla(v.loko_rada2) + "(" + text_cisla(odkud_lokomotiva(v)) + ")";
@@ -183,7 +183,7 @@ Text odjezd_z_hlavniho(const Vlak& v) {
     if (i < v.odjezd.size() && v.odjezd[i] >= 0)
         return veta(v.odjezd[i], v.stanice.back());
     const auto cislo = ciselny_text(urceni);
-    const GvdVlak* dalsi = cislo ? radek_gvd(*cislo) : nullptr;
+    const GvdVlak* dalsi = cislo ? radek_s_cislem(*cislo) : nullptr;
     if (dalsi == nullptr)
         return {};
     for (std::size_t k = 0; k < dalsi->stanice.size(); ++k)
@@ -198,7 +198,7 @@ Text text_posunu(int vlak, const Vlak& v) {
     const std::int32_t predchozi = cislo_vlaku_pred(vlak);
     const std::int32_t cislo = predchozi != 0 ? predchozi : zobrazene_cislo(v);
     Text text;
-    if (v.vozy.size() > 1 || rada_vozu(v.vozy, 0) > kPosledniLokomotiva)
+    if (v.vozy.size() > 1 || rada_na(v.vozy, 0) > kPosledniLokomotiva)
         text = " Souprava vlaku " + text_cisla(cislo);
     else if (stroj && urceni == "DKV")
         text = " Lokomotiva do DKV";
@@ -290,7 +290,7 @@ void napln_stranku(TextPohled text, int vlak) {
     Prvek& radek = relief.lblIinfo_o_vlaku[0];
     radek.text = Text(text) + text_vlaku(vlak);
     radek.stav = text_cisla(vlak);
-    napln_vozy(vlaky[static_cast<std::size_t>(vlak)]);
+    napln_vozy(vlak_c(vlak));
 }
 
 } // namespace
@@ -300,7 +300,7 @@ int vlak_na_panelu() {
     const auto cislo = ciselny_text(skryty);
     if (!cislo || *cislo < 0 || *cislo >= static_cast<double>(vlaky.size()))
         return kZadny;
-    return vlak_c(static_cast<int>(*cislo)) != nullptr ? static_cast<int>(*cislo) : kZadny;
+    return skutecny_vlak(static_cast<int>(*cislo)) != nullptr ? static_cast<int>(*cislo) : kZadny;
 }
 
 int vozu_na_panelu() {
@@ -315,7 +315,7 @@ bool info_ukazuje(int vlak) {
 }
 
 Text text_vlaku(int vlak) {
-    const Vlak* v = vlak_c(vlak);
+    const Vlak* v = skutecny_vlak(vlak);
     if (v == nullptr)
         return {};
     return v->posun ? text_posunu(vlak, *v) : text_jedouciho(*v);
@@ -325,7 +325,7 @@ Text navazny_spoj(TextPohled cislo) {
     const auto hledane = ciselny_text(cislo);
     if (!hledane || *hledane == 0)
         return {};
-    const GvdVlak* spoj = radek_gvd(*hledane);
+    const GvdVlak* spoj = radek_s_cislem(*hledane);
     for (const GvdVlak& r : gvd_vlaky)
         if (r.vozy_vlaky.size() >= 2 && r.vozy_vlaky[1] == *hledane && aktivni_dnes(r)) {
             spoj = &r;
@@ -379,14 +379,14 @@ void ukaz_stranku_vlaku() {
 }
 
 void info_o_vlaku(TextPohled text, int vlak) {
-    if (vlak_c(vlak) == nullptr)
+    if (skutecny_vlak(vlak) == nullptr)
         return;
     napln_stranku(text, vlak);
     prepni_panel(Panel::vlak);
 }
 
 void info_podle_gvd(std::int32_t cislo) {
-    const GvdVlak* radek = radek_gvd(cislo);
+    const GvdVlak* radek = radek_s_cislem(cislo);
     if (radek == nullptr)
         return;
     uvolni_vozy();

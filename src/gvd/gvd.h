@@ -81,6 +81,10 @@ Text popis_gvd(TextPohled soubor);
 
 // --- at any time, without change
 
+// Row of the timetable. An index that is none is the run-time error 9.
+inline const GvdVlak& radek_gvd(int gvd_index) {
+    return gvd_vlaky.at(static_cast<std::size_t>(gvd_index));
+}
 // The row runs today: on its weekday, or as a train of category PP when those are allowed. The day is
 // the one that stood at the last midnight step.
 bool aktivni_dnes(const GvdVlak& radek);

@@ -26,16 +26,11 @@
 
 namespace {
 
-constexpr int kDen_min = 1440;
 constexpr TextPohled kZpozdeniVlaku = "Zpoždění vlaku "_cz;
 constexpr std::size_t kMistoCisla = 16;    // the number in a delay line, counted from 1
 constexpr std::int16_t kPoOhlaseni = 100;  // the announced train no longer is the nearest one
 constexpr std::int32_t kCislaDepa = 70000; // numbers from here run as trains at the depot of VH
 constexpr int kLoko731 = 731;
-
-const GvdVlak& radek(int gvd_index) {
-    return gvd_vlaky.at(static_cast<std::size_t>(gvd_index));
-}
 
 bool je_souhlasova(int stanice) {
     return stanice == 19 || stanice == 20 || stanice == 5;
@@ -102,7 +97,7 @@ void losuj_zpozdeni(int gvd_index) {
     const std::int16_t minut = nahodne_zpozdeni(gvd_index);
     if (minut <= 0)
         return;
-    relief.lstZpravy.radky.push_back(Text(kZpozdeniVlaku) + text_cisla(radek(gvd_index).cislo) + " +" +
+    relief.lstZpravy.radky.push_back(Text(kZpozdeniVlaku) + text_cisla(radek_gvd(gvd_index).cislo) + " +" +
                                      text_cisla(minut) + Text("´"_cz));
     simulace.nova_zprava = true;
     precti_zpozdeni();
@@ -114,7 +109,7 @@ void objev_vlak(int gvd_index, int element, bool smer, bool muze_jet) {
     const std::int16_t v = vytvor_vlak(smer, element, muze_jet, kNaVstupu, gvd_index);
     pridej_do_tabulky(v);
     barvi_prvek(element, muze_jet ? barvy::cervena : barvy::zelena);
-    pis_cislo(element, text_cisla(radek(gvd_index).cislo));
+    pis_cislo(element, text_cisla(radek_gvd(gvd_index).cislo));
     postav_cesty_z(element);
 }
 
@@ -127,7 +122,7 @@ void rozjed(std::int32_t cislo, std::span<const int> prvky) {
         barvi_prvek(e, barvy::cervena);
         nastav_tag(e, "400");
         const int v = spust_vlak(cislo);
-        const Vlak& vlak = vlaky[static_cast<std::size_t>(v)];
+        const Vlak& vlak = vlak_c(v);
         if (vlak.cislo == cislo || vlak.cislo2 == cislo)
             vlak_v_cili(e, v);
         return;
@@ -140,7 +135,7 @@ void vstup_z_posty(int gvd_index) {
     if (!volny_prvek(kPosta))
         return;
     const std::int16_t v = vytvor_vlak(false, kPosta, true, kNaVstupu, gvd_index);
-    Vlak& vlak = vlaky[static_cast<std::size_t>(v)];
+    Vlak& vlak = vlak_c(v);
     if (!vlak.vozy_urceni.empty())
         vlak.vozy_urceni.front() = "ZAL";
     ++stav_provozu.pocet_zaloh;
@@ -154,10 +149,10 @@ void vstup_z_posty(int gvd_index) {
 void vstup_z_depa_vh(int gvd_index) {
     constexpr int kDepoVH = 25;
     bool jsou_vozy = false;
-    if (!volny_prvek(kDepoVH) || kontrola_soupravy(radek(gvd_index).cislo, jsou_vozy) != 0)
+    if (!volny_prvek(kDepoVH) || kontrola_soupravy(radek_gvd(gvd_index).cislo, jsou_vozy) != 0)
         return;
     const std::int16_t v = vytvor_vlak(true, kDepoVH, true, kNaVstupu, gvd_index);
-    Vlak& vlak = vlaky[static_cast<std::size_t>(v)];
+    Vlak& vlak = vlak_c(v);
     const bool posun = vlak.cislo < kCislaDepa;
     vlak.posun = posun;
     pridej_do_tabulky(v);
@@ -237,7 +232,7 @@ void zapis_dalsi_vlak(const GvdVlak& r, int zbyva, int zpozdeni) {
 }
 
 void krok_radku(int gvd_index, int ted) {
-    const GvdVlak& r = radek(gvd_index);
+    const GvdVlak& r = radek_gvd(gvd_index);
     const bool aktivni = aktivni_dnes(r);
     if (!aktivni && zpozdeni_v_kroku(r.cislo) <= 0)
         return;
@@ -277,7 +272,7 @@ void krok_provozu() {
 }
 
 void vstup_v_minute(int gvd_index) {
-    const GvdVlak& r = radek(gvd_index);
+    const GvdVlak& r = radek_gvd(gvd_index);
     const int stanice = r.stanice.front();
     const auto objev_na = [&](std::span<const int> prvky, bool smer) {
         if (const int e = prvni_volny(prvky); e >= 0)
@@ -302,7 +297,7 @@ void vstup_v_minute(int gvd_index) {
 }
 
 void vstup_se_souhlasem(int gvd_index) {
-    const GvdVlak& r = radek(gvd_index);
+    const GvdVlak& r = radek_gvd(gvd_index);
     const int k = r.stanice.front() == 19 ? 0 : r.stanice.front() == 20 ? 1 : 2;
     const KonecTrati& konec = kKonceTrati[static_cast<std::size_t>(k)];
     if (!relief.lblSouhlas.je(k) || !je_kolej(konec.navestidlo) || !je_kolej(konec.usek))
@@ -336,7 +331,7 @@ void vstup_se_souhlasem(int gvd_index) {
 }
 
 void ohlaseni(int gvd_index) {
-    const GvdVlak& r = radek(gvd_index);
+    const GvdVlak& r = radek_gvd(gvd_index);
     const StaniceOhlaseni* s = ohlasovana(r.stanice.front());
     if (s == nullptr ||
         std::any_of(vlaky.begin(), vlaky.end(), [&r](const Vlak& v) { return v.cislo == r.cislo; }))
@@ -354,7 +349,7 @@ void ohlaseni(int gvd_index) {
 
 // Thresholds as they are written, draws in single precision: 0.9 itself is just below the first one.
 std::int16_t nahodne_zpozdeni(int gvd_index) {
-    const int druh = radek(gvd_index).druh;
+    const int druh = radek_gvd(gvd_index).druh;
     const double r1 = nahodne();
     int nejvyse = 30;
     bool zpozden = false;
@@ -387,7 +382,7 @@ void pridej_cekajici(std::int32_t cislo) {
 
 void vyrad_cekajici(int gvd_index) {
     std::vector<std::int32_t>& cekajici = souhlasy.cekajici_vlaky;
-    const auto misto = std::find(cekajici.begin(), cekajici.end(), radek(gvd_index).cislo);
+    const auto misto = std::find(cekajici.begin(), cekajici.end(), radek_gvd(gvd_index).cislo);
     if (misto == cekajici.end())
         return;
     if (cekajici.size() == 1)

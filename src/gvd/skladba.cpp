@@ -9,6 +9,7 @@
 #include "jizda/na_koleji.h"
 #include "jizda/souprava.h"
 #include "jizda/spojovani.h"
+#include "jizda/vlak.h"
 #include "zaklad/cisla.h"
 #include "zaklad/nahoda.h"
 #include "zaklad/soubory.h"
@@ -21,13 +22,11 @@
 
 namespace {
 
-constexpr int kDen_min = 1440;
 constexpr int kTratovePrvky = 600;            // line elements begin here
 constexpr int kPrvkySeSeznamem = 500;         // elements below have their list of trains from the start
 constexpr int kDepo538 = 538, kDepo569 = 569; // where sets come out of the depot of the main station
 constexpr int kJednotka = 560;                // electric unit: 560, 060, 560p
 constexpr std::uint8_t kPosilaVpredu = 1, kPripraz = 2;
-constexpr std::int16_t kJenNaPovel = -10; // departure only on the operator's order
 
 bool ma_ridici_vuz(int rada) {
     return rada == 943 || rada == 954;
@@ -176,7 +175,7 @@ void oznac_vymeny(Vlak& v) {
         return;
     for (std::size_t i = 0; i < v.stanice.size(); ++i)
         if (meni_lokomotivu(v.stanice[i]))
-            v.odjezd_realny[i] = kJenNaPovel;
+            v.odjezd_realny[i] = kNaPovel;
 }
 
 void srovnej_lokomotivy(Vlak& v) {
@@ -239,7 +238,7 @@ int vaha(TextPohled jmeno) {
 } // namespace
 
 std::int16_t vytvor_vlak(bool smer, int element, bool muze_jet, int index, int gvd_index) {
-    const GvdVlak& r = gvd_vlaky.at(static_cast<std::size_t>(gvd_index));
+    const GvdVlak& r = radek_gvd(gvd_index);
     const int i = novy_vlak();
     Vlak v;
     v.stanice_index = na_integer(index - 1);
@@ -284,7 +283,7 @@ std::int16_t vytvor_vlak(bool smer, int element, bool muze_jet, int index, int g
     oznac_vymeny(v);
     srovnej_lokomotivy(v);
 
-    vlaky[static_cast<std::size_t>(i)] = std::move(v);
+    vlak_c(i) = std::move(v);
     if (element < kPrvkySeSeznamem)
         pridej_na_kolej(element, i, smer, -1);
     if (index < 1)
@@ -309,7 +308,7 @@ std::vector<std::int16_t> dnesni_casy(const std::vector<std::int16_t>& casy) {
 }
 
 std::int32_t cislo_vlaku_pred(int vlak) {
-    const Vlak& v = vlaky.at(static_cast<std::size_t>(vlak));
+    const Vlak& v = vlak_c(vlak);
     for (const GvdVlak& r : gvd_vlaky)
         if (r.loko_rada == v.loko_rada && aktivni_dnes(r) && je_rada(r.navazny_vlak, v.cislo))
             return r.cislo;

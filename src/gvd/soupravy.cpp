@@ -19,21 +19,15 @@
 
 #include <algorithm>
 #include <array>
-#include <initializer_list>
 #include <optional>
 
 namespace {
 
-constexpr int kDen_min = 1440;
 constexpr int kLoko731 = 731;
 constexpr int kDepo538 = 538, kDepo569 = 569; // where sets come out of the depot of the main station
 constexpr TextPohled kZaloha = "ZAL";
 constexpr TextPohled kPosunova = "210"; // series of the shunting locomotive
 constexpr std::array kKolejeDepa = {558, 559, 560, 503, 509, 510};
-
-const GvdVlak& radek(int gvd_index) {
-    return gvd_vlaky.at(static_cast<std::size_t>(gvd_index));
-}
 
 // 0 fills the rest of a list of tracks; the relief does have an element of that number.
 bool volny_prvek(int e) {
@@ -54,10 +48,6 @@ bool je_cislo_vlaku(const Text& text, std::int32_t cislo) {
 // The train that the row's set goes on as; nothing for rows that keep no set.
 std::optional<std::int16_t> predava(const GvdVlak& r) {
     return r.vozy.size() > 1 && r.vozy_vlaky.size() > 1 ? std::optional(r.vozy_vlaky[1]) : std::nullopt;
-}
-
-bool je_jeden_z(int kod, std::initializer_list<int> kody) {
-    return std::find(kody.begin(), kody.end(), kod) != kody.end();
 }
 
 void nasad_posunovou(Vlak& v, std::size_t i) {
@@ -117,7 +107,7 @@ void vytvor_lokomotivu(int rada, int element, bool smer, TextPohled urceni, bool
     v.prijezd = {kZadny, na_integer(cas_min() + 7)};
     v.odjezd = {cas_min(), kZadny};
     v.odjezd_realny = v.odjezd;
-    vlaky[static_cast<std::size_t>(i)] = v;
+    vlak_c(i) = v;
     if (urceni == kZaloha) {
         ++stav_provozu.pocet_zaloh;
         if (rada == kLoko731)
@@ -175,18 +165,18 @@ std::int16_t kontrola_soupravy(std::int32_t cislo, bool& jsou_vozy) {
 }
 
 bool souprava_pripravena(int gvd_index, std::int16_t ted) {
-    const std::int32_t cislo = radek(gvd_index).cislo;
+    const std::int32_t cislo = radek_gvd(gvd_index).cislo;
     return std::none_of(gvd_vlaky.begin(), gvd_vlaky.end(), [=](const GvdVlak& r) {
         return predava(r) == cislo && r.odjezdy.front() > ted && aktivni_dnes(r);
     });
 }
 
 void stanice_start(int gvd_index) {
-    const GvdVlak& r = radek(gvd_index);
+    const GvdVlak& r = radek_gvd(gvd_index);
     bool jsou_vozy = false;
     if (kontrola_soupravy(r.cislo, jsou_vozy) != 0 || (r.vozy.size() == 1 && jsou_vozy))
         return;
-    const int element = je_jeden_z(r.stanice.back(), {19, 20, 1}) ? kDepo569 : kDepo538;
+    const int element = je_v(r.stanice.back(), {19, 20, 1}) ? kDepo569 : kDepo538;
     if (!je_kolej(element))
         return;
     if (!je_volna(element)) {
@@ -195,7 +185,7 @@ void stanice_start(int gvd_index) {
     }
     vyrad_cekajici(gvd_index);
     const int i = vytvor_vlak(true, element, true, kNaVstupu, gvd_index);
-    Vlak& v = vlaky[static_cast<std::size_t>(i)];
+    Vlak& v = vlak_c(i);
     v.posun = true;
     pridej_do_tabulky(i);
     barvi_prvek(element, barvy::cervena);
@@ -209,26 +199,26 @@ void stanice_start(int gvd_index) {
 }
 
 void posun_po_vytvoreni(int vlak) {
-    const Vlak& v = vlaky.at(static_cast<std::size_t>(vlak));
-    if (v.vozy.empty() || je_jeden_z(v.loko_rada, {560, 943, 954}) ||
+    const Vlak& v = vlak_c(vlak);
+    if (v.vozy.empty() || je_v(v.loko_rada, {560, 943, 954}) ||
         (v.loko_rada == 843 && v.vozy.back() == "943"))
         return;
     const int druha = v.stanice.size() > 1 ? v.stanice[1] : 0;
     const int treti = v.stanice.size() > 2 ? v.stanice[2] : 0;
     const int posledni = v.stanice.empty() ? 0 : v.stanice.back();
-    if (druha == 34 && je_jeden_z(treti, {8, 10, 11})) {
+    if (druha == 34 && je_v(treti, {8, 10, 11})) {
         obrat_soupravy(vlak);
         return;
     }
     // Both may hold, and the order of the vehicles is then as before: this is meant.
     if (posledni == 4 && druha == 7)
         obrat_soupravy(vlak);
-    if (je_jeden_z(druha, {5, 8, 1, 3, 20, 19, 10, 11}) || posledni == 4)
+    if (je_v(druha, {5, 8, 1, 3, 20, 19, 10, 11}) || posledni == 4)
         obrat_soupravy(vlak);
 }
 
 void pridej_posunovou(int vlak) {
-    Vlak& v = vlaky.at(static_cast<std::size_t>(vlak));
+    Vlak& v = vlak_c(vlak);
     const bool na_konec = !v.vozy.empty() && je_loko(v.vozy.front());
     for (auto* udaje : {&v.vozy, &v.vozy_urceni, &v.vozy_obrazek})
         udaje->insert(na_konec ? udaje->end() : udaje->begin(), Text{});
@@ -236,7 +226,7 @@ void pridej_posunovou(int vlak) {
 }
 
 void obrat_soupravy(int vlak) {
-    Vlak& v = vlaky.at(static_cast<std::size_t>(vlak));
+    Vlak& v = vlak_c(vlak);
     for (auto* udaje : {&v.vozy, &v.vozy_urceni, &v.vozy_obrazek})
         std::reverse(udaje->begin(), udaje->end());
     v.smer = true;

@@ -22,10 +22,6 @@
 
 namespace {
 
-const GvdVlak& radek(int gvd_index) {
-    return gvd_vlaky.at(static_cast<std::size_t>(gvd_index));
-}
-
 // 0 fills the rest of a list of tracks; the relief does have an element of that number.
 bool volny_prvek(int e) {
     return e != 0 && je_kolej(e) && je_volna(e);
@@ -34,10 +30,6 @@ bool volny_prvek(int e) {
 template <class Prvky> int prvni_volny(const Prvky& prvky) {
     const auto nalezeny = std::find_if(std::begin(prvky), std::end(prvky), volny_prvek);
     return nalezeny == std::end(prvky) ? -1 : *nalezeny;
-}
-
-bool je_jeden_z(int kod, std::initializer_list<int> kody) {
-    return std::find(kody.begin(), kody.end(), kod) != kody.end();
 }
 
 // The sense of a train that stands at `stanice` and goes on to `dalsi`.
@@ -194,7 +186,7 @@ std::optional<Umisteni> vyber_koleje(int stanice, int predchozi, int dalsi, int 
 } // namespace
 
 void umisti_vlak_do_stanice(int stanice, int predchozi, int dalsi, int index, int gvd_index) {
-    const auto kde = vyber_koleje(stanice, predchozi, dalsi, index, radek(gvd_index));
+    const auto kde = vyber_koleje(stanice, predchozi, dalsi, index, radek_gvd(gvd_index));
     if (!kde)
         return;
     const int element = prvni_volny(kde->koleje);
@@ -211,13 +203,13 @@ void umisti_vlak_do_stanice(int stanice, int predchozi, int dalsi, int index, in
 int umisti_vlak(int element, bool smer, int index, int gvd_index) {
     barvi_prvek(element, barvy::cervena);
     relief.kolej[element].stav = text_cisla(delka_koleje(element) - 20);
-    pis_cislo(element, text_cisla(radek(gvd_index).cislo));
+    pis_cislo(element, text_cisla(radek_gvd(gvd_index).cislo));
     const int i = vytvor_vlak(smer, element, true, index, gvd_index);
-    Vlak& v = vlaky[static_cast<std::size_t>(i)];
+    Vlak& v = vlak_c(i);
     if (element == 96 || element > 600) {
         v.omezeni_ukonceno = true;
         v.rychlost_cesty = 100;
-        if (je_jeden_z(element, {638, 654, 606, 96}))
+        if (je_v(element, {638, 654, 606, 96}))
             v.prvky_poloha.front() = 2;
     }
     pridej_do_tabulky(i);
@@ -254,7 +246,7 @@ void cesta_na_trati(int element, int vlak) {
     c.Vlak = na_integer(vlak);
 
     if (element == 96)
-        pis_cislo(632, text_cisla(zobrazene_cislo(vlaky[static_cast<std::size_t>(vlak)])));
+        pis_cislo(632, text_cisla(zobrazene_cislo(vlak_c(vlak))));
     if (!relief.lblSouhlas2.je(vzor->sipka))
         return;
     Prvek& sipka = relief.lblSouhlas2[vzor->sipka];

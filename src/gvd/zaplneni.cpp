@@ -1,6 +1,7 @@
 // gvd/zaplneni.cpp - fills the layout at the start.
 #include "gvd/zaplneni.h"
 
+#include "app/cas.h"
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
 #include "gvd/soupravy.h"
@@ -11,14 +12,9 @@
 
 namespace {
 
-constexpr int kDen_min = 1440;
 constexpr int kLoko731 = 731;
 constexpr int kZalohaPriStartu = 509; // track of the first standby locomotive
 constexpr int kPredPristavenim = 29;  // minutes a set stands at the platform before it leaves
-
-const GvdVlak& radek(int gvd_index) {
-    return gvd_vlaky.at(static_cast<std::size_t>(gvd_index));
-}
 
 bool bez_prijezdu(const GvdVlak& r) {
     const int prvni = r.stanice.front();
@@ -26,7 +22,7 @@ bool bez_prijezdu(const GvdVlak& r) {
 }
 
 void umisti_radek(int gvd_index, std::int16_t ted, bool jen_odjinud) {
-    const GvdVlak& r = radek(gvd_index);
+    const GvdVlak& r = radek_gvd(gvd_index);
     if (jen_odjinud == (r.stanice.front() == 9) || !aktivni_dnes(r))
         return;
     int od = r.prijezdy.front();
@@ -78,8 +74,8 @@ void lokomotiva_radku(const GvdVlak& r, std::int16_t ted) {
     if (n < 0)
         return;
     bool jsou_vozy = false;
-    kontrola_soupravy(radek(n).cislo, jsou_vozy);
-    if (!jsou_vozy && (!souprava_pripravena(n, ted) || jede_pres_hlavni(radek(n), ted)))
+    kontrola_soupravy(radek_gvd(n).cislo, jsou_vozy);
+    if (!jsou_vozy && (!souprava_pripravena(n, ted) || jede_pres_hlavni(radek_gvd(n), ted)))
         vytvor_lokomotivu(r.loko_rada, 0, false, r.navazny_vlak, true);
 }
 

@@ -26,7 +26,7 @@ bool je_prvek(int n) {
 
 // The record c exists and is a route.
 bool je_cesta(int c) {
-    return c < static_cast<int>(cesty.size()) && cesty[static_cast<std::size_t>(c)].zacatek >= 0;
+    return c < static_cast<int>(cesty.size()) && cesta_c(c).zacatek >= 0;
 }
 
 // Calls `co(prvek, cesta)` for each element of each route, once for an element that stands there twice.
@@ -34,7 +34,7 @@ template <class Co> void pro_kazdy_prvek(int pocet_cest, Co co) {
     std::array<int, kNejvyssiPrvek + 1> naposled;
     naposled.fill(-1);
     for (int c = 0; c < pocet_cest; ++c)
-        for (const std::int16_t n : cesty[static_cast<std::size_t>(c)].prvky)
+        for (const std::int16_t n : cesta_c(c).prvky)
             if (je_prvek(n) && naposled[static_cast<std::size_t>(n)] != c) {
                 naposled[static_cast<std::size_t>(n)] = c;
                 co(static_cast<std::size_t>(n), c);

@@ -31,7 +31,6 @@
 #include "zaklad/platforma.h"
 
 #include <algorithm>
-#include <initializer_list>
 
 namespace {
 
@@ -39,12 +38,6 @@ constexpr int kKonecUseku_m = 9;      // the last metres of a section are never 
 constexpr int kDelkaVyhybky_m = 20;   // of train length that a switch or a derailer takes
 constexpr int kPodruhemVlaku_m = 150; // where a train finds itself when the one before it has left the track
 
-Vlak& vlak_c(int v) {
-    return vlaky[static_cast<std::size_t>(v)];
-}
-Cesta& cesta_c(int c) {
-    return cesty[static_cast<std::size_t>(c)];
-}
 int pocet_cest() {
     return static_cast<int>(cesty.size());
 }
@@ -54,18 +47,11 @@ int posledni(const Cesta& cesta) {
 std::int16_t prvek_c(const Cesta& cesta, int i) {
     return cesta.prvky[static_cast<std::size_t>(i)];
 }
-// Kinds and positions beyond the end read as 0.
 std::uint8_t druh_c(const Cesta& cesta, int i) {
-    return static_cast<std::size_t>(i) < cesta.druhy.size() ? cesta.druhy[static_cast<std::size_t>(i)]
-                                                            : std::uint8_t{0};
+    return druh_na(cesta, static_cast<std::size_t>(i));
 }
 std::uint8_t poloha_c(const Cesta& cesta, int i) {
-    return static_cast<std::size_t>(i) < cesta.polohy.size() ? cesta.polohy[static_cast<std::size_t>(i)]
-                                                             : std::uint8_t{0};
-}
-
-bool je_v(int prvek, std::initializer_list<int> cisla) {
-    return std::find(cisla.begin(), cisla.end(), prvek) != cisla.end();
+    return poloha_na(cesta, static_cast<std::size_t>(i));
 }
 
 // --- the route under the head

@@ -69,7 +69,7 @@ bool je_volno(int kolej) {
 int nova_lokomotiva(TextPohled rada, std::size_t pocet, int kolej, bool smer,
                     std::array<std::uint8_t, 2> odkud_kam, int jizda_min) {
     const int v = novy_vlak();
-    Vlak& vlak = vlaky[static_cast<std::size_t>(v)];
+    Vlak& vlak = vlak_c(v);
     vlak.cislo = na_long(dolu(static_cast<double>(nahodne()) * 200.0 + 74'800.0));
     vlak.druh = kLokomotivniVlak;
     vlak.smer = smer;
@@ -130,8 +130,8 @@ void loko_menu(int misto, TextPohled rada) {
     const bool dvojice = rada == kDvojice;
     const int v =
         nova_lokomotiva(dvojice ? "230" : rada, dvojice ? 2 : 1, brana->kolej, brana->smer, {27, 12}, 2);
-    vlaky[static_cast<std::size_t>(v)].delka = dvojice ? 36 : 18;
-    vlaky[static_cast<std::size_t>(v)].posun = true;
+    vlak_c(v).delka = dvojice ? 36 : 18;
+    vlak_c(v).posun = true;
     pridej_na_kolej(brana->kolej, v, brana->smer, -1);
     barvi_prvek(brana->kolej, barvy::cervena);
     nastav_metry(brana->kolej, 500);
@@ -141,11 +141,11 @@ void loko_vh_menu(TextPohled rada) {
     if (std::find(kRadyVh.begin(), kRadyVh.end(), rada) == kRadyVh.end() || !je_volno(kKolejVh))
         return;
     const int v = nova_lokomotiva(rada, 1, kKolejVh, true, {34, 9}, 7);
-    vlaky[static_cast<std::size_t>(v)].delka = 20;
+    vlak_c(v).delka = 20;
     pridej_na_kolej(kKolejVh, v, true, -1);
     barvi_prvek(kKolejVh, barvy::cervena);
     nastav_metry(kKolejVh, 200);
     pridej_do_tabulky(v);
-    pis_cislo(kKolejVh, text_cisla(vlaky[static_cast<std::size_t>(v)].cislo));
+    pis_cislo(kKolejVh, text_cisla(vlak_c(v).cislo));
     postav_cesty_z(kKolejVh);
 }

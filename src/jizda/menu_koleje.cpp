@@ -36,9 +36,6 @@ constexpr std::int16_t kOtazkaCislaVlaku = 9; // what an Enter answers
 
 constexpr Barva kZvyraznenyRadek = 0xFF00FF;
 
-Vlak& vlak_c(int v) {
-    return vlaky[static_cast<std::size_t>(v)];
-}
 bool je_vlak(int v) {
     return v >= 0 && static_cast<std::size_t>(v) < vlaky.size() && vlak_c(v).cislo > 0;
 }
@@ -61,7 +58,7 @@ void vyber_vlaky(int e) {
     if (zaznam < 0)
         return;
     std::size_t i = 0;
-    for (const std::int16_t v : koleje_vlaky[static_cast<std::size_t>(zaznam)].vlaky) {
+    for (const std::int16_t v : kolej_vlaky_c(zaznam).vlaky) {
         if (!je_vlak(v) || i == kVlakuVMenu)
             continue;
         stav_menu_koleje.vlak[i] = v;
@@ -210,7 +207,7 @@ int jediny_vlak(int e) {
     const int zaznam = zaznam_koleje(e);
     if (zaznam < 0)
         return kZadny;
-    const auto& seznam = koleje_vlaky[static_cast<std::size_t>(zaznam)].vlaky;
+    const auto& seznam = kolej_vlaky_c(zaznam).vlaky;
     return seznam.size() == 1 ? seznam.front() : kZadny;
 }
 
@@ -219,7 +216,7 @@ int vlak_s_cislem(int e, std::int32_t cislo) {
     const int zaznam = zaznam_koleje(e);
     if (zaznam < 0)
         return kZadny;
-    for (const std::int16_t v : koleje_vlaky[static_cast<std::size_t>(zaznam)].vlaky)
+    for (const std::int16_t v : kolej_vlaky_c(zaznam).vlaky)
         if (je_vlak(v) && !vlak_c(v).posun && zobrazene_cislo(vlak_c(v)) == cislo)
             return v;
     return kZadny;

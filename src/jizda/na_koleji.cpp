@@ -18,13 +18,12 @@ bool je_stitek_trati(int stitek) {
 }
 
 Text text_vlaku(int vlak) {
-    return vlak < 0 ? Text{} : text_cisla(zobrazene_cislo(vlaky[static_cast<std::size_t>(vlak)]));
+    return vlak < 0 ? Text{} : text_cisla(zobrazene_cislo(vlak_c(vlak)));
 }
 
 // First train in [od, po) that is no shunting movement; -1 when there is none.
 template <class It> int prvni_vlak(It od, It po) {
-    const It nalezeny = std::find_if(
-        od, po, [](std::int16_t v) { return v >= 0 && !vlaky[static_cast<std::size_t>(v)].posun; });
+    const It nalezeny = std::find_if(od, po, [](std::int16_t v) { return v >= 0 && !vlak_c(v).posun; });
     return nalezeny == po ? -1 : *nalezeny;
 }
 
@@ -70,7 +69,7 @@ template <class Podminka> void uber_ze_seznamu(int vlak, Podminka podminka) {
         uber_z_koleje(prvek, vlak);
         if (vlak_na_koleji(prvek))
             continue;
-        const std::int32_t cislo = zobrazene_cislo(vlaky[static_cast<std::size_t>(vlak)]);
+        const std::int32_t cislo = zobrazene_cislo(vlak_c(vlak));
         smaz_cislo_z_dvou(prvek, cislo);
         pis_cislo(prvek, text_cisla(cislo), true);
     }
@@ -87,7 +86,7 @@ int zaznam_koleje(int prvek) {
 
 bool vlak_na_koleji(int prvek) {
     const int zaznam = zaznam_koleje(prvek);
-    return zaznam >= 0 && koleje_vlaky[static_cast<std::size_t>(zaznam)].vlaky.front() >= 0;
+    return zaznam >= 0 && kolej_vlaky_c(zaznam).vlaky.front() >= 0;
 }
 
 void pridej_na_kolej(int prvek, int vlak, bool smer, int vedle) {
@@ -98,7 +97,7 @@ void pridej_na_kolej(int prvek, int vlak, bool smer, int vedle) {
         zaznam = static_cast<int>(koleje_vlaky.size());
         koleje_vlaky.push_back({static_cast<std::int16_t>(prvek), {kZadny}});
     }
-    std::vector<std::int16_t>& seznam = koleje_vlaky[static_cast<std::size_t>(zaznam)].vlaky;
+    std::vector<std::int16_t>& seznam = kolej_vlaky_c(zaznam).vlaky;
     const auto novy = static_cast<std::int16_t>(vlak);
     if (seznam.front() < 0) {
         seznam.front() = novy;
@@ -110,7 +109,7 @@ void pridej_na_kolej(int prvek, int vlak, bool smer, int vedle) {
             ++misto;
         seznam.insert(misto, novy);
     }
-    gtn_zapis(prvek, gtn::vlak_na_kolej, zobrazene_cislo(vlaky[static_cast<std::size_t>(vlak)]));
+    gtn_zapis(prvek, gtn::vlak_na_kolej, zobrazene_cislo(vlak_c(vlak)));
     zobraz_kolej(zaznam);
 }
 
@@ -118,11 +117,11 @@ void uber_z_koleje(int prvek, int vlak) {
     const int zaznam = zaznam_koleje(prvek);
     if (zaznam < 0)
         return;
-    std::vector<std::int16_t>& seznam = koleje_vlaky[static_cast<std::size_t>(zaznam)].vlaky;
+    std::vector<std::int16_t>& seznam = kolej_vlaky_c(zaznam).vlaky;
     const auto misto = std::find(seznam.begin(), seznam.end(), vlak);
     if (misto == seznam.end())
         return;
-    gtn_zapis(prvek, gtn::vlak_z_koleje, zobrazene_cislo(vlaky[static_cast<std::size_t>(vlak)]));
+    gtn_zapis(prvek, gtn::vlak_z_koleje, zobrazene_cislo(vlak_c(vlak)));
     if (seznam.size() == 1) {
         seznam.front() = kZadny;
         return;
@@ -132,7 +131,7 @@ void uber_z_koleje(int prvek, int vlak) {
 }
 
 void zobraz_kolej(int zaznam) {
-    const KolejVlaky kolej = koleje_vlaky[static_cast<std::size_t>(zaznam)];
+    const KolejVlaky kolej = kolej_vlaky_c(zaznam);
     const int e = kolej.prvek;
     if (!je_cislo_koleje(e) || !je_kolej(e))
         return;
@@ -145,7 +144,7 @@ void zobraz_kolej(int zaznam) {
 void zobraz_cislo(int stitek, int prvek, int vlak) {
     if (vlak < 0)
         return;
-    if (!vlaky[static_cast<std::size_t>(vlak)].muze_jet) {
+    if (!vlak_c(vlak).muze_jet) {
         zobraz_cekani(vlak);
         return;
     }
@@ -165,8 +164,7 @@ void nastav_pozadi_stitku(int stitek, Barva pozadi) {
 }
 
 void uber_z_opustenych(int vlak) {
-    uber_ze_seznamu(vlak,
-                    [vlak](int prvek) { return !drzi_prvek(vlaky[static_cast<std::size_t>(vlak)], prvek); });
+    uber_ze_seznamu(vlak, [vlak](int prvek) { return !drzi_prvek(vlak_c(vlak), prvek); });
 }
 
 void uber_ze_vsech(int vlak) {

@@ -21,25 +21,14 @@
 
 #include <algorithm>
 #include <array>
-#include <initializer_list>
 
 namespace {
 
 constexpr int kMinutNaRozjezd = 5; // so long after the start the trains already under way are not told of
 
-Vlak& vlak_c(int v) {
-    return vlaky[static_cast<std::size_t>(v)];
-}
-const Cesta& cesta_c(int c) {
-    return cesty[static_cast<std::size_t>(c)];
-}
 int prvek_c(const Cesta& cesta, int i) {
     return cesta.prvky[static_cast<std::size_t>(i)];
 }
-bool je_v(int cislo, std::initializer_list<int> cisla) {
-    return std::find(cisla.begin(), cisla.end(), cislo) != cisla.end();
-}
-
 // --- warnings
 
 // The signal in front of which the route ends, and its name for the operator.

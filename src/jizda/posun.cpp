@@ -25,10 +25,6 @@ constexpr int kPrvniMotorovyVuz = 800;          // series from which on a lone v
 constexpr std::int32_t kPrvniSmyslene = 70'000; // made-up numbers lie above this one
 constexpr std::int32_t kZaSmyslenymi = 80'000;  // and below this one
 
-Vlak& vlak_c(int v) {
-    return vlaky[static_cast<std::size_t>(v)];
-}
-
 void odmitni(TextPohled veta) {
     zprava(" ZMENA "_cz, veta, barvy::bila, 0, false, 0xFFFFFF, barvy::cervena);
 }

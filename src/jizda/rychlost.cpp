@@ -16,10 +16,6 @@ constexpr int kRychlostTlaceni = 30; // km/h of a train pushed from behind
 constexpr int kRychlostPosunu = 30;  // km/h over a shunt or calling-on route
 constexpr int kRychlostVstupu = 100; // km/h over a route made for a train that enters the area
 
-Vlak& vlak_c(int v) {
-    return vlaky[static_cast<std::size_t>(v)];
-}
-
 struct RychlostPrvku {
     std::int16_t prvek;
     std::uint8_t rychlost;

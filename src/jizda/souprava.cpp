@@ -5,6 +5,10 @@
 
 #include <algorithm>
 
+double rada_vozu(TextPohled vuz) {
+    return cislo_z_textu(vuz);
+}
+
 bool je_loko(TextPohled vuz) {
     const auto rada = ciselny_text(vuz);
     return rada && *rada > 100 && *rada < 900;

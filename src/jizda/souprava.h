@@ -7,6 +7,8 @@
 #include "jizda/vlak.h"
 #include "zaklad/text.h"
 
+// Series of a vehicle as a number; 0 of one that is given by its type.
+double rada_vozu(TextPohled vuz);
 // The series is a number strictly between 100 and 900.
 bool je_loko(TextPohled vuz);
 // Every vehicle is a locomotive: a light engine or a group of them. False for a record without vehicles.

@@ -28,7 +28,6 @@
 namespace {
 
 constexpr int kDelkaLoko_m = 18;           // of a locomotive, and of a consist that would have none
-constexpr std::int16_t kNaPovel = -10;     // working departure of a stop that ends only by order
 constexpr std::uint8_t kRychlostDilu = 40; // line speed of a part that was split off
 constexpr int kPrvniMotorovyVuz = 800;     // series from which on a lone vehicle is a train of its own
 constexpr int kPrvniRidiciVuz = 900;       // driving trailers
@@ -36,12 +35,6 @@ constexpr int kPosledniVeStanici = 600;    // sections of lines are numbered abo
 constexpr int kKolejVytahu = 32;           // beside the stub of the locomotives
 constexpr int kKusaKolej = 574;            // that stub
 
-Vlak& vlak_c(int v) {
-    return vlaky[static_cast<std::size_t>(v)];
-}
-double rada(TextPohled vuz) {
-    return cislo_z_textu(vuz);
-}
 bool cely_na_prvku(const Vlak& v) {
     return !v.prvky.empty() && static_cast<std::size_t>(v.prvek_konec) + 1 == v.prvky.size();
 }
@@ -98,7 +91,7 @@ void spoj_vozy(int a, int b, bool zustava_b) {
 // operator has still to release; the one that it came by ends here.
 void predej_cesty(int zanikl, int zustal) {
     for (int c = static_cast<int>(cesty.size()) - 1; c >= 0; --c) {
-        Cesta& cesta = cesty[static_cast<std::size_t>(c)];
+        Cesta& cesta = cesta_c(c);
         if (cesta.Vlak != zanikl)
             continue;
         if (cesta.Umazat == 0 || (cesta.PN && !cesta.PN_zaver)) {
@@ -195,7 +188,7 @@ int vuz_s_dalsim_cislem(const Vlak& vlak) {
     return -1;
 }
 
-const GvdVlak* radek_gvd(double cislo) {
+const GvdVlak* radek_s_cislem(double cislo) {
     const auto radek = std::find_if(gvd_vlaky.begin(), gvd_vlaky.end(),
                                     [cislo](const GvdVlak& g) { return g.cislo == cislo; });
     return radek == gvd_vlaky.end() ? nullptr : &*radek;
@@ -240,7 +233,7 @@ bool musi_objet(const Vlak& vlak) {
         return false;
     const int druha = vlak.stanice[1];
     if (vlak.smer)
-        return (druha == 8 || druha == 11 || druha == 5) && rada(vlak.vozy.back()) < kPrvniRidiciVuz;
+        return (druha == 8 || druha == 11 || druha == 5) && rada_vozu(vlak.vozy.back()) < kPrvniRidiciVuz;
     return druha == 7;
 }
 
@@ -423,7 +416,8 @@ void zkrat_vlak(int v) {
 }
 
 void navazny_vlak(int v) {
-    if (vlak_c(v).vozy.empty() || (jen_loko(vlak_c(v)) && rada(vlak_c(v).vozy.front()) < kPrvniMotorovyVuz))
+    if (vlak_c(v).vozy.empty() ||
+        (jen_loko(vlak_c(v)) && rada_vozu(vlak_c(v).vozy.front()) < kPrvniMotorovyVuz))
         return;
     srovnej_seznamy(vlak_c(v));
     const int i = vuz_s_dalsim_cislem(vlak_c(v));
@@ -439,7 +433,7 @@ void navazny_vlak(int v) {
     const auto dalsi = ciselny_text(vlak_c(v).vozy_urceni.front());
     if (!dalsi || *dalsi == vlak_c(v).cislo)
         return;
-    const GvdVlak* radek = radek_gvd(*dalsi);
+    const GvdVlak* radek = radek_s_cislem(*dalsi);
     if (radek == nullptr)
         return;
     smaz_radek_vlaku(v);

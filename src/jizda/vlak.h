@@ -70,6 +70,7 @@ struct KolejVlaky {
 };
 
 inline constexpr std::size_t kPrvnichVlaku = 51; // records of a new simulation
+inline constexpr std::int16_t kNaPovel = -10;    // working departure of a stop that ends only by order
 
 extern std::vector<Vlak> vlaky;
 extern std::vector<KolejVlaky> koleje_vlaky; // grows by appending; the first record is a dummy
@@ -82,6 +83,14 @@ std::vector<KolejVlaky> prvni_koleje_vlaky();
 
 // --- at any time, without change
 
+// Train number v of the table. An index that is none is the run-time error 9.
+inline Vlak& vlak_c(int v) {
+    return vlaky.at(static_cast<std::size_t>(v));
+}
+// The same of koleje_vlaky.
+inline KolejVlaky& kolej_vlaky_c(int zaznam) {
+    return koleje_vlaky.at(static_cast<std::size_t>(zaznam));
+}
 // The train holds the track: one of its entries from the tail to the head.
 bool drzi_prvek(const Vlak& v, int kolej);
 // Another train than v holds the track.

@@ -19,28 +19,19 @@
 
 #include <algorithm>
 #include <array>
-#include <initializer_list>
 #include <span>
 
 namespace {
 
-constexpr std::int16_t kNaPovel = -10; // working departure of a stop that ends only on the operator's order
-constexpr int kCekaNaPovel = 10;       // minutes that such a stop shows
-constexpr int kNepojede = 99;          // minutes shown by a train that will not go by itself
-constexpr int kPobytVychozi = 5;       // least dwell where the train starts
-constexpr int kRychlostZTrati = 5;     // km/h at which a train starts from a stop on a line
-constexpr int kDen = 1440;
+constexpr int kCekaNaPovel = 10;   // minutes that such a stop shows
+constexpr int kNepojede = 99;      // minutes shown by a train that will not go by itself
+constexpr int kPobytVychozi = 5;   // least dwell where the train starts
+constexpr int kRychlostZTrati = 5; // km/h at which a train starts from a stop on a line
 
 constexpr Barva kPozadiTrati = 0x808000;  // label of a train that waits on a line
 constexpr Barva kPozadiMinuty = 0x00FFFF; // label in the last minute
 constexpr Barva kPozadiDvou = 0x808080;   // two minutes before
 
-Vlak& vlak_c(int v) {
-    return vlaky[static_cast<std::size_t>(v)];
-}
-bool je_v(int prvek, std::initializer_list<int> cisla) {
-    return std::find(cisla.begin(), cisla.end(), prvek) != cisla.end();
-}
 // A time of stop i; a list that is too short has none.
 std::int16_t cas_zastavky(const std::vector<std::int16_t>& casy, int i) {
     return i >= 0 && static_cast<std::size_t>(i) < casy.size() ? casy[static_cast<std::size_t>(i)]
@@ -55,9 +46,6 @@ int stanice_zastavky(const Vlak& vlak, int i) {
     return i >= 0 && static_cast<std::size_t>(i) < vlak.stanice.size()
                ? vlak.stanice[static_cast<std::size_t>(i)]
                : 0;
-}
-double rada(TextPohled vuz) {
-    return cislo_z_textu(vuz);
 }
 Text urceni(const Vlak& vlak, std::size_t i) {
     return i < vlak.vozy_urceni.size() ? vlak.vozy_urceni[i] : Text{};
@@ -124,7 +112,7 @@ bool je_na_posledni(const Vlak& vlak) {
 
 // The engine at one end is another one than the train goes on with, and it does not stay for the branch.
 bool ma_odejit(const Vlak& vlak, std::size_t i) {
-    return je_loko(vlak.vozy[i]) && rada(vlak.vozy[i]) != vlak.loko_rada2 && urceni(vlak, i) != "VH";
+    return je_loko(vlak.vozy[i]) && rada_vozu(vlak.vozy[i]) != vlak.loko_rada2 && urceni(vlak, i) != "VH";
 }
 
 // Tesk main station: the train gives up its locomotive when another series takes over.
@@ -139,7 +127,7 @@ void vymen_loko_v_tesku(int v) {
     if (odvesena < 0)
         return;
     Vlak& nova = vlak_c(odvesena);
-    if (nova.vozy.empty() || rada(nova.vozy.front()) <= 800 || urceni(nova, 0) == urceni(vlak_c(v), 0))
+    if (nova.vozy.empty() || rada_vozu(nova.vozy.front()) <= 800 || urceni(nova, 0) == urceni(vlak_c(v), 0))
         return;
     // A railcar goes on as a train of its own.
     if (nova.prvky.back() != 574 && je_ciselny(urceni(nova, 0)))
@@ -151,7 +139,7 @@ void vymen_loko_v_tesku(int v) {
 void vymen_loko_v_hajovicich(int v) {
     const Vlak& vlak = vlak_c(v);
     if (vlak.stanice_index <= 0 || !stoji_ve_stanici(vlak, 12) || vlak.loko_rada2 == 0 ||
-        vlak.vozy.size() < 2 || rada(vlak.vozy[0]) == vlak.loko_rada2)
+        vlak.vozy.size() < 2 || rada_vozu(vlak.vozy[0]) == vlak.loko_rada2)
         return;
     if (!je_loko(vlak.vozy[1]) || je_loko(vlak.vozy[0]))
         odvesit(v, 0, false);
@@ -485,9 +473,9 @@ void spocti_zpozdeni(int v, int kod) {
     if (zpozdeni == 1)
         zpozdeni = 0; // a minute late is on time: this is meant
     if (zpozdeni > 1300)
-        zpozdeni -= kDen;
+        zpozdeni -= kDen_min;
     else if (zpozdeni < -1000)
-        zpozdeni += kDen;
+        zpozdeni += kDen_min;
     vlak.zpozdeni = na_integer(zpozdeni);
 }
 

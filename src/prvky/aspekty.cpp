@@ -71,7 +71,7 @@ int dalsi_navest(int prvek) {
 TextPohled aspekt_text(int i) {
     if (i < 0 || static_cast<std::size_t>(i) >= cesty.size())
         return {};
-    const Cesta& c = cesty[static_cast<std::size_t>(i)];
+    const Cesta& c = cesta_c(i);
     if (!navestidla(c.zacatek).je(c.zacatek))
         return {};
     if (c.PN)

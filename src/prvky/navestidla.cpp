@@ -113,7 +113,7 @@ void menu_ab(int s) {
 // Routes that the program made for trains coming from the line (ZT 999) are never repeated: the signal
 // at their start stands on the line and is not set by the operator.
 void kopie_ab(int i) {
-    const Cesta& vzor = cesty[static_cast<std::size_t>(i)];
+    const Cesta& vzor = cesta_c(i);
     if (!vzor.VC || vzor.PN || vzor.ZT == kZTprogramu || !ab_zapnuto(vzor.zacatek))
         return;
     Cesta kopie = vzor;

@@ -15,7 +15,6 @@
 
 namespace {
 
-constexpr int kDen_min = 1440;
 constexpr int kHledanyRozdil_min = 100;        // a time mark further off than this is one of another day
 constexpr int kNejvyssiPoloha = 49;            // position of a switch
 constexpr std::size_t kNejviceZaznamu = 32768; // indices have 16 bits

@@ -47,7 +47,7 @@ Text jmeno_konce_cesty(const Cesta& c) {
 }
 
 Text radek(int i) {
-    const Cesta& c = cesty[static_cast<std::size_t>(i)];
+    const Cesta& c = cesta_c(i);
     Text text(radek_cesty::sirka, ' ');
     vloz_do(text, radek_cesty::cislo, text_cisla(c.ZT) + ".");
     vloz_do(text, radek_cesty::druh, !c.VC ? "PC" : c.PN ? "PN" : "VC");
