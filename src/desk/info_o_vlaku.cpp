@@ -4,6 +4,7 @@
 #include "app/cas.h"
 #include "app/simulace.h"
 #include "desk/zprava.h"
+#include "gvd/dopravny.h"
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
 #include "gvd/skladba.h"
@@ -27,7 +28,6 @@ constexpr int kPrvniNakladni = 10;       // categories below are passenger train
 constexpr int kLokomotivniVlak = 16;     // category of a light engine
 constexpr int kPosledniSoused = 6;       // codes up to here are neighbours: the train only passes
 constexpr int kPosledniLokomotiva = 800; // series above run without a locomotive
-constexpr int kTHN = 9, kTHJ = 12;       // the two ends of the main station
 
 // The train of an index; none for a free record.
 const Vlak* skutecny_vlak(int v) {
@@ -96,7 +96,7 @@ Text prace_lokomotiv(const Vlak& v) {
     const auto stavi = [&v](int kod) {
         return std::find(v.stanice.begin(), v.stanice.end(), kod) != v.stanice.end();
     };
-    const bool z_thj = stavi(kTHJ) && !stavi(kTHN);
+    const bool z_thj = stavi(dopravna::hajovice) && !stavi(dopravna::tesk);
     const bool osobni = v.druh < kPrvniNakladni, pripraz = (v.priznaky & kPripraz) != 0;
     const int pomocna = v.loko_rada2 != 0 ? v.loko_rada2 : v.loko_rada;
     Text text;
@@ -170,8 +170,8 @@ Vlak vlak_podle_gvd(const GvdVlak& r) {
 Text odjezd_z_hlavniho(const Vlak& v) {
     const std::size_t i = static_cast<std::size_t>(std::max<int>(v.stanice_index, 0));
     const Text urceni = prvni_urceni(v);
-    if (i >= v.stanice.size() || v.stanice[i] != kTHN || v.druh == kLokomotivniVlak || urceni == "ZAL" ||
-        v.vozy.size() < 2)
+    if (i >= v.stanice.size() || v.stanice[i] != dopravna::tesk || v.druh == kLokomotivniVlak ||
+        urceni == "ZAL" || v.vozy.size() < 2)
         return {};
     const auto veta = [](int minuta, int cil) {
         Text text = " (Tesk hl.n. odj. ";
@@ -187,7 +187,7 @@ Text odjezd_z_hlavniho(const Vlak& v) {
     if (dalsi == nullptr)
         return {};
     for (std::size_t k = 0; k < dalsi->stanice.size(); ++k)
-        if (dalsi->stanice[k] == kTHN && dalsi->odjezdy[k] >= 0)
+        if (dalsi->stanice[k] == dopravna::tesk && dalsi->odjezdy[k] >= 0)
             return veta(dalsi->odjezdy[k], dalsi->stanice.back());
     return {};
 }
@@ -336,7 +336,8 @@ Text navazny_spoj(TextPohled cislo) {
     Text text(zkratka_druhu(spoj->druh));
     text += " " + text_cisla(spoj->cislo);
     for (std::size_t i = 0; i < spoj->stanice.size(); ++i)
-        if ((spoj->stanice[i] == kTHN || spoj->stanice[i] == kTHJ) && spoj->prijezdy[i] >= 0) {
+        if ((spoj->stanice[i] == dopravna::tesk || spoj->stanice[i] == dopravna::hajovice) &&
+            spoj->prijezdy[i] >= 0) {
             text += " (příj. "_cz;
             text += text_minuty(spoj->prijezdy[i]) + " z ";
             text += kod_stanice(spoj->stanice.front());

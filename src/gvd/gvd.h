@@ -89,6 +89,11 @@ inline const GvdVlak& radek_gvd(int gvd_index) {
 // the one that stood at the last midnight step.
 bool aktivni_dnes(const GvdVlak& radek);
 
+// The row is counted from its first departure: it begins there, or comes from a neighbour with consent.
+bool bez_prijezdu(const GvdVlak& radek);
+// Minute of its entry: of that departure, else of its first arrival.
+std::int16_t cas_vstupu(const GvdVlak& radek);
+
 // Full name of a station or point, empty for an unknown code. -3 is the main station.
 TextPohled nazev_stanice(int kod);
 // Three-letter code; empty for points and stations that have none.

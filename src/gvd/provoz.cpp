@@ -8,6 +8,7 @@
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
 #include "desk/tabulka_vlaku.h"
+#include "gvd/dopravny.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"
 #include "gvd/soupravy.h"
@@ -31,16 +32,6 @@ constexpr std::size_t kMistoCisla = 16;    // the number in a delay line, counte
 constexpr std::int16_t kPoOhlaseni = 100;  // the announced train no longer is the nearest one
 constexpr std::int32_t kCislaDepa = 70000; // numbers from here run as trains at the depot of VH
 constexpr int kLoko731 = 731;
-
-bool je_souhlasova(int stanice) {
-    return stanice == 19 || stanice == 20 || stanice == 5;
-}
-
-// Minute that the row's entry is counted from.
-int zakladni_cas(const GvdVlak& r) {
-    return je_souhlasova(r.stanice.front()) || r.prijezdy.front() <= -1 ? r.odjezdy.front()
-                                                                        : r.prijezdy.front();
-}
 
 bool volny_prvek(int e) {
     return je_kolej(e) && je_volna(e);
@@ -175,10 +166,10 @@ struct StaniceOhlaseni {
 };
 constexpr std::uint8_t kMn = 15;
 constexpr std::array kOhlasovane = {
-    StaniceOhlaseni{6, true, 69, 66, {68, 67, 69, 66, 0}, false},
-    StaniceOhlaseni{1, true, 86, 89, {87, 88, 86, 89, 90}, true},
-    StaniceOhlaseni{2, true, 65, 62, {63, 64, 65, 62, 0}, false},
-    StaniceOhlaseni{4, false, 0, 43, {42, 41, 43, 0, 0}, false},
+    StaniceOhlaseni{dopravna::rokytno, true, 69, 66, {68, 67, 69, 66, 0}, false},
+    StaniceOhlaseni{dopravna::lhotin, true, 86, 89, {87, 88, 86, 89, 90}, true},
+    StaniceOhlaseni{dopravna::borovec, true, 65, 62, {63, 64, 65, 62, 0}, false},
+    StaniceOhlaseni{dopravna::dubnice, false, 0, 43, {42, 41, 43, 0, 0}, false},
 };
 
 std::span<const int> koleje_ohlaseni(const StaniceOhlaseni& s) {
@@ -237,12 +228,12 @@ void krok_radku(int gvd_index, int ted) {
     if (!aktivni && zpozdeni_v_kroku(r.cislo) <= 0)
         return;
     const int stanice = r.stanice.front();
-    int zbyva = (zakladni_cas(r) - ted) % kDen_min;
+    int zbyva = (cas_vstupu(r) - ted) % kDen_min;
     const bool ceka = je_cekajici(r.cislo);
     if (ceka)
-        zbyva = stanice == 9 ? 30 : 1;
-    if (zbyva == 20 && aktivni && simulace.zpozdeni_povoleno && stanice != 28 && stanice != 30 &&
-        stanice != 9 && stanice != 34)
+        zbyva = stanice == dopravna::tesk ? 30 : 1;
+    if (zbyva == 20 && aktivni && simulace.zpozdeni_povoleno &&
+        !je_v(stanice, {dopravna::dkv, dopravna::dkv_2, dopravna::tesk, dopravna::dkv_vh}))
         losuj_zpozdeni(gvd_index);
     const int zpozdeni = zpozdeni_v_kroku(r.cislo);
     if (!ceka)
@@ -252,11 +243,11 @@ void krok_radku(int gvd_index, int ted) {
         vstup_v_minute(gvd_index);
     else if (!aktivni)
         return;
-    else if (zbyva == 1 && je_souhlasova(stanice))
+    else if (zbyva == 1 && konec_ke_stanici(stanice) >= 0)
         vstup_se_souhlasem(gvd_index);
     else if (zbyva == 1 || zbyva == 2)
         ohlaseni(gvd_index);
-    else if (zbyva >= 16 && zbyva <= 30 && stanice == 9)
+    else if (zbyva >= 16 && zbyva <= 30 && stanice == dopravna::tesk)
         stanice_start(gvd_index);
 }
 
@@ -283,14 +274,14 @@ void vstup_v_minute(int gvd_index) {
         return;
     }
     switch (stanice) {
-    case 28:
+    case dopravna::dkv:
         if (cil_volny(112))
             objev_na(std::array{112}, false);
         break;
-    case 27: objev_na(std::array{55, 56}, false); break;
-    case 31: objev_na(std::array{91, 92}, true); break;
-    case 33: vstup_z_posty(gvd_index); break;
-    case 34: vstup_z_depa_vh(gvd_index); break;
+    case dopravna::hajovice_sn: objev_na(std::array{55, 56}, false); break;
+    case dopravna::hajovice_sn_2: objev_na(std::array{91, 92}, true); break;
+    case dopravna::posta: vstup_z_posty(gvd_index); break;
+    case dopravna::dkv_vh: vstup_z_depa_vh(gvd_index); break;
     default: // 30 too: its rows stand there for the sake of their vehicles
         break;
     }
@@ -298,9 +289,11 @@ void vstup_v_minute(int gvd_index) {
 
 void vstup_se_souhlasem(int gvd_index) {
     const GvdVlak& r = radek_gvd(gvd_index);
-    const int k = r.stanice.front() == 19 ? 0 : r.stanice.front() == 20 ? 1 : 2;
+    const int k = konec_ke_stanici(r.stanice.front());
+    if (!relief.lblSouhlas.je(k))
+        return;
     const KonecTrati& konec = kKonceTrati[static_cast<std::size_t>(k)];
-    if (!relief.lblSouhlas.je(k) || !je_kolej(konec.navestidlo) || !je_kolej(konec.usek))
+    if (!je_kolej(konec.navestidlo) || !je_kolej(konec.usek))
         return;
     Prvek& lampa = relief.lblSouhlas[k];
     if (!je_cekajici(r.cislo)) {
@@ -412,13 +405,12 @@ void postav_cesty_z(int e) {
 }
 
 void pridej_cestu_souhlasu(int k) {
-    constexpr std::array<std::int16_t, 3> kPrvniNavestidla = {284, 285, 317};
     const KonecTrati& konec = kKonceTrati.at(static_cast<std::size_t>(k));
     if (cesty.front().zacatek >= 0)
         cesty.emplace_back();
     Cesta& c = cesty.back();
     c = Cesta{};
-    c.zacatek = kPrvniNavestidla[static_cast<std::size_t>(k)];
+    c.zacatek = na_integer(konec.vjezd);
     c.konec = na_integer(konec.usek);
     c.prvky = {na_integer(konec.navestidlo), na_integer(konec.usek)};
     c.druhy = {druh_prvku::kolej, druh_prvku::kolej};

@@ -4,6 +4,7 @@
 #include "app/cas.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
+#include "gvd/dopravny.h"
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
 #include "jizda/na_koleji.h"
@@ -40,24 +41,24 @@ bool je_rada(const Text& vuz, int rada) {
 
 std::uint8_t prvni_rychlost(int stanice, std::uint8_t rychlost) {
     switch (stanice) {
-    case 1:
-    case 6: return std::min<std::uint8_t>(rychlost, 100);
-    case 2:
-    case 5:
-    case 10:
-    case 11:
-    case 12: return 70;
-    case 9:
-    case 16:
-    case 17:
-    case 18: return 40;
-    case 13: return 100;
-    case 19:
-    case 20: return std::min<std::uint8_t>(rychlost, 65);
-    case 27:
-    case 28:
-    case 30:
-    case 31: return 60;
+    case dopravna::lhotin:
+    case dopravna::rokytno: return std::min<std::uint8_t>(rychlost, 100);
+    case dopravna::borovec:
+    case dopravna::vrbice:
+    case dopravna::kamenec:
+    case dopravna::mokrina:
+    case dopravna::hajovice: return 70;
+    case dopravna::tesk:
+    case dopravna::pvs:
+    case dopravna::ona:
+    case dopravna::onb: return 40;
+    case dopravna::knizeci_luka: return 100;
+    case dopravna::polska_lhota:
+    case dopravna::hvozdy: return std::min<std::uint8_t>(rychlost, 65);
+    case dopravna::hajovice_sn:
+    case dopravna::dkv:
+    case dopravna::dkv_2:
+    case dopravna::hajovice_sn_2: return 60;
     default: return 80;
     }
 }
@@ -136,7 +137,7 @@ void nasad(Vlak& v, std::size_t i, int rada) {
 }
 
 bool meni_lokomotivu(int stanice) {
-    return stanice == 9 || stanice == 12;
+    return stanice == dopravna::tesk || stanice == dopravna::hajovice;
 }
 
 // A train that is placed on its way has already changed its locomotive where it has been.
@@ -154,7 +155,7 @@ void lokomotivy_na_ceste(Vlak& v, int index) {
             v.vozy_obrazek[1] = v.vozy_obrazek[2];
         }
     }
-    if (!ma_druhy || std::find(v.stanice.begin(), po, 12) == po)
+    if (!ma_druhy || std::find(v.stanice.begin(), po, dopravna::hajovice) == po)
         return;
     const int pomocna = v.loko_rada2 != 0 ? v.loko_rada2 : v.loko_rada;
     if ((v.priznaky & kPosilaVpredu) != 0)
@@ -191,10 +192,7 @@ void srovnej_lokomotivy(Vlak& v) {
 
 // Minutes by which a train comes late to its entry.
 std::int16_t zpozdeni_na_vstupu(const GvdVlak& r) {
-    const int prvni = r.stanice.front();
-    const bool odjezdem = r.prijezdy.front() <= -1 || prvni == 5 || prvni == 19 || prvni == 20;
-    const int t = odjezdem ? r.odjezdy.front() : r.prijezdy.front();
-    return na_integer(std::max(minuta_dne(cas_hodin()) - t, 0));
+    return na_integer(std::max(minuta_dne(cas_hodin()) - cas_vstupu(r), 0));
 }
 
 void pipni_na_novy_vlak() {

@@ -6,6 +6,7 @@
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
 #include "desk/tabulka_vlaku.h"
+#include "gvd/dopravny.h"
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
 #include "gvd/skladba.h"
@@ -103,7 +104,7 @@ void vytvor_lokomotivu(int rada, int element, bool smer, TextPohled urceni, bool
     v.prvky_druh = {druh_prvku::kolej};
     v.prvky_poloha = {2};
     v.prvek_konec = 0;
-    v.stanice = {34, 9};
+    v.stanice = {dopravna::dkv_vh, dopravna::tesk};
     v.prijezd = {kZadny, na_integer(cas_min() + 7)};
     v.odjezd = {cas_min(), kZadny};
     v.odjezd_realny = v.odjezd;
@@ -176,7 +177,9 @@ void stanice_start(int gvd_index) {
     bool jsou_vozy = false;
     if (kontrola_soupravy(r.cislo, jsou_vozy) != 0 || (r.vozy.size() == 1 && jsou_vozy))
         return;
-    const int element = je_v(r.stanice.back(), {19, 20, 1}) ? kDepo569 : kDepo538;
+    const int element = je_v(r.stanice.back(), {dopravna::polska_lhota, dopravna::hvozdy, dopravna::lhotin})
+                            ? kDepo569
+                            : kDepo538;
     if (!je_kolej(element))
         return;
     if (!je_volna(element)) {
@@ -206,14 +209,17 @@ void posun_po_vytvoreni(int vlak) {
     const int druha = v.stanice.size() > 1 ? v.stanice[1] : 0;
     const int treti = v.stanice.size() > 2 ? v.stanice[2] : 0;
     const int posledni = v.stanice.empty() ? 0 : v.stanice.back();
-    if (druha == 34 && je_v(treti, {8, 10, 11})) {
+    if (druha == dopravna::dkv_vh &&
+        je_v(treti, {dopravna::vysni_hrabov, dopravna::kamenec, dopravna::mokrina})) {
         obrat_soupravy(vlak);
         return;
     }
     // Both may hold, and the order of the vehicles is then as before: this is meant.
-    if (posledni == 4 && druha == 7)
+    if (posledni == dopravna::dubnice && druha == dopravna::rybnice)
         obrat_soupravy(vlak);
-    if (je_v(druha, {5, 8, 1, 3, 20, 19, 10, 11}) || posledni == 4)
+    if (je_v(druha, {dopravna::vrbice, dopravna::vysni_hrabov, dopravna::lhotin, dopravna::javorin,
+                     dopravna::hvozdy, dopravna::polska_lhota, dopravna::kamenec, dopravna::mokrina}) ||
+        posledni == dopravna::dubnice)
         obrat_soupravy(vlak);
 }
 

@@ -6,6 +6,7 @@
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
 #include "desk/tabulka_vlaku.h"
+#include "gvd/dopravny.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"
 #include "gvd/soupravy.h"
@@ -38,23 +39,27 @@ bool smer_ve_stanici(int stanice, int dalsi) {
         return std::find(kody.begin(), kody.end(), dalsi) != kody.end();
     };
     switch (stanice) {
-    case 1: return je({8});
-    case 3: return je({32, 8, 24});
-    case 7: return je({12, 27, 22, 23, 28, 2, 13});
-    case 8: return je({3, 0, 24, 1, 32, 20});
-    case 9: return je({7});
-    case 10: return true;
-    case 11: return je({4});
-    case 12: return je({2, 13});
-    case 13: return je({21, 6, 14});
-    case 14: return je({6, 21});
-    case 15: return je({7});
-    case 21: return je({6});
-    case 22: return je({2, 23});
-    case 23: return je({2});
-    case 24: return !je({32, 3});
-    case 32: return !je({3});
-    case 35: return je({13});
+    case dopravna::lhotin: return je({dopravna::vysni_hrabov});
+    case dopravna::javorin: return je({dopravna::javorin_dolni, dopravna::vysni_hrabov, dopravna::podoli});
+    case dopravna::rybnice:
+        return je({dopravna::hajovice, dopravna::hajovice_sn, dopravna::jivova, dopravna::javorna,
+                   dopravna::dkv, dopravna::borovec, dopravna::knizeci_luka});
+    case dopravna::vysni_hrabov:
+        return je({dopravna::javorin, dopravna::zadna, dopravna::podoli, dopravna::lhotin,
+                   dopravna::javorin_dolni, dopravna::hvozdy});
+    case dopravna::tesk: return je({dopravna::rybnice});
+    case dopravna::kamenec: return true;
+    case dopravna::mokrina: return je({dopravna::dubnice});
+    case dopravna::hajovice: return je({dopravna::borovec, dopravna::knizeci_luka});
+    case dopravna::knizeci_luka: return je({dopravna::zlata, dopravna::rokytno, dopravna::olsany});
+    case dopravna::olsany: return je({dopravna::rokytno, dopravna::zlata});
+    case dopravna::dolni: return je({dopravna::rybnice});
+    case dopravna::zlata: return je({dopravna::rokytno});
+    case dopravna::jivova: return je({dopravna::borovec, dopravna::javorna});
+    case dopravna::javorna: return je({dopravna::borovec});
+    case dopravna::podoli: return !je({dopravna::javorin_dolni, dopravna::javorin});
+    case dopravna::javorin_dolni: return !je({dopravna::javorin});
+    case dopravna::lipina: return je({dopravna::knizeci_luka});
     default: return false;
     }
 }
@@ -131,54 +136,57 @@ std::optional<Umisteni> vyber_koleje(int stanice, int predchozi, int dalsi, int 
     const auto koleje = [&](std::array<int, 5> k) { return Umisteni{k, index, smer, false}; };
     const auto trat = [&](int tam, int zpet) { return Umisteni{{smer ? tam : zpet}, index, smer, true}; };
     switch (stanice) {
-    case 1: return koleje({86});
-    case 3:
+    case dopravna::lhotin: return koleje({86});
+    case dopravna::javorin:
         if (druh >= 10)
             return koleje({1});
-        if (na({19}))
+        if (na({dopravna::polska_lhota}))
             return koleje({2});
-        if (na({20}))
+        if (na({dopravna::hvozdy}))
             return koleje({3});
         return std::nullopt;
-    case 7:
-        if (na({13}))
+    case dopravna::rybnice:
+        if (na({dopravna::knizeci_luka}))
             return smer ? Umisteni{{96}, index, true, true} : Umisteni{{93}, index - 1, false, false};
-        if (na({22, 2}))
+        if (na({dopravna::jivova, dopravna::borovec}))
             return smer ? Umisteni{{638}, index, true, true} : Umisteni{{94}, index - 1, false, false};
-        if (na({27, 12}))
+        if (na({dopravna::hajovice_sn, dopravna::hajovice}))
             return koleje({44, 45});
         return std::nullopt;
-    case 8:
+    case dopravna::vysni_hrabov:
         if (druh < 10)
-            return na({3, 24, 32}) ? koleje({10, 9, 11}) : koleje({smer ? 12 : 11});
-        if (na({3}))
+            return na({dopravna::javorin, dopravna::podoli, dopravna::javorin_dolni})
+                       ? koleje({10, 9, 11})
+                       : koleje({smer ? 12 : 11});
+        if (na({dopravna::javorin}))
             return koleje({18});
-        return na({9}) ? koleje({11, 10}) : koleje({16, 17});
-    case 9:
+        return na({dopravna::tesk}) ? koleje({11, 10}) : koleje({16, 17});
+    case dopravna::tesk:
         for (const KolejHlavniStanice& k : kHlavniStanice)
             if (r.kolej == k.kolej)
                 return koleje({k.prvky[0], k.prvky[1]});
         return std::nullopt;
-    case 11:
+    case dopravna::mokrina:
         if (druh >= 15)
             return koleje({38, 39});
         return smer ? koleje({36}) : koleje({37, 40});
-    case 12: return dalsi == 2 ? koleje({59, 60}) : koleje({50, 51, 54, 52, 53});
-    case 13:
+    case dopravna::hajovice:
+        return dalsi == dopravna::borovec ? koleje({59, 60}) : koleje({50, 51, 54, 52, 53});
+    case dopravna::knizeci_luka:
         if (druh == 15)
             return koleje({74});
         return smer ? koleje({73, 74}) : koleje({72, 71, 70});
-    case 14: return trat(674, 676);
-    case 15:
+    case dopravna::olsany: return trat(674, 676);
+    case dopravna::dolni:
         if (druh == 15)
             return koleje({82, 78});
         return smer ? koleje({79, 78}) : koleje({78, 79});
-    case 21: return trat(824, 826);
-    case 22: return trat(728, 730);
-    case 23: return trat(928, 930);
-    case 24: return trat(654, 656);
-    case 32: return trat(604, 606);
-    case 35: return trat(720, 722);
+    case dopravna::zlata: return trat(824, 826);
+    case dopravna::jivova: return trat(728, 730);
+    case dopravna::javorna: return trat(928, 930);
+    case dopravna::podoli: return trat(654, 656);
+    case dopravna::javorin_dolni: return trat(604, 606);
+    case dopravna::lipina: return trat(720, 722);
     default: return std::nullopt;
     }
 }
@@ -217,7 +225,8 @@ int umisti_vlak(int element, bool smer, int index, int gvd_index) {
     if (v.cislo2 > 0 && v.stanice_zmeny != 0 && zastavka < v.stanice.size() &&
         v.stanice_zmeny == v.stanice[zastavka])
         prepni_cislo(i);
-    if (index < 1 && v.stanice.size() > 1 && v.stanice[1] == 7 && v.stanice.back() == 4)
+    if (index < 1 && v.stanice.size() > 1 && v.stanice[1] == dopravna::rybnice &&
+        v.stanice.back() == dopravna::dubnice)
         obrat_soupravy(i);
     vlak_v_cili(element, i);
     return i;

@@ -2,6 +2,7 @@
 #include "gvd/zaplneni.h"
 
 #include "app/cas.h"
+#include "gvd/dopravny.h"
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
 #include "gvd/soupravy.h"
@@ -16,18 +17,13 @@ constexpr int kLoko731 = 731;
 constexpr int kZalohaPriStartu = 509; // track of the first standby locomotive
 constexpr int kPredPristavenim = 29;  // minutes a set stands at the platform before it leaves
 
-bool bez_prijezdu(const GvdVlak& r) {
-    const int prvni = r.stanice.front();
-    return r.prijezdy.front() <= -1 || prvni == 19 || prvni == 20 || prvni == 5;
-}
-
 void umisti_radek(int gvd_index, std::int16_t ted, bool jen_odjinud) {
     const GvdVlak& r = radek_gvd(gvd_index);
-    if (jen_odjinud == (r.stanice.front() == 9) || !aktivni_dnes(r))
+    if (jen_odjinud == (r.stanice.front() == dopravna::tesk) || !aktivni_dnes(r))
         return;
-    int od = r.prijezdy.front();
-    if (bez_prijezdu(r))
-        od = r.odjezdy.front() - (r.stanice.front() == 9 ? kPredPristavenim : 0);
+    int od = cas_vstupu(r);
+    if (bez_prijezdu(r) && r.stanice.front() == dopravna::tesk)
+        od -= kPredPristavenim;
     int po = r.prijezdy.back() <= -1 ? r.odjezdy.back() : r.prijezdy.back();
     if (od > po)
         po += kDen_min;
@@ -51,7 +47,7 @@ void umisti_radek(int gvd_index, std::int16_t ted, bool jen_odjinud) {
 // The row's train still calls at the main station.
 bool jede_pres_hlavni(const GvdVlak& r, std::int16_t ted) {
     for (std::size_t k = 0; k + 1 < r.stanice.size(); ++k)
-        if (r.stanice[k + 1] == 9 && r.odjezdy[k] > ted)
+        if (r.stanice[k + 1] == dopravna::tesk && r.odjezdy[k] > ted)
             return true;
     return false;
 }
@@ -65,7 +61,7 @@ int pozdejsi_radek(double cislo, std::int16_t ted) {
 }
 
 void lokomotiva_radku(const GvdVlak& r, std::int16_t ted) {
-    if ((bez_prijezdu(r) ? r.odjezdy.front() : r.prijezdy.front()) >= ted || !aktivni_dnes(r))
+    if (cas_vstupu(r) >= ted || !aktivni_dnes(r))
         return;
     const auto navazny = ciselny_text(r.navazny_vlak);
     if (!navazny || *navazny <= 0)

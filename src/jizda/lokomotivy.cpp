@@ -7,6 +7,7 @@
 #include "cesty/dotazy.h"
 #include "desk/menu.h"
 #include "desk/tabulka_vlaku.h"
+#include "gvd/dopravny.h"
 #include "gvd/provoz.h"
 #include "gvd/skladba.h"
 #include "jizda/metry.h"
@@ -128,8 +129,8 @@ void loko_menu(int misto, TextPohled rada) {
         !je_volno(brana->kolej))
         return;
     const bool dvojice = rada == kDvojice;
-    const int v =
-        nova_lokomotiva(dvojice ? "230" : rada, dvojice ? 2 : 1, brana->kolej, brana->smer, {27, 12}, 2);
+    const int v = nova_lokomotiva(dvojice ? "230" : rada, dvojice ? 2 : 1, brana->kolej, brana->smer,
+                                  {dopravna::hajovice_sn, dopravna::hajovice}, 2);
     vlak_c(v).delka = dvojice ? 36 : 18;
     vlak_c(v).posun = true;
     pridej_na_kolej(brana->kolej, v, brana->smer, -1);
@@ -140,7 +141,7 @@ void loko_menu(int misto, TextPohled rada) {
 void loko_vh_menu(TextPohled rada) {
     if (std::find(kRadyVh.begin(), kRadyVh.end(), rada) == kRadyVh.end() || !je_volno(kKolejVh))
         return;
-    const int v = nova_lokomotiva(rada, 1, kKolejVh, true, {34, 9}, 7);
+    const int v = nova_lokomotiva(rada, 1, kKolejVh, true, {dopravna::dkv_vh, dopravna::tesk}, 7);
     vlak_c(v).delka = 20;
     pridej_na_kolej(kKolejVh, v, true, -1);
     barvi_prvek(kKolejVh, barvy::cervena);

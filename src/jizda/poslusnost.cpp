@@ -6,6 +6,7 @@
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
 #include "desk/zprava.h"
+#include "gvd/dopravny.h"
 #include "gvd/gvd.h"
 #include "gvd/stav_provozu.h"
 #include "jizda/metry.h"
@@ -93,18 +94,22 @@ struct Vystup {
     int stanice; // 0: none named
 };
 constexpr std::array kVystupy = {
-    Vystup{86, 90, false, 1},   Vystup{62, 65, true, 2},     Vystup{66, 69, true, 6},
-    Vystup{41, 43, true, 4},    Vystup{213, 213, false, 20}, Vystup{212, 212, false, 19},
-    Vystup{219, 219, false, 5}, Vystup{25, 25, false, 0},    Vystup{91, 92, false, 0},
-    Vystup{119, 119, false, 0}, Vystup{557, 557, false, 0},  Vystup{595, 595, false, 0},
-    Vystup{55, 56, true, 0},    Vystup{112, 112, true, 0},   Vystup{574, 574, true, 0}};
+    Vystup{86, 90, false, dopravna::lhotin},   Vystup{62, 65, true, dopravna::borovec},
+    Vystup{66, 69, true, dopravna::rokytno},   Vystup{41, 43, true, dopravna::dubnice},
+    Vystup{213, 213, false, dopravna::hvozdy}, Vystup{212, 212, false, dopravna::polska_lhota},
+    Vystup{219, 219, false, dopravna::vrbice}, Vystup{25, 25, false, dopravna::zadna},
+    Vystup{91, 92, false, dopravna::zadna},    Vystup{119, 119, false, dopravna::zadna},
+    Vystup{557, 557, false, dopravna::zadna},  Vystup{595, 595, false, dopravna::zadna},
+    Vystup{55, 56, true, dopravna::zadna},     Vystup{112, 112, true, dopravna::zadna},
+    Vystup{574, 574, true, dopravna::zadna}};
 
 // Vrbice and Dubnice lie in one direction.
 bool spravny_smer(const Vlak& vlak, int stanice) {
-    if (stanice == 0 || vlak.stanice.empty())
+    if (stanice == dopravna::zadna || vlak.stanice.empty())
         return true;
     const int cil = vlak.stanice.back();
-    return cil == stanice || (cil == 4 && stanice == 5) || (cil == 5 && stanice == 4);
+    return cil == stanice || (cil == dopravna::dubnice && stanice == dopravna::vrbice) ||
+           (cil == dopravna::vrbice && stanice == dopravna::dubnice);
 }
 
 // Delays are told by the number of the timetable, which is the first one.

@@ -7,6 +7,7 @@
 #include "desk/info_o_vlaku.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
+#include "gvd/dopravny.h"
 #include "jizda/na_koleji.h"
 #include "jizda/souprava.h"
 #include "jizda/vlak.h"
@@ -49,7 +50,7 @@ bool smi_se_zmenit(int v, int prvek) {
 void stane_se_vlakem(int v) {
     Vlak& vlak = vlak_c(v);
     const int prvni = vlak.stanice.empty() ? 0 : vlak.stanice.front();
-    if (prvni == 17 || prvni == 18 || prvni == 33 || prvni == 34)
+    if (je_v(prvni, {dopravna::ona, dopravna::onb, dopravna::posta, dopravna::dkv_vh}))
         vlak.stanice_index = 1;
     zobraz_cekani(v);
     if (jen_loko(vlak) && vlak.druh != kLokomotivniVlak &&
@@ -77,12 +78,13 @@ std::uint8_t cil_stroje(const Vlak& vlak, int odkud) {
         TextPohled urceni;
         std::uint8_t stanice;
     };
-    constexpr std::array<Cil, 3> kCile = {{{"dkv", 28}, {"vh", 34}, {"bor", 2}}};
+    constexpr std::array<Cil, 3> kCile = {
+        {{"dkv", dopravna::dkv}, {"vh", dopravna::dkv_vh}, {"bor", dopravna::borovec}}};
     const Text urceni = vlak.vozy_urceni.empty() ? Text{} : mala_pismena(vlak.vozy_urceni.front());
     for (const Cil& cil : kCile)
         if (urceni == cil.urceni)
             return cil.stanice;
-    return odkud == 12 ? 9 : 12;
+    return odkud == dopravna::hajovice ? dopravna::tesk : dopravna::hajovice;
 }
 
 } // namespace
@@ -115,7 +117,7 @@ void vlak_na_posun_cislo(int v) {
     vlak.stanice_zmeny = 0;
     vlak.pokyn.clear();
     const int doma = stanice_prvku(vlak.prvky.back());
-    const auto odkud = static_cast<std::uint8_t>(doma == 0 ? 9 : doma);
+    const auto odkud = static_cast<std::uint8_t>(doma == dopravna::zadna ? dopravna::tesk : doma);
     vlak.stanice = {odkud, cil_stroje(vlak, odkud)};
     const std::int16_t ted = cas_min();
     vlak.prijezd = {ted, na_integer(ted + 15)};

@@ -9,6 +9,7 @@
 #include "desk/info_o_vlaku.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
+#include "gvd/dopravny.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"
 #include "jizda/metry.h"
@@ -233,8 +234,9 @@ bool musi_objet(const Vlak& vlak) {
         return false;
     const int druha = vlak.stanice[1];
     if (vlak.smer)
-        return (druha == 8 || druha == 11 || druha == 5) && rada_vozu(vlak.vozy.back()) < kPrvniRidiciVuz;
-    return druha == 7;
+        return je_v(druha, {dopravna::vysni_hrabov, dopravna::mokrina, dopravna::vrbice}) &&
+               rada_vozu(vlak.vozy.back()) < kPrvniRidiciVuz;
+    return druha == dopravna::rybnice;
 }
 
 } // namespace

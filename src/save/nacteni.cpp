@@ -26,9 +26,6 @@
 
 namespace {
 
-// First station of a train that comes from line end k.
-constexpr std::array<std::uint8_t, 3> kStaniceKoncu = {19, 20, 5};
-
 // --- the state that a failed load gives back
 
 struct Stav {
@@ -142,12 +139,11 @@ void obnov_souhlasy() {
         if (cislo == 0)
             continue;
         for (const GvdVlak& radek : gvd_vlaky)
-            for (std::size_t k = 0; k < kStaniceKoncu.size(); ++k)
-                if (radek.cislo == cislo && radek.stanice.front() == kStaniceKoncu[k])
-                    souhlasy.souhlas[k] = true;
+            if (const int k = konec_ke_stanici(radek.stanice.front()); radek.cislo == cislo && k >= 0)
+                souhlasy.souhlas[static_cast<std::size_t>(k)] = true;
     }
     // The minute of a train that has gone in is out, although its text stays until the next consent ends.
-    for (std::size_t k = 0; k < kStaniceKoncu.size(); ++k) {
+    for (std::size_t k = 0; k < kKonceTrati.size(); ++k) {
         const auto je_sedy = [](int n) { return !je_kolej(n) || relief.kolej[n].barva == barvy::seda; };
         if (souhlasy.souhlas[k] && je_sedy(kKonceTrati[k].usek) && je_sedy(kKonceTrati[k].navestidlo) &&
             relief.lblPredvidany_odjezd.je(static_cast<int>(k)))
