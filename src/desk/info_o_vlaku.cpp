@@ -5,6 +5,7 @@
 #include "app/simulace.h"
 #include "desk/zprava.h"
 #include "gvd/dopravny.h"
+#include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
 #include "gvd/skladba.h"
@@ -23,11 +24,8 @@ constexpr int kPravyOkraj = 14400; // a picture that reaches beyond it is hidden
 constexpr int kSberacu = 4;
 constexpr Barva kStisknuteTlacitko = 0x800000;
 
-constexpr std::uint8_t kDruheLoko = 1, kPripraz = 2, kSvatek = 128;
-constexpr int kPrvniNakladni = 10;       // categories below are passenger trains
-constexpr int kLokomotivniVlak = 16;     // category of a light engine
-constexpr int kPosledniSoused = 6;       // codes up to here are neighbours: the train only passes
-constexpr int kPosledniLokomotiva = 800; // series above run without a locomotive
+constexpr std::uint8_t kSvatek = 128;
+constexpr int kPosledniSoused = 6; // codes up to here are neighbours: the train only passes
 
 // The train of an index; none for a free record.
 const Vlak* skutecny_vlak(int v) {
@@ -97,10 +95,11 @@ Text prace_lokomotiv(const Vlak& v) {
         return std::find(v.stanice.begin(), v.stanice.end(), kod) != v.stanice.end();
     };
     const bool z_thj = stavi(dopravna::hajovice) && !stavi(dopravna::tesk);
-    const bool osobni = v.druh < kPrvniNakladni, pripraz = (v.priznaky & kPripraz) != 0;
+    const bool osobni = v.druh < druh_vlaku::prvni_nakladni,
+               pripraz = (v.priznaky & priznak_vlaku::pripraz) != 0;
     const int pomocna = v.loko_rada2 != 0 ? v.loko_rada2 : v.loko_rada;
     Text text;
-    if ((v.priznaky & kDruheLoko) != 0 && v.loko_rada2 != 0 && druhy_je_loko(v))
+    if ((v.priznaky & priznak_vlaku::druhe_loko) != 0 && v.loko_rada2 != 0 && druhy_je_loko(v))
         text += Text("; z THJ lok. 2x") + text_cisla(v.loko_rada2);
     if (pripraz && posledni_je_loko(v)) {
         text += "; THN-TRY sune; TRY kolej T4";
@@ -111,8 +110,8 @@ Text prace_lokomotiv(const Vlak& v) {
         text += z_thj ? "; z THJ přípřež ř."_cz : "; z THN přípřež ř."_cz;
         text += text_cisla(pomocna);
     }
-    const bool ceka_na_vymenu = (v.priznaky & (kDruheLoko | kPripraz)) == 0 && v.loko_rada2 != 0 &&
-                                rada_na(v.vozy, 0) != v.loko_rada2;
+    const bool ceka_na_vymenu = (v.priznaky & (priznak_vlaku::druhe_loko | priznak_vlaku::pripraz)) == 0 &&
+                                v.loko_rada2 != 0 && rada_na(v.vozy, 0) != v.loko_rada2;
     if (ceka_na_vymenu) {
         text += z_thj ? "; z THJ lok.ř."_cz : "; z THN lok.ř."_cz;
         text += text_cisla(v.loko_rada2) + "(" + text_cisla(odkud_lokomotiva(v)) + ")";
@@ -170,7 +169,7 @@ Vlak vlak_podle_gvd(const GvdVlak& r) {
 Text odjezd_z_hlavniho(const Vlak& v) {
     const std::size_t i = static_cast<std::size_t>(std::max<int>(v.stanice_index, 0));
     const Text urceni = prvni_urceni(v);
-    if (i >= v.stanice.size() || v.stanice[i] != dopravna::tesk || v.druh == kLokomotivniVlak ||
+    if (i >= v.stanice.size() || v.stanice[i] != dopravna::tesk || v.druh == druh_vlaku::lv ||
         urceni == "ZAL" || v.vozy.size() < 2)
         return {};
     const auto veta = [](int minuta, int cil) {
@@ -198,11 +197,11 @@ Text text_posunu(int vlak, const Vlak& v) {
     const std::int32_t predchozi = cislo_vlaku_pred(vlak);
     const std::int32_t cislo = predchozi != 0 ? predchozi : zobrazene_cislo(v);
     Text text;
-    if (v.vozy.size() > 1 || rada_na(v.vozy, 0) > kPosledniLokomotiva)
+    if (v.vozy.size() > 1 || rada_na(v.vozy, 0) > kPrvniMotorovyVuz)
         text = " Souprava vlaku " + text_cisla(cislo);
     else if (stroj && urceni == "DKV")
         text = " Lokomotiva do DKV";
-    else if ((stroj && urceni.empty()) || v.druh == kLokomotivniVlak)
+    else if ((stroj && urceni.empty()) || v.druh == druh_vlaku::lv)
         text = " Lokomotiva pro ?????";
     else if (cislo != 0)
         text = " Souprava vlaku " + text_cisla(cislo);

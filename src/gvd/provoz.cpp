@@ -9,6 +9,7 @@
 #include "cesty/dotazy.h"
 #include "desk/tabulka_vlaku.h"
 #include "gvd/dopravny.h"
+#include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"
 #include "gvd/soupravy.h"
@@ -164,7 +165,6 @@ struct StaniceOhlaseni {
     std::array<int, 5> koleje; // the others in order; 0 none
     bool smer;
 };
-constexpr std::uint8_t kMn = 15;
 constexpr std::array kOhlasovane = {
     StaniceOhlaseni{dopravna::rokytno, true, 69, 66, {68, 67, 69, 66, 0}, false},
     StaniceOhlaseni{dopravna::lhotin, true, 86, 89, {87, 88, 86, 89, 90}, true},
@@ -185,7 +185,7 @@ const StaniceOhlaseni* ohlasovana(int stanice) {
 int kolej_ohlaseni(const StaniceOhlaseni& s, bool predbiha, std::uint8_t druh) {
     if (predbiha && volny_prvek(s.predjizdna))
         return s.predjizdna;
-    if (druh == kMn && volny_prvek(s.manipulacni))
+    if (druh == druh_vlaku::mn && volny_prvek(s.manipulacni))
         return s.manipulacni;
     return prvni_volny(koleje_ohlaseni(s));
 }

@@ -27,7 +27,6 @@ constexpr int kTratovePrvky = 600;            // line elements begin here
 constexpr int kPrvkySeSeznamem = 500;         // elements below have their list of trains from the start
 constexpr int kDepo538 = 538, kDepo569 = 569; // where sets come out of the depot of the main station
 constexpr int kJednotka = 560;                // electric unit: 560, 060, 560p
-constexpr std::uint8_t kPosilaVpredu = 1, kPripraz = 2;
 
 bool ma_ridici_vuz(int rada) {
     return rada == 943 || rada == 954;
@@ -158,9 +157,9 @@ void lokomotivy_na_ceste(Vlak& v, int index) {
     if (!ma_druhy || std::find(v.stanice.begin(), po, dopravna::hajovice) == po)
         return;
     const int pomocna = v.loko_rada2 != 0 ? v.loko_rada2 : v.loko_rada;
-    if ((v.priznaky & kPosilaVpredu) != 0)
+    if ((v.priznaky & priznak_vlaku::druhe_loko) != 0)
         nasad(v, 1, pomocna);
-    if ((v.priznaky & kPripraz) != 0)
+    if ((v.priznaky & priznak_vlaku::pripraz) != 0)
         nasad(v, v.vozy.size() - 1, pomocna);
 }
 
@@ -168,7 +167,7 @@ void lokomotivy_na_ceste(Vlak& v, int index) {
 void oznac_vymeny(Vlak& v) {
     if (v.vozy.empty())
         return;
-    const bool pripraz = !jen_loko(v) && (v.priznaky & kPripraz) != 0;
+    const bool pripraz = !jen_loko(v) && (v.priznaky & priznak_vlaku::pripraz) != 0;
     if (!pripraz && v.loko_rada2 == 0)
         return;
     const bool druhy_neni_loko = v.vozy.size() > 1 && !je_loko(v.vozy[1]);

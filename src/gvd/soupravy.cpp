@@ -7,6 +7,7 @@
 #include "cesty/dotazy.h"
 #include "desk/tabulka_vlaku.h"
 #include "gvd/dopravny.h"
+#include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
 #include "gvd/skladba.h"
@@ -90,7 +91,7 @@ void vytvor_lokomotivu(int rada, int element, bool smer, TextPohled urceni, bool
     const auto i = static_cast<int>(volny - vlaky.begin());
     Vlak v;
     v.cislo = na_long(74800 + dolu(nahodne() * 200.0));
-    v.druh = 16;
+    v.druh = druh_vlaku::lv;
     v.max_rychlost = v.rychlost_trati = 80;
     v.delka = 20;
     v.smer = smer;

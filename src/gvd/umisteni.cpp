@@ -7,6 +7,7 @@
 #include "cesty/dotazy.h"
 #include "desk/tabulka_vlaku.h"
 #include "gvd/dopravny.h"
+#include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"
 #include "gvd/soupravy.h"
@@ -138,7 +139,7 @@ std::optional<Umisteni> vyber_koleje(int stanice, int predchozi, int dalsi, int 
     switch (stanice) {
     case dopravna::lhotin: return koleje({86});
     case dopravna::javorin:
-        if (druh >= 10)
+        if (druh >= druh_vlaku::prvni_nakladni)
             return koleje({1});
         if (na({dopravna::polska_lhota}))
             return koleje({2});
@@ -154,7 +155,7 @@ std::optional<Umisteni> vyber_koleje(int stanice, int predchozi, int dalsi, int 
             return koleje({44, 45});
         return std::nullopt;
     case dopravna::vysni_hrabov:
-        if (druh < 10)
+        if (druh < druh_vlaku::prvni_nakladni)
             return na({dopravna::javorin, dopravna::podoli, dopravna::javorin_dolni})
                        ? koleje({10, 9, 11})
                        : koleje({smer ? 12 : 11});
@@ -167,18 +168,18 @@ std::optional<Umisteni> vyber_koleje(int stanice, int predchozi, int dalsi, int 
                 return koleje({k.prvky[0], k.prvky[1]});
         return std::nullopt;
     case dopravna::mokrina:
-        if (druh >= 15)
+        if (druh >= druh_vlaku::mn)
             return koleje({38, 39});
         return smer ? koleje({36}) : koleje({37, 40});
     case dopravna::hajovice:
         return dalsi == dopravna::borovec ? koleje({59, 60}) : koleje({50, 51, 54, 52, 53});
     case dopravna::knizeci_luka:
-        if (druh == 15)
+        if (druh == druh_vlaku::mn)
             return koleje({74});
         return smer ? koleje({73, 74}) : koleje({72, 71, 70});
     case dopravna::olsany: return trat(674, 676);
     case dopravna::dolni:
-        if (druh == 15)
+        if (druh == druh_vlaku::mn)
             return koleje({82, 78});
         return smer ? koleje({79, 78}) : koleje({78, 79});
     case dopravna::zlata: return trat(824, 826);

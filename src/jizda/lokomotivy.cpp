@@ -8,6 +8,7 @@
 #include "desk/menu.h"
 #include "desk/tabulka_vlaku.h"
 #include "gvd/dopravny.h"
+#include "gvd/druhy_vlaku.h"
 #include "gvd/provoz.h"
 #include "gvd/skladba.h"
 #include "jizda/metry.h"
@@ -26,7 +27,6 @@
 
 namespace {
 
-constexpr std::uint8_t kLokomotivniVlak = 16; // category of a light engine
 constexpr std::uint8_t kRychlost = 80;
 
 // A gate of the main depot: the name that opens the menu, and the track behind the gate.
@@ -72,7 +72,7 @@ int nova_lokomotiva(TextPohled rada, std::size_t pocet, int kolej, bool smer,
     const int v = novy_vlak();
     Vlak& vlak = vlak_c(v);
     vlak.cislo = na_long(dolu(static_cast<double>(nahodne()) * 200.0 + 74'800.0));
-    vlak.druh = kLokomotivniVlak;
+    vlak.druh = druh_vlaku::lv;
     vlak.smer = smer;
     vlak.muze_jet = true;
     vlak.max_rychlost = vlak.rychlost_trati = kRychlost;

@@ -7,6 +7,7 @@
 #include "cesty/dotazy.h"
 #include "desk/zprava.h"
 #include "gvd/dopravny.h"
+#include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/stav_provozu.h"
 #include "jizda/metry.h"
@@ -195,7 +196,7 @@ bool srovnej_smer(int cesta, int i, int v) {
     // A cab at both ends, a shunt, a light engine; else a locomotive at the far end.
     const Text& celo = vlak.vozy.front();
     const bool vzdy =
-        celo == "943" || celo == "954" || celo == "560" || !cesta_c(cesta).VC || vlak.druh == 16;
+        je_ridici_vuz(celo) || celo == "560" || !cesta_c(cesta).VC || vlak.druh == druh_vlaku::lv;
     if (!vzdy && !je_loko(vlak.vozy.back()))
         return false;
     otoc_vlak(v);

@@ -8,6 +8,7 @@
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
 #include "gvd/dopravny.h"
+#include "gvd/druhy_vlaku.h"
 #include "jizda/na_koleji.h"
 #include "jizda/souprava.h"
 #include "jizda/vlak.h"
@@ -21,8 +22,6 @@
 
 namespace {
 
-constexpr std::uint8_t kLokomotivniVlak = 16;   // category of a light engine
-constexpr int kPrvniMotorovyVuz = 800;          // series from which on a lone vehicle is no light engine
 constexpr std::int32_t kPrvniSmyslene = 70'000; // made-up numbers lie above this one
 constexpr std::int32_t kZaSmyslenymi = 80'000;  // and below this one
 
@@ -53,8 +52,7 @@ void stane_se_vlakem(int v) {
     if (je_v(prvni, {dopravna::ona, dopravna::onb, dopravna::posta, dopravna::dkv_vh}))
         vlak.stanice_index = 1;
     zobraz_cekani(v);
-    if (jen_loko(vlak) && vlak.druh != kLokomotivniVlak &&
-        cislo_z_textu(vlak.vozy.front()) < kPrvniMotorovyVuz)
+    if (jen_loko(vlak) && vlak.druh != druh_vlaku::lv && cislo_z_textu(vlak.vozy.front()) < kPrvniMotorovyVuz)
         vlak_na_posun_cislo(v);
     if (radek_tabulky(zobrazene_cislo(vlak_c(v))) < 0)
         pridej_do_tabulky(v);
@@ -110,7 +108,7 @@ void zmena_posun(int v, int prvek, bool tise) {
 void vlak_na_posun_cislo(int v) {
     Vlak& vlak = vlak_c(v);
     vlak.cislo = na_long(dolu(static_cast<double>(nahodne()) * 9999.0 + kPrvniSmyslene));
-    vlak.druh = kLokomotivniVlak;
+    vlak.druh = druh_vlaku::lv;
     vlak.cislo2 = 0;
     vlak.druh2 = 0;
     vlak.cislo2_platne = false;

@@ -2,6 +2,7 @@
 #include "jizda/rychlost.h"
 
 #include "app/simulace.h"
+#include "gvd/druhy_vlaku.h"
 #include "jizda/souprava.h"
 #include "jizda/vlak.h"
 #include "zaklad/cisla.h"
@@ -33,6 +34,16 @@ constexpr RychlostPrvku kRychlostiVlevo[] = {
     {117, 75}, {978, 75}, {980, 75},  {270, 80},  {271, 80},  {418, 80}, {419, 80}, {686, 80},
     {720, 80}, {722, 80}, {738, 80},  {323, 85},  {326, 85},  {774, 90}, {776, 90}, {19, 100},
     {20, 100}, {21, 100}, {107, 100}, {108, 100}, {234, 100}, {235, 100}};
+
+// km/h that a step adds: long goods trains gather speed slowly, those of empty stock less so.
+float zrychleni(const Vlak& vlak) {
+    float d = 1;
+    if (vlak.druh >= druh_vlaku::prvni_nakladni && vlak.druh != druh_vlaku::lv)
+        d = static_cast<float>(vlak.delka) / 350.0f + 1.0f;
+    if (vlak.druh == druh_vlaku::vn)
+        d = d / 2.0f + 1.0f;
+    return 3.0f * static_cast<float>(simulace.rychlost) / d;
+}
 
 } // namespace
 
@@ -71,22 +82,15 @@ void uprav_rychlost(int v) {
     Vlak& vlak = vlak_c(v);
     if (!vlak.muze_jet)
         return;
-    if (vlak.vozy.empty() || (!je_loko(vlak.vozy[0]) && vlak.vozy[0] != "943" && vlak.vozy[0] != "954")) {
+    if (vlak.vozy.empty() || (!je_loko(vlak.vozy[0]) && !je_ridici_vuz(vlak.vozy[0]))) {
         // Pushed from behind: exactly 30 km/h, from a stand too, above any limit. This is meant.
         vlak.rychlost = kRychlostTlaceni;
         return;
     }
-    float d = 1;
-    if (vlak.druh >= 10)
-        d = static_cast<float>(vlak.delka) / 350.0f + 1.0f;
-    if (vlak.druh == 13)
-        d = d / 2.0f + 1.0f;
-    if (vlak.druh == 16)
-        d = 1;
     const int cil =
         vlak.rychlost_cesty != 0 && !vlak.omezeni_ukonceno ? vlak.rychlost_cesty : vlak.rychlost_trati;
     const int r = cil - vlak.rychlost;
-    const float a = 3.0f * static_cast<float>(simulace.rychlost) / d;
+    const float a = zrychleni(vlak);
     if (r < 0 || a > static_cast<float>(std::abs(r)))
         vlak.rychlost = na_byte(cil);
     else

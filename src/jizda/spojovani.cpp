@@ -10,6 +10,7 @@
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
 #include "gvd/dopravny.h"
+#include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"
 #include "jizda/metry.h"
@@ -30,7 +31,6 @@ namespace {
 
 constexpr int kDelkaLoko_m = 18;           // of a locomotive, and of a consist that would have none
 constexpr std::uint8_t kRychlostDilu = 40; // line speed of a part that was split off
-constexpr int kPrvniMotorovyVuz = 800;     // series from which on a lone vehicle is a train of its own
 constexpr int kPrvniRidiciVuz = 900;       // driving trailers
 constexpr int kPosledniVeStanici = 600;    // sections of lines are numbered above
 constexpr int kKolejVytahu = 32;           // beside the stub of the locomotives
@@ -110,10 +110,11 @@ void obnov_odjezd(Vlak& vlak) {
     if (i + 1 >= vlak.stanice.size() || i >= vlak.odjezd_realny.size() || i >= vlak.odjezd.size() ||
         vlak.odjezd_realny[i] != kNaPovel)
         return;
-    if (((vlak.priznaky & 2) != 0 && !posledni_je_loko(vlak)) ||
-        ((vlak.priznaky & 1) != 0 && !druhy_je_loko(vlak)))
+    if (((vlak.priznaky & priznak_vlaku::pripraz) != 0 && !posledni_je_loko(vlak)) ||
+        ((vlak.priznaky & priznak_vlaku::druhe_loko) != 0 && !druhy_je_loko(vlak)))
         return;
-    const int nejdrive = cas_min() + (vlak.druh >= 10 && vlak.druh != 16 ? 6 : 3);
+    const int nejdrive =
+        cas_min() + (vlak.druh >= druh_vlaku::prvni_nakladni && vlak.druh != druh_vlaku::lv ? 6 : 3);
     vlak.odjezd_realny[i] = na_integer(std::max<int>(nejdrive, vlak.odjezd[i]));
 }
 
@@ -306,7 +307,7 @@ void spoj(int a, int b) {
         platforma.pipni(100, 200); // sounds even when the sound is off: this one is meant
         return;
     }
-    const bool a_je_stroj = jen_loko(vlak_c(a)) || vlak_c(a).druh == 16;
+    const bool a_je_stroj = jen_loko(vlak_c(a)) || vlak_c(a).druh == druh_vlaku::lv;
     const bool zustava_b = a_je_stroj && !jen_loko(vlak_c(b));
     const int zustal = zustava_b ? b : a;
     const int zanikl = zustava_b ? a : b;

@@ -13,6 +13,12 @@
 #include <cstdint>
 #include <vector>
 
+// What the composition of a train demands.
+namespace priznak_vlaku {
+inline constexpr std::uint8_t druhe_loko = 1; // a second locomotive at the front
+inline constexpr std::uint8_t pripraz = 2;    // an assisting one at the end
+} // namespace priznak_vlaku
+
 struct Vlak {
     std::vector<std::uint8_t> stanice; // timetable stations in running order, station codes
     std::vector<std::int16_t> prijezd; // running minutes: minute of the day + 1440 a day since the first
@@ -37,7 +43,7 @@ struct Vlak {
     Text poznamka;
     Text pokyn;                             // working instruction: the planned track
     std::uint8_t dny = 0;                   // days of running, bit 7 holidays
-    std::uint8_t priznaky = 0;              // 1: second locomotive at the front; 2: assisting one at the end
+    std::uint8_t priznaky = 0;              // bits of priznak_vlaku
     std::int16_t stanice_index = 0;         // stop now or last served; negative: none yet
     bool muze_jet = false;                  // may run; else it waits at a stop
     std::vector<std::int16_t> prvky;        // elements entered, oldest first; the last one is the head

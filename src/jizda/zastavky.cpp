@@ -129,7 +129,8 @@ void vymen_loko_v_tesku(int v) {
     if (odvesena < 0)
         return;
     Vlak& nova = vlak_c(odvesena);
-    if (nova.vozy.empty() || rada_vozu(nova.vozy.front()) <= 800 || urceni(nova, 0) == urceni(vlak_c(v), 0))
+    if (nova.vozy.empty() || rada_vozu(nova.vozy.front()) <= kPrvniMotorovyVuz ||
+        urceni(nova, 0) == urceni(vlak_c(v), 0))
         return;
     // A railcar goes on as a train of its own.
     if (nova.prvky.back() != 574 && je_ciselny(urceni(nova, 0)))
@@ -455,9 +456,9 @@ bool muze_tahnout(int v) {
         --j;
     if (j < 0)
         return true;
-    if ((vlak.priznaky & 1) != 0 && !druhy_je_loko(vlak))
+    if ((vlak.priznaky & priznak_vlaku::druhe_loko) != 0 && !druhy_je_loko(vlak))
         return false;
-    return (vlak.priznaky & 2) == 0 || posledni_je_loko(vlak);
+    return (vlak.priznaky & priznak_vlaku::pripraz) == 0 || posledni_je_loko(vlak);
 }
 
 void odjezd_povel(int v) {
