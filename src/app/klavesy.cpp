@@ -25,7 +25,6 @@ namespace {
 
 constexpr int kKrokKurzoru = 12; // pixels to the left or right
 constexpr int kRastrKurzoru = 5; // raster of the rows, pixels
-constexpr int kPrvkyTrati = 600; // tracks of the lines begin here
 
 bool vstup_otevren() {
     return relief.txtZadav_pole[0].povoleny;
@@ -169,7 +168,7 @@ void info_pod_kurzorem() {
     if (!je_stitek && vyber.mys_druh != Druh::kolej && vyber.mys_druh != Druh::Image1)
         return;
     const int e = je_stitek ? prvek_popisku(vyber.mys_prvek) : vyber.mys_prvek;
-    if (e >= kPrvkyTrati)
+    if (je_usek_trati(e))
         return;
     pipni_klavesou();
     if (!vlak_na_koleji(e))

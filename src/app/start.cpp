@@ -162,7 +162,7 @@ void obarvi_nenatrene() {
 // "T2" goes grey at any number: that order of the two questions is meant.
 void obarvi_cisla_koleji() {
     kazdy(relief.cislo_koleje, [](Prvek& p, int n) {
-        const bool sede = orez(p.text()) == "T2" || (n < 600 && !orez(p.popis()).empty());
+        const bool sede = orez(p.text()) == "T2" || (!je_usek_trati(n) && !orez(p.popis()).empty());
         p.barva = sede ? barvy::seda : barvy::bila;
         p.viditelny = !orez(p.text()).empty();
     });

@@ -21,7 +21,7 @@ constexpr bool je_hranicni(int n) {
 
 // 638 is a track of Rybnice as well as a section of its line.
 constexpr bool je_tratovy(int n) {
-    return (n >= 600 && n != 638) || je_hranicni(n);
+    return (je_usek_trati(n) && n != 638) || je_hranicni(n);
 }
 
 // Tracks drawn in more than one picture: the first one's colour holds for all.

@@ -151,7 +151,7 @@ void uvolni_trat(int n, const std::vector<int>& stitky, bool tise) {
     if (!tise && std::none_of(stitky.begin(), stitky.end(), ukazuje_cislo) && !trat_drzi_cesta(n))
         zhasni_sipku(zaklad_trati(n));
     for (Prejezd& prejezd : prejezdy)
-        if (prejezd.kolej >= 600 && zaklad_trati(prejezd.kolej) == zaklad_trati(n))
+        if (je_usek_trati(prejezd.kolej) && zaklad_trati(prejezd.kolej) == zaklad_trati(n))
             prejezd.uvolnen = false;
 }
 
@@ -230,7 +230,7 @@ bool drzi_jine_cislo(int stitek, TextPohled text) {
 
 void pis_cislo(int prvek, TextPohled text, bool mazat, bool tise) {
     const Text cislo(text); // the caller's view may lie in a label that changes here
-    if (prvek < 600)
+    if (!je_usek_trati(prvek))
         mazat ? smaz_z_koleje(prvek) : pis_na_kolej(prvek, cislo, tise);
     else
         mazat ? smaz_z_trati(prvek, cislo, tise) : pis_na_trat(prvek, cislo);

@@ -47,7 +47,7 @@ bool je_volna(int n) {
 bool cil_volny(int n) {
     if (cesty.front().zacatek < 0)
         return true;
-    if (n < 600)
+    if (!je_usek_trati(n))
         return !nektera(
             [n](const Cesta& c) { return posledni_prvek(c) == n && (c.prehozena || c.Postavena); });
     if (je_kolej(n) && relief.kolej[n].barva == barvy::cervena)
@@ -182,7 +182,7 @@ void obnov_odjete() {
             if (druh_na(c, k) == druh_prvku::kolej)
                 drzi(c.prvky[k]);
     }
-    for (int n = 0; n < 600; ++n) {
+    for (int n = 0; n < kPrvniTrat; ++n) {
         if (!je_kolej(n) || relief.kolej[n].barva != barvy::azurova)
             continue;
         // A picture that only repeats the colour of another track goes with that one.

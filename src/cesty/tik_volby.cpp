@@ -151,7 +151,7 @@ void oznac_prvky(Cesta& c, std::size_t dosel) {
             c.prejezd = 0;
         if (n == 279 || n == 280)
             c.prejezd = 1;
-        if (je_cil(n) && (n < 600 || n == 638))
+        if (je_cil(n) && (!je_usek_trati(n) || n == 638))
             c.polohy[k] = 2;
     }
 }
@@ -320,7 +320,7 @@ void prodluz_po_trati(Cesta& c) {
         for (int n = posledni + kKrokTrati; n <= kNejvyssiPrvek; n += kKrokTrati)
             pripoj_usek(c, n);
     } else {
-        for (int n = posledni - kKrokTrati; n >= 600; n -= kKrokTrati)
+        for (int n = posledni - kKrokTrati; n >= kPrvniTrat; n -= kKrokTrati)
             pripoj_usek(c, n);
     }
 }

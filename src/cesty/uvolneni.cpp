@@ -42,7 +42,7 @@ int index_cesty(const Cesta& c) {
 // about the locking.
 bool bez_barvy_zaveru(const Cesta& c, std::size_t k) {
     const int n = c.prvky[k];
-    if (n >= 600 || n == 84 || n == 85 || n == 117 || n == 118 || n == 212 || n == 213 || n == 219)
+    if (je_usek_trati(n) || n == 84 || n == 85 || n == 117 || n == 118 || n == 212 || n == 213 || n == 219)
         return true;
     if (k != posledni_index(c))
         return false;
@@ -91,7 +91,7 @@ void uvolni_prvky(const Cesta& c) {
         case druh_prvku::vykolejka: relief.lblVykolejka[n].barva = barvy::seda; break;
         case druh_prvku::kolej:
             // Sections of a line are only ever painted by shunt routes.
-            if (n < 600 || n == 638 || (!c.VC && relief.kolej[n].barva == barvy::bila))
+            if (!je_usek_trati(n) || n == 638 || (!c.VC && relief.kolej[n].barva == barvy::bila))
                 uvolni_prvek(n);
             break;
         }
@@ -143,7 +143,7 @@ void proved_zruseni(int i) {
     vymaz_cislo(i, false, {});
     if (c.prejezd < stanicni_prejezdy.size() && c.prejezd_zaver && !stanicni_prejezdy[c.prejezd].UZ)
         stanicni_prejezdy[c.prejezd].cas = -3;
-    if (konec < 600 && c.VC && je_kolej(konec))
+    if (!je_usek_trati(konec) && c.VC && je_kolej(konec))
         uvolni_prvek(konec);
     if (!c.Postavena) {
         odznac_navestidlo(c.zacatek);

@@ -6,7 +6,7 @@
 
 namespace druh_vlaku {
 inline constexpr std::uint8_t prvni_nakladni = 10; // those below carry passengers
-inline constexpr std::uint8_t vn = 13;             // empty goods stock
-inline constexpr std::uint8_t mn = 15;             // goods train that shunts at stations
-inline constexpr std::uint8_t lv = 16;             // light engine
+inline constexpr std::uint8_t vn = 13;             // Vn
+inline constexpr std::uint8_t mn = 15;             // Mn, works at stations on its way
+inline constexpr std::uint8_t lv = 16;             // Lv, light engine
 } // namespace druh_vlaku

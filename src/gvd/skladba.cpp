@@ -23,7 +23,6 @@
 
 namespace {
 
-constexpr int kTratovePrvky = 600;            // line elements begin here
 constexpr int kPrvkySeSeznamem = 500;         // elements below have their list of trains from the start
 constexpr int kDepo538 = 538, kDepo569 = 569; // where sets come out of the depot of the main station
 constexpr int kJednotka = 560;                // electric unit: 560, 060, 560p
@@ -241,7 +240,7 @@ std::int16_t vytvor_vlak(bool smer, int element, bool muze_jet, int index, int g
     v.stanice_index = na_integer(index - 1);
     v.prvky = {na_integer(element)};
     v.prvky_druh = {druh_prvku::kolej};
-    v.prvky_poloha = {static_cast<std::uint8_t>(element < kTratovePrvky ? 2 : 0)};
+    v.prvky_poloha = {static_cast<std::uint8_t>(je_usek_trati(element) ? 0 : 2)};
     v.prvek_konec = 0;
 
     v.cislo = r.cislo;

@@ -215,7 +215,7 @@ int umisti_vlak(int element, bool smer, int index, int gvd_index) {
     pis_cislo(element, text_cisla(radek_gvd(gvd_index).cislo));
     const int i = vytvor_vlak(smer, element, true, index, gvd_index);
     Vlak& v = vlak_c(i);
-    if (element == 96 || element > 600) {
+    if (element == 96 || element > kPrvniTrat) {
         v.omezeni_ukonceno = true;
         v.rychlost_cesty = 100;
         if (je_v(element, {638, 654, 606, 96}))

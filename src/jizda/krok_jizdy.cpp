@@ -175,7 +175,7 @@ bool vstup_na_kolej(int c, int i, int v, std::uint8_t odkud) {
     }
     if (i + 1 == posledni(cesta))
         prejezd_za_cestou(n, c);
-    if (je_cislo_koleje(n) && n < 600)
+    if (je_cislo_koleje(n) && !je_usek_trati(n))
         pridej_na_kolej(n, v, vlak_c(v).smer, -1);
     rychlost_trati_prvek(n, v);
     // The drawing is folded: on these tracks the sense of travel turns.
@@ -319,7 +319,7 @@ std::int32_t obsazena_delka(const Vlak& vlak) {
 void uvolni_kolej(int v, int j) {
     const int e = vlak_c(v).prvky[static_cast<std::size_t>(j)];
     const bool popsana = vlak_c(v).prvky_poloha[static_cast<std::size_t>(j)] == 2;
-    const bool cislovana = je_cislo_koleje(e) && e < 600;
+    const bool cislovana = je_cislo_koleje(e) && !je_usek_trati(e);
     if (cislovana) {
         uber_z_koleje(e, v);
         // The number ran ahead over a route against the train's sense: it is taken back.

@@ -27,10 +27,8 @@ MenuKoleje stav_menu_koleje;
 namespace {
 
 constexpr int kNejvyssiPopisek = 650; // labels behind it take no pick and have no menu
-constexpr int kPrvniTrat = 600;       // line sections; 50 numbers further on comes the next one of a line
-constexpr int kKrokTrati = 50;
-constexpr int kDruhaKresba118 = 998; // a label at the second drawing of 118, no section of a line
-constexpr int kOdstupMenu = 20;      // twips below the label
+constexpr int kDruhaKresba118 = 998;  // a label at the second drawing of 118, no section of a line
+constexpr int kOdstupMenu = 20;       // twips below the label
 
 constexpr std::int16_t kOtazkaCislaVlaku = 9; // what an Enter answers
 
@@ -169,10 +167,10 @@ Text radek_nazvu(int e) {
 
 // Length of the track; of a line that of all its sections.
 int delka_mista(int e) {
-    if (e < kPrvniTrat || e == kDruhaKresba118)
+    if (!je_usek_trati(e) || e == kDruhaKresba118)
         return delka_koleje(e);
     int delka = 0;
-    for (int n = e % kKrokTrati + kPrvniTrat; n <= kNejvyssiPrvek; n += kKrokTrati)
+    for (int n = zaklad_trati(e); n <= kNejvyssiPrvek; n += kKrokTrati)
         if (je_kolej(n))
             delka += delka_koleje(n);
     return delka;

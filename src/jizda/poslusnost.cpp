@@ -33,10 +33,14 @@ int prvek_c(const Cesta& cesta, int i) {
 }
 // --- warnings
 
+// Signal of a line that a train over the section comes to; one of a pair for each sense.
+int navestidlo_oddilu(int usek, bool smer) {
+    return zaklad_trati(usek) + (smer ? 1 : 0);
+}
 // The signal in front of which the route ends, and its name for the operator.
 int navestidlo_konce(const Cesta& cesta, bool smer) {
-    if (cesta.konec >= 600)
-        return cesta.konec % 50 + (smer ? 601 : 600);
+    if (je_usek_trati(cesta.konec))
+        return navestidlo_oddilu(cesta.konec, smer);
     return cesta.konec + 200;
 }
 Text jmeno_konce(const Cesta& cesta, bool smer) {
@@ -208,8 +212,8 @@ void kontrola_vstupu(int cesta, int i, int v) {
     const int n = prvek_c(c, i + 1);
     const bool smer = vlak_c(v).smer;
     const bool posledni = static_cast<std::size_t>(i) + 2 == c.prvky.size();
-    if (posledni && n >= 600 && !je_v(n, {604, 606, 654, 656})) {
-        const int s = n % 50 + (smer ? 601 : 600);
+    if (posledni && je_usek_trati(n) && !je_v(n, {604, 606, 654, 656})) {
+        const int s = navestidlo_oddilu(n, smer);
         if (relief.navestidlo.je(s) && relief.navestidlo[s].barva != barvy::zelena)
             varuj(veta_projel(v, " projel na ", jmeno_navestidla(s)));
     }
@@ -220,7 +224,7 @@ void kontrola_vstupu(int cesta, int i, int v) {
 void uvnitr_prvku(int cesta, int i, int v) {
     const int e = vlak_c(v).prvky.back();
     const bool cely = static_cast<std::size_t>(vlak_c(v).prvek_konec) + 1 == vlak_c(v).prvky.size();
-    if (cely && (e > 600 || e == 96))
+    if (cely && (e > kPrvniTrat || e == 96))
         vlak_v_cili(e, v); // stopped on the line once the whole train is on the section
     varuj_na_konci_useku(cesta_c(cesta), e, v);
     if (e == 118 && i > 0) {

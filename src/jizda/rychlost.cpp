@@ -35,7 +35,7 @@ constexpr RychlostPrvku kRychlostiVlevo[] = {
     {720, 80}, {722, 80}, {738, 80},  {323, 85},  {326, 85},  {774, 90}, {776, 90}, {19, 100},
     {20, 100}, {21, 100}, {107, 100}, {108, 100}, {234, 100}, {235, 100}};
 
-// km/h that a step adds: long goods trains gather speed slowly, those of empty stock less so.
+// km/h that a step adds: the fewer, the longer a goods train is.
 float zrychleni(const Vlak& vlak) {
     float d = 1;
     if (vlak.druh >= druh_vlaku::prvni_nakladni && vlak.druh != druh_vlaku::lv)

@@ -32,7 +32,6 @@ namespace {
 constexpr int kDelkaLoko_m = 18;           // of a locomotive, and of a consist that would have none
 constexpr std::uint8_t kRychlostDilu = 40; // line speed of a part that was split off
 constexpr int kPrvniRidiciVuz = 900;       // driving trailers
-constexpr int kPosledniVeStanici = 600;    // sections of lines are numbered above
 constexpr int kKolejVytahu = 32;           // beside the stub of the locomotives
 constexpr int kKusaKolej = 574;            // that stub
 
@@ -123,7 +122,7 @@ void obnov_odjezd(Vlak& vlak) {
 // Wholly on one element of the station: a train on a line or at its end is on its way.
 bool stoji_na_koleji(const Vlak& v) {
     constexpr std::array<int, 8> kKonceTrati = {84, 85, 117, 120, 123, 212, 213, 219};
-    return cely_na_prvku(v) && v.prvky.back() <= kPosledniVeStanici &&
+    return cely_na_prvku(v) && v.prvky.back() <= kPrvniTrat &&
            std::find(kKonceTrati.begin(), kKonceTrati.end(), v.prvky.back()) == kKonceTrati.end();
 }
 

@@ -29,6 +29,8 @@ constexpr int kNepojede = 99;      // minutes shown by a train that will not go 
 constexpr int kPobytVychozi = 5;   // least dwell where the train starts
 constexpr int kRychlostZTrati = 5; // km/h at which a train starts from a stop on a line
 
+constexpr int kPosledniUsek = 950; // sections of lines above have no labels that count minutes
+
 constexpr Barva kPozadiTrati = 0x808000;  // label of a train that waits on a line
 constexpr Barva kPozadiMinuty = 0x00FFFF; // label in the last minute
 constexpr Barva kPozadiDvou = 0x808080;   // two minutes before
@@ -199,8 +201,9 @@ int stitek_ve_stanici(int e, const Vlak& vlak) {
     return ukazuje_vlak(e, vlak) ? e : -1;
 }
 
+// Label of the line on which the train waits that shows its number; -1 when none does.
 int stitek_na_trati(int e, const Vlak& vlak) {
-    for (int n = e % 50 + 600; n <= 950; n += 50)
+    for (int n = zaklad_trati(e); n <= kPosledniUsek; n += kKrokTrati)
         for (const int stitek : {n, n + 2})
             if (ukazuje_vlak(stitek, vlak))
                 return stitek;
@@ -436,7 +439,7 @@ void zobraz_cekani(int v) {
     if (vlak.prvky.empty())
         return;
     const int e = vlak.prvky.back();
-    if (e < 600 && e != 118)
+    if (!je_usek_trati(e) && e != 118)
         ukaz_ve_stanici(v, zbyva);
     else
         ukaz_na_trati(v, zbyva);

@@ -120,7 +120,7 @@ void kopie_ab(int i) {
     // The locking has added the whole line to a route that leads out. The table's own route ends on the
     // first section of the line, so that one stays; index 0 is where an entry route begins.
     for (std::size_t k = 1; k < kopie.prvky.size(); ++k)
-        if (kopie.prvky[k] > 599) {
+        if (je_usek_trati(kopie.prvky[k])) {
             kopie.prvky.resize(k + 1);
             kopie.druhy.resize(k + 1);
             kopie.polohy.resize(k + 1);

@@ -16,6 +16,8 @@
 
 inline constexpr int kZadny = -3;           // no element, no index
 inline constexpr int kNejvyssiPrvek = 999;  // element numbers are 0 to 999
+inline constexpr int kPrvniTrat = 600;      // sections of the lines are numbered from here on,
+inline constexpr int kKrokTrati = 50;       // those of one line every 50 numbers
 inline constexpr int kSirkaZnaku = 120;     // width of a glyph of the screen font, twips
 inline constexpr int kVyskaZnaku = 195;     // its height, and the row raster of the relief
 inline constexpr int kDruhyMonitor = 15400; // how far right of its twin a second-monitor element stands
@@ -155,6 +157,14 @@ std::optional<Druh> druh_podle_jmena(std::string_view jmeno);
 
 // The track n exists.
 bool je_kolej(int n);
+// The number n is one of a section of a line.
+constexpr bool je_usek_trati(int n) {
+    return n >= kPrvniTrat;
+}
+// First number of the line of section n.
+constexpr int zaklad_trati(int n) {
+    return kPrvniTrat + n % kKrokTrati;
+}
 // The label n exists.
 bool je_cislo_koleje(int n);
 // n can end a route: it is one of the line ends 212, 213, 219, or it has a target `Image1`.
