@@ -342,7 +342,7 @@ bool zavira(const Cesta& c) {
     if (c.prejezd >= stanicni_prejezdy.size())
         return false;
     const StanicniPrejezd& p = stanicni_prejezdy[c.prejezd];
-    return p.uzavren || p.UZ || p.pocet != 128 || p.cas >= 0;
+    return p.uzavren || p.UZ || p.pocet != kBezVlaku || p.cas >= 0;
 }
 
 // A train stands before the signal: the road is closed first. NOT, by which the operator opens it in
@@ -351,7 +351,8 @@ Nalez prejezd_navesti(const Cesta& c, const VidenaCesta& drive) {
     if (c.PN || !c.prejezd_zaver || c.prejezd >= stanicni_prejezdy.size())
         return std::nullopt;
     const StanicniPrejezd& p = stanicni_prejezdy[c.prejezd];
-    if (p.cas > ted_s() && !p.uzavren && p.pocet == 128) // a closed road may have another closing before it
+    if (p.cas > ted_s() && !p.uzavren &&
+        p.pocet == kBezVlaku) // a closed road may have another closing before it
         return cesta_textem(c, "návěst dovoluje jízdu přes přejezd, který se teprve zavírá"_cz);
     if (!drive.zavirala && !zavira(c))
         return cesta_textem(c, "návěst dovoluje jízdu přes přejezd, který se nezavíral"_cz);

@@ -35,7 +35,6 @@ namespace {
 constexpr TextPohled kNastaveni = "Nastaveni";
 constexpr int kZhasleNavestidlo = 305; // the junction's fixed exercise: a main signal whose lamp has failed
 constexpr int kPosunZhasleho = 120;    // twips
-constexpr int kObrazekVyhybky = 100;   // number of the picture of a switch in state 0
 
 // Calls `co(prvek, n)` for every element of a kind, by rising number.
 template <class Co> void kazdy(TabulkaPrvku& prvky, Co co) {

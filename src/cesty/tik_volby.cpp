@@ -33,7 +33,6 @@ constexpr std::size_t kNejvicCest = 256;  // the walk counts in one byte
 constexpr std::int32_t kPrestaveni_s = 5; // switches have run, the route may be locked
 constexpr std::int32_t kZavirani_s = 40;  // the crossing begins to close
 constexpr std::int32_t kPrivolavaci_s = 30;
-constexpr int kZnakVKoleji = 21; // glyph of a derailer in the way of a route
 
 // What one walk carries from route to route.
 struct Pruchod {
@@ -274,14 +273,6 @@ void stav_cestu(Cesta& c, Pruchod& pruchod) {
 void uzavri_vyhybku(const Cesta& c, int n, int poloha) {
     const int trida = !c.VC ? stav_vyhybky::posun : c.PN ? stav_vyhybky::rezervace : stav_vyhybky::vlak;
     vyhybka_stav(n, poloha + trida, true, true); // a derailer that ran with it has arrived, too
-}
-
-void uzavri_vykolejku(int n) {
-    Prvek& vykolejka = relief.lblVykolejka[n];
-    nastav_text(vykolejka, znak(kZnakVKoleji));
-    vykolejka.barva = barvy::bila;
-    vykolejka.pozadi = barvy::cerna;
-    vykolejka.ramecek = false;
 }
 
 void uzavri_prvky(const Cesta& c) {

@@ -52,7 +52,7 @@ bool bez_barvy_zaveru(const Cesta& c, std::size_t k) {
 bool prvek_je_uzavren(const Cesta& c, std::size_t k) {
     const int n = c.prvky[k];
     switch (druh_na(c, k)) {
-    case druh_prvku::vyhybka: return stav_vyhybky_cislo(n) % 50 == poloha_na(c, k);
+    case druh_prvku::vyhybka: return poloha_stavu(stav_vyhybky_cislo(n)) == poloha_na(c, k);
     case druh_prvku::kolej:
         return bez_barvy_zaveru(c, k) ||
                (relief.kolej[n].barva != barvy::cervena && relief.kolej[n].barva != barvy::seda);
@@ -87,7 +87,7 @@ void uvolni_prvky(const Cesta& c) {
     for (std::size_t k = 1; k < c.prvky.size(); ++k) {
         const int n = c.prvky[k];
         switch (druh_na(c, k)) {
-        case druh_prvku::vyhybka: vyhybka_stav(n, stav_vyhybky_cislo(n) % 50, false, false); break;
+        case druh_prvku::vyhybka: vyhybka_stav(n, poloha_stavu(stav_vyhybky_cislo(n)), false, false); break;
         case druh_prvku::vykolejka: relief.lblVykolejka[n].barva = barvy::seda; break;
         case druh_prvku::kolej:
             // Sections of a line are only ever painted by shunt routes.

@@ -123,7 +123,7 @@ void zapocti_prejezd(int k) {
         prejezd.uzavren = false;
         prejezd.cas = kZadny;
     }
-    if (prejezd.pocet != 128)
+    if (prejezd.pocet != kBezVlaku)
         gtn_zapis(k, gtn::barva_navestidla, 2); // the code of a signal here is meant
 }
 

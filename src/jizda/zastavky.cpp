@@ -320,7 +320,7 @@ void opust_prejezd(int e) {
     StanicniPrejezd& prejezd = stanicni_prejezdy[static_cast<std::size_t>(k)];
     if (prejezd.pocet > 0) // a counter never wraps
         --prejezd.pocet;
-    if (prejezd.pocet == 128 && !prejezd.UZ && !prejezd.uzavren && prejezd.cas < 0)
+    if (prejezd.pocet == kBezVlaku && !prejezd.UZ && !prejezd.uzavren && prejezd.cas < 0)
         gtn_zapis(k, gtn::prejezd, 0);
 }
 

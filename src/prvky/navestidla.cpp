@@ -16,12 +16,6 @@ namespace {
 
 constexpr int kProdlouzeniPN_s = 30;
 
-// A glyph of a main signal with the automatic mode off, and its twin with the mode on.
-struct DvojiceZnaku {
-    int vypnuto, zapnuto;
-};
-constexpr std::array<DvojiceZnaku, 4> kZnakyAB = {{{229, 8}, {230, 15}, {228, 176}, {226, 183}}};
-
 // What ZAM shows: a main signal stays at stop, over a shunting one nobody may shunt.
 Barva blokovana_barva(int s) {
     return je_na_ser(s) ? barvy::modra : barvy::cervena;

@@ -20,7 +20,6 @@ constexpr int kPrumerLampy = 100;
 constexpr Barva kOkrajLampy1 = 0x008000; // no possession
 constexpr Barva kOkrajLampy2 = 0xC0C0C0;
 constexpr int kStranaStanoviste = 320;
-constexpr int kObrazekVyhybky = 100; // number of the picture of a switch in state 0
 
 Text glyfy(std::initializer_list<int> kody) {
     Text text;

@@ -127,6 +127,8 @@ struct Relief {
 };
 extern Relief relief;
 
+inline constexpr int kObrazekVyhybky = 100; // picture of a switch in state 0; behind it those of its states
+
 // Pictures of imgSound.
 inline constexpr std::int16_t kObrazekZvukZapnut = 1;
 inline constexpr std::int16_t kObrazekZvukVypnut = 2;

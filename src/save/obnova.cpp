@@ -10,6 +10,7 @@
 #include "cesty/zasobnik.h"
 #include "jizda/krok_jizdy.h"
 #include "jizda/zastavky.h"
+#include "prvky/navestidla.h"
 #include "prvky/souhlasy.h"
 #include "prvky/vyhybky.h"
 #include "relief/relief.h"
@@ -79,9 +80,6 @@ void obnov_stitky_koleji(const Zaznam& z) {
     }
 }
 
-// Glyphs of main signals, and what they are in automatic mode.
-constexpr std::array<std::array<int, 2>, 4> kGlyfyAB = {{{229, 8}, {230, 15}, {228, 176}, {226, 183}}};
-
 // Numbers beyond the saved ones, and unknown codes, leave the signal at rest.
 void obnov_navestidla(const Zaznam& z) {
     for (std::size_t i = 0; i < z.navestidla_barva.size() && i <= kNejvyssiPrvek; ++i) {
@@ -92,7 +90,7 @@ void obnov_navestidla(const Zaznam& z) {
         Prvek& p = druh[n];
         const std::uint8_t kod = z.navestidla_barva[i];
         if (kod >= kKodAB)
-            for (const auto& [bez, s] : kGlyfyAB)
+            for (const auto& [bez, s] : kZnakyAB)
                 if (kod_znaku(orez(p.text())) == bez) {
                     nastav_text(p, znak(s));
                     break;
@@ -114,7 +112,7 @@ void obnov_vyhybky(const Zaznam& z) {
         const std::uint8_t stav = z.vyhybky[static_cast<std::size_t>(n)];
         p.stav = stav == 0 ? Text{} : text_cisla(stav);
         if (stav != 0)
-            p.obrazek = static_cast<std::int16_t>(stav + 100);
+            p.obrazek = static_cast<std::int16_t>(stav + kObrazekVyhybky);
     }
     for (int n = 0; n <= relief.lblVykolejka.nejvyssi(); ++n) {
         if (!relief.lblVykolejka.je(n))

@@ -20,7 +20,6 @@ constexpr std::array<SeznamTechnologie, 2> kSeznamy = {{
     {"lblStav_prejezdu", kHlavaPrejezdu, &dohled.lblStav_prejezdu, 2},
 }};
 
-constexpr std::uint8_t kBezVlaku = 128;
 constexpr std::array<TextPohled, 2> kJmenaPrejezdu = {"TVH 140,310", "TMK 5,911"};
 
 // Columns, counted from 1.
