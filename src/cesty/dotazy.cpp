@@ -44,6 +44,15 @@ bool je_volna(int n) {
     return je_seda(n);
 }
 
+bool je_volna_kolej(int n) {
+    return je_kolej(n) && je_volna(n);
+}
+
+int prvni_volna_kolej(std::span<const int> koleje) {
+    const auto volna = std::find_if(koleje.begin(), koleje.end(), je_volna_kolej);
+    return volna == koleje.end() ? -1 : *volna;
+}
+
 bool cil_volny(int n) {
     if (cesty.front().zacatek < 0)
         return true;

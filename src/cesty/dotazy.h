@@ -9,6 +9,7 @@
 
 #include <bitset>
 #include <cstdint>
+#include <span>
 
 // Numbered sections that a tail has left: they keep the cyan tint while the train is still on its
 // route, but are free for the next one. A section leaves the set when it is painted again.
@@ -19,6 +20,10 @@ extern std::bitset<kNejvyssiPrvek + 1> odjete;
 // The track n is free: grey, or left by a tail. Four tracks lie in two parts that are drawn apart
 // and count as one: both must be free.
 bool je_volna(int n);
+// The track n exists and is free.
+bool je_volna_kolej(int n);
+// First one of the tracks that exists and is free; -1 when none is.
+int prvni_volna_kolej(std::span<const int> koleje);
 // No other route holds n as its end; for a line section also: no train stands on it.
 bool cil_volny(int n);
 // A route stands from track n, and no train has entered it.

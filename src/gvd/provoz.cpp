@@ -34,16 +34,6 @@ constexpr std::int16_t kPoOhlaseni = 100;  // the announced train no longer is t
 constexpr std::int32_t kCislaDepa = 70000; // numbers from here run as trains at the depot of VH
 constexpr int kLoko731 = 731;
 
-bool volny_prvek(int e) {
-    return je_kolej(e) && je_volna(e);
-}
-
-// First free one; -1 when there is none.
-int prvni_volny(std::span<const int> prvky) {
-    const auto nalezeny = std::find_if(prvky.begin(), prvky.end(), volny_prvek);
-    return nalezeny == prvky.end() ? -1 : *nalezeny;
-}
-
 void nastav_tag(int e, TextPohled metry) {
     relief.kolej[e].stav = metry;
 }
@@ -124,7 +114,7 @@ void rozjed(std::int32_t cislo, std::span<const int> prvky) {
 // A locomotive or set of the post: it shunts in, and its first vehicle then stands by.
 void vstup_z_posty(int gvd_index) {
     constexpr int kPosta = 574;
-    if (!volny_prvek(kPosta))
+    if (!je_volna_kolej(kPosta))
         return;
     const std::int16_t v = vytvor_vlak(false, kPosta, true, kNaVstupu, gvd_index);
     Vlak& vlak = vlak_c(v);
@@ -141,7 +131,7 @@ void vstup_z_posty(int gvd_index) {
 void vstup_z_depa_vh(int gvd_index) {
     constexpr int kDepoVH = 25;
     bool jsou_vozy = false;
-    if (!volny_prvek(kDepoVH) || kontrola_soupravy(radek_gvd(gvd_index).cislo, jsou_vozy) != 0)
+    if (!je_volna_kolej(kDepoVH) || kontrola_soupravy(radek_gvd(gvd_index).cislo, jsou_vozy) != 0)
         return;
     const std::int16_t v = vytvor_vlak(true, kDepoVH, true, kNaVstupu, gvd_index);
     Vlak& vlak = vlak_c(v);
@@ -183,11 +173,11 @@ const StaniceOhlaseni* ohlasovana(int stanice) {
 }
 
 int kolej_ohlaseni(const StaniceOhlaseni& s, bool predbiha, std::uint8_t druh) {
-    if (predbiha && volny_prvek(s.predjizdna))
+    if (predbiha && je_volna_kolej(s.predjizdna))
         return s.predjizdna;
-    if (druh == druh_vlaku::mn && volny_prvek(s.manipulacni))
+    if (druh == druh_vlaku::mn && je_volna_kolej(s.manipulacni))
         return s.manipulacni;
-    return prvni_volny(koleje_ohlaseni(s));
+    return prvni_volna_kolej(koleje_ohlaseni(s));
 }
 
 // A later train is due before this late one, which may be overtaken.
@@ -203,7 +193,7 @@ bool je_predbihan(const GvdVlak& r) {
 void zaloha_731() {
     constexpr int kStranaA = 569, kStranaB = 538;
     const auto privez = [](int element) {
-        if (!stav_provozu.zaloha_731_jede && volny_prvek(element))
+        if (!stav_provozu.zaloha_731_jede && je_volna_kolej(element))
             vytvor_lokomotivu(kLoko731, element, true, "ZAL", true);
     };
     if (stav_provozu.zaloha_731_strana)
@@ -266,7 +256,7 @@ void vstup_v_minute(int gvd_index) {
     const GvdVlak& r = radek_gvd(gvd_index);
     const int stanice = r.stanice.front();
     const auto objev_na = [&](std::span<const int> prvky, bool smer) {
-        if (const int e = prvni_volny(prvky); e >= 0)
+        if (const int e = prvni_volna_kolej(prvky); e >= 0)
             objev_vlak(gvd_index, e, smer, true);
     };
     if (const StaniceOhlaseni* s = ohlasovana(stanice)) {

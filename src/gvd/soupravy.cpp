@@ -31,16 +31,6 @@ constexpr TextPohled kZaloha = "ZAL";
 constexpr TextPohled kPosunova = "210"; // series of the shunting locomotive
 constexpr std::array kKolejeDepa = {558, 559, 560, 503, 509, 510};
 
-// 0 fills the rest of a list of tracks; the relief does have an element of that number.
-bool volny_prvek(int e) {
-    return e != 0 && je_kolej(e) && je_volna(e);
-}
-
-template <class Prvky> int prvni_volny(const Prvky& prvky) {
-    const auto nalezeny = std::find_if(std::begin(prvky), std::end(prvky), volny_prvek);
-    return nalezeny == std::end(prvky) ? -1 : *nalezeny;
-}
-
 // The text is the number of a train.
 bool je_cislo_vlaku(const Text& text, std::int32_t cislo) {
     const auto hodnota = ciselny_text(text);
@@ -74,7 +64,7 @@ void pripoj_posunovou(Vlak& v, int element) {
 
 // First free one of the depot's tracks; -1 none. Without any the locomotive exists, but on no track.
 int kolej_depa() {
-    return prvni_volny(kKolejeDepa);
+    return prvni_volna_kolej(kKolejeDepa);
 }
 
 } // namespace

@@ -24,16 +24,6 @@
 
 namespace {
 
-// 0 fills the rest of a list of tracks; the relief does have an element of that number.
-bool volny_prvek(int e) {
-    return e != 0 && je_kolej(e) && je_volna(e);
-}
-
-template <class Prvky> int prvni_volny(const Prvky& prvky) {
-    const auto nalezeny = std::find_if(std::begin(prvky), std::end(prvky), volny_prvek);
-    return nalezeny == std::end(prvky) ? -1 : *nalezeny;
-}
-
 // The sense of a train that stands at `stanice` and goes on to `dalsi`.
 bool smer_ve_stanici(int stanice, int dalsi) {
     const auto je = [dalsi](std::initializer_list<int> kody) {
@@ -127,6 +117,10 @@ struct Umisteni {
     bool na_trati = false; // with the route of a line
 };
 
+std::span<const int> koleje_umisteni(const Umisteni& u) {
+    return {u.koleje.begin(), std::find(u.koleje.begin(), u.koleje.end(), 0)};
+}
+
 // The tracks of a station for a train that comes from `predchozi` and goes to `dalsi`.
 std::optional<Umisteni> vyber_koleje(int stanice, int predchozi, int dalsi, int index, const GvdVlak& r) {
     const bool smer = smer_ve_stanici(stanice, dalsi);
@@ -198,7 +192,7 @@ void umisti_vlak_do_stanice(int stanice, int predchozi, int dalsi, int index, in
     const auto kde = vyber_koleje(stanice, predchozi, dalsi, index, radek_gvd(gvd_index));
     if (!kde)
         return;
-    const int element = prvni_volny(kde->koleje);
+    const int element = prvni_volna_kolej(koleje_umisteni(*kde));
     if (element < 0)
         return;
     if (const CestaNaTrati* trat = kde->na_trati ? najdi_cestu_na_trati(element) : nullptr;

@@ -63,7 +63,7 @@ const Brana* najdi_branu(int popis) {
 }
 
 bool je_volno(int kolej) {
-    return je_kolej(kolej) && cil_volny(kolej) && je_volna(kolej);
+    return je_volna_kolej(kolej) && cil_volny(kolej);
 }
 
 // A record of vehicles of one series, standing on the track, for a run of some minutes between two places.
