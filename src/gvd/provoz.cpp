@@ -7,6 +7,7 @@
 #include "cesty/cesta.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
+#include "cesty/programova_cesta.h"
 #include "desk/tabulka_vlaku.h"
 #include "gvd/dopravny.h"
 #include "gvd/druhy_vlaku.h"
@@ -396,18 +397,8 @@ void postav_cesty_z(int e) {
 
 void pridej_cestu_souhlasu(int k) {
     const KonecTrati& konec = kKonceTrati.at(static_cast<std::size_t>(k));
-    if (cesty.front().zacatek >= 0)
-        cesty.emplace_back();
-    Cesta& c = cesty.back();
-    c = Cesta{};
-    c.zacatek = na_integer(konec.vjezd);
-    c.konec = na_integer(konec.usek);
-    c.prvky = {na_integer(konec.navestidlo), na_integer(konec.usek)};
-    c.druhy = {druh_prvku::kolej, druh_prvku::kolej};
-    c.polohy = {0, 0};
-    c.VC = c.prehozena = c.Postavena = c.Provedena = true;
-    c.prejezd = kBezPrejezdu;
-    c.ZT = kZTprogramu;
+    const std::array prvky = {na_integer(konec.navestidlo), na_integer(konec.usek)};
+    pridej_programovou_cestu(konec.vjezd, konec.usek, prvky);
 }
 
 std::int16_t zpozdeni_vlaku(std::int32_t cislo) {

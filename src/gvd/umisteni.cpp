@@ -5,6 +5,7 @@
 #include "cesty/cesta.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
+#include "cesty/programova_cesta.h"
 #include "desk/tabulka_vlaku.h"
 #include "gvd/dopravny.h"
 #include "gvd/druhy_vlaku.h"
@@ -231,22 +232,10 @@ void cesta_na_trati(int element, int vlak) {
     const CestaNaTrati* vzor = najdi_cestu_na_trati(element);
     if (vzor == nullptr)
         return;
-    if (cesty.front().zacatek >= 0)
-        cesty.emplace_back();
-    Cesta& c = cesty.back();
-    c = Cesta{};
-    c.zacatek = vzor->zacatek;
-    c.konec = vzor->konec;
-    const auto prvky = prvky_na_trati(*vzor);
-    c.prvky.assign(prvky.begin(), prvky.end());
-    c.druhy.assign(prvky.size(), druh_prvku::kolej);
-    c.polohy.assign(prvky.size(), 0);
+    Cesta& c = pridej_programovou_cestu(vzor->zacatek, vzor->konec, prvky_na_trati(*vzor));
     c.polohy.back() = 2;
     if (element == 638)
         c.polohy.front() = 2;
-    c.VC = c.prehozena = c.Postavena = c.Provedena = true;
-    c.prejezd = kBezPrejezdu;
-    c.ZT = kZTprogramu;
     c.Vlak = na_integer(vlak);
 
     if (element == 96)
