@@ -37,6 +37,11 @@ bool je_cislo_vlaku(const Text& text, std::int32_t cislo) {
     return hodnota && *hodnota == cislo;
 }
 
+// At least one vehicle is no locomotive.
+bool ma_vozy(const Vlak& v) {
+    return std::any_of(v.vozy.begin(), v.vozy.end(), [](const Text& vuz) { return !je_loko(vuz); });
+}
+
 // The train that the row's set goes on as; nothing for rows that keep no set.
 std::optional<std::int16_t> predava(const GvdVlak& r) {
     return r.vozy.size() > 1 && r.vozy_vlaky.size() > 1 ? std::optional(r.vozy_vlaky[1]) : std::nullopt;
@@ -125,9 +130,7 @@ std::int16_t kontrola_soupravy(std::int32_t cislo, bool& jsou_vozy) {
     for (const Vlak& v : vlaky) {
         if (v.cislo < 1)
             continue;
-        const bool ma_vozy =
-            std::any_of(v.vozy.begin(), v.vozy.end(), [](const Text& vuz) { return !je_loko(vuz); });
-        if (v.cislo == cislo && ma_vozy) {
+        if (v.cislo == cislo && ma_vozy(v)) {
             if (je_cislo_vlaku(v.vozy.front(), v.loko_rada2 > 0 ? v.loko_rada2 : v.loko_rada))
                 jsou_vozy = true;
             return -1;

@@ -291,10 +291,13 @@ bool jed(int c, int i, int v, std::int32_t dt) {
 
 void krok_cela(int v, std::int32_t dt) {
     const Vlak& vlak = vlak_c(v);
-    if (vlak.cislo <= 0 || !(vlak.posun || vlak.muze_jet) || vlak.prvky.empty() || !ma_loko(vlak))
+    if (vlak.cislo <= 0 || !(vlak.posun || vlak.muze_jet) || vlak.prvky.empty())
         return;
     const auto dalsi = [v](int od) { return dalsi_cesta_na_prvku(vlak_c(v).prvky.back(), od); };
-    for (int c = dalsi(0); c >= 0; c = dalsi(c + 1)) {
+    int c = dalsi(0);
+    if (c < 0 || !ma_loko(vlak)) // most trains of a quiet desk have no route: that is asked first
+        return;
+    for (; c >= 0; c = dalsi(c + 1)) {
         const int i = misto_na_ceste(cesta_c(c), vlak_c(v));
         if (i >= 0 && vezmi_cestu(c, i, v) && jed(c, i, v, dt))
             return;
