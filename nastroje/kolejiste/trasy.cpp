@@ -186,8 +186,9 @@ std::vector<Nalez> Odvozeni::hledej(DruhTrasy druh, const Navestidlo& od, const 
     return vysledek;
 }
 
-// The marks of the third list are those that the locking would set: before the signal, on every target
-// and at the end the number of the train is written when its tail leaves.
+// The marks of the third list are those that the locking sets: before the signal, on every target and at
+// the end the number of the train is taken off its label when its tail leaves. The first section of a line
+// has none: the number stays on the line until the train has left the last section, which the locking marks.
 Trasa Odvozeni::zaznam(DruhTrasy druh, const Navestidlo& od, const Nalez& nalez, const Misto& misto) const {
     Trasa t{druh, misto, {}, {}};
     ZaznamCesty& z = t.zaznam;
@@ -199,8 +200,9 @@ Trasa Odvozeni::zaznam(DruhTrasy druh, const Navestidlo& od, const Nalez& nalez,
         int poloha = krok.poloha;
         if (krok.typ == Typ::kolej) {
             const Kolej& kolej = *koleje.at(krok.cislo);
-            const bool cil = kolej.cil && (kolej.cislo < kTratniUseky || kolej.cislo == kTrat638);
-            poloha = k == 0 || k + 1 == nalez.kroky.size() || cil ? 2 : 0;
+            const bool na_trati = kolej.cislo >= kTratniUseky && kolej.cislo != kTrat638;
+            const bool na_konci = k + 1 == nalez.kroky.size();
+            poloha = k == 0 || (!na_trati && (na_konci || kolej.cil)) ? 2 : 0;
         } else if (krok.typ == Typ::vyhybka && minusu(poloha) > 0) {
             const auto i = pravidla.rychlost.find(krok.cislo);
             const int odbockou = i == pravidla.rychlost.end() ? 1 : i->second;

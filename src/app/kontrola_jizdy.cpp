@@ -40,8 +40,8 @@ struct VidenyVlak {
     std::size_t prvku = 0; // length of its list
     std::int16_t konec = 0, celo = 0, delka = 0;
     bool muze_jet = false;
-    bool sdili = false;              // a track with another train
-    bool prebyva = false;            // held more than its length
+    bool prebyva = false;              // held more than its length
+    std::vector<std::int16_t> sdilene; // tracks where another train stands, or has stood with it
     std::vector<std::int16_t> volne; // tracks it came to by a shunt or calling-on route laid towards a train
     std::vector<std::int16_t> nezavrene; // switches it came to on the calling-on aspect
 };
@@ -278,13 +278,25 @@ Nalez souvislost() {
 
 // --- the length under a train
 
-// Where two trains stand on one track, each writes its metres over those of the other.
-bool sdili_kolej(std::size_t i) {
+// Where two trains stand on one track, each writes its metres over those of the other, and who stays there
+// finds itself somewhere on it: nothing can be told until it has left the track. Nor of a train that is seen
+// for the first time, after a load, and has not run the whole of a track behind its head.
+std::vector<std::int16_t> sdilene_koleje(std::size_t i) {
     const Vlak& v = vlaky[i];
-    for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j)
-        if (v.prvky_druh[j] == druh_prvku::kolej && drzi_jiny(v.prvky[j], static_cast<int>(i)))
-            return true;
-    return false;
+    const VidenyVlak* drive = videny(i);
+    std::vector<std::int16_t> sdilene;
+    bool pred_jinou = false; // another track lies between this one and the head
+    for (std::size_t j = v.prvky.size(); j-- > static_cast<std::size_t>(v.prvek_konec);) {
+        const std::int16_t n = v.prvky[j];
+        if (v.prvky_druh[j] != druh_prvku::kolej)
+            continue;
+        const bool sdilela =
+            drive != nullptr ? je_mezi(drive->sdilene, n) : pred_jinou && metry(n) != delka_koleje(n);
+        if (sdilela || drzi_jiny(n, static_cast<int>(i)))
+            sdilene.push_back(n);
+        pred_jinou = true;
+    }
+    return sdilene;
 }
 
 // Metres that it takes from entry `od` to its head, and what its rearmost entry takes of them.
@@ -310,12 +322,14 @@ bool prebyva_konec(const Vlak& v) {
 
 // The tail leaves a track neither before the train has left it nor, once it may run, later.
 Nalez delky() {
-    const bool jelo_se = simulace.tick_jizdy != videno.tick_jizdy;
+    // the movement has made a step: the end of a pause sets both marks of time at once
+    const bool jelo_se =
+        simulace.tick_jizdy != videno.tick_jizdy && simulace.tick_jizdy != simulace.tick_hodin;
     for (std::size_t i = 0; i < vlaky.size(); ++i) {
         const Vlak& v = vlaky[i];
         const VidenyVlak* drive = videny(i);
         if (!jede(v) || drive == nullptr || drive->delka != v.delka || !drive->muze_jet || !v.muze_jet ||
-            drive->sdili || sdili_kolej(i))
+            !drive->sdilene.empty() || !sdilene_koleje(i).empty())
             continue;
         const bool na_vice_prvcich = static_cast<std::size_t>(v.prvek_konec) + 1 < v.prvky.size();
         if (v.prvek_konec > drive->konec && na_vice_prvcich && drzena_delka(v) < v.delka)
@@ -456,7 +470,7 @@ void zapamatuj_vlaky() {
         n.delka = v.delka;
         n.muze_jet = v.muze_jet;
         n.prebyva = prebyva_konec(v);
-        n.sdili = sdili_kolej(i);
+        n.sdilene = sdilene_koleje(i);
         if (const VidenyVlak* drive = videny(i)) {
             for (const std::int16_t volna : drive->volne)
                 if (drzi_prvek(v, volna))

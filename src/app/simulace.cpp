@@ -3,6 +3,7 @@
 
 #include "app/blikani.h"
 #include "app/kontrola_jizdy.h"
+#include "app/kontrola_majitelu.h"
 #include "app/parametry.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
@@ -58,6 +59,7 @@ void nova_simulace() {
     blikani = Blikani{};
     zapomen_technologii();
     zapomen_kontrolu_jizdy();
+    prijmi_majitele();
     parametry = Parametry{};
 }
 

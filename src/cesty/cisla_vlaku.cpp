@@ -4,6 +4,7 @@
 #include "cesty/dotazy.h"
 #include "cesty/smer_trati.h"
 #include "cesty/zvyrazneni.h"
+#include "jizda/vlak.h"
 #include "relief/prejezdy.h"
 #include "save/gtn.h"
 #include "zaklad/cisla.h"
@@ -26,6 +27,14 @@ bool ukazuje_cislo(int stitek) {
     const TextPohled text = orez(relief.cislo_koleje[stitek].text());
     return !text.empty() && text != orez(relief.cislo_koleje[stitek].popis()) &&
            !(stitek == kT2 && text == "T2");
+}
+
+// Number before the signal of a route, by the first label of its track or the second one.
+Text cislo_pred_navestidlem(int kolej) {
+    for (const int stitek : {kolej, kolej + 200})
+        if (ukazuje_cislo(stitek))
+            return Text(orez(relief.cislo_koleje[stitek].text()));
+    return {};
 }
 
 // Labels of the line of section n, in the order of the sections.
@@ -141,18 +150,44 @@ void posun_cisla(const std::vector<int>& stitky, TextPohled text) {
         vyprazdni_stitek(relief.cislo_koleje[stitky[misto]]);
 }
 
-// The last number has left the line: labels at rest, arrow out, line crossings clear.
+// The last number has left the line: labels at rest, line crossings clear, and the arrow out, unless there
+// is a train whose number has found no room on the labels.
 void uvolni_trat(int n, const std::vector<int>& stitky, bool tise) {
     for (const int clen : stitky) {
         Prvek& stitek = relief.cislo_koleje[clen];
         if (orez(stitek.text()).empty())
             nastav_text(stitek, stitek.popis());
     }
-    if (!tise && std::none_of(stitky.begin(), stitky.end(), ukazuje_cislo) && !trat_drzi_cesta(n))
+    if (!tise && std::none_of(stitky.begin(), stitky.end(), ukazuje_cislo) && !trat_drzi_cesta(n) &&
+        !stoji_vlak_na_trati(n))
         zhasni_sipku(zaklad_trati(n));
     for (Prejezd& prejezd : prejezdy)
         if (je_usek_trati(prejezd.kolej) && zaklad_trati(prejezd.kolej) == zaklad_trati(n))
             prejezd.uvolnen = false;
+}
+
+// Number of the train that a route leads into a line or has led there; none when it runs elsewhere now.
+Text cislo_cesty_na_trat(const Cesta& c) {
+    if (!c.VC || !c.Postavena || c.cas_ruseni >= 0)
+        return {};
+    if (c.Vlak < 0)
+        return c.Umazat == 0 ? cislo_pred_navestidlem(kolej_navestidla(c.zacatek)) : Text{};
+    if (static_cast<std::size_t>(c.Vlak) >= vlaky.size())
+        return {};
+    const Vlak& vlak = vlaky[static_cast<std::size_t>(c.Vlak)];
+    const bool jede = vlak.cislo > 0 && !vlak.prvky.empty() &&
+                      std::find(c.prvky.begin(), c.prvky.end(), vlak.prvky.back()) != c.prvky.end();
+    return jede ? text_cisla(zobrazene_cislo(vlak)) : Text{};
+}
+
+// A line may hold more trains than it has labels: one that found no label free takes the one that falls free.
+void dopln_cisla(int n, TextPohled smazane) {
+    for (const Cesta& c : cesty) {
+        if (!vede_na_trat(c) || zaklad_trati(posledni_prvek(c)) != zaklad_trati(n))
+            continue;
+        if (const Text cislo = cislo_cesty_na_trat(c); cislo != orez(smazane))
+            pis_na_trat(n, cislo);
+    }
 }
 
 void smaz_z_trati(int n, TextPohled text, bool tise) {
@@ -165,19 +200,13 @@ void smaz_z_trati(int n, TextPohled text, bool tise) {
         smaz_z_koleje(pred_trati);
     const std::vector<int> stitky = stitky_trati(n);
     posun_cisla(stitky, text);
+    if (!tise)
+        dopln_cisla(n, text);
     if (cil_volny(n))
         uvolni_trat(n, stitky, tise);
 }
 
 // --- chains of routes
-
-// Number before the signal of a route, by the first label of its track or the second one.
-Text cislo_pred_navestidlem(int kolej) {
-    for (const int stitek : {kolej, kolej + 200})
-        if (ukazuje_cislo(stitek))
-            return Text(orez(relief.cislo_koleje[stitek].text()));
-    return {};
-}
 
 void pis_na_konec(const Cesta& cesta, TextPohled text) {
     pis_cislo(cesta.konec, text);
@@ -267,4 +296,14 @@ void vymaz_cislo(int i, bool tiche, TextPohled text) {
             return;
         smaz_z_konce(*cesta, cislo, tiche);
     }
+}
+
+void vrat_jmeno_koleje(int prvek) {
+    if (prvek >= 600 || !je_cislo_koleje(prvek) || !je_kolej(prvek) || !je_volna(prvek))
+        return;
+    Prvek& stitek = relief.cislo_koleje[prvek];
+    if (!orez(stitek.text()).empty() || orez(stitek.popis()).empty())
+        return;
+    nastav_text(stitek, stitek.popis());
+    stitek.viditelny = true;
 }

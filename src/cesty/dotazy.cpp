@@ -26,6 +26,17 @@ bool je_seda(int n) {
     return relief.kolej[n].barva == barvy::seda || odjete.test(static_cast<std::size_t>(n));
 }
 
+// The other part of track n; -3 when it has none on the relief.
+int druha_cast(int n) {
+    for (const auto& dvojice : kDvojiceUseku)
+        for (const int i : {0, 1})
+            if (n == dvojice[static_cast<std::size_t>(i)]) {
+                const int m = dvojice[static_cast<std::size_t>(1 - i)];
+                return je_kolej(m) ? m : kZadny;
+            }
+    return kZadny;
+}
+
 bool nevjel(const Cesta& c) {
     return c.Umazat == 0;
 }
@@ -37,11 +48,13 @@ template <class Podminka> bool nektera(Podminka podminka) {
 } // namespace
 
 bool je_volna(int n) {
-    for (const auto& dvojice : kDvojiceUseku)
-        if (n == dvojice[0] || n == dvojice[1])
-            return std::all_of(dvojice.begin(), dvojice.end(),
-                               [n](int m) { return (m != n && !je_kolej(m)) || je_seda(m); });
-    return je_seda(n);
+    const int m = druha_cast(n);
+    return je_seda(n) && (m == kZadny || je_seda(m));
+}
+
+int nevolny_usek(int n) {
+    const int m = druha_cast(n);
+    return je_seda(n) && m != kZadny && !je_seda(m) ? m : n;
 }
 
 bool je_volna_kolej(int n) {

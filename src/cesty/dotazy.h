@@ -20,6 +20,8 @@ extern std::bitset<kNejvyssiPrvek + 1> odjete;
 // The track n is free: grey, or left by a tail. Four tracks lie in two parts that are drawn apart
 // and count as one: both must be free.
 bool je_volna(int n);
+// Of the two parts the one for which je_volna(n) says no: n itself first; n when it is free.
+int nevolny_usek(int n);
 // The track n exists and is free.
 bool je_volna_kolej(int n);
 // First one of the tracks that exists and is free; -1 when none is.

@@ -16,21 +16,24 @@
 
 namespace {
 
-// Route other than `ceka` that has commanded the element; nullptr when none has.
+// Route other than `ceka` that holds the element still: commanded, not released by RNZ, and its train not
+// yet there. A calling-on route holds its switches only. nullptr when none does.
 const Cesta* drzitel(const Cesta& ceka, std::uint8_t druh, int n) {
     for (const Cesta& c : cesty) {
-        if (&c == &ceka || !c.prehozena)
+        if (&c == &ceka || !c.prehozena || c.PN_zaver || (c.PN && druh == druh_prvku::kolej))
             continue;
-        for (std::size_t k = 1; k < c.prvky.size(); ++k)
+        for (std::size_t k = std::size_t{c.Umazat} + 1; k < c.prvky.size(); ++k)
             if (c.prvky[k] == n && druh_na(c, k) == druh)
                 return &c;
     }
     return nullptr;
 }
 
+// The switch itself, without those that are thrown with it.
 Text jmeno_vyhybky(int n) {
     const ZaznamVazeb* zaznam = najdi_vazby(n);
-    return zaznam != nullptr && !zaznam->nazev.empty() ? zaznam->nazev : text_cisla(n);
+    const Text nazev = zaznam == nullptr ? Text{} : zaznam->nazev.substr(0, zaznam->nazev.find('/'));
+    return orez(nazev).empty() ? text_cisla(n) : Text(orez(nazev));
 }
 
 Text jmeno_useku(int n) {
@@ -42,30 +45,41 @@ Text sekundy(std::int32_t s) {
     return text_cisla(s) + " s";
 }
 
-Text duvod_vyhybky(const Cesta& c, int n) {
-    const Text vyhybka = Text("výhybka "_cz) + jmeno_vyhybky(n);
-    if (stav_vyhybky_cislo(n) / 50 * 50 == stav_vyhybky::obsazena)
-        return vyhybka + Text(" je obsazena"_cz);
-    if (const Cesta* drzi = drzitel(c, druh_prvku::vyhybka, n))
-        return vyhybka + Text(" je pod závěrem cesty "_cz) + popis_cesty(*drzi);
-    return vyhybka + Text(" je pod závěrem"_cz);
+// "je pod závěrem cesty VC ...": what keeps a switch from being thrown.
+Text stav_slovy(const Cesta& c, int n) {
+    const int stav = stav_vyhybky_cislo(n);
+    if (stav / 50 * 50 == stav_vyhybky::obsazena)
+        return "je obsazena";
+    const Cesta* drzi = drzitel(c, druh_prvku::vyhybka, n);
+    if (stav > 49)
+        return drzi == nullptr ? Text("je pod závěrem"_cz)
+                               : Text("je pod závěrem cesty "_cz) + popis_cesty(*drzi);
+    // thrown by hand, or for a route that is being set
+    return drzi == nullptr || drzi->Provedena ? Text("se přestavuje"_cz)
+                                              : Text("se přestavuje pro cestu "_cz) + popis_cesty(*drzi);
 }
 
 Text duvod_useku(const Cesta& c, int n) {
-    const Text usek = Text("úsek "_cz) + jmeno_useku(n);
-    if (relief.kolej[n].barva == barvy::cervena)
-        return usek + Text(" je obsazen"_cz);
-    if (const Cesta* drzi = drzitel(c, druh_prvku::kolej, n))
-        return usek + Text(" je pod závěrem cesty "_cz) + popis_cesty(*drzi);
-    return usek + Text(" není volný"_cz);
+    const int m = nevolny_usek(n);
+    Text veta(m == n ? "úsek "_cz : "křižující úsek "_cz);
+    veta += jmeno_useku(m);
+    if (relief.kolej[m].barva == barvy::cervena)
+        return veta + Text(" je obsazen"_cz);
+    if (const Cesta* drzi = drzitel(c, druh_prvku::kolej, m))
+        return veta + Text(" je pod závěrem cesty "_cz) + popis_cesty(*drzi);
+    return veta + Text(" není volný"_cz);
 }
 
-Text duvod_konce(const Cesta& c, TextPohled veta, bool jen_vlakove) {
-    const auto drzi = std::find_if(cesty.begin(), cesty.end(), [&](const Cesta& jina) {
-        return &jina != &c && posledni_prvek(jina) == posledni_prvek(c) &&
-               (jina.prehozena || jina.Postavena) && (!jen_vlakove || jina.VC);
-    });
-    return Text(veta) + (drzi == cesty.end() ? jmeno_useku(c.konec) : popis_cesty(*drzi));
+// The route at which the end is refused, by the condition that refuses it.
+template <class Podminka> Text duvod_konce(TextPohled veta, Podminka podminka) {
+    const auto drzi = std::find_if(cesty.begin(), cesty.end(), podminka);
+    return Text(veta) + (drzi == cesty.end() ? Text{} : popis_cesty(*drzi));
+}
+
+Text duvod_smeru(int konec) {
+    const Text kolej = jmeno_useku(konec);
+    Text veta(konec >= 600 ? "na traťové koleji "_cz : "na trati za kolejí "_cz);
+    return veta + kolej + Text(" platí opačný směr"_cz);
 }
 
 Text veta_prekazky(const Cesta& c, const Prekazka& p) {
@@ -73,21 +87,28 @@ Text veta_prekazky(const Cesta& c, const Prekazka& p) {
     case DruhPrekazky::zadna: return {};
     case DruhPrekazky::navestidlo:
         return Text("návěstidlo "_cz) + jmeno_navestidla(p.prvek) + Text(" je zablokováno (ZAM)"_cz);
-    case DruhPrekazky::vyhybka: return duvod_vyhybky(c, p.prvek);
+    case DruhPrekazky::vyhybka:
     case DruhPrekazky::pohyb_vyhybky:
-        return Text("výhybka "_cz) + jmeno_vyhybky(p.prvek) + Text(" se přestavuje"_cz);
+        return Text("výhybka "_cz) + jmeno_vyhybky(p.prvek) + " " + stav_slovy(c, p.prvek);
     case DruhPrekazky::bocni_vyhybka:
-        return Text("výhybka "_cz) + jmeno_vyhybky(p.prvek) + Text(" nedává boční ochranu"_cz);
+        return Text("výhybka "_cz) + jmeno_vyhybky(p.prvek) + Text(" nedává boční ochranu, protože "_cz) +
+               stav_slovy(c, p.prvek);
     case DruhPrekazky::usek: return duvod_useku(c, p.prvek);
-    case DruhPrekazky::konec: return duvod_konce(c, "konec cesty drží "_cz, false);
-    case DruhPrekazky::vlakova_cesta: return duvod_konce(c, "na konec cesty vede "_cz, true);
-    case DruhPrekazky::opacny_smer:
-        return Text("na trati do "_cz) + jmeno_useku(c.konec) + Text(" je opačný směr"_cz);
+    case DruhPrekazky::konec:
+        return duvod_konce("konec cesty drží cesta "_cz, [&](const Cesta& jina) {
+            return posledni_prvek(jina) == c.konec && (jina.prehozena || jina.Postavena);
+        });
+    case DruhPrekazky::vlakova_cesta:
+        return duvod_konce("na konec cesty vede cesta "_cz, [&](const Cesta& jina) {
+            return posledni_prvek(jina) == posledni_prvek(c) && jina.VC && !jina.PN && jina.prehozena &&
+                   jina.Umazat == 0;
+        });
+    case DruhPrekazky::opacny_smer: return duvod_smeru(c.konec);
     case DruhPrekazky::souhlas:
         return Text("souhlas "_cz) + Text(kKonceTrati[static_cast<std::size_t>(p.prvek)].nazev) +
                Text(" není volný"_cz);
     case DruhPrekazky::kolej_118:
-        return Text("směr na koleji "_cz) + jmeno_useku(118) + Text(" je zavřen"_cz);
+        return Text("směr na koleji "_cz) + jmeno_useku(118) + Text(" není volný"_cz);
     }
     return {};
 }
@@ -118,8 +139,8 @@ Text duvod_zaveru(const Cesta& c, std::int32_t ted) {
     if (ted <= c.Kdy_prehoz)
         return Text("přestavují se výhybky, závěr za "_cz) + sekundy(c.Kdy_prehoz - ted + 1);
     if (const std::int32_t zbyva = zbyva_prejezdu(c, ted); zbyva > 0)
-        return Text("čeká na dobu uzavírání přejezdu "_cz) + Text(kNazvyPrejezdu[c.prejezd]) +
-               Text(", zbývá "_cz) + sekundy(zbyva);
+        return Text("čeká na uzavření přejezdu "_cz) + Text(kNazvyPrejezdu[c.prejezd]) + Text(", zbývá "_cz) +
+               sekundy(zbyva);
     return {};
 }
 
@@ -143,6 +164,8 @@ Text duvod_cekani(int i) {
     const Cesta& c = cesta_c(i);
     if (c.zacatek < 0)
         return {};
+    if (static_cast<std::size_t>(i) >= kNejvicCest)
+        return Text("je před ní 256 cest, víc jich stavědlo naráz neobslouží"_cz);
     const std::int32_t ted = ted_s();
     switch (faze_cesty(c, ted)) {
     case FazeCesty::zruseni:
@@ -159,8 +182,9 @@ Text duvod_cekani(int i) {
 
 Text duvod_zasobniku() {
     for (std::size_t i = 0; i < cesty.size(); ++i)
-        if (ceka_na_ni_zasobnik(cesty[i]))
-            return duvod_cekani(static_cast<int>(i));
+        if (ceka_na_ni_zasobnik(cesty[i])) // the same pick may stand already and be queued once more
+            if (Text duvod = duvod_cekani(static_cast<int>(i)); !duvod.empty())
+                return duvod;
     return {};
 }
 

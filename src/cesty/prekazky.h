@@ -6,7 +6,11 @@
 
 #include "cesty/cesta.h"
 
+#include <cstddef>
 #include <cstdint>
+
+// The walk of the tick counts in one byte: routes behind these are not looked at.
+inline constexpr std::size_t kNejvicCest = 256;
 
 // What the tick does with a route; the first one that applies, in this order.
 enum class FazeCesty : std::uint8_t {

@@ -29,7 +29,6 @@
 
 namespace {
 
-constexpr std::size_t kNejvicCest = 256;  // the walk counts in one byte
 constexpr std::int32_t kPrestaveni_s = 5; // switches have run, the route may be locked
 constexpr std::int32_t kZavirani_s = 40;  // the crossing begins to close
 constexpr std::int32_t kPrivolavaci_s = 30;
@@ -272,7 +271,9 @@ void stav_cestu(Cesta& c, Pruchod& pruchod) {
 
 void uzavri_vyhybku(const Cesta& c, int n, int poloha) {
     const int trida = !c.VC ? stav_vyhybky::posun : c.PN ? stav_vyhybky::rezervace : stav_vyhybky::vlak;
-    vyhybka_stav(n, poloha + trida, true, true); // a derailer that ran with it has arrived, too
+    // Into the first end of its triple a switch of a route locks without a word about its derailers: one
+    // that ran with it goes on showing that until the switch is released. This is meant.
+    vyhybka_stav(n, poloha + trida, true, konec_trojice(poloha) != 1);
 }
 
 void uzavri_prvky(const Cesta& c) {

@@ -87,7 +87,7 @@ void uvolni_prvky(const Cesta& c) {
     for (std::size_t k = 1; k < c.prvky.size(); ++k) {
         const int n = c.prvky[k];
         switch (druh_na(c, k)) {
-        case druh_prvku::vyhybka: vyhybka_stav(n, poloha_stavu(stav_vyhybky_cislo(n)), false, false); break;
+        case druh_prvku::vyhybka: uvolni_zaver_vyhybky(n, poloha_stavu(stav_vyhybky_cislo(n))); break;
         case druh_prvku::vykolejka: relief.lblVykolejka[n].barva = barvy::seda; break;
         case druh_prvku::kolej:
             // Sections of a line are only ever painted by shunt routes.
@@ -145,6 +145,7 @@ void proved_zruseni(int i) {
         stanicni_prejezdy[c.prejezd].cas = -3;
     if (!je_usek_trati(konec) && c.VC && je_kolej(konec))
         uvolni_prvek(konec);
+    vrat_jmeno_koleje(konec);
     if (!c.Postavena) {
         odznac_navestidlo(c.zacatek);
         vrat_barvu_konce(c);
@@ -214,7 +215,7 @@ void rnz(int s) {
     for (std::size_t k = 1; k < c->prvky.size() && !c->PN_zaver; ++k) {
         const int n = c->prvky[k];
         if (druh_na(*c, k) == druh_prvku::vyhybka)
-            vyhybka_stav(n, poloha_na(*c, k), false, false);
+            uvolni_zaver_vyhybky(n, poloha_na(*c, k));
         if (druh_na(*c, k) == druh_prvku::vykolejka)
             relief.lblVykolejka[n].barva = barvy::seda;
     }

@@ -3,6 +3,7 @@
 
 #include "app/cas.h"
 #include "app/kontrola.h"
+#include "app/kontrola_majitelu.h"
 #include "app/simulace.h"
 #include "davka/planovac.h"
 #include "davka/prikazy.h"
@@ -21,7 +22,9 @@
 namespace {
 
 void zkontroluj_stav() {
-    const std::optional<Text> nalez = kontrola_stavu();
+    std::optional<Text> nalez = kontrola_stavu();
+    if (!nalez)
+        nalez = kontrola_majitelu();
     if (nalez)
         throw ChybaStavu{na_utf8(*nalez)};
 }

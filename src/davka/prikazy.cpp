@@ -4,6 +4,7 @@
 #include "app/bezpecne.h"
 #include "app/cas.h"
 #include "app/casovace.h"
+#include "app/kontrola_majitelu.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "davka/obrazovka_startu.h"
@@ -217,6 +218,7 @@ void prikaz_nastav(BehSkriptu&, Slova slova) {
     const Cil cil = precti_cil(slova);
     if (slova.size() == cil.slov)
         chyba_skriptu("nastav: chybí POLE=HODNOTA");
+    prijmi_majitele();
     for (const std::string& slovo : slova.subspan(cil.slov)) {
         const Prirazeni co = prirazeni(slovo);
         if (cil.druh) {

@@ -370,7 +370,7 @@ void uvolni_vyhybku(int v, int j) {
         vlak.omezeni_ukonceno = true; // the whole train has cleared the last switch of its route
     const int stav = stav_vyhybky_cislo(n);
     if ((stav < 100 || stav > 150) && !drzi_jina_cesta(n, v)) // in between another route has reserved it
-        vyhybka_stav(n, vlak.prvky_poloha[static_cast<std::size_t>(j)], false, false);
+        uvolni_zaver_vyhybky(n, vlak.prvky_poloha[static_cast<std::size_t>(j)]);
 }
 
 void krok_konce(int v) {
@@ -407,6 +407,34 @@ void krok_konce(int v) {
 
 // --- route pass
 
+bool stoji_na_vyhybce(int n) {
+    return std::any_of(vlaky.begin(), vlaky.end(), [n](const Vlak& v) {
+        for (std::size_t j = static_cast<std::size_t>(std::max<int>(v.prvek_konec, 0)); j < v.prvky.size();
+             ++j)
+            if (v.cislo > 0 && v.prvky[j] == n && v.prvky_druh[j] == druh_prvku::vyhybka)
+                return true;
+        return false;
+    });
+}
+
+// The train of a calling-on route has left the junction or become another one, and nobody has released the
+// route: with its record RNZ goes too, and its switches would stay locked for ever. So the locking goes with
+// the record; where somebody stands, his tail releases the switch.
+void uvolni_bez_rnz(const Cesta& cesta) {
+    if (!cesta.PN || cesta.PN_zaver || !cesta.Provedena)
+        return;
+    for (int i = 1; i <= posledni(cesta); ++i) {
+        const int n = prvek_c(cesta, i);
+        if (druh_c(cesta, i) == druh_prvku::vykolejka && relief.lblVykolejka.je(n))
+            relief.lblVykolejka[n].barva = barvy::seda;
+        const int zaver = poloha_c(cesta, i) + stav_vyhybky::rezervace;
+        if (druh_c(cesta, i) == druh_prvku::vyhybka && stav_vyhybky_cislo(n) == zaver &&
+            !drzi_jina_cesta(n, cesta.Vlak))
+            vyhybka_stav(n, poloha_c(cesta, i) + (stoji_na_vyhybce(n) ? stav_vyhybky::obsazena : 0), false,
+                         false);
+    }
+}
+
 // A route that a removal moves down waits for the next step: this is meant.
 void uklid_cesty() {
     bool zmena = false;
@@ -414,6 +442,7 @@ void uklid_cesty() {
         const int v = cesta_c(c).Vlak;
         const bool osirela = v >= 0 && (v >= static_cast<int>(vlaky.size()) || vlak_c(v).cislo < 1);
         if (cesta_c(c).zacatek >= 0 && (osirela || v == kKOdstraneni)) {
+            uvolni_bez_rnz(cesta_c(c));
             smaz_cestu(c);
             zmena = true;
         }

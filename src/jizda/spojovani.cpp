@@ -406,7 +406,7 @@ void zkrat_vlak(int v) {
             break;
         case druh_prvku::vyhybka:
             if (const int stav = stav_vyhybky_cislo(e); stav < 100 || stav > 150)
-                vyhybka_stav(e, vlak.prvky_poloha[static_cast<std::size_t>(j)], false, false);
+                uvolni_zaver_vyhybky(e, vlak.prvky_poloha[static_cast<std::size_t>(j)]);
             break;
         case druh_prvku::vykolejka:
             if (relief.lblVykolejka.je(e))

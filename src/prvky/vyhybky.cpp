@@ -138,6 +138,11 @@ void vykolejka_v_pohybu(int vykolejka) {
     prvek.ramecek = true;
 }
 
+bool je_v_pohybu(int vykolejka) {
+    return relief.lblVykolejka.je(vykolejka) && relief.lblVykolejka[vykolejka].barva == barvy::cerna &&
+           relief.lblVykolejka[vykolejka].pozadi == barvy::seda;
+}
+
 void vykolejka_v_poloze(int vykolejka, int glyf, Barva barva = barvy::seda) {
     if (!relief.lblVykolejka.je(vykolejka))
         return;
@@ -159,14 +164,28 @@ void rozjed_vykolejky(int n, int poloha) {
     }
 }
 
+// What derailer 0 shows beside switch 202 in a position.
+constexpr int znak_vykolejky_0(int poloha) {
+    return poloha == 24 ? kZnakNaKoleji : kZnakMimoKolej;
+}
+
 void zastav_vykolejky(int n, int stav) {
     const int poloha = poloha_stavu(stav);
     if (n == 202)
-        vykolejka_v_poloze(0, poloha == 24 ? kZnakNaKoleji : kZnakMimoKolej);
+        vykolejka_v_poloze(0, znak_vykolejky_0(poloha));
     else if (n == 190 && poloha != 6)
         vykolejka_v_poloze(je_na_koleji(1) ? 1 : 2, kZnakMimoKolej);
     else if (n == 206)
         vykolejka_v_poloze(poloha == 14 ? 2 : 1, kZnakMimoKolej);
+}
+
+void zastav_rozjete_vykolejky(int n, int poloha) {
+    if (n == 202 && je_v_pohybu(0))
+        vykolejka_v_poloze(0, znak_vykolejky_0(poloha));
+    if (n == 190 || n == 206)
+        for (const int vykolejka : {1, 2})
+            if (je_v_pohybu(vykolejka))
+                vykolejka_v_poloze(vykolejka, kZnakMimoKolej);
 }
 
 void ukaz_obrazek(int n, int obrazek) {
@@ -283,6 +302,11 @@ void vyhybka_stav(int n, int stav, bool vazby, bool vykolejky) {
             if (stav_b < 50)
                 vyhybka_stav(b, stav_b, false, false);
         });
+}
+
+void uvolni_zaver_vyhybky(int n, int poloha) {
+    vyhybka_stav(n, poloha, false, false);
+    zastav_rozjete_vykolejky(n, poloha_stavu(poloha));
 }
 
 void rezervuj_vykolejku(int n) {

@@ -48,6 +48,9 @@ void prehod(int n, int poloha, bool vazby, bool vykolejky);
 // Ends a throw, or gives switch n a state: picture, state text, log. `vazby`: the free coupled switches
 // end theirs; `vykolejky`: the derailers driven by n show their new position.
 void vyhybka_stav(int n, int stav, bool vazby, bool vykolejky);
+// The locking or the train leaves switch n: free in `poloha`, the end it lies in. What a route has left
+// running of its derailers comes to rest.
+void uvolni_zaver_vyhybky(int n, int poloha);
 // A route takes derailer n: one that protects begins to move onto the rail, one that lies there is reserved.
 void rezervuj_vykolejku(int n);
 // The route is locked: derailer n lies on the rail, white.

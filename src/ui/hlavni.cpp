@@ -7,13 +7,13 @@
 #include "ui/parametry.h"
 #include "ui/platforma_qt.h"
 #include "ui/uvod.h"
+#include "ui/vzhled.h"
 #include "ui/zvuk.h"
 #include "zaklad/platforma.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
 #include <QLocale>
-#include <QPalette>
 #include <QScreen>
 #include <QTimer>
 #include <QTranslator>
@@ -81,23 +81,6 @@ void nastav_jazyk(QApplication& aplikace) {
     auto* cestina = new QTranslator(&aplikace);
     if (cestina->load(QStringLiteral("qtbase_cs"), QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
         QApplication::installTranslator(cestina);
-}
-
-// Boxes and dialogues as dark as the desk.
-void nastav_vzhled(QApplication& aplikace) {
-    QApplication::setStyle(QStringLiteral("Fusion"));
-    const QColor plocha(18, 22, 27), pole(5, 7, 10), tlacitko(42, 50, 59), text(213, 219, 225),
-        vyber(32, 80, 192);
-    QPalette paleta(text, tlacitko, QColor(74, 85, 96), QColor(5, 7, 10), QColor(60, 69, 80), text, Qt::white,
-                    pole, plocha);
-    paleta.setColor(QPalette::Highlight, vyber);
-    paleta.setColor(QPalette::HighlightedText, Qt::white);
-    paleta.setColor(QPalette::ToolTipBase, QColor(255, 255, 220));
-    paleta.setColor(QPalette::ToolTipText, Qt::black);
-    paleta.setColor(QPalette::Disabled, QPalette::WindowText, QColor(107, 119, 130));
-    paleta.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(107, 119, 130));
-    QApplication::setPalette(paleta);
-    aplikace.setStyleSheet(QStringLiteral("QMessageBox { border: 1px solid #6b7782; }"));
 }
 
 // The core lets the user interface run once when the splash screen is to be seen. Keys and clicks wait: they

@@ -7,13 +7,13 @@
 #include "app/vstup.h"
 #include "cesty/duvod.h"
 #include "desk/menu.h"
-#include "desk/stitky.h"
-#include "jizda/menu_koleje.h"
 #include "technologie/technologie.h"
 #include "ui/brana.h"
 #include "ui/nabidka.h"
+#include "ui/napoveda.h"
 #include "ui/pismo.h"
 #include "ui/technologie.h"
+#include "ui/vzhled.h"
 #include "zaklad/cisla.h"
 
 #include <QCloseEvent>
@@ -130,49 +130,6 @@ Text duvod_prvku(const Nalezeny& kde) {
     }
 }
 
-// Texts of the notes on a track, a line each.
-Text poznamky(int prvek) {
-    const int i = stitek_prvku(prvek);
-    if (i < 0)
-        return {};
-    const StitekPrvku& s = stitky[static_cast<std::size_t>(i)];
-    Text text;
-    const auto pridej = [&text](TextPohled druh, const Text& poznamka) {
-        if (poznamka.empty())
-            return;
-        text += '\n';
-        text += druh;
-        text += poznamka;
-    };
-    pridej("VYL: ", s.vyluka);
-    pridej("NVL: ", s.nvl);
-    pridej("STIT: ", s.stitek);
-    return text;
-}
-
-// Name that the pointer shows over an element.
-Text jmenovka(const Nalezeny& kde) {
-    const Prvek& p = tabulka(kde.druh)[kde.n];
-    switch (kde.druh) {
-    case Druh::Image1: return p.stav() + poznamky(kde.n);
-    case Druh::cislo_koleje: return p.popis() + poznamky(prvek_popisku(kde.n));
-    case Druh::imgStanoviste: return p.stav;
-    case Druh::lblPopis_vozu: return p.text;
-    case Druh::imgObrzaek_vlaku:
-        return relief.lblPopis_vozu.je(kde.n) ? relief.lblPopis_vozu[kde.n].text() : p.popis();
-    case Druh::navestidlo:
-    case Druh::navestidlo_ser:
-    case Druh::imgVyhybka:
-    case Druh::imgSound:
-    case Druh::imgUloz:
-    case Druh::imgKONEC:
-    case Druh::imgDEBUG:
-    case Druh::imgPauza:
-    case Druh::imgMinimalizuj: return p.popis;
-    default: return {};
-    }
-}
-
 } // namespace
 
 HlavniOkno::HlavniOkno() {
@@ -201,7 +158,6 @@ HlavniOkno::HlavniOkno() {
     for (ZobrazenySeznam& s : seznamy) {
         s.okno = new QListWidget(this);
         s.okno->hide();
-        s.okno->setStyleSheet(QLatin1String(kVzhledSeznamu));
         s.okno->setUniformItemSizes(true);
         s.okno->installEventFilter(this);
         connect(s.okno, &QListWidget::currentRowChanged, this, [this, &s](int radek) {
@@ -251,8 +207,12 @@ QRect HlavniOkno::v_okne(const QRect& twipy) const {
         .toAlignedRect();
 }
 
+double HlavniOkno::meritko_v_okne() const {
+    return platno.meritko().bod() / devicePixelRatioF();
+}
+
 QFont HlavniOkno::pismo_stolu() const {
-    return pismo_poli(kVyskaBunky * platno.meritko().bod() / devicePixelRatioF());
+    return pismo_poli(kVyskaBunky * meritko_v_okne());
 }
 
 Bod HlavniOkno::kurzor_na_stole() const {
@@ -275,9 +235,11 @@ void HlavniOkno::umisti() {
     platno.nastav_velikost((QSizeF(size()) * devicePixelRatioF()).toSize(), sirka_pri_umisteni);
     for (ZobrazenySeznam& s : seznamy) {
         s.okno->setGeometry(v_okne(QRect(kMistoSeznamu.topLeft() * kTwipu, kMistoSeznamu.size() * kTwipu)));
+        s.okno->setStyleSheet(zvetseny_styl(kVzhledSeznamu, meritko_v_okne()));
         s.okno->setFont(pismo_stolu());
     }
     pole->setFont(pismo_stolu());
+    nastav_meritko_oken(meritko_v_okne());
     update();
 }
 
@@ -369,7 +331,7 @@ void HlavniOkno::obnov_nabidku() {
     }
     if (menu.jmeno.empty())
         return;
-    nabidka = postav_nabidku(this, menu, pismo_stolu(), [this](const Text& jmeno) {
+    nabidka = postav_nabidku(this, menu, pismo_stolu(), meritko_v_okne(), [this](const Text& jmeno) {
         v_jadre([&] { zvol_v_menu(jmeno); });
         obnov();
     });
@@ -626,17 +588,26 @@ bool HlavniOkno::event(QEvent* udalost) {
     if (udalost->type() == QEvent::ToolTip) {
         const auto* napoveda = static_cast<QHelpEvent*>(udalost);
         const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(napoveda->pos()));
-        Text text = kde ? Text(orez(jmenovka(*kde))) : Text{};
-        if (kde)
-            v_jadre([&] {
-                if (const Text duvod = duvod_prvku(*kde); !duvod.empty())
-                    text += (text.empty() ? "" : "\n") + duvod;
-            });
-        if (text.empty())
+        const QPoint twipy = na_twipy(napoveda->pos());
+        QString text;
+        QRect misto(napoveda->pos(), QSize(1, 1));
+        v_jadre([&] {
+            if (!kde) {
+                text = napoveda_popisku(twipy);
+                return;
+            }
+            text = napoveda_prvku(*kde);
+            if (const Text duvod = duvod_prvku(*kde); !duvod.empty())
+                text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + na_qstring(duvod);
+            misto = v_okne(misto_vstupu(kde->druh, tabulka(kde->druh)[kde->n]));
+        });
+        if (text.isEmpty())
             QToolTip::hideText();
         else
-            QToolTip::showText(napoveda->globalPos(), na_qstring(text), this,
-                               v_okne(misto_vstupu(kde->druh, tabulka(kde->druh)[kde->n])));
+            QToolTip::showText(
+                napoveda->globalPos(), // a note may hold signs that would be taken for a layout
+                QStringLiteral("<div style='white-space:pre'>%1</div>").arg(text.toHtmlEscaped()), this,
+                misto);
         return true;
     }
     return QWidget::event(udalost);
@@ -654,8 +625,7 @@ void HlavniOkno::paintEvent(QPaintEvent* udalost) {
     }
     if (najety && zvyraznuje_se(*najety)) {
         const QRect cil = platno.v_bodech(misto_vstupu(najety->druh, tabulka(najety->druh)[najety->n]));
-        p.setPen(QColor::fromRgb(kNajetiPrvku));
-        p.drawRect(cil.adjusted(0, 0, -1, -1));
+        nakresli_obrys(p, cil, platno.meritko().bodu(1), QColor::fromRgb(kNajetiPrvku));
     }
     if (ohnisko && tabulka(*ohnisko).je(0)) {
         const int okraj = platno.meritko().bodu(2);

@@ -58,6 +58,7 @@ private:
     void umisti();
     QPoint na_twipy(QPointF misto) const;
     QRect v_okne(const QRect& twipy) const;
+    double meritko_v_okne() const; // pixels of the window to a pixel of the desk
     QFont pismo_stolu() const;
     void najed(QPointF misto);
     void klepni(QPointF misto, Tlacitko tlacitko, bool ctrl);

@@ -536,8 +536,7 @@ void nakresli_stanoviste(QPainter& p, const Meritko& m, const Prvek& prvek) {
 void nakresli_tlacitko(QPainter& p, const Meritko& m, const Styl& s, const Prvek& prvek) {
     const QRect plocha = v_bodech(m, prvek);
     nakresli_napis(p, m, s, prvek);
-    p.setPen(QPen(odstin(kLinka), 1));
-    p.drawRect(plocha.adjusted(0, 0, -1, -1));
+    nakresli_obrys(p, plocha, m.bodu(1), odstin(kLinka));
 }
 
 void nakresli_ramec(QPainter& p, const Meritko& m, const Prvek& prvek) {
@@ -545,11 +544,7 @@ void nakresli_ramec(QPainter& p, const Meritko& m, const Prvek& prvek) {
     const int tl = m.bodu(2);
     if (plocha.width() <= 2 * tl || plocha.height() <= 2 * tl)
         return;
-    const QColor barva = odstin(0xFFFFD21E);
-    p.fillRect(plocha.x(), plocha.y(), plocha.width(), tl, barva);
-    p.fillRect(plocha.x(), plocha.bottom() - tl + 1, plocha.width(), tl, barva);
-    p.fillRect(plocha.x(), plocha.y(), tl, plocha.height(), barva);
-    p.fillRect(plocha.right() - tl + 1, plocha.y(), tl, plocha.height(), barva);
+    nakresli_obrys(p, plocha, tl, odstin(0xFFFFD21E));
 }
 
 // A vehicle stands in the middle of its place on a rail that runs on to the next one. The state names the
@@ -564,8 +559,7 @@ void nakresli_vuz(QPainter& p, const Meritko& m, const Prvek& prvek) {
     p.fillRect(r.x(), dole, r.width(), kolejnice, odstin(kKolejnice));
     p.drawPixmap(r.x() + (r.width() - o.width()) / 2, dole - o.height(), o);
     if (prvek.ramecek) {
-        p.setPen(QPen(odstin(kLinka), kolejnice));
-        p.drawRect(r.adjusted(0, 0, -1, -1));
+        nakresli_obrys(p, r, kolejnice, odstin(kLinka));
     }
 }
 
@@ -612,6 +606,13 @@ void nakresli_panel(QPainter& p, const Meritko& m) {
 }
 
 } // namespace
+
+void nakresli_obrys(QPainter& p, const QRect& kde, int tl, const QColor& barva) {
+    p.fillRect(kde.x(), kde.y(), kde.width(), tl, barva);
+    p.fillRect(kde.x(), kde.bottom() - tl + 1, kde.width(), tl, barva);
+    p.fillRect(kde.x(), kde.y(), tl, kde.height(), barva);
+    p.fillRect(kde.right() - tl + 1, kde.y(), tl, kde.height(), barva);
+}
 
 bool bere_vstup(Druh druh) {
     return styl(druh).vstup;
@@ -715,7 +716,6 @@ void nakresli_napis_pozadi(QPainter& p, const Meritko& m, const NapisPozadi& nap
 }
 
 void nakresli_podklad(QPainter& p, const Meritko& m, const QRect& plocha) {
-    p.fillRect(plocha, Qt::black);
     const int tl = m.bodu(1);
     const auto pas = [&](int od, int po) {
         const int a = m.y(od * kTwipu), b = m.y(po * kTwipu);

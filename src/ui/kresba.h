@@ -47,7 +47,9 @@ void nakresli_napis_pozadi(QPainter& p, const Meritko& m, const NapisPozadi& nap
 inline constexpr QRect kMistoPanelu(928 * kTwipu, 46 * kTwipu, 92 * kTwipu, 142 * kTwipu);
 // The element is drawn in the signal panel.
 bool je_v_panelu(Druh druh);
-// Ground of the desk: the bars and panels that no element stands for.
+// Ground of the desk, on black: the bars and panels that no element stands for.
 void nakresli_podklad(QPainter& p, const Meritko& m, const QRect& plocha);
+// Outline within the rectangle, `tl` device pixels thick.
+void nakresli_obrys(QPainter& p, const QRect& kde, int tl, const QColor& barva);
 // A picture of a switch alone, its cell's corner at (x, y) twips: for the manual and for tests.
 void nakresli_vyhybku(QPainter& p, const Meritko& m, int x, int y, int stav);

@@ -1,7 +1,9 @@
 // ui/nabidka.cpp - the pop-up menu of the desk as a window.
 #include "ui/nabidka.h"
 
+#include "ui/napoveda.h"
 #include "ui/pismo.h"
+#include "ui/vzhled.h"
 
 #include <QLabel>
 #include <QWidgetAction>
@@ -21,10 +23,10 @@ constexpr const char* kVzhledHlavy = "background: #000080; color: #fff; padding:
 constexpr const char* kVzhledUdaje = "background: #dfe2e5; color: #20262c; padding: 1px 14px;";
 
 // A line that cannot be chosen.
-void pridej_radek(QMenu& nabidka, const Text& text, const char* vzhled) {
+void pridej_radek(QMenu& nabidka, const Text& text, const QString& vzhled) {
     auto* radek = new QLabel(na_qstring(text));
     radek->setFont(nabidka.font());
-    radek->setStyleSheet(QLatin1String(vzhled));
+    radek->setStyleSheet(vzhled);
     auto* akce = new QWidgetAction(&nabidka);
     akce->setDefaultWidget(radek);
     akce->setEnabled(false);
@@ -39,13 +41,14 @@ bool je_udaj(const PolozkaMenu& polozka) {
 
 } // namespace
 
-QMenu* postav_nabidku(QWidget* rodic, const Menu& co, const QFont& pismo,
+QMenu* postav_nabidku(QWidget* rodic, const Menu& co, const QFont& pismo, double meritko,
                       std::function<void(const Text& jmeno)> zvoleno) {
     auto* nabidka = new QMenu(rodic);
-    nabidka->setStyleSheet(QLatin1String(kVzhledNabidky));
+    nabidka->setStyleSheet(zvetseny_styl(kVzhledNabidky, meritko));
     nabidka->setFont(pismo);
+    nabidka->setToolTipsVisible(true);
     if (!co.hlava.empty())
-        pridej_radek(*nabidka, co.hlava, kVzhledHlavy);
+        pridej_radek(*nabidka, co.hlava, zvetseny_styl(kVzhledHlavy, meritko));
 
     bool zahlavi = true; // still among the lines on top
     QMenu* podnabidka = nullptr;
@@ -57,7 +60,7 @@ QMenu* postav_nabidku(QWidget* rodic, const Menu& co, const QFont& pismo,
         zahlavi = zahlavi && !ma_podnabidku && je_udaj(polozka);
         if (zahlavi) {
             if (polozka.text != co.hlava && !polozka.text.empty())
-                pridej_radek(*nabidka, polozka.text, kVzhledUdaje);
+                pridej_radek(*nabidka, polozka.text, zvetseny_styl(kVzhledUdaje, meritko));
             continue;
         }
         if (!polozka.podmenu && !ma_podnabidku && podnabidka != nullptr)
@@ -67,11 +70,13 @@ QMenu* postav_nabidku(QWidget* rodic, const Menu& co, const QFont& pismo,
         if (ma_podnabidku) {
             podnabidka = nabidka->addMenu(na_qstring(polozka.text));
             podnabidka->setFont(pismo);
+            podnabidka->setToolTipsVisible(true);
             continue;
         }
         QMenu* kam = polozka.podmenu && podnabidka != nullptr ? podnabidka : nabidka;
         QAction* akce = kam->addAction(na_qstring(polozka.text));
         akce->setEnabled(polozka.povolena);
+        akce->setToolTip(QString::fromUtf8(vyklad_povelu(polozka)));
         QObject::connect(akce, &QAction::triggered, nabidka,
                          [zvoleno, jmeno = polozka.jmeno] { zvoleno(jmeno); });
     }

@@ -8,6 +8,7 @@
 #include "ui/kresba.h"
 #include "ui/pismo.h"
 #include "ui/uvod.h"
+#include "ui/vzhled.h"
 
 #include <QCloseEvent>
 #include <QGridLayout>
@@ -18,7 +19,6 @@
 #include <QMenu>
 #include <QPainter>
 #include <QPainterPath>
-#include <QRegularExpression>
 #include <QScreen>
 #include <QScrollBar>
 #include <QTextBlock>
@@ -78,22 +78,6 @@ constexpr const char* kVzhled =
     "QScrollBar:vertical { background: #0b0e12; width: 12px; margin: 0; }"
     "QScrollBar::handle:vertical { background: #3c4753; min-height: 20px; border-radius: 2px; }"
     "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }";
-
-// The style sheet with its lengths multiplied.
-QString vzhled(double krat) {
-    static const QRegularExpression delka(QStringLiteral("(\\d+)px"));
-    const QString puvodni = QString::fromUtf8(kVzhled);
-    QString novy;
-    qsizetype konec = 0;
-    for (auto it = delka.globalMatch(puvodni); it.hasNext();) {
-        const QRegularExpressionMatch nalez = it.next();
-        const int bodu = nalez.captured(1).toInt();
-        novy += puvodni.mid(konec, nalez.capturedStart() - konec);
-        novy += QString::number(bodu <= 1 ? bodu : qRound(bodu * krat)) + QStringLiteral("px");
-        konec = nalez.capturedEnd();
-    }
-    return novy + puvodni.mid(konec);
-}
 
 // --- pictures of the buttons
 
@@ -254,15 +238,11 @@ QLineEdit* OknoParametru::pole(PoleStartu ktere) {
 }
 
 OknoParametru::OknoParametru(std::function<void()> co) : spusteno(std::move(co)) {
-    if (const QScreen* obrazovka = QGuiApplication::primaryScreen()) {
-        // the screen of the desk's own size is shown as it is; from half as much more it grows in halves
-        const QSize s = obrazovka->availableSize();
-        meritko = std::max(1.0, std::floor(2 * std::min(s.width() / 1280.0, s.height() / 960.0)) / 2);
-    }
+    meritko = meritko_obrazovky();
     setWindowTitle(QStringLiteral("KPS RVZ TESK"));
     setObjectName(QStringLiteral("plocha"));
     setAttribute(Qt::WA_StyledBackground);
-    setStyleSheet(vzhled(meritko));
+    setStyleSheet(zvetseny_styl(kVzhled, meritko));
 
     stranky = new QStackedWidget;
     stranky->addWidget(hlavni_stranka());
@@ -497,10 +477,12 @@ QWidget* OknoParametru::pata() {
         t->setIconSize({px(16), px(16)});
         return t;
     };
+    constexpr QChar kPodtrzene[] = {u'm', u'i'}; // letters of the captions that no other control has
     for (std::size_t i = 0; i < imgStranka.size(); ++i) {
         const int stranka = static_cast<int>(i) + 1;
-        imgStranka[i] =
-            tlacitko(na_qstring(kStrankyStartu[i + 1]), [this, stranka] { vyber_stranku(stranka); });
+        QString text = na_qstring(kStrankyStartu[i + 1]);
+        text.insert(text.lastIndexOf(kPodtrzene[i]), u'&');
+        imgStranka[i] = tlacitko(text, [this, stranka] { vyber_stranku(stranka); });
         imgStranka[i]->setObjectName(QStringLiteral("stranka"));
         imgStranka[i]->setCheckable(true);
         s_obrazkem(imgStranka[i], i == 0 ? Obrazek::moznosti : Obrazek::o_aplikaci, kAzur);

@@ -18,12 +18,14 @@
 #include <QEventLoop>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileIconProvider>
 #include <QFileInfo>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
 #include <QScreen>
 #include <QSettings>
+#include <QSplitter>
 #include <QStandardPaths>
 #include <QTimer>
 #include <QUrl>
@@ -98,17 +100,34 @@ bool otazka(TextPohled titul, TextPohled text, bool vychozi) {
     return box.clickedButton() == ano;
 }
 
+// The window system's icons under Czech names.
+class CeskeSoubory : public QFileIconProvider {
+public:
+    QString type(const QFileInfo& soubor) const override {
+        return soubor.isDir() ? QStringLiteral("Složka") : QStringLiteral("Záznam simulace");
+    }
+};
+
 std::optional<Text> soubor(TextPohled slozka, TextPohled vzor, bool ulozit) {
     const QString kde = QString::fromStdString(cesta_k_zapisu(slozka));
-    const QString filtr = QStringLiteral("Soubory záznamů simulace (%1)").arg(na_qstring(vzor));
-    const QString vybrany =
-        ulozit
-            ? QFileDialog::getSaveFileName(rodic(), QStringLiteral("Uložit rozehranou simulaci"), kde, filtr,
-                                           nullptr, QFileDialog::DontConfirmOverwrite)
-            : QFileDialog::getOpenFileName(rodic(), QStringLiteral("Načíst rozehranou simulaci"), kde, filtr);
-    if (vybrany.isEmpty())
+    QFileDialog dialog(rodic(),
+                       ulozit ? QStringLiteral("Uložit rozehranou simulaci")
+                              : QStringLiteral("Načíst rozehranou simulaci"),
+                       kde, QStringLiteral("Soubory záznamů simulace (%1)").arg(na_qstring(vzor)));
+    dialog.setAcceptMode(ulozit ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    dialog.setFileMode(ulozit ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
+    dialog.setOption(QFileDialog::DontConfirmOverwrite); // the core asks
+    // what follows is for the dialogue of the window system's own library; a desktop brings its own
+    CeskeSoubory ikony;
+    dialog.setIconProvider(&ikony);
+    dialog.setSidebarUrls({QUrl::fromLocalFile(kde), QUrl::fromLocalFile(QDir::homePath())});
+    const int pismo = dialog.fontMetrics().height();
+    dialog.resize(46 * pismo, 28 * pismo);
+    if (auto* pricka = dialog.findChild<QSplitter*>())
+        pricka->setSizes({9 * pismo, 37 * pismo});
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
-    return z_qstring(vybrany);
+    return z_qstring(dialog.selectedFiles().front());
 }
 
 // --- programs and documents

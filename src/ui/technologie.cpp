@@ -32,12 +32,7 @@ struct Pero {
     }
     void plocha(const QRect& r, QRgb barva) const { p.fillRect(v_bodech(r), QColor::fromRgba(barva)); }
     void obrys(const QRect& r, QRgb barva) const {
-        const int t = m.bodu(1);
-        const QRect b = v_bodech(r);
-        p.fillRect(QRect(b.left(), b.top(), b.width(), t), QColor::fromRgba(barva));
-        p.fillRect(QRect(b.left(), b.bottom() - t + 1, b.width(), t), QColor::fromRgba(barva));
-        p.fillRect(QRect(b.left(), b.top(), t, b.height()), QColor::fromRgba(barva));
-        p.fillRect(QRect(b.right() - t + 1, b.top(), t, b.height()), QColor::fromRgba(barva));
+        nakresli_obrys(p, v_bodech(r), m.bodu(1), QColor::fromRgba(barva));
     }
     void text(int x, int y, TextPohled text, Barva barva, double krat = 1) const {
         kresli_radek(p, m.x(x * kTwipu), m.y(y * kTwipu), kSirkaBunky * krat * m.bod(),

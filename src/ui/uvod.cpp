@@ -5,6 +5,7 @@
 #include "relief/tvary_vyhybek.h"
 #include "ui/kresba.h"
 #include "ui/pismo.h"
+#include "ui/vzhled.h"
 
 #include <QGuiApplication>
 #include <QPainter>
@@ -15,12 +16,16 @@
 
 namespace {
 
-constexpr QSize kVelikost(560, 300);
+constexpr QSize kVelikost(560, 372); // pixels of the desk
 constexpr int kSledovani_ms = 50;
 
-void radek(QPainter& p, int x, int y, double krat, TextPohled text, Barva barva) {
-    kresli_radek(p, x, y, kSirkaBunky * krat, kVyskaBunky * krat, text, barva, Znaky::pismena);
-}
+// What a newcomer has to know to set his first route, while he waits.
+constexpr std::array kPrvniKroky = {
+    "Přihlášení potvrďte třikrát klávesou Enter."_cz,
+    "Cesta: klepněte na návěstidlo a potom na kolej, kam vede."_cz,
+    "Pravé tlačítko otevře nabídku prvku, Esc ruší volbu."_cz,
+    "Co je co, řekne ukazatel myši, když se na chvíli zastaví."_cz,
+};
 
 } // namespace
 
@@ -94,13 +99,14 @@ QPolygon obrys_uvodu() {
     return QPolygon(QList<QPoint>(kRohy.begin(), kRohy.end()));
 }
 
-UvodniObrazovka::UvodniObrazovka() : QWidget(nullptr, Qt::FramelessWindowHint | Qt::SplashScreen) {
+UvodniObrazovka::UvodniObrazovka()
+    : QWidget(nullptr, Qt::FramelessWindowHint | Qt::SplashScreen), krat(meritko_obrazovky()) {
     setAttribute(Qt::WA_OpaquePaintEvent);
     setWindowTitle(QStringLiteral("KPS RVZ TESK"));
-    setFixedSize(kVelikost);
-    setMask(QRegion(obrys_uvodu()));
+    setFixedSize((QSizeF(kVelikost) * krat).toSize());
+    setMask(QRegion(QTransform::fromScale(krat, krat).map(obrys_uvodu())));
     if (const QScreen* obrazovka = QGuiApplication::primaryScreen())
-        move(obrazovka->geometry().center() - QPoint(kVelikost.width() / 2, kVelikost.height() / 2));
+        move(obrazovka->geometry().center() - QPoint(width() / 2, height() / 2));
     connect(&sledovani, &QTimer::timeout, this, [this] {
         const QString novy = na_qstring(simulace.popisek_nacitani);
         if (novy != popisek) {
@@ -111,18 +117,32 @@ UvodniObrazovka::UvodniObrazovka() : QWidget(nullptr, Qt::FramelessWindowHint | 
     sledovani.start(kSledovani_ms);
 }
 
+// On the pixels of the screen, as everything of the desk.
 void UvodniObrazovka::paintEvent(QPaintEvent*) {
     QPainter p(this);
-    p.fillRect(rect(), Qt::black);
-    p.setPen(QPen(QColor(96, 112, 128), 3));
-    p.drawPolygon(obrys_uvodu());
-    radek(p, 40, 34, 3, "KPS RVZ TESK", barvy::bila);
-    radek(p, 42, 80, 1, "Simulátor stanoviště dispečera železničního uzlu"_cz, 0xB8B0A8);
+    const double pomer = devicePixelRatioF(), k = krat * pomer;
+    p.scale(1 / pomer, 1 / pomer);
+    const auto radek = [&](int x, int y, double nasobek, TextPohled text, Barva barva) {
+        kresli_radek(p, x * k, y * k, kSirkaBunky * nasobek * k, kVyskaBunky * nasobek * k, text, barva,
+                     Znaky::pismena);
+    };
+    const auto linka = [&](int y) {
+        p.fillRect(qRound(40 * k), qRound(y * k), qRound((kVelikost.width() - 80) * k),
+                   std::max(1, qRound(k)), QColor(60, 69, 80));
+    };
+    p.fillRect(QRectF(QPointF(0, 0), QSizeF(size()) * pomer), Qt::black);
+    p.setPen(QPen(QColor(96, 112, 128), 3 * k));
+    p.drawPolygon(QTransform::fromScale(k, k).map(QPolygonF(obrys_uvodu())));
+    radek(40, 34, 3, "KPS RVZ TESK", barvy::bila);
+    radek(42, 80, 1, "Simulátor stanoviště dispečera železničního uzlu"_cz, 0xB8B0A8);
     Meritko m;
-    m.k = 2.0 / kTwipu;
-    m.x0 = 24, m.y0 = 122;
+    m.k = 2.0 * k / kTwipu;
+    m.x0 = qRound(24 * k), m.y0 = qRound(122 * k);
     nakresli_zhlavi(p, m);
-    p.fillRect(40, 212, kVelikost.width() - 80, 1, QColor(60, 69, 80));
-    radek(p, 40, 226, 1, z_qstring(popisek), barvy::azurova);
-    radek(p, 40, 250, 1, Text("verze "_cz) + text_verze(), barvy::seda);
+    linka(212);
+    for (std::size_t i = 0; i < kPrvniKroky.size(); ++i)
+        radek(40, 224 + static_cast<int>(i) * 18, 1, kPrvniKroky[i], 0xD8D0C8);
+    linka(304);
+    radek(40, 316, 1, z_qstring(popisek), barvy::azurova);
+    radek(40, 336, 1, Text("verze "_cz) + text_verze(), barvy::seda);
 }

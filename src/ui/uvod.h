@@ -15,6 +15,7 @@ protected:
     void paintEvent(QPaintEvent* udalost) override;
 
 private:
+    double krat;      // how many times larger than on the desk's own screen
     QTimer sledovani; // of the caption that the loading steps write
     QString popisek;
 };

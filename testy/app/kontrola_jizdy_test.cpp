@@ -139,6 +139,44 @@ TEST_F(KontrolaJizdy, TailIsReleasedNeitherTooSoonNorTooLate) {
     EXPECT_EQ(nalez(), "");
 }
 
+TEST_F(KontrolaJizdy, EndOfAPauseIsNoStepOfTheMovement) {
+    const int v = vlak_na(62, true, 1234);
+    vlak(v).delka = 100;
+    vlak(v).prvky = {62, 440, 7};
+    vlak(v).prvky_druh = {1, 1, 2};
+    vlak(v).prvky_poloha = {0, 0, 2};
+    barvi_prvek(440, barvy::cervena);
+    nastav_metry(62, delka_koleje(62));
+    nastav_metry(440, 90); // 110 m without track 62: its tail goes with the next step
+    ASSERT_EQ(nalez(), "");
+    ASSERT_EQ(nalez(), "");
+    svet.posun_ms(300);
+    zastav_hodiny();
+    spust_hodiny();
+    EXPECT_EQ(nalez(), "");
+    svet.posun_ms(700);
+    simulace.tick_jizdy = platforma.tik_ms();
+    EXPECT_EQ(nalez(), "vlaky " + std::to_string(v) + ": drží prvek 62, který už celý opustil");
+}
+
+TEST_F(KontrolaJizdy, TrainThatHasSharedATrackFindsItselfSomewhereOnIt) {
+    const int v = vlak_na(62, true, 1234);
+    vlak(v).delka = 100;
+    const int u = vlak_na(62, true, 5678);
+    vlak(v).prvky = {62, 440};
+    vlak(v).prvky_druh = {1, 1};
+    vlak(v).prvky_poloha = {0, 0};
+    barvi_prvek(440, barvy::cervena);
+    nastav_metry(440, 30);
+    ASSERT_EQ(nalez(), "");
+    vlak(u).cislo = kZadny; // the other one has left
+    nastav_metry(62, 150);
+    ASSERT_EQ(nalez(), "");
+    vlak(v).prvek_konec = 1; // 30 m are less than the train, but who knows where it stood
+    EXPECT_EQ(nalez(), "");
+    ASSERT_EQ(nalez(), "");
+}
+
 TEST_F(KontrolaJizdy, SignalBeforeAWaitingTrainClearsOnlyBehindAClosedRoad) {
     const auto vycisti = [](bool prejezd_zaver) {
         cesty = std::vector<Cesta>(1);

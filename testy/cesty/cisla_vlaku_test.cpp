@@ -2,6 +2,7 @@
 #include "cesty/cisla_vlaku.h"
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"
+#include "jizda/vlak.h"
 #include "relief/prejezdy.h"
 
 struct Cisla : Stavedlo {
@@ -81,11 +82,52 @@ TEST_F(Cisla, NumbersMoveUpAndTheLastOnePutsTheArrowOut) {
     EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::seda);
 }
 
+TEST_F(Cisla, TrainWithoutAFreeLabelTakesTheOneThatFallsFree) {
+    for (const char* cislo : {"11", "22", "33"})
+        pis_cislo(604, cislo);
+    pis_cislo(41, "44");
+    postav(241, 604);
+    EXPECT_EQ(text(704), "33") << "the line has three labels, and all are taken";
+    pis_cislo(704, "11", true, true);
+    EXPECT_EQ(text(704), "") << "a signal at stop: nothing is said of who comes";
+    pis_cislo(704, "22", true);
+    EXPECT_EQ(text(604), "33");
+    EXPECT_EQ(text(654), "44") << "the train before the cleared signal";
+    // on its way the number goes with the train
+    pis_cislo(654, "44", true);
+    EXPECT_EQ(text(654), "") << "it is not written again";
+    pis_cislo(41, "", true);
+    vlaky[3].cislo = 44;
+    vlaky[3].prvky = {41, 6, 604};
+    vlaky[3].prvky_druh = {1, 2, 1};
+    cesty[0].Vlak = 3;
+    cesty[0].Umazat = 2;
+    pis_cislo(704, "33", true);
+    EXPECT_EQ(text(604), "44");
+    vlaky[3].prvky.push_back(77);
+    pis_cislo(704, "55", true);
+    pis_cislo(704, "44", true);
+    EXPECT_EQ(text(604), "") << "it runs elsewhere by now";
+    vlaky[3] = Vlak{};
+}
+
 TEST_F(Cisla, StandingRouteKeepsTheArrow) {
     postav(241, 604);
     pis_cislo(604, "22");
     pis_cislo(604, "22", true);
     EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::azurova);
+}
+
+TEST_F(Cisla, TrainWhoseNumberFoundNoRoomKeepsTheArrow) {
+    relief.lblSouhlas2[604].barva = barvy::azurova;
+    pis_cislo(604, "22");
+    relief.kolej[654].barva = barvy::cervena; // the next train
+    pis_cislo(704, "22", true);
+    EXPECT_EQ(text(604), "");
+    EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::azurova);
+    relief.kolej[654].barva = barvy::seda;
+    pis_cislo(654, "33", true);
+    EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::seda);
 }
 
 TEST_F(Cisla, EmptyLineClearsItsCrossingsOnly) {

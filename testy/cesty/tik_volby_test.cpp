@@ -2,6 +2,7 @@
 #include "cesty/barvi_prvek.h"
 #include "cesty/stavedlo.h"
 #include "cesty/tik_volby.h"
+#include "cesty/uvolneni.h"
 #include "prvky/stanicni_prejezdy.h"
 
 using StavebCest = Stavedlo;
@@ -188,21 +189,45 @@ TEST_F(StavebCest, DerailerOnTheRailsGoesCyan) {
     EXPECT_EQ(relief.lblVykolejka[1].barva, barvy::azurova);
 }
 
-TEST_F(StavebCest, DerailerThatRunsWithASwitchOfTheRouteComesToRest) {
+// 202 into its first end: the locking says nothing about the derailer, the release does.
+TEST_F(StavebCest, DerailerThatRunsWithASwitchIntoMinusComesToRestWithItsRelease) {
     vyhybka(202, 2400, 4390, 24);
     Prvek& vykolejka = relief.lblVykolejka.zaloz(0);
     vykolejka.text = znak(21);
     zat.push_back({246, 43, {46, 202, 43}, {1, 2, 1}, {0, 23, 0}, 0});
     postav_tabulky();
     zarad(246, 43);
-    cekej(2);
-    EXPECT_EQ(vykolejka.pozadi, barvy::seda) << "it moves";
-    cekej(10);
-    EXPECT_EQ(stav(202), 73);
+    for (const int klid : {2, 12}) {
+        cekej(klid);
+        EXPECT_EQ(stav(202), klid == 2 ? 23 : 73);
+        EXPECT_EQ(vykolejka.text(), znak(21));
+        EXPECT_EQ(vykolejka.barva, barvy::cerna);
+        EXPECT_EQ(vykolejka.pozadi, barvy::seda) << "it moves";
+        EXPECT_TRUE(vykolejka.ramecek);
+    }
+    zrus_cestu(246);
+    cekej(6);
+    EXPECT_EQ(stav(202), 23);
     EXPECT_EQ(vykolejka.text(), znak(23));
     EXPECT_EQ(vykolejka.barva, barvy::seda);
     EXPECT_EQ(vykolejka.pozadi, barvy::cerna);
     EXPECT_FALSE(vykolejka.ramecek);
+}
+
+TEST_F(StavebCest, DerailerThatRunsWithASwitchIntoPlusComesToRestWithTheLocking) {
+    vyhybka(202, 2400, 4390, 23);
+    Prvek& vykolejka = relief.lblVykolejka.zaloz(0);
+    vykolejka.text = znak(23);
+    zat.push_back({246, 43, {46, 202, 43}, {1, 2, 1}, {0, 24, 0}, 0});
+    postav_tabulky();
+    zarad(246, 43);
+    cekej(2);
+    EXPECT_EQ(vykolejka.pozadi, barvy::seda) << "it moves";
+    cekej(10);
+    EXPECT_EQ(stav(202), 74);
+    EXPECT_EQ(vykolejka.text(), znak(21));
+    EXPECT_EQ(vykolejka.barva, barvy::seda);
+    EXPECT_EQ(vykolejka.pozadi, barvy::cerna);
 }
 
 TEST_F(StavebCest, DoubleSlipIsCommandedAndLocked) {

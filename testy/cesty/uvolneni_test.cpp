@@ -71,6 +71,20 @@ TEST_F(Uvolneni, DNGivesTheSignalBackWhileTheCancellationRuns) {
     EXPECT_EQ(cesty[0].zacatek, 240);
 }
 
+TEST_F(Uvolneni, CancelledTrackShowsItsNameThoughItsTrainIsGone) {
+    relief.kolej[40].barva = barvy::cervena;
+    relief.cislo_koleje[40].text = TextPohled("1234");
+    postav(240, 41);
+    EXPECT_EQ(relief.cislo_koleje[41].text(), "1234");
+    zrus_cestu(240);
+    EXPECT_EQ(relief.cislo_koleje[41].text(), "") << "no number, and still locked";
+    relief.cislo_koleje[40].text = TextPohled("K40"); // the train has left to the other side
+    cekej(180);
+    EXPECT_EQ(cesty[0].zacatek, -3);
+    EXPECT_EQ(relief.cislo_koleje[41].text(), "K41");
+    EXPECT_TRUE(relief.cislo_koleje[41].viditelny);
+}
+
 TEST_F(Uvolneni, SecondCancellationStartsTheTimeAnew) {
     relief.kolej[40].barva = barvy::cervena;
     postav(240, 41);

@@ -171,6 +171,41 @@ TEST_F(Jizda, CallingOnRouteLeadsOntoAnOccupiedTrackAndStays) {
     EXPECT_EQ(cesty[0].zacatek, -3);
 }
 
+TEST_F(Jizda, LockingOfACallingOnRouteGoesWithTheTrainThatLeavesTheJunction) {
+    for (const int ridici : {-1, 7}) {
+        cesty = std::vector<Cesta>(1);
+        vlaky = prvni_vlaky();
+        const int c = cesta({262, 63, {62, 440, 7, 63}, {1, 1, 2, 1}, {2, 0, 2, 0}, 0});
+        Cesta& pn = cesty[static_cast<std::size_t>(c)];
+        pn.PN = true;
+        pn.Umazat = 3;
+        pn.Vlak = 5; // the record of a train that is no more
+        vyhybka_stav(7, 2 + stav_vyhybky::rezervace, false, false);
+        if (ridici == 7) { // somebody else stands on the switch
+            const int v = vlak_na(440, true, 77);
+            vlak(v).prvky.push_back(7);
+            vlak(v).prvky_druh.push_back(druh_prvku::vyhybka);
+            vlak(v).prvky_poloha.push_back(2);
+            vlak(v).muze_jet = false;
+        }
+        krok();
+        EXPECT_LT(cesty.front().zacatek, 0);
+        EXPECT_EQ(stav_vyhybky_cislo(7), ridici == 7 ? 152 : 2);
+    }
+}
+
+TEST_F(Jizda, SwitchThatAnotherRouteHasLockedSinceStaysWhenItsCallingOnRouteGoes) {
+    const int c = cesta({262, 63, {62, 440, 7, 63}, {1, 1, 2, 1}, {2, 0, 2, 0}, 0});
+    Cesta& pn = cesty[static_cast<std::size_t>(c)];
+    pn.PN = pn.PN_zaver = true; // released by RNZ
+    pn.Umazat = 3;
+    pn.Vlak = 5;
+    vyhybka_stav(7, 2 + stav_vyhybky::rezervace, false, false);
+    krok();
+    EXPECT_LT(cesty.front().zacatek, 0);
+    EXPECT_EQ(stav_vyhybky_cislo(7), 2 + stav_vyhybky::rezervace);
+}
+
 TEST_F(Jizda, CallingOnAspectThatIsOverIsNotEntered) {
     const int v = vlak_na(62, true, 11);
     const int c = cesta(radek(0));

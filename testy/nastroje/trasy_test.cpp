@@ -605,8 +605,22 @@ TEST(TrasyTesku, LinesAreEnteredAndLeft) {
     EXPECT_EQ(p.vlak(287, 600), "87 v33+ 404 v36+ v37+ 600");
     EXPECT_EQ(p.najdi(DruhTrasy::vlak, 601, 12)->zaznam.prvky[0], 650);
     EXPECT_EQ(p.najdi(DruhTrasy::vlak, 12, 600)->zaznam.prvky.back(), 650);
+    EXPECT_EQ(p.najdi(DruhTrasy::vlak, 287, 600)->zaznam.polohy.back(), 0)
+        << "the number stays until the train has left the whole line";
+    EXPECT_EQ(p.najdi(DruhTrasy::vlak, 601, 12)->zaznam.polohy.front(), 2);
+    EXPECT_EQ(p.najdi(DruhTrasy::vlak, 2, 84)->zaznam.polohy.back(), 2);
     EXPECT_EQ(p.najdi(DruhTrasy::vlak, 287, 600)->zaznam.rychlost, 0);
     EXPECT_EQ(p.najdi(DruhTrasy::vlak, 286, 600)->zaznam.rychlost, 1);
+}
+
+TEST(TrasyTesku, NumberStaysOnALineUntilItsLastSection) {
+    const auto znacka_konce = [](int od, int kam) {
+        return tesk().najdi(DruhTrasy::vlak, od, kam)->zaznam.polohy.back();
+    };
+    for (const auto& [od, kam] : {std::pair{287, 600}, {202, 604}, {12, 600}, {10, 606}})
+        EXPECT_EQ(znacka_konce(od, kam), 0) << od << " - " << kam << ": the locking marks the last section";
+    EXPECT_EQ(znacka_konce(601, 12), 2);
+    EXPECT_EQ(znacka_konce(2, 84), 2) << "the line end of a neighbour is no line of sections";
 }
 
 TEST(TrasyTesku, RouteToVrbiceRunsOnToTheEdge) {

@@ -34,15 +34,32 @@ def cekej_na_ulozeni(sekce, klic, hodnota=None):
 def klavesy(*jmena):
     for jmeno in jmena:
         stul.klavesa(jmeno)
-        time.sleep(0.15)
+        time.sleep(s.KROK)
 
 
-stul.cekej_na("úvodní formulář", s.je_formular)
-time.sleep(1)
+def otevri(klavesy_, jmeno):
+    """Keys that open a window over the start screen; its picture stays."""
+    predtim = stul.okna()
+    klavesy(*klavesy_)
+    stul.cekej(jmeno, lambda: stul.okna() > predtim)
+    stul.obraz(jmeno)
+
+
+def na_stranku(x, y, jmeno):
+    """A click on the image of a page shows it."""
+    predtim = stul.obraz()
+    stul.klikni(x, y)
+    stul.cekej_na("stránka " + jmeno, lambda o: s.rozdil(predtim, o, (0, 0, o.sirka, o.vyska)) > 20000)
+    stul.obraz(jmeno)
+
+
+# a key before the screen has the focus is lost: the first one that is seen
+formular = stul.cekej_na("úvodní formulář", s.je_formular)
 stul.obraz("formular")
+stul.tiskni("9", "psaní do pole hodin", lambda: s.rozdil(formular, stul.obraz(), (200, 230, 62, 40)) > 100)
 
-# the hour is selected: typing replaces it; the arrows go round at the end of the day and of the hour
-klavesy("2", "2", "Up", "Up", "Down", "Tab", "5", "9", "Up", "alt+p")
+# what gets the focus is selected: typing replaces it; the arrows go round at the end of the day and of the hour
+klavesy("Tab", "shift+Tab", "2", "2", "Up", "Up", "Down", "Tab", "5", "9", "Up", "alt+p")
 cekej_na_ulozeni("Casy", "0", "23:00")
 klavesy("Tab", "alt+a", "Up", "alt+p")
 cekej_na_ulozeni("Casy", "1", "0:00")
@@ -51,36 +68,26 @@ cekej_na_ulozeni("Casy", "1", "0:00")
 klavesy("alt+n", "alt+p")
 hodina, minuta = (int(x) for x in cekej_na_ulozeni("Casy", "2").split(":"))
 assert 0 <= hodina < 23 and 0 <= minuta < 59, "náhodný čas %d:%d" % (hodina, minuta)
-klavesy("alt+b")
-time.sleep(0.5)
-stul.obraz("oblibene")
+otevri(["alt+b"], "oblibene")
 klavesy("Down", "Return", "alt+p")
 cekej_na_ulozeni("Casy", "3", "23:00")
 
 # the menu of the timetables: the second one
-klavesy("alt+j", "space")
-time.sleep(0.5)
-stul.obraz("jizdni_rady")
+otevri(["alt+j", "space"], "jizdni_rady")
 klavesy("Down", "Return")
 
 # the pages: there by the image, back by Esc; the sound is switched off on the first one
 formular = stul.obraz()
 x0, y0 = formular.sirka // 2, formular.vyska // 2
-stul.klikni(x0 - 300, y0 + 226)
-time.sleep(0.7)
-stul.obraz("moznosti")
+na_stranku(x0 - 300, y0 + 226, "moznosti")
 klavesy("alt+z", "Escape")
-stul.klikni(x0 - 300, y0 + 254)
-time.sleep(0.7)
-stul.obraz("o_aplikaci")
+na_stranku(x0 - 300, y0 + 254, "o_aplikaci")
 klavesy("Escape")
 
 # an hour that is none: the box, and nothing is stored
-klavesy("alt+a", "2", "4", "Return")
-time.sleep(0.7)
-stul.obraz("neplatny_cas")
-klavesy("Return")
-time.sleep(0.7)
+bez_okna = stul.okna()
+otevri(["alt+a", "2", "4", "Return"], "neplatny_cas")
+stul.tiskni("Return", "zavřené hlášení", lambda: stul.okna() == bez_okna)
 assert "gvd" not in nastaveni("Nastaveni"), "neplatný čas se uložil"
 
 # Enter starts; four more that wait behind it start nothing
@@ -98,7 +105,7 @@ for klic, hodnota in (("zvuk", "1"), ("rychlost", "0"), ("pp", "1"), ("zpozdeni"
 stul.cekej_na("přihlášení INIT", s.je_prihlaseni, 40)
 for _ in range(3):
     klavesy("Return")
-    time.sleep(0.5)
+    time.sleep(0.3)
 stul.cekej_na("prázdný příkazový řádek", lambda o: not s.je_prihlaseni(o))
 cas = stul.obraz("stul").vyrez(*s.HODINY)
 stul.cekej_na("běžící hodiny", lambda o: o.vyrez(*s.HODINY) != cas, 5)

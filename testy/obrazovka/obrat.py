@@ -110,7 +110,6 @@ stul.cekej_na("odvěšená lokomotiva", lambda o: vozu(o) == 2)
 
 # it goes away by a shunt route: Ctrl and a click on the signal, a click on the stub
 stul.klikni_s_ctrl(*s.stred(60, RADEK))
-s.time.sleep(0.3)
 stul.klikni(*s.stred(82, RADEK))
 stul.cekej_na("posunová cesta", lambda o: o.bod(*CESTA) == s.BILA)
 stul.obraz("posun")
@@ -122,7 +121,6 @@ stul.cekej_na("lokomotiva v depu", lambda o: o.bod(*DEPO) == CERVENA)
 for _ in range(2):
     stul.klikni(356, 10, 3)  # at its own pace again: a slow machine must see the road too
 stul.klikni_s_ctrl(*s.stred(18, RADEK))
-s.time.sleep(0.3)
 stul.klikni(*DRUHE_CISLO)
 # how long the road is white or red, hangs on the machine: what is waited for is that it stood and is free again
 stul.cekej_na("posunová cesta z depa", lambda o: o.bod(*s.stred(24, RADEK)) in (s.BILA, CERVENA))

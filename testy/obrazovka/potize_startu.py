@@ -3,7 +3,6 @@
 import os
 import subprocess
 import sys
-import time
 
 import stul as s
 
@@ -14,24 +13,18 @@ os.rename(os.path.join(slozka, "data", "tesk.stg"), os.path.join(slozka, "data",
 stul = s.Stul(program, slozka)
 stul.cekej_na("hlášení o souboru", lambda o: o.bodu(0, 0, 1024, 768, s.CERNA) < 1024 * 768 - 5000)
 stul.obraz("chybi_soubor")
-for _ in range(10):
-    stul.klavesa("Return")
-    time.sleep(1)
-    if stul.program.poll() is not None:
-        break
+stul.tiskni("Return", "konec programu", lambda: stul.program.poll() is not None)
 assert stul.program.poll() == 1, "bez souboru program nekončí: %s" % stul.program.poll()
 
 # a second instance: the same, while the first one shows its start screen
 os.rename(os.path.join(slozka, "data", "jinam"), os.path.join(slozka, "data", "tesk.stg"))
 stul.program = subprocess.Popen([program], cwd=slozka, env=stul.prostredi)
 stul.cekej_na("úvodní formulář", s.je_formular)
+okna = stul.okna()
 druha = subprocess.Popen([program], cwd=slozka, env=stul.prostredi)
-for _ in range(10):
-    time.sleep(1)
-    stul.obraz("druha_instance")
-    stul.klavesa("Escape")
-    if druha.poll() is not None:
-        break
+stul.cekej("hlášení druhé instance", lambda: stul.okna() > okna)
+stul.obraz("druha_instance")
+stul.tiskni("Escape", "konec druhé instance", lambda: druha.poll() is not None)
 assert druha.poll() == 1, "druhá instance běží: %s" % druha.poll()
 assert stul.program.poll() is None, "první instance skončila"
 print("v pořádku")

@@ -28,7 +28,7 @@ PAUZA = (376, 3, 56, 14)
 CERVENA = (255, 0, 0)
 stul.cekej_na("nápis PAUZA", lambda o: o.bodu(*PAUZA, CERVENA) > 100)
 stojici = stul.obraz().vyrez(*s.HODINY)
-s.time.sleep(2.5)
+s.time.sleep(1.7)
 assert stul.obraz().vyrez(*s.HODINY) == stojici, "hodiny běží i v pauze"
 stul.klavesa("F10")
 stul.cekej_na("konec pauzy", lambda o: o.bodu(*PAUZA, CERVENA) == 0)

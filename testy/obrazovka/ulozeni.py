@@ -15,14 +15,14 @@ def pis_do_dialogu(stul, text, hotovo):
     for _ in range(10):
         stul.klavesa("ctrl+a")
         stul.xdotool("type", text)
-        time.sleep(0.5)
+        time.sleep(0.2)
         stul.obraz("dialog")
         stul.klavesa("Return")
         konec = time.monotonic() + 3
         while time.monotonic() < konec:
             if hotovo():
                 return
-            time.sleep(0.2)
+            time.sleep(s.KROK)
     stul.obraz("selhalo")
     raise AssertionError("dialog jméno nepřijal")
 
@@ -34,9 +34,9 @@ for _ in range(2):
     stul.klikni(356, 10)  # the figure of the speed
 zacatek = stul.obraz().vyrez(*s.HODINY)
 stul.cekej_na("běžící hodiny", lambda o: o.vyrez(*s.HODINY) != zacatek, 10)
-time.sleep(2)
-stul.klavesa("ctrl+s")
 time.sleep(1)
+stul.klavesa("ctrl+s")
+stul.cekej("dialog uložení", lambda: stul.okna() > stul.oken_v_klidu)
 pis_do_dialogu(stul, "moje sluzba", lambda: os.path.exists(ULOZENA))
 time.sleep(0.5)
 ulozeno = stul.obraz("ulozeno").vyrez(*s.HODINY)  # the clock stands behind the box that tells it
@@ -49,11 +49,8 @@ stul.konec()
 # --- the second one goes on at the same second, with the same relief
 stul = s.Stul(program, slozka)
 stul.cekej_na("úvodní formulář", s.je_formular)
-for _ in range(10):
-    stul.klavesa("alt+o")
-    time.sleep(1)
-    if stul.okna() > 1 or not s.je_formular(stul.obraz()):
-        break
+predtim = stul.okna()
+stul.tiskni("alt+o", "dialog otevření", lambda: stul.okna() > predtim)
 pis_do_dialogu(stul, ULOZENA, lambda: not s.je_formular(stul.obraz()))
 
 

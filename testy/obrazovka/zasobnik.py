@@ -38,9 +38,7 @@ prazdny = stul.obraz().vyrez(*POCET)
 NAVESTIDLO, KOLEJ_1, KOLEJ_2 = s.stred(28, 8), s.stred(61, 8), s.stred(61, 9)
 for kolej in (KOLEJ_1, KOLEJ_2):
     stul.klikni(*NAVESTIDLO)
-    s.time.sleep(0.3)
     stul.klikni(*kolej)
-    s.time.sleep(0.3)
 x, y = s.stred(85, 8)
 stul.cekej_na("postavená cesta na 1. kolej", lambda o: o.bod(x, y) == s.ZELENA)
 CEKAJICI = (120, 599, 300, 14)
@@ -48,10 +46,10 @@ stul.cekej_na("čekající cesta v řádku zásobníku", lambda o: o.bodu(*CEKAJ
 assert stul.obraz().vyrez(*POCET) != prazdny, "počet zásobníku se nezměnil"
 
 # the pointer on the waiting line asks why
-predtim = stul.okna()
+stul.ukaz(600, 480)
+stul.cekej("stůl bez nápovědy", lambda: stul.okna() == stul.oken_v_klidu)
 stul.ukaz(160, 606)
-s.time.sleep(1.5)
-assert stul.okna() == predtim + 1, "čekající cesta neřekla důvod"
+stul.cekej("důvod čekající cesty", lambda: stul.okna() == stul.oken_v_klidu + 1)
 
 # EZ opens the list and stops the clock
 stul.klikni(44, 606)
@@ -64,15 +62,13 @@ stul.klavesa("Down")
 obraz = stul.cekej_na("vybraný řádek", lambda o: o.bodu(*PRVNI_RADEK, VYBRANY) > 3000)
 assert obraz.bodu(*VYBRANA_CESTA, POZADI) < 540 * 200 - 500, "podrobnosti cesty chybějí"
 stul.klavesa("Down")
-s.time.sleep(0.5)
+s.time.sleep(0.3)
 assert stul.obraz().bodu(*DRUHY_RADEK, VYBRANY) == 0, "výběr opustil seznam"
 
 # over the line the pointer tells the reason
-predtim = stul.okna()
 stul.ukaz(200, 108)
-s.time.sleep(1.5)
+stul.cekej("důvod řádku seznamu", lambda: stul.okna() == stul.oken_v_klidu + 1)
 stul.obraz("provoz2")
-assert stul.okna() == predtim + 1, "řádek seznamu neřekl důvod"
 stul.ukaz(600, 720)
 
 # Tab goes to the next list that has a line, and back

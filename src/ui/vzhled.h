@@ -1,0 +1,26 @@
+// ui/vzhled.h - the look of the windows beside the desk: the start screen, boxes, dialogues, menus, tips.
+//
+// Their lengths are written for a screen of the desk's own size and are multiplied: those of the start screen
+// by the measure of the screen, those over the desk by the desk's own, so that a tip is as large as the
+// captions that it explains.
+#pragma once
+
+#include <QApplication>
+#include <QString>
+
+// --- at start
+
+// Colours and style of all windows; letters in the measure of the screen.
+void nastav_vzhled(QApplication& aplikace);
+
+// --- when the desk has got another size
+
+// Letters and paddings of boxes, dialogues and tips, from now on; below 1 they stay at 1.
+void nastav_meritko_oken(double krat);
+
+// --- at any time
+
+// How many times larger than on the desk's own screen a window may be: 1, 1.5, 2, ...
+double meritko_obrazovky();
+// A style sheet with all its lengths but hair lines multiplied.
+QString zvetseny_styl(const char* styl, double krat);
