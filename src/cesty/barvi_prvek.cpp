@@ -14,11 +14,6 @@
 
 namespace {
 
-// Tracks of the line ends and the single track 118: routes only lock them by their lamps and arrows.
-constexpr bool je_hranicni(int n) {
-    return n == 118 || n == 84 || n == 85 || n == 117 || n == 212 || n == 213 || n == 219;
-}
-
 // 638 is a track of Rybnice as well as a section of its line.
 constexpr bool je_tratovy(int n) {
     return (je_usek_trati(n) && n != 638) || je_hranicni(n);

@@ -16,6 +16,10 @@ void obnov_lampu_souhlasu(int n);
 
 // --- at any time, without change
 
+// Tracks of the line ends and the single track 118: routes only lock them by their lamps and arrows.
+constexpr bool je_hranicni(int n) {
+    return n == 118 || n == 84 || n == 85 || n == 117 || n == 212 || n == 213 || n == 219;
+}
 // Flank check of two consecutive switches of a route: the switch at the fourth corner of their rectangle
 // when it is locked or moves; -3 when there is no such switch.
 int bocni_vyhybka(int a, int b);

@@ -299,7 +299,7 @@ void vymaz_cislo(int i, bool tiche, TextPohled text) {
 }
 
 void vrat_jmeno_koleje(int prvek) {
-    if (prvek >= 600 || !je_cislo_koleje(prvek) || !je_kolej(prvek) || !je_volna(prvek))
+    if (je_usek_trati(prvek) || !je_cislo_koleje(prvek) || !je_kolej(prvek) || !je_volna(prvek))
         return;
     Prvek& stitek = relief.cislo_koleje[prvek];
     if (!orez(stitek.text()).empty() || orez(stitek.popis()).empty())

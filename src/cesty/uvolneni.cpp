@@ -42,7 +42,7 @@ int index_cesty(const Cesta& c) {
 // about the locking.
 bool bez_barvy_zaveru(const Cesta& c, std::size_t k) {
     const int n = c.prvky[k];
-    if (je_usek_trati(n) || n == 84 || n == 85 || n == 117 || n == 118 || n == 212 || n == 213 || n == 219)
+    if (je_usek_trati(n) || je_hranicni(n))
         return true;
     if (k != posledni_index(c))
         return false;
