@@ -58,12 +58,10 @@ void obarvi_stitek(int n, Barva barva) {
 }
 
 void obarvi_stitky(int n, Barva barva) {
-    const bool stanicni = n < 200 || (n >= 401 && n <= 599) || n == 638;
-    if (!stanicni || je_hranicni(n) || n == 120 || n == 123)
+    if (!stitek_ma_barvu_koleje(n))
         return;
     obarvi_stitek(n, barva);
-    // 212, 213 and 219 are labels of the line ends and no second labels of 12, 13 and 19.
-    if (n < 200 && n != 12 && n != 13 && n != 19)
+    if (muze_mit_pravy_stitek(n))
         obarvi_stitek(n + 200, barva);
 }
 
@@ -84,6 +82,11 @@ bool je_v_rohu(const Prvek& n, const Prvek& a, const Prvek& b) {
 }
 
 } // namespace
+
+bool stitek_ma_barvu_koleje(int n) {
+    const bool stanicni = n < 200 || (n >= 401 && n <= 599) || n == 638;
+    return stanicni && !je_hranicni(n) && n != 120 && n != 123;
+}
 
 int vzor_zrcadla(int n) {
     const auto zrcadlo = std::find_if(kZrcadla.begin(), kZrcadla.end(), [n](const Zrcadlo& z) {

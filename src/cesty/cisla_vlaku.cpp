@@ -101,9 +101,10 @@ void pis_na_trat(int n, TextPohled text) {
 
 // A track with two labels of one name: which train stands where is the running's to show.
 bool ma_dva_stejne_stitky(int n) {
-    if (n == 12 || n == 13 || n == 19 || n == 212 || n == 213 || n == 219)
+    const int levy = n < 200 ? n : n - 200;
+    if (!muze_mit_pravy_stitek(levy))
         return false;
-    const int druhy = n < 200 ? n + 200 : n < 400 ? n - 200 : kZadny;
+    const int druhy = n < 200 ? n + 200 : levy;
     return je_cislo_koleje(n) && je_cislo_koleje(druhy) &&
            orez(relief.cislo_koleje[n].popis()) == orez(relief.cislo_koleje[druhy].popis());
 }

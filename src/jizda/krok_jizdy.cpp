@@ -133,7 +133,7 @@ void opust_zacatek(int c) {
     if (cesta_c(c).VC && !cesta_c(c).PN && ab_zapnuto(cesta_c(c).zacatek))
         kopie_ab(c);
     const Cesta& cesta = cesta_c(c);
-    if (!je_v(prvek_c(cesta, 0), {212, 213, 219}) && !cesta.PN)
+    if (!je_vstup_z_trati(prvek_c(cesta, 0)) && !cesta.PN)
         zhasni_navestidlo(cesta);
     cesta_c(c).Umazat = 1;
     if (cesta_c(c).prejezd < stanicni_prejezdy.size())

@@ -235,7 +235,7 @@ void info_podle_cisla(std::int32_t cislo) {
 int prvek_popisku(int stitek) {
     if (stitek > kPrvniTrat && stitek % 2 != 0)
         return stitek - 1;
-    if (stitek >= 200 && stitek <= 399 && stitek != 212 && stitek != 213 && stitek != 219)
+    if (stitek >= 200 && stitek <= 399 && !je_vstup_z_trati(stitek))
         return stitek - 200;
     return stitek;
 }

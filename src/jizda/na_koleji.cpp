@@ -12,11 +12,6 @@
 
 namespace {
 
-// No second label of their own: 212, 213 and 219 are labels of line ends.
-bool je_stitek_trati(int stitek) {
-    return stitek == 212 || stitek == 213 || stitek == 219;
-}
-
 Text text_vlaku(int vlak) {
     return vlak < 0 ? Text{} : text_cisla(zobrazene_cislo(vlak_c(vlak)));
 }
@@ -150,7 +145,7 @@ void zobraz_cislo(int stitek, int prvek, int vlak) {
     }
     Prvek& p = relief.cislo_koleje[stitek];
     nastav_pozadi_stitku(stitek, barvy::cerna);
-    if (!je_stitek_trati(stitek))
+    if (!je_vstup_z_trati(stitek))
         p.barva = relief.kolej[prvek].barva;
     if (const int i = stitek_prvku(prvek); i >= 0)
         if (const auto pozadi = pozadi_stitku(stitky[static_cast<std::size_t>(i)]))

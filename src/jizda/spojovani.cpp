@@ -121,9 +121,10 @@ void obnov_odjezd(Vlak& vlak) {
 
 // Wholly on one element of the station: a train on a line or at its end is on its way.
 bool stoji_na_koleji(const Vlak& v) {
-    constexpr std::array<int, 8> kKonceTrati = {84, 85, 117, 120, 123, 212, 213, 219};
-    return cely_na_prvku(v) && v.prvky.back() <= kPrvniTrat &&
-           std::find(kKonceTrati.begin(), kKonceTrati.end(), v.prvky.back()) == kKonceTrati.end();
+    if (!cely_na_prvku(v))
+        return false;
+    const int e = v.prvky.back();
+    return e <= kPrvniTrat && !je_v(e, {84, 85, 117, 120, 123}) && !je_vstup_z_trati(e);
 }
 
 // Units are not split.

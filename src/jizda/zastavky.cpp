@@ -194,9 +194,9 @@ bool ukazuje_vlak(int stitek, const Vlak& vlak) {
 
 // Label of a station track that shows the train waiting on element e; -1 when none does.
 int stitek_ve_stanici(int e, const Vlak& vlak) {
-    if (je_v(e, {212, 213, 219}))
+    if (je_vstup_z_trati(e))
         return -1;
-    if (e < 200 && !je_v(e + 200, {212, 213, 219}) && ukazuje_vlak(e + 200, vlak))
+    if (muze_mit_pravy_stitek(e) && ukazuje_vlak(e + 200, vlak))
         return e + 200;
     return ukazuje_vlak(e, vlak) ? e : -1;
 }

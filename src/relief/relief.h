@@ -169,7 +169,16 @@ constexpr int zaklad_trati(int n) {
 }
 // The label n exists.
 bool je_cislo_koleje(int n);
-// n can end a route: it is one of the line ends 212, 213, 219, or it has a target `Image1`.
+// The element n is one of the three line ends where trains come in from a neighbour with consent. Their
+// labels are no second labels of 12, 13 and 19.
+constexpr bool je_vstup_z_trati(int n) {
+    return n == 212 || n == 213 || n == 219;
+}
+// The track n has room for a second label, at its right end: n + 200.
+constexpr bool muze_mit_pravy_stitek(int n) {
+    return n < 200 && !je_vstup_z_trati(n + 200);
+}
+// n can end a route: it is a line end, or it has a target `Image1`.
 bool je_cil(int n);
 // Track of the signal x. 511 stands on 135, a single exception of the junction.
 int kolej_navestidla(int x);

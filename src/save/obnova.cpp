@@ -4,6 +4,7 @@
 #include "app/blikani.h"
 #include "app/cas.h"
 #include "app/simulace.h"
+#include "cesty/barvi_prvek.h"
 #include "cesty/dotazy.h"
 #include "cesty/odpocet_pn.h"
 #include "cesty/prekazky.h"
@@ -36,14 +37,6 @@ void obnov_koleje(const Zaznam& z) {
         }
 }
 
-// Tracks of the line ends and the single tracks: their labels never wear their colour.
-constexpr std::array kBezBarvyStitku = {84, 85, 117, 118, 120, 123, 212, 213, 219};
-
-bool ma_barvu_koleje(int n) {
-    return (n < 200 || (n >= 401 && n <= 599) || n == 638) &&
-           std::find(kBezBarvyStitku.begin(), kBezBarvyStitku.end(), n) == kBezBarvyStitku.end();
-}
-
 // A label that stands there for train numbers only is white while its track is free.
 void obarvi_stitek(int n, Barva barva) {
     if (!relief.cislo_koleje.je(n))
@@ -66,10 +59,10 @@ void obnov_stitky_koleji(const Zaznam& z) {
     for (int n = 0; n <= stitky_koleji.nejvyssi(); ++n) {
         if (!stitky_koleji.je(n))
             continue;
-        if (ma_barvu_koleje(n) && je_kolej(n)) {
+        if (stitek_ma_barvu_koleje(n) && je_kolej(n)) {
             const Barva barva = relief.kolej[n].barva;
             obarvi_stitek(n, barva);
-            if (n < 200 && n != 12 && n != 13 && n != 19) // 212, 213 and 219 are labels of line ends
+            if (muze_mit_pravy_stitek(n))
                 obarvi_stitek(n + 200, barva);
         }
         Prvek& stitek = stitky_koleji[n];
