@@ -11,8 +11,6 @@
 #include "desk/menu.h"
 #include "technologie/technologie.h"
 
-#include <vector>
-
 namespace {
 
 struct CilRuky {
@@ -20,12 +18,13 @@ struct CilRuky {
     int cislo = 0;
 };
 
-CilRuky prvek_ruky(Slova slova, std::size_t nejvice_slov) {
+// The element that the words name, and nothing behind it.
+CilRuky prvek_ruky(Slova slova) {
     const Cil cil = precti_cil(slova);
     if (!cil.druh)
         chyba_skriptu(v_uvozovkach(cil.slovo) + " je tabulka, ne prvek");
-    if (slova.size() > cil.slov + nejvice_slov)
-        chyba_skriptu("přebývá " + v_uvozovkach(slova[cil.slov + nejvice_slov]));
+    if (slova.size() > cil.slov)
+        chyba_skriptu("přebývá " + v_uvozovkach(slova[cil.slov]));
     if (!tabulka(*cil.druh).je(cil.cislo))
         chyba_skriptu("prvek " + cil.slovo + " " + std::to_string(cil.cislo) + " neexistuje");
     return {*cil.druh, cil.cislo};
@@ -43,58 +42,73 @@ Seznam* seznam_desky(std::string_view slovo) {
     return nullptr;
 }
 
+// --- left clicks
+
+void klik_pred_startem(BehSkriptu& beh, Slova slova) {
+    if (slova[0] == "cmdStart")
+        prikaz_spust(beh, slova.subspan(1));
+    else if (slova[0] == "cmdOtevrit")
+        prikaz_otevrit(beh);
+    else if (!klik_startu(slova))
+        chyba_pred_startem("klik " + slova[0]);
+}
+
+void bez_dalsich_slov(Slova slova) {
+    if (slova.size() > 1)
+        chyba_skriptu("klik " + slova[0] + " nemá další slova");
+}
+
+void klik_zalozky(Slova slova, Technologie zalozka) {
+    bez_dalsich_slov(slova);
+    if (!technologie_kryje_stul())
+        chyba_skriptu("záložka " + slova[0] + " není vidět: žádná obrazovka technologie není otevřená");
+    klik_na_zalozku(zalozka);
+}
+
+void klik_radku(Slova slova, Seznam& seznam) {
+    if (slova.size() != 2)
+        chyba_skriptu("píše se klik " + slova[0] + " RADEK");
+    const auto radku = static_cast<std::int64_t>(seznam.radky.size());
+    if (radku == 0)
+        chyba_skriptu("seznam " + slova[0] + " je prázdný");
+    klik_na_radek(seznam, static_cast<int>(cislo_slova(slova[1], 0, radku - 1, "řádek seznamu")));
+}
+
+void klik_prvku(Slova slova) {
+    const bool ctrl = slova.size() > 1 && slova.back() == "ctrl";
+    const CilRuky cil = prvek_ruky(ctrl ? slova.first(slova.size() - 1) : slova);
+    klik(cil.druh, cil.cislo, Tlacitko::leve, ctrl);
+}
+
 } // namespace
 
 void prikaz_klik(BehSkriptu& beh, Slova slova) {
     if (!beh.spusteno) {
-        if (slova[0] == "cmdStart")
-            prikaz_spust(beh, slova.subspan(1));
-        else if (slova[0] == "cmdOtevrit")
-            prikaz_otevrit(beh);
-        else if (!klik_startu(slova))
-            chyba_pred_startem("klik " + slova[0]);
-        return;
-    }
-    if (slova[0] == "plocha") {
-        if (slova.size() > 1)
-            chyba_skriptu("klik plocha nemá další slova");
+        klik_pred_startem(beh, slova);
+    } else if (slova[0] == "plocha") {
+        bez_dalsich_slov(slova);
         klik_na_plochu();
-        return;
+    } else if (const auto zalozka = technologie_podle_jmena(slova[0])) {
+        klik_zalozky(slova, *zalozka);
+    } else if (Seznam* seznam = seznam_desky(slova[0])) {
+        klik_radku(slova, *seznam);
+    } else {
+        klik_prvku(slova);
     }
-    if (const auto zalozka = technologie_podle_jmena(slova[0])) {
-        if (slova.size() > 1)
-            chyba_skriptu("klik " + slova[0] + " nemá další slova");
-        if (!technologie_kryje_stul())
-            chyba_skriptu("záložka " + slova[0] + " není vidět: žádná obrazovka technologie není otevřená");
-        klik_na_zalozku(*zalozka);
-        return;
-    }
-    if (Seznam* seznam = seznam_desky(slova[0])) {
-        if (slova.size() != 2)
-            chyba_skriptu("píše se klik " + slova[0] + " RADEK");
-        const auto radku = static_cast<std::int64_t>(seznam->radky.size());
-        if (radku == 0)
-            chyba_skriptu("seznam " + slova[0] + " je prázdný");
-        klik_na_radek(*seznam, static_cast<int>(cislo_slova(slova[1], 0, radku - 1, "řádek seznamu")));
-        return;
-    }
-    const bool ctrl = slova.size() > 1 && slova.back() == "ctrl";
-    const CilRuky cil = prvek_ruky(ctrl ? slova.first(slova.size() - 1) : slova, 0);
-    klik(cil.druh, cil.cislo, Tlacitko::leve, ctrl);
 }
 
 void prikaz_pravy(BehSkriptu&, Slova slova) {
-    const CilRuky cil = prvek_ruky(slova, 0);
+    const CilRuky cil = prvek_ruky(slova);
     klik(cil.druh, cil.cislo, Tlacitko::prave, false);
 }
 
 void prikaz_prostredni(BehSkriptu&, Slova slova) {
-    const CilRuky cil = prvek_ruky(slova, 0);
+    const CilRuky cil = prvek_ruky(slova);
     klik(cil.druh, cil.cislo, Tlacitko::prostredni, false);
 }
 
 void prikaz_dvojklik(BehSkriptu&, Slova slova) {
-    const CilRuky cil = prvek_ruky(slova, 0);
+    const CilRuky cil = prvek_ruky(slova);
     dvojklik(cil.druh, cil.cislo);
 }
 
@@ -104,7 +118,7 @@ void prikaz_najed(BehSkriptu&, Slova slova) {
         odjeti();
         return;
     }
-    const CilRuky cil = prvek_ruky(slova, 0);
+    const CilRuky cil = prvek_ruky(slova);
     pohyb_mysi();
     najeti(cil.druh, cil.cislo);
 }
@@ -113,22 +127,18 @@ void prikaz_menu(BehSkriptu&, Slova slova) {
     const Text jmeno = text_slova(slova[0]);
     if (menu.jmeno.empty())
         chyba_skriptu("žádné menu není otevřené");
-    // the names first: afterwards the menu is closed
-    std::string stav;
-    for (const PolozkaMenu& p : menu.polozky)
-        if (p.jmeno == jmeno)
-            stav = !p.viditelna ? "je skrytá" : !p.povolena ? "je zakázaná" : "nejde zvolit";
-    std::vector<std::string> jmena;
-    for (const PolozkaMenu& p : menu.polozky)
-        jmena.push_back(na_utf8(p.jmeno));
-    const std::string hlava = na_utf8(menu.jmeno);
     if (zvol_v_menu(jmeno))
         return;
-    if (!stav.empty())
-        chyba_skriptu("položka " + v_uvozovkach(slova[0]) + " menu " + hlava + " " + stav);
+    const std::string hlava = na_utf8(menu.jmeno); // a refusal leaves the menu open
     std::string nabidka;
-    for (const std::string& j : jmena)
-        nabidka += (nabidka.empty() ? "" : ", ") + j;
+    for (const PolozkaMenu& p : menu.polozky) {
+        if (p.jmeno == jmeno)
+            chyba_skriptu("položka " + v_uvozovkach(slova[0]) + " menu " + hlava +
+                          (!p.viditelna  ? " je skrytá"
+                           : !p.povolena ? " je zakázaná"
+                                         : " nejde zvolit"));
+        nabidka += (nabidka.empty() ? "" : ", ") + na_utf8(p.jmeno);
+    }
     chyba_skriptu("menu " + hlava + " nemá položku " + v_uvozovkach(slova[0]) + "; má: " + nabidka);
 }
 
