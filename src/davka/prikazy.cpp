@@ -125,40 +125,59 @@ void prikaz_vypis(BehSkriptu& beh, Slova slova) {
     zapomen_vypsane(cil);
 }
 
+bool je_cislo_radku(std::string_view pole) {
+    return !pole.empty() && pole[0] >= '0' && pole[0] <= '9';
+}
+
+// What stands at the path of a check: of a table its rows are meant.
+std::optional<Json> overovana_hodnota(const Json& nalez, std::string_view pole) {
+    std::optional<Json> hodnota = najdi_pole(nalez, pole);
+    if (!hodnota && (pole == "pocet" || je_cislo_radku(pole)))
+        hodnota = najdi_pole(nalez, "radky." + std::string(pole));
+    return hodnota;
+}
+
+// A field that is not there at all is an error of the script; but an element that does not exist has none,
+// and a path may lead to a row that is no more.
+void over_jmeno_pole(const Json& nalez, const Cil& cil, std::string_view pole) {
+    const Json* existuje = clen(nalez, "existuje");
+    if (existuje != nullptr && *existuje == Json(false))
+        return;
+    if (pole.find('.') != std::string_view::npos || (je_cislo_radku(pole) && clen(nalez, "radky") != nullptr))
+        return;
+    std::vector<std::string_view> znama;
+    for (const ClenJsonu& c : std::get<ZaznamJsonu>(nalez.hodnota))
+        znama.push_back(c.klic);
+    chyba_skriptu(v_uvozovkach(cil.slovo) + " nemá pole " + v_uvozovkach(pole) + napoveda(pole, znama));
+}
+
+// The report of a check that does not hold; without a value nothing was found there.
+Json nesouhlas(int radek, const std::string& co, const Prirazeni& p, const std::optional<Json>& hodnota) {
+    ZaznamJsonu z;
+    pridej(z, "over", json_utf8(co + std::string(p.pole)));
+    pridej(z, "radek", radek);
+    pridej(z, "chtel", hodnota ? chtena_hodnota(*hodnota, p.hodnota) : json_utf8(p.hodnota));
+    pridej(z, "nasel", hodnota ? *hodnota : Json());
+    return Json(std::move(z));
+}
+
 void prikaz_over(BehSkriptu& beh, Slova slova) {
     const Cil cil = precti_cil(slova);
     if (slova.size() == cil.slov)
         chyba_skriptu("over: chybí POLE=HODNOTA");
+    std::string co;
+    for (const std::string& slovo : slova.first(cil.slov))
+        co += slovo + " ";
     const Json nalez(vypis(cil));
-    const Json* existuje = clen(nalez, "existuje");
-    const bool neni = existuje != nullptr && *existuje == Json(false);
     for (const std::string& slovo : slova.subspan(cil.slov)) {
         const Prirazeni p = prirazeni(slovo);
-        std::optional<Json> hodnota = najdi_pole(nalez, p.pole);
-        const bool radek_cislem = !p.pole.empty() && p.pole[0] >= '0' && p.pole[0] <= '9';
-        if (!hodnota && (p.pole == "pocet" || radek_cislem)) // of a table the rows are meant
-            hodnota = najdi_pole(nalez, "radky." + std::string(p.pole));
-        const bool cesta_k_radku =
-            p.pole.find('.') != std::string_view::npos || (radek_cislem && clen(nalez, "radky") != nullptr);
-        if (!hodnota && !neni && !cesta_k_radku) {
-            std::vector<std::string_view> pole;
-            for (const ClenJsonu& c : std::get<ZaznamJsonu>(nalez.hodnota))
-                pole.push_back(c.klic);
-            chyba_skriptu(v_uvozovkach(cil.slovo) + " nemá pole " + v_uvozovkach(p.pole) +
-                          napoveda(p.pole, pole));
-        }
+        const std::optional<Json> hodnota = overovana_hodnota(nalez, p.pole);
+        if (!hodnota)
+            over_jmeno_pole(nalez, cil, p.pole);
         if (hodnota && odpovida(*hodnota, p.hodnota))
             continue;
         beh.over_selhal = true;
-        std::string co;
-        for (std::size_t i = 0; i < cil.slov; ++i)
-            co += slova[i] + " ";
-        ZaznamJsonu z;
-        pridej(z, "over", json_utf8(co + std::string(p.pole)));
-        pridej(z, "radek", beh.radek);
-        pridej(z, "chtel", hodnota ? chtena_hodnota(*hodnota, p.hodnota) : json_utf8(p.hodnota));
-        pridej(z, "nasel", hodnota ? *hodnota : Json());
-        beh.vypis(Json(std::move(z)));
+        beh.vypis(nesouhlas(beh.radek, co, p, hodnota));
     }
 }
 
