@@ -133,6 +133,46 @@ bool je_jednotka(TextPohled vuz) {
     return std::find(kJednotky.begin(), kJednotky.end(), vuz) != kJednotky.end();
 }
 
+bool lze_odvesit(const Vlak& vlak, int i) {
+    return i >= 0 && static_cast<std::size_t>(i) < vlak.vozy.size() && vlak.vozy.size() >= 2 &&
+           vlak.cislo >= 0 && !vlak.prvky.empty() && !je_jednotka(vlak.vozy[static_cast<std::size_t>(i)]);
+}
+
+// The part stands under the head of its train, and leaves it as a shunting movement.
+void zaloz_dil(const Vlak& vlak, Vlak& dil) {
+    dil.cislo = vlak.cislo;
+    dil.druh = vlak.druh;
+    dil.max_rychlost = vlak.max_rychlost;
+    dil.smer = vlak.smer;
+    dil.stanice = vlak.stanice;
+    dil.prijezd = vlak.prijezd;
+    dil.odjezd = vlak.odjezd;
+    dil.odjezd_realny = vlak.odjezd_realny;
+    dil.rychlost_trati = kRychlostDilu;
+    dil.posun = true;
+    dil.muze_jet = true;
+    dil.prvky.assign(1, vlak.prvky.back());
+    dil.prvky_druh.assign(1, vlak.prvky_druh.back());
+    dil.prvky_poloha.assign(1, vlak.prvky_poloha.back());
+}
+
+// The stop now ends only by order, or when another locomotive is coupled.
+void cekej_na_povel(Vlak& vlak) {
+    if (vlak.stanice_index >= 0 && static_cast<std::size_t>(vlak.stanice_index) < vlak.odjezd_realny.size())
+        vlak.odjezd_realny[static_cast<std::size_t>(vlak.stanice_index)] = kNaPovel;
+}
+
+// Routes that neither part has entered yet are free for either.
+void uvolni_nezacate_cesty(int v, int d) {
+    for (Cesta& cesta : cesty)
+        if ((cesta.Vlak == v || cesta.Vlak == d) && cesta.Umazat == 0)
+            cesta.Vlak = kZadny;
+}
+
+bool stoji_na_posledni(const Vlak& vlak) {
+    return vlak.stanice_index >= 0 && static_cast<std::size_t>(vlak.stanice_index) + 1 == vlak.stanice.size();
+}
+
 void rozdel_vozy(Vlak& vlak, Vlak& dil, std::size_t i) {
     srovnej_seznamy(vlak);
     const bool posledni = i + 1 == vlak.vozy.size();
@@ -327,44 +367,24 @@ void spoj(int a, int b) {
 }
 
 int odvesit(int v, int i, bool zobraz) {
-    if (i < 0 || static_cast<std::size_t>(i) >= vlak_c(v).vozy.size() || vlak_c(v).vozy.size() < 2 ||
-        vlak_c(v).cislo < 0 || vlak_c(v).prvky.empty() ||
-        je_jednotka(vlak_c(v).vozy[static_cast<std::size_t>(i)]))
+    if (!lze_odvesit(vlak_c(v), i))
         return kZadny;
     const int d = novy_vlak();
     Vlak& vlak = vlak_c(v);
     Vlak& dil = vlak_c(d);
     const bool posledni = static_cast<std::size_t>(i) + 1 == vlak.vozy.size();
     const int celo = vlak.prvky.back();
-    dil.cislo = vlak.cislo;
-    dil.druh = vlak.druh;
-    dil.max_rychlost = vlak.max_rychlost;
-    dil.smer = vlak.smer;
-    dil.stanice = vlak.stanice;
-    dil.prijezd = vlak.prijezd;
-    dil.odjezd = vlak.odjezd;
-    dil.odjezd_realny = vlak.odjezd_realny;
-    dil.rychlost_trati = kRychlostDilu;
-    dil.posun = true;
-    dil.muze_jet = true;
-    if (vlak.stanice_index >= 0 && static_cast<std::size_t>(vlak.stanice_index) < vlak.odjezd_realny.size())
-        vlak.odjezd_realny[static_cast<std::size_t>(vlak.stanice_index)] = kNaPovel;
+    zaloz_dil(vlak, dil);
+    cekej_na_povel(vlak);
     nastav_metry(celo, vlak.delka);
-    dil.prvky.assign(1, vlak.prvky.back());
-    dil.prvky_druh.assign(1, vlak.prvky_druh.back());
-    dil.prvky_poloha.assign(1, vlak.prvky_poloha.back());
     rozdel_vozy(vlak, dil, static_cast<std::size_t>(i));
     pridej_na_kolej(celo, d, posledni ? !vlak.smer : vlak.smer, v);
     rozdel_delku(vlak, dil);
     odstav_na_kusou(d);
-    for (Cesta& cesta : cesty)
-        if ((cesta.Vlak == v || cesta.Vlak == d) && cesta.Umazat == 0)
-            cesta.Vlak = kZadny;
+    uvolni_nezacate_cesty(v, d);
     navazny_vlak(d);
     // A through train keeps its timetable; only at its last stop it becomes the next one.
-    const Vlak& zbyl = vlak_c(v);
-    if (zbyl.posun ||
-        (zbyl.stanice_index >= 0 && static_cast<std::size_t>(zbyl.stanice_index) + 1 == zbyl.stanice.size()))
+    if (vlak_c(v).posun || stoji_na_posledni(vlak_c(v)))
         navazny_vlak(v);
     if (zobraz || info_ukazuje(v))
         info_o_vlaku({}, v);
