@@ -359,9 +359,7 @@ Text popis_vozu(TextPohled vuz, TextPohled urceni) {
         text = "ČD "_cz;
         text += vuz;
     } else if (text.empty()) {
-        text = vuz;
-        for (std::size_t misto = text.find("OBB"); misto != Text::npos; misto = text.find("OBB", misto + 3))
-            text.replace(misto, 3, "ÖBB"_cz);
+        text = nahrad_v_textu(Text(vuz), "OBB", "ÖBB"_cz);
     }
     if (!urceni.empty() && urceni != "0") {
         text += " (";

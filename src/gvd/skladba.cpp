@@ -6,19 +6,16 @@
 #include "cesty/cesta.h"
 #include "gvd/dopravny.h"
 #include "gvd/gvd.h"
+#include "gvd/obrazky_vozu.h"
 #include "gvd/provoz.h"
 #include "jizda/na_koleji.h"
 #include "jizda/souprava.h"
 #include "jizda/spojovani.h"
 #include "jizda/vlak.h"
 #include "zaklad/cisla.h"
-#include "zaklad/nahoda.h"
-#include "zaklad/soubory.h"
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
-#include <initializer_list>
 #include <utility>
 
 namespace {
@@ -84,12 +81,6 @@ void pridej_urceni(Vlak& v, const GvdVlak& r, int element) {
         v.vozy_urceni.front() = r.navazny_vlak;
 }
 
-Text nahrad(Text text, TextPohled co, TextPohled cim) {
-    for (std::size_t misto = text.find(co); misto != Text::npos; misto = text.find(co, misto + cim.size()))
-        text.replace(misto, co.size(), cim);
-    return text;
-}
-
 Text obrazek_ridiciho(int rada) {
     return text_cisla(rada) + "p.ico";
 }
@@ -107,9 +98,9 @@ Text obrazek_vozidla(const Text& vuz, bool ridici) {
 // Two motor coaches with a cab each, trailers between them. "p" is the one with its cab at the right end:
 // the front one of a train that runs to the right, otherwise the last one.
 void obrazky_jednotky(Vlak& v, const Text& jmeno) {
-    std::fill(v.vozy_obrazek.begin() + 1, v.vozy_obrazek.end(), nahrad(jmeno, "560", "060"));
+    std::fill(v.vozy_obrazek.begin() + 1, v.vozy_obrazek.end(), nahrad_v_textu(jmeno, "560", "060"));
     v.vozy_obrazek.back() = jmeno;
-    (v.smer ? v.vozy_obrazek.front() : v.vozy_obrazek.back()) = nahrad(jmeno, "560", "560p");
+    (v.smer ? v.vozy_obrazek.front() : v.vozy_obrazek.back()) = nahrad_v_textu(jmeno, "560", "560p");
 }
 
 void pridej_obrazky(Vlak& v) {
@@ -200,37 +191,6 @@ void pipni_na_novy_vlak() {
     simulace.nova_pipnuti = true;
 }
 
-// --- pictures
-
-struct SlozkaObrazku {
-    Text cesta;
-    std::uint64_t otisk = 0;
-    std::vector<Text> jmena;
-};
-SlozkaObrazku slozka_obrazku; // listed anew when the folder has changed
-
-const std::vector<Text>& obrazky() {
-    const Text cesta = simulace.cesta_aplikace + "DATA\\VOZY\\";
-    const std::uint64_t otisk = otisk_souboru(cesta);
-    if (cesta != slozka_obrazku.cesta || otisk != slozka_obrazku.otisk || otisk == 0)
-        slozka_obrazku = {cesta, otisk, soubory_slozky(cesta, "*_*.*")};
-    return slozka_obrazku.jmena;
-}
-
-// The name ends, in front of one of its "_", with the series, and has a suffix behind it.
-bool patri_k_rade(TextPohled jmeno, TextPohled rada_s_podtrzitkem) {
-    const std::size_t misto = jmeno.find(rada_s_podtrzitkem);
-    return misto != TextPohled::npos &&
-           jmeno.find('.', misto + rada_s_podtrzitkem.size()) != TextPohled::npos;
-}
-
-int vaha(TextPohled jmeno) {
-    const std::size_t podtrzitko = jmeno.find('_');
-    if (podtrzitko + 1 >= jmeno.size() || jmeno[podtrzitko + 1] == ' ')
-        return 0;
-    return cele_z_textu(jmeno.substr(podtrzitko + 1));
-}
-
 } // namespace
 
 std::int16_t vytvor_vlak(bool smer, int element, bool muze_jet, int index, int gvd_index) {
@@ -309,112 +269,4 @@ std::int32_t cislo_vlaku_pred(int vlak) {
         if (r.loko_rada == v.loko_rada && aktivni_dnes(r) && je_rada(r.navazny_vlak, v.cislo))
             return r.cislo;
     return 0;
-}
-
-Text obrazek_vozu(int rada) {
-    return obrazek_vozu(text_cisla(rada));
-}
-
-// Sorted names, so that the same draw gives the same picture on every machine; the first one whose
-// running sum of weights reaches the draw.
-Text obrazek_vozu(TextPohled rada) {
-    const Text hledana = Text(rada) + "_";
-    const std::vector<Text>& jmena = obrazky();
-    std::int64_t soucet = 0;
-    for (const Text& jmeno : jmena)
-        if (patri_k_rade(jmeno, hledana))
-            soucet += vaha(jmeno);
-    if (soucet == 0)
-        return {};
-    const auto x = static_cast<std::int64_t>(dolu(nahodne() * static_cast<double>(soucet)));
-    std::int64_t dosud = 0;
-    for (const Text& jmeno : jmena)
-        if (patri_k_rade(jmeno, hledana)) {
-            dosud += vaha(jmeno);
-            if (dosud >= x)
-                return jmeno;
-        }
-    return {};
-}
-
-Text obrazek_vozu_textem(TextPohled text) {
-    const Text typ = nahrad(Text(text), "OBB", "ÖBB"_cz);
-    const auto obsahuje = [&typ](TextPohled co) { return typ.find(co) != Text::npos; };
-    const auto obsahuje_neco = [&](std::initializer_list<TextPohled> co) {
-        return std::any_of(co.begin(), co.end(), obsahuje);
-    };
-    struct Pravidlo {
-        TextPohled text, obrazek;
-    };
-    static const std::array kZnacene = {
-        Pravidlo{"DB B", "DB B.ico"},
-        Pravidlo{"DB A", "DB A.ico"},
-        Pravidlo{"DB W", "DB Wrmz.ico"},
-        Pravidlo{"ZSSK B", "ZSSK B.ico"},
-    };
-    static const std::array kDalsi = {
-        Pravidlo{"MÁV Bcmz"_cz, "MÁV Bcmz.ico"_cz},
-        Pravidlo{"MÁV B"_cz, "MÁV B.ico"_cz},
-        Pravidlo{"MÁV A"_cz, "MÁV A.ico"_cz},
-        Pravidlo{"ZSSK Apeer", "ZSSK A.ico"},
-    };
-    static const std::array kObecne = {
-        Pravidlo{"BDs", "BDs.ico"},
-        Pravidlo{"BR", "BR.ico"},
-        Pravidlo{"Post", "Post.ico"},
-    };
-    // By the beginning: coaches by their class, wagons by the letters of their kind.
-    static const std::array kPodleZacatku = {
-        Pravidlo{"A", "A.ico"},
-        Pravidlo{"B", "B.ico"},
-        Pravidlo{"ÖBB A"_cz, "ÖBB A.ico"_cz},
-        Pravidlo{"ÖBB B"_cz, "ÖBB Bmz61.ico"_cz},
-        Pravidlo{"WL", "WL.ico"},      // sleeping car
-        Pravidlo{"D", "Ds.ico"},       // luggage van
-        Pravidlo{"Ea", "Eas.ico"},     // open
-        Pravidlo{"Fa", "Falls.ico"},   // hopper
-        Pravidlo{"Fc", "Falls.ico"},   //
-        Pravidlo{"Ga", "Gbs.ico"},     // covered
-        Pravidlo{"Gb", "Gbs.ico"},     //
-        Pravidlo{"Ha", "Habbins.ico"}, // with sliding walls
-        Pravidlo{"Hb", "Habbins.ico"}, //
-        Pravidlo{"Kb", "Kbs.ico"},     // flat, two axles
-        Pravidlo{"Ki", "Kbs.ico"},     //
-        Pravidlo{"La", "Laaers.ico"},  // for cars
-        Pravidlo{"Re", "Res.ico"},     // flat
-        Pravidlo{"Rg", "Res.ico"},     //
-        Pravidlo{"Ri", "Rils.ico"},    // flat under a tarpaulin
-        Pravidlo{"Sg", "Sgnss.ico"},   // for containers
-        Pravidlo{"Sh", "Shimmns.ico"}, // for coils
-        Pravidlo{"Ta", "Tads.ico"},    // with an opening roof
-        Pravidlo{"Td", "Tads.ico"},    //
-        Pravidlo{"Ua", "Uacs.ico"},    // for powder
-        Pravidlo{"Uc", "Uacs.ico"},    //
-        Pravidlo{"Za", "Zaes.ico"},    // tank
-    };
-    const auto prvni_z = [&](const auto& pravidla) -> TextPohled {
-        for (const Pravidlo& p : pravidla)
-            if (obsahuje(p.text))
-                return p.obrazek;
-        return {};
-    };
-
-    if (const TextPohled obrazek = prvni_z(kZnacene); !obrazek.empty())
-        return Text(obrazek);
-    if (typ == "ÖBB Bmpz"_cz || typ == "ÖBB Bmpz61"_cz)
-        return Text("ÖBB Bmz61.ico"_cz);
-    if (const TextPohled obrazek = prvni_z(kDalsi); !obrazek.empty())
-        return Text(obrazek);
-    if (mala_pismena(typ).find("wr") != Text::npos) // dining cars: WR, WRm, wrm
-        return "wrm.ico";
-    if (obsahuje_neco({"Bee", "Bpee", "Bmee"}))
-        return "Bee.ico";
-    if (obsahuje_neco({"Bp", "Bdt", "Bg", "Bt", "Btee"}))
-        return "B.ico";
-    if (const TextPohled obrazek = prvni_z(kObecne); !obrazek.empty())
-        return Text(obrazek);
-    for (const Pravidlo& p : kPodleZacatku)
-        if (typ.starts_with(p.text))
-            return Text(p.obrazek);
-    return {};
 }

@@ -9,6 +9,7 @@
 #include "gvd/dopravny.h"
 #include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
+#include "gvd/obrazky_vozu.h"
 #include "gvd/provoz.h"
 #include "gvd/skladba.h"
 #include "gvd/stav_provozu.h"

@@ -9,6 +9,7 @@
 #include "desk/tabulka_vlaku.h"
 #include "gvd/dopravny.h"
 #include "gvd/druhy_vlaku.h"
+#include "gvd/obrazky_vozu.h"
 #include "gvd/provoz.h"
 #include "gvd/skladba.h"
 #include "jizda/metry.h"

@@ -169,10 +169,6 @@ void uvolni_nezacate_cesty(int v, int d) {
             cesta.Vlak = kZadny;
 }
 
-bool stoji_na_posledni(const Vlak& vlak) {
-    return vlak.stanice_index >= 0 && static_cast<std::size_t>(vlak.stanice_index) + 1 == vlak.stanice.size();
-}
-
 void rozdel_vozy(Vlak& vlak, Vlak& dil, std::size_t i) {
     srovnej_seznamy(vlak);
     const bool posledni = i + 1 == vlak.vozy.size();

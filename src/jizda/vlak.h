@@ -106,3 +106,5 @@ bool drzi_jiny(int kolej, int v);
 inline std::int32_t zobrazene_cislo(const Vlak& v) {
     return v.cislo2_platne ? v.cislo2 : v.cislo;
 }
+// It stands at the last stop of its timetable.
+bool stoji_na_posledni(const Vlak& v);

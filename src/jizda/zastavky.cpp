@@ -110,10 +110,6 @@ bool stoji_ve_stanici(const Vlak& vlak, int kod) {
     return stanice_zastavky(vlak, vlak.stanice_index) == kod;
 }
 
-bool je_na_posledni(const Vlak& vlak) {
-    return vlak.stanice_index >= 0 && static_cast<std::size_t>(vlak.stanice_index) + 1 == vlak.stanice.size();
-}
-
 // The engine at one end is another one than the train goes on with, and it does not stay for the branch.
 bool ma_odejit(const Vlak& vlak, std::size_t i) {
     return je_loko(vlak.vozy[i]) && rada_vozu(vlak.vozy[i]) != vlak.loko_rada2 && urceni(vlak, i) != "VH";
@@ -380,7 +376,7 @@ void vlak_v_cili(int prvek, int v) {
     case PoStopu::dolni: odves_v_dolnim(v); break;
     case PoStopu::tesk:
         vymen_loko_v_tesku(v);
-        if (je_na_posledni(vlak_c(v)))
+        if (stoji_na_posledni(vlak_c(v)))
             navazny_vlak(v);
         break;
     }
