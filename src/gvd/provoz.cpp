@@ -146,6 +146,18 @@ void vstup_z_depa_vh(int gvd_index) {
     posun_po_vytvoreni(v);
 }
 
+// The lamp of the line end tells that the consented train is in, and the minute at which it came.
+void ukaz_vjezd(int k) {
+    if (relief.lblPredvidany_odjezd.je(k)) {
+        nastav_text(relief.lblPredvidany_odjezd[k], text_cisla_mist(minuta_dne(cas_hodin()) % 60, 2));
+        relief.lblPredvidany_odjezd[k].viditelny = true;
+    }
+    Prvek& lampa = relief.lblSouhlas[k];
+    nastav_text(lampa, znak(kKonceTrati[static_cast<std::size_t>(k)].znak_dovnitr));
+    lampa.barva = barvy::modra;
+    souhlasy.souhlas[static_cast<std::size_t>(k)] = false;
+}
+
 // --- announcements
 
 struct StaniceOhlaseni {
@@ -304,14 +316,7 @@ void vstup_se_souhlasem(int gvd_index) {
     pridej_cestu_souhlasu(k);
     postav_cesty_z(konec.usek);
     vyrad_cekajici(gvd_index);
-
-    if (relief.lblPredvidany_odjezd.je(k)) {
-        nastav_text(relief.lblPredvidany_odjezd[k], text_cisla_mist(minuta_dne(cas_hodin()) % 60, 2));
-        relief.lblPredvidany_odjezd[k].viditelny = true;
-    }
-    nastav_text(lampa, znak(konec.znak_dovnitr));
-    lampa.barva = barvy::modra;
-    souhlasy.souhlas[static_cast<std::size_t>(k)] = false;
+    ukaz_vjezd(k);
 }
 
 void ohlaseni(int gvd_index) {

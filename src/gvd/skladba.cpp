@@ -58,6 +58,27 @@ std::uint8_t prvni_rychlost(int stanice, std::uint8_t rychlost) {
     }
 }
 
+void prevezmi_radek(Vlak& v, const GvdVlak& r) {
+    v.cislo = r.cislo;
+    v.cislo2 = r.cislo2;
+    v.delka = r.delka;
+    v.druh = r.druh;
+    v.druh2 = r.druh2;
+    v.gvd_hodnota = r.gvd_hodnota;
+    v.loko_rada = r.loko_rada;
+    v.loko_rada2 = r.loko_rada2;
+    v.hodnota_2 = r.hodnota_2;
+    v.dny = r.dny;
+    v.stanice_zmeny = r.stanice_zmeny;
+    v.stanice = r.stanice;
+    v.pokyn = r.kolej;
+    v.nazev = r.nazev;
+    v.max_rychlost = r.rychlost;
+    v.poznamka = r.poznamka;
+    v.vozy = r.vozy;
+    v.priznaky = r.priznaky;
+}
+
 void pridej_casy(Vlak& v, const GvdVlak& r) {
     v.prijezd = dnesni_casy(r.prijezdy);
     v.odjezd = dnesni_casy(r.odjezdy);
@@ -202,28 +223,9 @@ std::int16_t vytvor_vlak(bool smer, int element, bool muze_jet, int index, int g
     v.prvky_druh = {druh_prvku::kolej};
     v.prvky_poloha = {static_cast<std::uint8_t>(je_usek_trati(element) ? 0 : 2)};
     v.prvek_konec = 0;
-
-    v.cislo = r.cislo;
-    v.cislo2 = r.cislo2;
-    v.delka = r.delka;
-    v.druh = r.druh;
-    v.druh2 = r.druh2;
-    v.gvd_hodnota = r.gvd_hodnota;
-    v.loko_rada = r.loko_rada;
-    v.loko_rada2 = r.loko_rada2;
-    v.hodnota_2 = r.hodnota_2;
-    v.dny = r.dny;
-    v.stanice_zmeny = r.stanice_zmeny;
-    v.stanice = r.stanice;
-    v.pokyn = r.kolej;
-    v.nazev = r.nazev;
-    v.max_rychlost = r.rychlost;
-    v.poznamka = r.poznamka;
-    v.vozy = r.vozy;
     v.smer = smer;
     v.muze_jet = muze_jet;
-    v.priznaky = r.priznaky;
-
+    prevezmi_radek(v, r);
     pridej_casy(v, r);
     pridej_urceni(v, r, element);
     pridej_obrazky(v);

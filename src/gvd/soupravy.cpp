@@ -73,18 +73,8 @@ int kolej_depa() {
     return prvni_volna_kolej(kKolejeDepa);
 }
 
-} // namespace
-
-void vytvor_lokomotivu(int rada, int element, bool smer, TextPohled urceni, bool posun) {
-    const bool v_depu = element == 0;
-    if (v_depu)
-        element = std::max(kolej_depa(), 0);
-    else if (!je_kolej(element))
-        return;
-    const auto volny = std::find_if(vlaky.begin(), vlaky.end(), [](const Vlak& v) { return v.cislo < 1; });
-    if (volny == vlaky.end())
-        return;
-    const auto i = static_cast<int>(volny - vlaky.begin());
+// The record of a lone locomotive that stands on the element and may go to the main station.
+Vlak lokomotiva(int rada, int element, bool smer, TextPohled urceni, bool posun) {
     Vlak v;
     v.cislo = na_long(74800 + dolu(nahodne() * 200.0));
     v.druh = druh_vlaku::lv;
@@ -105,15 +95,32 @@ void vytvor_lokomotivu(int rada, int element, bool smer, TextPohled urceni, bool
     v.prijezd = {kZadny, na_integer(cas_min() + 7)};
     v.odjezd = {cas_min(), kZadny};
     v.odjezd_realny = v.odjezd;
-    vlak_c(i) = v;
-    if (urceni == kZaloha) {
-        ++stav_provozu.pocet_zaloh;
-        if (rada == kLoko731)
-            stav_provozu.zaloha_731_jede = true;
-    }
+    return v;
+}
+
+void zapocti_zalohu(int rada) {
+    ++stav_provozu.pocet_zaloh;
+    if (rada == kLoko731)
+        stav_provozu.zaloha_731_jede = true;
+}
+
+} // namespace
+
+void vytvor_lokomotivu(int rada, int element, bool smer, TextPohled urceni, bool posun) {
+    const bool v_depu = element == 0;
+    if (v_depu)
+        element = std::max(kolej_depa(), 0);
+    else if (!je_kolej(element))
+        return;
+    const auto volny = std::find_if(vlaky.begin(), vlaky.end(), [](const Vlak& v) { return v.cislo < 1; });
+    if (volny == vlaky.end())
+        return;
+    const auto i = static_cast<int>(volny - vlaky.begin());
+    *volny = lokomotiva(rada, element, smer, urceni, posun);
+    if (urceni == kZaloha)
+        zapocti_zalohu(rada);
     if (element == 0)
         return;
-
     pridej_na_kolej(element, i, smer, -1);
     barvi_prvek(element, barvy::cervena);
     relief.kolej[element].stav = TextPohled("200");
@@ -122,7 +129,7 @@ void vytvor_lokomotivu(int rada, int element, bool smer, TextPohled urceni, bool
         return;
     }
     pridej_do_tabulky(i);
-    pis_cislo(element, text_cisla(v.cislo));
+    pis_cislo(element, text_cisla(vlak_c(i).cislo));
     postav_cesty_z(element);
 }
 
