@@ -4,11 +4,14 @@
 #include "app/blikani.h"
 #include "app/cas.h"
 #include "app/simulace.h"
+#include "cesty/cesta.h"
 #include "cesty/tik_volby.h"
 #include "gvd/provoz.h"
 #include "jizda/krok_jizdy.h"
 #include "jizda/zastavky.h"
 #include "prvky/panel.h"
+#include "prvky/stanicni_prejezdy.h"
+#include "prvky/stav_vyhybek.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
 #include "save/ulozeni.h"
@@ -56,6 +59,25 @@ void dalsi_den() {
     relief.lblDEN[0].text = nazev_dne(den);
 }
 
+// A start at 0:00 begins two seconds before its day, and at that midnight the absolute seconds fall by a day.
+// What was ordered in the two seconds keeps its term.
+void vrat_lhuty_o_den() {
+    constexpr std::int32_t kDen_s = 86400;
+    const auto vrat = [](std::int32_t& lhuta) {
+        if (lhuta > 0)
+            lhuta = std::max(lhuta - kDen_s, std::int32_t{1}); // 0 and below mean none
+    };
+    for (Cesta& c : cesty) {
+        vrat(c.cas_stavby);
+        vrat(c.Kdy_prehoz);
+        vrat(c.PN_do);
+        vrat(c.cas_ruseni);
+    }
+    for (StanicniPrejezd& p : stanicni_prejezdy)
+        vrat(p.cas);
+    vrat(stav_vyhybek.prehoz_cas);
+}
+
 constexpr std::array kCasovace = {
     Casovac{"tmrHodiny", "hodiny", 150, &krok_hodin},
     Casovac{"tmrJizdy", "jizdy", 1000, &krok_jizdy},
@@ -92,6 +114,8 @@ void krok_hodin() {
 void krok_minuty() {
     simulace.minuty_simulace = na_integer(simulace.minuty_simulace + 1);
     relief.lblcas_od_zacatku[0].text = text_cisla(simulace.minuty_simulace);
+    if (simulace.cas_zacatku < 0 && simulace.minuty_simulace == 1)
+        vrat_lhuty_o_den();
     krok_provozu();
     aktualizuj_cekani();
     if (minuta_dne(cas_hodin()) == 0)

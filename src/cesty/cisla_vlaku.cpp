@@ -151,16 +151,14 @@ void posun_cisla(const std::vector<int>& stitky, TextPohled text) {
         vyprazdni_stitek(relief.cislo_koleje[stitky[misto]]);
 }
 
-// The last number has left the line: labels at rest, line crossings clear, and the arrow out, unless there
-// is a train whose number has found no room on the labels.
+// The last number has left the line: labels at rest, arrow out, line crossings clear.
 void uvolni_trat(int n, const std::vector<int>& stitky, bool tise) {
     for (const int clen : stitky) {
         Prvek& stitek = relief.cislo_koleje[clen];
         if (orez(stitek.text()).empty())
             nastav_text(stitek, stitek.popis());
     }
-    if (!tise && std::none_of(stitky.begin(), stitky.end(), ukazuje_cislo) && !trat_drzi_cesta(n) &&
-        !stoji_vlak_na_trati(n))
+    if (!tise && std::none_of(stitky.begin(), stitky.end(), ukazuje_cislo) && !trat_drzi_cesta(n))
         zhasni_sipku(zaklad_trati(n));
     for (Prejezd& prejezd : prejezdy)
         if (je_usek_trati(prejezd.kolej) && zaklad_trati(prejezd.kolej) == zaklad_trati(n))
@@ -303,7 +301,7 @@ void vrat_jmeno_koleje(int prvek) {
     if (je_usek_trati(prvek) || !je_cislo_koleje(prvek) || !je_kolej(prvek) || !je_volna(prvek))
         return;
     Prvek& stitek = relief.cislo_koleje[prvek];
-    if (!orez(stitek.text()).empty() || orez(stitek.popis()).empty())
+    if (orez(stitek.popis()).empty())
         return;
     nastav_text(stitek, stitek.popis());
     stitek.viditelny = true;

@@ -14,6 +14,6 @@ void postup_cisla(int i);
 // Takes the number off the end of route i and of the routes that follow. `text` empty: the number
 // before its signal. `tiche`: the route stays locked.
 void vymaz_cislo(int i, bool tiche, TextPohled text);
-// The empty label of a free track shows its name again: a number announced there has gone while the
-// track was still locked.
+// The track at the end of a route that is no more shows its name again when it is free: no train is
+// announced there now, and its number may be known nowhere else.
 void vrat_jmeno_koleje(int prvek);

@@ -195,7 +195,8 @@ void obnov_odjete() {
             drzene.set(static_cast<std::size_t>(n));
     };
     for (const Cesta& c : cesty) {
-        if (!c.prehozena)
+        // a calling-on route paints no track: what is cyan under it before its train comes is not its own
+        if (!c.prehozena || (c.PN && nevjel(c)))
             continue;
         if (nevjel(c))
             drzi(c.konec);

@@ -5,6 +5,17 @@
 
 #include <algorithm>
 
+namespace {
+
+bool stoji_vlak_na_trati(int n) {
+    for (int usek = zaklad_trati(n); usek <= kNejvyssiPrvek; usek += kKrokTrati)
+        if (je_kolej(usek) && relief.kolej[usek].barva == barvy::cervena)
+            return true;
+    return false;
+}
+
+} // namespace
+
 int sipka_konce(int konec) {
     const int n = trat_za_koleji(konec);
     return je_usek_trati(n) && !relief.lblSouhlas2.je(n) ? zaklad_trati(n) : n;
@@ -28,13 +39,6 @@ TextPohled smer_na_trat(const Cesta& cesta) {
     // Track 118 is drawn apart from the line that it leads to, so that its place tells nothing.
     const bool nahoru = prvni == 118 || relief.kolej[prvni].x1 <= relief.kolej[posledni_prvek(cesta)].x2;
     return nahoru ? kSipkaVpravo : kSipkaVlevo;
-}
-
-bool stoji_vlak_na_trati(int n) {
-    for (int usek = zaklad_trati(n); usek <= kNejvyssiPrvek; usek += kKrokTrati)
-        if (je_kolej(usek) && relief.kolej[usek].barva == barvy::cervena)
-            return true;
-    return false;
 }
 
 bool trat_drzi_cesta(int n) {

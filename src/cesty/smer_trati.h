@@ -31,8 +31,6 @@ bool sipka_neni_seda(int n);
 bool vede_na_trat(const Cesta& cesta);
 // Sense of such a route.
 TextPohled smer_na_trat(const Cesta& cesta);
-// A train is on the line of section n.
-bool stoji_vlak_na_trati(int n);
 // A commanded route, not run to its end, leads into the line of section n.
 bool trat_drzi_cesta(int n);
 

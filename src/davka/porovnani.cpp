@@ -59,8 +59,24 @@ Json chtena_hodnota(const Json& nalezeno, std::string_view chteno) {
     return json_utf8(chteno);
 }
 
+namespace {
+
+// A list written with commas: every member as it would be written alone, so that flags may be ano and ne.
+bool odpovida_po_prvcich(const SeznamJsonu& seznam, std::string_view chteno) {
+    for (std::size_t i = 0; i < seznam.size(); ++i) {
+        const std::size_t konec = i + 1 < seznam.size() ? chteno.find(',') : chteno.size();
+        if (konec == std::string_view::npos || !odpovida(seznam[i], chteno.substr(0, konec)))
+            return false;
+        chteno.remove_prefix(std::min(konec + 1, chteno.size()));
+    }
+    return !seznam.empty();
+}
+
+} // namespace
+
 bool odpovida(const Json& nalezeno, std::string_view chteno) {
-    if (std::holds_alternative<SeznamJsonu>(nalezeno.hodnota))
-        return hodnota_json(nalezeno) == chteno || zapis_json(nalezeno) == chteno;
+    if (const auto* seznam = std::get_if<SeznamJsonu>(&nalezeno.hodnota))
+        return hodnota_json(nalezeno) == chteno || zapis_json(nalezeno) == chteno ||
+               odpovida_po_prvcich(*seznam, chteno);
     return chtena_hodnota(nalezeno, chteno) == nalezeno;
 }

@@ -13,6 +13,7 @@
 #include "jizda/na_koleji.h"
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
+#include "prvky/stanoviste.h"
 #include "relief/prejezdy.h"
 #include "relief/relief.h"
 #include "zaklad/cisla.h"
@@ -145,9 +146,12 @@ void najdi_prvek(Druh druh, int n) {
         {(p.vlevo() + p.sirka() / 2) / kTwipsuNaPixel, (p.nahore() + p.vyska() / 2) / kTwipsuNaPixel});
     najeti(druh, n);
     klik(druh, n, Tlacitko::prave, false);
-    // The name of a station has the menu of its post, unless the depots give it one of their own.
-    if (druh == Druh::popis_stanice && menu.jmeno.empty())
-        klik(Druh::imgStanoviste, n, Tlacitko::prave, false);
+    // The name of a station has the menu of its post, also where the desk shows no post, unless the depots
+    // give it one of their own.
+    if (druh == Druh::popis_stanice && menu.jmeno.empty() && !nazev_stanice(n).empty()) {
+        menu_stanoviste(n);
+        menu.druh = druh;
+    }
 }
 
 // The first element of the kind that meets the condition; false when there is none.

@@ -10,6 +10,8 @@
 #include "cesty/cesta.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
+#include "cesty/navest.h"
+#include "cesty/odpocet_pn.h"
 #include "cesty/volba.h"
 #include "jizda/cesty_na_prvku.h"
 #include "jizda/metry.h"
@@ -421,17 +423,26 @@ bool stoji_na_vyhybce(int n) {
 // route: with its record RNZ goes too, and its switches would stay locked for ever. So the locking goes with
 // the record; where somebody stands, his tail releases the switch.
 void uvolni_bez_rnz(const Cesta& cesta) {
-    if (!cesta.PN || cesta.PN_zaver || !cesta.Provedena)
+    if (!cesta.PN || !cesta.Provedena)
+        return;
+    if (cesta.PN_do > 0) { // the aspect that was still shown ends, too
+        nastav_navest(cesta.zacatek, barvy::seda);
+        odeber_odpocet_pn(cesta.zacatek);
+    }
+    if (cesta.PN_zaver)
         return;
     for (int i = 1; i <= posledni(cesta); ++i) {
         const int n = prvek_c(cesta, i);
         if (druh_c(cesta, i) == druh_prvku::vykolejka && relief.lblVykolejka.je(n))
             relief.lblVykolejka[n].barva = barvy::seda;
-        const int zaver = poloha_c(cesta, i) + stav_vyhybky::rezervace;
-        if (druh_c(cesta, i) == druh_prvku::vyhybka && stav_vyhybky_cislo(n) == zaver &&
-            !drzi_jina_cesta(n, cesta.Vlak))
-            vyhybka_stav(n, poloha_c(cesta, i) + (stoji_na_vyhybce(n) ? stav_vyhybky::obsazena : 0), false,
-                         false);
+        const int poloha = poloha_c(cesta, i);
+        if (druh_c(cesta, i) != druh_prvku::vyhybka ||
+            stav_vyhybky_cislo(n) != poloha + stav_vyhybky::rezervace || drzi_jina_cesta(n, cesta.Vlak))
+            continue;
+        if (stoji_na_vyhybce(n))
+            vyhybka_stav(n, poloha + stav_vyhybky::obsazena, false, false);
+        else
+            uvolni_zaver_vyhybky(n, poloha);
     }
 }
 

@@ -9,6 +9,7 @@
 #include "zaklad/cisla.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -38,13 +39,17 @@ void zobraz_dva_stitky(int e, const std::vector<std::int16_t>& seznam) {
         nastav_pozadi_stitku(e, barvy::cerna);
     nastav_text(levy, text_vlevo);
     levy.viditelny = !text_vlevo.empty();
-    if (e != 19) {
-        pravy.barva = relief.kolej[e].barva;
-        nastav_pozadi_stitku(e + 200, barvy::cerna);
-        nastav_text(pravy, text_vpravo);
-    }
+    pravy.barva = relief.kolej[e].barva;
+    nastav_pozadi_stitku(e + 200, barvy::cerna);
+    nastav_text(pravy, text_vpravo);
     zobraz_cislo(e, e, vlak_vlevo);
     zobraz_cislo(e + 200, e, vlak_vpravo);
+}
+
+// Background that the note on a track gives its label; nothing without a note.
+std::optional<Barva> pozadi_poznamky(int kolej) {
+    const int i = stitek_prvku(kolej);
+    return i < 0 ? std::nullopt : pozadi_stitku(stitky[static_cast<std::size_t>(i)]);
 }
 
 void zobraz_jeden_stitek(int e, const std::vector<std::int16_t>& seznam) {
@@ -52,6 +57,8 @@ void zobraz_jeden_stitek(int e, const std::vector<std::int16_t>& seznam) {
     const int vlak = prvni_vlak(seznam.begin(), seznam.end());
     nastav_text(stitek, vlak >= 0 && e < 500 ? text_vlaku(vlak) : Text{});
     stitek.viditelny = !orez(stitek.text()).empty();
+    if (!stitek.viditelny()) // nobody waits here any more
+        nastav_pozadi_stitku(e, pozadi_poznamky(e).value_or(barvy::cerna));
 }
 
 // Out of the lists of those tracks for which the condition holds; their labels follow.
@@ -130,7 +137,7 @@ void zobraz_kolej(int zaznam) {
     const int e = kolej.prvek;
     if (!je_cislo_koleje(e) || !je_kolej(e))
         return;
-    if (je_cislo_koleje(e + 200))
+    if (je_cislo_koleje(e + 200) && !je_stitek_trati(e + 200))
         zobraz_dva_stitky(e, kolej.vlaky);
     else
         zobraz_jeden_stitek(e, kolej.vlaky);
@@ -147,9 +154,8 @@ void zobraz_cislo(int stitek, int prvek, int vlak) {
     nastav_pozadi_stitku(stitek, barvy::cerna);
     if (!je_vstup_z_trati(stitek))
         p.barva = relief.kolej[prvek].barva;
-    if (const int i = stitek_prvku(prvek); i >= 0)
-        if (const auto pozadi = pozadi_stitku(stitky[static_cast<std::size_t>(i)]))
-            nastav_pozadi_stitku(stitek, *pozadi);
+    if (const auto pozadi = pozadi_poznamky(prvek))
+        nastav_pozadi_stitku(stitek, *pozadi);
 }
 
 void nastav_pozadi_stitku(int stitek, Barva pozadi) {

@@ -169,7 +169,7 @@ constexpr Misto kMista[] = {
 
     // --- in the relief
     // Minute of the announced departure; the start puts each beside its consent lamp.
-    prvek(Druh::lblPredvidany_odjezd, {4, 50, 24, 13}).rada(3, 0, 13).velikost_podle_textu(),
+    prvek(Druh::lblPredvidany_odjezd, {4, 50, 24, 13}).rada(3, 0, 13).velikost_podle_textu().skryty(),
     prvek(Druh::shpVyhledavani, {0, 0, 0, 0}).skryty(),
 };
 

@@ -248,12 +248,20 @@ void obnov_odpocty() {
     }
 }
 
+// The kilometres of a crossing that the operator keeps closed are white.
+void obnov_uz() {
+    for (std::size_t k = 0; k < stanicni_prejezdy.size(); ++k)
+        if (const int n = static_cast<int>(k); stanicni_prejezdy[k].UZ && relief.lblPrejezd.je(n))
+            relief.lblPrejezd[n].barva = barvy::bila;
+}
+
 void dopocti() {
     obsad_koleje_pod_vlaky();
     obnov_pohyb_vyhybek();
     obnov_odjete();
     obnov_obslouzene();
     obnov_odpocty();
+    obnov_uz();
     ukaz_prejezdy();
     aktualizuj_cekani();
     zmena_zasobniku();

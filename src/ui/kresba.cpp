@@ -20,6 +20,7 @@ constexpr double kTloustkaKoleje = 3; // of a track line, pixels of the desk
 constexpr double kMezeraUseku = 1;    // by which a level track stops short of its ends: sections part there
 constexpr double kOdsazeniNohy = 0.6; // part of a leg that the switch leaves out on the side not set
 constexpr double kOdsazeniPohybu = 0.4;
+constexpr double kNejmensiKontrast = 3;
 constexpr int kNejmensiCil = 13 * kTwipu; // no target for the pointer is smaller
 constexpr int kPresahRadku = 2;           // of the command line above and below its text, pixels of the desk
 constexpr int kPresahCisla = 2;           // what a label clears beside its text, pixels of the desk
@@ -255,6 +256,17 @@ int nasobek(const Styl& s, const Prvek& prvek) { // station names grow with thei
     return s.druh == Druh::popis_stanice ? std::clamp(prvek.vyska / kVyskaZnaku, 1, 3) : 1;
 }
 
+// How far the light of two colours stands apart: 1 for the same, 21 for black and white.
+double kontrast(Barva a, Barva b) {
+    const auto jas = [](Barva barva) {
+        const QColor c = barva_qt(barva);
+        const auto slozka = [](double v) { return v * v * (0.3 + 0.7 * v * v); }; // near enough to the eye
+        return 0.2126 * slozka(c.redF()) + 0.7152 * slozka(c.greenF()) + 0.0722 * slozka(c.blueF());
+    };
+    const double x = jas(a) + 0.05, y = jas(b) + 0.05;
+    return std::max(x, y) / std::min(x, y);
+}
+
 // First column of a line of `delka` characters in the width of the element, pixels of the picture.
 double zacatek_radku(const Meritko& m, const Prvek& prvek, double delka_px) {
     const double vlevo = m.x(prvek.vlevo), volno = prvek.sirka * m.k - delka_px;
@@ -291,6 +303,11 @@ void nakresli_napis(QPainter& p, const Meritko& m, const Styl& s, const Prvek& p
                 Qt::black);
         }
     }
+    // The colours are given; where they are too near to each other, a shadow parts the letters from the
+    // ground.
+    if (prvek.ramecek && prvek.barva != prvek.pozadi &&
+        kontrast(prvek.barva, prvek.pozadi) < kNejmensiKontrast)
+        kresli_radek(p, x + m.bodu(1), y + m.bodu(1), sirka, vyska, text, barvy::cerna, s.znaky);
     kresli_radek(p, x, y, sirka, vyska, text, prvek.barva, s.znaky);
 }
 

@@ -18,7 +18,7 @@ constexpr const char* kVzhledNabidky =
     "QMenu::item:selected { background: #000080; color: #fff; }"
     "QMenu::item:disabled { color: #7c838b; background: transparent; }"
     "QMenu::separator { height: 1px; background: #8a9098; margin: 2px 4px; }"
-    "QMenu::right-arrow { width: 9px; height: 9px; right: 5px; }";
+    "QMenu::right-arrow { width: 0; height: 0; }"; // an arrow of the style would not grow with the desk
 constexpr const char* kVzhledHlavy = "background: #000080; color: #fff; padding: 2px 14px;";
 constexpr const char* kVzhledUdaje = "background: #dfe2e5; color: #20262c; padding: 1px 14px;";
 
@@ -68,7 +68,7 @@ QMenu* postav_nabidku(QWidget* rodic, const Menu& co, const QFont& pismo, double
         if (!polozka.podmenu)
             podnabidka = nullptr;
         if (ma_podnabidku) {
-            podnabidka = nabidka->addMenu(na_qstring(polozka.text));
+            podnabidka = nabidka->addMenu(na_qstring(polozka.text) + QStringLiteral("\t›"));
             podnabidka->setFont(pismo);
             podnabidka->setToolTipsVisible(true);
             continue;

@@ -99,6 +99,10 @@ QString napoveda_prvku(const Nalezeny& kde) {
     case Druh::cislo_koleje: return na_qstring(orez(p.popis())) + poznamky(prvek_popisku(kde.n));
     case Druh::imgStanoviste: return na_qstring(nazev_stanice(kde.n));
     case Druh::lblSouhlas: return souhlas(kde.n, p);
+    case Druh::popis_stanice:
+        if (kde.n == 28 || kde.n == 30)
+            return cesky("depo: nabídka lokomotiv, které přijedou před bránu");
+        return kde.n == 34 ? cesky("depo: nabídka motorových vozů") : QString();
     case Druh::lblPrejezdy:
     case Druh::shpPrejezdy: return prejezd_na_trati(kde.n);
     case Druh::lblPrejezd:

@@ -20,6 +20,7 @@
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QFileInfo>
+#include <QHeaderView>
 #include <QMessageBox>
 #include <QProcess>
 #include <QPushButton>
@@ -28,6 +29,7 @@
 #include <QSplitter>
 #include <QStandardPaths>
 #include <QTimer>
+#include <QTreeView>
 #include <QUrl>
 
 #include <algorithm>
@@ -125,6 +127,11 @@ std::optional<Text> soubor(TextPohled slozka, TextPohled vzor, bool ulozit) {
     dialog.resize(46 * pismo, 28 * pismo);
     if (auto* pricka = dialog.findChild<QSplitter*>())
         pricka->setSizes({9 * pismo, 37 * pismo});
+    if (auto* soubory = dialog.findChild<QTreeView*>()) {
+        soubory->header()->setStretchLastSection(false);
+        soubory->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        soubory->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    }
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return z_qstring(dialog.selectedFiles().front());

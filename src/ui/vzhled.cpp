@@ -16,8 +16,14 @@ namespace {
 
 constexpr int kVyskaPisma = 13; // of boxes, dialogues and tips, pixels of the desk
 
-constexpr const char* kStylOken = "QMessageBox { border: 1px solid #6b7782; }"
-                                  "QMessageBox QPushButton { min-width: 62px; padding: 4px 8px; }";
+constexpr const char* kStylOken =
+    "QMessageBox { border: 1px solid #6b7782; }"
+    "QMessageBox QLabel#qt_msgbox_label { min-width: 260px; }"
+    "QMessageBox QPushButton { min-width: 62px; padding: 4px 8px; }"
+    "QFileDialog QTreeView, QFileDialog QListView, QFileDialog QPushButton { icon-size: 16px; }"
+    "QFileDialog QPushButton { padding: 4px 8px; }"
+    "QFileDialog QLineEdit, QFileDialog QComboBox { padding: 3px; }"
+    "QFileDialog QToolButton { qproperty-iconSize: 18px 18px; }";
 
 } // namespace
 

@@ -2,9 +2,12 @@
 #include "app/cas.h"
 #include "app/casovace.h"
 #include "app/vstup.h"
+#include "cesty/cesta.h"
 #include "gvd/gvd.h"
 #include "jizda/vlak.h"
 #include "pomocne/virtualni_platforma.h"
+#include "prvky/stanicni_prejezdy.h"
+#include "prvky/stav_vyhybek.h"
 #include "relief/relief.h"
 #include "save/ulozeni.h"
 #include "zaklad/chyba.h"
@@ -134,6 +137,29 @@ TEST_F(Hodiny, MidnightShowsTheNextDayAndNoDate) {
     EXPECT_EQ(cas(), "0:00:00");
     EXPECT_EQ(simulace.den, 2);
     EXPECT_EQ(relief.lblDEN[0].text(), "úterý"_cz);
+}
+
+TEST_F(Hodiny, OrdersOfTheTwoSecondsBeforeAStartAtMidnightKeepTheirTerms) {
+    simulace.cas_zacatku = -1;
+    nastav("23:59:58");
+    cesty = {Cesta{}, Cesta{}};
+    cesty[0].cas_stavby = 86398 + 2;
+    cesty[0].Kdy_prehoz = 86398 + 7;
+    cesty[1].cas_ruseni = 86398;
+    stanicni_prejezdy[0].cas = 86398 + 40;
+    stav_vyhybek.prehoz_cas = 86398 + 3;
+    krok(2000);
+    EXPECT_EQ(cas(), "0:00:00");
+    EXPECT_EQ(sekundy_simulace(cas()), 0);
+    EXPECT_EQ(cesty[0].cas_stavby, 1); // due at once: 0 would mean none
+    EXPECT_EQ(cesty[0].Kdy_prehoz, 5);
+    EXPECT_EQ(cesty[0].cas_ruseni, -3);
+    EXPECT_EQ(cesty[1].cas_ruseni, 1);
+    EXPECT_EQ(stanicni_prejezdy[0].cas, 38);
+    EXPECT_EQ(stanicni_prejezdy[1].cas, -3);
+    EXPECT_EQ(stav_vyhybek.prehoz_cas, 1);
+    krok(60'000);
+    EXPECT_EQ(cesty[0].Kdy_prehoz, 5) << "at every other minute terms stay";
 }
 
 TEST_F(Hodiny, TrafficOfTheFirstMinuteBelongsToTheOldDay) {

@@ -135,6 +135,11 @@ TEST_F(VlastniPrvkyObrazovky, AllTrainsOfTheStackWaitForTheFirstAtFirst) {
     EXPECT_EQ(relief.lblZasobnik_pocet[0].text(), "00");
 }
 
+TEST_F(VlastniPrvkyObrazovky, ForeseenDeparturesAreHiddenUntilATrainComes) {
+    for (int k = 0; k < 3; ++k)
+        EXPECT_FALSE(relief.lblPredvidany_odjezd[k].viditelny) << k;
+}
+
 class MezChyb : public SPlatformou {};
 
 TEST_F(MezChyb, RunTimeErrorEndsTheProcessWithABox) {

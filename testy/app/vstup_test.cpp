@@ -54,6 +54,8 @@ TEST_F(Kliky, WordsOfTheStackOrderTakeTurns) {
 }
 
 TEST_F(Kliky, ImagesOfTheBarSendTheirKeys) {
+    EXPECT_EQ(relief.imgPauza[0].popis, "Pauza [F10]"_cz);
+    EXPECT_EQ(relief.imgMinimalizuj[0].popis, "Minimalizovat okno simulace [F11]"_cz);
     klik(Druh::imgPauza, 0, Tlacitko::leve, false);
     EXPECT_TRUE(simulace.pauza);
     klik(Druh::imgMinimalizuj, 0, Tlacitko::leve, false);

@@ -118,18 +118,6 @@ TEST_F(Cisla, StandingRouteKeepsTheArrow) {
     EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::azurova);
 }
 
-TEST_F(Cisla, TrainWhoseNumberFoundNoRoomKeepsTheArrow) {
-    relief.lblSouhlas2[604].barva = barvy::azurova;
-    pis_cislo(604, "22");
-    relief.kolej[654].barva = barvy::cervena; // the next train
-    pis_cislo(704, "22", true);
-    EXPECT_EQ(text(604), "");
-    EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::azurova);
-    relief.kolej[654].barva = barvy::seda;
-    pis_cislo(654, "33", true);
-    EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::seda);
-}
-
 TEST_F(Cisla, EmptyLineClearsItsCrossingsOnly) {
     prejezdy.assign(3, Prejezd{});
     prejezdy[0].kolej = 654;

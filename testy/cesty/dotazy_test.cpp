@@ -138,6 +138,18 @@ TEST_F(Dotazy, AfterALoadCyanThatNoRouteHoldsWasLeftByATail) {
     EXPECT_EQ(barva(43), barvy::seda);
 }
 
+TEST_F(Dotazy, AfterALoadACallingOnRouteWithoutItsTrainReservesNothing) {
+    zarad(240, 41);
+    cesty[0].prehozena = true;
+    relief.kolej[41].barva = barvy::azurova;
+    cesty[0].PN = true;
+    obnov_odjete();
+    EXPECT_TRUE(je_volna(41));
+    cesty[0].PN = false;
+    obnov_odjete();
+    EXPECT_FALSE(je_volna(41));
+}
+
 TEST_F(Dotazy, AfterALoadTheTracksBeforeATrainOnACallingOnRouteStayReserved) {
     zarad(240, 41);
     cesty[0].prehozena = true;

@@ -85,6 +85,30 @@ TEST_F(Uvolneni, CancelledTrackShowsItsNameThoughItsTrainIsGone) {
     EXPECT_TRUE(relief.cislo_koleje[41].viditelny);
 }
 
+// Of two labels the running alone says which shows a train, so RC leaves the announced number there.
+TEST_F(Uvolneni, CancelledTrackWithTwoLabelsKeepsTheNumberUntilTheCancellationIsOver) {
+    stitek(241, "K41");
+    relief.kolej[40].barva = barvy::cervena;
+    relief.cislo_koleje[40].text = TextPohled("1234");
+    postav(240, 41);
+    zrus_cestu(240);
+    cekej(179);
+    EXPECT_EQ(relief.cislo_koleje[41].text(), "1234");
+    cekej(1);
+    EXPECT_EQ(relief.cislo_koleje[41].text(), "K41");
+    EXPECT_EQ(relief.cislo_koleje[241].text(), "K41");
+}
+
+TEST_F(Uvolneni, CancelledTrackUnderATrainKeepsItsNumber) {
+    relief.cislo_koleje[41].text = TextPohled("77");
+    relief.kolej[41].barva = barvy::cervena;
+    postav(240, 41, druh_volby::posun);
+    zrus_cestu(240);
+    cekej(6);
+    EXPECT_EQ(cesty[0].zacatek, -3);
+    EXPECT_EQ(relief.cislo_koleje[41].text(), "77");
+}
+
 TEST_F(Uvolneni, SecondCancellationStartsTheTimeAnew) {
     relief.kolej[40].barva = barvy::cervena;
     postav(240, 41);

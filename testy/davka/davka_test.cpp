@@ -398,6 +398,7 @@ TEST_F(Davka, ChecksCompareByTheKindOfTheValue) {
                    "over navestidlo 262 kody=229 text=ĺ\nover cesta 0 zacatek=-3 prvky=-3 VC=ne\n"
                    "over cesty pocet=1 radky.0.konec=-3\nover menu menu=null\nover volba volba_zacatek=-3\n"
                    "over cekajici_vlaky 0 hodnota=0\nover panel svetla=false,false,false,false,false,false\n"
+                   "over panel svetla=ne,ne,0,false,ne,ne\n"
                    "over kolej 999 existuje=ne\nover tabulka 3 text=\"\" blika=ne\n"
                    "over tabulka 3=\"\" pocet=24\nover cesty 0.konec=-3\nover cekajici_vlaky 0=0\n");
     for (const char* over : {"kolej 62 barva=0x00FF00", "kolej 62 viditelny=ne", "kolej 62 viditelny=mozna",

@@ -269,6 +269,19 @@ TEST_F(Zadani, StationIsFoundByItsCaptionAndOpensItsPost) {
     }
 }
 
+TEST_F(Zadani, StationWithoutAPostOpensItsMenuAndASignThatIsNoStationOpensNone) {
+    relief.popis_stanice.zaloz(8).text = Text("VYŠNÍ HRABOV"_cz);
+    relief.popis_stanice.zaloz(996).text = TextPohled("TVH 13");
+    hledej("vyšní hrabov"_cz);
+    EXPECT_EQ(menu_jmeno(), "mnuStanoviste");
+    EXPECT_EQ(menu.hlava, "Vyšní Hrabov"_cz);
+    EXPECT_TRUE(tabulka(menu.druh).je(menu.prvek));
+    zavri_menu();
+    hledej("tvh 13");
+    EXPECT_EQ(vyber.mys_prvek, 996);
+    EXPECT_EQ(menu_jmeno(), "");
+}
+
 TEST_F(Zadani, TrackIsFoundByStationCodeBlankAndName) {
     hledej("bor k64");
     EXPECT_EQ(vyber.mys_druh, Druh::cislo_koleje);

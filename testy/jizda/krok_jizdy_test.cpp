@@ -402,6 +402,33 @@ TEST_F(Jizda, RouteOfATrainThatIsGoneIsRemoved) {
     EXPECT_EQ(cesty[0].zacatek, 63);
 }
 
+// Nobody could give RNZ for it any more: the record that the menu asks for is gone.
+TEST_F(Jizda, CallingOnRouteOfATrainThatIsGoneFreesItsSwitches) {
+    cesta(radek(0));
+    cesty[0].PN = true;
+    cesty[0].PN_do = ted_s() + 20;
+    cesty[0].Umazat = 2;
+    cesty[0].Vlak = 5; // a free record
+    relief.navestidlo[262].barva = barvy::bila;
+    relief.imgVyhybka[7].stav = "102"_cz;
+    krok();
+    EXPECT_EQ(cesty[0].zacatek, -3);
+    EXPECT_EQ(stav_vyhybky_cislo(7), 2);
+    EXPECT_EQ(relief.navestidlo[262].barva, barvy::seda);
+}
+
+// After RNZ its switches may serve another route already.
+TEST_F(Jizda, ReleasedCallingOnRouteOfATrainThatIsGoneTouchesNoSwitch) {
+    cesta(radek(0));
+    cesty[0].PN = cesty[0].PN_zaver = true;
+    cesty[0].Umazat = 2;
+    cesty[0].Vlak = 5;
+    relief.imgVyhybka[7].stav = "52"_cz;
+    krok();
+    EXPECT_EQ(cesty[0].zacatek, -3);
+    EXPECT_EQ(stav_vyhybky_cislo(7), 52);
+}
+
 TEST_F(Jizda, RouteThatItsTrainHasRunIsTakenByNobodyElse) {
     pridej_kolej(90, false);
     const int v1 = vlak_na(62, true, 11), v2 = vlak_na(90, true, 12);

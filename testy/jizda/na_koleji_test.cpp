@@ -1,4 +1,5 @@
 // testy/jizda/na_koleji_test.cpp - lists of trains on tracks, and the number labels.
+#include "desk/stitky.h"
 #include "jizda/svet_vlaku.h"
 
 namespace {
@@ -43,6 +44,41 @@ TEST_F(NaKoleji, ShuntShowsNoNumber) {
     EXPECT_EQ(stitek(62), "");
     EXPECT_FALSE(relief.cislo_koleje[62].viditelny);
     EXPECT_EQ(stitek(262), "K62");
+}
+
+TEST_F(NaKoleji, LabelOfALineEndIsNoSecondLabelOfTheTrackBelowIt) {
+    for (const int e : {12, 13, 19}) {
+        pridej_kolej(e);
+        pridej_kolej(e + 200);
+        relief.cislo_koleje[e + 200].text = TextPohled("77");
+        const int a = vlak_na(e, false, 11);
+        EXPECT_EQ(stitek(e), "11") << e;
+        EXPECT_EQ(stitek(e + 200), "77") << e << ": the train at the line end";
+        vlak(a).posun = true;
+        zobraz_kolej(zaznam_koleje(e));
+        EXPECT_EQ(stitek(e), "") << e << ": a shunting movement has no number";
+        vlak(a).posun = false;
+        vlak(a).cislo = 22;
+        zobraz_kolej(zaznam_koleje(e));
+        EXPECT_EQ(stitek(e), "22") << e;
+    }
+}
+
+TEST_F(NaKoleji, LabelOfATrainThatBecameAShuntWaitsForNothing) {
+    pridej_kolej(34);
+    const int a = vlak_na(34, false, 11);
+    Prvek& stitek34 = relief.cislo_koleje[34];
+    nastav_pozadi_stitku(34, barvy::cervena); // it waits for its departure
+    zobraz_kolej(zaznam_koleje(34));
+    EXPECT_EQ(stitek34.pozadi, barvy::cervena);
+    vlak(a).posun = true;
+    zobraz_kolej(zaznam_koleje(34));
+    EXPECT_EQ(stitek34.pozadi, barvy::cerna);
+    EXPECT_FALSE(stitek34.ramecek);
+    stitky = {{34, "x", "", ""}};
+    zobraz_kolej(zaznam_koleje(34));
+    EXPECT_EQ(stitek34.pozadi, 0x808000u) << "the note of the track";
+    stitky = {{}};
 }
 
 TEST_F(NaKoleji, RemovalOfTheOnlyTrainLeavesItsNumberOnTheLabel) {

@@ -7,6 +7,7 @@
 #include "prvky/stanicni_prejezdy.h"
 
 #include <algorithm>
+#include <array>
 
 namespace {
 
@@ -274,6 +275,40 @@ TEST_F(Zastavky, JournalTellsTheDepartureUnderTheShownNumberButInJavorinTheFirst
     vlak(v).posun = true;
     ohlas_odjezd(v, 2);
     EXPECT_EQ(relief.lstDenik.radky.size(), 4u);
+}
+
+TEST_F(Zastavky, JournalNamesTheStationOfEveryTrack) {
+    struct Radek {
+        int od, po;
+        TextPohled text;
+    };
+    constexpr std::array kRadky = {
+        Radek{86, 90, "Vlak 77 odjel z Lhotína v 8:00"_cz},
+        Radek{62, 65, "Vlak 77 odjel z Borovce v 8:00"_cz},
+        Radek{66, 69, "Vlak 77 odjel z Rokytna v 8:00"_cz},
+        Radek{26, 35, "Vlak 77 odjel z Teska hl. n. v 8:00"_cz},
+        Radek{9, 17, "Vlak 77 odjel z Teska Vyšního Hrabova v 8:00"_cz},
+        Radek{44, 46, "Vlak 77 odjel z Teska Rybnic v 8:00"_cz},
+        Radek{93, 94, "Vlak 77 odjel z Teska Rybnic v 8:00"_cz},
+        Radek{96, 96, "Vlak 77 odjel z Teska Rybnic v 8:00"_cz},
+        Radek{638, 638, "Vlak 77 odjel z Teska Rybnic v 8:00"_cz},
+        Radek{70, 75, "Vlak 77 odjel z Teska Knížecích Luk v 8:00"_cz},
+        Radek{36, 40, "Vlak 77 odjel z Teska Mokřiny v 8:00"_cz},
+        Radek{41, 43, "Vlak 77 odjel z Dubnice v 8:00"_cz},
+        Radek{78, 83, "Vlak 77 odjel z Teska dolního n. v 8:00"_cz},
+        Radek{0, 3, "Vlak 77 odjel z Javořína v 8:00"_cz},
+    };
+    const int v = vlak_na(62, true, 77);
+    for (int n = 0; n <= kNejvyssiPrvek; ++n) {
+        relief.lstDenik.radky.clear();
+        vlak(v).prvky = {static_cast<std::int16_t>(n)};
+        ohlas_odjezd(v, 0);
+        const auto radek = std::find_if(kRadky.begin(), kRadky.end(),
+                                        [n](const Radek& r) { return n >= r.od && n <= r.po; });
+        EXPECT_EQ(relief.lstDenik.radky,
+                  radek == kRadky.end() ? std::vector<Text>{} : std::vector<Text>{Text(radek->text)})
+            << n;
+    }
 }
 
 TEST_F(Zastavky, TailOverACrossingNeverWrapsItsCounter) {

@@ -124,6 +124,8 @@ stul.klikni_s_ctrl(*s.stred(18, RADEK))
 stul.klikni(*DRUHE_CISLO)
 # how long the road is white or red, hangs on the machine: what is waited for is that it stood and is free again
 stul.cekej_na("posunová cesta z depa", lambda o: o.bod(*s.stred(24, RADEK)) in (s.BILA, CERVENA))
+for _ in range(2):
+    stul.klikni(356, 10)
 stul.cekej_na("lokomotiva u soupravy", lambda o: o.bod(*s.stred(24, RADEK)) == s.SEDA, 60)
 
 # SPOJIT of the first train of the track: the page shows the set with its new engine

@@ -42,7 +42,7 @@ struct VirtualniPlatforma {
     // what the core did
     std::vector<Pipnuti> pipnuti;
     std::vector<OknoZpravy> okna;
-    std::vector<Text> otazky;
+    std::vector<Text> otazky, tituly_otazek;
     std::vector<Nastaveni> nastaveni;
     std::vector<RezimObrazovky> prepnute_rezimy;
     std::vector<bool> lista; // each change of the task bar
@@ -131,8 +131,9 @@ private:
         p.cekej = [this](double s) { cekano_s += s; };
         p.pipni = [this](int hz, int ms) { pipnuti.push_back({hz, ms}); };
         p.okno = [this](TextPohled titul, TextPohled text) { okna.push_back({Text(titul), Text(text)}); };
-        p.otazka = [this](TextPohled, TextPohled text, bool vychozi) {
+        p.otazka = [this](TextPohled titul, TextPohled text, bool vychozi) {
             otazky.emplace_back(text);
+            tituly_otazek.emplace_back(titul);
             if (odpovedi.empty())
                 return vychozi;
             const bool odpoved = odpovedi.front();

@@ -142,6 +142,7 @@ TEST_F(Ulozeni, OldFileIsOverwrittenOnlyWithAYes) {
     zastav_hodiny();
     uloz_dialog();
     EXPECT_EQ(svet.otazky, std::vector<Text>{Text("Soubor již existuje. Přepsat?"_cz)});
+    EXPECT_EQ(svet.tituly_otazek, std::vector<Text>{Text("Uložit záznam"_cz)});
     EXPECT_EQ(svet.precti("save/hra.sim"), stary);
     EXPECT_NE(svet.precti("save/jiny.sim"), stary);
     svet.soubory = {soubor()};
@@ -332,6 +333,16 @@ TEST_F(Ulozeni, CrossingsComeFromTheFileAlone) {
     ASSERT_EQ(prejezdy.size(), 1u);
     EXPECT_EQ(prejezdy[0], (Prejezd{false, false, true, 640, 500, "BOR 1"}));
     EXPECT_EQ(vlaky.size(), 51u);
+}
+
+TEST_F(Ulozeni, CrossingThatTheOperatorKeepsClosedIsWhiteAgain) {
+    stanicni_prejezdy[0].UZ = true;
+    relief.lblPrejezd[0].barva = barvy::bila;
+    uloz();
+    nacti();
+    EXPECT_TRUE(stanicni_prejezdy[0].UZ);
+    EXPECT_EQ(relief.lblPrejezd[0].barva, barvy::bila);
+    EXPECT_EQ(relief.lblPrejezd[1].barva, barvy::seda);
 }
 
 TEST_F(Ulozeni, EmptyDelayListIsReadAsNothing) {
