@@ -137,7 +137,7 @@ void zobraz_kolej(int zaznam) {
     const int e = kolej.prvek;
     if (!je_cislo_koleje(e) || !je_kolej(e))
         return;
-    if (je_cislo_koleje(e + 200) && !je_stitek_trati(e + 200))
+    if (je_cislo_koleje(e + 200) && !je_vstup_z_trati(e + 200))
         zobraz_dva_stitky(e, kolej.vlaky);
     else
         zobraz_jeden_stitek(e, kolej.vlaky);
