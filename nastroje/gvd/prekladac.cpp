@@ -8,11 +8,14 @@
 #include <array>
 #include <optional>
 #include <set>
+#include <span>
 #include <tuple>
 
 namespace {
 
 constexpr std::int16_t kBezCasu = -1; // no arrival: the train starts or only passes
+
+constexpr int kNejvyssiCislo = 399'998; // of a train in the timetable
 
 // Abbreviations that the desk does not print but that timetables are written with.
 constexpr std::array<std::pair<std::string_view, int>, 17> kZkratky = {{
@@ -160,7 +163,8 @@ struct Prekladac {
             else if (dalsi > 0)
                 dalsi = static_cast<std::int16_t>(dalsi + krok);
         }
-        if (const auto navazny = ciselny_text(v.navazny_vlak); navazny && *navazny > 0 && *navazny < 399'999)
+        if (const auto navazny = ciselny_text(v.navazny_vlak);
+            navazny && *navazny > 0 && *navazny <= kNejvyssiCislo)
             v.navazny_vlak = text_cisla(static_cast<std::int32_t>(*navazny) + krok);
     }
 
@@ -197,7 +201,7 @@ struct Prekladac {
         const auto druh = s.size() > 1 ? druh_podle_zkratky(s[1].text) : std::nullopt;
         if (!druh)
             hlas("za slovem „vlak“ má být zkratka druhu (EC až Vle)");
-        if (const auto cislo = cislo_do(s, 2, 399'998)) {
+        if (const auto cislo = cislo_do(s, 2, kNejvyssiCislo)) {
             vlak.druh = static_cast<std::uint8_t>(druh.value_or(0));
             vlak.cislo = *cislo;
         }
@@ -254,58 +258,68 @@ struct Prekladac {
         vlak.odjezdy.push_back(*druhy);
     }
 
-    void udaj_vlaku(const std::vector<Slovo>& s) {
-        const std::string& slovo = s[0].text;
-        const auto text = [&] { return s.size() > 1 ? z_utf8(s[1].text) : Text{}; };
-        if (slovo == "dny") {
-            dny(s);
-        } else if (slovo == "rychlost") {
-            vlak.rychlost = static_cast<std::uint8_t>(cislo_do(s, 1, 160).value_or(0));
-        } else if (slovo == "delka") {
-            vlak.delka = static_cast<std::int16_t>(cislo_do(s, 1, 800).value_or(0));
-        } else if (slovo == "loko") {
-            vlak.loko_rada = static_cast<std::int16_t>(cislo_do(s, 1, 999).value_or(0));
-        } else if (slovo == "loko2") {
-            vlak.loko_rada2 = static_cast<std::int16_t>(cislo_do(s, 1, 999).value_or(0));
-        } else if (slovo == "posila") {
-            vlak.priznaky |= 1; // a second locomotive at the front
-        } else if (slovo == "pripraz") {
-            vlak.priznaky |= 2; // an assisting locomotive behind
-        } else if (slovo == "vozy") {
-            for (std::size_t i = 1; i < s.size(); ++i)
-                vlak.vozy.push_back(z_utf8(s[i].text));
-        } else if (slovo == "dale") {
-            for (std::size_t i = 1; i < s.size(); ++i)
-                vlak.vozy_vlaky.push_back(static_cast<std::int16_t>(cislo_do(s, i, 32767).value_or(0)));
-        } else if (slovo == "kolej") {
-            vlak.kolej = text();
-        } else if (slovo == "souprava") {
-            vlak.navazny_vlak = text();
-        } else if (slovo == "poznamka") {
-            vlak.poznamka = text();
-        } else if (slovo == "zmena") {
-            const auto kod = s.size() > 1 ? kod_podle_jmena(s[1].text) : std::nullopt;
-            const auto druh = s.size() > 2 ? druh_podle_zkratky(s[2].text) : std::nullopt;
-            const auto cislo = cislo_do(s, 3, 399'998);
-            if (!kod || !druh || !cislo) {
-                hlas("za slovem „zmena“ má být stanice, druh a číslo");
-                return;
-            }
-            vlak.stanice_zmeny = static_cast<std::uint8_t>(*kod);
-            vlak.druh2 = static_cast<std::uint8_t>(*druh);
-            vlak.cislo2 = *cislo;
-        } else if (slovo == "takt") {
-            const auto perioda = cislo_do(s, 1, 1440);
-            const auto posledni = s.size() > 2 ? cas(s[2].text) : std::nullopt;
-            const auto krok = cislo_do(s, 3, 1000);
-            if (!perioda || *perioda == 0 || !posledni || !krok || *krok == 0) {
-                hlas("za slovem „takt“ má být perioda v minutách, poslední odjezd h:mm a krok čísla");
-                return;
-            }
-            takt = Takt{*perioda, *posledni, *krok};
-        } else {
-            hlas("neznámé slovo „" + slovo + "“");
+    // A number behind the word, into a field of the train; 0 when it is wrong, which is told.
+    template <auto Pole, int Nejvyse> void cislo_vlaku(const std::vector<Slovo>& s) {
+        auto& pole = vlak.*Pole;
+        pole = static_cast<std::remove_reference_t<decltype(pole)>>(cislo_do(s, 1, Nejvyse).value_or(0));
+    }
+    template <auto Pole> void text_vlaku(const std::vector<Slovo>& s) {
+        vlak.*Pole = s.size() > 1 ? z_utf8(s[1].text) : Text{};
+    }
+    template <unsigned Priznak> void priznak(const std::vector<Slovo>&) {
+        vlak.priznaky = static_cast<std::uint8_t>(vlak.priznaky | Priznak);
+    }
+
+    void vozy(const std::vector<Slovo>& s) {
+        for (std::size_t i = 1; i < s.size(); ++i)
+            vlak.vozy.push_back(z_utf8(s[i].text));
+    }
+
+    void dale(const std::vector<Slovo>& s) {
+        for (std::size_t i = 1; i < s.size(); ++i)
+            vlak.vozy_vlaky.push_back(static_cast<std::int16_t>(cislo_do(s, i, 32767).value_or(0)));
+    }
+
+    // The train goes on under another number from that station.
+    void zmena(const std::vector<Slovo>& s) {
+        const auto kod = s.size() > 1 ? kod_podle_jmena(s[1].text) : std::nullopt;
+        const auto druh = s.size() > 2 ? druh_podle_zkratky(s[2].text) : std::nullopt;
+        const auto cislo = cislo_do(s, 3, kNejvyssiCislo);
+        if (!kod || !druh || !cislo) {
+            hlas("za slovem „zmena“ má být stanice, druh a číslo");
+            return;
         }
+        vlak.stanice_zmeny = static_cast<std::uint8_t>(*kod);
+        vlak.druh2 = static_cast<std::uint8_t>(*druh);
+        vlak.cislo2 = *cislo;
+    }
+
+    void cti_takt(const std::vector<Slovo>& s) {
+        const auto perioda = cislo_do(s, 1, 1440);
+        const auto posledni = s.size() > 2 ? cas(s[2].text) : std::nullopt;
+        const auto krok = cislo_do(s, 3, 1000);
+        if (!perioda || *perioda == 0 || !posledni || !krok || *krok == 0) {
+            hlas("za slovem „takt“ má být perioda v minutách, poslední odjezd h:mm a krok čísla");
+            return;
+        }
+        takt = Takt{*perioda, *posledni, *krok};
+    }
+
+    struct Udaj {
+        std::string_view slovo;
+        void (Prekladac::*cti)(const std::vector<Slovo>&);
+    };
+    static constexpr unsigned kPosila = 1;  // a second locomotive at the front
+    static constexpr unsigned kPripraz = 2; // an assisting locomotive behind
+    static std::span<const Udaj> udaje();
+
+    void udaj_vlaku(const std::vector<Slovo>& s) {
+        for (const Udaj& u : udaje())
+            if (u.slovo == s[0].text) {
+                (this->*u.cti)(s);
+                return;
+            }
+        hlas("neznámé slovo „" + s[0].text + "“");
     }
 
     void prikaz(const std::vector<Slovo>& s) {
@@ -316,13 +330,33 @@ struct Prekladac {
             zacni_vlak(s);
         } else if (!v_vlaku) {
             hlas("„" + slovo + "“ patří k vlaku, ale žádný vlak ještě nezačal");
-        } else if (slovo == "stavi" || slovo == "projede") {
-            stanice(s);
         } else {
             udaj_vlaku(s);
         }
     }
 };
+
+std::span<const Prekladac::Udaj> Prekladac::udaje() {
+    static constexpr Udaj kUdaje[] = {
+        {"stavi", &Prekladac::stanice},
+        {"projede", &Prekladac::stanice},
+        {"dny", &Prekladac::dny},
+        {"rychlost", &Prekladac::cislo_vlaku<&GvdVlak::rychlost, 160>},
+        {"delka", &Prekladac::cislo_vlaku<&GvdVlak::delka, 800>},
+        {"loko", &Prekladac::cislo_vlaku<&GvdVlak::loko_rada, 999>},
+        {"loko2", &Prekladac::cislo_vlaku<&GvdVlak::loko_rada2, 999>},
+        {"posila", &Prekladac::priznak<kPosila>},
+        {"pripraz", &Prekladac::priznak<kPripraz>},
+        {"vozy", &Prekladac::vozy},
+        {"dale", &Prekladac::dale},
+        {"kolej", &Prekladac::text_vlaku<&GvdVlak::kolej>},
+        {"souprava", &Prekladac::text_vlaku<&GvdVlak::navazny_vlak>},
+        {"poznamka", &Prekladac::text_vlaku<&GvdVlak::poznamka>},
+        {"zmena", &Prekladac::zmena},
+        {"takt", &Prekladac::cti_takt},
+    };
+    return kUdaje;
+}
 
 } // namespace
 

@@ -1,4 +1,4 @@
-// nastroje/kolejiste/trasy.cpp - derives the routes and writes their tables.
+// nastroje/kolejiste/trasy.cpp - derives the routes from the graph and writes their files.
 #include "kolejiste/trasy.h"
 
 #include "relief/relief.h"
@@ -6,7 +6,7 @@
 #include <queue>
 
 #include <algorithm>
-#include <bitset>
+#include <optional>
 #include <tuple>
 
 namespace kolejiste {
@@ -47,6 +47,10 @@ std::uint8_t druh_prvku(Typ typ) {
     return 0;
 }
 
+std::string jmeno_pravidla(const PravidlaTras::RucniTrasa& r) {
+    return "trasa " + s(r.zacatek) + " " + s(r.konec);
+}
+
 // How far the search has come: out of an element by `vystup`, having met so many of the elements that the
 // way must run over.
 struct Stav {
@@ -57,6 +61,17 @@ struct Stav {
     std::size_t odkud = 0;
 };
 
+// The way from the start to a state of the search.
+std::vector<Krok> kroky_do(const std::vector<Stav>& stavy, std::size_t i) {
+    std::vector<Krok> kroky;
+    for (; i != 0; i = stavy[i].odkud)
+        kroky.push_back(stavy[i].krok);
+    kroky.push_back(stavy[0].krok);
+    std::reverse(kroky.begin(), kroky.end());
+    return kroky;
+}
+
+// A way to an end.
 struct Nalez {
     int konec = 0;
     std::vector<Krok> kroky;
@@ -89,15 +104,24 @@ private:
     std::vector<Zavada>& zavady;
     std::map<int, const Kolej*> koleje;
     std::map<std::pair<int, Strana>, std::vector<const Navestidlo*>> navestidla;
-    std::set<int> hlaseno; // tracks already reported
+    std::set<int> hlaseno;                        // tracks already reported
+    std::set<const PravidlaTras::Zakaz*> pouzite; // that have kept a route out
+
+    struct Odvozena {
+        int minusu = 0; // ends of switches in minus
+        Trasa trasa;
+    };
 
     Dojezd dojezd(DruhTrasy druh, const Konec& vystup, const std::set<int>& kolem);
     std::vector<Nalez> hledej(DruhTrasy druh, const Navestidlo& od, const std::vector<PrvekTrasy>& pres,
                               const std::set<int>& kolem);
     Trasa zaznam(DruhTrasy druh, const Navestidlo& od, const Nalez& nalez, const Misto& misto) const;
     bool zacina(DruhTrasy druh, const Navestidlo& n) const;
-    bool zakazana(DruhTrasy druh, int zacatek, int konec,
-                  std::set<const PravidlaTras::Zakaz*>& pouzite) const;
+    bool zakazana(DruhTrasy druh, int zacatek, int konec);
+    std::optional<Odvozena> rucni_trasa(const PravidlaTras::RucniTrasa& r, const Navestidlo& od,
+                                        const std::vector<Nalez>& bez_pravidla);
+    std::vector<Odvozena> odtud(DruhTrasy druh, const Navestidlo& od);
+    void zkontroluj_pravidla();
 };
 
 Dojezd Odvozeni::dojezd(DruhTrasy druh, const Konec& vystup, const std::set<int>& kolem) {
@@ -129,6 +153,7 @@ Dojezd Odvozeni::dojezd(DruhTrasy druh, const Konec& vystup, const std::set<int>
     return {true, !navestidlo && projede, k.cislo, -1};
 }
 
+// The straightest way to each end that a route of this kind reaches from the signal.
 std::vector<Nalez> Odvozeni::hledej(DruhTrasy druh, const Navestidlo& od, const std::vector<PrvekTrasy>& pres,
                                     const std::set<int>& kolem) {
     const int kolej = plan.kolej_navestidla(od);
@@ -153,11 +178,7 @@ std::vector<Nalez> Odvozeni::hledej(DruhTrasy druh, const Navestidlo& od, const 
         if (i > 0 && stav.krok.typ == Typ::kolej) {
             const Dojezd d = dojezd(druh, stav.vystup, kolem);
             if (d.konci && stav.splneno == pres.size() && !nalezy.contains(d.konec)) {
-                Nalez n{d.konec, {}, stav.minusu};
-                for (std::size_t k = i; k != 0; k = stavy[k].odkud)
-                    n.kroky.push_back(stavy[k].krok);
-                n.kroky.push_back(stavy[0].krok);
-                std::reverse(n.kroky.begin(), n.kroky.end());
+                Nalez n{d.konec, kroky_do(stavy, i), stav.minusu};
                 if (d.saha >= 0)
                     n.kroky.push_back({Typ::kolej, d.saha, 0});
                 nalezy.emplace(d.konec, std::move(n));
@@ -226,8 +247,7 @@ bool Odvozeni::zacina(DruhTrasy druh, const Navestidlo& n) const {
     return !je_trat(kolej) && (n.posunove || !pravidla.jen_vlak.contains(kolej));
 }
 
-bool Odvozeni::zakazana(DruhTrasy druh, int zacatek, int konec,
-                        std::set<const PravidlaTras::Zakaz*>& pouzite) const {
+bool Odvozeni::zakazana(DruhTrasy druh, int zacatek, int konec) {
     bool ano = false;
     for (const PravidlaTras::Zakaz& z : pravidla.zakazy)
         if (z.druhy.contains(druh) && (z.zacatky.empty() || z.zacatky.contains(zacatek)) &&
@@ -238,85 +258,82 @@ bool Odvozeni::zakazana(DruhTrasy druh, int zacatek, int konec,
     return ano;
 }
 
-std::vector<Trasa> Odvozeni::vsechny() {
-    std::vector<Trasa> trasy;
-    std::set<const PravidlaTras::Zakaz*> pouzite;
-    for (const DruhTrasy druh : kDruhyTras)
-        for (const Navestidlo& od : plan.navestidla) {
-            if (!zacina(druh, od))
-                continue;
-            std::vector<std::pair<int, Trasa>> odtud; // with the ends of switches in minus
-            const auto rucni = [&](int konec) {
-                return std::find_if(pravidla.rucni.begin(), pravidla.rucni.end(), [&](const auto& r) {
-                    return r.druh == druh && r.zacatek == od.cislo && r.konec == konec;
-                });
-            };
-            for (const Nalez& n : hledej(druh, od, {}, {}))
-                if (!zakazana(druh, od.cislo, n.konec, pouzite) && rucni(n.konec) == pravidla.rucni.end())
-                    odtud.emplace_back(n.minusu, zaznam(druh, od, n, od.misto));
-            for (const PravidlaTras::RucniTrasa& r : pravidla.rucni) {
-                if (r.druh != druh || r.zacatek != od.cislo || !koleje.contains(r.konec))
-                    continue;
-                const std::vector<Nalez> nalezy = hledej(druh, od, r.pres, r.kolem);
-                const auto n = std::find_if(nalezy.begin(), nalezy.end(),
-                                            [&](const Nalez& x) { return x.konec == r.konec; });
-                if (n == nalezy.end()) {
-                    zavady.push_back(
-                        {r.misto, "trasa " + s(r.zacatek) + " " + s(r.konec), "takovou cestu nelze projet"});
-                    continue;
-                }
-                Trasa t = zaznam(druh, od, *n, r.misto);
-                t.kolem = r.kolem;
-                for (const Nalez& sam : hledej(druh, od, {}, {}))
-                    if (sam.konec == r.konec && zaznam(druh, od, sam, {}).zaznam == t.zaznam)
-                        zavady.push_back({r.misto, "trasa " + s(r.zacatek) + " " + s(r.konec),
-                                          "tudy vede i bez tohoto pravidla"});
-                odtud.emplace_back(n->minusu, std::move(t));
-            }
-            std::stable_sort(odtud.begin(), odtud.end(), [](const auto& a, const auto& b) {
-                return std::tuple(a.first, a.second.zaznam.prvky.size(), a.second.zaznam.konec) <
-                       std::tuple(b.first, b.second.zaznam.prvky.size(), b.second.zaznam.konec);
-            });
-            for (auto& [minusu, t] : odtud)
-                trasy.push_back(std::move(t));
-        }
-    // Rules that no route heeds, although all that they name is drawn, are mistakes.
-    const auto nakresleno = [&](const std::set<int>& zacatky, const std::set<int>& konce) {
-        return std::all_of(zacatky.begin(), zacatky.end(), [&](int n) { return plan.navestidlo(n); }) &&
-               std::all_of(konce.begin(), konce.end(), [&](int n) { return koleje.contains(n); });
+// The route over the way that the author wants; nothing when it cannot be run, which is told.
+std::optional<Odvozeni::Odvozena> Odvozeni::rucni_trasa(const PravidlaTras::RucniTrasa& r,
+                                                        const Navestidlo& od,
+                                                        const std::vector<Nalez>& bez_pravidla) {
+    const auto do_konce = [&](const std::vector<Nalez>& nalezy) {
+        return std::find_if(nalezy.begin(), nalezy.end(), [&](const Nalez& n) { return n.konec == r.konec; });
+    };
+    const std::vector<Nalez> nalezy = hledej(r.druh, od, r.pres, r.kolem);
+    const auto n = do_konce(nalezy);
+    if (n == nalezy.end()) {
+        zavady.push_back({r.misto, jmeno_pravidla(r), "takovou cestu nelze projet"});
+        return std::nullopt;
+    }
+    Trasa t = zaznam(r.druh, od, *n, r.misto);
+    t.kolem = r.kolem;
+    const auto sama = do_konce(bez_pravidla);
+    if (sama != bez_pravidla.end() && zaznam(r.druh, od, *sama, {}).zaznam == t.zaznam)
+        zavady.push_back({r.misto, jmeno_pravidla(r), "tudy vede i bez tohoto pravidla"});
+    return Odvozena{n->minusu, std::move(t)};
+}
+
+// Routes of a signal, the straightest first.
+std::vector<Odvozeni::Odvozena> Odvozeni::odtud(DruhTrasy druh, const Navestidlo& od) {
+    std::vector<Odvozena> trasy;
+    const std::vector<Nalez> nalezy = hledej(druh, od, {}, {});
+    const auto je_rucni = [&](int konec) {
+        return std::any_of(pravidla.rucni.begin(), pravidla.rucni.end(), [&](const auto& r) {
+            return r.druh == druh && r.zacatek == od.cislo && r.konec == konec;
+        });
+    };
+    for (const Nalez& n : nalezy)
+        if (!zakazana(druh, od.cislo, n.konec) && !je_rucni(n.konec))
+            trasy.push_back({n.minusu, zaznam(druh, od, n, od.misto)});
+    for (const PravidlaTras::RucniTrasa& r : pravidla.rucni)
+        if (r.druh == druh && r.zacatek == od.cislo && koleje.contains(r.konec))
+            if (auto t = rucni_trasa(r, od, nalezy))
+                trasy.push_back(std::move(*t));
+    std::stable_sort(trasy.begin(), trasy.end(), [](const Odvozena& a, const Odvozena& b) {
+        const auto klic = [](const Odvozena& o) {
+            return std::tuple(o.minusu, o.trasa.zaznam.prvky.size(), o.trasa.zaznam.konec);
+        };
+        return klic(a) < klic(b);
+    });
+    return trasy;
+}
+
+// Rules that no route heeds, although all that they name is drawn, are mistakes.
+void Odvozeni::zkontroluj_pravidla() {
+    const auto nakresleno = [&](const PravidlaTras::Zakaz& z) {
+        return std::all_of(z.zacatky.begin(), z.zacatky.end(), [&](int n) { return plan.navestidlo(n); }) &&
+               std::all_of(z.konce.begin(), z.konce.end(), [&](int n) { return koleje.contains(n); });
     };
     for (const PravidlaTras::Zakaz& z : pravidla.zakazy)
-        if (!pouzite.contains(&z) && nakresleno(z.zacatky, z.konce))
+        if (!pouzite.contains(&z) && nakresleno(z))
             zavady.push_back({z.misto, "nechci", "žádná taková cesta by nebyla"});
     for (const PravidlaTras::RucniTrasa& r : pravidla.rucni) {
         const Navestidlo* od = plan.navestidlo(r.zacatek);
         if (od && koleje.contains(plan.kolej_navestidla(*od)) && !zacina(r.druh, *od))
             zavady.push_back(
-                {r.misto, "trasa " + s(r.zacatek) + " " + s(r.konec),
+                {r.misto, jmeno_pravidla(r),
                  std::string("od tohoto návěstidla nezačíná ") + jmeno_druhu(r.druh) + " cesta"});
     }
     for (const auto& [n, trida] : pravidla.rychlost)
         if (trida == 1)
             zavady.push_back({{"kolejiste", 0}, "rychlost " + s(n), "40 km/h platí i bez tohoto pravidla"});
-    return trasy;
 }
 
-// Elements that a route holds against all others: its switches, and its tracks but for the one in front
-// of the signal.
-using Drzene = std::bitset<2 * (kNejvyssiPrvek + 1)>;
-Drzene drzene(const ZaznamCesty& z) {
-    Drzene d;
-    for (std::size_t k = 1; k < z.prvky.size(); ++k) {
-        if (z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::vykolejka))
-            continue;
-        const bool vyhybka = z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::vyhybka);
-        int n = z.prvky[k];
-        for (const Krizeni& x : kKrizeni)
-            if (!vyhybka && n == x.b)
-                n = x.a;
-        d.set(static_cast<std::size_t>(2 * n + vyhybka));
-    }
-    return d;
+std::vector<Trasa> Odvozeni::vsechny() {
+    std::vector<Trasa> trasy;
+    for (const DruhTrasy druh : kDruhyTras)
+        for (const Navestidlo& od : plan.navestidla)
+            if (zacina(druh, od))
+                for (Odvozena& o : odtud(druh, od))
+                    trasy.push_back(std::move(o.trasa));
+    zkontroluj_pravidla();
+    return trasy;
 }
 
 } // namespace
@@ -373,78 +390,6 @@ Bajty soubor_tras(const std::vector<Trasa>& trasy, DruhTrasy druh) {
         popis_zaznamu_cesty(a, t.zaznam);
     }
     return a.bajty;
-}
-
-std::string popis_prvku_trasy(const ZaznamCesty& z, std::size_t k) {
-    const std::string n = s(z.prvky[k]);
-    switch (static_cast<DruhPrvku>(z.druhy[k])) {
-    case DruhPrvku::vyhybka: {
-        const int p = z.polohy[k];
-        std::string text = "v" + n + (konec_a_minus(p) ? "-" : "+");
-        if (p >= tvary::kPrvniDKS)
-            text += konec_b_minus(p) ? "-" : "+";
-        return text;
-    }
-    case DruhPrvku::vykolejka: return "d" + n;
-    case DruhPrvku::kolej: break;
-    }
-    return n;
-}
-
-std::string tabulka_tras(const Plan& plan, const std::vector<Trasa>& trasy) {
-    std::vector<Drzene> drzi;
-    for (const Trasa& t : trasy)
-        drzi.push_back(drzene(t.zaznam));
-    std::vector<int> vylucuje(trasy.size());
-    std::size_t dvojic = 0;
-    for (std::size_t a = 0; a < trasy.size(); ++a)
-        for (std::size_t b = a + 1; b < trasy.size(); ++b)
-            if ((drzi[a] & drzi[b]).any()) {
-                ++vylucuje[a], ++vylucuje[b];
-                ++dvojic;
-            }
-    constexpr std::array kRychlosti = {"MAX", "40", "60", "80"};
-    std::string text;
-    const auto sloupec = [](std::string co, std::size_t sirka) { // counts characters, not bytes
-        std::size_t znaku = 0;
-        for (const char c : co)
-            znaku += (static_cast<unsigned char>(c) & 0xC0) != 0x80;
-        co.append(sirka - std::min(sirka, znaku), ' ');
-        return co;
-    };
-    for (std::size_t b = 0; b < plan.bloky.size(); ++b)
-        for (const DruhTrasy druh : kDruhyTras) {
-            std::string radky;
-            int pocet = 0;
-            std::size_t nejdelsi = 0;
-            for (std::size_t i = 0; i < trasy.size(); ++i) {
-                const ZaznamCesty& z = trasy[i].zaznam;
-                const Navestidlo* od = plan.navestidlo(z.zacatek);
-                if (trasy[i].druh != druh || !od || od->blok != b)
-                    continue;
-                ++pocet;
-                nejdelsi = std::max(nejdelsi, z.prvky.size());
-                const Kolej* cil = plan.kolej(z.konec);
-                std::string kam = s(z.konec);
-                if (cil && cil->cil)
-                    kam += " " + na_utf8(*cil->cil);
-                radky += "  " + sloupec(s(z.zacatek) + " " + na_utf8(od->jmeno), 14) + sloupec(kam, 16) +
-                         sloupec(druh == DruhTrasy::vlak ? kRychlosti[z.rychlost % 4] : "PC", 4) +
-                         sloupec(s(vylucuje[i]), 5);
-                for (std::size_t k = 0; k < z.prvky.size(); ++k)
-                    radky += " " + popis_prvku_trasy(z, k);
-                radky += "\n";
-            }
-            if (pocet)
-                text += plan.bloky[b].kod + " " + plan.bloky[b].nazev + ": " + s(pocet) +
-                        (druh == DruhTrasy::vlak ? " vlakových" : " posunových") + " cest, nejvýš " +
-                        s(static_cast<int>(nejdelsi)) + " prvků\n" + radky;
-        }
-    const auto vlakovych =
-        std::count_if(trasy.begin(), trasy.end(), [](const Trasa& t) { return t.druh == DruhTrasy::vlak; });
-    text += "cest " + std::to_string(trasy.size()) + ", z toho vlakových " + std::to_string(vlakovych) +
-            "; dvojic, které nemohou stát spolu, " + std::to_string(dvojic) + "\n";
-    return text;
 }
 
 } // namespace kolejiste

@@ -1,131 +1,114 @@
-// nastroje/kolejiste/veta.h - one statement of the source of the junction, read word by word.
+// nastroje/kolejiste/veta.h - one statement of the junction's source: its words, and the phrases that
+// statements are made of.
+//
+// A statement is read from left to right, word by word. What does not fit is thrown as Nesrozumitelne and
+// caught at the end of its line, so that one run tells all faults of a source.
 #pragma once
 
 #include "kolejiste/plan.h"
+#include "relief/relief.h"
 #include "slova.h"
 
-#include <cstddef>
 #include <optional>
 #include <set>
+#include <span>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace kolejiste {
 
-// A statement that cannot be understood; caught at the end of its line.
 struct Nesrozumitelne {
     std::string text;
 };
 [[noreturn]] void nesrozumitelne(std::string text);
 
-// The whole text is one number.
 std::optional<int> cele_cislo(std::string_view text);
-// "12,5" the middle of row 5 at column 12; "12,5^" the upper edge of the row.
-std::optional<Bod> bod_z(std::string_view text);
 
-// A word that is no text in quotes and no place is a number or a keyword.
+// The words of one line, the first of which says what is told, and the plan that it goes into.
 class Veta {
 public:
-    Veta(std::vector<Slovo> slova_, Plan& plan_, Misto misto_)
-        : slova(std::move(slova_)), plan(plan_), misto(std::move(misto_)) {}
+    Veta(Plan& plan_, Misto misto_) : misto(std::move(misto_)), plan(plan_) {}
 
-    // Reads the statement into the plan. Throws Nesrozumitelne.
-    void cti();
-    std::string prvek; // for the fault
+    // Takes the words of a line; false when there is none.
+    bool rozdel(std::string_view radek);
+
+    const Misto misto;
+    Plan& plan;
+    std::string prvek; // kind and number, for the fault
+
+    const std::string& jmeno() const { return slova.front().text; }
+
+    // --- looking at the next word; a word that is no text in quotes is a number, a place or a keyword
+
+    bool konec() const { return dalsi >= slova.size(); }
+    bool je_text() const { return !konec() && slova[dalsi].v_uvozovkach; }
+    bool je_cislo() const { return holy() && cele_cislo(*holy()); }
+    bool je_klic(std::string_view klic_) const { return holy() && *holy() == klic_; }
+
+    // --- taking it; `co` names it in the fault when it is missing or something else
+
+    const Slovo& slovo(const char* co);
+    int cislo(const char* co);
+    int sirka(const char* co);         // columns
+    std::optional<int> delka();        // "620m", if that comes next
+    Bod bod(const char* co);           // "12,5" the middle of row 5 at column 12; "12,5^" its upper edge
+    Text text(const char* co);         // every sign must have its place in the code page
+    bool klic(std::string_view klic_); // takes the keyword if it comes next
+    Strana strana();                   // vlevo or vpravo
+    Konec konec_prvku();               // "26:vlevo", "v14:vpravo_dole"
+    PrvekTrasy prvek_trasy();          // "26", "v14", "d0"
+    DruhTrasy druh_trasy();            // vlak or posun
+    std::set<int> rada();              // numbers up to the next keyword; "5-9" for a whole run
+    [[noreturn]] void nezname() const; // the next word means nothing here
+    static Text do_stranky(const std::string& utf8);
+
+    // --- elements
+
+    // The block that is open.
+    Blok& blok();
+    // A name behind the three letters of the block.
+    Text se_stanici(const Text& vlastni) { return z_utf8(blok().kod) + " " + vlastni; }
+    // An element of the open block, its number taken from the next word.
+    template <class P> P novy() {
+        blok();
+        P p;
+        p.misto = misto;
+        p.blok = plan.bloky.size() - 1;
+        p.cislo = cislo("číslo prvku");
+        prvek = jmeno() + " " + std::to_string(p.cislo);
+        if (p.cislo < 0 || p.cislo > kNejvyssiPrvek)
+            nesrozumitelne("čísla prvků jsou 0 až 999");
+        return p;
+    }
+    // Adds to a list in which nothing may stand twice.
+    template <class P, class Stejny> void pridej(std::vector<P>& kam, P p, Stejny stejny) {
+        for (const P& jiny : kam)
+            if (stejny(jiny, p))
+                nesrozumitelne("už stojí v " + jiny.misto.soubor + ":" + std::to_string(jiny.misto.radek));
+        kam.push_back(std::move(p));
+    }
+    template <class P> void pridej(std::vector<P>& kam, P p) {
+        pridej(kam, std::move(p), [](const P& a, const P& b) { return a.cislo == b.cislo; });
+    }
 
 private:
     std::vector<Slovo> slova;
     std::size_t dalsi = 1;
-    Plan& plan;
-    Misto misto;
 
-    // --- words (zdroj.cpp). `co` says in a fault what the word should have been.
-    bool konec() const { return dalsi >= slova.size(); }
-    const Slovo& slovo(const char* co);
-    int cislo(const char* co);
-    Bod bod(const char* co);
-    Strana strana();
-    int sirka(const char* co); // columns
-    Text text(const char* co) { return do_stranky(slovo(co).text); }
-    Text do_stranky(const std::string& utf8);
-    bool klic(std::string_view jmeno); // the next word is this keyword: it is taken
-    bool je_bod() const { return !konec() && !slova[dalsi].v_uvozovkach && bod_z(slova[dalsi].text); }
-    bool je_cislo() const { return !konec() && !slova[dalsi].v_uvozovkach && cele_cislo(slova[dalsi].text); }
-    bool je_text() const { return !konec() && slova[dalsi].v_uvozovkach; }
-    std::optional<int> metry() const; // the next word is "450m"
-    [[noreturn]] void nezname();
-    Konec konec_prvku();
-    PrvekTrasy prvek_cesty();
-    std::set<int> rada(); // numbers up to the next keyword; "5-9" for a whole run
-
-    // --- records of the plan (zdroj.cpp)
-    // Number of the element, with its block; numbers are 0 to 999.
-    template <class P> P novy(std::string_view druh) {
-        P p;
-        p.misto = misto;
-        p.blok = cislo_bloku();
-        p.cislo = cislo_prvku(druh);
-        return p;
-    }
-    template <class P> void pridej(std::vector<P>& kam, P p) {
-        for (const P& jiny : kam)
-            if (jiny.cislo == p.cislo)
-                uz_stoji(jiny.misto);
-        kam.push_back(std::move(p));
-    }
-    std::size_t cislo_bloku() const;
-    int cislo_prvku(std::string_view druh);
-    [[noreturn]] void uz_stoji(const Misto& kde) const;
-    Blok& blok();
-    // Own name behind the three letters of the block.
-    Text se_stanici(const Text& vlastni) { return z_utf8(blok().kod) + " " + vlastni; }
-
-    // --- the drawing (zdroj.cpp, zdroj_kresby.cpp)
-    bool cti_prvek(std::string_view co);
-    void cti_blok();
-    void cti_pocatek(bool dva);
-    void cti_vsuvku();
-    void cti_kolej(bool obraz);
-    void cti_stitek(Kolej& kolej);
-    void cti_navestidlo(bool posunove);
-    void cti_vyhybku(bool dks);
-    int poloha_dks();
-    int poloha_vyhybky();
-    void cti_vykolejku();
-    void cti_spoj();
-    void cti_konce(Zakonceni jak);
-    void cti_prejezd();
-    bool cti_kresbu(std::string_view co);
-    void cti_popis(Kresba& k);
-    void cti_nastupiste(Kresba& k);
-    void cti_stanoviste(Kresba& k);
-    void cti_souhlas(Kresba& k);
-    void cti_sipku(Kresba& k);
-    void cti_prejezd_stanice(Kresba& k);
-    void cti_prejezd_trati(Kresba& k);
-    void cti_volny_stitek(Kresba& k);
-    void cti_caru(Kresba& k);
-
-    // --- demands and rules (zdroj_pravidel.cpp)
-    bool cti_pozadavek(std::string_view co);
-    bool cti_pravidlo_tras(std::string_view co);
-    DruhTrasy druh_trasy();
-    void duvod();
-    // Start and end of a route, which name the statement in a fault.
-    void zacatek_a_konec(int& zacatek, int& konec_trasy);
-    void cti_trasu();
-    void cti_zakaz();
-    void cti_povinnou();
-    void cti_nesmi();
-    void cti_odjezdy();
-    void cti_programovou();
-    void cti_saha();
-    void cti_rychlost();
-    template <std::set<int> PravidlaTras::*mnozina> void cti_mnozinu() {
-        (plan.pravidla_tras.*mnozina).merge(rada());
-    }
+    const std::string* holy() const { return konec() || je_text() ? nullptr : &slova[dalsi].text; }
+    PrvekTrasy cislo_prvku(std::string_view kdo, const char* potiz) const;
 };
+
+// A word that begins a statement, and what reads the rest of it.
+struct Druh {
+    std::string_view jmeno;
+    void (*cti)(Veta&);
+};
+// Statements of a kind, each list beside the operations that read it.
+std::span<const Druh> vety_prvku();     // blocks, elements, the graph
+std::span<const Druh> vety_kresby();    // what is only drawn
+std::span<const Druh> vety_tras();      // rules about routes
+std::span<const Druh> vety_pozadavku(); // demands
 
 } // namespace kolejiste

@@ -10,6 +10,7 @@
 #include "cesty/cesta.h"
 #include "cesty/smer_trati.h"
 #include "cesty/tabulky.h"
+#include "jizda/krok_jizdy.h"
 #include "jizda/metry.h"
 #include "jizda/vlak.h"
 #include "prvky/souhlasy.h"
@@ -57,7 +58,7 @@ struct VidenaSipka {
     Text smer;
 };
 struct Videno {
-    std::int64_t tick_jizdy = 0;
+    std::uint32_t kroku = 0; // of the movement
     std::vector<VidenyVlak> vlaky;
     std::vector<VidenaCesta> cesty;
     std::vector<VidenaSipka> sipky;
@@ -322,9 +323,7 @@ bool prebyva_konec(const Vlak& v) {
 
 // The tail leaves a track neither before the train has left it nor, once it may run, later.
 Nalez delky() {
-    // the movement has made a step: the end of a pause sets both marks of time at once
-    const bool jelo_se =
-        simulace.tick_jizdy != videno.tick_jizdy && simulace.tick_jizdy != simulace.tick_hodin;
+    const bool jelo_se = kroku_jizdy != videno.kroku;
     for (std::size_t i = 0; i < vlaky.size(); ++i) {
         const Vlak& v = vlaky[i];
         const VidenyVlak* drive = videny(i);
@@ -484,7 +483,7 @@ void zapamatuj_vlaky() {
         }
     }
     videno.vlaky = std::move(nove);
-    videno.tick_jizdy = simulace.tick_jizdy;
+    videno.kroku = kroku_jizdy;
 }
 void zapamatuj_cesty() {
     std::vector<VidenaCesta> nove;

@@ -173,13 +173,17 @@ void over_navestidla(const TabulkaPrvku& tabulka_navestidel, Prestupky& nalezy) 
     }
 }
 
+// A train that was shortened stays in the lists of the tracks behind it until it moves.
+bool je_nebo_byl(const Vlak& v, int kolej) {
+    return v.cislo > 0 && std::find(v.prvky.begin(), v.prvky.end(), kolej) != v.prvky.end();
+}
+
 // The list of a numbered track holds each train on it once, and no other.
 void over_seznam(const KolejVlaky& k, Prestupky& nalezy) {
     for (auto v = k.vlaky.begin(); v != k.vlaky.end(); ++v)
-        if (*v >= 0 &&
-            (static_cast<std::size_t>(*v) >= vlaky.size() || vlaky[static_cast<std::size_t>(*v)].cislo < 1 ||
-             !drzi_prvek(vlaky[static_cast<std::size_t>(*v)], k.prvek) ||
-             std::find(k.vlaky.begin(), v, *v) != v)) {
+        if (*v >= 0 && (static_cast<std::size_t>(*v) >= vlaky.size() ||
+                        !je_nebo_byl(vlaky[static_cast<std::size_t>(*v)], k.prvek) ||
+                        std::find(k.vlaky.begin(), v, *v) != v)) {
             nalezy.push_back({Pravidlo::seznam_koleje, k.prvek});
             return;
         }

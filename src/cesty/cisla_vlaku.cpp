@@ -4,6 +4,7 @@
 #include "cesty/dotazy.h"
 #include "cesty/smer_trati.h"
 #include "cesty/zvyrazneni.h"
+#include "jizda/na_koleji.h"
 #include "jizda/vlak.h"
 #include "relief/prejezdy.h"
 #include "save/gtn.h"
@@ -218,9 +219,18 @@ int dvojce_hranice(int n) {
     return n == 213 ? 85 : n == 212 ? 84 : n == 219 ? 117 : kZadny;
 }
 
+// Where a train stands, the number that ran ahead over a calling-on route hid the number of that train.
+void ukaz_stojici_vlak(int n) {
+    if (n < 600 && je_kolej(n) && relief.kolej[n].barva == barvy::cervena && vlak_na_koleji(n))
+        zobraz_kolej(zaznam_koleje(n));
+}
+
 void smaz_z_konce(const Cesta& cesta, TextPohled text, bool tiche) {
     const int posledni = posledni_prvek(cesta);
+    const bool ukazoval = ukazuje(posledni, text);
     pis_cislo(posledni, text, true, tiche);
+    if (ukazoval)
+        ukaz_stojici_vlak(posledni);
     if (dvojce_hranice(posledni) != kZadny)
         pis_cislo(dvojce_hranice(posledni), text, true, tiche);
     if (je_konec_pred_trati(posledni))

@@ -3,6 +3,7 @@
 
 #include "app/cas.h"
 #include "cesty/dotazy.h"
+#include "cesty/navest.h"
 #include "cesty/prekazky.h"
 #include "cesty/smer_trati.h"
 #include "cesty/tabulky.h"
@@ -147,8 +148,11 @@ Text duvod_zaveru(const Cesta& c, std::int32_t ted) {
 Text duvod_klidu(const Cesta& c, std::int32_t ted) {
     if (c.Provedena && c.PN && c.PN_do < ted && c.Umazat == 0)
         return Text("přivolávací návěst skončila, závěr uvolní RNZ"_cz);
+    if (c.Provedena && (c.Postavena || c.Umazat != 0))
+        return {};
     if (c.Provedena)
-        return c.Postavena || c.Umazat != 0 ? Text{} : Text("návěstidlo je na STŮJ, návěst obnoví DN"_cz);
+        return je_zablokovano(c.zacatek) ? veta_prekazky(c, {DruhPrekazky::navestidlo, c.zacatek, 0})
+                                         : Text("návěstidlo je na STŮJ, návěst obnoví DN"_cz);
     if (c.varovani != 0)
         return Text("čeká na potvrzení výstrahy"_cz);
     if (c.cas_stavby > ted)

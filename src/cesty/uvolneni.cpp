@@ -225,6 +225,8 @@ void rnz(int s) {
         odeber_odpocet_pn(s); // the tick that would do it has not come yet
     const int konec = c->konec;
     if (c->Umazat == 0) {
+        vymaz_cislo(index_cesty(*c), false, {}); // the train has not come
+        vrat_jmeno_koleje(konec);
         smaz_cestu(index_cesty(*c));
         obnov_lampu_souhlasu(konec);
         uvolni_smer(konec);

@@ -66,18 +66,21 @@ struct Argumenty {
     bool pomoc = false;
 };
 
-void nastav_volbu(Argumenty& a, const std::string& volba, const std::string& hodnota) {
+// The options that have a value.
+bool ma_hodnotu(std::string_view volba) {
+    return volba == "--slozka" || volba == "--vystup" || volba == "--semeno";
+}
+
+void nastav_volbu(Argumenty& a, std::string_view volba, const std::string& hodnota) {
     if (volba == "--slozka") {
         a.volby.slozka = hodnota;
     } else if (volba == "--vystup") {
         a.vystup = hodnota;
-    } else if (volba == "--semeno") {
+    } else {
         const auto semeno = cele_cislo(hodnota, 0, std::numeric_limits<std::int64_t>::max());
         if (!semeno)
             chyba_skriptu("semeno je celé číslo, ne " + v_uvozovkach(hodnota));
         a.volby.semeno = static_cast<std::uint64_t>(*semeno);
-    } else {
-        chyba_skriptu("neznámá volba " + v_uvozovkach(volba));
     }
 }
 
@@ -96,6 +99,8 @@ Argumenty precti_argumenty(const std::vector<std::string>& slova, const std::str
             if (a.skript)
                 chyba_skriptu("skript je jen jeden, přebývá " + v_uvozovkach(slovo));
             a.skript = slovo;
+        } else if (!ma_hodnotu(slovo.substr(0, rovna_se))) {
+            chyba_skriptu("neznámá volba " + v_uvozovkach(slovo));
         } else if (rovna_se != std::string::npos) {
             nastav_volbu(a, slovo.substr(0, rovna_se), slovo.substr(rovna_se + 1));
         } else if (i + 1 < slova.size()) {

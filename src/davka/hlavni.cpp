@@ -1,6 +1,7 @@
 // davka/hlavni.cpp - the entry of tesk-davka.
 #include "davka/davka.h"
 
+#include <csignal>
 #include <filesystem>
 #include <ios>
 #include <iostream>
@@ -9,6 +10,7 @@
 #include <vector>
 
 int main(int argc, char** argv) {
+    std::signal(SIGXFSZ, SIG_IGN); // a limit of the file size is told like a full disk
     std::ios::sync_with_stdio(false);
     std::error_code kod;
     std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", kod);

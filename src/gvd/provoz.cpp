@@ -96,18 +96,30 @@ void objev_vlak(int gvd_index, int element, bool smer, bool muze_jet) {
     postav_cesty_z(element);
 }
 
-// The announced train leaves the neighbouring station: the element that shows its number is the one.
+bool stoji_tam(std::int32_t cislo, int e) {
+    return std::any_of(vlaky.begin(), vlaky.end(), [=](const Vlak& v) {
+        return v.cislo > 0 && (v.cislo == cislo || v.cislo2 == cislo) && drzi_prvek(v, e);
+    });
+}
+
+// The announced train leaves the neighbouring station: the element that shows its number is the one. Where
+// only its number has run ahead, over a route back to that station, nobody sets off.
 void rozjed(std::int32_t cislo, std::span<const int> prvky) {
     for (const int e : prvky) {
         if (!je_cislo_koleje(e) || !je_kolej(e) ||
-            cislo_z_textu(orez(relief.cislo_koleje[e].text())) != cislo)
+            cislo_z_textu(orez(relief.cislo_koleje[e].text())) != cislo || !stoji_tam(cislo, e))
             continue;
         barvi_prvek(e, barvy::cervena);
         nastav_tag(e, "400");
         const int v = spust_vlak(cislo);
-        const Vlak& vlak = vlak_c(v);
-        if (vlak.cislo == cislo || vlak.cislo2 == cislo)
-            vlak_v_cili(e, v);
+        Vlak& vlak = vlak_c(v);
+        if (vlak.cislo != cislo && vlak.cislo2 != cislo)
+            return;
+        if (vlak.stanice_index >= 0) { // ordered to depart by hand: its label and its row wait no more
+            zobraz_cekani(v);
+            vlak.muze_jet = true;
+        }
+        vlak_v_cili(e, v);
         return;
     }
 }

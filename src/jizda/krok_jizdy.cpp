@@ -472,9 +472,12 @@ void obnov_obslouzene() {
             vlak.obslouzeno = vlak.prvky.size();
 }
 
+std::uint32_t kroku_jizdy = 0;
+
 void krok_jizdy() {
     if (simulace.pauza || cesty.empty())
         return;
+    ++kroku_jizdy;
     const auto dt = static_cast<std::int32_t>(static_cast<std::uint32_t>(platforma.tik_ms()) -
                                               static_cast<std::uint32_t>(simulace.tick_jizdy));
     const int pocet = static_cast<int>(vlaky.size()); // trains made on the way move from the next step on

@@ -66,6 +66,7 @@ void stane_se_posunem(int v) {
             !cesty[c].PN)
             vymaz_cislo(static_cast<int>(c), true, text_cisla(cislo));
     vlak_c(v).muze_jet = true;
+    blikej_v_tabulce(cislo, false); // it waits for no departure now
     if (cislo > kPrvniSmyslene && cislo < kZaSmyslenymi)
         smaz_z_tabulky(cislo);
 }

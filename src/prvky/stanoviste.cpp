@@ -40,11 +40,6 @@ constexpr std::array<PrujezdnaCesta, 16> kPrujezdneCesty = {{
     {13, 72, 622},
 }};
 
-bool ma_prujezdne_cesty(int post) {
-    return std::any_of(kPrujezdneCesty.begin(), kPrujezdneCesty.end(),
-                       [&](const PrujezdnaCesta& p) { return p.post == post; });
-}
-
 bool jede_z(int s) {
     return navestidla(s)[s].barva == barvy::zelena &&
            std::any_of(cesty.begin(), cesty.end(), [&](const Cesta& c) { return c.zacatek == s; });
@@ -96,7 +91,7 @@ void menu_stanoviste(int post) {
     for (const TextPohled bez_ucinku :
          {"?POR", "NAPAJ", "DEN", "NOC", "NAP", "OV", "EOV", "OBSL", "DP", "MP", "REZIM"})
         nove.polozky.push_back({"mi" + Text(bez_ucinku), Text(bez_ucinku), true, true, nullptr, post});
-    nove.polozky.push_back({"miAH", "AH", ma_prujezdne_cesty(post), true, automat, post});
+    nove.polozky.push_back({"miAH", "AH", true, true, automat, post});
     for (const TextPohled bez_ucinku : {"VDS", "DK", "RESET"})
         nove.polozky.push_back({"mi" + Text(bez_ucinku), Text(bez_ucinku), true, true, nullptr, post});
     nove.polozky.push_back(

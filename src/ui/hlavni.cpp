@@ -18,6 +18,7 @@
 #include <QTimer>
 #include <QTranslator>
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
@@ -114,6 +115,7 @@ int main(int pocet, char** slova) {
         std::fputs(rada_bez_obrazovky(), stderr);
         return 1;
     }
+    std::signal(SIGXFSZ, SIG_IGN); // a limit of the file size is told like a full disk
     qInstallMessageHandler(hlaseni_startu);
     QApplication aplikace(pocet, slova);
     QApplication::setApplicationName(QStringLiteral("KPS RVZ TESK"));

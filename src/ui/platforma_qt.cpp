@@ -1,6 +1,7 @@
 // ui/platforma_qt.cpp - the world outside, as the window system gives it.
 #include "ui/platforma_qt.h"
 
+#include "app/simulace.h"
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
 #include "ui/pismo.h"
@@ -86,9 +87,22 @@ QWidget* rodic() {
     return QApplication::activeWindow();
 }
 
+// Over a desk of two monitors a dialogue stands on the left one, not on the seam between them.
+void na_levy_monitor(QDialog& dialog) {
+    const HlavniOkno* hlavni = HlavniOkno::otevrene();
+    if (!simulace.dva_monitory || hlavni == nullptr || dialog.parentWidget() != hlavni)
+        return;
+    dialog.ensurePolished();
+    if (!dialog.testAttribute(Qt::WA_Resized))
+        dialog.adjustSize();
+    const QRect stul = hlavni->geometry();
+    dialog.move(stul.x() + stul.width() / 4 - dialog.width() / 2, stul.center().y() - dialog.height() / 2);
+}
+
 void okno(TextPohled titul, TextPohled text) {
     QMessageBox box(QMessageBox::NoIcon, na_qstring(titul), na_qstring(text), QMessageBox::NoButton, rodic());
     box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+    na_levy_monitor(box);
     box.exec();
 }
 
@@ -98,6 +112,7 @@ bool otazka(TextPohled titul, TextPohled text, bool vychozi) {
     QPushButton* ne = box.addButton(QStringLiteral("&Ne"), QMessageBox::NoRole);
     box.setDefaultButton(vychozi ? ano : ne);
     box.setEscapeButton(ne);
+    na_levy_monitor(box);
     box.exec();
     return box.clickedButton() == ano;
 }
@@ -132,6 +147,7 @@ std::optional<Text> soubor(TextPohled slozka, TextPohled vzor, bool ulozit) {
         soubory->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
         soubory->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     }
+    na_levy_monitor(dialog);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return z_qstring(dialog.selectedFiles().front());

@@ -105,8 +105,12 @@ UvodniObrazovka::UvodniObrazovka()
     setWindowTitle(QStringLiteral("KPS RVZ TESK"));
     setFixedSize((QSizeF(kVelikost) * krat).toSize());
     setMask(QRegion(QTransform::fromScale(krat, krat).map(obrys_uvodu())));
-    if (const QScreen* obrazovka = QGuiApplication::primaryScreen())
-        move(obrazovka->geometry().center() - QPoint(width() / 2, height() / 2));
+    if (const QScreen* obrazovka = QGuiApplication::primaryScreen()) {
+        QRect plocha = obrazovka->geometry();
+        if (plocha.width() > 2.5 * plocha.height())
+            plocha.setWidth(plocha.width() / 2); // two monitors: not on the seam between them
+        move(plocha.center() - QPoint(width() / 2, height() / 2));
+    }
     connect(&sledovani, &QTimer::timeout, this, [this] {
         const QString novy = na_qstring(simulace.popisek_nacitani);
         if (novy != popisek) {

@@ -123,7 +123,8 @@ std::uint64_t zmeny = 0;
 [[noreturn]] void chyba_zapisu(TextPohled cesta, int duvod) {
     switch (duvod) {
     case ENOSPC:
-    case EDQUOT: chyba(KodChyby::disk_plny, Text(cesta));
+    case EDQUOT:
+    case EFBIG: chyba(KodChyby::disk_plny, Text(cesta));
     case ENOENT:
     case ENOTDIR: chyba(KodChyby::cesta_nenalezena, Text(cesta));
     case EIO: chyba(KodChyby::chyba_zarizeni, Text(cesta));
@@ -175,10 +176,20 @@ void uloz_slozku(const std::string& soubor) {
     ::fsync(otevrena);
 }
 
+// The file that a symbolic link stands for: the operator may keep it elsewhere, and the link is his.
+std::string za_odkazem(const std::string& cil) {
+    std::error_code kod;
+    if (!fs::is_symlink(cil, kod))
+        return cil;
+    const fs::path skutecny = fs::canonical(cil, kod);
+    return kod ? cil : skutecny.string();
+}
+
 // `obsah`, and behind it what the open file `konec_z` (-1 none) holds beyond that length, is written beside
 // `cil` and put in its place when it is complete on disk.
-void zapis_vedle(TextPohled cesta, const std::string& cil, const Bajty& obsah, int konec_z) {
+void zapis_vedle(TextPohled cesta, const std::string& jmeno, const Bajty& obsah, int konec_z) {
     ++zmeny;
+    const std::string cil = za_odkazem(jmeno);
     const std::string docasny = cil + ".nove";
     const int soubor = ::open(docasny.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
     if (soubor < 0)

@@ -2,6 +2,7 @@
 #include "cesty/cisla_vlaku.h"
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"
+#include "jizda/na_koleji.h"
 #include "jizda/vlak.h"
 #include "relief/prejezdy.h"
 
@@ -200,6 +201,56 @@ TEST_F(Cisla, NumberFollowsTheChainOfRoutes) {
     zrus_cestu(240);
     EXPECT_EQ(text(604), "") << "taken off along the chain";
     EXPECT_EQ(text(40), "1234");
+}
+
+TEST_F(Cisla, NumberOfATrainOnATrackWithTwoLabelsStays) {
+    stitek(241, "K41");
+    pis_cislo(40, "1234");
+    postav(240, 41, druh_volby::pn);
+    relief.kolej[41].barva = barvy::cervena;
+    pis_cislo(41, "1234");
+    vymaz_cislo(0, false, {});
+    EXPECT_EQ(text(41), "1234");
+}
+
+TEST_F(Cisla, EndOfACancelledRouteShowsItsNameAgainAfterTheNumberHasGone) {
+    pis_cislo(604, "1234");
+    postav(604, 41);
+    postav(41, 40);
+    ASSERT_EQ(text(40), "1234");
+    zrus_cestu(604);
+    EXPECT_EQ(text(40), "") << "taken off along the chain";
+    zrus_cestu(41);
+    cekej(6);
+    EXPECT_EQ(cesty[0].zacatek, -3);
+    EXPECT_EQ(text(40), "K40");
+    EXPECT_EQ(text(41), "K41");
+}
+
+TEST_F(Cisla, RNZTakesBackTheNumberOfATrainThatHasNotCome) {
+    pis_cislo(40, "1234");
+    relief.kolej[40].barva = barvy::cervena;
+    postav(240, 41, druh_volby::pn);
+    ASSERT_EQ(text(41), "1234");
+    cekej(31);
+    rnz(240);
+    EXPECT_EQ(cesty[0].zacatek, -3);
+    EXPECT_EQ(text(41), "K41");
+    EXPECT_EQ(text(40), "1234");
+}
+
+// The number of the train that is called on hides the one of the train at the end until it has come.
+TEST_F(Cisla, NumberOfTheStandingTrainComesBackWithRNZ) {
+    vlaky[3].cislo = 77;
+    pridej_na_kolej(41, 3, true, -1);
+    relief.kolej[41].barva = barvy::cervena;
+    ASSERT_EQ(text(41), "77");
+    pis_cislo(40, "1234");
+    postav(240, 41, druh_volby::pn);
+    ASSERT_EQ(text(41), "1234");
+    cekej(31);
+    rnz(240);
+    EXPECT_EQ(text(41), "77");
 }
 
 TEST_F(Cisla, SecondLabelGivesTheNumberWhenTheFirstShowsItsName) {

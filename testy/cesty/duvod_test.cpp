@@ -172,6 +172,9 @@ TEST_F(Duvod, CrossingCancellationAndStopHaveTheirSentences) {
     cekej(1);
     navestidlo_stuj(240);
     EXPECT_EQ(duvod_cekani(0), "návěstidlo je na STŮJ, návěst obnoví DN"_cz);
+    relief.navestidlo[240].barva = barvy::cervena;
+    EXPECT_EQ(duvod_cekani(0), "návěstidlo TST S240 je zablokováno (ZAM)"_cz) << "DN is refused, too";
+    relief.navestidlo[240].barva = barvy::seda;
     obnov_cestu(240);
     zrus_cestu(240);
     EXPECT_EQ(duvod_cekani(0), "ruší se, závěr se uvolní za 180 s"_cz);

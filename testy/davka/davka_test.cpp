@@ -602,6 +602,7 @@ TEST_F(Davka, ProgramRunsAFileInItsOwnFolderOrAnotherOne) {
 TEST_F(Davka, ProgramRefusesWhatItDoesNotKnow) {
     const std::string misto = slozka.cesta.substr(0, slozka.cesta.size() - 1);
     EXPECT_TRUE(obsahuje(program({"--neznama", "x", "a"}, misto).chyby, "neznámá volba „--neznama“"));
+    EXPECT_TRUE(obsahuje(program({"--neznama"}, misto).chyby, "neznámá volba „--neznama“"));
     EXPECT_TRUE(obsahuje(program({"a", "b"}, misto).chyby, "přebývá „b“"));
     EXPECT_TRUE(obsahuje(program({"--semeno", "x", "a"}, misto).chyby, "semeno je celé číslo"));
     EXPECT_TRUE(obsahuje(program({"--slozka"}, misto).chyby, "chybí hodnota"));

@@ -1,6 +1,8 @@
 // testy/gvd/provoz_test.cpp - the traffic step: who comes at which minute, and with whose permission.
+#include "app/blikani.h"
 #include "gvd/provoz.h"
 #include "gvd/skladba.h"
+#include "jizda/zastavky.h"
 #include "pomocne/provoz_sveta.h"
 
 #include <gtest/gtest.h>
@@ -201,6 +203,38 @@ TEST_F(Provoz, TrainIsAnnouncedTwoMinutesBeforeAndSetsOffAtItsMinute) {
     EXPECT_TRUE(vlak->muze_jet);
     EXPECT_EQ(barva(87), barvy::cervena);
     EXPECT_EQ(relief.kolej[87].stav, "400");
+}
+
+TEST_F(Provoz, NobodySetsOffWhereOnlyTheNumberHasRunAhead) {
+    lhotin();
+    pridej(z_lhotina(1701, 632));
+    v("10:30:00");
+    Vlak* vlak = najdi(1701);
+    ASSERT_NE(vlak, nullptr);
+    vlak->prvky = {600}; // sent off before its minute; its number has run back over a route to track 87
+    relief.kolej[87].barva = barvy::zelena;
+    v("10:32:00");
+    EXPECT_EQ(cislo_na(87), "1701");
+    EXPECT_EQ(barva(87), barvy::zelena);
+}
+
+TEST_F(Provoz, TrainOrderedToDepartInItsMinuteWaitsNoMore) {
+    lhotin();
+    pridej(z_lhotina(1701, 632));
+    v("10:30:00");
+    Vlak* vlak = najdi(1701);
+    ASSERT_NE(vlak, nullptr);
+    v("10:31:00");
+    simulace.cas_zacatku = 631;
+    simulace.minuty_simulace = 0;
+    odjezd_povel(static_cast<int>(vlak - vlaky.data()));
+    EXPECT_EQ(relief.cislo_koleje[87].pozadi, 0x00FFFFu);
+    EXPECT_TRUE(blikani.blikani_radku[0]);
+    simulace.minuty_simulace = 1;
+    v("10:32:00");
+    EXPECT_TRUE(vlak->muze_jet);
+    EXPECT_EQ(relief.cislo_koleje[87].pozadi, barvy::cerna);
+    EXPECT_FALSE(blikani.blikani_radku[0]);
 }
 
 TEST_F(Provoz, FullStationAnnouncesNobodyAndTheTrainNeverComes) {

@@ -1,7 +1,9 @@
 // testy/jizda/spojovani_test.cpp - coupling, splitting, turning, the next train of a set; train and shunt.
+#include "app/blikani.h"
 #include "app/vstup.h"
 #include "cesty/cisla_vlaku.h"
 #include "desk/info_o_vlaku.h"
+#include "desk/tabulka_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"
 #include "jizda/posun.h"
@@ -486,6 +488,15 @@ TEST_F(Spojovani, TrainBecomesAShuntAndItsNumberGoesFromTheLabel) {
     EXPECT_FALSE(vlak(v).posun);
     EXPECT_EQ(stitek(62), "77");
     EXPECT_EQ(radek_tabulky(77), 0);
+}
+
+TEST_F(Spojovani, RowOfATrainThatBecameAShuntFlashesNoMore) {
+    const int v = vlak_na(62, true, 77);
+    pridej_do_tabulky(v);
+    blikej_v_tabulce(77, true); // its last minute
+    zmena_posun(v, 62, false);
+    EXPECT_EQ(radek_tabulky(77), 0);
+    EXPECT_FALSE(blikani.blikani_radku[0]);
 }
 
 TEST_F(Spojovani, LightEngineGetsANumberAndATimetableOfItsOwn) {

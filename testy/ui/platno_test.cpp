@@ -238,3 +238,28 @@ TEST_F(Stul, CaptionOfAVehicleKeepsWithinItsPicture) {
     EXPECT_TRUE(pod_prvnim_radkem) << "its three lines stand under each other";
     EXPECT_GE(zmenene.boundingRect().bottom(), 766);
 }
+
+// --- letters on a ground of nearly their own light
+
+TEST_F(Stul, LettersOnAGroundTooNearToThemHaveAShadow) {
+    Prvek& radek = relief.lblPrikaz[0];
+    radek.viditelny = radek.ramecek = true;
+    radek.vlastni_velikost = true;
+    radek.vlevo = 0;
+    radek.nahore = 24 * kTwipu;
+    nastav_text(radek, "VC");
+    const auto tmavych = [&](Barva pismo, Barva pozadi) {
+        radek.barva = pismo;
+        radek.pozadi = pozadi;
+        platno.obnov();
+        int kolik = 0;
+        for (int y = 24; y < 37; ++y)
+            for (int x = 0; x < 16; ++x)
+                kolik += barva_v(x, y).value() < 128;
+        return kolik;
+    };
+    EXPECT_GT(tmavych(barvy::bila, barvy::zelena), 10);
+    EXPECT_GT(tmavych(barvy::bila, barvy::azurova), 10);
+    EXPECT_EQ(tmavych(barvy::bila, barvy::cervena), 0);
+    EXPECT_EQ(tmavych(barvy::zelena, barvy::zelena), 0);
+}

@@ -6,9 +6,11 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <csignal>
 #include <fcntl.h>
 #include <fstream>
 #include <functional>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -143,6 +145,33 @@ TEST_F(Soubory, FullDiskKeepsTheOldFileAndLeavesNothingBeside) {
     EXPECT_EQ(kod([&] { zapis_soubor(slozka.cesta + "save.sim", {1, 2, 3}); }), 61);
     EXPECT_EQ(cti("save.sim"), "stary");
     EXPECT_FALSE(fs::is_symlink(na_disku("save.sim.nove")));
+}
+
+TEST_F(Soubory, LimitOfTheFileSizeIsAFullDisk) {
+    poloz("save.sim", "stary");
+    rlimit puvodni{};
+    ASSERT_EQ(::getrlimit(RLIMIT_FSIZE, &puvodni), 0);
+    const auto obsluha = std::signal(SIGXFSZ, SIG_IGN); // as the programs do
+    rlimit maly = puvodni;
+    maly.rlim_cur = 1000;
+    ASSERT_EQ(::setrlimit(RLIMIT_FSIZE, &maly), 0);
+    const int vysledek = kod([&] { zapis_soubor(slozka.cesta + "save.sim", Bajty(5000)); });
+    ::setrlimit(RLIMIT_FSIZE, &puvodni);
+    std::signal(SIGXFSZ, obsluha);
+    EXPECT_EQ(vysledek, 61);
+    EXPECT_EQ(cti("save.sim"), "stary");
+}
+
+TEST_F(Soubory, SymbolicLinkStaysALink) {
+    poloz("jinde/save.sim", "stary");
+    fs::create_symlink("jinde/save.sim", na_disku("save.sim"));
+    zapis_soubor(slozka.cesta + "save.sim", {'n', 'o', 'v', 'y'});
+    EXPECT_TRUE(fs::is_symlink(na_disku("save.sim")));
+    EXPECT_EQ(cti("jinde/save.sim"), "novy");
+    prepis_zacatek_souboru(slozka.cesta + "save.sim", {'N'});
+    EXPECT_TRUE(fs::is_symlink(na_disku("save.sim")));
+    EXPECT_EQ(cti("jinde/save.sim"), "Novy");
+    EXPECT_EQ(std::distance(fs::directory_iterator(na_disku("jinde")), fs::directory_iterator()), 1);
 }
 
 TEST_F(Soubory, WritingIntoAMissingFolderIsError76) {
