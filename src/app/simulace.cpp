@@ -2,6 +2,7 @@
 #include "app/simulace.h"
 
 #include "app/blikani.h"
+#include "app/kontrola_jizdy.h"
 #include "app/kontrola_majitelu.h"
 #include "app/parametry.h"
 #include "cesty/cesta.h"
