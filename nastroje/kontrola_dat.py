@@ -23,6 +23,7 @@ JMENA_TYPU = {KOLEJ: "kolej", NAVESTIDLO: "navestidlo", CISLO_KOLEJE: "cislo_kol
               NAVESTIDLO_SER: "navestidlo_ser", PREJEZD: "lblPrejezd", PREJEZDY: "lblPrejezdy", MOST: "most",
               NASTUPISTE: "lblnastupiste", STANOVISTE: "imgStanoviste", POPIS: "popis_stanice",
               VYHYBKA: "imgVyhybka", SOUHLAS: "lblSouhlas", SIPKA: "lblSouhlas2", VYKOLEJKA: "lblVykolejka"}
+TYP_PRVKU = {1: KOLEJ, 2: VYHYBKA, 4: VYKOLEJKA}  # by the kind of an entry of a route
 BEZ_PRVKU = {POZADI_KONEC, POZADI_ZNAK}  # painted on the background, no element of their own
 
 # --- numbers with a meaning of their own
@@ -44,11 +45,12 @@ LINKA_PROGRAMU = 999  # line of a table that stands for routes made by the progr
 
 STANICE = {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17, 18, 19, 20, 21, 22, 23, 24, 27, 28, 30, 31,
            32, 33, 34, 35, 36, 37, 38}
-JEN_JMENA = {36, 37, 38}  # names without a track, for trains that the start shall not put down
-VPRAVO_OD_HRABOVA, VLEVO_OD_HRABOVA = {9, 15}, {1, 3, 24, 32}
-HRABOV = 8
 VSTUPY = {1, 2, 4, 5, 6, 9, 19, 20, 27, 28, 30, 31, 33, 34}
+HLAVNI = 9
 KOLEJE_HLAVNIHO = range(26, 36)
+# where trains stop, by station
+KOLEJE_STANIC = {1: range(86, 91), 2: range(62, 66), 3: range(4), 4: range(41, 44), 6: range(66, 70),
+                 8: range(9, 19), HLAVNI: KOLEJE_HLAVNIHO, 11: range(36, 41), 13: range(70, 76), 15: range(78, 84)}
 NEJVYSSI_CISLO = 399998
 
 # --- log
@@ -202,6 +204,10 @@ def trojice(stav):
     return set()
 
 
+def stav_vyhybky(prvek):
+    return int(prvek.nazev) if prvek.nazev.strip().isdigit() else 0
+
+
 class Relief:
     """Elements of one layout by kind and number."""
 
@@ -210,6 +216,10 @@ class Relief:
         for p in prvky:
             if p.typ in self.podle:
                 self.podle[p.typ].setdefault(p.cislo, p)
+
+    def pocet(self, typ):
+        """Length of an array with a place for each number."""
+        return max(self.podle[typ], default=0) + 1
 
     def ma(self, typ, cislo):
         return cislo in self.podle[typ]
@@ -288,7 +298,7 @@ def zkontroluj_relief(k, jmeno, prvky, sirka):
         elif p.typ == STANOVISTE:
             k.plati(p.cislo in STANICE, jmeno, f"{kdo}: není kód stanice")
         elif p.typ == VYHYBKA:
-            stav = int(p.nazev) if p.nazev.strip().isdigit() else 0
+            stav = stav_vyhybky(p)
             k.plati(1 <= p.cislo <= 255, jmeno, f"{kdo}: číslo mimo rozsah výhybek")
             k.plati(stav in trojice(stav), jmeno, f'{kdo}: základní stav "{p.nazev}" není koncová poloha')
         elif p.typ == SOUHLAS:
@@ -347,7 +357,7 @@ def zkontroluj_dvojici(k, jeden, dva, prvky1, prvky2):
 def zkontroluj_delky(k, jmeno, zaznamy_delek, relief):
     delky = {}
     for kolej, delka in zaznamy_delek:
-        text = kolej.decode("cp1250") + delka.decode("cp1250")
+        text = (kolej + delka).decode("cp1250", "replace")
         if not k.plati(kolej.strip().isdigit() and delka.strip().isdigit(), jmeno, f'záznam "{text}" nejsou dvě čísla'):
             continue
         n, metry = int(kolej), int(delka)
@@ -409,19 +419,19 @@ def posledni_prvek(cesta, vlevo, relief):
     if cesta.konec in ZA_STANICI and not vlevo:
         return ZA_STANICI[cesta.konec]
     if cesta.konec >= 600 and vlevo:
-        return relief.rada(cesta.konec)[-1]
+        return (relief.rada(cesta.konec) or [cesta.konec])[-1]
     return cesta.konec
 
 
 def konce_prvku(relief, druh, n):
-    """End points of an element in the picture; the first is the left one."""
+    """Points at which an element may meet others in the picture; none when it is not drawn there."""
+    p = relief.podle[TYP_PRVKU[druh]].get(n)
+    if not p:
+        return ()
     if druh == 1:
-        p = relief.podle[KOLEJ][n]
         return ((p.a, p.c), (p.b, p.d))
     if druh == 4:
-        p = relief.podle[VYKOLEJKA][n]
         return ((p.a, p.c + 97), (p.a + 120, p.c + 97))
-    p = relief.podle[VYHYBKA][n]
     x, y = p.a, p.c
     return tuple((xx, yy) for xx in (x, x + 240) for yy in (y, y + 97, y + 195))
 
@@ -472,17 +482,16 @@ def zkontroluj_cesty(k, jmeno, cesty, reliefy, vlakove):
 
 def zkontroluj_prvky_cesty(k, jmeno, kdo, c, relief):
     """Every element exists in its kind, once; switches lie in a position of their shape."""
-    typy = {1: KOLEJ, 2: VYHYBKA, 4: VYKOLEJKA}
     vporadku = True
     for i, (n, druh, poloha) in enumerate(zip(c.prvky, c.druhy, c.polohy)):
-        typ = typy.get(druh)
+        typ = TYP_PRVKU.get(druh)
         if not k.plati(typ and relief.ma(typ, n), jmeno, f"{kdo}: prvek {n} druhu {druh} v kolejišti není"):
             vporadku = False
             continue
         if druh == 1:
             k.plati(poloha in (0, 2), jmeno, f"{kdo}: kolej {n} má polohu {poloha}")
         elif druh == 2:
-            k.plati(poloha in trojice(int(relief.podle[VYHYBKA][n].nazev)), jmeno,
+            k.plati(poloha in trojice(stav_vyhybky(relief.podle[VYHYBKA][n])), jmeno,
                     f"{kdo}: výhybka {n} nemá polohu {poloha}")
     k.plati(c.druhy[0] == 1 and c.prvky[0] == relief.kolej_navestidla(c.zacatek), jmeno,
             f"{kdo}: začíná prvkem {c.prvky[0]}, návěstidlo stojí na {relief.kolej_navestidla(c.zacatek)}")
@@ -509,9 +518,9 @@ def zkontroluj_smer(k, jmeno, kdo, c, reliefy, vlevo):
     k.plati([p for p in c.prvky[1:] if p in rada] == [posledni], jmeno, f"{kdo}: drží víc úseků jedné tratě")
     k.plati(posledni == (rada[-1] if vlevo else rada[0]), jmeno, f"{kdo}: úsek {posledni} není první za návěstidlem")
     for relief in reliefy:
-        prvni = relief.podle[KOLEJ][c.prvky[0]]
-        nahoru = prvni.a <= relief.podle[KOLEJ][posledni].b or c.prvky[0] == 118
-        k.plati(nahoru != vlevo, jmeno, f"{kdo}: kresba říká opačný směr tratě než návěstidlo")
+        prvni, konec = relief.podle[KOLEJ].get(c.prvky[0]), relief.podle[KOLEJ].get(posledni)
+        nahoru = c.prvky[0] == 118 or prvni and konec and prvni.a <= konec.b
+        k.plati(prvni and konec and nahoru != vlevo, jmeno, f"{kdo}: kresba říká opačný směr tratě než návěstidlo")
 
 
 def zkontroluj_prejezdy_cesty(k, jmeno, kdo, c):
@@ -538,7 +547,7 @@ def zkontroluj_spojeni(k, jmeno, spojeni):
 # --- timetable
 
 
-def zkontroluj_gvd(k, jmeno, vlaky, relief, obrazky):
+def zkontroluj_gvd(k, jmeno, vlaky, relief, delky, obrazky):
     nazvy = {relief.podle[CISLO_KOLEJE][n].nazev for n in KOLEJE_HLAVNIHO if relief.ma(CISLO_KOLEJE, n)}
     podle_cisla = defaultdict(list)
     for v in vlaky:
@@ -563,6 +572,7 @@ def zkontroluj_gvd(k, jmeno, vlaky, relief, obrazky):
         k.plati(not v.kolej or v.kolej in nazvy, jmeno, f'{kdo}: kolej "{v.kolej}" na hlavním nádraží není')
         k.plati(v.text_2 == "" and v.text_3 == "", jmeno, f"{kdo}: obsazená pole, která nikdo nečte")
         zkontroluj_casy(k, jmeno, kdo, v)
+        zkontroluj_delku_vlaku(k, jmeno, kdo, v, relief, delky)
         for vuz in v.vozy or ():
             k.plati(vuz.strip(), jmeno, f"{kdo}: vůz beze jména")
         dalsi = {n for n in v.vozy_vlaky or () if n}
@@ -579,40 +589,28 @@ def zkontroluj_gvd(k, jmeno, vlaky, relief, obrazky):
         k.plati(all(not a & b for i, a in enumerate(dny) for b in dny[i + 1:]), jmeno, f"vlak {cislo} jede v jeden den dvakrát")
 
 
+def zkontroluj_delku_vlaku(k, jmeno, kdo, v, relief, delky):
+    """Where it stops it fits on a track, at the main station on the planned one: only so it can be coupled."""
+    for stanice, prijezd in zip(v.stanice, v.prijezdy):
+        koleje = [n for n in KOLEJE_STANIC.get(stanice, ()) if relief.ma(CISLO_KOLEJE, n)]
+        if stanice == HLAVNI and v.kolej:
+            koleje = [n for n in koleje if relief.podle[CISLO_KOLEJE][n].nazev == v.kolej]
+        if koleje and prijezd >= 0:
+            k.plati(v.delka < max(delky.get(n, 60) for n in koleje), jmeno,
+                    f"{kdo}: {v.delka} m se nevejde na kolej ve stanici {stanice}")
+
+
 def zkontroluj_casy(k, jmeno, kdo, v):
     """Times run on from stop to stop, also over midnight; -1 is none."""
     posledni = None
     for i, (prijezd, odjezd) in enumerate(zip(v.prijezdy, v.odjezdy)):
         k.plati(prijezd < 2880 and odjezd < 2880 and prijezd >= -1 and odjezd >= -1, jmeno, f"{kdo}: čas mimo rozsah")
         for cas in (prijezd, odjezd):
-            if cas >= 0 and v.stanice[i] not in JEN_JMENA:
+            if cas >= 0:
                 k.plati(posledni is None or cas >= posledni, jmeno, f"{kdo}: zastavení {i + 1} leží před předchozím")
                 posledni = cas
-    if je_na_jednom_konci(v.vozy or []):
-        zkontroluj_hrabov(k, jmeno, kdo, v)
     k.plati(v.odjezdy[0] >= 0 and all(o >= 0 for o in v.odjezdy[:-1]), jmeno, f"{kdo}: chybí odjezd")
     k.plati(v.prijezdy[-1] >= 0, jmeno, f"{kdo}: poslední zastavení nemá příjezd")
-
-
-def je_na_jednom_konci(vozy):
-    """Hauled by a locomotive that stands at the front only: it cannot change its sense."""
-    def rada(vuz):
-        return int(vuz) if vuz.isdigit() else 0
-    return len(vozy) > 1 and 100 < rada(vozy[0]) < 900 and rada(vozy[-1]) <= 100
-
-
-def zkontroluj_hrabov(k, jmeno, kdo, v):
-    """At the start of traffic a train at Hrabov faces left exactly when its next stop does not lie there."""
-    for i in range(1, len(v.stanice) - 1):
-        if v.stanice[i] != HRABOV or v.odjezdy[i] <= max(v.odjezdy[i - 1], 0):
-            continue  # never caught there: the stop before it has the same departure
-        kam = next((x for x in v.stanice[i + 1:] if x not in JEN_JMENA), 0)
-        odkud = next((x for x in reversed(v.stanice[:i]) if x not in JEN_JMENA), 0)
-        if kam in VPRAVO_OD_HRABOVA and odkud in VLEVO_OD_HRABOVA:
-            k.vada(jmeno, f"{kdo}: při startu by ve Vyšním Hrabově stál čelem zpět; před zastavení patří jméno bez kolejí")
-        if kam in VLEVO_OD_HRABOVA and odkud in VPRAVO_OD_HRABOVA:
-            k.plati(v.stanice[i + 1] in JEN_JMENA, jmeno,
-                    f"{kdo}: při startu by ve Vyšním Hrabově stál čelem zpět; za zastavení patří jméno bez kolejí")
 
 
 # --- saved simulation
@@ -661,6 +659,10 @@ def zkontroluj_hru(k, jmeno, bajty, relief):
     except Konec as duvod:
         k.vada(jmeno, str(duvod))
         return
+    prazdne = [pole for pole, hodnota in h.items() if hodnota is None and pole not in ("prejezdy", "zpravy")]
+    if prazdne:  # only without crossings and without messages an array was never made
+        k.vada(jmeno, f"chybí pole {', '.join(prazdne)}")
+        return
     k.souhrn.append(f"{jmeno}: {len(bajty)} B, {h['cas']}, vlaků {sum(v['cislo'] > 0 for v in h['vlaky'])}, "
                     f"cest {sum(c['zacatek'] >= 0 for c in h['cesty'])}, za záznamem {len(bajty) - ctecka.misto} B")
     k.plati(h["podpis"] == "123", jmeno, f'podpis "{h["podpis"]}"')
@@ -672,11 +674,11 @@ def zkontroluj_hru(k, jmeno, bajty, relief):
                 "minuty od začátku nesouhlasí s hodinami")
     velikosti = (("dalsi_vlaky", 39), ("stanicni_prejezdy", 2), ("koleje_barva", 1000), ("koleje_poloha", 1000),
                  ("koleje_popis", 1000), ("tabulka", 24), ("tabulka_blikani", 24),
-                 ("vyhybky", max(relief.podle[VYHYBKA]) + 1), ("navestidla_barva", max(relief.podle[NAVESTIDLO]) + 1),
-                 ("navestidla_pozadi", max(relief.podle[NAVESTIDLO]) + 1),
-                 ("vykolejky_znak", max(relief.podle[VYKOLEJKA]) + 1),
-                 ("vykolejky_barva", max(relief.podle[VYKOLEJKA]) + 1),
-                 ("souhlas2_smer", max(relief.podle[SIPKA]) + 1), ("souhlas2_barva", max(relief.podle[SIPKA]) + 1))
+                 ("vyhybky", relief.pocet(VYHYBKA)), ("navestidla_barva", relief.pocet(NAVESTIDLO)),
+                 ("navestidla_pozadi", relief.pocet(NAVESTIDLO)),
+                 ("vykolejky_znak", relief.pocet(VYKOLEJKA)),
+                 ("vykolejky_barva", relief.pocet(VYKOLEJKA)),
+                 ("souhlas2_smer", relief.pocet(SIPKA)), ("souhlas2_barva", relief.pocet(SIPKA)))
     for pole, pocet in velikosti:
         k.plati(len(h[pole] or ()) == pocet, jmeno, f"{pole}: {len(h[pole] or ())} prvků místo {pocet}")
     k.plati(len(h["vlaky"]) >= 51 and h["cesty"] and h["koleje_vlaky"] and h["cekajici_vlaky"] and h["stitky"], jmeno,
@@ -698,9 +700,8 @@ def zkontroluj_tabulky_hry(k, jmeno, h, relief):
         for skupina in (("stanice", "prijezd", "odjezd", "odjezd_realny"), ("vozy", "vozy_urceni", "vozy_obrazek"),
                         ("prvky", "prvky_druh", "prvky_poloha")):
             k.plati(len({len(v[p] or ()) for p in skupina}) == 1, jmeno, f"{kdo}: {', '.join(skupina)} nejsou stejně dlouhé")
-        typy = {1: KOLEJ, 2: VYHYBKA, 4: VYKOLEJKA}
         for n, druh in zip(v["prvky"] or (), v["prvky_druh"] or ()):
-            k.plati(n == 0 or druh in typy and relief.ma(typy[druh], n), jmeno, f"{kdo}: prvek {n} druhu {druh} není")
+            k.plati(n == 0 or druh in TYP_PRVKU and relief.ma(TYP_PRVKU[druh], n), jmeno, f"{kdo}: prvek {n} druhu {druh} není")
     for i, c in enumerate(h["cesty"]):
         k.plati(len({len(c[p] or ()) for p in ("prvky", "druhy", "polohy")}) == 1, jmeno, f"cesta {i}: pole prvků")
         k.plati(c["Vlak"] < 0 or c["Vlak"] < len(h["vlaky"]) and h["vlaky"][c["Vlak"]]["cislo"] > 0, jmeno,
@@ -800,7 +801,8 @@ def zkontroluj_instalaci(k, slozka, navic):
     k.plati(soubory, "gvd", "není žádný jízdní řád")
     for soubor in soubory:
         obsah = (pathlib.Path(gvd) / soubor).read_bytes()
-        zkontroluj_gvd(k, f"gvd/{soubor}", zaznamy(k, f"gvd/{soubor}", obsah, cti_vlak, hlavicka=True), relief, obrazky)
+        zkontroluj_gvd(k, f"gvd/{soubor}", zaznamy(k, f"gvd/{soubor}", obsah, cti_vlak, hlavicka=True), relief,
+                       delky, obrazky)
 
     for podslozka, pripona in (("save", ".sim"), ("save/autosave", ".sim"), ("GTN", ".gtn")):
         kde = najdi(slozka, podslozka)

@@ -71,7 +71,8 @@ public:
     Text se_stanici(const Text& vlastni) { return z_utf8(blok().kod) + " " + vlastni; }
     // An element of the open block, its number taken from the next word.
     template <class P> P novy() {
-        blok();
+        if (plan.bloky.empty())
+            nesrozumitelne("prvek stojí před první stanicí nebo tratí");
         P p;
         p.misto = misto;
         p.blok = plan.bloky.size() - 1;

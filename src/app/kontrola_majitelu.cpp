@@ -55,6 +55,33 @@ struct Majitele {
 };
 Majitele majitele;
 
+// Trains on the switches at the last look.
+std::array<std::int16_t, kPrvku> drive_na_vyhybce{};
+
+// A train that leaves the junction before its tail has left a switch leaves it occupied, and NOUZ is the
+// operator's way.
+bool odjel_z_vyhybky(int n) {
+    const int v = drive_na_vyhybce[static_cast<std::size_t>(n)];
+    return v >= 0 && static_cast<std::size_t>(v) < vlaky.size() &&
+           vlaky[static_cast<std::size_t>(v)].cislo < 1;
+}
+
+template <class Co> void projdi_drzene(const Vlak& v, Co co) {
+    if (v.cislo < 1)
+        return;
+    for (std::size_t j = static_cast<std::size_t>(std::max<int>(v.prvek_konec, 0)); j < v.prvky.size(); ++j)
+        co(v.prvky[j], v.prvky_druh[j] == druh_prvku::vyhybka);
+}
+
+void zapamatuj_vyhybky() {
+    drive_na_vyhybce.fill(kZadny);
+    for (std::size_t i = 0; i < vlaky.size(); ++i)
+        projdi_drzene(vlaky[i], [i](int n, bool vyhybka) {
+            if (vyhybka && n >= 0 && n <= kNejvyssiPrvek)
+                drive_na_vyhybce[static_cast<std::size_t>(n)] = static_cast<std::int16_t>(i);
+        });
+}
+
 void pridej(Mnozina& mnozina, int n) {
     if (n >= 0 && n <= kNejvyssiPrvek)
         mnozina.set(static_cast<std::size_t>(n));
@@ -64,11 +91,8 @@ bool je(const Mnozina& mnozina, int n) {
 }
 
 void zapis_vlak(const Vlak& v) {
-    if (v.cislo < 1)
-        return;
-    for (std::size_t j = static_cast<std::size_t>(std::max<int>(v.prvek_konec, 0)); j < v.prvky.size(); ++j)
-        pridej(v.prvky_druh[j] == druh_prvku::vyhybka ? majitele.vlak_vyhybka : majitele.vlak_kolej,
-               v.prvky[j]);
+    projdi_drzene(
+        v, [](int n, bool vyhybka) { pridej(vyhybka ? majitele.vlak_vyhybka : majitele.vlak_kolej, n); });
 }
 
 // Tracks that no route paints: they may be shared.
@@ -154,6 +178,8 @@ void over_vyhybku(int n, Prestupky& nalezy) {
     if (vyhybka_v_pohybu(n))
         nalezy.push_back({Pravidlo::pohyb_vyhybky, cislo});
     const bool obsazena = stav >= stav_vyhybky::obsazena && stav < stav_vyhybky::posun;
+    if (obsazena && !je(majitele.vlak_vyhybka, n) && odjel_z_vyhybky(n))
+        prijate.push_back({Pravidlo::obsazeni_vyhybky, cislo});
     if (obsazena && !je(majitele.vlak_vyhybka, n))
         nalezy.push_back({Pravidlo::obsazeni_vyhybky, cislo});
     // out of a derailer a switch is entered without being shown occupied
@@ -250,10 +276,12 @@ std::optional<Text> kontrola_majitelu() {
         nalez = veta(*novy);
     prijmout_vse = false;
     prijate = std::move(nalezy);
+    zapamatuj_vyhybky();
     return nalez;
 }
 
 void prijmi_majitele() {
     prijmout_vse = true;
     prijate.clear();
+    drive_na_vyhybce.fill(kZadny);
 }

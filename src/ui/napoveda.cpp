@@ -79,7 +79,6 @@ const char* ucel(Druh druh) {
     case Druh::lblPrava: return "oprávnění přihlášeného";
     case Druh::lblMereni_casu: return "měří se čas do uvolnění rušené cesty";
     case Druh::lblZasobnik_pocet: return "kolik zvolených cest čeká na postavení";
-    case Druh::lblZasobnik_blokv: return "cesta, na kterou zásobník čeká";
     case Druh::lblZasobnik_EZ: return "EZ: seznam zvolených cest (PROVOZ 2)";
     case Druh::lblZasobnik_PV: return "PV: každá zvolená cesta se zkouší sama";
     case Druh::lblZasobnik_VZ: return "VZ: cesty se staví v pořadí volby";

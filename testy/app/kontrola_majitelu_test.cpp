@@ -4,6 +4,7 @@
 #include "cesty/dotazy.h"
 #include "jizda/svet_vlaku.h"
 #include "prvky/stav_vyhybek.h"
+#include "relief/topologie.h"
 
 #include <gtest/gtest.h>
 
@@ -75,6 +76,39 @@ TEST_F(KontrolaMajitelu, LockedSwitchHasARouteAndLiesAsItDemands) {
     vyhybka_stav(7, 52, false, false);
     stav_vyhybek.vyhybka_pohyb.assign(8, true);
     EXPECT_EQ(nalez(), "výhybka 7: přestavuje se pod závěrem");
+}
+
+TEST_F(KontrolaMajitelu, TrainThatIsTooLongForTheTrackByWhichItLeavesKeepsTheSwitchesBehindIt) {
+    const int v = vlak_na(62, true, 1234);
+    vlak(v).delka = static_cast<std::int16_t>(delka_koleje(63) + 30);
+    uzavrena_cesta();
+    for (int i = 0; i < 120 && vlak(v).cislo > 0; ++i) {
+        ASSERT_EQ(nalez(), "") << "step " << i;
+        krok();
+    }
+    ASSERT_EQ(vlak(v).cislo, kZadny);
+    EXPECT_EQ(stav_vyhybky_cislo(7), 152);
+    EXPECT_EQ(nalez(), "");
+    EXPECT_EQ(nalez(), "");
+    vyhybka_nouz(7);
+    EXPECT_EQ(nalez(), "");
+    vyhybka_stav(7, 152, false, false);
+    EXPECT_EQ(nalez(), "výhybka 7: je obsazená a žádný vlak na ní není");
+}
+
+TEST_F(KontrolaMajitelu, ShortenedTrainStaysInTheListsBehindItUntilItMoves) {
+    const int v = vlak_na(62, true, 1234);
+    pridej_na_kolej(63, v, true, -1);
+    barvi_prvek(63, barvy::cervena);
+    vlak(v).prvky = {63, 7, 62};
+    vlak(v).prvky_druh = {1, 2, 1};
+    vlak(v).prvky_poloha = {0, 2, 0};
+    vyhybka_stav(7, 152, false, false);
+    ASSERT_EQ(nalez(), "");
+    vlak(v).prvek_konec = 2;
+    barvi_prvek(63, barvy::seda);
+    vyhybka_stav(7, 2, false, false);
+    EXPECT_EQ(nalez(), "");
 }
 
 TEST_F(KontrolaMajitelu, CallingOnRouteReleasedByHandHoldsNoSwitch) {

@@ -119,6 +119,7 @@ class Instalace(unittest.TestCase):
         self.poskozeno(jmeno, lambda b: b[:zacatek + 2] + b"\x02" + b[zacatek + 3:], "rozměrech")
         self.poskozeno(jmeno, lambda b: b[:-1], "soubor končí uprostřed")
         self.poskozeno(jmeno, lambda b: zmen(b, b"\x02\x005k", b"\x02\x0055"), "na hlavním nádraží není")
+        self.poskozeno(jmeno, lambda b: zmen(b, b"\x5a\x47\x00", b"\x5a\xf4\x01"), "500 m se nevejde")
         self.poskozeno(jmeno, lambda b: zmen(b, b"\x03\x00843", b"\x03\x00844"), "řada 844 nemá")
 
     def test_damage_of_a_save_and_of_a_log_is_told(self):

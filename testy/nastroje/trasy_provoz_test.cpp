@@ -4,6 +4,7 @@
 #include "app/kontrola.h"
 #include "cesty/cesta.h"
 #include "cesty/tik_volby.h"
+#include "cesty/uvolneni.h"
 #include "cesty/volba.h"
 #include "kolejiste/trasy.h"
 #include "pomocne/cele_kolejiste.h"
@@ -11,6 +12,7 @@
 #include "prvky/stav_vyhybek.h"
 #include "prvky/vyhybky.h"
 #include "relief/relief.h"
+#include "zaklad/cisla.h"
 
 #include <algorithm>
 #include <random>
@@ -43,10 +45,13 @@ protected:
         std::fill(stav_vyhybek.vyhybka_pohyb.begin(), stav_vyhybek.vyhybka_pohyb.end(), false);
     }
     static void cekej(int s) {
-        for (int i = 0; i < s; ++i) {
-            relief.lblcas[0].text = text_casu(sekundy_textu(cas_hodin()) + 1);
-            tik_volby();
-        }
+        for (int i = 0; i < s; ++i)
+            preskoc(1);
+    }
+    // So many seconds at once, with one tick behind them.
+    static void preskoc(int s) {
+        relief.lblcas[0].text = text_casu(sekundy_textu(cas_hodin()) + s);
+        tik_volby();
     }
     static bool zarad(const kolejiste::Trasa& t) {
         return najdi_cestu(t.zaznam.zacatek, t.zaznam.konec,
@@ -67,6 +72,27 @@ protected:
                            [&](const Cesta& c) { return c.zacatek == zacatek && c.Postavena; });
     }
 };
+
+// What an operator sees at rest: names on labels, colours of tracks, switches, arrows and lamps. A blank
+// label is a blank label, shown or not.
+std::vector<std::string> obraz_klidu() {
+    std::vector<std::string> obraz;
+    const auto pridej = [&](const TabulkaPrvku& druh, auto co) {
+        for (int n = 0; n <= druh.nejvyssi(); ++n)
+            if (druh.je(n))
+                obraz.push_back(std::to_string(n) + " " + co(druh[n]));
+    };
+    const auto barva = [](const Prvek& p) { return std::to_string(p.barva()); };
+    pridej(relief.cislo_koleje,
+           [](const Prvek& p) { return std::string(orez(p.text())) + " " + std::to_string(p.pozadi()); });
+    pridej(relief.kolej, barva);
+    pridej(relief.navestidlo, barva);
+    pridej(relief.lblSouhlas, barva);
+    pridej(relief.lblSouhlas2, barva);
+    pridej(relief.lblVykolejka, barva);
+    pridej(relief.imgVyhybka, [](const Prvek& p) { return std::to_string(cele_z_textu(p.stav()) / 50); });
+    return obraz;
+}
 
 // Elements that only one of two routes can have.
 std::set<std::pair<int, int>> prvky(const ZaznamCesty& z) {
@@ -109,6 +135,38 @@ TEST_F(ProvozTras, EveryTrainRouteCanBeRunOnTheCallingOnSignal) {
         cekej(10);
         EXPECT_TRUE(cesty[0].Postavena) << jmeno(t);
         EXPECT_EQ(vyhybky(t, true), "") << jmeno(t);
+    }
+}
+
+// With a train before the signal, whose number runs ahead and has to come back.
+TEST_F(ProvozTras, TrainRouteThatIsTakenBackLeavesNothingBehind) {
+    for (const kolejiste::Trasa& t : data_kolejiste().trasy) {
+        if (!je_vlak(t))
+            continue;
+        for (const bool pn : {false, true}) {
+            do_klidu();
+            stanicni_prejezdy = {};
+            const int kolej = t.zaznam.prvky.front();
+            const int stitek = kolej < 600 ? kolej : 600 + kolej % 50;
+            const int s = t.zaznam.zacatek;
+            relief.kolej[kolej].barva = barvy::cervena;
+            relief.cislo_koleje[stitek].text = TextPohled("77601");
+            const auto pred = obraz_klidu();
+            ASSERT_TRUE(najdi_cestu(s, t.zaznam.konec, pn ? druh_volby::pn : druh_volby::vlak, false));
+            for (int i = 0; i < 60 && !cesty[0].Postavena; ++i) // a crossing takes its time
+                cekej(1);
+            ASSERT_TRUE(cesty[0].Postavena) << jmeno(t);
+            EXPECT_NE(obraz_klidu(), pred) << jmeno(t);
+            if (pn) {
+                preskoc(31);
+                rnz(s);
+            } else {
+                zrus_cestu(s);
+                preskoc(181);
+            }
+            EXPECT_EQ(cesty[0].zacatek, -3) << jmeno(t);
+            EXPECT_EQ(obraz_klidu(), pred) << jmeno(t) << (pn ? " PN" : "");
+        }
     }
 }
 

@@ -31,9 +31,10 @@ stul.cekej_na("zvýrazněné návěstidlo", lambda o: o.vyrez(x - 12, y - 12, 24
 
 # a right click opens the signal's menu, Esc closes it
 stul.klikni(x, y, 3)
-stul.cekej("nabídka návěstidla", lambda: stul.okna() == stul.oken_v_klidu + 1)
+stul.cekej_na_nabidku()
 stul.obraz("nabidka")
-stul.tiskni("Escape", "zavřená nabídka", lambda: stul.okna() == stul.oken_v_klidu)
+stul.klavesa("Escape")
+stul.cekej_bez_nabidky()
 
 # the arrow keys move the pointer: 12 pixels to the side, up and down by the rows of a raster of 5
 stul.ukaz(700, 402)

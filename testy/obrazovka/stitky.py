@@ -54,9 +54,7 @@ stul.obraz("stitek")
 stul.nabidka("Down Down Down", *CISLO)  # VYL
 vypln_pole("trolej")
 stul.cekej_na("značka výluky", lambda o: o.bodu(*ZNACKA, VYLUKA) > 40 and o.bodu(*ZNACKA, STITEK) == 0)
-okna = stul.okna()
-stul.ukaz(CISLO[0] + 60, CISLO[1])
-stul.cekej("poznámky pod ukazatelem", lambda: stul.okna() > okna)
+stul.napoveda("poznámky pod ukazatelem", CISLO[0] + 60, CISLO[1])
 stul.obraz("napoveda")
 
 # without both the track is as it was
@@ -72,10 +70,9 @@ stul.ukaz(600, CISLO[1])
 stul.klavesa("ctrl+Right")
 assert stul.kurzor()[0] > 600, "ukazatel nepřeskočil na další prvek"
 stul.klavesa("ctrl+Left")
-predtim = stul.okna()
 stul.ukaz(*CISLO)
 stul.klavesa("Menu")
-stul.cekej("nabídka klávesou", lambda: stul.okna() > predtim)
+stul.cekej_na_nabidku()
 stul.klavesa("Return")  # STIT
 vypln_pole("klavesy")
 stul.cekej_na("štítek psaný klávesami", lambda o: o.bodu(*ZNACKA, STITEK) > 40)

@@ -155,20 +155,31 @@ class Stul:
         self.xdotool("click", 1)
         self.xdotool("keyup", "ctrl")
 
+    def napoveda(self, co, x, y):
+        """The pointer rests there until its tip is seen."""
+        self.ukaz(700, 480)  # over nothing, until no other tip stands
+        self.cekej("stůl bez nápovědy", lambda: self.okna() == self.oken_v_klidu)
+        self.ukaz(x, y)
+        self.cekej(co, lambda: self.okna() == self.oken_v_klidu + 1)
+
+    def cekej_na_nabidku(self, vic_nez=0):
+        """How much of the screen the open menus take; more than before when a submenu is to come."""
+        obraz = self.cekej_na("nabídka", lambda o: plocha_nabidek(o) > vic_nez + 500)
+        return plocha_nabidek(obraz)
+
+    def cekej_bez_nabidky(self):
+        self.cekej_na("zavřená nabídka", lambda o: plocha_nabidek(o) == 0)
+
     def nabidka(self, klavesy, x, y):
         """A right click opens the menu, then the keys walk in it and its submenus to the last one, an Enter."""
-        self.ukaz(700, 480)  # over nothing: no tip stands there
-        self.cekej("stůl bez nápovědy", lambda: self.okna() == self.oken_v_klidu)
-        predtim = self.oken_v_klidu
         self.klikni(x, y, 3)
-        self.cekej("nabídka", lambda: self.okna() > predtim)
+        plocha = self.cekej_na_nabidku()
         for jmeno in klavesy.split():
-            okna = self.okna()
             self.klavesa(jmeno)
             if jmeno == "Right":
-                self.cekej("podnabídka", lambda: self.okna() > okna)
+                plocha = self.cekej_na_nabidku(plocha)
         self.klavesa("Return")
-        self.cekej("zavřená nabídka", lambda: self.okna() == predtim)
+        self.cekej_bez_nabidky()
 
     def cekej(self, co, podminka, nejdele=10):
         """Until the condition holds; the test fails when it does not in time."""
@@ -275,6 +286,7 @@ def priprav(argumenty):
 
 # What tells the screens from one another, in pixels of the 1024 by 768 desk.
 BARVA_FORMULARE = (18, 22, 27)
+BARVA_NABIDKY = (200, 204, 208)
 RADEK_PRIKAZU = (0, 23, 60, 16)
 HODINY = (22, 3, 72, 14)
 
@@ -282,6 +294,11 @@ HODINY = (22, 3, 72, 14)
 def je_prihlaseni(obraz, krat=1):
     """A green code stands on the command line; `krat` is the scale of the desk."""
     return obraz.bodu(*(krat * x for x in RADEK_PRIKAZU), ZELENA) > 100
+
+
+def plocha_nabidek(obraz):
+    """How many pixels have the ground of a menu, which nothing else on the screen has."""
+    return obraz.bodu(0, 0, obraz.sirka, obraz.vyska, BARVA_NABIDKY)
 
 
 def je_formular(obraz):

@@ -110,7 +110,7 @@ stul.cekej_na("běžící stůl", stul_bezi)
 VYSTRAHA = (106, 20, 20)
 ROH = (522, 620, 490, 24)
 stul.klikni(30 * 8 + 12, 46 + 12 * 13 + 6, 3)
-stul.cekej("nabídka přejezdu", lambda: stul.okna() == stul.oken_v_klidu + 1)
+stul.cekej_na_nabidku()
 stul.obraz("nabidka_prejezdu")
 for _ in range(2):
     stul.klavesa("Down")

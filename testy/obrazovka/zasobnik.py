@@ -46,10 +46,7 @@ stul.cekej_na("čekající cesta v řádku zásobníku", lambda o: o.bodu(*CEKAJ
 assert stul.obraz().vyrez(*POCET) != prazdny, "počet zásobníku se nezměnil"
 
 # the pointer on the waiting line asks why
-stul.ukaz(600, 480)
-stul.cekej("stůl bez nápovědy", lambda: stul.okna() == stul.oken_v_klidu)
-stul.ukaz(160, 606)
-stul.cekej("důvod čekající cesty", lambda: stul.okna() == stul.oken_v_klidu + 1)
+stul.napoveda("důvod čekající cesty", 160, 606)
 
 # EZ opens the list and stops the clock
 stul.klikni(44, 606)
