@@ -60,6 +60,11 @@ std::optional<int> kod_podle_jmena(const std::string& jmeno) {
     return std::nullopt;
 }
 
+// Veselá, Skalka, Ořechov: names without a track.
+bool je_jen_jmeno(int kod) {
+    return kod >= 36 && kod <= 38;
+}
+
 std::optional<int> druh_podle_zkratky(const std::string& zkratka) {
     for (int druh = 1; druh <= 18; ++druh)
         if (!zkratka_druhu(druh).empty() && zkratka_druhu(druh) == z_utf8(zkratka))
@@ -142,9 +147,10 @@ struct Prekladac {
 
     void zkontroluj_casy() {
         int posledni = -1;
+        // a mere name stands before its neighbour with the neighbour's departure
         for (std::size_t i = 0; i < vlak.stanice.size(); ++i)
             for (const int t : {static_cast<int>(vlak.prijezdy[i]), static_cast<int>(vlak.odjezdy[i])}) {
-                if (t < 0)
+                if (t < 0 || je_jen_jmeno(vlak.stanice[i]))
                     continue;
                 if (t < posledni)
                     hlas_na(radek_vlaku,

@@ -114,6 +114,12 @@ TEST(PrekladGvd, TimesThatRunBackAreRefused) {
     EXPECT_NE(chyby[0].zprava.find("časy jdou zpět"), std::string::npos);
 }
 
+TEST(PrekladGvd, NameWithoutATrackMayBearTheDepartureOfTheStopBehindIt) {
+    EXPECT_TRUE(chyby_zdroje("vlak Os 12\ndny Po\nrychlost 80\nvozy 943\nstavi LHO - 8:10\nprojede VES 8:20\n"
+                             "stavi TVH 8:15 8:20\nstavi THN 8:25 -\n")
+                    .empty());
+}
+
 TEST(PrekladGvd, OneNumberTwiceOnADayIsRefused) {
     const std::string dvakrat = std::string(kOsobni) + std::string(kOsobni);
     EXPECT_FALSE(chyby_zdroje(dvakrat).empty());
