@@ -8,7 +8,7 @@
 
 namespace {
 
-class ObrazkyVozu : public SProvozem {
+class VyberObrazku : public SProvozem {
 protected:
     void obrazky(std::initializer_list<const char*> jmena) {
         for (const char* jmeno : jmena)
@@ -16,7 +16,7 @@ protected:
     }
 };
 
-TEST_F(ObrazkyVozu, PictureIsDrawnByTheWeightsOfTheVariants) {
+TEST_F(VyberObrazku, PictureIsDrawnByTheWeightsOfTheVariants) {
     obrazky({"750_1.ico", "modra 750_3.ico", "CD750_0.ico", "7501_9.ico", "750x_9.ico"});
     int modrych = 0, hlavnich = 0;
     zasej_nahodu(5);
@@ -33,7 +33,7 @@ TEST_F(ObrazkyVozu, PictureIsDrawnByTheWeightsOfTheVariants) {
     EXPECT_EQ(nahoda, pred);
 }
 
-TEST_F(ObrazkyVozu, DrawTakesTheFirstRunningSumThatReachesIt) {
+TEST_F(VyberObrazku, DrawTakesTheFirstRunningSumThatReachesIt) {
     obrazky({"a810_1.ico", "b810_2.ico", "c810_1.ico"});
     const std::array<Text, 4> ocekavane = {"a810_1.ico", "a810_1.ico", "b810_2.ico", "b810_2.ico"};
     for (int x = 0; x < 4; ++x) {
@@ -42,19 +42,19 @@ TEST_F(ObrazkyVozu, DrawTakesTheFirstRunningSumThatReachesIt) {
     }
 }
 
-TEST_F(ObrazkyVozu, WeightlessPicturesAreNotShown) {
+TEST_F(VyberObrazku, WeightlessPicturesAreNotShown) {
     obrazky({"811_.ico", "811_x.ico"});
     EXPECT_EQ(obrazek_vozu(811), "");
 }
 
-TEST_F(ObrazkyVozu, ChangedFolderIsListedAnew) {
+TEST_F(VyberObrazku, ChangedFolderIsListedAnew) {
     obrazky({"812_1.ico"});
     EXPECT_EQ(obrazek_vozu(812), "812_1.ico");
     obrazky({"813_1.ico"});
     EXPECT_EQ(obrazek_vozu(813), "813_1.ico");
 }
 
-TEST_F(ObrazkyVozu, FolderWithoutPicturesLeavesTheNamesEmpty) {
+TEST_F(VyberObrazku, FolderWithoutPicturesLeavesTheNamesEmpty) {
     zaloz_slozku(simulace.cesta_aplikace + "DATA\\VOZY");
     EXPECT_EQ(obrazek_vozu(810), "");
     EXPECT_EQ(obrazek_vozu(TextPohled()), "");
