@@ -6,6 +6,7 @@
 
 #include "app/cas.h"
 #include "app/kontrola_jizdy.h"
+#include "app/kontrola_majitelu.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/vyber.h"
@@ -137,7 +138,7 @@ Nalez zavery_vyhybek() {
         if (c.zacatek < 0 || !c.prehozena || c.PN_zaver)
             continue; // RNZ has released the switches; the record waits for its train
         for (std::size_t k = c.Umazat; k < c.prvky.size(); ++k) {
-            if (c.druhy[k] != druh_prvku::vyhybka)
+            if (c.druhy[k] != druh_prvku::vyhybka || ztratila_vyhybku(c, c.prvky[k]))
                 continue;
             Zaver& zaver = zavery[static_cast<std::size_t>(c.prvky[k])];
             if (zaver.drzena && zaver.poloha != c.polohy[k])

@@ -44,6 +44,24 @@ using Prestupky = std::vector<Prestupek>;
 Prestupky prijate;        // what stood there before anybody looked
 bool prijmout_vse = true; // the next look takes everything as it is
 
+// --- switches that NOUZ took out of routes
+
+struct Ztrata {
+    std::int16_t zacatek, konec;
+    std::int32_t Kdy_prehoz;
+    int vyhybka;
+    bool plati(const Cesta& c) const {
+        return c.prehozena && c.zacatek == zacatek && c.konec == konec && c.Kdy_prehoz == Kdy_prehoz;
+    }
+};
+std::vector<Ztrata> ztraty;
+
+void zapomen_stare_ztraty() {
+    std::erase_if(ztraty, [](const Ztrata& z) {
+        return std::none_of(cesty.begin(), cesty.end(), [&](const Cesta& c) { return z.plati(c); });
+    });
+}
+
 // --- the owners
 
 struct Majitele {
@@ -113,7 +131,7 @@ void zapis_zaver(const Cesta& c, std::size_t k, Mnozina& vlakove) {
         }
         break;
     case druh_prvku::vyhybka:
-        if (c.PN_zaver)
+        if (c.PN_zaver || ztratila_vyhybku(c, n))
             break;
         // two coupled switches are occupied together, a step before the head comes to the second one
         if (k == std::size_t{c.Umazat} + 1 && c.Vlak >= 0)
@@ -267,6 +285,7 @@ std::optional<Text> kontrola_majitelu() {
         prijmi_majitele();
         return std::nullopt;
     }
+    zapomen_stare_ztraty();
     Prestupky nalezy = prestupky();
     const auto novy = std::find_if(nalezy.begin(), nalezy.end(), [](const Prestupek& p) {
         return std::find(prijate.begin(), prijate.end(), p) == prijate.end();
@@ -284,4 +303,18 @@ void prijmi_majitele() {
     prijmout_vse = true;
     prijate.clear();
     drive_na_vyhybce.fill(kZadny);
+    ztraty.clear();
+}
+
+bool ztratila_vyhybku(const Cesta& cesta, int n) {
+    return std::any_of(ztraty.begin(), ztraty.end(),
+                       [&](const Ztrata& z) { return z.vyhybka == n && z.plati(cesta); });
+}
+
+void zapis_nouz(int n) {
+    for (const Cesta& c : cesty)
+        if (c.zacatek >= 0 && c.prehozena)
+            for (std::size_t k = 1; k < c.prvky.size(); ++k)
+                if (c.prvky[k] == n && druh_na(c, k) == druh_prvku::vyhybka)
+                    ztraty.push_back({c.zacatek, c.konec, c.Kdy_prehoz, n});
 }

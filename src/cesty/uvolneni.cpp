@@ -107,6 +107,57 @@ bool vlak_stoji_v_cili(const Cesta& c) {
            v.prvek_konec == static_cast<int>(v.prvky.size()) - 1;
 }
 
+bool stoji_na_vyhybce(int n) {
+    return std::any_of(vlaky.begin(), vlaky.end(), [n](const Vlak& v) {
+        for (std::size_t j = static_cast<std::size_t>(std::max<int>(v.prvek_konec, 0)); j < v.prvky.size();
+             ++j)
+            if (v.cislo > 0 && v.prvky[j] == n && v.prvky_druh[j] == druh_prvku::vyhybka)
+                return true;
+        return false;
+    });
+}
+
+// Another route has the element still before it.
+bool drzi_jina(const Cesta& c, std::size_t k) {
+    return std::any_of(cesty.begin(), cesty.end(), [&](const Cesta& jina) {
+        if (&jina == &c || jina.zacatek < 0 || !jina.prehozena || jina.PN_zaver)
+            return false;
+        for (std::size_t i = std::size_t{jina.Umazat} + 1; i < jina.prvky.size(); ++i)
+            if (jina.prvky[i] == c.prvky[k] && druh_na(jina, i) == druh_na(c, k))
+                return true;
+        return false;
+    });
+}
+
+void uvolni_vyhybku_bez_vlaku(const Cesta& c, std::size_t k) {
+    const int n = c.prvky[k], poloha = poloha_na(c, k);
+    const int zaver = !c.VC ? stav_vyhybky::posun : c.PN ? stav_vyhybky::rezervace : stav_vyhybky::vlak;
+    const int stav = stav_vyhybky_cislo(n);
+    const bool stoji = stoji_na_vyhybce(n);
+    // two coupled switches are shown occupied before the head comes to the second one
+    if (stav != poloha + zaver && (stav != poloha + stav_vyhybky::obsazena || stoji))
+        return;
+    if (stoji)
+        vyhybka_stav(n, poloha + stav_vyhybky::obsazena, false, false);
+    else
+        uvolni_zaver_vyhybky(n, poloha);
+}
+
+void uvolni_prvek_bez_vlaku(const Cesta& c, std::size_t k) {
+    const int n = c.prvky[k];
+    switch (druh_na(c, k)) {
+    case druh_prvku::vyhybka: uvolni_vyhybku_bez_vlaku(c, k); break;
+    case druh_prvku::vykolejka:
+        if (relief.lblVykolejka.je(n))
+            relief.lblVykolejka[n].barva = barvy::seda;
+        break;
+    case druh_prvku::kolej:
+        if (!c.PN && relief.kolej[n].barva == (c.VC ? barvy::zelena : barvy::bila))
+            uvolni_prvek(n);
+        break;
+    }
+}
+
 void vypni_automat(int s) {
     if (!je_na_ser(s) && relief.navestidlo.je(s) && ab_zapnuto(s))
         prepni_ab(s);
@@ -235,4 +286,23 @@ void rnz(int s) {
     }
     zmena_zasobniku();
     obnov_panel_kdyz_ukazuje(s);
+}
+
+void ukonci_bez_vlaku(int i) {
+    const Cesta& c = cesty.at(static_cast<std::size_t>(i));
+    const int konec = c.konec;
+    const bool neprojeta = c.Umazat < posledni_index(c);
+    if (c.PN && c.PN_do > 0) { // the aspect that was still shown ends, too
+        nastav_navest(c.zacatek, barvy::seda);
+        odeber_odpocet_pn(c.zacatek);
+    }
+    if (c.Provedena && !c.PN_zaver)
+        for (std::size_t k = c.PN ? 1 : std::size_t{c.Umazat} + 1; k < c.prvky.size(); ++k)
+            if (!drzi_jina(c, k))
+                uvolni_prvek_bez_vlaku(c, k);
+    smaz_cestu(i);
+    if (!neprojeta)
+        return;
+    obnov_lampu_souhlasu(konec);
+    uvolni_smer(konec);
 }

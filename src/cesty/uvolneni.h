@@ -15,3 +15,11 @@ void rnz(int s);             // RNZ
 
 // The cancellation of route i is due: everything back to rest, the record goes.
 void proved_zruseni(int i);
+
+// --- when the train of a route is gone
+
+// Route i ends under its train, which has left the junction, was coupled to another one or was made up into
+// one. What lies before its head goes back to rest, and so does a calling-on route that nobody has released:
+// with the record RC and RNZ go too, and it would stay locked for ever. A switch on which somebody stands
+// turns occupied and goes with his tail. The record goes.
+void ukonci_bez_vlaku(int i);

@@ -10,8 +10,7 @@
 #include "cesty/cesta.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
-#include "cesty/navest.h"
-#include "cesty/odpocet_pn.h"
+#include "cesty/uvolneni.h"
 #include "cesty/volba.h"
 #include "jizda/cesty_na_prvku.h"
 #include "jizda/metry.h"
@@ -409,43 +408,6 @@ void krok_konce(int v) {
 
 // --- route pass
 
-bool stoji_na_vyhybce(int n) {
-    return std::any_of(vlaky.begin(), vlaky.end(), [n](const Vlak& v) {
-        for (std::size_t j = static_cast<std::size_t>(std::max<int>(v.prvek_konec, 0)); j < v.prvky.size();
-             ++j)
-            if (v.cislo > 0 && v.prvky[j] == n && v.prvky_druh[j] == druh_prvku::vyhybka)
-                return true;
-        return false;
-    });
-}
-
-// The train of a calling-on route has left the junction or become another one, and nobody has released the
-// route: with its record RNZ goes too, and its switches would stay locked for ever. So the locking goes with
-// the record; where somebody stands, his tail releases the switch.
-void uvolni_bez_rnz(const Cesta& cesta) {
-    if (!cesta.PN || !cesta.Provedena)
-        return;
-    if (cesta.PN_do > 0) { // the aspect that was still shown ends, too
-        nastav_navest(cesta.zacatek, barvy::seda);
-        odeber_odpocet_pn(cesta.zacatek);
-    }
-    if (cesta.PN_zaver)
-        return;
-    for (int i = 1; i <= posledni(cesta); ++i) {
-        const int n = prvek_c(cesta, i);
-        if (druh_c(cesta, i) == druh_prvku::vykolejka && relief.lblVykolejka.je(n))
-            relief.lblVykolejka[n].barva = barvy::seda;
-        const int poloha = poloha_c(cesta, i);
-        if (druh_c(cesta, i) != druh_prvku::vyhybka ||
-            stav_vyhybky_cislo(n) != poloha + stav_vyhybky::rezervace || drzi_jina_cesta(n, cesta.Vlak))
-            continue;
-        if (stoji_na_vyhybce(n))
-            vyhybka_stav(n, poloha + stav_vyhybky::obsazena, false, false);
-        else
-            uvolni_zaver_vyhybky(n, poloha);
-    }
-}
-
 // A route that a removal moves down waits for the next step: this is meant.
 void uklid_cesty() {
     bool zmena = false;
@@ -453,8 +415,7 @@ void uklid_cesty() {
         const int v = cesta_c(c).Vlak;
         const bool osirela = v >= 0 && (v >= static_cast<int>(vlaky.size()) || vlak_c(v).cislo < 1);
         if (cesta_c(c).zacatek >= 0 && (osirela || v == kKOdstraneni)) {
-            uvolni_bez_rnz(cesta_c(c));
-            smaz_cestu(c);
+            ukonci_bez_vlaku(c);
             zmena = true;
         }
     }

@@ -52,12 +52,18 @@ std::optional<Barva> pozadi_poznamky(int kolej) {
     return i < 0 ? std::nullopt : pozadi_stitku(stitky[static_cast<std::size_t>(i)]);
 }
 
+// Backgrounds of a train that waits in a station: see the stops.
+bool je_pozadi_cekani(Barva pozadi) {
+    return pozadi == barvy::cervena || pozadi == 0x00FFFF || pozadi == barvy::seda;
+}
+
 void zobraz_jeden_stitek(int e, const std::vector<std::int16_t>& seznam) {
     Prvek& stitek = relief.cislo_koleje[e];
     const int vlak = prvni_vlak(seznam.begin(), seznam.end());
     nastav_text(stitek, vlak >= 0 && e < 500 ? text_vlaku(vlak) : Text{});
     stitek.viditelny = !orez(stitek.text()).empty();
-    if (!stitek.viditelny()) // nobody waits here any more
+    const bool prazdny = !stitek.viditelny();
+    if (prazdny || (vlaky[static_cast<std::size_t>(vlak)].muze_jet && je_pozadi_cekani(stitek.pozadi)))
         nastav_pozadi_stitku(e, pozadi_poznamky(e).value_or(barvy::cerna));
 }
 

@@ -5,6 +5,7 @@
 #include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
+#include "cesty/uvolneni.h"
 #include "cesty/zasobnik.h"
 #include "desk/info_o_vlaku.h"
 #include "desk/tabulka_vlaku.h"
@@ -98,7 +99,7 @@ void predej_cesty(int zanikl, int zustal) {
             cesta.Vlak = static_cast<std::int16_t>(zustal);
             continue;
         }
-        smaz_cestu(c);
+        ukonci_bez_vlaku(c);
         zmena_zasobniku();
     }
 }

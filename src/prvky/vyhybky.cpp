@@ -2,6 +2,7 @@
 #include "prvky/vyhybky.h"
 
 #include "app/cas.h"
+#include "app/kontrola_majitelu.h"
 #include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"
 #include "cesty/tabulky.h"
@@ -357,6 +358,7 @@ void hod_vyhybku(int n, PovelVyhybky povel) {
 }
 
 void vyhybka_nouz(int n) {
+    zapis_nouz(n);
     vyhybka_stav(n, nouz(poloha_stavu(stav_vyhybky_cislo(n))), false, false);
 }
 

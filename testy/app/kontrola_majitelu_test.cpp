@@ -1,5 +1,6 @@
 // testy/app/kontrola_majitelu_test.cpp - each colour without its owner is found, and sound running is left in
 // peace.
+#include "app/kontrola.h"
 #include "app/kontrola_majitelu.h"
 #include "cesty/dotazy.h"
 #include "jizda/svet_vlaku.h"
@@ -119,6 +120,30 @@ TEST_F(KontrolaMajitelu, CallingOnRouteReleasedByHandHoldsNoSwitch) {
     EXPECT_EQ(nalez(), "") << "it stays locked behind the train";
     cesta_c(c).PN_zaver = true;
     EXPECT_EQ(nalez(), "výhybka 7: je pod závěrem a žádná cesta ji nedrží");
+}
+
+TEST_F(KontrolaMajitelu, SwitchThatNouzTookOutOfItsRouteMayServeAnotherOne) {
+    const auto zavery = [] { // the check of the tables looks at the same
+        const std::optional<Text> text = kontrola_stavu();
+        return text ? na_utf8(*text) : std::string();
+    };
+    uzavrena_cesta();
+    ASSERT_EQ(nalez(), "");
+    vyhybka_nouz(7);
+    EXPECT_EQ(nalez(), "");
+    const int jina = cesta({263, 62, {63, 7, 62}, {1, 2, 1}, {2, 3, 2}, 0}, false);
+    cesta_c(jina).Kdy_prehoz = 1;
+    vyhybka_stav(7, 203, false, false);
+    EXPECT_EQ(nalez(), "");
+    EXPECT_EQ(zavery(), "");
+    cesty.erase(cesty.begin());
+    barvi_prvek(440, barvy::seda);
+    relief.navestidlo[262].barva = barvy::seda;
+    EXPECT_EQ(nalez(), "");
+    uzavrena_cesta(); // a new one has not lost it
+    vyhybka_stav(7, 203, false, false);
+    EXPECT_EQ(nalez(), "výhybka 7: neleží, jak žádá její cesta");
+    EXPECT_EQ(zavery(), "cesty 1: výhybku 7 drží v jiné poloze cesta 0");
 }
 
 TEST_F(KontrolaMajitelu, SignalShowsProceedOnlyForARoute) {

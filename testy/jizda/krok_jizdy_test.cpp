@@ -194,6 +194,24 @@ TEST_F(Jizda, LockingOfACallingOnRouteGoesWithTheTrainThatLeavesTheJunction) {
     }
 }
 
+TEST_F(Jizda, RouteThatLosesItsTrainGivesBackWhatLiesBeforeItsHead) {
+    for (const bool vlakova : {true, false}) {
+        cesty = std::vector<Cesta>(1);
+        const int c = cesta({262, 63, {62, 440, 7, 63}, {1, 1, 2, 1}, {2, 0, 2, 0}, 0}, vlakova);
+        Cesta& osirela = cesty[static_cast<std::size_t>(c)];
+        osirela.Umazat = 1;
+        osirela.Vlak = 5; // coupled to another train on 440
+        barvi_prvek(440, barvy::cervena);
+        vyhybka_stav(7, 2 + (vlakova ? stav_vyhybky::vlak : stav_vyhybky::posun), false, false);
+        barvi_prvek(63, vlakova ? barvy::zelena : barvy::bila);
+        krok();
+        EXPECT_LT(cesty.front().zacatek, 0);
+        EXPECT_EQ(relief.kolej[440].barva, barvy::cervena) << "the other train stands there";
+        EXPECT_EQ(stav_vyhybky_cislo(7), 2);
+        EXPECT_EQ(relief.kolej[63].barva, barvy::seda);
+    }
+}
+
 TEST_F(Jizda, SwitchThatAnotherRouteHasLockedSinceStaysWhenItsCallingOnRouteGoes) {
     const int c = cesta({262, 63, {62, 440, 7, 63}, {1, 1, 2, 1}, {2, 0, 2, 0}, 0});
     Cesta& pn = cesty[static_cast<std::size_t>(c)];

@@ -68,6 +68,7 @@ TEST_F(NaKoleji, LabelOfATrainThatBecameAShuntWaitsForNothing) {
     pridej_kolej(34);
     const int a = vlak_na(34, false, 11);
     Prvek& stitek34 = relief.cislo_koleje[34];
+    vlak(a).muze_jet = false;
     nastav_pozadi_stitku(34, barvy::cervena); // it waits for its departure
     zobraz_kolej(zaznam_koleje(34));
     EXPECT_EQ(stitek34.pozadi, barvy::cervena);
@@ -79,6 +80,23 @@ TEST_F(NaKoleji, LabelOfATrainThatBecameAShuntWaitsForNothing) {
     zobraz_kolej(zaznam_koleje(34));
     EXPECT_EQ(stitek34.pozadi, 0x808000u) << "the note of the track";
     stitky = {{}};
+}
+
+TEST_F(NaKoleji, TrainThatMayRunDoesNotTakeOverTheColourOfOneThatWaited) {
+    pridej_kolej(34);
+    const int a = vlak_na(34, false, 11);
+    const int b = vlak_na(34, false, 22);
+    nastav_pozadi_stitku(34, barvy::cervena);
+    vlak(a).muze_jet = false;
+    zobraz_kolej(zaznam_koleje(34));
+    EXPECT_EQ(relief.cislo_koleje[34].pozadi, barvy::cervena) << "it still waits";
+    uber_z_koleje(34, a);
+    EXPECT_EQ(stitek(34), "22");
+    EXPECT_TRUE(vlak(b).muze_jet);
+    EXPECT_EQ(relief.cislo_koleje[34].pozadi, barvy::cerna);
+    nastav_pozadi_stitku(34, barvy::zelena); // the end that the operator has picked
+    zobraz_kolej(zaznam_koleje(34));
+    EXPECT_EQ(relief.cislo_koleje[34].pozadi, barvy::zelena);
 }
 
 TEST_F(NaKoleji, RemovalOfTheOnlyTrainLeavesItsNumberOnTheLabel) {

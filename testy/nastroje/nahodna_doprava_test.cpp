@@ -3,6 +3,7 @@
 #include "app/cas.h"
 #include "app/casovace.h"
 #include "app/kontrola.h"
+#include "app/kontrola_majitelu.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
 #include "cesty/tabulky.h"
@@ -72,6 +73,8 @@ protected:
                            " (after: " + posledni_ukon + ")";
             }
         }
+        if (const auto nalez = kontrola_majitelu())
+            return na_utf8(cas_hodin()) + ": " + na_utf8(*nalez) + " (after: " + posledni_ukon + ")";
         return {};
     }
 
