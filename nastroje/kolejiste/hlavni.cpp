@@ -75,115 +75,154 @@ void vypis_souhrn(const Plan& plan, const std::vector<ZaznamReliefu>& jeden, con
         std::printf("z %zu povinných čísel jich %zu ještě není nakresleno\n", povinnych, chybi);
 }
 
-int preloz(int argc, char** argv) {
+// --- the command line
+
+struct Zadani {
     std::string slozka, nahled_jeden, nahled_dva;
-    std::vector<std::string> zdroje, dotazy, cesty;
-    bool vypsat_chybejici = false, vypsat_trasy = false;
+    std::vector<std::string> zdroje, sousede;
+    std::vector<std::string> cesty; // three words each: from, side, to
+    bool chybi = false, tabulka = false;
+
+    bool je_dotaz() const { return !sousede.empty() || !cesty.empty() || chybi || tabulka; }
+};
+
+// False for wrong use, which has been told.
+bool precti_zadani(int argc, char** argv, Zadani& zadani) {
     for (int i = 1; i < argc; ++i) {
         const std::string a = argv[i];
-        std::string* kam = a == "--data"      ? &slozka
-                           : a == "--nahled"  ? &nahled_jeden
-                           : a == "--nahled2" ? &nahled_dva
+        std::string* kam = a == "--data"      ? &zadani.slozka
+                           : a == "--nahled"  ? &zadani.nahled_jeden
+                           : a == "--nahled2" ? &zadani.nahled_dva
                                               : nullptr;
         if (a == "--chybi") {
-            vypsat_chybejici = true;
+            zadani.chybi = true;
         } else if (a == "--tabulka") {
-            vypsat_trasy = true;
+            zadani.tabulka = true;
         } else if (a == "--cesta" && i + 3 < argc) {
-            cesty.insert(cesty.end(), argv + i + 1, argv + i + 4);
+            zadani.cesty.insert(zadani.cesty.end(), argv + i + 1, argv + i + 4);
             i += 3;
-        } else if ((kam || a == "--soused") && i + 1 < argc) {
-            ++i;
-            if (kam)
-                *kam = argv[i];
-            else
-                dotazy.emplace_back(argv[i]);
+        } else if (kam && i + 1 < argc) {
+            *kam = argv[++i];
+        } else if (a == "--soused" && i + 1 < argc) {
+            zadani.sousede.emplace_back(argv[++i]);
         } else if (a.starts_with("--")) {
             std::fprintf(stderr, "neznámá volba %s\n", a.c_str());
-            return 2;
+            return false;
         } else {
-            zdroje.push_back(a);
+            zadani.zdroje.push_back(a);
         }
     }
-    if (zdroje.empty()) {
+    if (zadani.zdroje.empty())
         std::fprintf(stderr, "tesk-kolejiste [--data SLOZKA] [--nahled SVG] [--nahled2 SVG] [--soused PRVEK] "
                              "[--cesta OD STRANA DO] [--chybi] [--tabulka] ZDROJ...\n");
-        return 2;
+    return !zadani.zdroje.empty();
+}
+
+// --- questions
+
+const char* pismeno_typu(Typ typ) {
+    return typ == Typ::vyhybka ? "v" : typ == Typ::vykolejka ? "d" : "";
+}
+
+void vypis_okoli(const Plan& plan, const Graf& graf, const std::string& prvek) {
+    const Typ typ = prvek.starts_with('v')   ? Typ::vyhybka
+                    : prvek.starts_with('d') ? Typ::vykolejka
+                                             : Typ::kolej;
+    const std::string cislo = typ == Typ::kolej ? prvek : prvek.substr(1);
+    std::printf("%s", okoli(plan, graf, typ, std::atoi(cislo.c_str())).c_str());
+}
+
+void vypis_cestu(const Plan& plan, const Graf& graf, const std::string& od, const std::string& strana,
+                 const std::string& kam) {
+    for (const Krok& k :
+         nejkratsi_cesta(plan, graf, std::atoi(od.c_str()), strana == "vpravo", std::atoi(kam.c_str())))
+        std::printf("%s%d%s ", pismeno_typu(k.typ), k.cislo,
+                    k.poloha ? ("." + std::to_string(k.poloha)).c_str() : "");
+    std::printf("\n");
+}
+
+void vypis_chybejici(const Plan& plan, const std::vector<ZaznamReliefu>& jeden) {
+    for (const auto& [druh, cisla] : chybejici(plan, jeden)) {
+        std::printf("%s:", druh.c_str());
+        for (const int n : cisla)
+            std::printf(" %d", n);
+        std::printf("\n");
     }
-    Plan plan;
-    std::vector<Zavada> zavady;
+}
+
+// --- the compilation
+
+// False when a source cannot be read, which has been told.
+bool precti_zdroje(const std::vector<std::string>& zdroje, Plan& plan, std::vector<Zavada>& zavady) {
     for (const std::string& zdroj : zdroje) {
         std::ifstream f(zdroj, std::ios::binary);
         std::ostringstream text;
         text << f.rdbuf();
         if (!f) {
             std::fprintf(stderr, "%s: nelze přečíst\n", zdroj.c_str());
-            return 2;
+            return false;
         }
         // in messages the source is named from its own folder
         const std::filesystem::path cesta(zdroj);
         precti(text.str(), (cesta.parent_path().filename() / cesta.filename()).string(), plan, zavady);
     }
+    return true;
+}
+
+void vypis_zavady(std::vector<Zavada>& zavady) {
+    std::stable_sort(zavady.begin(), zavady.end(), [](const Zavada& a, const Zavada& b) {
+        return std::tie(a.misto.soubor, a.misto.radek) < std::tie(b.misto.soubor, b.misto.radek);
+    });
+    for (const Zavada& z : zavady)
+        std::fprintf(stderr, "%s\n", veta(z).c_str());
+    std::fprintf(stderr, "%zu závad\n", zavady.size());
+}
+
+bool zapis_data(const std::filesystem::path& slozka, const Plan& plan,
+                const std::vector<ZaznamReliefu>& jeden, const std::vector<ZaznamReliefu>& dva,
+                const std::vector<Trasa>& trasy) {
+    std::error_code potiz;
+    std::filesystem::create_directories(slozka, potiz);
+    return zapis(slozka / "tesk.rea", soubor_reliefu(jeden, "Tesk, jeden monitor")) &&
+           zapis(slozka / "tesk.reb", soubor_reliefu(dva, "Tesk, dva monitory")) &&
+           zapis(slozka / "tesk.top", soubor_delek(plan)) &&
+           zapis(slozka / "tesk.pzz", soubor_prejezdu(plan)) &&
+           zapis(slozka / "tesk.stg", soubor_vazeb(plan)) &&
+           zapis(slozka / "tesk.zat", soubor_tras(trasy, DruhTrasy::vlak)) &&
+           zapis(slozka / "tesk.zpc", soubor_tras(trasy, DruhTrasy::posun)) &&
+           zapis(slozka / "tesk.mak", Bajty{});
+}
+
+int preloz(const Zadani& zadani) {
+    Plan plan;
+    std::vector<Zavada> zavady;
+    if (!precti_zdroje(zadani.zdroje, plan, zavady))
+        return 2;
     const Graf graf = sestav_graf(plan, zavady);
     const auto jeden = nakresli(plan, Obraz::jeden, zavady), dva = nakresli(plan, Obraz::dva, zavady);
     zkontroluj(plan, graf, jeden, dva, zavady);
     const std::vector<Trasa> trasy = odvod_trasy(plan, graf, zavady);
     zkontroluj_trasy(plan, graf, trasy, zavady);
 
-    if (!nahled_jeden.empty() && !zapis(nahled_jeden, nahled(jeden, Obraz::jeden)))
+    if (!zadani.nahled_jeden.empty() && !zapis(zadani.nahled_jeden, nahled(jeden, Obraz::jeden)))
         return 2;
-    if (!nahled_dva.empty() && !zapis(nahled_dva, nahled(dva, Obraz::dva)))
+    if (!zadani.nahled_dva.empty() && !zapis(zadani.nahled_dva, nahled(dva, Obraz::dva)))
         return 2;
-    for (const std::string& d : dotazy) {
-        const bool vyhybka = d.starts_with('v'), vykolejka = d.starts_with('d');
-        std::printf("%s", okoli(plan, graf,
-                                vyhybka     ? Typ::vyhybka
-                                : vykolejka ? Typ::vykolejka
-                                            : Typ::kolej,
-                                std::atoi(d.c_str() + (vyhybka || vykolejka)))
-                              .c_str());
-    }
-    for (std::size_t i = 0; i < cesty.size(); i += 3) {
-        for (const Krok& k : nejkratsi_cesta(plan, graf, std::atoi(cesty[i].c_str()),
-                                             cesty[i + 1] == "vpravo", std::atoi(cesty[i + 2].c_str())))
-            std::printf("%s%d%s ",
-                        k.typ == Typ::vyhybka     ? "v"
-                        : k.typ == Typ::vykolejka ? "d"
-                                                  : "",
-                        k.cislo, k.poloha ? ("." + std::to_string(k.poloha)).c_str() : "");
-        std::printf("\n");
-    }
-    if (vypsat_chybejici)
-        for (const auto& [druh, cisla] : chybejici(plan, jeden)) {
-            std::printf("%s:", druh.c_str());
-            for (const int n : cisla)
-                std::printf(" %d", n);
-            std::printf("\n");
-        }
-    if (vypsat_trasy)
+    for (const std::string& prvek : zadani.sousede)
+        vypis_okoli(plan, graf, prvek);
+    for (std::size_t i = 0; i < zadani.cesty.size(); i += 3)
+        vypis_cestu(plan, graf, zadani.cesty[i], zadani.cesty[i + 1], zadani.cesty[i + 2]);
+    if (zadani.chybi)
+        vypis_chybejici(plan, jeden);
+    if (zadani.tabulka)
         std::printf("%s", tabulka_tras(plan, trasy).c_str());
     if (!zavady.empty()) {
-        std::stable_sort(zavady.begin(), zavady.end(), [](const Zavada& a, const Zavada& b) {
-            return std::tie(a.misto.soubor, a.misto.radek) < std::tie(b.misto.soubor, b.misto.radek);
-        });
-        for (const Zavada& z : zavady)
-            std::fprintf(stderr, "%s\n", veta(z).c_str());
-        std::fprintf(stderr, "%zu závad\n", zavady.size());
+        vypis_zavady(zavady);
         return 1;
     }
-    if (!slozka.empty()) {
-        std::error_code potiz;
-        std::filesystem::create_directories(slozka, potiz);
-        const std::filesystem::path s(slozka);
-        if (!zapis(s / "tesk.rea", soubor_reliefu(jeden, "Tesk, jeden monitor")) ||
-            !zapis(s / "tesk.reb", soubor_reliefu(dva, "Tesk, dva monitory")) ||
-            !zapis(s / "tesk.top", soubor_delek(plan)) || !zapis(s / "tesk.pzz", soubor_prejezdu(plan)) ||
-            !zapis(s / "tesk.stg", soubor_vazeb(plan)) ||
-            !zapis(s / "tesk.zat", soubor_tras(trasy, DruhTrasy::vlak)) ||
-            !zapis(s / "tesk.zpc", soubor_tras(trasy, DruhTrasy::posun)) || !zapis(s / "tesk.mak", Bajty{}))
-            return 2;
-    }
-    if (dotazy.empty() && cesty.empty() && !vypsat_chybejici && !vypsat_trasy)
+    if (!zadani.slozka.empty() && !zapis_data(zadani.slozka, plan, jeden, dva, trasy))
+        return 2;
+    if (!zadani.je_dotaz())
         vypis_souhrn(plan, jeden, graf, trasy);
     return 0;
 }
@@ -192,7 +231,8 @@ int preloz(int argc, char** argv) {
 
 int main(int argc, char** argv) {
     try {
-        return preloz(argc, argv);
+        Zadani zadani;
+        return precti_zadani(argc, argv, zadani) ? preloz(zadani) : 2;
     } catch (const std::exception& potiz) {
         std::fprintf(stderr, "tesk-kolejiste: %s\n", potiz.what());
         return 2;

@@ -103,7 +103,7 @@ void ukaz_prejezd(int k) {
         lampy.ramecek = ramecek;
         nastav_text(lampy, text);
     };
-    if (prejezd.pocet != 128 || prejezd.uzavren)
+    if (prejezd.pocet != kBezVlaku || prejezd.uzavren)
         nastav(false, lampy_zavreno());
     else if (prejezd.cas <= -1)
         nastav(true, lampy_stridave(13, 16));

@@ -9,9 +9,6 @@
 
 namespace {
 
-constexpr std::int32_t kDen_s = 86400;
-constexpr std::int32_t kDen_min = 1440;
-
 std::int32_t v_mezich(std::int32_t hodnota, std::int32_t delka) {
     const std::int32_t zbytek = hodnota % delka;
     return zbytek < 0 ? zbytek + delka : zbytek;

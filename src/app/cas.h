@@ -8,6 +8,8 @@
 
 #include <cstdint>
 
+inline constexpr std::int32_t kDen_s = 86400, kDen_min = 1440; // a day
+
 // The text is a reading of the clock: "8:05:30", the hour with one digit or two.
 bool je_text_casu(TextPohled cas);
 // Seconds since midnight of a text "h:mm:ss" or "h:mm"; what cannot be read counts 0.

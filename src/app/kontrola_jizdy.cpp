@@ -219,7 +219,7 @@ void nacti_sousedy() {
 bool sousedi_na_trati(int a, int b) {
     if (a > b)
         std::swap(a, b);
-    if (a < 600 || (b - a) % kKrokTrati != 0)
+    if (!je_usek_trati(a) || (b - a) % kKrokTrati != 0)
         return false;
     for (int n = a + kKrokTrati; n < b; n += kKrokTrati)
         if (relief.kolej.je(n))
@@ -355,7 +355,7 @@ bool zavira(const Cesta& c) {
     if (c.prejezd >= stanicni_prejezdy.size())
         return false;
     const StanicniPrejezd& p = stanicni_prejezdy[c.prejezd];
-    return p.uzavren || p.UZ || p.pocet != 128 || p.cas >= 0;
+    return p.uzavren || p.UZ || p.pocet != kBezVlaku || p.cas >= 0;
 }
 
 // A train stands before the signal: the road is closed first. NOT, by which the operator opens it in
@@ -364,7 +364,8 @@ Nalez prejezd_navesti(const Cesta& c, const VidenaCesta& drive) {
     if (c.PN || !c.prejezd_zaver || c.prejezd >= stanicni_prejezdy.size())
         return std::nullopt;
     const StanicniPrejezd& p = stanicni_prejezdy[c.prejezd];
-    if (p.cas > ted_s() && !p.uzavren && p.pocet == 128) // a closed road may have another closing before it
+    if (p.cas > ted_s() && !p.uzavren &&
+        p.pocet == kBezVlaku) // a closed road may have another closing before it
         return cesta_textem(c, "návěst dovoluje jízdu přes přejezd, který se teprve zavírá"_cz);
     if (!drive.zavirala && !zavira(c))
         return cesta_textem(c, "návěst dovoluje jízdu přes přejezd, který se nezavíral"_cz);
@@ -374,14 +375,15 @@ Nalez prejezd_navesti(const Cesta& c, const VidenaCesta& drive) {
 // Sense in which a route runs over the sections of the line group: 1 up, -1 down, 0 not to be told.
 int smer_po_trati(const std::vector<std::int16_t>& prvky, std::size_t od, int zaklad) {
     for (std::size_t k = od; k + 1 < prvky.size(); ++k)
-        if (prvky[k] >= 600 && prvky[k + 1] >= 600 && zaklad_trati(prvky[k]) == zaklad &&
+        if (je_usek_trati(prvky[k]) && je_usek_trati(prvky[k + 1]) && zaklad_trati(prvky[k]) == zaklad &&
             zaklad_trati(prvky[k + 1]) == zaklad)
             return prvky[k] < prvky[k + 1] ? 1 : -1;
     return 0;
 }
 bool stoji_na_trati(const Vlak& v, int zaklad) {
     for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j)
-        if (v.prvky_druh[j] == druh_prvku::kolej && v.prvky[j] >= 600 && zaklad_trati(v.prvky[j]) == zaklad)
+        if (v.prvky_druh[j] == druh_prvku::kolej && je_usek_trati(v.prvky[j]) &&
+            zaklad_trati(v.prvky[j]) == zaklad)
             return true;
     return false;
 }
@@ -394,7 +396,7 @@ Nalez smer_navesti(const Cesta& c) {
         if (&jina != &c && jina.ZT == kZTprogramu && c.ZT != kZTprogramu && jina.konec == c.konec &&
             konec_trati(c.konec) >= 0)
             return cesta_textem(c, "návěst dovoluje jízdu proti vlaku, který má souhlas"_cz);
-    if (posledni_prvek(c) < 600 || c.ZT == kZTprogramu)
+    if (!je_usek_trati(posledni_prvek(c)) || c.ZT == kZTprogramu)
         return std::nullopt;
     const int zaklad = zaklad_trati(posledni_prvek(c));
     const int smer = smer_po_trati(c.prvky, 1, zaklad);
@@ -430,7 +432,7 @@ Nalez navesti() {
 // --- directions of the lines
 
 bool jsou_vlaky_u_sipky(int n) {
-    if (n < 600)
+    if (!je_usek_trati(n))
         return relief.kolej.je(n) && relief.kolej[n].barva == barvy::cervena;
     for (int usek = zaklad_trati(n); usek <= kNejvyssiPrvek; usek += kKrokTrati)
         if (relief.kolej.je(usek) && relief.kolej[usek].barva == barvy::cervena)

@@ -115,7 +115,7 @@ void zapis_vlak(const Vlak& v) {
 
 // Tracks that no route paints: they may be shared.
 bool jen_sipkou(int n) {
-    return n >= 600 || n == 118 || n == 84 || n == 85 || n == 117 || n == 212 || n == 213 || n == 219;
+    return je_usek_trati(n) || je_hranicni(n);
 }
 
 void zapis_zaver(const Cesta& c, std::size_t k, Mnozina& vlakove) {
@@ -140,7 +140,7 @@ void zapis_zaver(const Cesta& c, std::size_t k, Mnozina& vlakove) {
             break;
         pridej(majitele.cesta_vyhybka, n);
         if (pred_celem && relief.imgVyhybka.je(n) && stav_vyhybky_cislo(n) >= stav_vyhybky::vlak &&
-            stav_vyhybky_cislo(n) % 50 != poloha_na(c, k))
+            poloha_stavu(stav_vyhybky_cislo(n)) != poloha_na(c, k))
             pridej(majitele.vadne_polohy, n);
         break;
     default: break;

@@ -35,7 +35,6 @@ namespace {
 constexpr TextPohled kNastaveni = "Nastaveni";
 constexpr int kZhasleNavestidlo = 305; // the junction's fixed exercise: a main signal whose lamp has failed
 constexpr int kPosunZhasleho = 120;    // twips
-constexpr int kObrazekVyhybky = 100;   // number of the picture of a switch in state 0
 
 // Calls `co(prvek, n)` for every element of a kind, by rising number.
 template <class Co> void kazdy(TabulkaPrvku& prvky, Co co) {
@@ -162,7 +161,7 @@ void obarvi_nenatrene() {
 // "T2" goes grey at any number: that order of the two questions is meant.
 void obarvi_cisla_koleji() {
     kazdy(relief.cislo_koleje, [](Prvek& p, int n) {
-        const bool sede = orez(p.text()) == "T2" || (n < 600 && !orez(p.popis()).empty());
+        const bool sede = orez(p.text()) == "T2" || (!je_usek_trati(n) && !orez(p.popis()).empty());
         p.barva = sede ? barvy::seda : barvy::bila;
         p.viditelny = !orez(p.text()).empty();
     });

@@ -14,14 +14,9 @@
 
 namespace {
 
-// Tracks of the line ends and the single track 118: routes only lock them by their lamps and arrows.
-constexpr bool je_hranicni(int n) {
-    return n == 118 || n == 84 || n == 85 || n == 117 || n == 212 || n == 213 || n == 219;
-}
-
 // 638 is a track of Rybnice as well as a section of its line.
 constexpr bool je_tratovy(int n) {
-    return (n >= 600 && n != 638) || je_hranicni(n);
+    return (je_usek_trati(n) && n != 638) || je_hranicni(n);
 }
 
 // Tracks drawn in more than one picture: the first one's colour holds for all.
@@ -63,12 +58,10 @@ void obarvi_stitek(int n, Barva barva) {
 }
 
 void obarvi_stitky(int n, Barva barva) {
-    const bool stanicni = n < 200 || (n >= 401 && n <= 599) || n == 638;
-    if (!stanicni || je_hranicni(n) || n == 120 || n == 123)
+    if (!stitek_ma_barvu_koleje(n))
         return;
     obarvi_stitek(n, barva);
-    // 212, 213 and 219 are labels of the line ends and no second labels of 12, 13 and 19.
-    if (n < 200 && n != 12 && n != 13 && n != 19)
+    if (muze_mit_pravy_stitek(n))
         obarvi_stitek(n + 200, barva);
 }
 
@@ -89,6 +82,11 @@ bool je_v_rohu(const Prvek& n, const Prvek& a, const Prvek& b) {
 }
 
 } // namespace
+
+bool stitek_ma_barvu_koleje(int n) {
+    const bool stanicni = n < 200 || (n >= 401 && n <= 599) || n == 638;
+    return stanicni && !je_hranicni(n) && n != 120 && n != 123;
+}
 
 int vzor_zrcadla(int n) {
     const auto zrcadlo = std::find_if(kZrcadla.begin(), kZrcadla.end(), [n](const Zrcadlo& z) {

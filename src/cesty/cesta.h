@@ -72,3 +72,8 @@ inline constexpr std::int16_t kKopieAB = -4;
 inline constexpr std::int16_t kKOdstraneni = -10;
 
 extern std::vector<Cesta> cesty;
+
+// Record c of the table. An index that is none is the run-time error 9.
+inline Cesta& cesta_c(int c) {
+    return cesty.at(static_cast<std::size_t>(c));
+}

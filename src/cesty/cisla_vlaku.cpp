@@ -102,9 +102,10 @@ void pis_na_trat(int n, TextPohled text) {
 
 // A track with two labels of one name: which train stands where is the running's to show.
 bool ma_dva_stejne_stitky(int n) {
-    if (n == 12 || n == 13 || n == 19 || n == 212 || n == 213 || n == 219)
+    const int levy = n < 200 ? n : n - 200;
+    if (!muze_mit_pravy_stitek(levy))
         return false;
-    const int druhy = n < 200 ? n + 200 : n < 400 ? n - 200 : kZadny;
+    const int druhy = n < 200 ? n + 200 : levy;
     return je_cislo_koleje(n) && je_cislo_koleje(druhy) &&
            orez(relief.cislo_koleje[n].popis()) == orez(relief.cislo_koleje[druhy].popis());
 }
@@ -161,7 +162,7 @@ void uvolni_trat(int n, const std::vector<int>& stitky, bool tise) {
     if (!tise && std::none_of(stitky.begin(), stitky.end(), ukazuje_cislo) && !trat_drzi_cesta(n))
         zhasni_sipku(zaklad_trati(n));
     for (Prejezd& prejezd : prejezdy)
-        if (prejezd.kolej >= 600 && zaklad_trati(prejezd.kolej) == zaklad_trati(n))
+        if (je_usek_trati(prejezd.kolej) && zaklad_trati(prejezd.kolej) == zaklad_trati(n))
             prejezd.uvolnen = false;
 }
 
@@ -267,7 +268,7 @@ bool drzi_jine_cislo(int stitek, TextPohled text) {
 
 void pis_cislo(int prvek, TextPohled text, bool mazat, bool tise) {
     const Text cislo(text); // the caller's view may lie in a label that changes here
-    if (prvek < 600)
+    if (!je_usek_trati(prvek))
         mazat ? smaz_z_koleje(prvek) : pis_na_kolej(prvek, cislo, tise);
     else
         mazat ? smaz_z_trati(prvek, cislo, tise) : pis_na_trat(prvek, cislo);
@@ -275,7 +276,7 @@ void pis_cislo(int prvek, TextPohled text, bool mazat, bool tise) {
 }
 
 void postup_cisla(int i) {
-    const Cesta* cesta = &cesty.at(static_cast<std::size_t>(i));
+    const Cesta* cesta = &cesta_c(i);
     if (!cesta->VC || bezi_proti_sipce(*cesta))
         return; // a shunting movement carries no number
     const Text text = cislo_pred_navestidlem(kolej_navestidla(cesta->zacatek));
@@ -291,7 +292,7 @@ void postup_cisla(int i) {
 }
 
 void vymaz_cislo(int i, bool tiche, TextPohled text) {
-    const Cesta* cesta = &cesty.at(static_cast<std::size_t>(i));
+    const Cesta* cesta = &cesta_c(i);
     // Signal 639 stands at the far end of its line: the label before it is that of the second section.
     const int kolej = cesta->zacatek == 639 ? 688 : kolej_navestidla(cesta->zacatek);
     const Text cislo = orez(text).empty() ? cislo_pred_navestidlem(kolej) : Text(orez(text));
@@ -307,7 +308,7 @@ void vymaz_cislo(int i, bool tiche, TextPohled text) {
 }
 
 void vrat_jmeno_koleje(int prvek) {
-    if (prvek >= 600 || !je_cislo_koleje(prvek) || !je_kolej(prvek) || !je_volna(prvek))
+    if (je_usek_trati(prvek) || !je_cislo_koleje(prvek) || !je_kolej(prvek) || !je_volna(prvek))
         return;
     Prvek& stitek = relief.cislo_koleje[prvek];
     if (orez(stitek.popis()).empty())

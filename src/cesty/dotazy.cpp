@@ -57,10 +57,19 @@ int nevolny_usek(int n) {
     return je_seda(n) && m != kZadny && !je_seda(m) ? m : n;
 }
 
+bool je_volna_kolej(int n) {
+    return je_kolej(n) && je_volna(n);
+}
+
+int prvni_volna_kolej(std::span<const int> koleje) {
+    const auto volna = std::find_if(koleje.begin(), koleje.end(), je_volna_kolej);
+    return volna == koleje.end() ? -1 : *volna;
+}
+
 bool cil_volny(int n) {
     if (cesty.front().zacatek < 0)
         return true;
-    if (n < 600)
+    if (!je_usek_trati(n))
         return !nektera(
             [n](const Cesta& c) { return posledni_prvek(c) == n && (c.prehozena || c.Postavena); });
     if (je_kolej(n) && relief.kolej[n].barva == barvy::cervena)
@@ -133,7 +142,7 @@ Text popis_cesty(const Cesta& c) {
 }
 
 Text popis_cesty(int i) {
-    return popis_cesty(cesty.at(static_cast<std::size_t>(i)));
+    return popis_cesty(cesta_c(i));
 }
 
 int glyf_navestidla(int s) {
@@ -196,7 +205,7 @@ void obnov_odjete() {
             if (druh_na(c, k) == druh_prvku::kolej)
                 drzi(c.prvky[k]);
     }
-    for (int n = 0; n < 600; ++n) {
+    for (int n = 0; n < kPrvniTrat; ++n) {
         if (!je_kolej(n) || relief.kolej[n].barva != barvy::azurova)
             continue;
         // A picture that only repeats the colour of another track goes with that one.

@@ -9,6 +9,7 @@
 
 #include <bitset>
 #include <cstdint>
+#include <span>
 
 // Numbered sections that a tail has left: they keep the cyan tint while the train is still on its
 // route, but are free for the next one. A section leaves the set when it is painted again.
@@ -21,6 +22,10 @@ extern std::bitset<kNejvyssiPrvek + 1> odjete;
 bool je_volna(int n);
 // Of the two parts the one for which je_volna(n) says no: n itself first; n when it is free.
 int nevolny_usek(int n);
+// The track n exists and is free.
+bool je_volna_kolej(int n);
+// First one of the tracks that exists and is free; -1 when none is.
+int prvni_volna_kolej(std::span<const int> koleje);
 // No other route holds n as its end; for a line section also: no train stands on it.
 bool cil_volny(int n);
 // A route stands from track n, and no train has entered it.

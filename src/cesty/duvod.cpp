@@ -119,7 +119,7 @@ const Cesta* zdrzujici(int i, std::int32_t ted) {
     if (!plati_vz())
         return nullptr;
     for (int j = 0; j < i; ++j) {
-        const Cesta& c = cesty[static_cast<std::size_t>(j)];
+        const Cesta& c = cesta_c(j);
         if (c.Vlak == kKopieAB)
             continue;
         const FazeCesty faze = faze_cesty(c, ted);
@@ -165,7 +165,7 @@ Text duvod_klidu(const Cesta& c, std::int32_t ted) {
 Text duvod_cekani(int i) {
     if (i < 0 || static_cast<std::size_t>(i) >= cesty.size())
         return {};
-    const Cesta& c = cesty[static_cast<std::size_t>(i)];
+    const Cesta& c = cesta_c(i);
     if (c.zacatek < 0)
         return {};
     if (static_cast<std::size_t>(i) >= kNejvicCest)

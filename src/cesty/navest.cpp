@@ -24,6 +24,5 @@ bool je_zablokovano(int s) {
 }
 
 bool je_vjezd_z_trati(const Cesta& cesta) {
-    const int prvni = prvni_prvek(cesta);
-    return prvni == 212 || prvni == 213 || prvni == 219;
+    return je_vstup_z_trati(prvni_prvek(cesta));
 }

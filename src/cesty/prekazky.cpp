@@ -51,7 +51,7 @@ Prekazka prekazka_prvku(const Cesta& c) {
 
 Prekazka prekazka_konce(const Cesta& c) {
     const std::size_t vse = c.prvky.size();
-    if (c.VC && !c.PN && c.konec < 600 && !cil_volny(c.konec))
+    if (c.VC && !c.PN && !je_usek_trati(c.konec) && !cil_volny(c.konec))
         return {DruhPrekazky::konec, c.konec, vse};
     if (!c.VC && je_vlak_do(posledni_prvek(c)))
         return {DruhPrekazky::vlakova_cesta, posledni_prvek(c), vse};
@@ -64,7 +64,7 @@ Prekazka prekazka_trati(const Cesta& c) {
     if (!c.PN) {
         // A route that ends on the far section of a line runs down its numbers.
         const int sipka = sipka_konce(c.konec);
-        if (c.konec >= 600 && c.konec <= 699 &&
+        if (je_usek_trati(c.konec) && c.konec <= 699 &&
             sipka_drzi(sipka, posledni > 649 ? kSipkaVpravo : kSipkaVlevo))
             return {DruhPrekazky::opacny_smer, sipka, vse};
         for (int k = 0; k < 3; ++k)

@@ -18,7 +18,7 @@ bool stoji_vlak_na_trati(int n) {
 
 int sipka_konce(int konec) {
     const int n = trat_za_koleji(konec);
-    return n >= 600 && !relief.lblSouhlas2.je(n) ? zaklad_trati(n) : n;
+    return je_usek_trati(n) && !relief.lblSouhlas2.je(n) ? zaklad_trati(n) : n;
 }
 
 bool sipka_drzi(int n, TextPohled smer) {
@@ -31,7 +31,7 @@ bool sipka_neni_seda(int n) {
 }
 
 bool vede_na_trat(const Cesta& cesta) {
-    return cesta.VC && posledni_prvek(cesta) >= 600;
+    return cesta.VC && je_usek_trati(posledni_prvek(cesta));
 }
 
 TextPohled smer_na_trat(const Cesta& cesta) {
@@ -67,7 +67,7 @@ void zhasni_sipku(int n) {
 
 void uvolni_smer(int konec) {
     const bool pred_trati = je_konec_pred_trati(konec);
-    if (!pred_trati && (konec < 600 || konec > 698))
+    if (!pred_trati && (!je_usek_trati(konec) || konec > 698))
         return;
     // The direction outlives this route while a train is on the line or another route leads there.
     const int usek = trat_za_koleji(konec);

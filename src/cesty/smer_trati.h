@@ -10,14 +10,9 @@
 
 inline constexpr TextPohled kSipkaVpravo = ">>";
 inline constexpr TextPohled kSipkaVlevo = "<<";
-inline constexpr int kKrokTrati = 50; // from one section of a line to the next
 
 // --- at any time, without change
 
-// First number of the line group of section n.
-constexpr int zaklad_trati(int n) {
-    return 600 + n % kKrokTrati;
-}
 // The track 93, 94 or 96 before the junction lines, whose ends share the arrow of a section.
 constexpr bool je_konec_pred_trati(int n) {
     return n == 93 || n == 94 || n == 96;

@@ -32,7 +32,6 @@ namespace {
 constexpr std::int32_t kPrestaveni_s = 5; // switches have run, the route may be locked
 constexpr std::int32_t kZavirani_s = 40;  // the crossing begins to close
 constexpr std::int32_t kPrivolavaci_s = 30;
-constexpr int kZnakVKoleji = 21; // glyph of a derailer in the way of a route
 
 // What one walk carries from route to route.
 struct Pruchod {
@@ -150,7 +149,7 @@ void oznac_prvky(Cesta& c, std::size_t dosel) {
             c.prejezd = 0;
         if (n == 279 || n == 280)
             c.prejezd = 1;
-        if (je_cil(n) && (n < 600 || n == 638))
+        if (je_cil(n) && (!je_usek_trati(n) || n == 638))
             c.polohy[k] = 2;
     }
 }
@@ -277,14 +276,6 @@ void uzavri_vyhybku(const Cesta& c, int n, int poloha) {
     vyhybka_stav(n, poloha + trida, true, konec_trojice(poloha) != 1);
 }
 
-void uzavri_vykolejku(int n) {
-    Prvek& vykolejka = relief.lblVykolejka[n];
-    nastav_text(vykolejka, znak(kZnakVKoleji));
-    vykolejka.barva = barvy::bila;
-    vykolejka.pozadi = barvy::cerna;
-    vykolejka.ramecek = false;
-}
-
 void uzavri_prvky(const Cesta& c) {
     const std::size_t posledni = posledni_index(c);
     for (std::size_t k = 1; k <= posledni; ++k) {
@@ -321,7 +312,7 @@ void prodluz_po_trati(Cesta& c) {
         for (int n = posledni + kKrokTrati; n <= kNejvyssiPrvek; n += kKrokTrati)
             pripoj_usek(c, n);
     } else {
-        for (int n = posledni - kKrokTrati; n >= 600; n -= kKrokTrati)
+        for (int n = posledni - kKrokTrati; n >= kPrvniTrat; n -= kKrokTrati)
             pripoj_usek(c, n);
     }
 }
@@ -337,7 +328,7 @@ void rozsvit_navestidlo(Cesta& c, std::int32_t ted) {
 }
 
 void uzavri_cestu(int i, Pruchod& pruchod) {
-    Cesta& c = cesty[static_cast<std::size_t>(i)];
+    Cesta& c = cesta_c(i);
     if (pruchod.ted <= c.Kdy_prehoz)
         return;
     uzavri_prvky(c);
@@ -369,7 +360,7 @@ void uzavri_cestu(int i, Pruchod& pruchod) {
 
 // One action of route i; true when the route is gone and the walk must start again.
 bool krok_cesty(int i, Pruchod& pruchod) {
-    Cesta& c = cesty[static_cast<std::size_t>(i)];
+    Cesta& c = cesta_c(i);
     switch (faze_cesty(c, pruchod.ted)) {
     case FazeCesty::zruseni: proved_zruseni(i); return true;
     case FazeCesty::privolavaci: blikni_privolavaci(c, pruchod.ted); break;

@@ -42,7 +42,7 @@ int index_cesty(const Cesta& c) {
 // about the locking.
 bool bez_barvy_zaveru(const Cesta& c, std::size_t k) {
     const int n = c.prvky[k];
-    if (n >= 600 || n == 84 || n == 85 || n == 117 || n == 118 || n == 212 || n == 213 || n == 219)
+    if (je_usek_trati(n) || je_hranicni(n))
         return true;
     if (k != posledni_index(c))
         return false;
@@ -52,7 +52,7 @@ bool bez_barvy_zaveru(const Cesta& c, std::size_t k) {
 bool prvek_je_uzavren(const Cesta& c, std::size_t k) {
     const int n = c.prvky[k];
     switch (druh_na(c, k)) {
-    case druh_prvku::vyhybka: return stav_vyhybky_cislo(n) % 50 == poloha_na(c, k);
+    case druh_prvku::vyhybka: return poloha_stavu(stav_vyhybky_cislo(n)) == poloha_na(c, k);
     case druh_prvku::kolej:
         return bez_barvy_zaveru(c, k) ||
                (relief.kolej[n].barva != barvy::cervena && relief.kolej[n].barva != barvy::seda);
@@ -87,11 +87,11 @@ void uvolni_prvky(const Cesta& c) {
     for (std::size_t k = 1; k < c.prvky.size(); ++k) {
         const int n = c.prvky[k];
         switch (druh_na(c, k)) {
-        case druh_prvku::vyhybka: uvolni_zaver_vyhybky(n, stav_vyhybky_cislo(n) % 50); break;
+        case druh_prvku::vyhybka: uvolni_zaver_vyhybky(n, poloha_stavu(stav_vyhybky_cislo(n))); break;
         case druh_prvku::vykolejka: relief.lblVykolejka[n].barva = barvy::seda; break;
         case druh_prvku::kolej:
             // Sections of a line are only ever painted by shunt routes.
-            if (n < 600 || n == 638 || (!c.VC && relief.kolej[n].barva == barvy::bila))
+            if (!je_usek_trati(n) || n == 638 || (!c.VC && relief.kolej[n].barva == barvy::bila))
                 uvolni_prvek(n);
             break;
         }
@@ -102,7 +102,7 @@ void uvolni_prvky(const Cesta& c) {
 bool vlak_stoji_v_cili(const Cesta& c) {
     if (c.Vlak < 0 || static_cast<std::size_t>(c.Vlak) >= vlaky.size())
         return false;
-    const Vlak& v = vlaky[static_cast<std::size_t>(c.Vlak)];
+    const Vlak& v = vlak_c(c.Vlak);
     return !v.prvky.empty() && v.prvky.back() == posledni_prvek(c) &&
            v.prvek_konec == static_cast<int>(v.prvky.size()) - 1;
 }
@@ -185,7 +185,7 @@ void zrus_cestu(int s) {
 }
 
 void proved_zruseni(int i) {
-    Cesta& c = cesty.at(static_cast<std::size_t>(i));
+    Cesta& c = cesta_c(i);
     const int konec = c.konec;
     if (navestidla(c.zacatek).je(c.zacatek) && !je_zablokovano(c.zacatek))
         navestidla(c.zacatek)[c.zacatek].barva = barvy::seda;
@@ -194,7 +194,7 @@ void proved_zruseni(int i) {
     vymaz_cislo(i, false, {});
     if (c.prejezd < stanicni_prejezdy.size() && c.prejezd_zaver && !stanicni_prejezdy[c.prejezd].UZ)
         stanicni_prejezdy[c.prejezd].cas = -3;
-    if (konec < 600 && c.VC && je_kolej(konec))
+    if (!je_usek_trati(konec) && c.VC && je_kolej(konec))
         uvolni_prvek(konec);
     vrat_jmeno_koleje(konec);
     if (!c.Postavena) {

@@ -174,7 +174,7 @@ int uprav_konec(int e) {
         return e - 200;
     if (e == 513)
         return 118;
-    return e > 600 && e % 2 == 1 ? e - 1 : e;
+    return e > kPrvniTrat && e % 2 == 1 ? e - 1 : e;
 }
 
 // The prompt goes on with the end's name; without a target with its track and metres.

@@ -52,7 +52,7 @@ void prepni_pv_vz(bool vz) {
 void odeber_ze_zasobniku(int i) {
     if (i < 0 || static_cast<std::size_t>(i) >= cesty.size())
         return;
-    const Cesta& cesta = cesty[static_cast<std::size_t>(i)];
+    const Cesta& cesta = cesta_c(i);
     if (cesta.zacatek < 0 || cesta.prehozena)
         return;
     uvolni_cekani(cesta, "0");

@@ -25,7 +25,7 @@ void odznac_navestidlo(int s) {
 }
 
 void zvyrazni_konec(int konec, Barva barva) {
-    if (konec < 600 && relief.cislo_koleje.je(konec))
+    if (!je_usek_trati(konec) && relief.cislo_koleje.je(konec))
         nastav_pozadi(relief.cislo_koleje[konec], barva);
 }
 

@@ -59,9 +59,83 @@ void napoveda_programu(std::ostream& kam) {
         kam << "  " << zapis << "\n";
 }
 
-int chyba_spusteni(const std::string& proc) {
-    std::cerr << "tesk-davka: " << proc << " (nápověda: tesk-davka --pomoc)\n";
-    return navrat::chyba_skriptu;
+// What the words behind the program's name say.
+struct Argumenty {
+    VolbyDavky volby;
+    std::optional<std::string> skript, vystup;
+    bool pomoc = false;
+};
+
+// The options that have a value.
+bool ma_hodnotu(std::string_view volba) {
+    return volba == "--slozka" || volba == "--vystup" || volba == "--semeno";
+}
+
+void nastav_volbu(Argumenty& a, std::string_view volba, const std::string& hodnota) {
+    if (volba == "--slozka") {
+        a.volby.slozka = hodnota;
+    } else if (volba == "--vystup") {
+        a.vystup = hodnota;
+    } else {
+        const auto semeno = cele_cislo(hodnota, 0, std::numeric_limits<std::int64_t>::max());
+        if (!semeno)
+            chyba_skriptu("semeno je celé číslo, ne " + v_uvozovkach(hodnota));
+        a.volby.semeno = static_cast<std::uint64_t>(*semeno);
+    }
+}
+
+// A word that cannot be understood is an error of the script.
+Argumenty precti_argumenty(const std::vector<std::string>& slova, const std::string& vychozi_slozka) {
+    Argumenty a;
+    a.volby.slozka = vychozi_slozka;
+    for (std::size_t i = 0; i < slova.size() && !a.pomoc; ++i) {
+        const std::string& slovo = slova[i];
+        const std::size_t rovna_se = slovo.find('=');
+        if (slovo == "--pomoc" || slovo == "--help" || slovo == "-h") {
+            a.pomoc = true;
+        } else if (slovo == "--kontrola") {
+            a.volby.kontrola = true;
+        } else if (!slovo.starts_with("--")) {
+            if (a.skript)
+                chyba_skriptu("skript je jen jeden, přebývá " + v_uvozovkach(slovo));
+            a.skript = slovo;
+        } else if (!ma_hodnotu(slovo.substr(0, rovna_se))) {
+            chyba_skriptu("neznámá volba " + v_uvozovkach(slovo));
+        } else if (rovna_se != std::string::npos) {
+            nastav_volbu(a, slovo.substr(0, rovna_se), slovo.substr(rovna_se + 1));
+        } else if (i + 1 < slova.size()) {
+            nastav_volbu(a, slovo, slova[++i]);
+        } else {
+            chyba_skriptu("za volbou " + v_uvozovkach(slovo) + " chybí hodnota");
+        }
+    }
+    return a;
+}
+
+int spust_skript(const VolbyDavky& volby, const std::string& skript, std::ostream& vystup) {
+    if (skript == "-") {
+        VolbyDavky po_radcich = volby;
+        po_radcich.po_radcich = true;
+        return spust_davku(po_radcich, std::cin, vystup, std::cerr);
+    }
+    std::ifstream soubor(skript, std::ios::binary);
+    if (!soubor || std::filesystem::is_directory(skript))
+        chyba_skriptu("skript " + v_uvozovkach(skript) + " nelze otevřít");
+    return spust_davku(volby, soubor, vystup, std::cerr);
+}
+
+int spust_s_vystupem(const Argumenty& a) {
+    std::ofstream do_souboru;
+    if (a.vystup) {
+        do_souboru.open(*a.vystup, std::ios::binary | std::ios::trunc);
+        if (!do_souboru)
+            chyba_skriptu("do souboru " + v_uvozovkach(*a.vystup) + " nelze psát");
+    }
+    std::ostream& vystup = a.vystup ? do_souboru : std::cout;
+    const int kod = spust_skript(a.volby, *a.skript, vystup);
+    if (!vystup)
+        chyba_skriptu("výstup nelze zapsat");
+    return kod;
 }
 
 } // namespace
@@ -112,71 +186,15 @@ int spust_davku(const VolbyDavky& volby, std::istream& skript, std::ostream& vys
 }
 
 int hlavni_davky(const std::vector<std::string>& argumenty, const std::string& vychozi_slozka) {
-    VolbyDavky volby;
-    volby.slozka = vychozi_slozka;
-    std::optional<std::string> skript, soubor_vystupu;
-    for (std::size_t i = 0; i < argumenty.size(); ++i) {
-        std::string volba = argumenty[i];
-        if (volba == "--pomoc" || volba == "--help" || volba == "-h") {
-            napoveda_programu(std::cout);
-            return navrat::v_poradku;
+    try {
+        const Argumenty a = precti_argumenty(argumenty, vychozi_slozka);
+        if (a.pomoc || !a.skript) {
+            napoveda_programu(a.pomoc ? std::cout : std::cerr);
+            return a.pomoc ? navrat::v_poradku : navrat::chyba_skriptu;
         }
-        if (volba == "--kontrola") {
-            volby.kontrola = true;
-            continue;
-        }
-        if (!volba.starts_with("--")) {
-            if (skript)
-                return chyba_spusteni("skript je jen jeden, přebývá „" + volba + "“");
-            skript = volba;
-            continue;
-        }
-        std::string hodnota;
-        const std::string_view jmeno = std::string_view(volba).substr(0, volba.find('='));
-        if (jmeno != "--slozka" && jmeno != "--vystup" && jmeno != "--semeno")
-            return chyba_spusteni("neznámá volba „" + volba + "“");
-        if (const std::size_t rovna_se = volba.find('='); rovna_se != std::string::npos) {
-            hodnota = volba.substr(rovna_se + 1);
-            volba.resize(rovna_se);
-        } else if (i + 1 < argumenty.size()) {
-            hodnota = argumenty[++i];
-        } else {
-            return chyba_spusteni("za volbou „" + volba + "“ chybí hodnota");
-        }
-        if (volba == "--slozka") {
-            volby.slozka = hodnota;
-        } else if (volba == "--vystup") {
-            soubor_vystupu = hodnota;
-        } else {
-            const auto semeno = cele_cislo(hodnota, 0, std::numeric_limits<std::int64_t>::max());
-            if (!semeno)
-                return chyba_spusteni("semeno je celé číslo, ne „" + hodnota + "“");
-            volby.semeno = static_cast<std::uint64_t>(*semeno);
-        }
-    }
-    if (!skript) {
-        napoveda_programu(std::cerr);
+        return spust_s_vystupem(a);
+    } catch (const ChybaSkriptu& chyba) {
+        std::cerr << "tesk-davka: " << chyba.proc << " (nápověda: tesk-davka --pomoc)\n";
         return navrat::chyba_skriptu;
     }
-
-    std::ofstream do_souboru;
-    if (soubor_vystupu) {
-        do_souboru.open(*soubor_vystupu, std::ios::binary | std::ios::trunc);
-        if (!do_souboru)
-            return chyba_spusteni("do souboru „" + *soubor_vystupu + "“ nelze psát");
-    }
-    std::ostream& vystup = soubor_vystupu ? do_souboru : std::cout;
-    int kod = navrat::chyba_skriptu;
-    if (*skript == "-") {
-        volby.po_radcich = true;
-        kod = spust_davku(volby, std::cin, vystup, std::cerr);
-    } else {
-        std::ifstream soubor(*skript, std::ios::binary);
-        if (!soubor || std::filesystem::is_directory(*skript))
-            return chyba_spusteni("skript „" + *skript + "“ nelze otevřít");
-        kod = spust_davku(volby, soubor, vystup, std::cerr);
-    }
-    if (!vystup)
-        return chyba_spusteni("výstup nelze zapsat");
-    return kod;
 }

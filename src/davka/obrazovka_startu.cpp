@@ -16,10 +16,6 @@
 
 namespace {
 
-std::string v_uvozovkach(std::string_view text) {
-    return "„" + std::string(text) + "“";
-}
-
 // --- the words of `spust`
 
 // The fastest that the simulation knows: a script may ask for more than the screen's list offers.

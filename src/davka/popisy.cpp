@@ -4,7 +4,6 @@
 void precti_barvu(std::string_view hodnota, std::string_view pole, Barva& x) {
     const auto barva = barva_textu(hodnota);
     if (!barva)
-        chyba_skriptu(std::string(pole) + ": čeká se barva jako 0x0000FF00, ne „" + std::string(hodnota) +
-                      "“");
+        chyba_skriptu(std::string(pole) + ": čeká se barva jako 0x0000FF00, ne " + v_uvozovkach(hodnota));
     x = static_cast<Barva>(*barva);
 }

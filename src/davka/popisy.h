@@ -241,7 +241,7 @@ template <class T> Json json_hodnota(const std::vector<T>& x) {
 inline void precti_hodnotu(std::string_view hodnota, std::string_view pole, bool& x) {
     const auto priznak = priznak_textu(hodnota);
     if (!priznak)
-        chyba_skriptu(std::string(pole) + ": čeká se ano nebo ne, ne „" + std::string(hodnota) + "“");
+        chyba_skriptu(std::string(pole) + ": čeká se ano nebo ne, ne " + v_uvozovkach(hodnota));
     x = *priznak;
 }
 template <std::integral T> void precti_hodnotu(std::string_view hodnota, std::string_view pole, T& x) {

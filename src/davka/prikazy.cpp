@@ -1,25 +1,22 @@
-// davka/prikazy.cpp - the commands: set-up, start, hands, time, looking.
+// davka/prikazy.cpp - the table of the commands; those of set-up, of time, and those that look and set.
 #include "davka/prikazy.h"
 
 #include "app/bezpecne.h"
 #include "app/cas.h"
 #include "app/casovace.h"
 #include "app/kontrola_majitelu.h"
-#include "app/parametry.h"
 #include "app/simulace.h"
-#include "app/start.h"
-#include "app/vstup.h"
 #include "cesty/cesta.h"
 #include "davka/obrazovka_startu.h"
 #include "davka/planovac.h"
 #include "davka/popisy.h"
+#include "davka/porovnani.h"
+#include "davka/prikazy_rukou.h"
+#include "davka/prikazy_startu.h"
 #include "davka/skript.h"
 #include "davka/virtualni_svet.h"
 #include "davka/vypisy.h"
-#include "desk/zprava.h"
 #include "jizda/vlak.h"
-#include "save/ulozeni.h"
-#include "technologie/technologie.h"
 #include "zaklad/cisla.h"
 #include "zaklad/soubory.h"
 
@@ -32,16 +29,6 @@
 #include <vector>
 
 namespace {
-
-using Slova = std::span<const std::string>;
-
-std::string v_uvozovkach(std::string_view text) {
-    return "„" + std::string(text) + "“";
-}
-
-[[noreturn]] void chyba_pred_startem(std::string_view co) {
-    chyba_skriptu("příkaz " + v_uvozovkach(co) + " potřebuje spuštěnou simulaci");
-}
 
 // --- set-up
 
@@ -95,223 +82,6 @@ void prikaz_ladeni(BehSkriptu&, Slova slova) {
     svet.ladeni = *priznak;
 }
 
-// --- start
-
-// The start screen has handed over: the ten seconds of the splash screen, and the desk.
-void dokonci_start(BehSkriptu& beh) {
-    beh.spusteno = true;
-    spust_planovac();
-    plyn_do(svet.cas_ms + kUvodniObrazovka_ms);
-    start_simulace();
-}
-
-void prikaz_spust(BehSkriptu& beh, Slova slova) {
-    otevri_obrazovku_startu();
-    vypln_obrazovku_startu(slova);
-    if (start_prikaz())
-        dokonci_start(beh);
-}
-
-// A save by its name: one without a folder lies in the folder of saves, as in the dialogue; a path counts
-// from where the runner was started, or else from the program's folder.
-Text cesta_zaznamu(std::string_view utf8) {
-    const Text jmeno = text_slova(utf8);
-    if (jmeno.find_first_of("/\\") == Text::npos)
-        return simulace.cesta_aplikace + "save\\" + jmeno;
-    const Text slozka = jmeno.substr(0, jmeno.find_last_of("/\\") + 1);
-    return soubor_existuje(slozka) ? jmeno : simulace.cesta_aplikace + jmeno;
-}
-
-// An existing one; the ending may be left out.
-Text nalezeny_zaznam(std::string_view utf8) {
-    const Text cesta = cesta_zaznamu(utf8);
-    for (const Text& moznost : {cesta, cesta + ".sim", text_slova(utf8)})
-        if (delka_souboru(moznost))
-            return moznost;
-    return cesta; // the start tells that there is none
-}
-
-void prikaz_nacti(BehSkriptu& beh, Slova slova) {
-    otevri_obrazovku_startu();
-    vypln_obrazovku_startu(slova.subspan(1));
-    zavri_menu();
-    priprav_nacteni(nalezeny_zaznam(slova[0]), moznosti_startu());
-    dokonci_start(beh);
-}
-
-// The open command by its button: the dialogue takes the next answer.
-void prikaz_otevrit(BehSkriptu& beh) {
-    otevri_obrazovku_startu();
-    if (otevri_zaznam())
-        dokonci_start(beh);
-}
-
-bool je_prihlaseni() {
-    const Text& slovo = relief.lblPrikaz[0].text;
-    return relief.lblPrikaz[0].viditelny && (slovo == " INIT " || slovo == " TPC " || slovo == " ARCHIV ");
-}
-
-// A save ends with a running clock; during the login it goes on standing, for nobody has taken over yet.
-void prikaz_uloz(BehSkriptu&, Slova slova) {
-    const bool pauza_startu = je_prihlaseni() && simulace.pauza;
-    zastav_hodiny();
-    uloz_simulaci(cesta_zaznamu(slova[0]), false);
-    if (pauza_startu)
-        simulace.pauza = true;
-}
-
-void prikaz_prihlas(BehSkriptu&, Slova) {
-    if (!je_prihlaseni())
-        chyba_skriptu("přihlášení není na řadě: na příkazovém řádku stojí " +
-                      v_uvozovkach(na_utf8(relief.lblPrikaz[0].text())));
-    Klavesa enter;
-    enter.kod = KodKlavesy::enter;
-    for (int i = 0; i < 3 && je_prihlaseni(); ++i)
-        klavesa(enter);
-}
-
-// --- hands
-
-struct CilRuky {
-    Druh druh = Druh::kolej;
-    int cislo = 0;
-};
-
-CilRuky prvek_ruky(Slova slova, std::size_t nejvice_slov) {
-    const Cil cil = precti_cil(slova);
-    if (!cil.druh)
-        chyba_skriptu(v_uvozovkach(cil.slovo) + " je tabulka, ne prvek");
-    if (slova.size() > cil.slov + nejvice_slov)
-        chyba_skriptu("přebývá " + v_uvozovkach(slova[cil.slov + nejvice_slov]));
-    if (!tabulka(*cil.druh).je(cil.cislo))
-        chyba_skriptu("prvek " + cil.slovo + " " + std::to_string(cil.cislo) + " neexistuje");
-    return {*cil.druh, cil.cislo};
-}
-
-Seznam* seznam_desky(std::string_view slovo) {
-    if (slovo == "lstZpravy")
-        return &relief.lstZpravy;
-    if (slovo == "lstDenik")
-        return &relief.lstDenik;
-    for (std::size_t i = 0; i < kTechnologie.size(); ++i)
-        for (const SeznamTechnologie& s : seznamy_technologie(static_cast<Technologie>(i)))
-            if (s.jmeno == slovo)
-                return s.seznam;
-    return nullptr;
-}
-
-void prikaz_klik(BehSkriptu& beh, Slova slova) {
-    if (!beh.spusteno) {
-        if (slova[0] == "cmdStart")
-            prikaz_spust(beh, slova.subspan(1));
-        else if (slova[0] == "cmdOtevrit")
-            prikaz_otevrit(beh);
-        else if (!klik_startu(slova))
-            chyba_pred_startem("klik " + slova[0]);
-        return;
-    }
-    if (slova[0] == "plocha") {
-        if (slova.size() > 1)
-            chyba_skriptu("klik plocha nemá další slova");
-        klik_na_plochu();
-        return;
-    }
-    if (const auto zalozka = technologie_podle_jmena(slova[0])) {
-        if (slova.size() > 1)
-            chyba_skriptu("klik " + slova[0] + " nemá další slova");
-        if (!technologie_kryje_stul())
-            chyba_skriptu("záložka " + slova[0] + " není vidět: žádná obrazovka technologie není otevřená");
-        klik_na_zalozku(*zalozka);
-        return;
-    }
-    if (Seznam* seznam = seznam_desky(slova[0])) {
-        if (slova.size() != 2)
-            chyba_skriptu("píše se klik " + slova[0] + " RADEK");
-        const auto radku = static_cast<std::int64_t>(seznam->radky.size());
-        if (radku == 0)
-            chyba_skriptu("seznam " + slova[0] + " je prázdný");
-        klik_na_radek(*seznam, static_cast<int>(cislo_slova(slova[1], 0, radku - 1, "řádek seznamu")));
-        return;
-    }
-    const bool ctrl = slova.size() > 1 && slova.back() == "ctrl";
-    const CilRuky cil = prvek_ruky(ctrl ? slova.first(slova.size() - 1) : slova, 0);
-    klik(cil.druh, cil.cislo, Tlacitko::leve, ctrl);
-}
-
-void prikaz_pravy(BehSkriptu&, Slova slova) {
-    const CilRuky cil = prvek_ruky(slova, 0);
-    klik(cil.druh, cil.cislo, Tlacitko::prave, false);
-}
-
-void prikaz_prostredni(BehSkriptu&, Slova slova) {
-    const CilRuky cil = prvek_ruky(slova, 0);
-    klik(cil.druh, cil.cislo, Tlacitko::prostredni, false);
-}
-
-void prikaz_dvojklik(BehSkriptu&, Slova slova) {
-    const CilRuky cil = prvek_ruky(slova, 0);
-    dvojklik(cil.druh, cil.cislo);
-}
-
-void prikaz_najed(BehSkriptu&, Slova slova) {
-    if (slova[0] == "plocha") {
-        pohyb_mysi();
-        odjeti();
-        return;
-    }
-    const CilRuky cil = prvek_ruky(slova, 0);
-    pohyb_mysi();
-    najeti(cil.druh, cil.cislo);
-}
-
-void prikaz_menu(BehSkriptu&, Slova slova) {
-    const Text jmeno = text_slova(slova[0]);
-    if (menu.jmeno.empty())
-        chyba_skriptu("žádné menu není otevřené");
-    // the names first: afterwards the menu is closed
-    std::string stav;
-    for (const PolozkaMenu& p : menu.polozky)
-        if (p.jmeno == jmeno)
-            stav = !p.viditelna ? "je skrytá" : !p.povolena ? "je zakázaná" : "nejde zvolit";
-    std::vector<std::string> jmena;
-    for (const PolozkaMenu& p : menu.polozky)
-        jmena.push_back(na_utf8(p.jmeno));
-    const std::string hlava = na_utf8(menu.jmeno);
-    if (zvol_v_menu(jmeno))
-        return;
-    if (!stav.empty())
-        chyba_skriptu("položka " + v_uvozovkach(slova[0]) + " menu " + hlava + " " + stav);
-    std::string nabidka;
-    for (const std::string& j : jmena)
-        nabidka += (nabidka.empty() ? "" : ", ") + j;
-    chyba_skriptu("menu " + hlava + " nemá položku " + v_uvozovkach(slova[0]) + "; má: " + nabidka);
-}
-
-void prikaz_klavesa(BehSkriptu& beh, Slova slova) {
-    if (!beh.spusteno) {
-        if (slova[0] == "Enter")
-            prikaz_spust(beh, {});
-        else if (!klavesa_startu(slova[0]))
-            chyba_pred_startem("klavesa " + slova[0]);
-        return;
-    }
-    const Klavesa k = klavesa_podle_jmena(text_slova(slova[0]));
-    if (k.kod == KodKlavesy::zadna)
-        chyba_skriptu("klávesu " + v_uvozovkach(slova[0]) + " pult nezná");
-    klavesa(k);
-}
-
-void prikaz_pis(BehSkriptu& beh, Slova slova) {
-    if (!beh.spusteno)
-        pis_startu(slova[0]);
-    else
-        pis_do_pole(text_slova(slova[0]));
-}
-
-void prikaz_odpovez(BehSkriptu&, Slova slova) {
-    svet.odpovedi.push_back(text_slova(slova[0]));
-}
-
 // --- time
 
 void prikaz_cekej(BehSkriptu&, Slova slova) {
@@ -319,8 +89,7 @@ void prikaz_cekej(BehSkriptu&, Slova slova) {
 }
 
 void prikaz_cekej_do(BehSkriptu&, Slova slova) {
-    constexpr std::int32_t kDen = 24 * 3600;
-    const auto vpred = [](std::int32_t od, std::int32_t k) { return ((k - od) % kDen + kDen) % kDen; };
+    const auto vpred = [](std::int32_t od, std::int32_t k) { return ((k - od) % kDen_s + kDen_s) % kDen_s; };
     std::int32_t ted = sekundy_textu(cas_hodin());
     std::int32_t zbyva = vpred(ted, cas_slova(slova[0]));
     const auto stoji = [] { return simulace.pauza || simulace.rychlost == 0; };
@@ -333,7 +102,7 @@ void prikaz_cekej_do(BehSkriptu&, Slova slova) {
     while (zbyva > 0) {
         if (stoji())
             chyba_skriptu("cekej_do: hodiny simulace stojí na " + na_utf8(cas_hodin()));
-        plyn_do(svet.cas_ms + kDen * 1000LL, dost);
+        plyn_do(svet.cas_ms + kDen_s * 1000LL, dost);
     }
 }
 
@@ -356,40 +125,59 @@ void prikaz_vypis(BehSkriptu& beh, Slova slova) {
     zapomen_vypsane(cil);
 }
 
+bool je_cislo_radku(std::string_view pole) {
+    return !pole.empty() && pole[0] >= '0' && pole[0] <= '9';
+}
+
+// What stands at the path of a check: of a table its rows are meant.
+std::optional<Json> overovana_hodnota(const Json& nalez, std::string_view pole) {
+    std::optional<Json> hodnota = najdi_pole(nalez, pole);
+    if (!hodnota && (pole == "pocet" || je_cislo_radku(pole)))
+        hodnota = najdi_pole(nalez, "radky." + std::string(pole));
+    return hodnota;
+}
+
+// A field that is not there at all is an error of the script; but an element that does not exist has none,
+// and a path may lead to a row that is no more.
+void over_jmeno_pole(const Json& nalez, const Cil& cil, std::string_view pole) {
+    const Json* existuje = clen(nalez, "existuje");
+    if (existuje != nullptr && *existuje == Json(false))
+        return;
+    if (pole.find('.') != std::string_view::npos || (je_cislo_radku(pole) && clen(nalez, "radky") != nullptr))
+        return;
+    std::vector<std::string_view> znama;
+    for (const ClenJsonu& c : std::get<ZaznamJsonu>(nalez.hodnota))
+        znama.push_back(c.klic);
+    chyba_skriptu(v_uvozovkach(cil.slovo) + " nemá pole " + v_uvozovkach(pole) + napoveda(pole, znama));
+}
+
+// The report of a check that does not hold; without a value nothing was found there.
+Json nesouhlas(int radek, const std::string& co, const Prirazeni& p, const std::optional<Json>& hodnota) {
+    ZaznamJsonu z;
+    pridej(z, "over", json_utf8(co + std::string(p.pole)));
+    pridej(z, "radek", radek);
+    pridej(z, "chtel", hodnota ? chtena_hodnota(*hodnota, p.hodnota) : json_utf8(p.hodnota));
+    pridej(z, "nasel", hodnota ? *hodnota : Json());
+    return Json(std::move(z));
+}
+
 void prikaz_over(BehSkriptu& beh, Slova slova) {
     const Cil cil = precti_cil(slova);
     if (slova.size() == cil.slov)
         chyba_skriptu("over: chybí POLE=HODNOTA");
+    std::string co;
+    for (const std::string& slovo : slova.first(cil.slov))
+        co += slovo + " ";
     const Json nalez(vypis(cil));
-    const Json* existuje = clen(nalez, "existuje");
-    const bool neni = existuje != nullptr && *existuje == Json(false);
     for (const std::string& slovo : slova.subspan(cil.slov)) {
         const Prirazeni p = prirazeni(slovo);
-        std::optional<Json> hodnota = najdi_pole(nalez, p.pole);
-        const bool radek_cislem = !p.pole.empty() && p.pole[0] >= '0' && p.pole[0] <= '9';
-        if (!hodnota && (p.pole == "pocet" || radek_cislem)) // of a table the rows are meant
-            hodnota = najdi_pole(nalez, "radky." + std::string(p.pole));
-        const bool cesta_k_radku =
-            p.pole.find('.') != std::string_view::npos || (radek_cislem && clen(nalez, "radky") != nullptr);
-        if (!hodnota && !neni && !cesta_k_radku) {
-            std::vector<std::string_view> pole;
-            for (const ClenJsonu& c : std::get<ZaznamJsonu>(nalez.hodnota))
-                pole.push_back(c.klic);
-            chyba_skriptu(v_uvozovkach(cil.slovo) + " nemá pole " + v_uvozovkach(p.pole) +
-                          napoveda(p.pole, pole));
-        }
+        const std::optional<Json> hodnota = overovana_hodnota(nalez, p.pole);
+        if (!hodnota)
+            over_jmeno_pole(nalez, cil, p.pole);
         if (hodnota && odpovida(*hodnota, p.hodnota))
             continue;
         beh.over_selhal = true;
-        std::string co;
-        for (std::size_t i = 0; i < cil.slov; ++i)
-            co += slova[i] + " ";
-        ZaznamJsonu z;
-        pridej(z, "over", json_utf8(co + std::string(p.pole)));
-        pridej(z, "radek", beh.radek);
-        pridej(z, "chtel", hodnota ? chtena_hodnota(*hodnota, p.hodnota) : json_utf8(p.hodnota));
-        pridej(z, "nasel", hodnota ? *hodnota : Json());
-        beh.vypis(Json(std::move(z)));
+        beh.vypis(nesouhlas(beh.radek, co, p, hodnota));
     }
 }
 

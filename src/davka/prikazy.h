@@ -1,26 +1,11 @@
 // davka/prikazy.h - the commands of the runner's language.
 #pragma once
 
-#include "davka/json.h"
+#include "davka/beh.h"
 
-#include <functional>
-#include <iosfwd>
 #include <span>
 #include <string>
 #include <string_view>
-
-// One run of a script. The tables of the simulation are global, so there is one at a time.
-struct BehSkriptu {
-    std::function<void(const Json&)> vypis; // one object of the output
-    int radek = 0;                          // line of the script, from 1
-    bool spusteno = false;                  // the start screen has been left
-    bool over_selhal = false;               // a check has failed
-};
-
-// The check of the state failed: thrown out of a timer by --kontrola.
-struct ChybaStavu {
-    std::string co; // UTF-8
-};
 
 // Does one line of a script. Throws ChybaSkriptu for a line that cannot be understood or done, and
 // lets KonecProgramu through when the simulation ends itself. `jen_pohled`: the simulation has ended,

@@ -13,23 +13,27 @@ void chyba_skriptu(std::string proc) {
     throw ChybaSkriptu{std::move(proc)};
 }
 
+std::string v_uvozovkach(std::string_view text) {
+    return "„" + std::string(text) + "“";
+}
+
 std::vector<std::string> slova_radku(std::string_view radek) {
     constexpr std::string_view kBom = "\xEF\xBB\xBF";
     if (radek.starts_with(kBom))
         radek.remove_prefix(kBom.size());
 
     std::vector<std::string> slova;
-    bool ve_slove = false, v_uvozovkach = false;
+    bool ve_slove = false, uvnitr_uvozovek = false;
     for (std::size_t i = 0; i < radek.size(); ++i) {
         const char znak = radek[i];
-        if (v_uvozovkach) {
+        if (uvnitr_uvozovek) {
             if (znak != '"') {
                 slova.back() += znak;
             } else if (i + 1 < radek.size() && radek[i + 1] == '"') {
                 slova.back() += '"';
                 ++i;
             } else {
-                v_uvozovkach = false;
+                uvnitr_uvozovek = false;
             }
             continue;
         }
@@ -44,11 +48,11 @@ std::vector<std::string> slova_radku(std::string_view radek) {
             ve_slove = true;
         }
         if (znak == '"')
-            v_uvozovkach = true;
+            uvnitr_uvozovek = true;
         else
             slova.back() += znak;
     }
-    if (v_uvozovkach)
+    if (uvnitr_uvozovek)
         chyba_skriptu("text v uvozovkách nemá konec");
     return slova;
 }
@@ -68,7 +72,7 @@ std::int64_t cislo_slova(std::string_view slovo, std::int64_t nejmene, std::int6
     if (const auto x = cele_cislo(slovo, nejmene, nejvice))
         return *x;
     chyba_skriptu(std::string(co) + ": čeká se celé číslo od " + std::to_string(nejmene) + " do " +
-                  std::to_string(nejvice) + ", ne „" + std::string(slovo) + "“");
+                  std::to_string(nejvice) + ", ne " + v_uvozovkach(slovo));
 }
 
 std::optional<bool> priznak_textu(std::string_view text) {
@@ -109,7 +113,7 @@ std::int64_t doba_slova(std::string_view slovo) {
             return *x * j.ms;
         break;
     }
-    chyba_skriptu("doba se píše jako 30s, 1500ms nebo 10min (nejvýše rok), ne „" + std::string(slovo) + "“");
+    chyba_skriptu("doba se píše jako 30s, 1500ms nebo 10min (nejvýše rok), ne " + v_uvozovkach(slovo));
 }
 
 std::int32_t cas_slova(std::string_view slovo) {
@@ -131,14 +135,14 @@ std::int32_t cas_slova(std::string_view slovo) {
         dobre = dobre && pocet < casti.size();
     }
     if (!dobre || pocet < 2)
-        chyba_skriptu("čas se píše jako 8:05:30, ne „" + std::string(slovo) + "“");
+        chyba_skriptu("čas se píše jako 8:05:30, ne " + v_uvozovkach(slovo));
     return casti[0] * 3600 + casti[1] * 60 + casti[2];
 }
 
 Prirazeni prirazeni(std::string_view slovo) {
     const std::size_t rovna_se = slovo.find('=');
     if (rovna_se == std::string_view::npos || rovna_se == 0)
-        chyba_skriptu("čeká se POLE=HODNOTA, ne „" + std::string(slovo) + "“");
+        chyba_skriptu("čeká se POLE=HODNOTA, ne " + v_uvozovkach(slovo));
     return {slovo.substr(0, rovna_se), slovo.substr(rovna_se + 1)};
 }
 
@@ -146,8 +150,8 @@ std::string text_slova(std::string_view utf8) {
     for (std::size_t misto = 0; misto < utf8.size();) {
         const std::size_t od = misto;
         if (cp1250::z_unicode(cp1250::dalsi_znak_utf8(utf8, misto)) < 0)
-            chyba_skriptu("znak „" + std::string(utf8.substr(od, misto - od)) +
-                          "“ není v kódové stránce 1250");
+            chyba_skriptu("znak " + v_uvozovkach(utf8.substr(od, misto - od)) +
+                          " není v kódové stránce 1250");
     }
     return z_utf8(utf8);
 }
@@ -180,5 +184,5 @@ std::string napoveda(std::string_view slovo, std::span<const std::string_view> z
             nejmene = d;
             nejlepsi = zname;
         }
-    return nejlepsi.empty() ? std::string() : "; nemělo to být „" + std::string(nejlepsi) + "“?";
+    return nejlepsi.empty() ? std::string() : "; nemělo to být " + v_uvozovkach(nejlepsi) + "?";
 }

@@ -16,6 +16,8 @@ struct ChybaSkriptu {
     std::string proc;
 };
 [[noreturn]] void chyba_skriptu(std::string proc);
+// A text as such a message quotes it.
+std::string v_uvozovkach(std::string_view text);
 
 // The words of a line, UTF-8. A text without its closing quote is an error of the script. A byte order
 // mark at the start of a line and a carriage return at its end are left out.

@@ -11,6 +11,7 @@
 #include "cesty/zasobnik.h"
 #include "davka/obrazovka_startu.h"
 #include "davka/popisy.h"
+#include "davka/porovnani.h"
 #include "davka/skript.h"
 #include "davka/virtualni_svet.h"
 #include "desk/info_o_vlaku.h"
@@ -345,11 +346,6 @@ const SeznamJsonu* radky(const ZaznamJsonu& zaznam) {
     return nullptr;
 }
 
-bool ma_jmeno(const Json& radek, std::string_view jmeno) {
-    const Json* hodnota = clen(radek, "jmeno");
-    return hodnota != nullptr && hodnota_json(*hodnota) == jmeno;
-}
-
 // One row as a record of its own: the fields of a record, `text` of a list of texts, `hodnota` of a
 // table of numbers; with the row's own flags (`blika` of the train table).
 void pridej_radek(ZaznamJsonu& cil, const ZaznamJsonu& cely, const Json& radek, std::size_t index) {
@@ -366,6 +362,43 @@ void pridej_radek(ZaznamJsonu& cil, const ZaznamJsonu& cely, const Json& radek, 
             pridej(cil, c.klic, (*seznam)[index]);
 }
 
+void pridej_prvek(ZaznamJsonu& z, Druh druh, int cislo) {
+    pridej(z, "cislo", cislo);
+    for (ClenJsonu& c : popis_prvku(druh, cislo))
+        z.push_back(std::move(c));
+}
+
+void pridej_vse(ZaznamJsonu& z, const Cil& cil) {
+    const Vypis& co = *najdi_vypis(cil.slovo);
+    if (co.zaznam == cil.slovo)
+        chyba_skriptu("za " + v_uvozovkach(cil.slovo) + " chybí číslo záznamu");
+    co.napln(z);
+}
+
+// Index of the row that is asked for by its number or name; the length of the list when there is none.
+std::size_t index_radku(const SeznamJsonu& seznam, const Cil& cil) {
+    if (cil.jmeno.empty())
+        return std::min(static_cast<std::size_t>(cil.cislo), seznam.size());
+    const auto radek =
+        std::find_if(seznam.begin(), seznam.end(), [&](const Json& r) { return ma_jmeno(r, cil.jmeno); });
+    return static_cast<std::size_t>(radek - seznam.begin());
+}
+
+void pridej_radek_tabulky(ZaznamJsonu& z, const Cil& cil) {
+    ZaznamJsonu cely;
+    najdi_vypis(cil.slovo)->napln(cely);
+    const SeznamJsonu* seznam = radky(cely);
+    if (seznam == nullptr)
+        chyba_skriptu(v_uvozovkach(cil.slovo) + " není tabulka, nemá řádek " +
+                      v_uvozovkach(cil.jmeno.empty() ? std::to_string(cil.cislo) : cil.jmeno));
+    const std::size_t index = index_radku(*seznam, cil);
+    const bool je = index < seznam->size();
+    pridej(z, "i", je ? Json(index) : Json(cil.cislo));
+    pridej(z, "existuje", je);
+    if (je)
+        pridej_radek(z, cely, (*seznam)[index], index);
+}
+
 } // namespace
 
 Cil precti_cil(std::span<const std::string> slova) {
@@ -376,7 +409,7 @@ Cil precti_cil(std::span<const std::string> slova) {
     cil.slov = 1;
     cil.druh = druh_podle_jmena(cil.slovo);
     if (!cil.druh && najdi_vypis(cil.slovo) == nullptr)
-        chyba_skriptu("„" + cil.slovo + "“ není druh prvku ani tabulka" + napoveda(cil.slovo, kSlova));
+        chyba_skriptu(v_uvozovkach(cil.slovo) + " není druh prvku ani tabulka" + napoveda(cil.slovo, kSlova));
     const bool dalsi = slova.size() > 1 && slova[1].find('=') == std::string::npos;
     if (!cil.druh) {
         if (dalsi) {
@@ -392,8 +425,8 @@ Cil precti_cil(std::span<const std::string> slova) {
         cil.cislo = static_cast<int>(*cislo);
         cil.slov = 2;
     } else if (potrebuje_cislo(*cil.druh)) {
-        chyba_skriptu("za „" + cil.slovo + "“ chybí číslo prvku" +
-                      (dalsi ? ", je tam „" + slova[1] + "“" : ""));
+        chyba_skriptu("za " + v_uvozovkach(cil.slovo) + " chybí číslo prvku" +
+                      (dalsi ? ", je tam " + v_uvozovkach(slova[1]) : std::string()));
     } else {
         cil.cislo = 0;
     }
@@ -435,36 +468,12 @@ ZaznamJsonu popis_prvku(Druh druh, int cislo) {
 ZaznamJsonu vypis(const Cil& cil) {
     ZaznamJsonu z;
     pridej(z, "vypis", json_utf8(cil.slovo));
-    if (cil.druh) {
-        pridej(z, "cislo", cil.cislo);
-        for (ClenJsonu& c : popis_prvku(*cil.druh, cil.cislo))
-            z.push_back(std::move(c));
-        return z;
-    }
-    const Vypis& co = *najdi_vypis(cil.slovo);
-    if (cil.cislo == kZadny && cil.jmeno.empty()) {
-        if (co.zaznam == cil.slovo)
-            chyba_skriptu("za „" + cil.slovo + "“ chybí číslo záznamu");
-        co.napln(z);
-        return z;
-    }
-    ZaznamJsonu cely;
-    co.napln(cely);
-    const SeznamJsonu* seznam = radky(cely);
-    if (seznam == nullptr)
-        chyba_skriptu("„" + cil.slovo + "“ není tabulka, nemá řádek „" +
-                      (cil.jmeno.empty() ? std::to_string(cil.cislo) : cil.jmeno) + "“");
-    std::size_t index = seznam->size();
-    if (cil.jmeno.empty())
-        index = static_cast<std::size_t>(cil.cislo);
+    if (cil.druh)
+        pridej_prvek(z, *cil.druh, cil.cislo);
+    else if (cil.cislo == kZadny && cil.jmeno.empty())
+        pridej_vse(z, cil);
     else
-        for (std::size_t i = seznam->size(); i-- > 0;)
-            if (ma_jmeno((*seznam)[i], cil.jmeno))
-                index = i;
-    pridej(z, "i", index < seznam->size() ? Json(index) : Json(cil.cislo));
-    pridej(z, "existuje", index < seznam->size());
-    if (index < seznam->size())
-        pridej_radek(z, cely, (*seznam)[index], index);
+        pridej_radek_tabulky(z, cil);
     return z;
 }
 
@@ -477,74 +486,4 @@ void zapomen_vypsane(const Cil& cil) {
 
 std::span<const std::string_view> slova_vypisu() {
     return kSlova;
-}
-
-std::optional<Json> najdi_pole(const Json& koren, std::string_view cesta) {
-    const auto zbytek_za = [&](std::size_t delka) {
-        return delka < cesta.size() ? std::optional(cesta.substr(delka + 1)) : std::nullopt;
-    };
-    const auto dal = [&](const Json& hodnota, std::size_t delka) -> std::optional<Json> {
-        const auto zbytek = zbytek_za(delka);
-        return zbytek ? najdi_pole(hodnota, *zbytek) : std::optional(hodnota);
-    };
-    const std::string_view prvni = cesta.substr(0, cesta.find('.'));
-    if (const Json* hodnota = clen(koren, prvni))
-        return dal(*hodnota, prvni.size());
-    const auto* seznam = std::get_if<SeznamJsonu>(&koren.hodnota);
-    if (seznam == nullptr)
-        return std::nullopt;
-    if (cesta == "pocet")
-        return Json(seznam->size());
-    if (const auto i = cele_cislo(prvni, 0, 99'999))
-        return static_cast<std::size_t>(*i) < seznam->size()
-                   ? dal((*seznam)[static_cast<std::size_t>(*i)], prvni.size())
-                   : std::nullopt;
-    // a row by its name; the name itself may hold a point
-    for (const Json& radek : *seznam)
-        for (std::size_t konec = cesta.find('.');; konec = cesta.find('.', konec + 1)) {
-            const std::size_t delka = std::min(konec, cesta.size());
-            if (ma_jmeno(radek, cesta.substr(0, delka)))
-                return dal(radek, delka);
-            if (konec == std::string_view::npos)
-                break;
-        }
-    return std::nullopt;
-}
-
-Json chtena_hodnota(const Json& nalezeno, std::string_view chteno) {
-    if (std::holds_alternative<bool>(nalezeno.hodnota)) {
-        if (const auto priznak = priznak_textu(chteno))
-            return Json(*priznak);
-    } else if (std::holds_alternative<std::int64_t>(nalezeno.hodnota)) {
-        if (const auto cislo = cele_cislo(chteno, INT64_MIN, INT64_MAX))
-            return Json(*cislo);
-    } else if (std::holds_alternative<BarvaJsonu>(nalezeno.hodnota)) {
-        if (const auto barva = barva_textu(chteno))
-            return json_barva(static_cast<Barva>(*barva));
-    } else if (std::holds_alternative<std::monostate>(nalezeno.hodnota) && chteno == "null") {
-        return Json();
-    }
-    return json_utf8(chteno);
-}
-
-namespace {
-
-// A list written with commas: every member as it would be written alone, so that flags may be ano and ne.
-bool odpovida_po_prvcich(const SeznamJsonu& seznam, std::string_view chteno) {
-    for (std::size_t i = 0; i < seznam.size(); ++i) {
-        const std::size_t konec = i + 1 < seznam.size() ? chteno.find(',') : chteno.size();
-        if (konec == std::string_view::npos || !odpovida(seznam[i], chteno.substr(0, konec)))
-            return false;
-        chteno.remove_prefix(std::min(konec + 1, chteno.size()));
-    }
-    return !seznam.empty();
-}
-
-} // namespace
-
-bool odpovida(const Json& nalezeno, std::string_view chteno) {
-    if (const auto* seznam = std::get_if<SeznamJsonu>(&nalezeno.hodnota))
-        return hodnota_json(nalezeno) == chteno || zapis_json(nalezeno) == chteno ||
-               odpovida_po_prvcich(*seznam, chteno);
-    return chtena_hodnota(nalezeno, chteno) == nalezeno;
 }

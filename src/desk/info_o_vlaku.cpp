@@ -4,6 +4,8 @@
 #include "app/cas.h"
 #include "app/simulace.h"
 #include "desk/zprava.h"
+#include "gvd/dopravny.h"
+#include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
 #include "gvd/skladba.h"
@@ -22,21 +24,17 @@ constexpr int kPravyOkraj = 14400; // a picture that reaches beyond it is hidden
 constexpr int kSberacu = 4;
 constexpr Barva kStisknuteTlacitko = 0x800000;
 
-constexpr std::uint8_t kDruheLoko = 1, kPripraz = 2, kSvatek = 128;
-constexpr int kPrvniNakladni = 10;       // categories below are passenger trains
-constexpr int kLokomotivniVlak = 16;     // category of a light engine
-constexpr int kPosledniSoused = 6;       // codes up to here are neighbours: the train only passes
-constexpr int kPosledniLokomotiva = 800; // series above run without a locomotive
-constexpr int kTHN = 9, kTHJ = 12;       // the two ends of the main station
+constexpr std::uint8_t kSvatek = 128;
+constexpr int kPosledniSoused = 6; // codes up to here are neighbours: the train only passes
 
 // The train of an index; none for a free record.
-const Vlak* vlak_c(int v) {
-    if (v < 0 || static_cast<std::size_t>(v) >= vlaky.size() || vlaky[static_cast<std::size_t>(v)].cislo < 1)
+const Vlak* skutecny_vlak(int v) {
+    if (v < 0 || static_cast<std::size_t>(v) >= vlaky.size() || vlak_c(v).cislo < 1)
         return nullptr;
-    return &vlaky[static_cast<std::size_t>(v)];
+    return &vlak_c(v);
 }
 
-int rada_vozu(const std::vector<Text>& vozy, std::size_t i) {
+int rada_na(const std::vector<Text>& vozy, std::size_t i) {
     return i < vozy.size() ? static_cast<int>(cele_z_textu(vozy[i])) : 0;
 }
 
@@ -45,7 +43,7 @@ Text prvni_urceni(const Vlak& v) {
 }
 
 // Row of a number: today's, else the first one.
-const GvdVlak* radek_gvd(double cislo) {
+const GvdVlak* radek_s_cislem(double cislo) {
     const GvdVlak* nalezeny = nullptr;
     for (const GvdVlak& r : gvd_vlaky) {
         if (r.cislo != cislo)
@@ -85,7 +83,7 @@ std::int32_t odkud_lokomotiva(const Vlak& v) {
     for (const GvdVlak& r : gvd_vlaky) {
         const std::size_t pocet = std::min(r.vozy.size(), r.vozy_vlaky.size());
         for (std::size_t i = 0; i < pocet; ++i)
-            if (r.vozy_vlaky[i] == v.cislo && rada_vozu(r.vozy, i) == v.loko_rada2 && aktivni_dnes(r))
+            if (r.vozy_vlaky[i] == v.cislo && rada_na(r.vozy, i) == v.loko_rada2 && aktivni_dnes(r))
                 return r.cislo;
     }
     return zobrazene_cislo(v);
@@ -96,11 +94,12 @@ Text prace_lokomotiv(const Vlak& v) {
     const auto stavi = [&v](int kod) {
         return std::find(v.stanice.begin(), v.stanice.end(), kod) != v.stanice.end();
     };
-    const bool z_thj = stavi(kTHJ) && !stavi(kTHN);
-    const bool osobni = v.druh < kPrvniNakladni, pripraz = (v.priznaky & kPripraz) != 0;
+    const bool z_thj = stavi(dopravna::hajovice) && !stavi(dopravna::tesk);
+    const bool osobni = v.druh < druh_vlaku::prvni_nakladni,
+               pripraz = (v.priznaky & priznak_vlaku::pripraz) != 0;
     const int pomocna = v.loko_rada2 != 0 ? v.loko_rada2 : v.loko_rada;
     Text text;
-    if ((v.priznaky & kDruheLoko) != 0 && v.loko_rada2 != 0 && druhy_je_loko(v))
+    if ((v.priznaky & priznak_vlaku::druhe_loko) != 0 && v.loko_rada2 != 0 && druhy_je_loko(v))
         text += Text("; z THJ lok. 2x") + text_cisla(v.loko_rada2);
     if (pripraz && posledni_je_loko(v)) {
         text += "; THN-TRY sune; TRY kolej T4";
@@ -111,8 +110,8 @@ Text prace_lokomotiv(const Vlak& v) {
         text += z_thj ? "; z THJ přípřež ř."_cz : "; z THN přípřež ř."_cz;
         text += text_cisla(pomocna);
     }
-    const bool ceka_na_vymenu = (v.priznaky & (kDruheLoko | kPripraz)) == 0 && v.loko_rada2 != 0 &&
-                                rada_vozu(v.vozy, 0) != v.loko_rada2;
+    const bool ceka_na_vymenu = (v.priznaky & (priznak_vlaku::druhe_loko | priznak_vlaku::pripraz)) == 0 &&
+                                v.loko_rada2 != 0 && rada_na(v.vozy, 0) != v.loko_rada2;
     if (ceka_na_vymenu) {
         text += z_thj ? "; z THJ lok.ř."_cz : "; z THN lok.ř."_cz;
         text += text_cisla(v.loko_rada2) + "(" + text_cisla(odkud_lokomotiva(v)) + ")";
@@ -170,8 +169,8 @@ Vlak vlak_podle_gvd(const GvdVlak& r) {
 Text odjezd_z_hlavniho(const Vlak& v) {
     const std::size_t i = static_cast<std::size_t>(std::max<int>(v.stanice_index, 0));
     const Text urceni = prvni_urceni(v);
-    if (i >= v.stanice.size() || v.stanice[i] != kTHN || v.druh == kLokomotivniVlak || urceni == "ZAL" ||
-        v.vozy.size() < 2)
+    if (i >= v.stanice.size() || v.stanice[i] != dopravna::tesk || v.druh == druh_vlaku::lv ||
+        urceni == "ZAL" || v.vozy.size() < 2)
         return {};
     const auto veta = [](int minuta, int cil) {
         Text text = " (Tesk hl.n. odj. ";
@@ -183,11 +182,11 @@ Text odjezd_z_hlavniho(const Vlak& v) {
     if (i < v.odjezd.size() && v.odjezd[i] >= 0)
         return veta(v.odjezd[i], v.stanice.back());
     const auto cislo = ciselny_text(urceni);
-    const GvdVlak* dalsi = cislo ? radek_gvd(*cislo) : nullptr;
+    const GvdVlak* dalsi = cislo ? radek_s_cislem(*cislo) : nullptr;
     if (dalsi == nullptr)
         return {};
     for (std::size_t k = 0; k < dalsi->stanice.size(); ++k)
-        if (dalsi->stanice[k] == kTHN && dalsi->odjezdy[k] >= 0)
+        if (dalsi->stanice[k] == dopravna::tesk && dalsi->odjezdy[k] >= 0)
             return veta(dalsi->odjezdy[k], dalsi->stanice.back());
     return {};
 }
@@ -198,11 +197,11 @@ Text text_posunu(int vlak, const Vlak& v) {
     const std::int32_t predchozi = cislo_vlaku_pred(vlak);
     const std::int32_t cislo = predchozi != 0 ? predchozi : zobrazene_cislo(v);
     Text text;
-    if (v.vozy.size() > 1 || rada_vozu(v.vozy, 0) > kPosledniLokomotiva)
+    if (v.vozy.size() > 1 || rada_na(v.vozy, 0) > kPrvniMotorovyVuz)
         text = " Souprava vlaku " + text_cisla(cislo);
     else if (stroj && urceni == "DKV")
         text = " Lokomotiva do DKV";
-    else if ((stroj && urceni.empty()) || v.druh == kLokomotivniVlak)
+    else if ((stroj && urceni.empty()) || v.druh == druh_vlaku::lv)
         text = " Lokomotiva pro ?????";
     else if (cislo != 0)
         text = " Souprava vlaku " + text_cisla(cislo);
@@ -290,7 +289,7 @@ void napln_stranku(TextPohled text, int vlak) {
     Prvek& radek = relief.lblIinfo_o_vlaku[0];
     radek.text = Text(text) + text_vlaku(vlak);
     radek.stav = text_cisla(vlak);
-    napln_vozy(vlaky[static_cast<std::size_t>(vlak)]);
+    napln_vozy(vlak_c(vlak));
 }
 
 } // namespace
@@ -300,7 +299,7 @@ int vlak_na_panelu() {
     const auto cislo = ciselny_text(skryty);
     if (!cislo || *cislo < 0 || *cislo >= static_cast<double>(vlaky.size()))
         return kZadny;
-    return vlak_c(static_cast<int>(*cislo)) != nullptr ? static_cast<int>(*cislo) : kZadny;
+    return skutecny_vlak(static_cast<int>(*cislo)) != nullptr ? static_cast<int>(*cislo) : kZadny;
 }
 
 int vozu_na_panelu() {
@@ -315,7 +314,7 @@ bool info_ukazuje(int vlak) {
 }
 
 Text text_vlaku(int vlak) {
-    const Vlak* v = vlak_c(vlak);
+    const Vlak* v = skutecny_vlak(vlak);
     if (v == nullptr)
         return {};
     return v->posun ? text_posunu(vlak, *v) : text_jedouciho(*v);
@@ -325,7 +324,7 @@ Text navazny_spoj(TextPohled cislo) {
     const auto hledane = ciselny_text(cislo);
     if (!hledane || *hledane == 0)
         return {};
-    const GvdVlak* spoj = radek_gvd(*hledane);
+    const GvdVlak* spoj = radek_s_cislem(*hledane);
     for (const GvdVlak& r : gvd_vlaky)
         if (r.vozy_vlaky.size() >= 2 && r.vozy_vlaky[1] == *hledane && aktivni_dnes(r)) {
             spoj = &r;
@@ -336,7 +335,8 @@ Text navazny_spoj(TextPohled cislo) {
     Text text(zkratka_druhu(spoj->druh));
     text += " " + text_cisla(spoj->cislo);
     for (std::size_t i = 0; i < spoj->stanice.size(); ++i)
-        if ((spoj->stanice[i] == kTHN || spoj->stanice[i] == kTHJ) && spoj->prijezdy[i] >= 0) {
+        if ((spoj->stanice[i] == dopravna::tesk || spoj->stanice[i] == dopravna::hajovice) &&
+            spoj->prijezdy[i] >= 0) {
             text += " (příj. "_cz;
             text += text_minuty(spoj->prijezdy[i]) + " z ";
             text += kod_stanice(spoj->stanice.front());
@@ -359,9 +359,7 @@ Text popis_vozu(TextPohled vuz, TextPohled urceni) {
         text = "ČD "_cz;
         text += vuz;
     } else if (text.empty()) {
-        text = vuz;
-        for (std::size_t misto = text.find("OBB"); misto != Text::npos; misto = text.find("OBB", misto + 3))
-            text.replace(misto, 3, "ÖBB"_cz);
+        text = nahrad_v_textu(Text(vuz), "OBB", "ÖBB"_cz);
     }
     if (!urceni.empty() && urceni != "0") {
         text += " (";
@@ -379,14 +377,14 @@ void ukaz_stranku_vlaku() {
 }
 
 void info_o_vlaku(TextPohled text, int vlak) {
-    if (vlak_c(vlak) == nullptr)
+    if (skutecny_vlak(vlak) == nullptr)
         return;
     napln_stranku(text, vlak);
     prepni_panel(Panel::vlak);
 }
 
 void info_podle_gvd(std::int32_t cislo) {
-    const GvdVlak* radek = radek_gvd(cislo);
+    const GvdVlak* radek = radek_s_cislem(cislo);
     if (radek == nullptr)
         return;
     uvolni_vozy();

@@ -76,7 +76,7 @@ void smaz_radek(int radek) {
 } // namespace
 
 void pridej_do_tabulky(int vlak) {
-    const Text radek = radek_vlaku(vlaky[static_cast<std::size_t>(vlak)]);
+    const Text radek = radek_vlaku(vlak_c(vlak));
     if (!je_prazdny(kRadkuTabulky - 1)) {
         for (int i = kRadkuTabulky - 1; i > 0; --i)
             presun(i - 1, i);
@@ -112,7 +112,7 @@ void prepis_v_tabulce(std::int32_t cislo, int vlak) {
     if (i < 0)
         return;
     Text radek = relief.lblTabulka_vlaku[i].text();
-    pis_druh_a_cislo(radek, vlaky[static_cast<std::size_t>(vlak)]);
+    pis_druh_a_cislo(radek, vlak_c(vlak));
     relief.lblTabulka_vlaku[i].text = radek;
 }
 

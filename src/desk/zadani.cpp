@@ -101,7 +101,7 @@ void obnov_popisky(int v, std::int32_t stare) {
     for (std::size_t i = 0; i < koleje_vlaky.size(); ++i) {
         const std::vector<std::int16_t> seznam = koleje_vlaky[i].vlaky;
         const bool tyka_se = std::any_of(seznam.begin(), seznam.end(), [&](std::int16_t x) {
-            return x == v || (x >= 0 && zobrazene_cislo(vlaky[static_cast<std::size_t>(x)]) == stare);
+            return x == v || (x >= 0 && zobrazene_cislo(vlak_c(x)) == stare);
         });
         if (tyka_se && koleje_vlaky[i].prvek < kPrvkyBezCisel)
             zobraz_kolej(static_cast<int>(i));
@@ -109,7 +109,7 @@ void obnov_popisky(int v, std::int32_t stare) {
 }
 
 void precisluj(int v, std::int32_t cislo) {
-    Vlak& vlak = vlaky[static_cast<std::size_t>(v)];
+    Vlak& vlak = vlak_c(v);
     const std::int32_t stare = zobrazene_cislo(vlak);
     smaz_z_tabulky(stare);
     vlak.cislo = cislo;
@@ -131,8 +131,7 @@ void precisluj(int v, std::int32_t cislo) {
 
 void odpovez_na_civ(int v, TextPohled text) {
     const auto cislo = cislo_vlaku_z_textu(text);
-    const bool je_vlak =
-        v >= 0 && static_cast<std::size_t>(v) < vlaky.size() && vlaky[static_cast<std::size_t>(v)].cislo > 0;
+    const bool je_vlak = v >= 0 && static_cast<std::size_t>(v) < vlaky.size() && vlak_c(v).cislo > 0;
     if (cislo && je_vlak)
         precisluj(v, *cislo);
     spust_hodiny();

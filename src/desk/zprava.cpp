@@ -99,6 +99,50 @@ ZpravaFronty stojici_zprava() {
             relief.lblVolba[0].pozadi, relief.lblPrikaz[0].barva, relief.txtZadav_pole[0].povoleny};
 }
 
+// --- the bottom panel
+
+void stiskni_tlacitko(Panel panel) {
+    struct Tlacitko {
+        Panel panel;
+        Prvek& prvek;
+    };
+    const std::array tlacitka = {
+        Tlacitko{Panel::zpravy, relief.cmdZpravy[0]}, Tlacitko{Panel::denik, relief.cmDenik[0]},
+        Tlacitko{Panel::tabulka, relief.cmdTABULKA[0]}, Tlacitko{Panel::vlak, relief.cmdVLAK[0]}};
+    for (const Tlacitko& t : tlacitka) {
+        const bool stisknute = t.panel == panel;
+        // An unread delay stays marked until the messages are opened.
+        if (!stisknute && t.panel == Panel::zpravy && t.prvek.pozadi == barvy::zelena)
+            continue;
+        t.prvek.barva = stisknute ? barvy::bila : barvy::cerna;
+        t.prvek.pozadi = stisknute ? kStisknuteTlacitko : kPozadiTlacitka;
+    }
+}
+
+void ukaz_vse(TabulkaPrvku& prvky, bool viditelne) {
+    for (int n = 0; n <= prvky.nejvyssi(); ++n)
+        if (prvky.je(n))
+            prvky[n].viditelny = viditelne;
+}
+
+void ukaz_obsah(Panel panel) {
+    relief.lstZpravy.viditelny = panel == Panel::zpravy;
+    relief.lstDenik.viditelny = panel == Panel::denik;
+    ukaz_vse(relief.lblTabulka_vlaku, panel == Panel::tabulka);
+    ukaz_vse(relief.shpblikacka, panel == Panel::tabulka);
+    relief.lblIinfo_o_vlaku[0].viditelny = panel == Panel::vlak;
+    if (panel == Panel::tabulka)
+        relief.lblIinfo_o_vlaku[0].text = Text{};
+    if (panel == Panel::vlak) {
+        ukaz_stranku_vlaku();
+        return;
+    }
+    ukaz_vse(relief.imgObrzaek_vlaku, false);
+    ukaz_vse(relief.lblPopis_vozu, false);
+    ukaz_vse(relief.imgSberac, false);
+    relief.lblPokracuje[0].viditelny = false;
+}
+
 } // namespace
 
 bool je_varovani(TextPohled kod) {
@@ -185,42 +229,8 @@ void ukaz_zvuk() {
 }
 
 void prepni_panel(Panel panel) {
-    struct Tlacitko {
-        Panel panel;
-        Prvek& prvek;
-    };
-    const std::array tlacitka = {
-        Tlacitko{Panel::zpravy, relief.cmdZpravy[0]}, Tlacitko{Panel::denik, relief.cmDenik[0]},
-        Tlacitko{Panel::tabulka, relief.cmdTABULKA[0]}, Tlacitko{Panel::vlak, relief.cmdVLAK[0]}};
-    for (const Tlacitko& t : tlacitka) {
-        const bool stisknute = t.panel == panel;
-        // An unread delay stays marked until the messages are opened.
-        if (!stisknute && t.panel == Panel::zpravy && t.prvek.pozadi == barvy::zelena)
-            continue;
-        t.prvek.barva = stisknute ? barvy::bila : barvy::cerna;
-        t.prvek.pozadi = stisknute ? kStisknuteTlacitko : kPozadiTlacitka;
-    }
-
-    const auto ukaz = [](TabulkaPrvku& prvky, bool viditelne) {
-        for (int n = 0; n <= prvky.nejvyssi(); ++n)
-            if (prvky.je(n))
-                prvky[n].viditelny = viditelne;
-    };
-    relief.lstZpravy.viditelny = panel == Panel::zpravy;
-    relief.lstDenik.viditelny = panel == Panel::denik;
-    ukaz(relief.lblTabulka_vlaku, panel == Panel::tabulka);
-    ukaz(relief.shpblikacka, panel == Panel::tabulka);
-    relief.lblIinfo_o_vlaku[0].viditelny = panel == Panel::vlak;
-    if (panel == Panel::tabulka)
-        relief.lblIinfo_o_vlaku[0].text = Text{};
-    if (panel == Panel::vlak) {
-        ukaz_stranku_vlaku();
-    } else {
-        ukaz(relief.imgObrzaek_vlaku, false);
-        ukaz(relief.lblPopis_vozu, false);
-        ukaz(relief.imgSberac, false);
-        relief.lblPokracuje[0].viditelny = false;
-    }
+    stiskni_tlacitko(panel);
+    ukaz_obsah(panel);
     ++revize_reliefu;
 }
 

@@ -2,6 +2,8 @@
 #include "gvd/gvd.h"
 
 #include "app/simulace.h"
+#include "gvd/dopravny.h"
+#include "prvky/souhlasy.h"
 #include "zaklad/chyba.h"
 #include "zaklad/soubory.h"
 
@@ -126,9 +128,17 @@ bool aktivni_dnes(const GvdVlak& radek) {
     return ((radek.dny & 128) != 0 && simulace.pp_povoleno) || (radek.dny & simulace.den) != 0;
 }
 
+bool bez_prijezdu(const GvdVlak& radek) {
+    return radek.prijezdy.front() <= -1 || konec_ke_stanici(radek.stanice.front()) >= 0;
+}
+
+std::int16_t cas_vstupu(const GvdVlak& radek) {
+    return bez_prijezdu(radek) ? radek.odjezdy.front() : radek.prijezdy.front();
+}
+
 TextPohled nazev_stanice(int kod) {
     if (kod == kZadny)
-        kod = 9;
+        kod = dopravna::tesk;
     return kod >= 0 && kod < static_cast<int>(kStanice.size()) ? kStanice[static_cast<std::size_t>(kod)].nazev
                                                                : TextPohled{};
 }

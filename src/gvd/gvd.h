@@ -81,9 +81,18 @@ Text popis_gvd(TextPohled soubor);
 
 // --- at any time, without change
 
+// Row of the timetable. An index that is none is the run-time error 9.
+inline const GvdVlak& radek_gvd(int gvd_index) {
+    return gvd_vlaky.at(static_cast<std::size_t>(gvd_index));
+}
 // The row runs today: on its weekday, or as a train of category PP when those are allowed. The day is
 // the one that stood at the last midnight step.
 bool aktivni_dnes(const GvdVlak& radek);
+
+// The row is counted from its first departure: it begins there, or comes from a neighbour with consent.
+bool bez_prijezdu(const GvdVlak& radek);
+// Minute of its entry: of that departure, else of its first arrival.
+std::int16_t cas_vstupu(const GvdVlak& radek);
 
 // Full name of a station or point, empty for an unknown code. -3 is the main station.
 TextPohled nazev_stanice(int kod);

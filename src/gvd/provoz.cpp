@@ -7,11 +7,14 @@
 #include "cesty/cesta.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
+#include "cesty/programova_cesta.h"
 #include "desk/tabulka_vlaku.h"
+#include "gvd/dopravny.h"
+#include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"
+#include "gvd/soupravy.h"
 #include "gvd/stav_provozu.h"
-#include "gvd/zaplneni.h"
 #include "jizda/na_koleji.h"
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
@@ -26,36 +29,11 @@
 
 namespace {
 
-constexpr int kDen_min = 1440;
 constexpr TextPohled kZpozdeniVlaku = "Zpoždění vlaku "_cz;
 constexpr std::size_t kMistoCisla = 16;    // the number in a delay line, counted from 1
 constexpr std::int16_t kPoOhlaseni = 100;  // the announced train no longer is the nearest one
 constexpr std::int32_t kCislaDepa = 70000; // numbers from here run as trains at the depot of VH
 constexpr int kLoko731 = 731;
-
-const GvdVlak& radek(int gvd_index) {
-    return gvd_vlaky.at(static_cast<std::size_t>(gvd_index));
-}
-
-bool je_souhlasova(int stanice) {
-    return stanice == 19 || stanice == 20 || stanice == 5;
-}
-
-// Minute that the row's entry is counted from.
-int zakladni_cas(const GvdVlak& r) {
-    return je_souhlasova(r.stanice.front()) || r.prijezdy.front() <= -1 ? r.odjezdy.front()
-                                                                        : r.prijezdy.front();
-}
-
-bool volny_prvek(int e) {
-    return je_kolej(e) && je_volna(e);
-}
-
-// First free one; -1 when there is none.
-int prvni_volny(std::span<const int> prvky) {
-    const auto nalezeny = std::find_if(prvky.begin(), prvky.end(), volny_prvek);
-    return nalezeny == prvky.end() ? -1 : *nalezeny;
-}
 
 void nastav_tag(int e, TextPohled metry) {
     relief.kolej[e].stav = metry;
@@ -102,7 +80,7 @@ void losuj_zpozdeni(int gvd_index) {
     const std::int16_t minut = nahodne_zpozdeni(gvd_index);
     if (minut <= 0)
         return;
-    relief.lstZpravy.radky.push_back(Text(kZpozdeniVlaku) + text_cisla(radek(gvd_index).cislo) + " +" +
+    relief.lstZpravy.radky.push_back(Text(kZpozdeniVlaku) + text_cisla(radek_gvd(gvd_index).cislo) + " +" +
                                      text_cisla(minut) + Text("´"_cz));
     simulace.nova_zprava = true;
     precti_zpozdeni();
@@ -114,7 +92,7 @@ void objev_vlak(int gvd_index, int element, bool smer, bool muze_jet) {
     const std::int16_t v = vytvor_vlak(smer, element, muze_jet, kNaVstupu, gvd_index);
     pridej_do_tabulky(v);
     barvi_prvek(element, muze_jet ? barvy::cervena : barvy::zelena);
-    pis_cislo(element, text_cisla(radek(gvd_index).cislo));
+    pis_cislo(element, text_cisla(radek_gvd(gvd_index).cislo));
     postav_cesty_z(element);
 }
 
@@ -134,7 +112,7 @@ void rozjed(std::int32_t cislo, std::span<const int> prvky) {
         barvi_prvek(e, barvy::cervena);
         nastav_tag(e, "400");
         const int v = spust_vlak(cislo);
-        Vlak& vlak = vlaky[static_cast<std::size_t>(v)];
+        Vlak& vlak = vlak_c(v);
         if (vlak.cislo != cislo && vlak.cislo2 != cislo)
             return;
         if (vlak.stanice_index >= 0) { // ordered to depart by hand: its label and its row wait no more
@@ -149,10 +127,10 @@ void rozjed(std::int32_t cislo, std::span<const int> prvky) {
 // A locomotive or set of the post: it shunts in, and its first vehicle then stands by.
 void vstup_z_posty(int gvd_index) {
     constexpr int kPosta = 574;
-    if (!volny_prvek(kPosta))
+    if (!je_volna_kolej(kPosta))
         return;
     const std::int16_t v = vytvor_vlak(false, kPosta, true, kNaVstupu, gvd_index);
-    Vlak& vlak = vlaky[static_cast<std::size_t>(v)];
+    Vlak& vlak = vlak_c(v);
     if (!vlak.vozy_urceni.empty())
         vlak.vozy_urceni.front() = "ZAL";
     ++stav_provozu.pocet_zaloh;
@@ -166,10 +144,10 @@ void vstup_z_posty(int gvd_index) {
 void vstup_z_depa_vh(int gvd_index) {
     constexpr int kDepoVH = 25;
     bool jsou_vozy = false;
-    if (!volny_prvek(kDepoVH) || kontrola_soupravy(radek(gvd_index).cislo, jsou_vozy) != 0)
+    if (!je_volna_kolej(kDepoVH) || kontrola_soupravy(radek_gvd(gvd_index).cislo, jsou_vozy) != 0)
         return;
     const std::int16_t v = vytvor_vlak(true, kDepoVH, true, kNaVstupu, gvd_index);
-    Vlak& vlak = vlaky[static_cast<std::size_t>(v)];
+    Vlak& vlak = vlak_c(v);
     const bool posun = vlak.cislo < kCislaDepa;
     vlak.posun = posun;
     pridej_do_tabulky(v);
@@ -178,6 +156,18 @@ void vstup_z_depa_vh(int gvd_index) {
     postav_cesty_z(kDepoVH);
     nastav_tag(kDepoVH, "500");
     posun_po_vytvoreni(v);
+}
+
+// The lamp of the line end tells that the consented train is in, and the minute at which it came.
+void ukaz_vjezd(int k) {
+    if (relief.lblPredvidany_odjezd.je(k)) {
+        nastav_text(relief.lblPredvidany_odjezd[k], text_cisla_mist(minuta_dne(cas_hodin()) % 60, 2));
+        relief.lblPredvidany_odjezd[k].viditelny = true;
+    }
+    Prvek& lampa = relief.lblSouhlas[k];
+    nastav_text(lampa, znak(kKonceTrati[static_cast<std::size_t>(k)].znak_dovnitr));
+    lampa.barva = barvy::modra;
+    souhlasy.souhlas[static_cast<std::size_t>(k)] = false;
 }
 
 // --- announcements
@@ -190,12 +180,11 @@ struct StaniceOhlaseni {
     std::array<int, 5> koleje; // the others in order; 0 none
     bool smer;
 };
-constexpr std::uint8_t kMn = 15;
 constexpr std::array kOhlasovane = {
-    StaniceOhlaseni{6, true, 69, 66, {68, 67, 69, 66, 0}, false},
-    StaniceOhlaseni{1, true, 86, 89, {87, 88, 86, 89, 90}, true},
-    StaniceOhlaseni{2, true, 65, 62, {63, 64, 65, 62, 0}, false},
-    StaniceOhlaseni{4, false, 0, 43, {42, 41, 43, 0, 0}, false},
+    StaniceOhlaseni{dopravna::rokytno, true, 69, 66, {68, 67, 69, 66, 0}, false},
+    StaniceOhlaseni{dopravna::lhotin, true, 86, 89, {87, 88, 86, 89, 90}, true},
+    StaniceOhlaseni{dopravna::borovec, true, 65, 62, {63, 64, 65, 62, 0}, false},
+    StaniceOhlaseni{dopravna::dubnice, false, 0, 43, {42, 41, 43, 0, 0}, false},
 };
 
 std::span<const int> koleje_ohlaseni(const StaniceOhlaseni& s) {
@@ -209,11 +198,11 @@ const StaniceOhlaseni* ohlasovana(int stanice) {
 }
 
 int kolej_ohlaseni(const StaniceOhlaseni& s, bool predbiha, std::uint8_t druh) {
-    if (predbiha && volny_prvek(s.predjizdna))
+    if (predbiha && je_volna_kolej(s.predjizdna))
         return s.predjizdna;
-    if (druh == kMn && volny_prvek(s.manipulacni))
+    if (druh == druh_vlaku::mn && je_volna_kolej(s.manipulacni))
         return s.manipulacni;
-    return prvni_volny(koleje_ohlaseni(s));
+    return prvni_volna_kolej(koleje_ohlaseni(s));
 }
 
 // A later train is due before this late one, which may be overtaken.
@@ -229,7 +218,7 @@ bool je_predbihan(const GvdVlak& r) {
 void zaloha_731() {
     constexpr int kStranaA = 569, kStranaB = 538;
     const auto privez = [](int element) {
-        if (!stav_provozu.zaloha_731_jede && volny_prvek(element))
+        if (!stav_provozu.zaloha_731_jede && je_volna_kolej(element))
             vytvor_lokomotivu(kLoko731, element, true, "ZAL", true);
     };
     if (stav_provozu.zaloha_731_strana)
@@ -249,17 +238,17 @@ void zapis_dalsi_vlak(const GvdVlak& r, int zbyva, int zpozdeni) {
 }
 
 void krok_radku(int gvd_index, int ted) {
-    const GvdVlak& r = radek(gvd_index);
+    const GvdVlak& r = radek_gvd(gvd_index);
     const bool aktivni = aktivni_dnes(r);
     if (!aktivni && zpozdeni_v_kroku(r.cislo) <= 0)
         return;
     const int stanice = r.stanice.front();
-    int zbyva = (zakladni_cas(r) - ted) % kDen_min;
+    int zbyva = (cas_vstupu(r) - ted) % kDen_min;
     const bool ceka = je_cekajici(r.cislo);
     if (ceka)
-        zbyva = stanice == 9 ? 30 : 1;
-    if (zbyva == 20 && aktivni && simulace.zpozdeni_povoleno && stanice != 28 && stanice != 30 &&
-        stanice != 9 && stanice != 34)
+        zbyva = stanice == dopravna::tesk ? 30 : 1;
+    if (zbyva == 20 && aktivni && simulace.zpozdeni_povoleno &&
+        !je_v(stanice, {dopravna::dkv, dopravna::dkv_2, dopravna::tesk, dopravna::dkv_vh}))
         losuj_zpozdeni(gvd_index);
     const int zpozdeni = zpozdeni_v_kroku(r.cislo);
     if (!ceka)
@@ -269,11 +258,11 @@ void krok_radku(int gvd_index, int ted) {
         vstup_v_minute(gvd_index);
     else if (!aktivni)
         return;
-    else if (zbyva == 1 && je_souhlasova(stanice))
+    else if (zbyva == 1 && konec_ke_stanici(stanice) >= 0)
         vstup_se_souhlasem(gvd_index);
     else if (zbyva == 1 || zbyva == 2)
         ohlaseni(gvd_index);
-    else if (zbyva >= 16 && zbyva <= 30 && stanice == 9)
+    else if (zbyva >= 16 && zbyva <= 30 && stanice == dopravna::tesk)
         stanice_start(gvd_index);
 }
 
@@ -289,10 +278,10 @@ void krok_provozu() {
 }
 
 void vstup_v_minute(int gvd_index) {
-    const GvdVlak& r = radek(gvd_index);
+    const GvdVlak& r = radek_gvd(gvd_index);
     const int stanice = r.stanice.front();
     const auto objev_na = [&](std::span<const int> prvky, bool smer) {
-        if (const int e = prvni_volny(prvky); e >= 0)
+        if (const int e = prvni_volna_kolej(prvky); e >= 0)
             objev_vlak(gvd_index, e, smer, true);
     };
     if (const StaniceOhlaseni* s = ohlasovana(stanice)) {
@@ -300,24 +289,26 @@ void vstup_v_minute(int gvd_index) {
         return;
     }
     switch (stanice) {
-    case 28:
+    case dopravna::dkv:
         if (cil_volny(112))
             objev_na(std::array{112}, false);
         break;
-    case 27: objev_na(std::array{55, 56}, false); break;
-    case 31: objev_na(std::array{91, 92}, true); break;
-    case 33: vstup_z_posty(gvd_index); break;
-    case 34: vstup_z_depa_vh(gvd_index); break;
+    case dopravna::hajovice_sn: objev_na(std::array{55, 56}, false); break;
+    case dopravna::hajovice_sn_2: objev_na(std::array{91, 92}, true); break;
+    case dopravna::posta: vstup_z_posty(gvd_index); break;
+    case dopravna::dkv_vh: vstup_z_depa_vh(gvd_index); break;
     default: // 30 too: its rows stand there for the sake of their vehicles
         break;
     }
 }
 
 void vstup_se_souhlasem(int gvd_index) {
-    const GvdVlak& r = radek(gvd_index);
-    const int k = r.stanice.front() == 19 ? 0 : r.stanice.front() == 20 ? 1 : 2;
+    const GvdVlak& r = radek_gvd(gvd_index);
+    const int k = konec_ke_stanici(r.stanice.front());
+    if (!relief.lblSouhlas.je(k))
+        return;
     const KonecTrati& konec = kKonceTrati[static_cast<std::size_t>(k)];
-    if (!relief.lblSouhlas.je(k) || !je_kolej(konec.navestidlo) || !je_kolej(konec.usek))
+    if (!je_kolej(konec.navestidlo) || !je_kolej(konec.usek))
         return;
     Prvek& lampa = relief.lblSouhlas[k];
     if (!je_cekajici(r.cislo)) {
@@ -337,18 +328,11 @@ void vstup_se_souhlasem(int gvd_index) {
     pridej_cestu_souhlasu(k);
     postav_cesty_z(konec.usek);
     vyrad_cekajici(gvd_index);
-
-    if (relief.lblPredvidany_odjezd.je(k)) {
-        nastav_text(relief.lblPredvidany_odjezd[k], text_cisla_mist(minuta_dne(cas_hodin()) % 60, 2));
-        relief.lblPredvidany_odjezd[k].viditelny = true;
-    }
-    nastav_text(lampa, znak(konec.znak_dovnitr));
-    lampa.barva = barvy::modra;
-    souhlasy.souhlas[static_cast<std::size_t>(k)] = false;
+    ukaz_vjezd(k);
 }
 
 void ohlaseni(int gvd_index) {
-    const GvdVlak& r = radek(gvd_index);
+    const GvdVlak& r = radek_gvd(gvd_index);
     const StaniceOhlaseni* s = ohlasovana(r.stanice.front());
     if (s == nullptr ||
         std::any_of(vlaky.begin(), vlaky.end(), [&r](const Vlak& v) { return v.cislo == r.cislo; }))
@@ -366,7 +350,7 @@ void ohlaseni(int gvd_index) {
 
 // Thresholds as they are written, draws in single precision: 0.9 itself is just below the first one.
 std::int16_t nahodne_zpozdeni(int gvd_index) {
-    const int druh = radek(gvd_index).druh;
+    const int druh = radek_gvd(gvd_index).druh;
     const double r1 = nahodne();
     int nejvyse = 30;
     bool zpozden = false;
@@ -399,7 +383,7 @@ void pridej_cekajici(std::int32_t cislo) {
 
 void vyrad_cekajici(int gvd_index) {
     std::vector<std::int32_t>& cekajici = souhlasy.cekajici_vlaky;
-    const auto misto = std::find(cekajici.begin(), cekajici.end(), radek(gvd_index).cislo);
+    const auto misto = std::find(cekajici.begin(), cekajici.end(), radek_gvd(gvd_index).cislo);
     if (misto == cekajici.end())
         return;
     if (cekajici.size() == 1)
@@ -429,20 +413,9 @@ void postav_cesty_z(int e) {
 }
 
 void pridej_cestu_souhlasu(int k) {
-    constexpr std::array<std::int16_t, 3> kPrvniNavestidla = {284, 285, 317};
     const KonecTrati& konec = kKonceTrati.at(static_cast<std::size_t>(k));
-    if (cesty.front().zacatek >= 0)
-        cesty.emplace_back();
-    Cesta& c = cesty.back();
-    c = Cesta{};
-    c.zacatek = kPrvniNavestidla[static_cast<std::size_t>(k)];
-    c.konec = na_integer(konec.usek);
-    c.prvky = {na_integer(konec.navestidlo), na_integer(konec.usek)};
-    c.druhy = {druh_prvku::kolej, druh_prvku::kolej};
-    c.polohy = {0, 0};
-    c.VC = c.prehozena = c.Postavena = c.Provedena = true;
-    c.prejezd = kBezPrejezdu;
-    c.ZT = kZTprogramu;
+    const std::array prvky = {na_integer(konec.navestidlo), na_integer(konec.usek)};
+    pridej_programovou_cestu(konec.vjezd, konec.usek, prvky);
 }
 
 std::int16_t zpozdeni_vlaku(std::int32_t cislo) {

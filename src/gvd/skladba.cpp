@@ -4,30 +4,25 @@
 #include "app/cas.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
+#include "gvd/dopravny.h"
 #include "gvd/gvd.h"
+#include "gvd/obrazky_vozu.h"
 #include "gvd/provoz.h"
 #include "jizda/na_koleji.h"
 #include "jizda/souprava.h"
 #include "jizda/spojovani.h"
+#include "jizda/vlak.h"
 #include "zaklad/cisla.h"
-#include "zaklad/nahoda.h"
-#include "zaklad/soubory.h"
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
-#include <initializer_list>
 #include <utility>
 
 namespace {
 
-constexpr int kDen_min = 1440;
-constexpr int kTratovePrvky = 600;            // line elements begin here
 constexpr int kPrvkySeSeznamem = 500;         // elements below have their list of trains from the start
 constexpr int kDepo538 = 538, kDepo569 = 569; // where sets come out of the depot of the main station
 constexpr int kJednotka = 560;                // electric unit: 560, 060, 560p
-constexpr std::uint8_t kPosilaVpredu = 1, kPripraz = 2;
-constexpr std::int16_t kJenNaPovel = -10; // departure only on the operator's order
 
 bool ma_ridici_vuz(int rada) {
     return rada == 943 || rada == 954;
@@ -41,26 +36,47 @@ bool je_rada(const Text& vuz, int rada) {
 
 std::uint8_t prvni_rychlost(int stanice, std::uint8_t rychlost) {
     switch (stanice) {
-    case 1:
-    case 6: return std::min<std::uint8_t>(rychlost, 100);
-    case 2:
-    case 5:
-    case 10:
-    case 11:
-    case 12: return 70;
-    case 9:
-    case 16:
-    case 17:
-    case 18: return 40;
-    case 13: return 100;
-    case 19:
-    case 20: return std::min<std::uint8_t>(rychlost, 65);
-    case 27:
-    case 28:
-    case 30:
-    case 31: return 60;
+    case dopravna::lhotin:
+    case dopravna::rokytno: return std::min<std::uint8_t>(rychlost, 100);
+    case dopravna::borovec:
+    case dopravna::vrbice:
+    case dopravna::kamenec:
+    case dopravna::mokrina:
+    case dopravna::hajovice: return 70;
+    case dopravna::tesk:
+    case dopravna::pvs:
+    case dopravna::ona:
+    case dopravna::onb: return 40;
+    case dopravna::knizeci_luka: return 100;
+    case dopravna::polska_lhota:
+    case dopravna::hvozdy: return std::min<std::uint8_t>(rychlost, 65);
+    case dopravna::hajovice_sn:
+    case dopravna::dkv:
+    case dopravna::dkv_2:
+    case dopravna::hajovice_sn_2: return 60;
     default: return 80;
     }
+}
+
+void prevezmi_radek(Vlak& v, const GvdVlak& r) {
+    v.cislo = r.cislo;
+    v.cislo2 = r.cislo2;
+    v.delka = r.delka;
+    v.druh = r.druh;
+    v.druh2 = r.druh2;
+    v.gvd_hodnota = r.gvd_hodnota;
+    v.loko_rada = r.loko_rada;
+    v.loko_rada2 = r.loko_rada2;
+    v.hodnota_2 = r.hodnota_2;
+    v.dny = r.dny;
+    v.stanice_zmeny = r.stanice_zmeny;
+    v.stanice = r.stanice;
+    v.pokyn = r.kolej;
+    v.nazev = r.nazev;
+    v.max_rychlost = r.rychlost;
+    v.poznamka = r.poznamka;
+    v.vozy = r.vozy;
+    v.priznaky = r.priznaky;
 }
 
 void pridej_casy(Vlak& v, const GvdVlak& r) {
@@ -86,12 +102,6 @@ void pridej_urceni(Vlak& v, const GvdVlak& r, int element) {
         v.vozy_urceni.front() = r.navazny_vlak;
 }
 
-Text nahrad(Text text, TextPohled co, TextPohled cim) {
-    for (std::size_t misto = text.find(co); misto != Text::npos; misto = text.find(co, misto + cim.size()))
-        text.replace(misto, co.size(), cim);
-    return text;
-}
-
 Text obrazek_ridiciho(int rada) {
     return text_cisla(rada) + "p.ico";
 }
@@ -109,9 +119,9 @@ Text obrazek_vozidla(const Text& vuz, bool ridici) {
 // Two motor coaches with a cab each, trailers between them. "p" is the one with its cab at the right end:
 // the front one of a train that runs to the right, otherwise the last one.
 void obrazky_jednotky(Vlak& v, const Text& jmeno) {
-    std::fill(v.vozy_obrazek.begin() + 1, v.vozy_obrazek.end(), nahrad(jmeno, "560", "060"));
+    std::fill(v.vozy_obrazek.begin() + 1, v.vozy_obrazek.end(), nahrad_v_textu(jmeno, "560", "060"));
     v.vozy_obrazek.back() = jmeno;
-    (v.smer ? v.vozy_obrazek.front() : v.vozy_obrazek.back()) = nahrad(jmeno, "560", "560p");
+    (v.smer ? v.vozy_obrazek.front() : v.vozy_obrazek.back()) = nahrad_v_textu(jmeno, "560", "560p");
 }
 
 void pridej_obrazky(Vlak& v) {
@@ -137,7 +147,7 @@ void nasad(Vlak& v, std::size_t i, int rada) {
 }
 
 bool meni_lokomotivu(int stanice) {
-    return stanice == 9 || stanice == 12;
+    return stanice == dopravna::tesk || stanice == dopravna::hajovice;
 }
 
 // A train that is placed on its way has already changed its locomotive where it has been.
@@ -155,12 +165,12 @@ void lokomotivy_na_ceste(Vlak& v, int index) {
             v.vozy_obrazek[1] = v.vozy_obrazek[2];
         }
     }
-    if (!ma_druhy || std::find(v.stanice.begin(), po, 12) == po)
+    if (!ma_druhy || std::find(v.stanice.begin(), po, dopravna::hajovice) == po)
         return;
     const int pomocna = v.loko_rada2 != 0 ? v.loko_rada2 : v.loko_rada;
-    if ((v.priznaky & kPosilaVpredu) != 0)
+    if ((v.priznaky & priznak_vlaku::druhe_loko) != 0)
         nasad(v, 1, pomocna);
-    if ((v.priznaky & kPripraz) != 0)
+    if ((v.priznaky & priznak_vlaku::pripraz) != 0)
         nasad(v, v.vozy.size() - 1, pomocna);
 }
 
@@ -168,7 +178,7 @@ void lokomotivy_na_ceste(Vlak& v, int index) {
 void oznac_vymeny(Vlak& v) {
     if (v.vozy.empty())
         return;
-    const bool pripraz = !jen_loko(v) && (v.priznaky & kPripraz) != 0;
+    const bool pripraz = !jen_loko(v) && (v.priznaky & priznak_vlaku::pripraz) != 0;
     if (!pripraz && v.loko_rada2 == 0)
         return;
     const bool druhy_neni_loko = v.vozy.size() > 1 && !je_loko(v.vozy[1]);
@@ -176,7 +186,7 @@ void oznac_vymeny(Vlak& v) {
         return;
     for (std::size_t i = 0; i < v.stanice.size(); ++i)
         if (meni_lokomotivu(v.stanice[i]))
-            v.odjezd_realny[i] = kJenNaPovel;
+            v.odjezd_realny[i] = kNaPovel;
 }
 
 void srovnej_lokomotivy(Vlak& v) {
@@ -192,10 +202,7 @@ void srovnej_lokomotivy(Vlak& v) {
 
 // Minutes by which a train comes late to its entry.
 std::int16_t zpozdeni_na_vstupu(const GvdVlak& r) {
-    const int prvni = r.stanice.front();
-    const bool odjezdem = r.prijezdy.front() <= -1 || prvni == 5 || prvni == 19 || prvni == 20;
-    const int t = odjezdem ? r.odjezdy.front() : r.prijezdy.front();
-    return na_integer(std::max(minuta_dne(cas_hodin()) - t, 0));
+    return na_integer(std::max(minuta_dne(cas_hodin()) - cas_vstupu(r), 0));
 }
 
 void pipni_na_novy_vlak() {
@@ -205,70 +212,20 @@ void pipni_na_novy_vlak() {
     simulace.nova_pipnuti = true;
 }
 
-// --- pictures
-
-struct SlozkaObrazku {
-    Text cesta;
-    std::uint64_t otisk = 0;
-    std::vector<Text> jmena;
-};
-SlozkaObrazku slozka_obrazku; // listed anew when the folder has changed
-
-const std::vector<Text>& obrazky() {
-    const Text cesta = simulace.cesta_aplikace + "DATA\\VOZY\\";
-    const std::uint64_t otisk = otisk_souboru(cesta);
-    if (cesta != slozka_obrazku.cesta || otisk != slozka_obrazku.otisk || otisk == 0)
-        slozka_obrazku = {cesta, otisk, soubory_slozky(cesta, "*_*.*")};
-    return slozka_obrazku.jmena;
-}
-
-// The name ends, in front of one of its "_", with the series, and has a suffix behind it.
-bool patri_k_rade(TextPohled jmeno, TextPohled rada_s_podtrzitkem) {
-    const std::size_t misto = jmeno.find(rada_s_podtrzitkem);
-    return misto != TextPohled::npos &&
-           jmeno.find('.', misto + rada_s_podtrzitkem.size()) != TextPohled::npos;
-}
-
-int vaha(TextPohled jmeno) {
-    const std::size_t podtrzitko = jmeno.find('_');
-    if (podtrzitko + 1 >= jmeno.size() || jmeno[podtrzitko + 1] == ' ')
-        return 0;
-    return cele_z_textu(jmeno.substr(podtrzitko + 1));
-}
-
 } // namespace
 
 std::int16_t vytvor_vlak(bool smer, int element, bool muze_jet, int index, int gvd_index) {
-    const GvdVlak& r = gvd_vlaky.at(static_cast<std::size_t>(gvd_index));
+    const GvdVlak& r = radek_gvd(gvd_index);
     const int i = novy_vlak();
     Vlak v;
     v.stanice_index = na_integer(index - 1);
     v.prvky = {na_integer(element)};
     v.prvky_druh = {druh_prvku::kolej};
-    v.prvky_poloha = {static_cast<std::uint8_t>(element < kTratovePrvky ? 2 : 0)};
+    v.prvky_poloha = {static_cast<std::uint8_t>(je_usek_trati(element) ? 0 : 2)};
     v.prvek_konec = 0;
-
-    v.cislo = r.cislo;
-    v.cislo2 = r.cislo2;
-    v.delka = r.delka;
-    v.druh = r.druh;
-    v.druh2 = r.druh2;
-    v.gvd_hodnota = r.gvd_hodnota;
-    v.loko_rada = r.loko_rada;
-    v.loko_rada2 = r.loko_rada2;
-    v.hodnota_2 = r.hodnota_2;
-    v.dny = r.dny;
-    v.stanice_zmeny = r.stanice_zmeny;
-    v.stanice = r.stanice;
-    v.pokyn = r.kolej;
-    v.nazev = r.nazev;
-    v.max_rychlost = r.rychlost;
-    v.poznamka = r.poznamka;
-    v.vozy = r.vozy;
     v.smer = smer;
     v.muze_jet = muze_jet;
-    v.priznaky = r.priznaky;
-
+    prevezmi_radek(v, r);
     pridej_casy(v, r);
     pridej_urceni(v, r, element);
     pridej_obrazky(v);
@@ -284,7 +241,7 @@ std::int16_t vytvor_vlak(bool smer, int element, bool muze_jet, int index, int g
     oznac_vymeny(v);
     srovnej_lokomotivy(v);
 
-    vlaky[static_cast<std::size_t>(i)] = std::move(v);
+    vlak_c(i) = std::move(v);
     if (element < kPrvkySeSeznamem)
         pridej_na_kolej(element, i, smer, -1);
     if (index < 1)
@@ -309,117 +266,9 @@ std::vector<std::int16_t> dnesni_casy(const std::vector<std::int16_t>& casy) {
 }
 
 std::int32_t cislo_vlaku_pred(int vlak) {
-    const Vlak& v = vlaky.at(static_cast<std::size_t>(vlak));
+    const Vlak& v = vlak_c(vlak);
     for (const GvdVlak& r : gvd_vlaky)
         if (r.loko_rada == v.loko_rada && aktivni_dnes(r) && je_rada(r.navazny_vlak, v.cislo))
             return r.cislo;
     return 0;
-}
-
-Text obrazek_vozu(int rada) {
-    return obrazek_vozu(text_cisla(rada));
-}
-
-// Sorted names, so that the same draw gives the same picture on every machine; the first one whose
-// running sum of weights reaches the draw.
-Text obrazek_vozu(TextPohled rada) {
-    const Text hledana = Text(rada) + "_";
-    const std::vector<Text>& jmena = obrazky();
-    std::int64_t soucet = 0;
-    for (const Text& jmeno : jmena)
-        if (patri_k_rade(jmeno, hledana))
-            soucet += vaha(jmeno);
-    if (soucet == 0)
-        return {};
-    const auto x = static_cast<std::int64_t>(dolu(nahodne() * static_cast<double>(soucet)));
-    std::int64_t dosud = 0;
-    for (const Text& jmeno : jmena)
-        if (patri_k_rade(jmeno, hledana)) {
-            dosud += vaha(jmeno);
-            if (dosud >= x)
-                return jmeno;
-        }
-    return {};
-}
-
-Text obrazek_vozu_textem(TextPohled text) {
-    const Text typ = nahrad(Text(text), "OBB", "ÖBB"_cz);
-    const auto obsahuje = [&typ](TextPohled co) { return typ.find(co) != Text::npos; };
-    const auto obsahuje_neco = [&](std::initializer_list<TextPohled> co) {
-        return std::any_of(co.begin(), co.end(), obsahuje);
-    };
-    struct Pravidlo {
-        TextPohled text, obrazek;
-    };
-    static const std::array kZnacene = {
-        Pravidlo{"DB B", "DB B.ico"},
-        Pravidlo{"DB A", "DB A.ico"},
-        Pravidlo{"DB W", "DB Wrmz.ico"},
-        Pravidlo{"ZSSK B", "ZSSK B.ico"},
-    };
-    static const std::array kDalsi = {
-        Pravidlo{"MÁV Bcmz"_cz, "MÁV Bcmz.ico"_cz},
-        Pravidlo{"MÁV B"_cz, "MÁV B.ico"_cz},
-        Pravidlo{"MÁV A"_cz, "MÁV A.ico"_cz},
-        Pravidlo{"ZSSK Apeer", "ZSSK A.ico"},
-    };
-    static const std::array kObecne = {
-        Pravidlo{"BDs", "BDs.ico"},
-        Pravidlo{"BR", "BR.ico"},
-        Pravidlo{"Post", "Post.ico"},
-    };
-    // By the beginning: coaches by their class, wagons by the letters of their kind.
-    static const std::array kPodleZacatku = {
-        Pravidlo{"A", "A.ico"},
-        Pravidlo{"B", "B.ico"},
-        Pravidlo{"ÖBB A"_cz, "ÖBB A.ico"_cz},
-        Pravidlo{"ÖBB B"_cz, "ÖBB Bmz61.ico"_cz},
-        Pravidlo{"WL", "WL.ico"},      // sleeping car
-        Pravidlo{"D", "Ds.ico"},       // luggage van
-        Pravidlo{"Ea", "Eas.ico"},     // open
-        Pravidlo{"Fa", "Falls.ico"},   // hopper
-        Pravidlo{"Fc", "Falls.ico"},   //
-        Pravidlo{"Ga", "Gbs.ico"},     // covered
-        Pravidlo{"Gb", "Gbs.ico"},     //
-        Pravidlo{"Ha", "Habbins.ico"}, // with sliding walls
-        Pravidlo{"Hb", "Habbins.ico"}, //
-        Pravidlo{"Kb", "Kbs.ico"},     // flat, two axles
-        Pravidlo{"Ki", "Kbs.ico"},     //
-        Pravidlo{"La", "Laaers.ico"},  // for cars
-        Pravidlo{"Re", "Res.ico"},     // flat
-        Pravidlo{"Rg", "Res.ico"},     //
-        Pravidlo{"Ri", "Rils.ico"},    // flat under a tarpaulin
-        Pravidlo{"Sg", "Sgnss.ico"},   // for containers
-        Pravidlo{"Sh", "Shimmns.ico"}, // for coils
-        Pravidlo{"Ta", "Tads.ico"},    // with an opening roof
-        Pravidlo{"Td", "Tads.ico"},    //
-        Pravidlo{"Ua", "Uacs.ico"},    // for powder
-        Pravidlo{"Uc", "Uacs.ico"},    //
-        Pravidlo{"Za", "Zaes.ico"},    // tank
-    };
-    const auto prvni_z = [&](const auto& pravidla) -> TextPohled {
-        for (const Pravidlo& p : pravidla)
-            if (obsahuje(p.text))
-                return p.obrazek;
-        return {};
-    };
-
-    if (const TextPohled obrazek = prvni_z(kZnacene); !obrazek.empty())
-        return Text(obrazek);
-    if (typ == "ÖBB Bmpz"_cz || typ == "ÖBB Bmpz61"_cz)
-        return Text("ÖBB Bmz61.ico"_cz);
-    if (const TextPohled obrazek = prvni_z(kDalsi); !obrazek.empty())
-        return Text(obrazek);
-    if (mala_pismena(typ).find("wr") != Text::npos) // dining cars: WR, WRm, wrm
-        return "wrm.ico";
-    if (obsahuje_neco({"Bee", "Bpee", "Bmee"}))
-        return "Bee.ico";
-    if (obsahuje_neco({"Bp", "Bdt", "Bg", "Bt", "Btee"}))
-        return "B.ico";
-    if (const TextPohled obrazek = prvni_z(kObecne); !obrazek.empty())
-        return Text(obrazek);
-    for (const Pravidlo& p : kPodleZacatku)
-        if (typ.starts_with(p.text))
-            return Text(p.obrazek);
-    return {};
 }

@@ -1,4 +1,4 @@
-// gvd/skladba.h - a timetable row becomes a running train: its record, vehicles and pictures.
+// gvd/skladba.h - a timetable row becomes a running train: its record and vehicles.
 #pragma once
 
 #include "zaklad/text.h"
@@ -25,13 +25,3 @@ std::int16_t korekce(std::int16_t minuta);
 std::vector<std::int16_t> dnesni_casy(const std::vector<std::int16_t>& casy);
 // Number of the train whose set comes from this one with the same locomotive and that runs today; 0 none.
 std::int32_t cislo_vlaku_pred(int vlak);
-
-// --- at any time; draws by chance
-
-// File name of a picture of the series: the variants in DATA\VOZY are drawn by the weights in their
-// names. Empty when there is none.
-Text obrazek_vozu(int rada);
-Text obrazek_vozu(TextPohled rada); // with the leading zero that the vehicle is written with
-
-// File name of the picture of a vehicle that is given by its type. Empty for an unknown one.
-Text obrazek_vozu_textem(TextPohled text);

@@ -12,9 +12,11 @@
 #include "cesty/dotazy.h"
 #include "cesty/uvolneni.h"
 #include "cesty/volba.h"
+#include "jizda/cesty_na_prvku.h"
 #include "jizda/metry.h"
 #include "jizda/na_koleji.h"
 #include "jizda/poslusnost.h"
+#include "jizda/rychlost.h"
 #include "jizda/souprava.h"
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
@@ -30,25 +32,13 @@
 #include "zaklad/platforma.h"
 
 #include <algorithm>
-#include <array>
-#include <cmath>
-#include <initializer_list>
-#include <numeric>
-#include <vector>
 
 namespace {
 
 constexpr int kKonecUseku_m = 9;      // the last metres of a section are never run: the head jumps to the end
 constexpr int kDelkaVyhybky_m = 20;   // of train length that a switch or a derailer takes
 constexpr int kPodruhemVlaku_m = 150; // where a train finds itself when the one before it has left the track
-constexpr int kRychlostTlaceni = 30;  // km/h of a train pushed from behind
 
-Vlak& vlak_c(int v) {
-    return vlaky[static_cast<std::size_t>(v)];
-}
-Cesta& cesta_c(int c) {
-    return cesty[static_cast<std::size_t>(c)];
-}
 int pocet_cest() {
     return static_cast<int>(cesty.size());
 }
@@ -58,18 +48,11 @@ int posledni(const Cesta& cesta) {
 std::int16_t prvek_c(const Cesta& cesta, int i) {
     return cesta.prvky[static_cast<std::size_t>(i)];
 }
-// Kinds and positions beyond the end read as 0.
 std::uint8_t druh_c(const Cesta& cesta, int i) {
-    return static_cast<std::size_t>(i) < cesta.druhy.size() ? cesta.druhy[static_cast<std::size_t>(i)]
-                                                            : std::uint8_t{0};
+    return druh_na(cesta, static_cast<std::size_t>(i));
 }
 std::uint8_t poloha_c(const Cesta& cesta, int i) {
-    return static_cast<std::size_t>(i) < cesta.polohy.size() ? cesta.polohy[static_cast<std::size_t>(i)]
-                                                             : std::uint8_t{0};
-}
-
-bool je_v(int prvek, std::initializer_list<int> cisla) {
-    return std::find(cisla.begin(), cisla.end(), prvek) != cisla.end();
+    return poloha_na(cesta, static_cast<std::size_t>(i));
 }
 
 // --- the route under the head
@@ -117,7 +100,7 @@ bool vezmi_cestu(int c, int i, int v) {
         oznac_stare_cesty(c, v);
     }
     if (i == 0)
-        omez_rychlost(c, v);
+        omez_rychlost(cesta_c(c), v);
     return true;
 }
 
@@ -141,7 +124,7 @@ void zapocti_prejezd(int k) {
         prejezd.uzavren = false;
         prejezd.cas = kZadny;
     }
-    if (prejezd.pocet != 128)
+    if (prejezd.pocet != kBezVlaku)
         gtn_zapis(k, gtn::barva_navestidla, 2); // the code of a signal here is meant
 }
 
@@ -151,7 +134,7 @@ void opust_zacatek(int c) {
     if (cesta_c(c).VC && !cesta_c(c).PN && ab_zapnuto(cesta_c(c).zacatek))
         kopie_ab(c);
     const Cesta& cesta = cesta_c(c);
-    if (!je_v(prvek_c(cesta, 0), {212, 213, 219}) && !cesta.PN)
+    if (!je_vstup_z_trati(prvek_c(cesta, 0)) && !cesta.PN)
         zhasni_navestidlo(cesta);
     cesta_c(c).Umazat = 1;
     if (cesta_c(c).prejezd < stanicni_prejezdy.size())
@@ -193,7 +176,7 @@ bool vstup_na_kolej(int c, int i, int v, std::uint8_t odkud) {
     }
     if (i + 1 == posledni(cesta))
         prejezd_za_cestou(n, c);
-    if (je_cislo_koleje(n) && n < 600)
+    if (je_cislo_koleje(n) && !je_usek_trati(n))
         pridej_na_kolej(n, v, vlak_c(v).smer, -1);
     rychlost_trati_prvek(n, v);
     // The drawing is folded: on these tracks the sense of travel turns.
@@ -307,62 +290,15 @@ bool jed(int c, int i, int v, std::int32_t dt) {
     return true;
 }
 
-// Which routes hold an element, so that a train looks at those under its head only and a step costs as
-// much for each train however many routes stand. Indices in route order, each once for an element. The
-// table is made anew when a route has been taken out; routes that a step adds come behind those in it.
-struct CestyNaPrvku {
-    std::uint32_t odebrano = 0;                    // state of odebrane_cesty() at which it was made
-    int pocet = 0;                                 // routes that it knows
-    std::array<int, kNejvyssiPrvek + 2> zacatky{}; // of each element in `seznam`
-    std::vector<int> seznam;
-
-    template <class Co> void pro_kazdy(Co co) {
-        std::array<int, kNejvyssiPrvek + 1> naposled;
-        naposled.fill(-1);
-        for (int c = 0; c < pocet; ++c)
-            for (const std::int16_t n : cesta_c(c).prvky)
-                if (n >= 0 && n <= kNejvyssiPrvek && naposled[static_cast<std::size_t>(n)] != c) {
-                    naposled[static_cast<std::size_t>(n)] = c;
-                    co(static_cast<std::size_t>(n), c);
-                }
-    }
-
-    void sestav() {
-        odebrano = odebrane_cesty();
-        pocet = 0;
-        while (pocet < pocet_cest() && cesta_c(pocet).zacatek >= 0)
-            ++pocet;
-        zacatky.fill(0);
-        pro_kazdy([this](std::size_t n, int) { ++zacatky[n + 1]; });
-        std::partial_sum(zacatky.begin(), zacatky.end(), zacatky.begin());
-        seznam.resize(static_cast<std::size_t>(zacatky.back()));
-        std::array<int, kNejvyssiPrvek + 2> kam = zacatky;
-        pro_kazdy([&](std::size_t n, int c) { seznam[static_cast<std::size_t>(kam[n]++)] = c; });
-    }
-
-    // The first route from index `od` on that may hold the element; -1 when there is none.
-    int dalsi(int prvek, int od) {
-        if (odebrano != odebrane_cesty())
-            sestav();
-        if (prvek >= 0 && prvek <= kNejvyssiPrvek) {
-            const auto po = seznam.begin() + zacatky[static_cast<std::size_t>(prvek) + 1];
-            const auto c =
-                std::lower_bound(seznam.begin() + zacatky[static_cast<std::size_t>(prvek)], po, od);
-            if (c != po)
-                return *c;
-        }
-        const int pridana = std::max(od, pocet);
-        return pridana < pocet_cest() && cesta_c(pridana).zacatek >= 0 ? pridana : -1;
-    }
-};
-CestyNaPrvku cesty_na_prvku;
-
 void krok_cela(int v, std::int32_t dt) {
     const Vlak& vlak = vlak_c(v);
-    if (vlak.cislo <= 0 || !(vlak.posun || vlak.muze_jet) || vlak.prvky.empty() || !ma_loko(vlak))
+    if (vlak.cislo <= 0 || !(vlak.posun || vlak.muze_jet) || vlak.prvky.empty())
         return;
-    const auto dalsi = [v](int od) { return cesty_na_prvku.dalsi(vlak_c(v).prvky.back(), od); };
-    for (int c = dalsi(0); c >= 0; c = dalsi(c + 1)) {
+    const auto dalsi = [v](int od) { return dalsi_cesta_na_prvku(vlak_c(v).prvky.back(), od); };
+    int c = dalsi(0);
+    if (c < 0 || !ma_loko(vlak)) // most trains of a quiet desk have no route: that is asked first
+        return;
+    for (; c >= 0; c = dalsi(c + 1)) {
         const int i = misto_na_ceste(cesta_c(c), vlak_c(v));
         if (i >= 0 && vezmi_cestu(c, i, v) && jed(c, i, v, dt))
             return;
@@ -387,7 +323,7 @@ std::int32_t obsazena_delka(const Vlak& vlak) {
 void uvolni_kolej(int v, int j) {
     const int e = vlak_c(v).prvky[static_cast<std::size_t>(j)];
     const bool popsana = vlak_c(v).prvky_poloha[static_cast<std::size_t>(j)] == 2;
-    const bool cislovana = je_cislo_koleje(e) && e < 600;
+    const bool cislovana = je_cislo_koleje(e) && !je_usek_trati(e);
     if (cislovana) {
         uber_z_koleje(e, v);
         // The number ran ahead over a route against the train's sense: it is taken back.
@@ -487,67 +423,7 @@ void uklid_cesty() {
         zmena_zasobniku();
 }
 
-// --- speeds
-
-struct RychlostPrvku {
-    std::int16_t prvek;
-    std::uint8_t rychlost;
-};
-
-// Elements that set the line speed when the head enters them, by the sense of travel.
-constexpr RychlostPrvku kRychlostiVpravo[] = {
-    {135, 40}, {136, 40},  {140, 40},  {141, 40},  {145, 40},  {552, 40},  {131, 60}, {132, 60},
-    {133, 60}, {197, 60},  {198, 60},  {311, 60},  {312, 60},  {84, 65},   {85, 65},  {118, 70},
-    {306, 70}, {296, 75},  {298, 75},  {295, 80},  {300, 80},  {413, 80},  {414, 80}, {531, 85},
-    {532, 85}, {600, 100}, {602, 100}, {720, 100}, {722, 100}, {774, 100}, {776, 100}};
-constexpr RychlostPrvku kRychlostiVlevo[] = {
-    {531, 40}, {532, 40}, {135, 60},  {136, 60},  {141, 60},  {145, 60}, {295, 60}, {300, 60},
-    {311, 60}, {312, 60}, {84, 65},   {85, 65},   {413, 65},  {414, 65}, {118, 70}, {306, 70},
-    {117, 75}, {978, 75}, {980, 75},  {270, 80},  {271, 80},  {418, 80}, {419, 80}, {686, 80},
-    {720, 80}, {722, 80}, {738, 80},  {323, 85},  {326, 85},  {774, 90}, {776, 90}, {19, 100},
-    {20, 100}, {21, 100}, {107, 100}, {108, 100}, {234, 100}, {235, 100}};
-
 } // namespace
-
-void rychlost_trati_prvek(int prvek, int v) {
-    const auto najdi = [&](const auto& tabulka_rychlosti) {
-        for (const RychlostPrvku& r : tabulka_rychlosti)
-            if (r.prvek == prvek)
-                vlak_c(v).rychlost_trati = r.rychlost;
-    };
-    if (vlak_c(v).smer)
-        najdi(kRychlostiVpravo);
-    else
-        najdi(kRychlostiVlevo);
-}
-
-// Acceleration is per step, not per unit of time, and depends on the consist.
-void uprav_rychlost(int v) {
-    Vlak& vlak = vlak_c(v);
-    if (!vlak.muze_jet)
-        return;
-    if (vlak.vozy.empty() || (!je_loko(vlak.vozy[0]) && vlak.vozy[0] != "943" && vlak.vozy[0] != "954")) {
-        // Pushed from behind: exactly 30 km/h, from a stand too, above any limit. This is meant.
-        vlak.rychlost = kRychlostTlaceni;
-        return;
-    }
-    float d = 1;
-    if (vlak.druh >= 10)
-        d = static_cast<float>(vlak.delka) / 350.0f + 1.0f;
-    if (vlak.druh == 13)
-        d = d / 2.0f + 1.0f;
-    if (vlak.druh == 16)
-        d = 1;
-    const int cil =
-        vlak.rychlost_cesty != 0 && !vlak.omezeni_ukonceno ? vlak.rychlost_cesty : vlak.rychlost_trati;
-    const int r = cil - vlak.rychlost;
-    const float a = 3.0f * static_cast<float>(simulace.rychlost) / d;
-    if (r < 0 || a > static_cast<float>(std::abs(r)))
-        vlak.rychlost = na_byte(cil);
-    else
-        vlak.rychlost = na_byte(static_cast<double>(static_cast<float>(vlak.rychlost) + a));
-    vlak.rychlost = std::min(vlak.rychlost, vlak.max_rychlost);
-}
 
 void obnov_obslouzene() {
     for (Vlak& vlak : vlaky)
@@ -566,7 +442,7 @@ void krok_jizdy() {
     const auto dt = static_cast<std::int32_t>(static_cast<std::uint32_t>(platforma.tik_ms()) -
                                               static_cast<std::uint32_t>(simulace.tick_jizdy));
     const int pocet = static_cast<int>(vlaky.size()); // trains made on the way move from the next step on
-    cesty_na_prvku.sestav();
+    sestav_cesty_na_prvku();
     for (int v = 0; v < pocet; ++v)
         krok_cela(v, dt);
     for (int v = 0; v < pocet; ++v)

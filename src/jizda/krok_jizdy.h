@@ -15,10 +15,3 @@ void krok_jizdy();
 // Trains that wait at the end of their element have been looked after there: their departure is no new
 // arrival.
 void obnov_obslouzene();
-
-// --- at any time
-
-// Next speed of train v. Braking takes no distance: there is no braking curve, which is meant.
-void uprav_rychlost(int v);
-// Line speed that entering the element puts in force, if it is one of those that set it.
-void rychlost_trati_prvek(int prvek, int v);

@@ -7,6 +7,9 @@
 #include "cesty/dotazy.h"
 #include "desk/menu.h"
 #include "desk/tabulka_vlaku.h"
+#include "gvd/dopravny.h"
+#include "gvd/druhy_vlaku.h"
+#include "gvd/obrazky_vozu.h"
 #include "gvd/provoz.h"
 #include "gvd/skladba.h"
 #include "jizda/metry.h"
@@ -25,7 +28,6 @@
 
 namespace {
 
-constexpr std::uint8_t kLokomotivniVlak = 16; // category of a light engine
 constexpr std::uint8_t kRychlost = 80;
 
 // A gate of the main depot: the name that opens the menu, and the track behind the gate.
@@ -62,16 +64,16 @@ const Brana* najdi_branu(int popis) {
 }
 
 bool je_volno(int kolej) {
-    return je_kolej(kolej) && cil_volny(kolej) && je_volna(kolej);
+    return je_volna_kolej(kolej) && cil_volny(kolej);
 }
 
 // A record of vehicles of one series, standing on the track, for a run of some minutes between two places.
 int nova_lokomotiva(TextPohled rada, std::size_t pocet, int kolej, bool smer,
                     std::array<std::uint8_t, 2> odkud_kam, int jizda_min) {
     const int v = novy_vlak();
-    Vlak& vlak = vlaky[static_cast<std::size_t>(v)];
+    Vlak& vlak = vlak_c(v);
     vlak.cislo = na_long(dolu(static_cast<double>(nahodne()) * 200.0 + 74'800.0));
-    vlak.druh = kLokomotivniVlak;
+    vlak.druh = druh_vlaku::lv;
     vlak.smer = smer;
     vlak.muze_jet = true;
     vlak.max_rychlost = vlak.rychlost_trati = kRychlost;
@@ -128,10 +130,10 @@ void loko_menu(int misto, TextPohled rada) {
         !je_volno(brana->kolej))
         return;
     const bool dvojice = rada == kDvojice;
-    const int v =
-        nova_lokomotiva(dvojice ? "230" : rada, dvojice ? 2 : 1, brana->kolej, brana->smer, {27, 12}, 2);
-    vlaky[static_cast<std::size_t>(v)].delka = dvojice ? 36 : 18;
-    vlaky[static_cast<std::size_t>(v)].posun = true;
+    const int v = nova_lokomotiva(dvojice ? "230" : rada, dvojice ? 2 : 1, brana->kolej, brana->smer,
+                                  {dopravna::hajovice_sn, dopravna::hajovice}, 2);
+    vlak_c(v).delka = dvojice ? 36 : 18;
+    vlak_c(v).posun = true;
     pridej_na_kolej(brana->kolej, v, brana->smer, -1);
     barvi_prvek(brana->kolej, barvy::cervena);
     nastav_metry(brana->kolej, 500);
@@ -140,12 +142,12 @@ void loko_menu(int misto, TextPohled rada) {
 void loko_vh_menu(TextPohled rada) {
     if (std::find(kRadyVh.begin(), kRadyVh.end(), rada) == kRadyVh.end() || !je_volno(kKolejVh))
         return;
-    const int v = nova_lokomotiva(rada, 1, kKolejVh, true, {34, 9}, 7);
-    vlaky[static_cast<std::size_t>(v)].delka = 20;
+    const int v = nova_lokomotiva(rada, 1, kKolejVh, true, {dopravna::dkv_vh, dopravna::tesk}, 7);
+    vlak_c(v).delka = 20;
     pridej_na_kolej(kKolejVh, v, true, -1);
     barvi_prvek(kKolejVh, barvy::cervena);
     nastav_metry(kKolejVh, 200);
     pridej_do_tabulky(v);
-    pis_cislo(kKolejVh, text_cisla(vlaky[static_cast<std::size_t>(v)].cislo));
+    pis_cislo(kKolejVh, text_cisla(vlak_c(v).cislo));
     postav_cesty_z(kKolejVh);
 }

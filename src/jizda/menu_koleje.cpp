@@ -27,18 +27,13 @@ MenuKoleje stav_menu_koleje;
 namespace {
 
 constexpr int kNejvyssiPopisek = 650; // labels behind it take no pick and have no menu
-constexpr int kPrvniTrat = 600;       // line sections; 50 numbers further on comes the next one of a line
-constexpr int kKrokTrati = 50;
-constexpr int kDruhaKresba118 = 998; // a label at the second drawing of 118, no section of a line
-constexpr int kOdstupMenu = 20;      // twips below the label
+constexpr int kDruhaKresba118 = 998;  // a label at the second drawing of 118, no section of a line
+constexpr int kOdstupMenu = 20;       // twips below the label
 
 constexpr std::int16_t kOtazkaCislaVlaku = 9; // what an Enter answers
 
 constexpr Barva kZvyraznenyRadek = 0xFF00FF;
 
-Vlak& vlak_c(int v) {
-    return vlaky[static_cast<std::size_t>(v)];
-}
 bool je_vlak(int v) {
     return v >= 0 && static_cast<std::size_t>(v) < vlaky.size() && vlak_c(v).cislo > 0;
 }
@@ -61,7 +56,7 @@ void vyber_vlaky(int e) {
     if (zaznam < 0)
         return;
     std::size_t i = 0;
-    for (const std::int16_t v : koleje_vlaky[static_cast<std::size_t>(zaznam)].vlaky) {
+    for (const std::int16_t v : kolej_vlaky_c(zaznam).vlaky) {
         if (!je_vlak(v) || i == kVlakuVMenu)
             continue;
         stav_menu_koleje.vlak[i] = v;
@@ -172,10 +167,10 @@ Text radek_nazvu(int e) {
 
 // Length of the track; of a line that of all its sections.
 int delka_mista(int e) {
-    if (e < kPrvniTrat || e == kDruhaKresba118)
+    if (!je_usek_trati(e) || e == kDruhaKresba118)
         return delka_koleje(e);
     int delka = 0;
-    for (int n = e % kKrokTrati + kPrvniTrat; n <= kNejvyssiPrvek; n += kKrokTrati)
+    for (int n = zaklad_trati(e); n <= kNejvyssiPrvek; n += kKrokTrati)
         if (je_kolej(n))
             delka += delka_koleje(n);
     return delka;
@@ -210,7 +205,7 @@ int jediny_vlak(int e) {
     const int zaznam = zaznam_koleje(e);
     if (zaznam < 0)
         return kZadny;
-    const auto& seznam = koleje_vlaky[static_cast<std::size_t>(zaznam)].vlaky;
+    const auto& seznam = kolej_vlaky_c(zaznam).vlaky;
     return seznam.size() == 1 ? seznam.front() : kZadny;
 }
 
@@ -219,7 +214,7 @@ int vlak_s_cislem(int e, std::int32_t cislo) {
     const int zaznam = zaznam_koleje(e);
     if (zaznam < 0)
         return kZadny;
-    for (const std::int16_t v : koleje_vlaky[static_cast<std::size_t>(zaznam)].vlaky)
+    for (const std::int16_t v : kolej_vlaky_c(zaznam).vlaky)
         if (je_vlak(v) && !vlak_c(v).posun && zobrazene_cislo(vlak_c(v)) == cislo)
             return v;
     return kZadny;
@@ -240,7 +235,7 @@ void info_podle_cisla(std::int32_t cislo) {
 int prvek_popisku(int stitek) {
     if (stitek > kPrvniTrat && stitek % 2 != 0)
         return stitek - 1;
-    if (stitek >= 200 && stitek <= 399 && stitek != 212 && stitek != 213 && stitek != 219)
+    if (stitek >= 200 && stitek <= 399 && !je_vstup_z_trati(stitek))
         return stitek - 200;
     return stitek;
 }

@@ -13,19 +13,13 @@
 
 namespace {
 
-// No second label of their own: 212, 213 and 219 are labels of line ends.
-bool je_stitek_trati(int stitek) {
-    return stitek == 212 || stitek == 213 || stitek == 219;
-}
-
 Text text_vlaku(int vlak) {
-    return vlak < 0 ? Text{} : text_cisla(zobrazene_cislo(vlaky[static_cast<std::size_t>(vlak)]));
+    return vlak < 0 ? Text{} : text_cisla(zobrazene_cislo(vlak_c(vlak)));
 }
 
 // First train in [od, po) that is no shunting movement; -1 when there is none.
 template <class It> int prvni_vlak(It od, It po) {
-    const It nalezeny = std::find_if(
-        od, po, [](std::int16_t v) { return v >= 0 && !vlaky[static_cast<std::size_t>(v)].posun; });
+    const It nalezeny = std::find_if(od, po, [](std::int16_t v) { return v >= 0 && !vlak_c(v).posun; });
     return nalezeny == po ? -1 : *nalezeny;
 }
 
@@ -83,7 +77,7 @@ template <class Podminka> void uber_ze_seznamu(int vlak, Podminka podminka) {
         uber_z_koleje(prvek, vlak);
         if (vlak_na_koleji(prvek))
             continue;
-        const std::int32_t cislo = zobrazene_cislo(vlaky[static_cast<std::size_t>(vlak)]);
+        const std::int32_t cislo = zobrazene_cislo(vlak_c(vlak));
         smaz_cislo_z_dvou(prvek, cislo);
         pis_cislo(prvek, text_cisla(cislo), true);
     }
@@ -100,7 +94,7 @@ int zaznam_koleje(int prvek) {
 
 bool vlak_na_koleji(int prvek) {
     const int zaznam = zaznam_koleje(prvek);
-    return zaznam >= 0 && koleje_vlaky[static_cast<std::size_t>(zaznam)].vlaky.front() >= 0;
+    return zaznam >= 0 && kolej_vlaky_c(zaznam).vlaky.front() >= 0;
 }
 
 void pridej_na_kolej(int prvek, int vlak, bool smer, int vedle) {
@@ -111,7 +105,7 @@ void pridej_na_kolej(int prvek, int vlak, bool smer, int vedle) {
         zaznam = static_cast<int>(koleje_vlaky.size());
         koleje_vlaky.push_back({static_cast<std::int16_t>(prvek), {kZadny}});
     }
-    std::vector<std::int16_t>& seznam = koleje_vlaky[static_cast<std::size_t>(zaznam)].vlaky;
+    std::vector<std::int16_t>& seznam = kolej_vlaky_c(zaznam).vlaky;
     const auto novy = static_cast<std::int16_t>(vlak);
     if (seznam.front() < 0) {
         seznam.front() = novy;
@@ -123,7 +117,7 @@ void pridej_na_kolej(int prvek, int vlak, bool smer, int vedle) {
             ++misto;
         seznam.insert(misto, novy);
     }
-    gtn_zapis(prvek, gtn::vlak_na_kolej, zobrazene_cislo(vlaky[static_cast<std::size_t>(vlak)]));
+    gtn_zapis(prvek, gtn::vlak_na_kolej, zobrazene_cislo(vlak_c(vlak)));
     zobraz_kolej(zaznam);
 }
 
@@ -131,11 +125,11 @@ void uber_z_koleje(int prvek, int vlak) {
     const int zaznam = zaznam_koleje(prvek);
     if (zaznam < 0)
         return;
-    std::vector<std::int16_t>& seznam = koleje_vlaky[static_cast<std::size_t>(zaznam)].vlaky;
+    std::vector<std::int16_t>& seznam = kolej_vlaky_c(zaznam).vlaky;
     const auto misto = std::find(seznam.begin(), seznam.end(), vlak);
     if (misto == seznam.end())
         return;
-    gtn_zapis(prvek, gtn::vlak_z_koleje, zobrazene_cislo(vlaky[static_cast<std::size_t>(vlak)]));
+    gtn_zapis(prvek, gtn::vlak_z_koleje, zobrazene_cislo(vlak_c(vlak)));
     if (seznam.size() == 1) {
         seznam.front() = kZadny;
         return;
@@ -145,11 +139,11 @@ void uber_z_koleje(int prvek, int vlak) {
 }
 
 void zobraz_kolej(int zaznam) {
-    const KolejVlaky kolej = koleje_vlaky[static_cast<std::size_t>(zaznam)];
+    const KolejVlaky kolej = kolej_vlaky_c(zaznam);
     const int e = kolej.prvek;
     if (!je_cislo_koleje(e) || !je_kolej(e))
         return;
-    if (je_cislo_koleje(e + 200) && !je_stitek_trati(e + 200))
+    if (je_cislo_koleje(e + 200) && !je_vstup_z_trati(e + 200))
         zobraz_dva_stitky(e, kolej.vlaky);
     else
         zobraz_jeden_stitek(e, kolej.vlaky);
@@ -158,13 +152,13 @@ void zobraz_kolej(int zaznam) {
 void zobraz_cislo(int stitek, int prvek, int vlak) {
     if (vlak < 0)
         return;
-    if (!vlaky[static_cast<std::size_t>(vlak)].muze_jet) {
+    if (!vlak_c(vlak).muze_jet) {
         zobraz_cekani(vlak);
         return;
     }
     Prvek& p = relief.cislo_koleje[stitek];
     nastav_pozadi_stitku(stitek, barvy::cerna);
-    if (!je_stitek_trati(stitek))
+    if (!je_vstup_z_trati(stitek))
         p.barva = relief.kolej[prvek].barva;
     if (const auto pozadi = pozadi_poznamky(prvek))
         nastav_pozadi_stitku(stitek, *pozadi);
@@ -177,8 +171,7 @@ void nastav_pozadi_stitku(int stitek, Barva pozadi) {
 }
 
 void uber_z_opustenych(int vlak) {
-    uber_ze_seznamu(vlak,
-                    [vlak](int prvek) { return !drzi_prvek(vlaky[static_cast<std::size_t>(vlak)], prvek); });
+    uber_ze_seznamu(vlak, [vlak](int prvek) { return !drzi_prvek(vlak_c(vlak), prvek); });
 }
 
 void uber_ze_vsech(int vlak) {

@@ -1,4 +1,4 @@
-// jizda/poslusnost.cpp - sense and limits of routes, warnings, level crossings, leaving the area.
+// jizda/poslusnost.cpp - sense of routes, warnings, level crossings, leaving the area.
 #include "jizda/poslusnost.h"
 
 #include "app/simulace.h"
@@ -6,6 +6,8 @@
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
 #include "desk/zprava.h"
+#include "gvd/dopravny.h"
+#include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/stav_provozu.h"
 #include "jizda/metry.h"
@@ -21,33 +23,24 @@
 
 #include <algorithm>
 #include <array>
-#include <initializer_list>
 
 namespace {
 
-constexpr int kMinutNaRozjezd = 5;   // so long after the start the trains already under way are not told of
-constexpr int kRychlostPosunu = 30;  // km/h over a shunt or calling-on route
-constexpr int kRychlostVstupu = 100; // km/h over a route made for a train that enters the area
+constexpr int kMinutNaRozjezd = 5; // so long after the start the trains already under way are not told of
 
-Vlak& vlak_c(int v) {
-    return vlaky[static_cast<std::size_t>(v)];
-}
-const Cesta& cesta_c(int c) {
-    return cesty[static_cast<std::size_t>(c)];
-}
 int prvek_c(const Cesta& cesta, int i) {
     return cesta.prvky[static_cast<std::size_t>(i)];
 }
-bool je_v(int cislo, std::initializer_list<int> cisla) {
-    return std::find(cisla.begin(), cisla.end(), cislo) != cisla.end();
-}
-
 // --- warnings
 
+// Signal of a line that a train over the section comes to; one of a pair for each sense.
+int navestidlo_oddilu(int usek, bool smer) {
+    return zaklad_trati(usek) + (smer ? 1 : 0);
+}
 // The signal in front of which the route ends, and its name for the operator.
 int navestidlo_konce(const Cesta& cesta, bool smer) {
-    if (cesta.konec >= 600)
-        return cesta.konec % 50 + (smer ? 601 : 600);
+    if (je_usek_trati(cesta.konec))
+        return navestidlo_oddilu(cesta.konec, smer);
     return cesta.konec + 200;
 }
 Text jmeno_konce(const Cesta& cesta, bool smer) {
@@ -106,18 +99,22 @@ struct Vystup {
     int stanice; // 0: none named
 };
 constexpr std::array kVystupy = {
-    Vystup{86, 90, false, 1},   Vystup{62, 65, true, 2},     Vystup{66, 69, true, 6},
-    Vystup{41, 43, true, 4},    Vystup{213, 213, false, 20}, Vystup{212, 212, false, 19},
-    Vystup{219, 219, false, 5}, Vystup{25, 25, false, 0},    Vystup{91, 92, false, 0},
-    Vystup{119, 119, false, 0}, Vystup{557, 557, false, 0},  Vystup{595, 595, false, 0},
-    Vystup{55, 56, true, 0},    Vystup{112, 112, true, 0},   Vystup{574, 574, true, 0}};
+    Vystup{86, 90, false, dopravna::lhotin},   Vystup{62, 65, true, dopravna::borovec},
+    Vystup{66, 69, true, dopravna::rokytno},   Vystup{41, 43, true, dopravna::dubnice},
+    Vystup{213, 213, false, dopravna::hvozdy}, Vystup{212, 212, false, dopravna::polska_lhota},
+    Vystup{219, 219, false, dopravna::vrbice}, Vystup{25, 25, false, dopravna::zadna},
+    Vystup{91, 92, false, dopravna::zadna},    Vystup{119, 119, false, dopravna::zadna},
+    Vystup{557, 557, false, dopravna::zadna},  Vystup{595, 595, false, dopravna::zadna},
+    Vystup{55, 56, true, dopravna::zadna},     Vystup{112, 112, true, dopravna::zadna},
+    Vystup{574, 574, true, dopravna::zadna}};
 
 // Vrbice and Dubnice lie in one direction.
 bool spravny_smer(const Vlak& vlak, int stanice) {
-    if (stanice == 0 || vlak.stanice.empty())
+    if (stanice == dopravna::zadna || vlak.stanice.empty())
         return true;
     const int cil = vlak.stanice.back();
-    return cil == stanice || (cil == 4 && stanice == 5) || (cil == 5 && stanice == 4);
+    return cil == stanice || (cil == dopravna::dubnice && stanice == dopravna::vrbice) ||
+           (cil == dopravna::vrbice && stanice == dopravna::dubnice);
 }
 
 // Delays are told by the number of the timetable, which is the first one.
@@ -203,30 +200,11 @@ bool srovnej_smer(int cesta, int i, int v) {
     // A cab at both ends, a shunt, a light engine; else a locomotive at the far end.
     const Text& celo = vlak.vozy.front();
     const bool vzdy =
-        celo == "943" || celo == "954" || celo == "560" || !cesta_c(cesta).VC || vlak.druh == 16;
+        je_ridici_vuz(celo) || celo == "560" || !cesta_c(cesta).VC || vlak.druh == druh_vlaku::lv;
     if (!vzdy && !je_loko(vlak.vozy.back()))
         return false;
     otoc_vlak(v);
     return true;
-}
-
-void omez_rychlost(int cesta, int v) {
-    const Cesta& c = cesta_c(cesta);
-    Vlak& vlak = vlak_c(v);
-    if (c.ZT == kZTprogramu) {
-        vlak.rychlost_cesty = kRychlostVstupu;
-        vlak.omezeni_ukonceno = true;
-        return;
-    }
-    constexpr std::array<std::uint8_t, 4> kTridy = {0, 40, 60, 80};
-    if (!c.VC || c.PN)
-        vlak.rychlost_cesty = kRychlostPosunu;
-    else if (c.rychlost == 0)
-        vlak.rychlost_cesty = vlak.rychlost_trati;
-    else if (c.rychlost < kTridy.size())
-        vlak.rychlost_cesty = kTridy[c.rychlost];
-    vlak.omezeni_ukonceno = false;
-    vlak.konec_omezeni = c.vyhybka;
 }
 
 void kontrola_vstupu(int cesta, int i, int v) {
@@ -234,8 +212,8 @@ void kontrola_vstupu(int cesta, int i, int v) {
     const int n = prvek_c(c, i + 1);
     const bool smer = vlak_c(v).smer;
     const bool posledni = static_cast<std::size_t>(i) + 2 == c.prvky.size();
-    if (posledni && n >= 600 && !je_v(n, {604, 606, 654, 656})) {
-        const int s = n % 50 + (smer ? 601 : 600);
+    if (posledni && je_usek_trati(n) && !je_v(n, {604, 606, 654, 656})) {
+        const int s = navestidlo_oddilu(n, smer);
         if (relief.navestidlo.je(s) && relief.navestidlo[s].barva != barvy::zelena)
             varuj(veta_projel(v, " projel na ", jmeno_navestidla(s)));
     }
@@ -246,7 +224,7 @@ void kontrola_vstupu(int cesta, int i, int v) {
 void uvnitr_prvku(int cesta, int i, int v) {
     const int e = vlak_c(v).prvky.back();
     const bool cely = static_cast<std::size_t>(vlak_c(v).prvek_konec) + 1 == vlak_c(v).prvky.size();
-    if (cely && (e > 600 || e == 96))
+    if (cely && (e > kPrvniTrat || e == 96))
         vlak_v_cili(e, v); // stopped on the line once the whole train is on the section
     varuj_na_konci_useku(cesta_c(cesta), e, v);
     if (e == 118 && i > 0) {

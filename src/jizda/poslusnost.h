@@ -1,4 +1,4 @@
-// jizda/poslusnost.h - how a train obeys: the sense of its route, the limit on it, warnings, the exit.
+// jizda/poslusnost.h - how a train obeys: the sense of its route, warnings, the exit.
 //
 // A train reads no aspect. A set route is what lets it move, and the route's speed class is what limits
 // it; running towards a signal at danger only warns the operator.
@@ -20,8 +20,6 @@ int cesta_od_prvku(int prvek, int dalsi, bool smer);
 
 // The route is one for train v at index i: turns the train where it may turn; false refuses the route.
 bool srovnej_smer(int cesta, int i, int v);
-// The head stands on the start of the route: its limit is in force.
-void omez_rychlost(int cesta, int v);
 // The head entered entry i + 1 of the route: warnings at block signals and line ends.
 void kontrola_vstupu(int cesta, int i, int v);
 // The head moved inside entry i of the route: stops of long sections, warnings, level crossings.

@@ -7,6 +7,8 @@
 #include "desk/info_o_vlaku.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
+#include "gvd/dopravny.h"
+#include "gvd/druhy_vlaku.h"
 #include "jizda/na_koleji.h"
 #include "jizda/souprava.h"
 #include "jizda/vlak.h"
@@ -20,14 +22,8 @@
 
 namespace {
 
-constexpr std::uint8_t kLokomotivniVlak = 16;   // category of a light engine
-constexpr int kPrvniMotorovyVuz = 800;          // series from which on a lone vehicle is no light engine
 constexpr std::int32_t kPrvniSmyslene = 70'000; // made-up numbers lie above this one
 constexpr std::int32_t kZaSmyslenymi = 80'000;  // and below this one
-
-Vlak& vlak_c(int v) {
-    return vlaky[static_cast<std::size_t>(v)];
-}
 
 void odmitni(TextPohled veta) {
     zprava(" ZMENA "_cz, veta, barvy::bila, 0, false, 0xFFFFFF, barvy::cervena);
@@ -53,11 +49,10 @@ bool smi_se_zmenit(int v, int prvek) {
 void stane_se_vlakem(int v) {
     Vlak& vlak = vlak_c(v);
     const int prvni = vlak.stanice.empty() ? 0 : vlak.stanice.front();
-    if (prvni == 17 || prvni == 18 || prvni == 33 || prvni == 34)
+    if (je_v(prvni, {dopravna::ona, dopravna::onb, dopravna::posta, dopravna::dkv_vh}))
         vlak.stanice_index = 1;
     zobraz_cekani(v);
-    if (jen_loko(vlak) && vlak.druh != kLokomotivniVlak &&
-        cislo_z_textu(vlak.vozy.front()) < kPrvniMotorovyVuz)
+    if (jen_loko(vlak) && vlak.druh != druh_vlaku::lv && cislo_z_textu(vlak.vozy.front()) < kPrvniMotorovyVuz)
         vlak_na_posun_cislo(v);
     if (radek_tabulky(zobrazene_cislo(vlak_c(v))) < 0)
         pridej_do_tabulky(v);
@@ -82,12 +77,13 @@ std::uint8_t cil_stroje(const Vlak& vlak, int odkud) {
         TextPohled urceni;
         std::uint8_t stanice;
     };
-    constexpr std::array<Cil, 3> kCile = {{{"dkv", 28}, {"vh", 34}, {"bor", 2}}};
+    constexpr std::array<Cil, 3> kCile = {
+        {{"dkv", dopravna::dkv}, {"vh", dopravna::dkv_vh}, {"bor", dopravna::borovec}}};
     const Text urceni = vlak.vozy_urceni.empty() ? Text{} : mala_pismena(vlak.vozy_urceni.front());
     for (const Cil& cil : kCile)
         if (urceni == cil.urceni)
             return cil.stanice;
-    return odkud == 12 ? 9 : 12;
+    return odkud == dopravna::hajovice ? dopravna::tesk : dopravna::hajovice;
 }
 
 } // namespace
@@ -113,14 +109,14 @@ void zmena_posun(int v, int prvek, bool tise) {
 void vlak_na_posun_cislo(int v) {
     Vlak& vlak = vlak_c(v);
     vlak.cislo = na_long(dolu(static_cast<double>(nahodne()) * 9999.0 + kPrvniSmyslene));
-    vlak.druh = kLokomotivniVlak;
+    vlak.druh = druh_vlaku::lv;
     vlak.cislo2 = 0;
     vlak.druh2 = 0;
     vlak.cislo2_platne = false;
     vlak.stanice_zmeny = 0;
     vlak.pokyn.clear();
     const int doma = stanice_prvku(vlak.prvky.back());
-    const auto odkud = static_cast<std::uint8_t>(doma == 0 ? 9 : doma);
+    const auto odkud = static_cast<std::uint8_t>(doma == dopravna::zadna ? dopravna::tesk : doma);
     vlak.stanice = {odkud, cil_stroje(vlak, odkud)};
     const std::int16_t ted = cas_min();
     vlak.prijezd = {ted, na_integer(ted + 15)};

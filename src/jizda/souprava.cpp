@@ -5,6 +5,14 @@
 
 #include <algorithm>
 
+double rada_vozu(TextPohled vuz) {
+    return cislo_z_textu(vuz);
+}
+
+bool je_ridici_vuz(TextPohled vuz) {
+    return vuz == "943" || vuz == "954";
+}
+
 bool je_loko(TextPohled vuz) {
     const auto rada = ciselny_text(vuz);
     return rada && *rada > 100 && *rada < 900;

@@ -7,6 +7,12 @@
 #include "jizda/vlak.h"
 #include "zaklad/text.h"
 
+inline constexpr int kPrvniMotorovyVuz = 800; // series from which on a vehicle runs without a locomotive
+
+// Series of a vehicle as a number; 0 of one that is given by its type.
+double rada_vozu(TextPohled vuz);
+// A driving trailer: 943 or 954.
+bool je_ridici_vuz(TextPohled vuz);
 // The series is a number strictly between 100 and 900.
 bool je_loko(TextPohled vuz);
 // Every vehicle is a locomotive: a light engine or a group of them. False for a record without vehicles.

@@ -11,6 +11,8 @@
 #include "desk/info_o_vlaku.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
+#include "gvd/dopravny.h"
+#include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"
 #include "jizda/metry.h"
@@ -30,20 +32,11 @@
 namespace {
 
 constexpr int kDelkaLoko_m = 18;           // of a locomotive, and of a consist that would have none
-constexpr std::int16_t kNaPovel = -10;     // working departure of a stop that ends only by order
 constexpr std::uint8_t kRychlostDilu = 40; // line speed of a part that was split off
-constexpr int kPrvniMotorovyVuz = 800;     // series from which on a lone vehicle is a train of its own
 constexpr int kPrvniRidiciVuz = 900;       // driving trailers
-constexpr int kPosledniVeStanici = 600;    // sections of lines are numbered above
 constexpr int kKolejVytahu = 32;           // beside the stub of the locomotives
 constexpr int kKusaKolej = 574;            // that stub
 
-Vlak& vlak_c(int v) {
-    return vlaky[static_cast<std::size_t>(v)];
-}
-double rada(TextPohled vuz) {
-    return cislo_z_textu(vuz);
-}
 bool cely_na_prvku(const Vlak& v) {
     return !v.prvky.empty() && static_cast<std::size_t>(v.prvek_konec) + 1 == v.prvky.size();
 }
@@ -100,7 +93,7 @@ void spoj_vozy(int a, int b, bool zustava_b) {
 // operator has still to release; the one that it came by ends here.
 void predej_cesty(int zanikl, int zustal) {
     for (int c = static_cast<int>(cesty.size()) - 1; c >= 0; --c) {
-        Cesta& cesta = cesty[static_cast<std::size_t>(c)];
+        Cesta& cesta = cesta_c(c);
         if (cesta.Vlak != zanikl)
             continue;
         if (cesta.Umazat == 0 || (cesta.PN && !cesta.PN_zaver)) {
@@ -118,10 +111,11 @@ void obnov_odjezd(Vlak& vlak) {
     if (i + 1 >= vlak.stanice.size() || i >= vlak.odjezd_realny.size() || i >= vlak.odjezd.size() ||
         vlak.odjezd_realny[i] != kNaPovel)
         return;
-    if (((vlak.priznaky & 2) != 0 && !posledni_je_loko(vlak)) ||
-        ((vlak.priznaky & 1) != 0 && !druhy_je_loko(vlak)))
+    if (((vlak.priznaky & priznak_vlaku::pripraz) != 0 && !posledni_je_loko(vlak)) ||
+        ((vlak.priznaky & priznak_vlaku::druhe_loko) != 0 && !druhy_je_loko(vlak)))
         return;
-    const int nejdrive = cas_min() + (vlak.druh >= 10 && vlak.druh != 16 ? 6 : 3);
+    const int nejdrive =
+        cas_min() + (vlak.druh >= druh_vlaku::prvni_nakladni && vlak.druh != druh_vlaku::lv ? 6 : 3);
     vlak.odjezd_realny[i] = na_integer(std::max<int>(nejdrive, vlak.odjezd[i]));
 }
 
@@ -129,15 +123,52 @@ void obnov_odjezd(Vlak& vlak) {
 
 // Wholly on one element of the station: a train on a line or at its end is on its way.
 bool stoji_na_koleji(const Vlak& v) {
-    constexpr std::array<int, 8> kKonceTrati = {84, 85, 117, 120, 123, 212, 213, 219};
-    return cely_na_prvku(v) && v.prvky.back() <= kPosledniVeStanici &&
-           std::find(kKonceTrati.begin(), kKonceTrati.end(), v.prvky.back()) == kKonceTrati.end();
+    if (!cely_na_prvku(v))
+        return false;
+    const int e = v.prvky.back();
+    return e <= kPrvniTrat && !je_v(e, {84, 85, 117, 120, 123}) && !je_vstup_z_trati(e);
 }
 
 // Units are not split.
 bool je_jednotka(TextPohled vuz) {
     constexpr std::array<TextPohled, 5> kJednotky = {"560", "060", "681", "682", "683"};
     return std::find(kJednotky.begin(), kJednotky.end(), vuz) != kJednotky.end();
+}
+
+bool lze_odvesit(const Vlak& vlak, int i) {
+    return i >= 0 && static_cast<std::size_t>(i) < vlak.vozy.size() && vlak.vozy.size() >= 2 &&
+           vlak.cislo >= 0 && !vlak.prvky.empty() && !je_jednotka(vlak.vozy[static_cast<std::size_t>(i)]);
+}
+
+// The part stands under the head of its train, and leaves it as a shunting movement.
+void zaloz_dil(const Vlak& vlak, Vlak& dil) {
+    dil.cislo = vlak.cislo;
+    dil.druh = vlak.druh;
+    dil.max_rychlost = vlak.max_rychlost;
+    dil.smer = vlak.smer;
+    dil.stanice = vlak.stanice;
+    dil.prijezd = vlak.prijezd;
+    dil.odjezd = vlak.odjezd;
+    dil.odjezd_realny = vlak.odjezd_realny;
+    dil.rychlost_trati = kRychlostDilu;
+    dil.posun = true;
+    dil.muze_jet = true;
+    dil.prvky.assign(1, vlak.prvky.back());
+    dil.prvky_druh.assign(1, vlak.prvky_druh.back());
+    dil.prvky_poloha.assign(1, vlak.prvky_poloha.back());
+}
+
+// The stop now ends only by order, or when another locomotive is coupled.
+void cekej_na_povel(Vlak& vlak) {
+    if (vlak.stanice_index >= 0 && static_cast<std::size_t>(vlak.stanice_index) < vlak.odjezd_realny.size())
+        vlak.odjezd_realny[static_cast<std::size_t>(vlak.stanice_index)] = kNaPovel;
+}
+
+// Routes that neither part has entered yet are free for either.
+void uvolni_nezacate_cesty(int v, int d) {
+    for (Cesta& cesta : cesty)
+        if ((cesta.Vlak == v || cesta.Vlak == d) && cesta.Umazat == 0)
+            cesta.Vlak = kZadny;
 }
 
 void rozdel_vozy(Vlak& vlak, Vlak& dil, std::size_t i) {
@@ -197,7 +228,7 @@ int vuz_s_dalsim_cislem(const Vlak& vlak) {
     return -1;
 }
 
-const GvdVlak* radek_gvd(double cislo) {
+const GvdVlak* radek_s_cislem(double cislo) {
     const auto radek = std::find_if(gvd_vlaky.begin(), gvd_vlaky.end(),
                                     [cislo](const GvdVlak& g) { return g.cislo == cislo; });
     return radek == gvd_vlaky.end() ? nullptr : &*radek;
@@ -242,8 +273,9 @@ bool musi_objet(const Vlak& vlak) {
         return false;
     const int druha = vlak.stanice[1];
     if (vlak.smer)
-        return (druha == 8 || druha == 11 || druha == 5) && rada(vlak.vozy.back()) < kPrvniRidiciVuz;
-    return druha == 7;
+        return je_v(druha, {dopravna::vysni_hrabov, dopravna::mokrina, dopravna::vrbice}) &&
+               rada_vozu(vlak.vozy.back()) < kPrvniRidiciVuz;
+    return druha == dopravna::rybnice;
 }
 
 } // namespace
@@ -313,7 +345,7 @@ void spoj(int a, int b) {
         platforma.pipni(100, 200); // sounds even when the sound is off: this one is meant
         return;
     }
-    const bool a_je_stroj = jen_loko(vlak_c(a)) || vlak_c(a).druh == 16;
+    const bool a_je_stroj = jen_loko(vlak_c(a)) || vlak_c(a).druh == druh_vlaku::lv;
     const bool zustava_b = a_je_stroj && !jen_loko(vlak_c(b));
     const int zustal = zustava_b ? b : a;
     const int zanikl = zustava_b ? a : b;
@@ -333,44 +365,24 @@ void spoj(int a, int b) {
 }
 
 int odvesit(int v, int i, bool zobraz) {
-    if (i < 0 || static_cast<std::size_t>(i) >= vlak_c(v).vozy.size() || vlak_c(v).vozy.size() < 2 ||
-        vlak_c(v).cislo < 0 || vlak_c(v).prvky.empty() ||
-        je_jednotka(vlak_c(v).vozy[static_cast<std::size_t>(i)]))
+    if (!lze_odvesit(vlak_c(v), i))
         return kZadny;
     const int d = novy_vlak();
     Vlak& vlak = vlak_c(v);
     Vlak& dil = vlak_c(d);
     const bool posledni = static_cast<std::size_t>(i) + 1 == vlak.vozy.size();
     const int celo = vlak.prvky.back();
-    dil.cislo = vlak.cislo;
-    dil.druh = vlak.druh;
-    dil.max_rychlost = vlak.max_rychlost;
-    dil.smer = vlak.smer;
-    dil.stanice = vlak.stanice;
-    dil.prijezd = vlak.prijezd;
-    dil.odjezd = vlak.odjezd;
-    dil.odjezd_realny = vlak.odjezd_realny;
-    dil.rychlost_trati = kRychlostDilu;
-    dil.posun = true;
-    dil.muze_jet = true;
-    if (vlak.stanice_index >= 0 && static_cast<std::size_t>(vlak.stanice_index) < vlak.odjezd_realny.size())
-        vlak.odjezd_realny[static_cast<std::size_t>(vlak.stanice_index)] = kNaPovel;
+    zaloz_dil(vlak, dil);
+    cekej_na_povel(vlak);
     nastav_metry(celo, vlak.delka);
-    dil.prvky.assign(1, vlak.prvky.back());
-    dil.prvky_druh.assign(1, vlak.prvky_druh.back());
-    dil.prvky_poloha.assign(1, vlak.prvky_poloha.back());
     rozdel_vozy(vlak, dil, static_cast<std::size_t>(i));
     pridej_na_kolej(celo, d, posledni ? !vlak.smer : vlak.smer, v);
     rozdel_delku(vlak, dil);
     odstav_na_kusou(d);
-    for (Cesta& cesta : cesty)
-        if ((cesta.Vlak == v || cesta.Vlak == d) && cesta.Umazat == 0)
-            cesta.Vlak = kZadny;
+    uvolni_nezacate_cesty(v, d);
     navazny_vlak(d);
     // A through train keeps its timetable; only at its last stop it becomes the next one.
-    const Vlak& zbyl = vlak_c(v);
-    if (zbyl.posun ||
-        (zbyl.stanice_index >= 0 && static_cast<std::size_t>(zbyl.stanice_index) + 1 == zbyl.stanice.size()))
+    if (vlak_c(v).posun || stoji_na_posledni(vlak_c(v)))
         navazny_vlak(v);
     if (zobraz || info_ukazuje(v))
         info_o_vlaku({}, v);
@@ -426,7 +438,8 @@ void zkrat_vlak(int v) {
 }
 
 void navazny_vlak(int v) {
-    if (vlak_c(v).vozy.empty() || (jen_loko(vlak_c(v)) && rada(vlak_c(v).vozy.front()) < kPrvniMotorovyVuz))
+    if (vlak_c(v).vozy.empty() ||
+        (jen_loko(vlak_c(v)) && rada_vozu(vlak_c(v).vozy.front()) < kPrvniMotorovyVuz))
         return;
     srovnej_seznamy(vlak_c(v));
     const int i = vuz_s_dalsim_cislem(vlak_c(v));
@@ -442,7 +455,7 @@ void navazny_vlak(int v) {
     const auto dalsi = ciselny_text(vlak_c(v).vozy_urceni.front());
     if (!dalsi || *dalsi == vlak_c(v).cislo)
         return;
-    const GvdVlak* radek = radek_gvd(*dalsi);
+    const GvdVlak* radek = radek_s_cislem(*dalsi);
     if (radek == nullptr)
         return;
     smaz_radek_vlaku(v);

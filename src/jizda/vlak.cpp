@@ -30,3 +30,7 @@ bool drzi_jiny(int kolej, int v) {
             return true;
     return false;
 }
+
+bool stoji_na_posledni(const Vlak& v) {
+    return v.stanice_index >= 0 && static_cast<std::size_t>(v.stanice_index) + 1 == v.stanice.size();
+}

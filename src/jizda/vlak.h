@@ -13,6 +13,12 @@
 #include <cstdint>
 #include <vector>
 
+// What the composition of a train demands.
+namespace priznak_vlaku {
+inline constexpr std::uint8_t druhe_loko = 1; // a second locomotive at the front
+inline constexpr std::uint8_t pripraz = 2;    // an assisting one at the end
+} // namespace priznak_vlaku
+
 struct Vlak {
     std::vector<std::uint8_t> stanice; // timetable stations in running order, station codes
     std::vector<std::int16_t> prijezd; // running minutes: minute of the day + 1440 a day since the first
@@ -37,7 +43,7 @@ struct Vlak {
     Text poznamka;
     Text pokyn;                             // working instruction: the planned track
     std::uint8_t dny = 0;                   // days of running, bit 7 holidays
-    std::uint8_t priznaky = 0;              // 1: second locomotive at the front; 2: assisting one at the end
+    std::uint8_t priznaky = 0;              // bits of priznak_vlaku
     std::int16_t stanice_index = 0;         // stop now or last served; negative: none yet
     bool muze_jet = false;                  // may run; else it waits at a stop
     std::vector<std::int16_t> prvky;        // elements entered, oldest first; the last one is the head
@@ -70,6 +76,7 @@ struct KolejVlaky {
 };
 
 inline constexpr std::size_t kPrvnichVlaku = 51; // records of a new simulation
+inline constexpr std::int16_t kNaPovel = -10;    // working departure of a stop that ends only by order
 
 extern std::vector<Vlak> vlaky;
 extern std::vector<KolejVlaky> koleje_vlaky; // grows by appending; the first record is a dummy
@@ -82,6 +89,14 @@ std::vector<KolejVlaky> prvni_koleje_vlaky();
 
 // --- at any time, without change
 
+// Train number v of the table. An index that is none is the run-time error 9.
+inline Vlak& vlak_c(int v) {
+    return vlaky.at(static_cast<std::size_t>(v));
+}
+// The same of koleje_vlaky.
+inline KolejVlaky& kolej_vlaky_c(int zaznam) {
+    return koleje_vlaky.at(static_cast<std::size_t>(zaznam));
+}
 // The train holds the track: one of its entries from the tail to the head.
 bool drzi_prvek(const Vlak& v, int kolej);
 // Another train than v holds the track.
@@ -91,3 +106,5 @@ bool drzi_jiny(int kolej, int v);
 inline std::int32_t zobrazene_cislo(const Vlak& v) {
     return v.cislo2_platne ? v.cislo2 : v.cislo;
 }
+// It stands at the last stop of its timetable.
+bool stoji_na_posledni(const Vlak& v);

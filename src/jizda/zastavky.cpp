@@ -6,6 +6,7 @@
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
 #include "desk/tabulka_vlaku.h"
+#include "gvd/dopravny.h"
 #include "jizda/metry.h"
 #include "jizda/na_koleji.h"
 #include "jizda/posun.h"
@@ -19,28 +20,21 @@
 
 #include <algorithm>
 #include <array>
-#include <initializer_list>
 #include <span>
 
 namespace {
 
-constexpr std::int16_t kNaPovel = -10; // working departure of a stop that ends only on the operator's order
-constexpr int kCekaNaPovel = 10;       // minutes that such a stop shows
-constexpr int kNepojede = 99;          // minutes shown by a train that will not go by itself
-constexpr int kPobytVychozi = 5;       // least dwell where the train starts
-constexpr int kRychlostZTrati = 5;     // km/h at which a train starts from a stop on a line
-constexpr int kDen = 1440;
+constexpr int kCekaNaPovel = 10;   // minutes that such a stop shows
+constexpr int kNepojede = 99;      // minutes shown by a train that will not go by itself
+constexpr int kPobytVychozi = 5;   // least dwell where the train starts
+constexpr int kRychlostZTrati = 5; // km/h at which a train starts from a stop on a line
+
+constexpr int kPosledniUsek = 950; // sections of lines above have no labels that count minutes
 
 constexpr Barva kPozadiTrati = 0x808000;  // label of a train that waits on a line
 constexpr Barva kPozadiMinuty = 0x00FFFF; // label in the last minute
 constexpr Barva kPozadiDvou = 0x808080;   // two minutes before
 
-Vlak& vlak_c(int v) {
-    return vlaky[static_cast<std::size_t>(v)];
-}
-bool je_v(int prvek, std::initializer_list<int> cisla) {
-    return std::find(cisla.begin(), cisla.end(), prvek) != cisla.end();
-}
 // A time of stop i; a list that is too short has none.
 std::int16_t cas_zastavky(const std::vector<std::int16_t>& casy, int i) {
     return i >= 0 && static_cast<std::size_t>(i) < casy.size() ? casy[static_cast<std::size_t>(i)]
@@ -55,9 +49,6 @@ int stanice_zastavky(const Vlak& vlak, int i) {
     return i >= 0 && static_cast<std::size_t>(i) < vlak.stanice.size()
                ? vlak.stanice[static_cast<std::size_t>(i)]
                : 0;
-}
-double rada(TextPohled vuz) {
-    return cislo_z_textu(vuz);
 }
 Text urceni(const Vlak& vlak, std::size_t i) {
     return i < vlak.vozy_urceni.size() ? vlak.vozy_urceni[i] : Text{};
@@ -74,37 +65,38 @@ struct MistoStopu {
     PoStopu potom = PoStopu::nic;
     int od_metru = -1; // on a line against the sense: only so far in; -1 anywhere
 };
-constexpr std::array kMista = {MistoStopu{26, 35, 9, 1, PoStopu::tesk},
-                               MistoStopu{9, 18, 8},
-                               MistoStopu{44, 46, 7, 1, PoStopu::otocit},
-                               MistoStopu{93, 94, 7, 1, PoStopu::otocit},
-                               MistoStopu{96, 96, 7, 1, PoStopu::otocit},
-                               MistoStopu{638, 638, 7, 1, PoStopu::otocit},
-                               MistoStopu{86, 90, 1},
-                               MistoStopu{70, 75, 13},
-                               MistoStopu{66, 69, 6},
-                               MistoStopu{62, 65, 2},
-                               MistoStopu{41, 43, 4},
-                               MistoStopu{36, 40, 11},
-                               MistoStopu{0, 3, 3, 1, PoStopu::otocit},
-                               MistoStopu{78, 83, 15, 1, PoStopu::dolni},
-                               MistoStopu{47, 54, 12, 4, PoStopu::hajovice}, // 55 and 56 are exits
-                               MistoStopu{57, 61, 12, 4, PoStopu::hajovice},
-                               MistoStopu{118, 118, 10},
-                               MistoStopu{604, 604, 32, 1, PoStopu::nic, 2500},
-                               MistoStopu{606, 606, 32, 1, PoStopu::nic, 2500},
-                               MistoStopu{654, 654, 24, 1, PoStopu::nic, 5000},
-                               MistoStopu{656, 656, 24, 1, PoStopu::nic, 5000},
-                               MistoStopu{674, 674, 14},
-                               MistoStopu{676, 676, 14},
-                               MistoStopu{720, 720, 35},
-                               MistoStopu{722, 722, 35},
-                               MistoStopu{728, 728, 22},
-                               MistoStopu{730, 730, 22},
-                               MistoStopu{824, 824, 21},
-                               MistoStopu{826, 826, 21},
-                               MistoStopu{928, 928, 23},
-                               MistoStopu{930, 930, 23}};
+constexpr std::array kMista = {
+    MistoStopu{26, 35, dopravna::tesk, 1, PoStopu::tesk},
+    MistoStopu{9, 18, dopravna::vysni_hrabov},
+    MistoStopu{44, 46, dopravna::rybnice, 1, PoStopu::otocit},
+    MistoStopu{93, 94, dopravna::rybnice, 1, PoStopu::otocit},
+    MistoStopu{96, 96, dopravna::rybnice, 1, PoStopu::otocit},
+    MistoStopu{638, 638, dopravna::rybnice, 1, PoStopu::otocit},
+    MistoStopu{86, 90, dopravna::lhotin},
+    MistoStopu{70, 75, dopravna::knizeci_luka},
+    MistoStopu{66, 69, dopravna::rokytno},
+    MistoStopu{62, 65, dopravna::borovec},
+    MistoStopu{41, 43, dopravna::dubnice},
+    MistoStopu{36, 40, dopravna::mokrina},
+    MistoStopu{0, 3, dopravna::javorin, 1, PoStopu::otocit},
+    MistoStopu{78, 83, dopravna::dolni, 1, PoStopu::dolni},
+    MistoStopu{47, 54, dopravna::hajovice, 4, PoStopu::hajovice}, // 55 and 56 are exits
+    MistoStopu{57, 61, dopravna::hajovice, 4, PoStopu::hajovice},
+    MistoStopu{118, 118, dopravna::kamenec},
+    MistoStopu{604, 604, dopravna::javorin_dolni, 1, PoStopu::nic, 2500},
+    MistoStopu{606, 606, dopravna::javorin_dolni, 1, PoStopu::nic, 2500},
+    MistoStopu{654, 654, dopravna::podoli, 1, PoStopu::nic, 5000},
+    MistoStopu{656, 656, dopravna::podoli, 1, PoStopu::nic, 5000},
+    MistoStopu{674, 674, dopravna::olsany},
+    MistoStopu{676, 676, dopravna::olsany},
+    MistoStopu{720, 720, dopravna::lipina},
+    MistoStopu{722, 722, dopravna::lipina},
+    MistoStopu{728, 728, dopravna::jivova},
+    MistoStopu{730, 730, dopravna::jivova},
+    MistoStopu{824, 824, dopravna::zlata},
+    MistoStopu{826, 826, dopravna::zlata},
+    MistoStopu{928, 928, dopravna::javorna},
+    MistoStopu{930, 930, dopravna::javorna}};
 
 const MistoStopu* najdi_misto(int prvek) {
     const auto misto = std::find_if(kMista.begin(), kMista.end(),
@@ -118,19 +110,15 @@ bool stoji_ve_stanici(const Vlak& vlak, int kod) {
     return stanice_zastavky(vlak, vlak.stanice_index) == kod;
 }
 
-bool je_na_posledni(const Vlak& vlak) {
-    return vlak.stanice_index >= 0 && static_cast<std::size_t>(vlak.stanice_index) + 1 == vlak.stanice.size();
-}
-
 // The engine at one end is another one than the train goes on with, and it does not stay for the branch.
 bool ma_odejit(const Vlak& vlak, std::size_t i) {
-    return je_loko(vlak.vozy[i]) && rada(vlak.vozy[i]) != vlak.loko_rada2 && urceni(vlak, i) != "VH";
+    return je_loko(vlak.vozy[i]) && rada_vozu(vlak.vozy[i]) != vlak.loko_rada2 && urceni(vlak, i) != "VH";
 }
 
 // Tesk main station: the train gives up its locomotive when another series takes over.
 void vymen_loko_v_tesku(int v) {
     const Vlak& vlak = vlak_c(v);
-    if (!stoji_ve_stanici(vlak, 9) || vlak.loko_rada2 == 0 || vlak.vozy.size() < 2)
+    if (!stoji_ve_stanici(vlak, dopravna::tesk) || vlak.loko_rada2 == 0 || vlak.vozy.size() < 2)
         return;
     const std::size_t posledni = vlak.vozy.size() - 1;
     if (!ma_odejit(vlak, 0) && !ma_odejit(vlak, posledni))
@@ -139,7 +127,8 @@ void vymen_loko_v_tesku(int v) {
     if (odvesena < 0)
         return;
     Vlak& nova = vlak_c(odvesena);
-    if (nova.vozy.empty() || rada(nova.vozy.front()) <= 800 || urceni(nova, 0) == urceni(vlak_c(v), 0))
+    if (nova.vozy.empty() || rada_vozu(nova.vozy.front()) <= kPrvniMotorovyVuz ||
+        urceni(nova, 0) == urceni(vlak_c(v), 0))
         return;
     // A railcar goes on as a train of its own.
     if (nova.prvky.back() != 574 && je_ciselny(urceni(nova, 0)))
@@ -150,8 +139,8 @@ void vymen_loko_v_tesku(int v) {
 // Hajovice: the locomotive at the head leaves when another series takes over.
 void vymen_loko_v_hajovicich(int v) {
     const Vlak& vlak = vlak_c(v);
-    if (vlak.stanice_index <= 0 || !stoji_ve_stanici(vlak, 12) || vlak.loko_rada2 == 0 ||
-        vlak.vozy.size() < 2 || rada(vlak.vozy[0]) == vlak.loko_rada2)
+    if (vlak.stanice_index <= 0 || !stoji_ve_stanici(vlak, dopravna::hajovice) || vlak.loko_rada2 == 0 ||
+        vlak.vozy.size() < 2 || rada_vozu(vlak.vozy[0]) == vlak.loko_rada2)
         return;
     if (!je_loko(vlak.vozy[1]) || je_loko(vlak.vozy[0]))
         odvesit(v, 0, false);
@@ -162,11 +151,11 @@ void vymen_loko_v_hajovicich(int v) {
 void odves_v_dolnim(int v) {
     const Vlak& vlak = vlak_c(v);
     const int dalsi = stanice_zastavky(vlak, vlak.stanice_index + 1);
-    if (!stoji_ve_stanici(vlak, 15) || vlak.vozy.size() < 2 || !je_loko(vlak.vozy[0]))
+    if (!stoji_ve_stanici(vlak, dopravna::dolni) || vlak.vozy.size() < 2 || !je_loko(vlak.vozy[0]))
         return;
-    if (dalsi == 7 && !vlak.smer)
+    if (dalsi == dopravna::rybnice && !vlak.smer)
         odvesit(v, 0, false);
-    else if (dalsi == 8 && vlak.smer)
+    else if (dalsi == dopravna::vysni_hrabov && vlak.smer)
         odvesit(v, je_loko(vlak.vozy[1]) ? 1 : 0, false);
 }
 
@@ -176,7 +165,8 @@ void postav_soupravu(int prvek, int v) {
     const Vlak& vlak = vlak_c(v);
     const TextPohled pokyn = orez(vlak.pokyn);
     if (vlak.stanice_index > 0 || prvek < 26 || prvek > 35 || pokyn.empty() || vlak.stanice.empty() ||
-        !je_v(vlak.stanice.front(), {9, 33, 34}) || je_nastaveno_posun_z(prvek) || !je_cislo_koleje(prvek) ||
+        !je_v(vlak.stanice.front(), {dopravna::tesk, dopravna::posta, dopravna::dkv_vh}) ||
+        je_nastaveno_posun_z(prvek) || !je_cislo_koleje(prvek) ||
         orez(relief.cislo_koleje[prvek].popis()) != pokyn)
         return;
     if (const auto cil = ciselny_text(urceni(vlak, 0)); cil && *cil != vlak.cislo)
@@ -200,15 +190,16 @@ bool ukazuje_vlak(int stitek, const Vlak& vlak) {
 
 // Label of a station track that shows the train waiting on element e; -1 when none does.
 int stitek_ve_stanici(int e, const Vlak& vlak) {
-    if (je_v(e, {212, 213, 219}))
+    if (je_vstup_z_trati(e))
         return -1;
-    if (e < 200 && !je_v(e + 200, {212, 213, 219}) && ukazuje_vlak(e + 200, vlak))
+    if (muze_mit_pravy_stitek(e) && ukazuje_vlak(e + 200, vlak))
         return e + 200;
     return ukazuje_vlak(e, vlak) ? e : -1;
 }
 
+// Label of the line on which the train waits that shows its number; -1 when none does.
 int stitek_na_trati(int e, const Vlak& vlak) {
-    for (int n = e % 50 + 600; n <= 950; n += 50)
+    for (int n = zaklad_trati(e); n <= kPosledniUsek; n += kKrokTrati)
         for (const int stitek : {n, n + 2})
             if (ukazuje_vlak(stitek, vlak))
                 return stitek;
@@ -273,8 +264,8 @@ int zbyva_do_odjezdu(Vlak& vlak, int i) {
     if (cas_zastavky(vlak.odjezd_realny, i) == kNaPovel)
         return kCekaNaPovel;
     const int posledni = static_cast<int>(vlak.stanice.size()) - 1;
-    const bool konci = i == posledni && vlak.stanice.back() == 9 && !vlak.odjezd_realny.empty() &&
-                       vlak.odjezd_realny.back() < 0;
+    const bool konci = i == posledni && vlak.stanice.back() == dopravna::tesk &&
+                       !vlak.odjezd_realny.empty() && vlak.odjezd_realny.back() < 0;
     if (!ma_loko(vlak) || konci) {
         nastav_odjezd(vlak, i, kNaPovel);
         return kNepojede;
@@ -289,25 +280,26 @@ struct RadekDeniku {
     TextPohled text;
     int stanice;
 };
-constexpr std::array kDenik = {RadekDeniku{86, 90, " odjel z Lhotína v "_cz, 1},
-                               RadekDeniku{62, 65, " odjel z Borovce v "_cz, 2},
-                               RadekDeniku{66, 69, " odjel z Rokytna v "_cz, 6},
-                               RadekDeniku{26, 35, " odjel z Teska hl. n. v "_cz, 9},
-                               RadekDeniku{9, 17, " odjel z Teska Vyšního Hrabova v "_cz, 8},
-                               RadekDeniku{44, 46, " odjel z Teska Rybnic v "_cz, 7},
-                               RadekDeniku{93, 94, " odjel z Teska Rybnic v "_cz, 7},
-                               RadekDeniku{96, 96, " odjel z Teska Rybnic v "_cz, 7},
-                               RadekDeniku{638, 638, " odjel z Teska Rybnic v "_cz, 7},
-                               RadekDeniku{70, 75, " odjel z Teska Knížecích Luk v "_cz, 13},
-                               RadekDeniku{36, 40, " odjel z Teska Mokřiny v "_cz, 11},
-                               RadekDeniku{41, 43, " odjel z Dubnice v "_cz, 4},
-                               RadekDeniku{78, 83, " odjel z Teska dolního n. v "_cz, 15},
-                               RadekDeniku{0, 3, " odjel z Javořína v "_cz, 3}};
+constexpr std::array kDenik = {
+    RadekDeniku{86, 90, " odjel z Lhotína v "_cz, dopravna::lhotin},
+    RadekDeniku{62, 65, " odjel z Borovce v "_cz, dopravna::borovec},
+    RadekDeniku{66, 69, " odjel z Rokytna v "_cz, dopravna::rokytno},
+    RadekDeniku{26, 35, " odjel z Teska hl. n. v "_cz, dopravna::tesk},
+    RadekDeniku{9, 17, " odjel z Teska Vyšního Hrabova v "_cz, dopravna::vysni_hrabov},
+    RadekDeniku{44, 46, " odjel z Teska Rybnic v "_cz, dopravna::rybnice},
+    RadekDeniku{93, 94, " odjel z Teska Rybnic v "_cz, dopravna::rybnice},
+    RadekDeniku{96, 96, " odjel z Teska Rybnic v "_cz, dopravna::rybnice},
+    RadekDeniku{638, 638, " odjel z Teska Rybnic v "_cz, dopravna::rybnice},
+    RadekDeniku{70, 75, " odjel z Teska Knížecích Luk v "_cz, dopravna::knizeci_luka},
+    RadekDeniku{36, 40, " odjel z Teska Mokřiny v "_cz, dopravna::mokrina},
+    RadekDeniku{41, 43, " odjel z Dubnice v "_cz, dopravna::dubnice},
+    RadekDeniku{78, 83, " odjel z Teska dolního n. v "_cz, dopravna::dolni},
+    RadekDeniku{0, 3, " odjel z Javořína v "_cz, dopravna::javorin}};
 
 void pis_do_deniku(int v, const RadekDeniku& radek) {
     const Vlak& vlak = vlak_c(v);
     // In Javorin the train goes by its first number even after the change: this is meant.
-    const std::int32_t cislo = radek.stanice == 3 ? vlak.cislo : zobrazene_cislo(vlak);
+    const std::int32_t cislo = radek.stanice == dopravna::javorin ? vlak.cislo : zobrazene_cislo(vlak);
     Text text = "Vlak " + text_cisla(cislo);
     text += radek.text;
     text += text_minuty(minuta_dne(cas_hodin()));
@@ -324,7 +316,7 @@ void opust_prejezd(int e) {
     StanicniPrejezd& prejezd = stanicni_prejezdy[static_cast<std::size_t>(k)];
     if (prejezd.pocet > 0) // a counter never wraps
         --prejezd.pocet;
-    if (prejezd.pocet == 128 && !prejezd.UZ && !prejezd.uzavren && prejezd.cas < 0)
+    if (prejezd.pocet == kBezVlaku && !prejezd.UZ && !prejezd.uzavren && prejezd.cas < 0)
         gtn_zapis(k, gtn::prejezd, 0);
 }
 
@@ -334,11 +326,26 @@ struct Obrat {
     int odkud, kam;
     bool smer; // in which the train has come
 };
-constexpr std::array kObraty = {
-    Obrat{9, 3, true},   Obrat{9, 5, true},    Obrat{9, 8, true},   Obrat{9, 10, true},  Obrat{9, 11, true},
-    Obrat{9, 34, true},  Obrat{9, 7, false},   Obrat{9, 12, false}, Obrat{9, 27, false}, Obrat{9, 28, false},
-    Obrat{3, 19, true},  Obrat{3, 20, true},   Obrat{12, 7, true},  Obrat{12, 11, true}, Obrat{12, 15, true},
-    Obrat{12, 2, false}, Obrat{12, 13, false}, Obrat{7, 11, true},  Obrat{15, 8, true},  Obrat{15, 7, false}};
+constexpr std::array kObraty = {Obrat{dopravna::tesk, dopravna::javorin, true},
+                                Obrat{dopravna::tesk, dopravna::vrbice, true},
+                                Obrat{dopravna::tesk, dopravna::vysni_hrabov, true},
+                                Obrat{dopravna::tesk, dopravna::kamenec, true},
+                                Obrat{dopravna::tesk, dopravna::mokrina, true},
+                                Obrat{dopravna::tesk, dopravna::dkv_vh, true},
+                                Obrat{dopravna::tesk, dopravna::rybnice, false},
+                                Obrat{dopravna::tesk, dopravna::hajovice, false},
+                                Obrat{dopravna::tesk, dopravna::hajovice_sn, false},
+                                Obrat{dopravna::tesk, dopravna::dkv, false},
+                                Obrat{dopravna::javorin, dopravna::polska_lhota, true},
+                                Obrat{dopravna::javorin, dopravna::hvozdy, true},
+                                Obrat{dopravna::hajovice, dopravna::rybnice, true},
+                                Obrat{dopravna::hajovice, dopravna::mokrina, true},
+                                Obrat{dopravna::hajovice, dopravna::dolni, true},
+                                Obrat{dopravna::hajovice, dopravna::borovec, false},
+                                Obrat{dopravna::hajovice, dopravna::knizeci_luka, false},
+                                Obrat{dopravna::rybnice, dopravna::mokrina, true},
+                                Obrat{dopravna::dolni, dopravna::vysni_hrabov, true},
+                                Obrat{dopravna::dolni, dopravna::rybnice, false}};
 
 } // namespace
 
@@ -369,7 +376,7 @@ void vlak_v_cili(int prvek, int v) {
     case PoStopu::dolni: odves_v_dolnim(v); break;
     case PoStopu::tesk:
         vymen_loko_v_tesku(v);
-        if (je_na_posledni(vlak_c(v)))
+        if (stoji_na_posledni(vlak_c(v)))
             navazny_vlak(v);
         break;
     }
@@ -387,7 +394,8 @@ void stanice_stop(int kod, int v, int doba) {
     const int i = static_cast<int>(misto);
     vlak.stanice_index = na_integer(i);
     const bool pobyt = cas_zastavky(vlak.prijezd, i) >= 0;
-    const bool vychozi = !pobyt && kod == 9 && vlak.stanice.front() == 9 && cas_zastavky(vlak.odjezd, i) > 0;
+    const bool vychozi = !pobyt && kod == dopravna::tesk && vlak.stanice.front() == dopravna::tesk &&
+                         cas_zastavky(vlak.odjezd, i) > 0;
     if (pobyt || vychozi) {
         zastav_vlak(v, pobyt ? doba : kPobytVychozi, i);
         zobraz_cekani(v);
@@ -415,7 +423,8 @@ void zastav_vlak(int v, int doba, int i) {
 
 void zobraz_cekani(int v) {
     Vlak& vlak = vlak_c(v);
-    if (vlak.posun || vlak.stanice.empty() || (vlak.stanice_index < 0 && vlak.stanice.front() != 9))
+    if (vlak.posun || vlak.stanice.empty() ||
+        (vlak.stanice_index < 0 && vlak.stanice.front() != dopravna::tesk))
         return;
     const int zbyva = zbyva_do_odjezdu(vlak, std::max<int>(vlak.stanice_index, 0));
     vlak.muze_jet = zbyva <= 0;
@@ -426,7 +435,7 @@ void zobraz_cekani(int v) {
     if (vlak.prvky.empty())
         return;
     const int e = vlak.prvky.back();
-    if (e < 600 && e != 118)
+    if (!je_usek_trati(e) && e != 118)
         ukaz_ve_stanici(v, zbyva);
     else
         ukaz_na_trati(v, zbyva);
@@ -442,13 +451,13 @@ void aktualizuj_cekani() {
 bool muze_tahnout(int v) {
     const Vlak& vlak = vlak_c(v);
     int j = std::min(static_cast<int>(vlak.stanice.size()) - 1, static_cast<int>(vlak.stanice_index));
-    while (j >= 0 && !je_v(stanice_zastavky(vlak, j), {9, 12}))
+    while (j >= 0 && !je_v(stanice_zastavky(vlak, j), {dopravna::tesk, dopravna::hajovice}))
         --j;
     if (j < 0)
         return true;
-    if ((vlak.priznaky & 1) != 0 && !druhy_je_loko(vlak))
+    if ((vlak.priznaky & priznak_vlaku::druhe_loko) != 0 && !druhy_je_loko(vlak))
         return false;
-    return (vlak.priznaky & 2) == 0 || posledni_je_loko(vlak);
+    return (vlak.priznaky & priznak_vlaku::pripraz) == 0 || posledni_je_loko(vlak);
 }
 
 void odjezd_povel(int v) {
@@ -485,9 +494,9 @@ void spocti_zpozdeni(int v, int kod) {
     if (zpozdeni == 1)
         zpozdeni = 0; // a minute late is on time: this is meant
     if (zpozdeni > 1300)
-        zpozdeni -= kDen;
+        zpozdeni -= kDen_min;
     else if (zpozdeni < -1000)
-        zpozdeni += kDen;
+        zpozdeni += kDen_min;
     vlak.zpozdeni = na_integer(zpozdeni);
 }
 

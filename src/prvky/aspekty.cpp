@@ -21,10 +21,10 @@ constexpr std::array<std::array<TextPohled, 5>, 4> kZnaky = {{
 // on to. A route is extended over the whole line, so the section next to the signal is at the other end
 // of the group.
 bool trat_volna(int e) {
-    int usek = e % 50 + 600;
+    int usek = zaklad_trati(e);
     if (e <= 650) {
         usek = e;
-        for (int n = e; n <= kNejvyssiPrvek; n += 50)
+        for (int n = e; n <= kNejvyssiPrvek; n += kKrokTrati)
             if (je_kolej(n))
                 usek = n;
     }
@@ -34,14 +34,6 @@ bool trat_volna(int e) {
 bool bez_predzvesti(int e) { // exits of the junction: what lies behind is not the desk's business
     constexpr std::array kVystupy = {212, 213, 219, 120, 123, 118, 64, 67, 88};
     return std::find(kVystupy.begin(), kVystupy.end(), e) != kVystupy.end();
-}
-
-// Element on which a route begins, and on which it ends; -3 of a record without elements.
-int prvni(const Cesta& c) {
-    return c.prvky.empty() ? kZadny : c.prvky.front();
-}
-int posledni(const Cesta& c) {
-    return c.prvky.empty() ? kZadny : c.prvky.back();
 }
 
 } // namespace
@@ -54,10 +46,10 @@ int dalsi_navest(int prvek) {
     for (std::size_t kolo = 0; kolo <= cesty.size(); ++kolo) {
         if (bez_predzvesti(e))
             return 0;
-        if (e > 599)
+        if (je_usek_trati(e))
             return trat_volna(e) ? 0 : kNavestStuj;
         const auto c = std::find_if(cesty.begin(), cesty.end(), [&](const Cesta& x) {
-            return prvni(x) == e && x.Postavena && x.cas_ruseni < 0 && x.VC;
+            return prvni_prvek(x) == e && x.Postavena && x.cas_ruseni < 0 && x.VC;
         });
         if (c == cesty.end())
             return kNavestStuj;
@@ -71,7 +63,7 @@ int dalsi_navest(int prvek) {
 TextPohled aspekt_text(int i) {
     if (i < 0 || static_cast<std::size_t>(i) >= cesty.size())
         return {};
-    const Cesta& c = cesty[static_cast<std::size_t>(i)];
+    const Cesta& c = cesta_c(i);
     if (!navestidla(c.zacatek).je(c.zacatek))
         return {};
     if (c.PN)
@@ -81,7 +73,7 @@ TextPohled aspekt_text(int i) {
         return "POS.DOV";
     if (barva != barvy::zelena)
         return {};
-    const int pristi = dalsi_navest(posledni(c));
+    const int pristi = dalsi_navest(posledni_prvek(c));
     const std::size_t radek = c.rychlost < kZnaky.size() ? c.rychlost : 1; // an unknown class: slowest
     return kZnaky[radek][pristi >= 0 && pristi < 4 ? static_cast<std::size_t>(pristi) : 4];
 }

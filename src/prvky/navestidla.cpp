@@ -16,12 +16,6 @@ namespace {
 
 constexpr int kProdlouzeniPN_s = 30;
 
-// A glyph of a main signal with the automatic mode off, and its twin with the mode on.
-struct DvojiceZnaku {
-    int vypnuto, zapnuto;
-};
-constexpr std::array<DvojiceZnaku, 4> kZnakyAB = {{{229, 8}, {230, 15}, {228, 176}, {226, 183}}};
-
 // What ZAM shows: a main signal stays at stop, over a shunting one nobody may shunt.
 Barva blokovana_barva(int s) {
     return je_na_ser(s) ? barvy::modra : barvy::cervena;
@@ -113,14 +107,14 @@ void menu_ab(int s) {
 // Routes that the program made for trains coming from the line (ZT 999) are never repeated: the signal
 // at their start stands on the line and is not set by the operator.
 void kopie_ab(int i) {
-    const Cesta& vzor = cesty[static_cast<std::size_t>(i)];
+    const Cesta& vzor = cesta_c(i);
     if (!vzor.VC || vzor.PN || vzor.ZT == kZTprogramu || !ab_zapnuto(vzor.zacatek))
         return;
     Cesta kopie = vzor;
     // The locking has added the whole line to a route that leads out. The table's own route ends on the
     // first section of the line, so that one stays; index 0 is where an entry route begins.
     for (std::size_t k = 1; k < kopie.prvky.size(); ++k)
-        if (kopie.prvky[k] > 599) {
+        if (je_usek_trati(kopie.prvky[k])) {
             kopie.prvky.resize(k + 1);
             kopie.druhy.resize(k + 1);
             kopie.polohy.resize(k + 1);

@@ -9,8 +9,16 @@
 #include "prvky/panel.h"
 #include "zaklad/text.h"
 
+#include <array>
+
 // dalsi_navest: the next signal shows stop.
 inline constexpr int kNavestStuj = 255;
+
+// A glyph of a main signal with the automatic mode off, and its twin with the mode on.
+struct DvojiceZnaku {
+    int vypnuto, zapnuto;
+};
+inline constexpr std::array<DvojiceZnaku, 4> kZnakyAB = {{{229, 8}, {230, 15}, {228, 176}, {226, 183}}};
 
 // --- at any time, without change
 

@@ -76,7 +76,7 @@ const Cesta* cesta_panelu(int s) {
     for (const Cesta& c : cesty) {
         if (c.zacatek != s || !c.prehozena || c.ZT == kZTprogramu)
             continue;
-        if (c.Umazat == 0 || (c.Umazat < c.prvky.size() && c.prvky[c.Umazat] >= 600))
+        if (c.Umazat == 0 || (c.Umazat < c.prvky.size() && je_usek_trati(c.prvky[c.Umazat])))
             return &c;
     }
     return nullptr;

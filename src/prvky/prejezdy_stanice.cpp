@@ -12,7 +12,6 @@
 namespace {
 
 constexpr int kVystraha_s = 30; // from UZ to the lowered barriers
-constexpr std::uint8_t kBezVlaku = 128;
 
 bool je_prejezd(int k) {
     return k >= 0 && static_cast<std::size_t>(k) < stanicni_prejezdy.size();

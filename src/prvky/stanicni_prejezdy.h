@@ -4,13 +4,16 @@
 #include <array>
 #include <cstdint>
 
+// Count of an area without trains, so that a lost train does not underflow it.
+inline constexpr std::uint8_t kBezVlaku = 128;
+
 struct StanicniPrejezd {
     bool uzavren = false;      // closed by a train or a route
     bool UZ = false;           // closed by the operator
     std::int16_t rezerva1 = 0; // kept in saves, read by nobody
     std::int16_t rezerva2 = 0;
-    std::int32_t cas = -3;    // second at which it begins to close; -3 none pending
-    std::uint8_t pocet = 128; // trains in its area; 128 none, so that a lost train does not underflow it
+    std::int32_t cas = -3;          // second at which it begins to close; -3 none pending
+    std::uint8_t pocet = kBezVlaku; // trains in its area, counted from kBezVlaku
     bool operator==(const StanicniPrejezd&) const = default;
 };
 extern std::array<StanicniPrejezd, 2> stanicni_prejezdy;

@@ -22,9 +22,6 @@ constexpr int kDobaPrehozeni_s = 3; // a manual throw, simulated seconds
 constexpr int kZnakNaKoleji = 21;   // derailer: passable for a route
 constexpr int kZnakMimoKolej = 23;  // derailer: protecting
 
-constexpr int poloha_stavu(int stav) {
-    return stav % 50;
-}
 constexpr bool je_anglicka(int poloha) { // double slip, resting or moving
     return poloha >= 25 && poloha < 50;
 }
@@ -147,11 +144,11 @@ bool je_v_pohybu(int vykolejka) {
            relief.lblVykolejka[vykolejka].pozadi == barvy::seda;
 }
 
-void vykolejka_v_poloze(int vykolejka, int glyf) {
+void vykolejka_v_poloze(int vykolejka, int glyf, Barva barva = barvy::seda) {
     if (!relief.lblVykolejka.je(vykolejka))
         return;
     Prvek& prvek = relief.lblVykolejka[vykolejka];
-    prvek.barva = barvy::seda;
+    prvek.barva = barva;
     prvek.pozadi = barvy::cerna;
     prvek.ramecek = false;
     nastav_text(prvek, znak(glyf));
@@ -280,7 +277,7 @@ int cilova_poloha(int p, PovelVyhybky povel) {
 void prehod(int n, int poloha, bool vazby, bool vykolejky) {
     if (stav_vyhybky_cislo(n) == poloha)
         return;
-    ukaz_obrazek(n, vyhybka_obrazek(poloha) + 100);
+    ukaz_obrazek(n, vyhybka_obrazek(poloha) + kObrazekVyhybky);
     relief.imgVyhybka[n].stav = text_cisla(poloha);
     nastav_pohyb(n, true);
     if (vykolejky)
@@ -293,7 +290,7 @@ void prehod(int n, int poloha, bool vazby, bool vykolejky) {
 }
 
 void vyhybka_stav(int n, int stav, bool vazby, bool vykolejky) {
-    ukaz_obrazek(n, stav + 100);
+    ukaz_obrazek(n, stav + kObrazekVyhybky);
     relief.imgVyhybka[n].stav = text_cisla(stav);
     nastav_pohyb(n, false);
     if (n == 14)
@@ -318,6 +315,10 @@ void rezervuj_vykolejku(int n) {
         vykolejka_v_pohybu(n);
     else
         relief.lblVykolejka[n].barva = barvy::azurova;
+}
+
+void uzavri_vykolejku(int n) {
+    vykolejka_v_poloze(n, kZnakNaKoleji, barvy::bila);
 }
 
 void menu_vyhybky(int n) {
@@ -365,7 +366,7 @@ void obnov_pohyb_vyhybek() {
     stav_vyhybek.vyhybka_pohyb.assign(static_cast<std::size_t>(relief.imgVyhybka.nejvyssi() + 1), false);
     const auto rozjed = [](int n) {
         nastav_pohyb(n, true);
-        relief.imgVyhybka[n].obrazek = na_integer(vyhybka_obrazek(stav_vyhybky_cislo(n)) + 100);
+        relief.imgVyhybka[n].obrazek = na_integer(vyhybka_obrazek(stav_vyhybky_cislo(n)) + kObrazekVyhybky);
     };
     for (const Cesta& c : cesty) {
         if (c.zacatek < 0 || !c.prehozena || c.Provedena || c.Umazat != 0)

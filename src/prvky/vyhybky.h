@@ -24,6 +24,10 @@ enum class PovelVyhybky : std::uint8_t { plus, minus, plus_b, minus_b };
 
 // --- at any time, without change
 
+// Position of a state, without its class.
+constexpr int poloha_stavu(int stav) {
+    return stav % 50;
+}
 // State number of switch n; a blank state text counts 0.
 int stav_vyhybky_cislo(int n);
 // n is between the order to throw and its end position.
@@ -49,6 +53,8 @@ void vyhybka_stav(int n, int stav, bool vazby, bool vykolejky);
 void uvolni_zaver_vyhybky(int n, int poloha);
 // A route takes derailer n: one that protects begins to move onto the rail, one that lies there is reserved.
 void rezervuj_vykolejku(int n);
+// The route is locked: derailer n lies on the rail, white.
+void uzavri_vykolejku(int n);
 
 // --- on the operator's command
 

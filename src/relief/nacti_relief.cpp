@@ -20,11 +20,6 @@ constexpr int kPrumerLampy = 100;
 constexpr Barva kOkrajLampy1 = 0x008000; // no possession
 constexpr Barva kOkrajLampy2 = 0xC0C0C0;
 constexpr int kStranaStanoviste = 320;
-constexpr int kObrazekVyhybky = 100; // number of the picture of a switch in state 0
-
-bool je_mezi(int cislo, std::initializer_list<int> cisla) {
-    return std::find(cisla.begin(), cisla.end(), cislo) != cisla.end();
-}
 
 Text glyfy(std::initializer_list<int> kody) {
     Text text;
@@ -92,11 +87,11 @@ void napis_pozadi(int vlevo, int nahore, std::initializer_list<int> kody) {
 // Pieces of track with a mark of their own, by number: exceptions of this junction.
 void umisti_kolej(const ZaznamReliefu& z) {
     umisti_caru(relief.kolej, z);
-    if (je_mezi(z.cislo, {678, 680, 450, 454})) // for the logic only
+    if (je_v(z.cislo, {678, 680, 450, 454})) // for the logic only
         relief.kolej[z.cislo].viditelny = false;
-    if (je_mezi(z.cislo, {574, 112}))
+    if (je_v(z.cislo, {574, 112}))
         napis_pozadi(z.b, z.d - 70, {20, 20, 20});
-    if (je_mezi(z.cislo, {105, 557, 569, 119}))
+    if (je_v(z.cislo, {105, 557, 569, 119}))
         napis_pozadi(z.a - 400, z.c - 70, {20, 20, 20});
     if (z.cislo == 574 && relief.imgV1.je(0)) {
         relief.imgV1[0].vlevo = z.b + 100;
@@ -106,7 +101,7 @@ void umisti_kolej(const ZaznamReliefu& z) {
 
 void umisti_navestidlo(const ZaznamReliefu& z) {
     const Text glyf = znak(z.parametr);
-    const bool siroky = je_mezi(z.parametr, {227, 229, 230});
+    const bool siroky = je_v(z.parametr, {227, 229, 230});
     if (Prvek* p = umisti_napis(relief.navestidlo, z, siroky ? " " + glyf + " " : glyf))
         p->popis = z.nazev;
 }

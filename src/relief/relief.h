@@ -16,6 +16,8 @@
 
 inline constexpr int kZadny = -3;           // no element, no index
 inline constexpr int kNejvyssiPrvek = 999;  // element numbers are 0 to 999
+inline constexpr int kPrvniTrat = 600;      // sections of the lines are numbered from here on,
+inline constexpr int kKrokTrati = 50;       // those of one line every 50 numbers
 inline constexpr int kSirkaZnaku = 120;     // width of a glyph of the screen font, twips
 inline constexpr int kVyskaZnaku = 195;     // its height, and the row raster of the relief
 inline constexpr int kDruhyMonitor = 15400; // how far right of its twin a second-monitor element stands
@@ -125,6 +127,8 @@ struct Relief {
 };
 extern Relief relief;
 
+inline constexpr int kObrazekVyhybky = 100; // picture of a switch in state 0; behind it those of its states
+
 // Pictures of imgSound.
 inline constexpr std::int16_t kObrazekZvukZapnut = 1;
 inline constexpr std::int16_t kObrazekZvukVypnut = 2;
@@ -155,9 +159,26 @@ std::optional<Druh> druh_podle_jmena(std::string_view jmeno);
 
 // The track n exists.
 bool je_kolej(int n);
+// The number n is one of a section of a line.
+constexpr bool je_usek_trati(int n) {
+    return n >= kPrvniTrat;
+}
+// First number of the line of section n.
+constexpr int zaklad_trati(int n) {
+    return kPrvniTrat + n % kKrokTrati;
+}
 // The label n exists.
 bool je_cislo_koleje(int n);
-// n can end a route: it is one of the line ends 212, 213, 219, or it has a target `Image1`.
+// The element n is one of the three line ends where trains come in from a neighbour with consent. Their
+// labels are no second labels of 12, 13 and 19.
+constexpr bool je_vstup_z_trati(int n) {
+    return n == 212 || n == 213 || n == 219;
+}
+// The track n has room for a second label, at its right end: n + 200.
+constexpr bool muze_mit_pravy_stitek(int n) {
+    return n < 200 && !je_vstup_z_trati(n + 200);
+}
+// n can end a route: it is a line end, or it has a target `Image1`.
 bool je_cil(int n);
 // Track of the signal x. 511 stands on 135, a single exception of the junction.
 int kolej_navestidla(int x);

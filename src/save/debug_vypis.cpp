@@ -142,7 +142,7 @@ void pis_koleje(const Vypis& f) {
         Text radek = "obsazeni " + text_cisla(k.prvek);
         for (const std::int16_t v : k.vlaky)
             if (v >= 0 && static_cast<std::size_t>(v) < vlaky.size())
-                radek += "\t" + text_cisla(vlaky[static_cast<std::size_t>(v)].cislo);
+                radek += "\t" + text_cisla(vlak_c(v).cislo);
         f.radek(radek);
     }
 }

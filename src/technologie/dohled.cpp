@@ -20,7 +20,6 @@ constexpr std::array<SeznamTechnologie, 2> kSeznamy = {{
     {"lblStav_prejezdu", kHlavaPrejezdu, &dohled.lblStav_prejezdu, 2},
 }};
 
-constexpr std::uint8_t kBezVlaku = 128;
 constexpr std::array<TextPohled, 2> kJmenaPrejezdu = {"TVH 140,310", "TMK 5,911"};
 
 // Columns, counted from 1.
@@ -37,7 +36,7 @@ constexpr std::size_t sirka = 80, jmeno = 1, podminka = 20, cas = 60, data = 79;
 bool je_v_dohledu(const Cesta& c) {
     if (c.konec < 0 || !c.prehozena || c.ZT == kZTprogramu)
         return false;
-    return c.Umazat == 0 || (c.Umazat < c.prvky.size() && c.prvky[c.Umazat] < 600);
+    return c.Umazat == 0 || (c.Umazat < c.prvky.size() && !je_usek_trati(c.prvky[c.Umazat]));
 }
 
 // Name of the end, or of the signal that stands there.
@@ -47,7 +46,7 @@ Text jmeno_konce_cesty(const Cesta& c) {
 }
 
 Text radek(int i) {
-    const Cesta& c = cesty[static_cast<std::size_t>(i)];
+    const Cesta& c = cesta_c(i);
     Text text(radek_cesty::sirka, ' ');
     vloz_do(text, radek_cesty::cislo, text_cisla(c.ZT) + ".");
     vloz_do(text, radek_cesty::druh, !c.VC ? "PC" : c.PN ? "PN" : "VC");

@@ -53,7 +53,7 @@ void pridej_driver(TextPohled povel, const Text& jmeno) {
 TextPohled povel_vyhybky(int n) {
     if (!relief.imgVyhybka.je(n))
         return "S+";
-    const int poloha = stav_vyhybky_cislo(n) % 50;
+    const int poloha = poloha_stavu(stav_vyhybky_cislo(n));
     const bool v_minus = cilova_poloha(poloha, PovelVyhybky::minus) == poloha &&
                          cilova_poloha(poloha, PovelVyhybky::plus) != poloha;
     return v_minus ? "S-" : "S+";

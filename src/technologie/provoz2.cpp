@@ -101,7 +101,7 @@ Text prvky_druhu(const Cesta& c, int druh) {
 }
 
 std::vector<Text> podrobnosti_cesty(int i) {
-    const Cesta& c = cesty[static_cast<std::size_t>(i)];
+    const Cesta& c = cesta_c(i);
     const Text duvod = duvod_cekani(i);
     return {popis_cesty(i),
             Text("Záznam závěrové tabulky: "_cz) + text_cisla(c.ZT),

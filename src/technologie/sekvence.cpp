@@ -19,7 +19,6 @@ namespace {
 constexpr int kRadku = 99;
 constexpr int kSloupcu = 5; // S F P1 P2 P3
 constexpr std::size_t kSirkaPodminky = 44;
-constexpr std::uint8_t kBezVlaku = 128;
 
 constexpr std::array<SeznamTechnologie, 2> kSeznamy = {{
     {"List1", kHlavaSekvence, &sekvence.List1, 99},
@@ -46,7 +45,7 @@ RizikovaFunkce rnz_navestidla(int s) {
             continue;
         const int stav = stav_vyhybky_cislo(n);
         bez_vlaku = bez_vlaku && stav / 50 * 50 != stav_vyhybky::obsazena;
-        v_poloze = v_poloze && stav % 50 == poloha_na(*c, k) && !vyhybka_v_pohybu(n);
+        v_poloze = v_poloze && poloha_stavu(stav) == poloha_na(*c, k) && !vyhybka_v_pohybu(n);
     }
     f.podminky = {podminka("Přivolávací návěst skončila"_cz, ted_s() > c->PN_do),
                   podminka("Do cesty nevjel vlak"_cz, c->Umazat == 0),

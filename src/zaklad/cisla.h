@@ -8,6 +8,7 @@
 #include "zaklad/text.h"
 
 #include <cstdint>
+#include <initializer_list>
 #include <optional>
 
 // To the nearest whole number, a half to the even one: 0.5 -> 0, 1.5 -> 2, 2.5 -> 2.
@@ -52,3 +53,11 @@ inline Text text_cisla(int hodnota) {
 }
 // At least `mist` digits, leading zeros: the formats "0#" and "00".
 Text text_cisla_mist(std::int64_t hodnota, int mist);
+
+// n is one of the numbers.
+constexpr bool je_v(int n, std::initializer_list<int> cisla) {
+    for (const int cislo : cisla)
+        if (cislo == n)
+            return true;
+    return false;
+}

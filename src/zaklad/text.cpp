@@ -88,3 +88,9 @@ void vloz_do(Text& text, std::size_t od, TextPohled co) {
     const std::size_t delka = std::min(co.size(), text.size() - (od - 1));
     text.replace(od - 1, delka, co.substr(0, delka));
 }
+
+Text nahrad_v_textu(Text text, TextPohled co, TextPohled cim) {
+    for (std::size_t misto = text.find(co); misto != Text::npos; misto = text.find(co, misto + cim.size()))
+        text.replace(misto, co.size(), cim);
+    return text;
+}

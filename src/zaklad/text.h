@@ -128,3 +128,5 @@ bool stejne_bez_velikosti(TextPohled a, TextPohled b);
 TextPohled vyrez(TextPohled text, std::size_t od, std::size_t delka = TextPohled::npos);
 // Writes `co` over `text` from position `od`, counted from 1; the length of `text` stays.
 void vloz_do(Text& text, std::size_t od, TextPohled co);
+// `text` with every `co` replaced by `cim`.
+Text nahrad_v_textu(Text text, TextPohled co, TextPohled cim);

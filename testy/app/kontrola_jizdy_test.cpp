@@ -30,7 +30,6 @@ protected:
     }
     // 62 - 440 - switch 7 - 63
     static RadekCesty pres_vyhybku() { return {262, 63, {62, 440, 7, 63}, {1, 1, 2, 1}, {2, 0, 2, 0}, 0}; }
-    static Cesta& cesta_c(int c) { return cesty[static_cast<std::size_t>(c)]; }
 };
 
 } // namespace

@@ -1,4 +1,5 @@
 // testy/nastroje/vozy_test.cpp - the drawings of vehicles: their language, their pixels, their files.
+#include "gvd/obrazky_vozu.h"
 #include "gvd/prekladac.h"
 #include "gvd/skladba.h"
 #include "pomocne/provoz_sveta.h"

@@ -1,5 +1,7 @@
 // testy/prvky/souhlasy_test.cpp - consents to the three neighbouring stations.
 #include "app/blikani.h"
+#include "app/klavesy.h"
+#include "app/vstup.h"
 #include "desk/menu.h"
 #include "desk/zprava.h"
 #include "pomocne/pult.h"

@@ -1,0 +1,241 @@
+// gvd/soupravy.cpp - locomotives and sets out of the depots.
+#include "gvd/soupravy.h"
+
+#include "app/cas.h"
+#include "cesty/barvi_prvek.h"
+#include "cesty/cisla_vlaku.h"
+#include "cesty/dotazy.h"
+#include "desk/tabulka_vlaku.h"
+#include "gvd/dopravny.h"
+#include "gvd/druhy_vlaku.h"
+#include "gvd/gvd.h"
+#include "gvd/obrazky_vozu.h"
+#include "gvd/provoz.h"
+#include "gvd/skladba.h"
+#include "gvd/stav_provozu.h"
+#include "jizda/na_koleji.h"
+#include "jizda/souprava.h"
+#include "jizda/vlak.h"
+#include "jizda/zastavky.h"
+#include "zaklad/cisla.h"
+#include "zaklad/nahoda.h"
+
+#include <algorithm>
+#include <array>
+#include <optional>
+
+namespace {
+
+constexpr int kLoko731 = 731;
+constexpr int kDepo538 = 538, kDepo569 = 569; // where sets come out of the depot of the main station
+constexpr TextPohled kZaloha = "ZAL";
+constexpr TextPohled kPosunova = "210"; // series of the shunting locomotive
+constexpr std::array kKolejeDepa = {558, 559, 560, 503, 509, 510};
+
+// The text is the number of a train.
+bool je_cislo_vlaku(const Text& text, std::int32_t cislo) {
+    const auto hodnota = ciselny_text(text);
+    return hodnota && *hodnota == cislo;
+}
+
+// At least one vehicle is no locomotive.
+bool ma_vozy(const Vlak& v) {
+    return std::any_of(v.vozy.begin(), v.vozy.end(), [](const Text& vuz) { return !je_loko(vuz); });
+}
+
+// The train that the row's set goes on as; nothing for rows that keep no set.
+std::optional<std::int16_t> predava(const GvdVlak& r) {
+    return r.vozy.size() > 1 && r.vozy_vlaky.size() > 1 ? std::optional(r.vozy_vlaky[1]) : std::nullopt;
+}
+
+void nasad_posunovou(Vlak& v, std::size_t i) {
+    v.vozy[i] = kPosunova;
+    v.vozy_urceni[i] = kZaloha;
+    v.vozy_obrazek[i] = obrazek_vozu(210);
+    ++stav_provozu.pocet_zaloh;
+}
+
+// The shunting locomotive takes the place of the vehicle at the side of the depot.
+void pripoj_posunovou(Vlak& v, int element) {
+    if (v.vozy.empty())
+        return;
+    if (element == kDepo569) {
+        nasad_posunovou(v, 0);
+        return;
+    }
+    for (auto* udaje : {&v.vozy, &v.vozy_urceni, &v.vozy_obrazek})
+        std::rotate(udaje->begin(), udaje->begin() + 1, udaje->end());
+    nasad_posunovou(v, v.vozy.size() - 1);
+}
+
+// First free one of the depot's tracks; -1 none. Without any the locomotive exists, but on no track.
+int kolej_depa() {
+    return prvni_volna_kolej(kKolejeDepa);
+}
+
+// The record of a lone locomotive that stands on the element and may go to the main station.
+Vlak lokomotiva(int rada, int element, bool smer, TextPohled urceni, bool posun) {
+    Vlak v;
+    v.cislo = na_long(74800 + dolu(nahodne() * 200.0));
+    v.druh = druh_vlaku::lv;
+    v.max_rychlost = v.rychlost_trati = 80;
+    v.delka = 20;
+    v.smer = smer;
+    v.posun = posun;
+    v.muze_jet = true;
+    v.loko_rada = na_integer(rada);
+    v.vozy = {text_cisla(rada)};
+    v.vozy_urceni = {Text(urceni)};
+    v.vozy_obrazek = {obrazek_vozu(rada)};
+    v.prvky = {na_integer(element)};
+    v.prvky_druh = {druh_prvku::kolej};
+    v.prvky_poloha = {2};
+    v.prvek_konec = 0;
+    v.stanice = {dopravna::dkv_vh, dopravna::tesk};
+    v.prijezd = {kZadny, na_integer(cas_min() + 7)};
+    v.odjezd = {cas_min(), kZadny};
+    v.odjezd_realny = v.odjezd;
+    return v;
+}
+
+void zapocti_zalohu(int rada) {
+    ++stav_provozu.pocet_zaloh;
+    if (rada == kLoko731)
+        stav_provozu.zaloha_731_jede = true;
+}
+
+} // namespace
+
+void vytvor_lokomotivu(int rada, int element, bool smer, TextPohled urceni, bool posun) {
+    const bool v_depu = element == 0;
+    if (v_depu)
+        element = std::max(kolej_depa(), 0);
+    else if (!je_kolej(element))
+        return;
+    const auto volny = std::find_if(vlaky.begin(), vlaky.end(), [](const Vlak& v) { return v.cislo < 1; });
+    if (volny == vlaky.end())
+        return;
+    const auto i = static_cast<int>(volny - vlaky.begin());
+    *volny = lokomotiva(rada, element, smer, urceni, posun);
+    if (urceni == kZaloha)
+        zapocti_zalohu(rada);
+    if (element == 0)
+        return;
+    pridej_na_kolej(element, i, smer, -1);
+    barvi_prvek(element, barvy::cervena);
+    relief.kolej[element].stav = TextPohled("200");
+    if (posun) {
+        pis_cislo(element, {});
+        return;
+    }
+    pridej_do_tabulky(i);
+    pis_cislo(element, text_cisla(vlak_c(i).cislo));
+    postav_cesty_z(element);
+}
+
+std::int16_t kontrola_soupravy(std::int32_t cislo, bool& jsou_vozy) {
+    jsou_vozy = false;
+    for (const Vlak& v : vlaky) {
+        if (v.cislo < 1)
+            continue;
+        if (v.cislo == cislo && ma_vozy(v)) {
+            if (je_cislo_vlaku(v.vozy.front(), v.loko_rada2 > 0 ? v.loko_rada2 : v.loko_rada))
+                jsou_vozy = true;
+            return -1;
+        }
+        for (std::size_t i = 0; i < v.vozy.size() && i < v.vozy_urceni.size(); ++i) {
+            if (!je_cislo_vlaku(v.vozy_urceni[i], cislo))
+                continue;
+            if (je_loko(v.vozy[i]))
+                return -1;
+            jsou_vozy = true;
+        }
+    }
+    std::int16_t vysledek = 0;
+    const int ted = minuta_dne(cas_hodin());
+    for (const GvdVlak& r : gvd_vlaky) {
+        if (!aktivni_dnes(r))
+            continue;
+        const int m = (r.odjezdy.front() - ted) % kDen_min;
+        if (m <= 0 || m >= 45)
+            continue;
+        if (je_cislo_vlaku(r.navazny_vlak, cislo))
+            jsou_vozy = true;
+        if (predava(r) == cislo)
+            vysledek = -1;
+    }
+    return vysledek;
+}
+
+bool souprava_pripravena(int gvd_index, std::int16_t ted) {
+    const std::int32_t cislo = radek_gvd(gvd_index).cislo;
+    return std::none_of(gvd_vlaky.begin(), gvd_vlaky.end(), [=](const GvdVlak& r) {
+        return predava(r) == cislo && r.odjezdy.front() > ted && aktivni_dnes(r);
+    });
+}
+
+void stanice_start(int gvd_index) {
+    const GvdVlak& r = radek_gvd(gvd_index);
+    bool jsou_vozy = false;
+    if (kontrola_soupravy(r.cislo, jsou_vozy) != 0 || (r.vozy.size() == 1 && jsou_vozy))
+        return;
+    const int element = je_v(r.stanice.back(), {dopravna::polska_lhota, dopravna::hvozdy, dopravna::lhotin})
+                            ? kDepo569
+                            : kDepo538;
+    if (!je_kolej(element))
+        return;
+    if (!je_volna(element)) {
+        pridej_cekajici(r.cislo);
+        return;
+    }
+    vyrad_cekajici(gvd_index);
+    const int i = vytvor_vlak(true, element, true, kNaVstupu, gvd_index);
+    Vlak& v = vlak_c(i);
+    v.posun = true;
+    pridej_do_tabulky(i);
+    barvi_prvek(element, barvy::cervena);
+    pridej_na_kolej(element, i, true, -1);
+    if (jsou_vozy && v.loko_rada != 560)
+        pripoj_posunovou(v, element);
+    relief.kolej[element].stav = TextPohled("600");
+    posun_po_vytvoreni(i);
+    if (element == kDepo538 && !jsou_vozy && stav_provozu.pocet_zaloh < 2)
+        pridej_posunovou(i);
+}
+
+void posun_po_vytvoreni(int vlak) {
+    const Vlak& v = vlak_c(vlak);
+    if (v.vozy.empty() || je_v(v.loko_rada, {560, 943, 954}) ||
+        (v.loko_rada == 843 && v.vozy.back() == "943"))
+        return;
+    const int druha = v.stanice.size() > 1 ? v.stanice[1] : 0;
+    const int treti = v.stanice.size() > 2 ? v.stanice[2] : 0;
+    const int posledni = v.stanice.empty() ? 0 : v.stanice.back();
+    if (druha == dopravna::dkv_vh &&
+        je_v(treti, {dopravna::vysni_hrabov, dopravna::kamenec, dopravna::mokrina})) {
+        obrat_soupravy(vlak);
+        return;
+    }
+    // Both may hold, and the order of the vehicles is then as before: this is meant.
+    if (posledni == dopravna::dubnice && druha == dopravna::rybnice)
+        obrat_soupravy(vlak);
+    if (je_v(druha, {dopravna::vrbice, dopravna::vysni_hrabov, dopravna::lhotin, dopravna::javorin,
+                     dopravna::hvozdy, dopravna::polska_lhota, dopravna::kamenec, dopravna::mokrina}) ||
+        posledni == dopravna::dubnice)
+        obrat_soupravy(vlak);
+}
+
+void pridej_posunovou(int vlak) {
+    Vlak& v = vlak_c(vlak);
+    const bool na_konec = !v.vozy.empty() && je_loko(v.vozy.front());
+    for (auto* udaje : {&v.vozy, &v.vozy_urceni, &v.vozy_obrazek})
+        udaje->insert(na_konec ? udaje->end() : udaje->begin(), Text{});
+    nasad_posunovou(v, na_konec ? v.vozy.size() - 1 : 0);
+}
+
+void obrat_soupravy(int vlak) {
+    Vlak& v = vlak_c(vlak);
+    for (auto* udaje : {&v.vozy, &v.vozy_urceni, &v.vozy_obrazek})
+        std::reverse(udaje->begin(), udaje->end());
+    v.smer = true;
+}

@@ -1,0 +1,99 @@
+// jizda/rychlost.cpp - line speed, limit of the route, and how a train comes to them.
+#include "jizda/rychlost.h"
+
+#include "app/simulace.h"
+#include "gvd/druhy_vlaku.h"
+#include "jizda/souprava.h"
+#include "jizda/vlak.h"
+#include "zaklad/cisla.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace {
+
+constexpr int kRychlostTlaceni = 30; // km/h of a train pushed from behind
+constexpr int kRychlostPosunu = 30;  // km/h over a shunt or calling-on route
+constexpr int kRychlostVstupu = 100; // km/h over a route made for a train that enters the area
+
+struct RychlostPrvku {
+    std::int16_t prvek;
+    std::uint8_t rychlost;
+};
+
+// Elements that set the line speed when the head enters them, by the sense of travel.
+constexpr RychlostPrvku kRychlostiVpravo[] = {
+    {135, 40}, {136, 40},  {140, 40},  {141, 40},  {145, 40},  {552, 40},  {131, 60}, {132, 60},
+    {133, 60}, {197, 60},  {198, 60},  {311, 60},  {312, 60},  {84, 65},   {85, 65},  {118, 70},
+    {306, 70}, {296, 75},  {298, 75},  {295, 80},  {300, 80},  {413, 80},  {414, 80}, {531, 85},
+    {532, 85}, {600, 100}, {602, 100}, {720, 100}, {722, 100}, {774, 100}, {776, 100}};
+constexpr RychlostPrvku kRychlostiVlevo[] = {
+    {531, 40}, {532, 40}, {135, 60},  {136, 60},  {141, 60},  {145, 60}, {295, 60}, {300, 60},
+    {311, 60}, {312, 60}, {84, 65},   {85, 65},   {413, 65},  {414, 65}, {118, 70}, {306, 70},
+    {117, 75}, {978, 75}, {980, 75},  {270, 80},  {271, 80},  {418, 80}, {419, 80}, {686, 80},
+    {720, 80}, {722, 80}, {738, 80},  {323, 85},  {326, 85},  {774, 90}, {776, 90}, {19, 100},
+    {20, 100}, {21, 100}, {107, 100}, {108, 100}, {234, 100}, {235, 100}};
+
+// km/h that a step adds: the fewer, the longer a goods train is.
+float zrychleni(const Vlak& vlak) {
+    float d = 1;
+    if (vlak.druh >= druh_vlaku::prvni_nakladni && vlak.druh != druh_vlaku::lv)
+        d = static_cast<float>(vlak.delka) / 350.0f + 1.0f;
+    if (vlak.druh == druh_vlaku::vn)
+        d = d / 2.0f + 1.0f;
+    return 3.0f * static_cast<float>(simulace.rychlost) / d;
+}
+
+} // namespace
+
+void rychlost_trati_prvek(int prvek, int v) {
+    const auto najdi = [&](const auto& tabulka_rychlosti) {
+        for (const RychlostPrvku& r : tabulka_rychlosti)
+            if (r.prvek == prvek)
+                vlak_c(v).rychlost_trati = r.rychlost;
+    };
+    if (vlak_c(v).smer)
+        najdi(kRychlostiVpravo);
+    else
+        najdi(kRychlostiVlevo);
+}
+
+void omez_rychlost(const Cesta& c, int v) {
+    Vlak& vlak = vlak_c(v);
+    if (c.ZT == kZTprogramu) {
+        vlak.rychlost_cesty = kRychlostVstupu;
+        vlak.omezeni_ukonceno = true;
+        return;
+    }
+    constexpr std::array<std::uint8_t, 4> kTridy = {0, 40, 60, 80};
+    if (!c.VC || c.PN)
+        vlak.rychlost_cesty = kRychlostPosunu;
+    else if (c.rychlost == 0)
+        vlak.rychlost_cesty = vlak.rychlost_trati;
+    else if (c.rychlost < kTridy.size())
+        vlak.rychlost_cesty = kTridy[c.rychlost];
+    vlak.omezeni_ukonceno = false;
+    vlak.konec_omezeni = c.vyhybka;
+}
+
+// Acceleration is per step, not per unit of time, and depends on the consist.
+void uprav_rychlost(int v) {
+    Vlak& vlak = vlak_c(v);
+    if (!vlak.muze_jet)
+        return;
+    if (vlak.vozy.empty() || (!je_loko(vlak.vozy[0]) && !je_ridici_vuz(vlak.vozy[0]))) {
+        // Pushed from behind: exactly 30 km/h, from a stand too, above any limit. This is meant.
+        vlak.rychlost = kRychlostTlaceni;
+        return;
+    }
+    const int cil =
+        vlak.rychlost_cesty != 0 && !vlak.omezeni_ukonceno ? vlak.rychlost_cesty : vlak.rychlost_trati;
+    const int r = cil - vlak.rychlost;
+    const float a = zrychleni(vlak);
+    if (r < 0 || a > static_cast<float>(std::abs(r)))
+        vlak.rychlost = na_byte(cil);
+    else
+        vlak.rychlost = na_byte(static_cast<double>(static_cast<float>(vlak.rychlost) + a));
+    vlak.rychlost = std::min(vlak.rychlost, vlak.max_rychlost);
+}
