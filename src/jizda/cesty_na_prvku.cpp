@@ -50,7 +50,7 @@ void sestav_cesty_na_prvku() {
     while (je_cesta(t.pocet))
         ++t.pocet;
     t.zacatky.fill(0);
-    pro_kazdy_prvek(t.pocet, [&t](std::size_t n, int) { ++t.zacatky[n + 1]; });
+    pro_kazdy_prvek(t.pocet, [&](std::size_t n, int) { ++t.zacatky[n + 1]; });
     std::partial_sum(t.zacatky.begin(), t.zacatky.end(), t.zacatky.begin());
     t.seznam.resize(static_cast<std::size_t>(t.zacatky.back()));
     auto kam = t.zacatky;
