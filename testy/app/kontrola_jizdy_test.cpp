@@ -28,6 +28,18 @@ protected:
         if (cesta.druhy[i] == druh_prvku::kolej)
             relief.kolej[cesta.prvky[i]].barva = barvy::cervena;
     }
+    // A train of 100 m on 62, `metry` of 440 and switch 7.
+    int vlak_pres_vyhybku(int metry) {
+        const int v = vlak_na(62, true, 1234);
+        vlak(v).delka = 100;
+        vlak(v).prvky = {62, 440, 7};
+        vlak(v).prvky_druh = {1, 1, 2};
+        vlak(v).prvky_poloha = {0, 0, 2};
+        barvi_prvek(440, barvy::cervena);
+        nastav_metry(62, delka_koleje(62));
+        nastav_metry(440, metry);
+        return v;
+    }
     // 62 - 440 - switch 7 - 63
     static RadekCesty pres_vyhybku() { return {262, 63, {62, 440, 7, 63}, {1, 1, 2, 1}, {2, 0, 2, 0}, 0}; }
 };
@@ -115,14 +127,7 @@ TEST_F(KontrolaJizdy, HeldEntriesAreNeighbours) {
 }
 
 TEST_F(KontrolaJizdy, TailIsReleasedNeitherTooSoonNorTooLate) {
-    const int v = vlak_na(62, true, 1234);
-    vlak(v).delka = 100;
-    vlak(v).prvky = {62, 440, 7};
-    vlak(v).prvky_druh = {1, 1, 2};
-    vlak(v).prvky_poloha = {0, 0, 2};
-    barvi_prvek(440, barvy::cervena);
-    nastav_metry(62, delka_koleje(62));
-    nastav_metry(440, 30);
+    const int v = vlak_pres_vyhybku(30);
     ASSERT_EQ(nalez(), "");
     vlak(v).prvek_konec = 1; // 30 + 20 m are less than the train
     EXPECT_EQ(nalez(), "vlaky " + std::to_string(v) + ": drží 50 m, ale je dlouhý 100 m");
@@ -140,14 +145,7 @@ TEST_F(KontrolaJizdy, TailIsReleasedNeitherTooSoonNorTooLate) {
 }
 
 TEST_F(KontrolaJizdy, EndOfAPauseIsNoStepOfTheMovement) {
-    const int v = vlak_na(62, true, 1234);
-    vlak(v).delka = 100;
-    vlak(v).prvky = {62, 440, 7};
-    vlak(v).prvky_druh = {1, 1, 2};
-    vlak(v).prvky_poloha = {0, 0, 2};
-    barvi_prvek(440, barvy::cervena);
-    nastav_metry(62, delka_koleje(62));
-    nastav_metry(440, 90); // 110 m without track 62: its tail goes with the next step
+    const int v = vlak_pres_vyhybku(90); // 110 m without track 62: its tail goes with the next step
     ASSERT_EQ(nalez(), "");
     ASSERT_EQ(nalez(), "");
     svet.posun_ms(300);
