@@ -55,6 +55,7 @@ KOLEJE_HLAVNIHO = range(26, 36)
 KOLEJE_STANIC = {1: range(86, 91), 2: range(62, 66), 3: range(4), 4: range(41, 44), 6: range(66, 70),
                  8: range(9, 19), HLAVNI: KOLEJE_HLAVNIHO, 11: range(36, 41), 13: range(70, 76), 15: range(78, 84)}
 NEJVYSSI_CISLO = 399998
+NEJDELSI_OBRAT_MIN = 15  # the depot looks for the set of a train up to 16 minutes before its departure
 
 # --- log
 
@@ -584,6 +585,9 @@ def zkontroluj_gvd(k, jmeno, vlaky, relief, delky, obrazky):
         for cislo in sorted(dalsi - {0}):
             k.plati(any(d.dny & v.dny for d in podle_cisla.get(cislo, ())), jmeno,
                     f"{kdo}: navazující vlak {cislo} v týž den nejede")
+        if v.navazny_vlak.strip().isdigit():
+            for d in podle_cisla.get(int(v.navazny_vlak), ()):
+                zkontroluj_obrat(k, jmeno, kdo, v, d)
     rady = {vuz for v in vlaky for vuz in v.vozy or () if vuz.isdigit()}
     for rada in sorted(r for r in rady if not any(f"{r}_" in o for o in obrazky)):
         k.vada(jmeno, f"řada {rada} nemá v DATA/VOZY obrázek")
@@ -616,6 +620,15 @@ def zkontroluj_casy(k, jmeno, kdo, v):
         zkontroluj_hrabov(k, jmeno, kdo, v)
     k.plati(v.odjezdy[0] >= 0 and all(o >= 0 for o in v.odjezdy[:-1]), jmeno, f"{kdo}: chybí odjezd")
     k.plati(v.prijezdy[-1] >= 0, jmeno, f"{kdo}: poslední zastavení nemá příjezd")
+
+
+def zkontroluj_obrat(k, jmeno, kdo, v, dalsi):
+    """A set of motor vehicles only counts as locomotives: a quarter of an hour before the departure the depot does
+    not see it at the platform and sends another one."""
+    jen_motorove = all(vuz.isdigit() and 100 < int(vuz) < 900 for vuz in v.vozy or ())
+    if jen_motorove and v.dny & dalsi.dny and v.stanice[-1] == dalsi.stanice[0] == HLAVNI:
+        k.plati(dalsi.odjezdy[0] - v.prijezdy[-1] <= NEJDELSI_OBRAT_MIN, jmeno,
+                f"{kdo}: depo pošle vlaku {dalsi.cislo} druhou soupravu, obrat je delší než {NEJDELSI_OBRAT_MIN} min")
 
 
 def je_na_jednom_konci(vozy):

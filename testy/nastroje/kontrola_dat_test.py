@@ -117,6 +117,8 @@ class Instalace(unittest.TestCase):
         zacatek = 6 + struct.unpack_from("<H", radek.read_bytes(), 4)[0]
         self.poskozeno(jmeno, lambda b: b[:zacatek + 10] + b"\x19" + b[zacatek + 11:], "neznámý kód stanice")
         self.poskozeno(jmeno, lambda b: b[:zacatek + 2] + b"\x02" + b[zacatek + 3:], "rozměrech")
+        self.poskozeno(jmeno, lambda b: zmen(b, struct.pack("<hh", 5 * 60 + 24, -1), struct.pack("<hh", 5 * 60 + 27, -1)),
+                       "depo pošle vlaku 16802 druhou soupravu")
         self.poskozeno(jmeno, lambda b: b[:-1], "soubor končí uprostřed")
         self.poskozeno(jmeno, lambda b: zmen(b, b"\x02\x005k", b"\x02\x0055"), "na hlavním nádraží není")
         self.poskozeno(jmeno, lambda b: zmen(b, b"\x5a\x47\x00", b"\x5a\xf4\x01"), "500 m se nevejde")
