@@ -2,12 +2,12 @@
 #include "app/cas.h"
 #include "app/simulace.h"
 #include "cesty/dotazy.h"
-#include "cesty/makra.h"
 #include "cesty/tabulky.h"
-#include "cesty/volba.h"
 #include "cesty/zvyrazneni.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
+#include "obsluha/makra.h"
+#include "obsluha/volba.h"
 
 #include <array>
 

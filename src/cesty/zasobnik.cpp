@@ -2,8 +2,8 @@
 #include "cesty/zasobnik.h"
 
 #include "cesty/dotazy.h"
-#include "cesty/vyber.h"
 #include "cesty/zvyrazneni.h"
+#include "obsluha/vyber.h"
 #include "relief/relief.h"
 #include "zaklad/cisla.h"
 

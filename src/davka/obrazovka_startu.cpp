@@ -4,11 +4,11 @@
 #include "app/parametry.h"
 #include "app/rezim.h"
 #include "app/simulace.h"
-#include "app/vstup.h"
 #include "davka/popisy.h"
 #include "davka/skript.h"
 #include "davka/virtualni_svet.h"
 #include "desk/menu.h"
+#include "obsluha/vstup.h"
 
 #include <algorithm>
 #include <array>

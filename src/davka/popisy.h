@@ -7,7 +7,6 @@
 
 #include "app/parametry.h"
 #include "cesty/cesta.h"
-#include "cesty/vyber.h"
 #include "davka/json.h"
 #include "davka/skript.h"
 #include "desk/menu.h"
@@ -16,6 +15,7 @@
 #include "gvd/gvd.h"
 #include "gvd/stav_provozu.h"
 #include "jizda/vlak.h"
+#include "obsluha/vyber.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "relief/prejezdy.h"
 

@@ -1,14 +1,14 @@
 // davka/prikazy_rukou.cpp - commands that are a hand on the desk.
 #include "davka/prikazy_rukou.h"
 
-#include "app/klavesy.h"
-#include "app/vstup.h"
 #include "davka/obrazovka_startu.h"
 #include "davka/prikazy_startu.h"
 #include "davka/skript.h"
 #include "davka/virtualni_svet.h"
 #include "davka/vypisy.h"
 #include "desk/menu.h"
+#include "obsluha/klavesy.h"
+#include "obsluha/vstup.h"
 #include "technologie/technologie.h"
 
 namespace {

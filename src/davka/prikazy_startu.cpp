@@ -1,7 +1,6 @@
 // davka/prikazy_startu.cpp - commands that start a simulation, save it and log in.
 #include "davka/prikazy_startu.h"
 
-#include "app/klavesy.h"
 #include "app/parametry.h"
 #include "app/simulace.h"
 #include "app/start.h"
@@ -10,6 +9,7 @@
 #include "davka/skript.h"
 #include "davka/virtualni_svet.h"
 #include "desk/menu.h"
+#include "obsluha/klavesy.h"
 #include "save/ulozeni.h"
 #include "zaklad/soubory.h"
 

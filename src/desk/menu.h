@@ -1,7 +1,7 @@
 // desk/menu.h - the pop-up menu that is open.
 //
 // The core fills the record, the view shows it and hands the chosen entry back (zvol_v_menu of
-// app/vstup.h). One menu is open at a time; name empty: none.
+// obsluha/vstup.h). One menu is open at a time; name empty: none.
 #pragma once
 
 #include "relief/relief.h"

@@ -3,8 +3,8 @@
 
 #include "cesty/dotazy.h"
 #include "cesty/uvolneni.h"
-#include "cesty/volba.h"
 #include "desk/menu.h"
+#include "obsluha/volba.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
 

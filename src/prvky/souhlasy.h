@@ -1,8 +1,8 @@
 // prvky/souhlasy.h - consents of the three line ends.
 #pragma once
 
-#include "desk/tlacitko.h"
 #include "gvd/dopravny.h"
+#include "obsluha/tlacitko.h"
 #include "zaklad/text.h"
 
 #include <array>

@@ -1,7 +1,7 @@
 // ui/hlavni_okno.h - the main screen: the desk in a window, its timers, its keys and its pointer.
 #pragma once
 
-#include "app/vstup.h"
+#include "obsluha/vstup.h"
 #include "relief/relief.h"
 #include "ui/platno.h"
 #include "zaklad/platforma.h"

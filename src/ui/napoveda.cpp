@@ -3,7 +3,7 @@
 
 #include "desk/stitky.h"
 #include "gvd/gvd.h"
-#include "jizda/menu_koleje.h"
+#include "obsluha/menu_koleje.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
 #include "relief/prejezdy.h"

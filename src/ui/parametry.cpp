@@ -2,8 +2,8 @@
 #include "ui/parametry.h"
 
 #include "app/simulace.h"
-#include "app/vstup.h"
 #include "desk/menu.h"
+#include "obsluha/vstup.h"
 #include "ui/brana.h"
 #include "ui/kresba.h"
 #include "ui/pismo.h"

@@ -2,9 +2,9 @@
 #include "ui/technologie.h"
 
 #include "app/simulace.h"
-#include "app/vstup.h"
 #include "cesty/duvod.h"
 #include "cesty/zasobnik.h"
+#include "obsluha/vstup.h"
 #include "ui/brana.h"
 #include "ui/pismo.h"
 

@@ -1,10 +1,10 @@
 // testy/app/casovace_test.cpp - the simulated clock, its minutes and its days.
 #include "app/cas.h"
 #include "app/casovace.h"
-#include "app/vstup.h"
 #include "cesty/cesta.h"
 #include "gvd/gvd.h"
 #include "jizda/vlak.h"
+#include "obsluha/vstup.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "prvky/stav_vyhybek.h"

@@ -1,11 +1,11 @@
 // testy/app/kontrola_test.cpp - the state check finds each kind of fault, and none in a sound state.
 #include "app/kontrola.h"
 #include "cesty/cesta.h"
-#include "cesty/vyber.h"
 #include "desk/menu.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
 #include "jizda/vlak.h"
+#include "obsluha/vyber.h"
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/souhlasy.h"

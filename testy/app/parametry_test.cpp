@@ -1,9 +1,9 @@
 // testy/app/parametry_test.cpp - the start screen: its checks, its fields, its commands.
 #include "app/parametry.h"
 #include "app/rezim.h"
-#include "app/vstup.h"
 #include "desk/menu.h"
 #include "jizda/vlak.h"
+#include "obsluha/vstup.h"
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/virtualni_platforma.h"
 #include "zaklad/chyba.h"

@@ -4,10 +4,10 @@
 #include "cesty/barvi_prvek.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/duvod.h"
-#include "cesty/makra.h"
 #include "cesty/prekazky.h"
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"
+#include "obsluha/makra.h"
 #include "prvky/navestidla.h"
 #include "zaklad/chyba.h"
 

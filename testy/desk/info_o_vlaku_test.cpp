@@ -1,10 +1,10 @@
 // testy/desk/info_o_vlaku_test.cpp - the information of a train and the row of its vehicles.
-#include "app/vstup.h"
 #include "desk/info_o_vlaku.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
 #include "jizda/spojovani.h"
 #include "jizda/vlak.h"
+#include "obsluha/vstup.h"
 #include "pomocne/virtualni_platforma.h"
 #include "relief/relief.h"
 #include "zaklad/cisla.h"

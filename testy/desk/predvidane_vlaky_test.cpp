@@ -1,8 +1,8 @@
 // testy/desk/predvidane_vlaky_test.cpp - the prediction of trains in the journal.
-#include "app/vstup.h"
 #include "desk/menu.h"
 #include "desk/predvidane_vlaky.h"
 #include "gvd/gvd.h"
+#include "obsluha/vstup.h"
 #include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"
 #include "relief/relief.h"

@@ -1,9 +1,9 @@
 // testy/desk/tabulka_vlaku_test.cpp - the train table.
 #include "app/blikani.h"
-#include "app/vstup.h"
 #include "desk/menu.h"
 #include "desk/tabulka_vlaku.h"
 #include "jizda/vlak.h"
+#include "obsluha/vstup.h"
 #include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"
 #include "zaklad/cisla.h"

@@ -1,8 +1,8 @@
 // testy/desk/zprava_test.cpp - the command line and what waits for it.
 #include "app/blikani.h"
-#include "app/vstup.h"
 #include "desk/zprava.h"
 #include "gvd/provoz.h"
+#include "obsluha/vstup.h"
 #include "pomocne/virtualni_platforma.h"
 #include "relief/relief.h"
 

@@ -1,6 +1,5 @@
 // testy/jizda/spojovani_test.cpp - coupling, splitting, turning, the next train of a set; train and shunt.
 #include "app/blikani.h"
-#include "app/vstup.h"
 #include "cesty/cisla_vlaku.h"
 #include "desk/info_o_vlaku.h"
 #include "desk/tabulka_vlaku.h"
@@ -8,6 +7,7 @@
 #include "gvd/skladba.h"
 #include "jizda/posun.h"
 #include "jizda/svet_vlaku.h"
+#include "obsluha/vstup.h"
 
 #include <algorithm>
 

@@ -2,11 +2,11 @@
 #pragma once
 
 #include "app/start.h"
-#include "app/vstup.h"
 #include "kolejiste/kontroly.h"
 #include "kolejiste/kresba.h"
 #include "kolejiste/trasy.h"
 #include "kolejiste/vystup.h"
+#include "obsluha/vstup.h"
 #include "pomocne/virtualni_platforma.h"
 #include "pomocne/zdroje.h"
 

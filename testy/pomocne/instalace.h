@@ -2,8 +2,8 @@
 #pragma once
 
 #include "app/start.h"
-#include "app/vstup.h"
 #include "cesty/tabulky.h"
+#include "obsluha/vstup.h"
 #include "pomocne/virtualni_platforma.h"
 #include "pomocne/zdroje.h"
 

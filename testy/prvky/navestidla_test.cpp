@@ -3,14 +3,14 @@
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
-#include "cesty/vyber.h"
 #include "cesty/zasobnik.h"
 #include "desk/menu.h"
+#include "obsluha/stanoviste.h"
+#include "obsluha/vyber.h"
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/navestidla.h"
-#include "prvky/stanoviste.h"
 
 #include <algorithm>
 #include <map>

@@ -1,10 +1,10 @@
 // testy/prvky/prejezdy_stanice_test.cpp - the operator's commands on the station crossings.
 #include "app/blikani.h"
 #include "app/cas.h"
-#include "app/vstup.h"
 #include "cesty/cesta.h"
 #include "cesty/tik_volby.h"
 #include "desk/menu.h"
+#include "obsluha/vstup.h"
 #include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/prejezdy_stanice.h"

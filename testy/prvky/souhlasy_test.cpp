@@ -1,9 +1,9 @@
 // testy/prvky/souhlasy_test.cpp - consents to the three neighbouring stations.
 #include "app/blikani.h"
-#include "app/klavesy.h"
-#include "app/vstup.h"
 #include "desk/menu.h"
 #include "desk/zprava.h"
+#include "obsluha/klavesy.h"
+#include "obsluha/vstup.h"
 #include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/souhlasy.h"

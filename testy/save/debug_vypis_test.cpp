@@ -1,9 +1,9 @@
 // testy/save/debug_vypis_test.cpp - the debug dump, line by line.
-#include "app/vstup.h"
 #include "cesty/cesta.h"
 #include "desk/stitky.h"
 #include "gvd/gvd.h"
 #include "jizda/vlak.h"
+#include "obsluha/vstup.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/souhlasy.h"
 #include "relief/relief.h"

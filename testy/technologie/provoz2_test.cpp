@@ -1,11 +1,11 @@
 // testy/technologie/provoz2_test.cpp - the maintenance screen of the stack, the possessions and the macros.
 #include "app/casovace.h"
-#include "app/vstup.h"
 #include "cesty/duvod.h"
-#include "cesty/makra.h"
 #include "cesty/stavedlo.h"
 #include "cesty/zasobnik.h"
 #include "desk/menu.h"
+#include "obsluha/makra.h"
+#include "obsluha/vstup.h"
 #include "technologie/provoz2.h"
 
 struct Provoz2Obrazovka : Stavedlo {

@@ -1,11 +1,11 @@
 // testy/technologie/technologie_test.cpp - the five maintenance screens: opening, tabs, contents, timers.
 #include "app/casovace.h"
-#include "app/vstup.h"
 #include "cesty/dotazy.h"
 #include "cesty/duvod.h"
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"
 #include "desk/menu.h"
+#include "obsluha/vstup.h"
 #include "prvky/navestidla.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/stanicni_prejezdy.h"

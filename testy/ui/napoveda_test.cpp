@@ -1,13 +1,13 @@
 // testy/ui/napoveda_test.cpp - what the pointer tells: every command is explained, every sign has its word.
-#include "app/vstup.h"
 #include "desk/stitky.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
+#include "obsluha/stanoviste.h"
+#include "obsluha/vstup.h"
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
-#include "prvky/stanoviste.h"
 #include "ui/napoveda.h"
 
 #include <gtest/gtest.h>

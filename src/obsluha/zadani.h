@@ -1,4 +1,4 @@
-// desk/zadani.h - the input field of the command line: notes, the search of a unit, a train's number.
+// obsluha/zadani.h - the input field of the command line: notes, the search of a unit, a train's number.
 //
 // There is one field, so there is one question: a newer one takes the place of the one that stands or
 // waits. What the answer belongs to stands in prikaz_radek: rezim_zadani and zadany_prvek.

@@ -1,6 +1,6 @@
-// testy/cesty/volba_test.cpp - picks, the stack and the warnings.
+// testy/obsluha/volba_test.cpp - picks, the stack and the warnings.
 #include "cesty/stavedlo.h"
-#include "cesty/volba.h"
+#include "obsluha/volba.h"
 
 using Volba = Stavedlo;
 

@@ -1,12 +1,12 @@
-// prvky/stanoviste.cpp - the operator's posts: automatic through running (AH) and the post's menu.
-#include "prvky/stanoviste.h"
+// obsluha/stanoviste.cpp - the operator's posts: automatic through running (AH) and the post's menu.
+#include "obsluha/stanoviste.h"
 
 #include "cesty/cesta.h"
 #include "cesty/uvolneni.h"
-#include "cesty/volba.h"
 #include "desk/menu.h"
 #include "desk/predvidane_vlaky.h"
 #include "gvd/gvd.h"
+#include "obsluha/volba.h"
 #include "prvky/navestidla.h"
 #include "relief/relief.h"
 

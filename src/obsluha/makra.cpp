@@ -1,12 +1,12 @@
-// cesty/makra.cpp - macros.
-#include "cesty/makra.h"
+// obsluha/makra.cpp - macros.
+#include "obsluha/makra.h"
 
 #include "app/simulace.h"
 #include "cesty/dotazy.h"
 #include "cesty/tabulky.h"
-#include "cesty/volba.h"
 #include "cesty/zvyrazneni.h"
 #include "desk/zprava.h"
+#include "obsluha/volba.h"
 #include "zaklad/soubory.h"
 
 #include <algorithm>

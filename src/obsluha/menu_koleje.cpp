@@ -1,14 +1,11 @@
-// jizda/menu_koleje.cpp - the menu of a track, and the clicks on its number labels.
-#include "jizda/menu_koleje.h"
+// obsluha/menu_koleje.cpp - the menu of a track, and the clicks on its number labels.
+#include "obsluha/menu_koleje.h"
 
 #include "app/simulace.h"
 #include "cesty/dotazy.h"
-#include "cesty/volba.h"
-#include "cesty/vyber.h"
 #include "desk/info_o_vlaku.h"
 #include "desk/menu.h"
 #include "desk/tabulka_vlaku.h"
-#include "desk/zadani.h"
 #include "desk/zprava.h"
 #include "jizda/na_koleji.h"
 #include "jizda/posun.h"
@@ -16,6 +13,9 @@
 #include "jizda/spojovani.h"
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
+#include "obsluha/volba.h"
+#include "obsluha/vyber.h"
+#include "obsluha/zadani.h"
 #include "relief/topologie.h"
 #include "zaklad/cisla.h"
 

@@ -1,4 +1,4 @@
-// desk/tlacitko.h - buttons of the pointer.
+// obsluha/tlacitko.h - buttons of the pointer.
 #pragma once
 
 #include <cstdint>

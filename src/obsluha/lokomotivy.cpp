@@ -1,5 +1,5 @@
-// jizda/lokomotivy.cpp - locomotives called out of the depots.
-#include "jizda/lokomotivy.h"
+// obsluha/lokomotivy.cpp - locomotives called out of the depots.
+#include "obsluha/lokomotivy.h"
 
 #include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"

@@ -1,8 +1,8 @@
-// testy/jizda/lokomotivy_test.cpp - locomotives called out of the depots.
-#include "app/vstup.h"
+// testy/obsluha/lokomotivy_test.cpp - locomotives called out of the depots.
 #include "desk/menu.h"
-#include "jizda/lokomotivy.h"
 #include "jizda/svet_vlaku.h"
+#include "obsluha/lokomotivy.h"
+#include "obsluha/vstup.h"
 #include "pomocne/pult.h"
 #include "zaklad/nahoda.h"
 

@@ -1,4 +1,4 @@
-// cesty/makra.h - macros: a list of picks under a letter, recorded once and set by two keys.
+// obsluha/makra.h - macros: a list of picks under a letter, recorded once and set by two keys.
 //
 // They stand in data\tesk.mak in the order of recording; a letter may stand there more than once, and
 // all its records run.

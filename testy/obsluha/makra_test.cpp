@@ -1,6 +1,6 @@
-// testy/cesty/makra_test.cpp - recording, replaying and deleting macros.
-#include "cesty/makra.h"
+// testy/obsluha/makra_test.cpp - recording, replaying and deleting macros.
 #include "cesty/stavedlo.h"
+#include "obsluha/makra.h"
 #include "zaklad/chyba.h"
 
 struct Makra : Stavedlo {

@@ -1,11 +1,11 @@
-// testy/app/vstup_test.cpp - clicks and menus.
+// testy/obsluha/vstup_test.cpp - clicks and menus.
 #include "app/simulace.h"
-#include "app/vstup.h"
 #include "cesty/cesta.h"
-#include "cesty/vyber.h"
 #include "desk/menu.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
+#include "obsluha/vstup.h"
+#include "obsluha/vyber.h"
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/virtualni_platforma.h"
 #include "relief/relief.h"

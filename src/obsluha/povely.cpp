@@ -1,5 +1,5 @@
-// app/povely.cpp - commands of the desk that a key and a picture of the bar give alike.
-#include "app/povely.h"
+// obsluha/povely.cpp - commands of the desk that a key and a picture of the bar give alike.
+#include "obsluha/povely.h"
 
 #include "app/konec.h"
 #include "app/simulace.h"

@@ -1,8 +1,8 @@
-// testy/app/klavesy_test.cpp - keys, and their names.
-#include "app/klavesy.h"
+// testy/obsluha/klavesy_test.cpp - keys, and their names.
 #include "app/simulace.h"
-#include "app/vstup.h"
 #include "desk/zprava.h"
+#include "obsluha/klavesy.h"
+#include "obsluha/vstup.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/souhlasy.h"
 #include "relief/relief.h"

@@ -1,11 +1,11 @@
-// testy/jizda/menu_koleje_test.cpp - the menu of a track and the clicks on its number labels.
-#include "app/vstup.h"
-#include "cesty/vyber.h"
+// testy/obsluha/menu_koleje_test.cpp - the menu of a track and the clicks on its number labels.
 #include "desk/info_o_vlaku.h"
 #include "desk/menu.h"
 #include "gvd/gvd.h"
-#include "jizda/menu_koleje.h"
 #include "jizda/svet_vlaku.h"
+#include "obsluha/menu_koleje.h"
+#include "obsluha/vstup.h"
+#include "obsluha/vyber.h"
 #include "pomocne/pult.h"
 
 #include <algorithm>

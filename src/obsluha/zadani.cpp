@@ -1,8 +1,7 @@
-// desk/zadani.cpp - what the typed texts do.
-#include "desk/zadani.h"
+// obsluha/zadani.cpp - what the typed texts do.
+#include "obsluha/zadani.h"
 
 #include "app/simulace.h"
-#include "app/vstup.h"
 #include "cesty/tabulky.h"
 #include "desk/menu.h"
 #include "desk/stitky.h"
@@ -13,7 +12,8 @@
 #include "jizda/na_koleji.h"
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
-#include "prvky/stanoviste.h"
+#include "obsluha/stanoviste.h"
+#include "obsluha/vstup.h"
 #include "relief/prejezdy.h"
 #include "relief/relief.h"
 #include "zaklad/cisla.h"

@@ -1,11 +1,11 @@
-// app/vstup.h - the operator's hands: clicks and choices of menus here, keys in app/klavesy.h.
+// obsluha/vstup.h - the operator's hands: clicks and choices of menus here, keys in obsluha/klavesy.h.
 //
 // The screen and the headless runner work the simulation only through these operations; whatever a
 // hand can do passes here. An element or entry that takes no input ignores it.
 #pragma once
 
-#include "app/klavesy.h"
-#include "desk/tlacitko.h"
+#include "obsluha/klavesy.h"
+#include "obsluha/tlacitko.h"
 #include "relief/relief.h"
 #include "zaklad/text.h"
 

@@ -1,5 +1,5 @@
-// app/jmena_klaves.cpp - keys by their names.
-#include "app/klavesy.h"
+// obsluha/jmena_klaves.cpp - keys by their names.
+#include "obsluha/klavesy.h"
 
 namespace {
 

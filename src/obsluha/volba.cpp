@@ -1,12 +1,12 @@
-// cesty/volba.cpp - the operator's selection.
-#include "cesty/volba.h"
+// obsluha/volba.cpp - the operator's selection.
+#include "obsluha/volba.h"
 
 #include "app/simulace.h"
 #include "cesty/dotazy.h"
-#include "cesty/makra.h"
 #include "cesty/tabulky.h"
 #include "cesty/zvyrazneni.h"
 #include "desk/zprava.h"
+#include "obsluha/makra.h"
 #include "prvky/navestidla.h"
 #include "relief/topologie.h"
 #include "save/gtn.h"

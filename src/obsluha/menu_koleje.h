@@ -1,4 +1,4 @@
-// jizda/menu_koleje.h - the operator reaches a train through the number label of its track.
+// obsluha/menu_koleje.h - the operator reaches a train through the number label of its track.
 //
 // A right click on a label opens mnuKolej with up to four trains of the track; each entry acts on the
 // train that stood in the menu when it was opened. The labels of the left and of the right end of a track

@@ -1,4 +1,4 @@
-// cesty/vyber.h - what the operator has picked so far, and the macro that is being recorded.
+// obsluha/vyber.h - what the operator has picked so far, and the macro that is being recorded.
 //
 // Idle, start picked (the ten seconds run), end picked (the lookup runs at once), or a warning pending.
 // -3 means none.

@@ -1,4 +1,4 @@
-// jizda/lokomotivy.h - locomotives that the operator calls out of the depots.
+// obsluha/lokomotivy.h - locomotives that the operator calls out of the depots.
 //
 // The names of the depots on the desk (popis_stanice 28 and 30 of the main depot, 34 of the branch depot)
 // open a menu of series; the choice puts a locomotive at the gate. With the gate taken nothing happens.

@@ -1,9 +1,9 @@
-// cesty/volba.h - the operator's selection: a start signal, an end, and the look-up of the route.
+// obsluha/volba.h - the operator's selection: a start signal, an end, and the look-up of the route.
 #pragma once
 
-#include "cesty/vyber.h"
 #include "cesty/zasobnik.h"
-#include "desk/tlacitko.h"
+#include "obsluha/tlacitko.h"
+#include "obsluha/vyber.h"
 
 // Kinds of a selection.
 namespace druh_volby {

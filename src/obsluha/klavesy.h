@@ -1,4 +1,4 @@
-// app/klavesy.h - the keys of the main screen.
+// obsluha/klavesy.h - the keys of the main screen.
 #pragma once
 
 #include "zaklad/text.h"

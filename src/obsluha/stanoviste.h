@@ -1,4 +1,4 @@
-// prvky/stanoviste.h - the operator's posts: automatic through running (AH) and the post's menu.
+// obsluha/stanoviste.h - the operator's posts: automatic through running (AH) and the post's menu.
 #pragma once
 
 // --- on the operator's command

@@ -1,4 +1,4 @@
-// app/povely.h - commands of the desk that a key and a picture of the bar give alike.
+// obsluha/povely.h - commands of the desk that a key and a picture of the bar give alike.
 #pragma once
 
 #include <cstdint>

@@ -1,11 +1,11 @@
-// testy/desk/zadani_test.cpp - the input field: notes, the search of a unit, a train's number.
-#include "app/vstup.h"
-#include "cesty/vyber.h"
+// testy/obsluha/zadani_test.cpp - the input field: notes, the search of a unit, a train's number.
 #include "desk/menu.h"
 #include "desk/stitky.h"
-#include "desk/zadani.h"
 #include "gvd/gvd.h"
 #include "jizda/svet_vlaku.h"
+#include "obsluha/vstup.h"
+#include "obsluha/vyber.h"
+#include "obsluha/zadani.h"
 #include "relief/prejezdy.h"
 
 namespace {
