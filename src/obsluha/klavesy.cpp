@@ -73,6 +73,7 @@ void enter() {
     if (vstup_otevren()) {
         zpracuj_zadani(relief.txtZadav_pole[0].text());
         potvrd_prikaz();
+        obnov_stranku_vlaku();
     } else if (!odpovez_na_radek() && !byl_pohled && je_cil_pod_kurzorem() && !simulace.pauza) {
         klik(vyber.mys_druh, vyber.mys_prvek, Tlacitko::leve, false);
     }
@@ -195,6 +196,27 @@ void ukonci() {
     konec_ihned();
 }
 
+// Before the login has ended nobody is on duty: Enter answers it, the window can be left and the pointer
+// moved, and nothing else does anything.
+bool bere_klavesu(KodKlavesy kod) {
+    switch (kod) {
+    case KodKlavesy::enter:
+    case KodKlavesy::f11:
+    case KodKlavesy::sipka_vlevo:
+    case KodKlavesy::sipka_vpravo:
+    case KodKlavesy::sipka_nahoru:
+    case KodKlavesy::sipka_dolu: return true;
+    default: return false;
+    }
+}
+
+// The desk has a use for the key, at some time.
+bool ma_ucinek(const Klavesa& k) {
+    if (k.kod == KodKlavesy::pismeno)
+        return k.alt || (k.ctrl && k.pismeno == 'S');
+    return k.kod != KodKlavesy::zadna && k.kod != KodKlavesy::jina && k.kod != KodKlavesy::tab;
+}
+
 // A key while a maintenance screen covers the desk; false when it is none of its keys.
 bool klavesa_technologie(const Klavesa& k) {
     switch (k.kod) {
@@ -215,6 +237,8 @@ bool klavesa_technologie(const Klavesa& k) {
 
 bool klavesa(const Klavesa& k) {
     const bool konec = k.kod == KodKlavesy::f10 && k.ctrl && k.alt;
+    if (prihlaseni_bezi() && !konec && !bere_klavesu(k.kod))
+        return ma_ucinek(k);
     if (technologie_kryje_stul() && !konec && k.kod != KodKlavesy::f11)
         return klavesa_technologie(k);
     switch (k.kod) {

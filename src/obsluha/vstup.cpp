@@ -4,6 +4,7 @@
 #include "app/konec.h"
 #include "app/simulace.h"
 #include "cesty/zasobnik.h"
+#include "desk/info_o_vlaku.h"
 #include "desk/menu.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
@@ -23,6 +24,7 @@
 #include "zaklad/platforma.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace {
@@ -73,6 +75,17 @@ bool klik_na_prvek(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
     }
 }
 
+// Before the login has ended nobody is on duty: what answers it, what leaves the desk, the sound and the dump
+// work, and nothing else does.
+bool bere_klik(Druh druh, Tlacitko tlacitko) {
+    if (!prihlaseni_bezi())
+        return true;
+    constexpr std::array kPriPrihlaseni = {Druh::lblPrikaz,      Druh::lblVolba, Druh::imgKONEC,
+                                           Druh::imgMinimalizuj, Druh::imgSound, Druh::imgDEBUG};
+    return tlacitko == Tlacitko::leve &&
+           std::find(kPriPrihlaseni.begin(), kPriPrihlaseni.end(), druh) != kPriPrihlaseni.end();
+}
+
 // Left click on a key of the desk.
 void klik_na_desku(Druh druh) {
     switch (druh) {
@@ -99,7 +112,7 @@ void klik_na_desku(Druh druh) {
 } // namespace
 
 void klik(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
-    if (!tabulka(druh).je(n) || technologie_kryje_stul())
+    if (!tabulka(druh).je(n) || technologie_kryje_stul() || !bere_klik(druh, tlacitko))
         return;
     zavri_pohled_sekvence();
     zavri_menu();
@@ -112,7 +125,7 @@ void klik(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
 }
 
 void dvojklik(Druh druh, int n) {
-    if (!tabulka(druh).je(n) || technologie_kryje_stul())
+    if (!tabulka(druh).je(n) || technologie_kryje_stul() || prihlaseni_bezi())
         return;
     zavri_menu();
     if (druh == Druh::cislo_koleje)
@@ -178,5 +191,6 @@ bool zvol_v_menu(TextPohled jmeno) {
         zvolena.akce(zvolena.cil);
     if (rizikova)
         ohlas_rizikovou_funkci(std::move(*rizikova));
+    obnov_stranku_vlaku();
     return true;
 }

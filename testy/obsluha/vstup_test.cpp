@@ -36,6 +36,55 @@ TEST_F(Kliky, ClickOnTheLineAnswersItLikeEnter) {
     }
 }
 
+TEST_F(Kliky, NothingIsCommandedDuringTheLogin) {
+    zapis_male_kolejiste(simulace.cesta_aplikace);
+    postav_male_kolejiste();
+    for (const TextPohled slovo : {" INIT ", " TPC ", " ARCHIV "}) {
+        zprava(slovo, " OK ", barvy::zelena, 0, false, barvy::bila, 0, false);
+        const Relief pred = relief;
+        const Simulace simulace_pred = simulace;
+        for (std::size_t d = 0; d < kDruhy.size(); ++d) {
+            const Druh druh = static_cast<Druh>(d);
+            if (druh == Druh::lblPrikaz || druh == Druh::lblVolba || druh == Druh::imgKONEC ||
+                druh == Druh::imgMinimalizuj || druh == Druh::imgSound || druh == Druh::imgDEBUG)
+                continue;
+            for (int n = 0; n <= tabulka(druh).nejvyssi(); ++n) {
+                for (const Tlacitko t : {Tlacitko::leve, Tlacitko::prostredni, Tlacitko::prave})
+                    klik(druh, n, t, t == Tlacitko::leve);
+                dvojklik(druh, n);
+            }
+        }
+        klik_na_plochu();
+        for (const char* klavesa_ : {"Esc", "F2", "F3", "F8", "F9", "F10", "Num/", "Num+", "Num-", "Delete",
+                                     "PrintScreen", "Ctrl+S", "Alt+A", "Alt+Shift+A"})
+            EXPECT_TRUE(klavesa(klavesa_podle_jmena(klavesa_))) << klavesa_;
+        EXPECT_TRUE(menu.jmeno.empty());
+        EXPECT_EQ(relief, pred) << slovo;
+        EXPECT_EQ(simulace, simulace_pred);
+        EXPECT_EQ(vyber, Vyber{});
+        EXPECT_TRUE(svet.pipnuti.empty());
+        EXPECT_TRUE(svet.spustene_programy.empty());
+        skryj_prikaz();
+    }
+}
+
+TEST_F(Kliky, LoginIsAnsweredByAClickOnItsLineAndTheDeskCanBeLeft) {
+    zprava(" INIT ", " OK ", barvy::zelena, 0, false, barvy::bila, 0, false);
+    klik(Druh::imgKONEC, 0, Tlacitko::leve, false);
+    EXPECT_EQ(svet.otazky.size(), 1u);
+    klik(Druh::imgMinimalizuj, 0, Tlacitko::leve, false);
+    EXPECT_EQ(svet.minimalizovano, 1);
+    klik(Druh::imgSound, 0, Tlacitko::leve, false);
+    EXPECT_TRUE(simulace.zvuk_vypnut);
+    klik(Druh::lblPrikaz, 0, Tlacitko::leve, false);
+    EXPECT_EQ(relief.lblPrikaz[0].text(), " TPC ");
+    klik(Druh::lblVolba, 0, Tlacitko::leve, false);
+    EXPECT_EQ(relief.lblPrikaz[0].text(), " ARCHIV ");
+    simulace.pauza = true;
+    klik(Druh::lblVolba, 0, Tlacitko::leve, false);
+    EXPECT_FALSE(simulace.pauza);
+}
+
 TEST_F(Kliky, RightClickOnAStationCrossingOpensItsMenu) {
     relief.lblPrejezd.zaloz(1);
     klik(Druh::lblPrejezd, 1, Tlacitko::leve, false);
