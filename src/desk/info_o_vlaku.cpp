@@ -223,6 +223,10 @@ bool ma_ram(TextPohled obrazek) {
     return jmeno.ends_with("_l");
 }
 
+Text obrazek_vozu_vlaku(const Vlak& v, std::size_t i) {
+    return i < v.vozy_obrazek.size() ? v.vozy_obrazek[i] : Text{};
+}
+
 // The pictures stand for no vehicle: they take no clicks.
 void uvolni_vozy() {
     for (int i = 0; i <= relief.imgObrzaek_vlaku.nejvyssi(); ++i)
@@ -245,7 +249,7 @@ void napln_vozy(const Vlak& v) {
     for (int i = 0; i < pocet; ++i) {
         const std::size_t k = static_cast<std::size_t>(i);
         Prvek& obrazek = v_rade(relief.imgObrzaek_vlaku, i);
-        obrazek.stav = k < v.vozy_obrazek.size() ? v.vozy_obrazek[k] : Text{};
+        obrazek.stav = obrazek_vozu_vlaku(v, k);
         obrazek.popis = v.vozy[k];
         obrazek.ramecek = ma_ram(obrazek.stav());
         obrazek.povoleny = true;
@@ -285,9 +289,9 @@ void ukaz_vozy() {
     relief.lblPokracuje[0].viditelny = pokracuje;
 }
 
-void napln_stranku(TextPohled text, int vlak) {
+void napln_stranku(int vlak) {
     Prvek& radek = relief.lblIinfo_o_vlaku[0];
-    radek.text = Text(text) + text_vlaku(vlak);
+    radek.text = text_vlaku(vlak);
     radek.stav = text_cisla(vlak);
     napln_vozy(vlak_c(vlak));
 }
@@ -369,18 +373,35 @@ Text popis_vozu(TextPohled vuz, TextPohled urceni) {
     return text;
 }
 
+bool vozy_na_panelu_jsou(const Vlak& v) {
+    if (vozu_na_panelu() != static_cast<int>(v.vozy.size()))
+        return false;
+    for (std::size_t i = 0; i < v.vozy.size(); ++i) {
+        const Prvek& obrazek = relief.imgObrzaek_vlaku[static_cast<int>(i)];
+        if (obrazek.popis() != v.vozy[i] || obrazek.stav() != obrazek_vozu_vlaku(v, i))
+            return false;
+    }
+    return true;
+}
+
 void ukaz_stranku_vlaku() {
-    const int vlak = vlak_na_panelu();
-    if (vlak >= 0 && relief.lblIinfo_o_vlaku[0].text->empty())
-        napln_stranku({}, vlak);
+    if (const int vlak = vlak_na_panelu(); vlak >= 0)
+        napln_stranku(vlak);
     ukaz_vozy();
+}
+
+void obnov_stranku_vlaku() {
+    if (vlak_na_panelu() >= 0 && info_ukazuje(vlak_na_panelu()))
+        ukaz_stranku_vlaku();
 }
 
 void info_o_vlaku(TextPohled text, int vlak) {
     if (skutecny_vlak(vlak) == nullptr)
         return;
-    napln_stranku(text, vlak);
+    napln_stranku(vlak);
     prepni_panel(Panel::vlak);
+    Prvek& radek = relief.lblIinfo_o_vlaku[0];
+    radek.text = Text(text) + radek.text();
 }
 
 void info_podle_gvd(std::int32_t cislo) {

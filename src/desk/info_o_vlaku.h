@@ -10,6 +10,8 @@
 
 #include <cstdint>
 
+struct Vlak; // jizda/vlak.h
+
 // --- on the operator's command
 
 // Shows the train on the train page: `text` and behind it the composed line, and its vehicles. An index
@@ -20,10 +22,15 @@ void info_o_vlaku(TextPohled text, int vlak);
 void info_podle_gvd(std::int32_t cislo);
 // The page is open and the train is the one on it.
 bool info_ukazuje(int vlak);
-// The train page opens: the line of the train on display, when the bar has been emptied, and its vehicles
-// from the left. On one monitor those that do not fit are hidden, and lblPokracuje says that the set goes
+// The train page opens: the line of the train on display as it is now, and its vehicles from the left. On one
+// monitor those that do not fit are hidden, and lblPokracuje says that the set goes
 // on.
 void ukaz_stranku_vlaku();
+
+// --- after each movement step, and after a command that may have changed a train
+
+// The open page tells of its train as it is now: the line and the vehicles in their order.
+void obnov_stranku_vlaku();
 
 // --- when a train is no more
 
@@ -36,6 +43,8 @@ void zapomen_info(int vlak);
 int vlak_na_panelu();
 // How many vehicles the pictures stand for.
 int vozu_na_panelu();
+// The pictures stand for the vehicles of the train, in the order in which they run.
+bool vozy_na_panelu_jsou(const Vlak& v);
 // The composed line of a train or a shunting movement.
 Text text_vlaku(int vlak);
 // Next work of a set, by the text of a train number: the train that brings its vehicles today, or that

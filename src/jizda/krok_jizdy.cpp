@@ -11,6 +11,7 @@
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
 #include "cesty/uvolneni.h"
+#include "desk/info_o_vlaku.h"
 #include "jizda/cesty_na_prvku.h"
 #include "jizda/metry.h"
 #include "jizda/na_koleji.h"
@@ -448,5 +449,6 @@ void krok_jizdy() {
     for (int v = 0; v < pocet; ++v)
         krok_konce(v);
     uklid_cesty();
+    obnov_stranku_vlaku();
     simulace.tick_jizdy = platforma.tik_ms();
 }

@@ -393,7 +393,7 @@ void odvesit_klik(int i) {
     const int v = vlak_na_panelu();
     if (v < 0 || !je_vlak(v))
         return;
-    if (vozu_na_panelu() != static_cast<int>(vlak_c(v).vozy.size())) {
+    if (!vozy_na_panelu_jsou(vlak_c(v))) {
         info_o_vlaku({}, v); // the pictures are old ones
         return;
     }

@@ -345,6 +345,39 @@ TEST_F(Spojovani, OldPicturesAreDrawnAnewAndNothingElseHappens) {
     EXPECT_EQ(vlak(v).vozy, Vozy{"B"});
 }
 
+TEST_F(Spojovani, ClickOnAPictureOfATurnedSetTakesNothingElseOff) {
+    const int v = vlak_na(62, true, 77, {"754", "B", "C"});
+    info_o_vlaku({}, v);
+    otoc_vlak(v);
+    odvesit_klik(0); // on the picture of the locomotive, which runs at the end
+    EXPECT_EQ(vlak(v).vozy, (Vozy{"C", "B", "754"}));
+    EXPECT_EQ(relief.imgObrzaek_vlaku[0].popis(), "C");
+    odvesit_klik(2);
+    EXPECT_EQ(vlak(v).vozy, (Vozy{"C", "B"}));
+}
+
+TEST_F(Spojovani, OpenTrainPageIsWhatTheTrainIsAfterEachStep) {
+    const int v = vlak_na(62, true, 77, {"754", "B", "C"});
+    info_o_vlaku({}, v);
+    otoc_vlak(v);
+    vlak(v).delka = 333;
+    krok();
+    EXPECT_EQ(relief.imgObrzaek_vlaku[0].popis(), "C");
+    EXPECT_EQ(relief.imgObrzaek_vlaku[2].popis(), "754");
+    EXPECT_EQ(relief.lblIinfo_o_vlaku[0].text(), text_vlaku(v));
+    EXPECT_NE(relief.lblIinfo_o_vlaku[0].text().find("333m"), Text::npos);
+    vlak(v).vozy.pop_back();
+    krok();
+    EXPECT_FALSE(relief.imgObrzaek_vlaku[2].viditelny);
+    prepni_panel(Panel::denik);
+    otoc_vlak(v);
+    krok();
+    EXPECT_FALSE(relief.imgObrzaek_vlaku[0].viditelny); // another page stays open
+    prepni_panel(Panel::vlak);
+    EXPECT_EQ(relief.imgObrzaek_vlaku[0].popis(), vlak(v).vozy[0]);
+    EXPECT_EQ(relief.lblIinfo_o_vlaku[0].text(), text_vlaku(v));
+}
+
 TEST_F(Spojovani, TrainPageFollowsWhatHappensToItsTrain) {
     const int v = vlak_na(62, true, 77, {"754", "B", "C"});
     odvesit(v, 0, false);
