@@ -128,7 +128,6 @@ void rozsir_na_dva_monitory() {
 
 void ukaz_polozky_ladeni() {
     simulace.polozky_ladeni = je_ladeni();
-    relief.imgDEBUG[0].viditelny = simulace.polozky_ladeni;
 }
 
 void zaloz_prazdne_tabulky() {
