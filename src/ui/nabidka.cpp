@@ -75,7 +75,8 @@ QMenu* postav_nabidku(QWidget* rodic, const Menu& co, const QFont& pismo, double
         }
         QMenu* kam = polozka.podmenu && podnabidka != nullptr ? podnabidka : nabidka;
         QAction* akce = kam->addAction(na_qstring(polozka.text));
-        akce->setEnabled(polozka.povolena);
+        // What the real desk has and the simulation has not looks like what cannot be chosen.
+        akce->setEnabled(polozka.povolena && polozka.akce != nullptr);
         akce->setToolTip(QString::fromUtf8(vyklad_povelu(polozka)));
         QObject::connect(akce, &QAction::triggered, nabidka,
                          [zvoleno, jmeno = polozka.jmeno] { zvoleno(jmeno); });
