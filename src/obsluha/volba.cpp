@@ -33,11 +33,24 @@ bool stoji_vyzva() {
     return slovo == " VC " || slovo == " PC " || slovo == " PN ";
 }
 
+// The prompt of a selection from the signal s.
+Vyzva vyzva_volby(int druh, int s) {
+    if (druh == druh_volby::posun)
+        return {" PC ", jmeno_navestidla(s), barvy::bila, barvy::cerna};
+    if (druh == druh_volby::pn)
+        return {" PN ", jmeno_navestidla(s), barvy::bila, barvy::azurova};
+    if (makro_se_zaznamenava())
+        return {" VC ", jmeno_navestidla(s), barvy::seda, barvy::azurova};
+    return {" VC ", jmeno_navestidla(s), barvy::bila, barvy::zelena};
+}
+
 // A prompt never takes the line from another message, and does not wait for it: a warning that must be
-// confirmed stays in sight while the operator picks on.
-void ukaz_vyzvu(TextPohled slovo, TextPohled text, Barva popredi, Barva pozadi) {
-    if (!prikaz_radek.obsazen || stoji_vyzva())
-        zobraz_prikaz(slovo, text, popredi, pozadi);
+// confirmed stays in sight while the operator picks on, and the prompt is then shown beside it.
+void ukaz_vyzvu(int druh, int s) {
+    if (prikaz_radek.obsazen && !stoji_vyzva())
+        return;
+    const Vyzva v = vyzva_volby(druh, s);
+    zobraz_prikaz(v.slovo, v.text, v.popredi, v.pozadi);
 }
 
 void ohlas_zablokovane(TextPohled text) {
@@ -104,7 +117,7 @@ void vyber_posun(int s, int konec) {
     if (navazuje_na_volbu(s))
         ukonci_volbu_v(konec, druh_volby::posun);
     gtn_zapis(s, gtn::volba_posun, 0);
-    ukaz_vyzvu(" PC "_cz, jmeno_navestidla(s), barvy::bila, barvy::cerna);
+    ukaz_vyzvu(druh_volby::posun, s);
     vyber.volba_posun = true;
     vyber.volba_svetla = barva_navestidla(s) == barvy::bila;
     zvyrazni_navestidlo(s, barvy::bila);
@@ -117,10 +130,7 @@ void vyber_vlak(int s) {
     if (navazuje_na_volbu(s) && !vyber.volba_posun && !je_vyjimka_retezeni(s))
         ukonci_volbu_v(s == 998 ? 118 : konec_u_navestidla(s), druh_volby::vlak);
     gtn_zapis(s, gtn::volba_vlak, 0);
-    if (makro_se_zaznamenava())
-        ukaz_vyzvu(" VC "_cz, jmeno_navestidla(s), barvy::seda, barvy::azurova);
-    else
-        ukaz_vyzvu(" VC "_cz, jmeno_navestidla(s), barvy::bila, barvy::zelena);
+    ukaz_vyzvu(druh_volby::vlak, s);
     vyber.volba_posun = false;
     vyber.volba_svetla = barva_navestidla(s) == barvy::zelena;
     zvyrazni_navestidlo(s, barvy::zelena);
@@ -269,7 +279,7 @@ void volba_pn(int s) {
     vyber.volba_druh = druh_volby::pn;
     if (makro_se_zaznamenava())
         return; // calling-on routes do not go into macros
-    ukaz_vyzvu(" PN "_cz, jmeno_navestidla(s), barvy::bila, barvy::azurova);
+    ukaz_vyzvu(druh_volby::pn, s);
     zvyrazni_navestidlo(s, barvy::azurova);
     vyber.volba_posun = false;
     vyber.volba_svetla = barva_navestidla(s) == barvy::zelena;
@@ -316,7 +326,10 @@ void zrus_volbu() {
     vyber.volba_cas = -3; // a selection that was dropped cannot run out of time
 }
 
+// The prompt goes with the choice that it tells of.
 void klik_plocha() {
+    if (stoji_vyzva())
+        skryj_prikaz();
     if (!vyber.volba_svetla)
         odznac_navestidlo(vyber.volba_navestidlo);
     vyber.volba_druh = druh_volby::zadny;
@@ -324,6 +337,13 @@ void klik_plocha() {
     vyber.volba_cas = -3;
     vyber.volba_svetla = false;
     vyber.volba_posun = false;
+}
+
+std::optional<Vyzva> vyzva_mimo_radek() {
+    const bool vybira = vyber.volba_druh != druh_volby::zadny && vyber.volba_zacatek >= 0;
+    if (!vybira || vyber.volba_konec >= 0 || !prikaz_radek.obsazen || stoji_vyzva())
+        return std::nullopt;
+    return vyzva_volby(vyber.volba_druh, vyber.volba_zacatek);
 }
 
 void potvrd_varovani() {

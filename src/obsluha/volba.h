@@ -4,6 +4,9 @@
 #include "cesty/zasobnik.h"
 #include "obsluha/tlacitko.h"
 #include "obsluha/vyber.h"
+#include "relief/prvek.h"
+
+#include <optional>
 
 // Kinds of a selection.
 namespace druh_volby {
@@ -12,6 +15,19 @@ inline constexpr int vlak = 1;  // VC
 inline constexpr int posun = 2; // PC
 inline constexpr int pn = 3;    // PN
 } // namespace druh_volby
+
+// What the command line says of a selection: the word of its kind and the name of its start.
+struct Vyzva {
+    Text slovo, text;
+    Barva popredi = 0, pozadi = 0;
+    bool operator==(const Vyzva&) const = default;
+};
+
+// --- at any time, without change
+
+// The prompt of the open selection while another message holds the command line: the operator has to see
+// what he chooses.
+std::optional<Vyzva> vyzva_mimo_radek();
 
 // --- on the operator's command
 

@@ -28,6 +28,8 @@
 #include <QWindow>
 
 #include <cmath>
+#include <ctime>
+#include <utility>
 
 namespace {
 
@@ -35,6 +37,8 @@ constexpr int kPrekreslovani_ms = 40;
 // Where the lists of the bottom panel stand, pixels of the desk.
 constexpr QRect kMistoSeznamu(4, 640, 1016, 126);
 constexpr int kVyskaListy = 20 * kTwipu; // of the top bar
+// Of the prompt that has no room on the command line, twips.
+constexpr QRect kMistoVyzvy(600 * kTwipu, 22 * kTwipu, 380 * kTwipu, 19 * kTwipu);
 constexpr QRgb kNajetiPrvku = 0xFF5A6A7C;
 
 constexpr const char* kVzhledSeznamu =
@@ -44,6 +48,13 @@ constexpr const char* kVzhledSeznamu =
     "QScrollBar::handle:vertical { background: #505b68; min-height: 20px; }"
     "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }";
 HlavniOkno* jedine = nullptr;
+
+// Milliseconds of a clock that nobody sets and that counts the sleep of the computer too.
+std::int64_t ms_od_zapnuti() {
+    timespec t{};
+    clock_gettime(CLOCK_BOOTTIME, &t);
+    return std::int64_t{t.tv_sec} * 1000 + t.tv_nsec / 1'000'000;
+}
 
 Tlacitko tlacitko_mysi(Qt::MouseButton tlacitko) {
     return tlacitko == Qt::RightButton    ? Tlacitko::prave
@@ -113,6 +124,21 @@ bool zvyraznuje_se(const Nalezeny& kde) {
     return p.viditelny && (kde.druh != Druh::lblTabulka_vlaku || !orez(p.text()).empty());
 }
 
+// The prompt at the right end of the command line, over the message that stands there.
+Prvek stitek_vyzvy(const Vyzva& vyzva) {
+    Prvek p;
+    p.viditelny = true;
+    p.text = vyzva.slovo + vyzva.text + " ";
+    p.barva = vyzva.popredi;
+    p.pozadi = vyzva.pozadi;
+    p.ramecek = true;
+    p.sirka = static_cast<int>(p.text->size()) * kSirkaZnaku;
+    p.vlevo = kMistoVyzvy.x() + kMistoVyzvy.width() - p.sirka();
+    p.nahore = relief.lblPrikaz[0].nahore();
+    p.vyska = kVyskaZnaku;
+    return p;
+}
+
 // Tells one open menu from another: its name and the element it was opened on; empty when none is open.
 Text otisk_nabidky() {
     if (menu.jmeno.empty())
@@ -171,11 +197,11 @@ HlavniOkno::HlavniOkno() {
     technologie = new ObrazovkaTechnologie(
         this, [this](QKeyEvent* udalost) { return stisk(udalost); }, [this] { obnov(); });
 
-    for (const Casovac& casovac : casovace) {
+    for (std::size_t i = 0; i < casovace.size(); ++i) {
         auto* okna = new QTimer(this);
         okna->setTimerType(Qt::PreciseTimer);
-        connect(okna, &QTimer::timeout, this, [telo = casovac.telo] { v_jadre(telo); });
-        okna->start(casovac.perioda_ms);
+        connect(okna, &QTimer::timeout, this, [this, i] { udalost_hodin(i); });
+        okna->start(casovace[i].perioda_ms);
     }
     connect(&blikani_diag, &QTimer::timeout, this, [] { v_jadre(krok_blikani_diag); });
     connect(&prekreslovani, &QTimer::timeout, this, [this] { obnov(); });
@@ -184,6 +210,17 @@ HlavniOkno::HlavniOkno() {
 
 HlavniOkno::~HlavniOkno() {
     jedine = nullptr;
+}
+
+// While a box is open the core takes no event, but the timers go on: that is no stall.
+void HlavniOkno::udalost_hodin(std::size_t casovac) {
+    const std::int64_t ted = ms_od_zapnuti();
+    const bool v_behu = v_jadre([&] {
+        udalost_casovace(znacky, casovac, ted);
+        casovace[casovac].telo();
+    });
+    if (!v_behu)
+        znacky.posledni[casovac] = ted;
 }
 
 HlavniOkno* HlavniOkno::otevrene() {
@@ -254,6 +291,10 @@ void HlavniOkno::obnov() {
     const double pomer = devicePixelRatioF();
     for (const QRect& r : zmenene)
         update(QRectF(r.x() / pomer, r.y() / pomer, r.width() / pomer, r.height() / pomer).toAlignedRect());
+    if (std::optional<Vyzva> nova = vyzva_mimo_radek(); nova != vyzva) {
+        vyzva = std::move(nova);
+        update(v_okne(kMistoVyzvy));
+    }
     for (ZobrazenySeznam& s : seznamy)
         obnov_seznam(s);
     obnov_pole();
@@ -623,6 +664,8 @@ void HlavniOkno::paintEvent(QPaintEvent* udalost) {
                                .intersected(platno.obraz().rect());
         p.drawImage(body.topLeft(), platno.obraz(), body);
     }
+    if (vyzva)
+        nakresli_prvek(p, platno.meritko(), Druh::lblVolba, 0, stitek_vyzvy(*vyzva));
     if (najety && zvyraznuje_se(*najety)) {
         const QRect cil = platno.v_bodech(misto_vstupu(najety->druh, tabulka(najety->druh)[najety->n]));
         nakresli_obrys(p, cil, platno.meritko().bodu(1), QColor::fromRgb(kNajetiPrvku));

@@ -1,6 +1,8 @@
 // ui/hlavni_okno.h - the main screen: the desk in a window, its timers, its keys and its pointer.
 #pragma once
 
+#include "app/prestavky.h"
+#include "obsluha/volba.h"
 #include "obsluha/vstup.h"
 #include "relief/relief.h"
 #include "ui/platno.h"
@@ -71,16 +73,19 @@ private:
     void obnov_nabidku();
     bool stisk_za_mys(const QKeyEvent& udalost);
     bool stisk(QKeyEvent* udalost);
+    void udalost_hodin(std::size_t casovac);
     void zmenit_viditelnost_okna();
 
     Platno platno;
     QTimer prekreslovani, blikani_diag;
+    ZnackyCasovacu znacky;
     QLineEdit* pole = nullptr;
     std::array<ZobrazenySeznam, 2> seznamy;
     QMenu* nabidka = nullptr;
     ObrazovkaTechnologie* technologie = nullptr;
     Text nabidka_ukazuje;
     std::optional<Nalezeny> najety;
+    std::optional<Vyzva> vyzva;  // shown beside the message that holds the command line
     std::optional<Druh> ohnisko; // the panel's button that the space bar presses
     bool z_klavesy = false;      // what happens now comes from a key
     bool zpravy_zelene = false;

@@ -1,6 +1,7 @@
 // ui/platforma_qt.cpp - the world outside, as the window system gives it.
 #include "ui/platforma_qt.h"
 
+#include "app/prestavky.h"
 #include "app/simulace.h"
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
@@ -21,6 +22,7 @@
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QFileInfo>
+#include <QGridLayout>
 #include <QHeaderView>
 #include <QMessageBox>
 #include <QProcess>
@@ -99,20 +101,54 @@ void na_levy_monitor(QDialog& dialog) {
     dialog.move(stul.x() + stul.width() / 4 - dialog.width() / 2, stul.center().y() - dialog.height() / 2);
 }
 
-void okno(TextPohled titul, TextPohled text) {
-    QMessageBox box(QMessageBox::NoIcon, na_qstring(titul), na_qstring(text), QMessageBox::NoButton, rodic());
-    box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+// The time of the service stands while a box or dialogue is open.
+class Otevrene {
+public:
+    Otevrene() : bezel_cas(zacni_okno()) {}
+    Otevrene(const Otevrene&) = delete;
+    Otevrene& operator=(const Otevrene&) = delete;
+    ~Otevrene() { ukonci_okno(bezel_cas); }
+
+private:
+    bool bezel_cas;
+};
+
+// A box holds the whole of its text: lines break at blanks, and a path also behind its folders.
+void uprav_zpravu(QMessageBox& box, TextPohled text) {
+    constexpr int kDelkaSlova = 24; // what is longer may break anywhere
+    QString zprava;
+    int slovo = 0;
+    for (const QChar znak : na_qstring(text)) {
+        zprava += znak;
+        slovo = znak.isSpace() ? 0 : slovo + 1;
+        const bool slozka = znak == u'/' || znak == u'\\';
+        if (slovo > 0 && (slozka || slovo % kDelkaSlova == 0))
+            zprava += QChar(0x200B); // a break that is not seen
+    }
+    box.setTextFormat(Qt::PlainText);
+    box.setText(zprava);
+    if (auto* mrizka = qobject_cast<QGridLayout*>(box.layout())) // a short text in a box that is not tiny
+        mrizka->addItem(new QSpacerItem(20 * box.fontMetrics().height(), 0), mrizka->rowCount(), 0, 1,
+                        mrizka->columnCount());
     na_levy_monitor(box);
+}
+
+void okno(TextPohled titul, TextPohled text) {
+    const Otevrene cas_stoji;
+    QMessageBox box(QMessageBox::NoIcon, na_qstring(titul), {}, QMessageBox::NoButton, rodic());
+    box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
+    uprav_zpravu(box, text);
     box.exec();
 }
 
 bool otazka(TextPohled titul, TextPohled text, bool vychozi) {
-    QMessageBox box(QMessageBox::NoIcon, na_qstring(titul), na_qstring(text), QMessageBox::NoButton, rodic());
+    const Otevrene cas_stoji;
+    QMessageBox box(QMessageBox::NoIcon, na_qstring(titul), {}, QMessageBox::NoButton, rodic());
     QPushButton* ano = box.addButton(QStringLiteral("&Ano"), QMessageBox::YesRole);
     QPushButton* ne = box.addButton(QStringLiteral("&Ne"), QMessageBox::NoRole);
     box.setDefaultButton(vychozi ? ano : ne);
     box.setEscapeButton(ne);
-    na_levy_monitor(box);
+    uprav_zpravu(box, text);
     box.exec();
     return box.clickedButton() == ano;
 }
@@ -126,6 +162,7 @@ public:
 };
 
 std::optional<Text> soubor(TextPohled slozka, TextPohled vzor, bool ulozit) {
+    const Otevrene cas_stoji;
     const QString kde = QString::fromStdString(cesta_k_zapisu(slozka));
     QFileDialog dialog(rodic(),
                        ulozit ? QStringLiteral("Uložit rozehranou simulaci")

@@ -18,7 +18,6 @@ constexpr int kVyskaPisma = 13; // of boxes, dialogues and tips, pixels of the d
 
 constexpr const char* kStylOken =
     "QMessageBox { border: 1px solid #6b7782; }"
-    "QMessageBox QLabel#qt_msgbox_label { min-width: 260px; }"
     "QMessageBox QPushButton { min-width: 62px; padding: 4px 8px; }"
     "QFileDialog QTreeView, QFileDialog QListView, QFileDialog QPushButton { icon-size: 16px; }"
     "QFileDialog QPushButton { padding: 4px 8px; }"

@@ -414,6 +414,43 @@ TEST_F(Volba, EmptyDeskDropsTheSelection) {
     EXPECT_EQ(cesty[0].zacatek, -3) << "without a kind no route is looked up";
 }
 
+TEST_F(Volba, PromptGoesWithItsChoice) {
+    klik(240);
+    klik_plocha();
+    EXPECT_FALSE(prikaz_radek.obsazen);
+    klik(240);
+    klik_cil(44);
+    EXPECT_TRUE(prikaz_radek.obsazen);
+    klik_plocha();
+    EXPECT_FALSE(prikaz_radek.obsazen);
+    zprava(" M ", "text", barvy::cervena);
+    klik_plocha();
+    EXPECT_EQ(prikaz(), " M "); // other messages stay
+}
+
+TEST_F(Volba, ChoiceIsToldBesideTheMessageThatHoldsTheLine) {
+    EXPECT_FALSE(vyzva_mimo_radek());
+    klik(240);
+    EXPECT_FALSE(vyzva_mimo_radek()); // the line itself tells it
+    zrus_volbu();
+    zprava(" POZOR NVL "_cz, "omezení"_cz, barvy::cervena);
+    klik(240);
+    EXPECT_EQ(prikaz(), " POZOR NVL ");
+    EXPECT_EQ(vyzva_mimo_radek(), (Vyzva{" VC ", "TST S240", barvy::bila, barvy::zelena}));
+    klik(240, true);
+    EXPECT_EQ(vyzva_mimo_radek(), (Vyzva{" PC ", "TST S240", barvy::bila, barvy::cerna}));
+    volba_pn(240);
+    EXPECT_EQ(vyzva_mimo_radek(), (Vyzva{" PN ", "TST S240", barvy::bila, barvy::azurova}));
+    zrus_volbu();
+    EXPECT_FALSE(vyzva_mimo_radek());
+    klik(240);
+    klik_plocha();
+    EXPECT_FALSE(vyzva_mimo_radek());
+    klik(240);
+    klik_cil(44);
+    EXPECT_FALSE(vyzva_mimo_radek()); // chosen: the stack has it
+}
+
 TEST_F(Volba, EmptyDeskKeepsTheHighlightOfAClearedSignal) {
     relief.navestidlo[240].barva = barvy::zelena;
     klik(240);
