@@ -75,6 +75,34 @@ void obarvi_zrcadla(int n) {
             relief.kolej[kopie].barva = relief.kolej[n].barva;
 }
 
+// Lamp and labels of the line end of n once nothing is on it. `v_klidu`: nothing is being set there either.
+void obnov_lampu(int n, bool v_klidu) {
+    const int k = konec_trati(n);
+    if (k < 0)
+        return;
+    const KonecTrati& konec = kKonceTrati[static_cast<std::size_t>(k)];
+    for (const int usek : {konec.usek, konec.navestidlo})
+        if (je_kolej(usek) && relief.kolej[usek].barva != barvy::seda)
+            return;
+    const bool souhlas = souhlasy.souhlas[static_cast<std::size_t>(k)];
+    if (relief.lblPredvidany_odjezd.je(k)) {
+        relief.lblPredvidany_odjezd[k].viditelny = false;
+        if (!souhlas)
+            nastav_text(relief.lblPredvidany_odjezd[k], {});
+    }
+    for (const int stitek : {konec.usek, konec.navestidlo})
+        if (je_cislo_koleje(stitek))
+            nastav_text(relief.cislo_koleje[stitek], {});
+    if (!relief.lblSouhlas.je(k))
+        return;
+    // With a consent given the lamp stays and points inwards: the train is on its way. So it does at rest,
+    // for the next train that asks; only while a route out is being set it points out already.
+    if (souhlas || v_klidu)
+        nastav_text(relief.lblSouhlas[k], znak(konec.znak_dovnitr));
+    if (!souhlas)
+        relief.lblSouhlas[k].barva = barvy::seda;
+}
+
 // n stands at the fourth corner of the rectangle of a and b.
 bool je_v_rohu(const Prvek& n, const Prvek& a, const Prvek& b) {
     return (n.vlevo == b.vlevo() && n.nahore == a.nahore()) ||
@@ -116,33 +144,11 @@ void barvi_prvek(int n, Barva barva, bool uvolni, bool posledni) {
     if (!posledni)
         obarvi_stitky(n, barva);
     obarvi_zrcadla(n);
-    obnov_lampu_souhlasu(n);
+    obnov_lampu(n, barva == barvy::seda);
 }
 
 void obnov_lampu_souhlasu(int n) {
-    const int k = konec_trati(n);
-    if (k < 0)
-        return;
-    const KonecTrati& konec = kKonceTrati[static_cast<std::size_t>(k)];
-    for (const int usek : {konec.usek, konec.navestidlo})
-        if (je_kolej(usek) && relief.kolej[usek].barva != barvy::seda)
-            return;
-    const bool souhlas = souhlasy.souhlas[static_cast<std::size_t>(k)];
-    if (relief.lblPredvidany_odjezd.je(k)) {
-        relief.lblPredvidany_odjezd[k].viditelny = false;
-        if (!souhlas)
-            nastav_text(relief.lblPredvidany_odjezd[k], {});
-    }
-    for (const int stitek : {konec.usek, konec.navestidlo})
-        if (je_cislo_koleje(stitek))
-            nastav_text(relief.cislo_koleje[stitek], {});
-    if (!relief.lblSouhlas.je(k))
-        return;
-    // With a consent given the lamp stays and points inwards: the train is on its way.
-    if (souhlas)
-        nastav_text(relief.lblSouhlas[k], znak(konec.znak_dovnitr));
-    else
-        relief.lblSouhlas[k].barva = barvy::seda;
+    obnov_lampu(n, true);
 }
 
 int bocni_vyhybka(int a, int b) {
