@@ -65,9 +65,12 @@ Text veta_projel(int v, TextPohled na, TextPohled kde) {
     return veta;
 }
 
-// Told once: while the same stands on the command line it is not told again.
+// Told once: while the same stands on the command line, or waits for its turn, it is not told again.
 bool uz_receno(const Text& cast) {
-    return prikaz_radek.obsazen && relief.lblVolba[0].text().find(cast) != Text::npos;
+    const auto rika = [&cast](TextPohled text) { return text.find(cast) != TextPohled::npos; };
+    return (prikaz_radek.obsazen && rika(relief.lblVolba[0].text())) ||
+           std::any_of(prikaz_radek.fronta_zprav.begin(), prikaz_radek.fronta_zprav.end(),
+                       [&](const ZpravaFronty& z) { return rika(z.volba); });
 }
 
 // The end of a long section comes near and no route goes on from it.

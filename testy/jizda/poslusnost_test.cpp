@@ -130,6 +130,28 @@ TEST_F(Poslusnost, EndOfTheLongSectionIsToldOnceInItsWindow) {
     EXPECT_TRUE(prikaz_radek.obsazen);
 }
 
+TEST_F(Poslusnost, WarningThatWaitsBehindAnotherMessageIsNotToldAgain) {
+    pridej_kolej(118);
+    zapis_soubor(simulace.cesta_aplikace + "data\\tesk.top", soubor_topologie({{118, 6000}}));
+    const int v = vlak_na(118, true, 11);
+    const int c = cesta({262, 118, {62, 118}, {1, 1}, {0, 0}, 0});
+    simulace.minuty_simulace = 6;
+    nastav_metry(118, 6000 - 650);
+    zprava(" OK ", "jina", barvy::zelena);
+    const auto ceka = [] { return prikaz_radek.fronta_zprav.size() - 1; };
+    for (int krok = 0; krok < 5; ++krok)
+        uvnitr_prvku(c, 1, v);
+    EXPECT_EQ(ceka(), 1u);
+    EXPECT_EQ(svet.pipnuti.size(), 1u);
+    potvrd_prikaz();
+    dalsi_zprava(); // it stands on the line
+    uvnitr_prvku(c, 1, v);
+    EXPECT_EQ(ceka(), 0u);
+    potvrd_prikaz();
+    uvnitr_prvku(c, 1, v);
+    EXPECT_TRUE(prikaz_radek.obsazen) << "the operator has answered it, and the train is still there";
+}
+
 TEST_F(Poslusnost, WrongSenseAtAnExitStaysAtTheEndOfTheRoute) {
     pridej_kolej(213);
     const int v = vlak_na(213, true, 11);
