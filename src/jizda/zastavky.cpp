@@ -314,7 +314,8 @@ void opust_prejezd(int e) {
         return;
     const int k = prvni ? 0 : 1;
     StanicniPrejezd& prejezd = stanicni_prejezdy[static_cast<std::size_t>(k)];
-    if (prejezd.pocet > 0) // a counter never wraps
+    // NOT has counted this train out already: below rest the crossing would stay closed for ever.
+    if (prejezd.pocet > kBezVlaku)
         --prejezd.pocet;
     if (prejezd.pocet == kBezVlaku && !prejezd.UZ && !prejezd.uzavren && prejezd.cas < 0)
         gtn_zapis(k, gtn::prejezd, 0);

@@ -4,6 +4,7 @@
 #include "gvd/gvd.h"
 #include "jizda/posun.h"
 #include "jizda/svet_vlaku.h"
+#include "prvky/prejezdy_stanice.h"
 #include "prvky/stanicni_prejezdy.h"
 
 #include <algorithm>
@@ -311,15 +312,17 @@ TEST_F(Zastavky, JournalNamesTheStationOfEveryTrack) {
     }
 }
 
-TEST_F(Zastavky, TailOverACrossingNeverWrapsItsCounter) {
+TEST_F(Zastavky, TailOverACrossingThatNotHasOpenedLeavesItsCounterAtRest) {
     const int v = vlak_na(62, true, 77);
     vlak(v).prvky = {427, 280};
     stanicni_prejezdy[0].pocet = 129;
-    stanicni_prejezdy[1].pocet = 0;
+    stanicni_prejezdy[1].pocet = 130;
+    prejezd_not(1);
     ohlas_odjezd(v, 0);
     ohlas_odjezd(v, 1);
-    EXPECT_EQ(stanicni_prejezdy[0].pocet, 128);
-    EXPECT_EQ(stanicni_prejezdy[1].pocet, 0);
+    EXPECT_EQ(stanicni_prejezdy[0].pocet, kBezVlaku);
+    EXPECT_EQ(stanicni_prejezdy[1].pocet, kBezVlaku);
+    EXPECT_TRUE(prejezd_v_klidu(1));
 }
 
 // --- number and direction
