@@ -123,11 +123,14 @@ void obnov_smery(const Zaznam& z) {
         ++prvni;
     for (int n = prvni; n <= sipky.nejvyssi(); ++n) {
         const auto i = static_cast<std::size_t>(n - prvni);
-        if (!sipky.je(n) || i >= z.souhlas2_barva.size() || i >= z.souhlas2_smer.size() ||
-            sipky[n].text->empty())
+        if (!sipky.je(n) || i >= z.souhlas2_barva.size() || i >= z.souhlas2_smer.size())
+            continue;
+        // an arrow that stands empty in the relief shows a direction only while one is held
+        const bool drzi = z.souhlas2_barva[i] == 1;
+        if (!drzi && sipky[n].text->empty())
             continue;
         if (z.souhlas2_barva[i] <= 1)
-            sipky[n].barva = z.souhlas2_barva[i] == 1 ? barvy::azurova : barvy::seda;
+            sipky[n].barva = drzi ? barvy::azurova : barvy::seda;
         nastav_text(sipky[n], z.souhlas2_smer[i] != 0 ? ">>" : "<<");
     }
     for (int k = 0; k < 3; ++k) {

@@ -24,6 +24,7 @@
 #include "save/zaznam.h"
 #include "zaklad/chyba.h"
 
+#include <array>
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/wait.h>
@@ -391,6 +392,35 @@ TEST_F(Ulozeni, SignalsComeBackWithTheirColoursAndAFailedLamp) {
     EXPECT_EQ(relief.navestidlo[63].pozadi(), barvy::seda);
     EXPECT_TRUE(relief.navestidlo[63].ramecek);
     EXPECT_EQ(relief.navestidlo_ser[540].barva(), barvy::seda);
+}
+
+// The relief may leave an arrow empty: then it shows a direction only while one is held.
+TEST_F(Ulozeni, ArrowOfALineComesBackWithTheDirectionThatIsHeld) {
+    struct Sipka {
+        TextPohled v_reliefu;
+        Barva barva;
+        TextPohled ukazuje, potom;
+    };
+    const std::array sipky = {Sipka{"", barvy::azurova, "<<", "<<"}, Sipka{"", barvy::azurova, ">>", ">>"},
+                              Sipka{"", barvy::seda, "", ""}, Sipka{">>", barvy::seda, "<<", "<<"},
+                              Sipka{">>", barvy::azurova, "<<", "<<"}};
+    for (const Sipka& s : sipky) {
+        std::vector<ZaznamReliefu> zaznamy = relief_maleho_kolejiste();
+        for (ZaznamReliefu& z : zaznamy)
+            if (z.typ == static_cast<std::uint8_t>(TypReliefu::smer_trati))
+                z.nazev = Text(s.v_reliefu);
+        svet.zapis("data/tesk.rea", soubor_reliefu(zaznamy));
+        nova_simulace();
+        simulace.cesta_aplikace = svet.cesta();
+        spust();
+        relief.lblSouhlas2[640].barva = s.barva;
+        nastav_text(relief.lblSouhlas2[640], s.ukazuje);
+        uloz();
+        nacti();
+        ASSERT_TRUE(nacteno());
+        EXPECT_EQ(relief.lblSouhlas2[640].barva, s.barva);
+        EXPECT_EQ(relief.lblSouhlas2[640].text(), s.potom);
+    }
 }
 
 TEST_F(Ulozeni, VersionOfAnotherProgramIsToldAndTheLoadGoesOn) {
