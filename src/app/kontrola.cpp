@@ -6,9 +6,9 @@
 
 #include "app/cas.h"
 #include "app/kontrola_jizdy.h"
-#include "app/kontrola_majitelu.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
+#include "cesty/drzeni.h"
 #include "desk/menu.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
@@ -16,6 +16,7 @@
 #include "obsluha/vyber.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stav_vyhybek.h"
+#include "prvky/vyhybky.h"
 #include "relief/relief.h"
 #include "zaklad/cisla.h"
 
@@ -124,28 +125,33 @@ Nalez zaznamy_cest() {
     return std::nullopt;
 }
 
-// Two routes that both hold a switch for their setting must want it in the same position. What lies
-// behind a train on its route is history and holds nothing.
-Nalez zavery_vyhybek() {
-    struct Zaver {
-        std::size_t cesta = 0;
-        std::uint8_t poloha = 0;
-        bool drzena = false;
-    };
-    std::vector<Zaver> zavery(static_cast<std::size_t>(relief.imgVyhybka.nejvyssi() + 1));
+// A train may enter the route: its signal shows proceed, or the calling-on aspect runs.
+bool je_dovolena(const Cesta& c) {
+    return c.zacatek >= 0 && c.Postavena && c.cas_ruseni < 0 &&
+           (c.PN ? !c.PN_zaver && c.PN_do > ted_s() : c.Umazat == 0);
+}
+
+// Over each of its switches, right and locked, and over none that another such route has too.
+Nalez vyhybky_pod_navestmi() {
+    std::vector<int> drzi_cesta(static_cast<std::size_t>(relief.imgVyhybka.nejvyssi() + 1), kZadny);
     for (std::size_t i = 0; i < cesty.size(); ++i) {
         const Cesta& c = cesty[i];
-        if (c.zacatek < 0 || !c.prehozena || c.PN_zaver)
-            continue; // RNZ has released the switches; the record waits for its train
-        for (std::size_t k = c.Umazat; k < c.prvky.size(); ++k) {
-            if (c.druhy[k] != druh_prvku::vyhybka || ztratila_vyhybku(c, c.prvky[k]))
+        if (!je_dovolena(c))
+            continue;
+        for (std::size_t k = 1; k < c.prvky.size(); ++k) {
+            const int n = c.prvky[k];
+            if (druh_na(c, k) != druh_prvku::vyhybka)
                 continue;
-            Zaver& zaver = zavery[static_cast<std::size_t>(c.prvky[k])];
-            if (zaver.drzena && zaver.poloha != c.polohy[k])
+            if (stav_vyhybky_cislo(n) != poloha_na(c, k) + zaver_vyhybek(c) || vyhybka_v_pohybu(n))
                 return na_miste("cesty", i,
-                                veta({"výhybku "_cz, text_cisla(c.prvky[k]), " drží v jiné poloze cesta "_cz,
-                                      text_cisla(static_cast<std::int64_t>(zaver.cesta))}));
-            zaver = {i, c.polohy[k], true};
+                                veta({"návěst dovoluje jízdu přes výhybku "_cz, text_cisla(n),
+                                      ", která neleží nebo není pod závěrem"_cz}));
+            int& kdo = drzi_cesta[static_cast<std::size_t>(n)];
+            if (kdo != kZadny)
+                return na_miste("cesty", i,
+                                veta({"návěst dovoluje jízdu přes výhybku "_cz, text_cisla(n),
+                                      " jako cesta "_cz, text_cisla(kdo)}));
+            kdo = static_cast<int>(i);
         }
     }
     return std::nullopt;
@@ -264,8 +270,8 @@ std::optional<Text> kontrola_stavu() {
         return std::nullopt;
     }
     constexpr std::array kKontroly = {
-        hodiny, koleje,         vyhybky,           zaznamy_cest,  zavery_vyhybek, volba,
-        pult,   souhlasy_trati, vlaky_na_kolejich, zaznamy_vlaku, drzene_koleje,  kontrola_jizdy};
+        hodiny, koleje,         vyhybky,           zaznamy_cest,  vyhybky_pod_navestmi, volba,
+        pult,   souhlasy_trati, vlaky_na_kolejich, zaznamy_vlaku, drzene_koleje,        kontrola_jizdy};
     for (const auto kontrola : kKontroly)
         if (Nalez nalez = kontrola())
             return nalez;

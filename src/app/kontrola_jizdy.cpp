@@ -44,7 +44,6 @@ struct VidenyVlak {
     bool prebyva = false;              // held more than its length
     std::vector<std::int16_t> sdilene; // tracks where another train stands, or has stood with it
     std::vector<std::int16_t> volne; // tracks it came to by a shunt or calling-on route laid towards a train
-    std::vector<std::int16_t> nezavrene; // switches it came to on the calling-on aspect
 };
 struct VidenaCesta {
     std::int16_t zacatek = kZadny, konec = kZadny;
@@ -147,20 +146,6 @@ Nalez vjezdy() {
 
 // --- switches under a train
 
-// On the calling-on aspect a train does not lock the switches that it runs over: the route holds them, and
-// the operator may release it under the train.
-const Cesta* cesta_na_vyhybku(std::size_t i) {
-    const VidenyVlak* drive = videny(i);
-    const Vlak& v = vlaky[i];
-    if (drive == nullptr || v.prvky.size() != drive->prvku + 1 || v.prvky_druh.back() != druh_prvku::vyhybka)
-        return nullptr;
-    const auto cesta = std::find_if(cesty.begin(), cesty.end(), [&](const Cesta& c) {
-        return c.Vlak == static_cast<int>(i) && c.Umazat < c.prvky.size() &&
-               c.prvky[c.Umazat] == v.prvky.back() && druh_na(c, c.Umazat) == druh_prvku::vyhybka;
-    });
-    return cesta == cesty.end() ? nullptr : &*cesta;
-}
-
 Nalez vyhybky_pod_vlaky() {
     for (std::size_t i = 0; i < vlaky.size(); ++i) {
         const Vlak& v = vlaky[i];
@@ -168,11 +153,7 @@ Nalez vyhybky_pod_vlaky() {
             continue;
         for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j) {
             const int n = v.prvky[j];
-            if (v.prvky_druh[j] != druh_prvku::vyhybka || !vyhybka_v_pohybu(n))
-                continue;
-            const VidenyVlak* drive = videny(i);
-            const Cesta* prave = cesta_na_vyhybku(i);
-            if ((drive == nullptr || !je_mezi(drive->nezavrene, n)) && (prave == nullptr || !prave->PN))
+            if (v.prvky_druh[j] == druh_prvku::vyhybka && vyhybka_v_pohybu(n))
                 return vlak_textem(i, veta({"pod vlakem se přestavuje výhybka "_cz, text_cisla(n)}));
         }
     }
@@ -474,9 +455,6 @@ void zapamatuj_vlaky() {
             for (const std::int16_t volna : drive->volne)
                 if (drzi_prvek(v, volna))
                     n.volne.push_back(volna);
-            n.nezavrene = drive->nezavrene;
-            if (const Cesta* pn = cesta_na_vyhybku(i); pn != nullptr && pn->PN)
-                n.nezavrene.push_back(pn->prvky[pn->Umazat]);
             const Cesta* cesta = vjel(i) ? cesta_vjezdu(i) : nullptr;
             if (cesta != nullptr && je_volny_vjezd(*cesta) && smeruje_na(i, n.celo))
                 n.volne.push_back(n.celo);

@@ -4,6 +4,7 @@
 #include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
+#include "cesty/drzeni.h"
 #include "jizda/vlak.h"
 #include "prvky/stav_vyhybek.h"
 #include "prvky/vyhybky.h"
@@ -44,32 +45,14 @@ using Prestupky = std::vector<Prestupek>;
 Prestupky prijate;        // what stood there before anybody looked
 bool prijmout_vse = true; // the next look takes everything as it is
 
-// --- switches that NOUZ took out of routes
-
-struct Ztrata {
-    std::int16_t zacatek, konec;
-    std::int32_t Kdy_prehoz;
-    int vyhybka;
-    bool plati(const Cesta& c) const {
-        return c.prehozena && c.zacatek == zacatek && c.konec == konec && c.Kdy_prehoz == Kdy_prehoz;
-    }
-};
-std::vector<Ztrata> ztraty;
-
-void zapomen_stare_ztraty() {
-    std::erase_if(ztraty, [](const Ztrata& z) {
-        return std::none_of(cesty.begin(), cesty.end(), [&](const Cesta& c) { return z.plati(c); });
-    });
-}
-
 // --- the owners
 
 struct Majitele {
     Mnozina vlak_kolej, vlak_vyhybka; // held by trains, and the switch that the next step enters
     Mnozina cesta_kolej, cesta_vyhybka;
     Mnozina dve_cesty;
-    Mnozina navest; // start signals of routes that may be shown
-    Mnozina vadne_polohy;
+    Mnozina navest;         // start signals of routes that may be shown
+    Mnozina zadana_vyhybka; // named by a route that does not hold it
 };
 Majitele majitele;
 
@@ -131,17 +114,13 @@ void zapis_zaver(const Cesta& c, std::size_t k, Mnozina& vlakove) {
         }
         break;
     case druh_prvku::vyhybka:
-        if (c.PN_zaver || ztratila_vyhybku(c, n))
-            break;
         // two coupled switches are occupied together, a step before the head comes to the second one
-        if (k == std::size_t{c.Umazat} + 1 && c.Vlak >= 0)
+        if (k == std::size_t{c.Umazat} + 1 && c.Vlak >= 0 && !c.PN_zaver)
             pridej(majitele.vlak_vyhybka, n);
-        if (!pred_celem && !c.PN)
-            break;
-        pridej(majitele.cesta_vyhybka, n);
-        if (pred_celem && relief.imgVyhybka.je(n) && stav_vyhybky_cislo(n) >= stav_vyhybky::vlak &&
-            poloha_stavu(stav_vyhybky_cislo(n)) != poloha_na(c, k))
-            pridej(majitele.vadne_polohy, n);
+        if (drzi(c, k))
+            pridej(majitele.cesta_vyhybka, n);
+        else if (pred_celem && !c.PN_zaver)
+            pridej(majitele.zadana_vyhybka, n);
         break;
     default: break;
     }
@@ -202,9 +181,8 @@ void over_vyhybku(int n, Prestupky& nalezy) {
         nalezy.push_back({Pravidlo::obsazeni_vyhybky, cislo});
     // out of a derailer a switch is entered without being shown occupied
     if (!obsazena && !je(majitele.cesta_vyhybka, n) && !je(majitele.vlak_vyhybka, n))
-        nalezy.push_back({Pravidlo::zaver_vyhybky, cislo});
-    if (je(majitele.vadne_polohy, n))
-        nalezy.push_back({Pravidlo::poloha_vyhybky, cislo});
+        nalezy.push_back(
+            {je(majitele.zadana_vyhybka, n) ? Pravidlo::poloha_vyhybky : Pravidlo::zaver_vyhybky, cislo});
 }
 
 void over_navestidla(const TabulkaPrvku& tabulka_navestidel, Prestupky& nalezy) {
@@ -285,7 +263,6 @@ std::optional<Text> kontrola_majitelu() {
         prijmi_majitele();
         return std::nullopt;
     }
-    zapomen_stare_ztraty();
     Prestupky nalezy = prestupky();
     const auto novy = std::find_if(nalezy.begin(), nalezy.end(), [](const Prestupek& p) {
         return std::find(prijate.begin(), prijate.end(), p) == prijate.end();
@@ -303,18 +280,4 @@ void prijmi_majitele() {
     prijmout_vse = true;
     prijate.clear();
     drive_na_vyhybce.fill(kZadny);
-    ztraty.clear();
-}
-
-bool ztratila_vyhybku(const Cesta& cesta, int n) {
-    return std::any_of(ztraty.begin(), ztraty.end(),
-                       [&](const Ztrata& z) { return z.vyhybka == n && z.plati(cesta); });
-}
-
-void zapis_nouz(int n) {
-    for (const Cesta& c : cesty)
-        if (c.zacatek >= 0 && c.prehozena)
-            for (std::size_t k = 1; k < c.prvky.size(); ++k)
-                if (c.prvky[k] == n && druh_na(c, k) == druh_prvku::vyhybka)
-                    ztraty.push_back({c.zacatek, c.konec, c.Kdy_prehoz, n});
 }

@@ -9,21 +9,12 @@
 
 #include <optional>
 
-struct Cesta; // cesty/cesta.h
-
 // --- at any time, without change; the headless runner asks after each tick
 
 // The first element without its one owner; nothing when all is well.
 std::optional<Text> kontrola_majitelu();
-// NOUZ has taken switch n out of the route: the operator answers for it.
-bool ztratila_vyhybku(const Cesta& cesta, int n);
 
 // --- when the tables are filled anew, or something is set by hand
 
 // What stands at the next look is taken as it is; it is judged again when it has changed.
 void prijmi_majitele();
-
-// --- by NOUZ
-
-// The routes that hold switch n hold it no more, whatever their records say.
-void zapis_nouz(int n);

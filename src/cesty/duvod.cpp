@@ -3,6 +3,7 @@
 
 #include "app/cas.h"
 #include "cesty/dotazy.h"
+#include "cesty/drzeni.h"
 #include "cesty/navest.h"
 #include "cesty/prekazky.h"
 #include "cesty/smer_trati.h"
@@ -16,19 +17,6 @@
 #include <algorithm>
 
 namespace {
-
-// Route other than `ceka` that holds the element still: commanded, not released by RNZ, and its train not
-// yet there. A calling-on route holds its switches only. nullptr when none does.
-const Cesta* drzitel(const Cesta& ceka, std::uint8_t druh, int n) {
-    for (const Cesta& c : cesty) {
-        if (&c == &ceka || !c.prehozena || c.PN_zaver || (c.PN && druh == druh_prvku::kolej))
-            continue;
-        for (std::size_t k = std::size_t{c.Umazat} + 1; k < c.prvky.size(); ++k)
-            if (c.prvky[k] == n && druh_na(c, k) == druh)
-                return &c;
-    }
-    return nullptr;
-}
 
 // The switch itself, without those that are thrown with it.
 Text jmeno_vyhybky(int n) {
@@ -47,11 +35,11 @@ Text sekundy(std::int32_t s) {
 }
 
 // "je pod závěrem cesty VC ...": what keeps a switch from being thrown.
-Text stav_slovy(const Cesta& c, int n) {
+Text stav_slovy(int n) {
     const int stav = stav_vyhybky_cislo(n);
     if (stav / 50 * 50 == stav_vyhybky::obsazena)
         return "je obsazena";
-    const Cesta* drzi = drzitel(c, druh_prvku::vyhybka, n);
+    const Cesta* drzi = drzitel(druh_prvku::vyhybka, n);
     if (stav > 49)
         return drzi == nullptr ? Text("je pod závěrem"_cz)
                                : Text("je pod závěrem cesty "_cz) + popis_cesty(*drzi);
@@ -60,13 +48,20 @@ Text stav_slovy(const Cesta& c, int n) {
                                               : Text("se přestavuje pro cestu "_cz) + popis_cesty(*drzi);
 }
 
-Text duvod_useku(const Cesta& c, int n) {
+// What becomes of a switch that is not the route's any more.
+Text ztracena_slovy(int n) {
+    const Cesta* drzi = drzitel(druh_prvku::vyhybka, n);
+    return drzi == nullptr ? Text("není v poloze cesty (NOUZ)"_cz)
+                           : Text("je pod závěrem cesty "_cz) + popis_cesty(*drzi);
+}
+
+Text duvod_useku(int n) {
     const int m = nevolny_usek(n);
     Text veta(m == n ? "úsek "_cz : "křižující úsek "_cz);
     veta += jmeno_useku(m);
     if (relief.kolej[m].barva == barvy::cervena)
         return veta + Text(" je obsazen"_cz);
-    if (const Cesta* drzi = drzitel(c, druh_prvku::kolej, m))
+    if (const Cesta* drzi = drzitel(druh_prvku::kolej, m))
         return veta + Text(" je pod závěrem cesty "_cz) + popis_cesty(*drzi);
     return veta + Text(" není volný"_cz);
 }
@@ -90,11 +85,20 @@ Text veta_prekazky(const Cesta& c, const Prekazka& p) {
         return Text("návěstidlo "_cz) + jmeno_navestidla(p.prvek) + Text(" je zablokováno (ZAM)"_cz);
     case DruhPrekazky::vyhybka:
     case DruhPrekazky::pohyb_vyhybky:
-        return Text("výhybka "_cz) + jmeno_vyhybky(p.prvek) + " " + stav_slovy(c, p.prvek);
+        return Text("výhybka "_cz) + jmeno_vyhybky(p.prvek) + " " + stav_slovy(p.prvek);
     case DruhPrekazky::bocni_vyhybka:
         return Text("výhybka "_cz) + jmeno_vyhybky(p.prvek) + Text(" nedává boční ochranu, protože "_cz) +
-               stav_slovy(c, p.prvek);
-    case DruhPrekazky::usek: return duvod_useku(c, p.prvek);
+               stav_slovy(p.prvek);
+    case DruhPrekazky::pod_vlakem:
+        return Text("výhybka "_cz) + jmeno_vyhybky(p.prvek) + Text(" je pod vlakem"_cz);
+    case DruhPrekazky::pred_vlakem: {
+        const Cesta* vlaku = cesta_vlaku_na_vyhybku(p.prvek);
+        return Text("výhybka "_cz) + jmeno_vyhybky(p.prvek) + Text(" leží před vlakem na cestě "_cz) +
+               (vlaku == nullptr ? Text{} : popis_cesty(*vlaku));
+    }
+    case DruhPrekazky::ztracena:
+        return Text("výhybka "_cz) + jmeno_vyhybky(p.prvek) + " " + ztracena_slovy(p.prvek);
+    case DruhPrekazky::usek: return duvod_useku(p.prvek);
     case DruhPrekazky::konec:
         return duvod_konce("konec cesty drží cesta "_cz, [&](const Cesta& jina) {
             return posledni_prvek(jina) == c.konec && (jina.prehozena || jina.Postavena);
@@ -124,7 +128,8 @@ const Cesta* zdrzujici(int i, std::int32_t ted) {
             continue;
         const FazeCesty faze = faze_cesty(c, ted);
         if ((faze == FazeCesty::staveni && prekazka_staveni(c)) ||
-            (faze == FazeCesty::zaver && ted > c.Kdy_prehoz && zbyva_prejezdu(c, ted) > 0))
+            (faze == FazeCesty::zaver && ted > c.Kdy_prehoz &&
+             (prekazka_zaveru(c) || zbyva_prejezdu(c, ted) > 0)))
             return &c;
     }
     return nullptr;
@@ -139,6 +144,8 @@ Text duvod_staveni(int i, const Cesta& c, std::int32_t ted) {
 Text duvod_zaveru(const Cesta& c, std::int32_t ted) {
     if (ted <= c.Kdy_prehoz)
         return Text("přestavují se výhybky, závěr za "_cz) + sekundy(c.Kdy_prehoz - ted + 1);
+    if (const Prekazka p = prekazka_zaveru(c))
+        return veta_prekazky(c, p);
     if (const std::int32_t zbyva = zbyva_prejezdu(c, ted); zbyva > 0)
         return Text("čeká na uzavření přejezdu "_cz) + Text(kNazvyPrejezdu[c.prejezd]) + Text(", zbývá "_cz) +
                sekundy(zbyva);
@@ -147,9 +154,13 @@ Text duvod_zaveru(const Cesta& c, std::int32_t ted) {
 
 Text duvod_klidu(const Cesta& c, std::int32_t ted) {
     if (c.Provedena && c.PN && c.PN_do < ted && c.Umazat == 0)
-        return Text("přivolávací návěst skončila, závěr uvolní RNZ"_cz);
+        return c.Postavena ? Text("přivolávací návěst skončila, závěr uvolní RNZ"_cz)
+                           : Text("přivolávací návěst nesvítila (ZAM), závěr uvolní RNZ"_cz);
     if (c.Provedena && (c.Postavena || c.Umazat != 0))
         return {};
+    if (const int n = c.Provedena ? ztracena_vyhybka(c) : kZadny; n != kZadny)
+        return Text("výhybka "_cz) + jmeno_vyhybky(n) + " " + ztracena_slovy(n) +
+               Text(", cestu lze jen zrušit (RC)"_cz);
     if (c.Provedena)
         return je_zablokovano(c.zacatek) ? veta_prekazky(c, {DruhPrekazky::navestidlo, c.zacatek, 0})
                                          : Text("návěstidlo je na STŮJ, návěst obnoví DN"_cz);

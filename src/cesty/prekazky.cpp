@@ -3,6 +3,7 @@
 
 #include "cesty/barvi_prvek.h"
 #include "cesty/dotazy.h"
+#include "cesty/drzeni.h"
 #include "cesty/smer_trati.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stanicni_prejezdy.h"
@@ -15,12 +16,30 @@ bool navestidlo_zablokovano(const Cesta& c) {
     return barva == (je_seriovy(c.zacatek) ? barvy::modra : barvy::cervena);
 }
 
+// A free switch that goes over with n and has a train on it; kZadny when none has.
+int partner_pod_vlakem(int n) {
+    int pod_vlakem = kZadny;
+    projdi_partnery(n, [&](int b) {
+        if (pod_vlakem == kZadny && stav_vyhybky_cislo(b) < stav_vyhybky::vlak && stoji_na_vyhybce(b))
+            pod_vlakem = b;
+    });
+    return pod_vlakem;
+}
+
 Prekazka prekazka_vyhybky(const Cesta& c, std::size_t k) {
     const int n = c.prvky[k];
     if (stav_vyhybky_cislo(n) > 49)
         return {DruhPrekazky::vyhybka, n, k};
     if (vyhybka_v_pohybu(n))
         return {DruhPrekazky::pohyb_vyhybky, n, k};
+    // What RNZ or NOUZ has freed under a train never moves under it.
+    if (stoji_na_vyhybce(n))
+        return {DruhPrekazky::pod_vlakem, n, k};
+    if (stav_vyhybky_cislo(n) != poloha_na(c, k))
+        if (const int partner = partner_pod_vlakem(n); partner != kZadny)
+            return {DruhPrekazky::pod_vlakem, partner, k};
+    if (cesta_vlaku_na_vyhybku(n) != nullptr)
+        return {DruhPrekazky::pred_vlakem, n, k};
     if (druh_na(c, k + 1) == druh_prvku::vyhybka)
         if (const int bocni = bocni_vyhybka(n, c.prvky[k + 1]); bocni != kZadny)
             return {DruhPrekazky::bocni_vyhybka, bocni, k};
@@ -109,6 +128,21 @@ Prekazka prekazka_staveni(const Cesta& c) {
     if (!p)
         p = prekazka_trati(c);
     return p;
+}
+
+Prekazka prekazka_zaveru(const Cesta& c) {
+    for (std::size_t k = 1; k < c.prvky.size(); ++k) {
+        if (druh_na(c, k) != druh_prvku::vyhybka)
+            continue;
+        const int n = c.prvky[k];
+        if (stoji_na_vyhybce(n))
+            return {DruhPrekazky::pod_vlakem, n, k};
+        if (drzitel(druh_prvku::vyhybka, n) != &c)
+            return {DruhPrekazky::ztracena, n, k};
+        if (hazi_se_rukou(n))
+            return {DruhPrekazky::pohyb_vyhybky, n, k};
+    }
+    return {};
 }
 
 std::int32_t zbyva_prejezdu(const Cesta& c, std::int32_t ted) {

@@ -30,6 +30,9 @@ enum class DruhPrekazky : std::uint8_t {
     vyhybka,       // a switch is locked; prvek: switch
     pohyb_vyhybky, // it moves
     bocni_vyhybka, // the switch at the flank is locked or moves
+    pod_vlakem,    // a train stands on it, or on one that would be thrown with it; prvek: switch
+    pred_vlakem,   // a train has it before it on a route that has lost it; prvek: switch
+    ztracena,      // it is not the route's any more; prvek: switch
     usek,          // a track is not free; prvek: track
     konec,         // another route holds the end
     vlakova_cesta, // a train route leads to where the shunt route would
@@ -48,6 +51,10 @@ struct Prekazka {
 // First thing that keeps the route from being commanded: signal, elements in running order, end, line.
 // The order of the stack is not asked here.
 Prekazka prekazka_staveni(const Cesta& cesta);
+
+// First switch that keeps a commanded route, whose switches have had their time, from being locked: NOUZ has
+// taken it, or a train has come onto it. Other routes take it meanwhile like any free one.
+Prekazka prekazka_zaveru(const Cesta& cesta);
 
 // Seconds until the crossing of a commanded route has had its closing time; 0 when it need not wait.
 std::int32_t zbyva_prejezdu(const Cesta& cesta, std::int32_t ted);

@@ -9,6 +9,7 @@
 #include "cesty/barvi_prvek.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
+#include "cesty/drzeni.h"
 #include "cesty/navest.h"
 #include "cesty/odpocet_pn.h"
 #include "cesty/prekazky.h"
@@ -63,15 +64,6 @@ void blikni_privolavaci(const Cesta& c, std::int32_t ted) {
             relief.svetlo[svetla::bile].viditelny = navestidlo.barva == barvy::bila;
     }
     obnov_odpocet_pn(c.zacatek, c.PN_do - ted);
-}
-
-void ukonci_privolavaci(Cesta& c) {
-    c.PN_do = -3;
-    nastav_navest(c.zacatek, barvy::seda);
-    gtn_zapis(c.zacatek, gtn::konec_pn, c.konec);
-    odeber_odpocet_pn(c.zacatek);
-    if (simulace.detail_navestidlo == c.zacatek && relief.svetlo.je(svetla::bile))
-        relief.svetlo[svetla::bile].viditelny = false;
 }
 
 // --- a route that cannot go on in this tick
@@ -270,10 +262,9 @@ void stav_cestu(Cesta& c, Pruchod& pruchod) {
 // --- stage two: everything is locked, the signal clears
 
 void uzavri_vyhybku(const Cesta& c, int n, int poloha) {
-    const int trida = !c.VC ? stav_vyhybky::posun : c.PN ? stav_vyhybky::rezervace : stav_vyhybky::vlak;
     // Into the first end of its triple a switch of a route locks without a word about its derailers: one
     // that ran with it goes on showing that until the switch is released. This is meant.
-    vyhybka_stav(n, poloha + trida, true, konec_trojice(poloha) != 1);
+    vyhybka_stav(n, poloha + zaver_vyhybek(c), true, konec_trojice(poloha) != 1);
 }
 
 void uzavri_prvky(const Cesta& c) {
@@ -331,6 +322,10 @@ void uzavri_cestu(int i, Pruchod& pruchod) {
     Cesta& c = cesta_c(i);
     if (pruchod.ted <= c.Kdy_prehoz)
         return;
+    if (prekazka_zaveru(c)) {
+        zablokuj(c, pruchod);
+        return;
+    }
     uzavri_prvky(c);
     if (!c.PN && je_kolej(c.konec) && relief.kolej[c.konec].barva == barvy::azurova)
         barvi_prvek(c.konec, c.VC ? barvy::zelena : barvy::bila, false, true);
@@ -346,14 +341,18 @@ void uzavri_cestu(int i, Pruchod& pruchod) {
         zablokuj(c, pruchod);
         return;
     }
-    rozsvit_navestidlo(c, pruchod.ted);
-    c.Postavena = true;
+    // Over a signal that the operator has blocked meanwhile nobody runs: it is locked, and DN gives it.
+    const bool dovolena = !je_zablokovano(c.zacatek);
+    if (dovolena)
+        rozsvit_navestidlo(c, pruchod.ted);
+    c.Postavena = dovolena;
     c.Provedena = true;
     uvolni_cekani(c);
     gtn_zapis(c.zacatek, c.VC ? gtn::postavena_vlak : gtn::postavena_posun, c.konec);
     obnov_panel_kdyz_ukazuje(c.zacatek);
     zmena_zasobniku();
-    postup_cisla(i);
+    if (dovolena)
+        postup_cisla(i);
 }
 
 // --- the walk

@@ -2,9 +2,11 @@
 #include "cesty/uvolneni.h"
 
 #include "app/cas.h"
+#include "app/simulace.h"
 #include "cesty/barvi_prvek.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
+#include "cesty/drzeni.h"
 #include "cesty/navest.h"
 #include "cesty/odpocet_pn.h"
 #include "cesty/smer_trati.h"
@@ -60,14 +62,29 @@ bool prvek_je_uzavren(const Cesta& c, std::size_t k) {
     }
 }
 
-bool lze_zrusit(const Cesta& c, int s, std::int32_t ted) {
-    if (c.zacatek != s || c.prvky.size() < 2 || c.PN || c.Umazat != 0 || !c.prehozena ||
-        je_vjezd_z_trati(c) || ted < c.Kdy_prehoz - kPredPrehozem_s)
+// `ztracene`: switches that are not the route's any more do not matter, once they have had their time to run.
+// So even a calling-on route can be taken back that will not be locked any more, and never gets to its RNZ.
+bool lze_zrusit(const Cesta& c, int s, std::int32_t ted, bool ztracene) {
+    if (c.zacatek != s || c.prvky.size() < 2 || c.Umazat != 0 || !c.prehozena || je_vjezd_z_trati(c) ||
+        ted < c.Kdy_prehoz - kPredPrehozem_s)
         return false;
+    if (c.PN)
+        return ztracene && !c.Provedena && ted > c.Kdy_prehoz && ztracena_vyhybka(c) != kZadny;
     for (std::size_t k = 1; k < c.prvky.size(); ++k)
-        if (!prvek_je_uzavren(c, k))
+        if (!prvek_je_uzavren(c, k) &&
+            !(ztracene && ted > c.Kdy_prehoz && druh_na(c, k) == druh_prvku::vyhybka))
             return false;
     return true;
+}
+
+// The newest route from the signal first: the older ones may already be under a train. One that has lost a
+// switch comes last, but it can be taken back: no other way leads out of it.
+int cesta_ke_zruseni(int s, std::int32_t ted) {
+    for (const bool ztracene : {false, true})
+        for (std::size_t i = cesty.size(); i-- > 0;)
+            if (lze_zrusit(cesty[i], s, ted, ztracene))
+                return static_cast<int>(i);
+    return kZadny;
 }
 
 std::int32_t doba_ruseni(const Cesta& c) {
@@ -83,14 +100,25 @@ void uvolni_prvek(int n) {
         barvi_prvek(n, barvy::seda);
 }
 
+// The route has lost switch k: others may have it, run over it, or throw it now.
+bool ztratila_vyhybku(const Cesta& c, std::size_t k) {
+    const int n = c.prvky[k];
+    return poloha_stavu(stav_vyhybky_cislo(n)) != poloha_na(c, k) || drzi_jina(c, k) || stoji_na_vyhybce(n);
+}
+
 void uvolni_prvky(const Cesta& c) {
     for (std::size_t k = 1; k < c.prvky.size(); ++k) {
         const int n = c.prvky[k];
         switch (druh_na(c, k)) {
-        case druh_prvku::vyhybka: uvolni_zaver_vyhybky(n, poloha_stavu(stav_vyhybky_cislo(n))); break;
+        case druh_prvku::vyhybka:
+            if (!ztratila_vyhybku(c, k))
+                uvolni_zaver_vyhybky(n, poloha_na(c, k));
+            break;
         case druh_prvku::vykolejka: relief.lblVykolejka[n].barva = barvy::seda; break;
         case druh_prvku::kolej:
-            // Sections of a line are only ever painted by shunt routes.
+            // Sections of a line are only ever painted by shunt routes, and none by a calling-on route.
+            if (c.PN)
+                break;
             if (!je_usek_trati(n) || n == 638 || (!c.VC && relief.kolej[n].barva == barvy::bila))
                 uvolni_prvek(n);
             break;
@@ -107,31 +135,9 @@ bool vlak_stoji_v_cili(const Cesta& c) {
            v.prvek_konec == static_cast<int>(v.prvky.size()) - 1;
 }
 
-bool stoji_na_vyhybce(int n) {
-    return std::any_of(vlaky.begin(), vlaky.end(), [n](const Vlak& v) {
-        for (std::size_t j = static_cast<std::size_t>(std::max<int>(v.prvek_konec, 0)); j < v.prvky.size();
-             ++j)
-            if (v.cislo > 0 && v.prvky[j] == n && v.prvky_druh[j] == druh_prvku::vyhybka)
-                return true;
-        return false;
-    });
-}
-
-// Another route has the element still before it.
-bool drzi_jina(const Cesta& c, std::size_t k) {
-    return std::any_of(cesty.begin(), cesty.end(), [&](const Cesta& jina) {
-        if (&jina == &c || jina.zacatek < 0 || !jina.prehozena || jina.PN_zaver)
-            return false;
-        for (std::size_t i = std::size_t{jina.Umazat} + 1; i < jina.prvky.size(); ++i)
-            if (jina.prvky[i] == c.prvky[k] && druh_na(jina, i) == druh_na(c, k))
-                return true;
-        return false;
-    });
-}
-
 void uvolni_vyhybku_bez_vlaku(const Cesta& c, std::size_t k) {
     const int n = c.prvky[k], poloha = poloha_na(c, k);
-    const int zaver = !c.VC ? stav_vyhybky::posun : c.PN ? stav_vyhybky::rezervace : stav_vyhybky::vlak;
+    const int zaver = zaver_vyhybek(c);
     const int stav = stav_vyhybky_cislo(n);
     const bool stoji = stoji_na_vyhybce(n);
     // two coupled switches are shown occupied before the head comes to the second one
@@ -163,6 +169,26 @@ void vypni_automat(int s) {
         prepni_ab(s);
 }
 
+// The signal goes to stop, and the number that ran ahead comes back; the route stays locked.
+void zastav_cestu(Cesta& c) {
+    if (!c.PN)
+        c.Postavena = false;
+    if (c.PN_do > 0)
+        c.PN_do = ted_s();
+    nastav_navest(c.zacatek, barvy::seda);
+    zmena_zasobniku();
+    if (c.Umazat == 0)
+        vymaz_cislo(index_cesty(c), true, {});
+}
+
+// RNZ gives every switch of its route the state at rest: not one that another route has taken since, and not
+// one that would move under a train.
+bool uvolni_rnz(const Cesta& c, std::size_t k) {
+    const int n = c.prvky[k];
+    return !drzi_jina(c, k) &&
+           (poloha_stavu(stav_vyhybky_cislo(n)) == poloha_na(c, k) || !stoji_na_vyhybce(n));
+}
+
 } // namespace
 
 void zrus_cestu(int s) {
@@ -170,18 +196,15 @@ void zrus_cestu(int s) {
         return;
     vypni_automat(s);
     const std::int32_t ted = ted_s();
-    // The newest route from the signal first: the older ones may already be under a train.
-    for (std::size_t i = cesty.size(); i-- > 0;) {
-        Cesta& c = cesty[i];
-        if (!lze_zrusit(c, s, ted))
-            continue;
-        c.cas_ruseni = ted + doba_ruseni(c);
-        nastav_navest(s, barvy::seda);
-        gtn_zapis(s, gtn::ruseni, 0);
-        vymaz_cislo(static_cast<int>(i), false, {});
-        zmena_zasobniku();
+    const int i = cesta_ke_zruseni(s, ted);
+    if (i < 0)
         return;
-    }
+    Cesta& c = cesta_c(i);
+    c.cas_ruseni = ted + doba_ruseni(c);
+    nastav_navest(s, barvy::seda);
+    gtn_zapis(s, gtn::ruseni, 0);
+    vymaz_cislo(i, false, {});
+    zmena_zasobniku();
 }
 
 void proved_zruseni(int i) {
@@ -194,7 +217,7 @@ void proved_zruseni(int i) {
     vymaz_cislo(i, false, {});
     if (c.prejezd < stanicni_prejezdy.size() && c.prejezd_zaver && !stanicni_prejezdy[c.prejezd].UZ)
         stanicni_prejezdy[c.prejezd].cas = -3;
-    if (!je_usek_trati(konec) && c.VC && je_kolej(konec))
+    if (!je_usek_trati(konec) && c.VC && !c.PN && je_kolej(konec))
         uvolni_prvek(konec);
     vrat_jmeno_koleje(konec);
     if (!c.Postavena) {
@@ -209,11 +232,20 @@ void proved_zruseni(int i) {
     relief.lblMereni_casu[0].viditelny = false;
 }
 
+void ukonci_privolavaci(Cesta& c) {
+    c.PN_do = kZadny;
+    nastav_navest(c.zacatek, barvy::seda);
+    gtn_zapis(c.zacatek, gtn::konec_pn, c.konec);
+    odeber_odpocet_pn(c.zacatek);
+    if (simulace.detail_navestidlo == c.zacatek && relief.svetlo.je(svetla::bile))
+        relief.svetlo[svetla::bile].viditelny = false;
+}
+
 void obnov_cestu(int s) {
     const std::int32_t ted = ted_s();
     Cesta* c = prvni_cesta([&](const Cesta& x) {
         return x.zacatek == s && ted > x.Kdy_prehoz && !je_vjezd_z_trati(x) && !x.PN && x.Provedena &&
-               x.Umazat == 0;
+               x.Umazat == 0 && ztracena_vyhybka(x) == kZadny;
     });
     if (c == nullptr || je_zablokovano(s))
         return;
@@ -241,14 +273,22 @@ void navestidlo_stuj(int s) {
     if (navestidla(s)[s].barva == barvy::seda && !c->PN)
         return;
     vypni_automat(s); // takes a waiting copy out of the table: indices move
-    c = prvni_cesta(stoji);
-    if (!c->PN)
-        c->Postavena = false;
-    if (c->PN_do > 0)
-        c->PN_do = ted_s();
-    nastav_navest(s, barvy::seda);
-    zmena_zasobniku();
-    vymaz_cislo(index_cesty(*c), true, {});
+    zastav_cestu(*prvni_cesta(stoji));
+}
+
+void stuj_bez_vyhybky(int n) {
+    const auto ztraci = [n, ted = ted_s()](const Cesta& x) {
+        if (!x.Postavena || !x.Provedena || x.cas_ruseni >= 0 || (x.PN ? x.PN_do <= ted : x.Umazat != 0))
+            return false;
+        for (std::size_t k = 1; k < x.prvky.size(); ++k)
+            if (x.prvky[k] == n && druh_na(x, k) == druh_prvku::vyhybka)
+                return drzitel(druh_prvku::vyhybka, n) != &x;
+        return false;
+    };
+    while (const Cesta* c = prvni_cesta(ztraci)) {
+        vypni_automat(c->zacatek);
+        zastav_cestu(*prvni_cesta(ztraci));
+    }
 }
 
 void rnz(int s) {
@@ -265,15 +305,15 @@ void rnz(int s) {
     // other routes since the first one.
     for (std::size_t k = 1; k < c->prvky.size() && !c->PN_zaver; ++k) {
         const int n = c->prvky[k];
-        if (druh_na(*c, k) == druh_prvku::vyhybka)
+        if (druh_na(*c, k) == druh_prvku::vyhybka && uvolni_rnz(*c, k))
             uvolni_zaver_vyhybky(n, poloha_na(*c, k));
         if (druh_na(*c, k) == druh_prvku::vykolejka)
             relief.lblVykolejka[n].barva = barvy::seda;
     }
+    if (c->PN_do > 0)
+        ukonci_privolavaci(*c); // the tick that would do it has not come yet
     c->PN_zaver = true;
     gtn_zapis(s, gtn::rnz, 0);
-    if (c->PN_do > 0)
-        odeber_odpocet_pn(s); // the tick that would do it has not come yet
     const int konec = c->konec;
     if (c->Umazat == 0) {
         vymaz_cislo(index_cesty(*c), false, {}); // the train has not come

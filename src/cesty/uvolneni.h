@@ -4,6 +4,8 @@
 // gives the signal again. STUJ only puts the signal to stop. RNZ releases a calling-on route.
 #pragma once
 
+struct Cesta; // cesty/cesta.h
+
 // --- on the operator's command; refused without a word when the rules do not allow it
 
 void zrus_cestu(int s);      // RC
@@ -11,10 +13,18 @@ void obnov_cestu(int s);     // DN
 void navestidlo_stuj(int s); // STUJ
 void rnz(int s);             // RNZ
 
+// --- when a switch is taken out of its route: by NOUZ, or by a train on another route
+
+// The routes that are cleared over switch n and have lost it go to stop, as by STUJ. DN does not give them
+// again.
+void stuj_bez_vyhybky(int n);
+
 // --- by the route machine
 
 // The cancellation of route i is due: everything back to rest, the record goes.
 void proved_zruseni(int i);
+// The calling-on aspect of the route ends: signal, countdown, log.
+void ukonci_privolavaci(Cesta& c);
 
 // --- when the train of a route is gone
 

@@ -18,6 +18,7 @@
 #include "jizda/poslusnost.h"
 #include "jizda/rychlost.h"
 #include "jizda/souprava.h"
+#include "jizda/uvolneni_za_vlakem.h"
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
 #include "obsluha/volba.h"
@@ -36,9 +37,8 @@
 
 namespace {
 
-constexpr int kKonecUseku_m = 9;      // the last metres of a section are never run: the head jumps to the end
-constexpr int kDelkaVyhybky_m = 20;   // of train length that a switch or a derailer takes
-constexpr int kPodruhemVlaku_m = 150; // where a train finds itself when the one before it has left the track
+constexpr int kKonecUseku_m = 9;    // the last metres of a section are never run: the head jumps to the end
+constexpr int kDelkaVyhybky_m = 20; // of train length that a switch or a derailer takes
 
 int pocet_cest() {
     return static_cast<int>(cesty.size());
@@ -190,6 +190,16 @@ bool vstup_na_kolej(int c, int i, int v, std::uint8_t odkud) {
     return true;
 }
 
+// A switch that NOUZ has taken from the route is its train's all the same: another route that was cleared
+// over it meanwhile goes to stop. Routes may go in this: the indices of others move.
+void prevezmi_vyhybky(int c, int i) {
+    const int n = prvek_c(cesta_c(c), i);
+    const int druha = druh_c(cesta_c(c), i + 1) == druh_prvku::vyhybka ? prvek_c(cesta_c(c), i + 1) : kZadny;
+    stuj_bez_vyhybky(n);
+    if (druha != kZadny)
+        stuj_bez_vyhybky(druha);
+}
+
 // The head goes on from entry i to entry i + 1 of route c; false when it stays before an occupied section.
 bool vstup(int c, int i, int v, std::uint8_t odkud) {
     const std::uint8_t kam = druh_c(cesta_c(c), i + 1);
@@ -207,6 +217,9 @@ bool vstup(int c, int i, int v, std::uint8_t odkud) {
                relief.lblVykolejka.je(n)) {
         relief.lblVykolejka[n].barva = barvy::cervena;
     }
+    // Under the wheels no switch moves on, whoever throws it.
+    if (kam == druh_prvku::vyhybka && vyhybka_v_pohybu(n))
+        vyhybka_stav(n, stav_vyhybky_cislo(n), false, false);
     if (odkud == druh_prvku::kolej) {
         const int opustena = prvek_c(cesta_c(c), i);
         nastav_metry(opustena, delka_koleje(opustena));
@@ -220,6 +233,8 @@ bool vstup(int c, int i, int v, std::uint8_t odkud) {
     uber_z_opustenych(v);
     if (kam == druh_prvku::kolej)
         kontrola_vstupu(c, i, v);
+    else if (kam == druh_prvku::vyhybka)
+        prevezmi_vyhybky(c, i + 1);
     return true;
 }
 
@@ -321,60 +336,6 @@ std::int32_t obsazena_delka(const Vlak& vlak) {
     return na_long(delka);
 }
 
-void uvolni_kolej(int v, int j) {
-    const int e = vlak_c(v).prvky[static_cast<std::size_t>(j)];
-    const bool popsana = vlak_c(v).prvky_poloha[static_cast<std::size_t>(j)] == 2;
-    const bool cislovana = je_cislo_koleje(e) && !je_usek_trati(e);
-    if (cislovana) {
-        uber_z_koleje(e, v);
-        // The number ran ahead over a route against the train's sense: it is taken back.
-        const int protismerna =
-            cesta_od_prvku(e, vlak_c(v).prvky[static_cast<std::size_t>(j) + 1], vlak_c(v).smer);
-        if (protismerna >= 0)
-            vymaz_cislo(protismerna, true, {});
-    }
-    const Text cislo = vlak_c(v).posun ? Text{} : text_cisla(zobrazene_cislo(vlak_c(v)));
-    // The number that stays on the label of a track with two of them goes with its train.
-    if (cislovana && !vlak_na_koleji(e))
-        smaz_cislo_z_dvou(e, zobrazene_cislo(vlak_c(v)));
-    if (vlak_na_koleji(e) || drzi_jiny(e, v)) {
-        nastav_metry(e, kPodruhemVlaku_m);
-        return;
-    }
-    if (cislovana) {
-        barvi_prvek(e, barvy::azurova, true);
-        pis_cislo(e, cislo, true);
-    } else {
-        barvi_prvek(e, barvy::seda);
-        if (popsana)
-            pis_cislo(e, cislo, true);
-    }
-    nastav_metry(e, 0);
-}
-
-// A route that this train does not run on has the switch still before it: one that was released under the
-// train by RNZ may have been locked anew.
-bool drzi_jina_cesta(int n, int v) {
-    return std::any_of(cesty.begin(), cesty.end(), [&](const Cesta& c) {
-        if (c.zacatek < 0 || !c.prehozena || c.PN_zaver || c.Vlak == v)
-            return false;
-        for (int i = c.Umazat + 1; i <= posledni(c); ++i)
-            if (prvek_c(c, i) == n && druh_c(c, i) == druh_prvku::vyhybka)
-                return true;
-        return false;
-    });
-}
-
-void uvolni_vyhybku(int v, int j) {
-    Vlak& vlak = vlak_c(v);
-    const int n = vlak.prvky[static_cast<std::size_t>(j)];
-    if (n == vlak.konec_omezeni)
-        vlak.omezeni_ukonceno = true; // the whole train has cleared the last switch of its route
-    const int stav = stav_vyhybky_cislo(n);
-    if ((stav < 100 || stav > 150) && !drzi_jina_cesta(n, v)) // in between another route has reserved it
-        uvolni_zaver_vyhybky(n, vlak.prvky_poloha[static_cast<std::size_t>(j)]);
-}
-
 void krok_konce(int v) {
     if (vlak_c(v).cislo <= 0 || !vlak_c(v).muze_jet || vlak_c(v).prvky.empty() || vlak_c(v).prvek_konec < 0)
         return;
@@ -387,7 +348,7 @@ void krok_konce(int v) {
             const int useku = delka_koleje(e);
             if (delka - useku < vlak_c(v).delka)
                 return;
-            uvolni_kolej(v, j);
+            uvolni_za_vlakem(v, static_cast<std::size_t>(j), false);
             delka -= useku;
             ohlas_odjezd(v, j);
         } else if (druh == druh_prvku::vyhybka || druh == druh_prvku::vykolejka) {
@@ -396,10 +357,7 @@ void krok_konce(int v) {
             if (delka - kDelkaVyhybky_m < vlak_c(v).delka)
                 return;
             delka -= kDelkaVyhybky_m;
-            if (druh == druh_prvku::vyhybka)
-                uvolni_vyhybku(v, j);
-            else if (relief.lblVykolejka.je(e))
-                relief.lblVykolejka[e].barva = barvy::seda;
+            uvolni_za_vlakem(v, static_cast<std::size_t>(j), false);
         } else {
             continue;
         }

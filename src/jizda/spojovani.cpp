@@ -18,6 +18,7 @@
 #include "jizda/metry.h"
 #include "jizda/na_koleji.h"
 #include "jizda/souprava.h"
+#include "jizda/uvolneni_za_vlakem.h"
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
 #include "prvky/vyhybky.h"
@@ -414,27 +415,8 @@ void zkrat_vlak(int v) {
     const int od = std::max<int>(vlak.prvek_konec, 0);
     vlak.prvek_konec = na_integer(konec);
     prijmi_zkraceni(v);
-    for (int j = od; j < konec; ++j) {
-        const int e = vlak.prvky[static_cast<std::size_t>(j)];
-        switch (vlak.prvky_druh[static_cast<std::size_t>(j)]) {
-        case druh_prvku::kolej:
-            // A track under another train, or under the head itself, stays occupied.
-            if (!drzi_jiny(e, v) && !drzi_prvek(vlak, e)) {
-                barvi_prvek(e, barvy::seda);
-                nastav_metry(e, 0);
-            }
-            break;
-        case druh_prvku::vyhybka:
-            if (const int stav = stav_vyhybky_cislo(e); stav < 100 || stav > 150)
-                uvolni_zaver_vyhybky(e, vlak.prvky_poloha[static_cast<std::size_t>(j)]);
-            break;
-        case druh_prvku::vykolejka:
-            if (relief.lblVykolejka.je(e))
-                relief.lblVykolejka[e].barva = barvy::seda;
-            break;
-        default: break;
-        }
-    }
+    for (int j = od; j < konec; ++j)
+        uvolni_za_vlakem(v, static_cast<std::size_t>(j), true);
 }
 
 void navazny_vlak(int v) {

@@ -2,10 +2,11 @@
 #include "prvky/vyhybky.h"
 
 #include "app/cas.h"
-#include "app/kontrola_majitelu.h"
 #include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"
+#include "cesty/drzeni.h"
 #include "cesty/tabulky.h"
+#include "cesty/uvolneni.h"
 #include "desk/menu.h"
 #include "jizda/vlak.h"
 #include "relief/relief.h"
@@ -71,22 +72,18 @@ constexpr Moznosti moznosti_stavu(int stav) {
     return {stav < 50 && stav % 3 == 2, stav < 50 && stav > 0 && stav % 3 == 0, false, false};
 }
 
-// Does `prace` for each partner of n that the relief holds.
-template <class Prace> void projdi_partnery(int n, Prace prace) {
-    const ZaznamVazeb* zaznam = najdi_vazby(n);
-    if (zaznam == nullptr || zaznam->vazby.empty() || zaznam->vazby.front() == kBezVazeb)
-        return;
-    const std::vector<std::uint8_t> partneri = zaznam->vazby; // the table may be read anew meanwhile
-    for (const int b : partneri)
-        if (relief.imgVyhybka.je(b))
-            prace(b);
+// Nobody throws n: a train stands on it, or a route waits for it to arrive.
+bool nesmi_se_hodit(int n) {
+    return stavi_se_vyhybka(n) || stoji_na_vyhybce(n);
 }
 
-// An order may be given now: the switch is free for it, and no coupled one is locked.
+// An order may be given now: the switch is free for it, and so is every coupled one.
 Moznosti moznosti(int n) {
+    if (nesmi_se_hodit(n))
+        return {};
     Moznosti m = moznosti_stavu(stav_vyhybky_cislo(n));
     projdi_partnery(n, [&](int b) {
-        if (stav_vyhybky_cislo(b) > 49)
+        if (stav_vyhybky_cislo(b) > 49 || nesmi_se_hodit(b))
             m = {};
     });
     return m;
@@ -226,6 +223,24 @@ bool vyhybka_v_pohybu(int n) {
            stav_vyhybek.vyhybka_pohyb[static_cast<std::size_t>(n)];
 }
 
+void projdi_partnery(int n, const std::function<void(int)>& prace) {
+    const ZaznamVazeb* zaznam = najdi_vazby(n);
+    if (zaznam == nullptr || zaznam->vazby.empty() || zaznam->vazby.front() == kBezVazeb)
+        return;
+    const std::vector<std::uint8_t> partneri = zaznam->vazby; // the table may be read anew meanwhile
+    for (const int b : partneri)
+        if (relief.imgVyhybka.je(b))
+            prace(b);
+}
+
+bool hazi_se_rukou(int n) {
+    if (stav_vyhybek.prehoz_cas == -3 || !vyhybka_v_pohybu(n))
+        return false;
+    bool hazi = stav_vyhybek.prehoz_vyhybka == n;
+    projdi_partnery(stav_vyhybek.prehoz_vyhybka, [&](int b) { hazi = hazi || b == n; });
+    return hazi;
+}
+
 int vyhybka_obrazek(int p) {
     if (p > 100)
         p -= 100;
@@ -358,8 +373,8 @@ void hod_vyhybku(int n, PovelVyhybky povel) {
 }
 
 void vyhybka_nouz(int n) {
-    zapis_nouz(n);
     vyhybka_stav(n, nouz(poloha_stavu(stav_vyhybky_cislo(n))), false, false);
+    stuj_bez_vyhybky(n);
 }
 
 void obnov_pohyb_vyhybek() {

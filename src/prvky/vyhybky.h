@@ -9,6 +9,7 @@
 #include "prvky/stav_vyhybek.h"
 
 #include <cstdint>
+#include <functional>
 
 // Class of a state: position = state mod 50, class = state div 50 * 50.
 namespace stav_vyhybky {
@@ -32,9 +33,13 @@ constexpr int poloha_stavu(int stav) {
 int stav_vyhybky_cislo(int n);
 // n is between the order to throw and its end position.
 bool vyhybka_v_pohybu(int n);
+// The throw by hand that runs moves n, itself or coupled with the thrown one.
+bool hazi_se_rukou(int n);
 // Moving picture of a position (a position over 100 is first reduced by 100): 3k+1 of the triple of a
 // plain switch, 33 and 34 of the two shapes of a double slip; 0 when there is none.
 int vyhybka_obrazek(int p);
+// Does `prace` for each switch coupled with n that the relief holds.
+void projdi_partnery(int n, const std::function<void(int)>& prace);
 // Position in which NOUZ leaves a switch that stands in position p.
 int nouz(int p);
 // Position to which an order moves a switch in position p; p itself when the order does nothing there.
@@ -62,7 +67,7 @@ void uzavri_vykolejku(int n);
 void menu_vyhybky(int n);
 // Throws n by hand: 3 simulated seconds, ended by the route machine.
 void hod_vyhybku(int n, PovelVyhybky povel);
-// NOUZ: ends any movement at once in the emergency position.
+// NOUZ: ends any movement at once in the emergency position. A route that was cleared over n goes to stop.
 void vyhybka_nouz(int n);
 
 // --- after a load

@@ -142,14 +142,26 @@ TEST_F(Kontrola, RouteMustPointAtWhatExists) {
     EXPECT_EQ(nalez(), "cesty 0: přejezd 2 neexistuje");
 }
 
-TEST_F(Kontrola, TwoRoutesMustNotHoldASwitchInTwoPositions) {
-    cesty = {cesta_pres_vyhybku(2), cesta_pres_vyhybku(3)};
-    EXPECT_EQ(nalez(), "cesty 1: výhybku 7 drží v jiné poloze cesta 0");
-    cesty[1].prehozena = false;
-    EXPECT_EQ(nalez(), "") << "a waiting route holds nothing yet";
-    cesty[1].prehozena = true;
+TEST_F(Kontrola, SignalAtProceedHasItsSwitchesRightLockedAndForItself) {
+    const std::string vadna =
+        "cesty 0: návěst dovoluje jízdu přes výhybku 7, která neleží nebo není pod závěrem";
+    cesty = {cesta_pres_vyhybku(2)};
+    cesty[0].VC = cesty[0].Postavena = cesty[0].Provedena = true;
+    for (const auto& [stav, nalezeno] :
+         {std::pair{52, ""}, std::pair{2, vadna.c_str()}, std::pair{53, vadna.c_str()},
+          std::pair{202, vadna.c_str()}, std::pair{102, vadna.c_str()}}) {
+        relief.imgVyhybka[7].stav = text_cisla(stav);
+        EXPECT_EQ(nalez(), nalezeno) << stav;
+    }
+    cesty[0].Postavena = false;
+    EXPECT_EQ(nalez(), "") << "its signal shows stop";
+    cesty[0].Postavena = true;
     cesty[0].Umazat = 3;
     EXPECT_EQ(nalez(), "") << "what lies behind the train is history";
+    cesty[0].Umazat = 0;
+    relief.imgVyhybka[7].stav = "52"_cz;
+    cesty.push_back(cesty[0]);
+    EXPECT_EQ(nalez(), "cesty 1: návěst dovoluje jízdu přes výhybku 7 jako cesta 0");
 }
 
 TEST_F(Kontrola, SelectionMustBeOfAKind) {

@@ -248,6 +248,32 @@ TEST_F(Uvolneni, CancelledRouteOutPutsTheLampOut) {
     EXPECT_EQ(relief.lblSouhlas[0].barva, barvy::seda);
 }
 
+// Whichever way it ends, before its locking or after it: the next train that asks is asked for inwards.
+TEST_F(Uvolneni, LampOfTheLineEndPointsInwardsAgainWhenTheRouteOutHasEnded) {
+    struct KonecCesty {
+        int konec, k, ven, dovnitr;
+    };
+    for (const auto& [konec, k, ven, dovnitr] : {KonecCesty{84, 0, 15, 8}, KonecCesty{117, 2, 183, 176}})
+        for (const int za : {3, 12}) {
+            zarad(40, konec);
+            cekej(za);
+            EXPECT_EQ(relief.lblSouhlas[k].text(), znak(ven));
+            EXPECT_EQ(relief.lblSouhlas[k].barva, za > 6 ? barvy::modra : barvy::seda);
+            zrus_cestu(40);
+            cekej(6);
+            EXPECT_EQ(cesty[0].zacatek, -3);
+            EXPECT_EQ(relief.lblSouhlas[k].barva, barvy::seda);
+            EXPECT_EQ(relief.lblSouhlas[k].text(), znak(dovnitr)) << konec << " after " << za << " s";
+        }
+    postav(40, 84); // a train runs over it and leaves
+    for (const int n : {84, 212})
+        barvi_prvek(n, barvy::cervena);
+    barvi_prvek(84, barvy::seda);
+    EXPECT_EQ(relief.lblSouhlas[0].text(), znak(15));
+    barvi_prvek(212, barvy::seda);
+    EXPECT_EQ(relief.lblSouhlas[0].text(), znak(8));
+}
+
 TEST_F(Uvolneni, CancelledRouteCallsTheCrossingOff) {
     relief.kolej[40].barva = barvy::cervena;
     zarad(240, 43);

@@ -1,5 +1,6 @@
 // testy/jizda/krok_jizdy_test.cpp - the movement step and whole journeys over the little junction.
 #include "cesty/dotazy.h"
+#include "cesty/prekazky.h"
 #include "jizda/poslusnost.h"
 #include "jizda/svet_vlaku.h"
 #include "prvky/stanicni_prejezdy.h"
@@ -385,6 +386,69 @@ TEST_F(Jizda, SwitchThatAnotherRouteHasLockedIsNotFreedBehindTheTail) {
         EXPECT_EQ(t.prvek_konec, 1);
         EXPECT_EQ(stav_vyhybky_cislo(7), zavrena ? 202 : 2);
     }
+}
+
+// NOUZ has taken the switch from the route of the waiting train; the record goes on naming it.
+TEST_F(Jizda, SwitchIsFreeBehindATrainThoughARouteThatHasLostItNamesIt) {
+    const int ztracena = cesta({262, 63, {62, 440, 7, 63}, {1, 1, 2, 1}, {2, 0, 2, 0}, 0});
+    vyhybka_nouz(7);
+    ASSERT_FALSE(cesty[static_cast<std::size_t>(ztracena)].Postavena);
+    const int v = vlak_na(64, false, 11);
+    cesta({64, 340, {64, 7, 340}, {1, 2, 1}, {0, 3, 0}, 0});
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 340 && vlak(v).prvek_konec == 2; }));
+    EXPECT_EQ(stav_vyhybky_cislo(7), 3);
+}
+
+TEST_F(Jizda, TrainRunsOnOverASwitchThatNouzHasTakenFromItsRoute) {
+    const int v = vlak_na(62, true, 11);
+    cesta({262, 63, {62, 440, 7, 63}, {1, 1, 2, 1}, {2, 0, 2, 0}, 0});
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 440; }));
+    vyhybka_nouz(7);
+    EXPECT_EQ(stav_vyhybky_cislo(7), 3);
+    Cesta jina;
+    jina.zacatek = 64;
+    jina.konec = 340;
+    jina.prvky = {64, 7, 340};
+    jina.druhy = {1, 2, 1};
+    jina.polohy = {0, 3, 0};
+    jina.VC = true;
+    EXPECT_EQ(prekazka_staveni(jina).druh, DruhPrekazky::pred_vlakem);
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 7; }));
+    EXPECT_EQ(stav_vyhybky_cislo(7), 152);
+    EXPECT_EQ(prekazka_staveni(jina).druh, DruhPrekazky::vyhybka);
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvek_konec == 3; }));
+    EXPECT_EQ(stav_vyhybky_cislo(7), 2);
+    EXPECT_EQ(prekazka_staveni(jina).druh, DruhPrekazky::zadna);
+}
+
+// A train that had turned back comes on over its old route: another one was cleared there meanwhile.
+TEST_F(Jizda, TrainThatRunsOverASwitchOfAnotherRoutePutsItsSignalToStop) {
+    const int v = vlak_na(62, true, 11);
+    cesta({262, 63, {62, 440, 7, 63}, {1, 1, 2, 1}, {2, 0, 2, 0}, 0});
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 440; }));
+    vyhybka_nouz(7);
+    const int c = cesta({64, 340, {64, 7, 340}, {1, 2, 1}, {0, 3, 0}, 0});
+    ASSERT_EQ(relief.navestidlo[64].barva, barvy::zelena);
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 7; }));
+    EXPECT_EQ(relief.navestidlo[64].barva, barvy::seda);
+    EXPECT_FALSE(cesty[static_cast<std::size_t>(c)].Postavena);
+    EXPECT_EQ(stav_vyhybky_cislo(7), 152);
+}
+
+TEST_F(Jizda, SwitchStopsUnderTheTrainThatComesToItOnSight) {
+    const int v = vlak_na(62, true, 11);
+    const int c = cesta({262, 63, {62, 440, 7, 63}, {1, 1, 2, 1}, {2, 0, 2, 0}, 0});
+    Cesta& pn = cesty[static_cast<std::size_t>(c)];
+    pn.PN = true;
+    pn.PN_do = ted_s() + 30;
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 440; }));
+    pn.PN_zaver = true; // RNZ under the train
+    vyhybka_stav(7, 2, false, false);
+    hod_vyhybku(7, PovelVyhybky::plus);
+    ASSERT_TRUE(vyhybka_v_pohybu(7));
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 7; }));
+    EXPECT_FALSE(vyhybka_v_pohybu(7));
+    EXPECT_EQ(stav_vyhybky_cislo(7), 3);
 }
 
 TEST_F(Jizda, PieceOfSwitch14StaysOccupiedUnderATrainThatHasLeftTheSwitch) {

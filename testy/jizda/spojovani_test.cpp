@@ -277,6 +277,21 @@ TEST_F(Spojovani, ShortenedTrainLeavesTheTracksBehindFree) {
     EXPECT_NE(stitek(62), "77");
 }
 
+// A train on sight stands over the switch, RNZ has freed it before, and another route has it since.
+TEST_F(Spojovani, ShortenedTrainLeavesTheSwitchOfAnotherRouteLocked) {
+    const int v = vlak_na(62, true, 77);
+    Vlak& t = vlak(v);
+    t.prvky = {62, 7, 63};
+    t.prvky_druh = {1, 2, 1};
+    t.prvky_poloha = {0, 2, 0};
+    t.konec_omezeni = 7;
+    barvi_prvek(63, barvy::cervena);
+    cesta({64, 62, {64, 7, 440}, {1, 2, 1}, {0, 3, 0}, 0});
+    zkrat_vlak(v);
+    EXPECT_EQ(stav_vyhybky_cislo(7), 53);
+    EXPECT_TRUE(t.omezeni_ukonceno) << "its limit ends where it has cleared the switch";
+}
+
 TEST_F(Spojovani, TurnReversesTheVehiclesAndTheEmergencyTurnOnlyTheSense) {
     const int v = vlak_na(62, true, 77, {"754", "B", "C"});
     vlak(v).vozy_urceni = {"DKV", "", "5"};

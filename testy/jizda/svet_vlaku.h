@@ -5,6 +5,7 @@
 #include "app/simulace.h"
 #include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"
+#include "cesty/drzeni.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
 #include "jizda/krok_jizdy.h"
@@ -71,7 +72,7 @@ protected:
         v.stanice_index = -1;
     }
 
-    // A standing route with its signal at proceed.
+    // A standing route with its switches locked and its signal at proceed.
     static int cesta(const RadekCesty& radek, bool vlakova = true) {
         Cesta c;
         c.zacatek = radek.zacatek;
@@ -87,8 +88,10 @@ protected:
         if (navestidla(c.zacatek).je(c.zacatek))
             navestidla(c.zacatek)[c.zacatek].barva = vlakova ? barvy::zelena : barvy::bila;
         for (std::size_t k = 0; k < c.prvky.size(); ++k)
-            if (c.druhy[k] == druh_prvku::vyhybka)
+            if (c.druhy[k] == druh_prvku::vyhybka) {
                 c.vyhybka = c.prvky[k];
+                vyhybka_stav(c.prvky[k], c.polohy[k] + zaver_vyhybek(c), false, false);
+            }
         if (cesty.front().zacatek < 0)
             cesty.clear();
         cesty.push_back(c);
