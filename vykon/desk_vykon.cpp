@@ -68,6 +68,7 @@ BENCHMARK(informace)->Arg(1)->Arg(40)->Unit(benchmark::kMicrosecond)->Name("trai
 // Every row calls at the station, two in each minute are due, twenty trains are late.
 void predpoved(benchmark::State& stav) {
     nova_simulace();
+    std::vector<GvdVlak> radky;
     for (std::int64_t i = 0; i < stav.range(0); ++i) {
         GvdVlak r;
         const auto t = static_cast<std::int16_t>(i * 617 % 1440);
@@ -77,8 +78,9 @@ void predpoved(benchmark::State& stav) {
         r.cislo = static_cast<std::int32_t>(i + 1);
         r.druh = 7;
         r.dny = 0x7F;
-        gvd_vlaky.push_back(std::move(r));
+        radky.push_back(std::move(r));
     }
+    gvd_vlaky = TabulkaGvd(std::move(radky));
     for (int n = 0; n < 20; ++n)
         relief.lstZpravy.radky.push_back(Text("Zpoždění vlaku "_cz) + text_cisla(900'000 + n) + " +15");
     simulace.pauza = false;

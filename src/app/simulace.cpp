@@ -42,7 +42,7 @@ void nova_simulace() {
     ++revize_reliefu;
     prejezdy.clear();
     stav_provozu = StavProvozu{};
-    gvd_vlaky.clear();
+    gvd_vlaky = {};
     vlaky = prvni_vlaky();
     koleje_vlaky = prvni_koleje_vlaky();
     cesty = std::vector<Cesta>(1);

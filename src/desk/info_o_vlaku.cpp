@@ -45,9 +45,8 @@ Text prvni_urceni(const Vlak& v) {
 // Row of a number: today's, else the first one.
 const GvdVlak* radek_s_cislem(double cislo) {
     const GvdVlak* nalezeny = nullptr;
-    for (const GvdVlak& r : gvd_vlaky) {
-        if (r.cislo != cislo)
-            continue;
+    for (const auto& [klic, n] : gvd_vlaky.s_cislem(cislo)) {
+        const GvdVlak& r = radek_gvd(n);
         if (aktivni_dnes(r))
             return &r;
         if (nalezeny == nullptr)

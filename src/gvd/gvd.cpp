@@ -1,15 +1,21 @@
 // gvd/gvd.cpp - reads the timetable and names stations and categories.
 #include "gvd/gvd.h"
 
+#include "app/cas.h"
 #include "app/simulace.h"
 #include "gvd/dopravny.h"
 #include "prvky/souhlasy.h"
 #include "zaklad/chyba.h"
+#include "zaklad/cisla.h"
 #include "zaklad/soubory.h"
 
-#include <array>
+#include <algorithm>
+#include <limits>
+#include <numeric>
+#include <optional>
+#include <utility>
 
-std::vector<GvdVlak> gvd_vlaky;
+TabulkaGvd gvd_vlaky;
 
 namespace {
 
@@ -92,7 +98,53 @@ void cti_hlavicku(Ctenar& c, Text& popis) {
     c.text(popis);
 }
 
+// Minute of the day of the row's entry; a file may hold any number.
+std::size_t minuta_vstupu(const GvdVlak& radek) {
+    return static_cast<std::size_t>((cas_vstupu(radek) % kDen_min + kDen_min) % kDen_min);
+}
+
+// The number as a key; nothing for one that no train can have.
+std::optional<std::int32_t> klic_cisla(double cislo) {
+    const bool cele = cislo >= std::numeric_limits<std::int32_t>::min() &&
+                      cislo <= std::numeric_limits<std::int32_t>::max() && dolu(cislo) == cislo;
+    return cele ? std::optional(static_cast<std::int32_t>(cislo)) : std::nullopt;
+}
+
 } // namespace
+
+TabulkaGvd::TabulkaGvd(std::vector<GvdVlak> nove) : radky(std::move(nove)), podle_minut(radky.size()) {
+    for (std::size_t i = 0; i < radky.size(); ++i) {
+        const GvdVlak& r = radky[i];
+        const int radek = static_cast<int>(i);
+        ++zacatky[minuta_vstupu(r) + 1];
+        cisla.push_back({r.cislo, radek});
+        if (const auto navazny = ciselny_text(r.navazny_vlak))
+            if (const auto klic = klic_cisla(*navazny))
+                navazne.push_back({*klic, radek});
+        if (r.vozy.size() > 1 && r.vozy_vlaky.size() > 1)
+            predane.push_back({r.vozy_vlaky[1], radek});
+    }
+    std::partial_sum(zacatky.begin(), zacatky.end(), zacatky.begin());
+    auto kam = zacatky;
+    for (std::size_t i = 0; i < radky.size(); ++i)
+        podle_minut[kam[minuta_vstupu(radky[i])]++] = static_cast<int>(i);
+    for (auto* rejstrik : {&cisla, &navazne, &predane})
+        std::sort(rejstrik->begin(), rejstrik->end());
+}
+
+std::span<const int> TabulkaGvd::v_minute(int minuta) const {
+    const auto m = static_cast<std::size_t>(minuta);
+    return std::span(podle_minut).subspan(zacatky[m], zacatky[m + 1] - zacatky[m]);
+}
+
+TabulkaGvd::Zapisy TabulkaGvd::najdi(const std::vector<Zapis>& rejstrik, double klic) {
+    const auto hledany = klic_cisla(klic);
+    if (!hledany)
+        return {};
+    const auto od = std::lower_bound(rejstrik.begin(), rejstrik.end(), Zapis{*hledany, 0});
+    const auto po = std::find_if(od, rejstrik.end(), [=](const Zapis& z) { return z.klic != *hledany; });
+    return {od, po};
+}
 
 void nacti_gvd() {
     nacti_gvd_z(nacti_soubor(simulace.soubor_gvd));
@@ -109,7 +161,7 @@ void nacti_gvd_z(std::span<const std::uint8_t> bajty) {
         if (c.ok && pouzitelny(radek))
             nove.push_back(std::move(radek));
     }
-    gvd_vlaky = std::move(nove);
+    gvd_vlaky = TabulkaGvd(std::move(nove));
 }
 
 Text popis_gvd(TextPohled soubor) {

@@ -1,12 +1,15 @@
 // gvd/gvd.h - the weekly timetable: every train that may run through the junction.
 //
-// Read once when a simulation starts and never written. Rows stay in file order, and the order matters:
-// of two trains that want the same entry track at the same minute the first one gets it.
+// Read once when a simulation starts and never written: a timetable is replaced as a whole. Rows stay in file
+// order, and the order matters: of two trains that want the same entry track at the same minute the first one
+// gets it.
 #pragma once
 
 #include "zaklad/balik.h"
 #include "zaklad/text.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <span>
 #include <vector>
@@ -66,7 +69,48 @@ template <class A, class Z> void popis_gvd_vlaku(A& a, Z& z) {
     a.b(z.priznaky);
 }
 
-extern std::vector<GvdVlak> gvd_vlaky;
+// The rows and beside them the registers that find them: made when a timetable comes in, so that a look-up
+// costs by the rows that it finds, however many there are. Every register gives its rows in file order.
+class TabulkaGvd {
+public:
+    struct Zapis {
+        std::int32_t klic;
+        int radek;
+        auto operator<=>(const Zapis&) const = default;
+    };
+    using Zapisy = std::span<const Zapis>;
+
+    TabulkaGvd() = default;
+    // Every row has a stop at least, and a time of each kind for each stop.
+    explicit TabulkaGvd(std::vector<GvdVlak> nove);
+
+    std::size_t size() const { return radky.size(); }
+    bool empty() const { return radky.empty(); }
+    auto begin() const { return radky.begin(); }
+    auto end() const { return radky.end(); }
+    const GvdVlak& at(std::size_t i) const { return radky.at(i); }
+    const GvdVlak& operator[](std::size_t i) const { return radky[i]; }
+
+    // Rows whose minute of entry is this one of the day, 0 to 1439.
+    std::span<const int> v_minute(int minuta) const;
+    // Rows with the number.
+    Zapisy s_cislem(double cislo) const { return najdi(cisla, cislo); }
+    // Rows whose navazny_vlak is the number.
+    Zapisy s_navaznym(double cislo) const { return najdi(navazne, cislo); }
+    // Rows whose set goes on as the number: its second vehicle tells. Rows of one vehicle keep no set.
+    Zapisy s_predanou_soupravou(double cislo) const { return najdi(predane, cislo); }
+
+    bool operator==(const TabulkaGvd&) const = default;
+
+private:
+    static Zapisy najdi(const std::vector<Zapis>& rejstrik, double klic);
+
+    std::vector<GvdVlak> radky;
+    std::vector<int> podle_minut;            // rows by minute of entry;
+    std::array<std::size_t, 1441> zacatky{}; // those of minute m begin here
+    std::vector<Zapis> cisla, navazne, predane;
+};
+extern TabulkaGvd gvd_vlaky;
 
 // --- at start
 

@@ -30,9 +30,10 @@
 namespace {
 
 constexpr TextPohled kZpozdeniVlaku = "Zpoždění vlaku "_cz;
-constexpr std::size_t kMistoCisla = 16;    // the number in a delay line, counted from 1
-constexpr std::int16_t kPoOhlaseni = 100;  // the announced train no longer is the nearest one
-constexpr std::int32_t kCislaDepa = 70000; // numbers from here run as trains at the depot of VH
+constexpr std::size_t kMistoCisla = 16;               // the number in a delay line, counted from 1
+constexpr std::int16_t kPoOhlaseni = 100;             // the announced train no longer is the nearest one
+constexpr int kVyjezdZDepa = 30, kNejdriveStart = 16; // minutes before its departure when a set comes out
+constexpr std::int32_t kCislaDepa = 70000;            // numbers from here run as trains at the depot of VH
 constexpr int kLoko731 = 731;
 
 void nastav_tag(int e, TextPohled metry) {
@@ -57,6 +58,9 @@ bool precti_radek_zpozdeni(TextPohled radek_zprav, Zpozdeny& z) {
 
 // The delay lines, read once a step: by number, of equal ones the first line of the list.
 std::vector<Zpozdeny> zpozdeni_kroku;
+
+// The rows that the step looks at, in file order.
+std::vector<int> radky_kroku;
 
 void precti_zpozdeni() {
     zpozdeni_kroku.clear();
@@ -262,8 +266,54 @@ void krok_radku(int gvd_index, int ted) {
         vstup_se_souhlasem(gvd_index);
     else if (zbyva == 1 || zbyva == 2)
         ohlaseni(gvd_index);
-    else if (zbyva >= 16 && zbyva <= 30 && stanice == dopravna::tesk)
+    else if (zbyva >= kNejdriveStart && zbyva <= kVyjezdZDepa && stanice == dopravna::tesk)
         stanice_start(gvd_index);
+}
+
+// --- the rows of a step
+
+// How far ahead of its entry a row is of any concern, minutes: sets come out of the depot, and the nearest
+// train of each announced station is kept.
+int obzor() {
+    int minut = std::max<int>(kVyjezdZDepa, kPoOhlaseni);
+    for (const DalsiVlak& dalsi : stav_provozu.dalsi_vlaky)
+        minut = std::max<int>(minut, dalsi.cas);
+    return std::min(minut, kDen_min - 1);
+}
+
+// A late train and one that may enter do not come by the timetable: their rows are looked at in every step.
+bool jede_mimo_cas(std::int32_t cislo) {
+    return je_cekajici(cislo) || zpozdeni_v_kroku(cislo) != 0;
+}
+
+void pridej_radky(TabulkaGvd::Zapisy radky) {
+    for (const auto& [klic, n] : radky)
+        radky_kroku.push_back(n);
+}
+
+// All rows for which krok_radku may do anything. The minutes are counted as it counts them: a row behind
+// midnight is not seen before midnight.
+void vyber_radky(int ted) {
+    radky_kroku.clear();
+    for (int m = ted, po = ted + obzor(); m <= po; ++m) {
+        const auto radky = gvd_vlaky.v_minute(m % kDen_min);
+        radky_kroku.insert(radky_kroku.end(), radky.begin(), radky.end());
+    }
+    for (const Zpozdeny& z : zpozdeni_kroku)
+        pridej_radky(gvd_vlaky.s_cislem(z.cislo));
+    for (const std::int32_t cislo : souhlasy.cekajici_vlaky)
+        pridej_radky(gvd_vlaky.s_cislem(cislo));
+    std::sort(radky_kroku.begin(), radky_kroku.end());
+    radky_kroku.erase(std::unique(radky_kroku.begin(), radky_kroku.end()), radky_kroku.end());
+}
+
+// The train of the row `n` has just become late, or may enter: other rows with its number come into the step.
+void pridej_radky_cisla(int n) {
+    for (const auto& [klic, dalsi] : gvd_vlaky.s_cislem(radek_gvd(n).cislo)) {
+        const auto misto = std::lower_bound(radky_kroku.begin(), radky_kroku.end(), dalsi);
+        if (dalsi > n && (misto == radky_kroku.end() || *misto != dalsi))
+            radky_kroku.insert(misto, dalsi);
+    }
 }
 
 } // namespace
@@ -273,8 +323,13 @@ void krok_provozu() {
     zaloha_731();
     const int ted = minuta_dne(cas_hodin());
     precti_zpozdeni();
-    for (std::size_t i = 0; i < gvd_vlaky.size(); ++i)
-        krok_radku(static_cast<int>(i), ted);
+    vyber_radky(ted);
+    for (std::size_t i = 0; i < radky_kroku.size(); ++i) {
+        const int n = radky_kroku[i];
+        krok_radku(n, ted);
+        if (jede_mimo_cas(radek_gvd(n).cislo))
+            pridej_radky_cisla(n);
+    }
 }
 
 void vstup_v_minute(int gvd_index) {

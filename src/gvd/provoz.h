@@ -8,7 +8,7 @@
 
 // --- each simulated minute, and at the end of the fill
 
-// One walk over all rows of the timetable, in file order: who is delayed, announced, asks for consent,
+// One walk over the rows that the minute touches, in file order: who is delayed, announced, asks for consent,
 // comes in, or begins its life at the main station.
 void krok_provozu();
 

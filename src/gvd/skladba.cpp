@@ -267,8 +267,8 @@ std::vector<std::int16_t> dnesni_casy(const std::vector<std::int16_t>& casy) {
 
 std::int32_t cislo_vlaku_pred(int vlak) {
     const Vlak& v = vlak_c(vlak);
-    for (const GvdVlak& r : gvd_vlaky)
-        if (r.loko_rada == v.loko_rada && aktivni_dnes(r) && je_rada(r.navazny_vlak, v.cislo))
-            return r.cislo;
+    for (const auto& [klic, n] : gvd_vlaky.s_navaznym(v.cislo))
+        if (radek_gvd(n).loko_rada == v.loko_rada && aktivni_dnes(radek_gvd(n)))
+            return radek_gvd(n).cislo;
     return 0;
 }

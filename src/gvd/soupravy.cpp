@@ -22,7 +22,6 @@
 
 #include <algorithm>
 #include <array>
-#include <optional>
 
 namespace {
 
@@ -43,9 +42,13 @@ bool ma_vozy(const Vlak& v) {
     return std::any_of(v.vozy.begin(), v.vozy.end(), [](const Text& vuz) { return !je_loko(vuz); });
 }
 
-// The train that the row's set goes on as; nothing for rows that keep no set.
-std::optional<std::int16_t> predava(const GvdVlak& r) {
-    return r.vozy.size() > 1 && r.vozy_vlaky.size() > 1 ? std::optional(r.vozy_vlaky[1]) : std::nullopt;
+// One of the rows runs today and leaves within the next 45 minutes.
+bool odjede_brzy(TabulkaGvd::Zapisy radky) {
+    const int ted = minuta_dne(cas_hodin());
+    return std::any_of(radky.begin(), radky.end(), [ted](const TabulkaGvd::Zapis& z) {
+        const int m = (radek_gvd(z.radek).odjezdy.front() - ted) % kDen_min;
+        return m > 0 && m < 45 && aktivni_dnes(radek_gvd(z.radek));
+    });
 }
 
 void nasad_posunovou(Vlak& v, std::size_t i) {
@@ -151,26 +154,15 @@ std::int16_t kontrola_soupravy(std::int32_t cislo, bool& jsou_vozy) {
             jsou_vozy = true;
         }
     }
-    std::int16_t vysledek = 0;
-    const int ted = minuta_dne(cas_hodin());
-    for (const GvdVlak& r : gvd_vlaky) {
-        if (!aktivni_dnes(r))
-            continue;
-        const int m = (r.odjezdy.front() - ted) % kDen_min;
-        if (m <= 0 || m >= 45)
-            continue;
-        if (je_cislo_vlaku(r.navazny_vlak, cislo))
-            jsou_vozy = true;
-        if (predava(r) == cislo)
-            vysledek = -1;
-    }
-    return vysledek;
+    if (odjede_brzy(gvd_vlaky.s_navaznym(cislo)))
+        jsou_vozy = true;
+    return odjede_brzy(gvd_vlaky.s_predanou_soupravou(cislo)) ? std::int16_t{-1} : std::int16_t{0};
 }
 
 bool souprava_pripravena(int gvd_index, std::int16_t ted) {
-    const std::int32_t cislo = radek_gvd(gvd_index).cislo;
-    return std::none_of(gvd_vlaky.begin(), gvd_vlaky.end(), [=](const GvdVlak& r) {
-        return predava(r) == cislo && r.odjezdy.front() > ted && aktivni_dnes(r);
+    const TabulkaGvd::Zapisy predavaji = gvd_vlaky.s_predanou_soupravou(radek_gvd(gvd_index).cislo);
+    return std::none_of(predavaji.begin(), predavaji.end(), [ted](const TabulkaGvd::Zapis& z) {
+        return radek_gvd(z.radek).odjezdy.front() > ted && aktivni_dnes(radek_gvd(z.radek));
     });
 }
 

@@ -54,10 +54,10 @@ bool jede_pres_hlavni(const GvdVlak& r, std::int16_t ted) {
 
 // First row of today with the number that leaves after `ted`; -1 when there is none.
 int pozdejsi_radek(double cislo, std::int16_t ted) {
-    const auto n = std::find_if(gvd_vlaky.begin(), gvd_vlaky.end(), [=](const GvdVlak& r) {
-        return r.cislo == cislo && r.odjezdy.front() > ted && aktivni_dnes(r);
-    });
-    return n == gvd_vlaky.end() ? -1 : static_cast<int>(n - gvd_vlaky.begin());
+    for (const auto& [klic, n] : gvd_vlaky.s_cislem(cislo))
+        if (radek_gvd(n).odjezdy.front() > ted && aktivni_dnes(radek_gvd(n)))
+            return n;
+    return -1;
 }
 
 void lokomotiva_radku(const GvdVlak& r, std::int16_t ted) {

@@ -230,9 +230,8 @@ int vuz_s_dalsim_cislem(const Vlak& vlak) {
 }
 
 const GvdVlak* radek_s_cislem(double cislo) {
-    const auto radek = std::find_if(gvd_vlaky.begin(), gvd_vlaky.end(),
-                                    [cislo](const GvdVlak& g) { return g.cislo == cislo; });
-    return radek == gvd_vlaky.end() ? nullptr : &*radek;
+    const auto radky = gvd_vlaky.s_cislem(cislo);
+    return radky.empty() ? nullptr : &radek_gvd(radky.front().radek);
 }
 
 // The row of a number stays while another train still runs under it.

@@ -116,10 +116,8 @@ void precisluj(int v, std::int32_t cislo) {
     vlak.cislo2_platne = false;
     if (!vlak.posun)
         prepis_cislo_na_stitcich(stare, cislo);
-    const auto radek = std::find_if(gvd_vlaky.begin(), gvd_vlaky.end(),
-                                    [cislo](const GvdVlak& r) { return r.cislo == cislo; });
-    if (radek != gvd_vlaky.end()) {
-        prevezmi_radek(vlak, *radek);
+    if (const auto radky = gvd_vlaky.s_cislem(cislo); !radky.empty()) {
+        prevezmi_radek(vlak, radek_gvd(radky.front().radek));
         if (!vlak.prvky.empty()) { // as if it had just arrived there
             vlak.obslouzeno = vlak.prvky.size();
             vlak_v_cili(vlak.prvky.back(), v);

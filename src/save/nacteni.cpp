@@ -138,8 +138,8 @@ void obnov_souhlasy() {
     for (const std::int32_t cislo : souhlasy.cekajici_vlaky) {
         if (cislo == 0)
             continue;
-        for (const GvdVlak& radek : gvd_vlaky)
-            if (const int k = konec_ke_stanici(radek.stanice.front()); radek.cislo == cislo && k >= 0)
+        for (const auto& [klic, n] : gvd_vlaky.s_cislem(cislo))
+            if (const int k = konec_ke_stanici(radek_gvd(n).stanice.front()); k >= 0)
                 souhlasy.souhlas[static_cast<std::size_t>(k)] = true;
     }
     // The minute of a train that has gone in is out, although its text stays until the next consent ends.

@@ -58,9 +58,22 @@ std::size_t konec_cisla(TextPohled text, std::size_t od, int& cislic) {
     return i;
 }
 
+// The value of digits alone, as nearly all numbers in texts are; so many of them a real number holds exactly.
+std::optional<double> hodnota_cislic(TextPohled text) {
+    constexpr std::size_t kPresnychCislic = 15;
+    if (text.size() > kPresnychCislic || !std::all_of(text.begin(), text.end(), je_cislice))
+        return std::nullopt;
+    std::int64_t hodnota = 0;
+    for (const char c : text)
+        hodnota = hodnota * 10 + (c - '0');
+    return static_cast<double>(hodnota);
+}
+
 // The value of a text that konec_cisla has measured. More whole digits than a real number can hold are
 // infinity, so that narrowing it is an overflow.
 double hodnota_textu(TextPohled text) {
+    if (const auto hodnota = hodnota_cislic(text))
+        return *hodnota;
     const bool zaporna = text.front() == '-';
     if (zaporna || text.front() == '+')
         text.remove_prefix(1);

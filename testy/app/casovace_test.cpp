@@ -174,7 +174,7 @@ TEST_F(Hodiny, TrafficOfTheFirstMinuteBelongsToTheOldDay) {
     GvdVlak pondelni = nedelni;
     pondelni.cislo = 602;
     pondelni.dny = 1;
-    gvd_vlaky = {pondelni, nedelni};
+    gvd_vlaky = TabulkaGvd({pondelni, nedelni});
     relief.kolej.zaloz(55).barva = barvy::seda;
     relief.kolej.zaloz(56).barva = barvy::seda;
     simulace.den = 64;

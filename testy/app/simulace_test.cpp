@@ -45,7 +45,10 @@ TEST_F(NovaSimulace, LeavesNothingOfTheOldOne) {
     blikani.blikani_radku[2] = true;
     vlaky.resize(60);
     koleje_vlaky.resize(5);
-    gvd_vlaky.resize(2);
+    GvdVlak radek;
+    radek.stanice = {9};
+    radek.prijezdy = radek.odjezdy = {600};
+    gvd_vlaky = TabulkaGvd({radek});
     ASSERT_NE(vse(), cista);
     nova_simulace();
     EXPECT_EQ(vse(), cista);

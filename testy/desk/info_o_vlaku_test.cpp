@@ -5,6 +5,7 @@
 #include "jizda/spojovani.h"
 #include "jizda/vlak.h"
 #include "obsluha/vstup.h"
+#include "pomocne/jizdni_rad.h"
 #include "pomocne/virtualni_platforma.h"
 #include "relief/relief.h"
 #include "zaklad/cisla.h"
@@ -16,11 +17,11 @@ namespace {
 class InfoVlaku : public SPlatformou {
 protected:
     InfoVlaku() {
-        gvd_vlaky.clear();
+        gvd_vlaky = {};
         simulace.den = 1;
         simulace.pp_povoleno = false;
     }
-    ~InfoVlaku() override { gvd_vlaky.clear(); }
+    ~InfoVlaku() override { gvd_vlaky = {}; }
 
     // R 1234 from Lhotin by the main station to Vrbice.
     static Vlak& vlak(int i = 0) {
@@ -51,7 +52,7 @@ protected:
         return v;
     }
     // A row that hands its second vehicle on to the train `dale`.
-    static GvdVlak& radek(std::int32_t cislo, std::int16_t dale = 0) {
+    static void radek(std::int32_t cislo, std::int16_t dale = 0) {
         GvdVlak r;
         r.cislo = cislo;
         r.druh = 7;
@@ -62,8 +63,7 @@ protected:
         r.vozy = {"754", "Bp"};
         r.vozy_vlaky = {0, dale};
         r.dny = 1;
-        gvd_vlaky.push_back(r);
-        return gvd_vlaky.back();
+        pridej_radek_gvd(r);
     }
     static const Text& radka() { return relief.lblIinfo_o_vlaku[0].text(); }
     static bool obsahuje(const Text& text, TextPohled co) { return text.find(co) != Text::npos; }
@@ -203,7 +203,10 @@ TEST_F(InfoVlaku, ChangeOfTheLocomotiveIsToldUntilItIsDone) {
     EXPECT_TRUE(text_vlaku(0).ends_with("; z THN lok.ř.754(1234)"_cz));
     v.stanice = {1, 12, 5};
     EXPECT_TRUE(text_vlaku(0).ends_with("; z THJ lok.ř.754(1234)"_cz));
-    radek(1400).vozy_vlaky = {1234, 0}; // the timetable tells which train brings it
+    radek(1400);
+    zmen_radek_gvd(0, [](GvdVlak& g) {
+        g.vozy_vlaky = {1234, 0};
+    }); // the timetable tells which train brings it
     EXPECT_TRUE(text_vlaku(0).ends_with("; z THJ lok.ř.754(1400)"_cz));
     v.vozy.front() = "754";
     EXPECT_TRUE(text_vlaku(0).ends_with("km/h"));
@@ -222,10 +225,10 @@ TEST_F(InfoVlaku, SetIsTheSetOfItsTrain) {
 
 TEST_F(InfoVlaku, SetThatCameUnderAnotherNumberIsToldByThatOne) {
     posun({"754", "Bp"}).loko_rada = 754;
-    GvdVlak& r = radek(900);
-    r.navazny_vlak = "1234";
+    radek(900);
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.navazny_vlak = "1234"; });
     EXPECT_EQ(text_vlaku(0), " Souprava vlaku 900");
-    r.dny = 2;
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.dny = 2; });
     EXPECT_EQ(text_vlaku(0), " Souprava vlaku 1234");
 }
 
@@ -273,27 +276,28 @@ TEST_F(InfoVlaku, SetThatEndedAtTheMainStationIsToldTheDepartureOfItsNextTrain) 
     v.stanice_index = 0; // stands elsewhere
     EXPECT_FALSE(obsahuje(text_vlaku(0), "Tesk hl.n."));
     v.stanice_index = 1;
-    gvd_vlaky.clear();
+    gvd_vlaky = {};
     EXPECT_EQ(text_vlaku(0), " Souprava vlaku 1234");
 }
 
 TEST_F(InfoVlaku, NextWorkIsTheTrainThatBringsTheVehicles) {
-    radek(1500).stanice = {9, 9, 9, 1};
+    radek(1500);
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.stanice = {9, 9, 9, 1}; });
     radek(1400, 1500);
     EXPECT_EQ(navazny_spoj("1500"), "Os 1400 (příj. 12:25 z BOR)"_cz);
-    gvd_vlaky[1].dny = 2; // not today
+    zmen_radek_gvd(1, [](GvdVlak& g) { g.dny = 2; }); // not today
     EXPECT_TRUE(navazny_spoj("1500").starts_with("Os 1500 "));
-    gvd_vlaky[1].dny = 1;
-    gvd_vlaky[1].vozy_vlaky = {1500}; // only the second vehicle is asked
+    zmen_radek_gvd(1, [](GvdVlak& g) { g.dny = 1; });
+    zmen_radek_gvd(1, [](GvdVlak& g) { g.vozy_vlaky = {1500}; }); // only the second vehicle is asked
     EXPECT_TRUE(navazny_spoj("1500").starts_with("Os 1500 "));
 }
 
 TEST_F(InfoVlaku, NextWorkIsTheTrainItselfWhereItPassesTheMainStation) {
     radek(1400);
     EXPECT_EQ(navazny_spoj("1400"), "Os 1400 (příj. 12:25 z BOR)"_cz);
-    gvd_vlaky[0].stanice[1] = 7;
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.stanice[1] = 7; });
     EXPECT_EQ(navazny_spoj(" 1400 "), "Os 1400 (příj. 12:30 z BOR)"_cz);
-    gvd_vlaky[0].stanice = {9, 8, 2, 1};
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.stanice = {9, 8, 2, 1}; });
     EXPECT_EQ(navazny_spoj("1400"), "Os 1400"); // it begins there: nothing arrives
 }
 
@@ -437,19 +441,22 @@ TEST_F(InfoVlaku, TrainThatIsNoMoreIsNotOnDisplay) {
 TEST_F(InfoVlaku, NumberWithoutATrainIsToldByTheTimetable) {
     vlak();
     info_o_vlaku({}, 0);
-    GvdVlak& r = radek(1400);
-    r.delka = 71;
-    r.rychlost = 90;
-    r.kolej = "4";
-    r.dny = 2;
-    radek(1400).stanice = {6, 12, 9, 1};
+    radek(1400);
+    zmen_radek_gvd(0, [](GvdVlak& g) {
+        g.delka = 71;
+        g.rychlost = 90;
+        g.kolej = "4";
+        g.dny = 2;
+    });
+    radek(1400);
+    zmen_radek_gvd(1, [](GvdVlak& g) { g.stanice = {6, 12, 9, 1}; });
     relief.lstZpravy.radky = {Text("Zpoždění vlaku 1400 +8´"_cz)};
     info_podle_gvd(1400); // today's row
     EXPECT_TRUE(radka().starts_with("Os 1400  (Rokytno průj. 12:00 ... Lhotín příj. 13:20) 8min; "_cz));
     EXPECT_EQ(vlak_na_panelu(), kZadny);
     EXPECT_EQ(vozu_na_panelu(), 0);
     EXPECT_FALSE(relief.imgObrzaek_vlaku[0].viditelny);
-    gvd_vlaky.pop_back();
+    gvd_vlaky = TabulkaGvd({gvd_vlaky[0]});
     info_podle_gvd(1400);
     EXPECT_EQ(radka(), "Os 1400  (Borovec průj. 12:00 ... Lhotín příj. 13:20) 8min; 71m, 90km/h; Kolej 4"_cz);
     const Relief pred = relief;

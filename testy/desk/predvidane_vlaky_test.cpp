@@ -3,6 +3,7 @@
 #include "desk/predvidane_vlaky.h"
 #include "gvd/gvd.h"
 #include "obsluha/vstup.h"
+#include "pomocne/jizdni_rad.h"
 #include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"
 #include "relief/relief.h"
@@ -12,17 +13,17 @@ namespace {
 class PredvidaneVlaky : public SPlatformou {
 protected:
     PredvidaneVlaky() {
-        gvd_vlaky.clear();
+        gvd_vlaky = {};
         simulace.den = 1;
         simulace.pp_povoleno = false;
         simulace.pauza = false;
         cas("8:00:30");
     }
-    ~PredvidaneVlaky() override { gvd_vlaky.clear(); }
+    ~PredvidaneVlaky() override { gvd_vlaky = {}; }
 
     static void cas(const char* text) { relief.lblcas[0].text = Text(text); }
     // A train from a station to another, by its first and its last minute.
-    static GvdVlak& vlak(std::int32_t cislo, int odkud, int kam, int odjezd, int prijezd) {
+    static void vlak(std::int32_t cislo, int odkud, int kam, int odjezd, int prijezd) {
         GvdVlak r;
         r.cislo = cislo;
         r.druh = 5;
@@ -32,8 +33,7 @@ protected:
         r.vozy = {"754"};
         r.vozy_vlaky = {0};
         r.dny = 1;
-        gvd_vlaky.push_back(r);
-        return gvd_vlaky.back();
+        pridej_radek_gvd(r);
     }
     static const std::vector<Text>& denik() { return relief.lstDenik.radky; }
 };
@@ -48,9 +48,11 @@ TEST_F(PredvidaneVlaky, LineHasCategoryNumberTimeAndDelayAtTheirColumns) {
     EXPECT_EQ(denik()[0], "R     1234   8:05 +7´    "_cz);
     EXPECT_EQ(denik()[0].size(), 25u);
     EXPECT_EQ(denik()[1], "Předvídané vlaky v LHO 8:00"_cz);
-    gvd_vlaky[0].cislo = 123456;
-    gvd_vlaky[0].odjezdy[0] = 490;
-    gvd_vlaky[0].druh = 8;
+    zmen_radek_gvd(0, [](GvdVlak& g) {
+        g.cislo = 123456;
+        g.odjezdy[0] = 490;
+        g.druh = 8;
+    });
     predvidane_vlaky(1);
     EXPECT_EQ(denik()[2], "Zvl 123456   8:10        ");
 }
@@ -79,22 +81,23 @@ TEST_F(PredvidaneVlaky, DelayMovesATrainIntoTheHourAndOutOfIt) {
 }
 
 TEST_F(PredvidaneVlaky, ArrivalAtTheFirstStopRulesBeforeItsDeparture) {
-    GvdVlak& r = vlak(10, 1, 5, 485, 510);
-    r.prijezdy[0] = 482;
+    vlak(10, 1, 5, 485, 510);
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.prijezdy[0] = 482; });
     predvidane_vlaky(1);
     EXPECT_EQ(denik()[0], "R       10   8:02        ");
-    r.prijezdy[0] = 0; // midnight is a time, and it is past
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.prijezdy[0] = 0; }); // midnight is a time, and it is past
     predvidane_vlaky(1);
     EXPECT_EQ(denik().size(), 3u);
 }
 
 TEST_F(PredvidaneVlaky, TrainThatEndsThereIsSortedByTheMinuteOfTheDay) {
-    vlak(10, 5, 1, 485, 510).odjezdy.back() = 515;
+    vlak(10, 5, 1, 485, 510);
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.odjezdy.back() = 515; });
     predvidane_vlaky(1);
     EXPECT_EQ(denik(), (std::vector<Text>{Text("Předvídané vlaky v LHO 8:00"_cz)})); // 515 is no minute to 60
     relief.lstDenik.radky.clear();
     cas("0:05:00");
-    gvd_vlaky[0].odjezdy = {10, 22, 40};
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.odjezdy = {10, 22, 40}; });
     predvidane_vlaky(1);
     ASSERT_EQ(denik().size(), 2u);
     EXPECT_EQ(denik()[0], "R       10   0:40        ");
@@ -109,7 +112,8 @@ TEST_F(PredvidaneVlaky, LateTrainThatEndsThereComesWithItsPlannedArrival) {
 }
 
 TEST_F(PredvidaneVlaky, TrainOfAnotherDayIsNotPredicted) {
-    vlak(10, 1, 5, 485, 510).dny = 2;
+    vlak(10, 1, 5, 485, 510);
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.dny = 2; });
     predvidane_vlaky(1);
     EXPECT_EQ(denik().size(), 1u);
     simulace.den = 2;

@@ -127,8 +127,8 @@ inline void zkus_provoz(Vstup vstup) {
         for (int minuta = 600; minuta < 630; ++minuta) {
             jdi(minuta);
             for (const std::int32_t ceka : {19, 5}) // consents are given at once
-                if (!gvd_vlaky.empty() && gvd_vlaky.front().stanice.front() == ceka)
-                    pridej_cekajici(gvd_vlaky.front().cislo);
+                if (!gvd_vlaky.empty() && gvd_vlaky[0].stanice.front() == ceka)
+                    pridej_cekajici(gvd_vlaky[0].cislo);
             krok_provozu();
         }
     } catch (const BehovaChyba& e) {

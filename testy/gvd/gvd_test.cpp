@@ -46,7 +46,7 @@ protected:
         simulace.soubor_gvd.clear();
         simulace.den = 1;
         simulace.pp_povoleno = true;
-        gvd_vlaky.clear();
+        gvd_vlaky = {};
     }
     void zapis(const Bajty& bajty) {
         std::ofstream soubor(slozka + "/gvd/zkouska.dat", std::ios::binary);
@@ -54,7 +54,54 @@ protected:
     }
 };
 
+// The rows that a register gives.
+std::vector<int> radky(TabulkaGvd::Zapisy zapisy) {
+    std::vector<int> vysledek;
+    for (const auto& [klic, n] : zapisy)
+        vysledek.push_back(n);
+    return vysledek;
+}
+
 } // namespace
+
+TEST_F(Gvd, RowsAreFoundInFileOrderByNumberByNextTrainAndByTheSetHandedOn) {
+    std::vector<GvdVlak> rad = {radek(1702), radek(1701), radek(1702), radek(-5)};
+    rad[0].navazny_vlak = " 0044 ";
+    rad[2].navazny_vlak = "44";
+    rad[3].navazny_vlak = "44.5";
+    rad[1].vozy_vlaky = {9, 8, 9};
+    rad[2].vozy = {"810"}; // one vehicle alone keeps no set
+    rad[3].vozy_vlaky = {7};
+    gvd_vlaky = TabulkaGvd(rad);
+    EXPECT_EQ(radky(gvd_vlaky.s_cislem(1702)), (std::vector{0, 2}));
+    EXPECT_EQ(radky(gvd_vlaky.s_cislem(-5)), std::vector{3});
+    EXPECT_TRUE(gvd_vlaky.s_cislem(1702.5).empty());
+    EXPECT_TRUE(gvd_vlaky.s_cislem(1e12).empty());
+    EXPECT_EQ(radky(gvd_vlaky.s_navaznym(44)), (std::vector{0, 2}));
+    EXPECT_TRUE(gvd_vlaky.s_navaznym(44.5).empty());
+    EXPECT_EQ(radky(gvd_vlaky.s_predanou_soupravou(7)), std::vector{0});
+    EXPECT_EQ(radky(gvd_vlaky.s_predanou_soupravou(8)), std::vector{1});
+}
+
+TEST_F(Gvd, RowsAreFoundByTheirMinuteOfEntryWhateverTheFileHolds) {
+    std::vector<GvdVlak> rad = {radek(1), radek(2), radek(3), radek(4), radek(5)};
+    rad[1].prijezdy.front() = 100; // it comes before it leaves
+    rad[2].odjezdy.front() = -1;
+    rad[3].odjezdy.front() = 1440 + 490;
+    rad[4].odjezdy.front() = -32768;
+    gvd_vlaky = TabulkaGvd(rad);
+    const auto v_minute = [](int m) {
+        const auto nalez = gvd_vlaky.v_minute(m);
+        return std::vector<int>(nalez.begin(), nalez.end());
+    };
+    EXPECT_EQ(v_minute(490), (std::vector{0, 3}));
+    EXPECT_EQ(v_minute(100), std::vector{1});
+    EXPECT_EQ(v_minute(1439), std::vector{2});
+    EXPECT_EQ(v_minute(352), std::vector{4});
+    EXPECT_TRUE(v_minute(0).empty());
+    gvd_vlaky = {};
+    EXPECT_TRUE(v_minute(490).empty());
+}
 
 TEST_F(Gvd, LastRecordThatEndsWithTheFileIsKept) {
     zapis(soubor({radek(1), radek(2)}));

@@ -26,8 +26,8 @@ protected:
 
 TEST_F(Provoz, RowOfAnotherDayHasNoEffectAtAll) {
     lhotin();
-    pridej(z_lhotina(1701, 640)).dny = 2;
-    pridej(z_lhotina(1703, 632)).dny = 2;
+    pridej(z_lhotina(1701, 640), [](GvdVlak& g) { g.dny = 2; });
+    pridej(z_lhotina(1703, 632), [](GvdVlak& g) { g.dny = 2; });
     v("10:30:00");
     EXPECT_EQ(pocet_vlaku(), 0);
     EXPECT_EQ(stav_provozu.dalsi_vlaky[1], DalsiVlak{});
@@ -35,7 +35,7 @@ TEST_F(Provoz, RowOfAnotherDayHasNoEffectAtAll) {
 
 TEST_F(Provoz, DelayLineBringsARowOfAnotherDayIntoTheNextTrains) {
     lhotin();
-    pridej(z_lhotina(1701, 620)).dny = 0;
+    pridej(z_lhotina(1701, 620), [](GvdVlak& g) { g.dny = 0; });
     relief.lstZpravy.radky.push_back(Text("Zpoždění vlaku 1701 +18´"_cz));
     v("10:30:00");
     EXPECT_EQ(stav_provozu.dalsi_vlaky[1].cislo, 1701);
@@ -51,7 +51,7 @@ TEST_F(Provoz, TrainDelayedOverMidnightStillSetsOff) {
     ASSERT_NE(najdi(1701), nullptr);
     EXPECT_EQ(barva(87), barvy::zelena);
     simulace.den = 2;
-    gvd_vlaky[0].dny = 1;
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.dny = 1; });
     v("23:58:00");
     EXPECT_EQ(barva(87), barvy::cervena);
 }
@@ -76,7 +76,7 @@ TEST_F(Provoz, MinutePastGivesNoBranch) {
     v("10:30:00");
     EXPECT_EQ(pocet_vlaku(), 0);
     v("0:00:00"); // a departure at 0:01 is not seen from the day before
-    gvd_vlaky[0].odjezdy[0] = 1;
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.odjezdy[0] = 1; });
     v("23:59:00");
     EXPECT_EQ(pocet_vlaku(), 0);
 }
@@ -86,7 +86,7 @@ TEST_F(Provoz, MinutePastGivesNoBranch) {
 TEST_F(Provoz, DelayIsDrawnOnceTwentyMinutesBefore) {
     lhotin();
     simulace.zpozdeni_povoleno = true;
-    pridej(z_lhotina(1701, 650)).druh = 14;
+    pridej(z_lhotina(1701, 650), [](GvdVlak& g) { g.druh = 14; });
     zasej_aby([](float x) { return x > 0.95f; });
     v("10:29:00");
     EXPECT_TRUE(relief.lstZpravy.radky.empty());
@@ -103,10 +103,44 @@ TEST_F(Provoz, DelayIsDrawnOnceTwentyMinutesBefore) {
     EXPECT_EQ(relief.lstZpravy.radky.size(), 1u);
 }
 
+// The rows of one number stand for the days of one train; the delay is told by the number.
+TEST_F(Provoz, DelayThatIsDrawnHoldsInTheSameMinuteForTheRowsOfTheNumberThatFollow) {
+    lhotin();
+    koleje({55, 56});
+    simulace.zpozdeni_povoleno = true;
+    const auto z_nadrazi = [](std::int32_t cislo, std::int16_t odjezd) {
+        GvdVlak r = radek(cislo, {{27, odjezd, odjezd}, {9, 700, -1}});
+        r.dny = 2;
+        return r;
+    };
+    pridej(z_nadrazi(1701, 625)); // stands before the row that draws
+    pridej(z_lhotina(1701, 650), [](GvdVlak& g) { g.druh = 14; });
+    pridej(z_lhotina(1703, 640));
+    pridej(z_nadrazi(1703, 625)); // of another number
+    pridej(z_nadrazi(1701, 625));
+    zasej_aby([](float x) { return x > 0.95f && static_cast<double>(nahodne()) * 90 < 5; });
+    v("10:30:00");
+    ASSERT_EQ(zpozdeni_vlaku(1701), 5);
+    EXPECT_EQ(pocet_vlaku(), 1);
+    EXPECT_EQ(barva(55), barvy::cervena);
+    EXPECT_EQ(barva(56), barvy::seda);
+}
+
+TEST_F(Provoz, TrainThatMayEnterIsSeenWhateverTheMinuteOfItsRow) {
+    koleje({538});
+    stav_provozu.zaloha_731_jede = true;
+    pridej(radek(1702, {{9, -1, 20}, {12, 680, 681}, {2, 700, -1}}));
+    v("10:30:00");
+    EXPECT_EQ(pocet_vlaku(), 0);
+    pridej_cekajici(1702);
+    v("10:31:00");
+    EXPECT_NE(najdi(1702), nullptr);
+}
+
 TEST_F(Provoz, TrainDueInLessThanTwentyMinutesIsNeverDrawn) {
     lhotin();
     simulace.zpozdeni_povoleno = true;
-    pridej(z_lhotina(1701, 649)).druh = 14;
+    pridej(z_lhotina(1701, 649), [](GvdVlak& g) { g.druh = 14; });
     zasej_aby([](float x) { return x > 0.95f; });
     for (const TextPohled cas : {"10:30:00", "10:35:00", "10:46:00"})
         v(cas);
@@ -116,7 +150,8 @@ TEST_F(Provoz, TrainDueInLessThanTwentyMinutesIsNeverDrawn) {
 TEST_F(Provoz, RowsThatBeginAtTheMainStationOrADepotAreNeverDelayed) {
     simulace.zpozdeni_povoleno = true;
     for (const int kod : {9, 28, 30, 34})
-        pridej(radek(100 + kod, {{static_cast<std::uint8_t>(kod), -1, 650}, {8, 700, -1}})).druh = 14;
+        pridej(radek(100 + kod, {{static_cast<std::uint8_t>(kod), -1, 650}, {8, 700, -1}}),
+               [](GvdVlak& g) { g.druh = 14; });
     const Nahoda pred = nahoda;
     v("10:30:00");
     EXPECT_TRUE(relief.lstZpravy.radky.empty());
@@ -132,8 +167,8 @@ TEST_F(Provoz, ThresholdsOfTheDelayDrawHoldInSinglePrecision) {
     };
     for (const Druh& d : {Druh{1, 0.9, true, 29}, Druh{8, 0.9, true, 29}, Druh{5, 0.85, false, 29},
                           Druh{7, 0.81, false, 29}, Druh{9, 0.8, false, 89}, Druh{14, 0.8, false, 89}}) {
-        gvd_vlaky = {radek(1, {{1, -1, 650}, {9, 700, -1}})};
-        gvd_vlaky[0].druh = d.druh;
+        gvd_vlaky = TabulkaGvd({radek(1, {{1, -1, 650}, {9, 700, -1}})});
+        zmen_radek_gvd(0, [&](GvdVlak& g) { g.druh = d.druh; });
         int zpozdenych = 0;
         for (std::uint64_t semeno = 0; semeno < 3000; ++semeno) {
             zasej_nahodu(semeno * 7919);
@@ -267,7 +302,7 @@ TEST_F(Provoz, PickUpGoodsTrainHasATrackOfItsOwn) {
     koleje({66, 67, 68, 69, 62, 63, 64, 65, 41, 42, 43});
     int cislo = 81000;
     for (const std::uint8_t kod : {1, 6, 2, 4})
-        pridej(radek(++cislo, {{kod, -1, 632}, {9, 700, -1}})).druh = 15;
+        pridej(radek(++cislo, {{kod, -1, 632}, {9, 700, -1}}), [](GvdVlak& g) { g.druh = 15; });
     v("10:30:00");
     EXPECT_EQ(cislo_na(89), "81001");
     EXPECT_EQ(cislo_na(66), "81002");
@@ -469,7 +504,7 @@ INSTANTIATE_TEST_SUITE_P(Konce, Souhlas,
 TEST_F(Provoz, ConsentedTrainOfAnotherDayDoesNotComeIn) {
     koleje({219, 117});
     souhlasova_lampa(2);
-    pridej(radek(4701, {{5, -1, 631}, {9, 660, -1}})).dny = 2;
+    pridej(radek(4701, {{5, -1, 631}, {9, 660, -1}}), [](GvdVlak& g) { g.dny = 2; });
     relief.lstZpravy.radky = {Text("Zpoždění vlaku 4701 +7´"_cz)};
     souhlasy.cekajici_vlaky = {4701};
     v("10:40:00");

@@ -124,9 +124,9 @@ TEST_F(Skladba, LatenessAtTheEntryIsNeverNegative) {
     EXPECT_EQ(vytvor(false, 87).zpozdeni, 8);
     hodiny("10:20:00");
     EXPECT_EQ(vytvor(false, 87).zpozdeni, 0);
-    gvd_vlaky[0].prijezdy[0] = 615; // counts for a neighbour without consent
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.prijezdy[0] = 615; }); // counts for a neighbour without consent
     EXPECT_EQ(vytvor(false, 87).zpozdeni, 5);
-    gvd_vlaky[0].stanice[0] = 19; // there the departure counts
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.stanice[0] = 19; }); // there the departure counts
     hodiny("10:25:00");
     EXPECT_EQ(vytvor(false, 87).zpozdeni, 3);
     relief.lstZpravy.radky = {Text("Zpoždění vlaku 1 +12´"_cz)};
@@ -149,7 +149,7 @@ TEST_F(Skladba, FirstSpeedIsThatOfTheStation) {
         rad.rychlost = 120;
         pridej(rad);
         EXPECT_EQ(vytvor(false, 538).rychlost_trati, r.rychlost) << int{r.stanice};
-        gvd_vlaky.back().rychlost = 50;
+        zmen_radek_gvd(gvd_vlaky.size() - 1, [](GvdVlak& g) { g.rychlost = 50; });
         const int pomaly = vytvor(false, 538).rychlost_trati;
         EXPECT_EQ(pomaly,
                   r.stanice == 1 || r.stanice == 6 || r.stanice == 19 || r.stanice == 20 ? 50 : r.rychlost);
@@ -200,9 +200,9 @@ TEST_F(Skladba, StopsWithALocomotiveChangeWaitForTheOrder) {
     const Vlak& v = vytvor(false, 87);
     EXPECT_EQ(v.odjezd_realny, (std::vector<std::int16_t>{600, -10, -10, 661}));
     EXPECT_EQ(v.odjezd[2], 645);
-    gvd_vlaky[0].loko_rada2 = 0;
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.loko_rada2 = 0; });
     EXPECT_EQ(vytvor(false, 538).odjezd_realny[2], 645);
-    gvd_vlaky[0].priznaky = 2; // an assisting locomotive is to come
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.priznaky = 2; }); // an assisting locomotive is to come
     EXPECT_EQ(vytvor(false, 538).odjezd_realny[2], -10);
 }
 
@@ -242,9 +242,9 @@ TEST_F(Skladba, LightSecondLocomotiveRunsInFront) {
     pridej(r);
     EXPECT_EQ(vytvor(false, 87).vozy, (Texty{"210", "754", "Bp"}));
     EXPECT_EQ(vytvor(false, 87).vozy_obrazek, (Texty{"210_1.ico", "754_1.ico", "B.ico"}));
-    gvd_vlaky[0].vozy = {"754", "754", "Bp"};
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.vozy = {"754", "754", "Bp"}; });
     EXPECT_EQ(vytvor(false, 87).vozy, (Texty{"754", "754", "Bp"}));
-    gvd_vlaky[0].vozy = {"754", "210"};
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.vozy = {"754", "210"}; });
     EXPECT_EQ(vytvor(false, 87).vozy, (Texty{"754", "210"})); // a pair stays
 }
 
@@ -271,12 +271,12 @@ TEST_F(Skladba, NumberOfTheTrainThatTakesTheSet) {
     pridej(radek(4701, {{8, -1, 600}, {9, 640, -1}}));
     GvdVlak r = radek(4702, {{9, -1, 700}, {8, 740, -1}});
     r.navazny_vlak = "4701";
-    pridej(r).dny = 2;
+    pridej(r, [](GvdVlak& g) { g.dny = 2; });
     const int v = vytvor_vlak(false, 87, true, kNaVstupu, 0);
     EXPECT_EQ(cislo_vlaku_pred(v), 0); // not today
-    gvd_vlaky[1].dny = 1;
+    zmen_radek_gvd(1, [](GvdVlak& g) { g.dny = 1; });
     EXPECT_EQ(cislo_vlaku_pred(v), 4702);
-    gvd_vlaky[1].loko_rada = 362;
+    zmen_radek_gvd(1, [](GvdVlak& g) { g.loko_rada = 362; });
     EXPECT_EQ(cislo_vlaku_pred(v), 0);
 }
 

@@ -82,7 +82,9 @@ TEST_F(Soupravy, LocomotiveWaitsForASetThatIsStillToCome) {
 
     vlaky = prvni_vlaky();
     relief.kolej[558].barva = barvy::seda;
-    gvd_vlaky[1].stanice = {8, 1}; // it does not come there, and no train hands it a set
+    zmen_radek_gvd(1, [](GvdVlak& g) {
+        g.stanice = {8, 1};
+    }); // it does not come there, and no train hands it a set
     soupravy_do_depa(600);
     EXPECT_EQ(pocet_vlaku(), 0);
     GvdVlak predava = radek(4750, {{8, -1, 650}, {9, 660, -1}});
@@ -97,7 +99,7 @@ TEST_F(Soupravy, SetNumbersThatAreNoTrainMakeNoLocomotive) {
     for (const TextPohled text : {"", "ZAL", "0", "-4703", "4799"}) {
         GvdVlak r = radek(4702, {{8, -1, 500}, {9, 560, -1}});
         r.navazny_vlak = text;
-        gvd_vlaky = {r, radek(4703, {{8, -1, 700}, {9, 720, -1}})};
+        gvd_vlaky = TabulkaGvd({r, radek(4703, {{8, -1, 700}, {9, 720, -1}})});
         soupravy_do_depa(600);
     }
     EXPECT_EQ(pocet_vlaku(), 0);
@@ -143,12 +145,14 @@ TEST_F(KontrolaSoupravy, OnlyDeparturesOfTheNextThreeQuartersOfAnHourCount) {
     for (const int m : {-5, 0, 1, 44, 45, 60}) {
         GvdVlak r = radek(5, {{8, -1, static_cast<std::int16_t>(630 + m)}, {9, 900, -1}});
         r.vozy_vlaky = {0, 1800, 0};
-        gvd_vlaky = {r};
+        gvd_vlaky = TabulkaGvd({r});
         EXPECT_EQ(kontrola(1800), (m == 1 || m == 44 ? kNelze : kVolno)) << m;
-        gvd_vlaky[0].vozy_vlaky = {1800, 0, 0};
-        gvd_vlaky[0].navazny_vlak = "1800";
+        zmen_radek_gvd(0, [](GvdVlak& g) {
+            g.vozy_vlaky = {1800, 0, 0};
+            g.navazny_vlak = "1800";
+        });
         EXPECT_EQ(kontrola(1800), (m == 1 || m == 44 ? kVozy : kVolno)) << m;
-        gvd_vlaky[0].dny = 2;
+        zmen_radek_gvd(0, [](GvdVlak& g) { g.dny = 2; });
         EXPECT_EQ(kontrola(1800), kVolno);
     }
 }
@@ -160,7 +164,7 @@ TEST_F(KontrolaSoupravy, LaterTrainThatBringsTheVehiclesIsWaitedFor) {
     pridej(r);
     EXPECT_FALSE(souprava_pripravena(0, 639));
     EXPECT_TRUE(souprava_pripravena(0, 640));
-    gvd_vlaky[1].vozy = {"754"};
+    zmen_radek_gvd(1, [](GvdVlak& g) { g.vozy = {"754"}; });
     EXPECT_TRUE(souprava_pripravena(0, 639)); // a lone vehicle hands nothing on
 }
 
@@ -172,8 +176,8 @@ protected:
         koleje({538, 569});
         stav_provozu.zaloha_731_jede = true; // no other locomotive comes meanwhile
     }
-    static GvdVlak& vlak_z_tesku(std::uint8_t cil) {
-        return pridej(radek(
+    static void vlak_z_tesku(std::uint8_t cil) {
+        pridej(radek(
             1702,
             {{9, -1, 655}, {cil == 1 ? std::uint8_t{24} : std::uint8_t{12}, 680, 681}, {cil, 700, -1}}));
     }
@@ -236,7 +240,7 @@ TEST_F(StaniceStart, VehiclesAtHandGetAShuntingLocomotiveInPlaceOfTheirOwn) {
     EXPECT_EQ(najdi(1702)->vozy_urceni, (Texty{"1702", "1702", "ZAL"}));
     EXPECT_EQ(stav_provozu.pocet_zaloh, 1);
 
-    gvd_vlaky[0].stanice = {9, 24, 1};
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.stanice = {9, 24, 1}; });
     najdi(1702)->cislo = -3;
     stanice_start(0);
     EXPECT_EQ(najdi(1702)->prvky, Prvky{569});
@@ -245,9 +249,11 @@ TEST_F(StaniceStart, VehiclesAtHandGetAShuntingLocomotiveInPlaceOfTheirOwn) {
 }
 
 TEST_F(StaniceStart, SingleVehicleAtHandIsNotBroughtOut) {
-    GvdVlak& r = vlak_z_tesku(2);
-    r.vozy = {"810"};
-    r.vozy_vlaky = {0};
+    vlak_z_tesku(2);
+    zmen_radek_gvd(0, [](GvdVlak& g) {
+        g.vozy = {"810"};
+        g.vozy_vlaky = {0};
+    });
     vlaky[5].cislo = 1800;
     vlaky[5].vozy = {"810"};
     vlaky[5].vozy_urceni = {"1702"};

@@ -16,9 +16,12 @@ protected:
     static std::int16_t umisti(std::uint8_t stanice, std::uint8_t dalsi, std::uint8_t druh = 7,
                                std::uint8_t predchozi = 0, TextPohled kolej = {}) {
         static std::int32_t cislo = 100;
-        gvd_vlaky = {radek(++cislo, {{predchozi, -1, 600}, {stanice, 620, 640}, {dalsi, 660, -1}})};
-        gvd_vlaky[0].druh = druh;
-        gvd_vlaky[0].kolej = kolej;
+        gvd_vlaky =
+            TabulkaGvd({radek(++cislo, {{predchozi, -1, 600}, {stanice, 620, 640}, {dalsi, 660, -1}})});
+        zmen_radek_gvd(0, [&](GvdVlak& g) {
+            g.druh = druh;
+            g.kolej = kolej;
+        });
         umisti_vlak_do_stanice(stanice, predchozi, dalsi, 1, 0);
         const Vlak* v = najdi(cislo);
         return v == nullptr ? std::int16_t{-1} : v->prvky[0];

@@ -16,11 +16,11 @@ protected:
     Zaplneni() { simulace.minuty_simulace = 0; }
 
     static void depo() { koleje({503, 509, 510, 558, 559, 560}); }
-    static GvdVlak& do_tesku() {
+    static void do_tesku() {
         koleje({10, 9, 11, 12, 26, 27, 28});
         GvdVlak r = radek(1701, {{1, -1, 600}, {8, 620, 640}, {9, 660, -1}});
         r.kolej = "1";
-        return pridej(r);
+        pridej(r);
     }
 };
 
@@ -86,10 +86,11 @@ TEST_F(Zaplneni, TakenTracksLeaveTheTrainOut) {
 }
 
 TEST_F(Zaplneni, TrainOfAnotherDayAndOneWhoseSetRunsAreLeftOut) {
-    do_tesku().dny = 2;
+    do_tesku();
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.dny = 2; });
     vlaky_na_trati(630, true);
     EXPECT_EQ(pocet_vlaku(), 0);
-    gvd_vlaky[0].dny = 1;
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.dny = 1; });
     vlaky[5].cislo = 99;
     vlaky[5].vozy = {"754"};
     vlaky[5].vozy_urceni = {"1701"};
@@ -98,9 +99,11 @@ TEST_F(Zaplneni, TrainOfAnotherDayAndOneWhoseSetRunsAreLeftOut) {
 }
 
 TEST_F(Zaplneni, NumberChangesAtTheStopOfTheTrain) {
-    GvdVlak& r = do_tesku();
-    r.cislo2 = 1801;
-    r.stanice_zmeny = 8;
+    do_tesku();
+    zmen_radek_gvd(0, [](GvdVlak& g) {
+        g.cislo2 = 1801;
+        g.stanice_zmeny = 8;
+    });
     vlaky_na_trati(630, true);
     EXPECT_TRUE(najdi(1701)->cislo2_platne);
 }
@@ -126,7 +129,7 @@ TEST_F(Zaplneni, EmptyLayoutAndEmptyTimetableAreHarmless) {
     for (std::uint8_t kod = 0; kod < 40; ++kod)
         pridej(radek(1000 + kod, {{1, -1, 590}, {kod, 620, 640}, {9, 660, -1}}));
     for (std::uint8_t kod = 0; kod < 40; ++kod)
-        pridej(radek(2000 + kod, {{kod, -1, 640}, {9, 660, -1}})).kolej = "13k";
+        pridej(radek(2000 + kod, {{kod, -1, 640}, {9, 660, -1}}), [](GvdVlak& g) { g.kolej = "13k"; });
     EXPECT_NO_THROW(zaplneni_kolejiste(630));
     EXPECT_EQ(pocet_vlaku(), 0);
 }

@@ -434,7 +434,7 @@ TEST_F(Spojovani, RouteOfTheTrainThatJoinedEndsThere) {
 
 TEST_F(Spojovani, FinishedSetTakesOnItsNextTrain) {
     simulace.minuty_simulace = 1440;
-    gvd_vlaky = {radek_gvd(5678)};
+    gvd_vlaky = TabulkaGvd({radek_gvd(5678)});
     const int v = vlak_na(62, true, 77, {"843", "943"});
     vlak(v).vozy_urceni = {"5678", "5678"};
     vlak(v).cislo2 = 78;
@@ -455,7 +455,7 @@ TEST_F(Spojovani, FinishedSetTakesOnItsNextTrain) {
 }
 
 TEST_F(Spojovani, SetWithoutANextTrainStaysAsItIs) {
-    gvd_vlaky = {radek_gvd(5678)};
+    gvd_vlaky = TabulkaGvd({radek_gvd(5678)});
     const auto zustane = [&](const Vozy& vozy, const Vozy& urceni) {
         const int v = vlak_na(62, true, 77, vozy);
         vlak(v).vozy_urceni = urceni;
@@ -474,7 +474,7 @@ TEST_F(Spojovani, SetWithoutANextTrainStaysAsItIs) {
 }
 
 TEST_F(Spojovani, VehicleOfAnotherNextTrainComesOff) {
-    gvd_vlaky = {radek_gvd(5678)};
+    gvd_vlaky = TabulkaGvd({radek_gvd(5678)});
     const int v = vlak_na(62, true, 77, {"843", "843"});
     vlak(v).vozy_urceni = {"77", "5678"};
     navazny_vlak(v);
@@ -491,7 +491,7 @@ TEST_F(Spojovani, LocomotiveComesOffWhenTheNextTrainGoesBack) {
     const auto objede = [&](std::uint8_t druha, bool smer, const Vozy& vozy) {
         GvdVlak g = radek_gvd(5678);
         g.stanice = {9, druha};
-        gvd_vlaky = {g};
+        gvd_vlaky = TabulkaGvd({g});
         const int v = vlak_na(62, smer, 77, vozy);
         vlak(v).vozy_urceni.assign(vozy.size(), "5678");
         navazny_vlak(v);

@@ -301,7 +301,7 @@ TEST_F(SadaObrazku, EveryVehicleOfEveryTimetableHasAPicture) {
         std::vector<ChybaZdroje> chyby;
         for (const GvdVlak& r : preloz_jizdni_rad(obsah(soubor), chyby).vlaky)
             for (const bool smer : {false, true}) {
-                gvd_vlaky = {r};
+                gvd_vlaky = TabulkaGvd({r});
                 const Vlak v = vlaky[static_cast<std::size_t>(vytvor_vlak(smer, 600, true, kNaVstupu, 0))];
                 for (std::size_t i = 0; i < v.vozy.size(); ++i, ++vozidel)
                     ma(v.vozy_obrazek[i], v.vozy[i]);

@@ -382,7 +382,7 @@ TEST_F(MenuKolejeTest, DoubleClickOnANumberWithoutATrainAsksTheTimetable) {
     g.stanice = {9, 2};
     g.prijezdy = {-1, 600};
     g.odjezdy = {540, -1};
-    gvd_vlaky = {g};
+    gvd_vlaky = TabulkaGvd({g});
     info_o_vlaku({}, vlak_na(62, true, 77));
     prepni_panel(Panel::denik);
     relief.cislo_koleje[64].text = TextPohled("5678");

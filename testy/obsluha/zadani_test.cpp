@@ -6,6 +6,7 @@
 #include "obsluha/vstup.h"
 #include "obsluha/vyber.h"
 #include "obsluha/zadani.h"
+#include "pomocne/jizdni_rad.h"
 #include "relief/prejezdy.h"
 
 namespace {
@@ -13,10 +14,10 @@ namespace {
 class Zadani : public SVlaky {
 protected:
     Zadani() {
-        gvd_vlaky.clear();
+        gvd_vlaky = {};
         svet.pipnuti.clear();
     }
-    ~Zadani() override { gvd_vlaky.clear(); }
+    ~Zadani() override { gvd_vlaky = {}; }
 
     static void stiskni(TextPohled jmeno) { klavesa(klavesa_podle_jmena(jmeno)); }
     static void odpovez(TextPohled text) {
@@ -43,7 +44,7 @@ protected:
         zprava(" CIV ", {}, barvy::azurova, 9, true);
         relief.txtZadav_pole[0].text = text_cisla(vlak(v).cislo);
     }
-    static GvdVlak& radek_gvd(std::int32_t cislo) {
+    static void radek_gvd(std::int32_t cislo) {
         GvdVlak r;
         r.cislo = cislo;
         r.druh = 11;
@@ -52,7 +53,7 @@ protected:
         r.stanice = {2, 12};
         r.prijezdy = {479, 500};
         r.odjezdy = {490, -1};
-        return gvd_vlaky.emplace_back(r);
+        pridej_radek_gvd(r);
     }
     static bool pole_otevrene() { return relief.txtZadav_pole[0].povoleny; }
     static Text menu_jmeno() { return menu.jmeno; }

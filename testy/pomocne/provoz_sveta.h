@@ -6,6 +6,7 @@
 #include "gvd/gvd.h"
 #include "gvd/stav_provozu.h"
 #include "jizda/vlak.h"
+#include "pomocne/jizdni_rad.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/souhlasy.h"
 #include "relief/relief.h"
@@ -27,7 +28,7 @@ protected:
     }
     ~SProvozem() override {
         relief = Relief{};
-        gvd_vlaky.clear();
+        gvd_vlaky = {};
     }
 
     static void hodiny(TextPohled cas) { relief.lblcas[0].text = cas; }
@@ -70,9 +71,11 @@ protected:
         }
         return r;
     }
-    static GvdVlak& pridej(GvdVlak r) {
-        gvd_vlaky.push_back(std::move(r));
-        return gvd_vlaky.back();
+    static void pridej(GvdVlak r) { pridej_radek_gvd(std::move(r)); }
+    // The same, the row as `zmena` leaves it.
+    template <class Zmena> static void pridej(GvdVlak r, Zmena zmena) {
+        zmena(r);
+        pridej(std::move(r));
     }
 
     static Vlak* najdi(std::int32_t cislo) {
