@@ -24,6 +24,7 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <span>
 #include <vector>
 
@@ -297,7 +298,8 @@ void vyber_radky(int ted) {
     radky_kroku.clear();
     for (int m = ted, po = ted + obzor(); m <= po; ++m) {
         const auto radky = gvd_vlaky.v_minute(m % kDen_min);
-        radky_kroku.insert(radky_kroku.end(), radky.begin(), radky.end());
+        std::copy_if(radky.begin(), radky.end(), std::back_inserter(radky_kroku),
+                     [](int n) { return aktivni_dnes(radek_gvd(n)); });
     }
     for (const Zpozdeny& z : zpozdeni_kroku)
         pridej_radky(gvd_vlaky.s_cislem(z.cislo));
