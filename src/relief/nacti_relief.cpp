@@ -96,6 +96,7 @@ void umisti_kolej(const ZaznamReliefu& z) {
     if (z.cislo == 574 && relief.imgV1.je(0)) {
         relief.imgV1[0].vlevo = z.b + 100;
         relief.imgV1[0].nahore = z.d - 180;
+        relief.imgV1[0].viditelny = true;
     }
 }
 

@@ -7,8 +7,6 @@
 #include "ui/pismo.h"
 #include "zaklad/cisla.h"
 
-#include <QPainterPath>
-
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -24,6 +22,9 @@ constexpr double kNejmensiKontrast = 3;
 constexpr int kNejmensiCil = 13 * kTwipu; // no target for the pointer is smaller
 constexpr int kPresahRadku = 2;           // of the command line above and below its text, pixels of the desk
 constexpr int kPresahCisla = 2;           // what a label clears beside its text, pixels of the desk
+
+constexpr int kStupenStozaru =
+    7; // by which each of the masts is higher than the one before, pixels of the desk
 
 constexpr QRgb kSvetla[] = {0xFFFFD21E, 0xFF19E64B, 0xFFFF2D1E, 0xFFFFFFFF, 0xFFFFD21E, 0xFF4678FF};
 constexpr QRgb kPruhy[] = {0xFFFFD21E, 0xFF19E64B};
@@ -164,33 +165,70 @@ double osa(double twipy, double pocatek, double k, int tl) {
     return std::lround(pocatek + twipy * k - tl / 2.0) + tl / 2.0;
 }
 
-void nakresli_caru(QPainter& p, const Meritko& m, int x1, int y1, int x2, int y2, QColor barva, int tl,
-                   int mezera) {
-    if (y1 == y2) {
-        const int a = m.x(std::min(x1, x2)) + mezera, b = m.x(std::max(x1, x2)) - mezera;
-        const int y = static_cast<int>(osa(y1, m.y0, m.k, tl) - tl / 2.0);
-        p.fillRect(a, y, std::max(1, b - a), tl, barva);
+constexpr int kPrvniRadek = 690; // top of the first row of the relief, twips
+
+// Does this height lie on the line of a row? Slanted lines end there or in a corner between two rows.
+bool je_na_ose(int y) {
+    return (y - kPrvniRadek - kOsaRadku) % kVyskaZnaku == 0;
+}
+
+void vypln(QPainter& p, const QRect& plocha, const QColor& barva, const QRegion& mimo) {
+    if (!mimo.intersects(plocha)) {
+        p.fillRect(plocha, barva);
         return;
     }
-    if (x1 == x2) {
-        const int x = static_cast<int>(osa(x1, m.x0, m.k, tl) - tl / 2.0);
-        const int a = m.y(std::min(y1, y2)), b = m.y(std::max(y1, y2));
-        p.fillRect(x, a, tl, std::max(1, b - a), barva);
-        return;
-    }
-    const QPointF od(m.x0 + x1 * m.k, m.y0 + y1 * m.k), po(m.x0 + x2 * m.k, m.y0 + y2 * m.k);
+    for (const QRect& kus : QRegion(plocha).subtracted(mimo))
+        p.fillRect(kus, barva);
+}
+
+// Rounds off the corner between a slanted line and a level one.
+void nakresli_ohyb(QPainter& p, QPointF kde, int tl, const QColor& barva) {
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(Qt::NoPen);
+    p.setBrush(barva);
+    p.drawEllipse(kde, tl / 2.0, tl / 2.0);
+    p.setBrush(Qt::NoBrush);
+    p.setRenderHint(QPainter::Antialiasing, false);
+}
+
+void nakresli_sikmou(QPainter& p, const Meritko& m, const Prvek& c, const QColor& barva, int tl) {
+    const auto konec = [&](int x, int y) {
+        return QPointF(m.x0 + x * m.k, je_na_ose(y) ? osa(y, m.y0, m.k, tl) : m.y0 + y * m.k);
+    };
+    const QPointF od = konec(c.x1, c.y1), po = konec(c.x2, c.y2);
     // Lines that meet end to end overlap by a hair, or their antialiased ends would leave a seam.
     const QPointF smer = (po - od) / std::hypot(po.x() - od.x(), po.y() - od.y()) * 0.5;
     p.setRenderHint(QPainter::Antialiasing);
     p.setPen(QPen(barva, tl, Qt::SolidLine, Qt::FlatCap));
     p.drawLine(od - smer, po + smer);
     p.setRenderHint(QPainter::Antialiasing, false);
+    if (je_na_ose(c.y1))
+        nakresli_ohyb(p, od, tl, barva);
+    if (je_na_ose(c.y2))
+        nakresli_ohyb(p, po, tl, barva);
 }
 
-void nakresli_most(QPainter& p, const Meritko& m, const Prvek& prvek) {
+void nakresli_caru(QPainter& p, const Meritko& m, const Prvek& c, const QColor& barva, int tl, int mezera,
+                   const OkoliCary& okoli) {
+    if (c.y1 == c.y2) {
+        const bool zleva = c.x1 <= c.x2;
+        const int a = m.x(zleva ? c.x1 : c.x2) + ((zleva ? okoli.dal_od : okoli.dal_po) ? 0 : mezera);
+        const int b = m.x(zleva ? c.x2 : c.x1) - ((zleva ? okoli.dal_po : okoli.dal_od) ? 0 : mezera);
+        const int y = static_cast<int>(osa(c.y1, m.y0, m.k, tl) - tl / 2.0);
+        vypln(p, QRect(a, y, std::max(1, b - a), tl), barva, okoli.texty);
+    } else if (c.x1 == c.x2) {
+        const int x = static_cast<int>(osa(c.x1, m.x0, m.k, tl) - tl / 2.0);
+        const int a = m.y(std::min<int>(c.y1, c.y2)), b = m.y(std::max<int>(c.y1, c.y2));
+        vypln(p, QRect(x, a, tl, std::max(1, b - a)), barva, okoli.texty);
+    } else {
+        nakresli_sikmou(p, m, c, barva, tl);
+    }
+}
+
+void nakresli_most(QPainter& p, const Meritko& m, const Prvek& prvek, const OkoliCary& okoli) {
     const QColor barva = prvek.barva == barvy::cerna ? QColor(Qt::black) : barva_qt(prvek.barva);
-    nakresli_caru(p, m, prvek.x1, prvek.y1, prvek.x2, prvek.y2, barva,
-                  tloustka(m, prvek.barva == barvy::cerna ? kTloustkaKoleje + 2 : 1), 0);
+    nakresli_caru(p, m, prvek, barva, tloustka(m, prvek.barva == barvy::cerna ? kTloustkaKoleje + 2 : 1), 0,
+                  okoli);
 }
 
 // --- switches
@@ -203,13 +241,15 @@ QPointF bod_portu(const Meritko& m, int x, int y, Port port, int tl) {
     return {m.x0 + (x + misto.x) * m.k, m.y0 + (y + misto.y) * m.k};
 }
 
-void nakresli_nohu(QPainter& p, const Meritko& m, int x, int y, Port port, double od, QColor barva, int tl) {
-    const QPointF stred = bod_portu(m, x, y, Port::zadny, tl), konec = bod_portu(m, x, y, port, tl);
+// A straight line from the middle of a switch or a bend: level and sharp, or slanted and on into the next
+// cell.
+void nakresli_rameno(QPainter& p, QPointF stred, QPointF konec, double od, const QColor& barva, int tl,
+                     const OkoliCary& okoli) {
     const QPointF zacatek = stred + (konec - stred) * od;
     if (stred.y() == konec.y()) {
         const int a = static_cast<int>(std::lround(std::min(zacatek.x(), konec.x())));
         const int b = static_cast<int>(std::lround(std::max(zacatek.x(), konec.x())));
-        p.fillRect(a, static_cast<int>(stred.y() - tl / 2.0), b - a, tl, barva);
+        vypln(p, QRect(a, static_cast<int>(stred.y() - tl / 2.0), b - a, tl), barva, okoli.texty);
         return;
     }
     const QPointF presah = (konec - stred) / std::hypot(konec.x() - stred.x(), konec.y() - stred.y()) * 0.5;
@@ -220,35 +260,20 @@ void nakresli_nohu(QPainter& p, const Meritko& m, int x, int y, Port port, doubl
 }
 
 // The way that the switch joins, in one stroke.
-void nakresli_jizdu(QPainter& p, const Meritko& m, int x, int y, Port a, Port b, QColor barva, int tl) {
+void nakresli_jizdu(QPainter& p, const Meritko& m, int x, int y, Port a, Port b, const QColor& barva, int tl,
+                    const OkoliCary& okoli) {
     const QPointF od = bod_portu(m, x, y, a, tl), po = bod_portu(m, x, y, b, tl);
     if (od.y() == po.y()) {
-        p.fillRect(static_cast<int>(std::min(od.x(), po.x())), static_cast<int>(od.y() - tl / 2.0),
-                   static_cast<int>(std::abs(po.x() - od.x())), tl, barva);
+        nakresli_rameno(p, od, po, 0, barva, tl, okoli);
         return;
     }
     const QPointF stred = bod_portu(m, x, y, Port::zadny, tl);
-    const auto protazeny = [&](QPointF konec) { // corners go on into the next cell
-        if (konec.y() == stred.y())
-            return konec;
-        return konec + (konec - stred) / std::hypot(konec.x() - stred.x(), konec.y() - stred.y()) * 0.5;
-    };
-    QPainterPath cesta(protazeny(od));
-    cesta.lineTo(stred);
-    cesta.lineTo(protazeny(po));
-    p.setRenderHint(QPainter::Antialiasing);
-    p.strokePath(cesta, QPen(barva, tl, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
-    p.setRenderHint(QPainter::Antialiasing, false);
+    nakresli_rameno(p, stred, od, 0, barva, tl, okoli);
+    nakresli_rameno(p, stred, po, 0, barva, tl, okoli);
+    nakresli_ohyb(p, stred, tl, barva);
 }
 
 constexpr std::array kBarvyTrid = {barvy::seda, barvy::zelena, barvy::azurova, barvy::cervena, barvy::bila};
-
-int stav_vyhybky(const Prvek& prvek) {
-    // The picture is what the logic shows: a moving switch has the state of its end already.
-    if (prvek.obrazek >= 100)
-        return prvek.obrazek - 100;
-    return cele_z_textu(prvek.stav());
-}
 
 // --- texts
 
@@ -275,40 +300,51 @@ double zacatek_radku(const Meritko& m, const Prvek& prvek, double delka_px) {
     return vlevo + (prvek.zarovnani == 1 ? volno : volno / 2);
 }
 
-void nakresli_napis(QPainter& p, const Meritko& m, const Styl& s, const Prvek& prvek) {
-    const TextPohled text = prvek.text();
+// Where the characters of a line of text stand, device pixels.
+struct MistoRadku {
+    double x, y, sirka, vyska; // of the first cell
+};
+
+MistoRadku misto_radku(const Meritko& m, const Styl& s, const Prvek& prvek) {
     const int krat = nasobek(s, prvek);
     const double sirka = kSirkaBunky * m.bod() * krat, vyska = kVyskaBunky * m.bod() * krat;
-    const double x = zacatek_radku(m, prvek, sirka * static_cast<double>(text.size()));
-    const double y = m.y(prvek.nahore) +
-                     (prvek.vyska > kVyskaZnaku ? std::max(0.0, (prvek.vyska * m.k - vyska) / 2) : 0.0);
-    if (prvek.ramecek) {
-        QRect plocha = v_bodech(m, prvek);
-        if (prvek.sirka <= 0)
-            plocha = QRect(QPointF(x, y).toPoint(),
-                           QSizeF(sirka * static_cast<double>(text.size()), vyska).toSize());
-        if (s.druh == Druh::lblPrikaz || s.druh == Druh::lblVolba) // the band is higher than its text
-            plocha.adjust(0, -m.bodu(kPresahRadku), 0, m.bodu(kPresahRadku));
-        p.fillRect(plocha, barva_qt(prvek.pozadi));
-    } else if (s.kryje) {
-        const std::size_t prvni = text.find_first_not_of(' ');
-        if (prvni != TextPohled::npos) {
-            const std::size_t posledni = text.find_last_not_of(' ');
-            const int presah = s.druh == Druh::cislo_koleje ? m.bodu(kPresahCisla) : 0;
-            const int a = static_cast<int>(std::lround(x + static_cast<double>(prvni) * sirka)) - presah;
-            const int b =
-                static_cast<int>(std::lround(x + static_cast<double>(posledni + 1) * sirka)) + presah;
-            p.fillRect(
-                QRect(a, static_cast<int>(std::lround(y)), b - a, static_cast<int>(std::lround(vyska))),
-                Qt::black);
-        }
-    }
+    return {zacatek_radku(m, prvek, sirka * static_cast<double>(prvek.text->size())),
+            m.y(prvek.nahore) +
+                (prvek.vyska > kVyskaZnaku ? std::max(0.0, (prvek.vyska * m.k - vyska) / 2) : 0.0),
+            sirka, vyska};
+}
+
+// Ground of a text that has a frame.
+QRect ramec_textu(const Meritko& m, const Styl& s, const Prvek& prvek) {
+    const MistoRadku r = misto_radku(m, s, prvek);
+    QRect plocha = v_bodech(m, prvek);
+    if (prvek.sirka <= 0)
+        plocha = QRect(QPointF(r.x, r.y).toPoint(),
+                       QSizeF(r.sirka * static_cast<double>(prvek.text->size()), r.vyska).toSize());
+    if (s.druh == Druh::lblPrikaz || s.druh == Druh::lblVolba) // the band is higher than its text
+        plocha.adjust(0, -m.bodu(kPresahRadku), 0, m.bodu(kPresahRadku));
+    return plocha;
+}
+
+void nakresli_napis(QPainter& p, const Meritko& m, const Styl& s, const Prvek& prvek) {
+    const MistoRadku r = misto_radku(m, s, prvek);
+    if (prvek.ramecek && !s.kryje)
+        p.fillRect(ramec_textu(m, s, prvek), barva_qt(prvek.pozadi));
+    if (!prvek.ramecek &&
+        prvek.barva == barvy::cerna) // black on the dark bar: a light ground makes it readable
+        p.fillRect(ramec_textu(m, s, prvek), barva_qt(barvy::seda));
     // The colours are given; where they are too near to each other, a shadow parts the letters from the
-    // ground.
+    // ground. The number of a track on the ground of its note is white: grey drowns in it even so.
+    Barva pismo = prvek.barva;
     if (prvek.ramecek && prvek.barva != prvek.pozadi &&
-        kontrast(prvek.barva, prvek.pozadi) < kNejmensiKontrast)
-        kresli_radek(p, x + m.bodu(1), y + m.bodu(1), sirka, vyska, text, barvy::cerna, s.znaky);
-    kresli_radek(p, x, y, sirka, vyska, text, prvek.barva, s.znaky);
+        kontrast(prvek.barva, prvek.pozadi) < kNejmensiKontrast) {
+        if (s.druh == Druh::cislo_koleje && kontrast(barvy::bila, prvek.pozadi) >= kNejmensiKontrast)
+            pismo = barvy::bila;
+        else
+            kresli_radek(p, r.x + m.bodu(1), r.y + m.bodu(1), r.sirka, r.vyska, prvek.text(), barvy::cerna,
+                         s.znaky);
+    }
+    kresli_radek(p, r.x, r.y, r.sirka, r.vyska, prvek.text(), pismo, s.znaky);
 }
 
 // Lines of a text: at character 13, and with `sirka` columns at the blank before the line would be full.
@@ -372,13 +408,13 @@ void nakresli_popis_vozu(QPainter& p, const Meritko& m, const Prvek& prvek) {
 }
 
 // A platform edge: the bar of its glyph, in one piece over the whole width.
-void nakresli_nastupiste(QPainter& p, const Meritko& m, const Prvek& prvek) {
+void nakresli_nastupiste(QPainter& p, const Meritko& m, const Prvek& prvek, const OkoliCary& okoli) {
     constexpr int kOdshora = 4, kTloustkaHrany = 5; // of the bar in the cell, pixels of the desk
     if (prvek.text->empty())
         return;
     const QRect plocha = v_bodech(m, prvek);
-    p.fillRect(plocha.x(), m.y(prvek.nahore + kOdshora * kTwipu), plocha.width(), m.bodu(kTloustkaHrany),
-               barva_qt(prvek.barva));
+    vypln(p, QRect(plocha.x(), m.y(prvek.nahore + kOdshora * kTwipu), plocha.width(), m.bodu(kTloustkaHrany)),
+          barva_qt(prvek.barva), okoli.texty);
 }
 
 // --- pictures
@@ -459,7 +495,7 @@ void nakresli_ikonu(QPainter& p, const Meritko& m, Druh druh, const Prvek& prvek
         i.cara({{11, 5}, {5, 11}});
         return;
     case Druh::imgV1: // the post office siding
-        i.obdelnik(1.5, 3.5, 13, 9);
+        i.plocha({{1.5, 3.5}, {14.5, 3.5}, {14.5, 12.5}, {1.5, 12.5}}, 0xFF000000);
         i.cara({{1.5, 3.5}, {8, 9}, {14.5, 3.5}});
         return;
     default: return;
@@ -586,7 +622,8 @@ void nakresli_sberac(QPainter& p, const Meritko& m, const Prvek& prvek) {
     i.cara({{8, 4}, {3.5, 9}, {8, 14}, {12.5, 9}, {8, 4}});
 }
 
-// The casing of the signal panel: a mast with the sockets of the lamps that it carries.
+// The casing of the signal panel: a mast of its height on its foot, with the sockets of the lamps that it
+// carries. A dwarf stands on the ground.
 void nakresli_panel(QPainter& p, const Meritko& m) {
     if (!relief.lblnavestidlo.je(0) || !relief.lblnavestidlo[0].viditelny ||
         relief.lblnavestidlo[0].text->empty())
@@ -601,10 +638,11 @@ void nakresli_panel(QPainter& p, const Meritko& m) {
             telo |= v_bodech(m, relief.pruh[n]);
     if (telo.isEmpty())
         return;
-    const int okraj = m.bodu(3), stozar = m.bodu(4);
-    const int pata = m.y(kMistoPanelu.bottom());
-    p.fillRect(telo.center().x() - stozar / 2, telo.bottom(), stozar, std::max(0, pata - telo.bottom()),
-               odstin(0xFF8A939C));
+    const int okraj = m.bodu(3), stozar = m.bodu(4), pata = m.bodu(2), sirka_paty = m.bodu(18);
+    const int dole = telo.bottom() + okraj + m.bodu(kStupenStozaru) * popis.vyska + pata;
+    const QColor barva_stozaru = odstin(0xFF8A939C);
+    p.fillRect(telo.center().x() - stozar / 2, telo.bottom(), stozar, dole - telo.bottom(), barva_stozaru);
+    p.fillRect(telo.center().x() - sirka_paty / 2, dole - pata, sirka_paty, pata, barva_stozaru);
     p.setRenderHint(QPainter::Antialiasing);
     p.setPen(QPen(odstin(0xFF8A939C), std::max(1.0, m.bod())));
     p.setBrush(odstin(0xFF0B0D10));
@@ -629,6 +667,13 @@ void nakresli_obrys(QPainter& p, const QRect& kde, int tl, const QColor& barva) 
     p.fillRect(kde.x(), kde.bottom() - tl + 1, kde.width(), tl, barva);
     p.fillRect(kde.x(), kde.y(), tl, kde.height(), barva);
     p.fillRect(kde.right() - tl + 1, kde.y(), tl, kde.height(), barva);
+}
+
+int stav_vyhybky(const Prvek& prvek) {
+    // The picture is what the logic shows: a moving switch has the state of its end already.
+    if (prvek.obrazek >= 100)
+        return prvek.obrazek - 100;
+    return cele_z_textu(prvek.stav());
 }
 
 bool bere_vstup(Druh druh) {
@@ -694,22 +739,48 @@ QRect misto_vstupu(Druh druh, const Prvek& prvek) {
     return r;
 }
 
-void nakresli_prvek(QPainter& p, const Meritko& m, Druh druh, int n, const Prvek& prvek) {
+QRect misto_textu(const Meritko& m, Druh druh, const Prvek& prvek) {
+    const Styl& s = styl(druh);
+    if (!s.kryje || !prvek.viditelny)
+        return {};
+    if (prvek.ramecek)
+        return ramec_textu(m, s, prvek);
+    const TextPohled text = prvek.text();
+    const std::size_t prvni = text.find_first_not_of(' ');
+    if (prvni == TextPohled::npos)
+        return {};
+    const MistoRadku r = misto_radku(m, s, prvek);
+    const int presah = druh == Druh::cislo_koleje ? m.bodu(kPresahCisla) : 0;
+    const auto kraj = [&](std::size_t znak) {
+        return static_cast<int>(std::lround(r.x + static_cast<double>(znak) * r.sirka));
+    };
+    const int a = kraj(prvni) - presah, b = kraj(text.find_last_not_of(' ') + 1) + presah;
+    return QRect(a, static_cast<int>(std::lround(r.y)), b - a, static_cast<int>(std::lround(r.vyska)));
+}
+
+void nakresli_pozadi_textu(QPainter& p, const Meritko& m, Druh druh, const Prvek& prvek) {
+    if (styl(druh).kryje && prvek.viditelny && prvek.ramecek)
+        p.fillRect(ramec_textu(m, styl(druh), prvek), barva_qt(prvek.pozadi));
+}
+
+void nakresli_prvek(QPainter& p, const Meritko& m, Druh druh, int n, const Prvek& prvek,
+                    const OkoliCary& okoli) {
     if (!prvek.viditelny)
         return;
     const Styl& s = styl(druh);
     switch (s.zpusob) {
     case Zpusob::nic: return;
     case Zpusob::kolej:
-        nakresli_caru(p, m, prvek.x1, prvek.y1, prvek.x2, prvek.y2, barva_qt(prvek.barva), tloustka(m),
-                      m.bodu(kMezeraUseku));
+        nakresli_caru(p, m, prvek, barva_qt(prvek.barva), tloustka(m), m.bodu(kMezeraUseku), okoli);
         return;
-    case Zpusob::most: nakresli_most(p, m, prvek); return;
+    case Zpusob::most: nakresli_most(p, m, prvek, okoli); return;
     case Zpusob::napis: nakresli_napis(p, m, s, prvek); return;
     case Zpusob::odstavec: nakresli_odstavec(p, m, prvek, true); return;
     case Zpusob::radky: nakresli_odstavec(p, m, prvek, false); return;
-    case Zpusob::nastupiste: nakresli_nastupiste(p, m, prvek); return;
-    case Zpusob::vyhybka: nakresli_vyhybku(p, m, prvek.vlevo, prvek.nahore, stav_vyhybky(prvek)); return;
+    case Zpusob::nastupiste: nakresli_nastupiste(p, m, prvek, okoli); return;
+    case Zpusob::vyhybka:
+        nakresli_vyhybku(p, m, prvek.vlevo, prvek.nahore, stav_vyhybky(prvek), okoli);
+        return;
     case Zpusob::cil: nakresli_cil(p, m, n, prvek); return;
     case Zpusob::lampa: nakresli_lampu(p, m, n, prvek); return;
     case Zpusob::znacka: p.fillRect(v_bodech(m, prvek), barva_qt(prvek.barva)); return;
@@ -750,28 +821,32 @@ void nakresli_podklad(QPainter& p, const Meritko& m, const QRect& plocha) {
     nakresli_panel(p, m);
 }
 
-void nakresli_vyhybku(QPainter& p, const Meritko& m, int x, int y, int stav) {
+void nakresli_vyhybku(QPainter& p, const Meritko& m, int x, int y, int stav, const OkoliCary& okoli) {
     const TvarVyhybky& tvar = tvar_vyhybky(stav);
     const QColor seda = barva_qt(barvy::seda);
     const auto trida = static_cast<std::size_t>(std::max(0, stav) / 50);
     const QColor barva = barva_qt(kBarvyTrid[std::min(trida, kBarvyTrid.size() - 1)]);
     const int tl = tloustka(m);
+    const QPointF stred = bod_portu(m, x, y, Port::zadny, tl);
+    const auto noha = [&](Port port, double od, const QColor& cim) {
+        nakresli_rameno(p, stred, bod_portu(m, x, y, port, tl), od, cim, tl, okoli);
+    };
     switch (tvar.druh) {
     case DruhObrazku::zadny: return;
     case DruhObrazku::pohyb:
-        for (const Port noha : tvar.nohy)
-            if (noha != Port::zadny)
-                nakresli_nohu(p, m, x, y, noha, kOdsazeniPohybu, seda, tl);
+        for (const Port port : tvar.nohy)
+            if (port != Port::zadny)
+                noha(port, kOdsazeniPohybu, seda);
         return;
     case DruhObrazku::koncovy:
-        for (const Port noha : tvar.nohy)
-            if (noha != Port::zadny && noha != tvar.a && noha != tvar.b)
-                nakresli_nohu(p, m, x, y, noha, kOdsazeniNohy, seda, tl);
-        nakresli_jizdu(p, m, x, y, tvar.a, tvar.b, barva, tl);
+        for (const Port port : tvar.nohy)
+            if (port != Port::zadny && port != tvar.a && port != tvar.b)
+                noha(port, kOdsazeniNohy, seda);
+        nakresli_jizdu(p, m, x, y, tvar.a, tvar.b, barva, tl, okoli);
         return;
     case DruhObrazku::volny:
-        for (const Port noha : tvar.nohy)
-            nakresli_nohu(p, m, x, y, noha, 0, barva, tl);
+        for (const Port port : tvar.nohy)
+            noha(port, 0, barva);
         return;
     }
 }

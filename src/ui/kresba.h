@@ -8,6 +8,7 @@
 
 #include <QPainter>
 #include <QRect>
+#include <QRegion>
 
 #include <cstdint>
 
@@ -31,6 +32,8 @@ private:
 
 // Does the kind take the operator's input? Only such elements are found by the pointer first.
 bool bere_vstup(Druh druh);
+// State of a switch as its picture shows it.
+int stav_vyhybky(const Prvek& prvek);
 // Layer of the kind under elements of the same drawing order.
 int vrstva(Druh druh);
 
@@ -39,12 +42,26 @@ QRect misto_kresby(Druh druh, int n, const Prvek& prvek);
 // Rectangle in twips that the pointer hits.
 QRect misto_vstupu(Druh druh, const Prvek& prvek);
 
-// Draws the element; nothing when it is not visible.
-void nakresli_prvek(QPainter& p, const Meritko& m, Druh druh, int n, const Prvek& prvek);
+// What surrounds a line: the places of the texts that stand on it, which level lines leave free, and whether
+// it goes on into a switch or a bend past its first and its second end. Sections that lie in one line part by
+// a small gap; a way over switches and bends is one stroke.
+struct OkoliCary {
+    QRegion texty; // device pixels
+    bool dal_od = false, dal_po = false;
+};
+// Place that the text of a sign or label takes from the lines under it, device pixels; empty for other kinds
+// and for blank texts.
+QRect misto_textu(const Meritko& m, Druh druh, const Prvek& prvek);
+// The ground of such a text, where it has one of its own colour.
+void nakresli_pozadi_textu(QPainter& p, const Meritko& m, Druh druh, const Prvek& prvek);
+// Draws the element; nothing when it is not visible. The ground of a text on a line is drawn apart: it lies
+// under the slanted lines, which may touch the corners of its cell.
+void nakresli_prvek(QPainter& p, const Meritko& m, Druh druh, int n, const Prvek& prvek,
+                    const OkoliCary& okoli = {});
 // Text painted on the background.
 void nakresli_napis_pozadi(QPainter& p, const Meritko& m, const NapisPozadi& napis);
 // The signal panel's place: its casing follows the signal that is shown, not single elements. Twips.
-inline constexpr QRect kMistoPanelu(928 * kTwipu, 46 * kTwipu, 92 * kTwipu, 142 * kTwipu);
+inline constexpr QRect kMistoPanelu(928 * kTwipu, 46 * kTwipu, 92 * kTwipu, 156 * kTwipu);
 // The element is drawn in the signal panel.
 bool je_v_panelu(Druh druh);
 // Ground of the desk, on black: the bars and panels that no element stands for.
@@ -52,4 +69,4 @@ void nakresli_podklad(QPainter& p, const Meritko& m, const QRect& plocha);
 // Outline within the rectangle, `tl` device pixels thick.
 void nakresli_obrys(QPainter& p, const QRect& kde, int tl, const QColor& barva);
 // A picture of a switch alone, its cell's corner at (x, y) twips: for the manual and for tests.
-void nakresli_vyhybku(QPainter& p, const Meritko& m, int x, int y, int stav);
+void nakresli_vyhybku(QPainter& p, const Meritko& m, int x, int y, int stav, const OkoliCary& okoli = {});

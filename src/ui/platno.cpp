@@ -1,6 +1,8 @@
 // ui/platno.cpp - the desk as a picture that follows the relief store.
 #include "ui/platno.h"
 
+#include "relief/tvary_vyhybek.h"
+
 #include <QPainter>
 
 #include <algorithm>
@@ -51,6 +53,24 @@ void Platno::serad() {
     };
     std::sort(poradi.begin(), poradi.end(),
               [&](const Polozka& a, const Polozka& b) { return klic(a) < klic(b); });
+}
+
+void Platno::najdi_spoje() {
+    spoje.clear();
+    for (const Polozka& polozka : poradi) {
+        const Prvek& p =
+            nakreslene[static_cast<std::size_t>(polozka.druh)][static_cast<std::size_t>(polozka.n)];
+        if (!p.viditelny)
+            continue;
+        if (polozka.druh == Druh::kolej && p.x1 != p.x2 && p.y1 != p.y2) {
+            spoje.insert({p.x1, p.y1});
+            spoje.insert({p.x2, p.y2});
+        } else if (polozka.druh == Druh::imgVyhybka) {
+            for (const Port port : tvar_vyhybky(stav_vyhybky(p)).nohy)
+                if (port != Port::zadny)
+                    spoje.insert({p.vlevo + misto_portu(port).x, p.nahore + misto_portu(port).y});
+        }
+    }
 }
 
 QRegion Platno::obnov() {
@@ -110,6 +130,8 @@ QRegion Platno::obnov() {
         for (Polozka& p : poradi)
             p.misto = misto_kresby(
                 p.druh, p.n, nakreslene[static_cast<std::size_t>(p.druh)][static_cast<std::size_t>(p.n)]);
+    if (preradit || posunout)
+        najdi_spoje();
     if (vse)
         zmenene = platno.rect();
     vse = false;
@@ -132,12 +154,27 @@ void Platno::kresli(const QRegion& kde) {
     p.fillRect(kde.boundingRect(), Qt::black);
     const QRect stul = v_bodech(QRect(0, 0, sirka_stolu, kVyskaStolu));
     nakresli_podklad(p, m, stul & kde.boundingRect());
+    const auto prvek_polozky = [&](const Polozka& polozka) -> const Prvek& {
+        return nakreslene[static_cast<std::size_t>(polozka.druh)][static_cast<std::size_t>(polozka.n)];
+    };
+    OkoliCary okoli;
+    for (const Polozka& polozka : poradi)
+        if (prvek_polozky(polozka).viditelny && kde.intersects(v_bodech(polozka.misto))) {
+            okoli.texty += misto_textu(m, polozka.druh, prvek_polozky(polozka));
+            nakresli_pozadi_textu(p, m, polozka.druh, prvek_polozky(polozka));
+        }
+    p.save();
+    p.setClipRegion(kde.subtracted(okoli.texty));
     for (const NapisPozadi& napis : nakreslene_napisy)
         nakresli_napis_pozadi(p, m, napis);
+    p.restore();
     const auto nakresli = [&](Druh druh, int n, const QRect& misto) {
         const Prvek& prvek = nakreslene[static_cast<std::size_t>(druh)][static_cast<std::size_t>(n)];
-        if (prvek.viditelny && kde.intersects(v_bodech(misto)))
-            nakresli_prvek(p, m, druh, n, prvek);
+        if (!prvek.viditelny || !kde.intersects(v_bodech(misto)))
+            return;
+        okoli.dal_od = druh == Druh::kolej && navazuje(prvek.x1, prvek.y1);
+        okoli.dal_po = druh == Druh::kolej && navazuje(prvek.x2, prvek.y2);
+        nakresli_prvek(p, m, druh, n, prvek, okoli);
     };
     const auto je = [&](Druh druh, int n) {
         const std::vector<Prvek>& prvky = nakreslene[static_cast<std::size_t>(druh)];

@@ -14,6 +14,8 @@
 
 #include <array>
 #include <optional>
+#include <set>
+#include <utility>
 #include <vector>
 
 struct Nalezeny {
@@ -51,6 +53,8 @@ private:
     };
 
     void serad();
+    void najdi_spoje();
+    bool navazuje(int x, int y) const { return spoje.contains({x, y}); }
     void kresli(const QRegion& kde);
 
     QImage platno;
@@ -58,6 +62,7 @@ private:
     int sirka_stolu = kSirkaStolu;
     std::array<std::vector<Prvek>, kDruhy.size()> nakreslene; // as drawn last
     std::vector<Polozka> poradi;
+    std::set<std::pair<int, int>> spoje; // where switches and slanted lines begin and end, twips
     std::vector<NapisPozadi> nakreslene_napisy;
     PanelNavestidla nakresleny_panel;
     std::uint64_t nakreslena_revize = 0;

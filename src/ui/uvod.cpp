@@ -18,6 +18,7 @@ namespace {
 
 constexpr QSize kVelikost(560, 372); // pixels of the desk
 constexpr int kSledovani_ms = 50;
+constexpr int kKonecZhlavi = 32; // columns of the throat that is drawn
 
 // What a newcomer has to know to set his first route, while he waits.
 constexpr std::array kPrvniKroky = {
@@ -30,18 +31,7 @@ constexpr std::array kPrvniKroky = {
 } // namespace
 
 void nakresli_zhlavi(QPainter& p, const Meritko& m) {
-    const auto kolej = [&](int odkud, int kam, int v_radku, Barva barva) {
-        Prvek k;
-        k.viditelny = true;
-        k.barva = barva;
-        k.x1 = odkud * kSirkaZnaku;
-        k.x2 = kam * kSirkaZnaku;
-        k.y1 = k.y2 = v_radku * kVyskaVyhybky + kOsaRadku;
-        nakresli_prvek(p, m, Druh::kolej, 1, k);
-    };
-    const auto vyhybka = [&](int sloupec, int v_radku, int stav) {
-        nakresli_vyhybku(p, m, sloupec * kSirkaZnaku, v_radku * kVyskaVyhybky, stav);
-    };
+    QRegion navestidla; // their places on the lines
     const auto navestidlo = [&](int sloupec, int v_radku, int kod, Barva barva) {
         Prvek n;
         n.viditelny = true;
@@ -49,14 +39,31 @@ void nakresli_zhlavi(QPainter& p, const Meritko& m) {
         n.text = znak(kod);
         n.vlevo = sloupec * kSirkaZnaku;
         n.nahore = v_radku * kVyskaVyhybky;
+        navestidla += misto_textu(m, Druh::navestidlo, n);
         nakresli_prvek(p, m, Druh::navestidlo, 1, n);
     };
-    kolej(0, 8, 0, barvy::zelena), vyhybka(8, 0, 52), kolej(10, 32, 0, barvy::seda);
-    kolej(0, 10, 1, barvy::seda), vyhybka(10, 1, 61), kolej(12, 14, 1, barvy::zelena);
-    vyhybka(14, 1, 53), kolej(16, 32, 1, barvy::zelena);
-    vyhybka(16, 2, 11), kolej(18, 32, 2, barvy::cervena);
+    const auto kolej = [&](int odkud, int kam, int v_radku, Barva barva) {
+        Prvek k;
+        k.viditelny = true;
+        k.barva = barva;
+        k.x1 = odkud * kSirkaZnaku;
+        k.x2 = kam * kSirkaZnaku;
+        k.y1 = k.y2 = v_radku * kVyskaVyhybky + kOsaRadku;
+        OkoliCary okoli;
+        okoli.texty = navestidla;
+        okoli.dal_od = odkud > 0;
+        okoli.dal_po = kam < kKonecZhlavi;
+        nakresli_prvek(p, m, Druh::kolej, 1, k, okoli);
+    };
+    const auto vyhybka = [&](int sloupec, int v_radku, int stav) {
+        nakresli_vyhybku(p, m, sloupec * kSirkaZnaku, v_radku * kVyskaVyhybky, stav);
+    };
     navestidlo(3, 0, 229, barvy::zelena), navestidlo(19, 0, 230, barvy::seda);
     navestidlo(20, 1, 230, barvy::seda), navestidlo(21, 2, 230, barvy::seda);
+    kolej(0, 8, 0, barvy::zelena), vyhybka(8, 0, 52), kolej(10, kKonecZhlavi, 0, barvy::seda);
+    kolej(0, 10, 1, barvy::seda), vyhybka(10, 1, 61), kolej(12, 14, 1, barvy::zelena);
+    vyhybka(14, 1, 53), kolej(16, kKonecZhlavi, 1, barvy::zelena);
+    vyhybka(16, 2, 11), kolej(18, kKonecZhlavi, 2, barvy::cervena);
 }
 
 QPolygon obrys_uvodu() {

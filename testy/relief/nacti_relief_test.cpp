@@ -158,6 +158,7 @@ TEST_F(SouborReliefu, PictureAtTheEndOfTrack574FollowsIt) {
     nacti({zaznam(T::kolej, 574, 0, "", 1000, 2000, 3000, 4000)});
     EXPECT_EQ(relief.imgV1[0].vlevo(), 2100);
     EXPECT_EQ(relief.imgV1[0].nahore(), 3820);
+    EXPECT_TRUE(relief.imgV1[0].viditelny);
 }
 
 TEST_F(SouborReliefu, MainSignalShowsItsGlyph) {

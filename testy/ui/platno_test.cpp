@@ -263,3 +263,182 @@ TEST_F(Stul, LettersOnAGroundTooNearToThemHaveAShadow) {
     EXPECT_EQ(tmavych(barvy::bila, barvy::cervena), 0);
     EXPECT_EQ(tmavych(barvy::zelena, barvy::zelena), 0);
 }
+
+// --- one stroke
+
+namespace {
+
+// A track line between places of the glyph lattice; halves of a row are its edges.
+void poloz_kolej(int cislo, int x1, int y1, int x2, int y2, Barva barva) {
+    Prvek& k = relief.kolej.zaloz(cislo);
+    k.viditelny = true;
+    k.barva = barva;
+    k.x1 = x1;
+    k.y1 = y1;
+    k.x2 = x2;
+    k.y2 = y2;
+    do_popredi(k);
+}
+
+void poloz_vyhybku(int cislo, int x, int y, int stav) {
+    Prvek& v = relief.imgVyhybka.zaloz(cislo);
+    v.viditelny = true;
+    v.vlevo = x;
+    v.nahore = y;
+    v.stav = std::to_string(stav);
+    do_popredi(v);
+}
+
+} // namespace
+
+// Down from the first row to the fifth: a switch, a slanted line, a bend.
+TEST_F(Stul, RouteOverASwitchAndABendIsOneStrokeAtAnyScale) {
+    constexpr int kRadku = 4;
+    const auto osa = [](int radek) { return kRadek + radek * kVyskaZnaku + kOsaRadku; };
+    relief.kolej[1].viditelny = relief.navestidlo[1].viditelny = false;
+    poloz_kolej(10, 1200, osa(0), 3600, osa(0), barvy::zelena);
+    poloz_vyhybku(1, 3600, kRadek, 52); // locked, from the left to the right below
+    const int roh_x = 3600 + kSirkaVyhybky, roh_y = kRadek + kVyskaVyhybky;
+    const int delka = (osa(kRadku) - roh_y) * kSirkaVyhybky / kVyskaVyhybky;
+    poloz_kolej(11, roh_x, roh_y, roh_x + delka, osa(kRadku), barvy::zelena);
+    poloz_kolej(12, roh_x + delka, osa(kRadku), roh_x + delka + 2400, osa(kRadku), barvy::zelena);
+    for (const double krat : {1.0, 1.25, 1.40625, 1.5, 1.875, 2.0, 2.5}) {
+        platno.nastav_velikost((QSizeF(1024, 768) * krat).toSize(), kSirkaStolu);
+        platno.obnov();
+        const Meritko& m = platno.meritko();
+        const auto bod = [&](double x, double y) { return QPointF(m.x0 + x * m.k, m.y0 + y * m.k); };
+        const QPointF cesta[] = {bod(1300, osa(0)), bod(3600 + kSirkaVyhybky / 2, osa(0)),
+                                 bod(roh_x + delka, osa(kRadku)), bod(roh_x + delka + 2300, osa(kRadku))};
+        for (std::size_t usek = 0; usek + 1 < std::size(cesta); ++usek) {
+            const QPointF od = cesta[usek], po = cesta[usek + 1];
+            const int kroku = static_cast<int>(4 * (po.x() - od.x()));
+            for (int i = 0; i <= kroku; ++i) {
+                const QPointF p = od + (po - od) * i / kroku;
+                const QColor barva = barva_v(static_cast<int>(p.x()), static_cast<int>(p.y()));
+                ASSERT_GT(barva.green(), 200) << krat << "x, " << p.x() << ' ' << p.y();
+                ASSERT_EQ(barva.red(), 0);
+            }
+        }
+        if (HasFailure())
+            return;
+    }
+}
+
+TEST_F(Stul, TwoSectionsOfALinePartByAGap) {
+    poloz_kolej(2, 6000, kRadek + kOsaRadku, 9000, kRadek + kOsaRadku, barvy::seda);
+    platno.obnov();
+    EXPECT_EQ(barva_v(400, 52), QColor(Qt::black));
+    EXPECT_EQ(barva_v(402, 52), QColor(0x80, 0x80, 0x80));
+}
+
+// A slanted line ends in the corner of a cell; its stroke reaches over the edge of the next cell, where a
+// text stands.
+TEST_F(Stul, TextTakesNothingFromASlantedLineAtItsCorner) {
+    const int vlevo = 3840, nahore = kRadek + 2 * kVyskaZnaku;
+    poloz_kolej(2, vlevo - 2 * kSirkaVyhybky, nahore - 2 * kVyskaVyhybky, vlevo, nahore, barvy::bila);
+    for (const bool s_pozadim : {false, true}) {
+        if (relief.cislo_koleje.je(3))
+            relief.cislo_koleje[3].viditelny = false;
+        platno.obnov();
+        const QImage bez_textu = platno.obraz().copy();
+        Prvek& cislo = relief.cislo_koleje.zaloz(3);
+        cislo.viditelny = true;
+        cislo.vlastni_velikost = true;
+        cislo.ramecek = s_pozadim;
+        cislo.pozadi = barvy::cervena;
+        cislo.barva = barvy::bila;
+        cislo.vlevo = vlevo;
+        cislo.nahore = nahore;
+        nastav_text(cislo, "3");
+        platno.obnov();
+        int okraj = 0;
+        for (int y = 0; y < 768; ++y)
+            for (int x = 0; x < 1024; ++x)
+                if (bez_textu.pixelColor(x, y).value() > 150 && QRect(250, 70, 16, 4).contains(x, y)) {
+                    ++okraj;
+                    EXPECT_GE(barva_v(x, y).green(), bez_textu.pixelColor(x, y).green()) << x << ' ' << y;
+                }
+        EXPECT_GT(okraj, 0);
+    }
+}
+
+TEST_F(Stul, LevelLineLeavesRoomForTheTextThatStandsOnIt) {
+    poloz_poznamku(0);
+    platno.obnov();
+    EXPECT_EQ(barva_v((3240 + kSirkaZnaku) / kTwipu - 1, 52), QColor(Qt::black)) << "beside the digit";
+    EXPECT_EQ(barva_v(300, 52), QColor(0x80, 0x80, 0x80));
+}
+
+// --- what has to be read
+
+TEST_F(Stul, NumberOfATrackWithANoteCanBeRead) {
+    poloz_poznamku(0);
+    Prvek& cislo = relief.cislo_koleje[1];
+    cislo.barva = barvy::seda;
+    cislo.ramecek = true;
+    for (const Barva pozadi : {0x808000u, 0xFF0000u, 0x000080u}) {
+        cislo.pozadi = pozadi;
+        platno.obnov();
+        int svetlych = 0;
+        for (int y = 46; y < 59; ++y)
+            for (int x = 216; x < 240; ++x)
+                svetlych += barva_v(x, y).green() > 200 && barva_v(x, y).red() > 200;
+        EXPECT_GT(svetlych, 5) << std::hex << pozadi;
+    }
+}
+
+TEST_F(Stul, WaitingLineOfTheStackCanBeReadWhileItIsBlack) {
+    Prvek& radek = relief.lblZasobnik_blokv[0];
+    radek.viditelny = true;
+    nastav_text(radek, "VC LHO S1 TVH 2");
+    const auto rozsah = [&](Barva barva) {
+        radek.barva = barva;
+        platno.obnov();
+        int tma = 255, svetlo = 0;
+        const QRect kde(radek.vlevo / kTwipu, radek.nahore / kTwipu, 120, 13);
+        for (int y = kde.top(); y <= kde.bottom(); ++y)
+            for (int x = kde.left(); x <= kde.right(); ++x) {
+                tma = std::min(tma, barva_v(x, y).value());
+                svetlo = std::max(svetlo, barva_v(x, y).value());
+            }
+        return svetlo - tma;
+    };
+    EXPECT_GT(rozsah(barvy::bila), 100);
+    EXPECT_GT(rozsah(barvy::cerna), 100);
+}
+
+TEST_F(Stul, MastOfTheSignalPanelHasItsHeight) {
+    for (const Druh druh : {Druh::lblnavestidlo, Druh::lblNavestidlo_stanice}) {
+        Prvek& popisek = tabulka(druh)[0];
+        popisek.viditelny = true;
+        nastav_text(popisek, "S1");
+    }
+    const auto pata = [&](TvarPanelu tvar) { // the lowest row of the panel with anything in it
+        panel_navestidla.tvar = tvar;
+        platno.obnov();
+        for (int y = 210; y > 46; --y)
+            for (int x = 940; x < 1010; ++x)
+                if (barva_v(x, y).value() > 60)
+                    return y;
+        return 0;
+    };
+    const int kratky = pata(TvarPanelu::kratky), stredni = pata(TvarPanelu::bez_zluteho),
+              dlouhy = pata(TvarPanelu::dlouhy);
+    EXPECT_GT(stredni, kratky + 3);
+    EXPECT_GT(dlouhy, stredni + 3);
+    EXPECT_EQ(pata(TvarPanelu::bez_pruhu) > 0, true);
+    panel_navestidla = {};
+}
+
+TEST_F(Stul, PictureAtTheSidingOfThePostIsDrawn) {
+    Prvek& posta = relief.imgV1[0];
+    posta.vlevo = 3000;
+    posta.nahore = 3000;
+    posta.viditelny = true;
+    platno.obnov();
+    int bodu = 0;
+    for (int y = 200; y < 216; ++y)
+        for (int x = 200; x < 216; ++x)
+            bodu += barva_v(x, y).value() > 100;
+    EXPECT_GT(bodu, 30);
+}
