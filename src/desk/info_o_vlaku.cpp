@@ -323,6 +323,33 @@ Text text_vlaku(int vlak) {
     return v->posun ? text_posunu(vlak, *v) : text_jedouciho(*v);
 }
 
+Text souhrn_cisla(TextPohled cislo) {
+    const auto hledane = ciselny_text(cislo);
+    if (!hledane || *hledane < 1)
+        return {};
+    const auto jede = std::find_if(vlaky.begin(), vlaky.end(), [&](const Vlak& v) {
+        return v.cislo >= 1 && !v.posun && zobrazene_cislo(v) == *hledane;
+    });
+    std::optional<Vlak> v;
+    if (jede != vlaky.end())
+        v = *jede;
+    else if (const GvdVlak* radek = radek_s_cislem(*hledane))
+        v = vlak_podle_gvd(*radek);
+    if (!v)
+        return {};
+    Text text(zkratka_druhu(v->cislo2_platne ? v->druh2 : v->druh));
+    text += " " + text_cisla(zobrazene_cislo(*v));
+    if (!orez(v->nazev).empty())
+        text += " " + Text(orez(v->nazev));
+    if (const Text trasa = text_trasy(*v); !trasa.empty())
+        text += "\n" + trasa.substr(1, trasa.size() - 2); // without its brackets
+    text += v->zpozdeni > 0 ? "\n" + Text("zpoždění "_cz) + text_cisla(v->zpozdeni) + " min"
+                            : "\n" + Text("bez zpoždění"_cz);
+    if (!orez(v->pokyn).empty())
+        text += "\n" + Text("kolej podle jízdního řádu "_cz) + Text(orez(v->pokyn));
+    return text;
+}
+
 Text navazny_spoj(TextPohled cislo) {
     const auto hledane = ciselny_text(cislo);
     if (!hledane || *hledane == 0)

@@ -128,13 +128,16 @@ void smaz_hlaseni_zpozdeni(const Vlak& vlak) {
         return radek.find("Zpoždění vlaku"_cz) != Text::npos &&
                (cislo == vlak.cislo || cislo == zobrazene_cislo(vlak));
     };
-    std::vector<Text>& radky = relief.lstZpravy.radky;
-    const auto konec = std::remove_if(radky.begin(), radky.end(), jeho);
-    if (konec == radky.end())
-        return;
-    radky.erase(konec, radky.end());
-    relief.lstZpravy.vybrany = std::min(relief.lstZpravy.vybrany, static_cast<int>(radky.size()) - 1);
-    ++revize_reliefu;
+    Seznam& seznam = relief.lstZpravy;
+    for (std::size_t i = seznam.radky.size(); i-- > 0;) {
+        if (!jeho(seznam.radky[i]))
+            continue;
+        seznam.radky.erase(seznam.radky.begin() + static_cast<std::ptrdiff_t>(i));
+        if (static_cast<int>(i) < seznam.vybrany) // the choice of the operator stays on its train
+            --seznam.vybrany;
+        ++revize_reliefu;
+    }
+    seznam.vybrany = std::min(seznam.vybrany, static_cast<int>(seznam.radky.size()) - 1);
 }
 
 // The standby locomotive of the stabling yard goes out; which side it took decides where the next comes from.

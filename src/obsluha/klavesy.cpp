@@ -97,12 +97,24 @@ void esc() {
 
 // --- the other keys
 
+// The pointer rests over a part of the desk that has a tip and takes no button: the clock picture, the label
+// of the rights, an empty row of the train table.
+bool je_bez_povelu_pod_kurzorem() {
+    switch (vyber.mys_druh) {
+    case Druh::imgToc:
+    case Druh::imgToc2:
+    case Druh::lblPrava: return true;
+    case Druh::lblTabulka_vlaku: return orez(tabulka(vyber.mys_druh)[vyber.mys_prvek].text()).empty();
+    default: return false;
+    }
+}
+
 // Right click on what is under the pointer, or the search of a unit by its name.
 void f2() {
     if (simulace.pauza)
         return;
     pipni_klavesou();
-    if (vyber.mys_nad_prvkem) {
+    if (vyber.mys_nad_prvkem && !je_bez_povelu_pod_kurzorem()) {
         klik(vyber.mys_druh, vyber.mys_prvek, Tlacitko::prave, false);
         return;
     }
@@ -236,7 +248,8 @@ bool klavesa_technologie(const Klavesa& k) {
 } // namespace
 
 bool klavesa(const Klavesa& k) {
-    const bool konec = k.kod == KodKlavesy::f10 && k.ctrl && k.alt;
+    // Ctrl+Alt+F10 is taken by most X servers for themselves; Ctrl+Shift+F10 comes everywhere.
+    const bool konec = k.kod == KodKlavesy::f10 && k.ctrl && (k.alt || k.shift);
     if (prihlaseni_bezi() && !konec && !bere_klavesu(k.kod))
         return ma_ucinek(k);
     if (technologie_kryje_stul() && !konec && k.kod != KodKlavesy::f11)

@@ -38,8 +38,10 @@ bool klik_na_prvek(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
     case Druh::Image1:
         if (leve)
             klik_cil(n);
-        else if (prave && je_cislo_koleje(n)) // its label may be dark, under a shunting movement
+        else if (prave && je_cislo_koleje(n)) { // its label may be dark, under a shunting movement
             menu_koleje(n);
+            menu.misto.reset(); // a long track has its label far away: the menu opens at the pointer
+        }
         return true;
     case Druh::cislo_koleje:
         if (leve)

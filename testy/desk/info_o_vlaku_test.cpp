@@ -474,3 +474,24 @@ TEST_F(InfoVlaku, EmptyPageShowsNothing) {
     EXPECT_EQ(relief.cmdTABULKA[0].barva, barvy::cerna);
     EXPECT_EQ(relief.cmdTABULKA[0].pozadi, 0xE0E0E0);
 }
+
+TEST_F(InfoVlaku, NumberOnTheReliefTellsKindWayDelayAndTrack) {
+    Vlak& v = vlak();
+    v.zpozdeni = 7;
+    v.pokyn = "5k";
+    EXPECT_EQ(souhrn_cisla("1234"),
+              Text("R 1234\nLhotín průj. 10:00 ... Vrbice příj. 10:25\nzpoždění 7 min\n"_cz) +
+                  Text("kolej podle jízdního řádu 5k"_cz));
+    v.zpozdeni = 0;
+    v.pokyn = "";
+    EXPECT_TRUE(obsahuje(souhrn_cisla("1234"), "bez zpoždění"_cz));
+    EXPECT_FALSE(obsahuje(souhrn_cisla("1234"), "kolej"_cz));
+}
+
+TEST_F(InfoVlaku, NumberOfATrainToComeIsToldByTheTimetable) {
+    radek(4321);
+    EXPECT_EQ(souhrn_cisla("4321"),
+              Text("Os 4321\nBorovec průj. 12:00 ... Lhotín příj. 13:20\nbez zpoždění"_cz));
+    EXPECT_EQ(souhrn_cisla("1"), "");
+    EXPECT_EQ(souhrn_cisla("5k"), "");
+}

@@ -121,6 +121,20 @@ TEST_F(Jizda, TrainThatReachesTheExitLeavesTheArea) {
     EXPECT_FALSE(prikaz_radek.obsazen); // Borovec is where it was going
 }
 
+TEST_F(Jizda, SelectedDelayStaysOnItsTrainWhenALineAboveGoes) {
+    const int v = vlak_na(62, true, 1234);
+    zastavky(v, {2}, {-3}, {-3});
+    vlak(v).stanice_index = 0;
+    const Text vybrany("Zpoždění vlaku 12345 +5´"_cz);
+    relief.lstZpravy.radky = {Text("Zpoždění vlaku 77 +5´"_cz), Text("Zpoždění vlaku 1234 +5´"_cz), vybrany,
+                              Text("Zpoždění vlaku 99 +5´"_cz)};
+    relief.lstZpravy.vybrany = 2;
+    cesta(radek(0));
+    ASSERT_TRUE(jed_dokud([&] { return relief.lstZpravy.radky.size() == 3; }));
+    ASSERT_GE(relief.lstZpravy.vybrany, 0);
+    EXPECT_EQ(relief.lstZpravy.radky[static_cast<std::size_t>(relief.lstZpravy.vybrany)], vybrany);
+}
+
 TEST_F(Jizda, WrongExitIsToldButVrbiceAndDubniceAreOneDirection) {
     const int v = vlak_na(62, true, 1234);
     zastavky(v, {2, 6}, {-3, 500}, {480, -3});

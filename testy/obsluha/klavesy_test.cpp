@@ -1,5 +1,6 @@
 // testy/obsluha/klavesy_test.cpp - keys, and their names.
 #include "app/simulace.h"
+#include "desk/menu.h"
 #include "desk/zprava.h"
 #include "obsluha/klavesy.h"
 #include "obsluha/vstup.h"
@@ -130,6 +131,23 @@ TEST_F(Klavesy, F2AsksForAUnitWhenThePointerIsOverNothing) {
     EXPECT_EQ(relief.lblPrikaz[0].pozadi, barvy::azurova);
     EXPECT_EQ(prikaz_radek.rezim_zadani, 4);
     EXPECT_TRUE(relief.txtZadav_pole[0].povoleny);
+}
+
+TEST_F(Klavesy, F2AsksForAUnitOverWhatTakesNoRightButton) {
+    relief.lblTabulka_vlaku[3].text = Text(41, ' ');
+    for (const auto& [druh, n] :
+         {std::pair{Druh::imgToc, 0}, std::pair{Druh::lblPrava, 0}, std::pair{Druh::lblTabulka_vlaku, 3}}) {
+        potvrd_prikaz();
+        relief.txtZadav_pole[0].povoleny = false;
+        najeti(druh, n);
+        stiskni("F2");
+        EXPECT_EQ(relief.lblPrikaz[0].text(), " JEDNOTKA? ") << jmeno_druhu(druh);
+    }
+    potvrd_prikaz();
+    relief.lblTabulka_vlaku[3].text = Text("Os  1234       62m, BOR, 80km/h          ");
+    stiskni("F2");
+    EXPECT_FALSE(prikaz_radek.obsazen) << "a row of a train has a menu";
+    EXPECT_FALSE(menu.jmeno.empty());
 }
 
 TEST_F(Klavesy, F2DuringAPauseDoesNothing) {

@@ -81,6 +81,7 @@ TEST_F(MenuKolejeTest, TrackWhoseLabelIsDarkIsReachedByItsTarget) {
     klik(Druh::Image1, 64, Tlacitko::prave, false);
     EXPECT_EQ(menu.prvek, 64);
     EXPECT_EQ(popisky_vlaku(), std::vector<Text>{"DKVx"});
+    EXPECT_FALSE(menu.misto) << "the label may be far from the place that was clicked";
     zavri_menu();
     relief.Image1.zaloz(999); // a target without a label
     klik(Druh::Image1, 999, Tlacitko::prave, false);
