@@ -47,9 +47,9 @@ int vozu_na_panelu();
 bool vozy_na_panelu_jsou(const Vlak& v);
 // The composed line of a train or a shunting movement.
 Text text_vlaku(int vlak);
-// What a train number on the relief stands for, a line each: category, number and name; from where to where; its
-// delay; its planned track. Of the train that runs under it, else of its row of the timetable; empty for a text
-// that is no number of either.
+// What a train number on the relief stands for, a line each: category, number and name; from where to where;
+// its delay; its planned track. Of the train that runs under it, else of its row of the timetable; empty for
+// a text that is no number of either.
 Text souhrn_cisla(TextPohled cislo);
 // Next work of a set, by the text of a train number: the train that brings its vehicles today, or that
 // train itself, with its arrival at the main station. Empty for 0, an unknown number and no number.

@@ -6,6 +6,7 @@
 #include "ui/hlavni_okno.h"
 #include "ui/parametry.h"
 #include "ui/platforma_qt.h"
+#include "ui/prirucka.h"
 #include "ui/uvod.h"
 #include "ui/vzhled.h"
 #include "ui/zvuk.h"
@@ -72,7 +73,7 @@ void ukaz_hlavni_obrazovku() {
     uvod.reset();
     if (!je_konec()) {
         hlavni_okno->activateWindow();
-        hlavni_okno->obnov();
+        hlavni_okno->ukaz_stul();
     }
 }
 
@@ -122,6 +123,7 @@ int main(int pocet, char** slova) {
     QApplication::setQuitOnLastWindowClosed(false);
     nastav_jazyk(aplikace);
     nastav_vzhled(aplikace);
+    zapni_f1(aplikace);
     nova_simulace();
     zapln_platformu();
     platforma.nech_bezet_ui = nech_bezet_ui;

@@ -16,6 +16,7 @@
 #include "ui/vzhled.h"
 #include "zaklad/cisla.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QCursor>
 #include <QGuiApplication>
@@ -103,6 +104,13 @@ Klavesa klavesa_qt(const QKeyEvent& udalost) {
     for (const Preklad& p : kKlavesy)
         if (p.qt == udalost.key())
             k.kod = p.kod;
+    // Ctrl+Alt+F10 has a name of its own under X, whose server mostly keeps it: where it comes, it is that
+    // key.
+    constexpr quint32 kPrepniTerminal10 = 0x1008FE0A;
+    if (udalost.nativeVirtualKey() == kPrepniTerminal10) {
+        k.kod = KodKlavesy::f10;
+        k.ctrl = k.alt = true;
+    }
     return k;
 }
 
@@ -154,6 +162,15 @@ Text duvod_prvku(const Nalezeny& kde) {
     case Druh::navestidlo_ser: return duvod_u_navestidla(kde.n);
     default: return {};
     }
+}
+
+// The colours of the relief have not been set yet.
+bool je_nenatreny() {
+    for (const TabulkaPrvku* prvky : {&relief.kolej, &relief.navestidlo, &relief.navestidlo_ser})
+        for (int n = 0; n <= prvky->nejvyssi(); ++n)
+            if (prvky->je(n) && (*prvky)[n].barva == barvy::purpurova)
+                return true;
+    return false;
 }
 
 } // namespace
@@ -267,6 +284,26 @@ void HlavniOkno::nastav_kurzor_na_stole(Bod kam) {
     najed(misto);
 }
 
+int HlavniOkno::kapitola_pod_kurzorem() const {
+    if (const auto ktera = otevrena_technologie(); ktera && technologie_kryje_stul())
+        return *ktera == Technologie::provoz2 ? kapitoly::zasobnik : kapitoly::technologie;
+    if (const auto* otevrena = qobject_cast<QMenu*>(QApplication::activePopupWidget())) {
+        const QAction* povel = otevrena->activeAction();
+        if (povel == nullptr) // one that cannot be chosen now
+            povel = otevrena->actionAt(otevrena->mapFromGlobal(QCursor::pos()));
+        return povel != nullptr && !povel->text().isEmpty() ? kapitola_povelu(z_qstring(povel->text()))
+                                                            : kapitola_prvku(menu.druh);
+    }
+    if (!pole->isHidden())
+        return kapitoly::prikazovy_radek;
+    const QPoint misto = mapFromGlobal(QCursor::pos());
+    for (const ZobrazenySeznam& s : seznamy)
+        if (!s.okno->isHidden() && s.okno->geometry().contains(misto))
+            return kapitoly::panel;
+    const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(QPointF(misto) + QPointF(0.5, 0.5)));
+    return kde ? kapitola_prvku(kde->druh) : kapitoly::prvnich_deset_minut;
+}
+
 void HlavniOkno::umisti() {
     sirka_pri_umisteni = sirka_stolu();
     platno.nastav_velikost((QSizeF(size()) * devicePixelRatioF()).toSize(), sirka_pri_umisteni);
@@ -282,9 +319,17 @@ void HlavniOkno::umisti() {
 
 // --- from the core to the screen
 
+void HlavniOkno::ukaz_stul() {
+    natreny_stul = true;
+    update();
+    obnov();
+}
+
 void HlavniOkno::obnov() {
-    if (je_konec())
+    if (je_konec() || (!natreny_stul && je_nenatreny()))
         return;
+    if (!natreny_stul)
+        ukaz_stul(); // a box that tells of the load stands over the desk already
     if (sirka_pri_umisteni != sirka_stolu())
         umisti();
     const QRegion zmenene = platno.obnov();
@@ -656,6 +701,10 @@ bool HlavniOkno::event(QEvent* udalost) {
 
 void HlavniOkno::paintEvent(QPaintEvent* udalost) {
     QPainter p(this);
+    if (!natreny_stul) {
+        p.fillRect(rect(), Qt::black);
+        return;
+    }
     const double pomer = devicePixelRatioF();
     p.scale(1 / pomer, 1 / pomer);
     for (const QRect& r : udalost->region()) {

@@ -31,6 +31,13 @@ public:
     Bod kurzor_na_stole() const;
     void nastav_kurzor_na_stole(Bod kam);
 
+    // Chapter of the manual for what is under the pointer: the picked entry of an open menu, what is being
+    // written, a maintenance screen, an element.
+    int kapitola_pod_kurzorem() const;
+
+    // The simulation has been started or loaded: from now on its picture is shown. Before, the elements are
+    // magenta, which means nothing yet.
+    void ukaz_stul();
     // Takes over what the core has changed: the picture, the lists, the field, the menu.
     void obnov();
 
@@ -77,6 +84,7 @@ private:
     void zmenit_viditelnost_okna();
 
     Platno platno;
+    bool natreny_stul = false; // the picture is shown
     QTimer prekreslovani, blikani_diag;
     ZnackyCasovacu znacky;
     QLineEdit* pole = nullptr;

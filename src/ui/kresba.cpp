@@ -330,8 +330,8 @@ void nakresli_napis(QPainter& p, const Meritko& m, const Styl& s, const Prvek& p
     const MistoRadku r = misto_radku(m, s, prvek);
     if (prvek.ramecek && !s.kryje)
         p.fillRect(ramec_textu(m, s, prvek), barva_qt(prvek.pozadi));
-    if (!prvek.ramecek &&
-        prvek.barva == barvy::cerna) // black on the dark bar: a light ground makes it readable
+    // black on the dark bar: a light ground makes it readable
+    if (!s.kryje && !prvek.ramecek && prvek.barva == barvy::cerna)
         p.fillRect(ramec_textu(m, s, prvek), barva_qt(barvy::seda));
     // The colours are given; where they are too near to each other, a shadow parts the letters from the
     // ground. The number of a track on the ground of its note is white: grey drowns in it even so.

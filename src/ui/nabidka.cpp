@@ -5,7 +5,11 @@
 #include "ui/pismo.h"
 #include "ui/vzhled.h"
 
+#include <QApplication>
+#include <QHelpEvent>
 #include <QLabel>
+#include <QScreen>
+#include <QToolTip>
 #include <QWidgetAction>
 
 #include <utility>
@@ -21,6 +25,36 @@ constexpr const char* kVzhledNabidky =
     "QMenu::right-arrow { width: 0; height: 0; }"; // an arrow of the style would not grow with the desk
 constexpr const char* kVzhledHlavy = "background: #000080; color: #fff; padding: 2px 14px;";
 constexpr const char* kVzhledUdaje = "background: #dfe2e5; color: #20262c; padding: 1px 14px;";
+
+// The tip of an entry stands beside its menu: below the pointer it would cover the next entry.
+class SeSousednimiTipy : public QMenu {
+public:
+    using QMenu::QMenu;
+
+protected:
+    bool event(QEvent* udalost) override {
+        if (udalost->type() != QEvent::ToolTip)
+            return QMenu::event(udalost);
+        const auto* napoveda = static_cast<QHelpEvent*>(udalost);
+        QAction* akce = actionAt(napoveda->pos());
+        if (akce == nullptr || akce->toolTip().isEmpty() || akce->toolTip() == akce->text()) {
+            QToolTip::hideText();
+            return true;
+        }
+        const QRect radek = actionGeometry(akce);
+        QToolTip::showText(napoveda->globalPos(), akce->toolTip(), this, radek);
+        const QRect obrazovka = screen()->geometry();
+        for (QWidget* tip : QApplication::topLevelWidgets())
+            if (tip->inherits("QTipLabel") && tip->isVisible()) {
+                constexpr int kMezera = 3;
+                QPoint kam = mapToGlobal(QPoint(width() + kMezera, radek.top()));
+                if (kam.x() + tip->width() > obrazovka.right())
+                    kam.setX(mapToGlobal(QPoint(-kMezera - tip->width(), 0)).x());
+                tip->move(kam);
+            }
+        return true;
+    }
+};
 
 // A line that cannot be chosen.
 void pridej_radek(QMenu& nabidka, const Text& text, const QString& vzhled) {
@@ -43,7 +77,7 @@ bool je_udaj(const PolozkaMenu& polozka) {
 
 QMenu* postav_nabidku(QWidget* rodic, const Menu& co, const QFont& pismo, double meritko,
                       std::function<void(const Text& jmeno)> zvoleno) {
-    auto* nabidka = new QMenu(rodic);
+    auto* nabidka = new SeSousednimiTipy(rodic);
     nabidka->setStyleSheet(zvetseny_styl(kVzhledNabidky, meritko));
     nabidka->setFont(pismo);
     nabidka->setToolTipsVisible(true);
@@ -68,7 +102,8 @@ QMenu* postav_nabidku(QWidget* rodic, const Menu& co, const QFont& pismo, double
         if (!polozka.podmenu)
             podnabidka = nullptr;
         if (ma_podnabidku) {
-            podnabidka = nabidka->addMenu(na_qstring(polozka.text) + QStringLiteral("\t›"));
+            podnabidka = new SeSousednimiTipy(na_qstring(polozka.text) + QStringLiteral("\t›"), nabidka);
+            nabidka->addMenu(podnabidka);
             podnabidka->setFont(pismo);
             podnabidka->setToolTipsVisible(true);
             continue;

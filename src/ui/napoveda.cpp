@@ -1,7 +1,9 @@
 // ui/napoveda.cpp - what the pointer tells when it rests.
 #include "ui/napoveda.h"
 
+#include "desk/info_o_vlaku.h"
 #include "desk/stitky.h"
+#include "gvd/dopravny.h"
 #include "gvd/gvd.h"
 #include "obsluha/menu_koleje.h"
 #include "prvky/prejezdy_stanice.h"
@@ -10,7 +12,7 @@
 #include "ui/pismo.h"
 #include "zaklad/cisla.h"
 
-#include <cstring>
+#include <algorithm>
 
 namespace {
 
@@ -64,6 +66,37 @@ QString prejezd_na_trati(int n) {
     return cesky("přejezd na trati %1").arg(na_qstring(orez(prejezdy[static_cast<std::size_t>(n)].nazev)));
 }
 
+// A sign at the end of a line or siding is the code of the place that lies behind it; a number after the code
+// is that of the track. A full name stands in its station and needs no word.
+QString kam_vede(TextPohled znacka) {
+    struct Znacka {
+        TextPohled kod;
+        const char* kam;
+        int stanice;
+    };
+    constexpr const char* kTrat = "tady vede trať do stanice %1";
+    constexpr Znacka kZnacky[] = {
+        {"TMK", kTrat, dopravna::mokrina},
+        {"TVH", kTrat, dopravna::vysni_hrabov},
+        {"TRY", kTrat, dopravna::rybnice},
+        {"TDN", "tady vede trať do stanice Tesk %1", dopravna::dolni},
+        {"PST", "tady vede kolej k poště (%1)", dopravna::posta},
+        {"ONA", "tady vede trať do odbočky %1", dopravna::ona},
+        {"ONB", "tady vede trať do odbočky %1", dopravna::onb},
+        {"PLH", kTrat, dopravna::polska_lhota},
+        {"HVO", kTrat, dopravna::hvozdy},
+        {"VRB", kTrat, dopravna::vrbice},
+    };
+    const std::size_t mezera = std::min(znacka.find(' '), znacka.size());
+    for (const Znacka& z : kZnacky)
+        if (z.kod == znacka.substr(0, mezera)) {
+            const QString text = cesky(z.kam).arg(na_qstring(nazev_stanice(z.stanice)));
+            const TextPohled kolej = orez(znacka.substr(mezera));
+            return kolej.empty() ? text : text + cesky(", kolej ") + na_qstring(kolej);
+        }
+    return {};
+}
+
 const char* ucel(Druh druh) {
     switch (druh) {
     case Druh::lblPrikaz:
@@ -96,13 +129,21 @@ QString napoveda_prvku(const Nalezeny& kde) {
     const Prvek& p = tabulka(kde.druh)[kde.n];
     switch (kde.druh) {
     case Druh::Image1: return na_qstring(orez(p.stav())) + poznamky(kde.n);
-    case Druh::cislo_koleje: return na_qstring(orez(p.popis())) + poznamky(prvek_popisku(kde.n));
+    case Druh::cislo_koleje: {
+        const QString kolej = na_qstring(orez(p.popis())) + poznamky(prvek_popisku(kde.n));
+        if (orez(p.text()) == orez(p.popis()))
+            return kolej;
+        const QString vlak = na_qstring(souhrn_cisla(orez(p.text())));
+        return vlak.isEmpty() || kolej.isEmpty() ? vlak + kolej : vlak + u'\n' + cesky("na koleji ") + kolej;
+    }
     case Druh::imgStanoviste: return na_qstring(nazev_stanice(kde.n));
     case Druh::lblSouhlas: return souhlas(kde.n, p);
     case Druh::popis_stanice:
         if (kde.n == 28 || kde.n == 30)
             return cesky("depo: nabídka lokomotiv, které přijedou před bránu");
-        return kde.n == 34 ? cesky("depo: nabídka motorových vozů") : QString();
+        if (kde.n == 34)
+            return cesky("depo: nabídka motorových vozů");
+        return kam_vede(orez(p.text()));
     case Druh::lblPrejezdy:
     case Druh::shpPrejezdy: return prejezd_na_trati(kde.n);
     case Druh::lblPrejezd:
@@ -146,6 +187,98 @@ QString napoveda_popisku(QPoint twipy) {
             return cesky(p.text);
     }
     return {};
+}
+
+int kapitola_prvku(Druh druh) {
+    switch (druh) {
+    case Druh::navestidlo:
+    case Druh::navestidlo_ser: return kapitoly::volba;
+    case Druh::cislo_koleje:
+    case Druh::kolej:
+    case Druh::Image1:
+    case Druh::popis_stanice: return kapitoly::vlaky;
+    case Druh::imgVyhybka: return kapitoly::vyhybky;
+    case Druh::lblPrejezd:
+    case Druh::lblPrejezdy:
+    case Druh::shpPrejezdy: return kapitoly::prejezdy;
+    case Druh::lblSouhlas:
+    case Druh::lblSouhlas2:
+    case Druh::lblPredvidany_odjezd: return kapitoly::souhlasy;
+    case Druh::imgStanoviste:
+    case Druh::cmdZpravy:
+    case Druh::cmDenik:
+    case Druh::cmdTABULKA:
+    case Druh::cmdVLAK:
+    case Druh::lblTabulka_vlaku:
+    case Druh::lblIinfo_o_vlaku:
+    case Druh::imgObrzaek_vlaku:
+    case Druh::lblPopis_vozu:
+    case Druh::imgSberac: return kapitoly::panel;
+    case Druh::lblPrikaz:
+    case Druh::lblVolba:
+    case Druh::txtZadav_pole: return kapitoly::prikazovy_radek;
+    case Druh::lblPN: return kapitoly::privolavaci;
+    case Druh::lblMereni_casu: return kapitoly::ruseni;
+    case Druh::lblMakro_pismeno: return kapitoly::makra;
+    case Druh::lblZasobnik_pocet:
+    case Druh::lblZasobnik_blokv:
+    case Druh::lblZasobnik_EZ:
+    case Druh::lblZasobnik_PV:
+    case Druh::lblZasobnik_VZ: return kapitoly::zasobnik;
+    case Druh::lblrychlost_simulace:
+    case Druh::lblPauza:
+    case Druh::imgPauza:
+    case Druh::imgMinimalizuj:
+    case Druh::imgToc:
+    case Druh::imgToc2:
+    case Druh::imgUloz: return kapitoly::hodiny;
+    case Druh::lblPrava: return kapitoly::prihlaseni;
+    case Druh::imgSound:
+    case Druh::imgDEBUG:
+    case Druh::imgKONEC: return kapitoly::klavesy;
+    case Druh::lblVykolejka: return kapitoly::znacky;
+    default: return kapitoly::prvnich_deset_minut;
+    }
+}
+
+int kapitola_povelu(TextPohled povel) {
+    struct Povel {
+        TextPohled text;
+        int kapitola;
+    };
+    constexpr Povel kPovely[] = {
+        {"STUJ", kapitoly::ruseni},
+        {"DN", kapitoly::ruseni},
+        {"RC", kapitoly::ruseni},
+        {"ZAM", kapitoly::ruseni},
+        {"RNZ", kapitoly::ruseni},
+        {"AB", kapitoly::automat},
+        {"AH", kapitoly::automat},
+        {"VC", kapitoly::volba},
+        {"PC", kapitoly::volba},
+        {"KC", kapitoly::volba},
+        {"PN", kapitoly::privolavaci},
+        {"PPN", kapitoly::privolavaci},
+        {"US", kapitoly::souhlasy},
+        {"UZ", kapitoly::prejezdy},
+        {"ZUZ", kapitoly::prejezdy},
+        {"NOT", kapitoly::prejezdy},
+        {"S+", kapitoly::vyhybky},
+        {"S-", kapitoly::vyhybky},
+        {"S+ b", kapitoly::vyhybky},
+        {"S- b", kapitoly::vyhybky},
+        {"NOUZ", kapitoly::vyhybky},
+        {"PR. VLAKY", kapitoly::panel},
+        {"POPISKY", kapitoly::panel},
+        {"SMAZ", kapitoly::panel},
+        {"STIT", kapitoly::prikazovy_radek},
+        {"NVL", kapitoly::prikazovy_radek},
+        {"VYL", kapitoly::prikazovy_radek},
+    };
+    for (const Povel& p : kPovely)
+        if (p.text == povel)
+            return p.kapitola;
+    return kapitoly::vlaky;
 }
 
 const char* vyklad_povelu(const PolozkaMenu& polozka) {

@@ -565,17 +565,15 @@ void OknoParametru::ukaz() {
     }
 }
 
-// In the middle of the display; with two monitors at the left, so that it does not stand on both.
+// In the middle of the display; with two monitors of the left one, so that it does not stand on both.
 void OknoParametru::umisti() {
     const QScreen* obrazovka = QGuiApplication::primaryScreen();
     if (obrazovka == nullptr)
         return;
     QRect plocha = obrazovka->availableGeometry();
-    const QSize velikost = size();
-    QPoint roh = plocha.center() - QPoint(velikost.width() / 2, velikost.height() / 2);
-    if (parametry.vlevo != kZadny)
-        roh.setX(plocha.left() + parametry.vlevo / kTwipu);
-    move(roh);
+    if (parametry.vlevo != kZadny && plocha.width() > 2 * plocha.height()) // both are one screen
+        plocha.setWidth(plocha.width() / 2);
+    move(plocha.center() - QPoint(width() / 2, height() / 2));
 }
 
 // --- from the operator to the core
@@ -641,7 +639,6 @@ void OknoParametru::keyPressEvent(QKeyEvent* udalost) {
     case Qt::Key_Return:
     case Qt::Key_Enter: start(); return;
     case Qt::Key_Escape: vyber_stranku(parametry.stranka); return;
-    case Qt::Key_F1: prikaz([] { otevri_navod(); }); return;
     case Qt::Key_O:
         if (ctrl) {
             otevri();

@@ -5,7 +5,10 @@
 #include "app/simulace.h"
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
+#include "ui/napoveda.h"
+#include "ui/okna_x11.h"
 #include "ui/pismo.h"
+#include "ui/prirucka.h"
 #include "ui/zvuk.h"
 #include "zaklad/chyba.h"
 #include "zaklad/platforma.h"
@@ -25,7 +28,6 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QMessageBox>
-#include <QPointer>
 #include <QProcess>
 #include <QPushButton>
 #include <QScreen>
@@ -102,36 +104,29 @@ void na_levy_monitor(QDialog& dialog) {
     dialog.move(stul.x() + stul.width() / 4 - dialog.width() / 2, stul.center().y() - dialog.height() / 2);
 }
 
-// The time of the service stands while a box or dialogue is open. Afterwards the keys go back to the window
-// below it, with or without a window manager.
+// The time of the service stands while a box or dialogue is open.
 class Otevrene {
 public:
-    Otevrene() : bezel_cas(zacni_okno()), pod_nim(rodic()) {}
+    Otevrene() : bezel_cas(zacni_okno()) {}
     Otevrene(const Otevrene&) = delete;
     Otevrene& operator=(const Otevrene&) = delete;
-    ~Otevrene() {
-        ukonci_okno(bezel_cas);
-        if (pod_nim != nullptr && pod_nim->isVisible() && QGuiApplication::focusWindow() == nullptr)
-            pod_nim->activateWindow();
-    }
+    ~Otevrene() { ukonci_okno(bezel_cas); }
 
 private:
     bool bezel_cas;
-    QPointer<QWidget> pod_nim;
 };
 
 // A box holds the whole of its text: lines break at blanks, and a path also behind its folders.
 void uprav_zpravu(QMessageBox& box, TextPohled text) {
     constexpr int kDelkaSlova = 24; // what is longer may break anywhere
     QString zprava;
-    int slovo = 0; // letters since the last place for a break
+    int slovo = 0;
     for (const QChar znak : na_qstring(text)) {
         zprava += znak;
         slovo = znak.isSpace() ? 0 : slovo + 1;
-        if (slovo == kDelkaSlova || znak == u'/' || znak == u'\\') {
+        const bool slozka = znak == u'/' || znak == u'\\';
+        if (slovo > 0 && (slozka || slovo % kDelkaSlova == 0))
             zprava += QChar(0x200B); // a break that is not seen
-            slovo = 0;
-        }
     }
     box.setTextFormat(Qt::PlainText);
     box.setText(zprava);
@@ -203,6 +198,42 @@ std::optional<Text> soubor(TextPohled slozka, TextPohled vzor, bool ulozit) {
 QString na_disku(TextPohled cesta) {
     const auto nalezeny = najdi_soubor(cesta);
     return nalezeny ? QString::fromStdString(*nalezeny) : QString();
+}
+
+// A program that has been started has its window only after a while: until then it is looked for.
+QTimer& hledani_okna() {
+    static auto* casovac = new QTimer(qApp);
+    return *casovac;
+}
+bool startuje_program = false;
+
+bool do_popredi(const QString& titul) {
+    constexpr int kHledani_ms = 200, kNejviceHledani = 150;
+    if (cizi_okno_do_popredi(titul))
+        return true;
+    if (startuje_program) {
+        startuje_program = false;
+        QTimer& hledani = hledani_okna();
+        hledani.disconnect();
+        QObject::connect(&hledani, &QTimer::timeout, &hledani,
+                         [titul, &hledani, zbyva = kNejviceHledani]() mutable {
+                             if (cizi_okno_do_popredi(titul) || --zbyva == 0)
+                                 hledani.stop();
+                         });
+        hledani.start(kHledani_ms);
+    }
+    return false;
+}
+
+bool spust_program(TextPohled program) {
+    const QString cesta = na_disku(program);
+    startuje_program =
+        !cesta.isEmpty() && QProcess::startDetached(cesta, {}, QFileInfo(cesta).absolutePath());
+    if (!startuje_program)
+        okno("KPS RVZ TESK", Text("Prohlížeč jízdního řádu není nainstalován: soubor "_cz) + Text(program) +
+                                 Text(cesta.isEmpty() ? " chybí."_cz : " nejde spustit."_cz) +
+                                 Text("\r\n\r\nSimulace stojí, rozběhne ji F10."_cz));
+    return startuje_program;
 }
 
 RezimObrazovky rezim() {
@@ -293,11 +324,11 @@ void zapln_platformu() {
         if (HlavniOkno* hlavni = HlavniOkno::otevrene())
             hlavni->showMinimized();
     };
-    p.spust_program = [](TextPohled program) {
-        const QString cesta = na_disku(program);
-        return !cesta.isEmpty() && QProcess::startDetached(cesta, {}, QFileInfo(cesta).absolutePath());
-    };
+    p.okno_do_popredi = [](TextPohled titul) { return do_popredi(na_qstring(titul)); };
+    p.spust_program = spust_program;
     p.otevri_dokument = [](TextPohled dokument) {
+        if (ukaz_prirucku(kapitoly::spusteni))
+            return true; // the only document there is, as the program shows it itself
         const QString cesta = na_disku(dokument);
         return !cesta.isEmpty() && QDesktopServices::openUrl(QUrl::fromLocalFile(cesta));
     };

@@ -213,6 +213,28 @@ void nakresli_vystrahu(const Pero& pero, const QRect& misto, bool bezi, double k
     text_na_stred(pero, misto, kRizikovaFunkce, bezi ? kBila : kTlumena, krat);
 }
 
+// The head of a list. That of the crossings is a given text whose words stand a little aside of the columns
+// of the rows: each word is drawn over its own column.
+void nakresli_hlavu(const Pero& pero, const OknoSeznamu& okno, const SeznamTechnologie& popis, int vpravo,
+                    bool sloupce) {
+    struct Cast {
+        std::size_t odkud, kam; // first characters in the text and in the row, from 0
+    };
+    constexpr std::array<Cast, 4> kHlavaPrejezduNadSloupci = {{{1, 0}, {19, 19}, {57, 59}, {78, 78}}};
+    constexpr std::array<Cast, 1> kJakJe = {{{0, 0}}};
+    const std::span<const Cast> casti = popis.seznam == &dohled.lblStav_prejezdu
+                                            ? std::span<const Cast>(kHlavaPrejezduNadSloupci)
+                                            : std::span<const Cast>(kJakJe);
+    const double krat = sloupce ? okno.krat : 1;
+    for (std::size_t i = 0; i < casti.size(); ++i) {
+        const std::size_t konec = i + 1 < casti.size() ? casti[i + 1].odkud : popis.nadpis.size();
+        pero.text(okno.roh.x() + 6 + vpravo + (sloupce ? okno.sirka_cisel() : 0) +
+                      static_cast<int>(static_cast<double>(casti[i].kam) * kSirkaBunky * krat),
+                  okno.roh.y() + (krat > 1 ? 1 : 4),
+                  popis.nadpis.substr(casti[i].odkud, konec - casti[i].odkud), kJantar, krat);
+    }
+}
+
 // A condition ends with ANO or NE; one that did not hold is red.
 Barva barva_podminky(TextPohled radek) {
     return radek.size() > 2 && radek.substr(radek.size() - 2) == "NE" ? kCervena : kZelena;
@@ -488,9 +510,7 @@ void ObrazovkaTechnologie::nakresli_seznam(const Pero& pero, Technologie ktera, 
     // a head with columns of its own stands over those of the rows
     const bool sloupce = popis.nadpis.front() == ' ';
     for (int k = 0; k < (sloupce ? okno.sloupcu : 1); ++k)
-        pero.text(okno.roh.x() + 6 + k * sloupec + (sloupce ? okno.sirka_cisel() : 0),
-                  okno.roh.y() + (okno.krat > 1 && sloupce ? 1 : 4), popis.nadpis, kJantar,
-                  sloupce ? okno.krat : 1);
+        nakresli_hlavu(pero, okno, popis, k * sloupec, sloupce);
     pero.obrys(okno.hlava().united(okno.telo()), kRamec);
     const Text& cisla = cisla_seznamu(s);
     for (int i = 0; i < okno.naraz(); ++i) {

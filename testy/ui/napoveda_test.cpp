@@ -2,6 +2,7 @@
 #include "desk/stitky.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
+#include "jizda/vlak.h"
 #include "obsluha/stanoviste.h"
 #include "obsluha/vstup.h"
 #include "pomocne/male_kolejiste.h"
@@ -9,9 +10,11 @@
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
 #include "ui/napoveda.h"
+#include "ui/text_prirucky.h"
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstring>
 #include <functional>
 
@@ -67,6 +70,59 @@ TEST_F(NapovedaStolu, NameIsFollowedByTheNotesOfTheTrack) {
     stitky.push_back({62, "dva vozy", "", "trolej"});
     EXPECT_EQ(napoveda_prvku({Druh::cislo_koleje, 62}), QStringLiteral("K62\nVYL: trolej\nSTIT: dva vozy"));
     EXPECT_EQ(napoveda_prvku({Druh::Image1, 62}), QStringLiteral("cil 62\nVYL: trolej\nSTIT: dva vozy"));
+}
+
+TEST_F(NapovedaStolu, SignAtTheEndOfALineTellsWhereItLeads) {
+    const auto rika = [](TextPohled znacka) {
+        Prvek& p = relief.popis_stanice.zaloz(50);
+        p.text = Text(znacka);
+        return napoveda_prvku({Druh::popis_stanice, 50});
+    };
+    EXPECT_EQ(rika("TMK"), QStringLiteral("tady vede trať do stanice Mokřina"));
+    EXPECT_EQ(rika("TVH"), QStringLiteral("tady vede trať do stanice Vyšní Hrabov"));
+    EXPECT_EQ(rika("TVH 13"), QStringLiteral("tady vede trať do stanice Vyšní Hrabov, kolej 13"));
+    EXPECT_EQ(rika("TRY"), QStringLiteral("tady vede trať do stanice Rybnice"));
+    EXPECT_EQ(rika("TDN"), QStringLiteral("tady vede trať do stanice Tesk dolní n."));
+    EXPECT_EQ(rika("PST"), QStringLiteral("tady vede kolej k poště (Pošta)"));
+    EXPECT_EQ(rika("ONA"), QStringLiteral("tady vede trať do odbočky ONA"));
+    EXPECT_EQ(rika("ONB"), QStringLiteral("tady vede trať do odbočky ONB"));
+    EXPECT_EQ(rika("VYŠNÍ HRABOV"_cz), QString());
+}
+
+TEST_F(NapovedaStolu, TrainNumberTellsOfItsTrainAndOfItsTrack) {
+    Vlak& v = vlaky[0];
+    v.cislo = 651;
+    v.druh = 5;
+    v.stanice = {1, 5};
+    v.prijezd = {-3, 625};
+    v.odjezd = {600, -3};
+    v.zpozdeni = 4;
+    v.pokyn = "3";
+    relief.cislo_koleje[62].text = Text("651");
+    EXPECT_EQ(napoveda_prvku({Druh::cislo_koleje, 62}),
+              QStringLiteral("R 651\nLhotín průj. 10:00 ... Vrbice příj. 10:25\nzpoždění 4 min\n"
+                             "kolej podle jízdního řádu 3\nna koleji K62"));
+}
+
+TEST_F(NapovedaStolu, EveryElementAndCommandHasItsChapterInTheManual) {
+    QTextDocument text;
+    ASSERT_TRUE(nacti_prirucku(text, QStringLiteral(TESK_PRIRUCKA)));
+    const QList<NadpisPrirucky> nadpisy = nadpisy_prirucky(text);
+    const auto ma_kapitolu = [&](int cislo) {
+        return std::any_of(nadpisy.begin(), nadpisy.end(), [&](const NadpisPrirucky& n) {
+            return n.text.startsWith(cislo == 0 ? QStringLiteral("Prvních deset minut")
+                                                : QString::number(cislo) + QStringLiteral(". "));
+        });
+    };
+    for (const PopisDruhu& d : kDruhy) {
+        EXPECT_TRUE(ma_kapitolu(kapitola_prvku(d.druh))) << d.jmeno;
+        if (bere_vstup(d.druh)) {
+            EXPECT_NE(kapitola_prvku(d.druh), kapitoly::prvnich_deset_minut) << d.jmeno;
+        }
+    }
+    for (const char* povel : {"STUJ", "AB", "PN", "NOUZ", "UZ", "US", "STIT", "INFO", "14707"})
+        EXPECT_TRUE(ma_kapitolu(kapitola_povelu(povel))) << povel;
+    EXPECT_EQ(kapitola_povelu("RC"), kapitoly::ruseni);
 }
 
 TEST_F(NapovedaStolu, CommandLineSaysWhatItWaitsFor) {

@@ -1,0 +1,100 @@
+// ui/text_prirucky.cpp - the manual's text laid out.
+#include "ui/text_prirucky.h"
+
+#include <QColor>
+#include <QFile>
+#include <QFontMetricsF>
+#include <QImage>
+#include <QTextBlock>
+#include <QTextCursor>
+#include <QTextTable>
+#include <QUrl>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+void uprav_ramec(const QTextFrame& ramec, const QColor& cara) {
+    for (QTextFrame* dite : ramec.childFrames()) {
+        if (auto* t = qobject_cast<QTextTable*>(dite)) {
+            QTextTableFormat f = t->format();
+            f.setBorder(1);
+            f.setHeaderRowCount(1);
+            f.setBorderCollapse(true);
+            f.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
+            f.setBorderBrush(cara);
+            f.setCellPadding(4);
+            f.setWidth(QTextLength(QTextLength::PercentageLength, 100));
+            t->setFormat(f);
+        }
+        uprav_ramec(*dite, cara);
+    }
+}
+
+// Paragraphs stand apart; those in the cells of tables have their padding.
+void uprav_odstavce(QTextDocument& text) {
+    const double radek = QFontMetricsF(text.defaultFont()).height();
+    for (QTextBlock b = text.begin(); b.isValid(); b = b.next()) {
+        QTextCursor kam(b);
+        if (kam.currentTable() != nullptr)
+            continue;
+        QTextBlockFormat f = b.blockFormat();
+        const int uroven = f.headingLevel();
+        f.setTopMargin(uroven == 0 ? 0 : uroven <= 2 ? 1.2 * radek : 0.6 * radek);
+        f.setBottomMargin(0.45 * radek);
+        kam.setBlockFormat(f);
+    }
+}
+
+} // namespace
+
+bool nacti_prirucku(QTextDocument& text, const QString& soubor) {
+    QFile zdroj(soubor);
+    if (!zdroj.open(QIODevice::ReadOnly))
+        return false;
+    text.setMarkdown(QString::fromUtf8(zdroj.readAll()), QTextDocument::MarkdownDialectGitHub);
+    uprav_odstavce(text);
+    return true;
+}
+
+void uprav_tabulky(QTextDocument& text, const QColor& cara) {
+    uprav_ramec(*text.rootFrame(), cara);
+}
+
+QStringList uprav_obrazky(QTextDocument& text, const QString& slozka, double sirka, double pomer,
+                          double bodu) {
+    std::vector<QTextFragment> obrazky;
+    for (QTextBlock b = text.begin(); b.isValid(); b = b.next())
+        for (auto i = b.begin(); !i.atEnd(); ++i)
+            if (i.fragment().charFormat().isImageFormat())
+                obrazky.push_back(i.fragment());
+    QStringList chybi;
+    for (const QTextFragment& kus : obrazky) {
+        QTextImageFormat f = kus.charFormat().toImageFormat();
+        const QImage obrazek(slozka + u'/' + f.name());
+        if (obrazek.isNull()) {
+            chybi += f.name();
+            continue;
+        }
+        f.setWidth(std::min(obrazek.width() * pomer, sirka));
+        f.setHeight(f.width() * obrazek.height() / obrazek.width());
+        text.addResource(QTextDocument::ImageResource, QUrl(f.name()),
+                         bodu > 0 ? obrazek.scaled(QSizeF(f.width() * bodu, f.height() * bodu).toSize(),
+                                                   Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
+                                  : obrazek);
+        QTextCursor kam(&text);
+        kam.setPosition(kus.position());
+        kam.setPosition(kus.position() + kus.length(), QTextCursor::KeepAnchor);
+        kam.setCharFormat(f);
+    }
+    return chybi;
+}
+
+QList<NadpisPrirucky> nadpisy_prirucky(const QTextDocument& text) {
+    QList<NadpisPrirucky> nadpisy;
+    for (QTextBlock b = text.begin(); b.isValid(); b = b.next())
+        if (const int uroven = b.blockFormat().headingLevel(); uroven == 1 || uroven == 2)
+            nadpisy.push_back({b.text(), b.blockNumber()});
+    return nadpisy;
+}

@@ -1,0 +1,156 @@
+#!/usr/bin/python3
+# testy/obrazovka/prirucka.py - the manual under F1 from everywhere, the timetable viewer under F9, the tips of a
+# menu, and what is seen before and at the end: the start screen on two monitors, the desk that comes up painted.
+import os
+import shutil
+import signal
+import sys
+import time
+
+import stul as s
+
+program, slozka = s.priprav(sys.argv[1:])
+shutil.copytree(os.path.join(sys.argv[2], "navod"), os.path.join(slozka, "navod"))
+VYBRANA_KAPITOLA = (32, 80, 192)
+PURPUROVA = (255, 0, 255)
+PAUZA = (376, 3, 56, 14)
+
+# --- two monitors: the start screen stands in the middle of the left one
+stul = s.Stul(program, slozka, "2048x768")
+obraz = stul.cekej_na("formulář na levém monitoru", lambda o: o.bodu(400, 200, 200, 300, s.BARVA_FORMULARE) > 1000)
+sloupce = [x for x in range(2048) if obraz.bodu(x, 300, 1, 300, s.BARVA_FORMULARE) > 20]
+assert abs(sloupce[0] - (1023 - sloupce[-1])) <= 8, "formulář od %d do %d" % (sloupce[0], sloupce[-1])
+stul.konec()
+
+# --- the start screen
+stul = s.Stul(program, slozka)
+stul.cekej_na("úvodní formulář", s.je_formular)
+KLID = stul.okna()
+
+
+def kapitola(co):
+    """The manual is open: height on the screen of the chapter that is picked in its contents."""
+    def radek(o):
+        return next((y for y in range(40, 760) if o.bodu(330, y, 200, 1, VYBRANA_KAPITOLA) > 60), None)
+
+    return radek(stul.cekej_na("příručka: " + co, lambda o: radek(o) is not None))
+
+
+def zavri_prirucku():
+    stul.tiskni("Escape", "zavřená příručka",
+                lambda: stul.obraz().bodu(330, 40, 200, 720, VYBRANA_KAPITOLA) < 60)
+
+
+stul.tiskni("F1", "příručka nad formulářem", lambda: stul.okna() > KLID)
+prvni = kapitola("formulář")
+stul.obraz("prirucka_formular")
+zavri_prirucku()
+
+# --- the desk comes up in its colours: nothing is magenta on the way
+s.nastav_cas(stul, "12", "00")
+stul.tiskni("Return", "začátek simulace", lambda: not s.je_formular(stul.obraz()))
+
+
+def prihlaseni_bez_purpurove(o):
+    assert o.bodu(0, 46, 1024, 550, PURPUROVA) == 0, "reliéf problikl purpurovou"
+    return s.je_prihlaseni(o)
+
+
+stul.cekej_na("přihlášení INIT", prihlaseni_bez_purpurove, 600)
+for dalsi in ("TPC", "ARCHIV"):
+    predtim = stul.obraz().vyrez(*s.RADEK_PRIKAZU)
+    stul.klavesa("Return")
+    stul.cekej_na("přihlášení " + dalsi, lambda o: s.je_prihlaseni(o) and o.vyrez(*s.RADEK_PRIKAZU) != predtim)
+stul.klavesa("Return")
+stul.cekej_na("prázdný příkazový řádek", lambda o: not s.je_prihlaseni(o))
+stul.oken_v_klidu = stul.okna()
+
+
+def stoji(o):
+    return o.bodu(*PAUZA, (255, 0, 0)) > 100
+
+
+# --- over a signal, a switch, a track; the clock stands meanwhile and runs on afterwards
+NAVESTIDLO, VYHYBKA, CISLO = s.stred(86, 8), (33 * 8, 46 + 8 * 13 + 6), s.stred(61, 8)
+kapitoly = {}
+for co, (x, y) in (("návěstidlo", NAVESTIDLO), ("výhybka", VYHYBKA), ("číslo koleje", CISLO)):
+    stul.ukaz(x, y)
+    time.sleep(0.2)
+    stul.tiskni("F1", "příručka, " + co, lambda: stul.okna() > stul.oken_v_klidu)
+    kapitoly[co] = kapitola(co)
+    stul.cekej_na("čas stojí", stoji)
+    stul.obraz("prirucka")
+    zavri_prirucku()
+    stul.cekej_na("čas zase běží", lambda o: not stoji(o))
+assert prvni < kapitoly["návěstidlo"] < kapitoly["výhybka"] < kapitoly["číslo koleje"], kapitoly
+
+# --- from an open menu: the chapter of the entry that is picked; the tip of an entry leaves the next one free
+stul.klikni(*NAVESTIDLO, 3)
+stul.cekej_na_nabidku()
+obraz = stul.obraz()
+nabidka_x = [x for x in range(1024) if obraz.bodu(x, 40, 1, 400, s.BARVA_NABIDKY) > 60]
+nabidka_y = [y for y in range(40, 760) if obraz.bodu(nabidka_x[0], y, 20, 1, s.BARVA_NABIDKY) > 10]
+misto = (nabidka_x[0], nabidka_y[0], nabidka_x[-1] - nabidka_x[0], nabidka_y[-1] - nabidka_y[0])
+stul.ukaz(misto[0] + 20, misto[1] + misto[3] // 2)
+time.sleep(0.3)
+predtim = stul.obraz()
+stul.cekej("nápověda povelu", lambda: stul.okna() == stul.oken_v_klidu + 2)
+time.sleep(0.3)
+assert s.rozdil(predtim, stul.obraz("napoveda_povelu"), misto) == 0, "nápověda zakryla nabídku"
+stul.ukaz(misto[0] + 20, misto[1] + 26)  # its first entry, STUJ
+time.sleep(0.3)
+stul.klavesa("F1")
+z_nabidky = kapitola("povel nabídky")
+assert kapitoly["návěstidlo"] < z_nabidky < kapitoly["výhybka"], (z_nabidky, kapitoly)
+stul.cekej_bez_nabidky()
+zavri_prirucku()
+
+# --- F9 without a viewer says so, and F1 works from the box too
+stul.tiskni("F9", "zpráva o prohlížeči", lambda: stul.okna() == stul.oken_v_klidu + 1)
+stul.obraz("bez_prohlizece")
+stul.klavesa("F1")
+kapitola("okno se zprávou")
+zavri_prirucku()
+stul.tiskni("Escape", "zavřená zpráva", lambda: stul.okna() == stul.oken_v_klidu)
+stul.cekej_na("pauza po F9", stoji)
+stul.klavesa("F10")
+stul.cekej_na("konec pauzy", lambda o: not stoji(o))
+
+# --- with a viewer: its window comes forward, though it opens behind the desk
+PROHLIZEC = (255, 128, 7)
+with open(os.path.join(slozka, "TeskGVD.exe"), "w", encoding="utf-8") as soubor:
+    soubor.write("""#!%s
+import ctypes, os, time
+open("prohlizec.pid", "w").write(str(os.getpid()))
+x = ctypes.CDLL("libX11.so.6")
+x.XOpenDisplay.restype = ctypes.c_void_p
+x.XDefaultRootWindow.argtypes = x.XFlush.argtypes = [ctypes.c_void_p]
+x.XDefaultRootWindow.restype = x.XCreateSimpleWindow.restype = ctypes.c_ulong
+x.XCreateSimpleWindow.argtypes = [ctypes.c_void_p, ctypes.c_ulong] + 2 * [ctypes.c_int] + 3 * [ctypes.c_uint] + \\
+    2 * [ctypes.c_ulong]
+for f in (x.XLowerWindow, x.XMapWindow):
+    f.argtypes = [ctypes.c_void_p, ctypes.c_ulong]
+x.XStoreName.argtypes = [ctypes.c_void_p, ctypes.c_ulong, ctypes.c_char_p]
+d = x.XOpenDisplay(None)
+w = x.XCreateSimpleWindow(d, x.XDefaultRootWindow(d), 300, 400, 200, 150, 0, 0, 0xFF8007)
+x.XLowerWindow(d, w)
+x.XMapWindow(d, w)
+x.XFlush(d)
+time.sleep(1)
+x.XStoreName(d, w, b"TESKGVD")
+x.XFlush(d)
+time.sleep(600)
+""" % sys.executable)
+os.chmod(os.path.join(slozka, "TeskGVD.exe"), 0o755)
+stul.klavesa("F9")
+stul.cekej_na("prohlížeč vpředu", lambda o: o.bodu(300, 400, 200, 150, PROHLIZEC) > 20000)
+stul.obraz("prohlizec")
+with open(os.path.join(slozka, "prohlizec.pid"), encoding="ascii") as soubor:
+    os.kill(int(soubor.read()), signal.SIGTERM)
+stul.cekej_na("stůl bez prohlížeče", lambda o: o.bodu(300, 400, 200, 150, PROHLIZEC) == 0)
+
+# --- the end by a key, without a question
+stul.klikni(700, 480)
+stul.tiskni("ctrl+shift+F10", "konec programu", lambda: stul.program.poll() is not None)
+assert stul.program.wait() == 0, "program neskončil v pořádku"
+print("v pořádku")
