@@ -12,9 +12,26 @@
 #include "relief/relief.h"
 #include "zaklad/cisla.h"
 
+#include <algorithm>
+
 namespace {
 
 constexpr int kPodruhemVlaku_m = 150; // where a train finds itself when the one before it has left the track
+
+// The train holds the element with an entry in front of j: it has come back over it.
+bool drzi_znovu(const Vlak& vlak, std::size_t j) {
+    for (std::size_t i = std::max(j + 1, static_cast<std::size_t>(vlak.prvek_konec)); i < vlak.prvky.size();
+         ++i)
+        if (vlak.prvky[i] == vlak.prvky[j] && vlak.prvky_druh[i] == vlak.prvky_druh[j])
+            return true;
+    return false;
+}
+
+// A train stands on track j, this one or another. One that was shortened is in the list of the track, and not
+// there.
+bool stoji_na_koleji(int v, std::size_t j) {
+    return drzi_jiny(vlak_c(v).prvky[j], v) || drzi_znovu(vlak_c(v), j);
+}
 
 void uvolni_kolej(int v, std::size_t j) {
     const int e = vlak_c(v).prvky[j];
@@ -31,7 +48,7 @@ void uvolni_kolej(int v, std::size_t j) {
     // The number that stays on the label of a track with two of them goes with its train.
     if (cislovana && !vlak_na_koleji(e))
         smaz_cislo_z_dvou(e, zobrazene_cislo(vlak_c(v)));
-    if (vlak_na_koleji(e) || drzi_jiny(e, v)) {
+    if (stoji_na_koleji(v, j)) {
         nastav_metry(e, kPodruhemVlaku_m);
         return;
     }
@@ -46,11 +63,10 @@ void uvolni_kolej(int v, std::size_t j) {
     nastav_metry(e, 0);
 }
 
-// A track under another train, or under the head itself, stays occupied.
 void uvolni_zkracenou_kolej(int v, std::size_t j) {
-    const int e = vlak_c(v).prvky[j];
-    if (drzi_jiny(e, v) || drzi_prvek(vlak_c(v), e))
+    if (stoji_na_koleji(v, j))
         return;
+    const int e = vlak_c(v).prvky[j];
     barvi_prvek(e, barvy::seda);
     nastav_metry(e, 0);
 }
@@ -62,7 +78,7 @@ void uvolni_vyhybku(int v, std::size_t j) {
         vlak.omezeni_ukonceno = true; // the whole train has cleared the last switch of its route
     const int stav = stav_vyhybky_cislo(n);
     // Reserved or locked since by another route it stays, and so does a calling-on route's own until RNZ.
-    if ((stav < 100 || stav > 150) && drzitel(druh_prvku::vyhybka, n) == nullptr)
+    if ((stav < 100 || stav > 150) && !drzi_znovu(vlak, j) && drzitel(druh_prvku::vyhybka, n) == nullptr)
         uvolni_zaver_vyhybky(n, vlak.prvky_poloha[j]);
 }
 

@@ -383,6 +383,48 @@ TEST_F(Jizda, TailThatLeavesASecondTrainBehindKeepsTheTrackRed) {
     EXPECT_EQ(vlak(druhy).prvky.back(), 62);
 }
 
+// ZKRATIT has left it in the list of the track behind it, where nothing of it stands.
+TEST_F(Jizda, TailThatLeavesATrackOfAShortenedTrainFreesIt) {
+    const int zkraceny = vlak_na(62, true, 22);
+    vlak(zkraceny).prvky = {62, 640};
+    vlak(zkraceny).prvky_druh = {1, 1};
+    vlak(zkraceny).prvky_poloha = {0, 0};
+    barvi_prvek(640, barvy::cervena);
+    const int v = vlak_na(62, true, 11);
+    zkrat_vlak(zkraceny);
+    ASSERT_EQ(relief.kolej[62].barva, barvy::cervena) << "the other one stands there";
+    Vlak& t = vlak(v);
+    t.prvky = {62, 440};
+    t.prvky_druh = {1, 1};
+    t.prvky_poloha = {0, 0};
+    barvi_prvek(440, barvy::cervena);
+    nastav_metry(62, 400);
+    nastav_metry(440, 70);
+    krok();
+    ASSERT_EQ(t.prvek_konec, 1);
+    EXPECT_TRUE(je_volna(62));
+    EXPECT_EQ(metry(62), 0);
+}
+
+// A shunt longer than the track on which it has turned back comes over the track and the switch behind it
+// again.
+TEST_F(Jizda, TailLeavesNothingFreeUnderItsOwnHead) {
+    const int v = vlak_na(440, true, 11);
+    Vlak& t = vlak(v);
+    t.prvky = {440, 7, 63, 7, 440};
+    t.prvky_druh = {1, 2, 1, 2, 1};
+    t.prvky_poloha = {0, 2, 0, 2, 0};
+    barvi_prvek(63, barvy::cervena);
+    vyhybka_stav(7, 152, false, false);
+    nastav_metry(63, 600);
+    nastav_metry(440, 60);
+    t.delka = 500;
+    krok();
+    ASSERT_GE(t.prvek_konec, 2);
+    EXPECT_EQ(relief.kolej[440].barva, barvy::cervena);
+    EXPECT_EQ(stav_vyhybky_cislo(7), 152);
+}
+
 TEST_F(Jizda, SwitchThatAnotherRouteHasLockedIsNotFreedBehindTheTail) {
     for (const bool zavrena : {false, true}) {
         vlaky = prvni_vlaky();
