@@ -37,6 +37,7 @@ for dalsi in ("TPC", "ARCHIV"):
     stul.cekej_na("přihlášení " + dalsi, lambda o: s.je_prihlaseni(o) and o.vyrez(*s.RADEK_PRIKAZU) != predtim)
 stul.klavesa("Return")
 stul.cekej_na("prázdný příkazový řádek", lambda o: not s.je_prihlaseni(o))
+stul.oken_v_klidu = stul.okna()
 
 # once too late: the choice is dropped and the desk says so; Enter, and from the beginning
 stul.klikni(*LHO_S1)
