@@ -101,6 +101,8 @@ bool nacti_pismo(const QString& soubor) {
     return false;
 }
 
+void (*sleduj_radek)(const QPainter& p, const QRectF& kde, TextPohled text) = nullptr;
+
 QString na_qstring(TextPohled text) {
     QString vysledek;
     vysledek.reserve(static_cast<qsizetype>(text.size()));
@@ -128,6 +130,11 @@ QFont pismo_poli(double vyska) {
 void kresli_radek(QPainter& p, double x, double y, double sirka, double vyska, TextPohled text, Barva barva,
                   Znaky znaky) {
     zajisti_nahradu();
+    if (const std::size_t prvni = text.find_first_not_of(' ');
+        sleduj_radek != nullptr && prvni != TextPohled::npos) {
+        const double znaku = static_cast<double>(text.find_last_not_of(' ') + 1 - prvni);
+        sleduj_radek(p, {x + static_cast<double>(prvni) * sirka, y, znaku * sirka, vyska}, text);
+    }
     const QRgb odstin = barva_qt(barva).rgb();
     const int radek = static_cast<int>(std::lround(y));
     for (std::size_t i = 0; i < text.size(); ++i) {

@@ -31,6 +31,10 @@ bool nacti_pismo(const QString& soubor);
 
 // --- at any time
 
+// Told where the letters of each line come that kresli_radek draws: for a look over the screens that measures
+// them. Nobody is told in service.
+extern void (*sleduj_radek)(const QPainter& p, const QRectF& kde, TextPohled text);
+
 QString na_qstring(TextPohled text);
 Text z_qstring(const QString& text);
 QColor barva_qt(Barva barva);

@@ -28,6 +28,7 @@
 #include <QGridLayout>
 #include <QHeaderView>
 #include <QMessageBox>
+#include <QPointer>
 #include <QProcess>
 #include <QPushButton>
 #include <QScreen>
@@ -104,29 +105,36 @@ void na_levy_monitor(QDialog& dialog) {
     dialog.move(stul.x() + stul.width() / 4 - dialog.width() / 2, stul.center().y() - dialog.height() / 2);
 }
 
-// The time of the service stands while a box or dialogue is open.
+// The time of the service stands while a box or dialogue is open. Afterwards the keys go back to the window
+// below it, with or without a window manager.
 class Otevrene {
 public:
-    Otevrene() : bezel_cas(zacni_okno()) {}
+    Otevrene() : bezel_cas(zacni_okno()), pod_nim(rodic()) {}
     Otevrene(const Otevrene&) = delete;
     Otevrene& operator=(const Otevrene&) = delete;
-    ~Otevrene() { ukonci_okno(bezel_cas); }
+    ~Otevrene() {
+        ukonci_okno(bezel_cas);
+        if (pod_nim != nullptr && pod_nim->isVisible() && QGuiApplication::focusWindow() == nullptr)
+            pod_nim->activateWindow();
+    }
 
 private:
     bool bezel_cas;
+    QPointer<QWidget> pod_nim;
 };
 
 // A box holds the whole of its text: lines break at blanks, and a path also behind its folders.
 void uprav_zpravu(QMessageBox& box, TextPohled text) {
     constexpr int kDelkaSlova = 24; // what is longer may break anywhere
     QString zprava;
-    int slovo = 0;
+    int slovo = 0; // letters since the last place for a break
     for (const QChar znak : na_qstring(text)) {
         zprava += znak;
         slovo = znak.isSpace() ? 0 : slovo + 1;
-        const bool slozka = znak == u'/' || znak == u'\\';
-        if (slovo > 0 && (slozka || slovo % kDelkaSlova == 0))
+        if (slovo == kDelkaSlova || znak == u'/' || znak == u'\\') {
             zprava += QChar(0x200B); // a break that is not seen
+            slovo = 0;
+        }
     }
     box.setTextFormat(Qt::PlainText);
     box.setText(zprava);

@@ -80,7 +80,7 @@ def male_kolejiste():
 class Stul:
     """The program on its own virtual screen; ended when the test ends."""
 
-    def __init__(self, program, slozka, velikost="1024x768"):
+    def __init__(self, program, slozka, velikost="1024x768", meritko=1):
         for nastroj in ("Xvfb", "xdotool"):
             if shutil.which(nastroj) is None:
                 print("chybí", nastroj)
@@ -100,8 +100,9 @@ class Stul:
         with os.fdopen(cteni) as roura:  # to the end of the line: the server writes it in two parts
             cislo = roura.readline().strip()
         assert cislo, "Xvfb se nerozběhl"
-        self.prostredi = dict(os.environ, DISPLAY=":" + cislo, QT_QPA_PLATFORM="xcb", QT_SCALE_FACTOR="1",
-                              XDG_CONFIG_HOME=os.path.join(slozka, "nastaveni"), HOME=slozka)
+        self.prostredi = dict(os.environ, DISPLAY=":" + cislo, QT_QPA_PLATFORM="xcb", QT_SCALE_FACTOR=str(meritko),
+                              XDG_CONFIG_HOME=os.path.join(slozka, "nastaveni"), HOME=slozka,
+                              TESK_PROHLIDKA=slozka)
         self.prostredi.pop("WAYLAND_DISPLAY", None)
         self.program = subprocess.Popen([program], cwd=slozka, env=self.prostredi)
         self.oken_v_klidu = 0  # windows of the desk alone, once it runs
@@ -203,6 +204,44 @@ class Stul:
                              capture_output=True, text=True)
         return len(beh.stdout.split())
 
+    # --- what the program that looks over its screens has written
+
+    def nalezy(self, druh=None):
+        """What it has found, of one kind or all of it."""
+        try:
+            with open(os.path.join(self.slozka, "nalezy.txt"), encoding="utf-8") as f:
+                radky = f.read().splitlines()
+        except FileNotFoundError:
+            return []
+        return [r[len(druh) + 1:] for r in radky if r.startswith(druh + " ")] if druh else radky
+
+    def cekej_na_nalez(self, zacatek, nejdele=60):
+        """Until something was seen whose line begins so; a fault ends the wait at once."""
+        self.cekej("nález " + zacatek, lambda: self.bez_vad() or
+                   any(r.startswith(zacatek) for r in self.nalezy()), nejdele)
+
+    def bez_vad(self):
+        """The test fails when something is cut off, covered or wrong."""
+        vady = self.nalezy("vada")
+        if vady:
+            self.obraz("selhalo")
+        assert not vady, "\n".join(vady)
+
+    def mapa(self):
+        """Where elements take input: {(kind, number): (x, y)}, pixels of the screen."""
+        with open(os.path.join(self.slozka, "mapa.txt"), encoding="utf-8") as f:
+            return {(r[0], int(r[1])): (int(r[2]), int(r[3])) for r in map(str.split, f)}
+
+    def stav(self, co):
+        """Lines of the state that begin with the word: "cas", "pauza", "vlak", "denik"."""
+        with open(os.path.join(self.slozka, "stav.txt"), encoding="utf-8") as f:
+            return [r[len(co) + 1:] for r in f.read().splitlines() if r.startswith(co + " ")]
+
+    def cas_s(self):
+        """The simulated clock, seconds of the day."""
+        hodina, minuta, sekunda = map(int, self.stav("cas")[0].split(":"))
+        return hodina * 3600 + minuta * 60 + sekunda
+
     def obraz(self, jmeno=None):
         """The screen as it is now; with a name a picture stays in the folder."""
         with open(os.path.join(self.pamet, "Xvfb_screen0"), "rb") as soubor:
@@ -282,6 +321,17 @@ def priprav(argumenty):
         with open(os.path.join(slozka, "data", "tesk." + pripona), "wb") as soubor:
             soubor.write(male_kolejiste())
     return os.path.join(slozka, os.path.basename(program)), slozka
+
+
+def priprav_celou(argumenty):
+    """The same with the whole junction, as it is installed."""
+    program, instalace, slozka = argumenty
+    if not os.path.exists(os.path.join(instalace, "data", "tesk.rea")):
+        print("instalace nemá kolejiště")
+        sys.exit(PRESKOCENO)
+    shutil.rmtree(slozka, ignore_errors=True)
+    shutil.copytree(instalace, slozka)
+    return shutil.copy(program, slozka), slozka
 
 
 # What tells the screens from one another, in pixels of the 1024 by 768 desk.

@@ -92,5 +92,26 @@ stul.cekej_na("obrazovka PROVOZ 2", lambda o: o.bod(578, 300) == POZADI and o.bo
 stul.klikni(890, 736)
 stul.cekej_na("stůl", lambda o: o.vyrez(*POCET) == prazdny and o.bodu(*PAUZA, (255, 0, 0)) == 0)
 
+# a choice goes from the line with a click on the empty desk; beside a warning it is shown at the end of the line
+VYZVA = (740, 23, 240, 17)
+stul.klikni(*s.stred(86, 8))
+stul.cekej_na("řádek volby", lambda o: o.bodu(*s.RADEK_PRIKAZU, s.ZELENA) > 300)
+stul.klikni(600, 400)
+stul.cekej_na("řádek bez volby", lambda o: o.bodu(*s.RADEK_PRIKAZU, s.ZELENA) == 0)
+stul.nabidka("Down Down", *KOLEJ_2)  # NVL
+stul.cekej_na("pole pro omezení", lambda o: o.bodu(*s.RADEK_PRIKAZU, (0, 255, 255)) > 100)
+stul.xdotool("type", "--delay", 30, "pomalu")
+stul.klavesa("Return")
+stul.cekej_na("odeslané pole", lambda o: o.bodu(*s.RADEK_PRIKAZU, (0, 255, 255)) == 0)
+stul.klikni(*NAVESTIDLO)
+stul.klikni(*KOLEJ_2)
+stul.cekej_na("varování", lambda o: o.bodu(*s.RADEK_PRIKAZU, (255, 0, 0)) > 300)
+assert stul.obraz().bodu(*VYZVA, s.ZELENA) == 0, "výzva stojí bez volby"
+stul.klikni(*s.stred(86, 8))
+stul.cekej_na("volba vedle varování", lambda o: o.bodu(*VYZVA, s.ZELENA) > 500)
+stul.obraz("volba_vedle_varovani")
+stul.klikni(600, 400)
+stul.cekej_na("varování bez volby", lambda o: o.bodu(*VYZVA, s.ZELENA) == 0)
+
 s.ukonci(stul)
 print("v pořádku")

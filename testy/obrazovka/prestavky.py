@@ -1,0 +1,130 @@
+#!/usr/bin/python3
+# testy/obrazovka/prestavky.py - a box that stays open and a process that is stopped hold the time of the service:
+# the clock and the running train go on where they were, without a jump and without an error.
+import os
+import signal
+import struct
+import sys
+import time
+
+import stul as s
+
+program, slozka = s.priprav(sys.argv[1:])
+DRZET_S = 15
+
+
+def pole(tvar, hodnoty):
+    return struct.pack("<Hii", 1, len(hodnoty), 0) + struct.pack("<%d%s" % (len(hodnoty), tvar), *hodnoty)
+
+
+def text(slovo):
+    return struct.pack("<H", len(slovo)) + slovo.encode("cp1250")
+
+
+def texty(slova):
+    return struct.pack("<Hii", 1, len(slova), 0) + b"".join(map(text, slova))
+
+
+def kolejiste():
+    """From Lhotín on the left over a long section to the exit of Borovec on the right."""
+    r = s.Relief()
+    r.kolej(87, 10, 28, 8)
+    r.cislo_koleje(87, 18, 8, " 1 ")
+    r.navestidlo(287, 28, 8, 229, "LHO S1")
+    r.kolej(440, 29, 60, 8)
+    r.vyhybka(1, 60, 8, 3)
+    r.kolej(63, 62, 90, 8)
+    r.cislo_koleje(63, 72, 8, " 2 ")
+    return r.bajty
+
+
+def soubor(jmeno, bajty):
+    with open(os.path.join(slozka, *jmeno.split("/")), "wb") as f:
+        f.write(bajty)
+
+
+for pripona in ("rea", "reb"):
+    soubor("data/tesk." + pripona, kolejiste())
+soubor("data/tesk.top", b"4400999")
+soubor("data/tesk.stg", b"\x01" + pole("B", (255,)) + text("1"))
+soubor("data/tesk.zat", struct.pack("<hh", 287, 63) + pole("h", (87, 440, 1, 63)) + pole("B", (1, 1, 2, 1)) +
+       pole("B", (0, 0, 3, 0)) + b"\0")
+os.remove(os.path.join(slozka, "gvd", "GVD_tichy.dat"))
+soubor("gvd/GVD_vlak.dat", b"\0" * 4 + text("jeden vlak") + pole("B", (1, 2)) + pole("h", (720, -1)) +
+       pole("h", (720, 730)) + struct.pack("<BiBiB", 7, 4711, 0, 0, 0) + text("") +
+       struct.pack("<Bhhhhh", 60, 60, 0, 754, 0, 0) + texty(("754", "B")) + pole("h", (0, 0)) +
+       5 * text("") + struct.pack("<BB", 127, 0))
+
+stul = s.Stul(program, slozka)
+s.prihlas(stul, rychle=True)  # at 12:00
+stul.cekej("mapa stolu", lambda: os.path.exists(os.path.join(slozka, "stav.txt")))
+mapa = stul.mapa()
+
+
+def vlak():
+    """The element where the head of the train is."""
+    radky = stul.stav("vlak")
+    return int(radky[0].split()[1]) if radky else None
+
+
+# the train comes into the long section, and the clock goes back to its own pace
+stul.cekej("čas odjezdu z Lhotína", lambda: vlak() == 87 and 43201 < stul.cas_s() < 43260, 60)
+stul.klikni(*mapa["navestidlo", 287])
+stul.klikni(*s.stred(73, 8))
+stul.cekej("vlak na trati", lambda: vlak() == 440, 60)
+for _ in range(3):
+    stul.klikni(*mapa["lblrychlost_simulace", 0], 3)
+
+
+def jede(cas_pred, nejvic_s):
+    """The clock runs again and has not run ahead; the train is where it was."""
+    stul.cekej("běžící hodiny", lambda: stul.cas_s() != cas_pred, 20)
+    ubehlo = stul.cas_s() - cas_pred
+    assert 0 < ubehlo <= nejvic_s, "hodiny skočily o %d s" % ubehlo
+    assert vlak() == 440, "vlak skočil: %s" % vlak()
+    assert stul.program.poll() is None, "program skončil"
+    assert stul.stav("pauza") == ["0"], "pauza zůstala"
+
+
+def drz(otevri, jmeno, zavri="Escape", pauza_zustane=False, dlouho=DRZET_S):
+    """Opens, looks that all stands for a while, and closes."""
+    otevri()
+    stul.cekej(jmeno, lambda: stul.okna() > stul.oken_v_klidu)
+    time.sleep(0.5)
+    cas = stul.cas_s()
+    time.sleep(dlouho)
+    assert stul.cas_s() == cas, "hodiny běží za oknem: " + jmeno
+    assert stul.stav("pauza") == ["1"], "okno není pauza: " + jmeno
+    stul.tiskni(zavri, "stůl bez okna: " + jmeno, lambda: stul.okna() == stul.oken_v_klidu)
+    time.sleep(0.5)
+    if pauza_zustane:
+        assert stul.stav("pauza") == ["1"], "pauza nezůstala: " + jmeno
+        assert stul.cas_s() == cas
+    else:
+        jede(cas, 4)
+
+
+drz(lambda: stul.klikni(*mapa["imgKONEC", 0]), "otázka na konec")
+drz(lambda: stul.klikni(*mapa["imgDEBUG", 0]), "ladící výpis", "Return")
+
+# a cancelled save leaves the pause that began with it, and a pause stays through a question
+drz(lambda: stul.klavesa("ctrl+s"), "dialog uložení", pauza_zustane=True)
+drz(lambda: stul.klikni(*mapa["imgKONEC", 0]), "otázka v pauze", pauza_zustane=True, dlouho=2)
+stul.klavesa("F10")
+stul.cekej("konec pauzy", lambda: stul.stav("pauza") == ["0"])
+
+# the process is stopped: as if a computer had gone to sleep
+cas = stul.cas_s()
+os.kill(stul.program.pid, signal.SIGSTOP)
+time.sleep(DRZET_S)
+os.kill(stul.program.pid, signal.SIGCONT)
+jede(cas, 4)
+assert any(radek.startswith("Počítač stál 1") for radek in stul.stav("denik")), stul.stav("denik")
+
+# and the train gets to where it was going
+for _ in range(3):
+    stul.klikni(*mapa["lblrychlost_simulace", 0])
+stul.cekej("vlak u cíle", lambda: vlak() != 440, 120)
+stul.bez_vad()
+s.ukonci(stul)
+print("v pořádku")
