@@ -6,7 +6,26 @@ import stul as s
 
 stul = s.Stul(*s.priprav(sys.argv[1:]))
 
-obraz = s.prihlas(stul)
+
+
+def nic_se_nestane():
+    """Nobody is on duty yet: no menu, no field for a text, no picked signal, no other page of the panel."""
+    klid = stul.obraz()
+    for x, y in (s.stred(28, 8), s.stred(32, 8), s.stred(61, 8)):
+        for tlacitko in (3, 1, 2):
+            stul.klikni(x, y, tlacitko)
+    for klavesa in ("F2", "F3", "F8", "F10", "ctrl+s", "Print", "Menu", "Escape"):
+        stul.klavesa(klavesa)
+    stul.klikni(126, 626)
+    stul.ukaz(600, 400)
+    s.time.sleep(0.5)
+    obraz = stul.obraz("prihlaseni")
+    for kde in ((0, 22, 1024, 570), (0, 597, 1024, 171)):
+        assert s.rozdil(klid, obraz, kde) == 0, "při přihlášení se na stole něco změnilo"
+    assert s.plocha_nabidek(obraz) == 0
+
+
+obraz = s.prihlas(stul, pred_prvnim=nic_se_nestane)
 stul.obraz("stul")
 
 # the relief stands: both tracks grey, the crossover between them, the name of the station

@@ -62,6 +62,10 @@ stiskni_az("alt+b", "okno nabídka")
 zavri()
 stiskni_az("alt+o", "okno dialog Načíst")
 zavri()
+for klavesa in ("alt+a", "ctrl+a", "9", "9"):
+    stul.klavesa(klavesa)
+stiskni_az("Return", "okno zpráva „Neplatný čas")
+zavri()
 for pole, hodnota in (("alt+a", "7"), ("Tab", "30")):
     stul.klavesa(pole)
     stul.klavesa("ctrl+a")
@@ -110,7 +114,14 @@ for druh, kolik in (("navestidlo", 2), ("navestidlo_ser", 1), ("imgVyhybka", 3),
             stul.bez_vad()
         zavri()
 
-# --- tips
+# --- tips, also of an entry without effect
+stul.klikni(*mista("imgVyhybka")[0], 3)
+stul.cekej("nabídka výhybky", lambda: stul.okna() > stul.oken_v_klidu)
+time.sleep(0.4)
+stul.ukaz(*stul.polozka("ZAV"))
+stul.cekej_na_nalez("okno nápověda „v této simulaci bez účinku")
+stul.obraz("bez_ucinku")
+zavri()
 for druh in ("navestidlo", "imgStanoviste", "imgUloz", "lblZasobnik_PV"):
     stul.ukaz(*mapa["lblPrava", 0])
     time.sleep(0.3)

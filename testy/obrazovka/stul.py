@@ -232,6 +232,15 @@ class Stul:
         with open(os.path.join(self.slozka, "mapa.txt"), encoding="utf-8") as f:
             return {(r[0], int(r[1])): (int(r[2]), int(r[3])) for r in map(str.split, f)}
 
+    def polozka(self, text):
+        """Middle of the entry in the menu that was opened last."""
+        with open(os.path.join(self.slozka, "nabidka.txt"), encoding="utf-8") as f:
+            for radek in f.read().splitlines():
+                x, y, jeji = radek.split(" ", 2)
+                if jeji == text:
+                    return int(x), int(y)
+        raise AssertionError("nabídka nemá položku " + text)
+
     def stav(self, co):
         """Lines of the state that begin with the word: "cas", "pauza", "vlak", "denik"."""
         with open(os.path.join(self.slozka, "stav.txt"), encoding="utf-8") as f:
@@ -388,9 +397,9 @@ def nastav_cas(stul, hodina, minuta):
     stul.klavesa("Home")
 
 
-def prihlas(stul, krat=1, rychle=False):
+def prihlas(stul, krat=1, rychle=False, pred_prvnim=lambda: None):
     """From the start screen to the running clock, as an operator does it; `rychle` with the highest speed that
-    the start screen offers."""
+    the start screen offers; `pred_prvnim` runs when the login asks first."""
     radek = tuple(krat * x for x in RADEK_PRIKAZU)
     prihlaseni = lambda o: je_prihlaseni(o, krat)
     nastav_cas(stul, "12", "00")
@@ -399,6 +408,7 @@ def prihlas(stul, krat=1, rychle=False):
         stul.klavesa("End")
     stul.tiskni("Return", "začátek simulace", lambda: not je_formular(stul.obraz()))
     stul.cekej_na("přihlášení INIT", prihlaseni, 40)
+    pred_prvnim()
     for dalsi in ("TPC", "ARCHIV"):
         predtim = stul.obraz().vyrez(*radek)
         stul.klavesa("Return")

@@ -5,6 +5,7 @@
 //   nalezy.txt  each line once: "okno", "nabidka" and "obrazovka" with what was seen, "vada" with what is cut
 //               off, covered or off the screen, or what does not hold in the state of the simulation
 //   mapa.txt    "druh cislo x y" of each element that takes input now, pixels of the screen
+//   nabidka.txt "x y text" of each entry of the menu that was opened last
 //   stav.txt    the clock, the pause, each train with its element and its speed, the diary
 #include "app/cas.h"
 #include "app/kontrola.h"
@@ -209,6 +210,17 @@ void zmer_ovladac(const QWidget& w) {
 
 // --- windows
 
+// The file appears whole.
+void zapis_cely(const QString& jmeno, const QString& obsah) {
+    QFile soubor(slozka + u'/' + jmeno + QStringLiteral(".novy"));
+    if (!soubor.open(QIODevice::WriteOnly))
+        return;
+    soubor.write(obsah.toUtf8());
+    soubor.close();
+    std::rename(QFile::encodeName(soubor.fileName()).constData(),
+                QFile::encodeName(slozka + u'/' + jmeno).constData());
+}
+
 QString jmeno_okna(const QWidget& w) {
     if (const auto* box = qobject_cast<const QMessageBox*>(&w))
         return QStringLiteral("zpráva „%1“").arg(box->text().remove(QChar(0x200B)).simplified());
@@ -227,14 +239,20 @@ QString jmeno_okna(const QWidget& w) {
         return QStringLiteral("stůl");
     if (simulace.obrazovka == "frmParametry")
         return QStringLiteral("formulář %1").arg(parametry.stranka);
-    return QStringLiteral("úvod");
+    return simulace.obrazovka == "frmUvod" ? QStringLiteral("úvod") : w.windowTitle();
 }
 
 void zapis_nabidku(const QMenu& m) {
-    for (const QAction* a : m.actions())
-        if (!a->text().isEmpty())
-            zapis(QStringLiteral("nabidka %1|%2|%3")
-                      .arg(bez_podtrzeni(a->text()), a->isEnabled() ? u"lze" : u"nelze", a->toolTip()));
+    QString mista;
+    for (QAction* a : m.actions()) {
+        if (a->text().isEmpty())
+            continue;
+        const QString text = bez_podtrzeni(a->text());
+        zapis(QStringLiteral("nabidka %1|%2|%3").arg(text, a->isEnabled() ? u"lze" : u"nelze", a->toolTip()));
+        const QPoint kde_je = m.mapToGlobal(m.actionGeometry(a).center()) * m.devicePixelRatioF();
+        mista += QStringLiteral("%1 %2 %3\n").arg(kde_je.x()).arg(kde_je.y()).arg(text);
+    }
+    zapis_cely(QStringLiteral("nabidka.txt"), mista);
 }
 
 void prohledni_okno(QWidget& okno) {
@@ -278,17 +296,6 @@ void zmer_prvek(const Meritko& m, Druh druh, int n, const Prvek& prvek) {
         if (r.kde.left() < misto.left() || r.kde.right() > misto.right() ||
             (prvek.vyska > 0 && r.kde.bottom() > misto.bottom()))
             vada(QStringLiteral("text větší než prvek ") + na_qstring(jmeno_druhu(druh)), r.text);
-}
-
-// The file appears whole.
-void zapis_cely(const QString& jmeno, const QString& obsah) {
-    QFile soubor(slozka + u'/' + jmeno + QStringLiteral(".novy"));
-    if (!soubor.open(QIODevice::WriteOnly))
-        return;
-    soubor.write(obsah.toUtf8());
-    soubor.close();
-    std::rename(QFile::encodeName(soubor.fileName()).constData(),
-                QFile::encodeName(slozka + u'/' + jmeno).constData());
 }
 
 void zapis_mapu(const HlavniOkno& okno, const Platno& platno) {
