@@ -1,13 +1,13 @@
 // zaklad/soubory.cpp - files by the system's names.
 #include "zaklad/soubory.h"
 
-#include "zaklad/chyba.h"
-
 #include <algorithm>
 #include <cerrno>
 #include <ctime>
 #include <fcntl.h>
 #include <filesystem>
+#include <string_view>
+#include <sys/file.h>
 #include <sys/stat.h>
 #include <system_error>
 #include <unistd.h>
@@ -120,16 +120,20 @@ std::optional<struct stat> udaje(TextPohled cesta) {
 
 std::uint64_t zmeny = 0;
 
-[[noreturn]] void chyba_zapisu(TextPohled cesta, int duvod) {
+KodChyby kod_zapisu(int duvod) {
     switch (duvod) {
     case ENOSPC:
     case EDQUOT:
-    case EFBIG: chyba(KodChyby::disk_plny, Text(cesta));
+    case EFBIG: return KodChyby::disk_plny;
     case ENOENT:
-    case ENOTDIR: chyba(KodChyby::cesta_nenalezena, Text(cesta));
-    case EIO: chyba(KodChyby::chyba_zarizeni, Text(cesta));
-    default: chyba(KodChyby::pristup_odepren, Text(cesta));
+    case ENOTDIR: return KodChyby::cesta_nenalezena;
+    case EIO: return KodChyby::chyba_zarizeni;
+    default: return KodChyby::pristup_odepren;
     }
+}
+
+[[noreturn]] void chyba_zapisu(TextPohled cesta, int duvod) {
+    chyba(kod_zapisu(duvod), Text(cesta));
 }
 
 // Writes all of it: 0, or the reason why not.
@@ -166,32 +170,89 @@ int zkopiruj_konec(int odkud, std::size_t misto, int kam) {
 }
 
 // A name is on disk only with its folder. A folder that cannot be synchronised is left to the system.
-void uloz_slozku(const std::string& soubor) {
-    const std::size_t lomitko = soubor.rfind('/');
-    const std::string slozka = lomitko == std::string::npos ? "." : soubor.substr(0, lomitko + 1);
-    const int otevrena = ::open(slozka.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+void uloz_slozku(const std::string& slozka) {
+    const int otevrena = ::open(slozka.empty() ? "." : slozka.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (otevrena < 0)
         return;
     const Zavirac zavirac{otevrena};
     ::fsync(otevrena);
 }
 
-// The file that a symbolic link stands for: the operator may keep it elsewhere, and the link is his.
+// The file that a symbolic link stands for, one that has yet to be made included: the operator may keep it
+// elsewhere, and the link is his.
 std::string za_odkazem(const std::string& cil) {
+    constexpr int kNejviceOdkazu = 40;
     std::error_code kod;
-    if (!fs::is_symlink(cil, kod))
-        return cil;
-    const fs::path skutecny = fs::canonical(cil, kod);
-    return kod ? cil : skutecny.string();
+    fs::path soubor = cil;
+    for (int i = 0; i < kNejviceOdkazu && fs::is_symlink(soubor, kod); ++i) {
+        const fs::path dalsi = fs::read_symlink(soubor, kod);
+        if (kod)
+            return cil;
+        soubor = soubor.parent_path() / dalsi; // an absolute one takes the place of all before it
+    }
+    return soubor.string();
+}
+
+// --- the name of new content until it takes its place
+
+constexpr std::string_view kDocasny = ".tesk-", kDocasnyKonec = ".nove";
+constexpr std::time_t kRozepsany_s = 60; // between the making of such a file and its lock lies far less
+
+bool je_docasny(const std::string& jmeno) {
+    return jmeno.size() > kDocasny.size() + kDocasnyKonec.size() && jmeno.starts_with(kDocasny) &&
+           jmeno.ends_with(kDocasnyKonec);
+}
+
+std::string slozka_souboru(const std::string& soubor) {
+    const std::size_t lomitko = soubor.rfind('/');
+    return lomitko == std::string::npos ? std::string() : soubor.substr(0, lomitko + 1);
+}
+
+// What a process left half written when it was killed: nobody holds the lock of it any more.
+void smaz_opustene(const std::string& slozka) {
+    std::error_code kod;
+    for (fs::directory_iterator it(slozka.empty() ? "." : slozka, kod), konec; !kod && it != konec;
+         it.increment(kod)) {
+        if (!je_docasny(it->path().filename().string()))
+            continue;
+        const int soubor = ::open(it->path().c_str(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOFOLLOW);
+        if (soubor < 0)
+            continue;
+        const Zavirac zavirac{soubor};
+        struct stat st {};
+        if (::fstat(soubor, &st) == 0 && S_ISREG(st.st_mode) &&
+            std::time(nullptr) - st.st_mtime > kRozepsany_s && ::flock(soubor, LOCK_EX | LOCK_NB) == 0)
+            ::unlink(it->path().c_str());
+    }
+}
+
+// Opens a new file in the folder, its name this process's own and its lock held: two processes that save one
+// name never write into one file. -1 and errno when it cannot be.
+int otevri_docasny(const std::string& slozka, mode_t prava, std::string& jmeno) {
+    for (int i = 0;; ++i) {
+        jmeno = slozka + std::string(kDocasny) + std::to_string(::getpid()) + "-" + std::to_string(i) +
+                std::string(kDocasnyKonec);
+        const int soubor = ::open(jmeno.c_str(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0644);
+        if (soubor < 0 && errno == EEXIST)
+            continue;
+        if (soubor >= 0) {
+            ::flock(soubor, LOCK_EX | LOCK_NB);
+            if (prava != 0)
+                static_cast<void>(::fchmod(soubor, prava));
+        }
+        return soubor;
+    }
 }
 
 // `obsah`, and behind it what the open file `konec_z` (-1 none) holds beyond that length, is written beside
-// `cil` and put in its place when it is complete on disk.
-void zapis_vedle(TextPohled cesta, const std::string& jmeno, const Bajty& obsah, int konec_z) {
+// `cil` and put in its place when it is complete on disk. `prava`: of the old file, 0 when there is none.
+void zapis_vedle(TextPohled cesta, const std::string& jmeno, const Bajty& obsah, int konec_z, mode_t prava) {
     ++zmeny;
     const std::string cil = za_odkazem(jmeno);
-    const std::string docasny = cil + ".nove";
-    const int soubor = ::open(docasny.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
+    const std::string slozka = slozka_souboru(cil);
+    smaz_opustene(slozka);
+    std::string docasny;
+    const int soubor = otevri_docasny(slozka, prava, docasny);
     if (soubor < 0)
         chyba_zapisu(cesta, errno);
     int duvod = zapis_vse(soubor, obsah.data(), obsah.size());
@@ -199,16 +260,14 @@ void zapis_vedle(TextPohled cesta, const std::string& jmeno, const Bajty& obsah,
         duvod = zkopiruj_konec(konec_z, obsah.size(), soubor);
     if (duvod == 0 && ::fsync(soubor) != 0)
         duvod = errno;
-    if (::close(soubor) != 0 && duvod == 0)
-        duvod = errno;
     if (duvod == 0 && ::rename(docasny.c_str(), cil.c_str()) != 0)
         duvod = errno;
-    if (duvod == 0) {
-        uloz_slozku(cil);
-        return;
-    }
-    ::unlink(docasny.c_str());
-    chyba_zapisu(cesta, duvod);
+    if (duvod != 0)
+        ::unlink(docasny.c_str());
+    ::close(soubor); // and with it the lock: until now the name is held
+    if (duvod != 0)
+        chyba_zapisu(cesta, duvod);
+    uloz_slozku(slozka);
 }
 
 // Both in lower case.
@@ -278,7 +337,8 @@ Bajty nacti_soubor(TextPohled cesta) {
 }
 
 void zapis_soubor(TextPohled cesta, const Bajty& obsah) {
-    zapis_vedle(cesta, cesta_k_zapisu(cesta), obsah, -1);
+    const auto stary = udaje(cesta);
+    zapis_vedle(cesta, cesta_k_zapisu(cesta), obsah, -1, stary ? stary->st_mode & 07777u : 0u);
 }
 
 void prepis_zacatek_souboru(TextPohled cesta, const Bajty& obsah) {
@@ -287,14 +347,62 @@ void prepis_zacatek_souboru(TextPohled cesta, const Bajty& obsah) {
     if (stary < 0 && errno != ENOENT)
         chyba_zapisu(cesta, errno);
     if (stary < 0) {
-        zapis_vedle(cesta, cil, obsah, -1);
+        zapis_vedle(cesta, cil, obsah, -1, 0);
         return;
     }
     const Zavirac zavirac{stary};
     struct stat st {};
     if (::fstat(stary, &st) != 0 || !S_ISREG(st.st_mode))
         chyba(KodChyby::pristup_odepren, Text(cesta));
-    zapis_vedle(cesta, cil, obsah, stary);
+    zapis_vedle(cesta, cil, obsah, stary, st.st_mode & 07777u);
+}
+
+void zaloz_rostouci(RostouciSoubor& soubor, TextPohled cesta) {
+    zavri_rostouci(soubor);
+    ++zmeny;
+    soubor.popisovac =
+        ::open(cesta_k_zapisu(cesta).c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK, 0644);
+    soubor.delka = 0;
+    if (soubor.popisovac < 0)
+        chyba_zapisu(cesta, errno);
+}
+
+std::optional<KodChyby> pripis(RostouciSoubor& soubor, const Bajty& obsah) {
+    const int duvod = zapis_vse(soubor.popisovac, obsah.data(), obsah.size());
+    if (duvod == 0) {
+        soubor.delka += static_cast<std::int64_t>(obsah.size());
+        return std::nullopt;
+    }
+    static_cast<void>(::ftruncate(soubor.popisovac, static_cast<off_t>(soubor.delka)));
+    ::lseek(soubor.popisovac, static_cast<off_t>(soubor.delka), SEEK_SET);
+    return kod_zapisu(duvod);
+}
+
+void zavri_rostouci(RostouciSoubor& soubor) {
+    if (soubor.popisovac >= 0)
+        ::close(soubor.popisovac);
+    soubor = RostouciSoubor{};
+}
+
+bool presun_soubor(TextPohled odkud, TextPohled kam) {
+    ++zmeny;
+    const auto nalezeny = najdi_soubor(odkud);
+    return nalezeny && ::rename(nalezeny->c_str(), cesta_k_zapisu(kam).c_str()) == 0;
+}
+
+// The folder itself carries the lock: no file is left behind in it, and one that cannot be written to has its
+// lock too. The kernel takes it away with the process.
+bool zamkni_slozku(TextPohled slozka, Zamek zamek) {
+    static int drzena = -1; // held to the end of the process
+    const auto nalezena = najdi_soubor(slozka);
+    const int otevrena = nalezena ? ::open(nalezena->c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC) : -1;
+    if (otevrena < 0)
+        return true;
+    if (drzena >= 0)
+        ::close(drzena); // a second lock of this process takes the place of its first one
+    drzena = otevrena;
+    const int druh = zamek == Zamek::jen_ja ? LOCK_EX : LOCK_SH;
+    return ::flock(otevrena, druh | LOCK_NB) == 0 || errno != EWOULDBLOCK;
 }
 
 bool zaloz_slozku(TextPohled cesta) {

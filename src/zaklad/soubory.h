@@ -8,6 +8,7 @@
 #pragma once
 
 #include "zaklad/balik.h"
+#include "zaklad/chyba.h"
 #include "zaklad/text.h"
 
 #include <cstdint>
@@ -27,16 +28,30 @@ std::optional<std::int64_t> delka_souboru(TextPohled cesta);
 // The whole file; the run-time error 53 when it is missing, 70 when it cannot be read, 7 when it is
 // longer than 64 MiB, which no file of the system is.
 Bajty nacti_soubor(TextPohled cesta);
-// Whole new content, written beside the old file and put in its place only when it is complete on
-// disk, so that a fault leaves the old file as it was. Run-time error 61, 70 or 76 on a fault.
+// Whole new content, written beside the old file under a name of its own and put in its place only when
+// it is complete on disk, so that neither a fault nor another process leaves half a file. Run-time error 61,
+// 70 or 76 on a fault.
 void zapis_soubor(TextPohled cesta, const Bajty& obsah);
 // New content at the beginning of a file that is not shortened: what an older, longer file holds behind it
 // stays. As safe as zapis_soubor; a file that may not be written is refused (70) although its folder may.
 void prepis_zacatek_souboru(TextPohled cesta, const Bajty& obsah);
+// A file that only grows.
+struct RostouciSoubor {
+    int popisovac = -1;     // of the open file; -1 none
+    std::int64_t delka = 0; // bytes that are surely in it
+};
+// Makes it anew; run-time error 70 or 76 when it cannot be.
+void zaloz_rostouci(RostouciSoubor& soubor, TextPohled cesta);
+// Appends all or nothing: after a fault the file ends where it did.
+std::optional<KodChyby> pripis(RostouciSoubor& soubor, const Bajty& obsah);
+void zavri_rostouci(RostouciSoubor& soubor);
+
 // Makes the folder; false on a fault (an existing folder is no fault).
 bool zaloz_slozku(TextPohled cesta);
 // Removes a file; false when there was none or it stays.
 bool smaz_soubor(TextPohled cesta);
+// Gives a file another name; false when there was none or it stays.
+bool presun_soubor(TextPohled odkud, TextPohled kam);
 // Names (without folder) of the files of a folder that match a pattern with "*" and "?", in any case,
 // sorted by byte order of their lower-case form.
 std::vector<Text> soubory_slozky(TextPohled slozka, TextPohled vzor);
@@ -48,3 +63,11 @@ std::uint64_t otisk_souboru(TextPohled cesta);
 // How many files this process has written or removed so far: for caches that look at the disk only now
 // and then.
 std::uint64_t vlastni_zmeny();
+
+enum class Zamek : std::uint8_t {
+    jen_ja,   // of one program alone
+    s_jinymi, // of several that share
+};
+// Takes the lock of a folder for this process, to its end. False when another process holds one that does
+// not go with it; a folder that has no locks, or is none, locks nobody out.
+bool zamkni_slozku(TextPohled slozka, Zamek zamek);

@@ -5,13 +5,16 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <fcntl.h>
 #include <fstream>
 #include <functional>
+#include <sys/file.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 namespace {
@@ -130,21 +133,22 @@ TEST_F(Soubory, WrittenFileIsWhole) {
     EXPECT_EQ(delka_souboru(slozka.cesta + "save.sim"), 2);
 }
 
-TEST_F(Soubory, FailedWriteKeepsTheOldFile) {
-    poloz("save.sim", "stary");
-    fs::create_directory(na_disku("save.sim.nove")); // the new content cannot be laid beside it
+TEST_F(Soubory, FailedWriteLeavesNothingBeside) {
+    fs::create_directory(na_disku("save.sim")); // in the way of the new content
+    poloz("save.sim/uvnitr", "stary");
     EXPECT_EQ(kod([&] { zapis_soubor(slozka.cesta + "save.sim", {1, 2, 3}); }), 70);
-    EXPECT_EQ(cti("save.sim"), "stary");
+    EXPECT_EQ(cti("save.sim\\uvnitr"), "stary");
+    EXPECT_EQ(std::distance(fs::directory_iterator(na_disku("")), fs::directory_iterator()), 1);
 }
 
-TEST_F(Soubory, FullDiskKeepsTheOldFileAndLeavesNothingBeside) {
-    if (!fs::exists("/dev/full"))
-        GTEST_SKIP() << "no /dev/full here";
-    poloz("save.sim", "stary");
-    fs::create_symlink("/dev/full", na_disku("save.sim.nove"));
-    EXPECT_EQ(kod([&] { zapis_soubor(slozka.cesta + "save.sim", {1, 2, 3}); }), 61);
-    EXPECT_EQ(cti("save.sim"), "stary");
-    EXPECT_FALSE(fs::is_symlink(na_disku("save.sim.nove")));
+TEST_F(Soubory, FolderThatMayNotBeWrittenKeepsTheOldFile) {
+    if (::geteuid() == 0)
+        GTEST_SKIP() << "nothing is forbidden to this user";
+    poloz("slozka/save.sim", "stary");
+    fs::permissions(na_disku("slozka"), fs::perms::owner_read | fs::perms::owner_exec);
+    EXPECT_EQ(kod([&] { prepis_zacatek_souboru(slozka.cesta + "slozka\\save.sim", {1, 2, 3}); }), 70);
+    EXPECT_EQ(cti("slozka\\save.sim"), "stary");
+    fs::permissions(na_disku("slozka"), fs::perms::owner_all);
 }
 
 TEST_F(Soubory, LimitOfTheFileSizeIsAFullDisk) {
@@ -240,6 +244,114 @@ TEST_F(Soubory, TimeOfChangeIsLocalWallClockTime) {
     ::localtime_r(&t, &mistni);
     EXPECT_EQ(cas_zmeny(slozka.cesta + "a"), 1'767'600'000 + mistni.tm_gmtoff);
     EXPECT_EQ(cas_zmeny(slozka.cesta + "b"), std::nullopt);
+}
+
+// --- two programs in one folder
+
+TEST_F(Soubory, TwoProcessesThatWriteOneNameAndAreKilledLeaveOneWholeFile) {
+    constexpr std::size_t kDelka = 400'000;
+    const Text cil = slozka.cesta + "hra.sim";
+    zapis_soubor(cil, Bajty(kDelka, 'z'));
+    for (int pokus = 0; pokus < 150; ++pokus) {
+        std::vector<pid_t> deti;
+        for (const std::uint8_t znak : {'a', 'b'}) {
+            const pid_t dite = fork();
+            if (dite == 0)
+                for (;;)
+                    zapis_soubor(cil, Bajty(kDelka, znak));
+            deti.push_back(dite);
+        }
+        usleep(static_cast<useconds_t>(1000 + pokus * 137 % 6000));
+        for (const pid_t dite : deti) {
+            kill(dite, SIGKILL);
+            waitpid(dite, nullptr, 0);
+        }
+        const Bajty obsah = nacti_soubor(cil);
+        ASSERT_EQ(obsah.size(), kDelka) << pokus;
+        ASSERT_EQ(std::count(obsah.begin(), obsah.end(), obsah.front()), static_cast<long>(kDelka)) << pokus;
+    }
+}
+
+TEST_F(Soubory, LeftoversOfKilledProcessesGoWithTheNextWrite) {
+    const auto davny = [&](const std::string& jmeno) {
+        poloz(jmeno, "pul");
+        fs::last_write_time(na_disku(jmeno), fs::file_time_type::clock::now() - std::chrono::minutes(5));
+    };
+    davny(".tesk-1-0.nove");
+    davny(".tesk-2-0.nove");
+    poloz(".tesk-3-0.nove", "prave vznika");
+    davny("moje.nove");
+    const int drzi = ::open(na_disku(".tesk-2-0.nove").c_str(), O_WRONLY); // another process writes it
+    ASSERT_EQ(::flock(drzi, LOCK_EX | LOCK_NB), 0);
+    zapis_soubor(slozka.cesta + "hra.sim", {1});
+    EXPECT_FALSE(fs::exists(na_disku(".tesk-1-0.nove")));
+    EXPECT_TRUE(fs::exists(na_disku(".tesk-2-0.nove")));
+    EXPECT_TRUE(fs::exists(na_disku(".tesk-3-0.nove")));
+    EXPECT_TRUE(fs::exists(na_disku("moje.nove")));
+    ::close(drzi);
+    EXPECT_EQ(soubory_slozky(slozka.cesta, ".tesk-" + std::to_string(::getpid()) + "*").size(), 0u);
+}
+
+TEST_F(Soubory, LinkToAFileThatIsYetToBeMadeStaysALink) {
+    fs::create_directories(na_disku("jinde"));
+    fs::create_symlink("jinde/pravy.sim", na_disku("odkaz.sim"));
+    zapis_soubor(slozka.cesta + "odkaz.sim", {7});
+    EXPECT_TRUE(fs::is_symlink(na_disku("odkaz.sim")));
+    EXPECT_EQ(nacti_soubor(slozka.cesta + "jinde\\pravy.sim"), Bajty{7});
+    fs::create_symlink("kruh.sim", na_disku("kruh.sim"));
+    EXPECT_NE(kod([&] { prepis_zacatek_souboru(slozka.cesta + "kruh.sim", {7}); }), 0);
+    EXPECT_TRUE(fs::is_symlink(na_disku("kruh.sim")));
+}
+
+TEST_F(Soubory, RightsOfAFileStayAsTheOperatorHasSetThem) {
+    poloz("hra.sim", "stara");
+    for (const mode_t prava : {0600u, 0664u}) {
+        ASSERT_EQ(::chmod(na_disku("hra.sim").c_str(), prava), 0);
+        prepis_zacatek_souboru(slozka.cesta + "hra.sim", {1, 2});
+        struct stat st {};
+        ASSERT_EQ(::stat(na_disku("hra.sim").c_str(), &st), 0);
+        EXPECT_EQ(st.st_mode & 07777u, prava);
+    }
+}
+
+TEST_F(Soubory, LockOfAFolderIsSharedByThoseThatShareAndByNoOther) {
+    const auto v_jinem_procesu = [&](Zamek zamek) {
+        const pid_t dite = fork();
+        if (dite == 0)
+            _exit(zamkni_slozku(slozka.cesta, zamek) ? 0 : 1);
+        int stav = 0;
+        waitpid(dite, &stav, 0);
+        return WIFEXITED(stav) && WEXITSTATUS(stav) == 0;
+    };
+    EXPECT_TRUE(zamkni_slozku(slozka.cesta, Zamek::s_jinymi));
+    EXPECT_TRUE(v_jinem_procesu(Zamek::s_jinymi));
+    EXPECT_FALSE(v_jinem_procesu(Zamek::jen_ja));
+    EXPECT_TRUE(zamkni_slozku(slozka.cesta, Zamek::jen_ja));
+    EXPECT_FALSE(v_jinem_procesu(Zamek::s_jinymi));
+    EXPECT_FALSE(v_jinem_procesu(Zamek::jen_ja));
+    const DocasnaSlozka jina;
+    EXPECT_TRUE(zamkni_slozku(jina.cesta, Zamek::jen_ja)); // and leaves the first one
+    EXPECT_TRUE(v_jinem_procesu(Zamek::jen_ja));
+    EXPECT_TRUE(zamkni_slozku(slozka.cesta + "neni", Zamek::jen_ja));
+}
+
+TEST_F(Soubory, WhatAFullDiskDoesNotTakeIsNotLeftHalfInAGrowingFile) {
+    RostouciSoubor soubor;
+    zaloz_rostouci(soubor, slozka.cesta + "denik");
+    EXPECT_FALSE(pripis(soubor, Bajty(3000, 'a')));
+    rlimit puvodni{};
+    getrlimit(RLIMIT_FSIZE, &puvodni);
+    const rlimit mez{5000, puvodni.rlim_max};
+    std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &mez);
+    EXPECT_EQ(pripis(soubor, Bajty(3000, 'b')), KodChyby::disk_plny);
+    EXPECT_EQ(delka_souboru(slozka.cesta + "denik"), 3000);
+    setrlimit(RLIMIT_FSIZE, &puvodni);
+    std::signal(SIGXFSZ, SIG_DFL);
+    EXPECT_FALSE(pripis(soubor, Bajty(3000, 'c')));
+    zavri_rostouci(soubor);
+    const Text obsah = cti("denik");
+    EXPECT_EQ(obsah, Text(3000, 'a') + Text(3000, 'c'));
 }
 
 } // namespace
