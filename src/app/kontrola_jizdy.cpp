@@ -181,7 +181,9 @@ void nacti_sousedy() {
     const std::array<Text, 2> soubory = {simulace.cesta_aplikace + "data\\tesk.zat",
                                          simulace.cesta_aplikace + "data\\tesk.zpc"};
     const std::array<std::uint64_t, 2> otisky = {otisk_souboru(soubory[0]), otisk_souboru(soubory[1])};
-    if (otisky == sousedi.otisky && sousedi.slozka == simulace.cesta_aplikace)
+    const bool stejna_slozka = sousedi.slozka == simulace.cesta_aplikace;
+    const bool odebran = stejna_slozka && std::count(otisky.begin(), otisky.end(), std::uint64_t{0}) > 0;
+    if ((otisky == sousedi.otisky && stejna_slozka) || odebran) // what a table said still holds
         return;
     sousedi = {otisky, simulace.cesta_aplikace, {}};
     for (std::size_t f = 0; f < soubory.size(); ++f) {

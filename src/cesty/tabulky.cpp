@@ -23,14 +23,16 @@ template <class Zaznam, class Popis> std::vector<Zaznam> cti_zaznamy(const Bajty
     return zaznamy;
 }
 
-// What a file says now: read anew when the file's mark has changed.
+// What a file says now: read anew when the file's mark has changed. A file that is taken away while the
+// desk runs leaves what it said.
 template <class Obsah> class Mezipamet {
 public:
     template <class Cteni> const Obsah& vezmi(TextPohled jmeno, Cteni cteni) {
         Text uplna = simulace.cesta_aplikace;
         uplna += jmeno;
         const std::uint64_t znacka = otisk_souboru(uplna);
-        if (znacka == 0 || znacka != otisk || uplna != soubor) {
+        const bool odebran = znacka == 0 && otisk != 0 && uplna == soubor;
+        if (!odebran && (znacka == 0 || znacka != otisk || uplna != soubor)) {
             otisk = 0;
             obsah = cteni(nacti_soubor(uplna)); // a missing file is its run-time error
             soubor = std::move(uplna);
@@ -112,6 +114,10 @@ NalezenaCesta najdi_v_tabulce(TabulkaCest tabulka, int zacatek, int konec) {
     if (nalezena == obsah.podle_dvojice.end())
         return {};
     return {&obsah.zaznamy[nalezena->second], static_cast<int>(nalezena->second) + 1};
+}
+
+const std::vector<ZaznamVazeb>& vazby_vyhybek() {
+    return obsah_vazeb().zaznamy;
 }
 
 const ZaznamVazeb* najdi_vazby(int n) {

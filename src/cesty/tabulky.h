@@ -82,10 +82,13 @@ struct NalezenaCesta {
     explicit operator bool() const { return zaznam != nullptr; }
 };
 
-// --- at any time, without change. A missing file is the run-time error 53.
+// --- at any time, without change. A file that was never there is the run-time error 53; one that is taken
+// away while the desk runs leaves what it said.
 
 // The first record of the table with this start and end. A record without elements is no route.
 NalezenaCesta najdi_v_tabulce(TabulkaCest tabulka, int zacatek, int konec);
+// Every switch, in the order of the table. Valid until the next look-up.
+const std::vector<ZaznamVazeb>& vazby_vyhybek();
 // The first record of switch n; nullptr when it has none. Valid until the next look-up.
 const ZaznamVazeb* najdi_vazby(int n);
 // Number of the switch whose name up to the first "/" is `nazev`, in any case; -1 when there is none.

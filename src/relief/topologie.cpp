@@ -31,12 +31,14 @@ void obnov() {
         return;
     const Text cesta = simulace.cesta_aplikace + "data\\tesk.top";
     const std::uint64_t otisk = otisk_souboru(cesta);
-    if (otisk == 0 || otisk != topologie.otisk || !stejna_slozka) {
+    const bool odebran = otisk == 0 && topologie.otisk != 0 && stejna_slozka; // what it said still holds
+    if (!odebran && (otisk == 0 || otisk != topologie.otisk || !stejna_slozka)) {
         topologie.otisk = 0; // a fault below leaves no table behind
         topologie.delky = delky_kolejiste(nacti_soubor(cesta));
     }
     topologie.slozka = simulace.cesta_aplikace;
-    topologie.otisk = otisk;
+    if (!odebran)
+        topologie.otisk = otisk;
     topologie.tik = tik;
     topologie.zmeny = zmeny;
 }

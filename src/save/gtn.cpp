@@ -4,17 +4,17 @@
 #include "app/cas.h"
 #include "app/simulace.h"
 #include "zaklad/balik.h"
-#include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
 #include "zaklad/soubory.h"
 
-#include <cerrno>
-#include <cstdio>
+#include <utility>
 
 namespace {
 
 constexpr std::size_t kVyrovnavaci = 64 * 1024; // bytes held back between two writes
+// Bytes that wait for a full disk to have room again: a shift of some hours. Events beyond them are lost.
+constexpr std::size_t kNejviceCeka = 4 * 1024 * 1024;
 constexpr std::size_t kZaznam = 11;
 
 struct Zaznam {
@@ -59,25 +59,34 @@ template <class A, class Z> void popis_hlavicky_gtn(A& a, Z& z) {
 
 // The open log; its end writes out what is held back, so that no way out of the process loses events.
 struct Denik {
-    std::FILE* soubor = nullptr;
+    RostouciSoubor soubor;
     Zapisovac cekajici;
+    std::optional<KodChyby> vada; // of the disk, not told yet
+    bool receno = false;          // a fault is told once
 
+    Denik() = default;
+    Denik(const Denik&) = delete;
+    Denik& operator=(const Denik&) = delete;
     ~Denik() { zavri(); }
 
-    bool vyprazdni() {
-        const Bajty& bajty = cekajici.bajty;
-        const bool dobre =
-            soubor == nullptr ||
-            (std::fwrite(bajty.data(), 1, bajty.size(), soubor) == bajty.size() && std::fflush(soubor) == 0);
-        cekajici.bajty.clear();
-        return dobre;
+    bool otevreny() const { return soubor.popisovac >= 0; }
+    void vyprazdni() {
+        if (!otevreny() || cekajici.bajty.empty())
+            return;
+        if (const auto duvod = pripis(soubor, cekajici.bajty)) {
+            if (!receno)
+                vada = duvod;
+            receno = true;
+        } else {
+            cekajici.bajty.clear();
+        }
     }
     void zavri() {
-        if (soubor == nullptr)
-            return;
         vyprazdni();
-        std::fclose(soubor);
-        soubor = nullptr;
+        zavri_rostouci(soubor);
+        cekajici.bajty.clear();
+        vada.reset();
+        receno = false;
     }
 };
 Denik denik;
@@ -92,10 +101,7 @@ void gtn_otevri() {
                        text_cisla_mist(ted.den, 2) + ".gtn";
     zaloz_slozku(slozka);
     smaz_soubor(cesta);
-    denik.soubor = std::fopen(cesta_k_zapisu(cesta).c_str(), "wb");
-    if (denik.soubor == nullptr)
-        chyba(errno == ENOENT || errno == ENOTDIR ? KodChyby::cesta_nenalezena : KodChyby::pristup_odepren,
-              cesta);
+    zaloz_rostouci(denik.soubor, cesta);
     Hlavicka h;
     h.datum = text_cisla(ted.den) + "." + text_cisla(ted.mesic) + "." + text_cisla(ted.rok);
     h.cas = ted.sekundy_dne();
@@ -105,17 +111,18 @@ void gtn_otevri() {
 }
 
 void gtn_zapis(int prvek, std::uint8_t kod, std::int32_t hodnota) {
-    if (denik.soubor == nullptr)
+    Bajty& ceka = denik.cekajici.bajty;
+    if (!denik.otevreny() || ceka.size() + kZaznam > kNejviceCeka)
         return;
     const Zaznam zaznam{ted_s(), kod, na_integer(prvek), hodnota};
     popis_zaznamu(denik.cekajici, zaznam);
-    if (denik.cekajici.bajty.size() + kZaznam > kVyrovnavaci)
-        gtn_vyprazdni();
+    if (ceka.size() % kVyrovnavaci + kZaznam > kVyrovnavaci)
+        denik.vyprazdni();
 }
 
-void gtn_vyprazdni() {
-    if (!denik.vyprazdni())
-        chyba(KodChyby::disk_plny);
+std::optional<KodChyby> gtn_vyprazdni() {
+    denik.vyprazdni();
+    return std::exchange(denik.vada, std::nullopt);
 }
 
 void gtn_zavri() {

@@ -4,7 +4,10 @@
 // until the process ends and is only ever written.
 #pragma once
 
+#include "zaklad/chyba.h"
+
 #include <cstdint>
+#include <optional>
 
 namespace gtn {
 // Codes of the events. The value is what each line says.
@@ -38,6 +41,8 @@ inline constexpr std::uint8_t vlak_z_koleje = 132;
 void gtn_otevri();
 // Appends one event at the clock's time. No test of any kind.
 void gtn_zapis(int prvek, std::uint8_t kod, std::int32_t hodnota);
-// Writes out what is still held back; at the end of the process and before a file is looked at.
-void gtn_vyprazdni();
+// Writes out what is still held back; at the end of the process and before a file is looked at. What a disk
+// does not take waits for the next time. Answers with the fault the first time that there is one, for the
+// operator to be told; a log that cannot be written stops no service.
+std::optional<KodChyby> gtn_vyprazdni();
 void gtn_zavri();

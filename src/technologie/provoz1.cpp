@@ -10,7 +10,6 @@
 #include "prvky/vyhybky.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
-#include "zaklad/soubory.h"
 
 #include <algorithm>
 #include <array>
@@ -59,10 +58,6 @@ TextPohled povel_vyhybky(int n) {
     return v_minus ? "S-" : "S+";
 }
 
-std::vector<ZaznamVazeb> vyhybky_stavedla() {
-    return cti_vazby(nacti_soubor(simulace.cesta_aplikace + "data\\tesk.stg"));
-}
-
 // The routes whose switches are commanded, then every switch of the interlocking.
 void napln_drivery() {
     for (const TextPohled pevny : kPevneDrivery)
@@ -70,7 +65,7 @@ void napln_drivery() {
     for (const Cesta& c : cesty)
         if (c.zacatek >= 0 && c.prehozena)
             pridej_driver(!c.VC ? "PC" : c.PN ? "PN" : "VC", jmeno_navestidla(c.zacatek));
-    for (const ZaznamVazeb& v : vyhybky_stavedla())
+    for (const ZaznamVazeb& v : vazby_vyhybek())
         pridej_driver(povel_vyhybky(v.cislo), v.nazev);
 }
 

@@ -111,7 +111,7 @@ TEST_F(Topologie, OtherFolderGivesItsOwnAnswer) {
     EXPECT_EQ(delka_koleje(62), 100);
 }
 
-TEST_F(Topologie, MissingFileIsError53) {
+TEST_F(Topologie, FileThatWasNeverThereIsError53AndOneTakenAwayGoesOnHolding) {
     const auto kod = [] {
         try {
             delka_koleje(62);
@@ -124,7 +124,13 @@ TEST_F(Topologie, MissingFileIsError53) {
     pis("0620100");
     EXPECT_EQ(kod(), KodChyby{});
     smaz_soubor(slozka.cesta + "data\\tesk.top");
-    EXPECT_EQ(kod(), KodChyby::soubor_nenalezen); // no answer of the past
+    EXPECT_EQ(kod(), KodChyby{});
+    EXPECT_EQ(delka_koleje(62), 100);
+    pis("0620300"); // it comes back as another one
+    EXPECT_EQ(delka_koleje(62), 300);
+    const DocasnaSlozka jina; // of another folder nothing is known
+    simulace.cesta_aplikace = jina.cesta;
+    EXPECT_EQ(kod(), KodChyby::soubor_nenalezen);
 }
 
 } // namespace

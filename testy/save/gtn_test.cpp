@@ -4,6 +4,9 @@
 #include "save/gtn.h"
 #include "zaklad/chyba.h"
 
+#include <csignal>
+#include <sys/resource.h>
+
 namespace {
 
 class Denik : public SPlatformou {
@@ -100,6 +103,27 @@ TEST_F(Denik, LogThatCannotBeOpenedIsAnErrorAndNothingIsLogged) {
     EXPECT_THROW(gtn_otevri(), BehovaChyba);
     EXPECT_NO_THROW(gtn_zapis(1, gtn::barva_koleje, 0));
     EXPECT_NO_THROW(gtn_vyprazdni());
+}
+
+TEST_F(Denik, FullDiskIsToldOnceAndNothingIsLostWhenThereIsRoomAgain) {
+    gtn_otevri();
+    gtn_zapis(1, gtn::barva_koleje, 1);
+    EXPECT_FALSE(gtn_vyprazdni());
+    const Bajty zacatek = obsah();
+    rlimit puvodni{};
+    getrlimit(RLIMIT_FSIZE, &puvodni);
+    const rlimit mez{zacatek.size() + 5, puvodni.rlim_max}; // half a record more
+    std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &mez);
+    gtn_zapis(2, gtn::barva_koleje, 2);
+    EXPECT_EQ(gtn_vyprazdni(), KodChyby::disk_plny);
+    for (int i = 0; i < 20'000; ++i)
+        gtn_zapis(3, gtn::barva_koleje, i);
+    EXPECT_FALSE(gtn_vyprazdni());
+    EXPECT_EQ(svet.precti("GTN/260105.gtn"), zacatek) << "whole records only";
+    setrlimit(RLIMIT_FSIZE, &puvodni);
+    std::signal(SIGXFSZ, SIG_DFL);
+    EXPECT_EQ(obsah().size(), zacatek.size() + 11u * 20'001u);
 }
 
 } // namespace
