@@ -2,22 +2,29 @@
 #include "app/bezpecne.h"
 
 #include "save/gtn.h"
+#include "save/nouzove.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
 
+#include <exception>
 #include <new>
 #include <stdexcept>
 
 namespace {
+
+constexpr TextPohled kTitul = "KPS RVZ TESK";
 
 bool ukonci_chybou(const BehovaChyba& chyba) {
     Text text =
         Text("Chyba č. "_cz) + text_cisla(static_cast<int>(chyba.kod)) + ": " + Text(text_chyby(chyba.kod));
     if (!chyba.co.empty())
         text += " (" + chyba.co + ")";
+    const NouzoveUlozeni nouzove = uloz_nouzove(); // before the box, which may stand there for long
     gtn_zavri();
-    platforma.okno("KPS RVZ TESK"_cz, text);
+    platforma.okno(kTitul, text);
+    if (nouzove == NouzoveUlozeni::selhalo)
+        platforma.okno(kTitul, "Rozehranou simulaci se nepodařilo nouzově uložit!"_cz);
     platforma.ukonci(1);
     return false;
 }
@@ -34,5 +41,7 @@ bool bezpecne(const std::function<void()>& vstup) {
         return ukonci_chybou({KodChyby::malo_pameti, {}});
     } catch (const std::out_of_range&) {
         return ukonci_chybou({KodChyby::mimo_meze, {}});
+    } catch (const std::exception& vyjimka) { // a number or a length that some operation does not take
+        return ukonci_chybou({KodChyby::neplatne_volani, z_utf8(vyjimka.what())});
     }
 }

@@ -6,6 +6,7 @@
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/tik_volby.h"
+#include "desk/zprava.h"
 #include "gvd/provoz.h"
 #include "jizda/krok_jizdy.h"
 #include "jizda/zastavky.h"
@@ -14,19 +15,24 @@
 #include "prvky/stav_vyhybek.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
+#include "save/nouzove.h"
 #include "save/ulozeni.h"
+#include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
 
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <limits>
 
 namespace {
 
 constexpr double K = 1000.0;            // milliseconds to a second
 constexpr double kNejvyssiPrenos = 6.0; // ms that a clock step may carry into the next one
-constexpr double kPrah_s = 1.3;         // how long the pointer rests before the panel shows the signal
+// Played minutes and the minute of the start have 16 bits together.
+constexpr std::int32_t kPosledniMinuta = std::numeric_limits<std::int16_t>::max();
+constexpr double kPrah_s = 1.3; // how long the pointer rests before the panel shows the signal
 
 // Milliseconds since a mark of the tick counter, which may have wrapped in between.
 std::int32_t od_tiku(std::int32_t znacka) {
@@ -78,6 +84,27 @@ void vrat_lhuty_o_den() {
     vrat(stav_vyhybek.prehoz_cas);
 }
 
+// The log of the shift is lost as little as a disk allows; that it is, the operator is told once.
+void vyprazdni_denik() {
+    if (const auto vada = gtn_vyprazdni())
+        zprava(" POZOR ",
+               Text("Deník událostí (GTN) nelze zapsat: "_cz) + Text(text_chyby(*vada)) +
+                   Text(". Simulace pokračuje."_cz),
+               barvy::bila, 0, false, barvy::bila, barvy::cervena);
+}
+
+// The clock stands at the last minute that there is; an operator who ends the pause gets no further.
+void ukonci_sluzbu() {
+    zastav_hodiny();
+    if (!platforma.otazka("KPS RVZ TESK"_cz,
+                          "Služba dosáhla nejdelší doby, po kterou čas simulace běží, a hodiny stojí. "
+                          "Chcete stav simulace uložit?"_cz,
+                          true))
+        return;
+    uloz_dialog();
+    zastav_hodiny(); // the end of a save starts the clock
+}
+
 constexpr std::array kCasovace = {
     Casovac{"tmrHodiny", "hodiny", 150, &krok_hodin},
     Casovac{"tmrJizdy", "jizdy", 1000, &krok_jizdy},
@@ -104,7 +131,12 @@ void krok_hodin() {
         std::min(zaokrouhli(od_tiku(simulace.tick_hodin) - na_sekundu), kNejvyssiPrenos));
     const std::int16_t minuta = minuta_dne(cas_hodin());
     const std::int32_t sekund = na_long(od_tiku(simulace.tick_hodin) / K * simulace.rychlost);
-    pis_cas(text_casu(sekundy_textu(cas_hodin()) + sekund));
+    const Text cas = text_casu(sekundy_textu(cas_hodin()) + sekund);
+    if (minuta_dne(cas) != minuta && minut_do_konce_sluzby() <= 0) {
+        ukonci_sluzbu();
+        return;
+    }
+    pis_cas(cas);
     simulace.tick_hodin = static_cast<std::int32_t>(static_cast<std::uint32_t>(platforma.tik_ms()) -
                                                     static_cast<std::uint32_t>(prenos));
     if (minuta_dne(cas_hodin()) != minuta)
@@ -120,9 +152,26 @@ void krok_minuty() {
     aktualizuj_cekani();
     if (minuta_dne(cas_hodin()) == 0)
         dalsi_den();
-    gtn_vyprazdni(); // a crash of the machine costs the log one minute at most
+    vyprazdni_denik(); // a crash of the machine costs the log one minute at most
     if (je_cas_ulozit())
         uloz_prubezne();
+    zapamatuj_stav();
+    if (const std::int32_t zbyva = minut_do_konce_sluzby(); zbyva <= 0)
+        ukonci_sluzbu();
+    else if (zbyva == kDen_min)
+        pripomen_konec_sluzby();
+}
+
+std::int32_t minut_do_konce_sluzby() {
+    return kPosledniMinuta - (simulace.cas_zacatku + 1) - simulace.minuty_simulace;
+}
+
+void pripomen_konec_sluzby() {
+    if (minut_do_konce_sluzby() > kDen_min)
+        return;
+    zprava(" POZOR ",
+           "Služba musí nejpozději za den skončit, déle čas simulace neběží. Uložte ji nebo ji ukončete."_cz,
+           barvy::bila, 0, false, barvy::bila, barvy::cervena);
 }
 
 bool je_cas_ulozit() {

@@ -7,6 +7,7 @@
 
 #include "zaklad/text.h"
 
+#include <cstdint>
 #include <span>
 #include <string_view>
 
@@ -20,8 +21,14 @@ struct Casovac {
 
 // The clock step: adds the simulated seconds that have passed, and runs the minute step.
 void krok_hodin();
-// One played minute: the traffic, the waiting trains, the day at midnight, the periodic save.
+// One played minute: the traffic, the waiting trains, the day at midnight, the periodic save. The last one
+// that there is stops the clock in a pause, with a question that offers the save.
 void krok_minuty();
+// Played minutes until then; the minute of the start counts with them.
+std::int32_t minut_do_konce_sluzby();
+// Says on the command line that the service must end within a day; nothing while there is more time. Once
+// by the minute step, and when a game is loaded.
+void pripomen_konec_sluzby();
 
 // The flashing lamp of the signal panel; it has no period of its own and does not look at the pause.
 void krok_blikani_diag();

@@ -6,6 +6,7 @@
 #include "app/simulace.h"
 #include "desk/menu.h"
 #include "gvd/gvd.h"
+#include "save/nouzove.h"
 #include "save/ulozeni.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
@@ -396,6 +397,24 @@ bool otevri_zaznam() {
         return false;
     zavri_menu();
     return nacti_dialog(moznosti_startu());
+}
+
+bool nabidni_nouzovy() {
+    if (!parametry.nactena || simulace.obrazovka != kObrazovkaStartu)
+        return false;
+    const std::optional<Text> cekajici = cekajici_nouzovy();
+    if (!cekajici)
+        return false;
+    const bool ano = platforma.otazka(kTitul,
+                                      "Minulá simulace skončila chybou a její stav byl nouzově uložen. "
+                                      "Chcete v ní pokračovat?"_cz,
+                                      true);
+    const Text soubor = odloz_nouzove(*cekajici); // one that cannot be loaded is not offered for ever
+    if (!ano)
+        return false;
+    zavri_menu();
+    priprav_nacteni(soubor, moznosti_startu());
+    return true;
 }
 
 MoznostiStartu moznosti_startu() {

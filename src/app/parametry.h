@@ -94,6 +94,9 @@ void konec_startu();
 bool start_prikaz();
 // Open: asks for a saved simulation. True as above; false when the dialogue was cancelled.
 bool otevri_zaznam();
+// By the desk when its start screen is seen: asks whether the game that a run-time error ended is to go on
+// from its emergency save. Each one is offered once and stays among the saves. True as above.
+bool nabidni_nouzovy();
 
 // --- at any time, without change
 

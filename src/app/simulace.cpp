@@ -21,6 +21,7 @@
 #include "prvky/stav_vyhybek.h"
 #include "relief/prejezdy.h"
 #include "save/gtn.h"
+#include "save/nouzove.h"
 #include "technologie/technologie.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
@@ -61,6 +62,7 @@ void nova_simulace() {
     zapomen_kontrolu_jizdy();
     prijmi_majitele();
     parametry = Parametry{};
+    zapomen_nouzovy_stav();
 }
 
 bool je_ladeni() {

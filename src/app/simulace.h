@@ -53,6 +53,7 @@ struct Simulace {
     bool polozky_ladeni = false;      // the debug entries of the track and crossing menus are shown
     Text popisek_nacitani;            // caption of the splash screen
     std::vector<Text> poruchy;        // unacknowledged failures, for the technology screen
+    std::vector<Text> prubezne;       // periodic saves of this game that are kept, the oldest first
 
     bool operator==(const Simulace&) const = default;
 };

@@ -2,6 +2,7 @@
 #include "app/start.h"
 
 #include "app/cas.h"
+#include "app/casovace.h"
 #include "app/nastaveni.h"
 #include "app/rezim.h"
 #include "app/simulace.h"
@@ -390,5 +391,7 @@ void start_simulace() {
     zprava(" INIT ", " OK ", barvy::zelena, 0, false, barvy::bila, 0, false);
     if (simulace.nacitani_zaznamu)
         pripomen_varovani(); // behind the login
+    if (simulace.nacitani_zaznamu)
+        pripomen_konec_sluzby();
     simulace.nova_pipnuti = false;
 }

@@ -12,6 +12,7 @@
 #include "save/gtn.h"
 #include "zaklad/chyba.h"
 #include "zaklad/nahoda.h"
+#include "zaklad/soubory.h"
 
 #include <filesystem>
 #include <fstream>
@@ -36,6 +37,8 @@ void nova_davka(const VolbyDavky& volby) {
     if (volby.kontrola)
         planovac.po_kroku = zkontroluj_stav;
     platforma = virtualni_platforma();
+    // Scripts share a folder with scripts, as the tests of one installation do, but never with a desk.
+    platforma.bezi_jina_instance = [] { return !zamkni_slozku(simulace.cesta_aplikace, Zamek::s_jinymi); };
     nova_simulace();
     zasej_nahodu(svet.semeno);
 }

@@ -73,8 +73,8 @@ void prikaz_otevrit(BehSkriptu& beh) {
 // A save ends with a running clock; during the login it goes on standing, for nobody has taken over yet.
 void prikaz_uloz(BehSkriptu&, Slova slova) {
     const bool pauza_startu = je_prihlaseni() && simulace.pauza;
-    zastav_hodiny();
-    uloz_simulaci(cesta_zaznamu(slova[0]), false);
+    const auto rozbeh = zastav_pro_ulozeni();
+    uloz_simulaci(cesta_zaznamu(slova[0]), false, rozbeh);
     if (pauza_startu)
         simulace.pauza = true;
 }

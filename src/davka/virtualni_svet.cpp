@@ -89,7 +89,7 @@ Platforma virtualni_platforma() {
     p.okno = [](TextPohled titul, TextPohled text) { svet.okna.push_back({Text(titul), Text(text), {}}); };
     p.otazka = otazka;
     p.soubor_k_otevreni = soubor;
-    p.soubor_k_ulozeni = soubor;
+    p.soubor_k_ulozeni = [](TextPohled slozka, TextPohled vzor, TextPohled) { return soubor(slozka, vzor); };
 
     p.nastaveni_cti = [](TextPohled sekce, TextPohled klic) -> std::optional<Text> {
         const auto zaznam = najdi(sekce, klic);

@@ -29,6 +29,7 @@
 #include "relief/relief.h"
 #include "relief/topologie.h"
 #include "save/gtn.h"
+#include "save/nouzove.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
@@ -273,6 +274,7 @@ std::int16_t delka_kroku(std::uint8_t rychlost, std::int32_t dt) {
 }
 
 [[noreturn]] void vadna_cesta() {
+    uloz_nouzove();
     platforma.okno("KPS RVZ TESK"_cz, "Chyba: cesta bez koncového úseku"_cz);
     gtn_zavri();
     platforma.ukonci(1);

@@ -64,8 +64,7 @@ void minimalizuj_okno() {
 void zacni_ulozeni() {
     if (prihlaseni_bezi())
         return;
-    zastav_hodiny();
-    uloz_dialog();
+    uloz_dialog(zastav_pro_ulozeni());
 }
 
 void ukaz_technologii(Technologie ktera) {

@@ -56,6 +56,9 @@ void over_cesty(const Zaznam& z) {
             continue;
         musi(c.zacatek <= kNejvyssiPrvek && c.konec >= 0 && c.konec <= kNejvyssiPrvek, "cesty", i, "konec");
         musi(c.Provedena || navestidla(c.zacatek).je(c.zacatek), "cesty", i, "zacatek");
+        // cleared is locked, locked is commanded, and what is commanded is locked at its second
+        musi((!c.Postavena || c.Provedena) && (!c.Provedena || c.prehozena), "cesty", i, "Postavena");
+        musi(!c.prehozena || c.Provedena || c.Kdy_prehoz >= 0, "cesty", i, "Kdy_prehoz");
         musi(c.druhy.front() == druh_prvku::kolej, "cesty", i, "druhy");
         musi(jsou_polohy(c.druhy, c.polohy, 0), "cesty", i, "polohy");
     }
@@ -104,6 +107,10 @@ void over_relief(const Zaznam& z) {
     musi(pokryva(z.vykolejky_barva.size(), relief.lblVykolejka), "vykolejky_barva");
     musi(z.tabulka.size() == static_cast<std::size_t>(relief.lblTabulka_vlaku.nejvyssi() + 1), "tabulka");
     musi(z.tabulka_blikani.size() == blikani.blikani_radku.size(), "tabulka_blikani");
+    for (int n = 0; n <= relief.imgVyhybka.nejvyssi(); ++n)
+        if (relief.imgVyhybka.je(n)) // a switch that can be thrown has a state for ever
+            musi((z.vyhybky[static_cast<std::size_t>(n)] == 0) == relief.imgVyhybka[n].stav->empty(),
+                 "vyhybky", static_cast<std::size_t>(n), "stav");
     for (const std::uint8_t kod : z.koleje_barva)
         barva_kodu(kod);
     for (const std::uint8_t kod : z.vykolejky_barva)

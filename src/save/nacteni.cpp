@@ -113,6 +113,20 @@ void nacti_simulaci_z(std::span<const std::uint8_t> bajty) {
     }
 }
 
+bool da_se_nacist(std::span<const std::uint8_t> bajty) {
+    Stav predchozi;
+    const auto okno = std::exchange(platforma.okno, [](TextPohled, TextPohled) {});
+    bool da = true;
+    try {
+        nacti_simulaci_z(bajty);
+    } catch (...) { // whatever it is, the bytes are of no use
+        da = false;
+    }
+    platforma.okno = okno;
+    predchozi.vrat();
+    return da;
+}
+
 bool nacti_simulaci(TextPohled jmeno) {
     const Text soubor(jmeno); // the name may stand in the very state that the file replaces
     if (je_ladeni()) {

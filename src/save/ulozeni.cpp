@@ -3,6 +3,8 @@
 
 #include "app/cas.h"
 #include "app/simulace.h"
+#include "desk/zprava.h"
+#include "relief/relief.h"
 #include "save/zaznam.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
@@ -10,6 +12,7 @@
 #include "zaklad/soubory.h"
 
 #include <algorithm>
+#include <exception>
 #include <new>
 #include <optional>
 
@@ -30,6 +33,8 @@ std::optional<Text> zkus_zapsat(TextPohled soubor) {
         return Text(text_chyby(chyba.kod));
     } catch (const std::bad_alloc&) {
         return Text(text_chyby(KodChyby::malo_pameti));
+    } catch (const std::exception&) {
+        return Text(text_chyby(KodChyby::neplatne_volani));
     }
     return std::nullopt;
 }
@@ -45,28 +50,47 @@ Text jmeno_z_dialogu(TextPohled odpoved) {
     return jmeno;
 }
 
-// "autosave_260105_130000_122959.sim": a name that only soubor_autosave() gives.
-bool je_jmeno_autosave(TextPohled jmeno) {
-    constexpr TextPohled kVzor = "autosave_######_######_######.sim";
-    return jmeno.size() == kVzor.size() &&
-           std::equal(jmeno.begin(), jmeno.end(), kVzor.begin(),
-                      [](char a, char b) { return b == '#' ? a >= '0' && a <= '9' : a == b; });
+// The oldest periodic saves of this game make room. Those of other games, and whatever else lies in the
+// folder, are the operator's own.
+void promaz_prubezne() {
+    while (simulace.prubezne.size() > kNejviceAutosave) {
+        smaz_soubor(simulace.prubezne.front());
+        simulace.prubezne.erase(simulace.prubezne.begin());
+    }
 }
 
-// The oldest periodic saves make room: their names run with the wall clock. Whatever else lies in the folder
-// is the operator's own.
-void promaz_autosave(TextPohled posledni) {
-    const Text slozka = simulace.cesta_aplikace + "save\\autosave\\";
-    std::vector<Text> jmena = soubory_slozky(slozka, "autosave_*.sim");
-    std::erase_if(jmena,
-                  [&](const Text& jmeno) { return !je_jmeno_autosave(jmeno) || slozka + jmeno == posledni; });
-    for (std::size_t i = 0; i + kNejviceAutosave <= jmena.size(); ++i)
-        smaz_soubor(slozka + jmena[i]);
+// Milliseconds from a mark of the tick counter, and the mark that lies so far back: the counter may wrap.
+std::int32_t ms_od(std::int32_t znacka) {
+    return static_cast<std::int32_t>(static_cast<std::uint32_t>(platforma.tik_ms()) -
+                                     static_cast<std::uint32_t>(znacka));
+}
+std::int32_t znacka_pred(std::int32_t ms) {
+    return ms_od(ms);
+}
+
+void dobehni(const Rozbeh& rozbeh) {
+    simulace.tick_hodin = znacka_pred(rozbeh.hodiny);
+    simulace.tick_jizdy = znacka_pred(rozbeh.jizda);
+}
+
+// "Tesk pondělí 8-05-30.sim": what the operator sees on the clock.
+Text navrzene_jmeno() {
+    Text cas = cas_hodin();
+    std::replace(cas.begin(), cas.end(), ':', '-');
+    return "Tesk " + relief.lblDEN[0].text() + " " + cas + Text(kPripona);
 }
 
 } // namespace
 
-void uloz_simulaci(TextPohled soubor, bool tichy) {
+std::optional<Rozbeh> zastav_pro_ulozeni() {
+    std::optional<Rozbeh> rozbeh;
+    if (!simulace.pauza)
+        rozbeh = Rozbeh{ms_od(simulace.tick_hodin), ms_od(simulace.tick_jizdy)};
+    zastav_hodiny();
+    return rozbeh;
+}
+
+std::optional<Text> uloz_simulaci(TextPohled soubor, bool tichy, std::optional<Rozbeh> rozbeh) {
     zaloz_slozku(simulace.cesta_aplikace + "save");
     zaloz_slozku(simulace.cesta_aplikace + "save\\autosave");
     std::optional<Text> vada;
@@ -86,37 +110,49 @@ void uloz_simulaci(TextPohled soubor, bool tichy) {
         platforma.okno("KPS RVZ TESK", zprava);
     }
     spust_hodiny();
+    if (rozbeh)
+        dobehni(*rozbeh);
+    return vada;
 }
 
-void uloz_dialog() {
+void uloz_dialog(std::optional<Rozbeh> rozbeh) {
     const Text slozka = simulace.cesta_aplikace + "save";
     zaloz_slozku(slozka); // where the dialogue opens
     for (;;) {
-        const auto odpoved = platforma.soubor_k_ulozeni(slozka, "*.sim");
+        const auto odpoved = platforma.soubor_k_ulozeni(slozka, "*.sim", navrzene_jmeno());
         const Text soubor = odpoved ? jmeno_z_dialogu(*odpoved) : Text{};
         if (soubor.empty())
             return;
         if (delka_souboru(soubor).value_or(0) > 0 &&
             !platforma.otazka("Uložit záznam"_cz, "Soubor již existuje. Přepsat?"_cz, false))
             continue;
-        uloz_simulaci(soubor, false);
+        uloz_simulaci(soubor, false, rozbeh);
         return;
     }
 }
 
 void uloz_prubezne() {
-    zastav_hodiny();
-    const Text soubor = soubor_autosave();
-    uloz_simulaci(soubor, true);
-    if (soubor_existuje(soubor))
-        promaz_autosave(soubor);
+    const std::optional<Rozbeh> rozbeh = zastav_pro_ulozeni();
+    Text soubor = soubor_autosave();
+    if (const auto vada = uloz_simulaci(soubor, true, rozbeh)) {
+        zprava(" POZOR ", Text("Průběžné uložení se nepodařilo: "_cz) + *vada, barvy::bila, 0, false,
+               barvy::bila, barvy::cervena);
+        return;
+    }
+    std::erase(simulace.prubezne, soubor);
+    simulace.prubezne.push_back(std::move(soubor));
+    promaz_prubezne();
 }
 
 Text soubor_autosave() {
+    return simulace.cesta_aplikace + "save\\autosave\\autosave_" + jmeno_okamziku();
+}
+
+Text jmeno_okamziku() {
     const NastennyCas ted = platforma.nastenny_cas();
     const std::int32_t simulovano = sekundy_textu(cas_hodin());
     const auto dve = [](int hodnota) { return text_cisla_mist(hodnota, 2); };
-    return simulace.cesta_aplikace + "save\\autosave\\autosave_" + dve(ted.rok % 100) + dve(ted.mesic) +
-           dve(ted.den) + "_" + dve(ted.hodina) + dve(ted.minuta) + dve(ted.sekunda) + "_" +
-           dve(simulovano / 3600) + dve(simulovano / 60 % 60) + dve(simulovano % 60) + ".sim";
+    return dve(ted.rok % 100) + dve(ted.mesic) + dve(ted.den) + "_" + dve(ted.hodina) + dve(ted.minuta) +
+           dve(ted.sekunda) + "_" + dve(simulovano / 3600) + dve(simulovano / 60 % 60) +
+           dve(simulovano % 60) + Text(kPripona);
 }

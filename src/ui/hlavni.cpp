@@ -77,6 +77,20 @@ void ukaz_hlavni_obrazovku() {
     }
 }
 
+// What is thrown outside the core's own entries, by a picture or a tip, is a run-time error like any other.
+class Aplikace : public QApplication {
+public:
+    using QApplication::QApplication;
+    bool notify(QObject* komu, QEvent* udalost) override {
+        try {
+            return QApplication::notify(komu, udalost);
+        } catch (...) {
+            v_jadre([] { throw; });
+        }
+        return true;
+    }
+};
+
 // The window system's own dialogues speak Czech too, where its translations are installed.
 void nastav_jazyk(QApplication& aplikace) {
     QLocale::setDefault(QLocale(QLocale::Czech));
@@ -118,7 +132,7 @@ int main(int pocet, char** slova) {
     }
     std::signal(SIGXFSZ, SIG_IGN); // a limit of the file size is told like a full disk
     qInstallMessageHandler(hlaseni_startu);
-    QApplication aplikace(pocet, slova);
+    Aplikace aplikace(pocet, slova);
     QApplication::setApplicationName(QStringLiteral("KPS RVZ TESK"));
     QApplication::setQuitOnLastWindowClosed(false);
     nastav_jazyk(aplikace);
@@ -135,6 +149,7 @@ int main(int pocet, char** slova) {
         formular = std::make_unique<OknoParametru>(zacni_start);
         formular->show();
         formular->activateWindow();
+        QTimer::singleShot(0, formular.get(), [] { formular->nabidni(); });
     }
     const int kod = je_konec() ? navratovy_kod() : QApplication::exec();
     hlavni_okno.reset();

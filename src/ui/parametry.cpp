@@ -622,6 +622,10 @@ void OknoParametru::otevri() {
     predej(otevri_zaznam);
 }
 
+void OknoParametru::nabidni() {
+    predej(nabidni_nouzovy);
+}
+
 // Keys that were pressed before the screen had gone come here late: the core refuses a second start.
 void OknoParametru::predej(bool (*prikaz_startu)()) {
     bool pripravena = false;

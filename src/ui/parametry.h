@@ -20,6 +20,9 @@ public:
     // `spusteno` is called once, when the simulation has been prepared.
     explicit OknoParametru(std::function<void()> spusteno);
 
+    // Once the screen is seen: the game that a run-time error has ended.
+    void nabidni();
+
 protected:
     void keyPressEvent(QKeyEvent* udalost) override;
     bool eventFilter(QObject* cil, QEvent* udalost) override;

@@ -172,7 +172,9 @@ public:
     }
 };
 
-std::optional<Text> soubor(TextPohled slozka, TextPohled vzor, bool ulozit) {
+// `navrh`: the name that a dialogue for saving proposes; without one it is a dialogue for opening.
+std::optional<Text> soubor(TextPohled slozka, TextPohled vzor, std::optional<TextPohled> navrh) {
+    const bool ulozit = navrh.has_value();
     const Otevrene cas_stoji;
     const QString kde = QString::fromStdString(cesta_k_zapisu(slozka));
     QFileDialog dialog(rodic(),
@@ -182,6 +184,8 @@ std::optional<Text> soubor(TextPohled slozka, TextPohled vzor, bool ulozit) {
     dialog.setAcceptMode(ulozit ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
     dialog.setFileMode(ulozit ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite); // the core asks
+    if (navrh)
+        dialog.selectFile(na_qstring(*navrh));
     // what follows is for the dialogue of the window system's own library; a desktop brings its own
     CeskeSoubory ikony;
     dialog.setIconProvider(&ikony);
@@ -262,13 +266,18 @@ void cekej(double sekundy) {
 
 // The lock is the kernel's: it goes with the process that holds it, however that one ends. A folder that
 // cannot be written to locks nobody out.
-bool bezi_jina() {
+bool bezi_jina_obsluhy() {
     QDir().mkpath(slozka_uzivatele());
     const QByteArray soubor = QFile::encodeName(slozka_uzivatele() + QStringLiteral("/bezi.lock"));
     static int zamek = -1; // held to the end of the process
     if (zamek < 0)
         zamek = ::open(soubor.constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0644);
     return zamek >= 0 && ::flock(zamek, LOCK_EX | LOCK_NB) != 0 && errno == EWOULDBLOCK;
+}
+
+// The settings are the operator's own, the log and the saves are the folder's: neither has two desks.
+bool bezi_jina() {
+    return bezi_jina_obsluhy() || !zamkni_slozku(slozka_programu(), Zamek::jen_ja);
 }
 
 } // namespace
@@ -289,8 +298,12 @@ void zapln_platformu() {
 
     p.okno = okno;
     p.otazka = otazka;
-    p.soubor_k_otevreni = [](TextPohled slozka, TextPohled vzor) { return soubor(slozka, vzor, false); };
-    p.soubor_k_ulozeni = [](TextPohled slozka, TextPohled vzor) { return soubor(slozka, vzor, true); };
+    p.soubor_k_otevreni = [](TextPohled slozka, TextPohled vzor) {
+        return soubor(slozka, vzor, std::nullopt);
+    };
+    p.soubor_k_ulozeni = [](TextPohled slozka, TextPohled vzor, TextPohled navrh) {
+        return soubor(slozka, vzor, navrh);
+    };
 
     p.nastaveni_cti = [](TextPohled sekce, TextPohled klic) -> std::optional<Text> {
         const QVariant hodnota = nastaveni().value(klic_nastaveni(sekce, klic));

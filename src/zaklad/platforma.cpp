@@ -28,7 +28,7 @@ Platforma prazdna_platforma() {
     p.okno = [](TextPohled, TextPohled) {};
     p.otazka = [](TextPohled, TextPohled, bool vychozi) { return vychozi; };
     p.soubor_k_otevreni = [](TextPohled, TextPohled) { return std::optional<Text>{}; };
-    p.soubor_k_ulozeni = [](TextPohled, TextPohled) { return std::optional<Text>{}; };
+    p.soubor_k_ulozeni = [](TextPohled, TextPohled, TextPohled) { return std::optional<Text>{}; };
     p.nastaveni_cti = [](TextPohled, TextPohled) { return std::optional<Text>{}; };
     p.nastaveni_pis = [](TextPohled, TextPohled, TextPohled) {};
     p.nastaveni_smaz = [](TextPohled, TextPohled) {};

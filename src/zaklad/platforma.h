@@ -51,7 +51,8 @@ struct Platforma {
     std::function<void(TextPohled titul, TextPohled text)> okno;
     std::function<bool(TextPohled titul, TextPohled text, bool vychozi)> otazka; // unset: the default
     std::function<std::optional<Text>(TextPohled slozka, TextPohled vzor)> soubor_k_otevreni;
-    std::function<std::optional<Text>(TextPohled slozka, TextPohled vzor)> soubor_k_ulozeni;
+    std::function<std::optional<Text>(TextPohled slozka, TextPohled vzor, TextPohled navrh)>
+        soubor_k_ulozeni; // `navrh`: the name that the dialogue proposes
 
     // Settings store under the root "KPS TESK"; section and key are compared without case.
     std::function<std::optional<Text>(TextPohled sekce, TextPohled klic)> nastaveni_cti;

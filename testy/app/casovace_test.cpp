@@ -2,6 +2,7 @@
 #include "app/cas.h"
 #include "app/casovace.h"
 #include "cesty/cesta.h"
+#include "desk/zprava.h"
 #include "gvd/gvd.h"
 #include "jizda/vlak.h"
 #include "obsluha/vstup.h"
@@ -213,6 +214,49 @@ TEST_F(Hodiny, TooManyPlayedMinutesAreAnErrorAndDoNotWrap) {
     } catch (const BehovaChyba& chyba) {
         EXPECT_EQ(chyba.kod, KodChyby::preteceni);
     }
+}
+
+TEST_F(Hodiny, ServiceIsToldToEndADayBeforeItsLastMinute) {
+    simulace.cas_zacatku = 1000;
+    const auto zbyva = [](int minut) {
+        simulace.minuty_simulace = static_cast<std::int16_t>(32767 - 1001 - minut);
+    };
+    zbyva(1442);
+    nastav("12:00:00");
+    krok_minuty();
+    EXPECT_FALSE(prikaz_radek.obsazen);
+    krok_minuty();
+    EXPECT_EQ(minut_do_konce_sluzby(), 1440);
+    EXPECT_EQ(relief.lblPrikaz[0].text(), " POZOR ");
+    EXPECT_NE(relief.lblVolba[0].text->find("za den skončit"_cz), Text::npos);
+    potvrd_prikaz();
+    krok_minuty();
+    EXPECT_FALSE(prikaz_radek.obsazen);
+}
+
+TEST_F(Hodiny, LastMinuteOfTheServiceStopsTheClockAndOffersTheSave) {
+    simulace.cas_zacatku = 1000;
+    simulace.minuty_simulace = 32767 - 1001 - 1;
+    simulace.cesta_aplikace = svet.cesta();
+    nastav("12:00:59");
+    svet.soubory = {svet.cesta() + "save\\posledni.sim"};
+    krok(1000);
+    EXPECT_EQ(cas(), "12:01:00");
+    EXPECT_EQ(minut_do_konce_sluzby(), 0);
+    ASSERT_EQ(svet.otazky.size(), 1u);
+    EXPECT_NE(svet.otazky[0].find("uložit"_cz), Text::npos);
+    EXPECT_FALSE(svet.precti("save/posledni.sim").empty());
+    EXPECT_TRUE(simulace.pauza) << "also behind the save";
+    for (int i = 0; i < 3; ++i) { // ending the pause leads nowhere
+        svet.odpovedi = {false};
+        spust_hodiny();
+        for (int s = 0; s < 60; ++s)
+            krok(1000);
+        EXPECT_EQ(cas(), "12:01:59");
+        EXPECT_TRUE(simulace.pauza);
+        EXPECT_EQ(svet.otazky.size(), static_cast<std::size_t>(2 + i));
+    }
+    EXPECT_FALSE(svet.konec);
 }
 
 TEST_F(Hodiny, PeriodicSaveComesAtMultiplesOfThePlayedMinutes) {

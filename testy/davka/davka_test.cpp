@@ -5,12 +5,15 @@
 
 #include <gtest/gtest.h>
 
+#include <fcntl.h>
 #include <filesystem>
 #include <functional>
 #include <iostream>
 #include <iterator>
 #include <sstream>
 #include <streambuf>
+#include <sys/file.h>
+#include <unistd.h>
 
 namespace {
 
@@ -582,6 +585,41 @@ VysledekProgramu program(const std::vector<std::string>& argumenty, const std::s
     const int kod = hlavni_davky(argumenty, slozka);
     std::cout.flush();
     return {kod, testing::internal::GetCapturedStdout(), testing::internal::GetCapturedStderr()};
+}
+
+// --- one folder
+
+TEST_F(Davka, RunsBesideAnotherScriptAndNotBesideADesk) {
+    const std::string na_disku = slozka.cesta.substr(0, slozka.cesta.size() - 1);
+    const int cizi = ::open(na_disku.c_str(), O_RDONLY | O_DIRECTORY);
+    ASSERT_EQ(::flock(cizi, LOCK_SH | LOCK_NB), 0); // as another script holds it
+    EXPECT_EQ(proved("spust cas=12:00\n").kod, navrat::v_poradku);
+    ::flock(cizi, LOCK_UN);
+    const DocasnaSlozka jina; // the lock of the run before goes with the next one
+    proved("slozka \"" + jina.cesta.substr(0, jina.cesta.size() - 1) + "\"\nspust\n");
+    ASSERT_EQ(::flock(cizi, LOCK_EX | LOCK_NB), 0); // as a desk does
+    const Vysledek v = proved("spust cas=12:00\nvypis okna\n");
+    EXPECT_EQ(v.kod, navrat::konec_simulace);
+    EXPECT_TRUE(obsahuje(v.vystup, "Již je spuštěna jedna instance simulátoru TESK!")) << v.vystup;
+    ::close(cizi);
+}
+
+// The routes of the second run are commanded, locked and taken back at the very seconds of the first one,
+// however often it is saved.
+TEST_F(Davka, RunWithSavesLeavesTheSameLogAsTheRunWithout) {
+    const auto log = [&](const std::string& start, const std::string& ulozeni) {
+        std::string skript = "spust cas=12:00" + start + "\nprihlas\n";
+        for (int i = 0; i < 8; ++i)
+            skript += "cekej 730ms\n" + ulozeni + "klik navestidlo 262\nklik Image1 " +
+                      (i % 2 == 0 ? "63" : "64") + "\ncekej 8450ms\n" + ulozeni +
+                      "pravy navestidlo 262\nmenu miRC\ncekej 12370ms\n" + ulozeni;
+        vypis(skript);
+        return nacti_soubor(slozka.cesta + "GTN\\260105.gtn");
+    };
+    const Bajty bez = log("", "");
+    EXPECT_GT(bez.size(), 36u + 11u * 50u);
+    EXPECT_EQ(log("", "uloz hra.sim\n"), bez);
+    EXPECT_EQ(log(" autosave=1 autosaved=1", ""), bez);
 }
 
 } // namespace

@@ -67,13 +67,13 @@ TEST_F(Svet, QuestionTakesOneAnswerOrItsDefault) {
 }
 
 TEST_F(Svet, FileDialogueIsCancelledWithoutAnAnswer) {
-    EXPECT_EQ(platforma.soubor_k_ulozeni("C:\\tesk\\save", "*.sim"), std::nullopt);
+    EXPECT_EQ(platforma.soubor_k_ulozeni("C:\\tesk\\save", "*.sim", {}), std::nullopt);
     svet.odpovedi = {"zrus", "pokus", "pokus.sim", "/tmp/a.b/pokus", "C:\\x.sim"};
     EXPECT_EQ(platforma.soubor_k_otevreni("C:\\tesk\\save", "*.sim"), std::nullopt);
     EXPECT_EQ(platforma.soubor_k_otevreni("C:\\tesk\\save", "*.sim"), "C:\\tesk\\save\\pokus.sim");
     EXPECT_EQ(platforma.soubor_k_otevreni("C:\\tesk\\save\\", "*.sim"), "C:\\tesk\\save\\pokus.sim");
-    EXPECT_EQ(platforma.soubor_k_ulozeni("C:\\tesk\\save", "*.sim"), "/tmp/a.b/pokus.sim");
-    EXPECT_EQ(platforma.soubor_k_ulozeni("C:\\tesk\\save", "*.sim"), "C:\\x.sim");
+    EXPECT_EQ(platforma.soubor_k_ulozeni("C:\\tesk\\save", "*.sim", {}), "/tmp/a.b/pokus.sim");
+    EXPECT_EQ(platforma.soubor_k_ulozeni("C:\\tesk\\save", "*.sim", {}), "C:\\x.sim");
 }
 
 TEST_F(Svet, BeepsRememberTheirMoment) {

@@ -27,4 +27,18 @@ stul.obraz("druha_instance")
 stul.tiskni("Escape", "konec druhé instance", lambda: druha.poll() is not None)
 assert druha.poll() == 1, "druhá instance běží: %s" % druha.poll()
 assert stul.program.poll() is None, "první instance skončila"
+
+# in the folder of a desk neither another operator's desk nor the runner starts
+okna = stul.okna()
+cizi = dict(stul.prostredi, XDG_CONFIG_HOME=os.path.join(slozka, "cizi_nastaveni"))
+druha = subprocess.Popen([program], cwd=slozka, env=cizi)
+stul.cekej("hlášení v téže složce", lambda: stul.okna() > okna)
+stul.tiskni("Escape", "konec druhé obsluhy", lambda: druha.poll() is not None)
+assert druha.poll() == 1, "druhá obsluha běží: %s" % druha.poll()
+davka = os.path.join(sys.argv[2], "tesk-davka")
+if os.path.exists(davka):
+    beh = subprocess.run([davka, "--slozka", slozka, "-"], input="spust\nvypis okna\n", text=True,
+                         capture_output=True)
+    assert beh.returncode == 4 and "Již je spuštěna" in beh.stdout, beh
+assert stul.program.poll() is None, "první instance skončila"
 print("v pořádku")

@@ -43,6 +43,7 @@ struct VirtualniPlatforma {
     std::vector<Pipnuti> pipnuti;
     std::vector<OknoZpravy> okna;
     std::vector<Text> otazky, tituly_otazek;
+    std::vector<Text> navrzena_jmena; // by the dialogues for saving
     std::vector<Nastaveni> nastaveni;
     std::vector<RezimObrazovky> prepnute_rezimy;
     std::vector<bool> lista; // each change of the task bar
@@ -140,12 +141,17 @@ private:
             odpovedi.pop_front();
             return odpoved;
         };
-        p.soubor_k_otevreni = p.soubor_k_ulozeni = [this](TextPohled, TextPohled) -> std::optional<Text> {
+        const auto dalsi_soubor = [this]() -> std::optional<Text> {
             if (soubory.empty())
                 return std::nullopt;
             Text soubor = soubory.front();
             soubory.pop_front();
             return soubor;
+        };
+        p.soubor_k_otevreni = [dalsi_soubor](TextPohled, TextPohled) { return dalsi_soubor(); };
+        p.soubor_k_ulozeni = [this, dalsi_soubor](TextPohled, TextPohled, TextPohled navrh) {
+            navrzena_jmena.emplace_back(navrh);
+            return dalsi_soubor();
         };
         p.nastaveni_cti = [this](TextPohled sekce, TextPohled klic) { return nastaveni_cti(sekce, klic); };
         p.nastaveni_pis = [this](TextPohled sekce, TextPohled klic, TextPohled hodnota) {

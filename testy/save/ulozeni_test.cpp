@@ -20,12 +20,14 @@
 #include "prvky/stav_vyhybek.h"
 #include "prvky/vyhybky.h"
 #include "relief/prejezdy.h"
+#include "save/gtn.h"
 #include "save/ulozeni.h"
 #include "save/zaznam.h"
 #include "zaklad/chyba.h"
 
 #include <array>
 #include <csignal>
+#include <initializer_list>
 #include <sys/resource.h>
 #include <sys/wait.h>
 
@@ -83,6 +85,11 @@ protected:
             relief.lblcas[0].text = text_casu(sekundy_textu(cas_hodin()) + 1);
             tik_volby();
         }
+    }
+    static void pridej_koleje(Cesta& c, std::initializer_list<std::int16_t> koleje) {
+        c.prvky = koleje;
+        c.druhy.assign(koleje.size(), druh_prvku::kolej);
+        c.polohy.assign(koleje.size(), 0);
     }
     // The process dies in the midst of the write: its file size limit ends it at byte `po`.
     void zemri_pri_zapisu(std::size_t po) {
@@ -244,7 +251,7 @@ TEST_F(Ulozeni, FullDiskLeavesTheOldSave) {
     std::signal(SIGXFSZ, SIG_DFL);
     EXPECT_TRUE(okno().starts_with("Stav simulace se nepodařilo uložit"_cz)) << okno();
     EXPECT_EQ(svet.precti("save/hra.sim"), stary);
-    EXPECT_FALSE(std::filesystem::exists(svet.koren / "save" / "hra.sim.nove"));
+    EXPECT_EQ(soubory_slozky(svet.cesta() + "save", "*").size(), 1u);
 }
 
 // --- the periodic save
@@ -275,30 +282,96 @@ TEST_F(Ulozeni, PeriodicSaveComesAtMultiplesOfItsPeriodAlsoAcrossALoad) {
     }
 }
 
-TEST_F(Ulozeni, TenNewestPeriodicSavesAreKeptAndNothingElseGoes) {
+TEST_F(Ulozeni, TenNewestPeriodicSavesOfTheGameAreKeptAndNothingElseGoes) {
     svet.zapis("save/autosave/autosave_moje.sim", "a");
-    svet.zapis("save/autosave/autosave_200101_000000_000000.sim", "b");
+    svet.zapis("save/autosave/autosave_200101_000000_000000.sim", "of another game");
     for (int i = 0; i < 14; ++i) {
         svet.posun_ms(1000);
         uloz_prubezne();
     }
     const std::vector<Text> jmena = soubory_slozky(svet.cesta() + "save\\autosave", "*");
-    ASSERT_EQ(jmena.size(), 11u);
-    EXPECT_EQ(jmena.front(), "autosave_260105_080005_115958.sim");
+    ASSERT_EQ(jmena.size(), 12u);
+    EXPECT_EQ(jmena[0], "autosave_200101_000000_000000.sim");
+    EXPECT_EQ(jmena[1], "autosave_260105_080005_115958.sim");
     EXPECT_EQ(jmena.back(), "autosave_moje.sim");
 }
 
-TEST_F(Ulozeni, FailedPeriodicSaveTakesNoOlderOneAway) {
+TEST_F(Ulozeni, FailedPeriodicSaveIsToldAndTakesNoOlderOneAway) {
     for (int i = 0; i < 10; ++i) {
         svet.posun_ms(1000);
         uloz_prubezne();
     }
     svet.posun_ms(1000);
     std::filesystem::create_directories(
-        (svet.koren / "save" / "autosave" / "autosave_260105_080011_115958.sim.nove"));
+        (svet.koren / "save" / "autosave" / "autosave_260105_080011_115958.sim")); // in the way
+    svet.okna.clear();
     uloz_prubezne();
     EXPECT_EQ(soubory_slozky(svet.cesta() + "save\\autosave", "*.sim").size(), 10u);
     EXPECT_FALSE(simulace.pauza);
+    EXPECT_TRUE(svet.okna.empty());
+    EXPECT_EQ(relief.lblPrikaz[0].text(), " POZOR ");
+    EXPECT_EQ(relief.lblVolba[0].text(), "Průběžné uložení se nepodařilo: Přístup odepřen"_cz);
+}
+
+TEST_F(Ulozeni, FullDiskUnderTheLogWarnsOnceAndTheGameGoesOn) {
+    rlimit puvodni{};
+    getrlimit(RLIMIT_FSIZE, &puvodni);
+    const rlimit mez{16, puvodni.rlim_max};
+    std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &mez);
+    gtn_zapis(1, gtn::barva_koleje, 0);
+    EXPECT_NO_THROW(krok_minuty());
+    EXPECT_EQ(relief.lblPrikaz[0].text(), " POZOR ");
+    EXPECT_EQ(relief.lblVolba[0].text(),
+              "Deník událostí (GTN) nelze zapsat: Disk je plný. Simulace pokračuje."_cz);
+    klavesa({KodKlavesy::enter});
+    gtn_zapis(1, gtn::barva_koleje, 0);
+    EXPECT_NO_THROW(krok_minuty());
+    EXPECT_FALSE(prikaz_radek.obsazen);
+    setrlimit(RLIMIT_FSIZE, &puvodni);
+    std::signal(SIGXFSZ, SIG_DFL);
+}
+
+// --- a save costs no simulated time
+
+TEST_F(Ulozeni, SaveByHandAndPeriodicSaveLeaveTheClockAndTheTrainsWithinTheirStep) {
+    const auto rozbeh = [&] {
+        return std::pair(svet.tik - simulace.tick_hodin, svet.tik - simulace.tick_jizdy);
+    };
+    spust_hodiny();
+    svet.posun_ms(100);
+    simulace.tick_hodin -= 600;
+    const auto pred = rozbeh();
+    ASSERT_NE(pred.first, pred.second);
+    uloz_prubezne();
+    EXPECT_EQ(rozbeh(), pred);
+    svet.soubory = {soubor()};
+    klavesa(klavesa_podle_jmena("Ctrl+S"));
+    EXPECT_EQ(rozbeh(), pred);
+    klik(Druh::imgUloz, 0, Tlacitko::leve, false); // cancelled: a pause like any other
+    EXPECT_TRUE(simulace.pauza);
+    svet.posun_ms(60'000);
+    klavesa({KodKlavesy::f10});
+    EXPECT_EQ(rozbeh(), (std::pair{0, 0}));
+}
+
+TEST_F(Ulozeni, TimeThatTheDialogueOfASaveTakesIsNotSimulated) {
+    spust_hodiny();
+    svet.posun_ms(140);
+    svet.soubory = {soubor()};
+    platforma.okno = [this](TextPohled, TextPohled) { svet.posun_ms(180'000); };
+    klavesa(klavesa_podle_jmena("Ctrl+S"));
+    EXPECT_EQ(svet.tik - simulace.tick_hodin, 140);
+    EXPECT_EQ(svet.tik - simulace.tick_jizdy, 140);
+}
+
+// --- the name that the dialogue proposes
+
+TEST_F(Ulozeni, DialogueProposesTheDayAndTheTime) {
+    relief.lblcas[0].text = TextPohled("8:05:30");
+    relief.lblDEN[0].text = nazev_dne(1);
+    uloz_dialog();
+    EXPECT_EQ(svet.navrzena_jmena, std::vector<Text>{Text("Tesk úterý 8-05-30.sim"_cz)});
 }
 
 // --- the load
@@ -501,6 +574,23 @@ TEST_F(Ulozeni, ContradictionsAreRefusedAndNothingChanges) {
     EXPECT_TRUE(odmitne([](Zaznam& z) { z.cesty.clear(); }));
     EXPECT_TRUE(odmitne([](Zaznam& z) { z.cesty[0].druhy.clear(); }));
     EXPECT_TRUE(odmitne([](Zaznam& z) { z.cesty[0].zacatek = 262; })); // its list holds no element
+    const auto s_priznaky = [](auto priznaky) {
+        return [priznaky](Zaznam& z) {
+            z.cesty.insert(z.cesty.begin(), Cesta{});
+            Cesta& c = z.cesty.front();
+            c.zacatek = 262;
+            c.konec = 63;
+            c.VC = true;
+            c.prejezd = kBezPrejezdu;
+            pridej_koleje(c, {62, 63});
+            priznaky(c);
+        };
+    };
+    EXPECT_FALSE(odmitne(s_priznaky([](Cesta&) {}))); // a route that waits
+    EXPECT_TRUE(odmitne(s_priznaky([](Cesta& c) { c.Postavena = true; })));
+    EXPECT_TRUE(odmitne(s_priznaky([](Cesta& c) { c.Provedena = true; })));
+    EXPECT_TRUE(odmitne(s_priznaky([](Cesta& c) { c.prehozena = true; }))); // with no second of its locking
+    EXPECT_TRUE(odmitne([](Zaznam& z) { z.vyhybky[7] = 0; }));
     EXPECT_TRUE(odmitne([](Zaznam& z) { z.vlaky[3].cislo = 5, z.vlaky[3].vozy = {"754"}; }));
     EXPECT_TRUE(odmitne([](Zaznam& z) { z.koleje_vlaky[0].vlaky = {51}; }));
     EXPECT_TRUE(odmitne([](Zaznam& z) { z.koleje_vlaky[0].prvek = 1000; }));

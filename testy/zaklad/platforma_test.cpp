@@ -58,7 +58,7 @@ TEST(PrazdnaPlatforma, AnswersEveryServiceAndDoesNothing) {
     EXPECT_TRUE(p.otazka("a", "b", true));
     EXPECT_FALSE(p.otazka("a", "b", false));
     EXPECT_EQ(p.soubor_k_otevreni("a", "b"), std::nullopt);
-    EXPECT_EQ(p.soubor_k_ulozeni("a", "b"), std::nullopt);
+    EXPECT_EQ(p.soubor_k_ulozeni("a", "b", ""), std::nullopt);
     p.nastaveni_pis("a", "b", "c");
     EXPECT_EQ(p.nastaveni_cti("a", "b"), std::nullopt);
     p.nastaveni_smaz("a", "b");

@@ -1,0 +1,99 @@
+// save/nouzove.cpp - the emergency save, and what the start screen needs of it.
+#include "save/nouzove.h"
+
+#include "app/simulace.h"
+#include "relief/relief.h"
+#include "save/ulozeni.h"
+#include "save/zaznam.h"
+#include "zaklad/chyba.h"
+#include "zaklad/soubory.h"
+
+#include <vector>
+
+namespace {
+
+std::optional<Zaznam> zapamatovany;
+
+Text slozka_zaznamu() {
+    return simulace.cesta_aplikace + "save\\";
+}
+Text slozka_nouzovych() {
+    return slozka_zaznamu() + "nouzove\\";
+}
+
+// Before its first minute there is nothing to lose that a new start would not bring.
+bool hra_bezi() {
+    const bool na_pultu = relief.lblcas.je(0) && relief.lblcas[0].viditelny;
+    return na_pultu && simulace.minuty_simulace > 0;
+}
+
+// Sorted by name, that is by time.
+std::vector<Text> cekajici() {
+    return soubory_slozky(slozka_nouzovych(), "nouzove_*.sim");
+}
+
+// Writes the record when a load would take it.
+bool zapis_zaznam(const Zaznam& zaznam) {
+    const Bajty bajty = bajty_zaznamu(zaznam);
+    if (!da_se_nacist(bajty))
+        return false;
+    zapis_soubor(slozka_nouzovych() + "nouzove_" + jmeno_okamziku(), bajty);
+    return true;
+}
+
+bool zapis_pritomny() {
+    try {
+        return zapis_zaznam(zaznam_simulace());
+    } catch (...) { // the state that made the error may make one here as well
+        return false;
+    }
+}
+
+bool zapis_zapamatovany() {
+    try {
+        return zapamatovany && zapis_zaznam(*zapamatovany);
+    } catch (...) { // a disk that takes nothing
+        return false;
+    }
+}
+
+} // namespace
+
+void zapamatuj_stav() {
+    try {
+        zapamatovany = zaznam_simulace();
+    } catch (const BehovaChyba&) { // a state that no file can hold: the one before is kept
+    }
+}
+
+NouzoveUlozeni uloz_nouzove() noexcept {
+    try {
+        if (!hra_bezi())
+            return NouzoveUlozeni::neni_co;
+        zaloz_slozku(slozka_nouzovych());
+        return zapis_pritomny() || zapis_zapamatovany() ? NouzoveUlozeni::ulozeno : NouzoveUlozeni::selhalo;
+    } catch (...) {
+        return NouzoveUlozeni::selhalo;
+    }
+}
+
+std::optional<Text> cekajici_nouzovy() {
+    const std::vector<Text> jmena = cekajici();
+    if (jmena.empty())
+        return std::nullopt;
+    return slozka_nouzovych() + jmena.back();
+}
+
+Text odloz_nouzove(TextPohled soubor) {
+    Text novy(soubor);
+    for (const Text& jmeno : cekajici()) {
+        const Text odkud = slozka_nouzovych() + jmeno, kam = slozka_zaznamu() + jmeno;
+        if (presun_soubor(odkud, kam) && odkud == soubor)
+            novy = kam;
+    }
+    return novy;
+}
+
+void zapomen_nouzovy_stav() {
+    zapamatovany.reset();
+}

@@ -1,0 +1,36 @@
+// save/nouzove.h - the emergency save: what is left of a game that a run-time error has ended.
+//
+// An error may have come in the midst of a step, so the present state is saved only if a load would take it,
+// else the one of the last minute that was whole. The file waits in save\nouzove until a start screen has
+// offered it; then it moves among the operator's own saves.
+#pragma once
+
+#include "zaklad/text.h"
+
+#include <cstdint>
+#include <optional>
+
+enum class NouzoveUlozeni : std::uint8_t { neni_co, ulozeno, selhalo };
+
+// --- by the minute step, once it is whole
+
+// Keeps the state to fall back on.
+void zapamatuj_stav();
+
+// --- by the boundary of run-time errors
+
+// Saves the game that runs, in silence; `neni_co` when none does. Never throws: the error may lie in the
+// save itself.
+NouzoveUlozeni uloz_nouzove() noexcept;
+
+// --- on the start screen
+
+// The newest emergency save that was not offered yet, as a path.
+std::optional<Text> cekajici_nouzovy();
+// The operator was asked: every waiting save moves into the folder of saves. Answers with the new path of
+// `soubor`; the old one when it cannot be moved.
+Text odloz_nouzove(TextPohled soubor);
+
+// --- when the tables are filled anew
+
+void zapomen_nouzovy_stav();

@@ -1,0 +1,83 @@
+#!/usr/bin/python3
+# testy/obrazovka/nouzove.py - a run-time error ends the desk, and the next start offers the game.
+import os
+import sys
+import time
+
+import stul as s
+
+program, slozka = s.priprav(sys.argv[1:])
+MAKRA = os.path.join(slozka, "data", "tesk.mak")
+
+
+def soubory(*casti):
+    cesta = os.path.join(slozka, *casti)
+    return sorted(j for j in os.listdir(cesta) if j.endswith(".sim")) if os.path.isdir(cesta) else []
+
+
+def hraj(stul):
+    """The clock of the running shift moves on, at the highest speed."""
+    for _ in range(2):
+        stul.klikni(356, 10)
+    zacatek = stul.obraz().vyrez(*s.HODINY)
+    stul.cekej_na("běžící hodiny", lambda o: o.vyrez(*s.HODINY) != zacatek, 10)
+    time.sleep(2)  # the first minute of the shift has come
+
+
+# --- the shift: a table of macros that is gone is the error 53 of the key that needs it
+stul = s.Stul(program, slozka)
+stul.cekej_na("úvodní formulář", s.je_formular)
+time.sleep(1.5)
+BEZ_NABIDKY = stul.okna()
+s.prihlas(stul, rychle=True)
+hraj(stul)
+os.rename(MAKRA, MAKRA + "_jinam")
+stul.klavesa("alt+a")
+stul.cekej("hlášení o chybě", lambda: stul.okna() > stul.oken_v_klidu)
+assert len(soubory("save", "nouzove")) == 1, "stav není uložen, dokud stojí hlášení"
+time.sleep(0.5)
+hodiny = stul.obraz("chyba").vyrez(*s.HODINY)
+stul.tiskni("Return", "konec programu", lambda: stul.program.poll() is not None)
+assert stul.program.poll() == 1, "program skončil s %s" % stul.program.poll()
+os.rename(MAKRA + "_jinam", MAKRA)
+stul.konec()
+
+
+def otevri_nabidku():
+    stul = s.Stul(program, slozka)
+    stul.cekej_na("úvodní formulář", s.je_formular)
+    stul.cekej("nabídku nouzového záznamu", lambda: stul.okna() > BEZ_NABIDKY)
+    time.sleep(0.5)
+    stul.obraz("nabidka")
+    return stul
+
+
+# --- who kills the program in front of the question is asked again
+stul = otevri_nabidku()
+stul.program.kill()
+stul.program.wait()
+stul.konec()
+
+# --- the next start goes on from there
+stul = otevri_nabidku()
+stul.tiskni("Return", "načtení záznamu", lambda: not s.je_formular(stul.obraz()))
+assert not soubory("save", "nouzove") and len(soubory("save")) == 1, "záznam nezůstal mezi uloženými"
+obraz = stul.cekej_na("čas uložené simulace", lambda o: o.vyrez(*s.HODINY) == hodiny, 40)
+stul.obraz("nacteno")
+for _ in range(30):
+    if s.je_prihlaseni(obraz):
+        break
+    stul.klavesa("Return")
+    time.sleep(0.3)
+    obraz = stul.obraz()
+else:
+    raise AssertionError("po načtení nepřišlo přihlášení")
+stul.konec()
+
+# --- and asks no more
+stul = s.Stul(program, slozka)
+stul.cekej_na("úvodní formulář", s.je_formular)
+time.sleep(1.5)
+assert stul.okna() == BEZ_NABIDKY, "nouzový záznam je nabízen znovu"
+stul.konec()
+print("v pořádku")
