@@ -37,10 +37,6 @@ constexpr int kVyjezdZDepa = 30, kNejdriveStart = 16; // minutes before its depa
 constexpr std::int32_t kCislaDepa = 70000;            // numbers from here run as trains at the depot of VH
 constexpr int kLoko731 = 731;
 
-void nastav_tag(int e, TextPohled metry) {
-    relief.kolej[e].stav = metry;
-}
-
 // --- delays
 
 struct Zpozdeny {
@@ -115,7 +111,7 @@ void rozjed(std::int32_t cislo, std::span<const int> prvky) {
             cislo_z_textu(orez(relief.cislo_koleje[e].text())) != cislo || !stoji_tam(cislo, e))
             continue;
         barvi_prvek(e, barvy::cervena);
-        nastav_tag(e, "400");
+        relief.kolej[e].stav.nastav_cislo(400);
         const int v = spust_vlak(cislo);
         Vlak& vlak = vlak_c(v);
         if (vlak.cislo != cislo && vlak.cislo2 != cislo)
@@ -159,7 +155,7 @@ void vstup_z_depa_vh(int gvd_index) {
     barvi_prvek(kDepoVH, barvy::cervena);
     pis_cislo(kDepoVH, posun ? Text{} : text_cisla(vlak.cislo));
     postav_cesty_z(kDepoVH);
-    nastav_tag(kDepoVH, "500");
+    relief.kolej[kDepoVH].stav.nastav_cislo(500);
     posun_po_vytvoreni(v);
 }
 

@@ -126,7 +126,7 @@ void vytvor_lokomotivu(int rada, int element, bool smer, TextPohled urceni, bool
         return;
     pridej_na_kolej(element, i, smer, -1);
     barvi_prvek(element, barvy::cervena);
-    relief.kolej[element].stav = TextPohled("200");
+    relief.kolej[element].stav.nastav_cislo(200);
     if (posun) {
         pis_cislo(element, {});
         return;
@@ -189,7 +189,7 @@ void stanice_start(int gvd_index) {
     pridej_na_kolej(element, i, true, -1);
     if (jsou_vozy && v.loko_rada != 560)
         pripoj_posunovou(v, element);
-    relief.kolej[element].stav = TextPohled("600");
+    relief.kolej[element].stav.nastav_cislo(600);
     posun_po_vytvoreni(i);
     if (element == kDepo538 && !jsou_vozy && stav_provozu.pocet_zaloh < 2)
         pridej_posunovou(i);

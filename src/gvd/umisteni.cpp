@@ -206,7 +206,7 @@ void umisti_vlak_do_stanice(int stanice, int predchozi, int dalsi, int index, in
 
 int umisti_vlak(int element, bool smer, int index, int gvd_index) {
     barvi_prvek(element, barvy::cervena);
-    relief.kolej[element].stav = text_cisla(delka_koleje(element) - 20);
+    relief.kolej[element].stav.nastav_cislo(delka_koleje(element) - 20);
     pis_cislo(element, text_cisla(radek_gvd(gvd_index).cislo));
     const int i = vytvor_vlak(smer, element, true, index, gvd_index);
     Vlak& v = vlak_c(i);

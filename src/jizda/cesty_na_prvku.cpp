@@ -17,6 +17,7 @@ struct CestyNaPrvku {
     int pocet = 0;                                 // routes that it knows
     std::array<int, kNejvyssiPrvek + 2> zacatky{}; // of each element in `seznam`
     std::vector<int> seznam;
+    std::vector<std::int16_t> zdroj; // what it was made from: of each route how many elements, and these
 };
 CestyNaPrvku cesty_na_prvku;
 
@@ -41,14 +42,34 @@ template <class Co> void pro_kazdy_prvek(int pocet_cest, Co co) {
             }
 }
 
+// The routes have the elements that the table was made from. To look costs far less than to make it.
+bool plati(const CestyNaPrvku& t) {
+    auto zdroj = t.zdroj.begin();
+    const auto souhlasi = [&](std::int16_t hodnota) { return zdroj != t.zdroj.end() && *zdroj++ == hodnota; };
+    for (int c = 0; je_cesta(c); ++c) {
+        if (!souhlasi(static_cast<std::int16_t>(cesta_c(c).prvky.size())))
+            return false;
+        for (const std::int16_t n : cesta_c(c).prvky)
+            if (!souhlasi(n))
+                return false;
+    }
+    return zdroj == t.zdroj.end();
+}
+
 } // namespace
 
 void sestav_cesty_na_prvku() {
     CestyNaPrvku& t = cesty_na_prvku;
     t.odebrano = odebrane_cesty();
+    if (plati(t))
+        return;
     t.pocet = 0;
-    while (je_cesta(t.pocet))
-        ++t.pocet;
+    t.zdroj.clear();
+    for (; je_cesta(t.pocet); ++t.pocet) {
+        t.zdroj.push_back(static_cast<std::int16_t>(cesta_c(t.pocet).prvky.size()));
+        for (const std::int16_t n : cesta_c(t.pocet).prvky)
+            t.zdroj.push_back(n);
+    }
     t.zacatky.fill(0);
     pro_kazdy_prvek(t.pocet, [&](std::size_t n, int) { ++t.zacatky[n + 1]; });
     std::partial_sum(t.zacatky.begin(), t.zacatky.end(), t.zacatky.begin());

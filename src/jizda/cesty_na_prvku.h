@@ -1,8 +1,8 @@
 // jizda/cesty_na_prvku.h - which routes hold an element, for the head pass of the movement step.
 //
 // A train looks at the routes under its head only, so that a step costs as much for each train however
-// many routes stand. Derived from `cesty`, never saved: routes that are taken out make the table stale, and
-// it is then made anew; routes that are added come behind those in it.
+// many routes stand. Derived from `cesty`, never saved, and made anew only when the elements of the routes
+// have changed; routes that are added within a step come behind those in it.
 #pragma once
 
 // --- by the movement step

@@ -1,14 +1,13 @@
-// jizda/metry.h - metres of the head on a track section, kept as text on the element.
+// jizda/metry.h - metres of the head on a track section: the state of the element.
 #pragma once
 
 #include "relief/relief.h"
-#include "zaklad/cisla.h"
 
 // Metres run on the section; 0 on a free one and on one that the relief does not hold.
 inline double metry(int kolej) {
-    return je_kolej(kolej) ? cislo_z_textu(relief.kolej[kolej].stav()) : 0.0;
+    return je_kolej(kolej) ? relief.kolej[kolej].stav.cislo() : 0.0;
 }
 inline void nastav_metry(int kolej, double hodnota) {
     if (je_kolej(kolej))
-        relief.kolej[kolej].stav = text_cisla(hodnota);
+        relief.kolej[kolej].stav.nastav_cislo(hodnota);
 }

@@ -43,7 +43,7 @@ void kontrola_prejezdu(int kolej, bool smer, int delka_vlaku) {
     for (Prejezd& prejezd : prejezdy) {
         if (prejezd.kolej != kolej || !relief.kolej.je(kolej))
             continue;
-        const double celo = cislo_z_textu(relief.kolej[kolej].stav()); // metres run on the element
+        const double celo = relief.kolej[kolej].stav.cislo(); // metres run on the element
         const int delka = delka_koleje(kolej);
         const int silnice = smer ? prejezd.poloha : delka - prejezd.poloha;
         const int za_silnici = silnice + kOpousteciUsek_m + delka_vlaku;

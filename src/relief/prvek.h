@@ -65,6 +65,36 @@ inline bool operator==(const Vlastnost<Text>& a, TextPohled b) {
     return a() == b;
 }
 
+// The state text of an element. Where it is a number, the running asks for the number at every step and only
+// the desk for the text: what was written last is kept, and the other is made of it when somebody asks.
+class StavPrvku {
+public:
+    StavPrvku() = default;
+    StavPrvku(const StavPrvku&) = default;
+    StavPrvku(StavPrvku&&) = default;
+    StavPrvku& operator=(const StavPrvku& jiny);
+    StavPrvku& operator=(StavPrvku&& jiny) noexcept;
+    StavPrvku& operator=(TextPohled novy);
+    // Its text becomes the decimal text of the number.
+    void nastav_cislo(double nove);
+
+    const Text& operator()() const;
+    operator const Text&() const { return (*this)(); }
+    const Text* operator->() const { return &(*this)(); }
+    // The number of the text, as cislo_z_textu reads it: 0 of a text that is none.
+    double cislo() const;
+    bool operator==(const StavPrvku& jiny) const;
+
+private:
+    mutable Text text;
+    mutable double hodnota = 0;
+    mutable bool ma_text = true, ma_cislo = true; // one of them at least
+};
+
+inline bool operator==(const StavPrvku& a, TextPohled b) {
+    return a() == b;
+}
+
 // One element. Lines (`kolej`, `most`) use x1 to y2, all others vlevo to vyska. Units are twips, 15 to
 // a pixel of the 1024 by 768 desk.
 struct Prvek {
@@ -73,7 +103,7 @@ struct Prvek {
     Vlastnost<Barva> pozadi{};      // background colour, drawn when `ramecek` is set
     Vlastnost<Text> text{};         // caption: glyphs of the screen font
     Vlastnost<Text> popis{};        // tag: name of the element
-    Vlastnost<Text> stav{};         // state text: metres of a track, picture state of a switch, target's name
+    StavPrvku stav{};               // state text: metres of a track, picture state of a switch, target's name
     Vlastnost<bool> viditelny{};    // shown
     Vlastnost<bool> ramecek{};      // frame: the background is drawn (opaque)
     Vlastnost<bool> povoleny{true}; // takes input (fields, buttons)
@@ -88,6 +118,9 @@ struct Prvek {
     bool operator==(const Prvek&) const = default;
 };
 
+// The run-time error 340 about the element n.
+[[noreturn]] void prvek_neexistuje(int n);
+
 // All elements of one kind, by element number. A number that does not exist is the run-time error 340;
 // je() asks first.
 class TabulkaPrvku {
@@ -96,8 +129,16 @@ public:
         return n >= 0 && static_cast<std::size_t>(n) < prvky.size() &&
                prvky[static_cast<std::size_t>(n)].existuje;
     }
-    Prvek& operator[](int n);
-    const Prvek& operator[](int n) const;
+    Prvek& operator[](int n) {
+        if (!je(n))
+            prvek_neexistuje(n);
+        return prvky[static_cast<std::size_t>(n)];
+    }
+    const Prvek& operator[](int n) const {
+        if (!je(n))
+            prvek_neexistuje(n);
+        return prvky[static_cast<std::size_t>(n)];
+    }
     // The element n, made when it does not exist yet. Numbers outside 0 to 999: error 340.
     Prvek& zaloz(int n);
     // Highest number that exists; -1 for an empty table.

@@ -5,33 +5,73 @@
 #include "zaklad/cisla.h"
 
 #include <algorithm>
+#include <utility>
 
 std::uint64_t revize_reliefu = 0;
 Relief relief;
 
-namespace {
+StavPrvku& StavPrvku::operator=(const StavPrvku& jiny) {
+    return *this = StavPrvku(jiny);
+}
 
-[[noreturn]] void neexistuje(int n) {
+StavPrvku& StavPrvku::operator=(StavPrvku&& jiny) noexcept {
+    if (!(*this == jiny)) {
+        text = std::move(jiny.text);
+        hodnota = jiny.hodnota;
+        ma_text = jiny.ma_text;
+        ma_cislo = jiny.ma_cislo;
+        ++revize_reliefu;
+    }
+    return *this;
+}
+
+StavPrvku& StavPrvku::operator=(TextPohled novy) {
+    if ((*this)() != novy) {
+        text = novy;
+        ma_cislo = false;
+        ++revize_reliefu;
+    }
+    return *this;
+}
+
+void StavPrvku::nastav_cislo(double nove) {
+    nove += 0.0; // no sign on zero
+    const bool stejne = ma_text ? text == text_cisla(nove) : hodnota == nove;
+    if (stejne)
+        return;
+    hodnota = nove;
+    ma_cislo = true;
+    ma_text = false;
+    ++revize_reliefu;
+}
+
+const Text& StavPrvku::operator()() const {
+    if (!ma_text) {
+        text = text_cisla(hodnota);
+        ma_text = true;
+    }
+    return text;
+}
+
+double StavPrvku::cislo() const {
+    if (!ma_cislo) {
+        hodnota = cislo_z_textu(text);
+        ma_cislo = true;
+    }
+    return hodnota;
+}
+
+bool StavPrvku::operator==(const StavPrvku& jiny) const {
+    return ma_text || jiny.ma_text ? (*this)() == jiny() : hodnota == jiny.hodnota;
+}
+
+void prvek_neexistuje(int n) {
     chyba(KodChyby::prvek_neexistuje, text_cisla(n));
-}
-
-} // namespace
-
-Prvek& TabulkaPrvku::operator[](int n) {
-    if (!je(n))
-        neexistuje(n);
-    return prvky[static_cast<std::size_t>(n)];
-}
-
-const Prvek& TabulkaPrvku::operator[](int n) const {
-    if (!je(n))
-        neexistuje(n);
-    return prvky[static_cast<std::size_t>(n)];
 }
 
 Prvek& TabulkaPrvku::zaloz(int n) {
     if (n < 0 || n > kNejvyssiPrvek)
-        neexistuje(n);
+        prvek_neexistuje(n);
     if (static_cast<std::size_t>(n) >= prvky.size())
         prvky.resize(static_cast<std::size_t>(n) + 1);
     Prvek& prvek = prvky[static_cast<std::size_t>(n)];

@@ -13,6 +13,7 @@ namespace {
 constexpr std::size_t kZaznam = 7;     // bytes of a record
 constexpr std::size_t kPoleKoleje = 3; // of which the number of the element
 constexpr std::int16_t kVychoziDelka_m = 60;
+constexpr std::uint32_t kDotazDisku_ms = 10'000; // how long a look at the disk holds
 
 struct Topologie {
     Text slozka; // the program's folder whose file this is
@@ -27,7 +28,9 @@ void obnov() {
     const std::int32_t tik = platforma.tik_ms();
     const std::uint64_t zmeny = vlastni_zmeny();
     const bool stejna_slozka = topologie.slozka == simulace.cesta_aplikace;
-    if (topologie.otisk != 0 && stejna_slozka && topologie.tik == tik && topologie.zmeny == zmeny)
+    const bool nedavno =
+        static_cast<std::uint32_t>(tik) - static_cast<std::uint32_t>(topologie.tik) < kDotazDisku_ms;
+    if (topologie.otisk != 0 && stejna_slozka && nedavno && topologie.zmeny == zmeny)
         return;
     const Text cesta = simulace.cesta_aplikace + "data\\tesk.top";
     const std::uint64_t otisk = otisk_souboru(cesta);

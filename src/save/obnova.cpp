@@ -33,7 +33,7 @@ void obnov_koleje(const Zaznam& z) {
     for (int n = 0; n <= relief.kolej.nejvyssi(); ++n)
         if (relief.kolej.je(n)) {
             relief.kolej[n].barva = barva_kodu(z.koleje_barva[static_cast<std::size_t>(n)]);
-            relief.kolej[n].stav = text_cisla(z.koleje_poloha[static_cast<std::size_t>(n)]);
+            relief.kolej[n].stav.nastav_cislo(z.koleje_poloha[static_cast<std::size_t>(n)]);
         }
 }
 

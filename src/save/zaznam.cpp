@@ -64,8 +64,8 @@ void zapis_koleje(Zaznam& z) {
     constexpr int kPosledni = kNejvyssiPrvek;
     z.koleje_barva = podle_cisla<std::uint8_t>(relief.kolej, 0, kPosledni,
                                                [](const Prvek& p) { return kod_barvy(p.barva); });
-    z.koleje_poloha = podle_cisla<std::int16_t>(
-        relief.kolej, 0, kPosledni, [](const Prvek& p) { return na_integer(cislo_z_textu(p.stav())); });
+    z.koleje_poloha = podle_cisla<std::int16_t>(relief.kolej, 0, kPosledni,
+                                                [](const Prvek& p) { return na_integer(p.stav.cislo()); });
     z.koleje_popis =
         podle_cisla<Text>(relief.cislo_koleje, 0, kPosledni, [](const Prvek& p) { return p.text(); });
 }
@@ -109,7 +109,7 @@ void zapis_souhlasy(Zaznam& z) {
 
 void zapis_vyhybky(Zaznam& z) {
     z.vyhybky = podle_cisla<std::uint8_t>(relief.imgVyhybka, 0, relief.imgVyhybka.nejvyssi(),
-                                          [](const Prvek& p) { return na_byte(cislo_z_textu(p.stav())); });
+                                          [](const Prvek& p) { return na_byte(p.stav.cislo()); });
     const TabulkaPrvku& vykolejky = relief.lblVykolejka;
     z.vykolejky_znak = podle_cisla<std::uint8_t>(vykolejky, 0, vykolejky.nejvyssi(), [](const Prvek& p) {
         return static_cast<std::uint8_t>(kod_znaku(orez(p.text())));

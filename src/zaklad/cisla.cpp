@@ -140,8 +140,11 @@ Text text_cisla(std::int64_t hodnota) {
 }
 
 Text text_cisla(double hodnota) {
+    constexpr double kPresneCele = 1e15; // whole numbers below it are printed faster as such
+    if (hodnota > -kPresneCele && hodnota < kPresneCele &&
+        hodnota == static_cast<double>(static_cast<std::int64_t>(hodnota)))
+        return text_cisla(static_cast<std::int64_t>(hodnota));
     char bajty[64];
-    hodnota += 0.0; // no sign on zero
     const auto [konec, kod] = std::to_chars(bajty, bajty + sizeof bajty, hodnota, std::chars_format::fixed);
     if (kod != std::errc{})
         chyba(KodChyby::preteceni);

@@ -272,6 +272,19 @@ TEST_F(Jizda, RouteThatGoesInAStepHidesNoLaterRouteFromTheTrainsBehindIt) {
     EXPECT_GT(metry(62), 0);
 }
 
+TEST_F(Jizda, RouteWhoseElementsHaveChangedBetweenTwoStepsIsFoundByTheNewOnes) {
+    pridej_kolej(90, false);
+    const int v = vlak_na(62, true, 11);
+    RadekCesty jinudy = radek(0);
+    jinudy.prvky.front() = 90;
+    cesta(jinudy);
+    krok();
+    EXPECT_NE(cesty[0].Vlak, v);
+    cesty[0].prvky = radek(0).prvky;
+    krok();
+    EXPECT_EQ(cesty[0].Vlak, v);
+}
+
 TEST_F(Jizda, OfTwoRoutesFromATrackTheFirstThatMayBeEnteredIsTaken) {
     const int v = vlak_na(62, true, 11);
     cesta(radek(0));

@@ -2,10 +2,12 @@
 #include "pomocne/male_kolejiste.h"
 #include "relief/relief.h"
 #include "zaklad/chyba.h"
+#include "zaklad/cisla.h"
 
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <utility>
 
 namespace {
 
@@ -132,6 +134,58 @@ TEST_F(ReliefTest, RevisionCountsRealChangesOnly) {
     EXPECT_EQ(zmen(), 0u);
     relief.kolej.zaloz(6);
     EXPECT_EQ(zmen(), 0u);
+}
+
+TEST_F(ReliefTest, StateIsANumberAndItsTextWhicheverWasWritten) {
+    StavPrvku& stav = relief.kolej.zaloz(5).stav;
+    EXPECT_EQ(stav(), "");
+    EXPECT_EQ(stav.cislo(), 0);
+    for (const double metry : {400.0, 12.5, -20.0, 0.1, -0.0, 0.0}) {
+        stav.nastav_cislo(metry);
+        EXPECT_EQ(stav.cislo(), metry);
+        EXPECT_EQ(stav(), text_cisla(metry));
+        EXPECT_EQ(stav.cislo(), metry);
+    }
+    const std::pair<TextPohled, double> texty[] = {{"7", 7}, {"007", 7}, {" 12.5 m", 12.5}, {"daleko", 0}};
+    for (const auto& [text, cislo] : texty) {
+        stav = text;
+        EXPECT_EQ(stav(), text);
+        EXPECT_EQ(stav.cislo(), cislo) << text;
+        EXPECT_EQ(stav(), text);
+    }
+}
+
+TEST_F(ReliefTest, NumberThatTheTextAlreadyTellsWritesItAsItselfAndChangesNothingElse) {
+    StavPrvku& stav = relief.kolej.zaloz(5).stav;
+    stav = "007";
+    const std::uint64_t revize = revize_reliefu;
+    stav.nastav_cislo(7);
+    EXPECT_EQ(revize_reliefu, revize + 1); // "7" is another text
+    stav.nastav_cislo(7);
+    EXPECT_EQ(stav(), "7");
+    stav.nastav_cislo(7);
+    stav = "7";
+    EXPECT_EQ(revize_reliefu, revize + 1);
+    stav.nastav_cislo(8);
+    stav.nastav_cislo(8);
+    EXPECT_EQ(revize_reliefu, revize + 2);
+}
+
+TEST_F(ReliefTest, StatesAreEqualWhenTheirTextsAre) {
+    StavPrvku cislem, textem;
+    cislem.nastav_cislo(12.5);
+    textem = "12.5";
+    EXPECT_EQ(cislem, textem);
+    textem = "12.50";
+    EXPECT_NE(cislem, textem);
+    StavPrvku jine;
+    jine.nastav_cislo(12.5);
+    EXPECT_EQ(cislem, jine);
+    jine.nastav_cislo(13);
+    EXPECT_NE(cislem, jine);
+    jine = cislem;
+    EXPECT_EQ(jine(), "12.5");
+    EXPECT_EQ(StavPrvku(cislem).cislo(), 12.5);
 }
 
 TEST_F(ReliefTest, NameIsTheSignalsTagThenTheTargetThenTheTrack) {

@@ -160,7 +160,8 @@ TEST_F(NapovedaStolu, SomethingIsToldOfEveryKindThatTakesAClick) {
     for (const PopisDruhu& d : kDruhy)
         if (tabulka(d.druh).je(prvni(d.druh))) {
             Prvek& p = tabulka(d.druh)[prvni(d.druh)];
-            p.popis = p.stav = p.text = Text("jmeno");
+            p.popis = p.text = Text("jmeno");
+            p.stav = "jmeno";
         }
     for (const PopisDruhu& d : kDruhy)
         if (bere_vstup(d.druh) && tabulka(d.druh).je(prvni(d.druh))) {
