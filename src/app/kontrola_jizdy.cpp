@@ -18,6 +18,7 @@
 #include "prvky/vyhybky.h"
 #include "relief/relief.h"
 #include "relief/topologie.h"
+#include "uzel/trate.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 #include "zaklad/soubory.h"
@@ -211,7 +212,7 @@ bool sousedi_na_trati(int a, int b) {
 }
 // Where only routes made for trains from the lines lead.
 bool sousedi_vstupem(int a, int b) {
-    for (const KonecTrati& k : kKonceTrati)
+    for (const uzel::KonecTrati& k : uzel::kKonceTrati)
         if ((a == k.navestidlo && b == k.usek) || (b == k.navestidlo && a == k.usek))
             return true;
     return trat_za_koleji(a) == b || trat_za_koleji(b) == a;
@@ -377,7 +378,7 @@ Nalez smer_navesti(const Cesta& c) {
         return std::nullopt;
     for (const Cesta& jina : cesty)
         if (&jina != &c && jina.ZT == kZTprogramu && c.ZT != kZTprogramu && jina.konec == c.konec &&
-            konec_trati(c.konec) >= 0)
+            uzel::konec_trati(c.konec) >= 0)
             return cesta_textem(c, "návěst dovoluje jízdu proti vlaku, který má souhlas"_cz);
     if (!je_usek_trati(posledni_prvek(c)) || c.ZT == kZTprogramu)
         return std::nullopt;

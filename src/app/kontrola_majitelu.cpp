@@ -9,6 +9,7 @@
 #include "prvky/stav_vyhybek.h"
 #include "prvky/vyhybky.h"
 #include "relief/relief.h"
+#include "uzel/trate.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -98,7 +99,7 @@ void zapis_vlak(const Vlak& v) {
 
 // Tracks that no route paints: they may be shared.
 bool jen_sipkou(int n) {
-    return je_usek_trati(n) || je_hranicni(n);
+    return je_usek_trati(n) || uzel::je_hranicni(n);
 }
 
 void zapis_zaver(const Cesta& c, std::size_t k, Mnozina& vlakove) {
@@ -129,7 +130,7 @@ void zapis_zaver(const Cesta& c, std::size_t k, Mnozina& vlakove) {
 void zapis_cestu(const Cesta& c, Mnozina& vlakove) {
     if (c.zacatek < 0)
         return;
-    if (c.Postavena && c.cas_ruseni < 0 && (c.Umazat == 0 || c.PN || prvni_prvek(c) >= 200))
+    if (c.Postavena && c.cas_ruseni < 0 && (c.Umazat == 0 || c.PN || prvni_prvek(c) >= kDruhyStitek))
         pridej(majitele.navest, c.zacatek);
     if (!c.prehozena)
         return;

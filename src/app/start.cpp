@@ -22,6 +22,7 @@
 #include "relief/relief.h"
 #include "save/gtn.h"
 #include "save/ulozeni.h"
+#include "uzel/trate.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 #include "zaklad/nahoda.h"
@@ -168,7 +169,6 @@ void obarvi_cisla_koleji() {
 }
 
 void zaloz_sberace_a_souhlasy() {
-    constexpr std::array<int, 3> kZnakyKlidu = {8, 8, 176}; // pointing inwards
     const Prvek sberac = relief.imgSberac[0];
     for (int n = 1; n <= 3; ++n)
         relief.imgSberac.zaloz(n) = sberac;
@@ -176,7 +176,7 @@ void zaloz_sberace_a_souhlasy() {
         if (!relief.lblSouhlas.je(k))
             continue;
         Prvek& lampa = relief.lblSouhlas[k];
-        nastav_text(lampa, znak(kZnakyKlidu[static_cast<std::size_t>(k)]));
+        nastav_text(lampa, znak(uzel::kKonceTrati[static_cast<std::size_t>(k)].znak_dovnitr));
         Prvek& odjezd = relief.lblPredvidany_odjezd[k];
         odjezd.vlevo = lampa.vlevo() + 2 * kSirkaZnaku;
         odjezd.nahore = lampa.nahore;

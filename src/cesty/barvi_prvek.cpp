@@ -7,6 +7,8 @@
 #include "relief/prejezdy.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
+#include "uzel/kresba.h"
+#include "uzel/trate.h"
 
 #include <algorithm>
 #include <array>
@@ -14,31 +16,12 @@
 
 namespace {
 
-// 638 is a track of Rybnice as well as a section of its line.
 constexpr bool je_tratovy(int n) {
-    return (je_usek_trati(n) && n != 638) || je_hranicni(n);
+    return (je_usek_trati(n) && n != uzel::kT2) || uzel::je_hranicni(n);
 }
 
-// Tracks drawn in more than one picture: the first one's colour holds for all.
-struct Zrcadlo {
-    int vzor;
-    std::array<int, 3> kopie; // -3 none
-};
-constexpr std::array<Zrcadlo, 12> kZrcadla = {{{686, {687, -3, -3}},
-                                               {738, {739, -3, -3}},
-                                               {76, {289, -3, -3}},
-                                               {77, {290, -3, -3}},
-                                               {118, {306, -3, -3}},
-                                               {576, {498, 590, -3}},
-                                               {97, {426, 225, 226}},
-                                               {18, {190, 189, -3}},
-                                               {114, {325, 585, -3}},
-                                               {113, {437, 584, -3}},
-                                               {115, {336, 320, -3}},
-                                               {116, {335, 554, -3}}}};
-
 void obnov_sipku_useku(int n, Barva barva) {
-    if ((n == 120 || n == 123 || n == 118) && relief.lblSouhlas2.je(n))
+    if (uzel::ma_vlastni_sipku(n) && relief.lblSouhlas2.je(n))
         relief.lblSouhlas2[n].barva = barva == barvy::seda ? barvy::seda : barvy::azurova;
 }
 
@@ -49,7 +32,8 @@ void opust_prejezd(std::size_t k) {
 
 // The end of the route lies on a track whose label stands there for train numbers only.
 bool jen_cislo(int n) {
-    return n <= 500 && n != 116 && je_cislo_koleje(n) && orez(relief.cislo_koleje[n].popis()).empty();
+    return n <= kPrvniOdstavna && n != uzel::kBezStitkuCisla && je_cislo_koleje(n) &&
+           orez(relief.cislo_koleje[n].popis()).empty();
 }
 
 void obarvi_stitek(int n, Barva barva) {
@@ -62,13 +46,13 @@ void obarvi_stitky(int n, Barva barva) {
         return;
     obarvi_stitek(n, barva);
     if (muze_mit_pravy_stitek(n))
-        obarvi_stitek(n + 200, barva);
+        obarvi_stitek(n + kDruhyStitek, barva);
 }
 
 void obarvi_zrcadla(int n) {
-    const auto zrcadlo =
-        std::find_if(kZrcadla.begin(), kZrcadla.end(), [n](const Zrcadlo& z) { return z.vzor == n; });
-    if (zrcadlo == kZrcadla.end())
+    const auto zrcadlo = std::find_if(uzel::kZrcadla.begin(), uzel::kZrcadla.end(),
+                                      [n](const uzel::Zrcadlo& z) { return z.vzor == n; });
+    if (zrcadlo == uzel::kZrcadla.end())
         return;
     for (const int kopie : zrcadlo->kopie)
         if (je_kolej(kopie))
@@ -77,10 +61,10 @@ void obarvi_zrcadla(int n) {
 
 // Lamp and labels of the line end of n once nothing is on it. `v_klidu`: nothing is being set there either.
 void obnov_lampu(int n, bool v_klidu) {
-    const int k = konec_trati(n);
+    const int k = uzel::konec_trati(n);
     if (k < 0)
         return;
-    const KonecTrati& konec = kKonceTrati[static_cast<std::size_t>(k)];
+    const uzel::KonecTrati& konec = uzel::kKonceTrati[static_cast<std::size_t>(k)];
     for (const int usek : {konec.usek, konec.navestidlo})
         if (je_kolej(usek) && relief.kolej[usek].barva != barvy::seda)
             return;
@@ -112,19 +96,19 @@ bool je_v_rohu(const Prvek& n, const Prvek& a, const Prvek& b) {
 } // namespace
 
 bool stitek_ma_barvu_koleje(int n) {
-    const bool stanicni = n < 200 || (n >= 401 && n <= 599) || n == 638;
-    return stanicni && !je_hranicni(n) && n != 120 && n != 123;
+    return uzel::je_stanicni(n) && !uzel::je_hranicni(n) && !uzel::je_trat_dubnice(n);
 }
 
 int vzor_zrcadla(int n) {
-    const auto zrcadlo = std::find_if(kZrcadla.begin(), kZrcadla.end(), [n](const Zrcadlo& z) {
-        return std::find(z.kopie.begin(), z.kopie.end(), n) != z.kopie.end();
-    });
-    return zrcadlo == kZrcadla.end() ? -3 : zrcadlo->vzor;
+    const auto zrcadlo =
+        std::find_if(uzel::kZrcadla.begin(), uzel::kZrcadla.end(), [n](const uzel::Zrcadlo& z) {
+            return std::find(z.kopie.begin(), z.kopie.end(), n) != z.kopie.end();
+        });
+    return zrcadlo == uzel::kZrcadla.end() ? kZadny : zrcadlo->vzor;
 }
 
 void barvi_prvek(int n, Barva barva, bool uvolni, bool posledni) {
-    if (uvolni && je_hranicni(n))
+    if (uvolni && uzel::je_hranicni(n))
         barva = barvy::seda; // nothing would paint a line end grey later
     obnov_sipku_useku(n, barva);
     if (barva == barvy::seda && n == 602)

@@ -16,10 +16,6 @@ void obnov_lampu_souhlasu(int n);
 
 // --- at any time, without change
 
-// Tracks of the line ends and the single track 118: routes only lock them by their lamps and arrows.
-constexpr bool je_hranicni(int n) {
-    return n == 118 || n == 84 || n == 85 || n == 117 || je_vstup_z_trati(n);
-}
 // Labels of station tracks wear the colour of their track; those of line ends and single tracks never do.
 bool stitek_ma_barvu_koleje(int n);
 // Flank check of two consecutive switches of a route: the switch at the fourth corner of their rectangle

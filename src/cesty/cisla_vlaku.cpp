@@ -8,14 +8,13 @@
 #include "jizda/vlak.h"
 #include "relief/prejezdy.h"
 #include "save/gtn.h"
+#include "uzel/trate.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
 #include <optional>
 
 namespace {
-
-constexpr int kT2 = 638; // track T2 of Rybnice, first section of its line
 
 bool ukazuje(int stitek, TextPohled text) {
     return je_cislo_koleje(stitek) && orez(relief.cislo_koleje[stitek].text()) == orez(text);
@@ -27,12 +26,12 @@ bool ukazuje_cislo(int stitek) {
         return false;
     const TextPohled text = orez(relief.cislo_koleje[stitek].text());
     return !text.empty() && text != orez(relief.cislo_koleje[stitek].popis()) &&
-           !(stitek == kT2 && text == "T2");
+           !(stitek == uzel::kT2 && text == uzel::kNazevT2);
 }
 
 // Number before the signal of a route, by the first label of its track or the second one.
 Text cislo_pred_navestidlem(int kolej) {
-    for (const int stitek : {kolej, kolej + 200})
+    for (const int stitek : {kolej, kolej + kDruhyStitek})
         if (ukazuje_cislo(stitek))
             return Text(orez(relief.cislo_koleje[stitek].text()));
     return {};
@@ -56,9 +55,8 @@ void kopiruj_stitek(int vzor, int kopie) {
 }
 
 void obnov_zrcadla_stitku() {
-    kopiruj_stitek(614, 615);
-    kopiruj_stitek(608, 609);
-    kopiruj_stitek(118, 998);
+    for (const uzel::ObrazStitku& obraz : uzel::kObrazyStitku)
+        kopiruj_stitek(obraz.vzor, obraz.kopie);
 }
 
 // --- writing
@@ -83,7 +81,7 @@ void pis_na_trat(int n, TextPohled text) {
         return;
     const std::vector<int> stitky = stitky_trati(n);
     // The line of T2 at rest shows the number of its first train in all its places.
-    if (zaklad_trati(n) == kT2 && ukazuje(kT2, "T2")) {
+    if (zaklad_trati(n) == uzel::kT2 && ukazuje(uzel::kT2, uzel::kNazevT2)) {
         for (const int clen : stitky)
             ukaz_na_trati(clen, " " + Text(orez(text)) + " ");
         return;
@@ -102,10 +100,10 @@ void pis_na_trat(int n, TextPohled text) {
 
 // A track with two labels of one name: which train stands where is the running's to show.
 bool ma_dva_stejne_stitky(int n) {
-    const int levy = n < 200 ? n : n - 200;
+    const int levy = n < kDruhyStitek ? n : n - kDruhyStitek;
     if (!muze_mit_pravy_stitek(levy))
         return false;
-    const int druhy = n < 200 ? n + 200 : levy;
+    const int druhy = n < kDruhyStitek ? n + kDruhyStitek : levy;
     return je_cislo_koleje(n) && je_cislo_koleje(druhy) &&
            orez(relief.cislo_koleje[n].popis()) == orez(relief.cislo_koleje[druhy].popis());
 }
@@ -140,7 +138,7 @@ void vyprazdni_stitek(Prvek& stitek) {
 void posun_cisla(const std::vector<int>& stitky, TextPohled text) {
     std::size_t misto = 0; // where the next label that stays belongs
     for (const int clen : stitky) {
-        if (clen == kT2 && ukazuje(clen, text))
+        if (clen == uzel::kT2 && ukazuje(clen, text))
             nastav_text(relief.cislo_koleje[clen], " T2 ");
         else if (ukazuje(clen, text))
             continue;
@@ -194,10 +192,10 @@ void smaz_z_trati(int n, TextPohled text, bool tise) {
     if (orez(text).empty())
         return;
     const int zaklad = zaklad_trati(n);
-    const int pred_trati = zaklad == 632 ? 96 : zaklad == 634 ? 93 : kZadny;
-    if (pred_trati != kZadny && relief.lblSouhlas2.je(zaklad) &&
-        orez(relief.lblSouhlas2[zaklad].text()) == kSipkaVpravo && ukazuje(pred_trati, text))
-        smaz_z_koleje(pred_trati);
+    const uzel::KolejPredTrati* pred_trati = uzel::kolej_pred_usekem(zaklad);
+    if (pred_trati != nullptr && pred_trati->cislo_s_trati && relief.lblSouhlas2.je(zaklad) &&
+        orez(relief.lblSouhlas2[zaklad].text()) == kSipkaVpravo && ukazuje(pred_trati->kolej, text))
+        smaz_z_koleje(pred_trati->kolej);
     const std::vector<int> stitky = stitky_trati(n);
     posun_cisla(stitky, text);
     if (!tise)
@@ -214,14 +212,9 @@ void pis_na_konec(const Cesta& cesta, TextPohled text) {
         pis_cislo(trat_za_koleji(cesta.konec), text);
 }
 
-// The second element of a line end shows the same train.
-int dvojce_hranice(int n) {
-    return n == 213 ? 85 : n == 212 ? 84 : n == 219 ? 117 : kZadny;
-}
-
 // Where a train stands, the number that ran ahead over a calling-on route hid the number of that train.
 void ukaz_stojici_vlak(int n) {
-    if (n < 600 && je_kolej(n) && relief.kolej[n].barva == barvy::cervena && vlak_na_koleji(n))
+    if (!je_usek_trati(n) && je_kolej(n) && relief.kolej[n].barva == barvy::cervena && vlak_na_koleji(n))
         zobraz_kolej(zaznam_koleje(n));
 }
 
@@ -231,8 +224,8 @@ void smaz_z_konce(const Cesta& cesta, TextPohled text, bool tiche) {
     pis_cislo(posledni, text, true, tiche);
     if (ukazoval)
         ukaz_stojici_vlak(posledni);
-    if (dvojce_hranice(posledni) != kZadny)
-        pis_cislo(dvojce_hranice(posledni), text, true, tiche);
+    if (const int usek = uzel::usek_za_vstupem(posledni); usek != kZadny)
+        pis_cislo(usek, text, true, tiche); // the second element of a line end shows the same train
     if (je_konec_pred_trati(posledni))
         pis_cislo(trat_za_koleji(posledni), text, true, tiche);
     // Where the numbered end is another element than the last one, the number stands there too.
@@ -293,8 +286,8 @@ void postup_cisla(int i) {
 
 void vymaz_cislo(int i, bool tiche, TextPohled text) {
     const Cesta* cesta = &cesta_c(i);
-    // Signal 639 stands at the far end of its line: the label before it is that of the second section.
-    const int kolej = cesta->zacatek == 639 ? 688 : kolej_navestidla(cesta->zacatek);
+    const int kolej = cesta->zacatek == uzel::kNavestidloNaKonciTrati ? uzel::kStitekPredNim
+                                                                      : kolej_navestidla(cesta->zacatek);
     const Text cislo = orez(text).empty() ? cislo_pred_navestidlem(kolej) : Text(orez(text));
     if (cislo.empty())
         return;

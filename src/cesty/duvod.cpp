@@ -12,6 +12,7 @@
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
 #include "prvky/vyhybky.h"
+#include "uzel/trate.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -74,7 +75,7 @@ template <class Podminka> Text duvod_konce(TextPohled veta, Podminka podminka) {
 
 Text duvod_smeru(int konec) {
     const Text kolej = jmeno_useku(konec);
-    Text veta(konec >= 600 ? "na traťové koleji "_cz : "na trati za kolejí "_cz);
+    Text veta(je_usek_trati(konec) ? "na traťové koleji "_cz : "na trati za kolejí "_cz);
     return veta + kolej + Text(" platí opačný směr"_cz);
 }
 
@@ -110,10 +111,10 @@ Text veta_prekazky(const Cesta& c, const Prekazka& p) {
         });
     case DruhPrekazky::opacny_smer: return duvod_smeru(c.konec);
     case DruhPrekazky::souhlas:
-        return Text("souhlas "_cz) + Text(kKonceTrati[static_cast<std::size_t>(p.prvek)].nazev) +
+        return Text("souhlas "_cz) + Text(uzel::kKonceTrati[static_cast<std::size_t>(p.prvek)].nazev) +
                Text(" není volný"_cz);
     case DruhPrekazky::kolej_118:
-        return Text("směr na koleji "_cz) + jmeno_useku(118) + Text(" není volný"_cz);
+        return Text("směr na koleji "_cz) + jmeno_useku(uzel::kKamenec) + Text(" není volný"_cz);
     }
     return {};
 }

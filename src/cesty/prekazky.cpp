@@ -8,6 +8,7 @@
 #include "prvky/souhlasy.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "prvky/vyhybky.h"
+#include "uzel/trate.h"
 
 namespace {
 
@@ -61,7 +62,7 @@ Prekazka prekazka_prvku(const Cesta& c) {
             if (const Prekazka p = prekazka_vyhybky(c, k))
                 return p;
         } else if (druh_na(c, k) == druh_prvku::kolej) {
-            if (!smi_na_obsazenou(c, k) && n != 632 && !je_volna(n))
+            if (!smi_na_obsazenou(c, k) && n != uzel::kUsekIObsazeny && !je_volna(n))
                 return {DruhPrekazky::usek, n, k};
         }
     }
@@ -83,16 +84,17 @@ Prekazka prekazka_trati(const Cesta& c) {
     if (!c.PN) {
         // A route that ends on the far section of a line runs down its numbers.
         const int sipka = sipka_konce(c.konec);
-        if (je_usek_trati(c.konec) && c.konec <= 699 &&
-            sipka_drzi(sipka, posledni > 649 ? kSipkaVpravo : kSipkaVlevo))
+        if (je_usek_trati(c.konec) && c.konec <= kPosledniTrat + 1 &&
+            sipka_drzi(sipka, posledni >= uzel::kDruheUseky ? kSipkaVpravo : kSipkaVlevo))
             return {DruhPrekazky::opacny_smer, sipka, vse};
         for (int k = 0; k < 3; ++k)
-            if (c.konec == kKonceTrati[static_cast<std::size_t>(k)].usek && relief.lblSouhlas.je(k) &&
+            if (c.konec == uzel::kKonceTrati[static_cast<std::size_t>(k)].usek && relief.lblSouhlas.je(k) &&
                 relief.lblSouhlas[k].barva != barvy::seda)
                 return {DruhPrekazky::souhlas, k, vse};
         const int predposledni = vse < 2 ? kZadny : c.prvky[vse - 2];
-        if ((predposledni == 303 || predposledni == 187) && sipka_neni_seda(118))
-            return {DruhPrekazky::kolej_118, 118, vse};
+        if ((predposledni == uzel::kKeKamenciOdMokriny || predposledni == uzel::kKeKamenciOdTesku) &&
+            sipka_neni_seda(uzel::kKamenec))
+            return {DruhPrekazky::kolej_118, uzel::kKamenec, vse};
     }
     if (vede_na_trat(c)) {
         const int sipka = sipka_konce(c.konec);

@@ -36,8 +36,9 @@ bool vede_na_trat(const Cesta& cesta) {
 
 TextPohled smer_na_trat(const Cesta& cesta) {
     const int prvni = prvni_prvek(cesta);
-    // Track 118 is drawn apart from the line that it leads to, so that its place tells nothing.
-    const bool nahoru = prvni == 118 || relief.kolej[prvni].x1 <= relief.kolej[posledni_prvek(cesta)].x2;
+    // The track of Kamenec is drawn apart from the line that it leads to, so that its place tells nothing.
+    const bool nahoru =
+        prvni == uzel::kKamenec || relief.kolej[prvni].x1 <= relief.kolej[posledni_prvek(cesta)].x2;
     return nahoru ? kSipkaVpravo : kSipkaVlevo;
 }
 
@@ -66,14 +67,14 @@ void zhasni_sipku(int n) {
 }
 
 void uvolni_smer(int konec) {
-    const bool pred_trati = je_konec_pred_trati(konec);
-    if (!pred_trati && (!je_usek_trati(konec) || konec > 698))
+    const uzel::KolejPredTrati* pred_trati = uzel::kolej_pred_trati(konec);
+    if (pred_trati == nullptr && (!je_usek_trati(konec) || konec > kPosledniTrat))
         return;
     // The direction outlives this route while a train is on the line or another route leads there.
     const int usek = trat_za_koleji(konec);
     if (!cil_volny(konec) || stoji_vlak_na_trati(usek) || trat_drzi_cesta(usek))
         return;
-    if (konec == 94 && !sipka_drzi(636, kSipkaVpravo))
+    if (pred_trati != nullptr && pred_trati->zhasne_jen_vpravo && !sipka_drzi(usek, kSipkaVpravo))
         return;
-    zhasni_sipku(pred_trati ? usek : zaklad_trati(konec));
+    zhasni_sipku(pred_trati != nullptr ? usek : zaklad_trati(konec));
 }

@@ -6,6 +6,7 @@
 
 #include "cesty/cesta.h"
 #include "relief/relief.h"
+#include "uzel/trate.h"
 #include "zaklad/text.h"
 
 inline constexpr TextPohled kSipkaVpravo = ">>";
@@ -13,13 +14,14 @@ inline constexpr TextPohled kSipkaVlevo = "<<";
 
 // --- at any time, without change
 
-// The track 93, 94 or 96 before the junction lines, whose ends share the arrow of a section.
+// A track before the junction lines, whose ends share the arrow of a section.
 constexpr bool je_konec_pred_trati(int n) {
-    return n == 93 || n == 94 || n == 96;
+    return uzel::kolej_pred_trati(n) != nullptr;
 }
 // Section that shares number and arrow with such a track; other numbers stay.
 constexpr int trat_za_koleji(int n) {
-    return n == 93 ? 634 : n == 94 ? 636 : n == 96 ? 632 : n;
+    const uzel::KolejPredTrati* pred = uzel::kolej_pred_trati(n);
+    return pred == nullptr ? n : pred->usek;
 }
 // Number of the arrow of a route's end.
 int sipka_konce(int konec);

@@ -24,6 +24,7 @@
 #include "prvky/vyhybky.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
+#include "uzel/trate.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -141,7 +142,7 @@ void oznac_prvky(Cesta& c, std::size_t dosel) {
             c.prejezd = 0;
         if (n == 279 || n == 280)
             c.prejezd = 1;
-        if (je_cil(n) && (!je_usek_trati(n) || n == 638))
+        if (je_cil(n) && (!je_usek_trati(n) || n == uzel::kT2))
             c.polohy[k] = 2;
     }
 }
@@ -194,9 +195,10 @@ void prikaz_prvkum(const Cesta& c) {
 
 // Lamp of the line end at which the route ends; -1 none.
 int lampa_konce(int konec) {
-    const int k = konec_trati(konec);
-    return k >= 0 && kKonceTrati[static_cast<std::size_t>(k)].usek == konec && relief.lblSouhlas.je(k) ? k
-                                                                                                       : -1;
+    const int k = uzel::konec_trati(konec);
+    return k >= 0 && uzel::kKonceTrati[static_cast<std::size_t>(k)].usek == konec && relief.lblSouhlas.je(k)
+               ? k
+               : -1;
 }
 
 // Directions that the route lays when its switches are commanded; the caption of a lamp points out.
@@ -205,13 +207,13 @@ void napis_smery(const Cesta& c) {
         return;
     const int k = lampa_konce(c.konec);
     if (k >= 0)
-        nastav_text(relief.lblSouhlas[k], znak(kKonceTrati[static_cast<std::size_t>(k)].znak_ven));
+        nastav_text(relief.lblSouhlas[k], znak(uzel::kKonceTrati[static_cast<std::size_t>(k)].znak_ven));
     const std::size_t vse = c.prvky.size();
     const int predposledni = vse < 2 ? kZadny : c.prvky[vse - 2];
-    if (predposledni == 303)
-        napis_sipku(118, kSipkaVlevo);
-    if (predposledni == 187)
-        napis_sipku(118, kSipkaVpravo);
+    if (predposledni == uzel::kKeKamenciOdMokriny)
+        napis_sipku(uzel::kKamenec, kSipkaVlevo);
+    if (predposledni == uzel::kKeKamenciOdTesku)
+        napis_sipku(uzel::kKamenec, kSipkaVpravo);
 }
 
 void prikaz_ceste(Cesta& c, std::int32_t ted) {
@@ -224,13 +226,13 @@ void prikaz_ceste(Cesta& c, std::int32_t ted) {
     prikaz_prvkum(c);
     if (!c.PN && je_kolej(c.konec) && je_volna(c.konec))
         barvi_prvek(c.konec, barvy::azurova, false, true);
-    if (c.konec == 120 || c.konec == 123)
+    if (uzel::je_trat_dubnice(c.konec))
         napis_sipku(c.konec, sude_navestidlo(c.zacatek) ? kSipkaVpravo : kSipkaVlevo);
     if (vede_na_trat(c))
         poloz_smer(c);
     if (c.Kdy_prehoz < 0)
         c.Kdy_prehoz = ted + kPrestaveni_s;
-    if (c.VC && !c.PN && c.konec != 638 && je_cislo_koleje(c.konec) &&
+    if (c.VC && !c.PN && c.konec != uzel::kT2 && je_cislo_koleje(c.konec) &&
         relief.cislo_koleje[c.konec].barva != barvy::bila)
         relief.cislo_koleje[c.konec].barva = barvy::azurova;
     if (ceka_na_ni_zasobnik(c))

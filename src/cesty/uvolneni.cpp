@@ -18,6 +18,7 @@
 #include "prvky/vyhybky.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
+#include "uzel/trate.h"
 
 #include <algorithm>
 
@@ -44,7 +45,7 @@ int index_cesty(const Cesta& c) {
 // about the locking.
 bool bez_barvy_zaveru(const Cesta& c, std::size_t k) {
     const int n = c.prvky[k];
-    if (je_usek_trati(n) || je_hranicni(n))
+    if (je_usek_trati(n) || uzel::je_hranicni(n))
         return true;
     if (k != posledni_index(c))
         return false;
@@ -119,7 +120,7 @@ void uvolni_prvky(const Cesta& c) {
             // Sections of a line are only ever painted by shunt routes, and none by a calling-on route.
             if (c.PN)
                 break;
-            if (!je_usek_trati(n) || n == 638 || (!c.VC && relief.kolej[n].barva == barvy::bila))
+            if (!je_usek_trati(n) || n == uzel::kT2 || (!c.VC && relief.kolej[n].barva == barvy::bila))
                 uvolni_prvek(n);
             break;
         }

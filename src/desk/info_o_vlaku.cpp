@@ -4,7 +4,6 @@
 #include "app/cas.h"
 #include "app/simulace.h"
 #include "desk/zprava.h"
-#include "gvd/dopravny.h"
 #include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
@@ -12,6 +11,7 @@
 #include "jizda/souprava.h"
 #include "jizda/vlak.h"
 #include "relief/relief.h"
+#include "uzel/dopravny.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>

@@ -6,6 +6,7 @@
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
 #include "relief/relief.h"
+#include "uzel/dopravny.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -16,7 +17,6 @@
 
 namespace {
 
-constexpr std::array kSPredpovedi = {1, 2, 4, 5, 6, 17, 18, 19, 20};
 constexpr int kPredpoved_min = 60;
 
 // The line: category from 1, number and time right-aligned, delay.
@@ -72,7 +72,8 @@ std::vector<Predvidany> predvidane(int stanice, int ted) {
 } // namespace
 
 bool ma_predpoved(int stanice) {
-    return std::find(kSPredpovedi.begin(), kSPredpovedi.end(), stanice) != kSPredpovedi.end();
+    return std::find(uzel::kSPredpovedi.begin(), uzel::kSPredpovedi.end(), stanice) !=
+           uzel::kSPredpovedi.end();
 }
 
 void predvidane_vlaky(int stanice) {

@@ -3,8 +3,9 @@
 
 #include "app/cas.h"
 #include "app/simulace.h"
-#include "gvd/dopravny.h"
 #include "prvky/souhlasy.h"
+#include "uzel/dopravny.h"
+#include "uzel/trate.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 #include "zaklad/soubory.h"
@@ -18,53 +19,6 @@
 TabulkaGvd gvd_vlaky;
 
 namespace {
-
-struct Stanice {
-    TextPohled nazev, kod;
-};
-
-// By station code. 27 and 31 are the two ends of one yard, 28 and 30 of one depot.
-constexpr std::array<Stanice, 39> kStanice = {{
-    {},
-    {"Lhotín"_cz, "LHO"_cz},
-    {"Borovec"_cz, "BOR"_cz},
-    {"Javořín"_cz, "JAV"_cz},
-    {"Dubnice"_cz, "DUB"_cz},
-    {"Vrbice"_cz, "VRB"_cz},
-    {"Rokytno"_cz, "ROK"_cz},
-    {"Rybnice"_cz, {}},
-    {"Vyšní Hrabov"_cz, "TVH"_cz},
-    {"Tesk hl. n."_cz, "THN"_cz},
-    {"Kamenec"_cz, {}}, // 10
-    {"Mokřina"_cz, {}},
-    {"Hájovice"_cz, "THJ"_cz},
-    {"Knížecí Luka"_cz, "TKL"_cz},
-    {"Olšany"_cz, {}},
-    {"dolní n."_cz, {}},
-    {"PVS"_cz, {}},
-    {"ONA"_cz, "ONA"_cz},
-    {"ONB"_cz, "ONB"_cz},
-    {"Pol. Lhota"_cz, "PLH"_cz},
-    {"Hvozdy"_cz, "HVO"_cz}, // 20
-    {"Zlatá"_cz, {}},
-    {"Jívová/Bystrou"_cz, {}},
-    {"Javorná/Bystrou"_cz, {}},
-    {"Podolí"_cz, {}},
-    {},
-    {},
-    {"Hájovice s.n."_cz, "THS"_cz},
-    {"DKV"_cz, "DKV"_cz},
-    {},
-    {"DKV"_cz, "DKV"_cz}, // 30
-    {"Hájovice s.n."_cz, "THS"_cz},
-    {"Javořín dolní"_cz, {}},
-    {"Pošta"_cz, "PST"_cz},
-    {"DKV VH"_cz, "DVH"_cz},
-    {"Tesk Lipina"_cz, {}},
-    {"Veselá"_cz, {}},
-    {"Skalka"_cz, {}},
-    {"Ořechov"_cz, {}},
-}};
 
 constexpr std::array<TextPohled, 19> kDruhyVlaku = {{{},
                                                      "EC"_cz,
@@ -181,7 +135,7 @@ bool aktivni_dnes(const GvdVlak& radek) {
 }
 
 bool bez_prijezdu(const GvdVlak& radek) {
-    return radek.prijezdy.front() <= -1 || konec_ke_stanici(radek.stanice.front()) >= 0;
+    return radek.prijezdy.front() <= -1 || uzel::konec_ke_stanici(radek.stanice.front()) >= 0;
 }
 
 std::int16_t cas_vstupu(const GvdVlak& radek) {
@@ -191,13 +145,15 @@ std::int16_t cas_vstupu(const GvdVlak& radek) {
 TextPohled nazev_stanice(int kod) {
     if (kod == kZadny)
         kod = dopravna::tesk;
-    return kod >= 0 && kod < static_cast<int>(kStanice.size()) ? kStanice[static_cast<std::size_t>(kod)].nazev
-                                                               : TextPohled{};
+    return kod >= 0 && kod < static_cast<int>(uzel::kStanice.size())
+               ? uzel::kStanice[static_cast<std::size_t>(kod)].nazev
+               : TextPohled{};
 }
 
 TextPohled kod_stanice(int kod) {
-    return kod >= 0 && kod < static_cast<int>(kStanice.size()) ? kStanice[static_cast<std::size_t>(kod)].kod
-                                                               : TextPohled{};
+    return kod >= 0 && kod < static_cast<int>(uzel::kStanice.size())
+               ? uzel::kStanice[static_cast<std::size_t>(kod)].kod
+               : TextPohled{};
 }
 
 TextPohled zkratka_druhu(int druh) {

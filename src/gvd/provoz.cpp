@@ -9,7 +9,6 @@
 #include "cesty/dotazy.h"
 #include "cesty/programova_cesta.h"
 #include "desk/tabulka_vlaku.h"
-#include "gvd/dopravny.h"
 #include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"
@@ -19,6 +18,8 @@
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
 #include "prvky/souhlasy.h"
+#include "uzel/dopravny.h"
+#include "uzel/trate.h"
 #include "zaklad/cisla.h"
 #include "zaklad/nahoda.h"
 
@@ -166,7 +167,7 @@ void ukaz_vjezd(int k) {
         relief.lblPredvidany_odjezd[k].viditelny = true;
     }
     Prvek& lampa = relief.lblSouhlas[k];
-    nastav_text(lampa, znak(kKonceTrati[static_cast<std::size_t>(k)].znak_dovnitr));
+    nastav_text(lampa, znak(uzel::kKonceTrati[static_cast<std::size_t>(k)].znak_dovnitr));
     lampa.barva = barvy::modra;
     souhlasy.souhlas[static_cast<std::size_t>(k)] = false;
 }
@@ -259,7 +260,7 @@ void krok_radku(int gvd_index, int ted) {
         vstup_v_minute(gvd_index);
     else if (!aktivni)
         return;
-    else if (zbyva == 1 && konec_ke_stanici(stanice) >= 0)
+    else if (zbyva == 1 && uzel::konec_ke_stanici(stanice) >= 0)
         vstup_se_souhlasem(gvd_index);
     else if (zbyva == 1 || zbyva == 2)
         ohlaseni(gvd_index);
@@ -357,10 +358,10 @@ void vstup_v_minute(int gvd_index) {
 
 void vstup_se_souhlasem(int gvd_index) {
     const GvdVlak& r = radek_gvd(gvd_index);
-    const int k = konec_ke_stanici(r.stanice.front());
+    const int k = uzel::konec_ke_stanici(r.stanice.front());
     if (!relief.lblSouhlas.je(k))
         return;
-    const KonecTrati& konec = kKonceTrati[static_cast<std::size_t>(k)];
+    const uzel::KonecTrati& konec = uzel::kKonceTrati[static_cast<std::size_t>(k)];
     if (!je_kolej(konec.navestidlo) || !je_kolej(konec.usek))
         return;
     Prvek& lampa = relief.lblSouhlas[k];
@@ -466,7 +467,7 @@ void postav_cesty_z(int e) {
 }
 
 void pridej_cestu_souhlasu(int k) {
-    const KonecTrati& konec = kKonceTrati.at(static_cast<std::size_t>(k));
+    const uzel::KonecTrati& konec = uzel::kKonceTrati.at(static_cast<std::size_t>(k));
     const std::array prvky = {na_integer(konec.navestidlo), na_integer(konec.usek)};
     pridej_programovou_cestu(konec.vjezd, konec.usek, prvky);
 }

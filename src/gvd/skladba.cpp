@@ -4,7 +4,6 @@
 #include "app/cas.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
-#include "gvd/dopravny.h"
 #include "gvd/gvd.h"
 #include "gvd/obrazky_vozu.h"
 #include "gvd/provoz.h"
@@ -12,6 +11,7 @@
 #include "jizda/souprava.h"
 #include "jizda/spojovani.h"
 #include "jizda/vlak.h"
+#include "uzel/dopravny.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>

@@ -6,7 +6,6 @@
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
 #include "desk/tabulka_vlaku.h"
-#include "gvd/dopravny.h"
 #include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/obrazky_vozu.h"
@@ -17,6 +16,7 @@
 #include "jizda/souprava.h"
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
+#include "uzel/dopravny.h"
 #include "zaklad/cisla.h"
 #include "zaklad/nahoda.h"
 

@@ -7,7 +7,6 @@
 #include "cesty/dotazy.h"
 #include "cesty/programova_cesta.h"
 #include "desk/tabulka_vlaku.h"
-#include "gvd/dopravny.h"
 #include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"
@@ -15,6 +14,7 @@
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
 #include "relief/topologie.h"
+#include "uzel/dopravny.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>

@@ -2,11 +2,11 @@
 #include "gvd/zaplneni.h"
 
 #include "app/cas.h"
-#include "gvd/dopravny.h"
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
 #include "gvd/soupravy.h"
 #include "gvd/umisteni.h"
+#include "uzel/dopravny.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>

@@ -30,6 +30,7 @@
 #include "relief/topologie.h"
 #include "save/gtn.h"
 #include "save/nouzove.h"
+#include "uzel/trate.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
@@ -182,7 +183,8 @@ bool vstup_na_kolej(int c, int i, int v, std::uint8_t odkud) {
         pridej_na_kolej(n, v, vlak_c(v).smer, -1);
     rychlost_trati_prvek(n, v);
     // The drawing is folded: on these tracks the sense of travel turns.
-    const bool obrat = odkud == druh_prvku::kolej ? je_v(n, {115, 116, 118}) : je_v(n, {118, 335, 336});
+    const bool obrat =
+        odkud == druh_prvku::kolej ? je_v(n, uzel::kOhybyZKoleje) : je_v(n, uzel::kOhybyZVyhybky);
     if (obrat)
         vlak_c(v).smer = !vlak_c(v).smer;
     if (!obsazena)

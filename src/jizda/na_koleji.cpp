@@ -6,6 +6,7 @@
 #include "jizda/zastavky.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
+#include "uzel/trate.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -26,7 +27,7 @@ template <class It> int prvni_vlak(It od, It po) {
 // Two labels: the lowest train of the list on the left one, the highest on the right one.
 void zobraz_dva_stitky(int e, const std::vector<std::int16_t>& seznam) {
     Prvek& levy = relief.cislo_koleje[e];
-    Prvek& pravy = relief.cislo_koleje[e + 200];
+    Prvek& pravy = relief.cislo_koleje[e + kDruhyStitek];
     if (levy.popis() != pravy.popis())
         return;
     const int vlak_vlevo = prvni_vlak(seznam.begin(), seznam.end());
@@ -40,10 +41,10 @@ void zobraz_dva_stitky(int e, const std::vector<std::int16_t>& seznam) {
     nastav_text(levy, text_vlevo);
     levy.viditelny = !text_vlevo.empty();
     pravy.barva = relief.kolej[e].barva;
-    nastav_pozadi_stitku(e + 200, barvy::cerna);
+    nastav_pozadi_stitku(e + kDruhyStitek, barvy::cerna);
     nastav_text(pravy, text_vpravo);
     zobraz_cislo(e, e, vlak_vlevo);
-    zobraz_cislo(e + 200, e, vlak_vpravo);
+    zobraz_cislo(e + kDruhyStitek, e, vlak_vpravo);
 }
 
 // Background that the note on a track gives its label; nothing without a note.
@@ -60,7 +61,7 @@ bool je_pozadi_cekani(Barva pozadi) {
 void zobraz_jeden_stitek(int e, const std::vector<std::int16_t>& seznam) {
     Prvek& stitek = relief.cislo_koleje[e];
     const int vlak = prvni_vlak(seznam.begin(), seznam.end());
-    nastav_text(stitek, vlak >= 0 && e < 500 ? text_vlaku(vlak) : Text{});
+    nastav_text(stitek, vlak >= 0 && e < kPrvniOdstavna ? text_vlaku(vlak) : Text{});
     stitek.viditelny = !orez(stitek.text()).empty();
     const bool prazdny = !stitek.viditelny();
     if (prazdny || (vlaky[static_cast<std::size_t>(vlak)].muze_jet && je_pozadi_cekani(stitek.pozadi)))
@@ -98,7 +99,7 @@ bool vlak_na_koleji(int prvek) {
 }
 
 void pridej_na_kolej(int prvek, int vlak, bool smer, int vedle) {
-    if (prvek == 118)
+    if (prvek == uzel::kKamenec)
         smer = !smer;
     int zaznam = zaznam_koleje(prvek);
     if (zaznam < 0) {
@@ -143,7 +144,7 @@ void zobraz_kolej(int zaznam) {
     const int e = kolej.prvek;
     if (!je_cislo_koleje(e) || !je_kolej(e))
         return;
-    if (je_cislo_koleje(e + 200) && !je_vstup_z_trati(e + 200))
+    if (je_cislo_koleje(e + kDruhyStitek) && !je_vstup_z_trati(e + kDruhyStitek))
         zobraz_dva_stitky(e, kolej.vlaky);
     else
         zobraz_jeden_stitek(e, kolej.vlaky);
@@ -180,9 +181,9 @@ void uber_ze_vsech(int vlak) {
 
 void smaz_cislo_z_dvou(int prvek, std::int32_t cislo) {
     const int zaznam = zaznam_koleje(prvek);
-    if (zaznam < 0 || !je_cislo_koleje(prvek) || !je_cislo_koleje(prvek + 200))
+    if (zaznam < 0 || !je_cislo_koleje(prvek) || !je_cislo_koleje(prvek + kDruhyStitek))
         return;
-    for (const int stitek : {prvek, prvek + 200})
+    for (const int stitek : {prvek, prvek + kDruhyStitek})
         if (cele_z_textu(orez(relief.cislo_koleje[stitek].text())) == cislo) {
             zobraz_kolej(zaznam);
             return;

@@ -6,7 +6,6 @@
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
 #include "desk/zprava.h"
-#include "gvd/dopravny.h"
 #include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/stav_provozu.h"
@@ -19,6 +18,8 @@
 #include "relief/prejezdy.h"
 #include "relief/relief.h"
 #include "relief/topologie.h"
+#include "uzel/dopravny.h"
+#include "uzel/trate.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -26,6 +27,7 @@
 
 namespace {
 
+constexpr int kVarovat_m = 700;    // before the end of a long section
 constexpr int kMinutNaRozjezd = 5; // so long after the start the trains already under way are not told of
 
 int prvek_c(const Cesta& cesta, int i) {
@@ -41,7 +43,7 @@ int navestidlo_oddilu(int usek, bool smer) {
 int navestidlo_konce(const Cesta& cesta, bool smer) {
     if (je_usek_trati(cesta.konec))
         return navestidlo_oddilu(cesta.konec, smer);
-    return cesta.konec + 200;
+    return cesta.konec + kDruhyStitek;
 }
 Text jmeno_konce(const Cesta& cesta, bool smer) {
     const int s = navestidlo_konce(cesta, smer);
@@ -76,14 +78,13 @@ bool uz_receno(const Text& cast) {
 // The end of a long section comes near and no route goes on from it.
 void varuj_na_konci_useku(const Cesta& cesta, int e, int v) {
     const bool smer = vlak_c(v).smer;
-    const bool dlouhy =
-        je_v(e, {120, 123}) || (smer && je_v(e, {654, 656})) || (!smer && je_v(e, {604, 606}));
-    if (!dlouhy && e != 118)
+    const uzel::DlouhyUsek* dlouhy = uzel::dlouhy_usek(e, smer);
+    if (dlouhy == nullptr)
         return;
     const double zbyva = delka_koleje(e) - metry(e);
-    if (zbyva <= (e == 118 ? 600 : 500) || zbyva >= 700 || je_nastaveno_z(e))
+    if (zbyva <= dlouhy->nejmene_m || zbyva >= kVarovat_m || je_nastaveno_z(e))
         return;
-    if (e == 118) {
+    if (e == uzel::kKamenec) {
         if (!uz_receno("TK THN-MOK okolo navesti VYSTRAHA!"))
             varuj(veta_projel(v, " projel na ", "TK THN-MOK"));
         return;
@@ -189,8 +190,8 @@ int cesta_od_prvku(int prvek, int dalsi, bool smer) {
         const Cesta& cesta = cesty[c];
         if (cesta.zacatek < 0 || cesta.prvky.front() != prvek || cesta.Umazat != 0)
             continue;
-        const bool vhodna =
-            prvek == 118 ? cesta.prvky.size() > 1 && cesta.prvky[1] == dalsi : smer_cesty(cesta) != smer;
+        const bool vhodna = prvek == uzel::kKamenec ? cesta.prvky.size() > 1 && cesta.prvky[1] == dalsi
+                                                    : smer_cesty(cesta) != smer;
         if (vhodna)
             return static_cast<int>(c);
     }
@@ -218,26 +219,27 @@ void kontrola_vstupu(int cesta, int i, int v) {
     const int n = prvek_c(c, i + 1);
     const bool smer = vlak_c(v).smer;
     const bool posledni = static_cast<std::size_t>(i) + 2 == c.prvky.size();
-    if (posledni && je_usek_trati(n) && !je_v(n, {604, 606, 654, 656})) {
+    if (posledni && je_usek_trati(n) && !je_v(n, uzel::kTratPodoli)) {
         const int s = navestidlo_oddilu(n, smer);
         if (relief.navestidlo.je(s) && relief.navestidlo[s].barva != barvy::zelena)
             varuj(veta_projel(v, " projel na ", jmeno_navestidla(s)));
     }
-    if (i == 0 && je_v(n, {84, 85, 117}) && !je_nastaveno_z(n))
+    if (i == 0 && uzel::je_usek_konce(n) && !je_nastaveno_z(n))
         varuj(veta_projel(v, " projel na ", jmeno_konce(c, smer)));
 }
 
 void uvnitr_prvku(int cesta, int i, int v) {
     const int e = vlak_c(v).prvky.back();
     const bool cely = static_cast<std::size_t>(vlak_c(v).prvek_konec) + 1 == vlak_c(v).prvky.size();
-    if (cely && (e > kPrvniTrat || e == 96))
+    if (cely && (e > kPrvniTrat || e == uzel::kKolejStopuPredTrati))
         vlak_v_cili(e, v); // stopped on the line once the whole train is on the section
     varuj_na_konci_useku(cesta_c(cesta), e, v);
-    if (e == 118 && i > 0) {
+    if (e == uzel::kKamenec && i > 0) {
         const double celo = metry(e);
-        const bool od_mokriny = prvek_c(cesta_c(cesta), i - 1) == 303;
-        if (od_mokriny ? celo > 700 && celo < 850 : celo > 5200 && celo < 5350)
-            vlak_v_cili(e, v); // the platform of Kamenec
+        const bool od_mokriny = prvek_c(cesta_c(cesta), i - 1) == uzel::kKeKamenciOdMokriny;
+        const uzel::Nastupiste& n = od_mokriny ? uzel::kKamenecOdMokriny : uzel::kKamenecOdTesku;
+        if (celo > n.od_m && celo < n.po_m)
+            vlak_v_cili(e, v);
     }
     if (je_v(e, {120, 123, 213, 600, 602, 654, 656}))
         kontrola_prejezdu(e, vlak_c(v).smer, vlak_c(v).delka);

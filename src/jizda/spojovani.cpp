@@ -11,7 +11,6 @@
 #include "desk/info_o_vlaku.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
-#include "gvd/dopravny.h"
 #include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"
@@ -23,6 +22,8 @@
 #include "jizda/zastavky.h"
 #include "prvky/vyhybky.h"
 #include "relief/relief.h"
+#include "uzel/dopravny.h"
+#include "uzel/trate.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
 
@@ -127,7 +128,7 @@ bool stoji_na_koleji(const Vlak& v) {
     if (!cely_na_prvku(v))
         return false;
     const int e = v.prvky.back();
-    return e <= kPrvniTrat && !je_v(e, {84, 85, 117, 120, 123}) && !je_vstup_z_trati(e);
+    return e <= kPrvniTrat && uzel::konec_trati(e) < 0 && !uzel::je_trat_dubnice(e);
 }
 
 // Units are not split.

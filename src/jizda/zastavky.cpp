@@ -6,7 +6,6 @@
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
 #include "desk/tabulka_vlaku.h"
-#include "gvd/dopravny.h"
 #include "jizda/metry.h"
 #include "jizda/na_koleji.h"
 #include "jizda/posun.h"
@@ -16,6 +15,8 @@
 #include "prvky/stanicni_prejezdy.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
+#include "uzel/dopravny.h"
+#include "uzel/trate.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -28,8 +29,6 @@ constexpr int kCekaNaPovel = 10;   // minutes that such a stop shows
 constexpr int kNepojede = 99;      // minutes shown by a train that will not go by itself
 constexpr int kPobytVychozi = 5;   // least dwell where the train starts
 constexpr int kRychlostZTrati = 5; // km/h at which a train starts from a stop on a line
-
-constexpr int kPosledniUsek = 950; // sections of lines above have no labels that count minutes
 
 constexpr Barva kPozadiTrati = 0x808000;  // label of a train that waits on a line
 constexpr Barva kPozadiMinuty = 0x00FFFF; // label in the last minute
@@ -192,14 +191,14 @@ bool ukazuje_vlak(int stitek, const Vlak& vlak) {
 int stitek_ve_stanici(int e, const Vlak& vlak) {
     if (je_vstup_z_trati(e))
         return -1;
-    if (muze_mit_pravy_stitek(e) && ukazuje_vlak(e + 200, vlak))
-        return e + 200;
+    if (muze_mit_pravy_stitek(e) && ukazuje_vlak(e + kDruhyStitek, vlak))
+        return e + kDruhyStitek;
     return ukazuje_vlak(e, vlak) ? e : -1;
 }
 
 // Label of the line on which the train waits that shows its number; -1 when none does.
 int stitek_na_trati(int e, const Vlak& vlak) {
-    for (int n = zaklad_trati(e); n <= kPosledniUsek; n += kKrokTrati)
+    for (int n = zaklad_trati(e); n <= uzel::kNejvyssiStitekMinut; n += kKrokTrati)
         for (const int stitek : {n, n + 2})
             if (ukazuje_vlak(stitek, vlak))
                 return stitek;
@@ -242,13 +241,13 @@ void ukaz_ve_stanici(int v, int zbyva) {
 void ukaz_na_trati(int v, int zbyva) {
     Vlak& vlak = vlak_c(v);
     const int e = vlak.prvky.back();
-    const int stitek = e == 118 ? 998 : stitek_na_trati(e, vlak);
+    const int stitek = e == uzel::kKamenec ? uzel::kObrazKamence : stitek_na_trati(e, vlak);
     if (zbyva > 0) {
         if (je_cislo_koleje(stitek))
             nastav_pozadi_stitku(stitek, kPozadiTrati);
         return;
     }
-    if (e == 118) {
+    if (e == uzel::kKamenec) {
         if (je_cislo_koleje(stitek))
             nastav_pozadi_stitku(stitek, barvy::cerna);
     } else {
@@ -436,7 +435,7 @@ void zobraz_cekani(int v) {
     if (vlak.prvky.empty())
         return;
     const int e = vlak.prvky.back();
-    if (!je_usek_trati(e) && e != 118)
+    if (!je_usek_trati(e) && e != uzel::kKamenec)
         ukaz_ve_stanici(v, zbyva);
     else
         ukaz_na_trati(v, zbyva);

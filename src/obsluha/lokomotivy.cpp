@@ -7,7 +7,6 @@
 #include "cesty/dotazy.h"
 #include "desk/menu.h"
 #include "desk/tabulka_vlaku.h"
-#include "gvd/dopravny.h"
 #include "gvd/druhy_vlaku.h"
 #include "gvd/obrazky_vozu.h"
 #include "gvd/provoz.h"
@@ -18,6 +17,7 @@
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
 #include "relief/relief.h"
+#include "uzel/dopravny.h"
 #include "zaklad/cisla.h"
 #include "zaklad/nahoda.h"
 

@@ -2,6 +2,7 @@
 #include "cesty/cesta.h"
 #include "prvky/navestidla.h"
 #include "relief/relief.h"
+#include "uzel/trate.h"
 
 #include <algorithm>
 #include <array>
@@ -22,7 +23,7 @@ constexpr std::array<std::array<TextPohled, 5>, 4> kZnaky = {{
 // of the group.
 bool trat_volna(int e) {
     int usek = zaklad_trati(e);
-    if (e <= 650) {
+    if (e <= uzel::kDruheUseky) {
         usek = e;
         for (int n = e; n <= kNejvyssiPrvek; n += kKrokTrati)
             if (je_kolej(n))

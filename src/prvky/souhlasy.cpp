@@ -5,6 +5,7 @@
 #include "desk/zprava.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
+#include "uzel/trate.h"
 #include "zaklad/cisla.h"
 
 namespace {
@@ -12,11 +13,11 @@ namespace {
 constexpr TextPohled kSlovoZpravy = " ZPRÁVA "_cz;
 
 bool je_lampa(int k) {
-    return k >= 0 && static_cast<std::size_t>(k) < kKonceTrati.size() && relief.lblSouhlas.je(k);
+    return k >= 0 && static_cast<std::size_t>(k) < uzel::kKonceTrati.size() && relief.lblSouhlas.je(k);
 }
 
-const KonecTrati& konec(int k) {
-    return kKonceTrati[static_cast<std::size_t>(k)];
+const uzel::KonecTrati& konec(int k) {
+    return uzel::kKonceTrati[static_cast<std::size_t>(k)];
 }
 
 Text otazka(int k) {

@@ -1,7 +1,6 @@
-// prvky/souhlasy.h - consents of the three line ends.
+// prvky/souhlasy.h - consents of the three line ends of uzel/trate.h.
 #pragma once
 
-#include "gvd/dopravny.h"
 #include "obsluha/tlacitko.h"
 #include "zaklad/text.h"
 
@@ -15,43 +14,6 @@ struct Souhlasy {
     bool operator==(const Souhlasy&) const = default;
 };
 extern Souhlasy souhlasy;
-
-// A line end towards a neighbouring station: the two elements that route logic treats as one, its
-// names, and the glyphs of its lamp.
-struct KonecTrati {
-    int navestidlo; // number of the signal and of the section outside
-    int usek;       // section inside, where routes from here end
-    int vjezd;      // first signal of a train that comes in
-    int stanice;    // the neighbour, gvd/dopravny.h
-    TextPohled nazev;
-    TextPohled vyzva; // beginning of the question "... Přijmete vlak "
-    int znak_dovnitr; // glyph at rest, with a consent given, behind a train that came in
-    int znak_ven;     // glyph while a route leads out
-};
-inline constexpr std::array<KonecTrati, 3> kKonceTrati = {{
-    {212, 84, 284, dopravna::polska_lhota, "PLH-JAV", " PLH: Přijmete vlak "_cz, 8, 15},
-    {213, 85, 285, dopravna::hvozdy, "HVO-JAV", " HVO: Přijmete vlak "_cz, 8, 15},
-    {219, 117, 317, dopravna::vrbice, "VRB-THN", " VRB: Přijmete vlak "_cz, 176, 183},
-}};
-
-// --- at any time, without change
-
-// Line end to which element n belongs, by either of its two numbers; -1 when to none.
-constexpr int konec_trati(int n) {
-    for (int k = 0; k < 3; ++k)
-        if (n == kKonceTrati[static_cast<unsigned>(k)].navestidlo ||
-            n == kKonceTrati[static_cast<unsigned>(k)].usek)
-            return k;
-    return -1;
-}
-
-// Line end towards a station; -1 when trains from there need no consent.
-constexpr int konec_ke_stanici(int stanice) {
-    for (int k = 0; k < 3; ++k)
-        if (stanice == kKonceTrati[static_cast<unsigned>(k)].stanice)
-            return k;
-    return -1;
-}
 
 // --- on the operator's command; an index that is no line end does nothing
 

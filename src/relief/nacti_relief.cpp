@@ -5,6 +5,7 @@
 #include "relief/relief.h"
 #include "relief/soubor_reliefu.h"
 #include "relief/tvary_vyhybek.h"
+#include "uzel/kresba.h"
 #include "zaklad/cisla.h"
 #include "zaklad/soubory.h"
 
@@ -87,13 +88,13 @@ void napis_pozadi(int vlevo, int nahore, std::initializer_list<int> kody) {
 // Pieces of track with a mark of their own, by number: exceptions of this junction.
 void umisti_kolej(const ZaznamReliefu& z) {
     umisti_caru(relief.kolej, z);
-    if (je_v(z.cislo, {678, 680, 450, 454})) // for the logic only
+    if (je_v(z.cislo, uzel::kSkryteKoleje))
         relief.kolej[z.cislo].viditelny = false;
-    if (je_v(z.cislo, {574, 112}))
+    if (je_v(z.cislo, uzel::kPokracujiVpravo))
         napis_pozadi(z.b, z.d - 70, {20, 20, 20});
-    if (je_v(z.cislo, {105, 557, 569, 119}))
+    if (je_v(z.cislo, uzel::kPokracujiVlevo))
         napis_pozadi(z.a - 400, z.c - 70, {20, 20, 20});
-    if (z.cislo == 574 && relief.imgV1.je(0)) {
+    if (z.cislo == uzel::kKolejObrazkuV1 && relief.imgV1.je(0)) {
         relief.imgV1[0].vlevo = z.b + 100;
         relief.imgV1[0].nahore = z.d - 180;
         relief.imgV1[0].viditelny = true;
@@ -240,9 +241,9 @@ void nacti_relief(std::span<const std::uint8_t> bajty) {
             break;
         umisti_zaznam(zaznam);
     }
-    // The line 189 and the bridges lie over whatever follows them in the file, platforms under all.
-    if (relief.kolej.je(189))
-        do_popredi(relief.kolej[189]);
+    // One line and the bridges lie over whatever follows them in the file, platforms under all.
+    if (relief.kolej.je(uzel::kKolejNavrchu))
+        do_popredi(relief.kolej[uzel::kKolejNavrchu]);
     pro_umistene(relief.most, [](Prvek& most) { do_popredi(most); });
     pro_umistene(relief.lblnastupiste, [](Prvek& nastupiste) { do_pozadi(nastupiste); });
 }

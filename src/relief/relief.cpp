@@ -110,28 +110,8 @@ bool je_cil(int n) {
     return je_vstup_z_trati(n) || relief.Image1.je(n);
 }
 
-int kolej_navestidla(int x) {
-    if (x == 511)
-        return 135;
-    if (x < 200)
-        return x;
-    if (x < 600)
-        return x - 200;
-    if (x < 700 || x == 998)
-        return x - x % 2; // each pair of section signals shares the even-numbered section
-    return x - 200;
-}
-
-bool je_na_ser(int n) {
-    return (n >= 500 && n <= 599) || (n >= 700 && n != 998);
-}
-
 TabulkaPrvku& navestidla(int n) {
     return je_na_ser(n) ? relief.navestidlo_ser : relief.navestidlo;
-}
-
-bool je_seriovy(int n) {
-    return (n > 699 || (n > 500 && n < 600)) && n != 998;
 }
 
 Text jmeno(int n) {

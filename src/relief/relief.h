@@ -3,10 +3,11 @@
 // An element exists only if the relief file or the screen itself placed it. Elements are made once and
 // never destroyed. Two kinds may use the same number: 212 is a track, a label and a signal, in three
 // places. Element 0 of every kind of the relief exists from the start, invisible and blank, so 0 is a
-// number like any other and -3 is the one that means none.
+// number like any other and -3 is the one that means none. uzel/cislovani.h tells what the numbers mean.
 #pragma once
 
 #include "relief/prvek.h"
+#include "uzel/cislovani.h"
 
 #include <array>
 #include <cstdint>
@@ -14,10 +15,6 @@
 #include <string_view>
 #include <vector>
 
-inline constexpr int kZadny = -3;           // no element, no index
-inline constexpr int kNejvyssiPrvek = 999;  // element numbers are 0 to 999
-inline constexpr int kPrvniTrat = 600;      // sections of the lines are numbered from here on,
-inline constexpr int kKrokTrati = 50;       // those of one line every 50 numbers
 inline constexpr int kSirkaZnaku = 120;     // width of a glyph of the screen font, twips
 inline constexpr int kVyskaZnaku = 195;     // its height, and the row raster of the relief
 inline constexpr int kDruhyMonitor = 15400; // how far right of its twin a second-monitor element stands
@@ -159,36 +156,12 @@ std::optional<Druh> druh_podle_jmena(std::string_view jmeno);
 
 // The track n exists.
 bool je_kolej(int n);
-// The number n is one of a section of a line.
-constexpr bool je_usek_trati(int n) {
-    return n >= kPrvniTrat;
-}
-// First number of the line of section n.
-constexpr int zaklad_trati(int n) {
-    return kPrvniTrat + n % kKrokTrati;
-}
 // The label n exists.
 bool je_cislo_koleje(int n);
-// The element n is one of the three line ends where trains come in from a neighbour with consent. Their
-// labels are no second labels of 12, 13 and 19.
-constexpr bool je_vstup_z_trati(int n) {
-    return n == 212 || n == 213 || n == 219;
-}
-// The track n has room for a second label, at its right end: n + 200.
-constexpr bool muze_mit_pravy_stitek(int n) {
-    return n < 200 && !je_vstup_z_trati(n + 200);
-}
 // n can end a route: it is a line end, or it has a target `Image1`.
 bool je_cil(int n);
-// Track of the signal x. 511 stands on 135, a single exception of the junction.
-int kolej_navestidla(int x);
-// The signal n is kept in navestidlo_ser (500 to 599, and 700 and above but for 998).
-bool je_na_ser(int n);
 // The kind's table of the signal n, as je_na_ser tells.
 TabulkaPrvku& navestidla(int n);
-// Shunt-only signal by the rule of the route tables: n > 699 or 500 < n < 600, and not 998. The number
-// 500 is none here although it would be kept in navestidlo_ser; no layout uses it.
-bool je_seriovy(int n);
 // Name of the element n for texts: of a signal its tag, else the target's name, else the track's label
 // name; empty when none exists.
 Text jmeno(int n);

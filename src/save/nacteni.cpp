@@ -14,6 +14,7 @@
 #include "save/kontrola_zaznamu.h"
 #include "save/obnova.h"
 #include "save/ulozeni.h"
+#include "uzel/trate.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
@@ -153,14 +154,14 @@ void obnov_souhlasy() {
         if (cislo == 0)
             continue;
         for (const auto& [klic, n] : gvd_vlaky.s_cislem(cislo))
-            if (const int k = konec_ke_stanici(radek_gvd(n).stanice.front()); k >= 0)
+            if (const int k = uzel::konec_ke_stanici(radek_gvd(n).stanice.front()); k >= 0)
                 souhlasy.souhlas[static_cast<std::size_t>(k)] = true;
     }
     // The minute of a train that has gone in is out, although its text stays until the next consent ends.
-    for (std::size_t k = 0; k < kKonceTrati.size(); ++k) {
+    for (std::size_t k = 0; k < uzel::kKonceTrati.size(); ++k) {
         const auto je_sedy = [](int n) { return !je_kolej(n) || relief.kolej[n].barva == barvy::seda; };
-        if (souhlasy.souhlas[k] && je_sedy(kKonceTrati[k].usek) && je_sedy(kKonceTrati[k].navestidlo) &&
-            relief.lblPredvidany_odjezd.je(static_cast<int>(k)))
+        if (souhlasy.souhlas[k] && je_sedy(uzel::kKonceTrati[k].usek) &&
+            je_sedy(uzel::kKonceTrati[k].navestidlo) && relief.lblPredvidany_odjezd.je(static_cast<int>(k)))
             relief.lblPredvidany_odjezd[static_cast<int>(k)].viditelny = false;
     }
 }

@@ -63,11 +63,12 @@ void obnov_stitky_koleji(const Zaznam& z) {
             const Barva barva = relief.kolej[n].barva;
             obarvi_stitek(n, barva);
             if (muze_mit_pravy_stitek(n))
-                obarvi_stitek(n + 200, barva);
+                obarvi_stitek(n + kDruhyStitek, barva);
         }
         Prvek& stitek = stitky_koleji[n];
-        const bool bez_vyznamu = n >= 500 && n <= 599 && orez(stitek.popis()).empty();
-        const bool pod_vlakem = n < 200 && stitek.barva == barvy::cervena && stitek.text() == stitek.popis();
+        const bool bez_vyznamu = je_odstavna(n) && orez(stitek.popis()).empty();
+        const bool pod_vlakem =
+            n < kDruhyStitek && stitek.barva == barvy::cervena && stitek.text() == stitek.popis();
         if (bez_vyznamu || pod_vlakem)
             stitek.viditelny = false;
     }

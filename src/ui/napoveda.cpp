@@ -10,6 +10,7 @@
 #include "prvky/souhlasy.h"
 #include "relief/prejezdy.h"
 #include "ui/pismo.h"
+#include "uzel/trate.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -50,9 +51,9 @@ const char* co_s_radkem() {
 }
 
 QString souhlas(int k, const Prvek& lampa) {
-    if (k < 0 || k >= static_cast<int>(kKonceTrati.size()))
+    if (k < 0 || k >= static_cast<int>(uzel::kKonceTrati.size()))
         return {};
-    const QString trat = na_qstring(kKonceTrati[static_cast<std::size_t>(k)].nazev);
+    const QString trat = na_qstring(uzel::kKonceTrati[static_cast<std::size_t>(k)].nazev);
     if (!lampa.popis->empty())
         return cesky("%1: o souhlas žádá vlak %2; přijmete ho levým tlačítkem a klávesou Enter")
             .arg(trat, na_qstring(lampa.popis()));

@@ -7,9 +7,13 @@
 
 #include "zaklad/text.h"
 
+#include <array>
+#include <cstddef>
 #include <cstdint>
 #include <initializer_list>
 #include <optional>
+
+inline constexpr int kZadny = -3; // no element, no index, no time
 
 // To the nearest whole number, a half to the even one: 0.5 -> 0, 1.5 -> 2, 2.5 -> 2.
 double zaokrouhli(double hodnota);
@@ -56,6 +60,12 @@ Text text_cisla_mist(std::int64_t hodnota, int mist);
 
 // n is one of the numbers.
 constexpr bool je_v(int n, std::initializer_list<int> cisla) {
+    for (const int cislo : cisla)
+        if (cislo == n)
+            return true;
+    return false;
+}
+template <std::size_t N> constexpr bool je_v(int n, const std::array<int, N>& cisla) {
     for (const int cislo : cisla)
         if (cislo == n)
             return true;

@@ -7,6 +7,7 @@
 #include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/souhlasy.h"
+#include "uzel/trate.h"
 #include "zaklad/cisla.h"
 
 namespace {
@@ -17,7 +18,7 @@ struct Souhlas : testing::Test {
         for (int k = 0; k < 3; ++k) {
             Prvek& lampa = relief.lblSouhlas.zaloz(k);
             lampa.barva = barvy::seda;
-            lampa.text = znak(kKonceTrati[static_cast<std::size_t>(k)].znak_dovnitr);
+            lampa.text = znak(uzel::kKonceTrati[static_cast<std::size_t>(k)].znak_dovnitr);
         }
         relief.lblcas[0].text = "12:00:00";
         simulace.pauza = false;
@@ -177,9 +178,9 @@ TEST_F(Souhlas, UnknownLineOrMissingLampIsIgnored) {
     EXPECT_TRUE(menu.jmeno.empty());
 }
 
-TEST(KonecTrati, IsKnownByItsSignalAndByItsSection) {
+TEST(uzel::KonecTrati, IsKnownByItsSignalAndByItsSection) {
     for (int n = -3; n <= 999; ++n) {
         const int k = n == 212 || n == 84 ? 0 : n == 213 || n == 85 ? 1 : n == 219 || n == 117 ? 2 : -1;
-        EXPECT_EQ(konec_trati(n), k) << n;
+        EXPECT_EQ(uzel::konec_trati(n), k) << n;
     }
 }
