@@ -3,6 +3,11 @@
 
 #include "kolejiste/kresba.h"
 #include "relief/relief.h"
+#include "uzel/navestidla.h"
+#include "uzel/prejezdy.h"
+#include "uzel/trate.h"
+#include "uzel/vyhybky.h"
+#include "uzel/zastavky.h"
 
 #include <algorithm>
 #include <bitset>
@@ -13,7 +18,6 @@ namespace kolejiste {
 namespace {
 
 constexpr std::size_t kNejvicPrvku = 256; // a train counts the elements of its route in a byte
-constexpr int kOdstupTrati = 50;          // sections of a line follow one another by this number
 
 std::string s(int n) {
     return std::to_string(n);
@@ -21,43 +25,43 @@ std::string s(int n) {
 
 // --- what the running and the locking do by number
 
-struct Dvojice {
-    int a, b;
-};
-// The crossing of Hrabov is closed by a train on one of the first and opened by it on one of the second.
-constexpr std::array kPrejezd0Zavira = {107, 108, 427};
-constexpr std::array kPrejezd0Otvira = {100, 106, 543, 544, 4, 427};
-constexpr std::array kPrejezd1 = {279, 280};
-// Where trains leave the area, by their sense.
-constexpr std::array kOdchodVlevo = {86, 87, 88, 89, 90, 212, 213, 219, 25, 91, 92, 119, 557, 595};
-constexpr std::array kOdchodVpravo = {41, 42, 43, 62, 63, 64, 65, 66, 67, 68, 69, 55, 56, 112, 574};
 // A train on the first element of a route may not have entered the line of a neighbour, nor turned.
-constexpr std::array kNePrvni = {84, 85, 117, 115, 116, 118};
-constexpr std::array kNikdy = {335, 336}; // drawn a second time
+bool nesmi_byt_prvni(int kolej) {
+    return uzel::je_usek_konce(kolej) || je_v(kolej, uzel::kOhybyZKoleje);
+}
+// The other drawings of the folds stand in no route.
+bool je_jen_obraz_ohybu(int kolej) {
+    return je_v(kolej, uzel::kOhybyZVyhybky) && !je_v(kolej, uzel::kOhybyZKoleje);
+}
 
-template <class Pole> bool je_mezi(const Pole& pole, int n) {
-    return std::find(pole.begin(), pole.end(), n) != pole.end();
+// Trains that come to the track in that sense leave the area.
+bool odjizdi(int kolej, bool vpravo) {
+    return std::any_of(uzel::kVystupy.begin(), uzel::kVystupy.end(), [=](const uzel::Vystup& v) {
+        return kolej >= v.od && kolej <= v.po && v.smer == vpravo;
+    });
 }
 
 // The sense of a train turns where the drawing is folded.
 bool obraci_se(DruhPrvku odkud, int kolej) {
-    if (odkud == DruhPrvku::kolej)
-        return kolej == 115 || kolej == 116 || kolej == 118;
-    return kolej == 118 || kolej == 335 || kolej == 336;
+    return odkud == DruhPrvku::kolej ? je_v(kolej, uzel::kOhybyZKoleje) : je_v(kolej, uzel::kOhybyZVyhybky);
 }
 
-constexpr int kTratniUseky = 600;
-// Ends that stand for the section of a line behind them.
-constexpr std::array<Dvojice, 6> kJinyKonec = {
-    {{84, 212}, {85, 213}, {117, 219}, {93, 634}, {94, 636}, {96, 632}}};
+// The last element of a route whose end stands for the section of a line behind it; kZadny: the end itself.
+int za_koncem(int konec) {
+    for (const uzel::KonecTrati& k : uzel::kKonceTrati)
+        if (k.usek == konec)
+            return k.navestidlo;
+    const uzel::KolejPredTrati* pred = uzel::kolej_pred_trati(konec);
+    return pred == nullptr ? kZadny : pred->usek;
+}
 
 // The track of a start signal, by which the machine of the routes and the trains know it.
 int kolej_startu(const Plan& plan, int signal) {
-    if (signal == 513 || signal == 998)
-        return 118;
-    if (signal >= 600 && signal < 700)
+    if (signal == uzel::kPosunoveKamence || signal == uzel::kObrazKamence)
+        return uzel::kKamenec;
+    if (je_usek_trati(signal) && !je_na_ser(signal))
         return signal % 2 ? plan.posledni_oddil(signal - 1) : signal;
-    if (signal > 500 && signal < 600 && signal != 511)
+    if (je_odstavna(signal) && signal != uzel::kPosunoveNaKoleji)
         return signal;
     return ::kolej_navestidla(signal);
 }
@@ -167,7 +171,7 @@ bool Kontrola::tvar_zaznamu(const Trasa& t) {
     if (z.druhy.back() != static_cast<std::uint8_t>(DruhPrvku::kolej))
         zavada(t, "nekončí na koleji, vlak by z ní vyjel mimo koleje");
     // the locking appends the rest of a line
-    for (int n = z.prvky.back(); n >= kTratniUseky && n <= kNejvyssiPrvek; n += kOdstupTrati)
+    for (int n = z.prvky.back(); n >= kPrvniTrat && n <= kNejvyssiPrvek; n += kKrokTrati)
         delka += koleje.contains(n);
     if (delka > kNejvicPrvku)
         zavada(t, "má víc než 256 prvků");
@@ -235,15 +239,14 @@ void Kontrola::konec(const Trasa& t) {
     const auto cil = koleje.find(z.konec);
     if (cil == koleje.end() || !cil->second->cil)
         zavada(t, "kolej " + s(z.konec) + " není cílem");
-    else if (z.konec < kTratniUseky && !cil->second->stitky[0] && !cil->second->jediny_vpravo)
+    else if (z.konec < kPrvniTrat && !cil->second->stitky[0] && !cil->second->jediny_vpravo)
         zavada(t, "kolej " + s(z.konec) + " nemá štítek, zamčená by se neobarvila");
     const int posledni = z.prvky.back();
     bool ok = posledni == z.konec;
-    for (const Dvojice& d : kJinyKonec)
-        if (z.konec == d.a && posledni != d.a)
-            ok = posledni == d.b;
-    if (posledni >= kTratniUseky && z.konec >= kTratniUseky) // a line is known by its lowest number
-        ok = z.konec == kTratniUseky + posledni % kOdstupTrati;
+    if (const int za = za_koncem(z.konec); za != kZadny && posledni != z.konec)
+        ok = posledni == za;
+    if (posledni >= kPrvniTrat && z.konec >= kPrvniTrat) // a line is known by its lowest number
+        ok = z.konec == kPrvniTrat + posledni % kKrokTrati;
     if (!ok)
         zavada(t, "končí kolejí " + s(posledni) + ", ne " + s(z.konec));
 }
@@ -253,25 +256,25 @@ void Kontrola::konec(const Trasa& t) {
 void Kontrola::trat(const Trasa& t) {
     const ZaznamCesty& z = t.zaznam;
     const int posledni = z.prvky.back();
-    if (posledni < kTratniUseky)
+    if (posledni < kPrvniTrat)
         return;
     if (t.druh == DruhTrasy::posun) {
         zavada(t, "posun na trať " + s(posledni) + " by neměl její směr");
         return;
     }
     const bool vpravo = navestidla.at(z.zacatek)->strana == Strana::vpravo;
-    const int prvni_oddil = kTratniUseky + posledni % kOdstupTrati;
+    const int prvni_oddil = kPrvniTrat + posledni % kKrokTrati;
     const int ma_byt = vpravo ? prvni_oddil : plan.posledni_oddil(prvni_oddil);
     if (posledni != ma_byt)
         zavada(t, "do trati vjíždí oddílem " + s(posledni) + ", má být " + s(ma_byt));
     for (std::size_t k = 1; k + 1 < z.prvky.size(); ++k)
-        if (z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::kolej) && z.prvky[k] >= kTratniUseky &&
-            z.prvky[k] % kOdstupTrati == posledni % kOdstupTrati)
+        if (z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::kolej) && z.prvky[k] >= kPrvniTrat &&
+            z.prvky[k] % kKrokTrati == posledni % kKrokTrati)
             zavada(t, "oddíl " + s(z.prvky[k]) + " trati by v ní byl dvakrát");
     for (const Obraz o : kObrazy) {
         const int x1 = konce_koleje(plan, *koleje.at(z.prvky[0]), o)[0].x,
                   x2 = konce_koleje(plan, *koleje.at(posledni), o)[1].x;
-        if ((x1 <= x2 || z.prvky[0] == 118) != vpravo)
+        if ((x1 <= x2 || z.prvky[0] == uzel::kKamenec) != vpravo)
             zavada(t, std::string("směr trati by podle obrazu vyšel opačně") +
                           (o == Obraz::jeden ? " (jeden monitor)" : " (dva monitory)"));
     }
@@ -282,21 +285,23 @@ void Kontrola::zvlastni_koleje(const Trasa& t) {
     const auto je_kolej = [&](std::size_t k) {
         return z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::kolej);
     };
-    if (je_kolej(1) && je_mezi(kNePrvni, z.prvky[1]))
+    if (je_kolej(1) && nesmi_byt_prvni(z.prvky[1]))
         zavada(t, "kolej " + s(z.prvky[1]) + " nesmí být hned za návěstidlem");
     for (std::size_t k = 1; k < z.prvky.size(); ++k) {
         if (!je_kolej(k))
             continue;
         const int n = z.prvky[k];
-        if (je_mezi(kNikdy, n))
+        if (je_jen_obraz_ohybu(n))
             zavada(t, "kolej " + s(n) + " je jen druhým obrazem");
-        if ((n == 115 || n == 116) && !je_kolej(k - 1))
+        if (je_v(n, uzel::kOhybyZKoleje) && !je_v(n, uzel::kOhybyZVyhybky) && !je_kolej(k - 1))
             zavada(t, "na kolej " + s(n) + " se vjíždí z výhybky, smysl jízdy by se neobrátil");
-        if (n == 118 && k + 1 == z.prvky.size() &&
-            !(je_kolej(k - 1) && (z.prvky[k - 1] == 187 || z.prvky[k - 1] == 303)))
-            zavada(t, "před kolejí 118 má být 187 nebo 303");
+        if (n == uzel::kKamenec && k + 1 == z.prvky.size() &&
+            !(je_kolej(k - 1) &&
+              (z.prvky[k - 1] == uzel::kKeKamenciOdTesku || z.prvky[k - 1] == uzel::kKeKamenciOdMokriny)))
+            zavada(t, "před kolejí " + s(n) + " má být " + s(uzel::kKeKamenciOdTesku) + " nebo " +
+                          s(uzel::kKeKamenciOdMokriny));
     }
-    for (const Krizeni& d : kKrizeni)
+    for (const uzel::Krizeni& d : uzel::kKrizeni)
         if (ma_kolej(z, d.a) && ma_kolej(z, d.b))
             zavada(t, "koleje " + s(d.a) + " a " + s(d.b) + " se kříží, v jedné cestě nemohou být obě");
 }
@@ -307,12 +312,17 @@ void Kontrola::prejezdy(const Trasa& t) {
     const auto pocet = [&](const auto& cisla) {
         return std::count_if(cisla.begin(), cisla.end(), [&](int n) { return ma_kolej(z, n, 1); });
     };
-    const auto zavira = pocet(kPrejezd0Zavira), otvira = pocet(kPrejezd0Otvira), druhy = pocet(kPrejezd1);
     // what lies in front of the signal is not run over by this route
-    if (zavira > 1 || (zavira == 1) != (otvira == 1) || (zavira == 0 && otvira > 0))
-        zavada(t, "přejezd 0 uzavře " + s(static_cast<int>(zavira)) + "krát a otevře " +
-                      s(static_cast<int>(otvira)) + "krát");
-    if (druhy > 1 || (druhy && zavira))
+    int prejezdu = 0;
+    for (std::size_t k = 0; k < uzel::kPrejezdyStanic.size(); ++k) {
+        const auto zavira = pocet(uzel::kPrejezdyStanic[k].zavira),
+                   otvira = pocet(uzel::kPrejezdyStanic[k].otvira);
+        if (zavira > 1 || (zavira == 1) != (otvira == 1) || (zavira == 0 && otvira > 0))
+            zavada(t, "přejezd " + s(static_cast<int>(k)) + " uzavře " + s(static_cast<int>(zavira)) +
+                          "krát a otevře " + s(static_cast<int>(otvira)) + "krát");
+        prejezdu += zavira > 0;
+    }
+    if (prejezdu > 1)
         zavada(t, "vede přes přejezdy víckrát");
 }
 
@@ -327,15 +337,13 @@ void Kontrola::smysl(const Trasa& t, const Projeta& p) {
             vpravo = !vpravo;
     const Strana ven = p.vystup.port == Port::vpravo ? Strana::vpravo : Strana::vlevo;
     int posledni = z.prvky.back();
-    if (posledni >= kTratniUseky)
-        posledni =
-            ven == Strana::vpravo ? plan.posledni_oddil(posledni) : kTratniUseky + posledni % kOdstupTrati;
+    if (posledni >= kPrvniTrat)
+        posledni = ven == Strana::vpravo ? plan.posledni_oddil(posledni) : kPrvniTrat + posledni % kKrokTrati;
     if (const auto i = u_konce.find({posledni, ven}); i != u_konce.end())
         for (const Navestidlo* n : i->second)
             if ((n->strana == Strana::vpravo) != vpravo)
                 zavada(t, "přijíždí k návěstidlu " + s(n->cislo) + ", které platí pro opačný smysl");
-    if ((je_mezi(kOdchodVlevo, posledni) && vpravo && !graf.soused({Typ::kolej, posledni, p.vystup.port})) ||
-        (je_mezi(kOdchodVpravo, posledni) && !vpravo && !graf.soused({Typ::kolej, posledni, p.vystup.port})))
+    if (odjizdi(posledni, !vpravo) && !graf.soused({Typ::kolej, posledni, p.vystup.port}))
         zavada(t, "vlak by na koleji " + s(posledni) + " oblast neopustil: jede opačným smyslem");
 }
 
@@ -429,7 +437,7 @@ void Kontrola::boky() {
                 const int a = z.prvky[k], b = z.prvky[k + 1];
                 const BodKresby ma = misto_vyhybky(*vyhybky.at(a), obraz),
                                 mb = misto_vyhybky(*vyhybky.at(b), obraz);
-                if ((a >= 53 && a <= 55) || std::abs(ma.y - mb.y) != kRadek)
+                if (uzel::bez_bocni_ochrany(a) || std::abs(ma.y - mb.y) != kRadek)
                     continue;
                 for (const BodKresby roh : {BodKresby{mb.x, ma.y}, BodKresby{ma.x, mb.y}})
                     for (const int n : na_miste[roh])

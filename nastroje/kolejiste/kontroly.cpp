@@ -3,6 +3,10 @@
 
 #include "kolejiste/kresba.h"
 #include "relief/relief.h"
+#include "uzel/kresba.h"
+#include "uzel/navestidla.h"
+#include "uzel/trate.h"
+#include "uzel/vyhybky.h"
 
 #include <algorithm>
 #include <cstdlib>
@@ -73,7 +77,7 @@ void Kontrola::koleje(const std::map<int, const ZaznamReliefu*>& stitky) {
         znama = i->second;
     for (const Kolej& k : plan.koleje) {
         const std::string kdo = (k.vzor ? "obraz " : "kolej ") + s(k.cislo);
-        if (k.cislo >= 600 && !znama.contains(k.cislo))
+        if (je_usek_trati(k.cislo) && !znama.contains(k.cislo))
             zavada(k.misto, kdo, "čísla od 600 patří jen oddílům tratí");
         const int vzor_podle_cisla = [&] {
             for (const auto& [vzor, obrazy] : p.obrazy)
@@ -93,27 +97,28 @@ void Kontrola::koleje(const std::map<int, const ZaznamReliefu*>& stitky) {
         }
         if (k.cil && k.cil->size() < 5)
             zavada(k.misto, kdo, "název cíle má být kód stanice, mezera a jméno");
-        if (k.cil && k.cislo < 600 && !stitky.contains(k.cislo))
+        if (k.cil && !je_usek_trati(k.cislo) && !stitky.contains(k.cislo))
             zavada(k.misto, kdo, "konec cest potřebuje štítek s názvem");
         if (const auto i = p.jmena.find(k.cislo);
             i != p.jmena.end() && k.stitky[0] && k.stitky[0]->nazev != i->second)
             zavada(k.misto, kdo, "jmenuje se \"" + na_utf8(i->second) + "\"");
         // A train that enters the track n is put down on the label n, whatever that label belongs to.
-        // Only the line ends 212, 213 and 219 have a label of their own that stands apart.
-        const bool jen_usek = !k.stitky[0] && !k.jediny_vpravo && !k.vzor && k.cislo < 600 &&
-                              k.cislo != 212 && k.cislo != 213 && k.cislo != 219;
+        // Only the line ends with consent have a label of their own that stands apart.
+        const bool jen_usek = !k.stitky[0] && !k.jediny_vpravo && !k.vzor && !je_usek_trati(k.cislo) &&
+                              !je_vstup_z_trati(k.cislo);
         if (jen_usek && stitky.contains(k.cislo))
             zavada(k.misto, kdo, "štítek " + s(k.cislo) + " patří něčemu jinému, vlak by se na něj zapsal");
-        if (k.cislo < 200 && k.stitky[0] && stitky.contains(k.cislo + 200) &&
-            stitky.at(k.cislo + 200)->nazev != k.stitky[0]->nazev && !k.stitky[1] && k.cislo != 12 &&
-            k.cislo != 13 && k.cislo != 19)
-            zavada(k.misto, kdo,
-                   "štítek " + s(k.cislo + 200) + " by platil za její druhý a jmenuje se jinak");
+        const int pravy = k.cislo + kDruhyStitek;
+        if (muze_mit_pravy_stitek(k.cislo) && k.stitky[0] && stitky.contains(pravy) &&
+            stitky.at(pravy)->nazev != k.stitky[0]->nazev && !k.stitky[1])
+            zavada(k.misto, kdo, "štítek " + s(pravy) + " by platil za její druhý a jmenuje se jinak");
     }
-    // 212, 213 and 219 are the line ends of the neighbours, never the second labels of 12, 13 and 19
-    for (const int n : {12, 13, 19, 84, 85})
-        if (const Kolej* k = plan.kolej(n); k && k->stitky[1])
-            zavada(k->misto, "kolej " + s(n), "nesmí mít druhý štítek");
+    // the labels of the line ends with consent are no second labels; nor would those of the sections inside
+    // be, which are the signals of trains that come in
+    for (const uzel::KonecTrati& konec : uzel::kKonceTrati)
+        for (const int n : {konec.navestidlo - kDruhyStitek, konec.usek})
+            if (const Kolej* k = plan.kolej(n); k && k->stitky[1])
+                zavada(k->misto, "kolej " + s(n), "nesmí mít druhý štítek");
 }
 
 void Kontrola::rodiny(const std::map<std::string, std::map<int, const ZaznamReliefu*>>& druhy) {
@@ -121,7 +126,7 @@ void Kontrola::rodiny(const std::map<std::string, std::map<int, const ZaznamReli
         const auto i = druhy.find(druh);
         return i != druhy.end() && i->second.contains(n);
     };
-    for (int b = 600; b < 650; ++b) {
+    for (int b = kPrvniTrat; b < kPrvniTrat + kKrokTrati; ++b) {
         const Kolej* prvni = plan.kolej(b);
         if (!prvni)
             continue;
@@ -133,12 +138,12 @@ void Kontrola::rodiny(const std::map<std::string, std::map<int, const ZaznamReli
         if (!je("cislo_koleje", b))
             zavada(prvni->misto, "kolej " + s(b), "trať nemá štítek čísla vlaku");
         // the sections follow one another from left to right
-        for (int n = b; n + 50 <= kNejvyssiPrvek; n += 50) {
-            const Kolej *a = plan.kolej(n), *c = plan.kolej(n + 50);
+        for (int n = b; n + kKrokTrati <= kNejvyssiPrvek; n += kKrokTrati) {
+            const Kolej *a = plan.kolej(n), *c = plan.kolej(n + kKrokTrati);
             if (c && !a)
-                zavada(c->misto, "kolej " + s(n + 50), "trati chybí oddíl " + s(n));
+                zavada(c->misto, "kolej " + s(c->cislo), "trati chybí oddíl " + s(n));
             if (a && c && a->blok == c->blok && a->konce[1] != c->konce[0])
-                zavada(c->misto, "kolej " + s(n + 50), "oddíl nenavazuje zprava na oddíl " + s(n));
+                zavada(c->misto, "kolej " + s(c->cislo), "oddíl nenavazuje zprava na oddíl " + s(n));
         }
     }
 }
@@ -147,7 +152,7 @@ void Kontrola::navestidla() {
     std::map<Text, const Navestidlo*> jmena;
     for (const Navestidlo& n : plan.navestidla) {
         const std::string kdo = (n.posunove ? "posunove " : "navestidlo ") + s(n.cislo);
-        if (n.cislo == 500)
+        if (n.cislo == kPrvniOdstavna)
             zavada(n.misto, kdo, "číslo 500 není ani hlavní, ani posunové");
         if (je_na_ser(n.cislo) != n.posunove)
             zavada(n.misto, kdo,
@@ -159,13 +164,13 @@ void Kontrola::navestidla() {
             zavada(n.misto, kdo, "jméno \"" + na_utf8(n.jmeno) + "\" už nese " + s(jine->second->cislo));
         // The facing follows from the number and must agree with the glyph.
         const int x = n.cislo;
-        const bool vzdy_vpravo =
-            x == 225 || x == 317 || x == 318 || x == 519 || x == 520 || x == 576 || x == 577;
-        bool vpravo = (x >= 200 && x < 400) || (x >= 600 && x < 700 && x % 2 == 1) || x == 998 || x >= 700 ||
-                      x == 115 || x == 116 || vzdy_vpravo;
-        if (x >= 400 && x < 500)
+        const bool vzdy_vpravo = je_v(x, uzel::kVzdyVpravo);
+        const bool na_trati = je_usek_trati(x) && x <= kPosledniTrat + 1;
+        bool vpravo = (x >= kDruhyStitek && x < 2 * kDruhyStitek) || (na_trati && x % 2 == 1) ||
+                      x > kPosledniTrat + 1 || je_v(x, uzel::kVpravoProtiCislu) || vzdy_vpravo;
+        if (x >= 2 * kDruhyStitek && x < kPrvniOdstavna)
             vpravo = n.strana == Strana::vpravo; // these numbers are free
-        if (x == 511 || x == 513)
+        if (x == uzel::kPosunoveNaKoleji || x == uzel::kPosunoveKamence)
             vpravo = n.strana == Strana::vpravo;
         if (vpravo != (n.strana == Strana::vpravo))
             zavada(n.misto, kdo, std::string("podle čísla platí ") + (vpravo ? "doprava" : "doleva"));
@@ -203,20 +208,21 @@ void Kontrola::vyhybky() {
         if (konec.typ != Typ::vyhybka || soused.typ != Typ::vyhybka)
             continue;
         const Vyhybka &a = *plan.vyhybka(konec.cislo), &b = *plan.vyhybka(soused.cislo);
-        if (a.blok != b.blok || std::abs(a.kde.radek - b.kde.radek) != 1 || (a.cislo >= 53 && a.cislo <= 55))
+        if (a.blok != b.blok || std::abs(a.kde.radek - b.kde.radek) != 1 || uzel::bez_bocni_ochrany(a.cislo))
             continue;
         for (const Vyhybka& n : plan.vyhybky)
-            if (n.blok == a.blok && std::abs(n.cislo - a.cislo) <= 3 &&
+            if (n.blok == a.blok && std::abs(n.cislo - a.cislo) <= uzel::kDosahBocni &&
                 ((n.kde.sloupec == b.kde.sloupec && n.kde.radek == a.kde.radek) ||
                  (n.kde.sloupec == a.kde.sloupec && n.kde.radek == b.kde.radek)))
                 zavada(n.misto, "vyhybka " + s(n.cislo),
                        "stojí ve čtvrtém rohu výhybek " + s(a.cislo) + " a " + s(b.cislo) +
                            " a svým číslem by je blokovala");
     }
-    if (const Vyhybka* v = plan.vyhybka(14))
-        if (const auto soused = graf.soused({Typ::vyhybka, 14, tvar_vyhybky(8).b}); // its leg of minus
-            !soused || soused->typ != Typ::kolej || soused->cislo != 4)
-            zavada(v->misto, "vyhybka 14", "kolej 4 se jí nedotýká");
+    constexpr int n = uzel::kVyhybkaSKoleji;
+    if (const Vyhybka* v = plan.vyhybka(n))
+        if (const auto soused = graf.soused({Typ::vyhybka, n, tvar_vyhybky(uzel::kPolohaSKoleji).b});
+            !soused || soused->typ != Typ::kolej || soused->cislo != uzel::kKolejVyhybky)
+            zavada(v->misto, "vyhybka " + s(n), "kolej " + s(uzel::kKolejVyhybky) + " se jí nedotýká");
 }
 
 void Kontrola::prejezdy() {
@@ -284,7 +290,8 @@ void zkontroluj(const Plan& plan, const Graf& graf, const std::vector<ZaznamReli
         k.poradi(o);
     const auto misto_cisla = [&](const std::string& druh, int n) {
         for (const Kolej& kolej : plan.koleje)
-            if (kolej.cislo == n || (druh == "cislo_koleje" && kolej.cislo + 200 == n && kolej.stitky[1]))
+            if (kolej.cislo == n ||
+                (druh == "cislo_koleje" && kolej.cislo + kDruhyStitek == n && kolej.stitky[1]))
                 return kolej.misto;
         for (const Kresba& kresba : plan.kresby)
             if (kresba.cislo == n)

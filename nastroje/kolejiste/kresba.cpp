@@ -2,6 +2,7 @@
 #include "kolejiste/kresba.h"
 
 #include "relief/relief.h"
+#include "uzel/navestidla.h"
 
 #include <algorithm>
 #include <cmath>
@@ -141,7 +142,7 @@ void Kreslic::kolej(const Kolej& k) {
                    k.stitky[0]->kde ? rada(bod(k, *k.stitky[0]->kde).y) : y);
         const Stitek* druhy = k.stitky[1] ? &*k.stitky[1] : k.jediny_vpravo ? &*k.jediny_vpravo : nullptr;
         if (druhy)
-            stitek(k, k.stitky[1] ? k.cislo + 200 : k.cislo, *druhy,
+            stitek(k, k.stitky[1] ? k.cislo + kDruhyStitek : k.cislo, *druhy,
                    druhy->kde ? bod(k, *druhy->kde).x : p.x - vpravo.celkem() * kSloupec,
                    druhy->kde ? rada(bod(k, *druhy->kde).y) : y);
         if (k.cil) {
@@ -175,8 +176,7 @@ void Kreslic::navestidlo(const Navestidlo& n) {
     }
     // The reader pads some glyphs with blanks, but the first paint of the desk trims them where they stand;
     // the failed lamp is moved a column to the right by it.
-    constexpr int kZhaslaLampa = 305;
-    const int vlevo = n.cislo == kZhaslaLampa ? b.x - kSloupec : b.x;
+    const int vlevo = n.cislo == uzel::kZhasleNavestidlo ? b.x - kSloupec : b.x;
     napisy.push_back(
         {static_cast<std::uint8_t>(n.posunove ? TypReliefu::navestidlo_ser : TypReliefu::navestidlo),
          static_cast<std::int16_t>(n.cislo), static_cast<std::uint8_t>(n.znak), n.jmeno, twip(vlevo), 0,

@@ -1,6 +1,7 @@
 // nastroje/kolejiste/tabulka_tras.cpp - the table of the routes for the eye.
 #include "kolejiste/trasy.h"
 #include "relief/relief.h"
+#include "uzel/vyhybky.h"
 
 #include <algorithm>
 #include <bitset>
@@ -21,7 +22,7 @@ Drzene drzene(const ZaznamCesty& z) {
             continue;
         const bool vyhybka = druh == DruhPrvku::vyhybka;
         int n = z.prvky[k];
-        for (const Krizeni& x : kKrizeni)
+        for (const uzel::Krizeni& x : uzel::kKrizeni)
             if (!vyhybka && n == x.b)
                 n = x.a;
         d.set(static_cast<std::size_t>(2 * n + vyhybka));

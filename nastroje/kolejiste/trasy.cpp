@@ -2,6 +2,7 @@
 #include "kolejiste/trasy.h"
 
 #include "relief/relief.h"
+#include "uzel/trate.h"
 
 #include <queue>
 
@@ -13,18 +14,12 @@ namespace kolejiste {
 
 namespace {
 
-constexpr int kTratniUseky = 600; // from here on sections of lines
-constexpr int kTrat638 = 638;     // the one section of a line that is a station track too
-
 std::string s(int n) {
     return std::to_string(n);
 }
 
-bool je_trat(int kolej) {
-    return kolej >= kTratniUseky;
-}
 bool je_posunova(int kolej) {
-    return kolej > 500 && kolej < kTratniUseky;
+    return kolej > kPrvniOdstavna && kolej < kPrvniTrat;
 }
 
 Strana strana_konce(Port port) {
@@ -127,8 +122,8 @@ private:
 Dojezd Odvozeni::dojezd(DruhTrasy druh, const Konec& vystup, const std::set<int>& kolem) {
     const Kolej& k = *koleje.at(vystup.cislo);
     const bool vlak = druh == DruhTrasy::vlak;
-    if (je_trat(k.cislo)) // the whole line belongs to the route into it, under its lowest number
-        return vlak ? Dojezd{true, false, kTratniUseky + k.cislo % 50, -1} : Dojezd{};
+    if (je_usek_trati(k.cislo)) // the whole line belongs to the route into it, under its lowest number
+        return vlak ? Dojezd{true, false, kPrvniTrat + k.cislo % kKrokTrati, -1} : Dojezd{};
     if (vlak ? k.cil && je_posunova(k.cislo) : pravidla.jen_vlak.contains(k.cislo))
         return {};
     const auto dal = graf.soused(vystup);
@@ -221,7 +216,7 @@ Trasa Odvozeni::zaznam(DruhTrasy druh, const Navestidlo& od, const Nalez& nalez,
         int poloha = krok.poloha;
         if (krok.typ == Typ::kolej) {
             const Kolej& kolej = *koleje.at(krok.cislo);
-            const bool na_trati = kolej.cislo >= kTratniUseky && kolej.cislo != kTrat638;
+            const bool na_trati = kolej.cislo >= kPrvniTrat && kolej.cislo != uzel::kT2;
             const bool na_konci = k + 1 == nalez.kroky.size();
             poloha = k == 0 || (!na_trati && (na_konci || kolej.cil)) ? 2 : 0;
         } else if (krok.typ == Typ::vyhybka && minusu(poloha) > 0) {
@@ -244,7 +239,7 @@ bool Odvozeni::zacina(DruhTrasy druh, const Navestidlo& n) const {
         return false; // its track is not drawn yet
     if (druh == DruhTrasy::vlak)
         return !n.posunove;
-    return !je_trat(kolej) && (n.posunove || !pravidla.jen_vlak.contains(kolej));
+    return !je_usek_trati(kolej) && (n.posunove || !pravidla.jen_vlak.contains(kolej));
 }
 
 bool Odvozeni::zakazana(DruhTrasy druh, int zacatek, int konec) {
@@ -362,7 +357,7 @@ bool ceka_na_dokresleni(const Plan& plan, const Graf& graf, int kolej, Strana st
         fronta.pop_back();
         if (vystup.typ == Typ::kolej && vystup.cislo != kolej) {
             const Kolej* k = plan.kolej(vystup.cislo);
-            if (k->cil || je_trat(k->cislo) || plan.pravidla_tras.slepe.contains(k->cislo))
+            if (k->cil || je_usek_trati(k->cislo) || plan.pravidla_tras.slepe.contains(k->cislo))
                 continue;
             for (const UzavrenyKonec& u : plan.konce)
                 if (u.konec == vystup && u.jak == Zakonceni::okraj)

@@ -41,12 +41,6 @@ std::vector<Trasa> odvod_trasy(const Plan& plan, const Graf& graf, std::vector<Z
 // That is so when the way leads to the edge of what is drawn, apart from any target.
 bool ceka_na_dokresleni(const Plan& plan, const Graf& graf, int kolej, Strana strana);
 
-// Tracks that cross on the level without a switch: the one is free only while the other is.
-struct Krizeni {
-    int a, b;
-};
-inline constexpr std::array<Krizeni, 4> kKrizeni = {{{309, 328}, {177, 178}, {316, 369}, {106, 543}}};
-
 // Line of the tables that no route may have: the program gives this number to the routes that it makes
 // itself. The writer puts an empty record there.
 inline constexpr std::size_t kRadekProgramovych = 999;

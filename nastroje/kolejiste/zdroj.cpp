@@ -72,7 +72,7 @@ const Navestidlo* Plan::navestidlo(int cislo) const {
 
 int Plan::posledni_oddil(int oddil) const {
     int posledni = oddil;
-    for (int n = 600 + oddil % 50; n <= kNejvyssiPrvek; n += 50)
+    for (int n = zaklad_trati(oddil); n <= kNejvyssiPrvek; n += kKrokTrati)
         if (kolej(n) && !kolej(n)->vzor)
             posledni = n;
     return posledni;
@@ -82,9 +82,9 @@ int Plan::kolej_navestidla(const Navestidlo& n) const {
     if (n.kolej)
         return *n.kolej;
     const int kolej = ::kolej_navestidla(n.cislo);
-    if (n.cislo >= 600 && n.cislo < 700 && n.cislo % 2 == 1)
+    if (je_usek_trati(n.cislo) && !je_na_ser(n.cislo) && n.cislo % 2 == 1)
         return posledni_oddil(kolej);
-    return n.posunove && n.cislo < 600 && n.cislo != 511 ? n.cislo : kolej;
+    return n.posunove && !je_usek_trati(n.cislo) && n.cislo != uzel::kPosunoveNaKoleji ? n.cislo : kolej;
 }
 
 const Navestidlo* Plan::navestidlo_u(int kolej, Strana strana) const {

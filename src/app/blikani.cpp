@@ -8,6 +8,7 @@
 #include "relief/prejezdy.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
+#include "uzel/prejezdy.h"
 
 #include <array>
 #include <cstddef>
@@ -22,7 +23,6 @@ constexpr int kPosledniObrazekHodin = 113;
 constexpr Barva kModrozelena = 0x808000;
 constexpr Barva kOkrajVyluka = barvy::cervena;
 constexpr Barva kOkrajBezVyluky = 0x008000;
-constexpr int kLampyPrejezdu = 10; // lamp of the approach zone of line crossing label k: k + 10
 
 void znacky_tabulky() {
     TabulkaPrvku& znacky = relief.shpblikacka;
@@ -113,19 +113,7 @@ void ukaz_prejezd(int k) {
         nastav(true, lampy_zavreno());
 }
 
-// Line crossings behind one number of the desk.
-struct SkupinaPrejezdu {
-    int napis;                   // lblPrejezdy; the lamp of its approach zone is shpPrejezdy napis + 10
-    std::array<int, 3> prejezdy; // kZadny: none
-    bool vyluka;                 // shpPrejezdy of the same number shows a possession
-};
-constexpr SkupinaPrejezdu kSkupinyPrejezdu[] = {
-    {0, {0, 2, 4}, false},           {1, {1, 3, 5}, false},          {2, {6, kZadny, kZadny}, true},
-    {3, {7, kZadny, kZadny}, true},  {4, {8, kZadny, kZadny}, true}, {6, {9, kZadny, kZadny}, true},
-    {7, {10, kZadny, kZadny}, true},
-};
-
-void ukaz_skupinu(const SkupinaPrejezdu& s) {
+void ukaz_skupinu(const uzel::SkupinaPrejezdu& s) {
     bool znama = false, zona = false, uvolnen = false, vyluka = false;
     for (const int n : s.prejezdy) {
         if (n < 0 || static_cast<std::size_t>(n) >= prejezdy.size())
@@ -138,8 +126,8 @@ void ukaz_skupinu(const SkupinaPrejezdu& s) {
     }
     if (!znama)
         return;
-    if (relief.shpPrejezdy.je(s.napis + kLampyPrejezdu))
-        relief.shpPrejezdy[s.napis + kLampyPrejezdu].viditelny = zona;
+    if (relief.shpPrejezdy.je(s.napis + uzel::kLampyPrejezdu))
+        relief.shpPrejezdy[s.napis + uzel::kLampyPrejezdu].viditelny = zona;
     if (relief.lblPrejezdy.je(s.napis))
         relief.lblPrejezdy[s.napis].barva = uvolnen ? barvy::bila : kModrozelena;
     if (s.vyluka && relief.shpPrejezdy.je(s.napis))
@@ -147,7 +135,7 @@ void ukaz_skupinu(const SkupinaPrejezdu& s) {
 }
 
 void prejezdy_trati() {
-    for (const SkupinaPrejezdu& s : kSkupinyPrejezdu)
+    for (const uzel::SkupinaPrejezdu& s : uzel::kSkupinyPrejezdu)
         ukaz_skupinu(s);
 }
 

@@ -18,6 +18,7 @@
 #include "prvky/stav_vyhybek.h"
 #include "prvky/vyhybky.h"
 #include "relief/relief.h"
+#include "uzel/zastavky.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -221,11 +222,8 @@ Nalez zaznamy_vlaku() {
 
 // A train that is announced at a neighbouring station appears there on green. The operator may work with it
 // before its minute comes: make it a shunting movement, split it, send it off.
-bool je_kolej_souseda(int n) {
-    return (n >= 41 && n <= 43) || (n >= 62 && n <= 69) || (n >= 86 && n <= 90);
-}
 bool stoji_tu_ohlaseny(int n) {
-    return je_kolej_souseda(n) && relief.kolej[n].barva == barvy::zelena &&
+    return uzel::je_kolej_souseda(n) && relief.kolej[n].barva == barvy::zelena &&
            std::any_of(vlaky.begin(), vlaky.end(), [n](const Vlak& v) {
                return v.cislo > 0 && v.prvek_konec == 0 && !v.prvky.empty() && v.prvky.front() == n;
            });

@@ -22,6 +22,7 @@
 #include "relief/relief.h"
 #include "save/gtn.h"
 #include "save/ulozeni.h"
+#include "uzel/navestidla.h"
 #include "uzel/trate.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
@@ -35,8 +36,6 @@
 namespace {
 
 constexpr TextPohled kNastaveni = "Nastaveni";
-constexpr int kZhasleNavestidlo = 305; // the junction's fixed exercise: a main signal whose lamp has failed
-constexpr int kPosunZhasleho = 120;    // twips
 
 // Calls `co(prvek, n)` for every element of a kind, by rising number.
 template <class Co> void kazdy(TabulkaPrvku& prvky, Co co) {
@@ -243,14 +242,14 @@ constexpr KrokPripravy kKrokyPripravy[] = {
 
 // The first fault of the shift: the lamp of one main signal has failed, and the operator must find out.
 void zhasni_navestidlo() {
-    if (!relief.navestidlo.je(kZhasleNavestidlo))
+    if (!relief.navestidlo.je(uzel::kZhasleNavestidlo))
         return;
-    Prvek& p = relief.navestidlo[kZhasleNavestidlo];
+    Prvek& p = relief.navestidlo[uzel::kZhasleNavestidlo];
     p.barva = barvy::cerna;
     p.pozadi = barvy::seda;
     p.ramecek = true;
-    p.vlevo = p.vlevo() + kPosunZhasleho;
-    simulace.poruchy.push_back(cas_hodin() + Text(" Zhaslé návěstidlo "_cz) + jmeno(kZhasleNavestidlo));
+    p.vlevo = p.vlevo() + uzel::kPosunZhasleho;
+    simulace.poruchy.push_back(cas_hodin() + Text(" Zhaslé návěstidlo "_cz) + jmeno(uzel::kZhasleNavestidlo));
 }
 
 void nater_klid() {

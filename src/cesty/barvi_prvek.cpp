@@ -8,7 +8,9 @@
 #include "relief/relief.h"
 #include "save/gtn.h"
 #include "uzel/kresba.h"
+#include "uzel/prejezdy.h"
 #include "uzel/trate.h"
+#include "uzel/vyhybky.h"
 
 #include <algorithm>
 #include <array>
@@ -111,10 +113,8 @@ void barvi_prvek(int n, Barva barva, bool uvolni, bool posledni) {
     if (uvolni && uzel::je_hranicni(n))
         barva = barvy::seda; // nothing would paint a line end grey later
     obnov_sipku_useku(n, barva);
-    if (barva == barvy::seda && n == 602)
-        opust_prejezd(9);
-    if (barva == barvy::seda && n == 600)
-        opust_prejezd(10);
+    if (barva == barvy::seda)
+        opust_prejezd(uzel::prejezd_vyluky(n, prejezdy.size()));
     if (posledni && jen_cislo(n))
         relief.cislo_koleje[n].barva = barvy::bila;
     else
@@ -136,13 +136,13 @@ void obnov_lampu_souhlasu(int n) {
 }
 
 int bocni_vyhybka(int a, int b) {
-    if (a == 53 || a == 54 || a == 55)
-        return kZadny; // these three need no flank protection
+    if (uzel::bez_bocni_ochrany(a))
+        return kZadny;
     const Prvek& prvni = relief.imgVyhybka[a];
     const Prvek& druha = relief.imgVyhybka[b];
     if (std::abs(prvni.nahore() - druha.nahore()) != kVyskaZnaku)
         return kZadny;
-    for (int n = std::max(a - 3, 0); n <= a + 3; ++n)
+    for (int n = std::max(a - uzel::kDosahBocni, 0); n <= a + uzel::kDosahBocni; ++n)
         if (relief.imgVyhybka.je(n) && je_v_rohu(relief.imgVyhybka[n], prvni, druha) &&
             (stav_vyhybky_cislo(n) > 50 || vyhybka_v_pohybu(n)))
             return n;

@@ -4,6 +4,8 @@
 #include "app/cas.h"
 #include "cesty/barvi_prvek.h"
 #include "relief/topologie.h"
+#include "uzel/navestidla.h"
+#include "uzel/vyhybky.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -15,25 +17,17 @@ namespace {
 
 std::uint32_t odebrano = 0; // routes taken out, for caches only: no part of a simulation
 
-// Tracks that lie in two parts, drawn apart: a route takes both or none.
-constexpr std::array<std::array<int, 2>, 4> kDvojiceUseku = {
-    {{309, 328}, {177, 178}, {316, 369}, {106, 543}}};
-
-// These face the even sense whatever their glyph.
-constexpr std::array kSudaNavestidla = {317, 225, 318, 519, 520, 576, 577};
-
 bool je_seda(int n) {
     return relief.kolej[n].barva == barvy::seda || odjete.test(static_cast<std::size_t>(n));
 }
 
-// The other part of track n; -3 when it has none on the relief.
-int druha_cast(int n) {
-    for (const auto& dvojice : kDvojiceUseku)
-        for (const int i : {0, 1})
-            if (n == dvojice[static_cast<std::size_t>(i)]) {
-                const int m = dvojice[static_cast<std::size_t>(1 - i)];
-                return je_kolej(m) ? m : kZadny;
-            }
+// The track that crosses track n on the level; kZadny when the relief has none.
+int krizujici(int n) {
+    for (const uzel::Krizeni& k : uzel::kKrizeni)
+        if (n == k.a || n == k.b) {
+            const int m = n == k.a ? k.b : k.a;
+            return je_kolej(m) ? m : kZadny;
+        }
     return kZadny;
 }
 
@@ -48,12 +42,12 @@ template <class Podminka> bool nektera(Podminka podminka) {
 } // namespace
 
 bool je_volna(int n) {
-    const int m = druha_cast(n);
+    const int m = krizujici(n);
     return je_seda(n) && (m == kZadny || je_seda(m));
 }
 
 int nevolny_usek(int n) {
-    const int m = druha_cast(n);
+    const int m = krizujici(n);
     return je_seda(n) && m != kZadny && !je_seda(m) ? m : n;
 }
 
@@ -152,7 +146,7 @@ int glyf_navestidla(int s) {
 
 // 176 is 228 in automatic mode: switching the mode does not turn the signal round.
 bool sude_navestidlo(int s) {
-    if (std::find(kSudaNavestidla.begin(), kSudaNavestidla.end(), s) != kSudaNavestidla.end())
+    if (je_v(s, uzel::kVzdyVpravo))
         return true;
     const int glyf = glyf_navestidla(s);
     if (je_na_ser(s))

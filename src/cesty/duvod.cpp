@@ -12,6 +12,7 @@
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
 #include "prvky/vyhybky.h"
+#include "uzel/prejezdy.h"
 #include "uzel/trate.h"
 #include "zaklad/cisla.h"
 
@@ -148,8 +149,8 @@ Text duvod_zaveru(const Cesta& c, std::int32_t ted) {
     if (const Prekazka p = prekazka_zaveru(c))
         return veta_prekazky(c, p);
     if (const std::int32_t zbyva = zbyva_prejezdu(c, ted); zbyva > 0)
-        return Text("čeká na uzavření přejezdu "_cz) + Text(kNazvyPrejezdu[c.prejezd]) + Text(", zbývá "_cz) +
-               sekundy(zbyva);
+        return Text("čeká na uzavření přejezdu "_cz) + Text(uzel::kPrejezdyStanic[c.prejezd].kilometr) +
+               Text(", zbývá "_cz) + sekundy(zbyva);
     return {};
 }
 

@@ -24,6 +24,7 @@
 #include "prvky/vyhybky.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
+#include "uzel/prejezdy.h"
 #include "uzel/trate.h"
 #include "zaklad/cisla.h"
 
@@ -138,10 +139,8 @@ void oznac_prvky(Cesta& c, std::size_t dosel) {
             c.vyhybka = c.prvky[k];
         if (druh_na(c, k) != druh_prvku::kolej)
             continue;
-        if (n == 107 || n == 108 || n == 427)
-            c.prejezd = 0;
-        if (n == 279 || n == 280)
-            c.prejezd = 1;
+        if (const int prejezd = uzel::prejezd_nad(n); prejezd >= 0)
+            c.prejezd = na_byte(prejezd);
         if (je_cil(n) && (!je_usek_trati(n) || n == uzel::kT2))
             c.polohy[k] = 2;
     }

@@ -20,6 +20,7 @@
 #include "prvky/souhlasy.h"
 #include "uzel/dopravny.h"
 #include "uzel/trate.h"
+#include "uzel/vstupy.h"
 #include "zaklad/cisla.h"
 #include "zaklad/nahoda.h"
 
@@ -128,23 +129,22 @@ void rozjed(std::int32_t cislo, std::span<const int> prvky) {
 
 // A locomotive or set of the post: it shunts in, and its first vehicle then stands by.
 void vstup_z_posty(int gvd_index) {
-    constexpr int kPosta = 574;
-    if (!je_volna_kolej(kPosta))
+    if (!je_volna_kolej(uzel::kKusaKolej))
         return;
-    const std::int16_t v = vytvor_vlak(false, kPosta, true, kNaVstupu, gvd_index);
+    const std::int16_t v = vytvor_vlak(false, uzel::kKusaKolej, true, kNaVstupu, gvd_index);
     Vlak& vlak = vlak_c(v);
     if (!vlak.vozy_urceni.empty())
         vlak.vozy_urceni.front() = "ZAL";
     ++stav_provozu.pocet_zaloh;
     pridej_do_tabulky(v);
-    barvi_prvek(kPosta, barvy::cervena);
+    barvi_prvek(uzel::kKusaKolej, barvy::cervena);
     vlak.posun = true;
-    pridej_na_kolej(kPosta, v, false, -1);
-    postav_cesty_z(kPosta);
+    pridej_na_kolej(uzel::kKusaKolej, v, false, -1);
+    postav_cesty_z(uzel::kKusaKolej);
 }
 
 void vstup_z_depa_vh(int gvd_index) {
-    constexpr int kDepoVH = 25;
+    constexpr int kDepoVH = uzel::kBranaVh.kolej;
     bool jsou_vozy = false;
     if (!je_volna_kolej(kDepoVH) || kontrola_soupravy(radek_gvd(gvd_index).cislo, jsou_vozy) != 0)
         return;
@@ -174,32 +174,17 @@ void ukaz_vjezd(int k) {
 
 // --- announcements
 
-struct StaniceOhlaseni {
-    int kod;
-    bool predjizdi;            // a late train may be put on the overtaking track
-    int predjizdna;            // that track
-    int manipulacni;           // track of category Mn
-    std::array<int, 5> koleje; // the others in order; 0 none
-    bool smer;
-};
-constexpr std::array kOhlasovane = {
-    StaniceOhlaseni{dopravna::rokytno, true, 69, 66, {68, 67, 69, 66, 0}, false},
-    StaniceOhlaseni{dopravna::lhotin, true, 86, 89, {87, 88, 86, 89, 90}, true},
-    StaniceOhlaseni{dopravna::borovec, true, 65, 62, {63, 64, 65, 62, 0}, false},
-    StaniceOhlaseni{dopravna::dubnice, false, 0, 43, {42, 41, 43, 0, 0}, false},
-};
-
-std::span<const int> koleje_ohlaseni(const StaniceOhlaseni& s) {
+std::span<const int> koleje_ohlaseni(const uzel::StaniceOhlaseni& s) {
     return {s.koleje.begin(), std::find(s.koleje.begin(), s.koleje.end(), 0)};
 }
 
-const StaniceOhlaseni* ohlasovana(int stanice) {
-    const auto s = std::find_if(kOhlasovane.begin(), kOhlasovane.end(),
-                                [stanice](const StaniceOhlaseni& o) { return o.kod == stanice; });
-    return s == kOhlasovane.end() ? nullptr : &*s;
+const uzel::StaniceOhlaseni* ohlasovana(int stanice) {
+    const auto s = std::find_if(uzel::kOhlasovane.begin(), uzel::kOhlasovane.end(),
+                                [stanice](const uzel::StaniceOhlaseni& o) { return o.kod == stanice; });
+    return s == uzel::kOhlasovane.end() ? nullptr : &*s;
 }
 
-int kolej_ohlaseni(const StaniceOhlaseni& s, bool predbiha, std::uint8_t druh) {
+int kolej_ohlaseni(const uzel::StaniceOhlaseni& s, bool predbiha, std::uint8_t druh) {
     if (predbiha && je_volna_kolej(s.predjizdna))
         return s.predjizdna;
     if (druh == druh_vlaku::mn && je_volna_kolej(s.manipulacni))
@@ -218,15 +203,14 @@ bool je_predbihan(const GvdVlak& r) {
 
 // Standby locomotives of series 731 come in turns from the two sides of the main station.
 void zaloha_731() {
-    constexpr int kStranaA = 569, kStranaB = 538;
     const auto privez = [](int element) {
         if (!stav_provozu.zaloha_731_jede && je_volna_kolej(element))
             vytvor_lokomotivu(kLoko731, element, true, "ZAL", true);
     };
     if (stav_provozu.zaloha_731_strana)
-        privez(kStranaA);
+        privez(uzel::kPristaveniA);
     if (!stav_provozu.zaloha_731_strana)
-        privez(kStranaB);
+        privez(uzel::kPristaveniB);
 }
 
 void zapis_dalsi_vlak(const GvdVlak& r, int zbyva, int zpozdeni) {
@@ -334,25 +318,21 @@ void krok_provozu() {
 void vstup_v_minute(int gvd_index) {
     const GvdVlak& r = radek_gvd(gvd_index);
     const int stanice = r.stanice.front();
-    const auto objev_na = [&](std::span<const int> prvky, bool smer) {
-        if (const int e = prvni_volna_kolej(prvky); e >= 0)
-            objev_vlak(gvd_index, e, smer, true);
-    };
-    if (const StaniceOhlaseni* s = ohlasovana(stanice)) {
+    if (const uzel::StaniceOhlaseni* s = ohlasovana(stanice)) {
         rozjed(r.cislo, koleje_ohlaseni(*s));
         return;
     }
+    for (const uzel::VstupZeStanice& v : uzel::kVstupy) {
+        if (v.stanice != stanice || (v.cil_volny && !cil_volny(v.koleje.front())))
+            continue;
+        const int e = prvni_volna_kolej({v.koleje.begin(), std::find(v.koleje.begin(), v.koleje.end(), 0)});
+        if (e >= 0)
+            objev_vlak(gvd_index, e, v.smer, true);
+    }
     switch (stanice) {
-    case dopravna::dkv:
-        if (cil_volny(112))
-            objev_na(std::array{112}, false);
-        break;
-    case dopravna::hajovice_sn: objev_na(std::array{55, 56}, false); break;
-    case dopravna::hajovice_sn_2: objev_na(std::array{91, 92}, true); break;
     case dopravna::posta: vstup_z_posty(gvd_index); break;
     case dopravna::dkv_vh: vstup_z_depa_vh(gvd_index); break;
-    default: // 30 too: its rows stand there for the sake of their vehicles
-        break;
+    default: break;
     }
 }
 
@@ -387,7 +367,7 @@ void vstup_se_souhlasem(int gvd_index) {
 
 void ohlaseni(int gvd_index) {
     const GvdVlak& r = radek_gvd(gvd_index);
-    const StaniceOhlaseni* s = ohlasovana(r.stanice.front());
+    const uzel::StaniceOhlaseni* s = ohlasovana(r.stanice.front());
     if (s == nullptr ||
         std::any_of(vlaky.begin(), vlaky.end(), [&r](const Vlak& v) { return v.cislo == r.cislo; }))
         return;

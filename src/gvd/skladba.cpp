@@ -12,6 +12,8 @@
 #include "jizda/spojovani.h"
 #include "jizda/vlak.h"
 #include "uzel/dopravny.h"
+#include "uzel/rychlosti.h"
+#include "uzel/vstupy.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -20,9 +22,7 @@
 
 namespace {
 
-constexpr int kPrvkySeSeznamem = 500;         // elements below have their list of trains from the start
-constexpr int kDepo538 = 538, kDepo569 = 569; // where sets come out of the depot of the main station
-constexpr int kJednotka = 560;                // electric unit: 560, 060, 560p
+constexpr int kJednotka = 560; // electric unit: 560, 060, 560p
 
 bool ma_ridici_vuz(int rada) {
     return rada == 943 || rada == 954;
@@ -35,27 +35,10 @@ bool je_rada(const Text& vuz, int rada) {
 }
 
 std::uint8_t prvni_rychlost(int stanice, std::uint8_t rychlost) {
-    switch (stanice) {
-    case dopravna::lhotin:
-    case dopravna::rokytno: return std::min<std::uint8_t>(rychlost, 100);
-    case dopravna::borovec:
-    case dopravna::vrbice:
-    case dopravna::kamenec:
-    case dopravna::mokrina:
-    case dopravna::hajovice: return 70;
-    case dopravna::tesk:
-    case dopravna::pvs:
-    case dopravna::ona:
-    case dopravna::onb: return 40;
-    case dopravna::knizeci_luka: return 100;
-    case dopravna::polska_lhota:
-    case dopravna::hvozdy: return std::min<std::uint8_t>(rychlost, 65);
-    case dopravna::hajovice_sn:
-    case dopravna::dkv:
-    case dopravna::dkv_2:
-    case dopravna::hajovice_sn_2: return 60;
-    default: return 80;
-    }
+    for (const uzel::PrvniRychlost& r : uzel::kPrvniRychlosti)
+        if (r.stanice == stanice)
+            return r.strop ? std::min(rychlost, r.rychlost) : r.rychlost;
+    return uzel::kRychlostJinde;
 }
 
 void prevezmi_radek(Vlak& v, const GvdVlak& r) {
@@ -87,7 +70,7 @@ void pridej_casy(Vlak& v, const GvdVlak& r) {
 
 // What each vehicle does next. A set that comes out of the depot first runs as its own train.
 void pridej_urceni(Vlak& v, const GvdVlak& r, int element) {
-    const bool z_depa = element == kDepo569 || element == kDepo538;
+    const bool z_depa = element == uzel::kPristaveniA || element == uzel::kPristaveniB;
     for (std::size_t i = 0; i < v.vozy.size(); ++i) {
         if (z_depa)
             v.vozy_urceni.push_back(text_cisla(v.cislo));
@@ -242,7 +225,7 @@ std::int16_t vytvor_vlak(bool smer, int element, bool muze_jet, int index, int g
     srovnej_lokomotivy(v);
 
     vlak_c(i) = std::move(v);
-    if (element < kPrvkySeSeznamem)
+    if (element < kPrvniOdstavna) // the others get their list when something comes to stand there
         pridej_na_kolej(element, i, smer, -1);
     if (index < 1)
         pipni_na_novy_vlak();

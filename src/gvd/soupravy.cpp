@@ -17,6 +17,7 @@
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
 #include "uzel/dopravny.h"
+#include "uzel/vstupy.h"
 #include "zaklad/cisla.h"
 #include "zaklad/nahoda.h"
 
@@ -26,10 +27,8 @@
 namespace {
 
 constexpr int kLoko731 = 731;
-constexpr int kDepo538 = 538, kDepo569 = 569; // where sets come out of the depot of the main station
 constexpr TextPohled kZaloha = "ZAL";
 constexpr TextPohled kPosunova = "210"; // series of the shunting locomotive
-constexpr std::array kKolejeDepa = {558, 559, 560, 503, 509, 510};
 
 // The text is the number of a train.
 bool je_cislo_vlaku(const Text& text, std::int32_t cislo) {
@@ -62,7 +61,7 @@ void nasad_posunovou(Vlak& v, std::size_t i) {
 void pripoj_posunovou(Vlak& v, int element) {
     if (v.vozy.empty())
         return;
-    if (element == kDepo569) {
+    if (element == uzel::kPristaveniA) {
         nasad_posunovou(v, 0);
         return;
     }
@@ -73,7 +72,7 @@ void pripoj_posunovou(Vlak& v, int element) {
 
 // First free one of the depot's tracks; -1 none. Without any the locomotive exists, but on no track.
 int kolej_depa() {
-    return prvni_volna_kolej(kKolejeDepa);
+    return prvni_volna_kolej(uzel::kOdstavneKoleje);
 }
 
 // The record of a lone locomotive that stands on the element and may go to the main station.
@@ -171,9 +170,8 @@ void stanice_start(int gvd_index) {
     bool jsou_vozy = false;
     if (kontrola_soupravy(r.cislo, jsou_vozy) != 0 || (r.vozy.size() == 1 && jsou_vozy))
         return;
-    const int element = je_v(r.stanice.back(), {dopravna::polska_lhota, dopravna::hvozdy, dopravna::lhotin})
-                            ? kDepo569
-                            : kDepo538;
+    const int element =
+        je_v(r.stanice.back(), uzel::kCilePristaveniA) ? uzel::kPristaveniA : uzel::kPristaveniB;
     if (!je_kolej(element))
         return;
     if (!je_volna(element)) {
@@ -191,7 +189,7 @@ void stanice_start(int gvd_index) {
         pripoj_posunovou(v, element);
     relief.kolej[element].stav.nastav_cislo(600);
     posun_po_vytvoreni(i);
-    if (element == kDepo538 && !jsou_vozy && stav_provozu.pocet_zaloh < 2)
+    if (element == uzel::kPristaveniB && !jsou_vozy && stav_provozu.pocet_zaloh < 2)
         pridej_posunovou(i);
 }
 

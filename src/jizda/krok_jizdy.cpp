@@ -30,6 +30,7 @@
 #include "relief/topologie.h"
 #include "save/gtn.h"
 #include "save/nouzove.h"
+#include "uzel/prejezdy.h"
 #include "uzel/trate.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
@@ -148,15 +149,14 @@ void opust_zacatek(int c) {
 
 // A train comes to an end from which a route over a station crossing stands: the crossing closes in 30 s.
 void prejezd_za_cestou(int n, int c) {
-    const bool prvni = (n >= 9 && n <= 17) || je_v(n, {650, 652, 97});
-    const bool druhy = (n >= 36 && n <= 40) || je_v(n, {666, 668});
-    if (!prvni && !druhy)
+    const int prejezd = uzel::prejezd_pred(n);
+    if (prejezd < 0)
         return;
     for (int k = 0; k < pocet_cest(); ++k) {
         const Cesta& dalsi = cesta_c(k);
         if (k != c && prvek_c(dalsi, 0) == n && dalsi.Postavena && dalsi.Umazat == 0 &&
             dalsi.cas_ruseni < 0 && dalsi.prejezd != kBezPrejezdu) {
-            stanicni_prejezdy[prvni ? 0 : 1].cas = ted_s() + 30;
+            stanicni_prejezdy[static_cast<std::size_t>(prejezd)].cas = ted_s() + 30;
             return;
         }
     }

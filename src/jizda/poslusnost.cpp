@@ -19,7 +19,11 @@
 #include "relief/relief.h"
 #include "relief/topologie.h"
 #include "uzel/dopravny.h"
+#include "uzel/navestidla.h"
+#include "uzel/prejezdy.h"
 #include "uzel/trate.h"
+#include "uzel/vstupy.h"
+#include "uzel/zastavky.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -97,28 +101,12 @@ void varuj_na_konci_useku(const Cesta& cesta, int e, int v) {
 
 // --- leaving
 
-struct Vystup {
-    int od, po;
-    bool smer;
-    int stanice; // 0: none named
-};
-constexpr std::array kVystupy = {
-    Vystup{86, 90, false, dopravna::lhotin},   Vystup{62, 65, true, dopravna::borovec},
-    Vystup{66, 69, true, dopravna::rokytno},   Vystup{41, 43, true, dopravna::dubnice},
-    Vystup{213, 213, false, dopravna::hvozdy}, Vystup{212, 212, false, dopravna::polska_lhota},
-    Vystup{219, 219, false, dopravna::vrbice}, Vystup{25, 25, false, dopravna::zadna},
-    Vystup{91, 92, false, dopravna::zadna},    Vystup{119, 119, false, dopravna::zadna},
-    Vystup{557, 557, false, dopravna::zadna},  Vystup{595, 595, false, dopravna::zadna},
-    Vystup{55, 56, true, dopravna::zadna},     Vystup{112, 112, true, dopravna::zadna},
-    Vystup{574, 574, true, dopravna::zadna}};
-
-// Vrbice and Dubnice lie in one direction.
+// Neighbours that lie in one direction are one.
 bool spravny_smer(const Vlak& vlak, int stanice) {
     if (stanice == dopravna::zadna || vlak.stanice.empty())
         return true;
     const int cil = vlak.stanice.back();
-    return cil == stanice || (cil == dopravna::dubnice && stanice == dopravna::vrbice) ||
-           (cil == dopravna::vrbice && stanice == dopravna::dubnice);
+    return cil == stanice || (je_v(cil, uzel::kVJednomSmeru) && je_v(stanice, uzel::kVJednomSmeru));
 }
 
 // Delays are told by the number of the timetable, which is the first one.
@@ -150,7 +138,7 @@ void zapocti_odchod_zalohy(const Vlak& vlak) {
     for (std::size_t i = 0; i < std::min(vlak.vozy.size(), vlak.vozy_urceni.size()); ++i)
         if (vlak.vozy_urceni[i] == "ZAL" && vlak.vozy[i] == "731") {
             stav_provozu.zaloha_731_jede = false;
-            stav_provozu.zaloha_731_strana = vlak.prvky.back() == 557;
+            stav_provozu.zaloha_731_strana = vlak.prvky.back() == uzel::kOdstaveniA;
         }
 }
 
@@ -160,13 +148,13 @@ bool smer_cesty(const Cesta& cesta) {
     const int s = cesta.zacatek;
     if (s < 0)
         return false;
-    if (je_v(s, {225, 317, 318, 519, 520, 576, 577}))
+    if (je_v(s, uzel::kVzdyVpravo))
         return true;
     const int glyf = glyf_navestidla(s);
     if (je_na_ser(s))
         return glyf == 240 || glyf == 242;
-    // 176 is 228 in automatic mode; signal 18 stands on the fold of its picture.
-    return je_v(glyf, {8, 229, 227}) || (je_v(glyf, {228, 176}) && s != 18);
+    // 176 is 228 in automatic mode.
+    return je_v(glyf, {8, 229, 227}) || (je_v(glyf, {228, 176}) && s != uzel::kNaOhybu);
 }
 
 bool muze_vyjet(int v, bool smer) {
@@ -241,12 +229,12 @@ void uvnitr_prvku(int cesta, int i, int v) {
         if (celo > n.od_m && celo < n.po_m)
             vlak_v_cili(e, v);
     }
-    if (je_v(e, {120, 123, 213, 600, 602, 654, 656}))
+    if (je_v(e, uzel::kKolejeSPrejezdem))
         kontrola_prejezdu(e, vlak_c(v).smer, vlak_c(v).delka);
 }
 
 void zpusob_odjezdu(int prvek, int v) {
-    for (const Vystup& vystup : kVystupy)
+    for (const uzel::Vystup& vystup : uzel::kVystupy)
         if (prvek >= vystup.od && prvek <= vystup.po && vlak_c(v).smer == vystup.smer) {
             vlak_opustil(v, vystup.stanice);
             return;

@@ -37,7 +37,7 @@ bool smi_se_zmenit(int v, int prvek) {
         odmitni(Text(" Na koleji"_cz) + popis + Text(" není změna možná!"_cz));
         return false;
     }
-    if (!vlak.posun || vlak.prvky.back() <= 200)
+    if (!vlak.posun || vlak.prvky.back() <= kDruhyStitek)
         return true;
     if (je_cislo_koleje(prvek))
         odmitni(Text(" Na koleji "_cz) + popis + Text("není změna možná!"_cz));

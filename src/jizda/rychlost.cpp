@@ -5,6 +5,7 @@
 #include "gvd/druhy_vlaku.h"
 #include "jizda/souprava.h"
 #include "jizda/vlak.h"
+#include "uzel/rychlosti.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -16,24 +17,6 @@ namespace {
 constexpr int kRychlostTlaceni = 30; // km/h of a train pushed from behind
 constexpr int kRychlostPosunu = 30;  // km/h over a shunt or calling-on route
 constexpr int kRychlostVstupu = 100; // km/h over a route made for a train that enters the area
-
-struct RychlostPrvku {
-    std::int16_t prvek;
-    std::uint8_t rychlost;
-};
-
-// Elements that set the line speed when the head enters them, by the sense of travel.
-constexpr RychlostPrvku kRychlostiVpravo[] = {
-    {135, 40}, {136, 40},  {140, 40},  {141, 40},  {145, 40},  {552, 40},  {131, 60}, {132, 60},
-    {133, 60}, {197, 60},  {198, 60},  {311, 60},  {312, 60},  {84, 65},   {85, 65},  {118, 70},
-    {306, 70}, {296, 75},  {298, 75},  {295, 80},  {300, 80},  {413, 80},  {414, 80}, {531, 85},
-    {532, 85}, {600, 100}, {602, 100}, {720, 100}, {722, 100}, {774, 100}, {776, 100}};
-constexpr RychlostPrvku kRychlostiVlevo[] = {
-    {531, 40}, {532, 40}, {135, 60},  {136, 60},  {141, 60},  {145, 60}, {295, 60}, {300, 60},
-    {311, 60}, {312, 60}, {84, 65},   {85, 65},   {413, 65},  {414, 65}, {118, 70}, {306, 70},
-    {117, 75}, {978, 75}, {980, 75},  {270, 80},  {271, 80},  {418, 80}, {419, 80}, {686, 80},
-    {720, 80}, {722, 80}, {738, 80},  {323, 85},  {326, 85},  {774, 90}, {776, 90}, {19, 100},
-    {20, 100}, {21, 100}, {107, 100}, {108, 100}, {234, 100}, {235, 100}};
 
 // km/h that a step adds: the fewer, the longer a goods train is.
 float zrychleni(const Vlak& vlak) {
@@ -48,15 +31,8 @@ float zrychleni(const Vlak& vlak) {
 } // namespace
 
 void rychlost_trati_prvek(int prvek, int v) {
-    const auto najdi = [&](const auto& tabulka_rychlosti) {
-        for (const RychlostPrvku& r : tabulka_rychlosti)
-            if (r.prvek == prvek)
-                vlak_c(v).rychlost_trati = r.rychlost;
-    };
-    if (vlak_c(v).smer)
-        najdi(kRychlostiVpravo);
-    else
-        najdi(kRychlostiVlevo);
+    if (const int rychlost = uzel::rychlost_prvku(prvek, vlak_c(v).smer); rychlost != 0)
+        vlak_c(v).rychlost_trati = na_byte(rychlost);
 }
 
 void omez_rychlost(const Cesta& c, int v) {

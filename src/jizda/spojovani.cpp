@@ -36,8 +36,6 @@ namespace {
 constexpr int kDelkaLoko_m = 18;           // of a locomotive, and of a consist that would have none
 constexpr std::uint8_t kRychlostDilu = 40; // line speed of a part that was split off
 constexpr int kPrvniRidiciVuz = 900;       // driving trailers
-constexpr int kKolejVytahu = 32;           // beside the stub of the locomotives
-constexpr int kKusaKolej = 574;            // that stub
 
 bool cely_na_prvku(const Vlak& v) {
     return !v.prvky.empty() && static_cast<std::size_t>(v.prvek_konec) + 1 == v.prvky.size();
@@ -205,16 +203,16 @@ void rozdel_delku(Vlak& vlak, Vlak& dil) {
 // A locomotive that comes off on track 32 at the end of the stub clears the platform at once.
 void odstav_na_kusou(int v) {
     Vlak& vlak = vlak_c(v);
-    if (vlak.prvky.back() != kKolejVytahu || !vlak.smer || vlak.vozy_urceni.empty() ||
-        !(je_ciselny(vlak.vozy_urceni[0]) || vlak.vozy_urceni[0] == "DKV") || !je_kolej(kKusaKolej) ||
-        !je_volna(kKusaKolej))
+    if (vlak.prvky.back() != uzel::kKolejVedleKuse || !vlak.smer || vlak.vozy_urceni.empty() ||
+        !(je_ciselny(vlak.vozy_urceni[0]) || vlak.vozy_urceni[0] == "DKV") || !je_kolej(uzel::kKusaKolej) ||
+        !je_volna(uzel::kKusaKolej))
         return;
-    uber_z_koleje(kKolejVytahu, v);
+    uber_z_koleje(uzel::kKolejVedleKuse, v);
     vlak.smer = false;
     vlak.posun = true;
-    vlak.prvky.back() = kKusaKolej;
-    pridej_na_kolej(kKusaKolej, v, false, -1);
-    barvi_prvek(kKusaKolej, barvy::cervena);
+    vlak.prvky.back() = uzel::kKusaKolej;
+    pridej_na_kolej(uzel::kKusaKolej, v, false, -1);
+    barvi_prvek(uzel::kKusaKolej, barvy::cervena);
 }
 
 // --- the next train

@@ -16,7 +16,9 @@
 #include "relief/relief.h"
 #include "save/gtn.h"
 #include "uzel/dopravny.h"
+#include "uzel/prejezdy.h"
 #include "uzel/trate.h"
+#include "uzel/zastavky.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -55,52 +57,11 @@ Text urceni(const Vlak& vlak, std::size_t i) {
 
 // --- where stops are
 
-enum class PoStopu : std::uint8_t { nic, otocit, tesk, hajovice, dolni };
-
-struct MistoStopu {
-    int od, po;
-    int stanice;
-    int pobyt = 1; // least dwell, minutes
-    PoStopu potom = PoStopu::nic;
-    int od_metru = -1; // on a line against the sense: only so far in; -1 anywhere
-};
-constexpr std::array kMista = {
-    MistoStopu{26, 35, dopravna::tesk, 1, PoStopu::tesk},
-    MistoStopu{9, 18, dopravna::vysni_hrabov},
-    MistoStopu{44, 46, dopravna::rybnice, 1, PoStopu::otocit},
-    MistoStopu{93, 94, dopravna::rybnice, 1, PoStopu::otocit},
-    MistoStopu{96, 96, dopravna::rybnice, 1, PoStopu::otocit},
-    MistoStopu{638, 638, dopravna::rybnice, 1, PoStopu::otocit},
-    MistoStopu{86, 90, dopravna::lhotin},
-    MistoStopu{70, 75, dopravna::knizeci_luka},
-    MistoStopu{66, 69, dopravna::rokytno},
-    MistoStopu{62, 65, dopravna::borovec},
-    MistoStopu{41, 43, dopravna::dubnice},
-    MistoStopu{36, 40, dopravna::mokrina},
-    MistoStopu{0, 3, dopravna::javorin, 1, PoStopu::otocit},
-    MistoStopu{78, 83, dopravna::dolni, 1, PoStopu::dolni},
-    MistoStopu{47, 54, dopravna::hajovice, 4, PoStopu::hajovice}, // 55 and 56 are exits
-    MistoStopu{57, 61, dopravna::hajovice, 4, PoStopu::hajovice},
-    MistoStopu{118, 118, dopravna::kamenec},
-    MistoStopu{604, 604, dopravna::javorin_dolni, 1, PoStopu::nic, 2500},
-    MistoStopu{606, 606, dopravna::javorin_dolni, 1, PoStopu::nic, 2500},
-    MistoStopu{654, 654, dopravna::podoli, 1, PoStopu::nic, 5000},
-    MistoStopu{656, 656, dopravna::podoli, 1, PoStopu::nic, 5000},
-    MistoStopu{674, 674, dopravna::olsany},
-    MistoStopu{676, 676, dopravna::olsany},
-    MistoStopu{720, 720, dopravna::lipina},
-    MistoStopu{722, 722, dopravna::lipina},
-    MistoStopu{728, 728, dopravna::jivova},
-    MistoStopu{730, 730, dopravna::jivova},
-    MistoStopu{824, 824, dopravna::zlata},
-    MistoStopu{826, 826, dopravna::zlata},
-    MistoStopu{928, 928, dopravna::javorna},
-    MistoStopu{930, 930, dopravna::javorna}};
-
-const MistoStopu* najdi_misto(int prvek) {
-    const auto misto = std::find_if(kMista.begin(), kMista.end(),
-                                    [prvek](const MistoStopu& m) { return prvek >= m.od && prvek <= m.po; });
-    return misto == kMista.end() ? nullptr : &*misto;
+const uzel::MistoStopu* najdi_misto(int prvek) {
+    const auto misto =
+        std::find_if(uzel::kMistaStopu.begin(), uzel::kMistaStopu.end(),
+                     [prvek](const uzel::MistoStopu& m) { return prvek >= m.od && prvek <= m.po; });
+    return misto == uzel::kMistaStopu.end() ? nullptr : &*misto;
 }
 
 // --- locomotives at the stops
@@ -130,7 +91,7 @@ void vymen_loko_v_tesku(int v) {
         urceni(nova, 0) == urceni(vlak_c(v), 0))
         return;
     // A railcar goes on as a train of its own.
-    if (nova.prvky.back() != 574 && je_ciselny(urceni(nova, 0)))
+    if (nova.prvky.back() != uzel::kKusaKolej && je_ciselny(urceni(nova, 0)))
         nova.posun = false;
     navazny_vlak(odvesena);
 }
@@ -163,7 +124,7 @@ void odves_v_dolnim(int v) {
 void postav_soupravu(int prvek, int v) {
     const Vlak& vlak = vlak_c(v);
     const TextPohled pokyn = orez(vlak.pokyn);
-    if (vlak.stanice_index > 0 || prvek < 26 || prvek > 35 || pokyn.empty() || vlak.stanice.empty() ||
+    if (vlak.stanice_index > 0 || !uzel::je_kolej_hlavniho(prvek) || pokyn.empty() || vlak.stanice.empty() ||
         !je_v(vlak.stanice.front(), {dopravna::tesk, dopravna::posta, dopravna::dkv_vh}) ||
         je_nastaveno_posun_z(prvek) || !je_cislo_koleje(prvek) ||
         orez(relief.cislo_koleje[prvek].popis()) != pokyn)
@@ -274,31 +235,9 @@ int zbyva_do_odjezdu(Vlak& vlak, int i) {
 
 // --- journal
 
-struct RadekDeniku {
-    int od, po;
-    TextPohled text;
-    int stanice;
-};
-constexpr std::array kDenik = {
-    RadekDeniku{86, 90, " odjel z Lhotína v "_cz, dopravna::lhotin},
-    RadekDeniku{62, 65, " odjel z Borovce v "_cz, dopravna::borovec},
-    RadekDeniku{66, 69, " odjel z Rokytna v "_cz, dopravna::rokytno},
-    RadekDeniku{26, 35, " odjel z Teska hl. n. v "_cz, dopravna::tesk},
-    RadekDeniku{9, 17, " odjel z Teska Vyšního Hrabova v "_cz, dopravna::vysni_hrabov},
-    RadekDeniku{44, 46, " odjel z Teska Rybnic v "_cz, dopravna::rybnice},
-    RadekDeniku{93, 94, " odjel z Teska Rybnic v "_cz, dopravna::rybnice},
-    RadekDeniku{96, 96, " odjel z Teska Rybnic v "_cz, dopravna::rybnice},
-    RadekDeniku{638, 638, " odjel z Teska Rybnic v "_cz, dopravna::rybnice},
-    RadekDeniku{70, 75, " odjel z Teska Knížecích Luk v "_cz, dopravna::knizeci_luka},
-    RadekDeniku{36, 40, " odjel z Teska Mokřiny v "_cz, dopravna::mokrina},
-    RadekDeniku{41, 43, " odjel z Dubnice v "_cz, dopravna::dubnice},
-    RadekDeniku{78, 83, " odjel z Teska dolního n. v "_cz, dopravna::dolni},
-    RadekDeniku{0, 3, " odjel z Javořína v "_cz, dopravna::javorin}};
-
-void pis_do_deniku(int v, const RadekDeniku& radek) {
+void pis_do_deniku(int v, const uzel::RadekDeniku& radek) {
     const Vlak& vlak = vlak_c(v);
-    // In Javorin the train goes by its first number even after the change: this is meant.
-    const std::int32_t cislo = radek.stanice == dopravna::javorin ? vlak.cislo : zobrazene_cislo(vlak);
+    const std::int32_t cislo = radek.prvnim_cislem ? vlak.cislo : zobrazene_cislo(vlak);
     Text text = "Vlak " + text_cisla(cislo);
     text += radek.text;
     text += text_minuty(minuta_dne(cas_hodin()));
@@ -308,10 +247,9 @@ void pis_do_deniku(int v, const RadekDeniku& radek) {
 
 // The tail has left the area of a station crossing.
 void opust_prejezd(int e) {
-    const bool prvni = je_v(e, {4, 100, 106, 427, 543, 544});
-    if (!prvni && !je_v(e, {279, 280}))
+    const int k = uzel::prejezd_za(e);
+    if (k < 0)
         return;
-    const int k = prvni ? 0 : 1;
     StanicniPrejezd& prejezd = stanicni_prejezdy[static_cast<std::size_t>(k)];
     // NOT has counted this train out already: below rest the crossing would stay closed for ever.
     if (prejezd.pocet > kBezVlaku)
@@ -320,33 +258,6 @@ void opust_prejezd(int e) {
         gtn_zapis(k, gtn::prejezd, 0);
 }
 
-// --- change of direction
-
-struct Obrat {
-    int odkud, kam;
-    bool smer; // in which the train has come
-};
-constexpr std::array kObraty = {Obrat{dopravna::tesk, dopravna::javorin, true},
-                                Obrat{dopravna::tesk, dopravna::vrbice, true},
-                                Obrat{dopravna::tesk, dopravna::vysni_hrabov, true},
-                                Obrat{dopravna::tesk, dopravna::kamenec, true},
-                                Obrat{dopravna::tesk, dopravna::mokrina, true},
-                                Obrat{dopravna::tesk, dopravna::dkv_vh, true},
-                                Obrat{dopravna::tesk, dopravna::rybnice, false},
-                                Obrat{dopravna::tesk, dopravna::hajovice, false},
-                                Obrat{dopravna::tesk, dopravna::hajovice_sn, false},
-                                Obrat{dopravna::tesk, dopravna::dkv, false},
-                                Obrat{dopravna::javorin, dopravna::polska_lhota, true},
-                                Obrat{dopravna::javorin, dopravna::hvozdy, true},
-                                Obrat{dopravna::hajovice, dopravna::rybnice, true},
-                                Obrat{dopravna::hajovice, dopravna::mokrina, true},
-                                Obrat{dopravna::hajovice, dopravna::dolni, true},
-                                Obrat{dopravna::hajovice, dopravna::borovec, false},
-                                Obrat{dopravna::hajovice, dopravna::knizeci_luka, false},
-                                Obrat{dopravna::rybnice, dopravna::mokrina, true},
-                                Obrat{dopravna::dolni, dopravna::vysni_hrabov, true},
-                                Obrat{dopravna::dolni, dopravna::rybnice, false}};
-
 } // namespace
 
 std::int16_t cas_min() {
@@ -354,7 +265,7 @@ std::int16_t cas_min() {
 }
 
 int stanice_prvku(int prvek) {
-    const MistoStopu* misto = najdi_misto(prvek);
+    const uzel::MistoStopu* misto = najdi_misto(prvek);
     return misto == nullptr ? 0 : misto->stanice;
 }
 
@@ -363,18 +274,18 @@ void vlak_v_cili(int prvek, int v) {
         postav_soupravu(prvek, v);
         return;
     }
-    const MistoStopu* misto = najdi_misto(prvek);
+    const uzel::MistoStopu* misto = najdi_misto(prvek);
     if (misto == nullptr)
         return;
     if (misto->od_metru >= 0 && !vlak_c(v).smer && metry(prvek) < misto->od_metru)
         return;
     stanice_stop(misto->stanice, v, misto->pobyt);
     switch (misto->potom) {
-    case PoStopu::nic: return;
-    case PoStopu::otocit: break;
-    case PoStopu::hajovice: vymen_loko_v_hajovicich(v); return;
-    case PoStopu::dolni: odves_v_dolnim(v); break;
-    case PoStopu::tesk:
+    case uzel::PoStopu::nic: return;
+    case uzel::PoStopu::otocit: break;
+    case uzel::PoStopu::hajovice: vymen_loko_v_hajovicich(v); return;
+    case uzel::PoStopu::dolni: odves_v_dolnim(v); break;
+    case uzel::PoStopu::tesk:
         vymen_loko_v_tesku(v);
         if (stoji_na_posledni(vlak_c(v)))
             navazny_vlak(v);
@@ -472,7 +383,7 @@ void ohlas_odjezd(int v, int j) {
     opust_prejezd(e); // a shunting movement leaves it as a train does
     if (vlak_c(v).posun)
         return;
-    for (const RadekDeniku& radek : kDenik)
+    for (const uzel::RadekDeniku& radek : uzel::kDenik)
         if (e >= radek.od && e <= radek.po) {
             pis_do_deniku(v, radek);
             spocti_zpozdeni(v, radek.stanice);
@@ -514,7 +425,8 @@ void otoc_podle_stanic(int v) {
     const int i = std::max<int>(vlak.stanice_index, 0);
     const int odkud = stanice_zastavky(vlak, i);
     const int kam = stanice_zastavky(vlak, i + 1);
-    if (std::any_of(kObraty.begin(), kObraty.end(),
-                    [&](const Obrat& o) { return o.odkud == odkud && o.kam == kam && o.smer == vlak.smer; }))
+    if (std::any_of(uzel::kObraty.begin(), uzel::kObraty.end(), [&](const uzel::Obrat& o) {
+            return o.odkud == odkud && o.kam == kam && o.smer == vlak.smer;
+        }))
         otoc_vlak(v);
 }

@@ -18,6 +18,7 @@
 #include "jizda/zastavky.h"
 #include "relief/relief.h"
 #include "uzel/dopravny.h"
+#include "uzel/vstupy.h"
 #include "zaklad/cisla.h"
 #include "zaklad/nahoda.h"
 
@@ -30,37 +31,27 @@ namespace {
 
 constexpr std::uint8_t kRychlost = 80;
 
-// A gate of the main depot: the name that opens the menu, and the track behind the gate.
-struct Brana {
-    int popis;
-    int kolej;
-    bool smer; // in which the locomotive comes out
-    void (*akce)(int rada);
-};
-constexpr int kPopisVh = 34;
-constexpr int kKolejVh = 25;
+constexpr int kKolejVh = uzel::kBranaVh.kolej;
 
 constexpr std::array<TextPohled, 10> kRady = {"210", "230", "2x230", "240", "242",
                                               "362", "363", "731",   "742", "754"};
 constexpr std::array<TextPohled, 2> kRadyVh = {"842", "850"};
 constexpr TextPohled kDvojice = "2x230";
 
-void akce_brany_28(int i) {
-    loko_menu(28, kRady.at(static_cast<std::size_t>(i)));
+void akce_zapadni_brany(int i) {
+    loko_menu(uzel::kBranaZapad.popis, kRady.at(static_cast<std::size_t>(i)));
 }
-void akce_brany_30(int i) {
-    loko_menu(30, kRady.at(static_cast<std::size_t>(i)));
+void akce_vychodni_brany(int i) {
+    loko_menu(uzel::kBranaVychod.popis, kRady.at(static_cast<std::size_t>(i)));
 }
 void akce_vh(int i) {
     loko_vh_menu(kRadyVh.at(static_cast<std::size_t>(i)));
 }
 
-constexpr std::array kBrany = {Brana{28, 112, false, akce_brany_28}, Brana{30, 119, true, akce_brany_30}};
-
-const Brana* najdi_branu(int popis) {
-    const auto brana =
-        std::find_if(kBrany.begin(), kBrany.end(), [popis](const Brana& b) { return b.popis == popis; });
-    return brana == kBrany.end() ? nullptr : &*brana;
+const uzel::Brana* najdi_branu(int popis) {
+    return popis == uzel::kBranaZapad.popis    ? &uzel::kBranaZapad
+           : popis == uzel::kBranaVychod.popis ? &uzel::kBranaVychod
+                                               : nullptr;
 }
 
 bool je_volno(int kolej) {
@@ -107,25 +98,26 @@ void pridej_radu(Menu& nove, TextPohled pole, TextPohled rada, std::size_t i, vo
 } // namespace
 
 bool menu_depa(int popis) {
-    if (popis == kPopisVh) {
+    if (popis == uzel::kBranaVh.popis) {
         Menu nove = nove_menu("mnuLOKO_VH", popis);
         for (std::size_t i = 0; i < kRadyVh.size(); ++i)
             pridej_radu(nove, "miLOKO_VH", kRadyVh[i], i, akce_vh);
         otevri_menu(std::move(nove));
         return true;
     }
-    const Brana* brana = najdi_branu(popis);
+    const uzel::Brana* brana = najdi_branu(popis);
     if (brana == nullptr)
         return false;
     Menu nove = nove_menu("mnuLOKO", popis);
     for (std::size_t i = 0; i < kRady.size(); ++i)
-        pridej_radu(nove, "miLoko", kRady[i], i, brana->akce);
+        pridej_radu(nove, "miLoko", kRady[i], i,
+                    brana == &uzel::kBranaZapad ? akce_zapadni_brany : akce_vychodni_brany);
     otevri_menu(std::move(nove));
     return true;
 }
 
 void loko_menu(int misto, TextPohled rada) {
-    const Brana* brana = najdi_branu(misto);
+    const uzel::Brana* brana = najdi_branu(misto);
     if (brana == nullptr || std::find(kRady.begin(), kRady.end(), rada) == kRady.end() ||
         !je_volno(brana->kolej))
         return;

@@ -17,6 +17,7 @@
 #include "obsluha/vyber.h"
 #include "obsluha/zadani.h"
 #include "relief/topologie.h"
+#include "uzel/trate.h"
 #include "zaklad/cisla.h"
 
 #include <array>
@@ -26,9 +27,7 @@ MenuKoleje stav_menu_koleje;
 
 namespace {
 
-constexpr int kNejvyssiPopisek = 650; // labels behind it take no pick and have no menu
-constexpr int kDruhaKresba118 = 998;  // a label at the second drawing of 118, no section of a line
-constexpr int kOdstupMenu = 20;       // twips below the label
+constexpr int kOdstupMenu = 20; // twips below the label
 
 constexpr std::int16_t kOtazkaCislaVlaku = 9; // what an Enter answers
 
@@ -167,7 +166,7 @@ Text radek_nazvu(int e) {
 
 // Length of the track; of a line that of all its sections.
 int delka_mista(int e) {
-    if (!je_usek_trati(e) || e == kDruhaKresba118)
+    if (!je_usek_trati(e) || e == uzel::kObrazKamence)
         return delka_koleje(e);
     int delka = 0;
     for (int n = zaklad_trati(e); n <= kNejvyssiPrvek; n += kKrokTrati)
@@ -235,14 +234,14 @@ void info_podle_cisla(std::int32_t cislo) {
 int prvek_popisku(int stitek) {
     if (stitek > kPrvniTrat && stitek % 2 != 0)
         return stitek - 1;
-    if (stitek >= 200 && stitek <= 399 && !je_vstup_z_trati(stitek))
-        return stitek - 200;
+    if (je_pravy_stitek(stitek))
+        return stitek - kDruhyStitek;
     return stitek;
 }
 
 void menu_koleje(int stitek) {
     const int e = prvek_popisku(stitek);
-    if (e > kNejvyssiPopisek)
+    if (e > uzel::kNejvyssiStitekTrati)
         return;
     vyber_vlaky(e);
     const Text nazev = radek_nazvu(e);
@@ -266,7 +265,7 @@ void menu_koleje(int stitek) {
 }
 
 void klik_cisla(int stitek) {
-    if (const int e = prvek_popisku(stitek); e <= kNejvyssiPopisek)
+    if (const int e = prvek_popisku(stitek); e <= uzel::kNejvyssiStitekTrati)
         klik_cil(e);
 }
 

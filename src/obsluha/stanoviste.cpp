@@ -9,36 +9,13 @@
 #include "obsluha/volba.h"
 #include "prvky/navestidla.h"
 #include "relief/relief.h"
+#include "uzel/volba.h"
 
 #include <algorithm>
 #include <array>
 #include <vector>
 
 namespace {
-
-// A through route of a station: start signal, end.
-struct PrujezdnaCesta {
-    int post;
-    int zacatek, konec;
-};
-constexpr std::array<PrujezdnaCesta, 16> kPrujezdneCesty = {{
-    {1, 287, 600},
-    {1, 602, 88},
-    {2, 629, 64},
-    {2, 63, 630},
-    {4, 323, 41},
-    {4, 42, 120},
-    {6, 625, 67},
-    {6, 68, 626},
-    {11, 617, 36},
-    {11, 236, 123},
-    {11, 120, 37},
-    {11, 37, 618},
-    {13, 621, 73},
-    {13, 273, 624},
-    {13, 626, 72},
-    {13, 72, 622},
-}};
 
 bool jede_z(int s) {
     return navestidla(s)[s].barva == barvy::zelena &&
@@ -52,15 +29,15 @@ void akce_popisky(int) {
 } // namespace
 
 void automat(int post) {
-    std::vector<PrujezdnaCesta> pary; // those whose signal the relief holds
-    for (const PrujezdnaCesta& p : kPrujezdneCesty)
+    std::vector<uzel::PrujezdnaCesta> pary; // those whose signal the relief holds
+    for (const uzel::PrujezdnaCesta& p : uzel::kPrujezdneCesty)
         if (p.post == post && navestidla(p.zacatek).je(p.zacatek))
             pary.push_back(p);
     if (pary.empty())
         return;
 
     if (std::all_of(pary.begin(), pary.end(), [](const auto& p) { return ab_zapnuto(p.zacatek); })) {
-        for (const PrujezdnaCesta& p : pary) {
+        for (const uzel::PrujezdnaCesta& p : pary) {
             prepni_ab(p.zacatek);
             zrus_cestu(p.zacatek);
         }
@@ -68,7 +45,7 @@ void automat(int post) {
     }
     if (std::any_of(pary.begin(), pary.end(), [](const auto& p) { return jede_z(p.zacatek); }))
         return; // a train is expected: the operator ends its route first
-    for (const PrujezdnaCesta& p : pary) {
+    for (const uzel::PrujezdnaCesta& p : pary) {
         najdi_cestu(p.zacatek, p.konec, druh_volby::vlak, true);
         if (!ab_zapnuto(p.zacatek)) // a mode that is on already stays on
             prepni_ab(p.zacatek);

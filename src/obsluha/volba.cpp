@@ -10,6 +10,7 @@
 #include "prvky/navestidla.h"
 #include "relief/topologie.h"
 #include "save/gtn.h"
+#include "uzel/volba.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
 
@@ -76,30 +77,11 @@ bool navazuje_na_volbu(int s) {
     return pred >= 0 && pred != s && sude_navestidlo(pred) == sude_navestidlo(s);
 }
 
-// At these places of Mokřina and Teska hl. n. the second signal always begins a route of its own.
+// Here the second signal always begins a route of its own.
 bool je_vyjimka_retezeni(int s) {
-    struct Dvojice {
-        int s, po;
-    };
-    constexpr std::array<Dvojice, 6> kVyjimky = {
-        {{316, 113}, {315, 114}, {314, 618}, {313, 618}, {314, 616}, {313, 616}}};
-    return std::any_of(kVyjimky.begin(), kVyjimky.end(),
-                       [s](const Dvojice& d) { return d.s == s && d.po == vyber.volba_navestidlo; });
-}
-
-// Track at which a route ends when signal s is its end; kZadny: the signal ends none.
-int konec_u_navestidla(int s) {
-    if (s < 200)
-        return s;
-    if (s < 500)
-        return s - 200;
-    if (s < 600)
-        return kZadny;
-    return s == 633 ? 96 : s - s % 2;
-}
-
-int konec_u_ser(int s) {
-    return s > 699 ? s - 200 : s > 500 ? s : kZadny;
+    return std::any_of(
+        uzel::kVyjimkyRetezeni.begin(), uzel::kVyjimkyRetezeni.end(),
+        [s](const uzel::VyjimkaRetezeni& d) { return d.s == s && d.po == vyber.volba_navestidlo; });
 }
 
 void ukonci_volbu_v(int konec, int druh) {
@@ -128,7 +110,8 @@ void vyber_posun(int s, int konec) {
 void vyber_vlak(int s) {
     odznac_navestidlo(vyber.volba_navestidlo);
     if (navazuje_na_volbu(s) && !vyber.volba_posun && !je_vyjimka_retezeni(s))
-        ukonci_volbu_v(s == 998 ? 118 : konec_u_navestidla(s), druh_volby::vlak);
+        ukonci_volbu_v(s == uzel::kObrazKamence ? uzel::kKamenec : uzel::konec_u_navestidla(s),
+                       druh_volby::vlak);
     gtn_zapis(s, gtn::volba_vlak, 0);
     ukaz_vyzvu(druh_volby::vlak, s);
     vyber.volba_posun = false;
@@ -140,51 +123,18 @@ void vyber_vlak(int s) {
 
 // --- the end
 
-// One click that runs over a short connecting section: two routes, one to `pres`, one from `dal`.
-struct DvojityKonec {
-    int konec, zacatek;
-    int pres; // the first route ends here
-    int dal;  // the second one starts here
-    int jiny; // its end when the tables hold no route to `konec` itself
-};
-constexpr std::array<DvojityKonec, 17> kDvojiteKonce = {{{604, 284, 2, 202, 604},
-                                                         {606, 285, 3, 203, 606},
-                                                         {84, 604, 2, 2, 84},
-                                                         {85, 606, 3, 3, 85},
-                                                         {20, 601, 12, 212, 20},
-                                                         {19, 603, 11, 211, 19},
-                                                         {21, 297, 10, 210, 21},
-                                                         {600, 20, 12, 12, 600},
-                                                         {602, 19, 11, 11, 602},
-                                                         {624, 621, 73, 273, 624},
-                                                         {626, 623, 72, 272, 626},
-                                                         {620, 624, 73, 73, 20},
-                                                         {622, 626, 72, 72, 19},
-                                                         {120, 619, 37, 237, 120},
-                                                         {123, 617, 36, 236, 123},
-                                                         {618, 120, 37, 37, 618},
-                                                         {616, 123, 36, 36, 616}}};
-
-const DvojityKonec* dvojity_konec(int zacatek, int konec) {
-    const auto d = std::find_if(kDvojiteKonce.begin(), kDvojiteKonce.end(), [=](const DvojityKonec& x) {
-        return x.konec == konec && x.zacatek == zacatek;
-    });
-    return d == kDvojiteKonce.end() ? nullptr : &*d;
+const uzel::DvojityKonec* dvojity_konec(int zacatek, int konec) {
+    const auto d =
+        std::find_if(uzel::kDvojiteKonce.begin(), uzel::kDvojiteKonce.end(),
+                     [=](const uzel::DvojityKonec& x) { return x.konec == konec && x.zacatek == zacatek; });
+    return d == uzel::kDvojiteKonce.end() ? nullptr : &*d;
 }
 
-int konec_druhe_casti(const DvojityKonec& d, int druh) {
+int konec_druhe_casti(const uzel::DvojityKonec& d, int druh) {
     const TabulkaCest tabulka = druh == druh_volby::posun ? TabulkaCest::zpc : TabulkaCest::zat;
     const bool jen_jiny =
         !najdi_v_tabulce(tabulka, d.dal, d.konec) && najdi_v_tabulce(tabulka, d.dal, d.jiny);
     return jen_jiny ? d.jiny : d.konec;
-}
-
-int uprav_konec(int e) {
-    if (e >= 200 && e < 400)
-        return e - 200;
-    if (e == 513)
-        return 118;
-    return e > kPrvniTrat && e % 2 == 1 ? e - 1 : e;
 }
 
 // The prompt goes on with the end's name; without a target with its track and metres.
@@ -247,7 +197,7 @@ void klik_navestidlo(int s, Tlacitko tlacitko, bool ctrl) {
     else if (navestidlo.barva == barvy::cervena)
         ohlas_zablokovane(" Návěstidlo zablokováno v poloze STŮJ!"_cz);
     else if (tlacitko == Tlacitko::prostredni || ctrl)
-        vyber_posun(s, konec_u_navestidla(s));
+        vyber_posun(s, uzel::konec_u_navestidla(s));
     else
         vyber_vlak(s);
 }
@@ -265,7 +215,7 @@ void klik_navestidlo_ser(int s, Tlacitko tlacitko) {
     else if (navestidlo.barva == barvy::modra)
         ohlas_zablokovane(" Návěstidlo zablokováno v poloze POSUN ZAKÁZÁN!"_cz);
     else
-        vyber_posun(s, konec_u_ser(s));
+        vyber_posun(s, uzel::konec_u_ser(s));
 }
 
 void volba_pn(int s) {
@@ -291,8 +241,8 @@ void klik_cil(int e) {
     if (simulace.pauza || vyber.volba_konec >= 0 || vyber.volba_zacatek < 0)
         return;
     const int druh = vyber.volba_druh; // each look-up clears it, the second one needs it too
-    int konec = uprav_konec(e);
-    if (const DvojityKonec* d = dvojity_konec(vyber.volba_zacatek, konec)) {
+    int konec = uzel::konec_u_stitku(e);
+    if (const uzel::DvojityKonec* d = dvojity_konec(vyber.volba_zacatek, konec)) {
         if (!najdi_cestu(vyber.volba_zacatek, d->pres, druh, false))
             return;
         vyber.volba_zacatek = static_cast<std::int16_t>(d->dal);
@@ -307,10 +257,10 @@ void klik_cil(int e) {
 }
 
 int zacatek_dvojite_volby(int dal, int konec) {
-    const auto d = std::find_if(kDvojiteKonce.begin(), kDvojiteKonce.end(), [=](const DvojityKonec& x) {
-        return x.dal == dal && (x.konec == konec || x.jiny == konec);
-    });
-    return d == kDvojiteKonce.end() ? kZadny : d->zacatek;
+    const auto d = std::find_if(
+        uzel::kDvojiteKonce.begin(), uzel::kDvojiteKonce.end(),
+        [=](const uzel::DvojityKonec& x) { return x.dal == dal && (x.konec == konec || x.jiny == konec); });
+    return d == uzel::kDvojiteKonce.end() ? kZadny : d->zacatek;
 }
 
 void zrus_volbu() {

@@ -16,6 +16,8 @@
 #include "obsluha/vstup.h"
 #include "relief/prejezdy.h"
 #include "relief/relief.h"
+#include "uzel/dopravny.h"
+#include "uzel/prejezdy.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
 
@@ -28,7 +30,6 @@ namespace {
 
 constexpr int kTwipsuNaPixel = 15;
 constexpr std::int32_t kZaCislyVlaku = 399'999; // numbers of trains lie below
-constexpr int kPrvkyBezCisel = 500;             // from here on labels do not follow the lists of trains
 
 // --- notes
 
@@ -51,7 +52,7 @@ StitekPrvku& zaloz_stitek(int prvek) {
 
 // A possession of the line closes the crossing on it for good: it shows its own border.
 void oznac_prejezd(int prvek, bool vyluka) {
-    const std::size_t prejezd = prvek == 602 ? 9 : prvek == 600 ? 10 : prejezdy.size();
+    const std::size_t prejezd = uzel::prejezd_vyluky(prvek, prejezdy.size());
     if (prejezd < prejezdy.size())
         prejezdy[prejezd].vyluka = vyluka;
 }
@@ -66,7 +67,7 @@ void napis_stitek(int prvek, DruhStitku druh, TextPohled text) {
 // The right label of a track takes the background of the note with its number: without the note it must
 // not keep it.
 void zhasni_pravy_stitek(int prvek) {
-    const int pravy = prvek + 200;
+    const int pravy = prvek + kDruhyStitek;
     if (!je_cislo_koleje(pravy) || !je_cislo_koleje(prvek) ||
         relief.cislo_koleje[pravy].popis() != relief.cislo_koleje[prvek].popis())
         return;
@@ -103,7 +104,7 @@ void obnov_popisky(int v, std::int32_t stare) {
         const bool tyka_se = std::any_of(seznam.begin(), seznam.end(), [&](std::int16_t x) {
             return x == v || (x >= 0 && zobrazene_cislo(vlak_c(x)) == stare);
         });
-        if (tyka_se && koleje_vlaky[i].prvek < kPrvkyBezCisel)
+        if (tyka_se && koleje_vlaky[i].prvek < kPrvniOdstavna)
             zobraz_kolej(static_cast<int>(i));
     }
 }
@@ -162,29 +163,6 @@ template <class Podminka> bool hledej(Druh druh, Podminka podminka) {
         }
     return false;
 }
-
-// --- the tracks of the stations
-
-struct KolejeStanice {
-    std::int16_t od, po;
-    TextPohled kod;
-};
-constexpr std::array<KolejeStanice, 16> kKolejeStanic = {{{0, 3, "JAV"},
-                                                          {9, 18, "TVH"},
-                                                          {97, 97, "TVH"},
-                                                          {22, 35, "THN"},
-                                                          {36, 40, "TMK"},
-                                                          {41, 43, "DUB"},
-                                                          {44, 46, "TRY"},
-                                                          {93, 94, "TRY"},
-                                                          {96, 96, "TRY"},
-                                                          {47, 61, "THJ"},
-                                                          {76, 77, "THJ"},
-                                                          {62, 65, "BOR"},
-                                                          {66, 69, "ROK"},
-                                                          {70, 75, "TKL"},
-                                                          {78, 83, "TDN"},
-                                                          {86, 90, "LHO"}}};
 
 // --- the question
 
@@ -286,7 +264,7 @@ void obnov_stitek(int prvek) {
 }
 
 TextPohled kod_stanice_prvku(int prvek) {
-    for (const KolejeStanice& k : kKolejeStanic)
+    for (const uzel::KolejeStanice& k : uzel::kKolejeStanic)
         if (prvek >= k.od && prvek <= k.po)
             return k.kod;
     return {};

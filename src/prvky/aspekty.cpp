@@ -2,6 +2,7 @@
 #include "cesty/cesta.h"
 #include "prvky/navestidla.h"
 #include "relief/relief.h"
+#include "uzel/navestidla.h"
 #include "uzel/trate.h"
 
 #include <algorithm>
@@ -33,8 +34,7 @@ bool trat_volna(int e) {
 }
 
 bool bez_predzvesti(int e) { // exits of the junction: what lies behind is not the desk's business
-    constexpr std::array kVystupy = {212, 213, 219, 120, 123, 118, 64, 67, 88};
-    return std::find(kVystupy.begin(), kVystupy.end(), e) != kVystupy.end();
+    return je_v(e, uzel::kBezPredzvesti);
 }
 
 } // namespace
@@ -54,7 +54,7 @@ int dalsi_navest(int prvek) {
         });
         if (c == cesty.end())
             return kNavestStuj;
-        if (c->zacatek < 221 || c->zacatek > 224)
+        if (!uzel::je_pruhledne(c->zacatek))
             return c->rychlost;
         e = c->konec; // the repeater shows what the signal behind it shows
     }

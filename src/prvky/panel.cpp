@@ -21,29 +21,6 @@ constexpr std::array<PopisPanelu, 5> kMasty = {{
     {TvarPanelu::serizovaci, {false, false, false, true, false, true}, {false, false}, 0},
 }};
 
-struct RozsahMastu {
-    TvarPanelu tvar;
-    int od, po; // signal numbers, both included
-};
-constexpr std::array kCislaMastu = {
-    RozsahMastu{TvarPanelu::bez_zluteho, 221, 221}, RozsahMastu{TvarPanelu::bez_zluteho, 225, 225},
-    RozsahMastu{TvarPanelu::bez_zluteho, 345, 345}, RozsahMastu{TvarPanelu::bez_pruhu, 93, 93},
-    RozsahMastu{TvarPanelu::bez_pruhu, 96, 96},     RozsahMastu{TvarPanelu::bez_pruhu, 613, 613},
-    RozsahMastu{TvarPanelu::bez_pruhu, 615, 615},   RozsahMastu{TvarPanelu::kratky, 22, 35},
-    RozsahMastu{TvarPanelu::kratky, 41, 43},        RozsahMastu{TvarPanelu::kratky, 200, 203},
-    RozsahMastu{TvarPanelu::kratky, 222, 224},      RozsahMastu{TvarPanelu::kratky, 226, 235},
-    RozsahMastu{TvarPanelu::kratky, 277, 277},      RozsahMastu{TvarPanelu::kratky, 284, 285},
-    RozsahMastu{TvarPanelu::kratky, 315, 316},      RozsahMastu{TvarPanelu::kratky, 609, 609},
-    RozsahMastu{TvarPanelu::kratky, 611, 611},      RozsahMastu{TvarPanelu::kratky, 634, 634},
-    RozsahMastu{TvarPanelu::kratky, 636, 637},      RozsahMastu{TvarPanelu::kratky, 639, 639},
-    RozsahMastu{TvarPanelu::kratky, 998, 998}, // every other main signal has the long mast
-};
-
-// A repeater stands in front of a signal that the driver cannot see in time; its white lamp says so.
-bool je_opakovaci(int s) {
-    return (s >= 221 && s <= 224) || s == 609 || s == 611;
-}
-
 void rozsvit(int svetlo) {
     if (relief.svetlo.je(svetlo))
         relief.svetlo[svetlo].viditelny = true;
@@ -110,10 +87,10 @@ void nastav_popisek(TabulkaPrvku& popisky, TextPohled text) {
 TvarPanelu tvar_panelu(int navestidlo) {
     if (je_na_ser(navestidlo))
         return TvarPanelu::serizovaci;
-    const auto rozsah = std::find_if(kCislaMastu.begin(), kCislaMastu.end(), [&](const RozsahMastu& r) {
-        return r.od <= navestidlo && navestidlo <= r.po;
-    });
-    return rozsah == kCislaMastu.end() ? TvarPanelu::dlouhy : rozsah->tvar;
+    const auto rozsah =
+        std::find_if(uzel::kMasty.begin(), uzel::kMasty.end(),
+                     [&](const uzel::RozsahMastu& r) { return r.od <= navestidlo && navestidlo <= r.po; });
+    return rozsah == uzel::kMasty.end() ? TvarPanelu::dlouhy : rozsah->tvar;
 }
 
 const PopisPanelu& popis_panelu(TvarPanelu tvar) {
@@ -142,7 +119,7 @@ void obnov_panel(int s) {
         rozsvit(svetla::cervene); // the white lamp is flashed by the route machine
     else if (c->VC && barva == barvy::zelena) {
         rozsvit_znak(c->rychlost, dalsi_navest(c->prvky.empty() ? kZadny : c->prvky.back()));
-        if (je_opakovaci(s))
+        if (uzel::je_opakovaci(s))
             rozsvit(svetla::bile);
     } else if (c->VC)
         rozsvit(svetla::cervene);

@@ -4,6 +4,7 @@
 // visible exactly when lit. Which signal is shown is simulace.detail_navestidlo; the rest is here.
 #pragma once
 
+#include "uzel/navestidla.h"
 #include "zaklad/text.h"
 
 #include <array>
@@ -18,15 +19,6 @@ inline constexpr int bile = 3;
 inline constexpr int dolni_zlute = 4;
 inline constexpr int modre = 5;
 } // namespace svetla
-
-// Mast of the signal shown: three heights of main signals, one without speed bars, the dwarf.
-enum class TvarPanelu : std::uint8_t {
-    kratky,      // platform tracks and small stations
-    bez_zluteho, // without the upper yellow lamp
-    dlouhy,      // entry and exit of the larger stations
-    bez_pruhu,   // long, without speed bars
-    serizovaci,  // shunting signal: white and blue
-};
 
 // What stands on a mast even when dark. A lamp or bar that is lit is drawn on any mast, so that no
 // aspect is ever hidden from the operator.

@@ -5,6 +5,7 @@
 #include "app/simulace.h"
 #include "desk/menu.h"
 #include "relief/relief.h"
+#include "uzel/prejezdy.h"
 #include "zaklad/cisla.h"
 
 #include <utility>
@@ -63,7 +64,7 @@ void menu_prejezdu(int k) {
         otevreni.text = "ZUZ";
     }
     otevri_menu({"mnuPREJEZD",
-                 Text(kNazvyPrejezdu[static_cast<std::size_t>(k)]),
+                 Text(uzel::kPrejezdyStanic[static_cast<std::size_t>(k)].kilometr),
                  Druh::lblPrejezd,
                  k,
                  {{"miprejezd_debug", stav, true, simulace.polozky_ladeni, nullptr, k},

@@ -2,13 +2,6 @@
 #pragma once
 
 #include "prvky/stanicni_prejezdy.h"
-#include "zaklad/text.h"
-
-#include <array>
-
-// Kilometres of the crossings: their names on the desk.
-inline constexpr std::array<TextPohled, 2> kNazvyPrejezdu = {"140,310", "5,910"};
-
 // --- at any time, without change
 
 // Nothing runs over crossing k and nothing closes it: no train counted, no closing pending, no UZ.

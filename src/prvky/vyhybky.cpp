@@ -11,6 +11,7 @@
 #include "jizda/vlak.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
+#include "uzel/vyhybky.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -152,36 +153,39 @@ void vykolejka_v_poloze(int vykolejka, int glyf, Barva barva = barvy::seda) {
 }
 
 void rozjed_vykolejky(int n, int poloha) {
-    if (n == 202)
-        vykolejka_v_pohybu(0);
-    else if ((n == 190 && poloha != 6) || (n == 206 && poloha < 50)) {
-        if (je_na_koleji(1))
-            vykolejka_v_pohybu(1);
-        else if (je_na_koleji(2))
-            vykolejka_v_pohybu(2);
+    if (n == uzel::kVyhybkaVykolejky0)
+        vykolejka_v_pohybu(uzel::kVykolejka0);
+    else if ((n == uzel::kVyhybkaVykolejek && poloha != uzel::kPolohaBezVykolejek) ||
+             (n == uzel::kDruhaVyhybkaVykolejek && poloha < 50)) {
+        if (je_na_koleji(uzel::kVykolejka1))
+            vykolejka_v_pohybu(uzel::kVykolejka1);
+        else if (je_na_koleji(uzel::kVykolejka2))
+            vykolejka_v_pohybu(uzel::kVykolejka2);
     }
 }
 
-// What derailer 0 shows beside switch 202 in a position.
+// What derailer 0 shows beside its switch in a position.
 constexpr int znak_vykolejky_0(int poloha) {
-    return poloha == 24 ? kZnakNaKoleji : kZnakMimoKolej;
+    return poloha == uzel::kPolohaNaKoleji0 ? kZnakNaKoleji : kZnakMimoKolej;
 }
 
 void zastav_vykolejky(int n, int stav) {
     const int poloha = poloha_stavu(stav);
-    if (n == 202)
-        vykolejka_v_poloze(0, znak_vykolejky_0(poloha));
-    else if (n == 190 && poloha != 6)
-        vykolejka_v_poloze(je_na_koleji(1) ? 1 : 2, kZnakMimoKolej);
-    else if (n == 206)
-        vykolejka_v_poloze(poloha == 14 ? 2 : 1, kZnakMimoKolej);
+    if (n == uzel::kVyhybkaVykolejky0)
+        vykolejka_v_poloze(uzel::kVykolejka0, znak_vykolejky_0(poloha));
+    else if (n == uzel::kVyhybkaVykolejek && poloha != uzel::kPolohaBezVykolejek)
+        vykolejka_v_poloze(je_na_koleji(uzel::kVykolejka1) ? uzel::kVykolejka1 : uzel::kVykolejka2,
+                           kZnakMimoKolej);
+    else if (n == uzel::kDruhaVyhybkaVykolejek)
+        vykolejka_v_poloze(poloha == uzel::kPolohaVykolejky2 ? uzel::kVykolejka2 : uzel::kVykolejka1,
+                           kZnakMimoKolej);
 }
 
 void zastav_rozjete_vykolejky(int n, int poloha) {
-    if (n == 202 && je_v_pohybu(0))
-        vykolejka_v_poloze(0, znak_vykolejky_0(poloha));
-    if (n == 190 || n == 206)
-        for (const int vykolejka : {1, 2})
+    if (n == uzel::kVyhybkaVykolejky0 && je_v_pohybu(uzel::kVykolejka0))
+        vykolejka_v_poloze(uzel::kVykolejka0, znak_vykolejky_0(poloha));
+    if (n == uzel::kVyhybkaVykolejek || n == uzel::kDruhaVyhybkaVykolejek)
+        for (const int vykolejka : {uzel::kVykolejka1, uzel::kVykolejka2})
             if (je_v_pohybu(vykolejka))
                 vykolejka_v_poloze(vykolejka, kZnakMimoKolej);
 }
@@ -200,12 +204,13 @@ void nastav_pohyb(int n, bool pohyb) {
 
 // The short piece of track 4 is a part of switch 14 and wears its colour; but a train that has left the
 // switch and stands on the piece keeps it occupied.
-void obarvi_kolej_4(int stav) {
+void obarvi_kolej_vyhybky(int stav) {
     constexpr std::array kTridy = {barvy::seda, barvy::zelena, barvy::azurova, barvy::cervena, barvy::bila};
+    constexpr int kolej = uzel::kKolejVyhybky;
     const auto trida = static_cast<std::size_t>(stav / 50);
-    if (stav >= 0 && poloha_stavu(stav) == 8 && trida < kTridy.size() && je_kolej(4) &&
-        (kTridy[trida] == barvy::cervena || !drzi_jiny(4, kZadny)))
-        barvi_prvek(4, kTridy[trida]);
+    if (stav >= 0 && poloha_stavu(stav) == uzel::kPolohaSKoleji && trida < kTridy.size() && je_kolej(kolej) &&
+        (kTridy[trida] == barvy::cervena || !drzi_jiny(kolej, kZadny)))
+        barvi_prvek(kolej, kTridy[trida]);
 }
 
 template <PovelVyhybky Povel> void akce_hod(int n) {
@@ -308,8 +313,8 @@ void vyhybka_stav(int n, int stav, bool vazby, bool vykolejky) {
     ukaz_obrazek(n, stav + kObrazekVyhybky);
     relief.imgVyhybka[n].stav = text_cisla(stav);
     nastav_pohyb(n, false);
-    if (n == 14)
-        obarvi_kolej_4(stav);
+    if (n == uzel::kVyhybkaSKoleji)
+        obarvi_kolej_vyhybky(stav);
     if (vykolejky)
         zastav_vykolejky(n, stav);
     if (vazby)

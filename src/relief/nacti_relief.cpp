@@ -6,6 +6,7 @@
 #include "relief/soubor_reliefu.h"
 #include "relief/tvary_vyhybek.h"
 #include "uzel/kresba.h"
+#include "uzel/prejezdy.h"
 #include "zaklad/cisla.h"
 #include "zaklad/soubory.h"
 
@@ -149,7 +150,7 @@ void umisti_lampu(int n, int vlevo, int nahore, Barva okraj) {
 void umisti_prejezd_trati(const ZaznamReliefu& z) {
     umisti_napis(relief.lblPrejezdy, z, text_cisla(z.parametr));
     umisti_lampu(z.cislo, z.a + kOdsazeniLampy1, z.c, kOkrajLampy1);
-    umisti_lampu(z.cislo + 10, z.a + kOdsazeniLampy2, z.c, kOkrajLampy2);
+    umisti_lampu(z.cislo + uzel::kLampyPrejezdu, z.a + kOdsazeniLampy2, z.c, kOkrajLampy2);
 }
 
 void umisti_nastupiste(const ZaznamReliefu& z) {

@@ -6,6 +6,7 @@
 #include "cesty/dotazy.h"
 #include "prvky/navestidla.h"
 #include "prvky/prejezdy_stanice.h"
+#include "uzel/prejezdy.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -19,8 +20,6 @@ constexpr std::array<SeznamTechnologie, 2> kSeznamy = {{
     {"lstJC", "Jízdní cesty"_cz, &dohled.lstJC, 23},
     {"lblStav_prejezdu", kHlavaPrejezdu, &dohled.lblStav_prejezdu, 2},
 }};
-
-constexpr std::array<TextPohled, 2> kJmenaPrejezdu = {"TVH 140,310", "TMK 5,911"};
 
 // Columns, counted from 1.
 namespace radek_cesty {
@@ -88,7 +87,7 @@ Text cas_nebo_stav(const StanicniPrejezd& p) {
 
 Text radek_prejezdu_k(std::size_t k) {
     Text text(radek_prejezdu::sirka, ' ');
-    vloz_do(text, radek_prejezdu::jmeno, kJmenaPrejezdu[k]);
+    vloz_do(text, radek_prejezdu::jmeno, uzel::kPrejezdyStanic[k].stitek);
     vloz_do(text, radek_prejezdu::podminka,
             vyrez(podminka(k), 1, radek_prejezdu::cas - radek_prejezdu::podminka - 1));
     vloz_do(text, radek_prejezdu::cas, cas_nebo_stav(stanicni_prejezdy[k]));

@@ -6,6 +6,7 @@
 #include "cesty/dotazy.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/vyhybky.h"
+#include "uzel/prejezdy.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -60,7 +61,7 @@ RizikovaFunkce otevreni_prejezdu(TextPohled povel, int k) {
         return f;
     const auto i = static_cast<std::size_t>(k);
     const StanicniPrejezd& p = stanicni_prejezdy[i];
-    f.nazev += " " + Text(kNazvyPrejezdu[i]);
+    f.nazev += " " + Text(uzel::kPrejezdyStanic[i].kilometr);
     const bool cesta = std::any_of(cesty.begin(), cesty.end(), [=](const Cesta& c) {
         return c.zacatek >= 0 && c.prehozena && c.prejezd == k;
     });

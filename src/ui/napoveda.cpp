@@ -10,7 +10,9 @@
 #include "prvky/souhlasy.h"
 #include "relief/prejezdy.h"
 #include "ui/pismo.h"
+#include "uzel/prejezdy.h"
 #include "uzel/trate.h"
+#include "uzel/vstupy.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -61,7 +63,7 @@ QString souhlas(int k, const Prvek& lampa) {
 }
 
 QString prejezd_na_trati(int n) {
-    n %= 10; // both lamps of a crossing tell the same
+    n %= uzel::kLampyPrejezdu; // both lamps of a crossing tell the same
     if (n >= static_cast<int>(prejezdy.size()))
         return cesky("přejezd na trati");
     return cesky("přejezd na trati %1").arg(na_qstring(orez(prejezdy[static_cast<std::size_t>(n)].nazev)));
@@ -140,17 +142,18 @@ QString napoveda_prvku(const Nalezeny& kde) {
     case Druh::imgStanoviste: return na_qstring(nazev_stanice(kde.n));
     case Druh::lblSouhlas: return souhlas(kde.n, p);
     case Druh::popis_stanice:
-        if (kde.n == 28 || kde.n == 30)
+        if (kde.n == uzel::kBranaZapad.popis || kde.n == uzel::kBranaVychod.popis)
             return cesky("depo: nabídka lokomotiv, které přijedou před bránu");
-        if (kde.n == 34)
+        if (kde.n == uzel::kBranaVh.popis)
             return cesky("depo: nabídka motorových vozů");
         return kam_vede(orez(p.text()));
     case Druh::lblPrejezdy:
     case Druh::shpPrejezdy: return prejezd_na_trati(kde.n);
     case Druh::lblPrejezd:
-        if (kde.n < 0 || kde.n >= static_cast<int>(kNazvyPrejezdu.size()))
+        if (kde.n < 0 || kde.n >= static_cast<int>(uzel::kPrejezdyStanic.size()))
             return {};
-        return cesky("přejezd km %1").arg(na_qstring(kNazvyPrejezdu[static_cast<std::size_t>(kde.n)]));
+        return cesky("přejezd km %1")
+            .arg(na_qstring(uzel::kPrejezdyStanic[static_cast<std::size_t>(kde.n)].kilometr));
     case Druh::lblPopis_vozu: return na_qstring(p.text());
     case Druh::imgObrzaek_vlaku:
         return na_qstring(relief.lblPopis_vozu.je(kde.n) ? relief.lblPopis_vozu[kde.n].text() : p.popis());

@@ -30,6 +30,9 @@ inline constexpr std::array<Zrcadlo, 12> kZrcadla = {{{686, {687, kZadny, kZadny
 // A track whose blank label is not for the number of a train only, unlike those of the other tracks.
 inline constexpr int kBezStitkuCisla = 116;
 
+// Tracks below 200 that have one label only, beside those whose second one would be that of a line end.
+inline constexpr std::array kBezPravehoStitku = {84, 85};
+
 // Pieces of track that exist for the logic only.
 inline constexpr std::array kSkryteKoleje = {678, 680, 450, 454};
 // Tracks that leave the picture, with three dots behind their right or left end.

@@ -12,6 +12,7 @@
 #include "prvky/stav_vyhybek.h"
 #include "prvky/vyhybky.h"
 #include "relief/relief.h"
+#include "uzel/vyhybky.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -99,7 +100,7 @@ std::set<std::pair<int, int>> prvky(const ZaznamCesty& z) {
     std::set<std::pair<int, int>> p;
     for (std::size_t k = 1; k < z.prvky.size(); ++k) {
         int n = z.prvky[k];
-        for (const kolejiste::Krizeni& x : kolejiste::kKrizeni)
+        for (const uzel::Krizeni& x : uzel::kKrizeni)
             if (z.druhy[k] == 1 && n == x.b)
                 n = x.a;
         if (z.druhy[k] != 4)
