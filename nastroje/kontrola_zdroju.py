@@ -2,9 +2,11 @@
 # nastroje/kontrola_zdroju.py - rules of the sources that no compiler checks; run by CI and by hand.
 #
 #   - Qt is included in src/ui only, in the benchmark of its drawing, and in the maker of the manual
-#   - zaklad includes nothing above it, nothing includes ui or davka, and no includes form a circle
+#   - zaklad includes nothing above it, uzel nothing but zaklad, nothing includes ui or davka, and no includes
+#     form a circle
 #   - the first line of a file is "// path - what it holds."
 #   - a table is declared in its owner's header: no extern in a .cpp
+#   - no element of the junction is called by its number outside src/uzel
 #   - everything is formatted by clang-format
 #
 # Prints one fault a line as path:line: text; exit status 1 when there is any.
@@ -19,6 +21,27 @@ KOREN = pathlib.Path(__file__).resolve().parent.parent
 # none but themselves.
 ZAKLAD = "zaklad"
 NAHORE = {"ui", "davka"}
+
+# The room of the junction's own numbers, and the folders that know no element by its number.
+UZEL = "uzel"
+BEZ_CISEL = {"relief", "cesty", "prvky", "jizda", "gvd", "obsluha", "desk", "save", "technologie", "app"}
+# Tables of other numbers: positions of switches, glyphs, places on the screen.
+JINE_TABULKY = {"kPlus", "kMinus", "kPlusB", "kMinusB", "kZnakyAB", "kSloupce", "kTridy", "kRychlosti", "kTrojice",
+                "kKrokyPripravy", "kCasovace", "kMista", "kSeznamy"}
+# How a variable is called that holds the number of an element, alone or as a field.
+PRVEK = (r"\b(?:\w+(?:\(\w*\))?(?:\.|->))*(?:n|e|s|x|kolej|koleje|konec|zacatek|prvek|element|usek|stitek|popisek|popis"
+         r"|vyhybka|vykolejka|navestidlo|signal|prvni|posledni|predposledni|odkud|kam|zaklad|soused|cislo"
+         r"|prvky(?:\.back\(\)|\.front\(\)|\[[^\]]*\]))")
+CISLO = r"(?:1[2-9]|[2-9]\d|[1-9]\d\d)\b(?![.'\d])"
+CISLA_PRVKU = [re.compile(vzor) for vzor in (
+    rf"{PRVEK}\s*(?:==|!=|<=|>=|<|>)\s*{CISLO}",
+    rf"\b{CISLO}\s*(?:==|!=|<=|>=|<|>)\s*{PRVEK}\b",
+    rf"\bje_v\(\s*{PRVEK}\s*,\s*\{{[^}}]*\b{CISLO}",
+    rf"\brelief\.(?:kolej|cislo_koleje|navestidlo|navestidlo_ser|imgVyhybka|Image1|lblSouhlas2)(?:\.je\(|\[)\s*\d",
+    rf"\b(?:je_kolej|je_cislo_koleje|je_cil|je_volna|je_volna_kolej|cil_volny|barvi_prvek|pis_cislo|nastav_metry|metry"
+    rf"|delka_koleje|sipka_drzi|napis_sipku|zhasni_sipku|navestidla|klik_cil|pridej_na_kolej|vyhybka_stav|prehod)"
+    rf"\(\s*\d")]
+TABULKA = re.compile(r"\bconstexpr\b[^;={]*?\b(k[A-Z]\w*)(?:\[\w*\])?\s*=\s*\{(.*?)\};", re.S)
 
 VLOZENI = re.compile(r'^\s*#\s*include\s*([<"])([^>"]+)[>"]')
 QT = re.compile(r"^Q[A-Za-z]|^Qt")
@@ -82,8 +105,30 @@ def zkontroluj(soubor, graf):
             chyba(soubor, cislo, f"{jmeno}: the program includes nothing of the tests and tools")
         elif odkud == ZAKLAD:
             chyba(soubor, cislo, f"{jmeno}: {ZAKLAD} includes nothing of the simulator")
+        elif odkud == UZEL and kam != ZAKLAD:
+            chyba(soubor, cislo, f"{jmeno}: {UZEL} holds constants and includes nothing but {ZAKLAD}")
         elif kam in NAHORE:
             chyba(soubor, cislo, f"{jmeno}: nothing includes {kam}")
+
+
+def bez_textu(text):
+    """The source without comments and texts, line by line as it was."""
+    text = re.sub(r"//[^\n]*", "", text)
+    return re.sub(r'"(?:\\.|[^"\\\n])*"|\'(?:\\.|[^\'\\\n])+\'', '""', text)
+
+
+def zkontroluj_cisla(soubor):
+    if slozka_src(soubor) not in BEZ_CISEL:
+        return
+    text = bez_textu(soubor.read_text(encoding="utf-8"))
+    for cislo, radek in enumerate(text.splitlines(), 1):
+        for vzor in CISLA_PRVKU:
+            if nalezene := vzor.search(radek):
+                chyba(soubor, cislo, f"{nalezene.group().strip()}: an element by its number belongs to src/{UZEL}")
+    for nalezene in TABULKA.finditer(text):
+        if nalezene.group(1) not in JINE_TABULKY and len(re.findall(rf"(?<![\w.]){CISLO}", nalezene.group(2))) > 1:
+            cislo = text.count("\n", 0, nalezene.start()) + 1
+            chyba(soubor, cislo, f"{nalezene.group(1)}: a table of element numbers belongs to src/{UZEL}")
 
 
 def najdi_kruhy(graf):
@@ -127,6 +172,7 @@ def hlavni():
     soubory = list(zdroje())
     for soubor in soubory:
         zkontroluj(soubor, graf)
+        zkontroluj_cisla(soubor)
     najdi_kruhy(graf)
     zkontroluj_format(soubory)
     for text in chyby:

@@ -113,12 +113,10 @@ void Kontrola::koleje(const std::map<int, const ZaznamReliefu*>& stitky) {
             stitky.at(pravy)->nazev != k.stitky[0]->nazev && !k.stitky[1])
             zavada(k.misto, kdo, "štítek " + s(pravy) + " by platil za její druhý a jmenuje se jinak");
     }
-    // the labels of the line ends with consent are no second labels; nor would those of the sections inside
-    // be, which are the signals of trains that come in
-    for (const uzel::KonecTrati& konec : uzel::kKonceTrati)
-        for (const int n : {konec.navestidlo - kDruhyStitek, konec.usek})
-            if (const Kolej* k = plan.kolej(n); k && k->stitky[1])
-                zavada(k->misto, "kolej " + s(n), "nesmí mít druhý štítek");
+    for (const Kolej& k : plan.koleje)
+        if (k.stitky[1] &&
+            (je_vstup_z_trati(k.cislo + kDruhyStitek) || je_v(k.cislo, uzel::kBezPravehoStitku)))
+            zavada(k.misto, "kolej " + s(k.cislo), "nesmí mít druhý štítek");
 }
 
 void Kontrola::rodiny(const std::map<std::string, std::map<int, const ZaznamReliefu*>>& druhy) {

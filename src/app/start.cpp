@@ -8,6 +8,7 @@
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "desk/stitky.h"
+#include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
 #include "gvd/zaplneni.h"
@@ -273,7 +274,7 @@ void rozmisti_tabulku() {
     constexpr std::array<Sloupec, 3> kSloupce = {{{630, 120, 330}, {5310, 4800, 5010}, {10100, 9600, 9800}}};
     constexpr int kRadkuSloupce = 8, kMezera = 10, kZnackaPod = 40;
     TabulkaPrvku& radky = relief.lblTabulka_vlaku;
-    for (int n = 0; n < 24; ++n) {
+    for (int n = 0; n < kRadkuTabulky; ++n) {
         const Sloupec& sloupec = kSloupce[static_cast<std::size_t>(n / kRadkuSloupce)];
         Prvek& radek = radky[n];
         radek.vlevo = sloupec.radek;
@@ -282,7 +283,7 @@ void rozmisti_tabulku() {
         else if (n > 0)
             radek.nahore = radky[n - 1].nahore() + radky[n - 1].vyska() + kMezera;
         for (const auto& [cislo, vlevo] :
-             {std::pair{n, sloupec.znacka}, std::pair{n + 24, sloupec.znacka2}}) {
+             {std::pair{n, sloupec.znacka}, std::pair{n + kRadkuTabulky, sloupec.znacka2}}) {
             relief.shpblikacka[cislo].vlevo = vlevo;
             relief.shpblikacka[cislo].nahore = radek.nahore() + kZnackaPod;
         }

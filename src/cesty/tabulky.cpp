@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 #include <unordered_map>
 
 namespace {
@@ -122,7 +123,7 @@ const std::vector<ZaznamVazeb>& vazby_vyhybek() {
 
 const ZaznamVazeb* najdi_vazby(int n) {
     const ObsahVazeb& obsah = obsah_vazeb();
-    if (n < 0 || n > 255)
+    if (n < 0 || n > std::numeric_limits<std::uint8_t>::max())
         return nullptr;
     const std::int32_t i = obsah.podle_cisla[static_cast<std::size_t>(n)];
     return i < 0 ? nullptr : &obsah.zaznamy[static_cast<std::size_t>(i)];

@@ -505,11 +505,11 @@ void nakresli_ikonu(QPainter& p, const Meritko& m, Druh druh, const Prvek& prvek
 // Left edge of the sign of a note within its target, twips: where the labels of the track leave room for
 // it, beside a train's number if there is so much, else beside their names.
 int misto_znacky(int n, const Prvek& cil, int sirka) {
-    constexpr int kMezera = 2 * kTwipu, kCisloVlaku = 5, kDruhyPopisek = 200;
+    constexpr int kMezera = 2 * kTwipu, kCisloVlaku = 5;
     for (const int nejmene : {kCisloVlaku, 0}) {
         std::array<std::pair<int, int>, 2> obsazeno{}; // by the labels, from the left
         std::size_t pocet = 0;
-        for (const int popisek : {n, n + kDruhyPopisek}) {
+        for (const int popisek : {n, n + kDruhyStitek}) {
             if (!relief.cislo_koleje.je(popisek))
                 continue;
             const Prvek& p = relief.cislo_koleje[popisek];
