@@ -178,7 +178,7 @@ TEST_F(Souhlas, UnknownLineOrMissingLampIsIgnored) {
     EXPECT_TRUE(menu.jmeno.empty());
 }
 
-TEST(uzel::KonecTrati, IsKnownByItsSignalAndByItsSection) {
+TEST(KonecTrati, IsKnownByItsSignalAndByItsSection) {
     for (int n = -3; n <= 999; ++n) {
         const int k = n == 212 || n == 84 ? 0 : n == 213 || n == 85 ? 1 : n == 219 || n == 117 ? 2 : -1;
         EXPECT_EQ(uzel::konec_trati(n), k) << n;
