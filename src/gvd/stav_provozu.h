@@ -17,7 +17,7 @@ struct StavProvozu {
     std::array<DalsiVlak, 39> dalsi_vlaky{}; // by station code
     std::int16_t pocet_zaloh = 0;            // standby locomotives ("ZAL") in the area
     bool zaloha_731_jede = false;            // a standby locomotive of series 731 is in the area
-    bool zaloha_731_strana = false;          // the side from which the next one comes: true 569, false 538
+    bool zaloha_731_strana = false;          // the next one comes from side A of the yard (uzel/vstupy.h)
     bool operator==(const StavProvozu&) const = default;
 };
 extern StavProvozu stav_provozu;

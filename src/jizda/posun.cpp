@@ -71,6 +71,14 @@ void stane_se_posunem(int v) {
         smaz_z_tabulky(cislo);
 }
 
+// Where a light engine starts: the station of its track, also of one where trains do not stop.
+int stanice_stroje(int prvek) {
+    if (const int zastavka = stanice_prvku(prvek); zastavka != dopravna::zadna)
+        return zastavka;
+    const uzel::KolejeStanice* stanice = uzel::stanice_koleje(prvek);
+    return stanice == nullptr ? dopravna::tesk : stanice->stanice;
+}
+
 // Where a light engine goes, by what its locomotive does next.
 std::uint8_t cil_stroje(const Vlak& vlak, int odkud) {
     struct Cil {
@@ -115,8 +123,7 @@ void vlak_na_posun_cislo(int v) {
     vlak.cislo2_platne = false;
     vlak.stanice_zmeny = 0;
     vlak.pokyn.clear();
-    const int doma = stanice_prvku(vlak.prvky.back());
-    const auto odkud = static_cast<std::uint8_t>(doma == dopravna::zadna ? dopravna::tesk : doma);
+    const auto odkud = static_cast<std::uint8_t>(stanice_stroje(vlak.prvky.back()));
     vlak.stanice = {odkud, cil_stroje(vlak, odkud)};
     const std::int16_t ted = cas_min();
     vlak.prijezd = {ted, na_integer(ted + 15)};

@@ -218,8 +218,10 @@ void odstav_na_kusou(int v) {
 // --- the next train
 
 // Which vehicle tells the number of the next train; -1 when none does. Vehicles that stay with the
-// present number are passed over.
+// present number are passed over, but for a single one: it takes its timetable anew.
 int vuz_s_dalsim_cislem(const Vlak& vlak) {
+    if (vlak.vozy_urceni.size() == 1)
+        return 0;
     for (std::size_t i = 0; i < vlak.vozy_urceni.size(); ++i) {
         const auto cislo = ciselny_text(vlak.vozy_urceni[i]);
         if (!cislo || *cislo <= 0 || *cislo != vlak.cislo)
@@ -433,8 +435,8 @@ void navazny_vlak(int v) {
             return;
     }
     const auto dalsi = ciselny_text(vlak_c(v).vozy_urceni.front());
-    if (!dalsi || *dalsi == vlak_c(v).cislo)
-        return;
+    if (!dalsi || (*dalsi == vlak_c(v).cislo && (i > 0 || vlak_c(v).vozy.size() > 1)))
+        return; // the part that came off has taken its next train already
     const GvdVlak* radek = radek_s_cislem(*dalsi);
     if (radek == nullptr)
         return;

@@ -106,12 +106,12 @@ void vymen_loko_v_hajovicich(int v) {
         odvesit(v, 0, false);
 }
 
-// Lower station: towards Rybnice and Vysni Hrabov the train goes on the other way round, and its
-// locomotive comes off to run to the other end.
+// Lower station: towards Rybnice and Vysni Hrabov the train goes on the other way round. What leads comes
+// off, whatever it is, so that it can run to the other end.
 void odves_v_dolnim(int v) {
     const Vlak& vlak = vlak_c(v);
     const int dalsi = stanice_zastavky(vlak, vlak.stanice_index + 1);
-    if (!stoji_ve_stanici(vlak, dopravna::dolni) || vlak.vozy.size() < 2 || !je_loko(vlak.vozy[0]))
+    if (!stoji_ve_stanici(vlak, dopravna::dolni) || vlak.vozy.size() < 2)
         return;
     if (dalsi == dopravna::rybnice && !vlak.smer)
         odvesit(v, 0, false);

@@ -264,8 +264,6 @@ void obnov_stitek(int prvek) {
 }
 
 TextPohled kod_stanice_prvku(int prvek) {
-    for (const uzel::KolejeStanice& k : uzel::kKolejeStanic)
-        if (prvek >= k.od && prvek <= k.po)
-            return k.kod;
-    return {};
+    const uzel::KolejeStanice* stanice = uzel::stanice_koleje(prvek);
+    return stanice == nullptr ? TextPohled() : stanice->kod;
 }

@@ -95,28 +95,36 @@ inline constexpr std::array kSPredpovedi = {dopravna::lhotin, dopravna::borovec,
                                             dopravna::vrbice, dopravna::rokytno,      dopravna::ona,
                                             dopravna::onb,    dopravna::polska_lhota, dopravna::hvozdy};
 
-// Tracks of the stations under the names by which the operator looks for one ("TVH 3"): first and last
+// Tracks of the stations, under the names by which the operator looks for one ("TVH 3"): first and last
 // element of each run of numbers. Runs do not overlap; a station may have several.
 struct KolejeStanice {
     int od, po;
     TextPohled kod;
+    int stanice;
 };
-inline constexpr std::array<KolejeStanice, 16> kKolejeStanic = {{{0, 3, "JAV"},
-                                                                 {9, 18, "TVH"},
-                                                                 {97, 97, "TVH"},
-                                                                 {22, 35, "THN"},
-                                                                 {36, 40, "TMK"},
-                                                                 {41, 43, "DUB"},
-                                                                 {44, 46, "TRY"},
-                                                                 {93, 94, "TRY"},
-                                                                 {96, 96, "TRY"},
-                                                                 {47, 61, "THJ"},
-                                                                 {76, 77, "THJ"},
-                                                                 {62, 65, "BOR"},
-                                                                 {66, 69, "ROK"},
-                                                                 {70, 75, "TKL"},
-                                                                 {78, 83, "TDN"},
-                                                                 {86, 90, "LHO"}}};
+inline constexpr std::array<KolejeStanice, 16> kKolejeStanic = {{{0, 3, "JAV", dopravna::javorin},
+                                                                 {9, 18, "TVH", dopravna::vysni_hrabov},
+                                                                 {97, 97, "TVH", dopravna::vysni_hrabov},
+                                                                 {22, 35, "THN", dopravna::tesk},
+                                                                 {36, 40, "TMK", dopravna::mokrina},
+                                                                 {41, 43, "DUB", dopravna::dubnice},
+                                                                 {44, 46, "TRY", dopravna::rybnice},
+                                                                 {93, 94, "TRY", dopravna::rybnice},
+                                                                 {96, 96, "TRY", dopravna::rybnice},
+                                                                 {47, 61, "THJ", dopravna::hajovice},
+                                                                 {76, 77, "THJ", dopravna::hajovice},
+                                                                 {62, 65, "BOR", dopravna::borovec},
+                                                                 {66, 69, "ROK", dopravna::rokytno},
+                                                                 {70, 75, "TKL", dopravna::knizeci_luka},
+                                                                 {78, 83, "TDN", dopravna::dolni},
+                                                                 {86, 90, "LHO", dopravna::lhotin}}};
+// The row of the track; nullptr between the stations.
+constexpr const KolejeStanice* stanice_koleje(int n) {
+    for (const KolejeStanice& k : kKolejeStanic)
+        if (n >= k.od && n <= k.po)
+            return &k;
+    return nullptr;
+}
 
 // The platform tracks of the main station: sets for its trains are put there, locomotives change there.
 constexpr bool je_kolej_hlavniho(int n) {

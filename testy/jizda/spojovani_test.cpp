@@ -473,6 +473,28 @@ TEST_F(Spojovani, SetWithoutANextTrainStaysAsItIs) {
     EXPECT_FALSE(zustane({"843"}, {"5678"}));
 }
 
+TEST_F(Spojovani, SingleVehicleMarkedWithItsOwnNumberTakesItsTimetableAnew) {
+    gvd_vlaky = TabulkaGvd({radek_gvd(5678)});
+    const auto znovu = [&](const Vozy& vozy) {
+        const int v = vlak_na(62, true, 5678, vozy);
+        vlak(v).vozy_urceni.assign(vozy.size(), "5678");
+        vlak(v).stanice_index = 1;
+        vlak(v).zpozdeni = 9;
+        pridej_do_tabulky(v);
+        navazny_vlak(v);
+        const bool vzal = vlak(v).stanice_index == -1 && vlak(v).zpozdeni == 0 &&
+                          vlak(v).stanice == radek_gvd(5678).stanice;
+        EXPECT_EQ(radek_tabulky(5678), 0);
+        EXPECT_FALSE(!vzal && vlak(v).zpozdeni != 9);
+        vlaky = prvni_vlaky();
+        koleje_vlaky = prvni_koleje_vlaky();
+        return vzal;
+    };
+    EXPECT_TRUE(znovu({"843"}));
+    EXPECT_FALSE(znovu({"843", "943"})); // they stay with their train
+    EXPECT_FALSE(znovu({"754"}));        // a light engine
+}
+
 TEST_F(Spojovani, VehicleOfAnotherNextTrainComesOff) {
     gvd_vlaky = TabulkaGvd({radek_gvd(5678)});
     const int v = vlak_na(62, true, 77, {"843", "843"});
@@ -581,6 +603,12 @@ TEST_F(Spojovani, LightEngineGoesWhereItsNextWorkIs) {
     EXPECT_EQ(kam(32, "bor"), (Stanice{9, 2}));
     EXPECT_EQ(kam(32, "5678"), (Stanice{9, 12}));
     EXPECT_EQ(kam(50, ""), (Stanice{12, 9}));
+    // nor does it matter whether trains stop on its track
+    for (const int kolej : {76, 77, 97})
+        pridej_kolej(kolej);
+    EXPECT_EQ(kam(76, ""), (Stanice{12, 9}));
+    EXPECT_EQ(kam(77, "vh"), (Stanice{12, 34}));
+    EXPECT_EQ(kam(97, ""), (Stanice{8, 12}));
 }
 
 TEST_F(Spojovani, LightEngineHasAQuarterOfAnHour) {

@@ -416,6 +416,23 @@ TEST_F(Zastavky, LowerStationDetachesTheLocomotiveThatMustRunRound) {
     EXPECT_TRUE(vlak(v).smer); // and the way on runs back
 }
 
+TEST_F(Zastavky, LowerStationDetachesWhateverLeadsATrainThatGoesOnTheOtherWayRound) {
+    pridej_kolej(78);
+    const auto po_zastavce = [&](int dalsi, bool smer) {
+        const int v = vlak_na(78, smer, 77, {"B", "754", "C"});
+        zastavky(v, {12, 15, static_cast<std::uint8_t>(dalsi)}, {-3, 478, 500}, {470, 490, -3});
+        vlak(v).stanice_index = 0;
+        vlak_v_cili(78, v);
+        const std::size_t vozu = vlak(v).vozy.size();
+        vlaky = prvni_vlaky();
+        koleje_vlaky = prvni_koleje_vlaky();
+        return vozu;
+    };
+    EXPECT_EQ(po_zastavce(7, false), 2u); // a coach
+    EXPECT_EQ(po_zastavce(8, true), 1u);  // with the locomotive behind it
+    EXPECT_EQ(po_zastavce(7, true), 3u);  // goes on straight
+}
+
 TEST_F(Zastavky, SetAtItsPlannedPlatformBecomesTheTrain) {
     const int v = vlak_na(26, true, 5000, {"843", "943"});
     Vlak& t = vlak(v);
