@@ -20,6 +20,7 @@
 #include "prvky/souhlasy.h"
 #include "uzel/dopravny.h"
 #include "uzel/trate.h"
+#include "uzel/vozidla.h"
 #include "uzel/vstupy.h"
 #include "zaklad/cisla.h"
 #include "zaklad/nahoda.h"
@@ -37,7 +38,6 @@ constexpr std::size_t kMistoCisla = 16;               // the number in a delay l
 constexpr std::int16_t kPoOhlaseni = 100;             // the announced train no longer is the nearest one
 constexpr int kVyjezdZDepa = 30, kNejdriveStart = 16; // minutes before its departure when a set comes out
 constexpr std::int32_t kCislaDepa = 70000;            // numbers from here run as trains at the depot of VH
-constexpr int kLoko731 = 731;
 
 // --- delays
 
@@ -201,11 +201,11 @@ bool je_predbihan(const GvdVlak& r) {
 
 // --- the step
 
-// Standby locomotives of series 731 come in turns from the two sides of the main station.
+// Standby locomotives come in turns from the two sides of the main station.
 void zaloha_731() {
     const auto privez = [](int element) {
         if (!stav_provozu.zaloha_731_jede && je_volna_kolej(element))
-            vytvor_lokomotivu(kLoko731, element, true, "ZAL", true);
+            vytvor_lokomotivu(uzel::kRadaZalohy, element, true, "ZAL", true);
     };
     if (stav_provozu.zaloha_731_strana)
         privez(uzel::kPristaveniA);

@@ -13,6 +13,7 @@
 #include "jizda/vlak.h"
 #include "uzel/dopravny.h"
 #include "uzel/rychlosti.h"
+#include "uzel/vozidla.h"
 #include "uzel/vstupy.h"
 #include "zaklad/cisla.h"
 
@@ -21,12 +22,6 @@
 #include <utility>
 
 namespace {
-
-constexpr int kJednotka = 560; // electric unit: 560, 060, 560p
-
-bool ma_ridici_vuz(int rada) {
-    return rada == 943 || rada == 954;
-}
 
 // The vehicle is given by a number, and it is this series.
 bool je_rada(const Text& vuz, int rada) {
@@ -74,7 +69,7 @@ void pridej_urceni(Vlak& v, const GvdVlak& r, int element) {
     for (std::size_t i = 0; i < v.vozy.size(); ++i) {
         if (z_depa)
             v.vozy_urceni.push_back(text_cisla(v.cislo));
-        else if (v.loko_rada == kJednotka)
+        else if (v.loko_rada == uzel::kJednotka)
             v.vozy_urceni.push_back(r.navazny_vlak);
         else if (i < r.vozy_vlaky.size() && r.vozy_vlaky[i] != 0)
             v.vozy_urceni.push_back(text_cisla(r.vozy_vlaky[i]));
@@ -94,7 +89,7 @@ Text obrazek_vozidla(const Text& vuz, bool ridici) {
     const auto rada = ciselny_text(vuz);
     if (!rada)
         return obrazek_vozu_textem(vuz);
-    if (ridici && (*rada == 943 || *rada == 954))
+    if (ridici && uzel::je_rada_ridiciho(*rada))
         return obrazek_ridiciho(static_cast<int>(*rada));
     return obrazek_vozu(orez(vuz)); // as it is written: a trailer 054 is no 54
 }
@@ -102,9 +97,11 @@ Text obrazek_vozidla(const Text& vuz, bool ridici) {
 // Two motor coaches with a cab each, trailers between them. "p" is the one with its cab at the right end:
 // the front one of a train that runs to the right, otherwise the last one.
 void obrazky_jednotky(Vlak& v, const Text& jmeno) {
-    std::fill(v.vozy_obrazek.begin() + 1, v.vozy_obrazek.end(), nahrad_v_textu(jmeno, "560", "060"));
+    std::fill(v.vozy_obrazek.begin() + 1, v.vozy_obrazek.end(),
+              nahrad_v_textu(jmeno, uzel::kVuzJednotky, uzel::kVlozenyVuzJednotky));
     v.vozy_obrazek.back() = jmeno;
-    (v.smer ? v.vozy_obrazek.front() : v.vozy_obrazek.back()) = nahrad_v_textu(jmeno, "560", "560p");
+    (v.smer ? v.vozy_obrazek.front() : v.vozy_obrazek.back()) =
+        nahrad_v_textu(jmeno, uzel::kVuzJednotky, uzel::kCelniVuzJednotky);
 }
 
 void pridej_obrazky(Vlak& v) {
@@ -114,9 +111,9 @@ void pridej_obrazky(Vlak& v) {
     if (v.loko_rada == 0) // a set without a locomotive: its first vehicle is drawn as what it is
         v.vozy_obrazek.front() = obrazek_vozidla(v.vozy.front(), v.smer);
     else
-        v.vozy_obrazek.front() =
-            ma_ridici_vuz(v.loko_rada) && v.smer ? obrazek_ridiciho(v.loko_rada) : obrazek_vozu(v.loko_rada);
-    if (je_rada(v.vozy.front(), kJednotka)) {
+        v.vozy_obrazek.front() = uzel::je_rada_ridiciho(v.loko_rada) && v.smer ? obrazek_ridiciho(v.loko_rada)
+                                                                               : obrazek_vozu(v.loko_rada);
+    if (je_rada(v.vozy.front(), uzel::kJednotka)) {
         obrazky_jednotky(v, Text(v.vozy_obrazek.front()));
         return;
     }

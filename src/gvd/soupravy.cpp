@@ -17,6 +17,7 @@
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
 #include "uzel/dopravny.h"
+#include "uzel/vozidla.h"
 #include "uzel/vstupy.h"
 #include "zaklad/cisla.h"
 #include "zaklad/nahoda.h"
@@ -26,9 +27,7 @@
 
 namespace {
 
-constexpr int kLoko731 = 731;
 constexpr TextPohled kZaloha = "ZAL";
-constexpr TextPohled kPosunova = "210"; // series of the shunting locomotive
 
 // The text is the number of a train.
 bool je_cislo_vlaku(const Text& text, std::int32_t cislo) {
@@ -51,9 +50,9 @@ bool odjede_brzy(TabulkaGvd::Zapisy radky) {
 }
 
 void nasad_posunovou(Vlak& v, std::size_t i) {
-    v.vozy[i] = kPosunova;
+    v.vozy[i] = uzel::kVuzPosunovaci;
     v.vozy_urceni[i] = kZaloha;
-    v.vozy_obrazek[i] = obrazek_vozu(210);
+    v.vozy_obrazek[i] = obrazek_vozu(uzel::kRadaPosunovaci);
     ++stav_provozu.pocet_zaloh;
 }
 
@@ -102,7 +101,7 @@ Vlak lokomotiva(int rada, int element, bool smer, TextPohled urceni, bool posun)
 
 void zapocti_zalohu(int rada) {
     ++stav_provozu.pocet_zaloh;
-    if (rada == kLoko731)
+    if (rada == uzel::kRadaZalohy)
         stav_provozu.zaloha_731_jede = true;
 }
 
@@ -185,7 +184,7 @@ void stanice_start(int gvd_index) {
     pridej_do_tabulky(i);
     barvi_prvek(element, barvy::cervena);
     pridej_na_kolej(element, i, true, -1);
-    if (jsou_vozy && v.loko_rada != 560)
+    if (jsou_vozy && v.loko_rada != uzel::kJednotka)
         pripoj_posunovou(v, element);
     relief.kolej[element].stav.nastav_cislo(600);
     posun_po_vytvoreni(i);
@@ -195,8 +194,8 @@ void stanice_start(int gvd_index) {
 
 void posun_po_vytvoreni(int vlak) {
     const Vlak& v = vlak_c(vlak);
-    if (v.vozy.empty() || je_v(v.loko_rada, {560, 943, 954}) ||
-        (v.loko_rada == 843 && v.vozy.back() == "943"))
+    if (v.vozy.empty() || v.loko_rada == uzel::kJednotka || uzel::je_rada_ridiciho(v.loko_rada) ||
+        (v.loko_rada == uzel::kMotorovyVuzSRidicim && v.vozy.back() == uzel::kRidiciVozy[0].vuz))
         return;
     const int druha = v.stanice.size() > 1 ? v.stanice[1] : 0;
     const int treti = v.stanice.size() > 2 ? v.stanice[2] : 0;

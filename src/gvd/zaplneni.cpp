@@ -7,6 +7,7 @@
 #include "gvd/soupravy.h"
 #include "gvd/umisteni.h"
 #include "uzel/dopravny.h"
+#include "uzel/vozidla.h"
 #include "uzel/vstupy.h"
 #include "zaklad/cisla.h"
 
@@ -14,7 +15,6 @@
 
 namespace {
 
-constexpr int kLoko731 = 731;
 constexpr int kPredPristavenim = 29; // minutes a set stands at the platform before it leaves
 
 void umisti_radek(int gvd_index, std::int16_t ted, bool jen_odjinud) {
@@ -78,7 +78,7 @@ void lokomotiva_radku(const GvdVlak& r, std::int16_t ted) {
 } // namespace
 
 void zaplneni_kolejiste(std::int16_t ted) {
-    vytvor_lokomotivu(kLoko731, uzel::kZalohaPriStartu, false, "ZAL", true);
+    vytvor_lokomotivu(uzel::kRadaZalohy, uzel::kZalohaPriStartu, false, "ZAL", true);
     vlaky_na_trati(ted, false);
     vlaky_na_trati(ted, true);
     soupravy_do_depa(ted);

@@ -22,6 +22,7 @@
 #include "uzel/navestidla.h"
 #include "uzel/prejezdy.h"
 #include "uzel/trate.h"
+#include "uzel/vozidla.h"
 #include "uzel/vstupy.h"
 #include "uzel/zastavky.h"
 #include "zaklad/cisla.h"
@@ -136,7 +137,7 @@ void zapocti_odchod_zalohy(const Vlak& vlak) {
     if (vlak.vozy_urceni.front() == "ZAL" || vlak.vozy_urceni.back() == "ZAL")
         --stav_provozu.pocet_zaloh;
     for (std::size_t i = 0; i < std::min(vlak.vozy.size(), vlak.vozy_urceni.size()); ++i)
-        if (vlak.vozy_urceni[i] == "ZAL" && vlak.vozy[i] == "731") {
+        if (vlak.vozy_urceni[i] == "ZAL" && vlak.vozy[i] == uzel::kVuzZalohy) {
             stav_provozu.zaloha_731_jede = false;
             stav_provozu.zaloha_731_strana = vlak.prvky.back() == uzel::kOdstaveniA;
         }
@@ -194,8 +195,8 @@ bool srovnej_smer(int cesta, int i, int v) {
         return false;
     // A cab at both ends, a shunt, a light engine; else a locomotive at the far end.
     const Text& celo = vlak.vozy.front();
-    const bool vzdy =
-        je_ridici_vuz(celo) || celo == "560" || !cesta_c(cesta).VC || vlak.druh == druh_vlaku::lv;
+    const bool vzdy = je_ridici_vuz(celo) || celo == uzel::kVuzJednotky || !cesta_c(cesta).VC ||
+                      vlak.druh == druh_vlaku::lv;
     if (!vzdy && !je_loko(vlak.vozy.back()))
         return false;
     otoc_vlak(v);

@@ -91,7 +91,7 @@ std::uint8_t cil_stroje(const Vlak& vlak, int odkud) {
     for (const Cil& cil : kCile)
         if (urceni == cil.urceni)
             return cil.stanice;
-    return odkud == dopravna::hajovice ? dopravna::tesk : dopravna::hajovice;
+    return static_cast<std::uint8_t>(odkud == dopravna::hajovice ? dopravna::tesk : dopravna::hajovice);
 }
 
 } // namespace

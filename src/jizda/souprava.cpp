@@ -1,6 +1,7 @@
 // jizda/souprava.cpp - questions about a consist.
 #include "jizda/souprava.h"
 
+#include "uzel/vozidla.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -10,7 +11,8 @@ double rada_vozu(TextPohled vuz) {
 }
 
 bool je_ridici_vuz(TextPohled vuz) {
-    return vuz == "943" || vuz == "954";
+    return std::any_of(uzel::kRidiciVozy.begin(), uzel::kRidiciVozy.end(),
+                       [vuz](const uzel::RidiciVuz& r) { return r.vuz == vuz; });
 }
 
 bool je_loko(TextPohled vuz) {

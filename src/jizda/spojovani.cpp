@@ -24,6 +24,7 @@
 #include "relief/relief.h"
 #include "uzel/dopravny.h"
 #include "uzel/trate.h"
+#include "uzel/vozidla.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
 
@@ -131,8 +132,7 @@ bool stoji_na_koleji(const Vlak& v) {
 
 // Units are not split.
 bool je_jednotka(TextPohled vuz) {
-    constexpr std::array<TextPohled, 5> kJednotky = {"560", "060", "681", "682", "683"};
-    return std::find(kJednotky.begin(), kJednotky.end(), vuz) != kJednotky.end();
+    return std::find(uzel::kNedelene.begin(), uzel::kNedelene.end(), vuz) != uzel::kNedelene.end();
 }
 
 bool lze_odvesit(const Vlak& vlak, int i) {

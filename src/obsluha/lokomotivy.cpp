@@ -18,6 +18,7 @@
 #include "jizda/zastavky.h"
 #include "relief/relief.h"
 #include "uzel/dopravny.h"
+#include "uzel/vozidla.h"
 #include "uzel/vstupy.h"
 #include "zaklad/cisla.h"
 #include "zaklad/nahoda.h"
@@ -30,22 +31,16 @@
 namespace {
 
 constexpr std::uint8_t kRychlost = 80;
-
 constexpr int kKolejVh = uzel::kBranaVh.kolej;
 
-constexpr std::array<TextPohled, 10> kRady = {"210", "230", "2x230", "240", "242",
-                                              "362", "363", "731",   "742", "754"};
-constexpr std::array<TextPohled, 2> kRadyVh = {"842", "850"};
-constexpr TextPohled kDvojice = "2x230";
-
 void akce_zapadni_brany(int i) {
-    loko_menu(uzel::kBranaZapad.popis, kRady.at(static_cast<std::size_t>(i)));
+    loko_menu(uzel::kBranaZapad.popis, uzel::kRadyDepa.at(static_cast<std::size_t>(i)));
 }
 void akce_vychodni_brany(int i) {
-    loko_menu(uzel::kBranaVychod.popis, kRady.at(static_cast<std::size_t>(i)));
+    loko_menu(uzel::kBranaVychod.popis, uzel::kRadyDepa.at(static_cast<std::size_t>(i)));
 }
 void akce_vh(int i) {
-    loko_vh_menu(kRadyVh.at(static_cast<std::size_t>(i)));
+    loko_vh_menu(uzel::kRadyDepaVh.at(static_cast<std::size_t>(i)));
 }
 
 const uzel::Brana* najdi_branu(int popis) {
@@ -100,8 +95,8 @@ void pridej_radu(Menu& nove, TextPohled pole, TextPohled rada, std::size_t i, vo
 bool menu_depa(int popis) {
     if (popis == uzel::kBranaVh.popis) {
         Menu nove = nove_menu("mnuLOKO_VH", popis);
-        for (std::size_t i = 0; i < kRadyVh.size(); ++i)
-            pridej_radu(nove, "miLOKO_VH", kRadyVh[i], i, akce_vh);
+        for (std::size_t i = 0; i < uzel::kRadyDepaVh.size(); ++i)
+            pridej_radu(nove, "miLOKO_VH", uzel::kRadyDepaVh[i], i, akce_vh);
         otevri_menu(std::move(nove));
         return true;
     }
@@ -109,8 +104,8 @@ bool menu_depa(int popis) {
     if (brana == nullptr)
         return false;
     Menu nove = nove_menu("mnuLOKO", popis);
-    for (std::size_t i = 0; i < kRady.size(); ++i)
-        pridej_radu(nove, "miLoko", kRady[i], i,
+    for (std::size_t i = 0; i < uzel::kRadyDepa.size(); ++i)
+        pridej_radu(nove, "miLoko", uzel::kRadyDepa[i], i,
                     brana == &uzel::kBranaZapad ? akce_zapadni_brany : akce_vychodni_brany);
     otevri_menu(std::move(nove));
     return true;
@@ -118,12 +113,13 @@ bool menu_depa(int popis) {
 
 void loko_menu(int misto, TextPohled rada) {
     const uzel::Brana* brana = najdi_branu(misto);
-    if (brana == nullptr || std::find(kRady.begin(), kRady.end(), rada) == kRady.end() ||
+    if (brana == nullptr ||
+        std::find(uzel::kRadyDepa.begin(), uzel::kRadyDepa.end(), rada) == uzel::kRadyDepa.end() ||
         !je_volno(brana->kolej))
         return;
-    const bool dvojice = rada == kDvojice;
-    const int v = nova_lokomotiva(dvojice ? "230" : rada, dvojice ? 2 : 1, brana->kolej, brana->smer,
-                                  {dopravna::hajovice_sn, dopravna::hajovice}, 2);
+    const bool dvojice = rada == uzel::kDvojice;
+    const int v = nova_lokomotiva(dvojice ? uzel::kVuzDvojice : rada, dvojice ? 2 : 1, brana->kolej,
+                                  brana->smer, {dopravna::hajovice_sn, dopravna::hajovice}, 2);
     vlak_c(v).delka = dvojice ? 36 : 18;
     vlak_c(v).posun = true;
     pridej_na_kolej(brana->kolej, v, brana->smer, -1);
@@ -132,7 +128,8 @@ void loko_menu(int misto, TextPohled rada) {
 }
 
 void loko_vh_menu(TextPohled rada) {
-    if (std::find(kRadyVh.begin(), kRadyVh.end(), rada) == kRadyVh.end() || !je_volno(kKolejVh))
+    if (std::find(uzel::kRadyDepaVh.begin(), uzel::kRadyDepaVh.end(), rada) == uzel::kRadyDepaVh.end() ||
+        !je_volno(kKolejVh))
         return;
     const int v = nova_lokomotiva(rada, 1, kKolejVh, true, {dopravna::dkv_vh, dopravna::tesk}, 7);
     vlak_c(v).delka = 20;
