@@ -282,21 +282,21 @@ void Kontrola::trat(const Trasa& t) {
 
 void Kontrola::zvlastni_koleje(const Trasa& t) {
     const ZaznamCesty& z = t.zaznam;
-    const auto je_kolej = [&](std::size_t k) {
+    const auto je_tu_kolej = [&](std::size_t k) {
         return z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::kolej);
     };
-    if (je_kolej(1) && nesmi_byt_prvni(z.prvky[1]))
+    if (je_tu_kolej(1) && nesmi_byt_prvni(z.prvky[1]))
         zavada(t, "kolej " + s(z.prvky[1]) + " nesmí být hned za návěstidlem");
     for (std::size_t k = 1; k < z.prvky.size(); ++k) {
-        if (!je_kolej(k))
+        if (!je_tu_kolej(k))
             continue;
         const int n = z.prvky[k];
         if (je_jen_obraz_ohybu(n))
             zavada(t, "kolej " + s(n) + " je jen druhým obrazem");
-        if (je_v(n, uzel::kOhybyZKoleje) && !je_v(n, uzel::kOhybyZVyhybky) && !je_kolej(k - 1))
+        if (je_v(n, uzel::kOhybyZKoleje) && !je_v(n, uzel::kOhybyZVyhybky) && !je_tu_kolej(k - 1))
             zavada(t, "na kolej " + s(n) + " se vjíždí z výhybky, smysl jízdy by se neobrátil");
         if (n == uzel::kKamenec && k + 1 == z.prvky.size() &&
-            !(je_kolej(k - 1) &&
+            !(je_tu_kolej(k - 1) &&
               (z.prvky[k - 1] == uzel::kKeKamenciOdTesku || z.prvky[k - 1] == uzel::kKeKamenciOdMokriny)))
             zavada(t, "před kolejí " + s(n) + " má být " + s(uzel::kKeKamenciOdTesku) + " nebo " +
                           s(uzel::kKeKamenciOdMokriny));

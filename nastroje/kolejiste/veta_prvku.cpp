@@ -2,6 +2,8 @@
 #include "kolejiste/veta.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <limits>
 
 namespace kolejiste {
 
@@ -189,7 +191,7 @@ int klidova_poloha_dks(Veta& v) {
 
 void cti_spinac(Veta& v, int (*poloha)(Veta&), int k_minusu) {
     Vyhybka vyhybka = v.novy<Vyhybka>();
-    if (vyhybka.cislo > 255)
+    if (vyhybka.cislo > std::numeric_limits<std::uint8_t>::max())
         nesrozumitelne("čísla výhybek jsou nejvýše 255");
     vyhybka.kde = v.bod("místo");
     vyhybka.poloha = poloha(v);
