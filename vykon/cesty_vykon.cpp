@@ -58,8 +58,6 @@ struct Stul {
             c.zacatek = z.zacatek;
             c.konec = z.konec;
             c.prvky = z.prvky;
-            c.druhy = z.druhy;
-            c.polohy = z.polohy;
             c.VC = true;
             c.cas_stavby = 0;
             c.ZT = static_cast<std::int16_t>(i + 1);

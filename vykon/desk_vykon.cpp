@@ -28,10 +28,8 @@ void postav_vlak(std::size_t i, std::size_t vozu) {
     v.odjezd = {600, 607, 612, -3};
     v.odjezd_realny = v.odjezd;
     v.pokyn = "5k";
-    v.vozy.assign(vozu, "OBB Bmpz");
-    v.vozy.front() = "363";
-    v.vozy_urceni.assign(vozu, "1500");
-    v.vozy_obrazek.assign(vozu, "B.ico");
+    v.vozy.assign(vozu, {"OBB Bmpz", "1500", "B.ico"});
+    v.vozy.front().rada = "363";
 }
 
 // All 24 lines, then as many trains more: each moves the whole table down.

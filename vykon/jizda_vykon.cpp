@@ -56,9 +56,7 @@ struct Koleje {
         Cesta c;
         c.zacatek = n;
         c.konec = static_cast<std::int16_t>(dalsi);
-        c.prvky = {n, c.konec};
-        c.druhy = {1, 1};
-        c.polohy = {0, 0};
+        c.prvky = prvky_cesty({{n, druh_prvku::kolej, 0}, {c.konec, druh_prvku::kolej, 0}});
         c.VC = c.prehozena = c.Postavena = c.Provedena = true;
         c.prejezd = kBezPrejezdu;
         cesty.push_back(c);
@@ -68,12 +66,8 @@ struct Koleje {
         vlak.delka = 200;
         vlak.max_rychlost = vlak.rychlost_trati = 100;
         vlak.smer = vlak.muze_jet = true;
-        vlak.vozy = {"754", "B", "B"};
-        vlak.vozy_urceni.resize(3);
-        vlak.vozy_obrazek.resize(3);
-        vlak.prvky = {n};
-        vlak.prvky_druh = {1};
-        vlak.prvky_poloha = {0};
+        vlak.vozy = {{"754", {}, {}}, {"B", {}, {}}, {"B", {}, {}}};
+        vlak.prvky = prvky_cesty({{n, druh_prvku::kolej, 0}});
         pridej_na_kolej(n, v, true, -1);
     }
 };

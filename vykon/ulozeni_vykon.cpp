@@ -49,12 +49,8 @@ struct Kolejiste {
             v.stanice.assign(12, 9);
             v.prijezd.assign(12, 700);
             v.odjezd = v.odjezd_realny = v.prijezd;
-            v.vozy.assign(8, "Bp");
-            v.vozy_urceni.assign(8, "4701");
-            v.vozy_obrazek.assign(8, "Bp_1.ico");
-            v.prvky.assign(300, static_cast<std::int16_t>(kolej));
-            v.prvky_druh.assign(300, 1);
-            v.prvky_poloha.assign(300, 0);
+            v.vozy.assign(8, {"Bp", "4701", "Bp_1.ico"});
+            v.prvky.assign(300, {static_cast<std::int16_t>(kolej), druh_prvku::kolej, 0});
             v.prvek_konec = 299;
             relief.kolej[kolej].barva = barvy::cervena;
         }

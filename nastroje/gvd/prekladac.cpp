@@ -385,6 +385,6 @@ Bajty zapis_jizdni_rad(const JizdniRad& rad) {
     z.l(0); // read by nobody
     z.text(rad.popis);
     for (const GvdVlak& vlak : rad.vlaky)
-        popis_gvd_vlaku(z, vlak);
+        popis_poli(z, vlak);
     return std::move(z.bajty);
 }

@@ -118,7 +118,7 @@ private:
     void zavada(const Trasa& t, std::string text) { zavady.push_back({t.misto, jmeno(t), std::move(text)}); }
     bool ma_kolej(const ZaznamCesty& z, int n, std::size_t od = 0) const {
         for (std::size_t k = od; k < z.prvky.size(); ++k)
-            if (z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::kolej) && z.prvky[k] == n)
+            if (z.prvky[k].druh == static_cast<std::uint8_t>(DruhPrvku::kolej) && z.prvky[k].prvek == n)
                 return true;
         return false;
     }
@@ -141,19 +141,19 @@ private:
     void odjezdy();
 };
 
-// The three lists agree, every element is there once and exists.
+// Every element is there once and exists.
 bool Kontrola::tvar_zaznamu(const Trasa& t) {
     const ZaznamCesty& z = t.zaznam;
-    if (z.prvky.size() < 2 || z.prvky.size() != z.druhy.size() || z.prvky.size() != z.polohy.size()) {
-        zavada(t, "seznamy prvků, druhů a poloh nejsou stejně dlouhé nebo jsou prázdné");
+    if (z.prvky.size() < 2) {
+        zavada(t, "nemá ani dva prvky");
         return false;
     }
     std::set<std::pair<int, int>> videno;
     std::size_t delka = z.prvky.size();
     for (std::size_t k = 0; k < z.prvky.size(); ++k) {
-        const int n = z.prvky[k];
+        const int n = z.prvky[k].prvek;
         bool je = false;
-        switch (static_cast<DruhPrvku>(z.druhy[k])) {
+        switch (static_cast<DruhPrvku>(z.prvky[k].druh)) {
         case DruhPrvku::kolej: je = koleje.contains(n); break;
         case DruhPrvku::vyhybka: je = vyhybky.contains(n); break;
         case DruhPrvku::vykolejka:
@@ -162,16 +162,16 @@ bool Kontrola::tvar_zaznamu(const Trasa& t) {
             break;
         }
         if (!je) {
-            zavada(t, "prvek " + s(n) + " druhu " + s(z.druhy[k]) + " není nakreslen");
+            zavada(t, "prvek " + s(n) + " druhu " + s(z.prvky[k].druh) + " není nakreslen");
             return false;
         }
-        if (!videno.insert({z.druhy[k], n}).second)
+        if (!videno.insert({z.prvky[k].druh, n}).second)
             zavada(t, "prvek " + popis_prvku_trasy(z, k) + " v ní je dvakrát");
     }
-    if (z.druhy.back() != static_cast<std::uint8_t>(DruhPrvku::kolej))
+    if (z.prvky.back().druh != static_cast<std::uint8_t>(DruhPrvku::kolej))
         zavada(t, "nekončí na koleji, vlak by z ní vyjel mimo koleje");
     // the locking appends the rest of a line
-    for (int n = z.prvky.back(); n >= kPrvniTrat && n <= kNejvyssiPrvek; n += kKrokTrati)
+    for (int n = z.prvky.back().prvek; n >= kPrvniTrat && n <= kNejvyssiPrvek; n += kKrokTrati)
         delka += koleje.contains(n);
     if (delka > kNejvicPrvku)
         zavada(t, "má víc než 256 prvků");
@@ -189,7 +189,7 @@ Projeta Kontrola::projed(const Trasa& t) {
     if (t.druh == DruhTrasy::vlak && n.posunove)
         zavada(t, "vlaková cesta nezačíná u posunového návěstidla");
     const int kolej = plan.kolej_navestidla(n);
-    if (z.prvky[0] != kolej || z.druhy[0] != static_cast<std::uint8_t>(DruhPrvku::kolej) ||
+    if (z.prvky[0].prvek != kolej || z.prvky[0].druh != static_cast<std::uint8_t>(DruhPrvku::kolej) ||
         kolej != kolej_startu(plan, z.zacatek)) {
         zavada(t,
                "nezačíná kolejí " + s(kolej_startu(plan, z.zacatek)) + " před návěstidlem " + s(z.zacatek));
@@ -198,27 +198,28 @@ Projeta Kontrola::projed(const Trasa& t) {
     Konec vystup{Typ::kolej, kolej, n.u_konce() == Strana::vpravo ? Port::vpravo : Port::vlevo};
     for (std::size_t k = 1; k < z.prvky.size(); ++k) {
         const auto vstup = graf.soused(vystup);
-        const auto druh = static_cast<DruhPrvku>(z.druhy[k]);
+        const auto druh = static_cast<DruhPrvku>(z.prvky[k].druh);
         const Typ typ = druh == DruhPrvku::kolej     ? Typ::kolej
                         : druh == DruhPrvku::vyhybka ? Typ::vyhybka
                                                      : Typ::vykolejka;
-        if (!vstup || vstup->typ != typ || vstup->cislo != z.prvky[k]) {
+        if (!vstup || vstup->typ != typ || vstup->cislo != z.prvky[k].prvek) {
             zavada(t, "prvek " + popis_prvku_trasy(z, k) + " nenavazuje na " + popis_prvku_trasy(z, k - 1));
             return {};
         }
         const std::vector<Pruchod> ven = pruchody(plan, *vstup);
         const auto p = std::find_if(ven.begin(), ven.end(), [&](const Pruchod& x) {
-            return typ != Typ::vyhybka || x.poloha == z.polohy[k];
+            return typ != Typ::vyhybka || x.poloha == z.prvky[k].poloha;
         });
         if (p == ven.end()) {
-            zavada(t, "výhybka " + s(z.prvky[k]) + " v poloze " + s(z.polohy[k]) + " tudy nevede");
+            zavada(t,
+                   "výhybka " + s(z.prvky[k].prvek) + " v poloze " + s(z.prvky[k].poloha) + " tudy nevede");
             return {};
         }
         vystup = p->kam;
         // who starts at this signal does not run past another one
         if (typ != Typ::kolej || k + 1 == z.prvky.size())
             continue;
-        const Kolej& ta = *koleje.at(z.prvky[k]);
+        const Kolej& ta = *koleje.at(z.prvky[k].prvek);
         if (ta.cil && ta.cislo != z.konec && !plan.pravidla_tras.prujezdne.contains(ta.cislo) &&
             t.kolem.empty())
             zavada(t, "projíždí kolejí " + s(ta.cislo) + ", která je cílem");
@@ -241,7 +242,7 @@ void Kontrola::konec(const Trasa& t) {
         zavada(t, "kolej " + s(z.konec) + " není cílem");
     else if (z.konec < kPrvniTrat && !cil->second->stitky[0] && !cil->second->jediny_vpravo)
         zavada(t, "kolej " + s(z.konec) + " nemá štítek, zamčená by se neobarvila");
-    const int posledni = z.prvky.back();
+    const int posledni = z.prvky.back().prvek;
     bool ok = posledni == z.konec;
     if (const int za = za_koncem(z.konec); za != kZadny && posledni != z.konec)
         ok = posledni == za;
@@ -255,7 +256,7 @@ void Kontrola::konec(const Trasa& t) {
 // behind the one that stands in the route.
 void Kontrola::trat(const Trasa& t) {
     const ZaznamCesty& z = t.zaznam;
-    const int posledni = z.prvky.back();
+    const int posledni = z.prvky.back().prvek;
     if (posledni < kPrvniTrat)
         return;
     if (t.druh == DruhTrasy::posun) {
@@ -268,13 +269,13 @@ void Kontrola::trat(const Trasa& t) {
     if (posledni != ma_byt)
         zavada(t, "do trati vjíždí oddílem " + s(posledni) + ", má být " + s(ma_byt));
     for (std::size_t k = 1; k + 1 < z.prvky.size(); ++k)
-        if (z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::kolej) && z.prvky[k] >= kPrvniTrat &&
-            z.prvky[k] % kKrokTrati == posledni % kKrokTrati)
-            zavada(t, "oddíl " + s(z.prvky[k]) + " trati by v ní byl dvakrát");
+        if (z.prvky[k].druh == static_cast<std::uint8_t>(DruhPrvku::kolej) &&
+            z.prvky[k].prvek >= kPrvniTrat && z.prvky[k].prvek % kKrokTrati == posledni % kKrokTrati)
+            zavada(t, "oddíl " + s(z.prvky[k].prvek) + " trati by v ní byl dvakrát");
     for (const Obraz o : kObrazy) {
-        const int x1 = konce_koleje(plan, *koleje.at(z.prvky[0]), o)[0].x,
+        const int x1 = konce_koleje(plan, *koleje.at(z.prvky[0].prvek), o)[0].x,
                   x2 = konce_koleje(plan, *koleje.at(posledni), o)[1].x;
-        if ((x1 <= x2 || z.prvky[0] == uzel::kKamenec) != vpravo)
+        if ((x1 <= x2 || z.prvky[0].prvek == uzel::kKamenec) != vpravo)
             zavada(t, std::string("směr trati by podle obrazu vyšel opačně") +
                           (o == Obraz::jeden ? " (jeden monitor)" : " (dva monitory)"));
     }
@@ -283,21 +284,21 @@ void Kontrola::trat(const Trasa& t) {
 void Kontrola::zvlastni_koleje(const Trasa& t) {
     const ZaznamCesty& z = t.zaznam;
     const auto je_tu_kolej = [&](std::size_t k) {
-        return z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::kolej);
+        return z.prvky[k].druh == static_cast<std::uint8_t>(DruhPrvku::kolej);
     };
-    if (je_tu_kolej(1) && nesmi_byt_prvni(z.prvky[1]))
-        zavada(t, "kolej " + s(z.prvky[1]) + " nesmí být hned za návěstidlem");
+    if (je_tu_kolej(1) && nesmi_byt_prvni(z.prvky[1].prvek))
+        zavada(t, "kolej " + s(z.prvky[1].prvek) + " nesmí být hned za návěstidlem");
     for (std::size_t k = 1; k < z.prvky.size(); ++k) {
         if (!je_tu_kolej(k))
             continue;
-        const int n = z.prvky[k];
+        const int n = z.prvky[k].prvek;
         if (je_jen_obraz_ohybu(n))
             zavada(t, "kolej " + s(n) + " je jen druhým obrazem");
         if (je_v(n, uzel::kOhybyZKoleje) && !je_v(n, uzel::kOhybyZVyhybky) && !je_tu_kolej(k - 1))
             zavada(t, "na kolej " + s(n) + " se vjíždí z výhybky, smysl jízdy by se neobrátil");
         if (n == uzel::kKamenec && k + 1 == z.prvky.size() &&
-            !(je_tu_kolej(k - 1) &&
-              (z.prvky[k - 1] == uzel::kKeKamenciOdTesku || z.prvky[k - 1] == uzel::kKeKamenciOdMokriny)))
+            !(je_tu_kolej(k - 1) && (z.prvky[k - 1].prvek == uzel::kKeKamenciOdTesku ||
+                                     z.prvky[k - 1].prvek == uzel::kKeKamenciOdMokriny)))
             zavada(t, "před kolejí " + s(n) + " má být " + s(uzel::kKeKamenciOdTesku) + " nebo " +
                           s(uzel::kKeKamenciOdMokriny));
     }
@@ -332,11 +333,11 @@ void Kontrola::smysl(const Trasa& t, const Projeta& p) {
     const ZaznamCesty& z = t.zaznam;
     bool vpravo = navestidla.at(z.zacatek)->strana == Strana::vpravo;
     for (std::size_t k = 1; k < z.prvky.size(); ++k)
-        if (z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::kolej) &&
-            obraci_se(static_cast<DruhPrvku>(z.druhy[k - 1]), z.prvky[k]))
+        if (z.prvky[k].druh == static_cast<std::uint8_t>(DruhPrvku::kolej) &&
+            obraci_se(static_cast<DruhPrvku>(z.prvky[k - 1].druh), z.prvky[k].prvek))
             vpravo = !vpravo;
     const Strana ven = p.vystup.port == Port::vpravo ? Strana::vpravo : Strana::vlevo;
-    int posledni = z.prvky.back();
+    int posledni = z.prvky.back().prvek;
     if (posledni >= kPrvniTrat)
         posledni = ven == Strana::vpravo ? plan.posledni_oddil(posledni) : kPrvniTrat + posledni % kKrokTrati;
     if (const auto i = u_konce.find({posledni, ven}); i != u_konce.end())
@@ -350,11 +351,11 @@ void Kontrola::smysl(const Trasa& t, const Projeta& p) {
 Naroky Kontrola::naroky(const ZaznamCesty& z) const {
     Naroky n;
     for (std::size_t k = 1; k < z.prvky.size(); ++k) {
-        if (z.druhy[k] != static_cast<std::uint8_t>(DruhPrvku::vyhybka))
+        if (z.prvky[k].druh != static_cast<std::uint8_t>(DruhPrvku::vyhybka))
             continue;
-        const int p = z.polohy[k];
+        const int p = z.prvky[k].poloha;
         const bool dks = p >= tvary::kPrvniDKS;
-        const Vyhybka& v = *vyhybky.at(z.prvky[k]);
+        const Vyhybka& v = *vyhybky.at(z.prvky[k].prvek);
         n.chce(v.cislo, false, konec_a_minus(p));
         if (dks)
             n.chce(v.cislo, true, konec_b_minus(p));
@@ -377,11 +378,11 @@ Zamcene Kontrola::zamcene(const Trasa& t) const {
     Zamcene d;
     const ZaznamCesty& z = t.zaznam;
     for (std::size_t k = 1; k < z.prvky.size(); ++k) {
-        const auto n = static_cast<std::size_t>(z.prvky[k]);
-        if (z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::vyhybka))
+        const auto n = static_cast<std::size_t>(z.prvky[k].prvek);
+        if (z.prvky[k].druh == static_cast<std::uint8_t>(DruhPrvku::vyhybka))
             d.set(2 * n + 1);
-        else if (z.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::kolej) && t.druh == DruhTrasy::posun &&
-                 k + 1 < z.prvky.size())
+        else if (z.prvky[k].druh == static_cast<std::uint8_t>(DruhPrvku::kolej) &&
+                 t.druh == DruhTrasy::posun && k + 1 < z.prvky.size())
             d.set(2 * n);
     }
     return d;
@@ -426,15 +427,15 @@ void Kontrola::boky() {
         std::map<int, std::vector<std::size_t>> cesty_pres;
         for (std::size_t i = 0; i < trasy.size(); ++i)
             for (std::size_t k = 1; k < trasy[i].zaznam.prvky.size(); ++k)
-                if (trasy[i].zaznam.druhy[k] == static_cast<std::uint8_t>(DruhPrvku::vyhybka))
-                    cesty_pres[trasy[i].zaznam.prvky[k]].push_back(i);
+                if (trasy[i].zaznam.prvky[k].druh == static_cast<std::uint8_t>(DruhPrvku::vyhybka))
+                    cesty_pres[trasy[i].zaznam.prvky[k].prvek].push_back(i);
         for (const Trasa& t : trasy)
             for (std::size_t k = 1; k + 1 < t.zaznam.prvky.size(); ++k) {
                 const ZaznamCesty& z = t.zaznam;
                 const auto vyhybka = static_cast<std::uint8_t>(DruhPrvku::vyhybka);
-                if (z.druhy[k] != vyhybka || z.druhy[k + 1] != vyhybka)
+                if (z.prvky[k].druh != vyhybka || z.prvky[k + 1].druh != vyhybka)
                     continue;
-                const int a = z.prvky[k], b = z.prvky[k + 1];
+                const int a = z.prvky[k].prvek, b = z.prvky[k + 1].prvek;
                 const BodKresby ma = misto_vyhybky(*vyhybky.at(a), obraz),
                                 mb = misto_vyhybky(*vyhybky.at(b), obraz);
                 if (uzel::bez_bocni_ochrany(a) || std::abs(ma.y - mb.y) != kRadek)
@@ -458,7 +459,7 @@ void Kontrola::podle_cisel() {
     for (const Trasa& t : trasy)
         if (t.druh == DruhTrasy::vlak) {
             vlakove[{t.zaznam.zacatek, t.zaznam.konec}] = &t;
-            vlakove_od.insert(t.zaznam.prvky[0]);
+            vlakove_od.insert(t.zaznam.prvky[0].prvek);
         }
     for (const PravidlaTras::Povinna& c : p.povinne) {
         const std::string kdo = "cesta " + s(c.zacatek) + " " + s(c.konec);
@@ -494,7 +495,7 @@ void Kontrola::odjezdy() {
     std::set<std::tuple<int, Strana, DruhTrasy>> vedou;
     for (const Trasa& t : trasy)
         if (const auto od = navestidla.find(t.zaznam.zacatek); od != navestidla.end())
-            vedou.insert({t.zaznam.prvky[0], od->second->u_konce(), t.druh});
+            vedou.insert({t.zaznam.prvky[0].prvek, od->second->u_konce(), t.druh});
     for (const PravidlaTras::Odjezdy& o : plan.pravidla_tras.odjezdy)
         for (const int n : o.koleje)
             if (koleje.contains(n) && !vedou.contains({n, o.strana, o.druh}) &&

@@ -17,11 +17,11 @@ using Drzene = std::bitset<2 * (kNejvyssiPrvek + 1)>;
 Drzene drzene(const ZaznamCesty& z) {
     Drzene d;
     for (std::size_t k = 1; k < z.prvky.size(); ++k) {
-        const auto druh = static_cast<DruhPrvku>(z.druhy[k]);
+        const auto druh = static_cast<DruhPrvku>(z.prvky[k].druh);
         if (druh == DruhPrvku::vykolejka)
             continue;
         const bool vyhybka = druh == DruhPrvku::vyhybka;
-        int n = z.prvky[k];
+        int n = z.prvky[k].prvek;
         for (const uzel::Krizeni& x : uzel::kKrizeni)
             if (!vyhybka && n == x.b)
                 n = x.a;
@@ -102,10 +102,10 @@ std::string oddil(const Plan& plan, std::size_t blok, DruhTrasy druh, const std:
 } // namespace
 
 std::string popis_prvku_trasy(const ZaznamCesty& z, std::size_t k) {
-    const std::string n = std::to_string(z.prvky[k]);
-    switch (static_cast<DruhPrvku>(z.druhy[k])) {
+    const std::string n = std::to_string(z.prvky[k].prvek);
+    switch (static_cast<DruhPrvku>(z.prvky[k].druh)) {
     case DruhPrvku::vyhybka: {
-        const int p = z.polohy[k];
+        const int p = z.prvky[k].poloha;
         std::string text = "v" + n + (konec_a_minus(p) ? "-" : "+");
         if (p >= tvary::kPrvniDKS)
             text += konec_b_minus(p) ? "-" : "+";

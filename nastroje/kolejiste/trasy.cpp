@@ -225,9 +225,8 @@ Trasa Odvozeni::zaznam(DruhTrasy druh, const Navestidlo& od, const Nalez& nalez,
             if (odbockou != 0 && (trida == 0 || odbockou < trida))
                 trida = odbockou;
         }
-        z.prvky.push_back(static_cast<std::int16_t>(krok.cislo));
-        z.druhy.push_back(druh_prvku(krok.typ));
-        z.polohy.push_back(static_cast<std::uint8_t>(poloha));
+        z.prvky.push_back(
+            {static_cast<std::int16_t>(krok.cislo), druh_prvku(krok.typ), static_cast<std::uint8_t>(poloha)});
     }
     z.rychlost = static_cast<std::uint8_t>(trida);
     return t;
@@ -378,7 +377,7 @@ Bajty soubor_tras(const std::vector<Trasa>& trasy, DruhTrasy druh) {
         if (t.druh != druh)
             continue;
         if (++radek == kRadekProgramovych) {
-            const ZaznamCesty prazdny{-3, -3, {-3}, {0}, {0}, 0};
+            const ZaznamCesty prazdny{-3, -3, {PrvekCesty{}}, 0};
             popis_zaznamu_cesty(a, prazdny);
             ++radek;
         }

@@ -107,15 +107,15 @@ Nalez zaznamy_cest() {
         return Text("cesty: tabulka je prázdná, musí zbýt jeden volný záznam"_cz);
     for (std::size_t i = 0; i < cesty.size(); ++i) {
         const Cesta& c = cesty[i];
-        if (c.prvky.empty() || c.prvky.size() != c.druhy.size() || c.prvky.size() != c.polohy.size())
-            return na_miste("cesty", i, "seznamy prvků, druhů a poloh nejsou stejně dlouhé"_cz);
+        if (c.prvky.empty())
+            return na_miste("cesty", i, "nemá žádný prvek"_cz);
         if (c.zacatek < 0)
             continue;
         for (std::size_t k = 0; k < c.prvky.size(); ++k)
-            if (!je_prvek_cesty(c.prvky[k], c.druhy[k]))
+            if (!je_prvek_cesty(c.prvky[k].prvek, c.prvky[k].druh))
                 return na_miste("cesty", i,
-                                veta({"prvek "_cz, text_cisla(c.prvky[k]), " druhu "_cz,
-                                      text_cisla(c.druhy[k]), " neexistuje"_cz}));
+                                veta({"prvek "_cz, text_cisla(c.prvky[k].prvek), " druhu "_cz,
+                                      text_cisla(c.prvky[k].druh), " neexistuje"_cz}));
         if (c.Umazat >= c.prvky.size())
             return na_miste("cesty", i, "Umazat ukazuje za poslední prvek"_cz);
         if (c.Vlak != kZadny && c.Vlak != kKopieAB && c.Vlak != kKOdstraneni && !je_index_vlaku(c.Vlak))
@@ -140,7 +140,7 @@ Nalez vyhybky_pod_navestmi() {
         if (!je_dovolena(c))
             continue;
         for (std::size_t k = 1; k < c.prvky.size(); ++k) {
-            const int n = c.prvky[k];
+            const int n = c.prvky[k].prvek;
             if (druh_na(c, k) != druh_prvku::vyhybka)
                 continue;
             if (stav_vyhybky_cislo(n) != poloha_na(c, k) + zaver_vyhybek(c) || vyhybka_v_pohybu(n))
@@ -205,17 +205,15 @@ Nalez zaznamy_vlaku() {
         if (v.stanice_index >= 0 && !v.stanice.empty() &&
             static_cast<std::size_t>(v.stanice_index) >= v.stanice.size())
             return na_miste("vlaky", i, "stanice_index ukazuje za poslední stanici"_cz);
-        if (v.prvky.size() != v.prvky_druh.size() || v.prvky.size() != v.prvky_poloha.size())
-            return na_miste("vlaky", i, "seznamy prvků, druhů a poloh nejsou stejně dlouhé"_cz);
         if (v.prvky.empty())
             continue;
         if (v.prvek_konec < 0 || static_cast<std::size_t>(v.prvek_konec) >= v.prvky.size())
             return na_miste("vlaky", i, "prvek_konec neukazuje na držený prvek"_cz);
         for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j)
-            if (!je_prvek_cesty(v.prvky[j], v.prvky_druh[j]))
+            if (!je_prvek_cesty(v.prvky[j].prvek, v.prvky[j].druh))
                 return na_miste("vlaky", i,
-                                veta({"prvek "_cz, text_cisla(v.prvky[j]), " druhu "_cz,
-                                      text_cisla(v.prvky_druh[j]), " neexistuje"_cz}));
+                                veta({"prvek "_cz, text_cisla(v.prvky[j].prvek), " druhu "_cz,
+                                      text_cisla(v.prvky[j].druh), " neexistuje"_cz}));
     }
     return std::nullopt;
 }
@@ -225,7 +223,7 @@ Nalez zaznamy_vlaku() {
 bool stoji_tu_ohlaseny(int n) {
     return uzel::je_kolej_souseda(n) && relief.kolej[n].barva == barvy::zelena &&
            std::any_of(vlaky.begin(), vlaky.end(), [n](const Vlak& v) {
-               return v.cislo > 0 && v.prvek_konec == 0 && !v.prvky.empty() && v.prvky.front() == n;
+               return v.cislo > 0 && v.prvek_konec == 0 && !v.prvky.empty() && v.prvky.front().prvek == n;
            });
 }
 
@@ -236,8 +234,8 @@ Nalez drzene_koleje() {
         if (v.cislo < 1 || v.prvky.empty())
             continue;
         for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j) {
-            const int n = v.prvky[j];
-            if (v.prvky_druh[j] == druh_prvku::kolej && relief.kolej[n].barva != barvy::cervena &&
+            const int n = v.prvky[j].prvek;
+            if (v.prvky[j].druh == druh_prvku::kolej && relief.kolej[n].barva != barvy::cervena &&
                 !stoji_tu_ohlaseny(n))
                 return na_miste("vlaky", i,
                                 veta({"drží kolej "_cz, text_cisla(n), ", která není obsazená"_cz}));

@@ -79,7 +79,7 @@ Text cesta_textem(const Cesta& c, TextPohled co) {
 }
 
 bool jede(const Vlak& v) {
-    return v.cislo > 0 && !v.prvky.empty() && v.prvky.size() == v.prvky_druh.size() && v.prvek_konec >= 0 &&
+    return v.cislo > 0 && !v.prvky.empty() && v.prvek_konec >= 0 &&
            static_cast<std::size_t>(v.prvek_konec) < v.prvky.size();
 }
 // What the last look has seen of the same train; nullptr when it was not there yet.
@@ -97,12 +97,13 @@ bool vjel(std::size_t i) {
     const Vlak& v = vlaky[i];
     const VidenyVlak* drive = videny(i);
     return drive != nullptr && v.prvky.size() == drive->prvku + 1 && drive->prvku > 0 &&
-           v.prvky[drive->prvku - 1] == drive->celo && v.prvky_druh.back() == druh_prvku::kolej;
+           v.prvky[drive->prvku - 1].prvek == drive->celo && v.prvky.back().druh == druh_prvku::kolej;
 }
 const Cesta* cesta_vjezdu(std::size_t i) {
     const auto cesta = std::find_if(cesty.begin(), cesty.end(), [&](const Cesta& c) {
         return c.Vlak == static_cast<int>(i) && c.Umazat > 0 && c.Umazat < c.prvky.size() &&
-               c.prvky[c.Umazat] == vlaky[i].prvky.back() && druh_na(c, c.Umazat) == druh_prvku::kolej;
+               c.prvky[c.Umazat].prvek == vlaky[i].prvky.back().prvek &&
+               druh_na(c, c.Umazat) == druh_prvku::kolej;
     });
     return cesta == cesty.end() ? nullptr : &*cesta;
 }
@@ -114,8 +115,10 @@ bool smeruje_na(std::size_t vjel_vlak, int n) {
     return std::any_of(cesty.begin(), cesty.end(), [&](const Cesta& c) {
         if (c.zacatek < 0 || !c.prehozena || je_volny_vjezd(c) || c.Vlak == static_cast<int>(vjel_vlak))
             return false;
-        const auto pred = std::min<std::ptrdiff_t>(c.Umazat + 1, std::ssize(c.prvky));
-        return std::find(c.prvky.begin() + pred, c.prvky.end(), n) != c.prvky.end();
+        for (std::size_t k = std::size_t{c.Umazat} + 1; k < c.prvky.size(); ++k)
+            if (c.prvky[k].prvek == n)
+                return true;
+        return false;
     });
 }
 
@@ -126,7 +129,7 @@ Nalez vjezdy() {
     for (std::size_t i = 0; i < vlaky.size(); ++i) {
         if (!jede(vlaky[i]) || !vjel(i))
             continue;
-        const int n = vlaky[i].prvky.back();
+        const int n = vlaky[i].prvky.back().prvek;
         const Cesta* cesta = cesta_vjezdu(i);
         if (cesta == nullptr)
             return vlak_textem(i, veta({"na kolej "_cz, text_cisla(n), " nevede jeho cesta"_cz}));
@@ -153,8 +156,8 @@ Nalez vyhybky_pod_vlaky() {
         if (!jede(v))
             continue;
         for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j) {
-            const int n = v.prvky[j];
-            if (v.prvky_druh[j] == druh_prvku::vyhybka && vyhybka_v_pohybu(n))
+            const int n = v.prvky[j].prvek;
+            if (v.prvky[j].druh == druh_prvku::vyhybka && vyhybka_v_pohybu(n))
                 return vlak_textem(i, veta({"pod vlakem se přestavuje výhybka "_cz, text_cisla(n)}));
         }
     }
@@ -191,9 +194,9 @@ void nacti_sousedy() {
         if (otisky[f] == 0)
             continue; // no such table
         for (const ZaznamCesty& z : cti_cesty(nacti_soubor(soubory[f])))
-            for (std::size_t k = 0; k + 1 < std::min(z.prvky.size(), z.druhy.size()); ++k)
-                sousedi.dvojice.push_back(
-                    klic_dvojice(klic(z.prvky[k], z.druhy[k]), klic(z.prvky[k + 1], z.druhy[k + 1])));
+            for (std::size_t k = 0; k + 1 < z.prvky.size(); ++k)
+                sousedi.dvojice.push_back(klic_dvojice(klic(z.prvky[k].prvek, z.prvky[k].druh),
+                                                       klic(z.prvky[k + 1].prvek, z.prvky[k + 1].druh)));
     }
     std::sort(sousedi.dvojice.begin(), sousedi.dvojice.end());
     sousedi.dvojice.erase(std::unique(sousedi.dvojice.begin(), sousedi.dvojice.end()), sousedi.dvojice.end());
@@ -221,7 +224,7 @@ bool sousedi_na_ceste(int a, int druh_a, int b, int druh_b) {
     for (const Cesta& c : cesty)
         for (std::size_t k = 0; k + 1 < c.prvky.size(); ++k) {
             const auto je = [&](std::size_t m, int n, int druh) {
-                return c.prvky[m] == n && druh_na(c, m) == druh;
+                return c.prvky[m].prvek == n && druh_na(c, m) == druh;
             };
             if ((je(k, a, druh_a) && je(k + 1, b, druh_b)) || (je(k, b, druh_b) && je(k + 1, a, druh_a)))
                 return true;
@@ -241,7 +244,7 @@ bool zmenil_se(std::size_t i) {
     const VidenyVlak* drive = videny(i);
     const Vlak& v = vlaky[i];
     return drive == nullptr || drive->prvku != v.prvky.size() || drive->konec != v.prvek_konec ||
-           drive->celo != v.prvky.back();
+           drive->celo != v.prvky.back().prvek;
 }
 
 // A train lies on its path without a gap.
@@ -254,9 +257,9 @@ Nalez souvislost() {
         if (sousedi.dvojice.empty())
             return std::nullopt; // an installation without tables
         for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j + 1 < v.prvky.size(); ++j)
-            if (!jsou_sousedi(v.prvky[j], v.prvky_druh[j], v.prvky[j + 1], v.prvky_druh[j + 1]))
-                return vlak_textem(i, veta({"drží prvky "_cz, text_cisla(v.prvky[j]), " a "_cz,
-                                            text_cisla(v.prvky[j + 1]), ", které spolu nesousedí"_cz}));
+            if (!jsou_sousedi(v.prvky[j].prvek, v.prvky[j].druh, v.prvky[j + 1].prvek, v.prvky[j + 1].druh))
+                return vlak_textem(i, veta({"drží prvky "_cz, text_cisla(v.prvky[j].prvek), " a "_cz,
+                                            text_cisla(v.prvky[j + 1].prvek), ", které spolu nesousedí"_cz}));
     }
     return std::nullopt;
 }
@@ -272,8 +275,8 @@ std::vector<std::int16_t> sdilene_koleje(std::size_t i) {
     std::vector<std::int16_t> sdilene;
     bool pred_jinou = false; // another track lies between this one and the head
     for (std::size_t j = v.prvky.size(); j-- > static_cast<std::size_t>(v.prvek_konec);) {
-        const std::int16_t n = v.prvky[j];
-        if (v.prvky_druh[j] != druh_prvku::kolej)
+        const std::int16_t n = v.prvky[j].prvek;
+        if (v.prvky[j].druh != druh_prvku::kolej)
             continue;
         const bool sdilela =
             drive != nullptr ? je_mezi(drive->sdilene, n) : pred_jinou && metry(n) != delka_koleje(n);
@@ -288,9 +291,9 @@ std::vector<std::int16_t> sdilene_koleje(std::size_t i) {
 double drzena_delka(const Vlak& v) {
     double delka = 0;
     for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j) {
-        if (v.prvky_druh[j] == druh_prvku::kolej)
-            delka = zaokrouhli(delka + metry(v.prvky[j]));
-        else if (v.prvky_druh[j] == druh_prvku::vyhybka)
+        if (v.prvky[j].druh == druh_prvku::kolej)
+            delka = zaokrouhli(delka + metry(v.prvky[j].prvek));
+        else if (v.prvky[j].druh == druh_prvku::vyhybka)
             delka += kDelkaVyhybky_m;
     }
     return delka;
@@ -301,7 +304,7 @@ bool prebyva_konec(const Vlak& v) {
     if (konec + 1 >= v.prvky.size())
         return false; // the head is never released
     const int posledni =
-        v.prvky_druh[konec] == druh_prvku::kolej ? delka_koleje(v.prvky[konec]) : kDelkaVyhybky_m;
+        v.prvky[konec].druh == druh_prvku::kolej ? delka_koleje(v.prvky[konec].prvek) : kDelkaVyhybky_m;
     return drzena_delka(v) - posledni >= v.delka;
 }
 
@@ -321,7 +324,7 @@ Nalez delky() {
         if (jelo_se && drive->prebyva && drive->konec == v.prvek_konec && drive->prvku == v.prvky.size() &&
             prebyva_konec(v))
             return vlak_textem(
-                i, veta({"drží prvek "_cz, text_cisla(v.prvky[static_cast<std::size_t>(v.prvek_konec)]),
+                i, veta({"drží prvek "_cz, text_cisla(v.prvky[static_cast<std::size_t>(v.prvek_konec)].prvek),
                          ", který už celý opustil"_cz}));
     }
     return std::nullopt;
@@ -357,17 +360,19 @@ Nalez prejezd_navesti(const Cesta& c, const VidenaCesta& drive) {
 }
 
 // Sense in which a route runs over the sections of the line group: 1 up, -1 down, 0 not to be told.
-int smer_po_trati(const std::vector<std::int16_t>& prvky, std::size_t od, int zaklad) {
-    for (std::size_t k = od; k + 1 < prvky.size(); ++k)
-        if (je_usek_trati(prvky[k]) && je_usek_trati(prvky[k + 1]) && zaklad_trati(prvky[k]) == zaklad &&
-            zaklad_trati(prvky[k + 1]) == zaklad)
-            return prvky[k] < prvky[k + 1] ? 1 : -1;
+int smer_po_trati(const std::vector<PrvekCesty>& prvky, std::size_t od, int zaklad) {
+    for (std::size_t k = od; k + 1 < prvky.size(); ++k) {
+        const int odkud = prvky[k].prvek, kam = prvky[k + 1].prvek;
+        if (je_usek_trati(odkud) && je_usek_trati(kam) && zaklad_trati(odkud) == zaklad &&
+            zaklad_trati(kam) == zaklad)
+            return odkud < kam ? 1 : -1;
+    }
     return 0;
 }
 bool stoji_na_trati(const Vlak& v, int zaklad) {
     for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j)
-        if (v.prvky_druh[j] == druh_prvku::kolej && je_usek_trati(v.prvky[j]) &&
-            zaklad_trati(v.prvky[j]) == zaklad)
+        if (v.prvky[j].druh == druh_prvku::kolej && je_usek_trati(v.prvky[j].prvek) &&
+            zaklad_trati(v.prvky[j].prvek) == zaklad)
             return true;
     return false;
 }
@@ -449,7 +454,7 @@ void zapamatuj_vlaky() {
         n.cislo = v.cislo;
         n.prvku = v.prvky.size();
         n.konec = v.prvek_konec;
-        n.celo = v.prvky.back();
+        n.celo = v.prvky.back().prvek;
         n.delka = v.delka;
         n.muze_jet = v.muze_jet;
         n.prebyva = prebyva_konec(v);

@@ -72,7 +72,7 @@ template <class Co> void projdi_drzene(const Vlak& v, Co co) {
     if (v.cislo < 1)
         return;
     for (std::size_t j = static_cast<std::size_t>(std::max<int>(v.prvek_konec, 0)); j < v.prvky.size(); ++j)
-        co(v.prvky[j], v.prvky_druh[j] == druh_prvku::vyhybka);
+        co(v.prvky[j].prvek, v.prvky[j].druh == druh_prvku::vyhybka);
 }
 
 void zapamatuj_vyhybky() {
@@ -103,7 +103,7 @@ bool jen_sipkou(int n) {
 }
 
 void zapis_zaver(const Cesta& c, std::size_t k, Mnozina& vlakove) {
-    const int n = c.prvky[k];
+    const int n = c.prvky[k].prvek;
     const bool pred_celem = k > c.Umazat;
     switch (druh_na(c, k)) {
     case druh_prvku::kolej:
@@ -198,7 +198,7 @@ void over_navestidla(const TabulkaPrvku& tabulka_navestidel, Prestupky& nalezy) 
 
 // A train that was shortened stays in the lists of the tracks behind it until it moves.
 bool je_nebo_byl(const Vlak& v, int kolej) {
-    return v.cislo > 0 && std::find(v.prvky.begin(), v.prvky.end(), kolej) != v.prvky.end();
+    return v.cislo > 0 && obsahuje(v.prvky, kolej);
 }
 
 // The list of a numbered track holds each train on it once, and no other.

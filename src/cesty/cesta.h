@@ -5,37 +5,29 @@
 // other table keeps one across a tick. -3 means none in every field.
 #pragma once
 
+#include "cesty/prvek_cesty.h"
 #include "relief/prvek.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <vector>
 
-// Kinds of the entries of a route.
-namespace druh_prvku {
-inline constexpr std::uint8_t kolej = 1;
-inline constexpr std::uint8_t vyhybka = 2;
-inline constexpr std::uint8_t vykolejka = 4;
-} // namespace druh_prvku
-
 struct Cesta {
-    std::int16_t zacatek = -3;           // start signal; below 0: empty record
-    std::int16_t konec = -3;             // end element
-    std::vector<std::int16_t> prvky{-3}; // elements in running order; entry 0 is the track before the signal
-    std::vector<std::uint8_t> druhy{0};  // kind of each entry
-    std::vector<std::uint8_t> polohy{0}; // demanded position of a switch; 2 on a track: labelled at release
-    std::int32_t Kdy_prehoz = -3;        // second after which the switches count as thrown
-    std::uint8_t rychlost = 0;           // speed class: 0 free, 1, 2, 3 = 40, 60, 80 km/h
-    bool VC = false;                     // train or calling-on route; else a shunt route
-    bool PN = false;                     // calling-on route
-    std::int32_t PN_do = -3;             // second at which the calling-on aspect ends
-    bool PN_zaver = false;               // the calling-on locking was released by hand
-    std::int32_t cas_stavby = -3;        // second from which the route machine may work
-    bool prehozena = false;              // the switches have been commanded
-    bool Postavena = false;              // stands with the signal cleared
-    bool Provedena = false;              // has reached the end of setting
-    std::int32_t cas_ruseni = -3;        // second at which the cancellation takes effect
-    std::int32_t barva_cisla = 0;        // background of the end's label before the highlight
+    std::int16_t zacatek = -3;         // start signal; below 0: empty record
+    std::int16_t konec = -3;           // end element
+    std::vector<PrvekCesty> prvky{{}}; // in running order; entry 0 is the track before the signal
+    std::int32_t Kdy_prehoz = -3;      // second after which the switches count as thrown
+    std::uint8_t rychlost = 0;         // speed class: 0 free, 1, 2, 3 = 40, 60, 80 km/h
+    bool VC = false;                   // train or calling-on route; else a shunt route
+    bool PN = false;                   // calling-on route
+    std::int32_t PN_do = -3;           // second at which the calling-on aspect ends
+    bool PN_zaver = false;             // the calling-on locking was released by hand
+    std::int32_t cas_stavby = -3;      // second from which the route machine may work
+    bool prehozena = false;            // the switches have been commanded
+    bool Postavena = false;            // stands with the signal cleared
+    bool Provedena = false;            // has reached the end of setting
+    std::int32_t cas_ruseni = -3;      // second at which the cancellation takes effect
+    std::int32_t barva_cisla = 0;      // background of the end's label before the highlight
     std::int16_t Vlak = -3;     // train that has taken it; -4 waiting automatic copy; -10 to be removed
     std::uint8_t Umazat = 0;    // index of the element that the head has reached; 0: no train yet
     std::int16_t vyhybka = 0;   // switch whose clearing ends the route's speed limit
@@ -48,22 +40,49 @@ struct Cesta {
     bool operator==(const Cesta&) const = default;
 };
 
+// The fields under their names, in the order of a saved record.
+template <class A, ZaznamJe<Cesta> Z> constexpr void popis_poli(A& a, Z& z) {
+    a.pole("zacatek", z.zacatek);
+    a.pole("konec", z.konec);
+    popis_prvku(a, z.prvky, "prvky", "druhy", "polohy");
+    a.pole("Kdy_prehoz", z.Kdy_prehoz);
+    a.pole("rychlost", z.rychlost);
+    a.pole("VC", z.VC);
+    a.pole("PN", z.PN);
+    a.pole("PN_do", z.PN_do);
+    a.pole("PN_zaver", z.PN_zaver);
+    a.pole("cas_stavby", z.cas_stavby);
+    a.pole("prehozena", z.prehozena);
+    a.pole("Postavena", z.Postavena);
+    a.pole("Provedena", z.Provedena);
+    a.pole("cas_ruseni", z.cas_ruseni);
+    a.barva("barva_cisla", z.barva_cisla);
+    a.pole("Vlak", z.Vlak);
+    a.pole("Umazat", z.Umazat);
+    a.pole("vyhybka", z.vyhybka);
+    a.pole("varovani", z.varovani);
+    a.rezerva("rezerva", z.rezerva);
+    a.pole("prejezd", z.prejezd);
+    a.pole("prejezd_zaver", z.prejezd_zaver);
+    a.pole("ZT", z.ZT);
+}
+
 // Index of the last entry.
 inline std::size_t posledni_index(const Cesta& c) {
     return c.prvky.empty() ? 0 : c.prvky.size() - 1;
 }
 inline int prvni_prvek(const Cesta& c) {
-    return c.prvky.empty() ? -3 : c.prvky.front();
+    return c.prvky.empty() ? -3 : c.prvky.front().prvek;
 }
 inline int posledni_prvek(const Cesta& c) {
-    return c.prvky.empty() ? -3 : c.prvky.back();
+    return c.prvky.empty() ? -3 : c.prvky.back().prvek;
 }
 // Kind and position of entry k; behind the end there is nothing: 0.
 inline std::uint8_t druh_na(const Cesta& c, std::size_t k) {
-    return k < c.druhy.size() ? c.druhy[k] : std::uint8_t{0};
+    return k < c.prvky.size() ? c.prvky[k].druh : std::uint8_t{0};
 }
 inline std::uint8_t poloha_na(const Cesta& c, std::size_t k) {
-    return k < c.polohy.size() ? c.polohy[k] : std::uint8_t{0};
+    return k < c.prvky.size() ? c.prvky[k].poloha : std::uint8_t{0};
 }
 
 inline constexpr std::uint8_t kBezPrejezdu = 255;

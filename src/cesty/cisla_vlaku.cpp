@@ -173,8 +173,7 @@ Text cislo_cesty_na_trat(const Cesta& c) {
     if (static_cast<std::size_t>(c.Vlak) >= vlaky.size())
         return {};
     const Vlak& vlak = vlaky[static_cast<std::size_t>(c.Vlak)];
-    const bool jede = vlak.cislo > 0 && !vlak.prvky.empty() &&
-                      std::find(c.prvky.begin(), c.prvky.end(), vlak.prvky.back()) != c.prvky.end();
+    const bool jede = vlak.cislo > 0 && !vlak.prvky.empty() && obsahuje(c.prvky, vlak.prvky.back().prvek);
     return jede ? text_cisla(zobrazene_cislo(vlak)) : Text{};
 }
 

@@ -172,8 +172,8 @@ void uklid_odjete() {
     for (const Cesta& c : cesty)
         if (c.Vlak >= 0)
             for (std::size_t k = 0; k < c.Umazat && k < c.prvky.size(); ++k)
-                if (c.prvky[k] >= 0 && c.prvky[k] <= kNejvyssiPrvek)
-                    drzene.set(static_cast<std::size_t>(c.prvky[k]));
+                if (c.prvky[k].prvek >= 0 && c.prvky[k].prvek <= kNejvyssiPrvek)
+                    drzene.set(static_cast<std::size_t>(c.prvky[k].prvek));
     const auto volne = odjete & ~drzene;
     for (std::size_t n = 0; volne.any() && n < volne.size(); ++n)
         if (volne.test(n))
@@ -197,7 +197,7 @@ void obnov_odjete() {
         // a calling-on route keeps its tracks reserved before the train that runs on it
         for (std::size_t k = std::size_t{c.Umazat} + 1; k < c.prvky.size(); ++k)
             if (druh_na(c, k) == druh_prvku::kolej)
-                drzi(c.prvky[k]);
+                drzi(c.prvky[k].prvek);
     }
     for (int n = 0; n < kPrvniTrat; ++n) {
         if (!je_kolej(n) || relief.kolej[n].barva != barvy::azurova)

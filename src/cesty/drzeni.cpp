@@ -15,7 +15,7 @@ bool je_zaznam(const Cesta& c) {
 
 // The state of the switch is what the route has made of it.
 bool ma_vyhybku(const Cesta& c, std::size_t k) {
-    const int stav = stav_vyhybky_cislo(c.prvky[k]);
+    const int stav = stav_vyhybky_cislo(c.prvky[k].prvek);
     const int trida = stav - poloha_stavu(stav);
     if (poloha_stavu(stav) != poloha_na(c, k))
         return false;
@@ -29,7 +29,7 @@ bool ma_vyhybku(const Cesta& c, std::size_t k) {
 
 template <class Co> bool nektery_prvek(const Cesta& c, std::uint8_t druh, int n, Co co) {
     for (std::size_t k = 1; k < c.prvky.size(); ++k)
-        if (c.prvky[k] == n && druh_na(c, k) == druh && co(k))
+        if (c.prvky[k].prvek == n && druh_na(c, k) == druh && co(k))
             return true;
     return false;
 }
@@ -60,14 +60,14 @@ const Cesta* drzitel(std::uint8_t druh, int n) {
 }
 
 bool drzi_jina(const Cesta& c, std::size_t k) {
-    const Cesta* drzi = drzitel(druh_na(c, k), c.prvky[k]);
+    const Cesta* drzi = drzitel(druh_na(c, k), c.prvky[k].prvek);
     return drzi != nullptr && drzi != &c;
 }
 
 int ztracena_vyhybka(const Cesta& c) {
     for (std::size_t k = 1; k < c.prvky.size(); ++k)
-        if (druh_na(c, k) == druh_prvku::vyhybka && drzitel(druh_prvku::vyhybka, c.prvky[k]) != &c)
-            return c.prvky[k];
+        if (druh_na(c, k) == druh_prvku::vyhybka && drzitel(druh_prvku::vyhybka, c.prvky[k].prvek) != &c)
+            return c.prvky[k].prvek;
     return -3;
 }
 
@@ -77,7 +77,7 @@ bool stoji_na_vyhybce(int n) {
             return false;
         for (std::size_t j = static_cast<std::size_t>(std::max<int>(v.prvek_konec, 0)); j < v.prvky.size();
              ++j)
-            if (v.prvky[j] == n && v.prvky_druh[j] == druh_prvku::vyhybka)
+            if (v.prvky[j].prvek == n && v.prvky[j].druh == druh_prvku::vyhybka)
                 return true;
         return false;
     });
@@ -89,7 +89,7 @@ const Cesta* cesta_vlaku_na_vyhybku(int n) {
             return false;
         const Vlak& v = vlaky[static_cast<std::size_t>(c.Vlak)];
         return v.cislo > 0 && !v.prvky.empty() && c.Umazat < c.prvky.size() &&
-               v.prvky.back() == c.prvky[c.Umazat] &&
+               v.prvky.back().prvek == c.prvky[c.Umazat].prvek &&
                nektery_prvek(c, druh_prvku::vyhybka, n, [&c](std::size_t k) { return k > c.Umazat; });
     });
     return cesta == cesty.end() ? nullptr : &*cesta;

@@ -49,9 +49,7 @@ Cesta& zarad_cestu(const NalezenaCesta& nalezena, int druh, bool automaticky) {
     c.ZT = static_cast<std::int16_t>(nalezena.radek);
     c.konec = z.konec;
     c.prvky = z.prvky;
-    c.druhy = z.druhy;
-    c.polohy = z.polohy;
-    c.polohy.front() = 2;
+    c.prvky.front().poloha = 2;
     c.zacatek = z.zacatek;
     c.rychlost = z.rychlost;
     c.VC = druh != druh_volby::posun;

@@ -28,7 +28,7 @@ int partner_pod_vlakem(int n) {
 }
 
 Prekazka prekazka_vyhybky(const Cesta& c, std::size_t k) {
-    const int n = c.prvky[k];
+    const int n = c.prvky[k].prvek;
     if (stav_vyhybky_cislo(n) > 49)
         return {DruhPrekazky::vyhybka, n, k};
     if (vyhybka_v_pohybu(n))
@@ -42,7 +42,7 @@ Prekazka prekazka_vyhybky(const Cesta& c, std::size_t k) {
     if (cesta_vlaku_na_vyhybku(n) != nullptr)
         return {DruhPrekazky::pred_vlakem, n, k};
     if (druh_na(c, k + 1) == druh_prvku::vyhybka)
-        if (const int bocni = bocni_vyhybka(n, c.prvky[k + 1]); bocni != kZadny)
+        if (const int bocni = bocni_vyhybka(n, c.prvky[k + 1].prvek); bocni != kZadny)
             return {DruhPrekazky::bocni_vyhybka, bocni, k};
     return {};
 }
@@ -51,13 +51,13 @@ Prekazka prekazka_vyhybky(const Cesta& c, std::size_t k) {
 bool smi_na_obsazenou(const Cesta& c, std::size_t k) {
     if (k != posledni_index(c) || (c.VC && !c.PN))
         return false;
-    const Barva barva = relief.kolej[c.prvky[k]].barva;
+    const Barva barva = relief.kolej[c.prvky[k].prvek].barva;
     return barva == barvy::cervena || barva == barvy::bila || barva == barvy::azurova;
 }
 
 Prekazka prekazka_prvku(const Cesta& c) {
     for (std::size_t k = 1; k < c.prvky.size(); ++k) {
-        const int n = c.prvky[k];
+        const int n = c.prvky[k].prvek;
         if (druh_na(c, k) == druh_prvku::vyhybka) {
             if (const Prekazka p = prekazka_vyhybky(c, k))
                 return p;
@@ -91,7 +91,7 @@ Prekazka prekazka_trati(const Cesta& c) {
             if (c.konec == uzel::kKonceTrati[static_cast<std::size_t>(k)].usek && relief.lblSouhlas.je(k) &&
                 relief.lblSouhlas[k].barva != barvy::seda)
                 return {DruhPrekazky::souhlas, k, vse};
-        const int predposledni = vse < 2 ? kZadny : c.prvky[vse - 2];
+        const int predposledni = vse < 2 ? kZadny : c.prvky[vse - 2].prvek;
         if ((predposledni == uzel::kKeKamenciOdMokriny || predposledni == uzel::kKeKamenciOdTesku) &&
             sipka_neni_seda(uzel::kKamenec))
             return {DruhPrekazky::kolej_118, uzel::kKamenec, vse};
@@ -136,7 +136,7 @@ Prekazka prekazka_zaveru(const Cesta& c) {
     for (std::size_t k = 1; k < c.prvky.size(); ++k) {
         if (druh_na(c, k) != druh_prvku::vyhybka)
             continue;
-        const int n = c.prvky[k];
+        const int n = c.prvky[k].prvek;
         if (stoji_na_vyhybce(n))
             return {DruhPrekazky::pod_vlakem, n, k};
         if (drzitel(druh_prvku::vyhybka, n) != &c)

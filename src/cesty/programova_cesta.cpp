@@ -10,9 +10,9 @@ Cesta& pridej_programovou_cestu(int zacatek, int konec, std::span<const std::int
     c = Cesta{};
     c.zacatek = na_integer(zacatek);
     c.konec = na_integer(konec);
-    c.prvky.assign(prvky.begin(), prvky.end());
-    c.druhy.assign(prvky.size(), druh_prvku::kolej);
-    c.polohy.assign(prvky.size(), 0);
+    c.prvky.clear();
+    for (const std::int16_t n : prvky)
+        c.prvky.push_back({n, druh_prvku::kolej, 0});
     c.VC = c.prehozena = c.Postavena = c.Provedena = true;
     c.prejezd = kBezPrejezdu;
     c.ZT = kZTprogramu;

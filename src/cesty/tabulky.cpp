@@ -88,14 +88,7 @@ const ObsahVazeb& obsah_vazeb() {
 } // namespace
 
 std::vector<ZaznamCesty> cti_cesty(const Bajty& bajty) {
-    std::vector<ZaznamCesty> zaznamy =
-        cti_zaznamy<ZaznamCesty>(bajty, [](auto& a, auto& z) { popis_zaznamu_cesty(a, z); });
-    // In a damaged table the lists may differ in length; what is missing reads as 0.
-    for (ZaznamCesty& z : zaznamy) {
-        z.druhy.resize(z.prvky.size());
-        z.polohy.resize(z.prvky.size());
-    }
-    return zaznamy;
+    return cti_zaznamy<ZaznamCesty>(bajty, [](auto& a, auto& z) { popis_zaznamu_cesty(a, z); });
 }
 
 std::vector<ZaznamVazeb> cti_vazby(const Bajty& bajty) {

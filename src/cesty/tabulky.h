@@ -10,31 +10,26 @@
 // has changed, with the same answers: the first record that matches wins.
 #pragma once
 
+#include "cesty/prvek_cesty.h"
 #include "zaklad/balik.h"
 #include "zaklad/text.h"
 
 #include <cstdint>
 #include <vector>
 
-// A route. The three lists have the same length: elements in running order from the track before the
-// signal, their kinds (1 track, 2 switch, 4 derailer), and for a switch the position it must have, for
-// a track 0 or 2 (its label is cleared at release).
+// A route.
 struct ZaznamCesty {
-    std::int16_t zacatek = -3; // start signal
-    std::int16_t konec = -3;   // end: the mate of a signal, a station track, a block section
-    std::vector<std::int16_t> prvky;
-    std::vector<std::uint8_t> druhy;
-    std::vector<std::uint8_t> polohy;
-    std::uint8_t rychlost = 0; // speed class: 0 free, 1, 2, 3 = 40, 60, 80 km/h
+    std::int16_t zacatek = -3;     // start signal
+    std::int16_t konec = -3;       // end: the mate of a signal, a station track, a block section
+    std::vector<PrvekCesty> prvky; // in running order, from the track before the signal
+    std::uint8_t rychlost = 0;     // speed class: 0 free, 1, 2, 3 = 40, 60, 80 km/h
     bool operator==(const ZaznamCesty&) const = default;
 };
 
 template <class A, class Z> void popis_zaznamu_cesty(A& a, Z& z) {
     a.i(z.zacatek);
     a.i(z.konec);
-    pole_i(a, z.prvky);
-    pole_b(a, z.druhy);
-    pole_b(a, z.polohy);
+    popis_prvku(a, z.prvky, "prvky", "druhy", "polohy"); // in a damaged table 0 stands for what is missing
     a.b(z.rychlost);
 }
 

@@ -134,15 +134,15 @@ void oznac_prvky(Cesta& c, std::size_t dosel) {
     c.prejezd = kBezPrejezdu;
     c.vyhybka = -3;
     for (std::size_t k = 1; k < c.prvky.size() && k <= dosel; ++k) {
-        const int n = c.prvky[k];
+        const int n = c.prvky[k].prvek;
         if (druh_na(c, k) == druh_prvku::vyhybka && k < dosel)
-            c.vyhybka = c.prvky[k];
+            c.vyhybka = c.prvky[k].prvek;
         if (druh_na(c, k) != druh_prvku::kolej)
             continue;
         if (const int prejezd = uzel::prejezd_nad(n); prejezd >= 0)
             c.prejezd = na_byte(prejezd);
         if (je_cil(n) && (!je_usek_trati(n) || n == uzel::kT2))
-            c.polohy[k] = 2;
+            c.prvky[k].poloha = 2;
     }
 }
 
@@ -178,7 +178,7 @@ void prikaz_vyhybce(int n, int poloha) {
 void prikaz_prvkum(const Cesta& c) {
     const std::size_t posledni = posledni_index(c);
     for (std::size_t k = 1; k <= posledni; ++k) {
-        const int n = c.prvky[k];
+        const int n = c.prvky[k].prvek;
         switch (druh_na(c, k)) {
         case druh_prvku::vyhybka: prikaz_vyhybce(n, poloha_na(c, k)); break;
         case druh_prvku::vykolejka: rezervuj_vykolejku(n); break;
@@ -208,7 +208,7 @@ void napis_smery(const Cesta& c) {
     if (k >= 0)
         nastav_text(relief.lblSouhlas[k], znak(uzel::kKonceTrati[static_cast<std::size_t>(k)].znak_ven));
     const std::size_t vse = c.prvky.size();
-    const int predposledni = vse < 2 ? kZadny : c.prvky[vse - 2];
+    const int predposledni = vse < 2 ? kZadny : c.prvky[vse - 2].prvek;
     if (predposledni == uzel::kKeKamenciOdMokriny)
         napis_sipku(uzel::kKamenec, kSipkaVlevo);
     if (predposledni == uzel::kKeKamenciOdTesku)
@@ -250,8 +250,7 @@ void stav_cestu(Cesta& c, Pruchod& pruchod) {
     }
     const Prekazka prekazka = prekazka_staveni(c);
     if (prekazka.druh != DruhPrekazky::navestidlo) {
-        c.polohy.resize(c.prvky.size());
-        c.polohy.front() = 2;
+        c.prvky.front().poloha = 2;
         oznac_prvky(c, prekazka.dosel);
     }
     if (prekazka)
@@ -271,7 +270,7 @@ void uzavri_vyhybku(const Cesta& c, int n, int poloha) {
 void uzavri_prvky(const Cesta& c) {
     const std::size_t posledni = posledni_index(c);
     for (std::size_t k = 1; k <= posledni; ++k) {
-        const int n = c.prvky[k];
+        const int n = c.prvky[k].prvek;
         switch (druh_na(c, k)) {
         case druh_prvku::vyhybka: uzavri_vyhybku(c, n, poloha_na(c, k)); break;
         case druh_prvku::vykolejka: uzavri_vykolejku(n); break;
@@ -287,13 +286,9 @@ void uzavri_prvky(const Cesta& c) {
 }
 
 void pripoj_usek(Cesta& c, int n) {
-    if (!je_kolej(n) || std::find(c.prvky.begin(), c.prvky.end(), n) != c.prvky.end())
+    if (!je_kolej(n) || obsahuje(c.prvky, n))
         return;
-    c.druhy.resize(c.prvky.size());
-    c.polohy.resize(c.prvky.size());
-    c.prvky.push_back(static_cast<std::int16_t>(n));
-    c.druhy.push_back(druh_prvku::kolej);
-    c.polohy.push_back(0);
+    c.prvky.push_back({static_cast<std::int16_t>(n), druh_prvku::kolej, 0});
 }
 
 // The open line becomes part of the route, section by section in its direction. While the signal waits
@@ -336,8 +331,7 @@ void uzavri_cestu(int i, Pruchod& pruchod) {
         poloz_smer(c);
         prodluz_po_trati(c);
     }
-    c.polohy.resize(c.prvky.size());
-    c.polohy.back() = 2;
+    c.prvky.back().poloha = 2;
     if (zbyva_prejezdu(c, pruchod.ted) > 0) {
         zablokuj(c, pruchod);
         return;

@@ -44,7 +44,7 @@ int index_cesty(const Cesta& c) {
 // Elements that no route ever paints, and the end of a route where something may stand, tell nothing
 // about the locking.
 bool bez_barvy_zaveru(const Cesta& c, std::size_t k) {
-    const int n = c.prvky[k];
+    const int n = c.prvky[k].prvek;
     if (je_usek_trati(n) || uzel::je_hranicni(n))
         return true;
     if (k != posledni_index(c))
@@ -53,7 +53,7 @@ bool bez_barvy_zaveru(const Cesta& c, std::size_t k) {
 }
 
 bool prvek_je_uzavren(const Cesta& c, std::size_t k) {
-    const int n = c.prvky[k];
+    const int n = c.prvky[k].prvek;
     switch (druh_na(c, k)) {
     case druh_prvku::vyhybka: return poloha_stavu(stav_vyhybky_cislo(n)) == poloha_na(c, k);
     case druh_prvku::kolej:
@@ -103,13 +103,13 @@ void uvolni_prvek(int n) {
 
 // The route has lost switch k: others may have it, run over it, or throw it now.
 bool ztratila_vyhybku(const Cesta& c, std::size_t k) {
-    const int n = c.prvky[k];
+    const int n = c.prvky[k].prvek;
     return poloha_stavu(stav_vyhybky_cislo(n)) != poloha_na(c, k) || drzi_jina(c, k) || stoji_na_vyhybce(n);
 }
 
 void uvolni_prvky(const Cesta& c) {
     for (std::size_t k = 1; k < c.prvky.size(); ++k) {
-        const int n = c.prvky[k];
+        const int n = c.prvky[k].prvek;
         switch (druh_na(c, k)) {
         case druh_prvku::vyhybka:
             if (!ztratila_vyhybku(c, k))
@@ -132,12 +132,12 @@ bool vlak_stoji_v_cili(const Cesta& c) {
     if (c.Vlak < 0 || static_cast<std::size_t>(c.Vlak) >= vlaky.size())
         return false;
     const Vlak& v = vlak_c(c.Vlak);
-    return !v.prvky.empty() && v.prvky.back() == posledni_prvek(c) &&
+    return !v.prvky.empty() && v.prvky.back().prvek == posledni_prvek(c) &&
            v.prvek_konec == static_cast<int>(v.prvky.size()) - 1;
 }
 
 void uvolni_vyhybku_bez_vlaku(const Cesta& c, std::size_t k) {
-    const int n = c.prvky[k], poloha = poloha_na(c, k);
+    const int n = c.prvky[k].prvek, poloha = poloha_na(c, k);
     const int zaver = zaver_vyhybek(c);
     const int stav = stav_vyhybky_cislo(n);
     const bool stoji = stoji_na_vyhybce(n);
@@ -151,7 +151,7 @@ void uvolni_vyhybku_bez_vlaku(const Cesta& c, std::size_t k) {
 }
 
 void uvolni_prvek_bez_vlaku(const Cesta& c, std::size_t k) {
-    const int n = c.prvky[k];
+    const int n = c.prvky[k].prvek;
     switch (druh_na(c, k)) {
     case druh_prvku::vyhybka: uvolni_vyhybku_bez_vlaku(c, k); break;
     case druh_prvku::vykolejka:
@@ -185,7 +185,7 @@ void zastav_cestu(Cesta& c) {
 // RNZ gives every switch of its route the state at rest: not one that another route has taken since, and not
 // one that would move under a train.
 bool uvolni_rnz(const Cesta& c, std::size_t k) {
-    const int n = c.prvky[k];
+    const int n = c.prvky[k].prvek;
     return !drzi_jina(c, k) &&
            (poloha_stavu(stav_vyhybky_cislo(n)) == poloha_na(c, k) || !stoji_na_vyhybce(n));
 }
@@ -251,7 +251,7 @@ void obnov_cestu(int s) {
     if (c == nullptr || je_zablokovano(s))
         return;
     if (c->prvky.size() > 1 && druh_na(*c, 1) == druh_prvku::kolej &&
-        relief.kolej[c->prvky[1]].barva == barvy::cervena)
+        relief.kolej[c->prvky[1].prvek].barva == barvy::cervena)
         return;
     c->Postavena = true;
     if (c->cas_ruseni > 0) {
@@ -282,7 +282,7 @@ void stuj_bez_vyhybky(int n) {
         if (!x.Postavena || !x.Provedena || x.cas_ruseni >= 0 || (x.PN ? x.PN_do <= ted : x.Umazat != 0))
             return false;
         for (std::size_t k = 1; k < x.prvky.size(); ++k)
-            if (x.prvky[k] == n && druh_na(x, k) == druh_prvku::vyhybka)
+            if (x.prvky[k].prvek == n && druh_na(x, k) == druh_prvku::vyhybka)
                 return drzitel(druh_prvku::vyhybka, n) != &x;
         return false;
     };
@@ -305,7 +305,7 @@ void rnz(int s) {
     // A second RNZ, while the train still stands across the route, touches no switch: they are free for
     // other routes since the first one.
     for (std::size_t k = 1; k < c->prvky.size() && !c->PN_zaver; ++k) {
-        const int n = c->prvky[k];
+        const int n = c->prvky[k].prvek;
         if (druh_na(*c, k) == druh_prvku::vyhybka && uvolni_rnz(*c, k))
             uvolni_zaver_vyhybky(n, poloha_na(*c, k));
         if (druh_na(*c, k) == druh_prvku::vykolejka)

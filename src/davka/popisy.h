@@ -1,8 +1,9 @@
 // davka/popisy.h - the fields of each record by their own names.
 //
-// One list a record serves printing, checking and setting. It is a function template `popis_poli(a, z)`
-// with Z the record or a const record, and two archives walk it: DoJsonu prints every field, NastavPole
-// changes the one that is named. A new table needs its list here and its row in vypisy.cpp.
+// One list a record serves printing, checking and setting, and for what is saved the file as well. It is a
+// function template `popis_poli(a, z)` with Z the record or a const record; it stands beside the record when
+// that is saved or read from a file, else here. Two archives walk it: DoJsonu prints every field, NastavPole
+// changes the one that is named. A new table needs its list and its row in vypisy.cpp.
 #pragma once
 
 #include "app/parametry.h"
@@ -19,15 +20,14 @@
 #include "prvky/stanicni_prejezdy.h"
 #include "relief/prejezdy.h"
 
+#include <array>
 #include <concepts>
 #include <limits>
+#include <span>
 #include <string>
 #include <string_view>
 #include <type_traits>
 #include <vector>
-
-template <class Z, class Zaznam>
-concept ZaznamJe = std::same_as<std::remove_const_t<Z>, Zaznam>;
 
 // Without the selected field, which is printed by its name.
 template <class A, ZaznamJe<Parametry> Z> void popis_poli(A& a, Z& z) {
@@ -53,116 +53,6 @@ template <class A, ZaznamJe<Parametry> Z> void popis_poli(A& a, Z& z) {
     a.pole("stranka", z.stranka);
 }
 
-template <class A, ZaznamJe<Cesta> Z> void popis_poli(A& a, Z& z) {
-    a.pole("zacatek", z.zacatek);
-    a.pole("konec", z.konec);
-    a.pole("prvky", z.prvky);
-    a.pole("druhy", z.druhy);
-    a.pole("polohy", z.polohy);
-    a.pole("Kdy_prehoz", z.Kdy_prehoz);
-    a.pole("rychlost", z.rychlost);
-    a.pole("VC", z.VC);
-    a.pole("PN", z.PN);
-    a.pole("PN_do", z.PN_do);
-    a.pole("PN_zaver", z.PN_zaver);
-    a.pole("cas_stavby", z.cas_stavby);
-    a.pole("prehozena", z.prehozena);
-    a.pole("Postavena", z.Postavena);
-    a.pole("Provedena", z.Provedena);
-    a.pole("cas_ruseni", z.cas_ruseni);
-    a.barva("barva_cisla", z.barva_cisla);
-    a.pole("Vlak", z.Vlak);
-    a.pole("Umazat", z.Umazat);
-    a.pole("vyhybka", z.vyhybka);
-    a.pole("varovani", z.varovani);
-    a.pole("rezerva", z.rezerva);
-    a.pole("prejezd", z.prejezd);
-    a.pole("prejezd_zaver", z.prejezd_zaver);
-    a.pole("ZT", z.ZT);
-}
-
-template <class A, ZaznamJe<Vlak> Z> void popis_poli(A& a, Z& z) {
-    a.pole("stanice", z.stanice);
-    a.pole("prijezd", z.prijezd);
-    a.pole("odjezd", z.odjezd);
-    a.pole("odjezd_realny", z.odjezd_realny);
-    a.pole("druh", z.druh);
-    a.pole("cislo", z.cislo);
-    a.pole("druh2", z.druh2);
-    a.pole("cislo2", z.cislo2);
-    a.pole("stanice_zmeny", z.stanice_zmeny);
-    a.pole("posun", z.posun);
-    a.pole("nazev", z.nazev);
-    a.pole("max_rychlost", z.max_rychlost);
-    a.pole("delka", z.delka);
-    a.pole("gvd_hodnota", z.gvd_hodnota);
-    a.pole("loko_rada", z.loko_rada);
-    a.pole("loko_rada2", z.loko_rada2);
-    a.pole("hodnota_2", z.hodnota_2);
-    a.pole("vozy", z.vozy);
-    a.pole("vozy_urceni", z.vozy_urceni);
-    a.pole("vozy_obrazek", z.vozy_obrazek);
-    a.pole("poznamka", z.poznamka);
-    a.pole("pokyn", z.pokyn);
-    a.pole("dny", z.dny);
-    a.pole("priznaky", z.priznaky);
-    a.pole("stanice_index", z.stanice_index);
-    a.pole("muze_jet", z.muze_jet);
-    a.pole("prvky", z.prvky);
-    a.pole("prvky_druh", z.prvky_druh);
-    a.pole("prvky_poloha", z.prvky_poloha);
-    a.pole("prvek_konec", z.prvek_konec);
-    a.pole("smer", z.smer);
-    a.pole("rychlost", z.rychlost);
-    a.pole("rychlost_trati", z.rychlost_trati);
-    a.pole("rychlost_cesty", z.rychlost_cesty);
-    a.pole("konec_omezeni", z.konec_omezeni);
-    a.pole("omezeni_ukonceno", z.omezeni_ukonceno);
-    a.pole("rezerva", z.rezerva);
-    a.pole("cislo2_platne", z.cislo2_platne);
-    a.pole("zpozdeni_vstup", z.zpozdeni_vstup);
-    a.pole("zpozdeni", z.zpozdeni);
-}
-
-template <class A, ZaznamJe<KolejVlaky> Z> void popis_poli(A& a, Z& z) {
-    a.pole("prvek", z.prvek);
-    a.pole("vlaky", z.vlaky);
-}
-
-template <class A, ZaznamJe<GvdVlak> Z> void popis_poli(A& a, Z& z) {
-    a.pole("stanice", z.stanice);
-    a.pole("prijezdy", z.prijezdy);
-    a.pole("odjezdy", z.odjezdy);
-    a.pole("druh", z.druh);
-    a.pole("cislo", z.cislo);
-    a.pole("druh2", z.druh2);
-    a.pole("cislo2", z.cislo2);
-    a.pole("stanice_zmeny", z.stanice_zmeny);
-    a.pole("nazev", z.nazev);
-    a.pole("rychlost", z.rychlost);
-    a.pole("delka", z.delka);
-    a.pole("gvd_hodnota", z.gvd_hodnota);
-    a.pole("loko_rada", z.loko_rada);
-    a.pole("loko_rada2", z.loko_rada2);
-    a.pole("hodnota_2", z.hodnota_2);
-    a.pole("vozy", z.vozy);
-    a.pole("vozy_vlaky", z.vozy_vlaky);
-    a.pole("poznamka", z.poznamka);
-    a.pole("text_2", z.text_2);
-    a.pole("text_3", z.text_3);
-    a.pole("kolej", z.kolej);
-    a.pole("navazny_vlak", z.navazny_vlak);
-    a.pole("dny", z.dny);
-    a.pole("priznaky", z.priznaky);
-}
-
-template <class A, ZaznamJe<DalsiVlak> Z> void popis_poli(A& a, Z& z) {
-    a.pole("cas", z.cas);
-    a.pole("cislo", z.cislo);
-    a.pole("druh", z.druh);
-    a.pole("predpoklad", z.predpoklad);
-}
-
 template <class A, ZaznamJe<Vyber> Z> void popis_poli(A& a, Z& z) {
     a.pole("volba_zacatek", z.volba_zacatek);
     a.pole("volba_konec", z.volba_konec);
@@ -175,31 +65,6 @@ template <class A, ZaznamJe<Vyber> Z> void popis_poli(A& a, Z& z) {
     a.pole("makro_zacatky", z.makro_zacatky);
     a.pole("makro_konce", z.makro_konce);
     a.pole("makro_druhy", z.makro_druhy);
-}
-
-template <class A, ZaznamJe<StanicniPrejezd> Z> void popis_poli(A& a, Z& z) {
-    a.pole("uzavren", z.uzavren);
-    a.pole("UZ", z.UZ);
-    a.pole("rezerva1", z.rezerva1);
-    a.pole("rezerva2", z.rezerva2);
-    a.pole("cas", z.cas);
-    a.pole("pocet", z.pocet);
-}
-
-template <class A, ZaznamJe<Prejezd> Z> void popis_poli(A& a, Z& z) {
-    a.pole("zona", z.zona);
-    a.pole("vyluka", z.vyluka);
-    a.pole("uvolnen", z.uvolnen);
-    a.pole("kolej", z.kolej);
-    a.pole("poloha", z.poloha);
-    a.pole("nazev", z.nazev);
-}
-
-template <class A, ZaznamJe<StitekPrvku> Z> void popis_poli(A& a, Z& z) {
-    a.pole("prvek", z.prvek);
-    a.pole("stitek", z.stitek);
-    a.pole("nvl", z.nvl);
-    a.pole("vyluka", z.vyluka);
 }
 
 template <class A, ZaznamJe<ZpravaFronty> Z> void popis_poli(A& a, Z& z) {
@@ -262,6 +127,8 @@ template <class T> void precti_hodnotu(std::string_view hodnota, std::string_vie
     x = std::move(nove);
 }
 void precti_barvu(std::string_view hodnota, std::string_view pole, Barva& x);
+// The error of the script that lists of one length would differ in it.
+[[noreturn]] void chyba_seznamu(std::span<const std::string_view> jmena);
 
 // --- archives
 
@@ -269,6 +136,18 @@ struct DoJsonu {
     ZaznamJsonu& cil;
     template <class T> void pole(std::string_view jmeno, const T& x) { pridej(cil, jmeno, json_hodnota(x)); }
     void barva(std::string_view jmeno, Barva x) { pridej(cil, jmeno, json_barva(x)); }
+    template <class T> void rezerva(std::string_view jmeno, const T& x) { pole(jmeno, x); }
+    void preskoc(std::size_t) {}
+    template <class T, class... S> void sloupce(const std::vector<T>& x, Sloupec<T, S>... sloupec) {
+        const auto seznam = [&](const auto& s) {
+            SeznamJsonu hodnoty;
+            hodnoty.reserve(x.size());
+            for (const T& polozka : x)
+                hodnoty.push_back(json_hodnota(polozka.*s.clen));
+            pridej(cil, s.jmeno, Json(std::move(hodnoty)));
+        };
+        (seznam(sloupec), ...);
+    }
 };
 
 struct NastavPole {
@@ -286,6 +165,52 @@ struct NastavPole {
             nalezeno = true;
         }
     }
+    template <class T> void rezerva(std::string_view j, T& x) { pole(j, x); }
+    void preskoc(std::size_t) {}
+    // Lists that belong together change together, at the end of the command: NastavSeznamy.
+    template <class T, class... S> void sloupce(std::vector<T>&, Sloupec<T, S>... sloupec) {
+        nalezeno = nalezeno || ((sloupec.jmeno == jmeno) || ...);
+    }
+};
+
+// The first list of the group tells how many records there are, and the others may end sooner: their records
+// are complete without them. So a train is given its vehicles, of which many have no next work.
+template <class T> inline constexpr bool vede_prvni_seznam = std::is_same_v<T, Vuz>;
+
+// The lists of small records that a command names: each of their fields is a list of its own there.
+struct NastavSeznamy {
+    std::span<const Prirazeni> prirazeni;
+    template <class T> void pole(std::string_view, T&) {}
+    void barva(std::string_view, Barva&) {}
+    template <class T> void rezerva(std::string_view, T&) {}
+    void preskoc(std::size_t) {}
+    template <class T, class... S> void sloupce(std::vector<T>& x, Sloupec<T, S>... sloupec) {
+        std::vector<T> nove = x;
+        std::size_t poradi = 0, nastaveno = 0;
+        bool stejne = true;
+        const auto nastav = [&]<class P>(Sloupec<T, P> s) {
+            const bool prvni = poradi++ == 0;
+            for (const Prirazeni& p : prirazeni) {
+                if (p.pole != s.jmeno)
+                    continue;
+                std::vector<P> hodnoty;
+                precti_hodnotu(p.hodnota, p.pole, hodnoty);
+                if (vede_prvni_seznam<T> ? prvni : nastaveno == 0)
+                    nove.resize(hodnoty.size());
+                ++nastaveno;
+                if (vede_prvni_seznam<T> && hodnoty.size() < nove.size())
+                    hodnoty.resize(nove.size());
+                stejne = stejne && hodnoty.size() == nove.size();
+                for (std::size_t k = 0; stejne && k < hodnoty.size(); ++k)
+                    nove[k].*s.clen = std::move(hodnoty[k]);
+            }
+        };
+        (nastav(sloupec), ...);
+        const bool uplne = vede_prvni_seznam<T> || nastaveno == sizeof...(S) || nove.size() == x.size();
+        if (!stejne || !uplne)
+            chyba_seznamu(std::array{sloupec.jmeno...});
+        x = std::move(nove);
+    }
 };
 
 // All fields of a record, behind what `zaznam` already holds.
@@ -293,9 +218,15 @@ template <class Z> void pridej_pole(ZaznamJsonu& zaznam, const Z& z) {
     DoJsonu archiv{zaznam};
     popis_poli(archiv, z);
 }
-// Changes the field `jmeno`; false when the record has no such field.
+// Changes the field `jmeno`; false when the record has no such field. A field that is one of several lists
+// of one length is left to nastav_seznamy.
 template <class Z> bool nastav_pole(Z& z, std::string_view jmeno, std::string_view hodnota) {
     NastavPole archiv{jmeno, hodnota};
     popis_poli(archiv, z);
     return archiv.nalezeno;
+}
+// Changes the lists of one length; an error of the script when they would differ in it.
+template <class Z> void nastav_seznamy(Z& z, std::span<const Prirazeni> prirazeni) {
+    NastavSeznamy archiv{prirazeni};
+    popis_poli(archiv, z);
 }

@@ -223,14 +223,31 @@ void nastav_cas(const Prirazeni& co) {
             relief.lblcas[n].text = cas;
 }
 
+// A stop is an entry of each of four lists.
+void over_zastavky(const Cesta&, std::span<const Prirazeni>) {}
+void over_zastavky(const Vlak& v, std::span<const Prirazeni> prirazeni) {
+    constexpr std::array<std::string_view, 4> kSeznamy = {"stanice", "prijezd", "odjezd", "odjezd_realny"};
+    const bool zmena = std::any_of(prirazeni.begin(), prirazeni.end(), [&](const Prirazeni& p) {
+        return std::find(kSeznamy.begin(), kSeznamy.end(), p.pole) != kSeznamy.end();
+    });
+    const std::size_t zastavek = v.stanice.size();
+    if (zmena &&
+        (v.prijezd.size() != zastavek || v.odjezd.size() != zastavek || v.odjezd_realny.size() != zastavek))
+        chyba_seznamu(kSeznamy);
+}
+
 template <class Zaznam>
 void nastav_zaznam(std::vector<Zaznam>& tabulka, std::string_view slovo, std::int64_t index,
-                   const Prirazeni& co) {
+                   std::span<const Prirazeni> prirazeni) {
     if (index < 0 || index >= static_cast<std::int64_t>(tabulka.size()))
         chyba_skriptu(std::string(slovo) + " " + std::to_string(index) + " není; záznamů je " +
                       std::to_string(tabulka.size()));
-    if (!nastav_pole(tabulka[static_cast<std::size_t>(index)], co.pole, co.hodnota))
-        chyba_skriptu(std::string(slovo) + " nemá pole " + v_uvozovkach(co.pole));
+    Zaznam& zaznam = tabulka[static_cast<std::size_t>(index)];
+    for (const Prirazeni& co : prirazeni)
+        if (!nastav_pole(zaznam, co.pole, co.hodnota))
+            chyba_skriptu(std::string(slovo) + " nemá pole " + v_uvozovkach(co.pole));
+    nastav_seznamy(zaznam, prirazeni);
+    over_zastavky(zaznam, prirazeni);
 }
 
 void prikaz_nastav(BehSkriptu&, Slova slova) {
@@ -238,21 +255,23 @@ void prikaz_nastav(BehSkriptu&, Slova slova) {
     if (slova.size() == cil.slov)
         chyba_skriptu("nastav: chybí POLE=HODNOTA");
     prijmi_majitele();
-    for (const std::string& slovo : slova.subspan(cil.slov)) {
-        const Prirazeni co = prirazeni(slovo);
-        if (cil.druh) {
-            if (!tabulka(*cil.druh).je(cil.cislo))
-                chyba_skriptu("prvek " + cil.slovo + " " + std::to_string(cil.cislo) + " neexistuje");
+    std::vector<Prirazeni> vse;
+    for (const std::string& slovo : slova.subspan(cil.slov))
+        vse.push_back(prirazeni(slovo));
+    if (cil.druh) {
+        if (!tabulka(*cil.druh).je(cil.cislo))
+            chyba_skriptu("prvek " + cil.slovo + " " + std::to_string(cil.cislo) + " neexistuje");
+        for (const Prirazeni& co : vse)
             nastav_prvek(tabulka(*cil.druh)[cil.cislo], co);
-        } else if (cil.slovo == "hodiny") {
+    } else if (cil.slovo == "hodiny") {
+        for (const Prirazeni& co : vse)
             nastav_cas(co);
-        } else if (cil.slovo == "cesta") {
-            nastav_zaznam(cesty, cil.slovo, cil.cislo, co);
-        } else if (cil.slovo == "vlak") {
-            nastav_zaznam(vlaky, cil.slovo, cil.cislo, co);
-        } else {
-            chyba_skriptu("nastavit jde prvek, vlak, cesta nebo hodiny, ne " + v_uvozovkach(cil.slovo));
-        }
+    } else if (cil.slovo == "cesta") {
+        nastav_zaznam(cesty, cil.slovo, cil.cislo, vse);
+    } else if (cil.slovo == "vlak") {
+        nastav_zaznam(vlaky, cil.slovo, cil.cislo, vse);
+    } else {
+        chyba_skriptu("nastavit jde prvek, vlak, cesta nebo hodiny, ne " + v_uvozovkach(cil.slovo));
     }
 }
 

@@ -34,12 +34,12 @@ const Vlak* skutecny_vlak(int v) {
     return &vlak_c(v);
 }
 
-int rada_na(const std::vector<Text>& vozy, std::size_t i) {
-    return i < vozy.size() ? static_cast<int>(cele_z_textu(vozy[i])) : 0;
+int rada_prvniho(const Vlak& v) {
+    return v.vozy.empty() ? 0 : static_cast<int>(cele_z_textu(v.vozy.front().rada));
 }
 
 Text prvni_urceni(const Vlak& v) {
-    return v.vozy_urceni.empty() ? Text{} : v.vozy_urceni.front();
+    return v.vozy.empty() ? Text{} : v.vozy.front().urceni;
 }
 
 // Row of a number: today's, else the first one.
@@ -82,7 +82,8 @@ std::int32_t odkud_lokomotiva(const Vlak& v) {
     for (const GvdVlak& r : gvd_vlaky) {
         const std::size_t pocet = std::min(r.vozy.size(), r.vozy_vlaky.size());
         for (std::size_t i = 0; i < pocet; ++i)
-            if (r.vozy_vlaky[i] == v.cislo && rada_na(r.vozy, i) == v.loko_rada2 && aktivni_dnes(r))
+            if (r.vozy_vlaky[i] == v.cislo && static_cast<int>(cele_z_textu(r.vozy[i])) == v.loko_rada2 &&
+                aktivni_dnes(r))
                 return r.cislo;
     }
     return zobrazene_cislo(v);
@@ -110,7 +111,7 @@ Text prace_lokomotiv(const Vlak& v) {
         text += text_cisla(pomocna);
     }
     const bool ceka_na_vymenu = (v.priznaky & (priznak_vlaku::druhe_loko | priznak_vlaku::pripraz)) == 0 &&
-                                v.loko_rada2 != 0 && rada_na(v.vozy, 0) != v.loko_rada2;
+                                v.loko_rada2 != 0 && rada_prvniho(v) != v.loko_rada2;
     if (ceka_na_vymenu) {
         text += z_thj ? "; z THJ lok.ř."_cz : "; z THN lok.ř."_cz;
         text += text_cisla(v.loko_rada2) + "(" + text_cisla(odkud_lokomotiva(v)) + ")";
@@ -154,7 +155,8 @@ Vlak vlak_podle_gvd(const GvdVlak& r) {
     v.delka = r.delka;
     v.loko_rada = r.loko_rada;
     v.loko_rada2 = r.loko_rada2;
-    v.vozy = r.vozy;
+    for (const Text& rada : r.vozy)
+        v.vozy.push_back({rada, {}, {}});
     v.pokyn = r.kolej;
     v.dny = r.dny;
     v.priznaky = r.priznaky;
@@ -196,7 +198,7 @@ Text text_posunu(int vlak, const Vlak& v) {
     const std::int32_t predchozi = cislo_vlaku_pred(vlak);
     const std::int32_t cislo = predchozi != 0 ? predchozi : zobrazene_cislo(v);
     Text text;
-    if (v.vozy.size() > 1 || rada_na(v.vozy, 0) > kPrvniMotorovyVuz)
+    if (v.vozy.size() > 1 || rada_prvniho(v) > kPrvniMotorovyVuz)
         text = " Souprava vlaku " + text_cisla(cislo);
     else if (stroj && urceni == "DKV")
         text = " Lokomotiva do DKV";
@@ -223,7 +225,7 @@ bool ma_ram(TextPohled obrazek) {
 }
 
 Text obrazek_vozu_vlaku(const Vlak& v, std::size_t i) {
-    return i < v.vozy_obrazek.size() ? v.vozy_obrazek[i] : Text{};
+    return v.vozy[i].obrazek;
 }
 
 // The pictures stand for no vehicle: they take no clicks.
@@ -249,11 +251,10 @@ void napln_vozy(const Vlak& v) {
         const std::size_t k = static_cast<std::size_t>(i);
         Prvek& obrazek = v_rade(relief.imgObrzaek_vlaku, i);
         obrazek.stav = obrazek_vozu_vlaku(v, k);
-        obrazek.popis = v.vozy[k];
+        obrazek.popis = v.vozy[k].rada;
         obrazek.ramecek = ma_ram(obrazek.stav());
         obrazek.povoleny = true;
-        v_rade(relief.lblPopis_vozu, i).text =
-            popis_vozu(v.vozy[k], k < v.vozy_urceni.size() ? TextPohled(v.vozy_urceni[k]) : TextPohled{});
+        v_rade(relief.lblPopis_vozu, i).text = popis_vozu(v.vozy[k].rada, v.vozy[k].urceni);
     }
     for (int i = pocet; i <= relief.imgObrzaek_vlaku.nejvyssi(); ++i) {
         Prvek& obrazek = relief.imgObrzaek_vlaku[i];
@@ -404,7 +405,7 @@ bool vozy_na_panelu_jsou(const Vlak& v) {
         return false;
     for (std::size_t i = 0; i < v.vozy.size(); ++i) {
         const Prvek& obrazek = relief.imgObrzaek_vlaku[static_cast<int>(i)];
-        if (obrazek.popis() != v.vozy[i] || obrazek.stav() != obrazek_vozu_vlaku(v, i))
+        if (obrazek.popis() != v.vozy[i].rada || obrazek.stav() != obrazek_vozu_vlaku(v, i))
             return false;
     }
     return true;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "relief/prvek.h"
+#include "zaklad/balik.h"
 #include "zaklad/text.h"
 
 #include <cstdint>
@@ -13,6 +14,14 @@ struct StitekPrvku {
     Text stitek, nvl, vyluka; // each may be empty
     bool operator==(const StitekPrvku&) const = default;
 };
+
+// The fields under their names, in the order of a saved record.
+template <class A, ZaznamJe<StitekPrvku> Z> constexpr void popis_poli(A& a, Z& z) {
+    a.pole("prvek", z.prvek);
+    a.pole("stitek", z.stitek);
+    a.pole("nvl", z.nvl);
+    a.pole("vyluka", z.vyluka);
+}
 extern std::vector<StitekPrvku> stitky; // starts with one empty record
 
 // Index of the record of the element; -1 when it has none.

@@ -111,7 +111,7 @@ void nacti_gvd_z(std::span<const std::uint8_t> bajty) {
     std::vector<GvdVlak> nove;
     while (c.ok && !c.na_konci()) {
         GvdVlak radek;
-        popis_gvd_vlaku(c, radek);
+        popis_poli(c, radek);
         if (c.ok && pouzitelny(radek))
             nove.push_back(std::move(radek));
     }

@@ -41,32 +41,32 @@ struct GvdVlak {
     bool operator==(const GvdVlak&) const = default;
 };
 
-// The record as it stands in the file.
-template <class A, class Z> void popis_gvd_vlaku(A& a, Z& z) {
-    pole_b(a, z.stanice);
-    pole_i(a, z.prijezdy);
-    pole_i(a, z.odjezdy);
-    a.b(z.druh);
-    a.l(z.cislo);
-    a.b(z.druh2);
-    a.l(z.cislo2);
-    a.b(z.stanice_zmeny);
-    a.text(z.nazev);
-    a.b(z.rychlost);
-    a.i(z.delka);
-    a.i(z.gvd_hodnota);
-    a.i(z.loko_rada);
-    a.i(z.loko_rada2);
-    a.i(z.hodnota_2);
-    pole_textu(a, z.vozy);
-    pole_i(a, z.vozy_vlaky);
-    a.text(z.poznamka);
-    a.text(z.text_2);
-    a.text(z.text_3);
-    a.text(z.kolej);
-    a.text(z.navazny_vlak);
-    a.b(z.dny);
-    a.b(z.priznaky);
+// The fields under their names, in the order of the file.
+template <class A, ZaznamJe<GvdVlak> Z> constexpr void popis_poli(A& a, Z& z) {
+    a.pole("stanice", z.stanice);
+    a.pole("prijezdy", z.prijezdy);
+    a.pole("odjezdy", z.odjezdy);
+    a.pole("druh", z.druh);
+    a.pole("cislo", z.cislo);
+    a.pole("druh2", z.druh2);
+    a.pole("cislo2", z.cislo2);
+    a.pole("stanice_zmeny", z.stanice_zmeny);
+    a.pole("nazev", z.nazev);
+    a.pole("rychlost", z.rychlost);
+    a.pole("delka", z.delka);
+    a.pole("gvd_hodnota", z.gvd_hodnota);
+    a.pole("loko_rada", z.loko_rada);
+    a.pole("loko_rada2", z.loko_rada2);
+    a.pole("hodnota_2", z.hodnota_2);
+    a.pole("vozy", z.vozy);
+    a.pole("vozy_vlaky", z.vozy_vlaky);
+    a.pole("poznamka", z.poznamka);
+    a.pole("text_2", z.text_2);
+    a.pole("text_3", z.text_3);
+    a.pole("kolej", z.kolej);
+    a.pole("navazny_vlak", z.navazny_vlak);
+    a.pole("dny", z.dny);
+    a.pole("priznaky", z.priznaky);
 }
 
 // The rows and beside them the registers that find them: made when a timetable comes in, so that a look-up

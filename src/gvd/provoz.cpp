@@ -133,8 +133,8 @@ void vstup_z_posty(int gvd_index) {
         return;
     const std::int16_t v = vytvor_vlak(false, uzel::kKusaKolej, true, kNaVstupu, gvd_index);
     Vlak& vlak = vlak_c(v);
-    if (!vlak.vozy_urceni.empty())
-        vlak.vozy_urceni.front() = "ZAL";
+    if (!vlak.vozy.empty())
+        vlak.vozy.front().urceni = "ZAL";
     ++stav_provozu.pocet_zaloh;
     pridej_do_tabulky(v);
     barvi_prvek(uzel::kKusaKolej, barvy::cervena);

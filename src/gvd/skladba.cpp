@@ -53,7 +53,8 @@ void prevezmi_radek(Vlak& v, const GvdVlak& r) {
     v.nazev = r.nazev;
     v.max_rychlost = r.rychlost;
     v.poznamka = r.poznamka;
-    v.vozy = r.vozy;
+    for (const Text& rada : r.vozy)
+        v.vozy.push_back({rada, {}, {}});
     v.priznaky = r.priznaky;
 }
 
@@ -68,16 +69,14 @@ void pridej_urceni(Vlak& v, const GvdVlak& r, int element) {
     const bool z_depa = element == uzel::kPristaveniA || element == uzel::kPristaveniB;
     for (std::size_t i = 0; i < v.vozy.size(); ++i) {
         if (z_depa)
-            v.vozy_urceni.push_back(text_cisla(v.cislo));
+            v.vozy[i].urceni = text_cisla(v.cislo);
         else if (v.loko_rada == uzel::kJednotka)
-            v.vozy_urceni.push_back(r.navazny_vlak);
+            v.vozy[i].urceni = r.navazny_vlak;
         else if (i < r.vozy_vlaky.size() && r.vozy_vlaky[i] != 0)
-            v.vozy_urceni.push_back(text_cisla(r.vozy_vlaky[i]));
-        else
-            v.vozy_urceni.emplace_back();
+            v.vozy[i].urceni = text_cisla(r.vozy_vlaky[i]);
     }
-    if (!v.vozy_urceni.empty() && cislo_z_textu(v.vozy_urceni.front()) == 0)
-        v.vozy_urceni.front() = r.navazny_vlak;
+    if (!v.vozy.empty() && cislo_z_textu(v.vozy.front().urceni) == 0)
+        v.vozy.front().urceni = r.navazny_vlak;
 }
 
 Text obrazek_ridiciho(int rada) {
@@ -97,33 +96,32 @@ Text obrazek_vozidla(const Text& vuz, bool ridici) {
 // Two motor coaches with a cab each, trailers between them. "p" is the one with its cab at the right end:
 // the front one of a train that runs to the right, otherwise the last one.
 void obrazky_jednotky(Vlak& v, const Text& jmeno) {
-    std::fill(v.vozy_obrazek.begin() + 1, v.vozy_obrazek.end(),
-              nahrad_v_textu(jmeno, uzel::kVuzJednotky, uzel::kVlozenyVuzJednotky));
-    v.vozy_obrazek.back() = jmeno;
-    (v.smer ? v.vozy_obrazek.front() : v.vozy_obrazek.back()) =
+    for (std::size_t i = 1; i < v.vozy.size(); ++i)
+        v.vozy[i].obrazek = nahrad_v_textu(jmeno, uzel::kVuzJednotky, uzel::kVlozenyVuzJednotky);
+    v.vozy.back().obrazek = jmeno;
+    (v.smer ? v.vozy.front().obrazek : v.vozy.back().obrazek) =
         nahrad_v_textu(jmeno, uzel::kVuzJednotky, uzel::kCelniVuzJednotky);
 }
 
 void pridej_obrazky(Vlak& v) {
     if (v.vozy.empty())
         return;
-    v.vozy_obrazek.resize(v.vozy.size());
     if (v.loko_rada == 0) // a set without a locomotive: its first vehicle is drawn as what it is
-        v.vozy_obrazek.front() = obrazek_vozidla(v.vozy.front(), v.smer);
+        v.vozy.front().obrazek = obrazek_vozidla(v.vozy.front().rada, v.smer);
     else
-        v.vozy_obrazek.front() = uzel::je_rada_ridiciho(v.loko_rada) && v.smer ? obrazek_ridiciho(v.loko_rada)
+        v.vozy.front().obrazek = uzel::je_rada_ridiciho(v.loko_rada) && v.smer ? obrazek_ridiciho(v.loko_rada)
                                                                                : obrazek_vozu(v.loko_rada);
-    if (je_rada(v.vozy.front(), uzel::kJednotka)) {
-        obrazky_jednotky(v, Text(v.vozy_obrazek.front()));
+    if (je_rada(v.vozy.front().rada, uzel::kJednotka)) {
+        obrazky_jednotky(v, Text(v.vozy.front().obrazek));
         return;
     }
     for (std::size_t i = 1; i < v.vozy.size(); ++i)
-        v.vozy_obrazek[i] = obrazek_vozidla(v.vozy[i], !v.smer);
+        v.vozy[i].obrazek = obrazek_vozidla(v.vozy[i].rada, !v.smer);
 }
 
 void nasad(Vlak& v, std::size_t i, int rada) {
-    v.vozy[i] = text_cisla(rada);
-    v.vozy_obrazek[i] = obrazek_vozu(rada);
+    v.vozy[i].rada = text_cisla(rada);
+    v.vozy[i].obrazek = obrazek_vozu(rada);
 }
 
 bool meni_lokomotivu(int stanice) {
@@ -140,9 +138,9 @@ void lokomotivy_na_ceste(Vlak& v, int index) {
     const bool ma_druhy = v.vozy.size() > 1;
     if (v.loko_rada2 != 0) {
         nasad(v, 0, v.loko_rada2);
-        if (v.vozy.size() > 2 && je_rada(v.vozy[1], v.loko_rada)) {
-            v.vozy[1] = v.vozy[2];
-            v.vozy_obrazek[1] = v.vozy_obrazek[2];
+        if (v.vozy.size() > 2 && je_rada(v.vozy[1].rada, v.loko_rada)) {
+            v.vozy[1].rada = v.vozy[2].rada;
+            v.vozy[1].obrazek = v.vozy[2].obrazek;
         }
     }
     if (!ma_druhy || std::find(v.stanice.begin(), po, dopravna::hajovice) == po)
@@ -161,8 +159,8 @@ void oznac_vymeny(Vlak& v) {
     const bool pripraz = !jen_loko(v) && (v.priznaky & priznak_vlaku::pripraz) != 0;
     if (!pripraz && v.loko_rada2 == 0)
         return;
-    const bool druhy_neni_loko = v.vozy.size() > 1 && !je_loko(v.vozy[1]);
-    if (je_rada(v.vozy.front(), v.loko_rada2) && !druhy_neni_loko)
+    const bool druhy_neni_loko = v.vozy.size() > 1 && !je_loko(v.vozy[1].rada);
+    if (je_rada(v.vozy.front().rada, v.loko_rada2) && !druhy_neni_loko)
         return;
     for (std::size_t i = 0; i < v.stanice.size(); ++i)
         if (meni_lokomotivu(v.stanice[i]))
@@ -172,12 +170,12 @@ void oznac_vymeny(Vlak& v) {
 void srovnej_lokomotivy(Vlak& v) {
     if (v.vozy.empty())
         return;
-    if (v.vozy.size() > 2 && je_loko(v.vozy[1]) && *ciselny_text(v.vozy[1]) < 700) {
-        std::swap(v.vozy[0], v.vozy[1]);
-        std::swap(v.vozy_obrazek[0], v.vozy_obrazek[1]);
+    if (v.vozy.size() > 2 && je_loko(v.vozy[1].rada) && *ciselny_text(v.vozy[1].rada) < 700) {
+        std::swap(v.vozy[0].rada, v.vozy[1].rada);
+        std::swap(v.vozy[0].obrazek, v.vozy[1].obrazek);
     }
-    if (v.loko_rada2 != 0 && je_rada(v.vozy.front(), v.loko_rada2))
-        v.vozy_urceni.front() = "0";
+    if (v.loko_rada2 != 0 && je_rada(v.vozy.front().rada, v.loko_rada2))
+        v.vozy.front().urceni = "0";
 }
 
 // Minutes by which a train comes late to its entry.
@@ -199,9 +197,8 @@ std::int16_t vytvor_vlak(bool smer, int element, bool muze_jet, int index, int g
     const int i = novy_vlak();
     Vlak v;
     v.stanice_index = na_integer(index - 1);
-    v.prvky = {na_integer(element)};
-    v.prvky_druh = {druh_prvku::kolej};
-    v.prvky_poloha = {static_cast<std::uint8_t>(je_usek_trati(element) ? 0 : 2)};
+    v.prvky = {
+        {na_integer(element), druh_prvku::kolej, static_cast<std::uint8_t>(je_usek_trati(element) ? 0 : 2)}};
     v.prvek_konec = 0;
     v.smer = smer;
     v.muze_jet = muze_jet;

@@ -37,7 +37,7 @@ bool je_cislo_vlaku(const Text& text, std::int32_t cislo) {
 
 // At least one vehicle is no locomotive.
 bool ma_vozy(const Vlak& v) {
-    return std::any_of(v.vozy.begin(), v.vozy.end(), [](const Text& vuz) { return !je_loko(vuz); });
+    return std::any_of(v.vozy.begin(), v.vozy.end(), [](const Vuz& vuz) { return !je_loko(vuz.rada); });
 }
 
 // One of the rows runs today and leaves within the next 45 minutes.
@@ -50,9 +50,7 @@ bool odjede_brzy(TabulkaGvd::Zapisy radky) {
 }
 
 void nasad_posunovou(Vlak& v, std::size_t i) {
-    v.vozy[i] = uzel::kVuzPosunovaci;
-    v.vozy_urceni[i] = kZaloha;
-    v.vozy_obrazek[i] = obrazek_vozu(uzel::kRadaPosunovaci);
+    v.vozy[i] = {Text(uzel::kVuzPosunovaci), Text(kZaloha), obrazek_vozu(uzel::kRadaPosunovaci)};
     ++stav_provozu.pocet_zaloh;
 }
 
@@ -64,8 +62,7 @@ void pripoj_posunovou(Vlak& v, int element) {
         nasad_posunovou(v, 0);
         return;
     }
-    for (auto* udaje : {&v.vozy, &v.vozy_urceni, &v.vozy_obrazek})
-        std::rotate(udaje->begin(), udaje->begin() + 1, udaje->end());
+    std::rotate(v.vozy.begin(), v.vozy.begin() + 1, v.vozy.end());
     nasad_posunovou(v, v.vozy.size() - 1);
 }
 
@@ -85,12 +82,8 @@ Vlak lokomotiva(int rada, int element, bool smer, TextPohled urceni, bool posun)
     v.posun = posun;
     v.muze_jet = true;
     v.loko_rada = na_integer(rada);
-    v.vozy = {text_cisla(rada)};
-    v.vozy_urceni = {Text(urceni)};
-    v.vozy_obrazek = {obrazek_vozu(rada)};
-    v.prvky = {na_integer(element)};
-    v.prvky_druh = {druh_prvku::kolej};
-    v.prvky_poloha = {2};
+    v.vozy = {{text_cisla(rada), Text(urceni), obrazek_vozu(rada)}};
+    v.prvky = {{na_integer(element), druh_prvku::kolej, 2}};
     v.prvek_konec = 0;
     v.stanice = {dopravna::dkv_vh, dopravna::tesk};
     v.prijezd = {kZadny, na_integer(cas_min() + 7)};
@@ -140,14 +133,14 @@ std::int16_t kontrola_soupravy(std::int32_t cislo, bool& jsou_vozy) {
         if (v.cislo < 1)
             continue;
         if (v.cislo == cislo && ma_vozy(v)) {
-            if (je_cislo_vlaku(v.vozy.front(), v.loko_rada2 > 0 ? v.loko_rada2 : v.loko_rada))
+            if (je_cislo_vlaku(v.vozy.front().rada, v.loko_rada2 > 0 ? v.loko_rada2 : v.loko_rada))
                 jsou_vozy = true;
             return -1;
         }
-        for (std::size_t i = 0; i < v.vozy.size() && i < v.vozy_urceni.size(); ++i) {
-            if (!je_cislo_vlaku(v.vozy_urceni[i], cislo))
+        for (const Vuz& vuz : v.vozy) {
+            if (!je_cislo_vlaku(vuz.urceni, cislo))
                 continue;
-            if (je_loko(v.vozy[i]))
+            if (je_loko(vuz.rada))
                 return -1;
             jsou_vozy = true;
         }
@@ -195,7 +188,7 @@ void stanice_start(int gvd_index) {
 void posun_po_vytvoreni(int vlak) {
     const Vlak& v = vlak_c(vlak);
     if (v.vozy.empty() || v.loko_rada == uzel::kJednotka || uzel::je_rada_ridiciho(v.loko_rada) ||
-        (v.loko_rada == uzel::kMotorovyVuzSRidicim && v.vozy.back() == uzel::kRidiciVozy[0].vuz))
+        (v.loko_rada == uzel::kMotorovyVuzSRidicim && v.vozy.back().rada == uzel::kRidiciVozy[0].vuz))
         return;
     const int druha = v.stanice.size() > 1 ? v.stanice[1] : 0;
     const int treti = v.stanice.size() > 2 ? v.stanice[2] : 0;
@@ -216,15 +209,13 @@ void posun_po_vytvoreni(int vlak) {
 
 void pridej_posunovou(int vlak) {
     Vlak& v = vlak_c(vlak);
-    const bool na_konec = !v.vozy.empty() && je_loko(v.vozy.front());
-    for (auto* udaje : {&v.vozy, &v.vozy_urceni, &v.vozy_obrazek})
-        udaje->insert(na_konec ? udaje->end() : udaje->begin(), Text{});
+    const bool na_konec = !v.vozy.empty() && je_loko(v.vozy.front().rada);
+    v.vozy.insert(na_konec ? v.vozy.end() : v.vozy.begin(), Vuz{});
     nasad_posunovou(v, na_konec ? v.vozy.size() - 1 : 0);
 }
 
 void obrat_soupravy(int vlak) {
     Vlak& v = vlak_c(vlak);
-    for (auto* udaje : {&v.vozy, &v.vozy_urceni, &v.vozy_obrazek})
-        std::reverse(udaje->begin(), udaje->end());
+    std::reverse(v.vozy.begin(), v.vozy.end());
     v.smer = true;
 }

@@ -1,6 +1,8 @@
 // gvd/stav_provozu.h - what the traffic remembers between its minutes; all of it is saved.
 #pragma once
 
+#include "zaklad/balik.h"
+
 #include <array>
 #include <cstdint>
 
@@ -12,6 +14,15 @@ struct DalsiVlak {
     std::int16_t predpoklad = 0; // expected minute of the entry, delay included
     bool operator==(const DalsiVlak&) const = default;
 };
+
+// The fields under their names, in the order of a saved record.
+template <class A, ZaznamJe<DalsiVlak> Z> constexpr void popis_poli(A& a, Z& z) {
+    a.pole("cas", z.cas);
+    a.pole("cislo", z.cislo);
+    a.pole("druh", z.druh);
+    a.pole("predpoklad", z.predpoklad);
+    a.preskoc(2); // always 0
+}
 
 struct StavProvozu {
     std::array<DalsiVlak, 39> dalsi_vlaky{}; // by station code

@@ -127,7 +127,7 @@ int umisti_vlak(int element, bool smer, int index, int gvd_index) {
         v.omezeni_ukonceno = true;
         v.rychlost_cesty = kRychlostNaTrati;
         if (je_v(element, uzel::kKonceCestyNaTrat))
-            v.prvky_poloha.front() = 2;
+            v.prvky.front().poloha = 2;
     }
     pridej_do_tabulky(i);
     const auto zastavka = static_cast<std::size_t>(std::max(index, 0));
@@ -146,9 +146,9 @@ void cesta_na_trati(int element, int vlak) {
     if (vzor == nullptr)
         return;
     Cesta& c = pridej_programovou_cestu(vzor->zacatek, vzor->konec, prvky_na_trati(*vzor));
-    c.polohy.back() = 2;
+    c.prvky.back().poloha = 2;
     if (element == uzel::kT2)
-        c.polohy.front() = 2;
+        c.prvky.front().poloha = 2;
     c.Vlak = na_integer(vlak);
 
     if (const uzel::KolejPredTrati* pred = uzel::kolej_pred_trati(element))

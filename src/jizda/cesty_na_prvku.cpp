@@ -35,8 +35,8 @@ template <class Co> void pro_kazdy_prvek(int pocet_cest, Co co) {
     std::array<int, kNejvyssiPrvek + 1> naposled;
     naposled.fill(-1);
     for (int c = 0; c < pocet_cest; ++c)
-        for (const std::int16_t n : cesta_c(c).prvky)
-            if (je_prvek(n) && naposled[static_cast<std::size_t>(n)] != c) {
+        for (const PrvekCesty& p : cesta_c(c).prvky)
+            if (const int n = p.prvek; je_prvek(n) && naposled[static_cast<std::size_t>(n)] != c) {
                 naposled[static_cast<std::size_t>(n)] = c;
                 co(static_cast<std::size_t>(n), c);
             }
@@ -49,8 +49,8 @@ bool plati(const CestyNaPrvku& t) {
     for (int c = 0; je_cesta(c); ++c) {
         if (!souhlasi(static_cast<std::int16_t>(cesta_c(c).prvky.size())))
             return false;
-        for (const std::int16_t n : cesta_c(c).prvky)
-            if (!souhlasi(n))
+        for (const PrvekCesty& p : cesta_c(c).prvky)
+            if (!souhlasi(p.prvek))
                 return false;
     }
     return zdroj == t.zdroj.end();
@@ -67,8 +67,8 @@ void sestav_cesty_na_prvku() {
     t.zdroj.clear();
     for (; je_cesta(t.pocet); ++t.pocet) {
         t.zdroj.push_back(static_cast<std::int16_t>(cesta_c(t.pocet).prvky.size()));
-        for (const std::int16_t n : cesta_c(t.pocet).prvky)
-            t.zdroj.push_back(n);
+        for (const PrvekCesty& p : cesta_c(t.pocet).prvky)
+            t.zdroj.push_back(p.prvek);
     }
     t.zacatky.fill(0);
     pro_kazdy_prvek(t.pocet, [&](std::size_t n, int) { ++t.zacatky[n + 1]; });

@@ -50,7 +50,7 @@ int posledni(const Cesta& cesta) {
     return static_cast<int>(cesta.prvky.size()) - 1;
 }
 std::int16_t prvek_c(const Cesta& cesta, int i) {
-    return cesta.prvky[static_cast<std::size_t>(i)];
+    return cesta.prvky[static_cast<std::size_t>(i)].prvek;
 }
 std::uint8_t druh_c(const Cesta& cesta, int i) {
     return druh_na(cesta, static_cast<std::size_t>(i));
@@ -68,7 +68,7 @@ int misto_na_ceste(const Cesta& cesta, const Vlak& vlak) {
         return -1;
     const int po = std::min<int>(cesta.Umazat, posledni(cesta));
     for (int i = 0; i <= po; ++i)
-        if (prvek_c(cesta, i) == vlak.prvky.back() && druh_c(cesta, i) == vlak.prvky_druh.back())
+        if (prvek_c(cesta, i) == vlak.prvky.back().prvek && druh_c(cesta, i) == vlak.prvky.back().druh)
             return i;
     return -1;
 }
@@ -230,9 +230,7 @@ bool vstup(int c, int i, int v, std::uint8_t odkud) {
     Cesta& cesta = cesta_c(c);
     Vlak& vlak = vlak_c(v);
     cesta.Umazat = na_byte(i + 1);
-    vlak.prvky.push_back(prvek_c(cesta, i + 1));
-    vlak.prvky_druh.push_back(kam);
-    vlak.prvky_poloha.push_back(poloha_c(cesta, i + 1));
+    vlak.prvky.push_back(cesta.prvky[static_cast<std::size_t>(i) + 1]);
     uber_z_opustenych(v);
     if (kam == druh_prvku::kolej)
         kontrola_vstupu(c, i, v);
@@ -245,7 +243,7 @@ bool vstup(int c, int i, int v, std::uint8_t odkud) {
 
 // True: the train is done for this step; false: the search goes on with the next route.
 bool konec_cesty(int c, int v) {
-    const int e = vlak_c(v).prvky.back();
+    const int e = vlak_c(v).prvky.back().prvek;
     const int delka = delka_koleje(e);
     if (metry(e) < delka) {
         nastav_metry(e, delka);
@@ -287,8 +285,8 @@ std::int16_t delka_kroku(std::uint8_t rychlost, std::int32_t dt) {
 bool jed(int c, int i, int v, std::int32_t dt) {
     const std::int16_t krok = delka_kroku(vlak_c(v).rychlost, dt);
     uprav_rychlost(v);
-    const int e = vlak_c(v).prvky.back();
-    const std::uint8_t druh = vlak_c(v).prvky_druh.back();
+    const int e = vlak_c(v).prvky.back().prvek;
+    const std::uint8_t druh = vlak_c(v).prvky.back().druh;
     const bool na_konci_seznamu = i == posledni(cesta_c(c));
     if (druh != druh_prvku::kolej) {
         if (na_konci_seznamu)
@@ -314,7 +312,7 @@ void krok_cela(int v, std::int32_t dt) {
     const Vlak& vlak = vlak_c(v);
     if (vlak.cislo <= 0 || !(vlak.posun || vlak.muze_jet) || vlak.prvky.empty())
         return;
-    const auto dalsi = [v](int od) { return dalsi_cesta_na_prvku(vlak_c(v).prvky.back(), od); };
+    const auto dalsi = [v](int od) { return dalsi_cesta_na_prvku(vlak_c(v).prvky.back().prvek, od); };
     int c = dalsi(0);
     if (c < 0 || !ma_loko(vlak)) // most trains of a quiet desk have no route: that is asked first
         return;
@@ -332,9 +330,9 @@ void krok_cela(int v, std::int32_t dt) {
 std::int32_t obsazena_delka(const Vlak& vlak) {
     double delka = 0;
     for (std::size_t j = static_cast<std::size_t>(vlak.prvek_konec); j < vlak.prvky.size(); ++j) {
-        if (vlak.prvky_druh[j] == druh_prvku::kolej)
-            delka = zaokrouhli(delka + metry(vlak.prvky[j]));
-        else if (vlak.prvky_druh[j] == druh_prvku::vyhybka)
+        if (vlak.prvky[j].druh == druh_prvku::kolej)
+            delka = zaokrouhli(delka + metry(vlak.prvky[j].prvek));
+        else if (vlak.prvky[j].druh == druh_prvku::vyhybka)
             delka += kDelkaVyhybky_m;
     }
     return na_long(delka);
@@ -346,8 +344,8 @@ void krok_konce(int v) {
     std::int32_t delka = obsazena_delka(vlak_c(v));
     // The head is never released.
     for (int j = vlak_c(v).prvek_konec; j + 1 < static_cast<int>(vlak_c(v).prvky.size()); ++j) {
-        const std::uint8_t druh = vlak_c(v).prvky_druh[static_cast<std::size_t>(j)];
-        const int e = vlak_c(v).prvky[static_cast<std::size_t>(j)];
+        const std::uint8_t druh = vlak_c(v).prvky[static_cast<std::size_t>(j)].druh;
+        const int e = vlak_c(v).prvky[static_cast<std::size_t>(j)].prvek;
         if (druh == druh_prvku::kolej) {
             const int useku = delka_koleje(e);
             if (delka - useku < vlak_c(v).delka)
@@ -391,8 +389,8 @@ void uklid_cesty() {
 void obnov_obslouzene() {
     for (Vlak& vlak : vlaky)
         if (vlak.cislo > 0 && !vlak.muze_jet && !vlak.posun && !vlak.prvky.empty() &&
-            vlak.prvky_druh.back() == druh_prvku::kolej &&
-            metry(vlak.prvky.back()) >= delka_koleje(vlak.prvky.back()))
+            vlak.prvky.back().druh == druh_prvku::kolej &&
+            metry(vlak.prvky.back().prvek) >= delka_koleje(vlak.prvky.back().prvek))
             vlak.obslouzeno = vlak.prvky.size();
 }
 

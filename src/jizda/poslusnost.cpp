@@ -36,7 +36,7 @@ constexpr int kVarovat_m = 700;    // before the end of a long section
 constexpr int kMinutNaRozjezd = 5; // so long after the start the trains already under way are not told of
 
 int prvek_c(const Cesta& cesta, int i) {
-    return cesta.prvky[static_cast<std::size_t>(i)];
+    return cesta.prvky[static_cast<std::size_t>(i)].prvek;
 }
 // --- warnings
 
@@ -132,14 +132,14 @@ void smaz_hlaseni_zpozdeni(const Vlak& vlak) {
 
 // The standby locomotive of the stabling yard goes out; which side it took decides where the next comes from.
 void zapocti_odchod_zalohy(const Vlak& vlak) {
-    if (vlak.vozy_urceni.empty())
+    if (vlak.vozy.empty())
         return;
-    if (vlak.vozy_urceni.front() == "ZAL" || vlak.vozy_urceni.back() == "ZAL")
+    if (vlak.vozy.front().urceni == "ZAL" || vlak.vozy.back().urceni == "ZAL")
         --stav_provozu.pocet_zaloh;
-    for (std::size_t i = 0; i < std::min(vlak.vozy.size(), vlak.vozy_urceni.size()); ++i)
-        if (vlak.vozy_urceni[i] == "ZAL" && vlak.vozy[i] == uzel::kVuzZalohy) {
+    for (const Vuz& vuz : vlak.vozy)
+        if (vuz.urceni == "ZAL" && vuz.rada == uzel::kVuzZalohy) {
             stav_provozu.zaloha_731_jede = false;
-            stav_provozu.zaloha_731_strana = vlak.prvky.back() == uzel::kOdstaveniA;
+            stav_provozu.zaloha_731_strana = vlak.prvky.back().prvek == uzel::kOdstaveniA;
         }
 }
 
@@ -177,9 +177,9 @@ bool muze_vyjet(int v, bool smer) {
 int cesta_od_prvku(int prvek, int dalsi, bool smer) {
     for (std::size_t c = 0; c < cesty.size(); ++c) {
         const Cesta& cesta = cesty[c];
-        if (cesta.zacatek < 0 || cesta.prvky.front() != prvek || cesta.Umazat != 0)
+        if (cesta.zacatek < 0 || cesta.prvky.front().prvek != prvek || cesta.Umazat != 0)
             continue;
-        const bool vhodna = prvek == uzel::kKamenec ? cesta.prvky.size() > 1 && cesta.prvky[1] == dalsi
+        const bool vhodna = prvek == uzel::kKamenec ? cesta.prvky.size() > 1 && cesta.prvky[1].prvek == dalsi
                                                     : smer_cesty(cesta) != smer;
         if (vhodna)
             return static_cast<int>(c);
@@ -194,10 +194,10 @@ bool srovnej_smer(int cesta, int i, int v) {
     if (vlak.vozy.empty())
         return false;
     // A cab at both ends, a shunt, a light engine; else a locomotive at the far end.
-    const Text& celo = vlak.vozy.front();
+    const Text& celo = vlak.vozy.front().rada;
     const bool vzdy = je_ridici_vuz(celo) || celo == uzel::kVuzJednotky || !cesta_c(cesta).VC ||
                       vlak.druh == druh_vlaku::lv;
-    if (!vzdy && !je_loko(vlak.vozy.back()))
+    if (!vzdy && !je_loko(vlak.vozy.back().rada))
         return false;
     otoc_vlak(v);
     return true;
@@ -218,7 +218,7 @@ void kontrola_vstupu(int cesta, int i, int v) {
 }
 
 void uvnitr_prvku(int cesta, int i, int v) {
-    const int e = vlak_c(v).prvky.back();
+    const int e = vlak_c(v).prvky.back().prvek;
     const bool cely = static_cast<std::size_t>(vlak_c(v).prvek_konec) + 1 == vlak_c(v).prvky.size();
     if (cely && (e > kPrvniTrat || e == uzel::kKolejStopuPredTrati))
         vlak_v_cili(e, v); // stopped on the line once the whole train is on the section
@@ -244,16 +244,17 @@ void zpusob_odjezdu(int prvek, int v) {
 
 void vlak_opustil(int v, int stanice) {
     const std::int32_t cislo = zobrazene_cislo(vlak_c(v));
-    const std::vector<std::int16_t> prvky = vlak_c(v).prvky;
+    const std::vector<PrvekCesty> prvky = vlak_c(v).prvky;
     for (std::size_t j = static_cast<std::size_t>(std::max<std::int16_t>(vlak_c(v).prvek_konec, 0));
          j < prvky.size(); ++j) {
-        if (vlak_c(v).prvky_druh[j] != druh_prvku::kolej)
+        if (prvky[j].druh != druh_prvku::kolej)
             continue;
-        if (drzi_jiny(prvky[j], v))
+        const int n = prvky[j].prvek;
+        if (drzi_jiny(n, v))
             continue; // another train stands there too: the track stays occupied
-        barvi_prvek(prvky[j], barvy::seda);
-        pis_cislo(prvky[j], text_cisla(cislo), true);
-        nastav_metry(prvky[j], 0);
+        barvi_prvek(n, barvy::seda);
+        pis_cislo(n, text_cisla(cislo), true);
+        nastav_metry(n, 0);
     }
     uber_ze_vsech(v);
     if (!spravny_smer(vlak_c(v), stanice)) {

@@ -37,7 +37,7 @@ bool smi_se_zmenit(int v, int prvek) {
         odmitni(Text(" Na koleji"_cz) + popis + Text(" není změna možná!"_cz));
         return false;
     }
-    if (!vlak.posun || vlak.prvky.back() <= kDruhyStitek)
+    if (!vlak.posun || vlak.prvky.back().prvek <= kDruhyStitek)
         return true;
     if (je_cislo_koleje(prvek))
         odmitni(Text(" Na koleji "_cz) + popis + Text("není změna možná!"_cz));
@@ -52,7 +52,8 @@ void stane_se_vlakem(int v) {
     if (je_v(prvni, {dopravna::ona, dopravna::onb, dopravna::posta, dopravna::dkv_vh}))
         vlak.stanice_index = 1;
     zobraz_cekani(v);
-    if (jen_loko(vlak) && vlak.druh != druh_vlaku::lv && cislo_z_textu(vlak.vozy.front()) < kPrvniMotorovyVuz)
+    if (jen_loko(vlak) && vlak.druh != druh_vlaku::lv &&
+        cislo_z_textu(vlak.vozy.front().rada) < kPrvniMotorovyVuz)
         vlak_na_posun_cislo(v);
     if (radek_tabulky(zobrazene_cislo(vlak_c(v))) < 0)
         pridej_do_tabulky(v);
@@ -62,8 +63,8 @@ void stane_se_vlakem(int v) {
 void stane_se_posunem(int v) {
     const std::int32_t cislo = zobrazene_cislo(vlak_c(v));
     for (std::size_t c = 0; c < cesty.size(); ++c)
-        if (cesty[c].zacatek >= 0 && cesty[c].prvky.front() == vlak_c(v).prvky.back() && cesty[c].VC &&
-            !cesty[c].PN)
+        if (cesty[c].zacatek >= 0 && cesty[c].prvky.front().prvek == vlak_c(v).prvky.back().prvek &&
+            cesty[c].VC && !cesty[c].PN)
             vymaz_cislo(static_cast<int>(c), true, text_cisla(cislo));
     vlak_c(v).muze_jet = true;
     blikej_v_tabulce(cislo, false); // it waits for no departure now
@@ -87,7 +88,7 @@ std::uint8_t cil_stroje(const Vlak& vlak, int odkud) {
     };
     constexpr std::array<Cil, 3> kCile = {
         {{"dkv", dopravna::dkv}, {"vh", dopravna::dkv_vh}, {"bor", dopravna::borovec}}};
-    const Text urceni = vlak.vozy_urceni.empty() ? Text{} : mala_pismena(vlak.vozy_urceni.front());
+    const Text urceni = vlak.vozy.empty() ? Text{} : mala_pismena(vlak.vozy.front().urceni);
     for (const Cil& cil : kCile)
         if (urceni == cil.urceni)
             return cil.stanice;
@@ -110,7 +111,8 @@ void zmena_posun(int v, int prvek, bool tise) {
     if (!tise || info_ukazuje(v))
         info_o_vlaku({}, v);
     for (std::size_t c = 0; c < cesty.size(); ++c)
-        if (cesty[c].Umazat == 0 && cesty[c].prvky.front() == prvek && cesty[c].Postavena && cesty[c].VC)
+        if (cesty[c].Umazat == 0 && cesty[c].prvky.front().prvek == prvek && cesty[c].Postavena &&
+            cesty[c].VC)
             postup_cisla(static_cast<int>(c));
 }
 
@@ -123,7 +125,7 @@ void vlak_na_posun_cislo(int v) {
     vlak.cislo2_platne = false;
     vlak.stanice_zmeny = 0;
     vlak.pokyn.clear();
-    const auto odkud = static_cast<std::uint8_t>(stanice_stroje(vlak.prvky.back()));
+    const auto odkud = static_cast<std::uint8_t>(stanice_stroje(vlak.prvky.back().prvek));
     vlak.stanice = {odkud, cil_stroje(vlak, odkud)};
     const std::int16_t ted = cas_min();
     vlak.prijezd = {ted, na_integer(ted + 15)};

@@ -58,7 +58,7 @@ void uprav_rychlost(int v) {
     Vlak& vlak = vlak_c(v);
     if (!vlak.muze_jet)
         return;
-    if (vlak.vozy.empty() || (!je_loko(vlak.vozy[0]) && !je_ridici_vuz(vlak.vozy[0]))) {
+    if (vlak.vozy.empty() || (!je_loko(vlak.vozy[0].rada) && !je_ridici_vuz(vlak.vozy[0].rada))) {
         // Pushed from behind: exactly 30 km/h, from a stand too, above any limit. This is meant.
         vlak.rychlost = kRychlostTlaceni;
         return;

@@ -22,29 +22,26 @@ bool je_loko(TextPohled vuz) {
 
 bool jen_loko(const Vlak& v) {
     return !v.vozy.empty() &&
-           std::all_of(v.vozy.begin(), v.vozy.end(), [](const Text& vuz) { return je_loko(vuz); });
+           std::all_of(v.vozy.begin(), v.vozy.end(), [](const Vuz& vuz) { return je_loko(vuz.rada); });
 }
 
 bool ma_loko(const Vlak& v) {
-    return std::any_of(v.vozy.begin(), v.vozy.end(), [](const Text& vuz) { return je_loko(vuz); });
+    return std::any_of(v.vozy.begin(), v.vozy.end(), [](const Vuz& vuz) { return je_loko(vuz.rada); });
 }
 
 bool ma_tazne_loko(const Vlak& v) {
-    for (std::size_t i = 0; i < v.vozy.size(); ++i) {
-        const bool zaloha = i < v.vozy_urceni.size() && v.vozy_urceni[i] == "ZAL";
-        if (je_loko(v.vozy[i]) && (!zaloha || v.vozy.size() == 1))
-            return true;
-    }
-    return false;
+    return std::any_of(v.vozy.begin(), v.vozy.end(), [&v](const Vuz& vuz) {
+        return je_loko(vuz.rada) && (vuz.urceni != "ZAL" || v.vozy.size() == 1);
+    });
 }
 
 bool posledni_je_loko(const Vlak& v) {
     if (v.vozy.size() < 2)
         return false;
-    const auto rada = ciselny_text(v.vozy.back());
+    const auto rada = ciselny_text(v.vozy.back().rada);
     return rada && *rada > 100;
 }
 
 bool druhy_je_loko(const Vlak& v) {
-    return v.vozy.size() >= 3 && je_loko(v.vozy[1]);
+    return v.vozy.size() >= 3 && je_loko(v.vozy[1].rada);
 }

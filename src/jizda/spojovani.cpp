@@ -45,34 +45,13 @@ bool je_vlak(int v) {
     return v >= 0 && static_cast<std::size_t>(v) < vlaky.size() && vlak_c(v).cislo > 0;
 }
 
-// The three lists of the vehicles always change together.
-template <class Uprava> void uprav_vozy(Vlak& v, Uprava uprava) {
-    uprava(v.vozy);
-    uprava(v.vozy_urceni);
-    uprava(v.vozy_obrazek);
-}
-void srovnej_seznamy(Vlak& v) {
-    v.vozy_urceni.resize(v.vozy.size());
-    v.vozy_obrazek.resize(v.vozy.size());
-}
-
 // --- coupling
 
 void pripoj_na_konec(Vlak& vlak, const Vlak& druhy) {
-    const auto pridej = [](std::vector<Text>& kam, const std::vector<Text>& co) {
-        kam.insert(kam.end(), co.begin(), co.end());
-    };
-    pridej(vlak.vozy, druhy.vozy);
-    pridej(vlak.vozy_urceni, druhy.vozy_urceni);
-    pridej(vlak.vozy_obrazek, druhy.vozy_obrazek);
+    vlak.vozy.insert(vlak.vozy.end(), druhy.vozy.begin(), druhy.vozy.end());
 }
 void pripoj_do_cela(Vlak& vlak, const Vlak& druhy) {
-    const auto pridej = [](std::vector<Text>& kam, const std::vector<Text>& co) {
-        kam.insert(kam.begin(), co.begin(), co.end());
-    };
-    pridej(vlak.vozy, druhy.vozy);
-    pridej(vlak.vozy_urceni, druhy.vozy_urceni);
-    pridej(vlak.vozy_obrazek, druhy.vozy_obrazek);
+    vlak.vozy.insert(vlak.vozy.begin(), druhy.vozy.begin(), druhy.vozy.end());
 }
 
 // Vehicles of the other record come to the side on which it stands; one that faces the other way is
@@ -126,7 +105,7 @@ void obnov_odjezd(Vlak& vlak) {
 bool stoji_na_koleji(const Vlak& v) {
     if (!cely_na_prvku(v))
         return false;
-    const int e = v.prvky.back();
+    const int e = v.prvky.back().prvek;
     return e <= kPrvniTrat && uzel::konec_trati(e) < 0 && !uzel::je_trat_dubnice(e);
 }
 
@@ -137,7 +116,8 @@ bool je_jednotka(TextPohled vuz) {
 
 bool lze_odvesit(const Vlak& vlak, int i) {
     return i >= 0 && static_cast<std::size_t>(i) < vlak.vozy.size() && vlak.vozy.size() >= 2 &&
-           vlak.cislo >= 0 && !vlak.prvky.empty() && !je_jednotka(vlak.vozy[static_cast<std::size_t>(i)]);
+           vlak.cislo >= 0 && !vlak.prvky.empty() &&
+           !je_jednotka(vlak.vozy[static_cast<std::size_t>(i)].rada);
 }
 
 // The part stands under the head of its train, and leaves it as a shunting movement.
@@ -153,9 +133,7 @@ void zaloz_dil(const Vlak& vlak, Vlak& dil) {
     dil.rychlost_trati = kRychlostDilu;
     dil.posun = true;
     dil.muze_jet = true;
-    dil.prvky.assign(1, vlak.prvky.back());
-    dil.prvky_druh.assign(1, vlak.prvky_druh.back());
-    dil.prvky_poloha.assign(1, vlak.prvky_poloha.back());
+    dil.prvky = {vlak.prvky.back()};
 }
 
 // The stop now ends only by order, or when another locomotive is coupled.
@@ -172,24 +150,18 @@ void uvolni_nezacate_cesty(int v, int d) {
 }
 
 void rozdel_vozy(Vlak& vlak, Vlak& dil, std::size_t i) {
-    srovnej_seznamy(vlak);
     const bool posledni = i + 1 == vlak.vozy.size();
-    const auto presun = [&](std::vector<Text>& odkud, std::vector<Text>& kam) {
-        const auto od = odkud.begin() + static_cast<std::ptrdiff_t>(posledni ? i : 0);
-        const auto po = odkud.begin() + static_cast<std::ptrdiff_t>(i) + 1;
-        kam.assign(std::make_move_iterator(od), std::make_move_iterator(po));
-        odkud.erase(od, po);
-    };
-    presun(vlak.vozy, dil.vozy);
-    presun(vlak.vozy_urceni, dil.vozy_urceni);
-    presun(vlak.vozy_obrazek, dil.vozy_obrazek);
+    const auto od = vlak.vozy.begin() + static_cast<std::ptrdiff_t>(posledni ? i : 0);
+    const auto po = vlak.vozy.begin() + static_cast<std::ptrdiff_t>(i) + 1;
+    dil.vozy.assign(std::make_move_iterator(od), std::make_move_iterator(po));
+    vlak.vozy.erase(od, po);
 }
 
 // The length goes with the carriages; a locomotive counts by itself.
 void rozdel_delku(Vlak& vlak, Vlak& dil) {
     const auto pocet_vozu = [](const Vlak& v) {
         return static_cast<int>(
-            std::count_if(v.vozy.begin(), v.vozy.end(), [](const Text& vuz) { return !je_loko(vuz); }));
+            std::count_if(v.vozy.begin(), v.vozy.end(), [](const Vuz& vuz) { return !je_loko(vuz.rada); }));
     };
     const int m = pocet_vozu(dil);
     const int n = pocet_vozu(vlak) + m;
@@ -203,14 +175,14 @@ void rozdel_delku(Vlak& vlak, Vlak& dil) {
 // A locomotive that comes off on track 32 at the end of the stub clears the platform at once.
 void odstav_na_kusou(int v) {
     Vlak& vlak = vlak_c(v);
-    if (vlak.prvky.back() != uzel::kKolejVedleKuse || !vlak.smer || vlak.vozy_urceni.empty() ||
-        !(je_ciselny(vlak.vozy_urceni[0]) || vlak.vozy_urceni[0] == "DKV") || !je_kolej(uzel::kKusaKolej) ||
+    if (vlak.prvky.back().prvek != uzel::kKolejVedleKuse || !vlak.smer || vlak.vozy.empty() ||
+        !(je_ciselny(vlak.vozy[0].urceni) || vlak.vozy[0].urceni == "DKV") || !je_kolej(uzel::kKusaKolej) ||
         !je_volna(uzel::kKusaKolej))
         return;
     uber_z_koleje(uzel::kKolejVedleKuse, v);
     vlak.smer = false;
     vlak.posun = true;
-    vlak.prvky.back() = uzel::kKusaKolej;
+    vlak.prvky.back().prvek = uzel::kKusaKolej;
     pridej_na_kolej(uzel::kKusaKolej, v, false, -1);
     barvi_prvek(uzel::kKusaKolej, barvy::cervena);
 }
@@ -220,10 +192,10 @@ void odstav_na_kusou(int v) {
 // Which vehicle tells the number of the next train; -1 when none does. Vehicles that stay with the
 // present number are passed over, but for a single one: it takes its timetable anew.
 int vuz_s_dalsim_cislem(const Vlak& vlak) {
-    if (vlak.vozy_urceni.size() == 1)
+    if (vlak.vozy.size() == 1)
         return 0;
-    for (std::size_t i = 0; i < vlak.vozy_urceni.size(); ++i) {
-        const auto cislo = ciselny_text(vlak.vozy_urceni[i]);
+    for (std::size_t i = 0; i < vlak.vozy.size(); ++i) {
+        const auto cislo = ciselny_text(vlak.vozy[i].urceni);
         if (!cislo || *cislo <= 0 || *cislo != vlak.cislo)
             return static_cast<int>(i);
     }
@@ -270,12 +242,12 @@ void prevezmi_radek(Vlak& vlak, const GvdVlak& radek) {
 
 // The first stop sends the train back the way it came: its locomotive comes off the head.
 bool musi_objet(const Vlak& vlak) {
-    if (vlak.stanice.size() < 2 || vlak.vozy.empty() || !je_loko(vlak.vozy.front()))
+    if (vlak.stanice.size() < 2 || vlak.vozy.empty() || !je_loko(vlak.vozy.front().rada))
         return false;
     const int druha = vlak.stanice[1];
     if (vlak.smer)
         return je_v(druha, {dopravna::vysni_hrabov, dopravna::mokrina, dopravna::vrbice}) &&
-               rada_vozu(vlak.vozy.back()) < kPrvniRidiciVuz;
+               rada_vozu(vlak.vozy.back().rada) < kPrvniRidiciVuz;
     return druha == dopravna::rybnice;
 }
 
@@ -316,19 +288,14 @@ void zrus_vlak(int v) {
     vlak.nazev.clear();
     vlak.priznaky = 0;
     vlak.loko_rada2 = 0;
-    vlak.prvky.assign(1, 0);
-    vlak.prvky_druh.assign(1, 0);
-    vlak.prvky_poloha.assign(1, 0);
+    vlak.prvky.assign(1, {0, 0, 0});
     vlak.prvek_konec = 0;
     vlak.obslouzeno = 0;
 }
 
 void otoc_vlak(int v) {
     Vlak& vlak = vlak_c(v);
-    if (vlak.vozy.size() > 1) {
-        srovnej_seznamy(vlak);
-        uprav_vozy(vlak, [](std::vector<Text>& seznam) { std::reverse(seznam.begin(), seznam.end()); });
-    }
+    std::reverse(vlak.vozy.begin(), vlak.vozy.end());
     vlak.smer = !vlak.smer;
 }
 
@@ -340,7 +307,7 @@ void spoj(int a, int b) {
     if (!je_vlak(a) || !je_vlak(b) || a == b)
         return;
     if (!cely_na_prvku(vlak_c(a)) || !cely_na_prvku(vlak_c(b)) ||
-        vlak_c(a).prvky.back() != vlak_c(b).prvky.back()) {
+        vlak_c(a).prvky.back().prvek != vlak_c(b).prvky.back().prvek) {
         zprava(" SPOJIT "_cz, " Nelze spojit vlak, který není celou délkou na koleji!"_cz, barvy::bila, 0,
                false, 0xFFFFFF, barvy::cervena);
         platforma.pipni(100, 200); // sounds even when the sound is off: this one is meant
@@ -350,11 +317,9 @@ void spoj(int a, int b) {
     const bool zustava_b = a_je_stroj && !jen_loko(vlak_c(b));
     const int zustal = zustava_b ? b : a;
     const int zanikl = zustava_b ? a : b;
-    srovnej_seznamy(vlak_c(a));
-    srovnej_seznamy(vlak_c(b));
     spoj_vozy(a, b, zustava_b);
     vlak_c(zustal).delka = na_integer(vlak_c(zustal).delka + vlak_c(zanikl).delka);
-    uber_z_koleje(vlak_c(zustal).prvky.back(), zanikl);
+    uber_z_koleje(vlak_c(zustal).prvky.back().prvek, zanikl);
     uber_z_opustenych(zanikl);
     zrus_vlak(zanikl);
     predej_cesty(zanikl, zustal);
@@ -372,7 +337,7 @@ int odvesit(int v, int i, bool zobraz) {
     Vlak& vlak = vlak_c(v);
     Vlak& dil = vlak_c(d);
     const bool posledni = static_cast<std::size_t>(i) + 1 == vlak.vozy.size();
-    const int celo = vlak.prvky.back();
+    const int celo = vlak.prvky.back().prvek;
     zaloz_dil(vlak, dil);
     cekej_na_povel(vlak);
     nastav_metry(celo, vlak.delka);
@@ -421,20 +386,19 @@ void zkrat_vlak(int v) {
 
 void navazny_vlak(int v) {
     if (vlak_c(v).vozy.empty() ||
-        (jen_loko(vlak_c(v)) && rada_vozu(vlak_c(v).vozy.front()) < kPrvniMotorovyVuz))
+        (jen_loko(vlak_c(v)) && rada_vozu(vlak_c(v).vozy.front().rada) < kPrvniMotorovyVuz))
         return;
-    srovnej_seznamy(vlak_c(v));
     const int i = vuz_s_dalsim_cislem(vlak_c(v));
     if (i < 0)
         return; // every vehicle stays with its train
     if (i > 0) {
-        if (vlak_c(v).vozy_urceni[static_cast<std::size_t>(i)].empty())
+        if (vlak_c(v).vozy[static_cast<std::size_t>(i)].urceni.empty())
             return;
         v = odvesit(v, i, false);
         if (v < 0)
             return;
     }
-    const auto dalsi = ciselny_text(vlak_c(v).vozy_urceni.front());
+    const auto dalsi = ciselny_text(vlak_c(v).vozy.front().urceni);
     if (!dalsi || (*dalsi == vlak_c(v).cislo && (i > 0 || vlak_c(v).vozy.size() > 1)))
         return; // the part that came off has taken its next train already
     const GvdVlak* radek = radek_s_cislem(*dalsi);
@@ -446,7 +410,8 @@ void navazny_vlak(int v) {
         odvesit(v, 0, false);
     if (radek_tabulky(zobrazene_cislo(vlak_c(v))) < 0)
         pridej_do_tabulky(v);
-    if (const int zaznam = vlak_c(v).prvky.empty() ? -1 : zaznam_koleje(vlak_c(v).prvky.back()); zaznam >= 0)
+    if (const int zaznam = vlak_c(v).prvky.empty() ? -1 : zaznam_koleje(vlak_c(v).prvky.back().prvek);
+        zaznam >= 0)
         zobraz_kolej(zaznam);
     zobraz_cekani(v);
     vlak_c(v).stanice_index = -1;

@@ -19,7 +19,7 @@ std::vector<KolejVlaky> prvni_koleje_vlaky() {
 
 bool drzi_prvek(const Vlak& v, int kolej) {
     for (std::size_t j = static_cast<std::size_t>(std::max<int>(v.prvek_konec, 0)); j < v.prvky.size(); ++j)
-        if (v.prvky[j] == kolej && j < v.prvky_druh.size() && v.prvky_druh[j] == druh_prvku::kolej)
+        if (v.prvky[j].prvek == kolej && v.prvky[j].druh == druh_prvku::kolej)
             return true;
     return false;
 }

@@ -7,6 +7,7 @@
 // state text of the element under the head, and the order of `koleje_vlaky`.
 #pragma once
 
+#include "cesty/prvek_cesty.h"
 #include "zaklad/text.h"
 
 #include <cstddef>
@@ -18,6 +19,14 @@ namespace priznak_vlaku {
 inline constexpr std::uint8_t druhe_loko = 1; // a second locomotive at the front
 inline constexpr std::uint8_t pripraz = 2;    // an assisting one at the end
 } // namespace priznak_vlaku
+
+struct Vuz {
+    Text rada;    // series
+    Text urceni;  // next work: a number, "ZAL", "DKV", "VH", empty
+    Text obrazek; // picture file
+
+    bool operator==(const Vuz&) const = default;
+};
 
 struct Vlak {
     std::vector<std::uint8_t> stanice; // timetable stations in running order, station codes
@@ -31,35 +40,31 @@ struct Vlak {
     std::uint8_t stanice_zmeny = 0;          // station where cislo2 takes over; 0 none
     bool posun = false;                      // runs as a shunting movement
     Text nazev;
-    std::uint8_t max_rychlost = 0;  // km/h, of this consist
-    std::int16_t delka = 0;         // metres
-    std::int16_t gvd_hodnota = 0;   // from the timetable, not used by the running
-    std::int16_t loko_rada = 0;     // series of the locomotive
-    std::int16_t loko_rada2 = 0;    // series of the one that takes over; 0 no change
-    std::int16_t hodnota_2 = 0;     // from the timetable, not used
-    std::vector<Text> vozy;         // series texts from the head to the tail
-    std::vector<Text> vozy_urceni;  // next work of each vehicle: a number, "ZAL", "DKV", "VH", empty
-    std::vector<Text> vozy_obrazek; // picture file of each vehicle
+    std::uint8_t max_rychlost = 0; // km/h, of this consist
+    std::int16_t delka = 0;        // metres
+    std::int16_t gvd_hodnota = 0;  // from the timetable, not used by the running
+    std::int16_t loko_rada = 0;    // series of the locomotive
+    std::int16_t loko_rada2 = 0;   // series of the one that takes over; 0 no change
+    std::int16_t hodnota_2 = 0;    // from the timetable, not used
+    std::vector<Vuz> vozy;         // from the head to the tail
     Text poznamka;
-    Text pokyn;                             // working instruction: the planned track
-    std::uint8_t dny = 0;                   // days of running, bit 7 holidays
-    std::uint8_t priznaky = 0;              // bits of priznak_vlaku
-    std::int16_t stanice_index = 0;         // stop now or last served; negative: none yet
-    bool muze_jet = false;                  // may run; else it waits at a stop
-    std::vector<std::int16_t> prvky;        // elements entered, oldest first; the last one is the head
-    std::vector<std::uint8_t> prvky_druh;   // kind of each entry
-    std::vector<std::uint8_t> prvky_poloha; // demanded position; 2 on a track: labelled at release
-    std::int16_t prvek_konec = -3;          // index of the rearmost entry still held
-    bool smer = false;                      // true: towards larger numbers of a line and larger X
-    std::uint8_t rychlost = 0;              // km/h
-    std::uint8_t rychlost_trati = 0;        // line speed in force
-    std::uint8_t rychlost_cesty = 0;        // limit of the route entered last; 0 none
-    std::int16_t konec_omezeni = 0;         // switch whose clearing by the tail ends that limit
-    bool omezeni_ukonceno = false;          // that limit no longer binds
-    std::int16_t rezerva = -3;              // -3 in new records, never read
-    bool cislo2_platne = false;             // runs under cislo2 and druh2
-    std::int16_t zpozdeni_vstup = 0;        // delay carried in, minutes
-    std::int16_t zpozdeni = 0;              // present delay, minutes
+    Text pokyn;                      // working instruction: the planned track
+    std::uint8_t dny = 0;            // days of running, bit 7 holidays
+    std::uint8_t priznaky = 0;       // bits of priznak_vlaku
+    std::int16_t stanice_index = 0;  // stop now or last served; negative: none yet
+    bool muze_jet = false;           // may run; else it waits at a stop
+    std::vector<PrvekCesty> prvky;   // entered, oldest first; the last one is the head
+    std::int16_t prvek_konec = -3;   // index of the rearmost entry still held
+    bool smer = false;               // true: towards larger numbers of a line and larger X
+    std::uint8_t rychlost = 0;       // km/h
+    std::uint8_t rychlost_trati = 0; // line speed in force
+    std::uint8_t rychlost_cesty = 0; // limit of the route entered last; 0 none
+    std::int16_t konec_omezeni = 0;  // switch whose clearing by the tail ends that limit
+    bool omezeni_ukonceno = false;   // that limit no longer binds
+    std::int16_t rezerva = -3;       // -3 in new records, never read
+    bool cislo2_platne = false;      // runs under cislo2 and druh2
+    std::int16_t zpozdeni_vstup = 0; // delay carried in, minutes
+    std::int16_t zpozdeni = 0;       // present delay, minutes
 
     // Derived, not saved: length of `prvky` when the stop handling last ran at the end of a route. It runs
     // once for an arrival, else a station that stands twice in the timetable would hold the train twice.
@@ -68,12 +73,58 @@ struct Vlak {
     bool operator==(const Vlak&) const = default;
 };
 
+// The fields under their names, in the order of a saved record.
+template <class A, ZaznamJe<Vlak> Z> constexpr void popis_poli(A& a, Z& z) {
+    a.pole("stanice", z.stanice);
+    a.pole("prijezd", z.prijezd);
+    a.pole("odjezd", z.odjezd);
+    a.pole("odjezd_realny", z.odjezd_realny);
+    a.pole("druh", z.druh);
+    a.pole("cislo", z.cislo);
+    a.pole("druh2", z.druh2);
+    a.pole("cislo2", z.cislo2);
+    a.pole("stanice_zmeny", z.stanice_zmeny);
+    a.pole("posun", z.posun);
+    a.pole("nazev", z.nazev);
+    a.pole("max_rychlost", z.max_rychlost);
+    a.pole("delka", z.delka);
+    a.pole("gvd_hodnota", z.gvd_hodnota);
+    a.pole("loko_rada", z.loko_rada);
+    a.pole("loko_rada2", z.loko_rada2);
+    a.pole("hodnota_2", z.hodnota_2);
+    a.sloupce(z.vozy, Sloupec{"vozy", &Vuz::rada}, Sloupec{"vozy_urceni", &Vuz::urceni},
+              Sloupec{"vozy_obrazek", &Vuz::obrazek});
+    a.pole("poznamka", z.poznamka);
+    a.pole("pokyn", z.pokyn);
+    a.pole("dny", z.dny);
+    a.pole("priznaky", z.priznaky);
+    a.pole("stanice_index", z.stanice_index);
+    a.pole("muze_jet", z.muze_jet);
+    popis_prvku(a, z.prvky, "prvky", "prvky_druh", "prvky_poloha");
+    a.pole("prvek_konec", z.prvek_konec);
+    a.pole("smer", z.smer);
+    a.pole("rychlost", z.rychlost);
+    a.pole("rychlost_trati", z.rychlost_trati);
+    a.pole("rychlost_cesty", z.rychlost_cesty);
+    a.pole("konec_omezeni", z.konec_omezeni);
+    a.pole("omezeni_ukonceno", z.omezeni_ukonceno);
+    a.pole("rezerva", z.rezerva);
+    a.pole("cislo2_platne", z.cislo2_platne);
+    a.pole("zpozdeni_vstup", z.zpozdeni_vstup);
+    a.pole("zpozdeni", z.zpozdeni);
+}
+
 // Trains on one element, in their order along the track; one entry -3: none.
 struct KolejVlaky {
     std::int16_t prvek = 0;
     std::vector<std::int16_t> vlaky{-3};
     bool operator==(const KolejVlaky&) const = default;
 };
+
+template <class A, ZaznamJe<KolejVlaky> Z> constexpr void popis_poli(A& a, Z& z) {
+    a.pole("prvek", z.prvek);
+    a.pole("vlaky", z.vlaky);
+}
 
 inline constexpr std::size_t kPrvnichVlaku = 51; // records of a new simulation
 inline constexpr std::int16_t kNaPovel = -10;    // working departure of a stop that ends only by order

@@ -52,7 +52,7 @@ int stanice_zastavky(const Vlak& vlak, int i) {
                : 0;
 }
 Text urceni(const Vlak& vlak, std::size_t i) {
-    return i < vlak.vozy_urceni.size() ? vlak.vozy_urceni[i] : Text{};
+    return i < vlak.vozy.size() ? vlak.vozy[i].urceni : Text{};
 }
 
 // --- where stops are
@@ -72,7 +72,8 @@ bool stoji_ve_stanici(const Vlak& vlak, int kod) {
 
 // The engine at one end is another one than the train goes on with, and it does not stay for the branch.
 bool ma_odejit(const Vlak& vlak, std::size_t i) {
-    return je_loko(vlak.vozy[i]) && rada_vozu(vlak.vozy[i]) != vlak.loko_rada2 && urceni(vlak, i) != "VH";
+    return je_loko(vlak.vozy[i].rada) && rada_vozu(vlak.vozy[i].rada) != vlak.loko_rada2 &&
+           urceni(vlak, i) != "VH";
 }
 
 // Tesk main station: the train gives up its locomotive when another series takes over.
@@ -87,11 +88,11 @@ void vymen_loko_v_tesku(int v) {
     if (odvesena < 0)
         return;
     Vlak& nova = vlak_c(odvesena);
-    if (nova.vozy.empty() || rada_vozu(nova.vozy.front()) <= kPrvniMotorovyVuz ||
+    if (nova.vozy.empty() || rada_vozu(nova.vozy.front().rada) <= kPrvniMotorovyVuz ||
         urceni(nova, 0) == urceni(vlak_c(v), 0))
         return;
     // A railcar goes on as a train of its own.
-    if (nova.prvky.back() != uzel::kKusaKolej && je_ciselny(urceni(nova, 0)))
+    if (nova.prvky.back().prvek != uzel::kKusaKolej && je_ciselny(urceni(nova, 0)))
         nova.posun = false;
     navazny_vlak(odvesena);
 }
@@ -100,9 +101,9 @@ void vymen_loko_v_tesku(int v) {
 void vymen_loko_v_hajovicich(int v) {
     const Vlak& vlak = vlak_c(v);
     if (vlak.stanice_index <= 0 || !stoji_ve_stanici(vlak, dopravna::hajovice) || vlak.loko_rada2 == 0 ||
-        vlak.vozy.size() < 2 || rada_vozu(vlak.vozy[0]) == vlak.loko_rada2)
+        vlak.vozy.size() < 2 || rada_vozu(vlak.vozy[0].rada) == vlak.loko_rada2)
         return;
-    if (!je_loko(vlak.vozy[1]) || je_loko(vlak.vozy[0]))
+    if (!je_loko(vlak.vozy[1].rada) || je_loko(vlak.vozy[0].rada))
         odvesit(v, 0, false);
 }
 
@@ -116,7 +117,7 @@ void odves_v_dolnim(int v) {
     if (dalsi == dopravna::rybnice && !vlak.smer)
         odvesit(v, 0, false);
     else if (dalsi == dopravna::vysni_hrabov && vlak.smer)
-        odvesit(v, je_loko(vlak.vozy[1]) ? 1 : 0, false);
+        odvesit(v, je_loko(vlak.vozy[1].rada) ? 1 : 0, false);
 }
 
 // --- a set at a platform
@@ -183,7 +184,7 @@ void ohlas_zvukem() {
 
 void ukaz_ve_stanici(int v, int zbyva) {
     const Vlak& vlak = vlak_c(v);
-    const int stitek = stitek_ve_stanici(vlak.prvky.back(), vlak);
+    const int stitek = stitek_ve_stanici(vlak.prvky.back().prvek, vlak);
     if (stitek < 0)
         return;
     if (zbyva > 2) {
@@ -201,7 +202,7 @@ void ukaz_ve_stanici(int v, int zbyva) {
 
 void ukaz_na_trati(int v, int zbyva) {
     Vlak& vlak = vlak_c(v);
-    const int e = vlak.prvky.back();
+    const int e = vlak.prvky.back().prvek;
     const int stitek = e == uzel::kKamenec ? uzel::kObrazKamence : stitek_na_trati(e, vlak);
     if (zbyva > 0) {
         if (je_cislo_koleje(stitek))
@@ -345,7 +346,7 @@ void zobraz_cekani(int v) {
         blikej_v_tabulce(zobrazene_cislo(vlak), zbyva == 1);
     if (vlak.prvky.empty())
         return;
-    const int e = vlak.prvky.back();
+    const int e = vlak.prvky.back().prvek;
     if (!je_usek_trati(e) && e != uzel::kKamenec)
         ukaz_ve_stanici(v, zbyva);
     else
@@ -379,7 +380,7 @@ void odjezd_povel(int v) {
 }
 
 void ohlas_odjezd(int v, int j) {
-    const int e = vlak_c(v).prvky[static_cast<std::size_t>(j)];
+    const int e = vlak_c(v).prvky[static_cast<std::size_t>(j)].prvek;
     opust_prejezd(e); // a shunting movement leaves it as a train does
     if (vlak_c(v).posun)
         return;

@@ -64,13 +64,9 @@ int nova_lokomotiva(TextPohled rada, std::size_t pocet, int kolej, bool smer,
     vlak.muze_jet = true;
     vlak.max_rychlost = vlak.rychlost_trati = kRychlost;
     vlak.loko_rada = na_integer(cele_z_textu(rada));
-    vlak.vozy.assign(pocet, Text(rada));
-    vlak.vozy_urceni.assign(pocet, Text{});
     for (std::size_t i = 0; i < pocet; ++i)
-        vlak.vozy_obrazek.push_back(obrazek_vozu(vlak.loko_rada));
-    vlak.prvky = {na_integer(kolej)};
-    vlak.prvky_druh = {druh_prvku::kolej};
-    vlak.prvky_poloha = {2};
+        vlak.vozy.push_back({Text(rada), {}, obrazek_vozu(vlak.loko_rada)});
+    vlak.prvky = {{na_integer(kolej), druh_prvku::kolej, 2}};
     vlak.stanice.assign(odkud_kam.begin(), odkud_kam.end());
     vlak.prijezd = {kZadny, na_integer(cas_min() + jizda_min)};
     vlak.odjezd = {cas_min(), kZadny};

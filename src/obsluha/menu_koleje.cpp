@@ -68,7 +68,7 @@ void vyber_vlaky(int e) {
 Text popis_vlaku(const Vlak& vlak) {
     if (!vlak.posun)
         return text_cisla(zobrazene_cislo(vlak));
-    const Text urceni = vlak.vozy_urceni.empty() ? Text{} : vlak.vozy_urceni.front();
+    const Text urceni = vlak.vozy.empty() ? Text{} : vlak.vozy.front().urceni;
     if (jen_loko(vlak))
         return urceni.empty() ? Text("x?????"_cz) : urceni + "x";
     return urceni.empty() || urceni == "ZAL" ? text_cisla(vlak.cislo) + "#" : urceni + "#";

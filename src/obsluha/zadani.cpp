@@ -121,7 +121,7 @@ void precisluj(int v, std::int32_t cislo) {
         prevezmi_radek(vlak, radek_gvd(radky.front().radek));
         if (!vlak.prvky.empty()) { // as if it had just arrived there
             vlak.obslouzeno = vlak.prvky.size();
-            vlak_v_cili(vlak.prvky.back(), v);
+            vlak_v_cili(vlak.prvky.back().prvek, v);
         }
     }
     pridej_do_tabulky(v);

@@ -114,10 +114,8 @@ void kopie_ab(int i) {
     // The locking has added the whole line to a route that leads out. The table's own route ends on the
     // first section of the line, so that one stays; index 0 is where an entry route begins.
     for (std::size_t k = 1; k < kopie.prvky.size(); ++k)
-        if (je_usek_trati(kopie.prvky[k])) {
+        if (je_usek_trati(kopie.prvky[k].prvek)) {
             kopie.prvky.resize(k + 1);
-            kopie.druhy.resize(k + 1);
-            kopie.polohy.resize(k + 1);
             break;
         }
     kopie.Provedena = false;

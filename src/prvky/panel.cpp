@@ -53,7 +53,7 @@ const Cesta* cesta_panelu(int s) {
     for (const Cesta& c : cesty) {
         if (c.zacatek != s || !c.prehozena || c.ZT == kZTprogramu)
             continue;
-        if (c.Umazat == 0 || (c.Umazat < c.prvky.size() && je_usek_trati(c.prvky[c.Umazat])))
+        if (c.Umazat == 0 || (c.Umazat < c.prvky.size() && je_usek_trati(c.prvky[c.Umazat].prvek)))
             return &c;
     }
     return nullptr;
@@ -118,7 +118,7 @@ void obnov_panel(int s) {
     else if (c->PN)
         rozsvit(svetla::cervene); // the white lamp is flashed by the route machine
     else if (c->VC && barva == barvy::zelena) {
-        rozsvit_znak(c->rychlost, dalsi_navest(c->prvky.empty() ? kZadny : c->prvky.back()));
+        rozsvit_znak(c->rychlost, dalsi_navest(c->prvky.empty() ? kZadny : c->prvky.back().prvek));
         if (uzel::je_opakovaci(s))
             rozsvit(svetla::bile);
     } else if (c->VC)

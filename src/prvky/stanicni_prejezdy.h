@@ -1,6 +1,8 @@
 // prvky/stanicni_prejezdy.h - the two station crossings, tied to routes and worked by the operator.
 #pragma once
 
+#include "zaklad/balik.h"
+
 #include <array>
 #include <cstdint>
 
@@ -16,4 +18,14 @@ struct StanicniPrejezd {
     std::uint8_t pocet = kBezVlaku; // trains in its area, counted from kBezVlaku
     bool operator==(const StanicniPrejezd&) const = default;
 };
+
+// The fields under their names, in the order of a saved record.
+template <class A, ZaznamJe<StanicniPrejezd> Z> constexpr void popis_poli(A& a, Z& z) {
+    a.pole("uzavren", z.uzavren);
+    a.pole("UZ", z.UZ);
+    a.pole("rezerva1", z.rezerva1);
+    a.pole("rezerva2", z.rezerva2);
+    a.pole("cas", z.cas);
+    a.pole("pocet", z.pocet);
+}
 extern std::array<StanicniPrejezd, 2> stanicni_prejezdy;

@@ -392,7 +392,7 @@ void obnov_pohyb_vyhybek() {
         if (c.zacatek < 0 || !c.prehozena || c.Provedena || c.Umazat != 0)
             continue;
         for (std::size_t k = 1; k < c.prvky.size(); ++k) {
-            const int n = c.prvky[k];
+            const int n = c.prvky[k].prvek;
             if (druh_na(c, k) == druh_prvku::vyhybka && relief.imgVyhybka.je(n) &&
                 stav_vyhybky_cislo(n) == poloha_na(c, k))
                 rozjed(n); // one that stood there already has been reserved instead

@@ -17,6 +17,16 @@ struct Prejezd {
     Text nazev;
     bool operator==(const Prejezd&) const = default;
 };
+
+// The fields under their names, in the order of a saved record.
+template <class A, ZaznamJe<Prejezd> Z> constexpr void popis_poli(A& a, Z& z) {
+    a.pole("zona", z.zona);
+    a.pole("vyluka", z.vyluka);
+    a.pole("uvolnen", z.uvolnen);
+    a.pole("kolej", z.kolej);
+    a.pole("poloha", z.poloha);
+    a.pole("nazev", z.nazev);
+}
 extern std::vector<Prejezd> prejezdy; // index: the record's place in the file
 
 // One record of the crossing file, as it stands on disk: 7 bytes and the length of the name, no header.

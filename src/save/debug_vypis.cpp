@@ -52,24 +52,9 @@ struct Vypis {
     }
 };
 
-const Text& na_text(const Text& hodnota) {
-    return hodnota;
-}
-Text na_text(int hodnota) {
-    return text_cisla(hodnota);
-}
-
-// Three lists that belong together, entry by entry: a line of fields led by tabs. A companion that is
-// missing in a damaged record stays empty.
-template <class A, class B, class C>
-Text trojice(const std::vector<A>& prvni, const std::vector<B>& druhy, const std::vector<C>& treti) {
-    Text radek;
-    for (std::size_t k = 0; k < prvni.size(); ++k) {
-        radek += "\t" + na_text(prvni[k]) + "_";
-        radek += (k < druhy.size() ? na_text(druhy[k]) : Text()) + "_";
-        radek += k < treti.size() ? na_text(treti[k]) : Text();
-    }
-    return radek;
+// One entry of a line of entries, each led by a tab.
+Text trojice(const Text& prvni, const Text& druhy, const Text& treti) {
+    return "\t" + prvni + "_" + druhy + "_" + treti;
 }
 
 Text datum(const NastennyCas& ted) {
@@ -119,7 +104,10 @@ void pis_cesty(const Vypis& f) {
         f.pole("Kdy_prehoz ", c.Kdy_prehoz);
         f.priznak("Postavena ", c.Postavena);
         f.priznak("Provedena ", c.Provedena);
-        f.radek(trojice(c.prvky, c.polohy, c.druhy));
+        Text prvky;
+        for (const PrvekCesty& p : c.prvky)
+            prvky += trojice(text_cisla(p.prvek), text_cisla(p.poloha), text_cisla(p.druh));
+        f.radek(prvky);
     }
 }
 
@@ -132,8 +120,14 @@ void pis_vlaky(const Vypis& f) {
         f.pole("Cislo ", v.cislo);
         f.pole("UM ", v.prvek_konec);
         f.priznak("muze jet ", v.muze_jet);
-        f.radek(trojice(v.prvky, v.prvky_druh, v.prvky_poloha));
-        f.radek(trojice(v.vozy, v.vozy_urceni, v.vozy_obrazek));
+        Text prvky;
+        for (const PrvekCesty& p : v.prvky)
+            prvky += trojice(text_cisla(p.prvek), text_cisla(p.druh), text_cisla(p.poloha));
+        f.radek(prvky);
+        Text vozy;
+        for (const Vuz& vuz : v.vozy)
+            vozy += trojice(vuz.rada, vuz.urceni, vuz.obrazek);
+        f.radek(vozy);
     }
 }
 

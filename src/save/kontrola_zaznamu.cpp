@@ -9,6 +9,7 @@
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 
+#include <algorithm>
 #include <bit>
 #include <cstdlib>
 #include <utility>
@@ -38,20 +39,17 @@ void musi(bool plati, TextPohled tabulka, std::size_t i, TextPohled co) {
 }
 
 // Positions that are demanded of switches, of a route or under a train.
-bool jsou_polohy(const std::vector<std::uint8_t>& druhy, const std::vector<std::uint8_t>& polohy,
-                 std::size_t od) {
-    for (std::size_t k = od; k < druhy.size(); ++k)
-        if (druhy[k] == druh_prvku::vyhybka && (polohy[k] < 1 || polohy[k] > kNejvyssiPoloha))
-            return false;
-    return true;
+bool jsou_polohy(const std::vector<PrvekCesty>& prvky, std::size_t od) {
+    return std::all_of(prvky.begin() + static_cast<std::ptrdiff_t>(od), prvky.end(), [](const PrvekCesty& p) {
+        return p.druh != druh_prvku::vyhybka || (p.poloha >= 1 && p.poloha <= kNejvyssiPoloha);
+    });
 }
 
 void over_cesty(const Zaznam& z) {
     musi(!z.cesty.empty() && z.cesty.size() <= kNejviceZaznamu, "cesty");
     for (std::size_t i = 0; i < z.cesty.size(); ++i) {
         const Cesta& c = z.cesty[i];
-        musi(!c.prvky.empty() && c.druhy.size() == c.prvky.size() && c.polohy.size() == c.prvky.size(),
-             "cesty", i, "prvky");
+        musi(!c.prvky.empty(), "cesty", i, "prvky");
         if (c.zacatek < 0)
             continue;
         musi(c.zacatek <= kNejvyssiPrvek && c.konec >= 0 && c.konec <= kNejvyssiPrvek, "cesty", i, "konec");
@@ -59,8 +57,8 @@ void over_cesty(const Zaznam& z) {
         // cleared is locked, locked is commanded, and what is commanded is locked at its second
         musi((!c.Postavena || c.Provedena) && (!c.Provedena || c.prehozena), "cesty", i, "Postavena");
         musi(!c.prehozena || c.Provedena || c.Kdy_prehoz >= 0, "cesty", i, "Kdy_prehoz");
-        musi(c.druhy.front() == druh_prvku::kolej, "cesty", i, "druhy");
-        musi(jsou_polohy(c.druhy, c.polohy, 0), "cesty", i, "polohy");
+        musi(c.prvky.front().druh == druh_prvku::kolej, "cesty", i, "druhy");
+        musi(jsou_polohy(c.prvky, 0), "cesty", i, "polohy");
     }
 }
 
@@ -73,16 +71,11 @@ void over_vlaky(const Zaznam& z) {
         musi(v.prijezd.size() == v.stanice.size() && v.odjezd.size() == v.stanice.size() &&
                  v.odjezd_realny.size() == v.stanice.size(),
              "vlaky", i, "stanice");
-        musi(v.vozy_urceni.size() == v.vozy.size() && v.vozy_obrazek.size() == v.vozy.size(), "vlaky", i,
-             "vozy");
-        musi(v.prvky_druh.size() == v.prvky.size() && v.prvky_poloha.size() == v.prvky.size(), "vlaky", i,
-             "prvky");
         if (v.prvky.empty())
             continue;
         musi(v.prvek_konec >= 0 && static_cast<std::size_t>(v.prvek_konec) < v.prvky.size(), "vlaky", i,
              "prvek_konec");
-        musi(jsou_polohy(v.prvky_druh, v.prvky_poloha, static_cast<std::size_t>(v.prvek_konec)), "vlaky", i,
-             "prvky_poloha");
+        musi(jsou_polohy(v.prvky, static_cast<std::size_t>(v.prvek_konec)), "vlaky", i, "prvky_poloha");
     }
     musi(!z.koleje_vlaky.empty() && z.koleje_vlaky.size() <= kNejviceZaznamu, "koleje_vlaky");
     for (std::size_t i = 0; i < z.koleje_vlaky.size(); ++i) {

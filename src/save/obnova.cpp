@@ -229,8 +229,8 @@ void obsad_koleje_pod_vlaky() {
         if (v.cislo < 1 || v.prvky.empty() || ohlaseny)
             continue;
         for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j)
-            if (v.prvky_druh[j] == druh_prvku::kolej && je_kolej(v.prvky[j]))
-                relief.kolej[v.prvky[j]].barva = barvy::cervena;
+            if (v.prvky[j].druh == druh_prvku::kolej && je_kolej(v.prvky[j].prvek))
+                relief.kolej[v.prvky[j].prvek].barva = barvy::cervena;
     }
 }
 

@@ -35,7 +35,7 @@ constexpr std::size_t sirka = 80, jmeno = 1, podminka = 20, cas = 60, data = 79;
 bool je_v_dohledu(const Cesta& c) {
     if (c.konec < 0 || !c.prehozena || c.ZT == kZTprogramu)
         return false;
-    return c.Umazat == 0 || (c.Umazat < c.prvky.size() && !je_usek_trati(c.prvky[c.Umazat]));
+    return c.Umazat == 0 || (c.Umazat < c.prvky.size() && !je_usek_trati(c.prvky[c.Umazat].prvek));
 }
 
 // Name of the end, or of the signal that stands there.

@@ -92,7 +92,8 @@ bool dobehne(int n) {
         if (c.zacatek < 0 || !c.prehozena || c.Provedena)
             continue;
         for (std::size_t k = 1; k < c.prvky.size(); ++k)
-            if (druh_na(c, k) == druh_prvku::vyhybka && (c.prvky[k] == n || je_vazana(c.prvky[k], n)))
+            if (druh_na(c, k) == druh_prvku::vyhybka &&
+                (c.prvky[k].prvek == n || je_vazana(c.prvky[k].prvek, n)))
                 return true;
     }
     return false;

@@ -96,7 +96,7 @@ Text prvky_druhu(const Cesta& c, int druh) {
     Text jmena;
     for (std::size_t k = 1; k < c.prvky.size(); ++k)
         if (druh_na(c, k) == druh)
-            jmena += (jmena.empty() ? "" : ", ") + jmeno_prvku_cesty(c.prvky[k], druh);
+            jmena += (jmena.empty() ? "" : ", ") + jmeno_prvku_cesty(c.prvky[k].prvek, druh);
     return jmena.empty() ? Text("-") : jmena;
 }
 

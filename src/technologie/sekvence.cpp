@@ -41,7 +41,7 @@ RizikovaFunkce rnz_navestidla(int s) {
         return f;
     bool bez_vlaku = true, v_poloze = true;
     for (std::size_t k = 1; k < c->prvky.size(); ++k) {
-        const int n = c->prvky[k];
+        const int n = c->prvky[k].prvek;
         if (druh_na(*c, k) != druh_prvku::vyhybka || !relief.imgVyhybka.je(n))
             continue;
         const int stav = stav_vyhybky_cislo(n);

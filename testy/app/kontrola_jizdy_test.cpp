@@ -4,6 +4,7 @@
 #include "app/kontrola_jizdy.h"
 #include "cesty/smer_trati.h"
 #include "jizda/svet_vlaku.h"
+#include "pomocne/prvky_cesty.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "relief/topologie.h"
 
@@ -23,18 +24,14 @@ protected:
         cesta.Vlak = static_cast<std::int16_t>(v);
         cesta.Umazat = i;
         vlak(v).prvky.push_back(cesta.prvky[i]);
-        vlak(v).prvky_druh.push_back(cesta.druhy[i]);
-        vlak(v).prvky_poloha.push_back(cesta.polohy[i]);
-        if (cesta.druhy[i] == druh_prvku::kolej)
-            relief.kolej[cesta.prvky[i]].barva = barvy::cervena;
+        if (cesta.prvky[i].druh == druh_prvku::kolej)
+            relief.kolej[cesta.prvky[i].prvek].barva = barvy::cervena;
     }
     // A train of 100 m on 62, `metry` of 440 and switch 7.
     int vlak_pres_vyhybku(int metry) {
         const int v = vlak_na(62, true, 1234);
         vlak(v).delka = 100;
-        vlak(v).prvky = {62, 440, 7};
-        vlak(v).prvky_druh = {1, 1, 2};
-        vlak(v).prvky_poloha = {0, 0, 2};
+        vlak(v).prvky = prvky_cesty({62, 440, 7}, {1, 1, 2}, {0, 0, 2});
         barvi_prvek(440, barvy::cervena);
         nastav_metry(62, delka_koleje(62));
         nastav_metry(440, metry);
@@ -112,13 +109,10 @@ TEST_F(KontrolaJizdy, TrainMovesOverItsRouteOnly) {
 TEST_F(KontrolaJizdy, HeldEntriesAreNeighbours) {
     const int v = vlak_na(62, true, 1234);
     ASSERT_EQ(nalez(), "");
-    vlak(v).prvky = {62, 440, 7};
-    vlak(v).prvky_druh = {1, 1, 2};
-    vlak(v).prvky_poloha = {0, 0, 2};
+    vlak(v).prvky = prvky_cesty({62, 440, 7}, {1, 1, 2}, {0, 0, 2});
     barvi_prvek(440, barvy::cervena);
     EXPECT_EQ(nalez(), "");
-    vlak(v).prvky = {62, 7, 63};
-    vlak(v).prvky_druh = {1, 2, 1};
+    vlak(v).prvky = prvky_cesty({62, 7, 63}, {1, 2, 1});
     barvi_prvek(63, barvy::cervena);
     EXPECT_EQ(nalez(), "vlaky " + std::to_string(v) + ": drží prvky 62 a 7, které spolu nesousedí");
     vlak(v).prvek_konec = 1;
@@ -160,9 +154,7 @@ TEST_F(KontrolaJizdy, EndOfAPauseIsNoStepOfTheMovement) {
 TEST_F(KontrolaJizdy, ShortenedTrainHoldsLessThanItsLength) {
     const int v = vlak_na(62, true, 1234);
     vlak(v).delka = 100;
-    vlak(v).prvky = {62, 440};
-    vlak(v).prvky_druh = {1, 1};
-    vlak(v).prvky_poloha = {0, 0};
+    vlak(v).prvky = prvky_cesty({62, 440}, {1, 1}, {0, 0});
     barvi_prvek(440, barvy::cervena);
     nastav_metry(62, delka_koleje(62));
     const int c = cesta(pres_vyhybku());
@@ -177,9 +169,7 @@ TEST_F(KontrolaJizdy, TrainThatHasSharedATrackFindsItselfSomewhereOnIt) {
     const int v = vlak_na(62, true, 1234);
     vlak(v).delka = 100;
     const int u = vlak_na(62, true, 5678);
-    vlak(v).prvky = {62, 440};
-    vlak(v).prvky_druh = {1, 1};
-    vlak(v).prvky_poloha = {0, 0};
+    vlak(v).prvky = prvky_cesty({62, 440}, {1, 1}, {0, 0});
     barvi_prvek(440, barvy::cervena);
     nastav_metry(440, 30);
     ASSERT_EQ(nalez(), "");
@@ -260,9 +250,7 @@ TEST_F(KontrolaJizdy, SignalToALineClearsOnlyInItsDirection) {
     c = na_trat();
     (void)proti;
     const int v = vlak_na(654, false, 1234);
-    vlak(v).prvky = {654, 604};
-    vlak(v).prvky_druh = {1, 1};
-    vlak(v).prvky_poloha = {0, 0};
+    vlak(v).prvky = prvky_cesty({654, 604}, {1, 1}, {0, 0});
     barvi_prvek(604, barvy::cervena);
     ASSERT_EQ(nalez(), "");
     cesta_c(c).Postavena = cesta_c(c).Provedena = true;

@@ -4,6 +4,7 @@
 #include "app/kontrola_majitelu.h"
 #include "cesty/dotazy.h"
 #include "jizda/svet_vlaku.h"
+#include "pomocne/prvky_cesty.h"
 #include "prvky/stav_vyhybek.h"
 #include "relief/topologie.h"
 
@@ -100,9 +101,7 @@ TEST_F(KontrolaMajitelu, ShortenedTrainStaysInTheListsBehindItUntilItMoves) {
     const int v = vlak_na(62, true, 1234);
     pridej_na_kolej(63, v, true, -1);
     barvi_prvek(63, barvy::cervena);
-    vlak(v).prvky = {63, 7, 62};
-    vlak(v).prvky_druh = {1, 2, 1};
-    vlak(v).prvky_poloha = {0, 2, 0};
+    vlak(v).prvky = prvky_cesty({63, 7, 62}, {1, 2, 1}, {0, 2, 0});
     vyhybka_stav(7, 152, false, false);
     ASSERT_EQ(nalez(), "");
     vlak(v).prvek_konec = 2;

@@ -7,6 +7,7 @@
 #include "jizda/vlak.h"
 #include "obsluha/vyber.h"
 #include "pomocne/male_kolejiste.h"
+#include "pomocne/prvky_cesty.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stav_vyhybek.h"
@@ -35,9 +36,7 @@ protected:
         Cesta c;
         c.zacatek = 262;
         c.konec = 63;
-        c.prvky = {62, 440, 7, 63};
-        c.druhy = {1, 1, 2, 1};
-        c.polohy = {2, 0, poloha, 0};
+        c.prvky = prvky_cesty({62, 440, 7, 63}, {1, 1, 2, 1}, {2, 0, poloha, 0});
         c.prejezd = kBezPrejezdu;
         c.prehozena = true;
         return c;
@@ -115,14 +114,14 @@ TEST_F(Kontrola, SwitchMustShowOneOfItsPictures) {
 
 TEST_F(Kontrola, RouteMustConsistOfElements) {
     cesty = {cesta_pres_vyhybku(2)};
-    cesty[0].prvky[2] = 8;
+    cesty[0].prvky[2].prvek = 8;
     EXPECT_EQ(nalez(), "cesty 0: prvek 8 druhu 2 neexistuje");
     cesty = {cesta_pres_vyhybku(2)};
-    cesty[0].druhy[2] = 3;
+    cesty[0].prvky[2].druh = 3;
     EXPECT_EQ(nalez(), "cesty 0: prvek 7 druhu 3 neexistuje");
     cesty = {cesta_pres_vyhybku(2)};
-    cesty[0].polohy.pop_back();
-    EXPECT_TRUE(obsahuje(nalez(), "nejsou stejně dlouhé"));
+    cesty[0].prvky.clear();
+    EXPECT_TRUE(obsahuje(nalez(), "nemá žádný prvek"));
     cesty.clear();
     EXPECT_TRUE(obsahuje(nalez(), "tabulka je prázdná"));
 }
@@ -222,9 +221,7 @@ TEST_F(Kontrola, TrainHoldsOccupiedTracksThatExist) {
     Vlak& v = vlaky[2];
     v.cislo = 1234;
     v.posun = true;
-    v.prvky = {62, 440, 7};
-    v.prvky_druh = {1, 1, 2};
-    v.prvky_poloha = {0, 0, 2};
+    v.prvky = prvky_cesty({62, 440, 7}, {1, 1, 2}, {0, 0, 2});
     v.prvek_konec = 1;
     EXPECT_EQ(nalez(), "vlaky 2: drží kolej 440, která není obsazená");
     relief.kolej[440].barva = barvy::cervena;
@@ -233,12 +230,10 @@ TEST_F(Kontrola, TrainHoldsOccupiedTracksThatExist) {
     stav_vyhybek.vyhybka_pohyb[7] = true;
     EXPECT_EQ(nalez(), "vlaky 2: pod vlakem se přestavuje výhybka 7");
     stav_vyhybek.vyhybka_pohyb[7] = false;
-    v.prvky.back() = 8;
+    v.prvky.back().prvek = 8;
     EXPECT_EQ(nalez(), "vlaky 2: prvek 8 druhu 2 neexistuje");
     v.prvek_konec = 3;
     EXPECT_EQ(nalez(), "vlaky 2: prvek_konec neukazuje na držený prvek");
-    v.prvky_druh.pop_back();
-    EXPECT_EQ(nalez(), "vlaky 2: seznamy prvků, druhů a poloh nejsou stejně dlouhé");
     v.cislo = -3;
     EXPECT_EQ(nalez(), ""); // a free record holds nothing
 }
@@ -246,9 +241,7 @@ TEST_F(Kontrola, TrainHoldsOccupiedTracksThatExist) {
 TEST_F(Kontrola, AnnouncedTrainStandsOnAGreenTrack) {
     Vlak& v = vlaky[0];
     v.cislo = 1234;
-    v.prvky = {62};
-    v.prvky_druh = {1};
-    v.prvky_poloha = {0};
+    v.prvky = prvky_cesty({62}, {1}, {0});
     v.prvek_konec = 0;
     v.stanice_index = -4;
     relief.kolej[62].barva = barvy::zelena;
@@ -258,9 +251,7 @@ TEST_F(Kontrola, AnnouncedTrainStandsOnAGreenTrack) {
     relief.kolej[62].barva = barvy::seda;
     EXPECT_EQ(nalez(), "vlaky 0: drží kolej 62, která není obsazená");
     relief.kolej[62].barva = barvy::zelena;
-    v.prvky = {440, 62}; // it has come to it from elsewhere
-    v.prvky_druh = {1, 1};
-    v.prvky_poloha = {0, 0};
+    v.prvky = prvky_cesty({440, 62}, {1, 1}, {0, 0}); // it has come to it from elsewhere
     v.prvek_konec = 1;
     EXPECT_EQ(nalez(), "vlaky 0: drží kolej 62, která není obsazená");
 }

@@ -298,7 +298,7 @@ TEST_F(Start, TrafficIsThereAtOnceUnlessASavedSimulationBringsIt) {
     Zapisovac soubor;
     soubor.l(0);
     soubor.text("");
-    popis_gvd_vlaku(soubor, radek);
+    popis_poli(soubor, radek);
     svet.zapis("GVD/GVDtyden.dat", soubor.bajty);
     spust();
     EXPECT_EQ(vlaky[0].cislo, 4701);

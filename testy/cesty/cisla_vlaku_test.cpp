@@ -4,6 +4,7 @@
 #include "cesty/uvolneni.h"
 #include "jizda/na_koleji.h"
 #include "jizda/vlak.h"
+#include "pomocne/prvky_cesty.h"
 #include "relief/prejezdy.h"
 
 struct Cisla : Stavedlo {
@@ -99,13 +100,12 @@ TEST_F(Cisla, TrainWithoutAFreeLabelTakesTheOneThatFallsFree) {
     EXPECT_EQ(text(654), "") << "it is not written again";
     pis_cislo(41, "", true);
     vlaky[3].cislo = 44;
-    vlaky[3].prvky = {41, 6, 604};
-    vlaky[3].prvky_druh = {1, 2, 1};
+    vlaky[3].prvky = prvky_cesty({41, 6, 604}, {1, 2, 1});
     cesty[0].Vlak = 3;
     cesty[0].Umazat = 2;
     pis_cislo(704, "33", true);
     EXPECT_EQ(text(604), "44");
-    vlaky[3].prvky.push_back(77);
+    vlaky[3].prvky.push_back({77, 0, 0});
     pis_cislo(704, "55", true);
     pis_cislo(704, "44", true);
     EXPECT_EQ(text(604), "") << "it runs elsewhere by now";
@@ -294,14 +294,15 @@ TEST_F(Cisla, StopTakesTheNumberOffAndDNBringsItBack) {
 }
 
 TEST_F(Cisla, RingOfRoutesEnds) {
-    zat = {{240, 41, {40, 41}, {1, 1}, {0, 0}, 0}, {41, 40, {41, 40}, {1, 1}, {0, 0}, 0}};
+    zat = {{240, 41, prvky_cesty({40, 41}, {1, 1}, {0, 0}), 0},
+           {41, 40, prvky_cesty({41, 40}, {1, 1}, {0, 0}), 0}};
     postav_tabulky();
     pis_cislo(40, "1234");
     postav(240, 41);
     cesty.push_back(cesty[0]);
     cesty[1].zacatek = 41;
     cesty[1].konec = 40;
-    cesty[1].prvky = {41, 40};
+    cesty[1].prvky = prvky_cesty({41, 40});
     postup_cisla(0);
     EXPECT_EQ(text(41), "1234");
     vymaz_cislo(0, false, "");

@@ -64,7 +64,7 @@ TEST_F(Dotazy, EndIsHeldByACommandedRoute) {
 
 TEST_F(Dotazy, LineIsHeldByARouteThatIsNotRunToItsEnd) {
     postav(241, 604);
-    ASSERT_EQ(cesty[0].prvky.back(), 704);
+    ASSERT_EQ(cesty[0].prvky.back().prvek, 704);
     EXPECT_FALSE(cil_volny(704));
     cesty[0].Umazat = static_cast<std::uint8_t>(cesty[0].prvky.size() - 1);
     EXPECT_TRUE(cil_volny(704));
@@ -156,11 +156,11 @@ TEST_F(Dotazy, AfterALoadTheTracksBeforeATrainOnACallingOnRouteStayReserved) {
     cesty[0].Vlak = 0;
     cesty[0].Umazat = 1; // the head is on the first section behind the signal
     ASSERT_GT(cesty[0].prvky.size(), 2u);
-    const int pred_vlakem = cesty[0].prvky.back();
-    relief.kolej[pred_vlakem].barva = relief.kolej[cesty[0].prvky.front()].barva = barvy::azurova;
+    const int pred_vlakem = cesty[0].prvky.back().prvek;
+    relief.kolej[pred_vlakem].barva = relief.kolej[cesty[0].prvky.front().prvek].barva = barvy::azurova;
     obnov_odjete();
     EXPECT_FALSE(je_volna(pred_vlakem));
-    EXPECT_TRUE(je_volna(cesty[0].prvky.front()));
+    EXPECT_TRUE(je_volna(cesty[0].prvky.front().prvek));
     uklid_odjete();
     EXPECT_EQ(barva(pred_vlakem), barvy::azurova);
 }

@@ -72,7 +72,7 @@ TEST_F(Duvod, RouteThatHoldsTheElementNowIsNamed) {
 }
 
 TEST_F(Duvod, FlankProtectionTellsWhatItLacks) {
-    zat.push_back({243, 44, {43, 5, 6, 44}, {1, 2, 2, 1}, {0, 2, 5, 0}, 0});
+    zat.push_back({243, 44, prvky_cesty({43, 5, 6, 44}, {1, 2, 2, 1}, {0, 2, 5, 0}), 0});
     postav_tabulky();
     prepni_pv_vz(false);
     relief.imgVyhybka[6].nahore = 4195; // 7 lies at the fourth corner
@@ -92,7 +92,7 @@ TEST_F(Duvod, FlankProtectionTellsWhatItLacks) {
 TEST_F(Duvod, CrossingTrackIsNamedInsteadOfTheFreeOne) {
     kolej(106, 4000, 5000, 4390);
     kolej(543, 4000, 5000, 4390);
-    zat.push_back({243, 44, {43, 106, 44}, {1, 1, 1}, {0, 0, 0}, 0});
+    zat.push_back({243, 44, prvky_cesty({43, 106, 44}, {1, 1, 1}, {0, 0, 0}), 0});
     postav_tabulky();
     zarad(243, 44);
     relief.kolej[543].barva = barvy::cervena;
@@ -114,7 +114,7 @@ TEST_F(Duvod, RouteThatHoldsTheEndIsNamed) {
 }
 
 TEST_F(Duvod, TrainRouteToTheEndOfAShuntRouteIsNamed) {
-    zpc.push_back({242, 41, {42, 6, 41}, {1, 2, 1}, {0, 6, 0}, 0});
+    zpc.push_back({242, 41, prvky_cesty({42, 6, 41}, {1, 2, 1}, {0, 6, 0}), 0});
     postav_tabulky();
     prepni_pv_vz(false);
     zarad(240, 41);

@@ -85,12 +85,12 @@ void obsad(int n) {
 
 // A train can take the route: it stands, and nothing is in its way but at its start.
 bool lze_jet(const Cesta& c) {
-    const Barva start = relief.kolej[c.prvky[0]].barva;
-    if (!c.Postavena || c.Umazat != 0 || c.cas_ruseni >= 0 || c.PN || c.prvky[0] >= 600 ||
+    const Barva start = relief.kolej[c.prvky[0].prvek].barva;
+    if (!c.Postavena || c.Umazat != 0 || c.cas_ruseni >= 0 || c.PN || c.prvky[0].prvek >= 600 ||
         (start != barvy::cervena && start != barvy::seda))
         return false;
     for (std::size_t k = 1; k < c.prvky.size(); ++k)
-        if (druh_na(c, k) == druh_prvku::kolej && relief.kolej[c.prvky[k]].barva == barvy::cervena)
+        if (druh_na(c, k) == druh_prvku::kolej && relief.kolej[c.prvky[k].prvek].barva == barvy::cervena)
             return false;
     return true;
 }
@@ -102,13 +102,13 @@ void jed(std::size_t od) {
         ++i;
     if (i >= cesty.size())
         return;
-    if (relief.kolej[cesty[i].prvky[0]].barva == barvy::seda)
-        obsad(cesty[i].prvky[0]);
+    if (relief.kolej[cesty[i].prvky[0].prvek].barva == barvy::seda)
+        obsad(cesty[i].prvky[0].prvek);
     kopie_ab(static_cast<int>(i));
     cesty[i].Vlak = 0;
     navestidla(cesty[i].zacatek)[cesty[i].zacatek].barva = barvy::seda;
     for (std::size_t k = 1; k < cesty[i].prvky.size(); ++k) {
-        const int n = cesty[i].prvky[k], ocas = cesty[i].prvky[k - 1];
+        const int n = cesty[i].prvky[k].prvek, ocas = cesty[i].prvky[k - 1].prvek;
         if (druh_na(cesty[i], k) == druh_prvku::vyhybka)
             vyhybka_stav(n, poloha_na(cesty[i], k) + 150, false, false);
         else if (druh_na(cesty[i], k) == druh_prvku::kolej)
@@ -125,7 +125,7 @@ void jed(std::size_t od) {
             relief.lblVykolejka[ocas].barva = barvy::seda;
         }
     }
-    const int konec = cesty[i].prvky.back();
+    const int konec = cesty[i].prvky.back().prvek;
     ++Svet::jizdy;
     smaz_cestu(static_cast<int>(i));
     if (konec >= 600) { // it leaves the picture at the far end of the line
@@ -215,15 +215,15 @@ std::string kontrola_zaveru() {
         if (!c.prehozena || c.PN || !c.VC || c.Umazat != 0)
             continue;
         for (std::size_t k = 1; k < c.prvky.size(); ++k) {
-            if (druh_na(c, k) != druh_prvku::kolej || c.prvky[k] >= 600)
+            if (druh_na(c, k) != druh_prvku::kolej || c.prvky[k].prvek >= 600)
                 continue;
             // The single track in the middle of a route is held by its arrow, which only routes that end
             // there ask: the real junction has no others.
-            if (c.prvky[k] == 118 && k + 1 < c.prvky.size())
+            if (c.prvky[k].prvek == 118 && k + 1 < c.prvky.size())
                 continue;
-            int& kdo = drzi[static_cast<std::size_t>(c.prvky[k])];
+            int& kdo = drzi[static_cast<std::size_t>(c.prvky[k].prvek)];
             if (kdo >= 0)
-                return "track " + std::to_string(c.prvky[k]) + " is held by two train routes";
+                return "track " + std::to_string(c.prvky[k].prvek) + " is held by two train routes";
             kdo = static_cast<int>(i);
         }
     }

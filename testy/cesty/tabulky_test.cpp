@@ -6,9 +6,9 @@
 using Tabulky = Stavedlo;
 
 TEST_F(Tabulky, FirstRecordOfAPairWins) {
-    svet.zapis("data/tesk.zat", bajty_cest({{1, 9, {1, 9}, {1, 1}, {0, 0}, 0},
-                                            {240, 41, {40, 41}, {1, 1}, {0, 0}, 3},
-                                            {240, 41, {40, 5, 41}, {1, 2, 1}, {0, 2, 0}, 1}}));
+    svet.zapis("data/tesk.zat", bajty_cest({{1, 9, prvky_cesty({1, 9}, {1, 1}, {0, 0}), 0},
+                                            {240, 41, prvky_cesty({40, 41}, {1, 1}, {0, 0}), 3},
+                                            {240, 41, prvky_cesty({40, 5, 41}, {1, 2, 1}, {0, 2, 0}), 1}}));
     const NalezenaCesta nalezena = najdi_v_tabulce(TabulkaCest::zat, 240, 41);
     ASSERT_TRUE(nalezena);
     EXPECT_EQ(nalezena.radek, 2);
@@ -25,7 +25,7 @@ TEST_F(Tabulky, UnknownPairIsNoRoute) {
 
 TEST_F(Tabulky, ChangedFileIsReadAgain) {
     EXPECT_TRUE(najdi_v_tabulce(TabulkaCest::zat, 240, 41));
-    svet.zapis("data/tesk.zat", bajty_cest({{7, 8, {7, 8}, {1, 1}, {0, 0}, 0}}));
+    svet.zapis("data/tesk.zat", bajty_cest({{7, 8, prvky_cesty({7, 8}, {1, 1}, {0, 0}), 0}}));
     EXPECT_FALSE(najdi_v_tabulce(TabulkaCest::zat, 240, 41));
     EXPECT_TRUE(najdi_v_tabulce(TabulkaCest::zat, 7, 8));
 }
@@ -50,21 +50,32 @@ TEST_F(Tabulky, RecordOfARouteTakesItsBytes) {
     EXPECT_EQ(z.bajty.size(), 33u + 5 * 2);
 }
 
+TEST_F(Tabulky, WhatTheListsOfADamagedRecordLackReadsAsZero) {
+    Zapisovac z;
+    z.i(240);
+    z.i(41);
+    const std::vector<std::int16_t> prvky{40, 5, 41};
+    const std::vector<std::uint8_t> druhy{1, 2}, polohy{2, 3, 0, 9};
+    pole_i(z, prvky);
+    pole_b(z, druhy);
+    pole_b(z, polohy);
+    z.b(1);
+    EXPECT_EQ(cti_cesty(z.bajty),
+              (std::vector<ZaznamCesty>{{240, 41, prvky_cesty({40, 5, 41}, {1, 2, 0}, {2, 3, 0}), 1}}));
+}
+
 TEST_F(Tabulky, DamagedBytesNeverEndTheProcess) {
     const Bajty cele = bajty_cest(zat);
     for (std::size_t i = 0; i < cele.size(); ++i)
         for (const std::uint8_t hodnota : {std::uint8_t{0}, std::uint8_t{0x7F}, std::uint8_t{0xFF}}) {
             Bajty bajty = cele;
             bajty[i] = hodnota;
-            for (const ZaznamCesty& zaznam : cti_cesty(bajty)) {
-                EXPECT_EQ(zaznam.druhy.size(), zaznam.prvky.size());
-                EXPECT_EQ(zaznam.polohy.size(), zaznam.prvky.size());
-            }
+            EXPECT_LE(cti_cesty(bajty).size(), bajty.size() / 11);
         }
 }
 
 TEST_F(Tabulky, RouteWithoutElementsIsNoRoute) {
-    svet.zapis("data/tesk.zat", bajty_cest({{240, 41, {}, {}, {}, 0}}));
+    svet.zapis("data/tesk.zat", bajty_cest({{240, 41, {}, 0}}));
     EXPECT_FALSE(najdi_v_tabulce(TabulkaCest::zat, 240, 41));
     EXPECT_FALSE(najdi_cestu(240, 41, druh_volby::vlak, false));
 }

@@ -4,6 +4,7 @@
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"
 #include "jizda/vlak.h"
+#include "pomocne/prvky_cesty.h"
 #include "prvky/navestidla.h"
 #include "prvky/stanicni_prejezdy.h"
 
@@ -122,7 +123,7 @@ TEST_F(Uvolneni, RouteWithASwitchOutOfPlaceIsPassedOver) {
     postav(240, 41);
     const Cesta nizsi = cesty[0];
     cesty.push_back(nizsi);
-    cesty[1].polohy[1] = 3; // its switch was brought elsewhere by NOUZ
+    cesty[1].prvky[1].poloha = 3; // its switch was brought elsewhere by NOUZ
     zrus_cestu(240);
     EXPECT_EQ(cesty[1].cas_ruseni, -3);
     EXPECT_EQ(cesty[0].cas_ruseni, ted_s() + 5);
@@ -177,10 +178,10 @@ TEST_F(Uvolneni, EnteredAndForeignRoutesAreNotCancelled) {
     zrus_cestu(240);
     EXPECT_EQ(cesty[0].cas_ruseni, -3);
     cesty[0].Umazat = 0;
-    cesty[0].prvky[0] = 212;
+    cesty[0].prvky[0].prvek = 212;
     zrus_cestu(240);
     EXPECT_EQ(cesty[0].cas_ruseni, -3);
-    cesty[0].prvky[0] = 40;
+    cesty[0].prvky[0].prvek = 40;
     relief.navestidlo[240].barva = barvy::cervena;
     zrus_cestu(240);
     EXPECT_EQ(cesty[0].cas_ruseni, -3) << "the signal is blocked";
@@ -213,7 +214,7 @@ TEST_F(Uvolneni, DirectionStaysForTheTrainOnTheLine) {
 }
 
 TEST_F(Uvolneni, DirectionStaysForAnotherRouteOntoTheLine) {
-    zat.push_back({46, 604, {46, 604}, {1, 1}, {0, 0}, 0});
+    zat.push_back({46, 604, prvky_cesty({46, 604}, {1, 1}, {0, 0}), 0});
     postav_tabulky();
     postav(241, 604);
     postav(46, 604);
@@ -398,12 +399,12 @@ TEST_F(Uvolneni, RNZUnderATrainLeavesTheRecordToItsEnd) {
     cekej(31);
     cesty[0].Umazat = 1;
     cesty[0].Vlak = 0;
-    vlaky[0].prvky = {40, 5};
+    vlaky[0].prvky = prvky_cesty({40, 5});
     vlaky[0].prvek_konec = 0;
     rnz(240);
     ASSERT_EQ(cesty[0].zacatek, 240);
     EXPECT_TRUE(cesty[0].PN_zaver);
-    vlaky[0].prvky = {40, 5, 41};
+    vlaky[0].prvky = prvky_cesty({40, 5, 41});
     vlaky[0].prvek_konec = 2;
     rnz(240);
     EXPECT_EQ(cesty[0].zacatek, -3);
@@ -414,7 +415,7 @@ TEST_F(Uvolneni, SecondRNZTouchesNoSwitchThatAnotherRouteHasLocked) {
     cekej(31);
     cesty[0].Umazat = 1;
     cesty[0].Vlak = 0;
-    vlaky[0].prvky = {40, 5};
+    vlaky[0].prvky = prvky_cesty({40, 5});
     vlaky[0].prvek_konec = 0;
     rnz(240);
     ASSERT_EQ(stav(5), 2);
@@ -440,14 +441,14 @@ void prejed(std::size_t i, int vlak) {
     const std::int16_t zacatek = cesty[i].zacatek;
     cesty[i].Vlak = static_cast<std::int16_t>(vlak);
     for (std::size_t k = 1; k < cesty[i].prvky.size(); ++k) {
-        const int n = cesty[i].prvky[k];
+        const int n = cesty[i].prvky[k].prvek;
         if (druh_na(cesty[i], k) == druh_prvku::vyhybka)
             vyhybka_stav(n, poloha_na(cesty[i], k) + 150, false, false);
         else
             barvi_prvek(n, barvy::cervena);
         cesty[i].Umazat = static_cast<std::uint8_t>(k);
         navestidla(zacatek)[zacatek].barva = barvy::seda;
-        const int ocas = cesty[i].prvky[k - 1];
+        const int ocas = cesty[i].prvky[k - 1].prvek;
         if (druh_na(cesty[i], k - 1) == druh_prvku::vyhybka) {
             vyhybka_stav(ocas, poloha_na(cesty[i], k - 1), false, false);
         } else if (je_cislo_koleje(ocas) && ocas < 600) {

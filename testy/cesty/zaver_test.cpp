@@ -6,6 +6,7 @@
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"
 #include "jizda/vlak.h"
+#include "pomocne/prvky_cesty.h"
 #include "pomocne/pult.h"
 #include "prvky/navestidla.h"
 #include "prvky/prejezdy_stanice.h"
@@ -27,9 +28,7 @@ struct Zaver : Stavedlo {
     static Vlak& vlak_na_vyhybce() {
         Vlak& v = vlaky[0];
         v.cislo = 77;
-        v.prvky = {40, 5, 41};
-        v.prvky_druh = {1, 2, 1};
-        v.prvky_poloha = {2, 2, 0};
+        v.prvky = prvky_cesty({40, 5, 41}, {1, 2, 1}, {2, 2, 0});
         v.prvek_konec = 0;
         return v;
     }
@@ -210,7 +209,7 @@ TEST_F(Zaver, CommandedRouteWaitsWhileAnotherOneHasItsSwitch) {
 }
 
 TEST_F(Zaver, RouteThatWaitsForItsCrossingIsNotLockedAnew) {
-    zat.push_back({240, 44, {40, 107, 5, 44}, {1, 1, 2, 1}, {0, 0, 2, 0}, 0});
+    zat.push_back({240, 44, prvky_cesty({40, 107, 5, 44}, {1, 1, 2, 1}, {0, 0, 2, 0}), 0});
     postav_tabulky();
     relief.kolej[40].barva = barvy::cervena;
     zarad(240, 44);

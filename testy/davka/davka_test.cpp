@@ -428,6 +428,25 @@ TEST_F(Davka, AttributesCanBeSetByHand) {
                    "over vlak 3 cislo=4711 vozy=754,B,560 muze_jet=true\n");
 }
 
+TEST_F(Davka, ListsOfOneLengthAreSetInOneCommand) {
+    vypis(kStart + "nastav vlak 3 prvky=62,63 prvky_druh=1,2 prvky_poloha=0,3\n"
+                   "over vlak 3 prvky=62,63 prvky_druh=1,2 prvky_poloha=0,3\n"
+                   "nastav vlak 3 prvky_poloha=2,5\n"
+                   "over vlak 3 prvky=62,63 prvky_druh=1,2 prvky_poloha=2,5\n"
+                   "nastav vlak 3 vozy=754,B,Bp vozy_urceni=ZAL\n"
+                   "over vlak 3 vozy=754,B,Bp vozy_urceni=ZAL,, vozy_obrazek=,,\n"
+                   "nastav vlak 3 vozy=943,810\n"
+                   "over vlak 3 vozy=943,810 vozy_urceni=ZAL, vozy_obrazek=,\n"
+                   "nastav cesta 0 polohy=2,3,0 prvky=62,7,63 druhy=1,2,1\n"
+                   "over cesta 0 prvky=62,7,63 druhy=1,2,1 polohy=2,3,0\n");
+    for (const char* prikaz :
+         {"vlak 3 prvky=62,63 prvky_druh=1 prvky_poloha=0,0", "vlak 3 prvky_druh=1,1", "vlak 3 prvky=62",
+          "vlak 3 stanice=1,2", "vlak 3 stanice=1,2 prijezd=-3,5 odjezd=3,-3 odjezd_realny=3",
+          "vlak 3 vozy=754 vozy_urceni=1,2", "vlak 3 vozy_obrazek=a", "cesta 0 druhy=1,1",
+          "cesta 0 prvky=", "cesta 0 prvky=1,2 druhy=1,2 polohy=1,2,3"})
+        EXPECT_TRUE(obsahuje(duvod(kStart + "nastav " + prikaz + "\n"), "musí být stejně dlouhé")) << prikaz;
+}
+
 TEST_F(Davka, SettingRefusesWhatDoesNotFit) {
     EXPECT_TRUE(obsahuje(duvod(kStart + "nastav kolej 999 barva=0\n"), "neexistuje"));
     EXPECT_TRUE(obsahuje(duvod(kStart + "nastav kolej 62 barva=cervena\n"), "čeká se barva"));

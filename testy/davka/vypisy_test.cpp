@@ -5,6 +5,7 @@
 #include "desk/zprava.h"
 #include "jizda/vlak.h"
 #include "pomocne/virtualni_platforma.h"
+#include "pomocne/vozy_vlaku.h"
 
 #include <string>
 #include <utility>
@@ -27,9 +28,7 @@ TEST_F(Vypisy, InformationHasTheTextTheTrainAndItsVehicles) {
     Vlak& v = vlaky[3];
     v.cislo = 1234;
     v.posun = true;
-    v.vozy = {"754", "OBB Bmpz"};
-    v.vozy_urceni = {"1500", "0"};
-    v.vozy_obrazek = {"754_5_l.ico", ""};
+    v.vozy = vozy_vlaku({"754", "OBB Bmpz"}, {"1500", "0"}, {"754_5_l.ico", ""});
     info_o_vlaku({}, 3);
     const std::string lokomotiva = R"x({"i": 0, "obrazek": "754_5_l.ico", "popis": "ČD 754 (1500)", )x"
                                    R"x("ramecek": true, "viditelny": true})x";

@@ -6,7 +6,9 @@
 #include "jizda/vlak.h"
 #include "obsluha/vstup.h"
 #include "pomocne/jizdni_rad.h"
+#include "pomocne/prvky_cesty.h"
 #include "pomocne/virtualni_platforma.h"
+#include "pomocne/vozy_vlaku.h"
 #include "relief/relief.h"
 #include "zaklad/cisla.h"
 
@@ -37,17 +39,13 @@ protected:
         v.odjezd_realny = v.odjezd;
         v.stanice_index = 1;
         v.smer = true;
-        v.vozy = {"363", "Bp", "A"};
-        v.vozy_urceni = {"", "", ""};
-        v.vozy_obrazek = {"363_5.ico", "B.ico", "A.ico"};
+        v.vozy = vozy_vlaku({"363", "Bp", "A"}, {"", "", ""}, {"363_5.ico", "B.ico", "A.ico"});
         return v;
     }
-    static Vlak& posun(std::vector<Text> vozy, Text urceni = {}) {
+    static Vlak& posun(const std::vector<Text>& vozy, const Text& urceni = {}) {
         Vlak& v = vlak();
         v.posun = true;
-        v.vozy_urceni.assign(vozy.size(), std::move(urceni));
-        v.vozy_obrazek.assign(vozy.size(), Text{});
-        v.vozy = std::move(vozy);
+        v.vozy = vozy_vlaku(vozy, std::vector<Text>(vozy.size(), urceni));
         v.stanice_index = 0;
         return v;
     }
@@ -166,7 +164,7 @@ TEST_F(InfoVlaku, SecondLocomotiveIsToldWhileItIsOnTheTrain) {
     v.priznaky = 1;
     v.loko_rada2 = 363;
     EXPECT_FALSE(obsahuje(text_vlaku(0), "lok. 2x"));
-    v.vozy = {"363", "363", "Bp"};
+    v.vozy = vozy_vlaku({"363", "363", "Bp"});
     EXPECT_TRUE(text_vlaku(0).ends_with("km/h; z THJ lok. 2x363"));
     v.loko_rada2 = 0;
     EXPECT_FALSE(obsahuje(text_vlaku(0), "lok. 2x"));
@@ -182,7 +180,7 @@ TEST_F(InfoVlaku, PassengerTrainWithoutItsBankingLocomotiveSaysWhereItComesOn) {
     EXPECT_TRUE(text_vlaku(0).ends_with("; z THN 754pk"));
     v.stanice = {1, 12, 5};
     EXPECT_TRUE(text_vlaku(0).ends_with("; z THJ 754pk"));
-    v.vozy.back() = "754";
+    v.vozy.back().rada = "754";
     EXPECT_FALSE(obsahuje(text_vlaku(0), "pk"));
     EXPECT_TRUE(text_vlaku(0).ends_with("; THN-TRY sune; TRY kolej T4"));
 }
@@ -208,7 +206,7 @@ TEST_F(InfoVlaku, ChangeOfTheLocomotiveIsToldUntilItIsDone) {
         g.vozy_vlaky = {1234, 0};
     }); // the timetable tells which train brings it
     EXPECT_TRUE(text_vlaku(0).ends_with("; z THJ lok.ř.754(1400)"_cz));
-    v.vozy.front() = "754";
+    v.vozy.front().rada = "754";
     EXPECT_TRUE(text_vlaku(0).ends_with("km/h"));
 }
 
@@ -258,9 +256,9 @@ TEST_F(InfoVlaku, SetAtTheMainStationIsToldItsDeparture) {
     v.druh = 16;
     EXPECT_FALSE(obsahuje(text_vlaku(0), "Tesk hl.n."));
     v.druh = 5;
-    v.vozy_urceni = {"ZAL", ""};
+    nastav_urceni(v.vozy, {"ZAL", ""});
     EXPECT_FALSE(obsahuje(text_vlaku(0), "Tesk hl.n."));
-    v.vozy_urceni = {"1500", ""};
+    nastav_urceni(v.vozy, {"1500", ""});
     v.vozy.pop_back();
     EXPECT_FALSE(obsahuje(text_vlaku(0), "Tesk hl.n."));
 }
@@ -327,8 +325,8 @@ TEST_F(InfoVlaku, NextTrainOfAVehicleStandsInBrackets) {
 
 TEST_F(InfoVlaku, VehiclesStandFromTheLeftWithTheirPictures) {
     Vlak& v = vlak();
-    v.vozy_obrazek[0] = "363_5_l.ico";
-    v.vozy_urceni[0] = "1500";
+    v.vozy[0].obrazek = "363_5_l.ico";
+    v.vozy[0].urceni = "1500";
     info_o_vlaku({}, 0);
     EXPECT_EQ(vozu_na_panelu(), 3);
     EXPECT_EQ(vlak_na_panelu(), 0);
@@ -352,7 +350,7 @@ TEST_F(InfoVlaku, VehiclesStandFromTheLeftWithTheirPictures) {
 TEST_F(InfoVlaku, PantographsStandOverTheFirstFourElectricVehicles) {
     for (int n = 1; n <= 3; ++n)
         relief.imgSberac.zaloz(n) = Prvek(relief.imgSberac[0]);
-    vlak().vozy = {"754", "363", "Bp", "560", "943", "363", "363", "363"};
+    vlak().vozy = vozy_vlaku({"754", "363", "Bp", "560", "943", "363", "363", "363"});
     info_o_vlaku({}, 0);
     const std::vector<int> pod_dratem = {1, 3, 5, 6};
     for (int n = 0; n < 4; ++n) {
@@ -362,14 +360,14 @@ TEST_F(InfoVlaku, PantographsStandOverTheFirstFourElectricVehicles) {
         EXPECT_GT(sberac.vlevo(), vuz.vlevo());
         EXPECT_LT(sberac.vlevo() + sberac.sirka(), vuz.vlevo() + vuz.sirka());
     }
-    vlak().vozy = {"754"};
+    vlak().vozy = vozy_vlaku({"754"});
     info_o_vlaku({}, 0);
     for (int n = 0; n < 4; ++n)
         EXPECT_FALSE(relief.imgSberac[n].viditelny);
 }
 
 TEST_F(InfoVlaku, PicturesBehindThePanelAreHiddenAndSaidToGoOn) {
-    vlak().vozy.assign(40, "Bp");
+    vlak().vozy.assign(40, {"Bp", {}, {}});
     info_o_vlaku({}, 0);
     EXPECT_EQ(vozu_na_panelu(), 40);
     for (int i = 0; i < 40; ++i) {
@@ -384,7 +382,7 @@ TEST_F(InfoVlaku, PicturesBehindThePanelAreHiddenAndSaidToGoOn) {
 
 TEST_F(InfoVlaku, SecondMonitorShowsEveryVehicle) {
     simulace.dva_monitory = true;
-    vlak().vozy.assign(40, "Bp");
+    vlak().vozy.assign(40, {"Bp", {}, {}});
     info_o_vlaku({}, 0);
     for (int i = 0; i < 40; ++i)
         EXPECT_TRUE(relief.imgObrzaek_vlaku[i].viditelny) << i;
@@ -393,7 +391,7 @@ TEST_F(InfoVlaku, SecondMonitorShowsEveryVehicle) {
 
 TEST_F(InfoVlaku, TrainLongerThanTheRowGetsItsPicturesMade) {
     simulace.dva_monitory = true;
-    vlak().vozy.assign(55, "Bp");
+    vlak().vozy.assign(55, {"Bp", {}, {}});
     info_o_vlaku({}, 0);
     EXPECT_EQ(vozu_na_panelu(), 55);
     EXPECT_EQ(relief.imgObrzaek_vlaku[54].vlevo(),
@@ -427,7 +425,7 @@ TEST_F(InfoVlaku, OtherPagesHideTheVehiclesAndTheTrainPageBringsThemBack) {
 
 TEST_F(InfoVlaku, TrainThatIsNoMoreIsNotOnDisplay) {
     Vlak& v = vlak();
-    v.prvky = {9};
+    v.prvky = prvky_cesty({9});
     info_o_vlaku({}, 0);
     const Text rikalo = radka();
     zrus_vlak(0);

@@ -13,6 +13,8 @@
 #include "gvd/zaplneni.h"
 #include "jizda/vlak.h"
 #include "pomocne/male_kolejiste.h"
+#include "pomocne/prvky_cesty.h"
+#include "pomocne/vozy_vlaku.h"
 #include "prvky/stav_vyhybek.h"
 #include "relief/topologie.h"
 #include "save/ulozeni.h"
@@ -89,7 +91,7 @@ inline Bajty vzor_prejezdu() {
 }
 
 inline void zkus_gvd(Vstup vstup) {
-    zaznamy<GvdVlak>(vstup, [](auto& a, auto& z) { popis_gvd_vlaku(a, z); });
+    zaznamy<GvdVlak>(vstup, [](auto& a, auto& z) { popis_poli(a, z); });
 }
 
 // Every element that the traffic knows, free.
@@ -136,9 +138,7 @@ inline void zkus_provoz(Vstup vstup) {
     }
     for (const Vlak& v : vlaky)
         if (v.cislo >= 1)
-            musi(v.vozy.size() == v.vozy_urceni.size() && v.vozy.size() == v.vozy_obrazek.size() &&
-                     v.prvky.size() == v.prvky_druh.size() && v.stanice.size() == v.odjezd_realny.size(),
-                 "the lists of a train go together");
+            musi(v.stanice.size() == v.odjezd_realny.size(), "the lists of a train go together");
     nova_simulace();
 }
 inline Bajty vzor_provozu() {
@@ -163,7 +163,7 @@ inline Bajty vzor_provozu() {
         r.vozy_vlaky = {0, static_cast<std::int16_t>(cislo + 1), 0};
         r.navazny_vlak = text_cisla(cislo + 1);
         r.kolej = "1";
-        popis_gvd_vlaku(soubor, r);
+        popis_poli(soubor, r);
     };
     vlak({19, 3, 8, 9}, 601, 1);
     vlak({1, 8, 9, 12}, 605, 2);
@@ -184,8 +184,8 @@ inline Bajty vzor_gvd() {
     vlak.vozy_vlaky = {0, 4701};
     vlak.nazev = "Tesk";
     Zapisovac soubor;
-    popis_gvd_vlaku(soubor, vlak);
-    popis_gvd_vlaku(soubor, vlak);
+    popis_poli(soubor, vlak);
+    popis_poli(soubor, vlak);
     return soubor.bajty;
 }
 
@@ -193,13 +193,10 @@ inline void zkus_cesty(Vstup vstup) {
     zaznamy<ZaznamCesty>(vstup, [](auto& a, auto& z) { popis_zaznamu_cesty(a, z); });
     const std::vector<ZaznamCesty> cesty_souboru = cti_cesty(Bajty(vstup.begin(), vstup.end()));
     musi(cesty_souboru.size() <= vstup.size() / 11, "a route takes eleven bytes at least");
-    for (const ZaznamCesty& z : cesty_souboru)
-        musi(z.druhy.size() == z.prvky.size() && z.polohy.size() == z.prvky.size(),
-             "the lists of a route go together");
 }
 inline Bajty vzor_cest() {
-    const ZaznamCesty prvni{287, 600, {87, 33, 404, 600}, {1, 2, 1, 1}, {2, 12, 0, 2}, 0};
-    const ZaznamCesty druhy{601, 12, {650, 107, 12}, {1, 1, 1}, {2, 0, 2}, 1};
+    const ZaznamCesty prvni{287, 600, prvky_cesty({87, 33, 404, 600}, {1, 2, 1, 1}, {2, 12, 0, 2}), 0};
+    const ZaznamCesty druhy{601, 12, prvky_cesty({650, 107, 12}, {1, 1, 1}, {2, 0, 2}), 1};
     Zapisovac soubor;
     popis_zaznamu_cesty(soubor, prvni);
     popis_zaznamu_cesty(soubor, druhy);
@@ -306,14 +303,12 @@ inline void zkus_zaznam(Vstup vstup) {
 }
 inline Bajty vzor_zaznamu() {
     postav_pro_nacteni();
-    const auto cesta = [](std::int16_t s, std::int16_t konec, std::vector<std::int16_t> prvky,
-                          std::vector<std::uint8_t> druhy, std::vector<std::uint8_t> polohy) {
+    const auto cesta = [](std::int16_t s, std::int16_t konec, const std::vector<std::int16_t>& prvky,
+                          const std::vector<std::uint8_t>& druhy, const std::vector<std::uint8_t>& polohy) {
         Cesta c;
         c.zacatek = s;
         c.konec = konec;
-        c.prvky = std::move(prvky);
-        c.druhy = std::move(druhy);
-        c.polohy = std::move(polohy);
+        c.prvky = prvky_cesty(prvky, druhy, polohy);
         c.VC = true;
         c.cas_stavby = 0;
         c.prejezd = kBezPrejezdu;
@@ -334,12 +329,8 @@ inline Bajty vzor_zaznamu() {
     v.stanice = {9, 3};
     v.prijezd = {-3, 740};
     v.odjezd = v.odjezd_realny = {725, -3};
-    v.vozy = {"754", "Bp"};
-    v.vozy_urceni = {"ZAL", ""};
-    v.vozy_obrazek = {"", ""};
-    v.prvky = {1, 5};
-    v.prvky_druh = {1, 2};
-    v.prvky_poloha = {2, 2};
+    v.vozy = vozy_vlaku({"754", "Bp"}, {"ZAL", ""}, {"", ""});
+    v.prvky = prvky_cesty({1, 5}, {1, 2}, {2, 2});
     v.prvek_konec = 0;
     koleje_vlaky.push_back({1, {0}});
     relief.kolej[1].barva = barvy::cervena;

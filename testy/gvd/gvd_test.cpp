@@ -28,7 +28,7 @@ Bajty soubor(const std::vector<GvdVlak>& radky) {
     z.l(12345);
     z.text("Zkušební řád"_cz);
     for (const GvdVlak& v : radky)
-        popis_gvd_vlaku(z, v);
+        popis_poli(z, v);
     return z.bajty;
 }
 

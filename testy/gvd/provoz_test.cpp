@@ -4,6 +4,8 @@
 #include "gvd/skladba.h"
 #include "jizda/zastavky.h"
 #include "pomocne/provoz_sveta.h"
+#include "pomocne/prvky_cesty.h"
+#include "pomocne/vozy_vlaku.h"
 
 #include <gtest/gtest.h>
 
@@ -226,7 +228,7 @@ TEST_F(Provoz, TrainIsAnnouncedTwoMinutesBeforeAndSetsOffAtItsMinute) {
     ASSERT_NE(vlak, nullptr);
     EXPECT_FALSE(vlak->muze_jet);
     EXPECT_TRUE(vlak->smer);
-    EXPECT_EQ(vlak->prvky, std::vector<std::int16_t>{87});
+    EXPECT_EQ(cisla_prvku(vlak->prvky), std::vector<std::int16_t>{87});
     EXPECT_EQ(vlak->stanice_index, -4);
     EXPECT_EQ(vlak->prvek_konec, 0);
     EXPECT_EQ(barva(87), barvy::zelena);
@@ -246,7 +248,8 @@ TEST_F(Provoz, NobodySetsOffWhereOnlyTheNumberHasRunAhead) {
     v("10:30:00");
     Vlak* vlak = najdi(1701);
     ASSERT_NE(vlak, nullptr);
-    vlak->prvky = {600}; // sent off before its minute; its number has run back over a route to track 87
+    vlak->prvky = prvky_cesty(
+        {600}, {1}); // sent off before its minute; its number has run back over a route to track 87
     relief.kolej[87].barva = barvy::zelena;
     v("10:32:00");
     EXPECT_EQ(cislo_na(87), "1701");
@@ -349,7 +352,7 @@ TEST_F(Provoz, DepotEntryNeedsAFreeEndOfRoutesToo) {
     pridej(radek(100, {{28, 630, 630}, {12, 640, -1}}));
     Cesta cesta;
     cesta.zacatek = 1;
-    cesta.prvky = {1, 112};
+    cesta.prvky = prvky_cesty({1, 112});
     cesta.prehozena = true;
     cesty = {cesta};
     v("10:30:00");
@@ -392,7 +395,7 @@ TEST_F(Provoz, PostLocomotiveStandsByAndShunts) {
     const Vlak* vlak = najdi(100);
     ASSERT_NE(vlak, nullptr);
     EXPECT_TRUE(vlak->posun);
-    EXPECT_EQ(vlak->vozy_urceni[0], "ZAL");
+    EXPECT_EQ(vlak->vozy[0].urceni, "ZAL");
     EXPECT_EQ(stav_provozu.pocet_zaloh, 1);
     EXPECT_EQ(barva(574), barvy::cervena);
     EXPECT_EQ(cislo_na(574), "");
@@ -423,8 +426,7 @@ TEST_F(Provoz, BranchDepotWaitsForARunningSet) {
     koleje({25});
     pridej(radek(1801, {{34, 630, 630}, {9, 640, -1}}));
     vlaky[3].cislo = 1801;
-    vlaky[3].vozy = {"754", "Bp"};
-    vlaky[3].vozy_urceni = {"", ""};
+    vlaky[3].vozy = vozy_vlaku({"754", "Bp"}, {"", ""});
     v("10:30:00");
     EXPECT_EQ(barva(25), barvy::seda);
 }
@@ -470,7 +472,7 @@ TEST_P(Souhlas, TrainAsksThenWaitsThenComesIn) {
     v("10:46:00");
     const Vlak* vlak = najdi(4701);
     ASSERT_NE(vlak, nullptr);
-    EXPECT_EQ(vlak->prvky, std::vector<std::int16_t>{static_cast<std::int16_t>(s.venku)});
+    EXPECT_EQ(cisla_prvku(vlak->prvky), std::vector<std::int16_t>{static_cast<std::int16_t>(s.venku)});
     EXPECT_TRUE(vlak->smer);
     EXPECT_TRUE(vlak->muze_jet);
     EXPECT_EQ(vlak->zpozdeni, 15);
@@ -487,8 +489,8 @@ TEST_P(Souhlas, TrainAsksThenWaitsThenComesIn) {
     const Cesta& c = cesty[0];
     EXPECT_EQ(c.zacatek, s.signal);
     EXPECT_EQ(c.konec, s.uvnitr);
-    EXPECT_EQ(c.prvky, (std::vector<std::int16_t>{static_cast<std::int16_t>(s.venku),
-                                                  static_cast<std::int16_t>(s.uvnitr)}));
+    EXPECT_EQ(cisla_prvku(c.prvky), (std::vector<std::int16_t>{static_cast<std::int16_t>(s.venku),
+                                                               static_cast<std::int16_t>(s.uvnitr)}));
     EXPECT_TRUE(c.VC && c.prehozena && c.Postavena && c.Provedena);
     EXPECT_EQ(c.ZT, 999);
     EXPECT_EQ(c.prejezd, 255);
@@ -579,7 +581,7 @@ TEST_F(Provoz, StandbyLocomotiveOfTheOtherSideComesFrom569) {
     EXPECT_EQ(pocet_vlaku(), 1);
     EXPECT_TRUE(vlaky[0].smer);
     EXPECT_TRUE(vlaky[0].posun);
-    EXPECT_EQ(vlaky[0].vozy_urceni[0], "ZAL");
+    EXPECT_EQ(vlaky[0].vozy[0].urceni, "ZAL");
 }
 
 } // namespace

@@ -1,6 +1,8 @@
 // testy/gvd/skladba_test.cpp - a timetable row becomes a train: times, vehicles, pictures.
 #include "gvd/skladba.h"
 #include "pomocne/provoz_sveta.h"
+#include "pomocne/prvky_cesty.h"
+#include "pomocne/vozy_vlaku.h"
 
 #include <gtest/gtest.h>
 
@@ -61,8 +63,8 @@ TEST_F(Skladba, RowIsCopiedIntoTheRecord) {
     EXPECT_EQ(v.stanice, r.stanice);
     EXPECT_EQ(v.stanice_index, -4);
     EXPECT_EQ(v.prvek_konec, 0);
-    EXPECT_EQ(v.prvky_poloha, std::vector<std::uint8_t>{2});
-    EXPECT_EQ(v.prvky_druh, std::vector<std::uint8_t>{1});
+    EXPECT_EQ(polohy_prvku(v.prvky), std::vector<std::uint8_t>{2});
+    EXPECT_EQ(druhy_prvku(v.prvky), std::vector<std::uint8_t>{1});
     EXPECT_EQ(v.rychlost, 0);
     EXPECT_FALSE(v.cislo2_platne);
     ASSERT_EQ(koleje_vlaky.size(), 2u);
@@ -71,8 +73,8 @@ TEST_F(Skladba, RowIsCopiedIntoTheRecord) {
 
 TEST_F(Skladba, LineAndHighElementsHaveNoListAndNoLabelMark) {
     pridej(dalkovy());
-    EXPECT_EQ(vytvor(true, 656).prvky_poloha, std::vector<std::uint8_t>{0});
-    EXPECT_EQ(vytvor(true, 538).prvky_poloha, std::vector<std::uint8_t>{2});
+    EXPECT_EQ(polohy_prvku(vytvor(true, 656).prvky), std::vector<std::uint8_t>{0});
+    EXPECT_EQ(polohy_prvku(vytvor(true, 538).prvky), std::vector<std::uint8_t>{2});
     EXPECT_EQ(koleje_vlaky.size(), 1u);
 }
 
@@ -169,9 +171,9 @@ TEST_F(Skladba, VehiclesGoOnAsTheRowSays) {
     GvdVlak r = radek(4701, {{8, -1, 600}, {9, 640, -1}});
     r.vozy_vlaky = {4702, 4702, 0};
     pridej(r);
-    EXPECT_EQ(vytvor(false, 87).vozy_urceni, (Texty{"4702", "4702", ""}));
-    EXPECT_EQ(vytvor(false, 538).vozy_urceni, (Texty{"4701", "4701", "4701"}));
-    EXPECT_EQ(vytvor(false, 569).vozy_urceni, (Texty{"4701", "4701", "4701"}));
+    EXPECT_EQ(urceni_vozu(vytvor(false, 87).vozy), (Texty{"4702", "4702", ""}));
+    EXPECT_EQ(urceni_vozu(vytvor(false, 538).vozy), (Texty{"4701", "4701", "4701"}));
+    EXPECT_EQ(urceni_vozu(vytvor(false, 569).vozy), (Texty{"4701", "4701", "4701"}));
 }
 
 TEST_F(Skladba, FirstVehicleWithoutNextWorkTakesTheSetNumber) {
@@ -179,7 +181,7 @@ TEST_F(Skladba, FirstVehicleWithoutNextWorkTakesTheSetNumber) {
     r.vozy_vlaky = {0, 4702, 0};
     r.navazny_vlak = "ZAL";
     pridej(r);
-    EXPECT_EQ(vytvor(false, 87).vozy_urceni, (Texty{"ZAL", "4702", ""}));
+    EXPECT_EQ(urceni_vozu(vytvor(false, 87).vozy), (Texty{"ZAL", "4702", ""}));
 }
 
 TEST_F(Skladba, UnitKeepsTogether) {
@@ -189,8 +191,8 @@ TEST_F(Skladba, UnitKeepsTogether) {
     r.vozy_vlaky = {1, 2, 3};
     r.navazny_vlak = "4702";
     pridej(r);
-    EXPECT_EQ(vytvor(false, 87).vozy_urceni, (Texty{"4702", "4702", "4702"}));
-    EXPECT_EQ(vytvor(false, 538).vozy_urceni, (Texty{"4701", "4701", "4701"}));
+    EXPECT_EQ(urceni_vozu(vytvor(false, 87).vozy), (Texty{"4702", "4702", "4702"}));
+    EXPECT_EQ(urceni_vozu(vytvor(false, 538).vozy), (Texty{"4701", "4701", "4701"}));
 }
 
 // --- locomotives
@@ -213,16 +215,16 @@ TEST_F(Skladba, TrainPlacedBehindTheChangeHasTheOtherLocomotive) {
     r.vozy_vlaky = {0, 0, 0, 0};
     pridej(r);
     const Vlak& v = vytvor(false, 50, 3);
-    EXPECT_EQ(v.vozy, (Texty{"754", "Bp", "Bp", "A"}));
-    EXPECT_EQ(v.vozy_obrazek, (Texty{"754_3.ico", "B.ico", "B.ico", "A.ico"}));
-    EXPECT_EQ(v.vozy_urceni[0], "0");
+    EXPECT_EQ(rady_vozu(v.vozy), (Texty{"754", "Bp", "Bp", "A"}));
+    EXPECT_EQ(obrazky_vozu(v.vozy), (Texty{"754_3.ico", "B.ico", "B.ico", "A.ico"}));
+    EXPECT_EQ(v.vozy[0].urceni, "0");
 }
 
 TEST_F(Skladba, TrainPlacedBeforeTheChangeKeepsItsLocomotive) {
     GvdVlak r = dalkovy();
     r.stanice = {2, 22, 23, 12}; // no change before the last stop
     pridej(r);
-    EXPECT_EQ(vytvor(false, 50, 1).vozy[0], "362");
+    EXPECT_EQ(vytvor(false, 50, 1).vozy[0].rada, "362");
 }
 
 TEST_F(Skladba, SecondAndAssistingLocomotivesStandWhereTheFlagsSay) {
@@ -232,7 +234,7 @@ TEST_F(Skladba, SecondAndAssistingLocomotivesStandWhereTheFlagsSay) {
     r.priznaky = 3;
     pridej(r);
     const Vlak& v = vytvor(false, 50, 2);
-    EXPECT_EQ(v.vozy, (Texty{"754", "754", "Bp", "754"}));
+    EXPECT_EQ(rady_vozu(v.vozy), (Texty{"754", "754", "Bp", "754"}));
 }
 
 TEST_F(Skladba, LightSecondLocomotiveRunsInFront) {
@@ -240,12 +242,12 @@ TEST_F(Skladba, LightSecondLocomotiveRunsInFront) {
     GvdVlak r = radek(1, {{8, -1, 600}, {9, 640, -1}});
     r.vozy = {"754", "210", "Bp"};
     pridej(r);
-    EXPECT_EQ(vytvor(false, 87).vozy, (Texty{"210", "754", "Bp"}));
-    EXPECT_EQ(vytvor(false, 87).vozy_obrazek, (Texty{"210_1.ico", "754_1.ico", "B.ico"}));
+    EXPECT_EQ(rady_vozu(vytvor(false, 87).vozy), (Texty{"210", "754", "Bp"}));
+    EXPECT_EQ(obrazky_vozu(vytvor(false, 87).vozy), (Texty{"210_1.ico", "754_1.ico", "B.ico"}));
     zmen_radek_gvd(0, [](GvdVlak& g) { g.vozy = {"754", "754", "Bp"}; });
-    EXPECT_EQ(vytvor(false, 87).vozy, (Texty{"754", "754", "Bp"}));
+    EXPECT_EQ(rady_vozu(vytvor(false, 87).vozy), (Texty{"754", "754", "Bp"}));
     zmen_radek_gvd(0, [](GvdVlak& g) { g.vozy = {"754", "210"}; });
-    EXPECT_EQ(vytvor(false, 87).vozy, (Texty{"754", "210"})); // a pair stays
+    EXPECT_EQ(rady_vozu(vytvor(false, 87).vozy), (Texty{"754", "210"})); // a pair stays
 }
 
 TEST_F(Skladba, SingleVehicleHasNothingToSwap) {
@@ -255,8 +257,8 @@ TEST_F(Skladba, SingleVehicleHasNothingToSwap) {
     r.priznaky = 3;
     pridej(r);
     const Vlak& v = vytvor(false, 50, 3);
-    EXPECT_EQ(v.vozy, Texty{"754"});
-    EXPECT_EQ(v.vozy_urceni, Texty{"0"});
+    EXPECT_EQ(rady_vozu(v.vozy), Texty{"754"});
+    EXPECT_EQ(urceni_vozu(v.vozy), Texty{"0"});
 }
 
 TEST_F(Skladba, RowWithoutVehiclesIsATrainAllTheSame) {
@@ -306,11 +308,13 @@ TEST_F(Skladba, SameSeriesMayShowDifferentPictures) {
     pridej(r);
     zasej_nahodu(1);
     const Vlak& v = vytvor(false, 87);
-    const std::set<Text> videne(v.vozy_obrazek.begin() + 1, v.vozy_obrazek.end());
+    const std::vector<Text> obrazky_v = obrazky_vozu(v.vozy);
+    const std::set<Text> videne(obrazky_v.begin() + 1, obrazky_v.end());
     EXPECT_GE(videne.size(), 1u);
     obrazky({"c054_9.ico"});
     const Vlak& w = vytvor(false, 538);
-    EXPECT_GT(std::set<Text>(w.vozy_obrazek.begin() + 1, w.vozy_obrazek.end()).size(), 1u);
+    const std::vector<Text> obrazky_w = obrazky_vozu(w.vozy);
+    EXPECT_GT(std::set<Text>(obrazky_w.begin() + 1, obrazky_w.end()).size(), 1u);
 }
 
 TEST_F(Skladba, TrailerIsNotDrawnAsALocomotiveWhoseNumberEndsAlike) {
@@ -320,7 +324,7 @@ TEST_F(Skladba, TrailerIsNotDrawnAsALocomotiveWhoseNumberEndsAlike) {
     r.vozy = {"843", "054", " 054 "};
     r.vozy_vlaky = {0, 0, 0};
     pridej(r);
-    EXPECT_EQ(vytvor(false, 87).vozy_obrazek, (Texty{"", "054_1.ico", "054_1.ico"}));
+    EXPECT_EQ(obrazky_vozu(vytvor(false, 87).vozy), (Texty{"", "054_1.ico", "054_1.ico"}));
 }
 
 TEST_F(Skladba, CabOfTheUnitFollowsTheDirection) {
@@ -329,8 +333,10 @@ TEST_F(Skladba, CabOfTheUnitFollowsTheDirection) {
     r.loko_rada = 560;
     r.vozy = {"560", "060", "060", "560"};
     pridej(r);
-    EXPECT_EQ(vytvor(false, 87).vozy_obrazek, (Texty{"560_5.ico", "060_5.ico", "060_5.ico", "560p_5.ico"}));
-    EXPECT_EQ(vytvor(true, 538).vozy_obrazek, (Texty{"560p_5.ico", "060_5.ico", "060_5.ico", "560_5.ico"}));
+    EXPECT_EQ(obrazky_vozu(vytvor(false, 87).vozy),
+              (Texty{"560_5.ico", "060_5.ico", "060_5.ico", "560p_5.ico"}));
+    EXPECT_EQ(obrazky_vozu(vytvor(true, 538).vozy),
+              (Texty{"560p_5.ico", "060_5.ico", "060_5.ico", "560_5.ico"}));
 }
 
 TEST_F(Skladba, DrivingTrailersShowTheirCab) {
@@ -339,8 +345,8 @@ TEST_F(Skladba, DrivingTrailersShowTheirCab) {
     r.loko_rada = 943;
     r.vozy = {"943", "843", "954"};
     pridej(r);
-    EXPECT_EQ(vytvor(false, 87).vozy_obrazek, (Texty{"943_1.ico", "843_1.ico", "954p.ico"}));
-    EXPECT_EQ(vytvor(true, 538).vozy_obrazek, (Texty{"943p.ico", "843_1.ico", "954_1.ico"}));
+    EXPECT_EQ(obrazky_vozu(vytvor(false, 87).vozy), (Texty{"943_1.ico", "843_1.ico", "954p.ico"}));
+    EXPECT_EQ(obrazky_vozu(vytvor(true, 538).vozy), (Texty{"943p.ico", "843_1.ico", "954_1.ico"}));
 }
 
 TEST_F(Skladba, SetWithoutALocomotiveIsDrawnByItsFirstVehicle) {
@@ -348,7 +354,7 @@ TEST_F(Skladba, SetWithoutALocomotiveIsDrawnByItsFirstVehicle) {
     r.loko_rada = 0;
     r.vozy = {"Bee", "A"};
     pridej(r);
-    EXPECT_EQ(vytvor(false, 87).vozy_obrazek, (Texty{"Bee.ico", "A.ico"}));
+    EXPECT_EQ(obrazky_vozu(vytvor(false, 87).vozy), (Texty{"Bee.ico", "A.ico"}));
 }
 
 } // namespace

@@ -3,6 +3,8 @@
 #include "gvd/soupravy.h"
 #include "gvd/zaplneni.h"
 #include "pomocne/provoz_sveta.h"
+#include "pomocne/prvky_cesty.h"
+#include "pomocne/vozy_vlaku.h"
 
 #include <gtest/gtest.h>
 
@@ -25,7 +27,7 @@ TEST_F(Soupravy, LocomotiveTakesTheFirstFreeTrackOfTheDepot) {
     obsad(558);
     vytvor_lokomotivu(754, 0, false, "4701", true);
     const Vlak& v = vlaky[0];
-    EXPECT_EQ(v.prvky, Prvky{559});
+    EXPECT_EQ(cisla_prvku(v.prvky), Prvky{559});
     EXPECT_EQ(barva(559), barvy::cervena);
     EXPECT_EQ(relief.kolej[559].stav, "200");
     EXPECT_EQ(v.druh, 16);
@@ -36,7 +38,7 @@ TEST_F(Soupravy, LocomotiveTakesTheFirstFreeTrackOfTheDepot) {
     EXPECT_EQ(v.stanice, (std::vector<std::uint8_t>{34, 9}));
     EXPECT_EQ(v.prijezd, (Prvky{-3, 607}));
     EXPECT_EQ(v.odjezd, (Prvky{600, -3}));
-    EXPECT_EQ(v.vozy_urceni, Texty{"4701"});
+    EXPECT_EQ(urceni_vozu(v.vozy), Texty{"4701"});
     EXPECT_EQ(stav_provozu.pocet_zaloh, 0);
     EXPECT_FALSE(stav_provozu.zaloha_731_jede);
 }
@@ -47,7 +49,7 @@ TEST_F(Soupravy, FullDepotLeavesALocomotiveOnNoTrack) {
     for (const int n : {503, 509, 510, 558, 559, 560})
         obsad(n);
     vytvor_lokomotivu(731, 0, false, "ZAL", true);
-    EXPECT_EQ(vlaky[0].prvky, Prvky{0});
+    EXPECT_EQ(cisla_prvku(vlaky[0].prvky), Prvky{0});
     EXPECT_EQ(barva(0), barvy::seda);
     EXPECT_EQ(koleje_vlaky.size(), 1u);
     EXPECT_EQ(stav_provozu.pocet_zaloh, 1);
@@ -77,7 +79,7 @@ TEST_F(Soupravy, LocomotiveWaitsForASetThatIsStillToCome) {
     pridej(radek(4703, {{8, -1, 700}, {9, 720, -1}})); // comes to the main station after the start
     soupravy_do_depa(600);
     ASSERT_EQ(pocet_vlaku(), 1);
-    EXPECT_EQ(vlaky[0].vozy_urceni, Texty{"4703"});
+    EXPECT_EQ(urceni_vozu(vlaky[0].vozy), Texty{"4703"});
     EXPECT_EQ(vlaky[0].loko_rada, 754);
 
     vlaky = prvni_vlaky();
@@ -112,8 +114,7 @@ protected:
     KontrolaSoupravy() {
         vlaky[2].cislo = 1700;
         vlaky[2].loko_rada = 754;
-        vlaky[2].vozy = {"754", "Bp"};
-        vlaky[2].vozy_urceni = {"", ""};
+        vlaky[2].vozy = vozy_vlaku({"754", "Bp"}, {"", ""});
     }
     static std::pair<int, bool> kontrola(std::int32_t cislo) {
         bool jsou_vozy = true;
@@ -128,16 +129,16 @@ TEST_F(KontrolaSoupravy, RunningSetOfTheNumberBlocks) {
     EXPECT_EQ(kontrola(1700), kNelzeVozy);
     vlaky[2].loko_rada2 = 362; // another locomotive is to take it over
     EXPECT_EQ(kontrola(1700), kNelze);
-    vlaky[2].vozy = {"754"};
+    vlaky[2].vozy = vozy_vlaku({"754"});
     EXPECT_EQ(kontrola(1700), kVolno); // locomotives alone are no set
 }
 
 TEST_F(KontrolaSoupravy, LocomotiveForTheNumberBlocksAndVehiclesAreCounted) {
-    vlaky[2].vozy_urceni = {"", "1800"};
+    nastav_urceni(vlaky[2].vozy, {"", "1800"});
     EXPECT_EQ(kontrola(1800), kVozy);
-    vlaky[2].vozy_urceni = {"1800", ""};
+    nastav_urceni(vlaky[2].vozy, {"1800", ""});
     EXPECT_EQ(kontrola(1800), kNelze);
-    vlaky[2].vozy_urceni = {"ZAL", "x1800"};
+    nastav_urceni(vlaky[2].vozy, {"ZAL", "x1800"});
     EXPECT_EQ(kontrola(1800), kVolno);
 }
 
@@ -188,15 +189,15 @@ TEST_F(StaniceStart, SetComesOutOfTheDepotAsAShuntingMovement) {
     stanice_start(0);
     const Vlak* v = najdi(1702);
     ASSERT_NE(v, nullptr);
-    EXPECT_EQ(v->prvky, Prvky{538});
+    EXPECT_EQ(cisla_prvku(v->prvky), Prvky{538});
     EXPECT_TRUE(v->posun);
     EXPECT_TRUE(v->smer);
     EXPECT_EQ(barva(538), barvy::cervena);
     EXPECT_EQ(relief.kolej[538].stav, "600");
     EXPECT_EQ(koleje_vlaky.back().prvek, 538);
     // no other set at hand: the shunting locomotive joins behind the locomotive's train
-    EXPECT_EQ(v->vozy, (Texty{"754", "Bp", "A", "210"}));
-    EXPECT_EQ(v->vozy_urceni, (Texty{"1702", "1702", "1702", "ZAL"}));
+    EXPECT_EQ(rady_vozu(v->vozy), (Texty{"754", "Bp", "A", "210"}));
+    EXPECT_EQ(urceni_vozu(v->vozy), (Texty{"1702", "1702", "1702", "ZAL"}));
     EXPECT_EQ(stav_provozu.pocet_zaloh, 1);
     stanice_start(0); // not a second time
     EXPECT_EQ(pocet_vlaku(), 1);
@@ -205,7 +206,7 @@ TEST_F(StaniceStart, SetComesOutOfTheDepotAsAShuntingMovement) {
 TEST_F(StaniceStart, SetsToTheOtherSideComeOutOf569) {
     vlak_z_tesku(1);
     stanice_start(0);
-    EXPECT_EQ(najdi(1702)->prvky, Prvky{569});
+    EXPECT_EQ(cisla_prvku(najdi(1702)->prvky), Prvky{569});
     EXPECT_EQ(najdi(1702)->vozy.size(), 3u);
     EXPECT_EQ(stav_provozu.pocet_zaloh, 0);
 }
@@ -233,19 +234,18 @@ TEST_F(StaniceStart, OccupiedExitMakesTheTrainWait) {
 TEST_F(StaniceStart, VehiclesAtHandGetAShuntingLocomotiveInPlaceOfTheirOwn) {
     vlak_z_tesku(2);
     vlaky[5].cislo = 1800;
-    vlaky[5].vozy = {"754", "Bp"};
-    vlaky[5].vozy_urceni = {"", "1702"};
+    vlaky[5].vozy = vozy_vlaku({"754", "Bp"}, {"", "1702"});
     stanice_start(0);
-    EXPECT_EQ(najdi(1702)->vozy, (Texty{"Bp", "A", "210"}));
-    EXPECT_EQ(najdi(1702)->vozy_urceni, (Texty{"1702", "1702", "ZAL"}));
+    EXPECT_EQ(rady_vozu(najdi(1702)->vozy), (Texty{"Bp", "A", "210"}));
+    EXPECT_EQ(urceni_vozu(najdi(1702)->vozy), (Texty{"1702", "1702", "ZAL"}));
     EXPECT_EQ(stav_provozu.pocet_zaloh, 1);
 
     zmen_radek_gvd(0, [](GvdVlak& g) { g.stanice = {9, 24, 1}; });
     najdi(1702)->cislo = -3;
     stanice_start(0);
-    EXPECT_EQ(najdi(1702)->prvky, Prvky{569});
-    EXPECT_EQ(najdi(1702)->vozy, (Texty{"210", "Bp", "A"}));
-    EXPECT_EQ(najdi(1702)->vozy_urceni, (Texty{"ZAL", "1702", "1702"}));
+    EXPECT_EQ(cisla_prvku(najdi(1702)->prvky), Prvky{569});
+    EXPECT_EQ(rady_vozu(najdi(1702)->vozy), (Texty{"210", "Bp", "A"}));
+    EXPECT_EQ(urceni_vozu(najdi(1702)->vozy), (Texty{"ZAL", "1702", "1702"}));
 }
 
 TEST_F(StaniceStart, SingleVehicleAtHandIsNotBroughtOut) {
@@ -255,9 +255,7 @@ TEST_F(StaniceStart, SingleVehicleAtHandIsNotBroughtOut) {
         g.vozy_vlaky = {0};
     });
     vlaky[5].cislo = 1800;
-    vlaky[5].vozy = {"810"};
-    vlaky[5].vozy_urceni = {"1702"};
-    vlaky[5].vozy = {"Bp"};
+    vlaky[5].vozy = vozy_vlaku({"Bp"}, {"1702"});
     stanice_start(0);
     EXPECT_EQ(pocet_vlaku(), 1);
 }
@@ -279,18 +277,15 @@ TEST_F(StaniceStart, TrafficStepBringsSetsOutFrom30To16MinutesBefore) {
 class ObratSoupravy : public Soupravy {
 protected:
     static Texty po_vytvoreni(std::vector<std::uint8_t> stanice, std::int16_t rada = 754,
-                              Texty vozy = {"754", "Bp"}) {
+                              const Texty& vozy = {"754", "Bp"}) {
         Vlak v;
         v.stanice = std::move(stanice);
         v.loko_rada = rada;
-        v.vozy_urceni = vozy;
-        v.vozy_obrazek = vozy;
-        v.vozy = std::move(vozy);
+        v.vozy = vozy_vlaku(vozy, vozy, vozy);
         vlaky[0] = v;
         posun_po_vytvoreni(0);
-        EXPECT_EQ(vlaky[0].vozy, vlaky[0].vozy_urceni);
-        EXPECT_EQ(vlaky[0].vozy, vlaky[0].vozy_obrazek);
-        return vlaky[0].vozy;
+        EXPECT_EQ(rady_vozu(vlaky[0].vozy), urceni_vozu(vlaky[0].vozy));
+        return rady_vozu(vlaky[0].vozy);
     }
 };
 
@@ -322,12 +317,12 @@ TEST_F(ObratSoupravy, UnitsWithACabAtBothEndsAreNotTurned) {
 }
 
 TEST_F(ObratSoupravy, ShuntingLocomotiveJoinsTheEndWithoutALocomotive) {
-    vlaky[0].vozy = vlaky[0].vozy_urceni = vlaky[0].vozy_obrazek = {"Bp", "754"};
+    vlaky[0].vozy = vozy_vlaku({"Bp", "754"});
     pridej_posunovou(0);
-    EXPECT_EQ(vlaky[0].vozy, (Texty{"210", "Bp", "754"}));
-    EXPECT_EQ(vlaky[0].vozy_urceni[0], "ZAL");
+    EXPECT_EQ(rady_vozu(vlaky[0].vozy), (Texty{"210", "Bp", "754"}));
+    EXPECT_EQ(vlaky[0].vozy[0].urceni, "ZAL");
     pridej_posunovou(0);
-    EXPECT_EQ(vlaky[0].vozy, (Texty{"210", "Bp", "754", "210"}));
+    EXPECT_EQ(rady_vozu(vlaky[0].vozy), (Texty{"210", "Bp", "754", "210"}));
     EXPECT_EQ(stav_provozu.pocet_zaloh, 2);
 }
 

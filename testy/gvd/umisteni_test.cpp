@@ -1,6 +1,7 @@
 // testy/gvd/umisteni_test.cpp - where the trains on their way are placed.
 #include "gvd/umisteni.h"
 #include "pomocne/provoz_sveta.h"
+#include "pomocne/prvky_cesty.h"
 
 #include <gtest/gtest.h>
 
@@ -24,7 +25,7 @@ protected:
         });
         umisti_vlak_do_stanice(stanice, predchozi, dalsi, 1, 0);
         const Vlak* v = najdi(cislo);
-        return v == nullptr ? std::int16_t{-1} : v->prvky[0];
+        return v == nullptr ? std::int16_t{-1} : v->prvky[0].prvek;
     }
 };
 
@@ -78,9 +79,9 @@ TEST_F(Umisteni, TrainOnALineHasItsRouteAndTheDirection) {
     const Cesta& c = cesty[0];
     EXPECT_EQ(c.zacatek, 202);
     EXPECT_EQ(c.konec, 604);
-    EXPECT_EQ(c.prvky, (Prvky{604, 654}));
-    EXPECT_EQ(c.druhy, (std::vector<std::uint8_t>{1, 1}));
-    EXPECT_EQ(c.polohy, (std::vector<std::uint8_t>{0, 2}));
+    EXPECT_EQ(cisla_prvku(c.prvky), (Prvky{604, 654}));
+    EXPECT_EQ(druhy_prvku(c.prvky), (std::vector<std::uint8_t>{1, 1}));
+    EXPECT_EQ(polohy_prvku(c.prvky), (std::vector<std::uint8_t>{0, 2}));
     EXPECT_EQ(c.Vlak, 0);
     EXPECT_EQ(c.Umazat, 0);
     EXPECT_EQ(c.ZT, 999);
@@ -90,7 +91,7 @@ TEST_F(Umisteni, TrainOnALineHasItsRouteAndTheDirection) {
     EXPECT_TRUE(v.smer);
     EXPECT_TRUE(v.omezeni_ukonceno);
     EXPECT_EQ(v.rychlost_cesty, 100);
-    EXPECT_EQ(v.prvky_poloha, std::vector<std::uint8_t>{0});
+    EXPECT_EQ(polohy_prvku(v.prvky), std::vector<std::uint8_t>{0});
 }
 
 TEST_F(Umisteni, LineSectionsThatLabelAtReleaseAreMarked) {
@@ -98,14 +99,14 @@ TEST_F(Umisteni, LineSectionsThatLabelAtReleaseAreMarked) {
     relief.lblSouhlas2.zaloz(604);
     relief.lblSouhlas2.zaloz(606);
     EXPECT_EQ(umisti(32, 3, 7, 8), 606);
-    EXPECT_EQ(vlaky[0].prvky_poloha, std::vector<std::uint8_t>{2});
+    EXPECT_EQ(polohy_prvku(vlaky[0].prvky), std::vector<std::uint8_t>{2});
     EXPECT_EQ(relief.lblSouhlas2[606].text, "<<");
     EXPECT_EQ(umisti(24, 8, 7, 3), 654);
-    EXPECT_EQ(vlaky[1].prvky_poloha, std::vector<std::uint8_t>{2});
+    EXPECT_EQ(polohy_prvku(vlaky[1].prvky), std::vector<std::uint8_t>{2});
     EXPECT_EQ(relief.lblSouhlas2[604].text, ">>");
     ASSERT_EQ(cesty.size(), 2u);
     EXPECT_EQ(cesty[1].konec, 604);
-    EXPECT_EQ(cesty[1].prvky, Prvky{654});
+    EXPECT_EQ(cisla_prvku(cesty[1].prvky), Prvky{654});
 }
 
 TEST_F(Umisteni, MouthOfTheBranchShowsTheNumberOnBothItsSections) {
@@ -114,9 +115,9 @@ TEST_F(Umisteni, MouthOfTheBranchShowsTheNumberOnBothItsSections) {
     EXPECT_EQ(umisti(7, 13, 7, 9), 96);
     EXPECT_EQ(orez(relief.cislo_koleje[632].text()), text_cisla(vlaky[0].cislo));
     EXPECT_EQ(relief.lblSouhlas2[632].text, ">>");
-    EXPECT_EQ(cesty[0].polohy, (std::vector<std::uint8_t>{0, 0, 2}));
+    EXPECT_EQ(polohy_prvku(cesty[0].prvky), (std::vector<std::uint8_t>{0, 0, 2}));
     EXPECT_EQ(umisti(7, 22, 7, 9), 638);
-    EXPECT_EQ(cesty[1].polohy, (std::vector<std::uint8_t>{2, 0, 2}));
+    EXPECT_EQ(polohy_prvku(cesty[1].prvky), (std::vector<std::uint8_t>{2, 0, 2}));
 }
 
 TEST_F(Umisteni, LineThatIsNotDrawnWholeTakesNoTrain) {

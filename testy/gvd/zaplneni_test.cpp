@@ -3,6 +3,8 @@
 #include "gvd/provoz.h"
 #include "gvd/zaplneni.h"
 #include "pomocne/provoz_sveta.h"
+#include "pomocne/prvky_cesty.h"
+#include "pomocne/vozy_vlaku.h"
 
 #include <gtest/gtest.h>
 
@@ -31,7 +33,7 @@ TEST_F(Zaplneni, TrainStandsAtTheFirstStopThatItHasNotLeft) {
     vlaky_na_trati(630, true);
     const Vlak* v = najdi(1701);
     ASSERT_NE(v, nullptr);
-    EXPECT_EQ(v->prvky, Prvky{11}); // TVH, from LHO towards THN
+    EXPECT_EQ(cisla_prvku(v->prvky), Prvky{11}); // TVH, from LHO towards THN
     EXPECT_FALSE(v->smer);
     EXPECT_EQ(v->stanice_index, 1); // the stop has begun
     EXPECT_EQ(barva(11), barvy::cervena);
@@ -66,7 +68,7 @@ TEST_F(Zaplneni, RowOfTheMainStationStandsAtThePlatformFrom29MinutesBefore) {
     EXPECT_EQ(pocet_vlaku(), 0);
     vlaky_na_trati(611, false);
     ASSERT_NE(najdi(1702), nullptr);
-    EXPECT_EQ(najdi(1702)->prvky, Prvky{26});
+    EXPECT_EQ(cisla_prvku(najdi(1702)->prvky), Prvky{26});
     EXPECT_EQ(najdi(1702)->stanice_index, 0);
     EXPECT_FALSE(najdi(1702)->muze_jet);
 }
@@ -92,8 +94,7 @@ TEST_F(Zaplneni, TrainOfAnotherDayAndOneWhoseSetRunsAreLeftOut) {
     EXPECT_EQ(pocet_vlaku(), 0);
     zmen_radek_gvd(0, [](GvdVlak& g) { g.dny = 1; });
     vlaky[5].cislo = 99;
-    vlaky[5].vozy = {"754"};
-    vlaky[5].vozy_urceni = {"1701"};
+    vlaky[5].vozy = vozy_vlaku({"754"}, {"1701"});
     vlaky_na_trati(630, true);
     EXPECT_EQ(najdi(1701), nullptr);
 }
@@ -112,9 +113,9 @@ TEST_F(Zaplneni, WholeFillBeginsWithTheStandbyLocomotive) {
     depo();
     do_tesku();
     zaplneni_kolejiste(630);
-    EXPECT_EQ(vlaky[0].prvky, Prvky{509});
-    EXPECT_EQ(vlaky[0].vozy, Texty{"731"});
-    EXPECT_EQ(vlaky[0].vozy_urceni, Texty{"ZAL"});
+    EXPECT_EQ(cisla_prvku(vlaky[0].prvky), Prvky{509});
+    EXPECT_EQ(rady_vozu(vlaky[0].vozy), Texty{"731"});
+    EXPECT_EQ(urceni_vozu(vlaky[0].vozy), Texty{"ZAL"});
     EXPECT_FALSE(vlaky[0].smer);
     EXPECT_TRUE(vlaky[0].posun);
     EXPECT_GE(vlaky[0].cislo, 74800);

@@ -3,6 +3,8 @@
 #include "cesty/prekazky.h"
 #include "jizda/poslusnost.h"
 #include "jizda/svet_vlaku.h"
+#include "pomocne/prvky_cesty.h"
+#include "pomocne/vozy_vlaku.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "relief/topologie.h"
 #include "zaklad/chyba.h"
@@ -46,10 +48,10 @@ TEST_F(Jizda, TrainWithoutARouteOrALocomotiveStands) {
     krok();
     EXPECT_EQ(metry(62), 0);
     cesta(radek(0));
-    vlak(v).vozy = {"943", "B"};
+    vlak(v).vozy = vozy_vlaku({"943", "B"});
     krok();
     EXPECT_EQ(metry(62), 0);
-    vlak(v).vozy = {"943", "754"};
+    vlak(v).vozy = vozy_vlaku({"943", "754"});
     krok();
     EXPECT_GT(metry(62), 0);
 }
@@ -65,7 +67,7 @@ TEST_F(Jizda, LastNineMetresOfASectionAreNeverRun) {
     vlak(v).rychlost = 50;
     krok(100);
     EXPECT_EQ(metry(62), 400);
-    EXPECT_EQ(vlak(v).prvky, (std::vector<std::int16_t>{62, 440}));
+    EXPECT_EQ(cisla_prvku(vlak(v).prvky), (std::vector<std::int16_t>{62, 440}));
 }
 
 TEST_F(Jizda, WholeJourneyFromTheSignalOverTheSwitchToTheTrack) {
@@ -75,11 +77,11 @@ TEST_F(Jizda, WholeJourneyFromTheSignalOverTheSwitchToTheTrack) {
     krok();
     EXPECT_EQ(cesty[0].Vlak, v);
     EXPECT_EQ(relief.navestidlo[262].barva, barvy::zelena);
-    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 440; }));
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back().prvek == 440; }));
     EXPECT_EQ(relief.navestidlo[262].barva, barvy::seda);
     EXPECT_EQ(relief.kolej[440].barva, barvy::cervena);
     EXPECT_EQ(cesty[0].Umazat, 1);
-    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 7; }));
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back().prvek == 7; }));
     EXPECT_EQ(stav_vyhybky_cislo(7), 152);
     // The tail leaves 62: cyan and free, its number gone.
     ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvek_konec > 0; }));
@@ -89,7 +91,7 @@ TEST_F(Jizda, WholeJourneyFromTheSignalOverTheSwitchToTheTrack) {
     EXPECT_NE(stitek(62), "1234");
     ASSERT_FALSE(relief.lstDenik.radky.empty());
     EXPECT_EQ(relief.lstDenik.radky.back(), "Vlak 1234 odjel z Borovce v 8:00"_cz);
-    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 63; }));
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back().prvek == 63; }));
     EXPECT_EQ(stitek(63), "1234");
     ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvek_konec == 3; }));
     EXPECT_EQ(stav_vyhybky_cislo(7), 2);
@@ -159,7 +161,7 @@ TEST_F(Jizda, OccupiedTrackStopsATrainBeforeIt) {
     EXPECT_EQ(vlak(v).prvky.size(), 1u);
     EXPECT_EQ(cesty.size(), 1u); // the start work is done once
     barvi_prvek(440, barvy::seda);
-    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 440; }));
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back().prvek == 440; }));
 }
 
 TEST_F(Jizda, CallingOnRouteLeadsOntoAnOccupiedTrackAndStays) {
@@ -171,7 +173,7 @@ TEST_F(Jizda, CallingOnRouteLeadsOntoAnOccupiedTrackAndStays) {
     cesty[static_cast<std::size_t>(c)].PN = true;
     cesty[static_cast<std::size_t>(c)].PN_do = ted_s() + 1000;
     relief.imgVyhybka[7].stav = "102"_cz;
-    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 12; }));
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back().prvek == 12; }));
     EXPECT_EQ(stav_vyhybky_cislo(7), 102);
     EXPECT_EQ(metry(12), 30); // it is at the place of the one that stands there
     EXPECT_EQ(vlak(v).rychlost_cesty, 30);
@@ -198,9 +200,7 @@ TEST_F(Jizda, LockingOfACallingOnRouteGoesWithTheTrainThatLeavesTheJunction) {
         vyhybka_stav(7, 2 + stav_vyhybky::rezervace, false, false);
         if (ridici == 7) { // somebody else stands on the switch
             const int v = vlak_na(440, true, 77);
-            vlak(v).prvky.push_back(7);
-            vlak(v).prvky_druh.push_back(druh_prvku::vyhybka);
-            vlak(v).prvky_poloha.push_back(2);
+            vlak(v).prvky.push_back({7, druh_prvku::vyhybka, 2});
             vlak(v).muze_jet = false;
         }
         krok();
@@ -280,7 +280,7 @@ TEST_F(Jizda, RouteWhoseElementsHaveChangedBetweenTwoStepsIsFoundByTheNewOnes) {
     cesta(jinudy);
     krok();
     EXPECT_NE(cesty[0].Vlak, v);
-    cesty[0].prvky = radek(0).prvky;
+    cesty[0].prvky.front().prvek = radek(0).prvky.front();
     krok();
     EXPECT_EQ(cesty[0].Vlak, v);
 }
@@ -323,9 +323,7 @@ TEST_F(Jizda, TrainsTakeTrainRoutesAndShuntsShuntRoutes) {
 TEST_F(Jizda, WaitingTrainKeepsItsTail) {
     const int v = vlak_na(63, true, 11);
     Vlak& t = vlak(v);
-    t.prvky = {62, 440, 7, 63};
-    t.prvky_druh = {1, 1, 2, 1};
-    t.prvky_poloha = {0, 0, 2, 0};
+    t.prvky = prvky_cesty({62, 440, 7, 63}, {1, 1, 2, 1}, {0, 0, 2, 0});
     for (const int e : {62, 440})
         barvi_prvek(e, barvy::cervena);
     nastav_metry(62, 400);
@@ -343,9 +341,7 @@ TEST_F(Jizda, SwitchesCountTwentyMetresOfATrain) {
     const int v = vlak_na(63, true, 11);
     Vlak& t = vlak(v);
     t.delka = 200;
-    t.prvky = {440, 7, 63};
-    t.prvky_druh = {1, 2, 1};
-    t.prvky_poloha = {0, 2, 0};
+    t.prvky = prvky_cesty({440, 7, 63}, {1, 2, 1}, {0, 2, 0});
     barvi_prvek(440, barvy::cervena);
     nastav_metry(440, 80);
     nastav_metry(63, 179); // 80 + 20 + 179 - 80 < 200
@@ -363,9 +359,7 @@ TEST_F(Jizda, DerailerIsReleasedTwentyMetresLater) {
     const int v = vlak_na(63, true, 11);
     Vlak& t = vlak(v);
     t.delka = 100;
-    t.prvky = {0, 440, 63};
-    t.prvky_druh = {4, 1, 1};
-    t.prvky_poloha = {0, 0, 0};
+    t.prvky = prvky_cesty({0, 440, 63}, {4, 1, 1}, {0, 0, 0});
     relief.lblVykolejka[0].barva = barvy::cervena;
     barvi_prvek(440, barvy::cervena);
     nastav_metry(440, 0);
@@ -382,9 +376,7 @@ TEST_F(Jizda, TailThatLeavesASecondTrainBehindKeepsTheTrackRed) {
     const int v = vlak_na(62, true, 11);
     const int druhy = vlak_na(62, true, 22);
     Vlak& t = vlak(v);
-    t.prvky = {62, 440};
-    t.prvky_druh = {1, 1};
-    t.prvky_poloha = {0, 0};
+    t.prvky = prvky_cesty({62, 440}, {1, 1}, {0, 0});
     barvi_prvek(440, barvy::cervena);
     nastav_metry(62, 400);
     nastav_metry(440, 70);
@@ -393,23 +385,19 @@ TEST_F(Jizda, TailThatLeavesASecondTrainBehindKeepsTheTrackRed) {
     EXPECT_EQ(metry(62), 150);
     EXPECT_EQ(relief.kolej[62].barva, barvy::cervena);
     EXPECT_EQ(stitek(62), "22");
-    EXPECT_EQ(vlak(druhy).prvky.back(), 62);
+    EXPECT_EQ(vlak(druhy).prvky.back().prvek, 62);
 }
 
 // ZKRATIT has left it in the list of the track behind it, where nothing of it stands.
 TEST_F(Jizda, TailThatLeavesATrackOfAShortenedTrainFreesIt) {
     const int zkraceny = vlak_na(62, true, 22);
-    vlak(zkraceny).prvky = {62, 640};
-    vlak(zkraceny).prvky_druh = {1, 1};
-    vlak(zkraceny).prvky_poloha = {0, 0};
+    vlak(zkraceny).prvky = prvky_cesty({62, 640}, {1, 1}, {0, 0});
     barvi_prvek(640, barvy::cervena);
     const int v = vlak_na(62, true, 11);
     zkrat_vlak(zkraceny);
     ASSERT_EQ(relief.kolej[62].barva, barvy::cervena) << "the other one stands there";
     Vlak& t = vlak(v);
-    t.prvky = {62, 440};
-    t.prvky_druh = {1, 1};
-    t.prvky_poloha = {0, 0};
+    t.prvky = prvky_cesty({62, 440}, {1, 1}, {0, 0});
     barvi_prvek(440, barvy::cervena);
     nastav_metry(62, 400);
     nastav_metry(440, 70);
@@ -424,9 +412,7 @@ TEST_F(Jizda, TailThatLeavesATrackOfAShortenedTrainFreesIt) {
 TEST_F(Jizda, TailLeavesNothingFreeUnderItsOwnHead) {
     const int v = vlak_na(440, true, 11);
     Vlak& t = vlak(v);
-    t.prvky = {440, 7, 63, 7, 440};
-    t.prvky_druh = {1, 2, 1, 2, 1};
-    t.prvky_poloha = {0, 2, 0, 2, 0};
+    t.prvky = prvky_cesty({440, 7, 63, 7, 440}, {1, 2, 1, 2, 1}, {0, 2, 0, 2, 0});
     barvi_prvek(63, barvy::cervena);
     vyhybka_stav(7, 152, false, false);
     nastav_metry(63, 600);
@@ -443,9 +429,7 @@ TEST_F(Jizda, SwitchThatAnotherRouteHasLockedIsNotFreedBehindTheTail) {
         vlaky = prvni_vlaky();
         const int v = vlak_na(63, true, 11);
         Vlak& t = vlak(v);
-        t.prvky = {7, 63};
-        t.prvky_druh = {2, 1};
-        t.prvky_poloha = {2, 0};
+        t.prvky = prvky_cesty({7, 63}, {2, 1}, {2, 0});
         nastav_metry(63, 70);
         cesty = std::vector<Cesta>(1);
         if (zavrena)
@@ -464,25 +448,23 @@ TEST_F(Jizda, SwitchIsFreeBehindATrainThoughARouteThatHasLostItNamesIt) {
     ASSERT_FALSE(cesty[static_cast<std::size_t>(ztracena)].Postavena);
     const int v = vlak_na(64, false, 11);
     cesta({64, 340, {64, 7, 340}, {1, 2, 1}, {0, 3, 0}, 0});
-    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 340 && vlak(v).prvek_konec == 2; }));
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back().prvek == 340 && vlak(v).prvek_konec == 2; }));
     EXPECT_EQ(stav_vyhybky_cislo(7), 3);
 }
 
 TEST_F(Jizda, TrainRunsOnOverASwitchThatNouzHasTakenFromItsRoute) {
     const int v = vlak_na(62, true, 11);
     cesta({262, 63, {62, 440, 7, 63}, {1, 1, 2, 1}, {2, 0, 2, 0}, 0});
-    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 440; }));
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back().prvek == 440; }));
     vyhybka_nouz(7);
     EXPECT_EQ(stav_vyhybky_cislo(7), 3);
     Cesta jina;
     jina.zacatek = 64;
     jina.konec = 340;
-    jina.prvky = {64, 7, 340};
-    jina.druhy = {1, 2, 1};
-    jina.polohy = {0, 3, 0};
+    jina.prvky = prvky_cesty({64, 7, 340}, {1, 2, 1}, {0, 3, 0});
     jina.VC = true;
     EXPECT_EQ(prekazka_staveni(jina).druh, DruhPrekazky::pred_vlakem);
-    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 7; }));
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back().prvek == 7; }));
     EXPECT_EQ(stav_vyhybky_cislo(7), 152);
     EXPECT_EQ(prekazka_staveni(jina).druh, DruhPrekazky::vyhybka);
     ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvek_konec == 3; }));
@@ -494,11 +476,11 @@ TEST_F(Jizda, TrainRunsOnOverASwitchThatNouzHasTakenFromItsRoute) {
 TEST_F(Jizda, TrainThatRunsOverASwitchOfAnotherRoutePutsItsSignalToStop) {
     const int v = vlak_na(62, true, 11);
     cesta({262, 63, {62, 440, 7, 63}, {1, 1, 2, 1}, {2, 0, 2, 0}, 0});
-    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 440; }));
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back().prvek == 440; }));
     vyhybka_nouz(7);
     const int c = cesta({64, 340, {64, 7, 340}, {1, 2, 1}, {0, 3, 0}, 0});
     ASSERT_EQ(relief.navestidlo[64].barva, barvy::zelena);
-    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 7; }));
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back().prvek == 7; }));
     EXPECT_EQ(relief.navestidlo[64].barva, barvy::seda);
     EXPECT_FALSE(cesty[static_cast<std::size_t>(c)].Postavena);
     EXPECT_EQ(stav_vyhybky_cislo(7), 152);
@@ -510,12 +492,12 @@ TEST_F(Jizda, SwitchStopsUnderTheTrainThatComesToItOnSight) {
     Cesta& pn = cesty[static_cast<std::size_t>(c)];
     pn.PN = true;
     pn.PN_do = ted_s() + 30;
-    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 440; }));
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back().prvek == 440; }));
     pn.PN_zaver = true; // RNZ under the train
     vyhybka_stav(7, 2, false, false);
     hod_vyhybku(7, PovelVyhybky::plus);
     ASSERT_TRUE(vyhybka_v_pohybu(7));
-    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 7; }));
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back().prvek == 7; }));
     EXPECT_FALSE(vyhybka_v_pohybu(7));
     EXPECT_EQ(stav_vyhybky_cislo(7), 3);
 }
@@ -616,7 +598,7 @@ TEST_F(Jizda, RouteWithoutAFinalTrackEndsTheProgram) {
     nastav_metry(62, 400);
     vlak(v).rychlost = 50;
     krok();
-    ASSERT_EQ(vlak(v).prvky.back(), 7);
+    ASSERT_EQ(vlak(v).prvky.back().prvek, 7);
     EXPECT_THROW(krok(), KonecProgramu);
     ASSERT_EQ(svet.okna.size(), 1u);
     EXPECT_EQ(svet.okna[0].text, "Chyba: cesta bez koncového úseku"_cz);
@@ -644,7 +626,7 @@ TEST_F(Jizda, ShuntOverACrossingLowersItsCounterAgain) {
     const int c = cesta({262, 63, {62, 100, 63}, {1, 1, 1}, {0, 0, 0}, 0}, false);
     cesty[static_cast<std::size_t>(c)].prejezd = 0;
     stanicni_prejezdy[0].uzavren = true;
-    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back() == 100; }));
+    ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvky.back().prvek == 100; }));
     EXPECT_EQ(stanicni_prejezdy[0].pocet, 129);
     EXPECT_FALSE(stanicni_prejezdy[0].uzavren);
     ASSERT_TRUE(jed_dokud([&] { return vlak(v).prvek_konec == 2; }));
@@ -660,7 +642,7 @@ TEST_F(Jizda, ApproachClosesTheCrossingOfTheNextRoute) {
     const int dalsi = cesta({64, 63, {12, 63}, {1, 1}, {0, 0}, 0});
     cesty[static_cast<std::size_t>(dalsi)].prejezd = 0;
     krok();
-    ASSERT_EQ(vlak(v).prvky.back(), 12);
+    ASSERT_EQ(vlak(v).prvky.back().prvek, 12);
     EXPECT_EQ(stanicni_prejezdy[0].cas, ted_s() + 30);
     EXPECT_EQ(stanicni_prejezdy[1].cas, -3);
 }

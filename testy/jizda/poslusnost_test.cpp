@@ -2,6 +2,7 @@
 #include "gvd/stav_provozu.h"
 #include "jizda/poslusnost.h"
 #include "jizda/svet_vlaku.h"
+#include "pomocne/vozy_vlaku.h"
 
 #include <algorithm>
 
@@ -27,12 +28,12 @@ TEST_F(Poslusnost, TrainWithACabOrALocomotiveAtTheFarEndTurns) {
         const int c = cesta(radek(0));
         EXPECT_TRUE(srovnej_smer(c, 0, v));
         EXPECT_TRUE(vlak(v).smer);
-        EXPECT_EQ(vlak(v).vozy.front(), vozy.back());
+        EXPECT_EQ(vlak(v).vozy.front().rada, vozy.back());
     }
     const int v = vlak_na(62, false, 11);
     vlak(v).druh = 16;
     EXPECT_TRUE(srovnej_smer(0, 0, v));
-    EXPECT_EQ(vlak(v).vozy, (std::vector<Text>{"B", "754"}));
+    EXPECT_EQ(rady_vozu(vlak(v).vozy), (std::vector<Text>{"B", "754"}));
     EXPECT_TRUE(vlak(v).smer);
     const int w = vlak_na(62, false, 12);
     EXPECT_TRUE(srovnej_smer(0, 2, w)); // further on the senses are not compared
@@ -89,7 +90,7 @@ TEST_F(Poslusnost, BlockSignalAtDangerIsToldAfterTheFirstMinutes) {
     vlak(v).rychlost = 60;
     nastav_metry(63, 600);
     krok();
-    ASSERT_EQ(vlak(v).prvky.back(), 640);
+    ASSERT_EQ(vlak(v).prvky.back().prvek, 640);
     EXPECT_FALSE(prikaz_radek.obsazen); // the signal is at stop, but the simulation has just begun
     vlak_opustil(v, 0);
     krok();
@@ -99,7 +100,7 @@ TEST_F(Poslusnost, BlockSignalAtDangerIsToldAfterTheFirstMinutes) {
     vlak(w).rychlost = 60;
     nastav_metry(63, 600);
     krok();
-    ASSERT_EQ(vlak(w).prvky.back(), 640);
+    ASSERT_EQ(vlak(w).prvky.back().prvek, 640);
     EXPECT_EQ(relief.lblVolba[0].text(), " Vlak 22 projel na BOR S641 okolo navesti VYSTRAHA!");
     EXPECT_NE(std::find(svet.pipnuti.begin(), svet.pipnuti.end(), VirtualniPlatforma::Pipnuti{100, 200}),
               svet.pipnuti.end());
@@ -165,7 +166,7 @@ TEST_F(Poslusnost, WrongSenseAtAnExitStaysAtTheEndOfTheRoute) {
 TEST_F(Poslusnost, StandbyLocomotiveThatLeavesIsCountedOut) {
     pridej_kolej(557);
     const int v = vlak_na(557, false, 74801, {"731"});
-    vlak(v).vozy_urceni = {"ZAL"};
+    nastav_urceni(vlak(v).vozy, {"ZAL"});
     stav_provozu.pocet_zaloh = 2;
     stav_provozu.zaloha_731_jede = true;
     zpusob_odjezdu(557, v);

@@ -1,15 +1,14 @@
 // testy/jizda/souprava_test.cpp - locomotives in a consist.
 #include "jizda/souprava.h"
+#include "pomocne/vozy_vlaku.h"
 
 #include <gtest/gtest.h>
 
 namespace {
 
-Vlak souprava(std::vector<Text> vozy, std::vector<Text> urceni = {}) {
+Vlak souprava(const std::vector<Text>& vozy, const std::vector<Text>& urceni = {}) {
     Vlak v;
-    urceni.resize(vozy.size());
-    v.vozy = std::move(vozy);
-    v.vozy_urceni = std::move(urceni);
+    v.vozy = vozy_vlaku(vozy, urceni);
     return v;
 }
 

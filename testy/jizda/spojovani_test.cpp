@@ -8,6 +8,8 @@
 #include "jizda/posun.h"
 #include "jizda/svet_vlaku.h"
 #include "obsluha/vstup.h"
+#include "pomocne/prvky_cesty.h"
+#include "pomocne/vozy_vlaku.h"
 
 #include <algorithm>
 
@@ -83,7 +85,6 @@ TEST_F(Spojovani, LocomotiveAlwaysJoinsTheTrain) {
         EXPECT_EQ(vlak(v).cislo, 77);
         EXPECT_EQ(vlak(loko).cislo, -3);
         EXPECT_EQ(vlak(v).vozy.size(), 3u);
-        EXPECT_EQ(vlak(v).vozy_urceni.size(), 3u);
         EXPECT_EQ(vlak(v).delka, 58);
         EXPECT_EQ(cesty[0].Vlak, v);
         EXPECT_EQ(koleje_vlaky[static_cast<std::size_t>(zaznam_koleje(62))].vlaky,
@@ -99,7 +100,7 @@ TEST_F(Spojovani, VehiclesComeToTheSideOnWhichTheOtherTrainStands) {
         const int b = vlak_na(62, smer_b, 88, {"363", "C"});
         spoj(a, b);
         const int zbyl = vlak(a).cislo > 0 ? a : b;
-        const Vozy vozy = vlak(zbyl).vozy;
+        const Vozy vozy = rady_vozu(vlak(zbyl).vozy);
         uber_ze_vsech(zbyl);
         zrus_vlak(zbyl);
         return vozy;
@@ -117,9 +118,7 @@ TEST_F(Spojovani, VehiclesComeToTheSideOnWhichTheOtherTrainStands) {
 TEST_F(Spojovani, TrainThatIsNotWhollyOnTheTrackIsNotCoupled) {
     const int a = vlak_na(62, true, 77);
     const int b = vlak_na(62, true, 88);
-    vlak(b).prvky = {440, 62};
-    vlak(b).prvky_druh = {1, 1};
-    vlak(b).prvky_poloha = {0, 0};
+    vlak(b).prvky = prvky_cesty({440, 62}, {1, 1}, {0, 0});
     simulace.zvuk_vypnut = true;
     spoj(a, b);
     EXPECT_EQ(vlak(b).cislo, 88);
@@ -161,7 +160,7 @@ TEST_F(Spojovani, TrainThatNeedsTwoLocomotivesWaitsForTheSecondOne) {
     EXPECT_EQ(vlak(v).odjezd_realny[0], -10);
     otoc_vlak(v);
     spoj(v, vlak_na(62, true, 88, {"754"}));
-    EXPECT_EQ(vlak(v).vozy, (Vozy{"754", "754", "B", "B"}));
+    EXPECT_EQ(rady_vozu(vlak(v).vozy), (Vozy{"754", "754", "B", "B"}));
     EXPECT_EQ(vlak(v).odjezd_realny[0], 483);
 }
 
@@ -173,8 +172,8 @@ TEST_F(Spojovani, SplitLeavesTheFrontPartOnTheSideOfTheHead) {
         vlak(v).delka = 42;
         const int d = odvesit(v, 0, false);
         ASSERT_GE(d, 0);
-        EXPECT_EQ(vlak(d).vozy, Vozy{"754"});
-        EXPECT_EQ(vlak(v).vozy, Vozy{"B"});
+        EXPECT_EQ(rady_vozu(vlak(d).vozy), Vozy{"754"});
+        EXPECT_EQ(rady_vozu(vlak(v).vozy), Vozy{"B"});
         EXPECT_EQ(vlak(d).delka, 18);
         EXPECT_EQ(vlak(v).delka, 24);
         EXPECT_EQ(vlak(d).cislo, 77);
@@ -185,7 +184,7 @@ TEST_F(Spojovani, SplitLeavesTheFrontPartOnTheSideOfTheHead) {
         EXPECT_EQ(vlak(v).odjezd_realny[1], -10);
         EXPECT_EQ(metry(62), 42);
         EXPECT_EQ(poradi(62, d) > poradi(62, v), smer);
-        EXPECT_EQ(vlak(d).prvky, std::vector<std::int16_t>{62});
+        EXPECT_EQ(cisla_prvku(vlak(d).prvky), std::vector<std::int16_t>{62});
         uber_ze_vsech(v);
         uber_ze_vsech(d);
         zrus_vlak(v);
@@ -197,8 +196,8 @@ TEST_F(Spojovani, LastVehicleComesOffAloneAtTheOtherEnd) {
     const int v = vlak_na(62, true, 77, {"B", "C", "754"});
     vlak(v).delka = 90;
     const int d = odvesit(v, 2, false);
-    EXPECT_EQ(vlak(d).vozy, Vozy{"754"});
-    EXPECT_EQ(vlak(v).vozy, (Vozy{"B", "C"}));
+    EXPECT_EQ(rady_vozu(vlak(d).vozy), Vozy{"754"});
+    EXPECT_EQ(rady_vozu(vlak(v).vozy), (Vozy{"B", "C"}));
     EXPECT_LT(poradi(62, d), poradi(62, v));
 }
 
@@ -240,23 +239,22 @@ TEST_F(Spojovani, SplitTakesTheRoutesThatWaitForTheTrain) {
 
 TEST_F(Spojovani, LocomotiveOnTrack32GoesToTheStubAtOnce) {
     const int v = vlak_na(32, true, 77, {"754", "B"});
-    vlak(v).vozy_urceni = {"DKV", ""};
+    nastav_urceni(vlak(v).vozy, {"DKV", ""});
     const int d = odvesit(v, 0, false);
-    EXPECT_EQ(vlak(d).prvky, std::vector<std::int16_t>{574});
+    EXPECT_EQ(cisla_prvku(vlak(d).prvky), std::vector<std::int16_t>{574});
     EXPECT_FALSE(vlak(d).smer);
     EXPECT_EQ(relief.kolej[574].barva, barvy::cervena);
     EXPECT_EQ(koleje_vlaky[static_cast<std::size_t>(zaznam_koleje(574))].vlaky[0], d);
     const int w = vlak_na(32, true, 78, {"754", "B"});
-    vlak(w).vozy_urceni = {"DKV", ""};
-    EXPECT_EQ(vlak(odvesit(w, 0, false)).prvky, std::vector<std::int16_t>{32}); // the stub is occupied
+    nastav_urceni(vlak(w).vozy, {"DKV", ""});
+    EXPECT_EQ(cisla_prvku(vlak(odvesit(w, 0, false)).prvky),
+              std::vector<std::int16_t>{32}); // the stub is occupied
 }
 
 TEST_F(Spojovani, ShortenedTrainLeavesTheTracksBehindFree) {
     const int v = vlak_na(62, true, 77);
     Vlak& t = vlak(v);
-    t.prvky = {62, 440, 7, 0, 63};
-    t.prvky_druh = {1, 1, 2, 4, 1};
-    t.prvky_poloha = {0, 0, 2, 0, 0};
+    t.prvky = prvky_cesty({62, 440, 7, 0, 63}, {1, 1, 2, 4, 1}, {0, 0, 2, 0, 0});
     for (const int e : {440, 63})
         barvi_prvek(e, barvy::cervena);
     relief.lblVykolejka[0].barva = barvy::cervena;
@@ -281,9 +279,7 @@ TEST_F(Spojovani, ShortenedTrainLeavesTheTracksBehindFree) {
 TEST_F(Spojovani, ShortenedTrainLeavesTheSwitchOfAnotherRouteLocked) {
     const int v = vlak_na(62, true, 77);
     Vlak& t = vlak(v);
-    t.prvky = {62, 7, 63};
-    t.prvky_druh = {1, 2, 1};
-    t.prvky_poloha = {0, 2, 0};
+    t.prvky = prvky_cesty({62, 7, 63}, {1, 2, 1}, {0, 2, 0});
     t.konec_omezeni = 7;
     barvi_prvek(63, barvy::cervena);
     cesta({64, 62, {64, 7, 440}, {1, 2, 1}, {0, 3, 0}, 0});
@@ -294,14 +290,14 @@ TEST_F(Spojovani, ShortenedTrainLeavesTheSwitchOfAnotherRouteLocked) {
 
 TEST_F(Spojovani, TurnReversesTheVehiclesAndTheEmergencyTurnOnlyTheSense) {
     const int v = vlak_na(62, true, 77, {"754", "B", "C"});
-    vlak(v).vozy_urceni = {"DKV", "", "5"};
+    nastav_urceni(vlak(v).vozy, {"DKV", "", "5"});
     otoc_vlak(v);
-    EXPECT_EQ(vlak(v).vozy, (Vozy{"C", "B", "754"}));
-    EXPECT_EQ(vlak(v).vozy_urceni, (Vozy{"5", "", "DKV"}));
+    EXPECT_EQ(rady_vozu(vlak(v).vozy), (Vozy{"C", "B", "754"}));
+    EXPECT_EQ(urceni_vozu(vlak(v).vozy), (Vozy{"5", "", "DKV"}));
     EXPECT_FALSE(vlak(v).smer);
     otoc_nouzove(v);
     EXPECT_TRUE(vlak(v).smer);
-    EXPECT_EQ(vlak(v).vozy.front(), "C");
+    EXPECT_EQ(vlak(v).vozy.front().rada, "C");
 }
 
 // --- the pictures of the train page
@@ -310,19 +306,17 @@ TEST_F(Spojovani, ClickOnAPictureTakesTheFrontOfTheTrainOff) {
     const int v = vlak_na(62, true, 77, {"754", "731", "B", "C"});
     info_o_vlaku({}, v);
     klik(Druh::imgObrzaek_vlaku, 1, Tlacitko::leve, false);
-    EXPECT_EQ(vlak(v).vozy, (Vozy{"B", "C"}));
+    EXPECT_EQ(rady_vozu(vlak(v).vozy), (Vozy{"B", "C"}));
     EXPECT_EQ(vozu_na_panelu(), 2); // the page follows
     EXPECT_EQ(vlak_na_panelu(), v);
     EXPECT_FALSE(prikaz_radek.obsazen);
     klik(Druh::imgObrzaek_vlaku, 3, Tlacitko::leve, false); // no vehicle stands there any more
-    EXPECT_EQ(vlak(v).vozy, (Vozy{"B", "C"}));
+    EXPECT_EQ(rady_vozu(vlak(v).vozy), (Vozy{"B", "C"}));
 }
 
 TEST_F(Spojovani, PartOfARunningTrainIsNotSplitOff) {
     const int v = vlak_na(62, true, 77, {"754", "B"});
-    vlak(v).prvky = {440, 62};
-    vlak(v).prvky_druh = {1, 1};
-    vlak(v).prvky_poloha = {0, 0};
+    vlak(v).prvky = prvky_cesty({440, 62}, {1, 1}, {0, 0});
     info_o_vlaku({}, v);
     odvesit_klik(0);
     EXPECT_EQ(vlak(v).vozy.size(), 2u);
@@ -354,10 +348,10 @@ TEST_F(Spojovani, OldPicturesAreDrawnAnewAndNothingElseHappens) {
     info_o_vlaku({}, v);
     vlak(v).vozy.pop_back();
     odvesit_klik(0);
-    EXPECT_EQ(vlak(v).vozy, (Vozy{"754", "B"}));
+    EXPECT_EQ(rady_vozu(vlak(v).vozy), (Vozy{"754", "B"}));
     EXPECT_EQ(vozu_na_panelu(), 2);
     odvesit_klik(0);
-    EXPECT_EQ(vlak(v).vozy, Vozy{"B"});
+    EXPECT_EQ(rady_vozu(vlak(v).vozy), Vozy{"B"});
 }
 
 TEST_F(Spojovani, ClickOnAPictureOfATurnedSetTakesNothingElseOff) {
@@ -365,10 +359,10 @@ TEST_F(Spojovani, ClickOnAPictureOfATurnedSetTakesNothingElseOff) {
     info_o_vlaku({}, v);
     otoc_vlak(v);
     odvesit_klik(0); // on the picture of the locomotive, which runs at the end
-    EXPECT_EQ(vlak(v).vozy, (Vozy{"C", "B", "754"}));
+    EXPECT_EQ(rady_vozu(vlak(v).vozy), (Vozy{"C", "B", "754"}));
     EXPECT_EQ(relief.imgObrzaek_vlaku[0].popis(), "C");
     odvesit_klik(2);
-    EXPECT_EQ(vlak(v).vozy, (Vozy{"C", "B"}));
+    EXPECT_EQ(rady_vozu(vlak(v).vozy), (Vozy{"C", "B"}));
 }
 
 TEST_F(Spojovani, OpenTrainPageIsWhatTheTrainIsAfterEachStep) {
@@ -389,7 +383,7 @@ TEST_F(Spojovani, OpenTrainPageIsWhatTheTrainIsAfterEachStep) {
     krok();
     EXPECT_FALSE(relief.imgObrzaek_vlaku[0].viditelny); // another page stays open
     prepni_panel(Panel::vlak);
-    EXPECT_EQ(relief.imgObrzaek_vlaku[0].popis(), vlak(v).vozy[0]);
+    EXPECT_EQ(relief.imgObrzaek_vlaku[0].popis(), vlak(v).vozy[0].rada);
     EXPECT_EQ(relief.lblIinfo_o_vlaku[0].text(), text_vlaku(v));
 }
 
@@ -436,7 +430,7 @@ TEST_F(Spojovani, FinishedSetTakesOnItsNextTrain) {
     simulace.minuty_simulace = 1440;
     gvd_vlaky = TabulkaGvd({radek_gvd(5678)});
     const int v = vlak_na(62, true, 77, {"843", "943"});
-    vlak(v).vozy_urceni = {"5678", "5678"};
+    nastav_urceni(vlak(v).vozy, {"5678", "5678"});
     vlak(v).cislo2 = 78;
     vlak(v).cislo2_platne = true;
     vlak(v).zpozdeni = 9;
@@ -458,9 +452,9 @@ TEST_F(Spojovani, SetWithoutANextTrainStaysAsItIs) {
     gvd_vlaky = TabulkaGvd({radek_gvd(5678)});
     const auto zustane = [&](const Vozy& vozy, const Vozy& urceni) {
         const int v = vlak_na(62, true, 77, vozy);
-        vlak(v).vozy_urceni = urceni;
+        nastav_urceni(vlak(v).vozy, urceni);
         navazny_vlak(v);
-        const bool stejny = vlak(v).cislo == 77 && vlak(v).vozy == vozy;
+        const bool stejny = vlak(v).cislo == 77 && rady_vozu(vlak(v).vozy) == vozy;
         uber_ze_vsech(v);
         zrus_vlak(v);
         return stejny;
@@ -477,7 +471,7 @@ TEST_F(Spojovani, SingleVehicleMarkedWithItsOwnNumberTakesItsTimetableAnew) {
     gvd_vlaky = TabulkaGvd({radek_gvd(5678)});
     const auto znovu = [&](const Vozy& vozy) {
         const int v = vlak_na(62, true, 5678, vozy);
-        vlak(v).vozy_urceni.assign(vozy.size(), "5678");
+        nastav_urceni(vlak(v).vozy, Vozy(vozy.size(), "5678"));
         vlak(v).stanice_index = 1;
         vlak(v).zpozdeni = 9;
         pridej_do_tabulky(v);
@@ -498,15 +492,15 @@ TEST_F(Spojovani, SingleVehicleMarkedWithItsOwnNumberTakesItsTimetableAnew) {
 TEST_F(Spojovani, VehicleOfAnotherNextTrainComesOff) {
     gvd_vlaky = TabulkaGvd({radek_gvd(5678)});
     const int v = vlak_na(62, true, 77, {"843", "843"});
-    vlak(v).vozy_urceni = {"77", "5678"};
+    nastav_urceni(vlak(v).vozy, {"77", "5678"});
     navazny_vlak(v);
     EXPECT_EQ(vlak(v).cislo, 77);
-    EXPECT_EQ(vlak(v).vozy, Vozy{"843"});
+    EXPECT_EQ(rady_vozu(vlak(v).vozy), Vozy{"843"});
     const auto dalsi =
         std::find_if(vlaky.begin(), vlaky.end(), [](const Vlak& x) { return x.cislo == 5678; });
     ASSERT_NE(dalsi, vlaky.end());
-    EXPECT_EQ(dalsi->vozy, Vozy{"843"});
-    EXPECT_EQ(dalsi->vozy_urceni, Vozy{"5678"});
+    EXPECT_EQ(rady_vozu(dalsi->vozy), Vozy{"843"});
+    EXPECT_EQ(urceni_vozu(dalsi->vozy), Vozy{"5678"});
 }
 
 TEST_F(Spojovani, LocomotiveComesOffWhenTheNextTrainGoesBack) {
@@ -515,7 +509,7 @@ TEST_F(Spojovani, LocomotiveComesOffWhenTheNextTrainGoesBack) {
         g.stanice = {9, druha};
         gvd_vlaky = TabulkaGvd({g});
         const int v = vlak_na(62, smer, 77, vozy);
-        vlak(v).vozy_urceni.assign(vozy.size(), "5678");
+        nastav_urceni(vlak(v).vozy, Vozy(vozy.size(), "5678"));
         navazny_vlak(v);
         EXPECT_EQ(vlak(v).cislo, 5678);
         const bool odvesena = vlak(v).vozy.size() < vozy.size();
@@ -572,7 +566,7 @@ TEST_F(Spojovani, RowOfATrainThatBecameAShuntFlashesNoMore) {
 TEST_F(Spojovani, LightEngineGetsANumberAndATimetableOfItsOwn) {
     const int v = vlak_na(62, true, 77, {"754"});
     vlak(v).posun = true;
-    vlak(v).vozy_urceni = {"DKV"};
+    nastav_urceni(vlak(v).vozy, {"DKV"});
     zmena_posun(v, 62, false);
     EXPECT_GE(vlak(v).cislo, 70000);
     EXPECT_LT(vlak(v).cislo, 80000);
@@ -589,7 +583,7 @@ TEST_F(Spojovani, LightEngineGoesWhereItsNextWorkIs) {
     const auto kam = [&](int kolej, TextPohled urceni) {
         const int v = vlak_na(kolej, true, 77, {"754"});
         vlak(v).posun = true;
-        vlak(v).vozy_urceni = {Text(urceni)};
+        nastav_urceni(vlak(v).vozy, {Text(urceni)});
         vlak_na_posun_cislo(v);
         const std::vector<std::uint8_t> stanice = vlak(v).stanice;
         vlaky = prvni_vlaky();
@@ -649,9 +643,7 @@ TEST_F(Spojovani, NumberRunsAheadOverTheRouteOfATrainOnly) {
 
 TEST_F(Spojovani, ChangeIsRefusedOffTheStationTracks) {
     const int v = vlak_na(62, true, 77);
-    vlak(v).prvky = {440, 62};
-    vlak(v).prvky_druh = {1, 1};
-    vlak(v).prvky_poloha = {0, 0};
+    vlak(v).prvky = prvky_cesty({440, 62}, {1, 1}, {0, 0});
     zmena_posun(v, 62, false);
     EXPECT_EQ(relief.lblPrikaz[0].text(), " ZMENA ");
     EXPECT_EQ(relief.lblPrikaz[0].barva, barvy::cervena);

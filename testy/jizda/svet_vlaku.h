@@ -15,7 +15,9 @@
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
 #include "pomocne/male_kolejiste.h"
+#include "pomocne/prvky_cesty.h"
 #include "pomocne/virtualni_platforma.h"
+#include "pomocne/vozy_vlaku.h"
 #include "prvky/vyhybky.h"
 
 class SVlaky : public SPlatformou {
@@ -39,7 +41,8 @@ protected:
     }
 
     // A train that stands wholly on a track, its head `celo` metres in.
-    static int vlak_na(int kolej, bool smer, std::int32_t cislo, std::vector<Text> vozy = {"754", "B"}) {
+    static int vlak_na(int kolej, bool smer, std::int32_t cislo,
+                       const std::vector<Text>& vozy = {"754", "B"}) {
         const int i = novy_vlak();
         Vlak& v = vlaky[static_cast<std::size_t>(i)];
         v.cislo = cislo;
@@ -49,12 +52,8 @@ protected:
         v.rychlost_trati = 60;
         v.smer = smer;
         v.muze_jet = true;
-        v.vozy_urceni.resize(vozy.size());
-        v.vozy_obrazek.resize(vozy.size());
-        v.vozy = std::move(vozy);
-        v.prvky = {static_cast<std::int16_t>(kolej)};
-        v.prvky_druh = {druh_prvku::kolej};
-        v.prvky_poloha = {0};
+        v.vozy = vozy_vlaku(vozy);
+        v.prvky = prvky_cesty({static_cast<std::int16_t>(kolej)}, {druh_prvku::kolej}, {0});
         barvi_prvek(kolej, barvy::cervena);
         if (je_cislo_koleje(kolej) && kolej < 600)
             pridej_na_kolej(kolej, i, smer, -1);
@@ -77,9 +76,7 @@ protected:
         Cesta c;
         c.zacatek = radek.zacatek;
         c.konec = radek.konec;
-        c.prvky = radek.prvky;
-        c.druhy = radek.druhy;
-        c.polohy = radek.polohy;
+        c.prvky = prvky_cesty(radek.prvky, radek.druhy, radek.polohy);
         c.rychlost = radek.rychlost;
         c.VC = vlakova;
         c.prehozena = c.Postavena = c.Provedena = true;
@@ -88,9 +85,9 @@ protected:
         if (navestidla(c.zacatek).je(c.zacatek))
             navestidla(c.zacatek)[c.zacatek].barva = vlakova ? barvy::zelena : barvy::bila;
         for (std::size_t k = 0; k < c.prvky.size(); ++k)
-            if (c.druhy[k] == druh_prvku::vyhybka) {
-                c.vyhybka = c.prvky[k];
-                vyhybka_stav(c.prvky[k], c.polohy[k] + zaver_vyhybek(c), false, false);
+            if (c.prvky[k].druh == druh_prvku::vyhybka) {
+                c.vyhybka = c.prvky[k].prvek;
+                vyhybka_stav(c.prvky[k].prvek, c.prvky[k].poloha + zaver_vyhybek(c), false, false);
             }
         if (cesty.front().zacatek < 0)
             cesty.clear();

@@ -4,6 +4,8 @@
 #include "gvd/gvd.h"
 #include "jizda/posun.h"
 #include "jizda/svet_vlaku.h"
+#include "pomocne/prvky_cesty.h"
+#include "pomocne/vozy_vlaku.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/stanicni_prejezdy.h"
 
@@ -99,7 +101,7 @@ TEST_F(Zastavky, CancelledStopWaitsUntilTheOperatorOrdersDeparture) {
 
 TEST_F(Zastavky, TrainWithoutALocomotiveDoesNotGo) {
     const int v = zastavi_v_borovci(482, 484);
-    vlak(v).vozy = {"B", "B"};
+    vlak(v).vozy = vozy_vlaku({"B", "B"});
     minuta(10);
     EXPECT_FALSE(vlak(v).muze_jet);
     EXPECT_EQ(vlak(v).odjezd_realny[1], -10);
@@ -144,9 +146,7 @@ TEST_F(Zastavky, StationThatStandsTwiceIsServedTwiceButOnceForAnArrival) {
     zastavky(v, {9, 2, 6, 2}, {-3, 478, 500, 520}, {470, 481, 501, -3});
     vlak(v).stanice_index = 0;
     cesta({62, 62, {440, 62}, {1, 1}, {0, 0}, 0});
-    vlak(v).prvky = {440, 62};
-    vlak(v).prvky_druh = {1, 1};
-    vlak(v).prvky_poloha = {0, 0};
+    vlak(v).prvky = prvky_cesty({440, 62}, {1, 1}, {0, 0});
     vlak(v).prvek_konec = 1;
     vlak(v).smer = false; // no exit for this sense
     cesty[0].Umazat = 1;
@@ -265,7 +265,7 @@ TEST_F(Zastavky, JournalTellsTheDepartureUnderTheShownNumberButInJavorinTheFirst
     const int v = vlak_na(62, true, 77);
     vlak(v).cislo2 = 88;
     vlak(v).cislo2_platne = true;
-    vlak(v).prvky = {18, 17, 26, 3, 638};
+    vlak(v).prvky = prvky_cesty({18, 17, 26, 3, 638}, {1});
     for (int j = 0; j < 5; ++j)
         ohlas_odjezd(v, j);
     EXPECT_EQ(relief.lstDenik.radky,
@@ -302,7 +302,7 @@ TEST_F(Zastavky, JournalNamesTheStationOfEveryTrack) {
     const int v = vlak_na(62, true, 77);
     for (int n = 0; n <= kNejvyssiPrvek; ++n) {
         relief.lstDenik.radky.clear();
-        vlak(v).prvky = {static_cast<std::int16_t>(n)};
+        vlak(v).prvky = prvky_cesty({static_cast<std::int16_t>(n)}, {1});
         ohlas_odjezd(v, 0);
         const auto radek = std::find_if(kRadky.begin(), kRadky.end(),
                                         [n](const Radek& r) { return n >= r.od && n <= r.po; });
@@ -314,7 +314,7 @@ TEST_F(Zastavky, JournalNamesTheStationOfEveryTrack) {
 
 TEST_F(Zastavky, TailOverACrossingThatNotHasOpenedLeavesItsCounterAtRest) {
     const int v = vlak_na(62, true, 77);
-    vlak(v).prvky = {427, 280};
+    vlak(v).prvky = prvky_cesty({427, 280}, {1});
     stanicni_prejezdy[0].pocet = 129;
     stanicni_prejezdy[1].pocet = 130;
     prejezd_not(1);
@@ -351,7 +351,7 @@ TEST_F(Zastavky, TrainTurnsWhereItsWayRunsBack) {
     zastavky(v, {9, 3}, {-3, 500}, {470, -3});
     otoc_podle_stanic(v); // none served yet: the first two
     EXPECT_FALSE(vlak(v).smer);
-    EXPECT_EQ(vlak(v).vozy.back(), "754");
+    EXPECT_EQ(vlak(v).vozy.back().rada, "754");
     otoc_podle_stanic(v);
     EXPECT_FALSE(vlak(v).smer);
     vlak(v).stanice_index = 1; // no next station
@@ -371,12 +371,12 @@ TEST_F(Zastavky, LocomotiveOfAnotherSeriesComesOffAtTheMainStation) {
     vlak(v).loko_rada2 = 363;
     vlak(v).delka = 70;
     vlak_v_cili(26, v);
-    EXPECT_EQ(vlak(v).vozy, (std::vector<Text>{"B", "B"}));
+    EXPECT_EQ(rady_vozu(vlak(v).vozy), (std::vector<Text>{"B", "B"}));
     EXPECT_EQ(vlak(v).odjezd_realny[1], -10);
     EXPECT_EQ(vlak(v).cislo, 77);
     EXPECT_EQ(vlak(v).stanice_index, 1); // a through train keeps its timetable
     const int loko = koleje_vlaky.back().vlaky.back();
-    EXPECT_EQ(vlak(loko).vozy, std::vector<Text>{"754"});
+    EXPECT_EQ(rady_vozu(vlak(loko).vozy), std::vector<Text>{"754"});
     EXPECT_TRUE(vlak(loko).posun);
 }
 
@@ -386,7 +386,7 @@ TEST_F(Zastavky, LocomotiveStaysWithoutAChangeAndForTheBranch) {
     vlak_v_cili(26, v);
     EXPECT_EQ(vlak(v).vozy.size(), 2u);
     vlak(v).loko_rada2 = 363;
-    vlak(v).vozy_urceni = {"VH", ""};
+    nastav_urceni(vlak(v).vozy, {"VH", ""});
     vlak(v).stanice_index = 0;
     vlak_v_cili(26, v);
     EXPECT_EQ(vlak(v).vozy.size(), 2u);
@@ -403,7 +403,7 @@ TEST_F(Zastavky, HajoviceTakesTheLocomotiveFromTheHead) {
     vlak(v).stanice_index = 1;
     vlak(v).loko_rada2 = 363;
     vlak_v_cili(47, v);
-    EXPECT_EQ(vlak(v).vozy, std::vector<Text>{"B"});
+    EXPECT_EQ(rady_vozu(vlak(v).vozy), std::vector<Text>{"B"});
 }
 
 TEST_F(Zastavky, LowerStationDetachesTheLocomotiveThatMustRunRound) {
@@ -412,7 +412,7 @@ TEST_F(Zastavky, LowerStationDetachesTheLocomotiveThatMustRunRound) {
     zastavky(v, {12, 15, 7}, {-3, 478, 500}, {470, 490, -3});
     vlak(v).stanice_index = 0;
     vlak_v_cili(78, v);
-    EXPECT_EQ(vlak(v).vozy, std::vector<Text>{"B"});
+    EXPECT_EQ(rady_vozu(vlak(v).vozy), std::vector<Text>{"B"});
     EXPECT_TRUE(vlak(v).smer); // and the way on runs back
 }
 
@@ -458,11 +458,11 @@ TEST_F(Zastavky, ChangeDemandedByTheTimetableHoldsTheTrain) {
     EXPECT_TRUE(muze_tahnout(v)); // no such station yet
     t.stanice_index = 1;
     EXPECT_FALSE(muze_tahnout(v));
-    t.vozy = {"754", "363", "B"};
+    t.vozy = vozy_vlaku({"754", "363", "B"});
     EXPECT_TRUE(muze_tahnout(v));
     t.priznaky = 2;
     EXPECT_FALSE(muze_tahnout(v));
-    t.vozy = {"754", "B", "363"};
+    t.vozy = vozy_vlaku({"754", "B", "363"});
     EXPECT_TRUE(muze_tahnout(v));
     t.stanice_index = -4;
     EXPECT_TRUE(muze_tahnout(v));

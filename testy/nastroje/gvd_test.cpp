@@ -55,7 +55,7 @@ TEST(PrekladGvd, WrittenFileReadsBackAsTheSameRows) {
     c.l(znacka);
     c.text(popis);
     GvdVlak vlak;
-    popis_gvd_vlaku(c, vlak);
+    popis_poli(c, vlak);
     EXPECT_TRUE(c.ok);
     EXPECT_TRUE(c.na_konci());
     EXPECT_EQ(popis, "Zkušební"_cz);
@@ -68,7 +68,7 @@ TEST(PrekladGvd, SmallestRowOfTheFileHasNinetyFiveBytes) {
     v.prijezdy = v.odjezdy = v.vozy_vlaky = {0};
     v.vozy = {""};
     Miric m;
-    popis_gvd_vlaku(m, v);
+    popis_poli(m, v);
     EXPECT_EQ(m.misto, 95u);
 }
 

@@ -111,7 +111,7 @@ protected:
 
     void obsluz_cestu(std::size_t i) {
         const Vlak& v = vlaky[i];
-        const int e = v.prvky.back();
+        const int e = v.prvky.back().prvek;
         for (const Cesta& c : cesty)
             if (c.zacatek >= 0 && ((prvni_prvek(c) == e && c.Umazat == 0) ||
                                    (c.Vlak == static_cast<int>(i) && c.Umazat < posledni_index(c))))
@@ -121,7 +121,7 @@ protected:
         for (const ZaznamCesty& z : v.posun ? posunove : vlakove) {
             Cesta c;
             c.zacatek = z.zacatek;
-            if (!z.prvky.empty() && z.prvky.front() == e && (kamkoli || smer_cesty(c) == v.smer))
+            if (!z.prvky.empty() && z.prvky.front().prvek == e && (kamkoli || smer_cesty(c) == v.smer))
                 mozne.push_back(&z);
         }
         if (mozne.empty())
@@ -135,9 +135,9 @@ protected:
 
     void obsluz_vlak(std::size_t i) {
         const Vlak& v = vlaky[i];
-        if (v.cislo < 1 || v.prvky.empty() || v.prvky_druh.back() != druh_prvku::kolej)
+        if (v.cislo < 1 || v.prvky.empty() || v.prvky.back().druh != druh_prvku::kolej)
             return;
-        const int e = v.prvky.back();
+        const int e = v.prvky.back().prvek;
         if (relief.kolej[e].barva == barvy::zelena)
             return; // announced: it stands in the neighbouring station
         if (!v.posun && !v.muze_jet && ma_loko(v) && v.stanice_index >= 0 && nahodou(20)) {
@@ -157,7 +157,7 @@ protected:
             odvesit(static_cast<int>(i), static_cast<int>(los() % v.vozy.size()), true);
         }
         for (std::size_t k = 0; k < vlaky.size(); ++k)
-            if (k != i && vlaky[k].cislo > 0 && !vlaky[k].prvky.empty() && vlaky[k].prvky.back() == e &&
+            if (k != i && vlaky[k].cislo > 0 && !vlaky[k].prvky.empty() && vlaky[k].prvky.back().prvek == e &&
                 nahodou(50)) {
                 ukon("coupling of trains " + std::to_string(i) + " " + std::to_string(k));
                 spoj(static_cast<int>(i), static_cast<int>(k));

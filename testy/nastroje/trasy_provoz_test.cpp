@@ -63,9 +63,9 @@ protected:
         const ZaznamCesty& z = t.zaznam;
         const int zaver = pn ? 100 : je_vlak(t) ? 50 : 200;
         for (std::size_t k = 1; k < z.prvky.size(); ++k)
-            if (z.druhy[k] == 2 && stav_vyhybky_cislo(z.prvky[k]) != z.polohy[k] + zaver)
-                return "switch " + std::to_string(z.prvky[k]) + " is in state " +
-                       std::to_string(stav_vyhybky_cislo(z.prvky[k]));
+            if (z.prvky[k].druh == 2 && stav_vyhybky_cislo(z.prvky[k].prvek) != z.prvky[k].poloha + zaver)
+                return "switch " + std::to_string(z.prvky[k].prvek) + " is in state " +
+                       std::to_string(stav_vyhybky_cislo(z.prvky[k].prvek));
         return {};
     }
     static bool stoji(int zacatek) {
@@ -99,12 +99,12 @@ std::vector<std::string> obraz_klidu() {
 std::set<std::pair<int, int>> prvky(const ZaznamCesty& z) {
     std::set<std::pair<int, int>> p;
     for (std::size_t k = 1; k < z.prvky.size(); ++k) {
-        int n = z.prvky[k];
+        int n = z.prvky[k].prvek;
         for (const uzel::Krizeni& x : uzel::kKrizeni)
-            if (z.druhy[k] == 1 && n == x.b)
+            if (z.prvky[k].druh == 1 && n == x.b)
                 n = x.a;
-        if (z.druhy[k] != 4)
-            p.insert({z.druhy[k], n});
+        if (z.prvky[k].druh != 4)
+            p.insert({z.prvky[k].druh, n});
     }
     return p;
 }
@@ -147,7 +147,7 @@ TEST_F(ProvozTras, TrainRouteThatIsTakenBackLeavesNothingBehind) {
         for (const bool pn : {false, true}) {
             do_klidu();
             stanicni_prejezdy = {};
-            const int kolej = t.zaznam.prvky.front();
+            const int kolej = t.zaznam.prvky.front().prvek;
             const int stitek = kolej < 600 ? kolej : 600 + kolej % 50;
             const int s = t.zaznam.zacatek;
             relief.kolej[kolej].barva = barvy::cervena;

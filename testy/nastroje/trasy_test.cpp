@@ -2,6 +2,7 @@
 #include "kolejiste/kontrola_tras.h"
 #include "kolejiste/kontroly.h"
 #include "kolejiste/kresba.h"
+#include "pomocne/prvky_cesty.h"
 #include "pomocne/zdroje.h"
 
 #include <gtest/gtest.h>
@@ -166,9 +167,9 @@ TEST(OdvozeniTras, RouteRunsFromTheTrackBeforeTheSignal) {
     EXPECT_EQ(p.vlak(212, 74), "12 403 v6- 74");
     const Trasa* t = p.najdi(DruhTrasy::vlak, 271, 12);
     ASSERT_TRUE(t);
-    EXPECT_EQ(t->zaznam.prvky, (std::vector<std::int16_t>{71, 1, 401, 3, 5, 12}));
-    EXPECT_EQ(t->zaznam.druhy, (std::vector<std::uint8_t>{1, 2, 1, 2, 2, 1}));
-    EXPECT_EQ(t->zaznam.polohy, (std::vector<std::uint8_t>{2, 3, 0, 31, 8, 2}));
+    EXPECT_EQ(cisla_prvku(t->zaznam.prvky), (std::vector<std::int16_t>{71, 1, 401, 3, 5, 12}));
+    EXPECT_EQ(druhy_prvku(t->zaznam.prvky), (std::vector<std::uint8_t>{1, 2, 1, 2, 2, 1}));
+    EXPECT_EQ(polohy_prvku(t->zaznam.prvky), (std::vector<std::uint8_t>{2, 3, 0, 31, 8, 2}));
 }
 
 TEST(OdvozeniTras, OfTwoWaysTheStraightestIsTaken) {
@@ -197,7 +198,7 @@ TEST(OdvozeniTras, ShuntingGoesOntoTheStubOverTheDerailer) {
     EXPECT_EQ(p.posun(703, 12), "503 d0 v5+ 12");
     const Trasa* t = p.najdi(DruhTrasy::posun, 12, 503);
     ASSERT_TRUE(t);
-    EXPECT_EQ(t->zaznam.druhy, (std::vector<std::uint8_t>{1, 2, 4, 1}));
+    EXPECT_EQ(druhy_prvku(t->zaznam.prvky), (std::vector<std::uint8_t>{1, 2, 4, 1}));
     EXPECT_EQ(t->zaznam.rychlost, 0);
 }
 
@@ -219,7 +220,7 @@ TEST(OdvozeniTras, SignalOfTheOtherFacingEndsNothing) {
     const Preklad p(kVyhybna);
     // a train to the right passes the left-facing signal 11 and stops before 211
     EXPECT_EQ(p.vlak(271, 74), "");
-    EXPECT_EQ(p.najdi(DruhTrasy::vlak, 271, 11)->zaznam.prvky.back(), 11);
+    EXPECT_EQ(p.najdi(DruhTrasy::vlak, 271, 11)->zaznam.prvky.back().prvek, 11);
 }
 
 TEST(OdvozeniTras, TargetWithoutASignalStopsTrainsUnlessTheyRunThrough) {
@@ -233,7 +234,7 @@ TEST(OdvozeniTras, TargetWithoutASignalStopsTrainsUnlessTheyRunThrough) {
     EXPECT_EQ(skrz.vsechny(), "");
     EXPECT_EQ(skrz.vlak(271, 74), "71 v1+ 401 v3++ 11 v6+ 74");
     EXPECT_EQ(skrz.posun(271, 74), "71 v1+ 401 v3++ 11 v6+ 74");
-    EXPECT_EQ(skrz.najdi(DruhTrasy::vlak, 271, 74)->zaznam.polohy,
+    EXPECT_EQ(polohy_prvku(skrz.najdi(DruhTrasy::vlak, 271, 74)->zaznam.prvky),
               (std::vector<std::uint8_t>{2, 3, 0, 29, 2, 12, 2}))
         << "the number is written on every target";
 }
@@ -342,23 +343,21 @@ TEST(KontrolaTras, BrokenRecordIsFound) {
     const Preklad p(kVyhybna);
     const auto po = [&](auto zmena) { return p.po_zmene(DruhTrasy::vlak, 271, 12, zmena); };
     EXPECT_EQ(po([](Trasa&) {}), "");
-    HLASI(po([](Trasa& t) { t.zaznam.prvky[2] = 403; }), "prvek 403 nenavazuje na v1+");
-    HLASI(po([](Trasa& t) { t.zaznam.prvky[2] = 999; }), "prvek 999 druhu 1 není nakreslen");
-    HLASI(po([](Trasa& t) { t.zaznam.druhy[3] = 7; }), "prvek 3 druhu 7 není nakreslen");
-    HLASI(po([](Trasa& t) { t.zaznam.polohy.pop_back(); }), "nejsou stejně dlouhé");
-    HLASI(po([](Trasa& t) { t.zaznam.polohy[1] = 2; }), "nenavazuje na v1-");
-    HLASI(po([](Trasa& t) { t.zaznam.polohy[1] = 1; }), "výhybka 1 v poloze 1 tudy nevede");
-    HLASI(po([](Trasa& t) { t.zaznam.polohy[1] = 6; }), "výhybka 1 v poloze 6 tudy nevede");
-    HLASI(po([](Trasa& t) { t.zaznam.polohy[3] = 30; }), "výhybka 3 v poloze 30 tudy nevede");
-    HLASI(po([](Trasa& t) { t.zaznam.prvky[4] = 3, t.zaznam.polohy[4] = 31; }), "prvek v3+- v ní je dvakrát");
-    HLASI(po([](Trasa& t) { t.zaznam.prvky[0] = 72; }), "nezačíná kolejí 71");
+    HLASI(po([](Trasa& t) { t.zaznam.prvky[2].prvek = 403; }), "prvek 403 nenavazuje na v1+");
+    HLASI(po([](Trasa& t) { t.zaznam.prvky[2].prvek = 999; }), "prvek 999 druhu 1 není nakreslen");
+    HLASI(po([](Trasa& t) { t.zaznam.prvky[3].druh = 7; }), "prvek 3 druhu 7 není nakreslen");
+    HLASI(po([](Trasa& t) { t.zaznam.prvky.resize(1); }), "nemá ani dva prvky");
+    HLASI(po([](Trasa& t) { t.zaznam.prvky[1].poloha = 2; }), "nenavazuje na v1-");
+    HLASI(po([](Trasa& t) { t.zaznam.prvky[1].poloha = 1; }), "výhybka 1 v poloze 1 tudy nevede");
+    HLASI(po([](Trasa& t) { t.zaznam.prvky[1].poloha = 6; }), "výhybka 1 v poloze 6 tudy nevede");
+    HLASI(po([](Trasa& t) { t.zaznam.prvky[3].poloha = 30; }), "výhybka 3 v poloze 30 tudy nevede");
+    HLASI(po([](Trasa& t) { t.zaznam.prvky[4].prvek = 3, t.zaznam.prvky[4].poloha = 31; }),
+          "prvek v3+- v ní je dvakrát");
+    HLASI(po([](Trasa& t) { t.zaznam.prvky[0].prvek = 72; }), "nezačíná kolejí 71");
     HLASI(po([](Trasa& t) { t.zaznam.zacatek = 299; }), "návěstidlo 299 není nakresleno");
     HLASI(po([](Trasa& t) { t.zaznam.konec = 11; }), "končí kolejí 12, ne 11");
     HLASI(po([](Trasa& t) { t.zaznam.konec = 401; }), "kolej 401 není cílem");
-    HLASI(po([](Trasa& t) {
-              t.zaznam.prvky.pop_back(), t.zaznam.druhy.pop_back(), t.zaznam.polohy.pop_back();
-          }),
-          "nekončí na koleji");
+    HLASI(po([](Trasa& t) { t.zaznam.prvky.pop_back(); }), "nekončí na koleji");
     HLASI(po([&](Trasa& t) { t.zaznam = p.najdi(DruhTrasy::vlak, 271, 11)->zaznam; }),
           "je v tabulce dvakrát");
 }
@@ -373,9 +372,8 @@ TEST(KontrolaTras, RoutePastASignalIsFound) {
     const Preklad p(kVyhybna);
     const auto text = p.po_zmene(DruhTrasy::vlak, 271, 11, [](Trasa& t) {
         for (const auto& [n, druh, poloha] : {std::tuple{6, 2, 12}, {74, 1, 2}}) {
-            t.zaznam.prvky.push_back(static_cast<std::int16_t>(n));
-            t.zaznam.druhy.push_back(static_cast<std::uint8_t>(druh));
-            t.zaznam.polohy.push_back(static_cast<std::uint8_t>(poloha));
+            t.zaznam.prvky.push_back({static_cast<std::int16_t>(n), static_cast<std::uint8_t>(druh),
+                                      static_cast<std::uint8_t>(poloha)});
         }
         t.zaznam.konec = 74;
     });
@@ -429,14 +427,12 @@ TEST(KontrolaTras, LineIsEnteredByItsNearestSection) {
     ASSERT_TRUE(p.najdi(DruhTrasy::vlak, 12, 600));
     HLASI(p.po_zmene(DruhTrasy::vlak, 12, 600,
                      [](Trasa& t) {
-                         t.zaznam.prvky.push_back(600), t.zaznam.druhy.push_back(1);
-                         t.zaznam.polohy.push_back(2);
+                         t.zaznam.prvky.push_back({600, 1, 2});
                      }),
           "do trati vjíždí oddílem 600, má být 650");
     HLASI(p.po_zmene(DruhTrasy::vlak, 12, 600,
                      [](Trasa& t) {
-                         t.zaznam.prvky.push_back(600), t.zaznam.druhy.push_back(1);
-                         t.zaznam.polohy.push_back(2);
+                         t.zaznam.prvky.push_back({600, 1, 2});
                      }),
           "oddíl 650 trati by v ní byl dvakrát");
     HLASI(p.po_zmene(DruhTrasy::vlak, 12, 600, [](Trasa& t) { t.druh = DruhTrasy::posun; }),
@@ -449,9 +445,9 @@ TEST(KontrolaTras, CrossingThatIsClosedIsOpenedAgain) {
     const Preklad& p = tesk();
     HLASI(p.po_zmene(DruhTrasy::vlak, 601, 12,
                      [](Trasa& t) {
-                         for (std::int16_t& n : t.zaznam.prvky)
-                             if (n == 100)
-                                 n = 101;
+                         for (PrvekCesty& prvek : t.zaznam.prvky)
+                             if (prvek.prvek == 100)
+                                 prvek.prvek = 101;
                      }),
           "přejezd 0 uzavře 1krát a otevře 0krát");
 }
@@ -461,8 +457,8 @@ TEST(KontrolaTras, TrackOfANeighbourStandsNeverBehindTheSignal) {
     HLASI(p.po_zmene(DruhTrasy::vlak, 26, 117,
                      [](Trasa& t) {
                          const auto posledni = t.zaznam.prvky.size() - 2;
-                         t.zaznam.prvky[1] = t.zaznam.prvky[posledni];
-                         t.zaznam.druhy[1] = 1;
+                         t.zaznam.prvky[1].prvek = t.zaznam.prvky[posledni].prvek;
+                         t.zaznam.prvky[1].druh = 1;
                      }),
           "kolej 117 nesmí být hned za návěstidlem");
 }
@@ -603,19 +599,19 @@ TEST(TrasyTesku, JunctionHasNoFault) {
 TEST(TrasyTesku, LinesAreEnteredAndLeft) {
     const Preklad& p = tesk();
     EXPECT_EQ(p.vlak(287, 600), "87 v33+ 404 v36+ v37+ 600");
-    EXPECT_EQ(p.najdi(DruhTrasy::vlak, 601, 12)->zaznam.prvky[0], 650);
-    EXPECT_EQ(p.najdi(DruhTrasy::vlak, 12, 600)->zaznam.prvky.back(), 650);
-    EXPECT_EQ(p.najdi(DruhTrasy::vlak, 287, 600)->zaznam.polohy.back(), 0)
+    EXPECT_EQ(p.najdi(DruhTrasy::vlak, 601, 12)->zaznam.prvky[0].prvek, 650);
+    EXPECT_EQ(p.najdi(DruhTrasy::vlak, 12, 600)->zaznam.prvky.back().prvek, 650);
+    EXPECT_EQ(p.najdi(DruhTrasy::vlak, 287, 600)->zaznam.prvky.back().poloha, 0)
         << "the number stays until the train has left the whole line";
-    EXPECT_EQ(p.najdi(DruhTrasy::vlak, 601, 12)->zaznam.polohy.front(), 2);
-    EXPECT_EQ(p.najdi(DruhTrasy::vlak, 2, 84)->zaznam.polohy.back(), 2);
+    EXPECT_EQ(p.najdi(DruhTrasy::vlak, 601, 12)->zaznam.prvky.front().poloha, 2);
+    EXPECT_EQ(p.najdi(DruhTrasy::vlak, 2, 84)->zaznam.prvky.back().poloha, 2);
     EXPECT_EQ(p.najdi(DruhTrasy::vlak, 287, 600)->zaznam.rychlost, 0);
     EXPECT_EQ(p.najdi(DruhTrasy::vlak, 286, 600)->zaznam.rychlost, 1);
 }
 
 TEST(TrasyTesku, NumberStaysOnALineUntilItsLastSection) {
     const auto znacka_konce = [](int od, int kam) {
-        return tesk().najdi(DruhTrasy::vlak, od, kam)->zaznam.polohy.back();
+        return tesk().najdi(DruhTrasy::vlak, od, kam)->zaznam.prvky.back().poloha;
     };
     for (const auto& [od, kam] : {std::pair{287, 600}, {202, 604}, {12, 600}, {10, 606}})
         EXPECT_EQ(znacka_konce(od, kam), 0) << od << " - " << kam << ": the locking marks the last section";
@@ -626,8 +622,8 @@ TEST(TrasyTesku, NumberStaysOnALineUntilItsLastSection) {
 TEST(TrasyTesku, RouteToVrbiceRunsOnToTheEdge) {
     const Trasa* t = tesk().najdi(DruhTrasy::vlak, 26, 117);
     ASSERT_TRUE(t);
-    EXPECT_EQ(t->zaznam.prvky.back(), 219);
-    EXPECT_EQ(t->zaznam.prvky[t->zaznam.prvky.size() - 2], 117);
+    EXPECT_EQ(t->zaznam.prvky.back().prvek, 219);
+    EXPECT_EQ(t->zaznam.prvky[t->zaznam.prvky.size() - 2].prvek, 117);
     EXPECT_FALSE(tesk().najdi(DruhTrasy::posun, 26, 117)) << "no shunting onto the line of a neighbour";
 }
 

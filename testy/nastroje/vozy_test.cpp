@@ -304,7 +304,7 @@ TEST_F(SadaObrazku, EveryVehicleOfEveryTimetableHasAPicture) {
                 gvd_vlaky = TabulkaGvd({r});
                 const Vlak v = vlaky[static_cast<std::size_t>(vytvor_vlak(smer, 600, true, kNaVstupu, 0))];
                 for (std::size_t i = 0; i < v.vozy.size(); ++i, ++vozidel)
-                    ma(v.vozy_obrazek[i], v.vozy[i]);
+                    ma(v.vozy[i].obrazek, v.vozy[i].rada);
                 if (r.loko_rada2 != 0)
                     ma(obrazek_vozu(r.loko_rada2), text_cisla(r.loko_rada2));
             }

@@ -3,7 +3,9 @@
 #include "jizda/svet_vlaku.h"
 #include "obsluha/lokomotivy.h"
 #include "obsluha/vstup.h"
+#include "pomocne/prvky_cesty.h"
 #include "pomocne/pult.h"
+#include "pomocne/vozy_vlaku.h"
 #include "zaklad/nahoda.h"
 
 namespace {
@@ -70,11 +72,11 @@ TEST_F(Lokomotivy, LocomotiveOfTheDepotComesAsAShuntingMovement) {
     EXPECT_EQ(v.max_rychlost, 80);
     EXPECT_EQ(v.rychlost_trati, 80);
     EXPECT_EQ(v.loko_rada, 754);
-    EXPECT_EQ(v.vozy, std::vector<Text>{"754"});
-    EXPECT_EQ(v.vozy_urceni, std::vector<Text>{""});
-    EXPECT_EQ(v.prvky, std::vector<std::int16_t>{112});
-    EXPECT_EQ(v.prvky_druh, std::vector<std::uint8_t>{1});
-    EXPECT_EQ(v.prvky_poloha, std::vector<std::uint8_t>{2});
+    EXPECT_EQ(rady_vozu(v.vozy), std::vector<Text>{"754"});
+    EXPECT_EQ(urceni_vozu(v.vozy), std::vector<Text>{""});
+    EXPECT_EQ(cisla_prvku(v.prvky), std::vector<std::int16_t>{112});
+    EXPECT_EQ(druhy_prvku(v.prvky), std::vector<std::uint8_t>{1});
+    EXPECT_EQ(polohy_prvku(v.prvky), std::vector<std::uint8_t>{2});
     EXPECT_EQ(v.stanice, (std::vector<std::uint8_t>{27, 12}));
     EXPECT_EQ(v.prijezd, (std::vector<std::int16_t>{-3, 482}));
     EXPECT_EQ(v.odjezd, (std::vector<std::int16_t>{480, -3}));
@@ -92,7 +94,7 @@ TEST_F(Lokomotivy, LocomotiveOfTheDepotComesAsAShuntingMovement) {
 TEST_F(Lokomotivy, SecondGateSendsThemTheOtherWay) {
     loko_menu(30, "363");
     EXPECT_TRUE(vlak(jediny()).smer);
-    EXPECT_EQ(vlak(jediny()).prvky, std::vector<std::int16_t>{119});
+    EXPECT_EQ(cisla_prvku(vlak(jediny()).prvky), std::vector<std::int16_t>{119});
     EXPECT_EQ(relief.kolej[119].barva, barvy::cervena);
 }
 
@@ -100,9 +102,7 @@ TEST_F(Lokomotivy, PairHasTwoVehiclesAndThirtySixMetres) {
     klik(Druh::popis_stanice, 30, Tlacitko::prave, false);
     ASSERT_TRUE(zvol_v_menu("mi2x230"));
     const Vlak& v = vlak(jediny());
-    EXPECT_EQ(v.vozy, (std::vector<Text>{"230", "230"}));
-    EXPECT_EQ(v.vozy_urceni.size(), 2u);
-    EXPECT_EQ(v.vozy_obrazek.size(), 2u);
+    EXPECT_EQ(rady_vozu(v.vozy), (std::vector<Text>{"230", "230"}));
     EXPECT_EQ(v.delka, 36);
     EXPECT_EQ(v.loko_rada, 230);
 }
@@ -158,7 +158,7 @@ TEST_F(Lokomotivy, RailcarOfTheBranchDepotComesAsATrain) {
     EXPECT_EQ(v.delka, 20);
     EXPECT_EQ(v.max_rychlost, 80);
     EXPECT_EQ(v.rychlost_trati, 80);
-    EXPECT_EQ(v.vozy, std::vector<Text>{"850"});
+    EXPECT_EQ(rady_vozu(v.vozy), std::vector<Text>{"850"});
     EXPECT_EQ(v.stanice, (std::vector<std::uint8_t>{34, 9}));
     EXPECT_EQ(v.prijezd, (std::vector<std::int16_t>{-3, 487}));
     EXPECT_EQ(v.odjezd, (std::vector<std::int16_t>{480, -3}));

@@ -6,6 +6,7 @@
 #include "obsluha/menu_koleje.h"
 #include "obsluha/vstup.h"
 #include "obsluha/vyber.h"
+#include "pomocne/prvky_cesty.h"
 #include "pomocne/pult.h"
 
 #include <algorithm>
@@ -29,7 +30,7 @@ protected:
     static int posun_na(int kolej, std::vector<Text> vozy, TextPohled urceni, std::int32_t cislo = 77) {
         const int v = vlak_na(kolej, true, cislo, std::move(vozy));
         vlak(v).posun = true;
-        vlak(v).vozy_urceni[0] = Text(urceni);
+        vlak(v).vozy[0].urceni = Text(urceni);
         return v;
     }
     static Barva barva_radku(std::int32_t cislo) {
@@ -253,13 +254,13 @@ TEST_F(MenuKolejeTest, TurnReversesAndShowsTheTrain) {
     otevri(62);
     ASSERT_TRUE(zvol_v_menu("miOtoc0"));
     EXPECT_FALSE(vlak(v).smer);
-    EXPECT_EQ(vlak(v).vozy.front(), "B");
+    EXPECT_EQ(vlak(v).vozy.front().rada, "B");
     EXPECT_TRUE(info_ukazuje(v));
     prepni_panel(Panel::denik);
     otevri(62);
     ASSERT_TRUE(zvol_v_menu("miOtocN0"));
     EXPECT_TRUE(vlak(v).smer);
-    EXPECT_EQ(vlak(v).vozy.front(), "B"); // the head stays where it was
+    EXPECT_EQ(vlak(v).vozy.front().rada, "B"); // the head stays where it was
     EXPECT_TRUE(info_ukazuje(v));
 }
 
@@ -290,9 +291,7 @@ TEST_F(MenuKolejeTest, DepartureIsOrderedForTheNextMinute) {
 
 TEST_F(MenuKolejeTest, ShorteningPullsTheTailUp) {
     const int v = vlak_na(62, true, 77);
-    vlak(v).prvky = {440, 62};
-    vlak(v).prvky_druh = {1, 1};
-    vlak(v).prvky_poloha = {0, 0};
+    vlak(v).prvky = prvky_cesty({440, 62}, {1, 1}, {0, 0});
     otevri(62);
     ASSERT_TRUE(zvol_v_menu("miZkratit0"));
     EXPECT_EQ(vlak(v).prvek_konec, 1);

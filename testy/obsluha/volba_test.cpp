@@ -1,6 +1,7 @@
 // testy/obsluha/volba_test.cpp - picks, the stack and the warnings.
 #include "cesty/stavedlo.h"
 #include "obsluha/volba.h"
+#include "pomocne/prvky_cesty.h"
 
 using Volba = Stavedlo;
 
@@ -77,8 +78,9 @@ TEST_F(Volba, TargetEndsTheSelection) {
     EXPECT_EQ(c.zacatek, 240);
     EXPECT_EQ(c.konec, 41);
     EXPECT_EQ(c.ZT, 1);
-    EXPECT_EQ(c.prvky, (std::vector<std::int16_t>{40, 5, 41}));
-    EXPECT_EQ(c.polohy, (std::vector<std::uint8_t>{2, 2, 0})) << "the track before the signal is marked";
+    EXPECT_EQ(cisla_prvku(c.prvky), (std::vector<std::int16_t>{40, 5, 41}));
+    EXPECT_EQ(polohy_prvku(c.prvky), (std::vector<std::uint8_t>{2, 2, 0}))
+        << "the track before the signal is marked";
     EXPECT_TRUE(c.VC);
     EXPECT_EQ(c.cas_stavby, ted_s() + 6);
     EXPECT_EQ(c.Kdy_prehoz, -3);
@@ -150,7 +152,8 @@ TEST_F(Volba, TrainClickDoesNotEndAShuntSelection) {
 TEST_F(Volba, SomePairsOfSignalsNeverChain) {
     for (const int n : {113, 114, 618, 616, 313, 314, 315, 316})
         navest(n, 229, "TST S" + text_cisla(n));
-    zat = {{113, 116, {113, 116}, {1, 1}, {0, 0}, 0}, {113, 115, {113, 115}, {1, 1}, {0, 0}, 0}};
+    zat = {{113, 116, prvky_cesty({113, 116}, {1, 1}, {0, 0}), 0},
+           {113, 115, prvky_cesty({113, 115}, {1, 1}, {0, 0}), 0}};
     postav_tabulky();
     stitek(115, "115");
     klik(113);
@@ -279,7 +282,7 @@ TEST_F(Volba, NotesOnTheEndHoldTheRouteUntilOneConfirmation) {
 }
 
 TEST_F(Volba, NoteOnTheLabelOfALineWarnsARouteThatEndsFartherOn) {
-    zat.push_back({240, 604, {40, 6, 654}, {1, 2, 1}, {0, 5, 0}, 0});
+    zat.push_back({240, 604, prvky_cesty({40, 6, 654}, {1, 2, 1}, {0, 5, 0}), 0});
     postav_tabulky();
     pridej_stitek(604, "", "", "vyluka");
     klik(240);
@@ -482,8 +485,8 @@ constexpr std::array<Dvojity, 17> kDvojite = {{{604, 284, 2, 202},
                                                {616, 123, 36, 36}}};
 
 ZaznamCesty prima(int zacatek, int konec) {
-    return {
-        static_cast<std::int16_t>(zacatek), static_cast<std::int16_t>(konec), {40, 41}, {1, 1}, {0, 0}, 0};
+    return {static_cast<std::int16_t>(zacatek), static_cast<std::int16_t>(konec),
+            prvky_cesty({40, 41}, {1, 1}, {0, 0}), 0};
 }
 
 } // namespace
@@ -552,7 +555,8 @@ TEST_F(Volba, SignalsAsEndsStandForTheirTracks) {
 }
 
 TEST_F(Volba, ShuntSignalOver699EndsARouteOnItsTrack) {
-    zpc = {{545, 520, {45, 44}, {1, 1}, {0, 0}, 0}, {545, 566, {45, 44}, {1, 1}, {0, 0}, 0}};
+    zpc = {{545, 520, prvky_cesty({45, 44}, {1, 1}, {0, 0}), 0},
+           {545, 566, prvky_cesty({45, 44}, {1, 1}, {0, 0}), 0}};
     postav_tabulky();
     navest(720, 240, "TST Se720");
     navest(566, 240, "TST Se566");

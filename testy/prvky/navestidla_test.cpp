@@ -8,6 +8,7 @@
 #include "obsluha/stanoviste.h"
 #include "obsluha/vyber.h"
 #include "pomocne/male_kolejiste.h"
+#include "pomocne/prvky_cesty.h"
 #include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/navestidla.h"
@@ -40,13 +41,12 @@ struct ObsluhaNavestidla : testing::Test {
         return prvek;
     }
     static int glyf(int s) { return glyf_navestidla(s); }
-    static Cesta& cesta(int zacatek, std::vector<std::int16_t> prvky) {
+    static Cesta& cesta(int zacatek, const std::vector<std::int16_t>& prvky) {
         Cesta c;
         c.zacatek = static_cast<std::int16_t>(zacatek);
         c.konec = prvky.back();
-        c.druhy.assign(prvky.size(), druh_prvku::kolej);
-        c.polohy.assign(prvky.size(), 0);
-        c.prvky = std::move(prvky);
+        for (PrvekCesty& p : c.prvky = prvky_cesty(prvky))
+            p.druh = druh_prvku::kolej;
         c.cas_stavby = 0;
         c.VC = c.prehozena = c.Postavena = c.Provedena = true;
         if (cesty.front().zacatek < 0)
@@ -295,19 +295,17 @@ TEST_F(ObsluhaNavestidla, CopyOfARouteIntoTheLineEndsOnItsFirstLineSection) {
         cesty.assign(1, Cesta{});
         Cesta& c = cesta(20, pripad.prvky);
         for (std::size_t k = 0; k < c.prvky.size(); ++k) {
-            c.druhy[k] = static_cast<std::uint8_t>(k == 1 ? 2 : 1);
-            c.polohy[k] = static_cast<std::uint8_t>(k);
+            c.prvky[k].druh = static_cast<std::uint8_t>(k == 1 ? 2 : 1);
+            c.prvky[k].poloha = static_cast<std::uint8_t>(k);
         }
         const auto konec = c.konec;
         kopie_ab(0);
         ASSERT_EQ(cesty.size(), 2u);
-        EXPECT_EQ(cesty[1].prvky, pripad.kopie);
-        ASSERT_EQ(cesty[1].druhy.size(), pripad.kopie.size());
-        ASSERT_EQ(cesty[1].polohy.size(), pripad.kopie.size());
-        EXPECT_EQ(cesty[1].druhy.back(), pripad.kopie.size() == 2 ? 2 : 1);
-        EXPECT_EQ(cesty[1].polohy.back(), pripad.kopie.size() - 1);
+        EXPECT_EQ(cisla_prvku(cesty[1].prvky), pripad.kopie);
+        EXPECT_EQ(cesty[1].prvky.back().druh, pripad.kopie.size() == 2 ? 2 : 1);
+        EXPECT_EQ(cesty[1].prvky.back().poloha, pripad.kopie.size() - 1);
         EXPECT_EQ(cesty[1].konec, konec);
-        EXPECT_EQ(cesty[0].prvky, pripad.prvky);
+        EXPECT_EQ(cisla_prvku(cesty[0].prvky), pripad.prvky);
     }
 }
 
@@ -372,7 +370,7 @@ TEST_F(Automat, WithAllModesOnTurnsThemOffAndCancelsTheRoutes) {
         c.Kdy_prehoz = ted_s();
         navestidla(c.zacatek)[c.zacatek].barva = barvy::zelena;
         for (std::size_t k = 1; k < c.prvky.size(); ++k)
-            relief.kolej[c.prvky[k]].barva = barvy::zelena;
+            relief.kolej[c.prvky[k].prvek].barva = barvy::zelena;
     }
     automat(kPost);
     EXPECT_FALSE(ab_zapnuto(629) || ab_zapnuto(63));

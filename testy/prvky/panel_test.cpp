@@ -2,6 +2,7 @@
 #include "app/casovace.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
+#include "pomocne/prvky_cesty.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/navestidla.h"
 #include "prvky/panel.h"
@@ -31,13 +32,12 @@ struct Navest : testing::Test {
         return prvek;
     }
     // A train route that stands with its signal cleared.
-    static Cesta& cesta(int zacatek, std::vector<std::int16_t> prvky, int rychlost = 0) {
+    static Cesta& cesta(int zacatek, const std::vector<std::int16_t>& prvky, int rychlost = 0) {
         Cesta c;
         c.zacatek = static_cast<std::int16_t>(zacatek);
         c.konec = prvky.back();
-        c.druhy.assign(prvky.size(), druh_prvku::kolej);
-        c.polohy.assign(prvky.size(), 0);
-        c.prvky = std::move(prvky);
+        for (PrvekCesty& p : c.prvky = prvky_cesty(prvky))
+            p.druh = druh_prvku::kolej;
         c.rychlost = static_cast<std::uint8_t>(rychlost);
         c.cas_stavby = 0;
         c.VC = c.prehozena = c.Postavena = c.Provedena = true;

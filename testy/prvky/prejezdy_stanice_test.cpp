@@ -5,6 +5,7 @@
 #include "cesty/tik_volby.h"
 #include "desk/menu.h"
 #include "obsluha/vstup.h"
+#include "pomocne/prvky_cesty.h"
 #include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/prejezdy_stanice.h"
@@ -99,9 +100,7 @@ TEST_F(PrejezdStanice, EmergencyOpeningEndsTheWaitingOfASignal) {
     Cesta& c = cesty.front();
     c.zacatek = 20;
     c.konec = 12;
-    c.prvky = {20, 107, 12};
-    c.druhy = {1, 1, 1};
-    c.polohy = {2, 0, 2};
+    c.prvky = prvky_cesty({20, 107, 12}, {1, 1, 1}, {2, 0, 2});
     c.VC = c.prehozena = c.prejezd_zaver = true;
     c.prejezd = 0;
     c.cas_stavby = 0;

@@ -4,7 +4,9 @@
 #include "gvd/gvd.h"
 #include "jizda/vlak.h"
 #include "obsluha/vstup.h"
+#include "pomocne/prvky_cesty.h"
 #include "pomocne/virtualni_platforma.h"
+#include "pomocne/vozy_vlaku.h"
 #include "prvky/souhlasy.h"
 #include "relief/relief.h"
 #include "save/debug_vypis.h"
@@ -74,9 +76,7 @@ TEST_F(LadiciVypis, RouteStandsWithItsFieldsInTheOrderOfTheDumpAndOneOnALine) {
     c.Umazat = 2;
     c.Kdy_prehoz = 80105;
     c.Provedena = true;
-    c.prvky = {40, 5, 41};
-    c.druhy = {1, 2, 1};
-    c.polohy = {2, 3, 0};
+    c.prvky = prvky_cesty({40, 5, 41}, {1, 2, 1}, {2, 3, 0});
     cesty = {Cesta{}, c};
     debug_vypis();
     EXPECT_EQ(
@@ -106,12 +106,8 @@ TEST_F(LadiciVypis, TrainStandsWithItsTracksAndVehiclesAndFreeRecordsAreLeftOut)
     vlaky[3] = vlak(59012);
     vlaky[3].prvek_konec = 1;
     vlaky[3].muze_jet = true;
-    vlaky[3].prvky = {40, 5, 41};
-    vlaky[3].prvky_druh = {1, 2, 1};
-    vlaky[3].prvky_poloha = {0, 3, 2};
-    vlaky[3].vozy = {"242", "Bdt"};
-    vlaky[3].vozy_urceni = {"7306", ""};
-    vlaky[3].vozy_obrazek = {"242_1.ico", "Bdt.ico"};
+    vlaky[3].prvky = prvky_cesty({40, 5, 41}, {1, 2, 1}, {0, 3, 2});
+    vlaky[3].vozy = vozy_vlaku({"242", "Bdt"}, {"7306", ""}, {"242_1.ico", "Bdt.ico"});
     debug_vypis();
     EXPECT_EQ(od("VLAK 3", 6),
               (std::vector<Text>{"VLAK 3", "\tCislo 59012", "\tUM 1", "\tmuze jet -1",

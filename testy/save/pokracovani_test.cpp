@@ -117,19 +117,18 @@ void vyber_trasu(const ZaznamCesty& z, int druh) {
 }
 
 bool stoji_pred_ni_vlak(const ZaznamCesty& z) {
-    if (!je_kolej(z.prvky.front()) || relief.kolej[z.prvky.front()].barva != barvy::cervena)
+    if (!je_kolej(z.prvky.front().prvek) || relief.kolej[z.prvky.front().prvek].barva != barvy::cervena)
         return false;
     for (std::size_t k = 1; k < z.prvky.size(); ++k)
-        if (z.druhy[k] == druh_prvku::kolej && !je_volna(z.prvky[k]))
+        if (z.prvky[k].druh == druh_prvku::kolej && !je_volna(z.prvky[k].prvek))
             return false;
     return true;
 }
 
 // The route that holds the switch is being set.
 bool stavi_se_pres(int n) {
-    return std::any_of(cesty.begin(), cesty.end(), [n](const Cesta& c) {
-        return c.prehozena && !c.Provedena && std::find(c.prvky.begin(), c.prvky.end(), n) != c.prvky.end();
-    });
+    return std::any_of(cesty.begin(), cesty.end(),
+                       [n](const Cesta& c) { return c.prehozena && !c.Provedena && obsahuje(c.prvky, n); });
 }
 
 void zasah_do_cesty(const Cesta& c, unsigned co) {

@@ -69,8 +69,9 @@ protected:
         static const std::vector<ZaznamCesty> trasy =
             cti_cesty(nacti_soubor(simulace.cesta_aplikace + "data\\tesk.zat"));
         for (const ZaznamCesty& z : trasy) {
-            if (!je_kolej(z.prvky.front()) || relief.kolej[z.prvky.front()].barva != barvy::cervena ||
-                !je_volna(z.prvky.back()) || je_na_ser(z.zacatek))
+            if (!je_kolej(z.prvky.front().prvek) ||
+                relief.kolej[z.prvky.front().prvek].barva != barvy::cervena ||
+                !je_volna(z.prvky.back().prvek) || je_na_ser(z.zacatek))
                 continue;
             klik_navestidlo(z.zacatek, Tlacitko::leve, false);
             klik_cil(z.konec);

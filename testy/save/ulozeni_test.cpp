@@ -14,7 +14,9 @@
 #include "obsluha/volba.h"
 #include "obsluha/vstup.h"
 #include "pomocne/male_kolejiste.h"
+#include "pomocne/prvky_cesty.h"
 #include "pomocne/virtualni_platforma.h"
+#include "pomocne/vozy_vlaku.h"
 #include "prvky/navestidla.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stav_vyhybek.h"
@@ -32,6 +34,17 @@
 #include <sys/wait.h>
 
 namespace {
+
+const std::vector<PrvekCesty> kDvaPrvky = prvky_cesty({62, 63}, {1, 1}, {0, 2});
+
+// The bytes with the piece `co` in them changed for `za`.
+Bajty vymeneno(Bajty bajty, const Bajty& co, const Bajty& za) {
+    const auto misto = std::search(bajty.begin(), bajty.end(), co.begin(), co.end());
+    EXPECT_NE(misto, bajty.end());
+    if (misto != bajty.end())
+        bajty.insert(bajty.erase(misto, misto + std::ssize(co)), za.begin(), za.end());
+    return bajty;
+}
 
 class Ulozeni : public SPlatformou {
 protected:
@@ -87,9 +100,7 @@ protected:
         }
     }
     static void pridej_koleje(Cesta& c, std::initializer_list<std::int16_t> koleje) {
-        c.prvky = koleje;
-        c.druhy.assign(koleje.size(), druh_prvku::kolej);
-        c.polohy.assign(koleje.size(), 0);
+        c.prvky = prvky_cesty(koleje, std::vector<std::uint8_t>(koleje.size(), druh_prvku::kolej));
     }
     // The process dies in the midst of the write: its file size limit ends it at byte `po`.
     void zemri_pri_zapisu(std::size_t po) {
@@ -572,7 +583,7 @@ TEST_F(Ulozeni, ContradictionsAreRefusedAndNothingChanges) {
     EXPECT_TRUE(odmitne([](Zaznam& z) { z.dalsi_vlaky.pop_back(); }));
     EXPECT_TRUE(odmitne([](Zaznam& z) { z.stanicni_prejezdy.pop_back(); }));
     EXPECT_TRUE(odmitne([](Zaznam& z) { z.cesty.clear(); }));
-    EXPECT_TRUE(odmitne([](Zaznam& z) { z.cesty[0].druhy.clear(); }));
+    EXPECT_TRUE(odmitne([](Zaznam& z) { z.cesty[0].prvky.clear(); }));
     EXPECT_TRUE(odmitne([](Zaznam& z) { z.cesty[0].zacatek = 262; })); // its list holds no element
     const auto s_priznaky = [](auto priznaky) {
         return [priznaky](Zaznam& z) {
@@ -591,7 +602,6 @@ TEST_F(Ulozeni, ContradictionsAreRefusedAndNothingChanges) {
     EXPECT_TRUE(odmitne(s_priznaky([](Cesta& c) { c.Provedena = true; })));
     EXPECT_TRUE(odmitne(s_priznaky([](Cesta& c) { c.prehozena = true; }))); // with no second of its locking
     EXPECT_TRUE(odmitne([](Zaznam& z) { z.vyhybky[7] = 0; }));
-    EXPECT_TRUE(odmitne([](Zaznam& z) { z.vlaky[3].cislo = 5, z.vlaky[3].vozy = {"754"}; }));
     EXPECT_TRUE(odmitne([](Zaznam& z) { z.koleje_vlaky[0].vlaky = {51}; }));
     EXPECT_TRUE(odmitne([](Zaznam& z) { z.koleje_vlaky[0].prvek = 1000; }));
     EXPECT_TRUE(odmitne([](Zaznam& z) { z.koleje_barva[62] = 6; }));
@@ -604,14 +614,54 @@ TEST_F(Ulozeni, ContradictionsAreRefusedAndNothingChanges) {
     EXPECT_FALSE(odmitne([](Zaznam&) {}));
 }
 
+TEST_F(Ulozeni, ListsOfDifferentLengthsAreRefusedByTheirTableAndRecord) {
+    Zapisovac prvky, nestejne_prvky, vozy, nestejne_vozy;
+    popis_prvku(prvky, kDvaPrvky, "", "", "");
+    const std::vector<std::int16_t> cisla{62, 63};
+    const std::vector<std::uint8_t> druhy{1}, polohy{0, 0, 0};
+    pole_i(nestejne_prvky, cisla);
+    pole_b(nestejne_prvky, druhy);
+    pole_b(nestejne_prvky, polohy);
+    const std::vector<Text> rady{"754", "Bp"}, urceni{"ZAL", "7"}, jedno{"ZAL"};
+    pole_textu(vozy, rady);
+    pole_textu(vozy, urceni);
+    pole_textu(nestejne_vozy, rady);
+    pole_textu(nestejne_vozy, jedno);
+    const auto nacti_s = [&](const Zapisovac& co, const Zapisovac& za, auto zmena) {
+        svet.konec.reset();
+        nova_simulace();
+        simulace.cesta_aplikace = svet.cesta();
+        spust();
+        uloz();
+        Zaznam z = precti_zaznam(svet.precti("save/hra.sim"));
+        zmena(z);
+        svet.zapis("save/hra.sim", vymeneno(bajty_zaznamu(z), co.bajty, za.bajty));
+        nacti();
+    };
+    const auto odmitnuto_pro = [&](TextPohled co) {
+        return svet.konec == 1 &&
+               okno() == jmeno_okna("Stav simulace ze soboru "_cz, Text(" se nepodařilo načíst! ("_cz) +
+                                                                       Text(text_chyby(KodChyby::mimo_meze)) +
+                                                                       ": " + Text(co) + ")");
+    };
+    nacti_s(prvky, nestejne_prvky, [](Zaznam& z) { z.cesty[0].prvky = kDvaPrvky; });
+    EXPECT_TRUE(odmitnuto_pro("cesty 0: prvky")) << okno();
+    nacti_s(prvky, nestejne_prvky, [](Zaznam& z) { z.vlaky[3].cislo = 5, z.vlaky[3].prvky = kDvaPrvky; });
+    EXPECT_TRUE(odmitnuto_pro("vlaky 3: prvky")) << okno();
+    nacti_s(vozy, nestejne_vozy,
+            [&](Zaznam& z) { z.vlaky[4].cislo = 5, z.vlaky[4].vozy = vozy_vlaku(rady, urceni); });
+    EXPECT_TRUE(odmitnuto_pro("vlaky 4: vozy")) << okno();
+    nacti_s(prvky, nestejne_prvky, [](Zaznam& z) { z.vlaky[3].prvky = kDvaPrvky; });
+    EXPECT_FALSE(svet.konec) << "a free record holds no train: " << okno();
+    EXPECT_EQ(vlaky[3].prvky, (std::vector<PrvekCesty>{{62, 1, 0}, {63, 0, 0}}));
+}
+
 TEST_F(Ulozeni, TrackUnderATrainIsOccupiedWhateverTheFileSays) {
     nacti_zmeneny([](Zaznam& z) {
         Vlak& v = z.vlaky[0];
         v.cislo = 4701;
         v.muze_jet = true;
-        v.prvky = {62};
-        v.prvky_druh = {1};
-        v.prvky_poloha = {0};
+        v.prvky = prvky_cesty({62}, {1}, {0});
         v.prvek_konec = 0;
         z.koleje_vlaky.push_back({62, {0}});
     });
@@ -639,7 +689,7 @@ TEST_F(Ulozeni, ConsentsAreKnownAgainByTheTrainsThatWait) {
     Zapisovac gvd;
     gvd.l(0);
     gvd.text("");
-    popis_gvd_vlaku(gvd, radek);
+    popis_poli(gvd, radek);
     svet.zapis("GVD/GVDtyden.dat", gvd.bajty);
     nova_simulace();
     simulace.cesta_aplikace = svet.cesta();

@@ -1,7 +1,9 @@
 // testy/save/zaznam_test.cpp - the record of a save, byte by byte.
 #include "app/blikani.h"
 #include "pomocne/male_kolejiste.h"
+#include "pomocne/prvky_cesty.h"
 #include "pomocne/virtualni_platforma.h"
+#include "pomocne/vozy_vlaku.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stav_vyhybek.h"
 #include "relief/relief.h"
@@ -26,10 +28,10 @@ template <class Popis, class Z> Bajty bajty(Popis popis, const Z& z) {
     return zapis.bajty;
 }
 Bajty bajty_cesty(const Cesta& c) {
-    return bajty([](auto& a, auto& z) { popis_cesty_zaznamu(a, z); }, c);
+    return bajty([](auto& a, auto& z) { popis_poli(a, z); }, c);
 }
 Bajty bajty_vlaku(const Vlak& v) {
-    return bajty([](auto& a, auto& z) { popis_vlaku(a, z); }, v);
+    return bajty([](auto& a, auto& z) { popis_poli(a, z); }, v);
 }
 
 std::int32_t cislo_na(const Bajty& b, std::size_t misto, std::size_t sirka) {
@@ -77,9 +79,7 @@ TEST_F(ZaznamSimulace, RouteIsWrittenInItsRuns) {
     Cesta c;
     c.zacatek = 0x0101;
     c.konec = 0x0202;
-    c.prvky = {0x0303, 0x0404};
-    c.druhy = {5, 6};
-    c.polohy = {7, 8};
+    c.prvky = prvky_cesty({0x0303, 0x0404}, {5, 6}, {7, 8});
     c.Kdy_prehoz = 0x09090909;
     c.rychlost = 10;
     c.VC = true;
@@ -127,8 +127,7 @@ TEST_F(ZaznamSimulace, RouteIsWrittenInItsRuns) {
 TEST_F(ZaznamSimulace, TrainIsWrittenInItsRuns) {
     EXPECT_EQ(bajty_vlaku(Vlak{}).size(), 75u);
     Vlak uvolneny;
-    uvolneny.prvky = {-3};
-    uvolneny.prvky_druh = uvolneny.prvky_poloha = {0};
+    uvolneny.prvky = prvky_cesty({-3});
     EXPECT_EQ(bajty_vlaku(uvolneny).size(), 103u);
     Vlak v;
     v.druh = 1;
@@ -190,18 +189,17 @@ TEST_F(ZaznamSimulace, TrainIsWrittenInItsRuns) {
 }
 
 TEST_F(ZaznamSimulace, SmallRecordsHaveTheirLengths) {
-    EXPECT_EQ(bajty([](auto& a, auto& z) { popis_dalsiho_vlaku(a, z); }, DalsiVlak{}).size(), 11u);
-    EXPECT_EQ(bajty([](auto& a, auto& z) { popis_stanicniho_prejezdu(a, z); }, StanicniPrejezd{}).size(),
-              13u);
-    EXPECT_EQ(bajty([](auto& a, auto& z) { popis_prejezdu(a, z); }, Prejezd{}).size(), 12u);
-    EXPECT_EQ(bajty([](auto& a, auto& z) { popis_stitku(a, z); }, StitekPrvku{}).size(), 8u);
-    EXPECT_EQ(bajty([](auto& a, auto& z) { popis_koleje_vlaku(a, z); }, KolejVlaky{}).size(), 14u);
+    EXPECT_EQ(bajty([](auto& a, auto& z) { popis_poli(a, z); }, DalsiVlak{}).size(), 11u);
+    EXPECT_EQ(bajty([](auto& a, auto& z) { popis_poli(a, z); }, StanicniPrejezd{}).size(), 13u);
+    EXPECT_EQ(bajty([](auto& a, auto& z) { popis_poli(a, z); }, Prejezd{}).size(), 12u);
+    EXPECT_EQ(bajty([](auto& a, auto& z) { popis_poli(a, z); }, StitekPrvku{}).size(), 8u);
+    EXPECT_EQ(bajty([](auto& a, auto& z) { popis_poli(a, z); }, KolejVlaky{}).size(), 14u);
     StanicniPrejezd p;
     p.UZ = true;
     p.rezerva2 = 7;
     p.cas = 0x01020304;
     p.pocet = 129;
-    EXPECT_EQ(bajty([](auto& a, auto& z) { popis_stanicniho_prejezdu(a, z); }, p),
+    EXPECT_EQ(bajty([](auto& a, auto& z) { popis_poli(a, z); }, p),
               (Bajty{0, 0, 0xFF, 0xFF, 0, 0, 7, 0, 4, 3, 2, 1, 129}));
 }
 
@@ -305,13 +303,9 @@ TEST_F(ZaznamSimulace, EveryTableReadsBackAsItWas) {
     z.pocet_zaloh = -2;
     z.dalsi_vlaky[38] = {7, 123456, 5, -1};
     z.cesty.push_back(Cesta{});
-    z.cesty[1].prvky = {62, 7, 63};
-    z.cesty[1].druhy = {1, 2, 1};
-    z.cesty[1].polohy = {2, 3, 2};
+    z.cesty[1].prvky = prvky_cesty({62, 7, 63}, {1, 2, 1}, {2, 3, 2});
     z.cesty[1].prejezd_zaver = true;
-    z.vlaky[50].vozy = {"754", "Bp"};
-    z.vlaky[50].vozy_urceni = {"ZAL", ""};
-    z.vlaky[50].vozy_obrazek = {"a.ico", "b.ico"};
+    z.vlaky[50].vozy = vozy_vlaku({"754", "Bp"}, {"ZAL", ""}, {"a.ico", "b.ico"});
     z.vlaky[50].stanice = {9, 1};
     z.vlaky[50].odjezd_realny = {-10, -3};
     z.vlaky[50].poznamka = "Pozor";

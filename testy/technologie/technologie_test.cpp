@@ -6,6 +6,7 @@
 #include "cesty/uvolneni.h"
 #include "desk/menu.h"
 #include "obsluha/vstup.h"
+#include "pomocne/prvky_cesty.h"
 #include "prvky/navestidla.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/stanicni_prejezdy.h"
@@ -448,7 +449,7 @@ TEST_F(ObrazovkyTechnologie, RoutesThatTrainsMadeOnTheLineAreLeftOut) {
 
 TEST_F(ObrazovkyTechnologie, LineRoutesThatAreInRunningAreNotListed) {
     Cesta& c = postavena();
-    c.prvky = {40, 5, 604};
+    c.prvky = prvky_cesty({40, 5, 604});
     c.Umazat = 1;
     EXPECT_EQ(radky_jc().size(), 1u) << "the head is still within the station";
     c.Umazat = 2;

@@ -328,7 +328,7 @@ void zapis_stav() {
     stav << "cas " << na_qstring(cas_hodin()) << "\npauza " << (simulace.pauza ? 1 : 0) << '\n';
     for (const Vlak& v : vlaky)
         if (v.cislo > 0 && !v.prvky.empty())
-            stav << "vlak " << v.cislo << ' ' << v.prvky.back() << ' ' << v.rychlost << '\n';
+            stav << "vlak " << v.cislo << ' ' << v.prvky.back().prvek << ' ' << v.rychlost << '\n';
     for (const Text& radek : relief.lstDenik.radky)
         stav << "denik " << na_qstring(radek) << '\n';
     stav.flush();
