@@ -10,6 +10,7 @@
 #include "cesty/cesta.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
+#include "cesty/opakovani.h"
 #include "cesty/uvolneni.h"
 #include "desk/info_o_vlaku.h"
 #include "jizda/cesty_na_prvku.h"

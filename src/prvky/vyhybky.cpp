@@ -1,4 +1,4 @@
-// prvky/vyhybky.cpp - throwing of switches, their couplings, and the menu of a switch.
+// prvky/vyhybky.cpp - throwing of switches and their couplings.
 #include "prvky/vyhybky.h"
 
 #include "app/cas.h"
@@ -7,7 +7,6 @@
 #include "cesty/drzeni.h"
 #include "cesty/tabulky.h"
 #include "cesty/uvolneni.h"
-#include "desk/menu.h"
 #include "jizda/vlak.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
@@ -62,11 +61,6 @@ constexpr bool konec_b_plus(int poloha) {
     return poloha == 25 || poloha == 27 || poloha == 29 || poloha == 32;
 }
 
-// Ends of a double slip that can be thrown from a free position.
-struct Moznosti {
-    bool plus = false, minus = false, plus_b = false, minus_b = false;
-};
-
 constexpr Moznosti moznosti_stavu(int stav) {
     if (je_anglicka(stav))
         return {!konec_a_plus(stav), konec_a_plus(stav), !konec_b_plus(stav), konec_b_plus(stav)};
@@ -76,18 +70,6 @@ constexpr Moznosti moznosti_stavu(int stav) {
 // Nobody throws n: a train stands on it, or a route waits for it to arrive.
 bool nesmi_se_hodit(int n) {
     return stavi_se_vyhybka(n) || stoji_na_vyhybce(n);
-}
-
-// An order may be given now: the switch is free for it, and so is every coupled one.
-Moznosti moznosti(int n) {
-    if (nesmi_se_hodit(n))
-        return {};
-    Moznosti m = moznosti_stavu(stav_vyhybky_cislo(n));
-    projdi_partnery(n, [&](int b) {
-        if (stav_vyhybky_cislo(b) > 49 || nesmi_se_hodit(b))
-            m = {};
-    });
-    return m;
 }
 
 void prehod_podle(int b, const Prechody& prechody) {
@@ -213,11 +195,18 @@ void obarvi_kolej_vyhybky(int stav) {
         barvi_prvek(kolej, kTridy[trida]);
 }
 
-template <PovelVyhybky Povel> void akce_hod(int n) {
-    hod_vyhybku(n, Povel);
-}
-
 } // namespace
+
+Moznosti moznosti_vyhybky(int n) {
+    if (nesmi_se_hodit(n))
+        return {};
+    Moznosti m = moznosti_stavu(stav_vyhybky_cislo(n));
+    projdi_partnery(n, [&](int b) {
+        if (stav_vyhybky_cislo(b) > 49 || nesmi_se_hodit(b))
+            m = {};
+    });
+    return m;
+}
 
 int stav_vyhybky_cislo(int n) {
     return cele_z_textu(relief.imgVyhybka[n].stav());
@@ -341,29 +330,11 @@ void uzavri_vykolejku(int n) {
     vykolejka_v_poloze(n, kZnakNaKoleji, barvy::bila);
 }
 
-void menu_vyhybky(int n) {
-    const ZaznamVazeb* zaznam = najdi_vazby(n);
-    const Moznosti m = moznosti(n);
-    otevri_menu({"mnuVYHYBKA",
-                 zaznam == nullptr ? Text() : zaznam->nazev,
-                 Druh::imgVyhybka,
-                 n,
-                 {{"miPLUS", "S+", m.plus, true, akce_hod<PovelVyhybky::plus>, n},
-                  {"miMINUS", "S-", m.minus, true, akce_hod<PovelVyhybky::minus>, n},
-                  {"miPLUS_B", "S+ b", m.plus_b, true, akce_hod<PovelVyhybky::plus_b>, n},
-                  {"miMINUS_B", "S- b", m.minus_b, true, akce_hod<PovelVyhybky::minus_b>, n},
-                  {"miZAV_vyhybka", "ZAV", true, true, nullptr, n},
-                  {"miSTIT_vyhybka", "STIT", true, true, nullptr, n},
-                  {"miVYL_vyhybka", "VYL", true, true, nullptr, n},
-                  {"miMST", "MST", true, true, nullptr, n},
-                  {"miVyh_nouz", "NOUZ", true, true, vyhybka_nouz, n}}});
-}
-
 // An order that the menu offered is tested again: a route may have locked the switch while the menu was
 // open. A second throw takes the place of the pending one, and the first switch stays moving until NOUZ;
 // this is meant.
 void hod_vyhybku(int n, PovelVyhybky povel) {
-    const Moznosti m = moznosti(n);
+    const Moznosti m = moznosti_vyhybky(n);
     const bool smi = povel == PovelVyhybky::plus     ? m.plus
                      : povel == PovelVyhybky::minus  ? m.minus
                      : povel == PovelVyhybky::plus_b ? m.plus_b

@@ -1,4 +1,4 @@
-// prvky/vyhybky.h - throwing of switches, their couplings, and the menu of a switch.
+// prvky/vyhybky.h - throwing of switches and their couplings.
 //
 // The state of switch n is the number in the state text of imgVyhybka n: position + class. A position
 // is a shape and an end of it; a class says who holds the switch. The picture is always state + 100.
@@ -23,6 +23,11 @@ inline constexpr int posun = 200;     // white, locked in a shunt route
 // What the operator can order of a switch. Only a double slip has the end B.
 enum class PovelVyhybky : std::uint8_t { plus, minus, plus_b, minus_b };
 
+// The orders that can be given now.
+struct Moznosti {
+    bool plus = false, minus = false, plus_b = false, minus_b = false;
+};
+
 // --- at any time, without change
 
 // Position of a state, without its class.
@@ -44,6 +49,8 @@ void projdi_partnery(int n, const std::function<void(int)>& prace);
 int nouz(int p);
 // Position to which an order moves a switch in position p; p itself when the order does nothing there.
 int cilova_poloha(int p, PovelVyhybky povel);
+// Orders for switch n: those that it is free for, while no coupled one is locked.
+Moznosti moznosti_vyhybky(int n);
 
 // --- on the operator's command, by the route machine, by trains
 
@@ -63,8 +70,6 @@ void uzavri_vykolejku(int n);
 
 // --- on the operator's command
 
-// Opens the menu of switch n.
-void menu_vyhybky(int n);
 // Throws n by hand: 3 simulated seconds, ended by the route machine.
 void hod_vyhybku(int n, PovelVyhybky povel);
 // NOUZ: ends any movement at once in the emergency position. A route that was cleared over n goes to stop.

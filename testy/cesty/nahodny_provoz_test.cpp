@@ -4,6 +4,7 @@
 #include "cesty/barvi_prvek.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/duvod.h"
+#include "cesty/opakovani.h"
 #include "cesty/prekazky.h"
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"

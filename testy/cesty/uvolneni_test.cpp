@@ -1,6 +1,7 @@
 // testy/cesty/uvolneni_test.cpp - RC, DN, STUJ, RNZ and the cancellation.
 #include "cesty/barvi_prvek.h"
 #include "cesty/cisla_vlaku.h"
+#include "cesty/opakovani.h"
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"
 #include "jizda/vlak.h"

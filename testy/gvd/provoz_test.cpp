@@ -3,6 +3,7 @@
 #include "gvd/provoz.h"
 #include "gvd/skladba.h"
 #include "jizda/zastavky.h"
+#include "obsluha/menu_prvku.h"
 #include "pomocne/provoz_sveta.h"
 
 #include <gtest/gtest.h>
@@ -459,7 +460,7 @@ TEST_P(Souhlas, TrainAsksThenWaitsThenComesIn) {
     EXPECT_FALSE(simulace.ticho_souhlasu);
     EXPECT_EQ(pocet_vlaku(), 0);
 
-    souhlas_us(s.k);
+    udel_souhlas(s.k);
     EXPECT_EQ(souhlasy.cekajici_vlaky, std::vector<std::int32_t>{4701});
     EXPECT_TRUE(souhlasy.souhlas[static_cast<std::size_t>(s.k)]);
     obsad(s.uvnitr);

@@ -4,6 +4,7 @@
 #include "cesty/cesta.h"
 #include "cesty/tik_volby.h"
 #include "desk/menu.h"
+#include "obsluha/menu_prvku.h"
 #include "obsluha/vstup.h"
 #include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"

@@ -2,6 +2,7 @@
 #include "app/cas.h"
 #include "app/simulace.h"
 #include "desk/menu.h"
+#include "obsluha/menu_prvku.h"
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"

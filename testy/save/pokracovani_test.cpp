@@ -11,6 +11,7 @@
 #include "app/kontrola_jizdy.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
+#include "cesty/opakovani.h"
 #include "cesty/uvolneni.h"
 #include "cesty/zasobnik.h"
 #include "cesty/zvyrazneni.h"
@@ -20,6 +21,7 @@
 #include "gvd/gvd.h"
 #include "gvd/stav_provozu.h"
 #include "jizda/vlak.h"
+#include "obsluha/menu_prvku.h"
 #include "obsluha/volba.h"
 #include "obsluha/vyber.h"
 #include "pomocne/instalace.h"
@@ -156,7 +158,7 @@ void zasah(std::mt19937& los) {
     klavesa({KodKlavesy::enter});
     for (int k = 0; k < 3; ++k)
         if (!relief.lblSouhlas[k].popis->empty())
-            souhlas_us(k);
+            udel_souhlas(k);
     const auto &vlakove = trasy("tesk.zat"), &posunove = trasy("tesk.zpc");
     std::vector<const ZaznamCesty*> mozne;
     for (const ZaznamCesty& z : vlakove)

@@ -4,6 +4,7 @@
 #include "app/casovace.h"
 #include "app/kontrola.h"
 #include "cesty/dotazy.h"
+#include "cesty/opakovani.h"
 #include "cesty/tik_volby.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
@@ -11,6 +12,7 @@
 #include "gvd/stav_provozu.h"
 #include "jizda/krok_jizdy.h"
 #include "jizda/vlak.h"
+#include "obsluha/menu_prvku.h"
 #include "obsluha/volba.h"
 #include "obsluha/vstup.h"
 #include "pomocne/male_kolejiste.h"
@@ -645,7 +647,7 @@ TEST_F(Ulozeni, ConsentsAreKnownAgainByTheTrainsThatWait) {
     simulace.cesta_aplikace = svet.cesta();
     spust();
     relief.lblSouhlas[1].popis = TextPohled("4701");
-    souhlas_us(1);
+    udel_souhlas(1);
     ASSERT_TRUE(souhlasy.souhlas[1]);
     uloz();
     nacti();
