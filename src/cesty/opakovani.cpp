@@ -3,6 +3,7 @@
 
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
+#include "cesty/nova_cesta.h"
 #include "prvky/navestidla.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
@@ -60,5 +61,5 @@ void kopie_ab(int i) {
     kopie.cas_ruseni = -3;
     kopie.Umazat = 0;
     kopie.Vlak = kKopieAB;
-    cesty.push_back(std::move(kopie));
+    pridej_cestu(std::move(kopie));
 }

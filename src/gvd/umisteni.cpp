@@ -5,7 +5,7 @@
 #include "cesty/cesta.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
-#include "cesty/programova_cesta.h"
+#include "cesty/nova_cesta.h"
 #include "desk/tabulka_vlaku.h"
 #include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
