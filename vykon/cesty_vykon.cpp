@@ -1,5 +1,4 @@
 // vykon/cesty_vykon.cpp - the route machine's tick and the look-ups in the interlocking tables.
-#include "cesty/dotazy.h"
 #include "cesty/duvod.h"
 #include "cesty/tabulky.h"
 #include "cesty/tik_volby.h"

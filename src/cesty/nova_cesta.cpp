@@ -3,10 +3,10 @@
 
 #include "app/cas.h"
 #include "app/simulace.h"
-#include "cesty/dotazy.h"
 #include "cesty/zasobnik.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
+#include "prvky/jmena.h"
 #include "relief/relief.h"
 #include "zaklad/cisla.h"
 

@@ -3,7 +3,6 @@
 
 #include "app/cas.h"
 #include "app/simulace.h"
-#include "cesty/barvi_prvek.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
 #include "cesty/drzeni.h"
@@ -14,6 +13,7 @@
 #include "cesty/zasobnik.h"
 #include "cesty/zvyrazneni.h"
 #include "jizda/vlak.h"
+#include "prvky/barvi_prvek.h"
 #include "prvky/navestidla.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "prvky/vyhybky.h"

@@ -3,7 +3,6 @@
 
 #include "app/cas.h"
 #include "app/simulace.h"
-#include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
@@ -17,7 +16,9 @@
 #include "jizda/na_koleji.h"
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
+#include "prvky/barvi_prvek.h"
 #include "prvky/souhlasy.h"
+#include "prvky/volnost.h"
 #include "uzel/dopravny.h"
 #include "uzel/trate.h"
 #include "uzel/vozidla.h"

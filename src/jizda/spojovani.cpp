@@ -3,9 +3,7 @@
 
 #include "app/kontrola_jizdy.h"
 #include "app/simulace.h"
-#include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"
-#include "cesty/dotazy.h"
 #include "cesty/uvolneni.h"
 #include "cesty/zasobnik.h"
 #include "desk/info_o_vlaku.h"
@@ -20,6 +18,8 @@
 #include "jizda/uvolneni_za_vlakem.h"
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
+#include "prvky/barvi_prvek.h"
+#include "prvky/volnost.h"
 #include "prvky/vyhybky.h"
 #include "relief/relief.h"
 #include "uzel/dopravny.h"

@@ -1,7 +1,7 @@
 // jizda/uvolneni_za_vlakem.cpp - what a train leaves behind its tail.
 #include "jizda/uvolneni_za_vlakem.h"
 
-#include "cesty/barvi_prvek.h"
+#include "prvky/barvi_prvek.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/drzeni.h"
 #include "jizda/metry.h"

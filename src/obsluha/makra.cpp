@@ -2,11 +2,11 @@
 #include "obsluha/makra.h"
 
 #include "app/simulace.h"
-#include "cesty/dotazy.h"
 #include "cesty/tabulky.h"
 #include "cesty/zvyrazneni.h"
 #include "desk/zprava.h"
 #include "obsluha/volba.h"
+#include "prvky/jmena.h"
 #include "zaklad/soubory.h"
 
 #include <algorithm>

@@ -9,6 +9,7 @@
 #include "desk/zprava.h"
 #include "obsluha/makra.h"
 #include "obsluha/menu_prvku.h"
+#include "prvky/jmena.h"
 #include "prvky/panel.h"
 #include "relief/topologie.h"
 #include "save/gtn.h"

@@ -1,7 +1,7 @@
 // prvky/navestidla.cpp - blocking of a signal, the glyph of its automatic mode.
 #include "prvky/navestidla.h"
 
-#include "cesty/dotazy.h"
+#include "prvky/jmena.h"
 #include "relief/relief.h"
 
 namespace {

@@ -2,12 +2,12 @@
 #include "prvky/vyhybky.h"
 
 #include "app/cas.h"
-#include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"
 #include "cesty/drzeni.h"
 #include "cesty/tabulky.h"
 #include "cesty/uvolneni.h"
 #include "jizda/vlak.h"
+#include "prvky/barvi_prvek.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
 #include "uzel/vyhybky.h"

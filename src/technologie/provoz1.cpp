@@ -7,6 +7,7 @@
 #include "cesty/duvod.h"
 #include "cesty/tabulky.h"
 #include "cesty/zasobnik.h"
+#include "prvky/jmena.h"
 #include "prvky/vyhybky.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"

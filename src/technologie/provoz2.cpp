@@ -8,6 +8,7 @@
 #include "cesty/zasobnik.h"
 #include "desk/stitky.h"
 #include "obsluha/makra.h"
+#include "prvky/jmena.h"
 #include "relief/topologie.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"

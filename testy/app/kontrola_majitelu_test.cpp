@@ -2,9 +2,9 @@
 // peace.
 #include "app/kontrola.h"
 #include "app/kontrola_majitelu.h"
-#include "cesty/dotazy.h"
 #include "jizda/svet_vlaku.h"
 #include "prvky/stav_vyhybek.h"
+#include "prvky/volnost.h"
 #include "relief/topologie.h"
 
 #include <gtest/gtest.h>

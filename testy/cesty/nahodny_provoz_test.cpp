@@ -1,7 +1,6 @@
 // testy/cesty/nahodny_provoz_test.cpp - thousands of random hands at the desk; after each the tables must
 // hold together. A fault is reported with the shortest script that still shows it.
 #include "app/kontrola.h"
-#include "cesty/barvi_prvek.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/duvod.h"
 #include "cesty/opakovani.h"
@@ -9,6 +8,7 @@
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"
 #include "obsluha/makra.h"
+#include "prvky/barvi_prvek.h"
 #include "prvky/navestidla.h"
 #include "zaklad/chyba.h"
 

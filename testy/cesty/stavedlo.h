@@ -16,6 +16,7 @@
 #include "cesty/dotazy.h"
 #include "cesty/tabulky.h"
 #include "cesty/tik_volby.h"
+#include "cesty/zasobnik.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
 #include "obsluha/volba.h"

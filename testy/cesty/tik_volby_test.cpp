@@ -1,8 +1,8 @@
 // testy/cesty/tik_volby_test.cpp - the route machine, branch by branch.
-#include "cesty/barvi_prvek.h"
 #include "cesty/stavedlo.h"
 #include "cesty/tik_volby.h"
 #include "cesty/uvolneni.h"
+#include "prvky/barvi_prvek.h"
 #include "prvky/stanicni_prejezdy.h"
 
 using StavebCest = Stavedlo;

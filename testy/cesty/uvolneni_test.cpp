@@ -1,12 +1,14 @@
 // testy/cesty/uvolneni_test.cpp - RC, DN, STUJ, RNZ and the cancellation.
-#include "cesty/barvi_prvek.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/opakovani.h"
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"
 #include "jizda/vlak.h"
+#include "prvky/barvi_prvek.h"
+#include "prvky/jmena.h"
 #include "prvky/navestidla.h"
 #include "prvky/stanicni_prejezdy.h"
+#include "prvky/volnost.h"
 
 using Uvolneni = Stavedlo;
 

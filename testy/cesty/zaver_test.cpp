@@ -10,6 +10,7 @@
 #include "prvky/navestidla.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/stanicni_prejezdy.h"
+#include "prvky/jmena.h"
 
 namespace {
 

@@ -3,7 +3,6 @@
 
 #include "app/cas.h"
 #include "app/simulace.h"
-#include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"
 #include "cesty/drzeni.h"
 #include "desk/tabulka_vlaku.h"
@@ -16,6 +15,7 @@
 #include "jizda/zastavky.h"
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/virtualni_platforma.h"
+#include "prvky/barvi_prvek.h"
 #include "prvky/vyhybky.h"
 
 class SVlaky : public SPlatformou {

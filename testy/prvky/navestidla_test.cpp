@@ -2,7 +2,6 @@
 #include "app/cas.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
-#include "cesty/dotazy.h"
 #include "cesty/opakovani.h"
 #include "cesty/uvolneni.h"
 #include "cesty/zasobnik.h"
@@ -13,6 +12,7 @@
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"
+#include "prvky/jmena.h"
 #include "prvky/navestidla.h"
 
 #include <algorithm>

@@ -3,7 +3,6 @@
 #include "app/cas.h"
 #include "app/casovace.h"
 #include "app/kontrola.h"
-#include "cesty/dotazy.h"
 #include "cesty/opakovani.h"
 #include "cesty/tik_volby.h"
 #include "desk/stitky.h"

@@ -6,6 +6,7 @@
 #include "cesty/uvolneni.h"
 #include "desk/menu.h"
 #include "obsluha/vstup.h"
+#include "prvky/jmena.h"
 #include "prvky/navestidla.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/stanicni_prejezdy.h"
