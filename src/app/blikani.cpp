@@ -13,8 +13,6 @@
 #include <array>
 #include <cstddef>
 
-Blikani blikani;
-
 namespace {
 
 constexpr int kZnacek = 24;             // marks in a column; the second mark of row i is i + 24

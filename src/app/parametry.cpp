@@ -1,13 +1,13 @@
 // app/parametry.cpp - the start screen: what is to be simulated, and the start command.
 #include "app/parametry.h"
 
+#include "app/nacteni.h"
 #include "app/nastaveni.h"
 #include "app/rezim.h"
 #include "app/simulace.h"
 #include "desk/menu.h"
 #include "gvd/gvd.h"
 #include "save/nouzove.h"
-#include "save/ulozeni.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 #include "zaklad/nahoda.h"
@@ -18,8 +18,6 @@
 #include <chrono>
 #include <optional>
 #include <utility>
-
-Parametry parametry;
 
 const std::array<TextPohled, 3> kStrankyStartu = {"", "Nastavení dalších možností"_cz, "O aplikaci"_cz};
 const std::array<TextPohled, 7> kDnyStartu = {"Pondělí"_cz, "Úterý"_cz,  "Středa"_cz, "Čtvrtek"_cz,

@@ -3,6 +3,7 @@
 
 #include "app/cas.h"
 #include "app/casovace.h"
+#include "app/nacteni.h"
 #include "app/nastaveni.h"
 #include "app/rezim.h"
 #include "app/simulace.h"
@@ -22,7 +23,6 @@
 #include "relief/prejezdy.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
-#include "save/ulozeni.h"
 #include "uzel/navestidla.h"
 #include "uzel/trate.h"
 #include "zaklad/chyba.h"

@@ -1,6 +1,7 @@
 // davka/prikazy_startu.cpp - commands that start a simulation, save it and log in.
 #include "davka/prikazy_startu.h"
 
+#include "app/nacteni.h"
 #include "app/parametry.h"
 #include "app/simulace.h"
 #include "app/start.h"

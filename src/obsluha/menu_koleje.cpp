@@ -23,8 +23,6 @@
 #include <array>
 #include <utility>
 
-MenuKoleje stav_menu_koleje;
-
 namespace {
 
 constexpr int kOdstupMenu = 20; // twips below the label

@@ -9,8 +9,6 @@
 
 #include <algorithm>
 
-PanelNavestidla panel_navestidla;
-
 namespace {
 
 constexpr std::array<PopisPanelu, 5> kMasty = {{

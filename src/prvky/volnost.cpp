@@ -5,8 +5,6 @@
 
 #include <algorithm>
 
-std::bitset<kNejvyssiPrvek + 1> odjete;
-
 namespace {
 
 bool je_seda(int n) {

@@ -266,7 +266,6 @@ void dopocti() {
     obnov_obslouzene();
     obnov_odpocty();
     obnov_uz();
-    ukaz_prejezdy();
     aktualizuj_cekani();
     zmena_zasobniku();
 }

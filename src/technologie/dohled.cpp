@@ -13,8 +13,6 @@
 #include <algorithm>
 #include <array>
 
-Dohled dohled;
-
 namespace {
 
 constexpr std::array<SeznamTechnologie, 2> kSeznamy = {{

@@ -15,8 +15,6 @@
 #include <algorithm>
 #include <array>
 
-Provoz1 provoz1;
-
 namespace {
 
 constexpr TextPohled kZnacky = "\\|/-";   // the mark turns in this order

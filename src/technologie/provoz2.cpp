@@ -16,8 +16,6 @@
 #include <array>
 #include <utility>
 
-Provoz2 provoz2;
-
 namespace {
 
 // The computers that the real workstation reports; nothing of the simulation hangs on them.

@@ -13,8 +13,6 @@
 #include <array>
 #include <utility>
 
-Sekvence sekvence;
-
 namespace {
 
 constexpr int kRadku = 99;

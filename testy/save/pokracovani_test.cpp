@@ -9,6 +9,8 @@
 #include "app/casovace.h"
 #include "app/kontrola.h"
 #include "app/kontrola_jizdy.h"
+#include "app/nacteni.h"
+#include "app/nova_simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/opakovani.h"
 #include "cesty/uvolneni.h"

@@ -3,6 +3,8 @@
 #include "app/cas.h"
 #include "app/casovace.h"
 #include "app/kontrola.h"
+#include "app/nacteni.h"
+#include "app/nova_simulace.h"
 #include "cesty/opakovani.h"
 #include "cesty/tik_volby.h"
 #include "desk/stitky.h"

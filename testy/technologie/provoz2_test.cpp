@@ -1,5 +1,6 @@
 // testy/technologie/provoz2_test.cpp - the maintenance screen of the stack, the possessions and the macros.
 #include "app/casovace.h"
+#include "app/nova_simulace.h"
 #include "cesty/duvod.h"
 #include "cesty/stavedlo.h"
 #include "cesty/zasobnik.h"

@@ -1,5 +1,6 @@
 // testy/technologie/technologie_test.cpp - the five maintenance screens: opening, tabs, contents, timers.
 #include "app/casovace.h"
+#include "app/nova_simulace.h"
 #include "cesty/dotazy.h"
 #include "cesty/duvod.h"
 #include "cesty/stavedlo.h"
