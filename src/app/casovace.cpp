@@ -10,6 +10,7 @@
 #include "gvd/provoz.h"
 #include "jizda/krok_jizdy.h"
 #include "jizda/zastavky.h"
+#include "obsluha/volba.h"
 #include "prvky/panel.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "prvky/stav_vyhybek.h"
@@ -108,7 +109,7 @@ void ukonci_sluzbu() {
 constexpr std::array kCasovace = {
     Casovac{"tmrHodiny", "hodiny", 150, &krok_hodin},
     Casovac{"tmrJizdy", "jizdy", 1000, &krok_jizdy},
-    Casovac{"tmrVolby", "volby", 1100, &tik_volby},
+    Casovac{"tmrVolby", "volby", 1100, &krok_volby},
     Casovac{"tmrBlikani", "blikani", 500, &krok_blikani},
 };
 
@@ -172,6 +173,13 @@ void pripomen_konec_sluzby() {
     zprava(" POZOR ",
            "Služba musí nejpozději za den skončit, déle čas simulace neběží. Uložte ji nebo ji ukončete."_cz,
            barvy::bila, 0, false, barvy::bila, barvy::cervena);
+}
+
+void krok_volby() {
+    if (simulace.pauza)
+        return;
+    hlidej_cas_volby(); // the operator took too long for the end
+    tik_volby();
 }
 
 bool je_cas_ulozit() {

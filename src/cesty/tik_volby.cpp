@@ -398,7 +398,6 @@ void tik_volby() {
     const std::int32_t ted = ted_s();
     uklid_odjete();            // tracks whose train has gone on are at rest
     simulace.pn_bezi = false;  // set again below while a calling-on aspect runs
-    hlidej_cas_volby();        // the operator took too long for the end
     dokonci_rucni_prehoz(ted); // a switch thrown by hand has reached its end
     projdi_cesty(ted);         // the routes, in the order of the stack
 }

@@ -1,7 +1,6 @@
 // prvky/panel.cpp - the signal panel, and the flashing of its lamp.
 #include "prvky/panel.h"
 
-#include "app/casovace.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "prvky/navestidla.h"

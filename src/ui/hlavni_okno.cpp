@@ -7,6 +7,7 @@
 #include "cesty/duvod.h"
 #include "desk/menu.h"
 #include "obsluha/vstup.h"
+#include "prvky/panel.h"
 #include "technologie/technologie.h"
 #include "ui/brana.h"
 #include "ui/nabidka.h"

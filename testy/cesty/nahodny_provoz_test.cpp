@@ -1,5 +1,6 @@
 // testy/cesty/nahodny_provoz_test.cpp - thousands of random hands at the desk; after each the tables must
 // hold together. A fault is reported with the shortest script that still shows it.
+#include "app/casovace.h"
 #include "app/kontrola.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/duvod.h"
@@ -253,7 +254,7 @@ std::string kontrola_duvodu() {
         return "asking for a reason changed a route";
     if (prvni == cesty.end() || rusi_se)
         return {};
-    tik_volby();
+    krok_volby();
     if (cesty[i].prehozena != duvod.empty())
         return "route " + std::to_string(i) + (duvod.empty() ? " waits for no reason" : " did not wait: ") +
                na_utf8(duvod);

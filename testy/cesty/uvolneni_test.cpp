@@ -1,4 +1,5 @@
 // testy/cesty/uvolneni_test.cpp - RC, DN, STUJ, RNZ and the cancellation.
+#include "app/casovace.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/opakovani.h"
 #include "cesty/stavedlo.h"
@@ -476,13 +477,13 @@ TEST_F(Uvolneni, SectionsFallAwayBehindATrain) {
     EXPECT_EQ(stav(5), 2);
     EXPECT_EQ(barva(41), barvy::cervena);
     // The section is free for the next route while the train still has its own.
-    tik_volby();
+    krok_volby();
     EXPECT_EQ(barva(40), barvy::azurova);
     zarad(41, 40, druh_volby::posun);
     cekej(2);
     EXPECT_TRUE(cesty[1].prehozena);
     smaz_cestu(0);
-    tik_volby();
+    krok_volby();
     EXPECT_EQ(barva(40), barvy::azurova) << "now it is reserved by the new route";
     EXPECT_TRUE(odjete.none());
 }
@@ -492,7 +493,7 @@ TEST_F(Uvolneni, SectionLeftByATrainIsGreyWhenItsRouteIsGone) {
     postav(240, 41);
     prejed(0, 0);
     smaz_cestu(0);
-    tik_volby();
+    krok_volby();
     EXPECT_EQ(barva(40), barvy::seda);
     EXPECT_EQ(relief.cislo_koleje[40].barva, barvy::seda);
 }

@@ -1,9 +1,9 @@
 // testy/nastroje/trasy_provoz_test.cpp - the derived routes set by the route machine itself, on the whole
 // junction: each by itself, and pairs of them.
 #include "app/cas.h"
+#include "app/casovace.h"
 #include "app/kontrola.h"
 #include "cesty/cesta.h"
-#include "cesty/tik_volby.h"
 #include "cesty/uvolneni.h"
 #include "kolejiste/trasy.h"
 #include "obsluha/volba.h"
@@ -52,7 +52,7 @@ protected:
     // So many seconds at once, with one tick behind them.
     static void preskoc(int s) {
         relief.lblcas[0].text = text_casu(sekundy_textu(cas_hodin()) + s);
-        tik_volby();
+        krok_volby();
     }
     static bool zarad(const kolejiste::Trasa& t) {
         return najdi_cestu(t.zaznam.zacatek, t.zaznam.konec,

@@ -6,7 +6,6 @@
 #include "app/nacteni.h"
 #include "app/nova_simulace.h"
 #include "cesty/opakovani.h"
-#include "cesty/tik_volby.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
@@ -86,7 +85,7 @@ protected:
     static void jed(int s) {
         for (int i = 0; i < s; ++i) {
             relief.lblcas[0].text = text_casu(sekundy_textu(cas_hodin()) + 1);
-            tik_volby();
+            krok_volby();
         }
     }
     static void pridej_koleje(Cesta& c, std::initializer_list<std::int16_t> koleje) {

@@ -3,6 +3,7 @@
 #include "app/nova_simulace.h"
 #include "cesty/duvod.h"
 #include "cesty/stavedlo.h"
+#include "cesty/ulozena_makra.h"
 #include "cesty/zasobnik.h"
 #include "desk/menu.h"
 #include "obsluha/makra.h"
