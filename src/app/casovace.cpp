@@ -6,6 +6,7 @@
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/tik_volby.h"
+#include "desk/stav_blikani.h"
 #include "desk/zprava.h"
 #include "gvd/provoz.h"
 #include "jizda/krok_jizdy.h"

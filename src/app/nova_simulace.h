@@ -5,11 +5,11 @@
 // that fails and gives the old state back, or by a test that compares two states.
 #pragma once
 
-#include "app/blikani.h"
 #include "app/parametry.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "desk/menu.h"
+#include "desk/stav_blikani.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"

@@ -1,7 +1,7 @@
 // desk/tabulka_vlaku.cpp - the train table.
 #include "desk/tabulka_vlaku.h"
 
-#include "app/blikani.h"
+#include "desk/stav_blikani.h"
 #include "gvd/gvd.h"
 #include "jizda/vlak.h"
 #include "relief/relief.h"

@@ -22,7 +22,6 @@
 #include "jizda/uvolneni_za_vlakem.h"
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
-#include "obsluha/volba.h"
 #include "prvky/barvi_prvek.h"
 #include "prvky/navestidla.h"
 #include "prvky/panel.h"

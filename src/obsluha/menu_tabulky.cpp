@@ -1,8 +1,8 @@
 // obsluha/menu_tabulky.cpp - the search of a train by its line, and the menu of the line.
 #include "obsluha/menu_tabulky.h"
 
-#include "app/blikani.h"
 #include "desk/menu.h"
+#include "desk/stav_blikani.h"
 #include "desk/tabulka_vlaku.h"
 #include "relief/relief.h"
 #include "zaklad/cisla.h"

@@ -1,13 +1,13 @@
 // save/obnova.cpp - a saved record takes the place of the present state.
 #include "save/obnova.h"
 
-#include "app/blikani.h"
 #include "app/cas.h"
 #include "app/simulace.h"
 #include "cesty/dotazy.h"
 #include "cesty/odpocet_pn.h"
 #include "cesty/prekazky.h"
 #include "cesty/zasobnik.h"
+#include "desk/stav_blikani.h"
 #include "jizda/krok_jizdy.h"
 #include "jizda/zastavky.h"
 #include "prvky/barvi_prvek.h"

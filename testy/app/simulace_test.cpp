@@ -1,10 +1,10 @@
 // testy/app/simulace_test.cpp - the reset of every table, the debug marker, the error boundary.
 #include "app/bezpecne.h"
-#include "app/blikani.h"
 #include "app/nova_simulace.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "desk/menu.h"
+#include "desk/stav_blikani.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"

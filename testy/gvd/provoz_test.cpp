@@ -1,6 +1,6 @@
 // testy/gvd/provoz_test.cpp - the traffic step: who comes at which minute, and with whose permission.
-#include "app/blikani.h"
 #include "app/nova_simulace.h"
+#include "desk/stav_blikani.h"
 #include "gvd/provoz.h"
 #include "gvd/skladba.h"
 #include "jizda/zastavky.h"

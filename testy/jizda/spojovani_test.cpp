@@ -1,7 +1,7 @@
 // testy/jizda/spojovani_test.cpp - coupling, splitting, turning, the next train of a set; train and shunt.
-#include "app/blikani.h"
 #include "cesty/cisla_vlaku.h"
 #include "desk/info_o_vlaku.h"
+#include "desk/stav_blikani.h"
 #include "desk/tabulka_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"

@@ -4,7 +4,6 @@
 // saved, started from the file as a fresh process would be, and both runs go on side by side under the same
 // hands: their tables, their relief and their logs must stay equal, but for what docs/formaty.md says that a
 // save does not carry.
-#include "app/blikani.h"
 #include "app/cas.h"
 #include "app/casovace.h"
 #include "app/kontrola.h"
@@ -17,6 +16,7 @@
 #include "cesty/zasobnik.h"
 #include "cesty/zvyrazneni.h"
 #include "desk/menu.h"
+#include "desk/stav_blikani.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"

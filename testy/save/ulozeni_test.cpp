@@ -1,11 +1,11 @@
 // testy/save/ulozeni_test.cpp - saving to files and starting from them, on a little junction.
-#include "app/blikani.h"
 #include "app/cas.h"
 #include "app/casovace.h"
 #include "app/kontrola.h"
 #include "app/nacteni.h"
 #include "app/nova_simulace.h"
 #include "cesty/opakovani.h"
+#include "desk/stav_blikani.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
