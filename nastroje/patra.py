@@ -5,6 +5,7 @@
 # What must call upwards is listed with its reason. Includes are calls here, because
 #   - an operation is defined in the room whose header declares it
 #   - no source file declares an operation of another file past its header
+# The view shows the records of the core and writes none of them: it works the core by operations alone.
 import re
 
 # From the ground up.
@@ -46,9 +47,13 @@ PATRA = (
 VZAJEMNE = {
     ("cesty/cisla_vlaku.cpp", "jizda/na_koleji.h"): "a label shows the number that runs ahead, or the trains that stand there",
     ("desk/zprava.cpp", "desk/info_o_vlaku.h"): "the panel of the train page is filled as it comes forward",
+    ("jizda/krok_jizdy.cpp", "desk/info_o_vlaku.h"): "the open page follows its train",
     ("jizda/posun.cpp", "desk/info_o_vlaku.h"): "a train that becomes a shunting movement is renamed on its page",
     ("jizda/spojovani.cpp", "desk/info_o_vlaku.h"): "a train that is split, joined or turned changes on its page",
 }
+
+# The folder that only shows.
+POHLED = ("ui",)
 
 VLOZENI = re.compile(r'^\s*#\s*include\s*"([^"]+)"')
 OPERACE = re.compile(r"^(?!static\b|inline\b|constexpr\b|template\b|using\b|typedef\b|extern\b|return\b|friend\b)"
@@ -94,6 +99,7 @@ class Dum:
         yield from self._tabulka()
         yield from self._vlozeni()
         yield from self._definice()
+        yield from self._pohled()
 
     def _tabulka(self):
         for jmeno in self.patro:
@@ -146,3 +152,19 @@ class Dum:
                 elif operace in deklarace and mistnost not in deklarace[operace]:
                     kde = ", ".join(sorted(deklarace[operace]))
                     yield jmeno, cislo, f"{operace}: is declared in {kde} and defined here"
+
+    def _pohled(self):
+        tabulky = {m.group(1) for jmeno, text in self.soubory.items()
+                   if jmeno.endswith(".h") and jmeno.split("/")[0] not in POHLED + ("davka", "zaklad")
+                   for m in re.finditer(r"^extern (?!const\b)[^;(]*?(\w+);", text, re.M)}
+        if not tabulky:
+            return
+        misto = r"(?<![\w.>:])(" + "|".join(sorted(tabulky)) + r")\b(?:\[[^\]]*\]|\.\w+|\(\))*"
+        zapis = re.compile(misto + r"\s*(?:(?:[-+|&*/]|<<|>>)?=(?!=)|\+\+|--|\.(?:push_back|emplace_back|clear|resize|erase)\()"
+                           r"|(?:\+\+|--)" + misto)
+        for jmeno, text in self.soubory.items():
+            if jmeno.split("/")[0] not in POHLED:
+                continue
+            for cislo, radek in enumerate(_bez_poznamek(text).splitlines(), 1):
+                if nalezene := zapis.search(radek):
+                    yield jmeno, cislo, f"the view writes {nalezene.group(1) or nalezene.group(2)}: let an operation do it"

@@ -119,7 +119,7 @@ constexpr std::array kCasovace = {
 const std::span<const Casovac> casovace{kCasovace};
 
 // Whole seconds are added and at most 6 ms are carried over, so that the clock runs a little slow, and at
-// speed 8 a step of 150 ms gives one second: these rates are meant.
+// speed 8 a step of 150 ms gives one second: a clock that runs ahead of the trains would be worse.
 void krok_hodin() {
     if (simulace.pauza)
         return;

@@ -46,7 +46,7 @@ void varuj_pred_verzi(const Zaznam& z) {
 }
 
 bool ukonci_nenactene(TextPohled soubor, const BehovaChyba& chyba) {
-    Text text("Stav simulace ze soboru "_cz); // the word has always been spelt so
+    Text text("Stav simulace ze soboru "_cz); // spelt so on the desk
     text += soubor;
     text += " se nepodařilo načíst! ("_cz;
     text += text_chyby(chyba.kod);

@@ -342,6 +342,20 @@ void vyber_oblibeny(int index) {
     parametry.txtMinuty = text_cisla_mist(cele_z_textu(minuty), 2);
 }
 
+void vyber_den(int den) {
+    if (den >= 0 && static_cast<std::size_t>(den) < kDnyStartu.size())
+        parametry.cboDen = den;
+}
+
+void vyber_rychlost(int index) {
+    if (index >= 0 && index < kRychlostiStartu)
+        parametry.cboRychlost = index;
+}
+
+void zaskrtni(bool Parametry::*policko, bool zapnuto) {
+    parametry.*policko = zapnuto;
+}
+
 void nastav_zvuk(bool vypnut) {
     parametry.chkZvuk = vypnut;
     simulace.zvuk_vypnut = vypnut;

@@ -159,7 +159,7 @@ void obarvi_nenatrene() {
     obarvi(relief.navestidlo_ser, barvy::purpurova);
 }
 
-// "T2" goes grey at any number: that order of the two questions is meant.
+// "T2" goes grey at any number: it is the name of a line, where only the numbers of trains stand.
 void obarvi_cisla_koleji() {
     kazdy(relief.cislo_koleje, [](Prvek& p, int n) {
         const bool sede = orez(p.text()) == "T2" || (!je_usek_trati(n) && !orez(p.popis()).empty());

@@ -267,7 +267,8 @@ void stav_cestu(Cesta& c, Pruchod& pruchod) {
 
 void uzavri_vyhybku(const Cesta& c, int n, int poloha) {
     // Into the first end of its triple a switch of a route locks without a word about its derailers: one
-    // that ran with it goes on showing that until the switch is released. This is meant.
+    // that ran with it goes on showing that until the switch is released: its end position is told with the
+    // other end of the triple alone.
     vyhybka_stav(n, poloha + zaver_vyhybek(c), true, konec_trojice(poloha) != 1);
 }
 

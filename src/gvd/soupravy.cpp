@@ -206,7 +206,7 @@ void posun_po_vytvoreni(int vlak) {
         obrat_soupravy(vlak);
         return;
     }
-    // Both may hold, and the order of the vehicles is then as before: this is meant.
+    // Both may hold: a set that comes back by the way it went is turned twice and stands as before.
     if (posledni == dopravna::dubnice && druha == dopravna::rybnice)
         obrat_soupravy(vlak);
     if (je_v(druha, {dopravna::vrbice, dopravna::vysni_hrabov, dopravna::lhotin, dopravna::javorin,

@@ -130,7 +130,7 @@ void zapocti_prejezd(int k) {
         prejezd.cas = kZadny;
     }
     if (prejezd.pocet != kBezVlaku)
-        gtn_zapis(k, gtn::barva_navestidla, 2); // the code of a signal here is meant
+        gtn_zapis(k, gtn::barva_navestidla, 2); // the log tells a crossing's counter by this code
 }
 
 void opust_zacatek(int c) {
@@ -173,7 +173,7 @@ bool vstup_na_kolej(int c, int i, int v, std::uint8_t odkud) {
     const int n = prvek_c(cesta, i + 1);
     const bool obsazena = je_kolej(n) && relief.kolej[n].barva == barvy::cervena;
     // The only stop for a train in front; shunts and calling-on routes run up to what stands there. Out of
-    // a switch the test is not made, which is meant.
+    // a switch the test is not made: nothing may stop with its head across the points.
     if (odkud == druh_prvku::kolej && obsazena && cesta.VC && !cesta.PN) {
         vlak_c(v).rychlost = 0;
         return false;
@@ -358,7 +358,7 @@ void krok_konce(int v) {
             ohlas_odjezd(v, j);
         } else if (druh == druh_prvku::vyhybka || druh == druh_prvku::vykolejka) {
             // Derailers are no part of the sum but are taken out of it: what lies behind one is released
-            // 20 m later. This is meant.
+            // 20 m later: it has no length of its own, but its distance to the next element counts.
             if (delka - kDelkaVyhybky_m < vlak_c(v).delka)
                 return;
             delka -= kDelkaVyhybky_m;

@@ -343,7 +343,7 @@ void spoj(int a, int b) {
         vlak_c(a).prvky.back() != vlak_c(b).prvky.back()) {
         zprava(" SPOJIT "_cz, " Nelze spojit vlak, který není celou délkou na koleji!"_cz, barvy::bila, 0,
                false, 0xFFFFFF, barvy::cervena);
-        platforma.pipni(100, 200); // sounds even when the sound is off: this one is meant
+        platforma.pipni(100, 200); // even with the sound off: the eye is on the train, not on the line
         return;
     }
     const bool a_je_stroj = jen_loko(vlak_c(a)) || vlak_c(a).druh == druh_vlaku::lv;

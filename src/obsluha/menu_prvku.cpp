@@ -104,7 +104,7 @@ void menu_navestidla(int s) {
 }
 
 // Without a standing or waiting route there is nothing to repeat yet: the operator picks the end of the
-// first run. So it is when the mode goes off, too; this is meant.
+// first run. So it is when the mode goes off, too: the entry leads to the same click either way.
 void menu_ab(int s) {
     prepni_ab(s);
     if (!ceka_nebo_stoji_z(s))

@@ -194,3 +194,7 @@ bool zvol_v_menu(TextPohled jmeno) {
     obnov_stranku_vlaku();
     return true;
 }
+
+void zahod_menu() {
+    zavri_menu();
+}

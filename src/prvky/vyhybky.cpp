@@ -247,9 +247,9 @@ int vyhybka_obrazek(int p) {
     return 0;
 }
 
-// A plain position 3k+2 becomes 3k, the end of the triple before, and not 3k+3 of its own. This is
-// meant: after NOUZ the switch shows a shape that is none of its own, and has to be thrown again before
-// any route finds it in position.
+// A plain position 3k+2 becomes 3k, the end of the triple before, and not 3k+3 of its own. An emergency end
+// is no throw: the switch shows a shape that is none of its own, and has to be thrown again before any route
+// finds it in position.
 int nouz(int p) {
     if (p < 25)
         return p / 3 == 0 ? 3 : 3 * (p / 3);
@@ -331,8 +331,8 @@ void uzavri_vykolejku(int n) {
 }
 
 // An order that the menu offered is tested again: a route may have locked the switch while the menu was
-// open. A second throw takes the place of the pending one, and the first switch stays moving until NOUZ;
-// this is meant.
+// open. A second throw takes the place of the pending one, and the first switch stays moving until NOUZ:
+// one throw by hand is remembered.
 void hod_vyhybku(int n, PovelVyhybky povel) {
     const Moznosti m = moznosti_vyhybky(n);
     const bool smi = povel == PovelVyhybky::plus     ? m.plus

@@ -66,6 +66,14 @@ class Patra(unittest.TestCase):
         vady = self.vady({"relief/relief.cpp": "namespace {\nvoid f() {\n}\nvoid krok() {\n}\n} // namespace\n"})
         self.assertEqual(vady, [])
 
+    def test_view_that_writes_a_record_is_found_and_one_that_reads_is_not(self):
+        vlozeni = '#include "jizda/vlak.h"\n'
+        for zapis in ("vlak.cislo = 1;", "vlak.vozy[2].rada += 1;", "vlak.vozy.push_back(1);", "++vlak.cislo;", "vlak = {};"):
+            vady = self.vady({"ui/okno.cpp": f"{vlozeni}void f() {{\n    {zapis}\n}}\n"}, (*PATRA, ("ui",)))
+            self.assertEqual([v[:2] for v in vady], [("ui/okno.cpp", 3)], zapis)
+        cteni = "    if (vlak.cislo == 1 && okno.vlak != 2) // vlak.cislo = 1\n        kresli(vlak);\n"
+        self.assertEqual(self.vady({"ui/okno.cpp": f"{vlozeni}void f() {{\n{cteni}}}\n"}, (*PATRA, ("ui",))), [])
+
     def test_the_house_itself_holds(self):
         self.assertEqual(list(patra.Dum(KOREN).vady()), [])
 
