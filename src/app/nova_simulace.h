@@ -15,6 +15,7 @@
 #include "gvd/gvd.h"
 #include "gvd/stav_provozu.h"
 #include "jizda/vlak.h"
+#include "jizda/zkraceni.h"
 #include "obsluha/menu_koleje.h"
 #include "obsluha/vyber.h"
 #include "prvky/panel.h"
@@ -40,6 +41,7 @@
     TABULKA(gvd_vlaky, {})                                                                                   \
     TABULKA(vlaky, prvni_vlaky())                                                                            \
     TABULKA(koleje_vlaky, prvni_koleje_vlaky())                                                              \
+    TABULKA(zkracene_vlaky, {})                                                                              \
     TABULKA(cesty, std::vector<Cesta>(1))                                                                    \
     TABULKA(odjete, {})                                                                                      \
     TABULKA(vyber, {})                                                                                       \

@@ -1,7 +1,6 @@
 // jizda/spojovani.cpp - coupling, splitting, turning, the end of a record, the next train of a set.
 #include "jizda/spojovani.h"
 
-#include "app/kontrola_jizdy.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/uvolneni.h"
@@ -18,6 +17,7 @@
 #include "jizda/uvolneni_za_vlakem.h"
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
+#include "jizda/zkraceni.h"
 #include "prvky/barvi_prvek.h"
 #include "prvky/volnost.h"
 #include "prvky/vyhybky.h"
@@ -414,7 +414,7 @@ void zkrat_vlak(int v) {
     const int konec = static_cast<int>(vlak.prvky.size()) - 1;
     const int od = std::max<int>(vlak.prvek_konec, 0);
     vlak.prvek_konec = na_integer(konec);
-    prijmi_zkraceni(v);
+    zkracene_vlaky.push_back(na_integer(v));
     for (int j = od; j < konec; ++j)
         uvolni_za_vlakem(v, static_cast<std::size_t>(j), true);
 }
