@@ -20,8 +20,8 @@ PATRA = (
      "gvd/druhy_vlaku", "gvd/stav_provozu", "desk/menu", "desk/stav_blikani", "obsluha/vyber", "obsluha/tlacitko"),
     # switches, signals, tracks, crossings, consents: their state, painting, glyphs, and what is free
     ("prvky",),
-    # the timetable's rows
-    ("gvd/gvd",),
+    # the timetable's rows, and their times today
+    ("gvd/gvd", "gvd/casy"),
     # the command line, lists, notes and the train table
     ("desk",),
     # the stack, the route machine, the release
@@ -46,6 +46,8 @@ PATRA = (
 # (file, header above it): why it calls upwards.
 VZAJEMNE = {
     ("cesty/cisla_vlaku.cpp", "jizda/na_koleji.h"): "a label shows the number that runs ahead, or the trains that stand there",
+    ("cesty/tik_volby.cpp", "obsluha/volba.h"): "the prompt of a click that made two routes names the signal of the first",
+    ("prvky/vyhybky.cpp", "app/kontrola_majitelu.h"): "NOUZ tells the state check what the operator answers for",
     ("desk/zprava.cpp", "desk/info_o_vlaku.h"): "the panel of the train page is filled as it comes forward",
     ("jizda/krok_jizdy.cpp", "desk/info_o_vlaku.h"): "the open page follows its train",
     ("jizda/posun.cpp", "desk/info_o_vlaku.h"): "a train that becomes a shunting movement is renamed on its page",

@@ -3,6 +3,7 @@
 #include "desk/info_o_vlaku.h"
 #include "desk/stav_blikani.h"
 #include "desk/tabulka_vlaku.h"
+#include "gvd/casy.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"
 #include "jizda/posun.h"
