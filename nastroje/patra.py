@@ -47,7 +47,6 @@ PATRA = (
 VZAJEMNE = {
     ("cesty/cisla_vlaku.cpp", "jizda/na_koleji.h"): "a label shows the number that runs ahead, or the trains that stand there",
     ("cesty/tik_volby.cpp", "obsluha/volba.h"): "the prompt of a click that made two routes names the signal of the first",
-    ("prvky/vyhybky.cpp", "app/kontrola_majitelu.h"): "NOUZ tells the state check what the operator answers for",
     ("desk/zprava.cpp", "desk/info_o_vlaku.h"): "the panel of the train page is filled as it comes forward",
     ("jizda/krok_jizdy.cpp", "desk/info_o_vlaku.h"): "the open page follows its train",
     ("jizda/posun.cpp", "desk/info_o_vlaku.h"): "a train that becomes a shunting movement is renamed on its page",

@@ -6,8 +6,8 @@
 
 #include "app/blikani.h"
 #include "app/kontrola.h"
-#include "app/nova_simulace.h"
 #include "app/simulace.h"
+#include "app/stav_simulace.h"
 #include "gvd/gvd.h"
 #include "prvky/souhlasy.h"
 #include "relief/relief.h"

@@ -3,6 +3,7 @@
 
 #include "app/kontrola_jizdy.h"
 #include "app/kontrola_majitelu.h"
+#include "app/stav_simulace.h"
 #include "save/gtn.h"
 #include "save/nouzove.h"
 

@@ -5,6 +5,7 @@
 #include "cesty/dotazy.h"
 #include "cesty/odpocet_pn.h"
 #include "cesty/opakovani.h"
+#include "cesty/prehoz_rukou.h"
 #include "cesty/tabulky.h"
 #include "cesty/uvolneni.h"
 #include "desk/menu.h"

@@ -1,11 +1,8 @@
 // prvky/vyhybky.cpp - throwing of switches and their couplings.
 #include "prvky/vyhybky.h"
 
-#include "app/cas.h"
 #include "cesty/cesta.h"
-#include "cesty/drzeni.h"
 #include "cesty/tabulky.h"
-#include "cesty/uvolneni.h"
 #include "jizda/vlak.h"
 #include "prvky/barvi_prvek.h"
 #include "relief/relief.h"
@@ -19,13 +16,8 @@
 
 namespace {
 
-constexpr int kDobaPrehozeni_s = 3; // a manual throw, simulated seconds
-constexpr int kZnakNaKoleji = 21;   // derailer: passable for a route
-constexpr int kZnakMimoKolej = 23;  // derailer: protecting
-
-constexpr bool je_anglicka(int poloha) { // double slip, resting or moving
-    return poloha >= 25 && poloha < 50;
-}
+constexpr int kZnakNaKoleji = 21;  // derailer: passable for a route
+constexpr int kZnakMimoKolej = 23; // derailer: protecting
 
 // Moves of one end of a double slip. Its four positions are the combinations of two ends, A on the left
 // and B on the right:
@@ -59,17 +51,6 @@ constexpr bool konec_a_plus(int poloha) {
 }
 constexpr bool konec_b_plus(int poloha) {
     return poloha == 25 || poloha == 27 || poloha == 29 || poloha == 32;
-}
-
-constexpr Moznosti moznosti_stavu(int stav) {
-    if (je_anglicka(stav))
-        return {!konec_a_plus(stav), konec_a_plus(stav), !konec_b_plus(stav), konec_b_plus(stav)};
-    return {stav < 50 && stav % 3 == 2, stav < 50 && stav > 0 && stav % 3 == 0, false, false};
-}
-
-// Nobody throws n: a train stands on it, or a route waits for it to arrive.
-bool nesmi_se_hodit(int n) {
-    return stavi_se_vyhybka(n) || stoji_na_vyhybce(n);
 }
 
 void prehod_podle(int b, const Prechody& prechody) {
@@ -197,15 +178,10 @@ void obarvi_kolej_vyhybky(int stav) {
 
 } // namespace
 
-Moznosti moznosti_vyhybky(int n) {
-    if (nesmi_se_hodit(n))
-        return {};
-    Moznosti m = moznosti_stavu(stav_vyhybky_cislo(n));
-    projdi_partnery(n, [&](int b) {
-        if (stav_vyhybky_cislo(b) > 49 || nesmi_se_hodit(b))
-            m = {};
-    });
-    return m;
+Moznosti moznosti_stavu(int stav) {
+    if (je_anglicka(stav))
+        return {!konec_a_plus(stav), konec_a_plus(stav), !konec_b_plus(stav), konec_b_plus(stav)};
+    return {stav < 50 && stav % 3 == 2, stav < 50 && stav > 0 && stav % 3 == 0, false, false};
 }
 
 int stav_vyhybky_cislo(int n) {
@@ -328,29 +304,6 @@ void rezervuj_vykolejku(int n) {
 
 void uzavri_vykolejku(int n) {
     vykolejka_v_poloze(n, kZnakNaKoleji, barvy::bila);
-}
-
-// An order that the menu offered is tested again: a route may have locked the switch while the menu was
-// open. A second throw takes the place of the pending one, and the first switch stays moving until NOUZ:
-// one throw by hand is remembered.
-void hod_vyhybku(int n, PovelVyhybky povel) {
-    const Moznosti m = moznosti_vyhybky(n);
-    const bool smi = povel == PovelVyhybky::plus     ? m.plus
-                     : povel == PovelVyhybky::minus  ? m.minus
-                     : povel == PovelVyhybky::plus_b ? m.plus_b
-                                                     : m.minus_b;
-    if (!smi)
-        return;
-    const int stav = stav_vyhybky_cislo(n);
-    stav_vyhybek.prehoz_vyhybka = na_integer(n);
-    stav_vyhybek.prehoz_cas = ted_s() + kDobaPrehozeni_s;
-    // of the four orders of a double slip only S- moves derailers
-    prehod(n, cilova_poloha(stav, povel), true, !je_anglicka(stav) || povel == PovelVyhybky::minus);
-}
-
-void vyhybka_nouz(int n) {
-    vyhybka_stav(n, nouz(poloha_stavu(stav_vyhybky_cislo(n))), false, false);
-    stuj_bez_vyhybky(n);
 }
 
 void obnov_pohyb_vyhybek() {

@@ -23,7 +23,7 @@ inline constexpr int posun = 200;     // white, locked in a shunt route
 // What the operator can order of a switch. Only a double slip has the end B.
 enum class PovelVyhybky : std::uint8_t { plus, minus, plus_b, minus_b };
 
-// The orders that can be given now.
+// The orders that can be given.
 struct Moznosti {
     bool plus = false, minus = false, plus_b = false, minus_b = false;
 };
@@ -33,6 +33,10 @@ struct Moznosti {
 // Position of a state, without its class.
 constexpr int poloha_stavu(int stav) {
     return stav % 50;
+}
+// A position of a double slip, resting or moving.
+constexpr bool je_anglicka(int poloha) {
+    return poloha >= 25 && poloha < 50;
 }
 // State number of switch n; a blank state text counts 0.
 int stav_vyhybky_cislo(int n);
@@ -49,8 +53,8 @@ void projdi_partnery(int n, const std::function<void(int)>& prace);
 int nouz(int p);
 // Position to which an order moves a switch in position p; p itself when the order does nothing there.
 int cilova_poloha(int p, PovelVyhybky povel);
-// Orders for switch n: those that it is free for, while no coupled one is locked.
-Moznosti moznosti_vyhybky(int n);
+// The orders that change a switch in that state.
+Moznosti moznosti_stavu(int stav);
 
 // --- on the operator's command, by the route machine, by trains
 
@@ -67,13 +71,6 @@ void uvolni_zaver_vyhybky(int n, int poloha);
 void rezervuj_vykolejku(int n);
 // The route is locked: derailer n lies on the rail, white.
 void uzavri_vykolejku(int n);
-
-// --- on the operator's command
-
-// Throws n by hand: 3 simulated seconds, ended by the route machine.
-void hod_vyhybku(int n, PovelVyhybky povel);
-// NOUZ: ends any movement at once in the emergency position. A route that was cleared over n goes to stop.
-void vyhybka_nouz(int n);
 
 // --- after a load
 

@@ -2,6 +2,7 @@
 // peace.
 #include "app/kontrola.h"
 #include "app/kontrola_majitelu.h"
+#include "cesty/prehoz_rukou.h"
 #include "jizda/svet_vlaku.h"
 #include "prvky/stav_vyhybek.h"
 #include "prvky/volnost.h"

@@ -2,6 +2,7 @@
 #include "app/bezpecne.h"
 #include "app/nova_simulace.h"
 #include "app/simulace.h"
+#include "app/stav_simulace.h"
 #include "cesty/cesta.h"
 #include "desk/menu.h"
 #include "desk/stav_blikani.h"

@@ -5,6 +5,7 @@
 #include "cesty/cisla_vlaku.h"
 #include "cesty/duvod.h"
 #include "cesty/opakovani.h"
+#include "cesty/prehoz_rukou.h"
 #include "cesty/prekazky.h"
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"
@@ -351,7 +352,7 @@ std::string tisk(const std::vector<Ukon>& skript) {
 }
 
 // Hands as often as an operator uses them: what frees comes more often than what blocks.
-Ukon nahodny_ukon(std::mt19937& nahoda) {
+Ukon nahodny_ukon(std::mt19937& zdroj) {
     struct Cetnost {
         Co co;
         unsigned podil;
@@ -365,8 +366,8 @@ Ukon nahodny_ukon(std::mt19937& nahoda) {
     unsigned soucet = 0;
     for (const Cetnost& c : kCetnosti)
         soucet += c.podil;
-    unsigned los = static_cast<unsigned>(nahoda() % soucet);
-    const int cislo = static_cast<int>(nahoda() % 1000);
+    unsigned los = static_cast<unsigned>(zdroj() % soucet);
+    const int cislo = static_cast<int>(zdroj() % 1000);
     for (const Cetnost& c : kCetnosti) {
         if (los < c.podil)
             return {c.co, cislo};
@@ -380,10 +381,10 @@ class NahodnyProvoz : public testing::TestWithParam<unsigned> {};
 } // namespace
 
 TEST_P(NahodnyProvoz, TablesHoldTogetherAfterEveryHand) {
-    std::mt19937 nahoda(GetParam());
+    std::mt19937 zdroj(GetParam());
     std::vector<Ukon> skript(2000);
     for (Ukon& u : skript)
-        u = nahodny_ukon(nahoda);
+        u = nahodny_ukon(zdroj);
     std::size_t kde = 0;
     Souhrn souhrn;
     const std::string vada = zkus(skript, &kde, &souhrn);

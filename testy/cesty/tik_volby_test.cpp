@@ -1,4 +1,5 @@
 // testy/cesty/tik_volby_test.cpp - the route machine, branch by branch.
+#include "cesty/prehoz_rukou.h"
 #include "cesty/stavedlo.h"
 #include "cesty/tik_volby.h"
 #include "cesty/uvolneni.h"

@@ -3,14 +3,15 @@
 #include "cesty/drzeni.h"
 #include "cesty/duvod.h"
 #include "cesty/odpocet_pn.h"
+#include "cesty/prehoz_rukou.h"
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"
 #include "jizda/vlak.h"
 #include "pomocne/pult.h"
+#include "prvky/jmena.h"
 #include "prvky/navestidla.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/stanicni_prejezdy.h"
-#include "prvky/jmena.h"
 
 namespace {
 

@@ -1,4 +1,5 @@
 // testy/jizda/krok_jizdy_test.cpp - the movement step and whole journeys over the little junction.
+#include "cesty/prehoz_rukou.h"
 #include "cesty/prekazky.h"
 #include "jizda/poslusnost.h"
 #include "jizda/svet_vlaku.h"

@@ -12,6 +12,7 @@
 #include "app/nova_simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/opakovani.h"
+#include "cesty/prehoz_rukou.h"
 #include "cesty/uvolneni.h"
 #include "cesty/zasobnik.h"
 #include "cesty/zvyrazneni.h"

@@ -5,6 +5,7 @@
 #include "app/nacteni.h"
 #include "app/nova_simulace.h"
 #include "cesty/opakovani.h"
+#include "cesty/prehoz_rukou.h"
 #include "desk/stav_blikani.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
