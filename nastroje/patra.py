@@ -166,6 +166,8 @@ class Dum:
         for jmeno, text in self.soubory.items():
             if jmeno.split("/")[0] not in POHLED:
                 continue
-            for cislo, radek in enumerate(_bez_poznamek(text).splitlines(), 1):
-                if nalezene := zapis.search(radek):
+            holy = _bez_poznamek(text)
+            for nalezene in zapis.finditer(holy):
+                if holy[:nalezene.start()].rstrip()[-1:] in ("", ";", "{", "}", "(", ")", ":", "&", "|"):
+                    cislo = holy.count("\n", 0, nalezene.start()) + 1
                     yield jmeno, cislo, f"the view writes {nalezene.group(1) or nalezene.group(2)}: let an operation do it"

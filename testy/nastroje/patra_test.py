@@ -71,7 +71,7 @@ class Patra(unittest.TestCase):
         for zapis in ("vlak.cislo = 1;", "vlak.vozy[2].rada += 1;", "vlak.vozy.push_back(1);", "++vlak.cislo;", "vlak = {};"):
             vady = self.vady({"ui/okno.cpp": f"{vlozeni}void f() {{\n    {zapis}\n}}\n"}, (*PATRA, ("ui",)))
             self.assertEqual([v[:2] for v in vady], [("ui/okno.cpp", 3)], zapis)
-        cteni = "    if (vlak.cislo == 1 && okno.vlak != 2) // vlak.cislo = 1\n        kresli(vlak);\n"
+        cteni = "    if (vlak.cislo == 1 && okno.vlak != 2) // vlak.cislo = 1\n        kresli(vlak);\n    const int a = 1,\n              vlak = 2;\n"
         self.assertEqual(self.vady({"ui/okno.cpp": f"{vlozeni}void f() {{\n{cteni}}}\n"}, (*PATRA, ("ui",))), [])
 
     def test_the_house_itself_holds(self):
