@@ -7,6 +7,7 @@
 #include "app/casovace.h"
 #include "app/kontrola.h"
 #include "app/kontrola_majitelu.h"
+#include "app/nacteni.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
 #include "cesty/tabulky.h"
