@@ -3,6 +3,7 @@
 
 #include "app/blikani.h"
 #include "app/cas.h"
+#include "app/nouzove.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/tik_volby.h"
@@ -17,7 +18,6 @@
 #include "prvky/stav_vyhybek.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
-#include "save/nouzove.h"
 #include "save/ulozeni.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"

@@ -8,6 +8,7 @@
 #include "app/kontrola.h"
 #include "app/simulace.h"
 #include "app/stav_simulace.h"
+#include "desk/stav_blikani.h"
 #include "gvd/gvd.h"
 #include "prvky/souhlasy.h"
 #include "relief/relief.h"

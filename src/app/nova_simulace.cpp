@@ -3,9 +3,9 @@
 
 #include "app/kontrola_jizdy.h"
 #include "app/kontrola_majitelu.h"
+#include "app/nouzove.h"
 #include "app/stav_simulace.h"
 #include "save/gtn.h"
-#include "save/nouzove.h"
 
 #include <utility>
 

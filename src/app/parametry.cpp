@@ -3,11 +3,11 @@
 
 #include "app/nacteni.h"
 #include "app/nastaveni.h"
+#include "app/nouzove.h"
 #include "app/rezim.h"
 #include "app/simulace.h"
 #include "desk/menu.h"
 #include "gvd/gvd.h"
-#include "save/nouzove.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 #include "zaklad/nahoda.h"

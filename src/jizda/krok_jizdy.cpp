@@ -5,6 +5,7 @@
 #include "jizda/krok_jizdy.h"
 
 #include "app/cas.h"
+#include "app/nouzove.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/cisla_vlaku.h"
@@ -30,7 +31,6 @@
 #include "relief/relief.h"
 #include "relief/topologie.h"
 #include "save/gtn.h"
-#include "save/nouzove.h"
 #include "uzel/prejezdy.h"
 #include "uzel/trate.h"
 #include "zaklad/chyba.h"

@@ -6,7 +6,6 @@
 #include "cesty/zvyrazneni.h"
 #include "desk/zprava.h"
 #include "obsluha/volba.h"
-#include "prvky/jmena.h"
 
 namespace {
 

@@ -8,6 +8,7 @@
 #include "app/kontrola.h"
 #include "app/kontrola_majitelu.h"
 #include "app/nacteni.h"
+#include "app/nova_simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
 #include "cesty/tabulky.h"

@@ -4,6 +4,7 @@
 #include "app/casovace.h"
 #include "cesty/cesta.h"
 #include "desk/menu.h"
+#include "desk/stav_blikani.h"
 #include "obsluha/menu_prvku.h"
 #include "obsluha/vstup.h"
 #include "pomocne/pult.h"

@@ -1,6 +1,7 @@
 // testy/prvky/souhlasy_test.cpp - consents to the three neighbouring stations.
 #include "app/blikani.h"
 #include "desk/menu.h"
+#include "desk/stav_blikani.h"
 #include "desk/zprava.h"
 #include "obsluha/klavesy.h"
 #include "obsluha/menu_prvku.h"
