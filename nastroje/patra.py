@@ -49,7 +49,7 @@ VZAJEMNE = {
     ("cesty/tik_volby.cpp", "obsluha/volba.h"): "the prompt of a click that made two routes names the signal of the first",
     ("desk/zprava.cpp", "desk/info_o_vlaku.h"): "the panel of the train page is filled as it comes forward",
     ("jizda/krok_jizdy.cpp", "desk/info_o_vlaku.h"): "the open page follows its train",
-    ("jizda/krok_jizdy.cpp", "app/nouzove.h"): "a collision ends the game, which is saved before",
+    ("jizda/krok_jizdy.cpp", "app/nouzove.h"): "a route without an end stops the game, which is saved before",
     ("jizda/posun.cpp", "desk/info_o_vlaku.h"): "a train that becomes a shunting movement is renamed on its page",
     ("jizda/spojovani.cpp", "desk/info_o_vlaku.h"): "a train that is split, joined or turned changes on its page",
 }
