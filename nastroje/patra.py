@@ -16,8 +16,7 @@ PATRA = (
     # the elements of the screen, and the run state that says where their files lie
     ("relief", "app/simulace"),
     # records with what can be asked of one alone, and leaves: the clock's arithmetic, the log, the files of the routes
-    ("app/cas", "save/gtn", "cesty/cesta", "cesty/tabulky", "jizda/vlak", "jizda/metry", "jizda/souprava", "gvd/dopravny",
-     "gvd/druhy_vlaku", "gvd/stav_provozu", "desk/menu", "desk/stav_blikani", "obsluha/vyber", "obsluha/tlacitko"),
+    ("app/cas", "save/gtn", "cesty/cesta", "cesty/tabulky", "jizda/vlak", "jizda/metry", "jizda/souprava", "gvd/druhy_vlaku", "gvd/stav_provozu", "desk/menu", "desk/stav_blikani", "obsluha/vyber", "obsluha/tlacitko"),
     # switches, signals, tracks, crossings, consents: their state, painting, glyphs, and what is free
     ("prvky",),
     # the timetable's rows, and their times today
@@ -46,7 +45,6 @@ PATRA = (
 # (file, header above it): why it calls upwards.
 VZAJEMNE = {
     ("cesty/cisla_vlaku.cpp", "jizda/na_koleji.h"): "a label shows the number that runs ahead, or the trains that stand there",
-    ("cesty/tik_volby.cpp", "obsluha/volba.h"): "the prompt of a click that made two routes names the signal of the first",
     ("desk/zprava.cpp", "desk/info_o_vlaku.h"): "the panel of the train page is filled as it comes forward",
     ("jizda/krok_jizdy.cpp", "desk/info_o_vlaku.h"): "the open page follows its train",
     ("jizda/krok_jizdy.cpp", "app/nouzove.h"): "a route without an end stops the game, which is saved before",

@@ -17,7 +17,7 @@
 #include "cesty/zasobnik.h"
 #include "cesty/zvyrazneni.h"
 #include "desk/zprava.h"
-#include "obsluha/volba.h"
+#include "obsluha/vyber.h"
 #include "prvky/barvi_prvek.h"
 #include "prvky/jmena.h"
 #include "prvky/navestidla.h"
@@ -29,6 +29,7 @@
 #include "save/gtn.h"
 #include "uzel/prejezdy.h"
 #include "uzel/trate.h"
+#include "uzel/volba.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -96,7 +97,7 @@ bool je_ve_volbe(TextPohled jmeno) {
 // same click made.
 bool je_zacatek_ve_volbe(const Cesta& c) {
     return je_ve_volbe(jmeno_navestidla(c.zacatek)) ||
-           je_ve_volbe(jmeno_navestidla(zacatek_dvojite_volby(c.zacatek, c.konec)));
+           je_ve_volbe(jmeno_navestidla(uzel::zacatek_dvojite_volby(c.zacatek, c.konec)));
 }
 
 // The prompt that picked this route has done its work.

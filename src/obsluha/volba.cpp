@@ -291,13 +291,6 @@ bool najdi_cestu(int zacatek, int konec, int druh, bool automaticky) {
     return static_cast<bool>(nalezena);
 }
 
-int zacatek_dvojite_volby(int dal, int konec) {
-    const auto d = std::find_if(
-        uzel::kDvojiteKonce.begin(), uzel::kDvojiteKonce.end(),
-        [=](const uzel::DvojityKonec& x) { return x.dal == dal && (x.konec == konec || x.jiny == konec); });
-    return d == uzel::kDvojiteKonce.end() ? kZadny : d->zacatek;
-}
-
 void zrus_volbu() {
     if (makro_se_zaznamenava())
         zrus_makro();

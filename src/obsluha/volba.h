@@ -47,13 +47,7 @@ void potvrd_varovani();
 // instead. `automaticky`: called by AH. False when the table holds no such route.
 bool najdi_cestu(int zacatek, int konec, int druh, bool automaticky);
 
-// --- by the route machine
-
-// Signal from which a pick over a short connecting section made a route from `dal` to `konec` its second
-// one; kZadny when no pick makes it so.
-int zacatek_dvojite_volby(int dal, int konec);
-
-// --- each tick of the route machine
+// --- before each tick of the route machine
 
 // The ten seconds of the selection, in wall-clock time.
 void hlidej_cas_volby();

@@ -12,10 +12,9 @@ extern std::bitset<kNejvyssiPrvek + 1> odjete;
 
 // --- at any time, without change
 
-// The track n is free: grey, or left by a tail. Four tracks lie in two parts that are drawn apart
-// and count as one: both must be free.
+// The track n is free: grey, or left by a tail. Of two tracks that cross on the level both must be.
 bool je_volna(int n);
-// Of the two parts the one for which je_volna(n) says no: n itself first; n when it is free.
+// Of two crossing tracks the one for which je_volna(n) says no: n itself first; n when it is free.
 int nevolny_usek(int n);
 // The track n exists and is free.
 bool je_volna_kolej(int n);
