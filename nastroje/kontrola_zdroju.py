@@ -4,6 +4,7 @@
 #   - Qt is included in src/ui only, in the benchmark of its drawing, and in the maker of the manual
 #   - zaklad includes nothing above it, uzel nothing but zaklad, nothing includes ui or davka, and no includes
 #     form a circle
+#   - a room calls only rooms of its own floor or below (patra.py)
 #   - the first line of a file is "// path - what it holds."
 #   - a table is declared in its owner's header: no extern in a .cpp
 #   - no element of the junction is called by its number outside src/uzel, in the core and the layout compiler
@@ -14,6 +15,8 @@ import pathlib
 import re
 import subprocess
 import sys
+
+import patra
 
 KOREN = pathlib.Path(__file__).resolve().parent.parent
 
@@ -175,6 +178,8 @@ def hlavni():
         zkontroluj(soubor, graf)
         zkontroluj_cisla(soubor)
     najdi_kruhy(graf)
+    for jmeno, radek, text in patra.Dum(KOREN).vady():
+        chyba(KOREN / "src" / jmeno, radek, text)
     zkontroluj_format(soubory)
     for text in chyby:
         print(text)

@@ -1,5 +1,5 @@
 // vykon/cesty_vykon.cpp - the route machine's tick and the look-ups in the interlocking tables.
-#include "cesty/dotazy.h"
+#include "app/nova_simulace.h"
 #include "cesty/duvod.h"
 #include "cesty/tabulky.h"
 #include "cesty/tik_volby.h"

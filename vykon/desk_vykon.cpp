@@ -1,4 +1,5 @@
 // vykon/desk_vykon.cpp - what the desk tells of trains: table, information, prediction.
+#include "app/nova_simulace.h"
 #include "app/simulace.h"
 #include "desk/info_o_vlaku.h"
 #include "desk/predvidane_vlaky.h"

@@ -1,5 +1,6 @@
 // vykon/gvd_vykon.cpp - the traffic step over timetables of the expected size and far beyond.
 #include "app/cas.h"
+#include "app/nova_simulace.h"
 #include "app/simulace.h"
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"

@@ -1,5 +1,6 @@
 // vykon/jizda_vykon.cpp - the movement step with many trains under way.
 #include "app/casovace.h"
+#include "app/nova_simulace.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "davka/davka.h"

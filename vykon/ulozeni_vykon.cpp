@@ -1,4 +1,6 @@
 // vykon/ulozeni_vykon.cpp - saving and starting from a save, with a hundred trains on the whole junction.
+#include "app/nacteni.h"
+#include "app/nova_simulace.h"
 #include "app/simulace.h"
 #include "jizda/spojovani.h"
 #include "jizda/vlak.h"

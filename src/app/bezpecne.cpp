@@ -1,8 +1,8 @@
 // app/bezpecne.cpp - the boundary of run-time errors.
 #include "app/bezpecne.h"
 
+#include "app/nouzove.h"
 #include "save/gtn.h"
-#include "save/nouzove.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"

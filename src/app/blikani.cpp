@@ -3,6 +3,7 @@
 
 #include "app/cas.h"
 #include "app/simulace.h"
+#include "desk/stav_blikani.h"
 #include "desk/zprava.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "relief/prejezdy.h"
@@ -12,8 +13,6 @@
 
 #include <array>
 #include <cstddef>
-
-Blikani blikani;
 
 namespace {
 

@@ -27,7 +27,7 @@ const Text& cas_hodin();
 // Absolute simulated second of a clock text: its seconds plus a day for each whole day in
 // (cas_zacatku + minuty_simulace) / 1440. The day count steps with the played minutes, so that around
 // midnight it is as exact as the start minute; a start at 0:00 counts the two seconds before midnight
-// and the first day alike. Both are meant.
+// and the first day alike. So no term that was ordered ever lies a day off.
 std::int32_t sekundy_simulace(TextPohled cas);
 inline std::int32_t ted_s() {
     return sekundy_simulace(cas_hodin());

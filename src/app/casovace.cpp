@@ -3,19 +3,21 @@
 
 #include "app/blikani.h"
 #include "app/cas.h"
+#include "app/nouzove.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/tik_volby.h"
+#include "desk/stav_blikani.h"
 #include "desk/zprava.h"
 #include "gvd/provoz.h"
 #include "jizda/krok_jizdy.h"
 #include "jizda/zastavky.h"
+#include "obsluha/volba.h"
 #include "prvky/panel.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "prvky/stav_vyhybek.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
-#include "save/nouzove.h"
 #include "save/ulozeni.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
@@ -108,7 +110,7 @@ void ukonci_sluzbu() {
 constexpr std::array kCasovace = {
     Casovac{"tmrHodiny", "hodiny", 150, &krok_hodin},
     Casovac{"tmrJizdy", "jizdy", 1000, &krok_jizdy},
-    Casovac{"tmrVolby", "volby", 1100, &tik_volby},
+    Casovac{"tmrVolby", "volby", 1100, &krok_volby},
     Casovac{"tmrBlikani", "blikani", 500, &krok_blikani},
 };
 
@@ -117,7 +119,7 @@ constexpr std::array kCasovace = {
 const std::span<const Casovac> casovace{kCasovace};
 
 // Whole seconds are added and at most 6 ms are carried over, so that the clock runs a little slow, and at
-// speed 8 a step of 150 ms gives one second: these rates are meant.
+// speed 8 a step of 150 ms gives one second: a clock that runs ahead of the trains would be worse.
 void krok_hodin() {
     if (simulace.pauza)
         return;
@@ -172,6 +174,13 @@ void pripomen_konec_sluzby() {
     zprava(" POZOR ",
            "Služba musí nejpozději za den skončit, déle čas simulace neběží. Uložte ji nebo ji ukončete."_cz,
            barvy::bila, 0, false, barvy::bila, barvy::cervena);
+}
+
+void krok_volby() {
+    if (simulace.pauza)
+        return;
+    hlidej_cas_volby(); // the operator took too long for the end
+    tik_volby();
 }
 
 bool je_cas_ulozit() {

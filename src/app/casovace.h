@@ -30,10 +30,8 @@ std::int32_t minut_do_konce_sluzby();
 // by the minute step, and when a game is loaded.
 void pripomen_konec_sluzby();
 
-// The flashing lamp of the signal panel; it has no period of its own and does not look at the pause.
-void krok_blikani_diag();
-// 0 while nothing in the panel flashes, else 250 or 500 ms.
-int perioda_blikani_diag();
+// The selection's ten seconds, then the route machine.
+void krok_volby();
 
 // The played minutes have come to a multiple of the period, and the periodic save is on.
 bool je_cas_ulozit();

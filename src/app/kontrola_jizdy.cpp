@@ -13,6 +13,7 @@
 #include "jizda/krok_jizdy.h"
 #include "jizda/metry.h"
 #include "jizda/vlak.h"
+#include "jizda/zkraceni.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "prvky/vyhybky.h"
@@ -58,7 +59,8 @@ struct VidenaSipka {
     Text smer;
 };
 struct Videno {
-    std::uint32_t kroku = 0; // of the movement
+    std::uint32_t kroku = 0;  // of the movement
+    std::size_t zkraceni = 0; // commands ZKRATIT
     std::vector<VidenyVlak> vlaky;
     std::vector<VidenaCesta> cesty;
     std::vector<VidenaSipka> sipky;
@@ -492,9 +494,18 @@ void zapamatuj_sipky() {
         }
 }
 
+// A train that was shortened is seen for the first time.
+void prijmi_zkracene() {
+    for (std::size_t i = videno.zkraceni; i < zkracene_vlaky.size(); ++i)
+        if (const auto v = static_cast<std::size_t>(zkracene_vlaky[i]); v < videno.vlaky.size())
+            videno.vlaky[v] = VidenyVlak{};
+    videno.zkraceni = zkracene_vlaky.size();
+}
+
 } // namespace
 
 std::optional<Text> kontrola_jizdy() {
+    prijmi_zkracene();
     constexpr std::array kKontroly = {vjezdy, vyhybky_pod_vlaky, souvislost, delky, navesti, smery_trati};
     Nalez nalez;
     for (const auto kontrola : kKontroly)
@@ -504,11 +515,6 @@ std::optional<Text> kontrola_jizdy() {
     zapamatuj_cesty();
     zapamatuj_sipky();
     return nalez;
-}
-
-void prijmi_zkraceni(int v) {
-    if (v >= 0 && static_cast<std::size_t>(v) < videno.vlaky.size())
-        videno.vlaky[static_cast<std::size_t>(v)] = VidenyVlak{};
 }
 
 void zapomen_kontrolu_jizdy() {

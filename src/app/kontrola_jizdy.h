@@ -11,11 +11,6 @@
 // The first thing that the running may not have done since the last look; nothing when all is well.
 std::optional<Text> kontrola_jizdy();
 
-// --- by ZKRATIT
-
-// The train v holds less than its length until it moves: the operator answers for it.
-void prijmi_zkraceni(int v);
-
 // --- when the tables are filled anew
 
 // What was seen so far belongs to another simulation.

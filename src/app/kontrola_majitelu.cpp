@@ -1,12 +1,12 @@
 // app/kontrola_majitelu.cpp - who owns what the relief shows.
 #include "app/kontrola_majitelu.h"
 
-#include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"
-#include "cesty/dotazy.h"
 #include "cesty/drzeni.h"
 #include "jizda/vlak.h"
+#include "prvky/barvi_prvek.h"
 #include "prvky/stav_vyhybek.h"
+#include "prvky/volnost.h"
 #include "prvky/vyhybky.h"
 #include "relief/relief.h"
 #include "uzel/trate.h"

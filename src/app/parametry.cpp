@@ -1,13 +1,13 @@
 // app/parametry.cpp - the start screen: what is to be simulated, and the start command.
 #include "app/parametry.h"
 
+#include "app/nacteni.h"
 #include "app/nastaveni.h"
+#include "app/nouzove.h"
 #include "app/rezim.h"
 #include "app/simulace.h"
 #include "desk/menu.h"
 #include "gvd/gvd.h"
-#include "save/nouzove.h"
-#include "save/ulozeni.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 #include "zaklad/nahoda.h"
@@ -18,8 +18,6 @@
 #include <chrono>
 #include <optional>
 #include <utility>
-
-Parametry parametry;
 
 const std::array<TextPohled, 3> kStrankyStartu = {"", "Nastavení dalších možností"_cz, "O aplikaci"_cz};
 const std::array<TextPohled, 7> kDnyStartu = {"Pondělí"_cz, "Úterý"_cz,  "Středa"_cz, "Čtvrtek"_cz,
@@ -342,6 +340,20 @@ void vyber_oblibeny(int index) {
     const TextPohled minuty = cas.size() > 2 ? cas.substr(cas.size() - 2) : cas;
     parametry.txtHodiny = text_cisla(cele_z_textu(cas.substr(0, 2))); // "9:" of "9:05" is 9
     parametry.txtMinuty = text_cisla_mist(cele_z_textu(minuty), 2);
+}
+
+void vyber_den(int den) {
+    if (den >= 0 && static_cast<std::size_t>(den) < kDnyStartu.size())
+        parametry.cboDen = den;
+}
+
+void vyber_rychlost(int index) {
+    if (index >= 0 && index < kRychlostiStartu)
+        parametry.cboRychlost = index;
+}
+
+void zaskrtni(bool Parametry::*policko, bool zapnuto) {
+    parametry.*policko = zapnuto;
 }
 
 void nastav_zvuk(bool vypnut) {

@@ -70,7 +70,8 @@ void vyber_pole(PoleStartu pole);
 void pis_do_pole_startu(PoleStartu pole, TextPohled text);
 // Arrow up (1) and down (-1) in the field of the hours or minutes: one step, round at the end.
 void krok_casu(PoleStartu pole, int smer);
-// A time by chance. The hour 23 and the minute 59 are never drawn: kept so.
+// A time by chance. The hour 23 and the minute 59 are never drawn: a night shift that begins an hour before
+// midnight is chosen by hand.
 void nahodny_cas();
 
 // Stores the time of the screen as a favourite, unless it is no time.
@@ -80,6 +81,12 @@ void otevri_oblibene();
 // Takes the time of a favourite. An index that is none: nothing.
 void vyber_oblibeny(int index);
 
+// The lists of days (0 Monday) and of speeds (0 is the speed 1). An index that is none: nothing.
+void vyber_den(int den);
+void vyber_rychlost(int index);
+// A box of the screen that only counts with the start: chkZpozdeni, chkPP, chkAutosave, chkNoresize,
+// chkDualMonitor.
+void zaskrtni(bool Parametry::*policko, bool zapnuto);
 // The box "Zvuk vypnut": it counts at once.
 void nastav_zvuk(bool vypnut);
 // One of the two page images, 1 or 2: to its page, and from there back to the main one.

@@ -1,8 +1,7 @@
 // app/simulace.h - the run state of the one simulation of the process.
 //
 // What the operator chose on the start screen, whether the clock runs, and the marks from which elapsed
-// time is counted. A new simulation is one assignment per record: nova_simulace() resets every table of
-// the core.
+// time is counted.
 #pragma once
 
 #include "relief/relief.h"
@@ -58,11 +57,6 @@ struct Simulace {
     bool operator==(const Simulace&) const = default;
 };
 extern Simulace simulace;
-
-// --- at start
-
-// Every table of the core as in a fresh process. The platform and the random stream stay.
-void nova_simulace();
 
 // --- at any time
 

@@ -3,17 +3,18 @@
 
 #include "app/cas.h"
 #include "app/casovace.h"
+#include "app/nacteni.h"
 #include "app/nastaveni.h"
 #include "app/rezim.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
+#include "cesty/nova_cesta.h"
 #include "desk/stitky.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
 #include "gvd/zaplneni.h"
 #include "jizda/vlak.h"
-#include "obsluha/volba.h"
 #include "obsluha/vyber.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stanicni_prejezdy.h"
@@ -22,7 +23,6 @@
 #include "relief/prejezdy.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
-#include "save/ulozeni.h"
 #include "uzel/navestidla.h"
 #include "uzel/trate.h"
 #include "zaklad/chyba.h"
@@ -159,7 +159,7 @@ void obarvi_nenatrene() {
     obarvi(relief.navestidlo_ser, barvy::purpurova);
 }
 
-// "T2" goes grey at any number: that order of the two questions is meant.
+// "T2" goes grey at any number: it is the name of a line, where only the numbers of trains stand.
 void obarvi_cisla_koleji() {
     kazdy(relief.cislo_koleje, [](Prvek& p, int n) {
         const bool sede = orez(p.text()) == "T2" || (!je_usek_trati(n) && !orez(p.popis()).empty());

@@ -6,6 +6,7 @@
 #include "cesty/zvyrazneni.h"
 #include "jizda/na_koleji.h"
 #include "jizda/vlak.h"
+#include "prvky/volnost.h"
 #include "relief/prejezdy.h"
 #include "save/gtn.h"
 #include "uzel/trate.h"

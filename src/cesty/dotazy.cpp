@@ -2,34 +2,17 @@
 #include "cesty/dotazy.h"
 
 #include "app/cas.h"
-#include "cesty/barvi_prvek.h"
+#include "prvky/barvi_prvek.h"
+#include "prvky/jmena.h"
+#include "prvky/volnost.h"
 #include "relief/topologie.h"
-#include "uzel/navestidla.h"
-#include "uzel/vyhybky.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
-#include <array>
-
-std::bitset<kNejvyssiPrvek + 1> odjete;
 
 namespace {
 
 std::uint32_t odebrano = 0; // routes taken out, for caches only: no part of a simulation
-
-bool je_seda(int n) {
-    return relief.kolej[n].barva == barvy::seda || odjete.test(static_cast<std::size_t>(n));
-}
-
-// The track that crosses track n on the level; kZadny when the relief has none.
-int krizujici(int n) {
-    for (const uzel::Krizeni& k : uzel::kKrizeni)
-        if (n == k.a || n == k.b) {
-            const int m = n == k.a ? k.b : k.a;
-            return je_kolej(m) ? m : kZadny;
-        }
-    return kZadny;
-}
 
 bool nevjel(const Cesta& c) {
     return c.Umazat == 0;
@@ -40,25 +23,6 @@ template <class Podminka> bool nektera(Podminka podminka) {
 }
 
 } // namespace
-
-bool je_volna(int n) {
-    const int m = krizujici(n);
-    return je_seda(n) && (m == kZadny || je_seda(m));
-}
-
-int nevolny_usek(int n) {
-    const int m = krizujici(n);
-    return je_seda(n) && m != kZadny && !je_seda(m) ? m : n;
-}
-
-bool je_volna_kolej(int n) {
-    return je_kolej(n) && je_volna(n);
-}
-
-int prvni_volna_kolej(std::span<const int> koleje) {
-    const auto volna = std::find_if(koleje.begin(), koleje.end(), je_volna_kolej);
-    return volna == koleje.end() ? -1 : *volna;
-}
 
 bool cil_volny(int n) {
     if (cesty.front().zacatek < 0)
@@ -111,22 +75,6 @@ bool rc_mozne(int s) {
     return nektera([s](const Cesta& c) { return c.zacatek == s && c.prehozena && nevjel(c); });
 }
 
-Text jmeno_navestidla(int s) {
-    const TabulkaPrvku& druh = navestidla(s);
-    return druh.je(s) ? druh[s].popis() : Text{};
-}
-
-Text jmeno_cile(int e) {
-    return relief.Image1.je(e) ? relief.Image1[e].stav() : Text{};
-}
-
-Text jmeno_konce(int e) {
-    Text nazev = jmeno_cile(e);
-    if (nazev.empty() && relief.cislo_koleje.je(e))
-        nazev = relief.cislo_koleje[e].popis;
-    return nazev;
-}
-
 Text popis_cesty(const Cesta& c) {
     Text popis(!c.VC ? "PC" : c.PN ? "PN" : "VC");
     popis += " " + jmeno_navestidla(c.zacatek) + " " + jmeno_konce(c.konec);
@@ -137,21 +85,6 @@ Text popis_cesty(const Cesta& c) {
 
 Text popis_cesty(int i) {
     return popis_cesty(cesta_c(i));
-}
-
-int glyf_navestidla(int s) {
-    const TabulkaPrvku& druh = navestidla(s);
-    return druh.je(s) ? kod_znaku(orez(druh[s].text())) : 0;
-}
-
-// 176 is 228 in automatic mode: switching the mode does not turn the signal round.
-bool sude_navestidlo(int s) {
-    if (je_v(s, uzel::kVzdyVpravo))
-        return true;
-    const int glyf = glyf_navestidla(s);
-    if (je_na_ser(s))
-        return glyf == 240 || glyf == 242;
-    return glyf == 8 || glyf == 229 || glyf == 228 || glyf == 176 || glyf == 227;
 }
 
 void smaz_cestu(int i) {

@@ -1,4 +1,4 @@
-// cesty/dotazy.h - what the other rooms ask about tracks and routes, and the removal of a route.
+// cesty/dotazy.h - what the other rooms ask about routes, and the removal of a route.
 //
 // Plain walks over `cesty` in index order. A route that a train has entered has Umazat other than 0.
 #pragma once
@@ -7,25 +7,10 @@
 #include "relief/relief.h"
 #include "zaklad/text.h"
 
-#include <bitset>
 #include <cstdint>
-#include <span>
-
-// Numbered sections that a tail has left: they keep the cyan tint while the train is still on its
-// route, but are free for the next one. A section leaves the set when it is painted again.
-extern std::bitset<kNejvyssiPrvek + 1> odjete;
 
 // --- at any time, without change
 
-// The track n is free: grey, or left by a tail. Four tracks lie in two parts that are drawn apart
-// and count as one: both must be free.
-bool je_volna(int n);
-// Of the two parts the one for which je_volna(n) says no: n itself first; n when it is free.
-int nevolny_usek(int n);
-// The track n exists and is free.
-bool je_volna_kolej(int n);
-// First one of the tracks that exists and is free; -1 when none is.
-int prvni_volna_kolej(std::span<const int> koleje);
 // No other route holds n as its end; for a line section also: no train stands on it.
 bool cil_volny(int n);
 // A route stands from track n, and no train has entered it.
@@ -47,16 +32,6 @@ bool rc_mozne(int s);
 // Text of route i: "VC THN S1 THN L3", without a target at the end "VC THN S1 12 450m".
 Text popis_cesty(int i);
 Text popis_cesty(const Cesta& cesta);
-// Name of signal s; empty when there is none.
-Text jmeno_navestidla(int s);
-// Name of the target of an end; empty when it has none.
-Text jmeno_cile(int e);
-// Name of an end: of its target, else of its track.
-Text jmeno_konce(int e);
-// The signal faces the even sense, by its glyph; a few signals do whatever their glyph.
-bool sude_navestidlo(int s);
-// Code of the glyph of signal s: the first character but for blanks; 0 when there is none.
-int glyf_navestidla(int s);
 
 // --- when a route ends
 

@@ -20,7 +20,7 @@ Barva volnoznak(const Cesta& cesta) {
 
 bool je_zablokovano(int s) {
     const TabulkaPrvku& druh = navestidla(s);
-    return druh.je(s) && druh[s].barva == (je_na_ser(s) ? barvy::modra : barvy::cervena);
+    return druh.je(s) && druh[s].barva == blokovana_barva(s);
 }
 
 bool je_vjezd_z_trati(const Cesta& cesta) {

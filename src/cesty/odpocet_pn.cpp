@@ -2,7 +2,7 @@
 #include "cesty/odpocet_pn.h"
 
 #include "app/cas.h"
-#include "cesty/dotazy.h"
+#include "prvky/jmena.h"
 #include "relief/relief.h"
 
 #include <algorithm>

@@ -1,12 +1,13 @@
 // cesty/prekazky.cpp - what stands in the way of a route.
 #include "cesty/prekazky.h"
 
-#include "cesty/barvi_prvek.h"
 #include "cesty/dotazy.h"
 #include "cesty/drzeni.h"
 #include "cesty/smer_trati.h"
+#include "prvky/barvi_prvek.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stanicni_prejezdy.h"
+#include "prvky/volnost.h"
 #include "prvky/vyhybky.h"
 #include "uzel/trate.h"
 

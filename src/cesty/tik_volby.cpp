@@ -6,7 +6,6 @@
 
 #include "app/cas.h"
 #include "app/simulace.h"
-#include "cesty/barvi_prvek.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
 #include "cesty/drzeni.h"
@@ -15,17 +14,22 @@
 #include "cesty/prekazky.h"
 #include "cesty/smer_trati.h"
 #include "cesty/uvolneni.h"
+#include "cesty/zasobnik.h"
 #include "cesty/zvyrazneni.h"
 #include "desk/zprava.h"
-#include "obsluha/volba.h"
+#include "obsluha/vyber.h"
+#include "prvky/barvi_prvek.h"
+#include "prvky/jmena.h"
 #include "prvky/navestidla.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
+#include "prvky/volnost.h"
 #include "prvky/vyhybky.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
 #include "uzel/prejezdy.h"
 #include "uzel/trate.h"
+#include "uzel/volba.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
@@ -93,7 +97,7 @@ bool je_ve_volbe(TextPohled jmeno) {
 // same click made.
 bool je_zacatek_ve_volbe(const Cesta& c) {
     return je_ve_volbe(jmeno_navestidla(c.zacatek)) ||
-           je_ve_volbe(jmeno_navestidla(zacatek_dvojite_volby(c.zacatek, c.konec)));
+           je_ve_volbe(jmeno_navestidla(uzel::zacatek_dvojite_volby(c.zacatek, c.konec)));
 }
 
 // The prompt that picked this route has done its work.
@@ -263,7 +267,8 @@ void stav_cestu(Cesta& c, Pruchod& pruchod) {
 
 void uzavri_vyhybku(const Cesta& c, int n, int poloha) {
     // Into the first end of its triple a switch of a route locks without a word about its derailers: one
-    // that ran with it goes on showing that until the switch is released. This is meant.
+    // that ran with it goes on showing that until the switch is released: its end position is told with the
+    // other end of the triple alone.
     vyhybka_stav(n, poloha + zaver_vyhybek(c), true, konec_trojice(poloha) != 1);
 }
 
@@ -389,7 +394,6 @@ void tik_volby() {
     const std::int32_t ted = ted_s();
     uklid_odjete();            // tracks whose train has gone on are at rest
     simulace.pn_bezi = false;  // set again below while a calling-on aspect runs
-    hlidej_cas_volby();        // the operator took too long for the end
     dokonci_rucni_prehoz(ted); // a switch thrown by hand has reached its end
     projdi_cesty(ted);         // the routes, in the order of the stack
 }

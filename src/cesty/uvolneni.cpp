@@ -3,16 +3,17 @@
 
 #include "app/cas.h"
 #include "app/simulace.h"
-#include "cesty/barvi_prvek.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
 #include "cesty/drzeni.h"
 #include "cesty/navest.h"
 #include "cesty/odpocet_pn.h"
+#include "cesty/opakovani.h"
 #include "cesty/smer_trati.h"
 #include "cesty/zasobnik.h"
 #include "cesty/zvyrazneni.h"
 #include "jizda/vlak.h"
+#include "prvky/barvi_prvek.h"
 #include "prvky/navestidla.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "prvky/vyhybky.h"
@@ -31,6 +32,8 @@ constexpr std::int32_t kRuseniBezNavesti = 0;
 constexpr std::int32_t kRuseniBezVlaku = 5;
 constexpr std::int32_t kRuseniVlak = 180; // a train before the signal may have started
 constexpr std::int32_t kRuseniPosun = 60;
+
+constexpr std::int32_t kProdlouzeniPN_s = 30;
 
 template <class Podminka> Cesta* prvni_cesta(Podminka podminka) {
     const auto c = std::find_if(cesty.begin(), cesty.end(), podminka);
@@ -290,6 +293,11 @@ void stuj_bez_vyhybky(int n) {
         vypni_automat(c->zacatek);
         zastav_cestu(*prvni_cesta(ztraci));
     }
+}
+
+void ppn(int s) {
+    if (Cesta* c = prvni_cesta([&](const Cesta& x) { return x.zacatek == s && x.PN && x.PN_do > 0; }))
+        c->PN_do += kProdlouzeniPN_s;
 }
 
 void rnz(int s) {

@@ -1,7 +1,8 @@
-// cesty/uvolneni.h - how a route ends other than under a train: RC, DN, STUJ, RNZ.
+// cesty/uvolneni.h - how a route ends other than under a train: RC, DN, STUJ, PPN, RNZ.
 //
 // RC puts the signal to stop at once and takes the route back when its time is over; until then DN
-// gives the signal again. STUJ only puts the signal to stop. RNZ releases a calling-on route.
+// gives the signal again. STUJ only puts the signal to stop. PPN makes a running calling-on aspect
+// last 30 s longer, RNZ releases its route.
 #pragma once
 
 struct Cesta; // cesty/cesta.h
@@ -11,6 +12,7 @@ struct Cesta; // cesty/cesta.h
 void zrus_cestu(int s);      // RC
 void obnov_cestu(int s);     // DN
 void navestidlo_stuj(int s); // STUJ
+void ppn(int s);             // PPN
 void rnz(int s);             // RNZ
 
 // --- when a switch is taken out of its route: by NOUZ, or by a train on another route

@@ -4,6 +4,7 @@
 #include "app/cas.h"
 #include "app/kontrola.h"
 #include "app/kontrola_majitelu.h"
+#include "app/nova_simulace.h"
 #include "app/simulace.h"
 #include "davka/planovac.h"
 #include "davka/prikazy.h"

@@ -70,7 +70,7 @@ void vypln_dual(const Prirazeni& p) {
 }
 
 template <bool Parametry::*policko> void vypln_policko(const Prirazeni& p) {
-    parametry.*policko = priznak(p);
+    zaskrtni(policko, priznak(p));
 }
 
 void vypln_zvuk(const Prirazeni& p) {
@@ -104,7 +104,7 @@ template <PoleStartu pole> void klik_do_pole(int) {
 }
 
 template <bool Parametry::*policko> void preklop(int) {
-    parametry.*policko = !(parametry.*policko);
+    zaskrtni(policko, !(parametry.*policko));
 }
 
 struct Ovladac {
@@ -116,8 +116,8 @@ constexpr std::array kOvladace = {
     Ovladac{"txtHodiny", klik_do_pole<PoleStartu::txtHodiny>},
     Ovladac{"txtMinuty", klik_do_pole<PoleStartu::txtMinuty>},
     Ovladac{"txtAutosave", klik_do_pole<PoleStartu::txtAutosave>},
-    Ovladac{"cboDen", [](int n) { parametry.cboDen = n; }, 0, 6},
-    Ovladac{"cboRychlost", [](int n) { parametry.cboRychlost = n; }, 0, kRychlostiStartu - 1},
+    Ovladac{"cboDen", vyber_den, 0, 6},
+    Ovladac{"cboRychlost", vyber_rychlost, 0, kRychlostiStartu - 1},
     Ovladac{"miGVD", [](int) { otevri_nabidku_gvd(); }},
     Ovladac{"miOblibena", [](int) { otevri_oblibene(); }},
     Ovladac{"cmdPridat", [](int) { pridej_oblibeny(); }},
@@ -143,7 +143,7 @@ void otevri_obrazovku_startu() {
 }
 
 void zavri_obrazovku_startu() {
-    zavri_menu();
+    zahod_menu();
     parametry = Parametry{};
 }
 
@@ -191,7 +191,7 @@ bool klavesa_startu(const std::string& jmeno) {
         return true;
     }
     if (k.kod == KodKlavesy::esc) {
-        zavri_menu();
+        zahod_menu();
         return true;
     }
     return false;

@@ -3,6 +3,7 @@
 
 #include "app/casovace.h"
 #include "davka/virtualni_svet.h"
+#include "prvky/panel.h"
 #include "technologie/technologie.h"
 
 #include <algorithm>

@@ -1,6 +1,7 @@
 // davka/prikazy_startu.cpp - commands that start a simulation, save it and log in.
 #include "davka/prikazy_startu.h"
 
+#include "app/nacteni.h"
 #include "app/parametry.h"
 #include "app/simulace.h"
 #include "app/start.h"
@@ -10,6 +11,7 @@
 #include "davka/virtualni_svet.h"
 #include "desk/menu.h"
 #include "obsluha/klavesy.h"
+#include "obsluha/vstup.h"
 #include "save/ulozeni.h"
 #include "zaklad/soubory.h"
 
@@ -59,7 +61,7 @@ void prikaz_spust(BehSkriptu& beh, Slova slova) {
 void prikaz_nacti(BehSkriptu& beh, Slova slova) {
     otevri_obrazovku_startu();
     vypln_obrazovku_startu(slova.subspan(1));
-    zavri_menu();
+    zahod_menu();
     priprav_nacteni(nalezeny_zaznam(slova[0]), moznosti_startu());
     dokonci_start(beh);
 }

@@ -1,7 +1,6 @@
 // davka/vypisy.cpp - prints elements, tables and the parts of the desk.
 #include "davka/vypisy.h"
 
-#include "app/blikani.h"
 #include "app/cas.h"
 #include "app/casovace.h"
 #include "app/parametry.h"
@@ -15,6 +14,7 @@
 #include "davka/skript.h"
 #include "davka/virtualni_svet.h"
 #include "desk/info_o_vlaku.h"
+#include "desk/stav_blikani.h"
 #include "prvky/panel.h"
 #include "prvky/souhlasy.h"
 #include "technologie/dohled.h"

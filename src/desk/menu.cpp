@@ -1,8 +1,6 @@
 // desk/menu.cpp - the pop-up menu that is open.
 #include "desk/menu.h"
 
-Menu menu;
-
 void zavri_menu() {
     if (menu.jmeno.empty())
         return;

@@ -46,7 +46,7 @@ Text radek_predpovedi(const Predvidany& p) {
 
 // Trains that leave the station in our direction are sorted by the minutes that remain. Those that end
 // there are sorted by the minute of the day of their departure from it, so that only in the first hour
-// after midnight they come into the block at all: this is meant.
+// after midnight they come into the block at all: the block is for trains that leave.
 std::vector<Predvidany> predvidane(int stanice, int ted) {
     std::vector<Predvidany> vlaky_stanice;
     for (const GvdVlak& r : gvd_vlaky) {

@@ -3,8 +3,6 @@
 
 #include <algorithm>
 
-std::vector<StitekPrvku> stitky{1};
-
 namespace {
 
 constexpr Barva kPozadiVyluky = 0x000080;

@@ -1,14 +1,11 @@
 // desk/tabulka_vlaku.cpp - the train table.
 #include "desk/tabulka_vlaku.h"
 
-#include "app/blikani.h"
-#include "desk/menu.h"
+#include "desk/stav_blikani.h"
 #include "gvd/gvd.h"
 #include "jizda/vlak.h"
 #include "relief/relief.h"
 #include "zaklad/cisla.h"
-
-#include <algorithm>
 
 namespace {
 
@@ -17,10 +14,6 @@ constexpr std::size_t kSloupecCisla = 5; // the category stands before it
 constexpr std::size_t kSloupecUdaju = 12;
 constexpr std::size_t kSirkaDruhu = kSloupecCisla - 2; // then a blank
 constexpr std::size_t kSirkaCisla = kSloupecUdaju - kSloupecCisla;
-
-// The frame of the search stands so far round its label, and closes in for so many half-seconds.
-constexpr int kOdstupHledani = 200;
-constexpr int kKrokuHledani = 6;
 
 // Text padded with blanks, or cut, to a width.
 Text pole_radku(TextPohled text, std::size_t sirka) {
@@ -31,10 +24,6 @@ Text pole_radku(TextPohled text, std::size_t sirka) {
 
 bool je_prazdny(int i) {
     return orez(relief.lblTabulka_vlaku[i].text()).empty();
-}
-
-std::int32_t cislo_radku(int i) {
-    return cele_z_textu(vyrez(relief.lblTabulka_vlaku[i].text(), kSloupecCisla, kSirkaCisla));
 }
 
 void presun(int odkud, int kam) {
@@ -69,11 +58,11 @@ Text radek_vlaku(const Vlak& v) {
     return radek;
 }
 
-void smaz_radek(int radek) {
-    smaz_z_tabulky(cislo_radku(radek));
-}
-
 } // namespace
+
+std::int32_t cislo_radku(int radek) {
+    return cele_z_textu(vyrez(relief.lblTabulka_vlaku[radek].text(), kSloupecCisla, kSirkaCisla));
+}
 
 void pridej_do_tabulky(int vlak) {
     const Text radek = radek_vlaku(vlak_c(vlak));
@@ -119,32 +108,4 @@ void prepis_v_tabulce(std::int32_t cislo, int vlak) {
 void blikej_v_tabulce(std::int32_t cislo, bool blika) {
     if (const int i = radek_tabulky(cislo); i >= 0)
         blikani.blikani_radku[static_cast<std::size_t>(i)] = blika;
-}
-
-void hledej_radek(int radek) {
-    const std::int32_t cislo = cislo_radku(radek);
-    if (cislo <= 0)
-        return;
-    for (int n = 0; n <= relief.cislo_koleje.nejvyssi(); ++n) {
-        if (!relief.cislo_koleje.je(n) || cele_z_textu(orez(relief.cislo_koleje[n].text())) != cislo)
-            continue;
-        const Prvek& stitek = relief.cislo_koleje[n];
-        Prvek& ramecek = relief.shpVyhledavani[0];
-        ramecek.vlevo = stitek.vlevo() - kOdstupHledani;
-        ramecek.nahore = stitek.nahore() - kOdstupHledani;
-        ramecek.sirka = stitek.sirka() + 2 * kOdstupHledani;
-        ramecek.vyska = stitek.vyska() + 2 * kOdstupHledani;
-        ramecek.viditelny = true;
-        do_popredi(ramecek);
-        blikani.ramecek_hledani = kKrokuHledani;
-        return;
-    }
-}
-
-void menu_tabulky(int radek) {
-    if (je_prazdny(radek))
-        return;
-    Menu nove{"mnuTabulka", {}, Druh::lblTabulka_vlaku, radek, {}};
-    nove.polozky.push_back({"miSmazat", "SMAZ", true, true, smaz_radek, radek});
-    otevri_menu(std::move(nove));
 }

@@ -19,14 +19,9 @@ void prepis_v_tabulce(std::int32_t cislo, int vlak);
 // The line of the number flashes, or no longer: its train is about to depart.
 void blikej_v_tabulce(std::int32_t cislo, bool blika);
 
-// --- on the operator's command
-
-// Left click on a line: the search frame closes in on the label that shows the train's number.
-void hledej_radek(int radek);
-// Right click: the menu of a line that is not empty. SMAZ takes out the line; the train goes on.
-void menu_tabulky(int radek);
-
 // --- at any time, without change
 
 // Line of a number: it stands from the fifth character on; -1 when there is none.
 int radek_tabulky(std::int32_t cislo);
+// Number in a line; 0 in an empty one.
+std::int32_t cislo_radku(int radek);

@@ -10,8 +10,6 @@
 #include <array>
 #include <utility>
 
-Prikaz prikaz_radek;
-
 namespace {
 
 constexpr int kSirkaRadku = 14700; // width of the command line, twips; behind it stands the macro letter

@@ -16,8 +16,6 @@
 #include <optional>
 #include <utility>
 
-TabulkaGvd gvd_vlaky;
-
 namespace {
 
 constexpr std::array<TextPohled, 19> kDruhyVlaku = {{{},

@@ -1,7 +1,7 @@
 // gvd/provoz.h - the traffic: each simulated minute the timetable is turned into trains.
 //
 // The delay of a train stands in no field but in the delay line of lstZpravy: the operator sees and the
-// program reads the same line, and deleting it makes the train punctual. This is meant.
+// program reads the same line, and deleting it makes the train punctual: the operator has told it on.
 #pragma once
 
 #include <cstdint>

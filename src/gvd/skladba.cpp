@@ -4,6 +4,7 @@
 #include "app/cas.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
+#include "gvd/casy.h"
 #include "gvd/gvd.h"
 #include "gvd/obrazky_vozu.h"
 #include "gvd/provoz.h"
@@ -224,22 +225,6 @@ std::int16_t vytvor_vlak(bool smer, int element, bool muze_jet, int index, int g
     if (index < 1)
         pipni_na_novy_vlak();
     return na_integer(i);
-}
-
-std::int16_t korekce(std::int16_t minuta) {
-    if (minuta <= 0)
-        return 0;
-    const int m = simulace.minuty_simulace + simulace.cas_zacatku;
-    const bool az_zitra = static_cast<double>(m % kDen_min) / minuta > 1.5;
-    return na_integer(m / kDen_min * kDen_min + (az_zitra ? kDen_min : 0));
-}
-
-std::vector<std::int16_t> dnesni_casy(const std::vector<std::int16_t>& casy) {
-    std::vector<std::int16_t> dnesni;
-    dnesni.reserve(casy.size());
-    for (const std::int16_t cas : casy)
-        dnesni.push_back(na_integer(cas + korekce(cas)));
-    return dnesni;
 }
 
 std::int32_t cislo_vlaku_pred(int vlak) {

@@ -4,7 +4,6 @@
 #include "zaklad/text.h"
 
 #include <cstdint>
-#include <vector>
 
 // Where `index` of vytvor_vlak says that the train has just come to its entry.
 inline constexpr int kNaVstupu = -3;
@@ -18,10 +17,5 @@ std::int16_t vytvor_vlak(bool smer, int element, bool muze_jet, int index, int g
 
 // --- at any time, without change
 
-// What lifts a time of the timetable into running minutes: the days since the first one, in minutes, and
-// one more when the time lies so far behind that tomorrow is meant. 0 for 0 and below: no time.
-std::int16_t korekce(std::int16_t minuta);
-// Times of a timetable row, each lifted into running minutes.
-std::vector<std::int16_t> dnesni_casy(const std::vector<std::int16_t>& casy);
 // Number of the train whose set comes from this one with the same locomotive and that runs today; 0 none.
 std::int32_t cislo_vlaku_pred(int vlak);

@@ -2,9 +2,8 @@
 #include "gvd/soupravy.h"
 
 #include "app/cas.h"
-#include "cesty/barvi_prvek.h"
+#include "cesty/cesta.h"
 #include "cesty/cisla_vlaku.h"
-#include "cesty/dotazy.h"
 #include "desk/tabulka_vlaku.h"
 #include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
@@ -16,6 +15,8 @@
 #include "jizda/souprava.h"
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
+#include "prvky/barvi_prvek.h"
+#include "prvky/volnost.h"
 #include "uzel/dopravny.h"
 #include "uzel/vozidla.h"
 #include "uzel/vstupy.h"
@@ -198,7 +199,7 @@ void posun_po_vytvoreni(int vlak) {
         obrat_soupravy(vlak);
         return;
     }
-    // Both may hold, and the order of the vehicles is then as before: this is meant.
+    // Both may hold: a set that comes back by the way it went is turned twice and stands as before.
     if (posledni == dopravna::dubnice && druha == dopravna::rybnice)
         obrat_soupravy(vlak);
     if (je_v(druha, {dopravna::vrbice, dopravna::vysni_hrabov, dopravna::lhotin, dopravna::javorin,

@@ -1,11 +1,9 @@
 // gvd/umisteni.cpp - places the train of a timetable row where it is on its way.
 #include "gvd/umisteni.h"
 
-#include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"
 #include "cesty/cisla_vlaku.h"
-#include "cesty/dotazy.h"
-#include "cesty/programova_cesta.h"
+#include "cesty/nova_cesta.h"
 #include "desk/tabulka_vlaku.h"
 #include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
@@ -13,6 +11,8 @@
 #include "gvd/soupravy.h"
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
+#include "prvky/barvi_prvek.h"
+#include "prvky/volnost.h"
 #include "relief/topologie.h"
 #include "uzel/dopravny.h"
 #include "uzel/umisteni.h"

@@ -5,12 +5,14 @@
 #include "jizda/krok_jizdy.h"
 
 #include "app/cas.h"
+#include "app/nouzove.h"
 #include "app/simulace.h"
-#include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
+#include "cesty/opakovani.h"
 #include "cesty/uvolneni.h"
+#include "cesty/zasobnik.h"
 #include "desk/info_o_vlaku.h"
 #include "jizda/cesty_na_prvku.h"
 #include "jizda/metry.h"
@@ -21,7 +23,7 @@
 #include "jizda/uvolneni_za_vlakem.h"
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
-#include "obsluha/volba.h"
+#include "prvky/barvi_prvek.h"
 #include "prvky/navestidla.h"
 #include "prvky/panel.h"
 #include "prvky/stanicni_prejezdy.h"
@@ -29,7 +31,6 @@
 #include "relief/relief.h"
 #include "relief/topologie.h"
 #include "save/gtn.h"
-#include "save/nouzove.h"
 #include "uzel/prejezdy.h"
 #include "uzel/trate.h"
 #include "zaklad/chyba.h"
@@ -129,7 +130,7 @@ void zapocti_prejezd(int k) {
         prejezd.cas = kZadny;
     }
     if (prejezd.pocet != kBezVlaku)
-        gtn_zapis(k, gtn::barva_navestidla, 2); // the code of a signal here is meant
+        gtn_zapis(k, gtn::barva_navestidla, 2); // the log tells a crossing's counter by this code
 }
 
 void opust_zacatek(int c) {
@@ -172,7 +173,7 @@ bool vstup_na_kolej(int c, int i, int v, std::uint8_t odkud) {
     const int n = prvek_c(cesta, i + 1);
     const bool obsazena = je_kolej(n) && relief.kolej[n].barva == barvy::cervena;
     // The only stop for a train in front; shunts and calling-on routes run up to what stands there. Out of
-    // a switch the test is not made, which is meant.
+    // a switch the test is not made: nothing may stop with its head across the points.
     if (odkud == druh_prvku::kolej && obsazena && cesta.VC && !cesta.PN) {
         vlak_c(v).rychlost = 0;
         return false;
@@ -355,7 +356,7 @@ void krok_konce(int v) {
             ohlas_odjezd(v, j);
         } else if (druh == druh_prvku::vyhybka || druh == druh_prvku::vykolejka) {
             // Derailers are no part of the sum but are taken out of it: what lies behind one is released
-            // 20 m later. This is meant.
+            // 20 m later: it has no length of its own, but its distance to the next element counts.
             if (delka - kDelkaVyhybky_m < vlak_c(v).delka)
                 return;
             delka -= kDelkaVyhybky_m;

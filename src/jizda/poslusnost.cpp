@@ -2,7 +2,6 @@
 #include "jizda/poslusnost.h"
 
 #include "app/simulace.h"
-#include "cesty/barvi_prvek.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
 #include "desk/zprava.h"
@@ -15,6 +14,8 @@
 #include "jizda/spojovani.h"
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
+#include "prvky/barvi_prvek.h"
+#include "prvky/jmena.h"
 #include "relief/prejezdy.h"
 #include "relief/relief.h"
 #include "relief/topologie.h"

@@ -3,7 +3,6 @@
 
 #include "cesty/cesta.h"
 #include "cesty/cisla_vlaku.h"
-#include "cesty/dotazy.h"
 #include "desk/info_o_vlaku.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
@@ -12,6 +11,7 @@
 #include "jizda/souprava.h"
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
+#include "prvky/jmena.h"
 #include "relief/relief.h"
 #include "uzel/dopravny.h"
 #include "zaklad/cisla.h"

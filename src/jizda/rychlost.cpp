@@ -59,7 +59,8 @@ void uprav_rychlost(int v) {
     if (!vlak.muze_jet)
         return;
     if (vlak.vozy.empty() || (!je_loko(vlak.vozy[0].rada) && !je_ridici_vuz(vlak.vozy[0].rada))) {
-        // Pushed from behind: exactly 30 km/h, from a stand too, above any limit. This is meant.
+        // Pushed from behind: exactly 30 km/h, from a stand too, above any limit: whoever walks ahead of it
+        // sets the pace.
         vlak.rychlost = kRychlostTlaceni;
         return;
     }

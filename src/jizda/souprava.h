@@ -1,7 +1,7 @@
 // jizda/souprava.h - what a consist is made of: locomotives, sets, units.
 //
 // Asked at any time, changes nothing. Vehicles are texts. 100 and below and 900 and above are no
-// locomotives: 943 and 954 are driving trailers; 560 is a unit and counts as one. Both are meant.
+// locomotives: 943 and 954 are driving trailers, which do not draw; 560 is a unit, which does.
 #pragma once
 
 #include "jizda/vlak.h"
@@ -22,7 +22,7 @@ bool ma_loko(const Vlak& v);
 // A locomotive that may draw the train: not one that only stands by ("ZAL"), unless it is alone.
 bool ma_tazne_loko(const Vlak& v);
 // An assisting locomotive at the end: the last of several vehicles is numeric and above 100. Driving
-// trailers count here, other than in je_loko; this is meant.
+// trailers count here, other than in je_loko: from one the train can be driven the other way.
 bool posledni_je_loko(const Vlak& v);
 // A second locomotive at the front: of at least three vehicles the second one is a locomotive.
 bool druhy_je_loko(const Vlak& v);

@@ -1,25 +1,25 @@
 // jizda/spojovani.cpp - coupling, splitting, turning, the end of a record, the next train of a set.
 #include "jizda/spojovani.h"
 
-#include "app/kontrola_jizdy.h"
 #include "app/simulace.h"
-#include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"
-#include "cesty/dotazy.h"
 #include "cesty/uvolneni.h"
 #include "cesty/zasobnik.h"
 #include "desk/info_o_vlaku.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
+#include "gvd/casy.h"
 #include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
-#include "gvd/skladba.h"
 #include "jizda/metry.h"
 #include "jizda/na_koleji.h"
 #include "jizda/souprava.h"
 #include "jizda/uvolneni_za_vlakem.h"
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
+#include "jizda/zkraceni.h"
+#include "prvky/barvi_prvek.h"
+#include "prvky/volnost.h"
 #include "prvky/vyhybky.h"
 #include "relief/relief.h"
 #include "uzel/dopravny.h"
@@ -310,7 +310,7 @@ void spoj(int a, int b) {
         vlak_c(a).prvky.back().prvek != vlak_c(b).prvky.back().prvek) {
         zprava(" SPOJIT "_cz, " Nelze spojit vlak, který není celou délkou na koleji!"_cz, barvy::bila, 0,
                false, 0xFFFFFF, barvy::cervena);
-        platforma.pipni(100, 200); // sounds even when the sound is off: this one is meant
+        platforma.pipni(100, 200); // even with the sound off: the eye is on the train, not on the line
         return;
     }
     const bool a_je_stroj = jen_loko(vlak_c(a)) || vlak_c(a).druh == druh_vlaku::lv;
@@ -379,7 +379,7 @@ void zkrat_vlak(int v) {
     const int konec = static_cast<int>(vlak.prvky.size()) - 1;
     const int od = std::max<int>(vlak.prvek_konec, 0);
     vlak.prvek_konec = na_integer(konec);
-    prijmi_zkraceni(v);
+    zkracene_vlaky.push_back(na_integer(v));
     for (int j = od; j < konec; ++j)
         uvolni_za_vlakem(v, static_cast<std::size_t>(j), true);
 }

@@ -1,13 +1,13 @@
 // jizda/uvolneni_za_vlakem.cpp - what a train leaves behind its tail.
 #include "jizda/uvolneni_za_vlakem.h"
 
-#include "cesty/barvi_prvek.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/drzeni.h"
 #include "jizda/metry.h"
 #include "jizda/na_koleji.h"
 #include "jizda/poslusnost.h"
 #include "jizda/vlak.h"
+#include "prvky/barvi_prvek.h"
 #include "prvky/vyhybky.h"
 #include "relief/relief.h"
 #include "zaklad/cisla.h"

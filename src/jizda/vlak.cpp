@@ -6,9 +6,6 @@
 #include <algorithm>
 #include <cstddef>
 
-std::vector<Vlak> vlaky = prvni_vlaky();
-std::vector<KolejVlaky> koleje_vlaky = prvni_koleje_vlaky();
-
 std::vector<Vlak> prvni_vlaky() {
     return std::vector<Vlak>(kPrvnichVlaku);
 }

@@ -404,7 +404,7 @@ void spocti_zpozdeni(int v, int kod) {
         return;
     int zpozdeni = cas_min() - odjezd;
     if (zpozdeni == 1)
-        zpozdeni = 0; // a minute late is on time: this is meant
+        zpozdeni = 0; // a minute late is on time: nobody reports it
     if (zpozdeni > 1300)
         zpozdeni -= kDen_min;
     else if (zpozdeni < -1000)

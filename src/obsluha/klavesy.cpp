@@ -9,11 +9,11 @@
 #include "jizda/na_koleji.h"
 #include "obsluha/makra.h"
 #include "obsluha/menu_koleje.h"
+#include "obsluha/menu_prvku.h"
 #include "obsluha/povely.h"
 #include "obsluha/volba.h"
 #include "obsluha/vstup.h"
 #include "obsluha/zadani.h"
-#include "prvky/souhlasy.h"
 #include "technologie/sekvence.h"
 #include "technologie/technologie.h"
 #include "zaklad/platforma.h"
@@ -54,7 +54,7 @@ bool odpovez_na_radek() {
     } else if (prikaz_radek.obsazen) {
         const int otazka = prikaz_radek.kod_zpravy;
         if (otazka >= 1 && otazka <= 3) // a neighbour asks to send a train
-            souhlas_us(otazka - 1);
+            udel_souhlas(otazka - 1);
         if (prikaz_radek.kod_zpravy == otazka) // else the answer has cleared the line itself
             potvrd_prikaz();
     } else {

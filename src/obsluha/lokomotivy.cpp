@@ -1,7 +1,6 @@
 // obsluha/lokomotivy.cpp - locomotives called out of the depots.
 #include "obsluha/lokomotivy.h"
 
-#include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
@@ -16,6 +15,8 @@
 #include "jizda/spojovani.h"
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
+#include "prvky/barvi_prvek.h"
+#include "prvky/volnost.h"
 #include "relief/relief.h"
 #include "uzel/dopravny.h"
 #include "uzel/vozidla.h"

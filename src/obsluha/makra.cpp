@@ -2,29 +2,16 @@
 #include "obsluha/makra.h"
 
 #include "app/simulace.h"
-#include "cesty/dotazy.h"
-#include "cesty/tabulky.h"
+#include "cesty/ulozena_makra.h"
 #include "cesty/zvyrazneni.h"
 #include "desk/zprava.h"
 #include "obsluha/volba.h"
-#include "zaklad/soubory.h"
-
-#include <algorithm>
 
 namespace {
-
-Text soubor_maker() {
-    return simulace.cesta_aplikace + "data\\tesk.mak";
-}
 
 bool ma_pismeno(const ZaznamMakra& makro, char pismeno) {
     const TextPohled text = orez(makro.pismeno);
     return !text.empty() && text.front() == pismeno;
-}
-
-// Steps of a record; in a damaged one the shortest list counts.
-std::size_t pocet_kroku(const ZaznamMakra& makro) {
-    return std::min({makro.druhy.size(), makro.zacatky.size(), makro.konce.size()});
 }
 
 void odznac_kroky() {
@@ -94,11 +81,7 @@ void uloz_makro() {
     if (vyber.makro_zacatky.front() >= 0) {
         const ZaznamMakra makro{Text(orez(relief.lblMakro_pismeno[0].text())), vyber.makro_druhy,
                                 vyber.makro_zacatky, vyber.makro_konce};
-        Zapisovac soubor;
-        if (soubor_existuje(soubor_maker()))
-            soubor.bajty = nacti_soubor(soubor_maker());
-        popis_zaznamu_makra(soubor, makro);
-        zapis_soubor(soubor_maker(), soubor.bajty);
+        pridej_ulozene_makro(makro);
     }
     ukonci_zaznam();
     skryj_prikaz();
@@ -112,35 +95,10 @@ void zrus_makro() {
 void prehraj_makro(char pismeno) {
     if (simulace.pauza)
         return;
-    for (const ZaznamMakra& makro : cti_makra(nacti_soubor(soubor_maker()))) {
+    for (const ZaznamMakra& makro : ulozena_makra()) {
         if (!ma_pismeno(makro, pismeno))
             continue;
         for (std::size_t i = 0; i < pocet_kroku(makro); ++i)
             vyber_krok(makro.zacatky[i], makro.konce[i], makro.druhy[i]);
     }
-}
-
-void smaz_makro(TextPohled pismeno) {
-    Zapisovac soubor;
-    for (const ZaznamMakra& makro : cti_makra(nacti_soubor(soubor_maker())))
-        if (makro.pismeno != pismeno)
-            popis_zaznamu_makra(soubor, makro);
-    zapis_soubor(soubor_maker(), soubor.bajty);
-}
-
-SeznamMaker nacti_makra() {
-    SeznamMaker seznam;
-    for (const ZaznamMakra& makro : cti_makra(nacti_soubor(soubor_maker()))) {
-        Text radek = makro.pismeno;
-        for (std::size_t i = 0; i < pocet_kroku(makro); ++i) {
-            radek += makro.druhy[i] == druh_volby::posun ? " PC " : " VC ";
-            radek += jmeno_navestidla(makro.zacatky[i]) + " " + jmeno_konce(makro.konce[i]);
-        }
-        if (!seznam.klavesy.empty())
-            seznam.klavesy += '\x0D';
-        seznam.klavesy += makro.pismeno;
-        seznam.pismena.push_back(makro.pismeno);
-        seznam.radky.push_back(std::move(radek));
-    }
-    return seznam;
 }

@@ -2,7 +2,6 @@
 #include "obsluha/menu_koleje.h"
 
 #include "app/simulace.h"
-#include "cesty/dotazy.h"
 #include "desk/info_o_vlaku.h"
 #include "desk/menu.h"
 #include "desk/tabulka_vlaku.h"
@@ -16,14 +15,13 @@
 #include "obsluha/volba.h"
 #include "obsluha/vyber.h"
 #include "obsluha/zadani.h"
+#include "prvky/jmena.h"
 #include "relief/topologie.h"
 #include "uzel/trate.h"
 #include "zaklad/cisla.h"
 
 #include <array>
 #include <utility>
-
-MenuKoleje stav_menu_koleje;
 
 namespace {
 

@@ -2,6 +2,7 @@
 #include "obsluha/stanoviste.h"
 
 #include "cesty/cesta.h"
+#include "cesty/opakovani.h"
 #include "cesty/uvolneni.h"
 #include "desk/menu.h"
 #include "desk/predvidane_vlaky.h"

@@ -4,10 +4,13 @@
 #include "app/simulace.h"
 #include "cesty/dotazy.h"
 #include "cesty/tabulky.h"
+#include "cesty/zasobnik.h"
 #include "cesty/zvyrazneni.h"
 #include "desk/zprava.h"
 #include "obsluha/makra.h"
-#include "prvky/navestidla.h"
+#include "obsluha/menu_prvku.h"
+#include "prvky/jmena.h"
+#include "prvky/panel.h"
 #include "relief/topologie.h"
 #include "save/gtn.h"
 #include "uzel/volba.h"
@@ -22,6 +25,9 @@ namespace {
 constexpr std::int32_t kCasVolby_s = 10; // wall-clock seconds from the start to the end
 
 constexpr TextPohled kNenalezena = " Cesta nenalezena v závěrové tabulce ! "_cz;
+
+constexpr std::array kSlova = {""_cz, " VC "_cz, " PC "_cz, " PN "_cz}; // by kind
+constexpr std::array kBarvy = {barvy::cerna, barvy::zelena, barvy::bila, barvy::azurova};
 
 // --- the command line
 
@@ -128,6 +134,17 @@ const uzel::DvojityKonec* dvojity_konec(int zacatek, int konec) {
         std::find_if(uzel::kDvojiteKonce.begin(), uzel::kDvojiteKonce.end(),
                      [=](const uzel::DvojityKonec& x) { return x.konec == konec && x.zacatek == zacatek; });
     return d == uzel::kDvojiteKonce.end() ? nullptr : &*d;
+}
+
+void ohlas_nenalezenou(int druh, bool automaticky) {
+    pipni(100, 200);
+    zprava(kSlova[static_cast<std::size_t>(druh)], kNenalezena, barvy::cervena, 0, false, barvy::bila,
+           barvy::bila);
+    if (!vyber.volba_svetla && !automaticky)
+        odznac_navestidlo(vyber.volba_navestidlo);
+    vyber.volba_navestidlo = -3;
+    vyber.volba_zacatek = -3;
+    vyber.volba_konec = -3;
 }
 
 int konec_druhe_casti(const uzel::DvojityKonec& d, int druh) {
@@ -256,11 +273,22 @@ void klik_cil(int e) {
     najdi_cestu(vyber.volba_zacatek, konec, druh, false);
 }
 
-int zacatek_dvojite_volby(int dal, int konec) {
-    const auto d = std::find_if(
-        uzel::kDvojiteKonce.begin(), uzel::kDvojiteKonce.end(),
-        [=](const uzel::DvojityKonec& x) { return x.dal == dal && (x.konec == konec || x.jiny == konec); });
-    return d == uzel::kDvojiteKonce.end() ? kZadny : d->zacatek;
+bool najdi_cestu(int zacatek, int konec, int druh, bool automaticky) {
+    if (zacatek < 0 || druh < druh_volby::vlak || druh > druh_volby::pn)
+        return false;
+    const NalezenaCesta nalezena =
+        najdi_v_tabulce(druh == druh_volby::posun ? TabulkaCest::zpc : TabulkaCest::zat, zacatek, konec);
+    if (!nalezena) {
+        ohlas_nenalezenou(druh, automaticky);
+    } else if (makro_se_zaznamenava()) {
+        krok_makra(zacatek, konec, druh);
+    } else {
+        const Cesta& c = zarad_cestu(nalezena, druh, automaticky);
+        zvyrazni_konec(c.konec, kBarvy[static_cast<std::size_t>(druh)]);
+        vyber.volba_navestidlo = -3;
+    }
+    vyber.volba_druh = druh_volby::zadny;
+    return static_cast<bool>(nalezena);
 }
 
 void zrus_volbu() {

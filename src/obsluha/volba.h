@@ -1,20 +1,12 @@
 // obsluha/volba.h - the operator's selection: a start signal, an end, and the look-up of the route.
 #pragma once
 
-#include "cesty/zasobnik.h"
+#include "cesty/nova_cesta.h"
 #include "obsluha/tlacitko.h"
 #include "obsluha/vyber.h"
 #include "relief/prvek.h"
 
 #include <optional>
-
-// Kinds of a selection.
-namespace druh_volby {
-inline constexpr int zadny = 0;
-inline constexpr int vlak = 1;  // VC
-inline constexpr int posun = 2; // PC
-inline constexpr int pn = 3;    // PN
-} // namespace druh_volby
 
 // What the command line says of a selection: the word of its kind and the name of its start.
 struct Vyzva {
@@ -48,9 +40,6 @@ void klik_plocha();
 // Enter on " POZOR STITEK ", " POZOR NVL ", " POZOR VYLUKA ", " POZOR PN ": releases all routes that a
 // warning holds.
 void potvrd_varovani();
-// After a load: the warnings that routes still wait for are told again; a route whose reason is gone waits no
-// longer.
-void pripomen_varovani();
 
 // --- by the selection, AH and macros
 
@@ -58,13 +47,7 @@ void pripomen_varovani();
 // instead. `automaticky`: called by AH. False when the table holds no such route.
 bool najdi_cestu(int zacatek, int konec, int druh, bool automaticky);
 
-// --- by the route machine
-
-// Signal from which a pick over a short connecting section made a route from `dal` to `konec` its second
-// one; kZadny when no pick makes it so.
-int zacatek_dvojite_volby(int dal, int konec);
-
-// --- each tick of the route machine
+// --- before each tick of the route machine
 
 // The ten seconds of the selection, in wall-clock time.
 void hlidej_cas_volby();

@@ -6,18 +6,16 @@
 #include "cesty/zasobnik.h"
 #include "desk/info_o_vlaku.h"
 #include "desk/menu.h"
-#include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
 #include "jizda/spojovani.h"
 #include "obsluha/lokomotivy.h"
 #include "obsluha/menu_koleje.h"
+#include "obsluha/menu_prvku.h"
+#include "obsluha/menu_tabulky.h"
 #include "obsluha/povely.h"
 #include "obsluha/stanoviste.h"
 #include "obsluha/volba.h"
 #include "obsluha/vyber.h"
-#include "prvky/prejezdy_stanice.h"
-#include "prvky/souhlasy.h"
-#include "prvky/vyhybky.h"
 #include "save/debug_vypis.h"
 #include "technologie/sekvence.h"
 #include "technologie/technologie.h"
@@ -195,4 +193,8 @@ bool zvol_v_menu(TextPohled jmeno) {
         ohlas_rizikovou_funkci(std::move(*rizikova));
     obnov_stranku_vlaku();
     return true;
+}
+
+void zahod_menu() {
+    zavri_menu();
 }

@@ -34,3 +34,5 @@ void klik_na_zalozku(Technologie ktera);
 // The entry of the open menu that is called `jmeno`: false when there is none such, or when it is
 // hidden or disabled.
 bool zvol_v_menu(TextPohled jmeno);
+// The open menu goes without a choice.
+void zahod_menu();

@@ -7,6 +7,7 @@
 #include "desk/stitky.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
+#include "gvd/casy.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"
 #include "jizda/na_koleji.h"

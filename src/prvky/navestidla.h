@@ -1,4 +1,4 @@
-// prvky/navestidla.h - signals: aspects, menu, blocking, calling-on, automatic mode.
+// prvky/navestidla.h - signals: aspects, blocking, the glyph of the automatic mode.
 //
 // The state of a signal is the colour of its glyph: grey stop, green proceed, white shunting permitted
 // or the calling-on lamp, red a main and blue a shunting signal blocked by ZAM. Which proceed aspect a
@@ -7,6 +7,7 @@
 #pragma once
 
 #include "prvky/panel.h"
+#include "relief/relief.h"
 #include "zaklad/text.h"
 
 #include <array>
@@ -30,23 +31,15 @@ TextPohled aspekt_text(int i);
 // The automatic mode of signal s is on: its glyph's code is below 200.
 bool ab_zapnuto(int s);
 
+// What ZAM shows: a main signal stays at stop, over a shunting one nobody may shunt.
+Barva blokovana_barva(int s);
+
 // --- on the operator's command
 
-// Opens the menu of signal s, main or shunting.
-void menu_navestidla(int s);
 // ZAM: blocks signal s, or ends its blocking.
 void zam(int s);
-// PPN: the running calling-on aspect of s lasts 30 s longer.
-void ppn(int s);
-// Menu AB: toggles the automatic mode; the operator picks the end of the first run when none stands.
-void menu_ab(int s);
 
-// --- by AB, RC, STUJ, AH
+// --- by cesty/opakovani.h
 
-// Toggles the automatic mode of s; switching it off drops the copy that waits for its turn.
-void prepni_ab(int s);
-
-// --- when a train passes the start of route i
-
-// Queues a copy of route i when its signal is in automatic mode.
-void kopie_ab(int i);
+// The glyph of s tells the other mode, automatic or not. True when the mode is on then.
+bool prepni_znak_ab(int s);

@@ -1,15 +1,12 @@
 // prvky/panel.cpp - the signal panel, and the flashing of its lamp.
 #include "prvky/panel.h"
 
-#include "app/casovace.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "prvky/navestidla.h"
 #include "relief/relief.h"
 
 #include <algorithm>
-
-PanelNavestidla panel_navestidla;
 
 namespace {
 

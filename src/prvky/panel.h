@@ -48,3 +48,10 @@ const PopisPanelu& popis_panelu(TvarPanelu tvar);
 void obnov_panel(int s);
 // The same, only when the panel shows s already.
 void obnov_panel_kdyz_ukazuje(int s);
+
+// --- by a timer of its own
+
+// The flashing lamp of the signal panel; it has no period of its own and does not look at the pause.
+void krok_blikani_diag();
+// 0 while nothing in the panel flashes, else 250 or 500 ms.
+int perioda_blikani_diag();

@@ -2,13 +2,7 @@
 #include "prvky/prejezdy_stanice.h"
 
 #include "app/cas.h"
-#include "app/simulace.h"
-#include "desk/menu.h"
 #include "relief/relief.h"
-#include "uzel/prejezdy.h"
-#include "zaklad/cisla.h"
-
-#include <utility>
 
 namespace {
 
@@ -50,26 +44,4 @@ void prejezd_not(int k) {
     prejezd(k).cas = -3;
     prejezd(k).uzavren = false;
     prejezd(k).pocet = kBezVlaku;
-}
-
-void menu_prejezdu(int k) {
-    if (!je_prejezd(k))
-        return;
-    const StanicniPrejezd& p = prejezd(k);
-    const Text stav = text_cisla(p.pocet) + " " + (p.uzavren ? "-1" : "0");
-    // One entry in its place of the menu: what it does is the same, how it is called tells what it ends.
-    PolozkaMenu otevreni{"miNOT", "NOT", true, true, prejezd_not, k};
-    if (p.UZ) {
-        otevreni.druhe_jmeno = std::exchange(otevreni.jmeno, "miZUZ");
-        otevreni.text = "ZUZ";
-    }
-    otevri_menu({"mnuPREJEZD",
-                 Text(uzel::kPrejezdyStanic[static_cast<std::size_t>(k)].kilometr),
-                 Druh::lblPrejezd,
-                 k,
-                 {{"miprejezd_debug", stav, true, simulace.polozky_ladeni, nullptr, k},
-                  {"miUZ", "UZ", true, true, prejezd_uz, k},
-                  otevreni,
-                  {"miSTIT", "STIT", true, true, nullptr, k},
-                  {"miDK", "DK", true, true, nullptr, k}}});
 }

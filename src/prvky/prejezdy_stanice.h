@@ -2,6 +2,7 @@
 #pragma once
 
 #include "prvky/stanicni_prejezdy.h"
+
 // --- at any time, without change
 
 // Nothing runs over crossing k and nothing closes it: no train counted, no closing pending, no UZ.
@@ -9,8 +10,6 @@ bool prejezd_v_klidu(int k);
 
 // --- on the operator's command; an index that is no crossing does nothing
 
-// Opens the menu of crossing k.
-void menu_prejezdu(int k);
 // UZ: closed by the operator, in 30 s unless it is closed already.
 void prejezd_uz(int k);
 // NOT and ZUZ: the emergency opening, and the end of the operator's closure. Both clear everything,

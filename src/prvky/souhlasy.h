@@ -1,7 +1,6 @@
 // prvky/souhlasy.h - consents of the three line ends of uzel/trate.h.
 #pragma once
 
-#include "obsluha/tlacitko.h"
 #include "zaklad/text.h"
 
 #include <array>
@@ -17,10 +16,5 @@ extern Souhlasy souhlasy;
 
 // --- on the operator's command; an index that is no line end does nothing
 
-// Press on the lamp k: left asks whether to take the train that waits, right opens the menu.
-void klik_souhlas(int k, Tlacitko tlacitko);
-// Opens the menu of line end k.
-void menu_souhlasu(int k);
-// US, or Enter on the question: the train that asks may come in. Nothing when nobody asks. The question
-// of this line, when it stands on the command line, is confirmed and makes room for the next message.
+// US: the train that asks at line end k may come in. Nothing when nobody asks.
 void souhlas_us(int k);

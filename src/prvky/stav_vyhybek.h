@@ -7,7 +7,7 @@
 struct StavVyhybek {
     std::vector<bool> vyhybka_pohyb;  // by switch number: between the order to throw and the end position
     std::int16_t prehoz_vyhybka = -3; // switch thrown by hand; a second throw overwrites the first, which
-                                      // then stays moving until NOUZ: this is meant
+                                      // then stays moving until NOUZ: one throw is remembered
     std::int32_t prehoz_cas = -3;     // second at which that throw ends
     bool operator==(const StavVyhybek&) const = default;
 };

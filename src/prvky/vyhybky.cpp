@@ -1,14 +1,10 @@
-// prvky/vyhybky.cpp - throwing of switches, their couplings, and the menu of a switch.
+// prvky/vyhybky.cpp - throwing of switches and their couplings.
 #include "prvky/vyhybky.h"
 
-#include "app/cas.h"
-#include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"
-#include "cesty/drzeni.h"
 #include "cesty/tabulky.h"
-#include "cesty/uvolneni.h"
-#include "desk/menu.h"
 #include "jizda/vlak.h"
+#include "prvky/barvi_prvek.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
 #include "uzel/vyhybky.h"
@@ -20,13 +16,8 @@
 
 namespace {
 
-constexpr int kDobaPrehozeni_s = 3; // a manual throw, simulated seconds
-constexpr int kZnakNaKoleji = 21;   // derailer: passable for a route
-constexpr int kZnakMimoKolej = 23;  // derailer: protecting
-
-constexpr bool je_anglicka(int poloha) { // double slip, resting or moving
-    return poloha >= 25 && poloha < 50;
-}
+constexpr int kZnakNaKoleji = 21;  // derailer: passable for a route
+constexpr int kZnakMimoKolej = 23; // derailer: protecting
 
 // Moves of one end of a double slip. Its four positions are the combinations of two ends, A on the left
 // and B on the right:
@@ -60,34 +51,6 @@ constexpr bool konec_a_plus(int poloha) {
 }
 constexpr bool konec_b_plus(int poloha) {
     return poloha == 25 || poloha == 27 || poloha == 29 || poloha == 32;
-}
-
-// Ends of a double slip that can be thrown from a free position.
-struct Moznosti {
-    bool plus = false, minus = false, plus_b = false, minus_b = false;
-};
-
-constexpr Moznosti moznosti_stavu(int stav) {
-    if (je_anglicka(stav))
-        return {!konec_a_plus(stav), konec_a_plus(stav), !konec_b_plus(stav), konec_b_plus(stav)};
-    return {stav < 50 && stav % 3 == 2, stav < 50 && stav > 0 && stav % 3 == 0, false, false};
-}
-
-// Nobody throws n: a train stands on it, or a route waits for it to arrive.
-bool nesmi_se_hodit(int n) {
-    return stavi_se_vyhybka(n) || stoji_na_vyhybce(n);
-}
-
-// An order may be given now: the switch is free for it, and so is every coupled one.
-Moznosti moznosti(int n) {
-    if (nesmi_se_hodit(n))
-        return {};
-    Moznosti m = moznosti_stavu(stav_vyhybky_cislo(n));
-    projdi_partnery(n, [&](int b) {
-        if (stav_vyhybky_cislo(b) > 49 || nesmi_se_hodit(b))
-            m = {};
-    });
-    return m;
 }
 
 void prehod_podle(int b, const Prechody& prechody) {
@@ -213,11 +176,13 @@ void obarvi_kolej_vyhybky(int stav) {
         barvi_prvek(kolej, kTridy[trida]);
 }
 
-template <PovelVyhybky Povel> void akce_hod(int n) {
-    hod_vyhybku(n, Povel);
-}
-
 } // namespace
+
+Moznosti moznosti_stavu(int stav) {
+    if (je_anglicka(stav))
+        return {!konec_a_plus(stav), konec_a_plus(stav), !konec_b_plus(stav), konec_b_plus(stav)};
+    return {stav < 50 && stav % 3 == 2, stav < 50 && stav > 0 && stav % 3 == 0, false, false};
+}
 
 int stav_vyhybky_cislo(int n) {
     return cele_z_textu(relief.imgVyhybka[n].stav());
@@ -258,9 +223,9 @@ int vyhybka_obrazek(int p) {
     return 0;
 }
 
-// A plain position 3k+2 becomes 3k, the end of the triple before, and not 3k+3 of its own. This is
-// meant: after NOUZ the switch shows a shape that is none of its own, and has to be thrown again before
-// any route finds it in position.
+// A plain position 3k+2 becomes 3k, the end of the triple before, and not 3k+3 of its own. An emergency end
+// is no throw: the switch shows a shape that is none of its own, and has to be thrown again before any route
+// finds it in position.
 int nouz(int p) {
     if (p < 25)
         return p / 3 == 0 ? 3 : 3 * (p / 3);
@@ -339,47 +304,6 @@ void rezervuj_vykolejku(int n) {
 
 void uzavri_vykolejku(int n) {
     vykolejka_v_poloze(n, kZnakNaKoleji, barvy::bila);
-}
-
-void menu_vyhybky(int n) {
-    const ZaznamVazeb* zaznam = najdi_vazby(n);
-    const Moznosti m = moznosti(n);
-    otevri_menu({"mnuVYHYBKA",
-                 zaznam == nullptr ? Text() : zaznam->nazev,
-                 Druh::imgVyhybka,
-                 n,
-                 {{"miPLUS", "S+", m.plus, true, akce_hod<PovelVyhybky::plus>, n},
-                  {"miMINUS", "S-", m.minus, true, akce_hod<PovelVyhybky::minus>, n},
-                  {"miPLUS_B", "S+ b", m.plus_b, true, akce_hod<PovelVyhybky::plus_b>, n},
-                  {"miMINUS_B", "S- b", m.minus_b, true, akce_hod<PovelVyhybky::minus_b>, n},
-                  {"miZAV_vyhybka", "ZAV", true, true, nullptr, n},
-                  {"miSTIT_vyhybka", "STIT", true, true, nullptr, n},
-                  {"miVYL_vyhybka", "VYL", true, true, nullptr, n},
-                  {"miMST", "MST", true, true, nullptr, n},
-                  {"miVyh_nouz", "NOUZ", true, true, vyhybka_nouz, n}}});
-}
-
-// An order that the menu offered is tested again: a route may have locked the switch while the menu was
-// open. A second throw takes the place of the pending one, and the first switch stays moving until NOUZ;
-// this is meant.
-void hod_vyhybku(int n, PovelVyhybky povel) {
-    const Moznosti m = moznosti(n);
-    const bool smi = povel == PovelVyhybky::plus     ? m.plus
-                     : povel == PovelVyhybky::minus  ? m.minus
-                     : povel == PovelVyhybky::plus_b ? m.plus_b
-                                                     : m.minus_b;
-    if (!smi)
-        return;
-    const int stav = stav_vyhybky_cislo(n);
-    stav_vyhybek.prehoz_vyhybka = na_integer(n);
-    stav_vyhybek.prehoz_cas = ted_s() + kDobaPrehozeni_s;
-    // of the four orders of a double slip only S- moves derailers
-    prehod(n, cilova_poloha(stav, povel), true, !je_anglicka(stav) || povel == PovelVyhybky::minus);
-}
-
-void vyhybka_nouz(int n) {
-    vyhybka_stav(n, nouz(poloha_stavu(stav_vyhybky_cislo(n))), false, false);
-    stuj_bez_vyhybky(n);
 }
 
 void obnov_pohyb_vyhybek() {

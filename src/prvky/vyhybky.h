@@ -1,4 +1,4 @@
-// prvky/vyhybky.h - throwing of switches, their couplings, and the menu of a switch.
+// prvky/vyhybky.h - throwing of switches and their couplings.
 //
 // The state of switch n is the number in the state text of imgVyhybka n: position + class. A position
 // is a shape and an end of it; a class says who holds the switch. The picture is always state + 100.
@@ -23,11 +23,20 @@ inline constexpr int posun = 200;     // white, locked in a shunt route
 // What the operator can order of a switch. Only a double slip has the end B.
 enum class PovelVyhybky : std::uint8_t { plus, minus, plus_b, minus_b };
 
+// The orders that can be given.
+struct Moznosti {
+    bool plus = false, minus = false, plus_b = false, minus_b = false;
+};
+
 // --- at any time, without change
 
 // Position of a state, without its class.
 constexpr int poloha_stavu(int stav) {
     return stav % 50;
+}
+// A position of a double slip, resting or moving.
+constexpr bool je_anglicka(int poloha) {
+    return poloha >= 25 && poloha < 50;
 }
 // State number of switch n; a blank state text counts 0.
 int stav_vyhybky_cislo(int n);
@@ -44,6 +53,8 @@ void projdi_partnery(int n, const std::function<void(int)>& prace);
 int nouz(int p);
 // Position to which an order moves a switch in position p; p itself when the order does nothing there.
 int cilova_poloha(int p, PovelVyhybky povel);
+// The orders that change a switch in that state.
+Moznosti moznosti_stavu(int stav);
 
 // --- on the operator's command, by the route machine, by trains
 
@@ -60,15 +71,6 @@ void uvolni_zaver_vyhybky(int n, int poloha);
 void rezervuj_vykolejku(int n);
 // The route is locked: derailer n lies on the rail, white.
 void uzavri_vykolejku(int n);
-
-// --- on the operator's command
-
-// Opens the menu of switch n.
-void menu_vyhybky(int n);
-// Throws n by hand: 3 simulated seconds, ended by the route machine.
-void hod_vyhybku(int n, PovelVyhybky povel);
-// NOUZ: ends any movement at once in the emergency position. A route that was cleared over n goes to stop.
-void vyhybka_nouz(int n);
 
 // --- after a load
 

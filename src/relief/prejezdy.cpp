@@ -9,8 +9,6 @@
 
 #include <utility>
 
-std::vector<Prejezd> prejezdy;
-
 namespace {
 
 constexpr int kPriblizovaciUsek_m = 200; // the lamps flash from here before the road

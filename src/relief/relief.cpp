@@ -8,7 +8,6 @@
 #include <utility>
 
 std::uint64_t revize_reliefu = 0;
-Relief relief;
 
 StavPrvku& StavPrvku::operator=(const StavPrvku& jiny) {
     return *this = StavPrvku(jiny);

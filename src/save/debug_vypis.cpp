@@ -151,7 +151,7 @@ void pis_desku(const Vypis& f) {
     f.radek("Stitky");
     for (const StitekPrvku& s : stitky) {
         f.radek(text_cisla(s.prvek));
-        f.radek("\t" + s.nvl); // another order than in the record, and meant
+        f.radek("\t" + s.nvl); // the restriction first: it is what a fault is looked for by
         f.radek("\t" + s.stitek);
         f.radek("\t" + s.vyluka);
     }

@@ -1,8 +1,8 @@
 // save/kontrola_zaznamu.cpp - a saved record held against the relief and against itself.
 #include "save/kontrola_zaznamu.h"
 
-#include "app/blikani.h"
 #include "app/cas.h"
+#include "desk/stav_blikani.h"
 #include "gvd/stav_provozu.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "relief/relief.h"

@@ -1,16 +1,16 @@
 // save/obnova.cpp - a saved record takes the place of the present state.
 #include "save/obnova.h"
 
-#include "app/blikani.h"
 #include "app/cas.h"
 #include "app/simulace.h"
-#include "cesty/barvi_prvek.h"
 #include "cesty/dotazy.h"
 #include "cesty/odpocet_pn.h"
 #include "cesty/prekazky.h"
 #include "cesty/zasobnik.h"
+#include "desk/stav_blikani.h"
 #include "jizda/krok_jizdy.h"
 #include "jizda/zastavky.h"
+#include "prvky/barvi_prvek.h"
 #include "prvky/navestidla.h"
 #include "prvky/souhlasy.h"
 #include "prvky/vyhybky.h"
@@ -266,7 +266,6 @@ void dopocti() {
     obnov_obslouzene();
     obnov_odpocty();
     obnov_uz();
-    ukaz_prejezdy();
     aktualizuj_cekani();
     zmena_zasobniku();
 }

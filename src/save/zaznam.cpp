@@ -1,9 +1,9 @@
 // save/zaznam.cpp - the state of the simulation as one record, and its bytes.
 #include "save/zaznam.h"
 
-#include "app/blikani.h"
 #include "app/cas.h"
 #include "app/simulace.h"
+#include "desk/stav_blikani.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stav_vyhybek.h"
 #include "relief/relief.h"

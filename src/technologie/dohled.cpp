@@ -4,6 +4,7 @@
 #include "app/cas.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
+#include "prvky/jmena.h"
 #include "prvky/navestidla.h"
 #include "prvky/prejezdy_stanice.h"
 #include "uzel/prejezdy.h"
@@ -11,8 +12,6 @@
 
 #include <algorithm>
 #include <array>
-
-Dohled dohled;
 
 namespace {
 

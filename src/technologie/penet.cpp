@@ -5,8 +5,6 @@
 
 #include <array>
 
-PeNet penet;
-
 namespace {
 
 constexpr std::array<TextPohled, 13> kStavy = {"PP", "RC", "VL", "JC",  "KO",  "S1", "S2",

@@ -7,14 +7,13 @@
 #include "cesty/duvod.h"
 #include "cesty/tabulky.h"
 #include "cesty/zasobnik.h"
+#include "prvky/jmena.h"
 #include "prvky/vyhybky.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
 #include <array>
-
-Provoz1 provoz1;
 
 namespace {
 

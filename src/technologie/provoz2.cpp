@@ -5,17 +5,16 @@
 #include "cesty/dotazy.h"
 #include "cesty/duvod.h"
 #include "cesty/tabulky.h"
+#include "cesty/ulozena_makra.h"
 #include "cesty/zasobnik.h"
 #include "desk/stitky.h"
-#include "obsluha/makra.h"
+#include "prvky/jmena.h"
 #include "relief/topologie.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 
 #include <array>
 #include <utility>
-
-Provoz2 provoz2;
 
 namespace {
 

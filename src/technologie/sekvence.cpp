@@ -3,7 +3,7 @@
 
 #include "app/cas.h"
 #include "cesty/cesta.h"
-#include "cesty/dotazy.h"
+#include "prvky/jmena.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/vyhybky.h"
 #include "uzel/prejezdy.h"
@@ -12,8 +12,6 @@
 #include <algorithm>
 #include <array>
 #include <utility>
-
-Sekvence sekvence;
 
 namespace {
 

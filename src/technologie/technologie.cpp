@@ -13,8 +13,6 @@
 
 #include <algorithm>
 
-StavTechnologie technologie;
-
 namespace {
 
 constexpr int kPeriodaData_ms = 500;
@@ -215,13 +213,6 @@ void tik_driveru() {
 
 int perioda_driveru() {
     return otevrena_technologie() == Technologie::provoz1 ? kPeriodaDriveru_ms : 0;
-}
-
-// --- at a new simulation
-
-void zapomen_technologii() {
-    zahod_obsah();
-    technologie = StavTechnologie{};
 }
 
 // --- at any time

@@ -90,10 +90,6 @@ void tik_driveru();
 // 0 while PROVOZ 1 is closed, else 250 ms.
 int perioda_driveru();
 
-// --- at a new simulation
-
-void zapomen_technologii();
-
 // --- at any time, without change
 
 // The screen that is open, the view of the confirmation sequence included.

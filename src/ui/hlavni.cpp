@@ -1,4 +1,5 @@
 // ui/hlavni.cpp - the desk's program: start screen, splash screen, main screen.
+#include "app/nova_simulace.h"
 #include "app/parametry.h"
 #include "app/simulace.h"
 #include "app/start.h"

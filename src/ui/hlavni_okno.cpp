@@ -7,6 +7,7 @@
 #include "cesty/duvod.h"
 #include "desk/menu.h"
 #include "obsluha/vstup.h"
+#include "prvky/panel.h"
 #include "technologie/technologie.h"
 #include "ui/brana.h"
 #include "ui/nabidka.h"
@@ -211,7 +212,7 @@ HlavniOkno::HlavniOkno() {
         });
     }
 
-    technologie = new ObrazovkaTechnologie(
+    okno_technologie = new ObrazovkaTechnologie(
         this, [this](QKeyEvent* udalost) { return stisk(udalost); }, [this] { obnov(); });
 
     for (std::size_t i = 0; i < casovace.size(); ++i) {
@@ -345,7 +346,7 @@ void HlavniOkno::obnov() {
     obnov_pole();
     obnov_nabidku();
     obnov_ohnisko();
-    technologie->obnov();
+    okno_technologie->obnov();
     if (const int perioda = perioda_blikani_diag(); perioda == 0)
         blikani_diag.stop();
     else if (!blikani_diag.isActive() || blikani_diag.interval() != perioda)
@@ -425,7 +426,7 @@ void HlavniOkno::obnov_nabidku() {
     connect(nabidka, &QMenu::aboutToHide, this, [this] {
         QTimer::singleShot(0, this, [this, ukazovala = nabidka_ukazuje] {
             if (otisk_nabidky() == ukazovala && (nabidka == nullptr || !nabidka->isVisible()))
-                v_jadre(zavri_menu);
+                v_jadre(zahod_menu);
             obnov();
         });
     });

@@ -90,7 +90,7 @@ private:
     QLineEdit* pole = nullptr;
     std::array<ZobrazenySeznam, 2> seznamy;
     QMenu* nabidka = nullptr;
-    ObrazovkaTechnologie* technologie = nullptr;
+    ObrazovkaTechnologie* okno_technologie = nullptr;
     Text nabidka_ukazuje;
     std::optional<Nalezeny> najety;
     std::optional<Vyzva> vyzva;  // shown beside the message that holds the command line

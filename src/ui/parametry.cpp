@@ -300,13 +300,12 @@ QWidget* OknoParametru::hlavni_stranka() {
     cboDen = new VyberZeSeznamu(meritko);
     for (const TextPohled den : kDnyStartu)
         cboDen->addItem(na_qstring(den));
-    connect(cboDen, &QComboBox::currentIndexChanged, this,
-            [this](int i) { prikaz([&] { parametry.cboDen = i; }); });
+    connect(cboDen, &QComboBox::currentIndexChanged, this, [this](int i) { prikaz([&] { vyber_den(i); }); });
     cboRychlost = new VyberZeSeznamu(meritko);
     for (int i = 1; i <= kRychlostiStartu; ++i)
         cboRychlost->addItem(QString::number(i));
     connect(cboRychlost, &QComboBox::currentIndexChanged, this,
-            [this](int i) { prikaz([&] { parametry.cboRychlost = i; }); });
+            [this](int i) { prikaz([&] { vyber_rychlost(i); }); });
     const auto popis = [](const QString& text, QWidget* komu) {
         auto* l = new QLabel(text);
         l->setBuddy(komu);
@@ -350,9 +349,10 @@ QWidget* OknoParametru::hlavni_stranka() {
     lblGVD_popis_aktualni->setTextFormat(Qt::PlainText);
     lblGVD_popis_aktualni->setAlignment(Qt::AlignTop);
     lblGVD_popis_aktualni->setFixedHeight(px(50)); // three lines; more are in the tip
-    chkZpozdeni =
-        policko(QStringLiteral("&Zpoždění vlaků na vstupu"), [](bool z) { parametry.chkZpozdeni = z; });
-    chkPP = policko(QStringLiteral("&Vlaky PP (podle potřeby)"), [](bool z) { parametry.chkPP = z; });
+    chkZpozdeni = policko(QStringLiteral("&Zpoždění vlaků na vstupu"),
+                          [](bool z) { zaskrtni(&Parametry::chkZpozdeni, z); });
+    chkPP =
+        policko(QStringLiteral("&Vlaky PP (podle potřeby)"), [](bool z) { zaskrtni(&Parametry::chkPP, z); });
     auto* sloupec = new QVBoxLayout(rad);
     sloupec->setContentsMargins(0, 0, 0, 0);
     sloupec->setSpacing(px(6));
@@ -394,10 +394,11 @@ QWidget* OknoParametru::stranka_moznosti() {
     auto* skupina = new QGroupBox(na_qstring(kStrankyStartu[1]));
     chkZvuk = policko(QStringLiteral("&Zvuk vypnut"), [](bool z) { nastav_zvuk(z); });
     chkNoresize = policko(QStringLiteral("&Neměnit rozlišení (stůl v okně)"),
-                          [](bool z) { parametry.chkNoresize = z; });
+                          [](bool z) { zaskrtni(&Parametry::chkNoresize, z); });
     chkDualMonitor = policko(QStringLiteral("Zakázat podporu &dvou monitorů"),
-                             [](bool z) { parametry.chkDualMonitor = z; });
-    chkAutosave = policko(QStringLiteral("Ukládat &samočinně po"), [](bool z) { parametry.chkAutosave = z; });
+                             [](bool z) { zaskrtni(&Parametry::chkDualMonitor, z); });
+    chkAutosave = policko(QStringLiteral("Ukládat &samočinně po"),
+                          [](bool z) { zaskrtni(&Parametry::chkAutosave, z); });
     txtAutosave = pole(PoleStartu::txtAutosave);
     txtAutosave->setFixedWidth(px(64));
     txtAutosave->setAccessibleName(QStringLiteral("Perioda ukládání v odehraných minutách"));
@@ -606,7 +607,7 @@ void OknoParametru::nabidka(QWidget* pod) {
         if (zvolena != nullptr)
             zvol_v_menu(z_qstring(zvolena->data().toString()));
         else
-            zavri_menu();
+            zahod_menu();
     });
 }
 

@@ -65,6 +65,13 @@ inline constexpr std::array<DvojityKonec, 17> kDvojiteKonce = {{{604, 284, 2, 20
                                                                 {123, 617, 36, 236, 123},
                                                                 {618, 120, 37, 37, 618},
                                                                 {616, 123, 36, 36, 616}}};
+// Signal from which such a click made a route from `dal` to `konec` its second one; kZadny when none does.
+constexpr int zacatek_dvojite_volby(int dal, int konec) {
+    for (const DvojityKonec& d : kDvojiteKonce)
+        if (d.dal == dal && (d.konec == konec || d.jiny == konec))
+            return d.zacatek;
+    return kZadny;
+}
 
 // Through routes of a station that the post of its dispatcher sets all at once (AH): the post has the code of
 // the station, each row a route of the train table.

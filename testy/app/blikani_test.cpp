@@ -1,5 +1,6 @@
 // testy/app/blikani_test.cpp - what flashes, and what half a second drives.
 #include "app/blikani.h"
+#include "desk/stav_blikani.h"
 #include "desk/zprava.h"
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/stanicni_prejezdy.h"

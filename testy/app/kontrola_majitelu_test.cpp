@@ -2,10 +2,11 @@
 // peace.
 #include "app/kontrola.h"
 #include "app/kontrola_majitelu.h"
-#include "cesty/dotazy.h"
+#include "cesty/prehoz_rukou.h"
 #include "jizda/svet_vlaku.h"
 #include "pomocne/prvky_cesty.h"
 #include "prvky/stav_vyhybek.h"
+#include "prvky/volnost.h"
 #include "relief/topologie.h"
 
 #include <gtest/gtest.h>

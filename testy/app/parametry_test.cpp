@@ -1,4 +1,5 @@
 // testy/app/parametry_test.cpp - the start screen: its checks, its fields, its commands.
+#include "app/nova_simulace.h"
 #include "app/parametry.h"
 #include "app/rezim.h"
 #include "desk/menu.h"

@@ -1,9 +1,11 @@
 // testy/app/simulace_test.cpp - the reset of every table, the debug marker, the error boundary.
 #include "app/bezpecne.h"
-#include "app/blikani.h"
+#include "app/nova_simulace.h"
 #include "app/simulace.h"
+#include "app/stav_simulace.h"
 #include "cesty/cesta.h"
 #include "desk/menu.h"
+#include "desk/stav_blikani.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
@@ -24,12 +26,8 @@ namespace {
 class NovaSimulace : public SPlatformou {};
 
 TEST_F(NovaSimulace, LeavesNothingOfTheOldOne) {
-    const auto vse = [] {
-        return std::tuple(simulace, relief, prejezdy, cesty, vyber, souhlasy, stanicni_prejezdy, stav_vyhybek,
-                          stitky, prikaz_radek, menu, blikani, vlaky, koleje_vlaky, gvd_vlaky);
-    };
     nova_simulace();
-    const auto cista = vse();
+    const StavSimulace cista = stav_simulace();
     simulace.rychlost = 7;
     relief.kolej.zaloz(12).barva = barvy::cervena;
     relief.lstDenik.radky.emplace_back("radek");
@@ -49,9 +47,25 @@ TEST_F(NovaSimulace, LeavesNothingOfTheOldOne) {
     radek.stanice = {9};
     radek.prijezdy = radek.odjezdy = {600};
     gvd_vlaky = TabulkaGvd({radek});
-    ASSERT_NE(vse(), cista);
+    parametry.vlevo = 7;
+    technologie.jen_pohled = true;
+    ASSERT_NE(stav_simulace(), cista);
     nova_simulace();
-    EXPECT_EQ(vse(), cista);
+    EXPECT_EQ(stav_simulace(), cista);
+}
+
+TEST_F(NovaSimulace, StateThatWasTakenCanBeGivenBack) {
+    nova_simulace();
+    relief.kolej.zaloz(12).barva = barvy::cervena;
+    cesty.resize(4);
+    const StavSimulace drive = stav_simulace();
+    const auto revize = revize_reliefu;
+    nova_simulace();
+    ASSERT_NE(stav_simulace(), drive);
+    vrat_stav(drive);
+    EXPECT_EQ(stav_simulace(), drive);
+    EXPECT_EQ(cesty.size(), 4u);
+    EXPECT_GT(revize_reliefu, revize) << "the view paints what was given back";
 }
 
 TEST_F(NovaSimulace, RaisesTheRevisionOfTheStore) {

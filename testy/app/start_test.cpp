@@ -2,6 +2,7 @@
 #include "app/cas.h"
 #include "app/casovace.h"
 #include "app/konec.h"
+#include "app/nova_simulace.h"
 #include "app/rezim.h"
 #include "app/start.h"
 #include "cesty/cesta.h"

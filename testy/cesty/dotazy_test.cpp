@@ -1,7 +1,9 @@
 // testy/cesty/dotazy_test.cpp - questions about tracks and routes, removal of a route.
-#include "cesty/barvi_prvek.h"
 #include "cesty/dotazy.h"
 #include "cesty/stavedlo.h"
+#include "prvky/barvi_prvek.h"
+#include "prvky/jmena.h"
+#include "prvky/volnost.h"
 
 using Dotazy = Stavedlo;
 

@@ -1,13 +1,16 @@
 // testy/cesty/nahodny_provoz_test.cpp - thousands of random hands at the desk; after each the tables must
 // hold together. A fault is reported with the shortest script that still shows it.
+#include "app/casovace.h"
 #include "app/kontrola.h"
-#include "cesty/barvi_prvek.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/duvod.h"
+#include "cesty/opakovani.h"
+#include "cesty/prehoz_rukou.h"
 #include "cesty/prekazky.h"
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"
 #include "obsluha/makra.h"
+#include "prvky/barvi_prvek.h"
 #include "prvky/navestidla.h"
 #include "zaklad/chyba.h"
 
@@ -252,7 +255,7 @@ std::string kontrola_duvodu() {
         return "asking for a reason changed a route";
     if (prvni == cesty.end() || rusi_se)
         return {};
-    tik_volby();
+    krok_volby();
     if (cesty[i].prehozena != duvod.empty())
         return "route " + std::to_string(i) + (duvod.empty() ? " waits for no reason" : " did not wait: ") +
                na_utf8(duvod);
@@ -349,7 +352,7 @@ std::string tisk(const std::vector<Ukon>& skript) {
 }
 
 // Hands as often as an operator uses them: what frees comes more often than what blocks.
-Ukon nahodny_ukon(std::mt19937& nahoda) {
+Ukon nahodny_ukon(std::mt19937& zdroj) {
     struct Cetnost {
         Co co;
         unsigned podil;
@@ -363,8 +366,8 @@ Ukon nahodny_ukon(std::mt19937& nahoda) {
     unsigned soucet = 0;
     for (const Cetnost& c : kCetnosti)
         soucet += c.podil;
-    unsigned los = static_cast<unsigned>(nahoda() % soucet);
-    const int cislo = static_cast<int>(nahoda() % 1000);
+    unsigned los = static_cast<unsigned>(zdroj() % soucet);
+    const int cislo = static_cast<int>(zdroj() % 1000);
     for (const Cetnost& c : kCetnosti) {
         if (los < c.podil)
             return {c.co, cislo};
@@ -378,10 +381,10 @@ class NahodnyProvoz : public testing::TestWithParam<unsigned> {};
 } // namespace
 
 TEST_P(NahodnyProvoz, TablesHoldTogetherAfterEveryHand) {
-    std::mt19937 nahoda(GetParam());
+    std::mt19937 zdroj(GetParam());
     std::vector<Ukon> skript(2000);
     for (Ukon& u : skript)
-        u = nahodny_ukon(nahoda);
+        u = nahodny_ukon(zdroj);
     std::size_t kde = 0;
     Souhrn souhrn;
     const std::string vada = zkus(skript, &kde, &souhrn);

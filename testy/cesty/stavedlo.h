@@ -11,11 +11,12 @@
 #pragma once
 
 #include "app/cas.h"
+#include "app/casovace.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
 #include "cesty/tabulky.h"
-#include "cesty/tik_volby.h"
+#include "cesty/zasobnik.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
 #include "obsluha/volba.h"
@@ -180,7 +181,7 @@ struct Stavedlo : testing::Test {
     static void cekej(int s) {
         for (int i = 0; i < s; ++i) {
             posun_cas(1);
-            tik_volby();
+            krok_volby();
         }
     }
 

@@ -1,9 +1,10 @@
 // testy/cesty/tik_volby_test.cpp - the route machine, branch by branch.
-#include "cesty/barvi_prvek.h"
+#include "cesty/prehoz_rukou.h"
 #include "cesty/stavedlo.h"
 #include "cesty/tik_volby.h"
 #include "cesty/uvolneni.h"
 #include "pomocne/prvky_cesty.h"
+#include "prvky/barvi_prvek.h"
 #include "prvky/stanicni_prejezdy.h"
 
 using StavebCest = Stavedlo;

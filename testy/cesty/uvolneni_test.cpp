@@ -1,12 +1,16 @@
 // testy/cesty/uvolneni_test.cpp - RC, DN, STUJ, RNZ and the cancellation.
-#include "cesty/barvi_prvek.h"
+#include "app/casovace.h"
 #include "cesty/cisla_vlaku.h"
+#include "cesty/opakovani.h"
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"
 #include "jizda/vlak.h"
 #include "pomocne/prvky_cesty.h"
+#include "prvky/barvi_prvek.h"
+#include "prvky/jmena.h"
 #include "prvky/navestidla.h"
 #include "prvky/stanicni_prejezdy.h"
+#include "prvky/volnost.h"
 
 using Uvolneni = Stavedlo;
 
@@ -474,13 +478,13 @@ TEST_F(Uvolneni, SectionsFallAwayBehindATrain) {
     EXPECT_EQ(stav(5), 2);
     EXPECT_EQ(barva(41), barvy::cervena);
     // The section is free for the next route while the train still has its own.
-    tik_volby();
+    krok_volby();
     EXPECT_EQ(barva(40), barvy::azurova);
     zarad(41, 40, druh_volby::posun);
     cekej(2);
     EXPECT_TRUE(cesty[1].prehozena);
     smaz_cestu(0);
-    tik_volby();
+    krok_volby();
     EXPECT_EQ(barva(40), barvy::azurova) << "now it is reserved by the new route";
     EXPECT_TRUE(odjete.none());
 }
@@ -490,7 +494,7 @@ TEST_F(Uvolneni, SectionLeftByATrainIsGreyWhenItsRouteIsGone) {
     postav(240, 41);
     prejed(0, 0);
     smaz_cestu(0);
-    tik_volby();
+    krok_volby();
     EXPECT_EQ(barva(40), barvy::seda);
     EXPECT_EQ(relief.cislo_koleje[40].barva, barvy::seda);
 }

@@ -1,5 +1,6 @@
 // testy/davka/planovac_test.cpp - the timers in virtual time.
 #include "app/casovace.h"
+#include "app/nova_simulace.h"
 #include "app/simulace.h"
 #include "davka/planovac.h"
 #include "davka/virtualni_svet.h"

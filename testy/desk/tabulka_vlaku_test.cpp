@@ -1,6 +1,7 @@
 // testy/desk/tabulka_vlaku_test.cpp - the train table.
 #include "app/blikani.h"
 #include "desk/menu.h"
+#include "desk/stav_blikani.h"
 #include "desk/tabulka_vlaku.h"
 #include "jizda/vlak.h"
 #include "obsluha/vstup.h"

@@ -1,5 +1,6 @@
 // testy/desk/zprava_test.cpp - the command line and what waits for it.
 #include "app/blikani.h"
+#include "desk/stav_blikani.h"
 #include "desk/zprava.h"
 #include "gvd/provoz.h"
 #include "obsluha/vstup.h"

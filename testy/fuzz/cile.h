@@ -7,6 +7,8 @@
 #include "app/cas.h"
 #include "app/casovace.h"
 #include "app/kontrola.h"
+#include "app/nacteni.h"
+#include "app/nova_simulace.h"
 #include "cesty/tabulky.h"
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
@@ -17,7 +19,6 @@
 #include "pomocne/vozy_vlaku.h"
 #include "prvky/stav_vyhybek.h"
 #include "relief/topologie.h"
-#include "save/ulozeni.h"
 #include "save/zaznam.h"
 #include "zaklad/chyba.h"
 

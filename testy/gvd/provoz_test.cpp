@@ -1,8 +1,10 @@
 // testy/gvd/provoz_test.cpp - the traffic step: who comes at which minute, and with whose permission.
-#include "app/blikani.h"
+#include "app/nova_simulace.h"
+#include "desk/stav_blikani.h"
 #include "gvd/provoz.h"
 #include "gvd/skladba.h"
 #include "jizda/zastavky.h"
+#include "obsluha/menu_prvku.h"
 #include "pomocne/provoz_sveta.h"
 #include "pomocne/prvky_cesty.h"
 #include "pomocne/vozy_vlaku.h"
@@ -461,7 +463,7 @@ TEST_P(Souhlas, TrainAsksThenWaitsThenComesIn) {
     EXPECT_FALSE(simulace.ticho_souhlasu);
     EXPECT_EQ(pocet_vlaku(), 0);
 
-    souhlas_us(s.k);
+    udel_souhlas(s.k);
     EXPECT_EQ(souhlasy.cekajici_vlaky, std::vector<std::int32_t>{4701});
     EXPECT_TRUE(souhlasy.souhlas[static_cast<std::size_t>(s.k)]);
     obsad(s.uvnitr);

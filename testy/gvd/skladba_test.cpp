@@ -1,4 +1,5 @@
 // testy/gvd/skladba_test.cpp - a timetable row becomes a train: times, vehicles, pictures.
+#include "gvd/casy.h"
 #include "gvd/skladba.h"
 #include "pomocne/provoz_sveta.h"
 #include "pomocne/prvky_cesty.h"

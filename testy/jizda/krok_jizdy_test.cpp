@@ -1,11 +1,12 @@
 // testy/jizda/krok_jizdy_test.cpp - the movement step and whole journeys over the little junction.
-#include "cesty/dotazy.h"
+#include "cesty/prehoz_rukou.h"
 #include "cesty/prekazky.h"
 #include "jizda/poslusnost.h"
 #include "jizda/svet_vlaku.h"
 #include "pomocne/prvky_cesty.h"
 #include "pomocne/vozy_vlaku.h"
 #include "prvky/stanicni_prejezdy.h"
+#include "prvky/volnost.h"
 #include "relief/topologie.h"
 #include "zaklad/chyba.h"
 

@@ -1,8 +1,9 @@
 // testy/jizda/spojovani_test.cpp - coupling, splitting, turning, the next train of a set; train and shunt.
-#include "app/blikani.h"
 #include "cesty/cisla_vlaku.h"
 #include "desk/info_o_vlaku.h"
+#include "desk/stav_blikani.h"
 #include "desk/tabulka_vlaku.h"
+#include "gvd/casy.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"
 #include "jizda/posun.h"

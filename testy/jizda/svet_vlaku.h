@@ -3,7 +3,6 @@
 
 #include "app/cas.h"
 #include "app/simulace.h"
-#include "cesty/barvi_prvek.h"
 #include "cesty/cesta.h"
 #include "cesty/drzeni.h"
 #include "desk/tabulka_vlaku.h"
@@ -18,6 +17,7 @@
 #include "pomocne/prvky_cesty.h"
 #include "pomocne/virtualni_platforma.h"
 #include "pomocne/vozy_vlaku.h"
+#include "prvky/barvi_prvek.h"
 #include "prvky/vyhybky.h"
 
 class SVlaky : public SPlatformou {

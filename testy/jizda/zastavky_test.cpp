@@ -1,6 +1,6 @@
 // testy/jizda/zastavky_test.cpp - stops, waiting, departures, delays, the journal, the number change.
-#include "app/blikani.h"
 #include "app/casovace.h"
+#include "desk/stav_blikani.h"
 #include "gvd/gvd.h"
 #include "jizda/posun.h"
 #include "jizda/svet_vlaku.h"

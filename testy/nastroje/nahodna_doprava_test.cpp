@@ -7,6 +7,8 @@
 #include "app/casovace.h"
 #include "app/kontrola.h"
 #include "app/kontrola_majitelu.h"
+#include "app/nacteni.h"
+#include "app/nova_simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
 #include "cesty/tabulky.h"
@@ -18,6 +20,7 @@
 #include "jizda/souprava.h"
 #include "jizda/spojovani.h"
 #include "jizda/zastavky.h"
+#include "obsluha/menu_prvku.h"
 #include "obsluha/volba.h"
 #include "pomocne/cele_kolejiste.h"
 #include "pomocne/nahodna_ruka.h"
@@ -191,7 +194,7 @@ protected:
         for (const int k : {0, 1, 2})
             if (!relief.lblSouhlas[k].popis->empty() && nahodou(200)) {
                 ukon("consent " + std::to_string(k));
-                souhlas_us(k);
+                udel_souhlas(k);
             }
         for (const int k : {0, 1})
             if (nahodou(2)) {

@@ -1,9 +1,9 @@
 // testy/nastroje/trasy_provoz_test.cpp - the derived routes set by the route machine itself, on the whole
 // junction: each by itself, and pairs of them.
 #include "app/cas.h"
+#include "app/casovace.h"
 #include "app/kontrola.h"
 #include "cesty/cesta.h"
-#include "cesty/tik_volby.h"
 #include "cesty/uvolneni.h"
 #include "kolejiste/trasy.h"
 #include "obsluha/volba.h"
@@ -52,7 +52,7 @@ protected:
     // So many seconds at once, with one tick behind them.
     static void preskoc(int s) {
         relief.lblcas[0].text = text_casu(sekundy_textu(cas_hodin()) + s);
-        tik_volby();
+        krok_volby();
     }
     static bool zarad(const kolejiste::Trasa& t) {
         return najdi_cestu(t.zaznam.zacatek, t.zaznam.konec,
@@ -175,13 +175,12 @@ TEST_F(ProvozTras, TrainRouteThatIsTakenBackLeavesNothingBehind) {
 // has its switches.
 TEST_F(ProvozTras, TwoRoutesStandTogetherExactlyWhenTheyShareNothing) {
     const std::vector<kolejiste::Trasa>& trasy = data_kolejiste().trasy;
-    std::mt19937 nahoda(7);
+    std::mt19937 zdroj(7);
     int spolu = 0, ne = 0;
     for (int i = 0; i < 2000; ++i) {
         // near ones meet more often than far ones
-        const std::size_t prvni = nahoda() % trasy.size();
-        const std::size_t druha =
-            i % 2 ? nahoda() % trasy.size() : (prvni + 1 + nahoda() % 60) % trasy.size();
+        const std::size_t prvni = zdroj() % trasy.size();
+        const std::size_t druha = i % 2 ? zdroj() % trasy.size() : (prvni + 1 + zdroj() % 60) % trasy.size();
         const kolejiste::Trasa &a = trasy[prvni], &b = trasy[druha];
         if (a.zaznam.zacatek == b.zaznam.zacatek)
             continue;

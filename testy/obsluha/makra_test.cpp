@@ -1,5 +1,6 @@
 // testy/obsluha/makra_test.cpp - recording, replaying and deleting macros.
 #include "cesty/stavedlo.h"
+#include "cesty/ulozena_makra.h"
 #include "obsluha/makra.h"
 #include "zaklad/chyba.h"
 

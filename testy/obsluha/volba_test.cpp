@@ -1,4 +1,5 @@
 // testy/obsluha/volba_test.cpp - picks, the stack and the warnings.
+#include "app/casovace.h"
 #include "cesty/stavedlo.h"
 #include "obsluha/volba.h"
 #include "pomocne/prvky_cesty.h"
@@ -167,10 +168,10 @@ TEST_F(Volba, SomePairsOfSignalsNeverChain) {
 TEST_F(Volba, EndPickAfterTheLimitIsIgnored) {
     klik(240);
     svet.posun_ms(10000);
-    tik_volby();
+    krok_volby();
     EXPECT_EQ(vyber.volba_zacatek, 240) << "ten seconds are still allowed";
     svet.posun_ms(1000);
-    tik_volby();
+    krok_volby();
     EXPECT_EQ(vyber.volba_zacatek, -3);
     EXPECT_EQ(vyber.volba_cas, -3);
     EXPECT_EQ(prikaz(), " VOLBA ");
@@ -187,12 +188,12 @@ TEST_F(Volba, LimitBeginsAnewAtMidnightOfTheWallClock) {
     svet.cas.sekunda = 57;
     klik(240);
     svet.posun_ms(5000);
-    tik_volby();
+    krok_volby();
     svet.posun_ms(9000);
-    tik_volby();
+    krok_volby();
     EXPECT_EQ(vyber.volba_zacatek, 240);
     svet.posun_ms(3000);
-    tik_volby();
+    krok_volby();
     EXPECT_EQ(vyber.volba_zacatek, -3);
 }
 
@@ -383,7 +384,7 @@ TEST_F(Volba, EscDropsOnlyTheStart) {
     zrus_volbu();
     EXPECT_EQ(vyber.volba_zacatek, -3);
     svet.posun_ms(60000);
-    tik_volby();
+    krok_volby();
     EXPECT_EQ(prikaz(), "") << "a dropped selection does not run out of time";
 }
 

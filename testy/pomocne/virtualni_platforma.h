@@ -4,6 +4,7 @@
 // in the place of the platform, its end takes the platform and the temporary folder away again.
 #pragma once
 
+#include "app/nova_simulace.h"
 #include "app/simulace.h"
 #include "save/gtn.h"
 #include "zaklad/platforma.h"

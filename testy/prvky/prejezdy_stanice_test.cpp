@@ -1,9 +1,11 @@
 // testy/prvky/prejezdy_stanice_test.cpp - the operator's commands on the station crossings.
 #include "app/blikani.h"
 #include "app/cas.h"
+#include "app/casovace.h"
 #include "cesty/cesta.h"
-#include "cesty/tik_volby.h"
 #include "desk/menu.h"
+#include "desk/stav_blikani.h"
+#include "obsluha/menu_prvku.h"
 #include "obsluha/vstup.h"
 #include "pomocne/prvky_cesty.h"
 #include "pomocne/pult.h"
@@ -106,11 +108,11 @@ TEST_F(PrejezdStanice, EmergencyOpeningEndsTheWaitingOfASignal) {
     c.cas_stavby = 0;
     c.Kdy_prehoz = ted_s() - 1;
     stanicni_prejezdy[0].cas = ted_s() + 40;
-    tik_volby();
+    krok_volby();
     EXPECT_FALSE(c.Postavena);
     EXPECT_EQ(relief.navestidlo[20].barva(), barvy::seda);
     prejezd_not(0);
-    tik_volby();
+    krok_volby();
     EXPECT_TRUE(cesty.front().Postavena);
     EXPECT_EQ(relief.navestidlo[20].barva(), barvy::zelena);
 }

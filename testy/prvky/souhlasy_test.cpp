@@ -1,8 +1,10 @@
 // testy/prvky/souhlasy_test.cpp - consents to the three neighbouring stations.
 #include "app/blikani.h"
 #include "desk/menu.h"
+#include "desk/stav_blikani.h"
 #include "desk/zprava.h"
 #include "obsluha/klavesy.h"
+#include "obsluha/menu_prvku.h"
 #include "obsluha/vstup.h"
 #include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"
@@ -93,7 +95,7 @@ TEST_F(Souhlas, WithARouteLockedOutwardsTheLampGoesOnSayingSo) {
     relief.lblSouhlas[2].barva = barvy::modra;
     relief.lblSouhlas[2].text = znak(183);
     relief.lblSouhlas[2].popis = Text("99");
-    souhlas_us(2);
+    udel_souhlas(2);
     EXPECT_EQ(relief.lblSouhlas[2].text(), znak(183));
     EXPECT_EQ(relief.lblSouhlas[2].barva(), barvy::modra);
     EXPECT_TRUE(souhlasy.souhlas[2]);
@@ -102,7 +104,7 @@ TEST_F(Souhlas, WithARouteLockedOutwardsTheLampGoesOnSayingSo) {
 
 TEST_F(Souhlas, WithNobodyAskingDoesNothing) {
     const Relief pred = relief;
-    souhlas_us(1);
+    udel_souhlas(1);
     EXPECT_EQ(relief, pred);
     EXPECT_EQ(souhlasy, Souhlasy{});
     EXPECT_EQ(udalosti(), Udalosti{});
@@ -112,7 +114,7 @@ TEST_F(Souhlas, GivenFromTheMenuConfirmsTheQuestionOfItsLine) {
     relief.lblSouhlas[0].popis = Text("4711");
     klik_souhlas(0, Tlacitko::leve);
     zprava(" OK ", "dalsi", barvy::zelena);
-    souhlas_us(0);
+    udel_souhlas(0);
     EXPECT_EQ(relief.lblVolba[0].text(), "dalsi"); // the message that waited
     EXPECT_EQ(svet.pipnuti, (std::vector<VirtualniPlatforma::Pipnuti>{{400, 150}}));
 }
@@ -124,7 +126,7 @@ TEST_F(Souhlas, QuestionBroughtByTheQueueIsConfirmedToo) {
     potvrd_prikaz();
     dalsi_zprava();
     ASSERT_EQ(relief.lblVolba[0].text(), " PLH: Přijmete vlak 4711 ?"_cz);
-    souhlas_us(0);
+    udel_souhlas(0);
     EXPECT_FALSE(prikaz_radek.obsazen);
 }
 
@@ -132,7 +134,7 @@ TEST_F(Souhlas, QuestionOfAnotherLineIsNotAnsweredByIt) {
     relief.lblSouhlas[0].popis = Text("4711");
     relief.lblSouhlas[1].popis = Text("4712");
     klik_souhlas(1, Tlacitko::leve);
-    souhlas_us(0);
+    udel_souhlas(0);
     EXPECT_TRUE(prikaz_radek.obsazen);
     EXPECT_EQ(prikaz_radek.kod_zpravy, 2);
     EXPECT_FALSE(souhlasy.souhlas[1]);
@@ -161,7 +163,7 @@ TEST_F(Souhlas, LampBlinksByMovingItsGlyphUntilTheTrainIsTaken) {
         EXPECT_EQ(relief.lblSouhlas[2].text(), i % 2 == 0 ? " " + glyf : glyf);
     }
     krok_blikani();
-    souhlas_us(2); // in the phase of two characters
+    udel_souhlas(2); // in the phase of two characters
     krok_blikani();
     EXPECT_EQ(relief.lblSouhlas[2].text(), glyf);
 }
@@ -172,7 +174,7 @@ TEST_F(Souhlas, UnknownLineOrMissingLampIsIgnored) {
     for (const int k : {-1, 1, 2, 3}) {
         klik_souhlas(k, Tlacitko::leve);
         klik_souhlas(k, Tlacitko::prave);
-        souhlas_us(k);
+        udel_souhlas(k);
     }
     EXPECT_EQ(souhlasy, Souhlasy{});
     EXPECT_TRUE(menu.jmeno.empty());

@@ -1,7 +1,9 @@
 // testy/prvky/vyhybky_test.cpp - throwing of switches, couplings, derailers, the menu of a switch.
 #include "app/cas.h"
 #include "app/simulace.h"
+#include "cesty/prehoz_rukou.h"
 #include "desk/menu.h"
+#include "obsluha/menu_prvku.h"
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"

@@ -4,22 +4,26 @@
 // saved, started from the file as a fresh process would be, and both runs go on side by side under the same
 // hands: their tables, their relief and their logs must stay equal, but for what docs/formaty.md says that a
 // save does not carry.
-#include "app/blikani.h"
 #include "app/cas.h"
 #include "app/casovace.h"
 #include "app/kontrola.h"
 #include "app/kontrola_jizdy.h"
+#include "app/nacteni.h"
+#include "app/nova_simulace.h"
 #include "cesty/cesta.h"
-#include "cesty/dotazy.h"
+#include "cesty/opakovani.h"
+#include "cesty/prehoz_rukou.h"
 #include "cesty/uvolneni.h"
 #include "cesty/zasobnik.h"
 #include "cesty/zvyrazneni.h"
 #include "desk/menu.h"
+#include "desk/stav_blikani.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
 #include "gvd/stav_provozu.h"
 #include "jizda/vlak.h"
+#include "obsluha/menu_prvku.h"
 #include "obsluha/volba.h"
 #include "obsluha/vyber.h"
 #include "pomocne/instalace.h"
@@ -29,6 +33,7 @@
 #include "prvky/souhlasy.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "prvky/stav_vyhybek.h"
+#include "prvky/volnost.h"
 #include "prvky/vyhybky.h"
 #include "relief/prejezdy.h"
 #include "save/ulozeni.h"
@@ -155,7 +160,7 @@ void zasah(std::mt19937& los) {
     klavesa({KodKlavesy::enter});
     for (int k = 0; k < 3; ++k)
         if (!relief.lblSouhlas[k].popis->empty())
-            souhlas_us(k);
+            udel_souhlas(k);
     const auto &vlakove = trasy("tesk.zat"), &posunove = trasy("tesk.zpc");
     std::vector<const ZaznamCesty*> mozne;
     for (const ZaznamCesty& z : vlakove)

@@ -1,16 +1,19 @@
 // testy/save/ulozeni_test.cpp - saving to files and starting from them, on a little junction.
-#include "app/blikani.h"
 #include "app/cas.h"
 #include "app/casovace.h"
 #include "app/kontrola.h"
-#include "cesty/dotazy.h"
-#include "cesty/tik_volby.h"
+#include "app/nacteni.h"
+#include "app/nova_simulace.h"
+#include "cesty/opakovani.h"
+#include "cesty/prehoz_rukou.h"
+#include "desk/stav_blikani.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
 #include "gvd/stav_provozu.h"
 #include "jizda/krok_jizdy.h"
 #include "jizda/vlak.h"
+#include "obsluha/menu_prvku.h"
 #include "obsluha/volba.h"
 #include "obsluha/vstup.h"
 #include "pomocne/male_kolejiste.h"
@@ -96,7 +99,7 @@ protected:
     static void jed(int s) {
         for (int i = 0; i < s; ++i) {
             relief.lblcas[0].text = text_casu(sekundy_textu(cas_hodin()) + 1);
-            tik_volby();
+            krok_volby();
         }
     }
     static void pridej_koleje(Cesta& c, std::initializer_list<std::int16_t> koleje) {
@@ -695,7 +698,7 @@ TEST_F(Ulozeni, ConsentsAreKnownAgainByTheTrainsThatWait) {
     simulace.cesta_aplikace = svet.cesta();
     spust();
     relief.lblSouhlas[1].popis = TextPohled("4701");
-    souhlas_us(1);
+    udel_souhlas(1);
     ASSERT_TRUE(souhlasy.souhlas[1]);
     uloz();
     nacti();

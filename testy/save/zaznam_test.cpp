@@ -1,5 +1,4 @@
 // testy/save/zaznam_test.cpp - the record of a save, byte by byte.
-#include "app/blikani.h"
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/prvky_cesty.h"
 #include "pomocne/virtualni_platforma.h"

@@ -1,7 +1,9 @@
 // testy/technologie/provoz2_test.cpp - the maintenance screen of the stack, the possessions and the macros.
 #include "app/casovace.h"
+#include "app/nova_simulace.h"
 #include "cesty/duvod.h"
 #include "cesty/stavedlo.h"
+#include "cesty/ulozena_makra.h"
 #include "cesty/zasobnik.h"
 #include "desk/menu.h"
 #include "obsluha/makra.h"

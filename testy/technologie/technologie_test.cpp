@@ -1,5 +1,6 @@
 // testy/technologie/technologie_test.cpp - the five maintenance screens: opening, tabs, contents, timers.
 #include "app/casovace.h"
+#include "app/nova_simulace.h"
 #include "cesty/dotazy.h"
 #include "cesty/duvod.h"
 #include "cesty/stavedlo.h"
@@ -7,6 +8,7 @@
 #include "desk/menu.h"
 #include "obsluha/vstup.h"
 #include "pomocne/prvky_cesty.h"
+#include "prvky/jmena.h"
 #include "prvky/navestidla.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/stanicni_prejezdy.h"

@@ -3,6 +3,7 @@
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
 #include "jizda/vlak.h"
+#include "obsluha/menu_prvku.h"
 #include "obsluha/stanoviste.h"
 #include "obsluha/vstup.h"
 #include "pomocne/male_kolejiste.h"

@@ -1,4 +1,4 @@
-// cesty/barvi_prvek.h - the painter of track elements.
+// prvky/barvi_prvek.h - the painter of track elements.
 #pragma once
 
 #include "relief/relief.h"

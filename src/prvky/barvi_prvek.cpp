@@ -1,8 +1,8 @@
-// cesty/barvi_prvek.cpp - the painter of track elements, with all their exceptions.
-#include "cesty/barvi_prvek.h"
+// prvky/barvi_prvek.cpp - the painter of track elements, with all their exceptions.
+#include "prvky/barvi_prvek.h"
 
-#include "cesty/dotazy.h"
 #include "prvky/souhlasy.h"
+#include "prvky/volnost.h"
 #include "prvky/vyhybky.h"
 #include "relief/prejezdy.h"
 #include "relief/relief.h"

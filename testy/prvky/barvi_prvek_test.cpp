@@ -1,7 +1,8 @@
-// testy/cesty/barvi_prvek_test.cpp - the painter of tracks, its mirrors, labels and lamps.
-#include "cesty/barvi_prvek.h"
+// testy/prvky/barvi_prvek_test.cpp - the painter of tracks, its mirrors, labels and lamps.
 #include "cesty/stavedlo.h"
+#include "prvky/barvi_prvek.h"
 #include "prvky/souhlasy.h"
+#include "prvky/volnost.h"
 #include "relief/prejezdy.h"
 
 using Malir = Stavedlo;

@@ -1,6 +1,7 @@
-// save/nouzove.cpp - the emergency save, and what the start screen needs of it.
-#include "save/nouzove.h"
+// app/nouzove.cpp - the emergency save, and what the start screen needs of it.
+#include "app/nouzove.h"
 
+#include "app/nacteni.h"
 #include "app/simulace.h"
 #include "relief/relief.h"
 #include "save/ulozeni.h"

@@ -1,66 +1,30 @@
-// save/nacteni.cpp - starting from a saved simulation.
+// app/nacteni.cpp - starting from a saved simulation.
 //
 // A file is read into a record of its own, which is checked (save/kontrola_zaznamu.h) and only then takes the
 // place of the present state (save/obnova.h); what turns out wrong even later puts the present state back.
+#include "app/nacteni.h"
+
 #include "app/blikani.h"
 #include "app/kontrola.h"
 #include "app/simulace.h"
-#include "cesty/dotazy.h"
+#include "app/stav_simulace.h"
+#include "desk/stav_blikani.h"
 #include "gvd/gvd.h"
 #include "prvky/souhlasy.h"
-#include "prvky/stav_vyhybek.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
 #include "save/kontrola_zaznamu.h"
 #include "save/obnova.h"
-#include "save/ulozeni.h"
 #include "uzel/trate.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
 #include "zaklad/soubory.h"
 
-#include <array>
-#include <bitset>
 #include <new>
 #include <utility>
 
 namespace {
-
-// --- the state that a failed load gives back
-
-struct Stav {
-    Simulace simulace_ = simulace;
-    Relief relief_ = relief;
-    std::vector<Cesta> cesty_ = cesty;
-    std::vector<Vlak> vlaky_ = vlaky;
-    std::vector<KolejVlaky> koleje_vlaky_ = koleje_vlaky;
-    std::array<StanicniPrejezd, 2> stanicni_prejezdy_ = stanicni_prejezdy;
-    std::vector<Prejezd> prejezdy_ = prejezdy;
-    Souhlasy souhlasy_ = souhlasy;
-    StavProvozu stav_provozu_ = stav_provozu;
-    StavVyhybek stav_vyhybek_ = stav_vyhybek;
-    std::vector<StitekPrvku> stitky_ = stitky;
-    Blikani blikani_ = blikani;
-    std::bitset<kNejvyssiPrvek + 1> odjete_ = odjete;
-
-    void vrat() {
-        simulace = std::move(simulace_);
-        relief = std::move(relief_);
-        ++revize_reliefu;
-        cesty = std::move(cesty_);
-        vlaky = std::move(vlaky_);
-        koleje_vlaky = std::move(koleje_vlaky_);
-        stanicni_prejezdy = stanicni_prejezdy_;
-        prejezdy = std::move(prejezdy_);
-        souhlasy = std::move(souhlasy_);
-        stav_provozu = stav_provozu_;
-        stav_vyhybek = std::move(stav_vyhybek_);
-        stitky = std::move(stitky_);
-        blikani = blikani_;
-        odjete = odjete_;
-    }
-};
 
 // What cannot stand together is no state that the simulation can go on from.
 void over_stav() {
@@ -83,7 +47,7 @@ void varuj_pred_verzi(const Zaznam& z) {
 }
 
 bool ukonci_nenactene(TextPohled soubor, const BehovaChyba& chyba) {
-    Text text("Stav simulace ze soboru "_cz); // the word has always been spelt so
+    Text text("Stav simulace ze soboru "_cz); // spelt so on the desk
     text += soubor;
     text += " se nepodařilo načíst! ("_cz;
     text += text_chyby(chyba.kod);
@@ -104,18 +68,19 @@ void nacti_simulaci_z(std::span<const std::uint8_t> bajty) {
     over_hlavicku(z);
     const std::int16_t minuty = casova_znacka(z);
     over_tabulky(z);
-    Stav predchozi;
+    StavSimulace predchozi = stav_simulace();
     try {
         obnov_stav(std::move(z), minuty);
+        ukaz_prejezdy();
         over_stav();
     } catch (...) {
-        predchozi.vrat();
+        vrat_stav(std::move(predchozi));
         throw;
     }
 }
 
 bool da_se_nacist(std::span<const std::uint8_t> bajty) {
-    Stav predchozi;
+    StavSimulace predchozi = stav_simulace();
     const auto okno = std::exchange(platforma.okno, [](TextPohled, TextPohled) {});
     bool da = true;
     try {
@@ -124,7 +89,7 @@ bool da_se_nacist(std::span<const std::uint8_t> bajty) {
         da = false;
     }
     platforma.okno = okno;
-    predchozi.vrat();
+    vrat_stav(std::move(predchozi));
     return da;
 }
 

@@ -1,13 +1,16 @@
-// testy/save/nouzove_test.cpp - a run-time error ends the program, and the game goes on from its emergency
+// testy/app/nouzove_test.cpp - a run-time error ends the program, and the game goes on from its emergency
 // save.
 #include "app/bezpecne.h"
 #include "app/blikani.h"
 #include "app/cas.h"
 #include "app/casovace.h"
+#include "app/nouzove.h"
+#include "app/nova_simulace.h"
 #include "app/parametry.h"
 #include "app/start.h"
 #include "cesty/cesta.h"
 #include "cesty/tik_volby.h"
+#include "desk/stav_blikani.h"
 #include "desk/zprava.h"
 #include "jizda/krok_jizdy.h"
 #include "obsluha/vstup.h"
@@ -15,7 +18,6 @@
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/virtualni_platforma.h"
 #include "relief/relief.h"
-#include "save/nouzove.h"
 #include "save/ulozeni.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"

@@ -1,4 +1,4 @@
-// save/nouzove.h - the emergency save: what is left of a game that a run-time error has ended.
+// app/nouzove.h - the emergency save: what is left of a game that a run-time error has ended.
 //
 // An error may have come in the midst of a step, so the present state is saved only if a load would take it,
 // else the one of the last minute that was whole. The file waits in save\nouzove until a start screen has

@@ -1,0 +1,38 @@
+// app/nova_simulace.cpp - the tables of the simulation, and their reset.
+#include "app/nova_simulace.h"
+
+#include "app/kontrola_jizdy.h"
+#include "app/kontrola_majitelu.h"
+#include "app/nouzove.h"
+#include "app/stav_simulace.h"
+#include "save/gtn.h"
+
+#include <utility>
+
+#define TABULKA(jmeno, cerstva) decltype(jmeno) jmeno = cerstva;
+TABULKY_SIMULACE(TABULKA)
+#undef TABULKA
+
+void nova_simulace() {
+    gtn_zavri();
+    vrat_stav(StavSimulace{});
+    zapomen_kontrolu_jizdy();
+    prijmi_majitele();
+    zapomen_nouzovy_stav();
+}
+
+StavSimulace stav_simulace() {
+    StavSimulace stav{
+#define TABULKA(jmeno, cerstva) ::jmeno,
+        TABULKY_SIMULACE(TABULKA)
+#undef TABULKA
+    };
+    return stav;
+}
+
+void vrat_stav(StavSimulace stav) {
+#define TABULKA(jmeno, cerstva) jmeno = std::move(stav.jmeno);
+    TABULKY_SIMULACE(TABULKA)
+#undef TABULKA
+    ++revize_reliefu;
+}

@@ -1,0 +1,59 @@
+// cesty/ulozena_makra.cpp - the stored macros.
+#include "cesty/ulozena_makra.h"
+
+#include "app/simulace.h"
+#include "cesty/nova_cesta.h"
+#include "prvky/jmena.h"
+#include "zaklad/soubory.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace {
+
+Text soubor_maker() {
+    return simulace.cesta_aplikace + "data\\tesk.mak";
+}
+
+} // namespace
+
+std::size_t pocet_kroku(const ZaznamMakra& makro) {
+    return std::min({makro.druhy.size(), makro.zacatky.size(), makro.konce.size()});
+}
+
+std::vector<ZaznamMakra> ulozena_makra() {
+    return cti_makra(nacti_soubor(soubor_maker()));
+}
+
+void pridej_ulozene_makro(const ZaznamMakra& makro) {
+    Zapisovac soubor;
+    if (soubor_existuje(soubor_maker()))
+        soubor.bajty = nacti_soubor(soubor_maker());
+    popis_zaznamu_makra(soubor, makro);
+    zapis_soubor(soubor_maker(), soubor.bajty);
+}
+
+void smaz_makro(TextPohled pismeno) {
+    Zapisovac soubor;
+    for (const ZaznamMakra& makro : ulozena_makra())
+        if (makro.pismeno != pismeno)
+            popis_zaznamu_makra(soubor, makro);
+    zapis_soubor(soubor_maker(), soubor.bajty);
+}
+
+SeznamMaker nacti_makra() {
+    SeznamMaker seznam;
+    for (const ZaznamMakra& makro : ulozena_makra()) {
+        Text radek = makro.pismeno;
+        for (std::size_t i = 0; i < pocet_kroku(makro); ++i) {
+            radek += makro.druhy[i] == druh_volby::posun ? " PC " : " VC ";
+            radek += jmeno_navestidla(makro.zacatky[i]) + " " + jmeno_konce(makro.konce[i]);
+        }
+        if (!seznam.klavesy.empty())
+            seznam.klavesy += '\x0D';
+        seznam.klavesy += makro.pismeno;
+        seznam.pismena.push_back(makro.pismeno);
+        seznam.radky.push_back(std::move(radek));
+    }
+    return seznam;
+}

@@ -1,0 +1,31 @@
+// cesty/ulozena_makra.h - the stored macros, data\tesk.mak, in the order of recording.
+#pragma once
+
+#include "cesty/tabulky.h"
+#include "zaklad/text.h"
+
+#include <cstddef>
+#include <vector>
+
+// What the maintenance screen shows of the macros.
+struct SeznamMaker {
+    std::vector<Text> radky;   // one macro a line
+    Text klavesy;              // their letters, separated by character 13
+    std::vector<Text> pismena; // the letter of each line, as its record holds it
+};
+
+// --- at any time, without change. A missing file is the run-time error 53.
+
+// All records of the file.
+std::vector<ZaznamMakra> ulozena_makra();
+// The list for the maintenance screen.
+SeznamMaker nacti_makra();
+// Steps of a record; in a damaged one the shortest list counts.
+std::size_t pocet_kroku(const ZaznamMakra& makro);
+
+// --- on the operator's command
+
+// The record goes behind the last byte of the file.
+void pridej_ulozene_makro(const ZaznamMakra& makro);
+// Delete in the list: the file without the records of that name.
+void smaz_makro(TextPohled pismeno);
