@@ -102,7 +102,7 @@ ulozeno = nastaveni("Nastaveni")
 for klic, hodnota in (("zvuk", "1"), ("rychlost", "0"), ("pp", "1"), ("zpozdeni", "1"), ("dual", "0"),
                       ("noresize", "0"), ("autosave", "0"), ("autosaved", "60")):
     assert ulozeno.get(klic) == hodnota, "%s je %r" % (klic, ulozeno.get(klic))
-stul.cekej_na("přihlášení INIT", s.je_prihlaseni, 40)
+stul.cekej_na("přihlášení INIT", s.je_prihlaseni)
 for _ in range(3):
     klavesy("Return")
     time.sleep(0.3)

@@ -78,7 +78,7 @@ stul.cekej_na("volná kolej za vlakem", lambda o: o.bod(*VLAK) not in (CERVENA, 
 
 # at the exit the train leaves, and nothing of it stays
 obraz = stul.cekej_na("prázdné kolejiště", lambda o: o.bod(*TRAT) == s.SEDA and o.bod(*VYJEZD) == s.SEDA and
-                      o.bod(*VLAK) == s.SEDA, 60)
+                      o.bod(*VLAK) == s.SEDA)
 assert obraz.bodu(80, 46 + 8 * 13, 660, 13, CERVENA) == 0, "po vlaku zůstala červená"
 stul.cekej_na("jméno koleje místo čísla vlaku", lambda o: o.vyrez(*CISLO_VYJEZDU) == klid)
 stul.obraz("konec")

@@ -113,7 +113,7 @@ stul.klikni_s_ctrl(*s.stred(60, RADEK))
 stul.klikni(*s.stred(82, RADEK))
 stul.cekej_na("posunová cesta", lambda o: o.bod(*CESTA) == s.BILA)
 stul.obraz("posun")
-stul.cekej_na("lokomotiva na kusé koleji", lambda o: o.bod(*KUSA) == CERVENA, 60)
+stul.cekej_na("lokomotiva na kusé koleji", lambda o: o.bod(*KUSA) == CERVENA)
 
 # another engine from the menu of the depot, and its route to the set
 stul.nabidka("Down Down Down Down Down", *s.stred(6, 4))
@@ -126,7 +126,7 @@ stul.klikni(*DRUHE_CISLO)
 stul.cekej_na("posunová cesta z depa", lambda o: o.bod(*s.stred(24, RADEK)) in (s.BILA, CERVENA))
 for _ in range(2):
     stul.klikni(356, 10)
-stul.cekej_na("lokomotiva u soupravy", lambda o: o.bod(*s.stred(24, RADEK)) == s.SEDA, 60)
+stul.cekej_na("lokomotiva u soupravy", lambda o: o.bod(*s.stred(24, RADEK)) == s.SEDA)
 
 # SPOJIT of the first train of the track: the page shows the set with its new engine
 stul.nabidka("Down Right Down", *DRUHE_CISLO)

@@ -18,6 +18,7 @@ RADEK, ZNAK, BOD = 195, 120, 15  # twips: row of the relief, glyph, pixel
 RELIEF_Y = 690
 
 KROK = 0.05  # between two looks, seconds
+NEJDELE = 300  # how long is waited for what must come: only a desk that hangs takes longer, seconds
 
 SEDA, ZELENA, CERNA, BILA = (128, 128, 128), (0, 255, 0), (0, 0, 0), (255, 255, 255)
 
@@ -126,7 +127,7 @@ class Stul:
 
     def tiskni(self, jmeno, co, podminka):
         """The key until it has its effect: one that comes before the window has the focus is lost."""
-        for _ in range(10):
+        for _ in range(100):
             self.klavesa(jmeno)
             konec = time.monotonic() + 1.5
             while time.monotonic() < konec:
@@ -182,7 +183,7 @@ class Stul:
         self.klavesa("Return")
         self.cekej_bez_nabidky()
 
-    def cekej(self, co, podminka, nejdele=10):
+    def cekej(self, co, podminka, nejdele=NEJDELE):
         """Until the condition holds; the test fails when it does not in time."""
         konec = time.monotonic() + nejdele
         while not podminka():
@@ -265,7 +266,7 @@ class Stul:
             obraz.zapis(os.path.join(self.slozka, jmeno + ".png"))
         return obraz
 
-    def cekej_na(self, co, podminka, nejdele=30):
+    def cekej_na(self, co, podminka, nejdele=NEJDELE):
         """The picture for which the condition holds; the test fails when none comes in time."""
         konec = time.monotonic() + nejdele
         while time.monotonic() < konec:
@@ -407,7 +408,7 @@ def prihlas(stul, krat=1, rychle=False, pred_prvnim=lambda: None):
         stul.klavesa("alt+r")
         stul.klavesa("End")
     stul.tiskni("Return", "začátek simulace", lambda: not je_formular(stul.obraz()))
-    stul.cekej_na("přihlášení INIT", prihlaseni, 40)
+    stul.cekej_na("přihlášení INIT", prihlaseni)
     pred_prvnim()
     for dalsi in ("TPC", "ARCHIV"):
         predtim = stul.obraz().vyrez(*radek)

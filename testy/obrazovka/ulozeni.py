@@ -59,7 +59,7 @@ def nacteno(obraz):
     return obraz.vyrez(*s.HODINY) == ulozeno
 
 
-obraz = stul.cekej_na("čas uložené simulace", nacteno, 40)
+obraz = stul.cekej_na("čas uložené simulace", nacteno)
 for _ in range(10):
     if s.je_prihlaseni(obraz):
         break

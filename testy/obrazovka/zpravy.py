@@ -39,7 +39,7 @@ stisknute = lambda o: o.bodu(*ZPRAVY, NAVY) > 500
 stul.ukaz(600, 480)
 stul.klavesa("F2")
 stul.cekej_na("pole pro psaní", lambda o: o.bodu(*s.RADEK_PRIKAZU, AZUROVA) > 100)
-stul.cekej_na("zelené tlačítko zpráv", zelene, 60)
+stul.cekej_na("zelené tlačítko zpráv", zelene)
 predtim = stul.obraz().vyrez(*POLE)
 stul.xdotool("type", "a b")
 obraz = stul.cekej_na("text v poli", lambda o: o.vyrez(*POLE) != predtim)
@@ -52,7 +52,7 @@ stul.cekej_na("zpět v tabulce", lambda o: not stisknute(o) and not zelene(o))
 
 # now he is not: the space bar presses the button that the next delays have brought forward
 stul.ukaz(600, 480)
-stul.cekej_na("znovu zelené tlačítko zpráv", zelene, 60)
+stul.cekej_na("znovu zelené tlačítko zpráv", zelene)
 stul.obraz("zprava")
 stul.klavesa("space")
 obraz = stul.cekej_na("zprávy mezerníkem", stisknute)
