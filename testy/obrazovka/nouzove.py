@@ -62,7 +62,7 @@ stul.konec()
 stul = otevri_nabidku()
 stul.tiskni("Return", "načtení záznamu", lambda: not s.je_formular(stul.obraz()))
 assert not soubory("save", "nouzove") and len(soubory("save")) == 1, "záznam nezůstal mezi uloženými"
-obraz = stul.cekej_na("čas uložené simulace", lambda o: o.vyrez(*s.HODINY) == hodiny, 40)
+obraz = stul.cekej_na("čas uložené simulace", lambda o: o.vyrez(*s.HODINY) == hodiny)
 stul.obraz("nacteno")
 for _ in range(30):
     if s.je_prihlaseni(obraz):

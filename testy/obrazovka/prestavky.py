@@ -68,10 +68,10 @@ def vlak():
 
 
 # the train comes into the long section, and the clock goes back to its own pace
-stul.cekej("čas odjezdu z Lhotína", lambda: vlak() == 87 and 43201 < stul.cas_s() < 43260, 60)
+stul.cekej("čas odjezdu z Lhotína", lambda: vlak() == 87 and 43201 < stul.cas_s() < 43260)
 stul.klikni(*mapa["navestidlo", 287])
 stul.klikni(*s.stred(73, 8))
-stul.cekej("vlak na trati", lambda: vlak() == 440, 60)
+stul.cekej("vlak na trati", lambda: vlak() == 440)
 for _ in range(3):
     stul.klikni(*mapa["lblrychlost_simulace", 0], 3)
 
@@ -124,7 +124,7 @@ assert any(radek.startswith("Počítač stál 1") for radek in stul.stav("denik"
 # and the train gets to where it was going
 for _ in range(3):
     stul.klikni(*mapa["lblrychlost_simulace", 0])
-stul.cekej("vlak u cíle", lambda: vlak() != 440, 120)
+stul.cekej("vlak u cíle", lambda: vlak() != 440)
 stul.bez_vad()
 s.ukonci(stul)
 print("v pořádku")

@@ -16,7 +16,7 @@ os.rename(chybejici, chybejici + ".jinam")
 stul = s.Stul(program, slozka, velikost, meritko)
 
 
-def stiskni_az(klavesa, zacatek, nejdele=60):
+def stiskni_az(klavesa, zacatek, nejdele=s.NEJDELE):
     """The key, again when nothing comes: one that is pressed before the window has the focus is lost."""
     konec = time.monotonic() + nejdele
     while True:
@@ -39,7 +39,7 @@ def zavri(klavesa="Escape"):
         time.sleep(0.2)
         return False
 
-    stul.cekej("stůl bez oken", jen_stul, 30)
+    stul.cekej("stůl bez oken", jen_stul)
 
 
 # --- before the start: what keeps the form shut, then the form and its pages, its menus and boxes
@@ -76,7 +76,7 @@ stiskni_az("Return", "okno úvod")
 
 # --- the login and the desk with its trains
 stul.cekej_na_nalez("okno stůl")
-stul.cekej("pracovní stůl", lambda: os.path.exists(os.path.join(slozka, "stav.txt")), 60)
+stul.cekej("pracovní stůl", lambda: os.path.exists(os.path.join(slozka, "stav.txt")))
 stul.oken_v_klidu = stul.okna()
 
 
@@ -88,7 +88,7 @@ def bez_pauzy():
     return False
 
 
-stul.cekej("konec přihlášení", bez_pauzy, 40)
+stul.cekej("konec přihlášení", bez_pauzy)
 stul.oken_v_klidu = stul.okna()
 assert 26990 <= stul.cas_s() < 27300, "stůl nezačal v 7:30, ale v " + stul.stav("cas")[0]
 mapa = stul.mapa()

@@ -216,7 +216,7 @@ class Stul:
             return []
         return [r[len(druh) + 1:] for r in radky if r.startswith(druh + " ")] if druh else radky
 
-    def cekej_na_nalez(self, zacatek, nejdele=60):
+    def cekej_na_nalez(self, zacatek, nejdele=NEJDELE):
         """Until something was seen whose line begins so; a fault ends the wait at once."""
         self.cekej("nález " + zacatek, lambda: self.bez_vad() or
                    any(r.startswith(zacatek) for r in self.nalezy()), nejdele)
