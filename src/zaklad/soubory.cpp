@@ -373,9 +373,10 @@ std::optional<KodChyby> pripis(RostouciSoubor& soubor, const Bajty& obsah) {
         soubor.delka += static_cast<std::int64_t>(obsah.size());
         return std::nullopt;
     }
-    static_cast<void>(::ftruncate(soubor.popisovac, static_cast<off_t>(soubor.delka)));
-    ::lseek(soubor.popisovac, static_cast<off_t>(soubor.delka), SEEK_SET);
-    return kod_zapisu(duvod);
+    const auto konec = static_cast<off_t>(soubor.delka);
+    const bool vraceno =
+        ::ftruncate(soubor.popisovac, konec) == 0 && ::lseek(soubor.popisovac, konec, SEEK_SET) == konec;
+    return vraceno ? kod_zapisu(duvod) : KodChyby::chyba_zarizeni;
 }
 
 void zavri_rostouci(RostouciSoubor& soubor) {

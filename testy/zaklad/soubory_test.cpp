@@ -254,7 +254,7 @@ TEST_F(Soubory, TwoProcessesThatWriteOneNameAndAreKilledLeaveOneWholeFile) {
     zapis_soubor(cil, Bajty(kDelka, 'z'));
     for (int pokus = 0; pokus < 150; ++pokus) {
         std::vector<pid_t> deti;
-        for (const std::uint8_t znak : {'a', 'b'}) {
+        for (const std::uint8_t znak : {std::uint8_t{'a'}, std::uint8_t{'b'}}) {
             const pid_t dite = fork();
             if (dite == 0)
                 for (;;)
