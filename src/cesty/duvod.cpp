@@ -53,10 +53,14 @@ Text stav_slovy(int n) {
 }
 
 // What becomes of a switch that is not the route's any more.
-Text ztracena_slovy(int n) {
-    const Cesta* drzi = drzitel(druh_prvku::vyhybka, n);
-    return drzi == nullptr ? Text("není v poloze cesty (NOUZ)"_cz)
-                           : Text("je pod závěrem cesty "_cz) + popis_cesty(*drzi);
+Text ztracena_slovy(const Cesta& c, int n) {
+    if (const Cesta* drzi = drzitel(druh_prvku::vyhybka, n))
+        return Text("je pod závěrem cesty "_cz) + popis_cesty(*drzi);
+    for (std::size_t k = 1; k < c.prvky.size(); ++k)
+        if (c.prvky[k] == n && druh_na(c, k) == druh_prvku::vyhybka &&
+            poloha_stavu(stav_vyhybky_cislo(n)) == poloha_na(c, k))
+            return Text("není pod závěrem (NOUZ)"_cz);
+    return Text("není v poloze cesty (NOUZ)"_cz);
 }
 
 Text duvod_useku(int n) {
@@ -101,7 +105,7 @@ Text veta_prekazky(const Cesta& c, const Prekazka& p) {
                (vlaku == nullptr ? Text{} : popis_cesty(*vlaku));
     }
     case DruhPrekazky::ztracena:
-        return Text("výhybka "_cz) + jmeno_vyhybky(p.prvek) + " " + ztracena_slovy(p.prvek);
+        return Text("výhybka "_cz) + jmeno_vyhybky(p.prvek) + " " + ztracena_slovy(c, p.prvek);
     case DruhPrekazky::usek: return duvod_useku(p.prvek);
     case DruhPrekazky::konec:
         return duvod_konce("konec cesty drží cesta "_cz, [&](const Cesta& jina) {
@@ -163,7 +167,7 @@ Text duvod_klidu(const Cesta& c, std::int32_t ted) {
     if (c.Provedena && (c.Postavena || c.Umazat != 0))
         return {};
     if (const int n = c.Provedena ? ztracena_vyhybka(c) : kZadny; n != kZadny)
-        return Text("výhybka "_cz) + jmeno_vyhybky(n) + " " + ztracena_slovy(n) +
+        return Text("výhybka "_cz) + jmeno_vyhybky(n) + " " + ztracena_slovy(c, n) +
                Text(", cestu lze jen zrušit (RC)"_cz);
     if (c.Provedena)
         return je_zablokovano(c.zacatek) ? veta_prekazky(c, {DruhPrekazky::navestidlo, c.zacatek, 0})

@@ -74,6 +74,7 @@ TEST_F(Zaver, NouzUnderAClearedRoutePutsItsSignalToStopForGood) {
         hod_vyhybku(5, PovelVyhybky::minus); // lying right it is still not locked
         cekej(5);
         ASSERT_EQ(stav(5), 2);
+        EXPECT_EQ(duvod_cekani(0), "výhybka 5 není pod závěrem (NOUZ), cestu lze jen zrušit (RC)"_cz);
         obnov_cestu(240);
         EXPECT_FALSE(cesty[0].Postavena);
         zrus_cestu(240);

@@ -1,8 +1,6 @@
 // testy/nastroje/nahodna_doprava_test.cpp - the timetable of a week on the whole junction, worked by an
 // operator of random habits and by a hand that does anything: after every step of every timer the state holds
 // together.
-//
-// TESK_SEMENA=41-80 in the environment tries those seeds instead of the usual ones.
 #include "app/cas.h"
 #include "app/casovace.h"
 #include "app/kontrola.h"
@@ -24,14 +22,13 @@
 #include "obsluha/volba.h"
 #include "pomocne/cele_kolejiste.h"
 #include "pomocne/nahodna_ruka.h"
+#include "pomocne/semena.h"
 #include "pomocne/zdroje.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
 #include "save/ulozeni.h"
 #include "zaklad/nahoda.h"
 
-#include <cstdio>
-#include <cstdlib>
 #include <random>
 
 namespace {
@@ -213,15 +210,6 @@ protected:
     }
 };
 
-// "41-80", or the usual ones.
-std::pair<unsigned, unsigned> semena() {
-    const char* text = std::getenv("TESK_SEMENA");
-    unsigned od = 1, po = 14;
-    if (text != nullptr && std::sscanf(text, "%u-%u", &od, &po) != 2)
-        po = od;
-    return {od, po};
-}
-
 } // namespace
 
 TEST_P(NahodnaDoprava, StateHoldsTogetherThroughADayOfTheWeek) {
@@ -250,4 +238,4 @@ TEST_P(NahodnaDoprava, StateHoldsTogetherThroughADayOfTheWeek) {
         EXPECT_TRUE(ruka.pouzito().contains(prikaz)) << prikaz;
 }
 
-INSTANTIATE_TEST_SUITE_P(Dny, NahodnaDoprava, testing::Range(semena().first, semena().second + 1));
+INSTANTIATE_TEST_SUITE_P(Dny, NahodnaDoprava, semena(1, 14));
