@@ -42,9 +42,9 @@ struct Stul {
         const auto n = static_cast<std::int16_t>(i % 60 + 1);
         z = {n,
              static_cast<std::int16_t>(i < 60 ? n + 60 : 200 + i),
-             {n, n, static_cast<std::int16_t>(n + 60)},
-             {1, 2, 1},
-             {2, 2, 0},
+             {{n, druh_prvku::kolej, 2},
+              {n, druh_prvku::vyhybka, 2},
+              {static_cast<std::int16_t>(n + 60), druh_prvku::kolej, 0}},
              0};
         return z;
     }

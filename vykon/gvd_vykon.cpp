@@ -86,7 +86,7 @@ void start(benchmark::State& stav) {
     soubor.l(0);
     soubor.text({});
     for (const GvdVlak& r : rady(stav.range(0)))
-        popis_gvd_vlaku(soubor, r);
+        popis_poli(soubor, r);
     for (auto _ : stav) {
         stav.PauseTiming();
         cele_kolejiste();

@@ -57,7 +57,7 @@ struct Koleje {
         Cesta c;
         c.zacatek = n;
         c.konec = static_cast<std::int16_t>(dalsi);
-        c.prvky = prvky_cesty({{n, druh_prvku::kolej, 0}, {c.konec, druh_prvku::kolej, 0}});
+        c.prvky = {{n, druh_prvku::kolej, 0}, {c.konec, druh_prvku::kolej, 0}};
         c.VC = c.prehozena = c.Postavena = c.Provedena = true;
         c.prejezd = kBezPrejezdu;
         cesty.push_back(c);
@@ -68,7 +68,7 @@ struct Koleje {
         vlak.max_rychlost = vlak.rychlost_trati = 100;
         vlak.smer = vlak.muze_jet = true;
         vlak.vozy = {{"754", {}, {}}, {"B", {}, {}}, {"B", {}, {}}};
-        vlak.prvky = prvky_cesty({{n, druh_prvku::kolej, 0}});
+        vlak.prvky = {{n, druh_prvku::kolej, 0}};
         pridej_na_kolej(n, v, true, -1);
     }
 };
