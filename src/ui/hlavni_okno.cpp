@@ -105,13 +105,6 @@ Klavesa klavesa_qt(const QKeyEvent& udalost) {
     for (const Preklad& p : kKlavesy)
         if (p.qt == udalost.key())
             k.kod = p.kod;
-    // Ctrl+Alt+F10 has a name of its own under X, whose server mostly keeps it: where it comes, it is that
-    // key.
-    constexpr quint32 kPrepniTerminal10 = 0x1008FE0A;
-    if (udalost.nativeVirtualKey() == kPrepniTerminal10) {
-        k.kod = KodKlavesy::f10;
-        k.ctrl = k.alt = true;
-    }
     return k;
 }
 

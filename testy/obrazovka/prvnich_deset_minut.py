@@ -19,8 +19,8 @@ ZELENA, CERVENA = s.ZELENA, (255, 0, 0)
 MISTO_LHO_S1, MISTO_TVH_1S = (80, 85, 8, 13), (264, 85, 8, 13)
 KOLEJ_1, ZHLAVI_LHO, ZHLAVI_TVH = (60, 91), (130, 91), (420, 91)  # on the line, beside all texts
 
-# 1: time, day, speed, timetable, no delays
-s.nastav_cas(stul, "7", "41")
+# 1: time, day, speed, timetable, no delays; a minute later than the manual, nothing happens in it
+s.nastav_cas(stul, "7", "42")
 stul.klavesa("alt+r")
 for klavesa in ("Home", "Down"):
     stul.klavesa(klavesa)
@@ -67,7 +67,6 @@ stul.klavesa("KP_Add")
 
 # 6: the train leaves
 stul.cekej_na("vlak na zhlaví", lambda o: o.bod(*ZHLAVI_LHO) == CERVENA, 600)
-stul.cekej_na("volná kolej za vlakem", lambda o: o.bod(*KOLEJ_1) == s.SEDA, 600)
 stul.obraz("vlak_jede")
 s.ukonci(stul)
 print("v pořádku")
