@@ -57,7 +57,7 @@ Text ztracena_slovy(const Cesta& c, int n) {
     if (const Cesta* drzi = drzitel(druh_prvku::vyhybka, n))
         return Text("je pod závěrem cesty "_cz) + popis_cesty(*drzi);
     for (std::size_t k = 1; k < c.prvky.size(); ++k)
-        if (c.prvky[k] == n && druh_na(c, k) == druh_prvku::vyhybka &&
+        if (c.prvky[k].prvek == n && druh_na(c, k) == druh_prvku::vyhybka &&
             poloha_stavu(stav_vyhybky_cislo(n)) == poloha_na(c, k))
             return Text("není pod závěrem (NOUZ)"_cz);
     return Text("není v poloze cesty (NOUZ)"_cz);

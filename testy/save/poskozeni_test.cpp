@@ -12,6 +12,7 @@
 #include "app/nova_simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/tabulky.h"
+#include "cesty/zasobnik.h"
 #include "desk/menu.h"
 #include "desk/zprava.h"
 #include "jizda/vlak.h"
