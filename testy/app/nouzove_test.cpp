@@ -9,7 +9,6 @@
 #include "app/parametry.h"
 #include "app/start.h"
 #include "cesty/cesta.h"
-#include "cesty/tik_volby.h"
 #include "desk/stav_blikani.h"
 #include "desk/zprava.h"
 #include "jizda/krok_jizdy.h"
@@ -156,7 +155,7 @@ TEST_F(Nouzove, ErrorInTheRouteMachineEndsWithTheStateOfTheLastMinute) {
     cesty.insert(cesty.begin(), vadna);
     vyber.volba_cas = 1; // a pick that nobody has ended is told with a beep
     selze_jednou(platforma.pipni, 4);
-    EXPECT_FALSE(bezpecne(tik_volby));
+    EXPECT_FALSE(bezpecne(krok_volby));
     over_konec_s_ulozenim(340);
     over_pokracovani("12:02:58");
 }
