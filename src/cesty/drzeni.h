@@ -16,7 +16,7 @@ bool drzi(const Cesta& c, std::size_t k);
 // Class in which route c locks its switches, of stav_vyhybky.
 int zaver_vyhybek(const Cesta& c);
 // The route that holds element n of the kind; nullptr when none does. Where two records name a switch, the
-// one that was commanded last: the other has lost it before.
+// one that was commanded last, or has locked it since the other lost it.
 const Cesta* drzitel(std::uint8_t druh, int n);
 // Another route than c holds its entry k.
 bool drzi_jina(const Cesta& c, std::size_t k);

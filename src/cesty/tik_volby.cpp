@@ -290,6 +290,24 @@ void uzavri_prvky(const Cesta& c) {
     }
 }
 
+bool maji_spolecnou_vyhybku(const Cesta& a, const Cesta& b) {
+    return std::any_of(a.prvky.begin() + 1, a.prvky.end(), [&b](const PrvekCesty& p) {
+        return p.druh == druh_prvku::vyhybka &&
+               std::any_of(b.prvky.begin() + 1, b.prvky.end(),
+                           [&p](const PrvekCesty& q) { return q.druh == p.druh && q.prvek == p.prvek; });
+    });
+}
+
+// A route that had to wait until its switch lies right again may lock it after a route commanded later has
+// locked it and lost it. The switch belongs to the one commanded last, so from here on that is this one:
+// else the cancelling of the other would free a switch under a cleared signal.
+void prevezmi_vyhybky(Cesta& c) {
+    for (const Cesta& jina : cesty)
+        if (&jina != &c && jina.zacatek >= 0 && jina.Provedena && jina.Kdy_prehoz >= c.Kdy_prehoz &&
+            maji_spolecnou_vyhybku(c, jina))
+            c.Kdy_prehoz = jina.Kdy_prehoz + 1;
+}
+
 void pripoj_usek(Cesta& c, int n) {
     if (!je_kolej(n) || obsahuje(c.prvky, n))
         return;
@@ -327,6 +345,7 @@ void uzavri_cestu(int i, Pruchod& pruchod) {
         zablokuj(c, pruchod);
         return;
     }
+    prevezmi_vyhybky(c);
     uzavri_prvky(c);
     if (!c.PN && je_kolej(c.konec) && relief.kolej[c.konec].barva == barvy::azurova)
         barvi_prvek(c.konec, c.VC ? barvy::zelena : barvy::bila, false, true);

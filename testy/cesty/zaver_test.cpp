@@ -135,6 +135,31 @@ TEST_F(Zaver, SwitchOfTwoRoutesInOnePositionIsTheLaterOnes) {
     }
 }
 
+// The route commanded first has lost the switch to the second, and gets it back when NOUZ takes it from that.
+TEST_F(Zaver, SwitchLockedUnderAClearedSignalIsNotFreedByCancellingTheRouteThatLostIt) {
+    zarad(242, 604);
+    cekej(2);
+    vyhybka_nouz(6); // the end in which the switch lies is one that NOUZ keeps
+    ASSERT_EQ(stav(6), 6);
+    zarad(242, 604);
+    cekej(12);
+    ASSERT_TRUE(cesty[1].Postavena);
+    ASSERT_FALSE(cesty[0].Provedena);
+    vyhybka_nouz(6);
+    ASSERT_FALSE(cesty[1].Postavena);
+    cekej(1);
+    ASSERT_TRUE(cesty[0].Postavena);
+    ASSERT_EQ(stav(6), 56);
+    EXPECT_EQ(drzitel(druh_prvku::vyhybka, 6), &cesty[0]);
+    obnov_cestu(242);
+    EXPECT_FALSE(cesty[1].Postavena);
+    zrus_cestu(242); // the newer one
+    cekej(6);
+    ASSERT_TRUE(cesty[0].Postavena);
+    EXPECT_EQ(cesty.size(), 1u);
+    EXPECT_EQ(stav(6), 56);
+}
+
 TEST_F(Zaver, NouzOnASwitchOfAnotherRouteLeavesThisOneAlone) {
     postav(240, 47);
     vyhybka_nouz(5);
