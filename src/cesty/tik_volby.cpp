@@ -291,9 +291,9 @@ void uzavri_prvky(const Cesta& c) {
 }
 
 bool maji_spolecnou_vyhybku(const Cesta& a, const Cesta& b) {
-    return std::any_of(a.prvky.begin() + 1, a.prvky.end(), [&b](const PrvekCesty& p) {
+    return std::any_of(a.prvky.begin(), a.prvky.end(), [&b](const PrvekCesty& p) {
         return p.druh == druh_prvku::vyhybka &&
-               std::any_of(b.prvky.begin() + 1, b.prvky.end(),
+               std::any_of(b.prvky.begin(), b.prvky.end(),
                            [&p](const PrvekCesty& q) { return q.druh == p.druh && q.prvek == p.prvek; });
     });
 }
