@@ -70,10 +70,12 @@ struct Zaznam {
     bool operator==(const Zaznam&) const = default;
 };
 
+#ifndef __clang__ // clang 14 makes no std::string in a constant expression
 static_assert(nejkratsi_zaznam<DalsiVlak>() == 11 && nejkratsi_zaznam<Cesta>() == 57 &&
               nejkratsi_zaznam<Vlak>() == 75 && nejkratsi_zaznam<StanicniPrejezd>() == 13 &&
               nejkratsi_zaznam<Prejezd>() == 12 && nejkratsi_zaznam<StitekPrvku>() == 8 &&
               nejkratsi_zaznam<KolejVlaky>() == 4);
+#endif
 
 // A route, or a train that moves, whose lists differ in length is no record: the run-time error 9. What a
 // free record holds is read by nobody.
