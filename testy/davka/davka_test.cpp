@@ -2,6 +2,7 @@
 #include "app/simulace.h"
 #include "davka/davka.h"
 #include "pomocne/male_kolejiste.h"
+#include "pomocne/semena.h"
 
 #include <gtest/gtest.h>
 
@@ -236,8 +237,9 @@ TEST_F(Davka, WaitingForATimeStopsAtItsNextReading) {
     vypis(kStart + "cekej_do 12:10:00\nover hodiny cas=12:10:00 minuty_simulace=11\n"
                    "cekej_do 12:10:00\nover hodiny cas=12:10:00\n");
     vypis("spust cas=23:50 rychlost=8\nprihlas\ncekej_do 0:10:00\nover hodiny cas=0:10:00\n");
-    vypis("spust cas=12:00 rychlost=8\nprihlas\ncekej 5s\ncekej_do 12:00:00\n"
-          "over hodiny cas=12:00:00 minuty_simulace=1441\n");
+    if (TESK_DIL_ZKOUSEK == 1) // a whole day: long under the sanitizers
+        vypis("spust cas=12:00 rychlost=8\nprihlas\ncekej 5s\ncekej_do 12:00:00\n"
+              "over hodiny cas=12:00:00 minuty_simulace=1441\n");
 }
 
 TEST_F(Davka, WaitingForATimeInAPauseIsRefused) {
