@@ -3,7 +3,6 @@
 # the clock and the running train go on where they were, without a jump and without an error.
 import os
 import signal
-import struct
 import sys
 import time
 
@@ -12,49 +11,7 @@ import stul as s
 program, slozka = s.priprav(sys.argv[1:])
 DRZET_S = 15
 
-
-def pole(tvar, hodnoty):
-    return struct.pack("<Hii", 1, len(hodnoty), 0) + struct.pack("<%d%s" % (len(hodnoty), tvar), *hodnoty)
-
-
-def text(slovo):
-    return struct.pack("<H", len(slovo)) + slovo.encode("cp1250")
-
-
-def texty(slova):
-    return struct.pack("<Hii", 1, len(slova), 0) + b"".join(map(text, slova))
-
-
-def kolejiste():
-    """From Lhotín on the left over a long section to the exit of Borovec on the right."""
-    r = s.Relief()
-    r.kolej(87, 10, 28, 8)
-    r.cislo_koleje(87, 18, 8, " 1 ")
-    r.navestidlo(287, 28, 8, 229, "LHO S1")
-    r.kolej(440, 29, 60, 8)
-    r.vyhybka(1, 60, 8, 3)
-    r.kolej(63, 62, 90, 8)
-    r.cislo_koleje(63, 72, 8, " 2 ")
-    return r.bajty
-
-
-def soubor(jmeno, bajty):
-    with open(os.path.join(slozka, *jmeno.split("/")), "wb") as f:
-        f.write(bajty)
-
-
-for pripona in ("rea", "reb"):
-    soubor("data/tesk." + pripona, kolejiste())
-soubor("data/tesk.top", b"4400999")
-soubor("data/tesk.stg", b"\x01" + pole("B", (255,)) + text("1"))
-soubor("data/tesk.zat", struct.pack("<hh", 287, 63) + pole("h", (87, 440, 1, 63)) + pole("B", (1, 1, 2, 1)) +
-       pole("B", (0, 0, 3, 0)) + b"\0")
-os.remove(os.path.join(slozka, "gvd", "GVD_tichy.dat"))
-soubor("gvd/GVD_vlak.dat", b"\0" * 4 + text("jeden vlak") + pole("B", (1, 2)) + pole("h", (720, -1)) +
-       pole("h", (720, 730)) + struct.pack("<BiBiB", 7, 4711, 0, 0, 0) + text("") +
-       struct.pack("<Bhhhhh", 60, 60, 0, 754, 0, 0) + texty(("754", "B")) + pole("h", (0, 0)) +
-       5 * text("") + struct.pack("<BB", 127, 0))
-
+s.kolejiste_jednoho_vlaku(slozka, 999, 60)
 stul = s.Stul(program, slozka)
 s.prihlas(stul, rychle=True)  # at 12:00
 stul.cekej("mapa stolu", lambda: os.path.exists(os.path.join(slozka, "stav.txt")))

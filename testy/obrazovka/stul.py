@@ -366,6 +366,44 @@ def je_formular(obraz):
     return obraz.bodu(obraz.sirka // 2 - 310, obraz.vyska // 2 - 200, 100, 100, BARVA_FORMULARE) > 1000
 
 
+def kolejiste_jednoho_vlaku(slozka, delka_m, rychlost):
+    """The data of an installation in the folder with a line from Lhotín on the left over one switch to the exit
+    of Borovec on the right, its long section of so many metres; and a timetable of one train, of that speed in
+    km/h: announced at the start at 12:00, it leaves Lhotín in the first minute and runs through Borovec."""
+    def pole(tvar, hodnoty):
+        return struct.pack("<Hii", 1, len(hodnoty), 0) + struct.pack("<%d%s" % (len(hodnoty), tvar), *hodnoty)
+
+    def text(slovo):
+        return struct.pack("<H", len(slovo)) + slovo.encode("cp1250")
+
+    def texty(slova):
+        return struct.pack("<Hii", 1, len(slova), 0) + b"".join(map(text, slova))
+
+    def soubor(jmeno, bajty):
+        with open(os.path.join(slozka, *jmeno.split("/")), "wb") as f:
+            f.write(bajty)
+
+    r = Relief()
+    r.kolej(87, 10, 28, 8)
+    r.cislo_koleje(87, 18, 8, " 1 ")
+    r.navestidlo(287, 28, 8, 229, "LHO S1")
+    r.kolej(440, 29, 60, 8)
+    r.vyhybka(1, 60, 8, 3)
+    r.kolej(63, 62, 90, 8)
+    r.cislo_koleje(63, 72, 8, " 2 ")
+    for pripona in ("rea", "reb"):
+        soubor("data/tesk." + pripona, r.bajty)
+    soubor("data/tesk.top", b"440%04d" % delka_m)
+    soubor("data/tesk.stg", b"\x01" + pole("B", (255,)) + text("1"))
+    soubor("data/tesk.zat", struct.pack("<hh", 287, 63) + pole("h", (87, 440, 1, 63)) + pole("B", (1, 1, 2, 1)) +
+           pole("B", (0, 0, 3, 0)) + b"\0")
+    os.remove(os.path.join(slozka, "gvd", "GVD_tichy.dat"))
+    soubor("gvd/GVD_vlak.dat", b"\0" * 4 + text("jeden vlak") + pole("B", (1, 2)) + pole("h", (720, -1)) +
+           pole("h", (720, 730)) + struct.pack("<BiBiB", 7, 4711, 0, 0, 0) + text("") +
+           struct.pack("<Bhhhhh", rychlost, 60, 0, 754, 0, 0) + texty(("754", "B")) + pole("h", (0, 0)) +
+           5 * text("") + struct.pack("<BB", 127, 0))
+
+
 def rozdil(a, b, kde):
     """How many bytes of the area differ between two pictures."""
     x, y = (int.from_bytes(o.vyrez(*kde), "little") for o in (a, b))
