@@ -2,6 +2,7 @@
 #include "app/nova_simulace.h"
 #include "app/simulace.h"
 #include "desk/info_o_vlaku.h"
+#include "desk/hlaseni.h"
 #include "desk/predvidane_vlaky.h"
 #include "desk/tabulka_vlaku.h"
 #include "gvd/gvd.h"
@@ -81,7 +82,7 @@ void predpoved(benchmark::State& stav) {
     }
     gvd_vlaky = TabulkaGvd(std::move(radky));
     for (int n = 0; n < 20; ++n)
-        relief.lstZpravy.radky.push_back(Text("Zpoždění vlaku "_cz) + text_cisla(900'000 + n) + " +15");
+        prevezmi_hlaseni({Text("Zpoždění vlaku "_cz) + text_cisla(900'000 + n) + " +15"});
     simulace.pauza = false;
     relief.lblcas[0].text = Text("10:00:00");
     for (auto _ : stav) {

@@ -2,6 +2,7 @@
 #include "app/cas.h"
 #include "app/nova_simulace.h"
 #include "app/simulace.h"
+#include "desk/hlaseni.h"
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
 #include "gvd/zaplneni.h"
@@ -40,7 +41,7 @@ void krok(benchmark::State& stav) {
     nova_simulace();
     gvd_vlaky = TabulkaGvd(rady(stav.range(0)));
     for (int n = 0; n < 20; ++n)
-        relief.lstZpravy.radky.push_back(Text("Zpoždění vlaku "_cz) + text_cisla(900'000 + n) + " +15");
+        prevezmi_hlaseni({Text("Zpoždění vlaku "_cz) + text_cisla(900'000 + n) + " +15"});
     int minuta = 0;
     for (auto _ : stav) {
         relief.lblcas[0].text = text_casu(minuta++ % 1440 * 60);

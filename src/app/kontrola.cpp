@@ -9,6 +9,7 @@
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/drzeni.h"
+#include "desk/hlaseni.h"
 #include "desk/menu.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
@@ -184,6 +185,8 @@ Nalez pult() {
         return Text("stitky: tabulka je prázdná"_cz);
     return std::nullopt;
 }
+    if (relief.lstZpravy.radky != texty_hlaseni())
+        return Text("lstZpravy: ukazuje něco jiného, než co hlásí"_cz);
 
 Nalez souhlasy_trati() {
     const auto& cekajici = souhlasy.cekajici_vlaky;

@@ -54,6 +54,7 @@
     TABULKA(menu, {})                                                                                        \
     TABULKA(stav_menu_koleje, {})                                                                            \
     TABULKA(blikani, {})                                                                                     \
+    TABULKA(hlaseni, {})                                                                                     \
     TABULKA(technologie, {})                                                                                 \
     TABULKA(provoz1, {})                                                                                     \
     TABULKA(provoz2, {})                                                                                     \

@@ -3,10 +3,10 @@
 
 #include "app/cas.h"
 #include "app/simulace.h"
+#include "desk/hlaseni.h"
 #include "desk/zprava.h"
 #include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
-#include "gvd/provoz.h"
 #include "gvd/skladba.h"
 #include "jizda/souprava.h"
 #include "jizda/vlak.h"

@@ -3,8 +3,8 @@
 
 #include "app/cas.h"
 #include "app/simulace.h"
+#include "desk/hlaseni.h"
 #include "gvd/gvd.h"
-#include "gvd/provoz.h"
 #include "relief/relief.h"
 #include "uzel/dopravny.h"
 #include "zaklad/cisla.h"

@@ -231,12 +231,3 @@ void prepni_panel(Panel panel) {
     ukaz_obsah(panel);
     ++revize_reliefu;
 }
-
-void smaz_radek_zprav() {
-    Seznam& seznam = relief.lstZpravy;
-    if (seznam.vybrany < 0 || static_cast<std::size_t>(seznam.vybrany) >= seznam.radky.size())
-        return;
-    seznam.radky.erase(seznam.radky.begin() + seznam.vybrany);
-    seznam.vybrany = std::min(seznam.vybrany, static_cast<int>(seznam.radky.size()) - 1);
-    ++revize_reliefu;
-}

@@ -59,5 +59,3 @@ void ukaz_zvuk();
 // Which of the four buttons of the bottom panel is pressed.
 enum class Panel : std::uint8_t { zpravy, denik, tabulka, vlak };
 void prepni_panel(Panel panel);
-// Delete on the selected line of lstZpravy: the delay of that train is then 0.
-void smaz_radek_zprav();

@@ -7,6 +7,7 @@
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
 #include "cesty/nova_cesta.h"
+#include "desk/hlaseni.h"
 #include "desk/tabulka_vlaku.h"
 #include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
@@ -34,8 +35,6 @@
 
 namespace {
 
-constexpr TextPohled kZpozdeniVlaku = "Zpoždění vlaku "_cz;
-constexpr std::size_t kMistoCisla = 16;               // the number in a delay line, counted from 1
 constexpr std::int16_t kPoOhlaseni = 100;             // the announced train no longer is the nearest one
 constexpr int kVyjezdZDepa = 30, kNejdriveStart = 16; // minutes before its departure when a set comes out
 constexpr std::int32_t kCislaDepa = 70000;            // numbers from here run as trains at the depot of VH
@@ -47,27 +46,17 @@ struct Zpozdeny {
     std::int16_t minut = 0;
 };
 
-bool precti_radek_zpozdeni(TextPohled radek_zprav, Zpozdeny& z) {
-    if (radek_zprav.find(orez(kZpozdeniVlaku)) == TextPohled::npos)
-        return false;
-    const TextPohled konec =
-        radek_zprav.size() > 3 ? radek_zprav.substr(radek_zprav.size() - 3) : radek_zprav;
-    z = {cele_z_textu(vyrez(radek_zprav, kMistoCisla)), na_integer(cislo_z_textu(konec))};
-    return true;
-}
-
-// The delay lines, read once a step: by number, of equal ones the first line of the list.
+// The delays of the message list, sorted once a step: by number, of equal ones the first line of the list.
 std::vector<Zpozdeny> zpozdeni_kroku;
 
 // The rows that the step looks at, in file order.
 std::vector<int> radky_kroku;
 
-void precti_zpozdeni() {
+void serad_zpozdeni() {
     zpozdeni_kroku.clear();
-    Zpozdeny z;
-    for (const Text& r : relief.lstZpravy.radky)
-        if (precti_radek_zpozdeni(r, z))
-            zpozdeni_kroku.push_back(z);
+    for (const Hlaseni& h : hlaseni)
+        if (h.zpozdeni)
+            zpozdeni_kroku.push_back({h.cislo, h.minut});
     std::stable_sort(zpozdeni_kroku.begin(), zpozdeni_kroku.end(),
                      [](const Zpozdeny& a, const Zpozdeny& b) { return a.cislo < b.cislo; });
 }
@@ -84,10 +73,9 @@ void losuj_zpozdeni(int gvd_index) {
     const std::int16_t minut = nahodne_zpozdeni(gvd_index);
     if (minut <= 0)
         return;
-    relief.lstZpravy.radky.push_back(Text(kZpozdeniVlaku) + text_cisla(radek_gvd(gvd_index).cislo) + " +" +
-                                     text_cisla(minut) + Text("´"_cz));
+    pridej_zpozdeni(radek_gvd(gvd_index).cislo, minut);
     simulace.nova_zprava = true;
-    precti_zpozdeni();
+    serad_zpozdeni();
 }
 
 // --- entries
@@ -306,7 +294,7 @@ void krok_provozu() {
     simulace.nova_pipnuti = false;
     zaloha_731();
     const int ted = minuta_dne(cas_hodin());
-    precti_zpozdeni();
+    serad_zpozdeni();
     vyber_radky(ted);
     for (std::size_t i = 0; i < radky_kroku.size(); ++i) {
         const int n = radky_kroku[i];
@@ -451,14 +439,6 @@ void pridej_cestu_souhlasu(int k) {
     const uzel::KonecTrati& konec = uzel::kKonceTrati.at(static_cast<std::size_t>(k));
     const std::array prvky = {na_integer(konec.navestidlo), na_integer(konec.usek)};
     pridej_programovou_cestu(konec.vjezd, konec.usek, prvky);
-}
-
-std::int16_t zpozdeni_vlaku(std::int32_t cislo) {
-    Zpozdeny z;
-    for (const Text& r : relief.lstZpravy.radky)
-        if (precti_radek_zpozdeni(r, z) && z.cislo == cislo)
-            return z.minut;
-    return 0;
 }
 
 bool je_cekajici(std::int32_t cislo) {

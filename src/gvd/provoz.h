@@ -1,7 +1,4 @@
 // gvd/provoz.h - the traffic: each simulated minute the timetable is turned into trains.
-//
-// The delay of a train stands in no field but in the delay line of lstZpravy: the operator sees and the
-// program reads the same line, and deleting it makes the train punctual: the operator has told it on.
 #pragma once
 
 #include <cstdint>
@@ -38,7 +35,5 @@ void pridej_cestu_souhlasu(int k);
 
 // --- at any time, without change
 
-// Delay of the train in minutes by its line in lstZpravy; 0 without one.
-std::int16_t zpozdeni_vlaku(std::int32_t cislo);
 // The number stands in the list of the trains that may enter.
 bool je_cekajici(std::int32_t cislo);

@@ -4,6 +4,7 @@
 #include "app/simulace.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
+#include "desk/hlaseni.h"
 #include "desk/zprava.h"
 #include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
@@ -109,26 +110,6 @@ bool spravny_smer(const Vlak& vlak, int stanice) {
         return true;
     const int cil = vlak.stanice.back();
     return cil == stanice || (je_v(cil, uzel::kVJednomSmeru) && je_v(stanice, uzel::kVJednomSmeru));
-}
-
-// Delays are told by the number of the timetable, which is the first one.
-void smaz_hlaseni_zpozdeni(const Vlak& vlak) {
-    constexpr std::size_t kSloupecCisla = 16;
-    const auto jeho = [&](const Text& radek) {
-        const std::int32_t cislo = cele_z_textu(vyrez(radek, kSloupecCisla));
-        return radek.find("Zpoždění vlaku"_cz) != Text::npos &&
-               (cislo == vlak.cislo || cislo == zobrazene_cislo(vlak));
-    };
-    Seznam& seznam = relief.lstZpravy;
-    for (std::size_t i = seznam.radky.size(); i-- > 0;) {
-        if (!jeho(seznam.radky[i]))
-            continue;
-        seznam.radky.erase(seznam.radky.begin() + static_cast<std::ptrdiff_t>(i));
-        if (static_cast<int>(i) < seznam.vybrany) // the choice of the operator stays on its train
-            --seznam.vybrany;
-        ++revize_reliefu;
-    }
-    seznam.vybrany = std::min(seznam.vybrany, static_cast<int>(seznam.radky.size()) - 1);
 }
 
 // The standby locomotive of the stabling yard goes out; which side it took decides where the next comes from.
@@ -266,7 +247,8 @@ void vlak_opustil(int v, int stanice) {
         veta += ") !";
         zprava(" POZOR "_cz, veta, barvy::bila, 0, false, 0xFFFFFF, barvy::cervena);
     }
-    smaz_hlaseni_zpozdeni(vlak_c(v));
+    // Delays are told by the number of the timetable, which is the first one.
+    smaz_zpozdeni(vlak_c(v).cislo, zobrazene_cislo(vlak_c(v)));
     zapocti_odchod_zalohy(vlak_c(v));
     zrus_vlak(v);
 }

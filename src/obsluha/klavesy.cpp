@@ -3,6 +3,7 @@
 
 #include "app/konec.h"
 #include "app/simulace.h"
+#include "desk/hlaseni.h"
 #include "desk/info_o_vlaku.h"
 #include "desk/menu.h"
 #include "desk/zprava.h"

@@ -4,6 +4,7 @@
 #include "app/cas.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
+#include "desk/hlaseni.h"
 #include "desk/stitky.h"
 #include "gvd/gvd.h"
 #include "jizda/vlak.h"
@@ -143,8 +144,8 @@ void pis_koleje(const Vypis& f) {
 
 void pis_desku(const Vypis& f) {
     f.radek("Zpravy:");
-    for (const Text& zprava : relief.lstZpravy.radky)
-        f.radek(zprava);
+    for (const Hlaseni& h : hlaseni)
+        f.radek(h.text);
     f.radek("Souhlas");
     for (const std::int32_t cislo : souhlasy.cekajici_vlaky)
         f.radek(text_cisla(cislo));

@@ -7,6 +7,7 @@
 #include "cesty/odpocet_pn.h"
 #include "cesty/prekazky.h"
 #include "cesty/zasobnik.h"
+#include "desk/hlaseni.h"
 #include "desk/stav_blikani.h"
 #include "jizda/krok_jizdy.h"
 #include "jizda/zastavky.h"
@@ -21,7 +22,6 @@
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <iterator>
 #include <utility>
 #include <vector>
 
@@ -214,9 +214,7 @@ void prevezmi_seznamy(Zaznam& z) {
     for (std::size_t i = 0; i < z.tabulka.size(); ++i)
         if (relief.lblTabulka_vlaku.je(static_cast<int>(i)))
             relief.lblTabulka_vlaku[static_cast<int>(i)].text = z.tabulka[i];
-    relief.lstZpravy.radky.insert(relief.lstZpravy.radky.end(), std::make_move_iterator(z.zpravy.begin()),
-                                  std::make_move_iterator(z.zpravy.end()));
-    ++revize_reliefu;
+    prevezmi_hlaseni(z.zpravy);
 }
 
 // --- what no field holds, and the others tell

@@ -3,6 +3,7 @@
 
 #include "app/cas.h"
 #include "app/simulace.h"
+#include "desk/hlaseni.h"
 #include "desk/stav_blikani.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stav_vyhybek.h"
@@ -177,7 +178,7 @@ Zaznam zaznam_simulace() {
     z.tabulka = podle_cisla<Text>(radky, 0, radky.nejvyssi(), [](const Prvek& p) { return p.text(); });
     std::transform(blikani.blikani_radku.begin(), blikani.blikani_radku.end(),
                    std::back_inserter(z.tabulka_blikani), priznak);
-    z.zpravy = relief.lstZpravy.radky;
+    z.zpravy = texty_hlaseni();
     return z;
 }
 

@@ -289,7 +289,7 @@ TEST_F(BlikaniDesky, JunctionWithoutLineCrossingsBlinksOn) {
 }
 
 TEST_F(BlikaniDesky, NewDelayMarksTheMessageButton) {
-    relief.lstZpravy.radky = {"a", "b"};
+    prevezmi_hlaseni({"a", "b"});
     simulace.nova_zprava = true;
     krok_blikani();
     EXPECT_EQ(relief.cmdZpravy[0].pozadi, barvy::zelena);

@@ -1,6 +1,7 @@
 // testy/davka/vypisy_test.cpp - what the headless runner prints of the desk.
 #include "davka/json.h"
 #include "davka/vypisy.h"
+#include "desk/hlaseni.h"
 #include "desk/info_o_vlaku.h"
 #include "desk/zprava.h"
 #include "jizda/vlak.h"
@@ -41,7 +42,7 @@ TEST_F(Vypisy, InformationHasTheTextTheTrainAndItsVehicles) {
 }
 
 TEST_F(Vypisy, ListsOfTheDeskAreTexts) {
-    relief.lstZpravy.radky = {Text("Zpoždění vlaku 1 +5´"_cz)};
+    prevezmi_hlaseni({Text("Zpoždění vlaku 1 +5´"_cz)});
     relief.lstDenik.radky = {"a", "b"};
     EXPECT_EQ(vypsano("zpravy"), R"({"vypis": "zpravy", "radky": ["Zpoždění vlaku 1 +5´"], "vybrany": -1})");
     EXPECT_EQ(vypsano("denik"), R"({"vypis": "denik", "radky": ["a", "b"], "vybrany": -1})");

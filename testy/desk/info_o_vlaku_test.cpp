@@ -1,4 +1,5 @@
 // testy/desk/info_o_vlaku_test.cpp - the information of a train and the row of its vehicles.
+#include "desk/hlaseni.h"
 #include "desk/info_o_vlaku.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
@@ -448,7 +449,7 @@ TEST_F(InfoVlaku, NumberWithoutATrainIsToldByTheTimetable) {
     });
     radek(1400);
     zmen_radek_gvd(1, [](GvdVlak& g) { g.stanice = {6, 12, 9, 1}; });
-    relief.lstZpravy.radky = {Text("Zpoždění vlaku 1400 +8´"_cz)};
+    prevezmi_hlaseni({Text("Zpoždění vlaku 1400 +8´"_cz)});
     info_podle_gvd(1400); // today's row
     EXPECT_TRUE(radka().starts_with("Os 1400  (Rokytno průj. 12:00 ... Lhotín příj. 13:20) 8min; "_cz));
     EXPECT_EQ(vlak_na_panelu(), kZadny);

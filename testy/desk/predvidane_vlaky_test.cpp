@@ -42,7 +42,7 @@ protected:
 
 TEST_F(PredvidaneVlaky, LineHasCategoryNumberTimeAndDelayAtTheirColumns) {
     vlak(1234, 1, 5, 485, 510);
-    relief.lstZpravy.radky = {Text("Zpoždění vlaku 1234 +7´"_cz)};
+    prevezmi_hlaseni({Text("Zpoždění vlaku 1234 +7´"_cz)});
     predvidane_vlaky(1);
     ASSERT_EQ(denik().size(), 2u);
     EXPECT_EQ(denik()[0], "R     1234   8:05 +7´    "_cz);
@@ -74,7 +74,7 @@ TEST_F(PredvidaneVlaky, ThoseDueLastComeFirstAndTheHeadStandsBelow) {
 TEST_F(PredvidaneVlaky, DelayMovesATrainIntoTheHourAndOutOfIt) {
     vlak(10, 1, 5, 470, 510);
     vlak(20, 1, 5, 535, 570);
-    relief.lstZpravy.radky = {Text("Zpoždění vlaku 10 +15´"_cz), Text("Zpoždění vlaku 20 +15´"_cz)};
+    prevezmi_hlaseni({Text("Zpoždění vlaku 10 +15´"_cz), Text("Zpoždění vlaku 20 +15´"_cz)});
     predvidane_vlaky(1);
     ASSERT_EQ(denik().size(), 2u);
     EXPECT_EQ(denik()[0], "R       10   7:50 +15´   "_cz);
@@ -105,7 +105,7 @@ TEST_F(PredvidaneVlaky, TrainThatEndsThereIsSortedByTheMinuteOfTheDay) {
 
 TEST_F(PredvidaneVlaky, LateTrainThatEndsThereComesWithItsPlannedArrival) {
     vlak(10, 5, 1, 485, 510);
-    relief.lstZpravy.radky = {Text("Zpoždění vlaku 10 +5´"_cz)}; // no departure: sorted by 5 - 1
+    prevezmi_hlaseni({Text("Zpoždění vlaku 10 +5´"_cz)}); // no departure: sorted by 5 - 1
     predvidane_vlaky(1);
     ASSERT_EQ(denik().size(), 2u);
     EXPECT_EQ(denik()[0], "R       10   8:30 +5´    "_cz);

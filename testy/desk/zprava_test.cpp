@@ -1,5 +1,6 @@
 // testy/desk/zprava_test.cpp - the command line and what waits for it.
 #include "app/blikani.h"
+#include "desk/hlaseni.h"
 #include "desk/stav_blikani.h"
 #include "desk/zprava.h"
 #include "gvd/provoz.h"
@@ -233,7 +234,7 @@ TEST_F(DolniPanel, TableHidesTheTrainAndEmptiesItsText) {
 }
 
 TEST_F(DolniPanel, DeleteTakesTheSelectedDelayAway) {
-    relief.lstZpravy.radky = {"a", "b", "c"};
+    prevezmi_hlaseni({"a", "b", "c"});
     prepni_panel(Panel::zpravy);
     klik_na_radek(relief.lstZpravy, 1);
     klavesa({KodKlavesy::delete_});
@@ -244,7 +245,7 @@ TEST_F(DolniPanel, DeleteTakesTheSelectedDelayAway) {
 }
 
 TEST_F(DolniPanel, DeletedDelayMakesTheTrainPunctual) {
-    relief.lstZpravy.radky = {Text("Zpoždění vlaku 1234 +7´"_cz), Text("Zpoždění vlaku 5678 +15´"_cz)};
+    prevezmi_hlaseni({Text("Zpoždění vlaku 1234 +7´"_cz), Text("Zpoždění vlaku 5678 +15´"_cz)});
     ASSERT_EQ(zpozdeni_vlaku(1234), 7);
     klik(Druh::cmdZpravy, 0, Tlacitko::leve, false);
     klik_na_radek(relief.lstZpravy, 0);
@@ -259,7 +260,7 @@ TEST_F(DolniPanel, DeletedDelayMakesTheTrainPunctual) {
 
 TEST_F(DolniPanel, NewDelayIsMarkedAndItsListSelectedOnce) {
     simulace.pauza = false;
-    relief.lstZpravy.radky = {Text("Zpoždění vlaku 1234 +7´"_cz)};
+    prevezmi_hlaseni({Text("Zpoždění vlaku 1234 +7´"_cz)});
     simulace.nova_zprava = true;
     krok_blikani();
     EXPECT_EQ(relief.cmdZpravy[0].pozadi, barvy::zelena);

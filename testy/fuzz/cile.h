@@ -10,6 +10,7 @@
 #include "app/nacteni.h"
 #include "app/nova_simulace.h"
 #include "cesty/tabulky.h"
+#include "desk/hlaseni.h"
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
 #include "gvd/zaplneni.h"
@@ -338,7 +339,7 @@ inline Bajty vzor_zaznamu() {
     relief.imgVyhybka[5].stav = TextPohled("152");
     relief.kolej[3].barva = barvy::zelena;
     stitky.push_back({4, "a", "b", "c"});
-    relief.lstZpravy.radky = {"Zprava"};
+    prevezmi_hlaseni({"Zprava"});
     const Bajty vzor = bajty_zaznamu(zaznam_simulace());
     nova_simulace();
     return vzor;

@@ -1,5 +1,6 @@
 // testy/gvd/provoz_test.cpp - the traffic step: who comes at which minute, and with whose permission.
 #include "app/nova_simulace.h"
+#include "desk/hlaseni.h"
 #include "desk/stav_blikani.h"
 #include "gvd/provoz.h"
 #include "gvd/skladba.h"
@@ -40,7 +41,7 @@ TEST_F(Provoz, RowOfAnotherDayHasNoEffectAtAll) {
 TEST_F(Provoz, DelayLineBringsARowOfAnotherDayIntoTheNextTrains) {
     lhotin();
     pridej(z_lhotina(1701, 620), [](GvdVlak& g) { g.dny = 0; });
-    relief.lstZpravy.radky.push_back(Text("Zpoždění vlaku 1701 +18´"_cz));
+    prevezmi_hlaseni({Text("Zpoždění vlaku 1701 +18´"_cz)});
     v("10:30:00");
     EXPECT_EQ(stav_provozu.dalsi_vlaky[1].cislo, 1701);
     EXPECT_EQ(stav_provozu.dalsi_vlaky[1].cas, 8);
@@ -50,7 +51,7 @@ TEST_F(Provoz, DelayLineBringsARowOfAnotherDayIntoTheNextTrains) {
 TEST_F(Provoz, TrainDelayedOverMidnightStillSetsOff) {
     lhotin();
     pridej(z_lhotina(1701, 1430));
-    relief.lstZpravy.radky.push_back(Text("Zpoždění vlaku 1701 +8´"_cz));
+    prevezmi_hlaseni({Text("Zpoždění vlaku 1701 +8´"_cz)});
     v("23:56:00"); // announced two minutes before
     ASSERT_NE(najdi(1701), nullptr);
     EXPECT_EQ(barva(87), barvy::zelena);
@@ -198,9 +199,9 @@ TEST_F(Provoz, ThresholdsOfTheDelayDrawHoldInSinglePrecision) {
 }
 
 TEST_F(Provoz, DelayIsReadFromTheFirstLineOfTheTrain) {
-    relief.lstZpravy.radky = {Text("Jiná zpráva 4701 +33´"_cz), Text("Zpoždění vlaku 47011 +30´"_cz),
-                              Text("Zpoždění vlaku 4701 +5´"_cz), Text("Zpoždění vlaku 4701 +9´"_cz),
-                              Text("Zpoždění vlaku 12 +15´"_cz)};
+    prevezmi_hlaseni({Text("Jiná zpráva 4701 +33´"_cz), Text("Zpoždění vlaku 47011 +30´"_cz),
+                      Text("Zpoždění vlaku 4701 +5´"_cz), Text("Zpoždění vlaku 4701 +9´"_cz),
+                      Text("Zpoždění vlaku 12 +15´"_cz)});
     EXPECT_EQ(zpozdeni_vlaku(4701), 5);
     EXPECT_EQ(zpozdeni_vlaku(12), 15);
     EXPECT_EQ(zpozdeni_vlaku(47011), 30);
@@ -210,10 +211,11 @@ TEST_F(Provoz, DelayIsReadFromTheFirstLineOfTheTrain) {
 TEST_F(Provoz, DeletedDelayLineMakesTheTrainPunctual) {
     lhotin();
     pridej(z_lhotina(1701, 632));
-    relief.lstZpravy.radky = {Text("Zpoždění vlaku 1701 +15´"_cz)};
+    prevezmi_hlaseni({Text("Zpoždění vlaku 1701 +15´"_cz)});
     v("10:30:00");
     EXPECT_EQ(najdi(1701), nullptr);
-    relief.lstZpravy.radky.clear();
+    relief.lstZpravy.vybrany = 0;
+    smaz_radek_zprav();
     v("10:31:00");
     EXPECT_NE(najdi(1701), nullptr);
 }
@@ -319,7 +321,7 @@ TEST_F(Provoz, PickUpGoodsTrainHasATrackOfItsOwn) {
 TEST_F(Provoz, LateTrainWaitsOnTheOvertakingTrack) {
     lhotin();
     pridej(z_lhotina(1701, 620));
-    relief.lstZpravy.radky = {Text("Zpoždění vlaku 1701 +12´"_cz)};
+    prevezmi_hlaseni({Text("Zpoždění vlaku 1701 +12´"_cz)});
     stav_provozu.dalsi_vlaky[1] = {8, 33, 4, 631}; // due at 10:31, the late one at 10:32
     v("10:30:00");
     EXPECT_EQ(cislo_na(86), "1701");
@@ -509,7 +511,7 @@ TEST_F(Provoz, ConsentedTrainOfAnotherDayDoesNotComeIn) {
     koleje({219, 117});
     souhlasova_lampa(2);
     pridej(radek(4701, {{5, -1, 631}, {9, 660, -1}}), [](GvdVlak& g) { g.dny = 2; });
-    relief.lstZpravy.radky = {Text("Zpoždění vlaku 4701 +7´"_cz)};
+    prevezmi_hlaseni({Text("Zpoždění vlaku 4701 +7´"_cz)});
     souhlasy.cekajici_vlaky = {4701};
     v("10:40:00");
     EXPECT_EQ(pocet_vlaku(), 0);

@@ -1,4 +1,5 @@
 // testy/gvd/skladba_test.cpp - a timetable row becomes a train: times, vehicles, pictures.
+#include "desk/hlaseni.h"
 #include "gvd/casy.h"
 #include "gvd/skladba.h"
 #include "pomocne/provoz_sveta.h"
@@ -132,7 +133,7 @@ TEST_F(Skladba, LatenessAtTheEntryIsNeverNegative) {
     zmen_radek_gvd(0, [](GvdVlak& g) { g.stanice[0] = 19; }); // there the departure counts
     hodiny("10:25:00");
     EXPECT_EQ(vytvor(false, 87).zpozdeni, 3);
-    relief.lstZpravy.radky = {Text("Zpoždění vlaku 1 +12´"_cz)};
+    prevezmi_hlaseni({Text("Zpoždění vlaku 1 +12´"_cz)});
     EXPECT_EQ(vytvor(false, 87).zpozdeni_vstup, 12);
     EXPECT_EQ(vytvor(false, 87, 1).zpozdeni, 0);
 }

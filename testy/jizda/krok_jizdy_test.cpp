@@ -1,6 +1,7 @@
 // testy/jizda/krok_jizdy_test.cpp - the movement step and whole journeys over the little junction.
 #include "cesty/prehoz_rukou.h"
 #include "cesty/prekazky.h"
+#include "desk/hlaseni.h"
 #include "jizda/poslusnost.h"
 #include "jizda/svet_vlaku.h"
 #include "pomocne/prvky_cesty.h"
@@ -110,7 +111,7 @@ TEST_F(Jizda, TrainThatReachesTheExitLeavesTheArea) {
     pridej_do_tabulky(v);
     zastavky(v, {2}, {-3}, {-3});
     vlak(v).stanice_index = 0;
-    relief.lstZpravy.radky = {Text("Zpoždění vlaku 1234 +5´"_cz), Text("Zpoždění vlaku 12345 +5´"_cz)};
+    prevezmi_hlaseni({Text("Zpoždění vlaku 1234 +5´"_cz), Text("Zpoždění vlaku 12345 +5´"_cz)});
     cesta(radek(0));
     ASSERT_TRUE(jed_dokud([&] { return vlak(v).cislo < 0; }));
     krok();
@@ -129,8 +130,8 @@ TEST_F(Jizda, SelectedDelayStaysOnItsTrainWhenALineAboveGoes) {
     zastavky(v, {2}, {-3}, {-3});
     vlak(v).stanice_index = 0;
     const Text vybrany("Zpoždění vlaku 12345 +5´"_cz);
-    relief.lstZpravy.radky = {Text("Zpoždění vlaku 77 +5´"_cz), Text("Zpoždění vlaku 1234 +5´"_cz), vybrany,
-                              Text("Zpoždění vlaku 99 +5´"_cz)};
+    prevezmi_hlaseni({Text("Zpoždění vlaku 77 +5´"_cz), Text("Zpoždění vlaku 1234 +5´"_cz), vybrany,
+                      Text("Zpoždění vlaku 99 +5´"_cz)});
     relief.lstZpravy.vybrany = 2;
     cesta(radek(0));
     ASSERT_TRUE(jed_dokud([&] { return relief.lstZpravy.radky.size() == 3; }));

@@ -1,5 +1,6 @@
 // testy/save/debug_vypis_test.cpp - the debug dump, line by line.
 #include "cesty/cesta.h"
+#include "desk/hlaseni.h"
 #include "desk/stitky.h"
 #include "gvd/gvd.h"
 #include "jizda/vlak.h"
@@ -120,7 +121,7 @@ TEST_F(LadiciVypis, TracksMessagesConsentsAndNotesClose) {
     vlaky[0] = vlak(7305);
     vlaky[1] = vlak(59012);
     koleje_vlaky = {{0, {-3}}, {41, {1, 0}}};
-    relief.lstZpravy.radky = {"Zpoždění vlaku 7305"};
+    prevezmi_hlaseni({"Zpoždění vlaku 7305"});
     souhlasy.cekajici_vlaky = {1234, 5678};
     stitky = {{0, "", "", ""}, {41, "tag", "omezeni", "vyluka"}};
     debug_vypis();

@@ -6,6 +6,7 @@
 #include "app/nova_simulace.h"
 #include "cesty/opakovani.h"
 #include "cesty/prehoz_rukou.h"
+#include "desk/hlaseni.h"
 #include "desk/stav_blikani.h"
 #include "desk/stitky.h"
 #include "desk/zprava.h"
@@ -440,7 +441,7 @@ TEST_F(Ulozeni, EmptyDelayListIsReadAsNothing) {
     EXPECT_EQ(Bajty(b.end() - 2, b.end()), (Bajty{0, 0}));
     nacti();
     EXPECT_TRUE(relief.lstZpravy.radky.empty());
-    relief.lstZpravy.radky = {Text("Zpoždění vlaku 1"_cz), "b"};
+    prevezmi_hlaseni({Text("Zpoždění vlaku 1"_cz), "b"});
     uloz();
     nacti();
     EXPECT_EQ(relief.lstZpravy.radky.size(), 2u);
