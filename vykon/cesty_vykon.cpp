@@ -1,4 +1,5 @@
 // vykon/cesty_vykon.cpp - the route machine's tick and the look-ups in the interlocking tables.
+#include "app/cas.h"
 #include "app/nova_simulace.h"
 #include "cesty/duvod.h"
 #include "cesty/tabulky.h"
@@ -18,7 +19,7 @@ struct Stul {
         nova_simulace();
         simulace.cesta_aplikace = slozka.cesta;
         simulace.pauza = false;
-        relief.lblcas[0].text = TextPohled("8:00:00");
+        nastav_cas("8:00:00");
         for (int n = 1; n <= 120; ++n) {
             relief.kolej.zaloz(n).barva = barvy::seda;
             relief.cislo_koleje.zaloz(n).popis = "K" + text_cisla(n);

@@ -1,8 +1,9 @@
 // vykon/desk_vykon.cpp - what the desk tells of trains: table, information, prediction.
+#include "app/cas.h"
 #include "app/nova_simulace.h"
 #include "app/simulace.h"
-#include "desk/info_o_vlaku.h"
 #include "desk/hlaseni.h"
+#include "desk/info_o_vlaku.h"
 #include "desk/predvidane_vlaky.h"
 #include "desk/tabulka_vlaku.h"
 #include "gvd/gvd.h"
@@ -84,7 +85,7 @@ void predpoved(benchmark::State& stav) {
     for (int n = 0; n < 20; ++n)
         prevezmi_hlaseni({Text("Zpoždění vlaku "_cz) + text_cisla(900'000 + n) + " +15"});
     simulace.pauza = false;
-    relief.lblcas[0].text = Text("10:00:00");
+    nastav_cas("10:00:00");
     for (auto _ : stav) {
         relief.lstDenik.radky.clear();
         predvidane_vlaky(1);

@@ -1,4 +1,5 @@
 // vykon/jizda_vykon.cpp - the movement step with many trains under way.
+#include "app/cas.h"
 #include "app/casovace.h"
 #include "app/nova_simulace.h"
 #include "app/simulace.h"
@@ -33,7 +34,7 @@ struct Koleje {
         platforma = prazdna_platforma();
         platforma.tik_ms = [] { return tik; };
         simulace.cesta_aplikace = slozka.cesta;
-        relief.lblcas[0].text = TextPohled("8:00:00");
+        nastav_cas("8:00:00");
         zaloz_slozku(slozka.cesta + "data");
         zapis_soubor(slozka.cesta + "data\\tesk.top", {});
         for (int n = 0; n < pocet * useku; ++n) {

@@ -1,4 +1,5 @@
 // vykon/ulozeni_vykon.cpp - saving and starting from a save, with a hundred trains on the whole junction.
+#include "app/cas.h"
 #include "app/nacteni.h"
 #include "app/nova_simulace.h"
 #include "app/simulace.h"
@@ -39,7 +40,7 @@ struct Kolejiste {
                 relief.kolej[n].barva = barvy::seda;
                 relief.kolej[n].stav = TextPohled("0");
             }
-        relief.lblcas[0].text = TextPohled("11:59:58");
+        nastav_cas("11:59:58");
         simulace.cas_zacatku = 719;
         for (int i = 0, kolej = 0; i < 100; ++i) {
             do

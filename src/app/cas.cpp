@@ -1,4 +1,4 @@
-// app/cas.cpp - arithmetic of the clock's text.
+// app/cas.cpp - the clock and the arithmetic of its time.
 #include "app/cas.h"
 
 #include "app/simulace.h"
@@ -14,7 +14,23 @@ std::int32_t v_mezich(std::int32_t hodnota, std::int32_t delka) {
     return zbytek < 0 ? zbytek + delka : zbytek;
 }
 
+void ukaz_cas(TextPohled cas) {
+    for (int n = 0; n <= relief.lblcas.nejvyssi(); ++n)
+        if (relief.lblcas.je(n))
+            relief.lblcas[n].text = cas;
+}
+
 } // namespace
+
+void nastav_cas(std::int32_t sekundy) {
+    stav_hodin.sekundy = sekundy_dne(sekundy);
+    ukaz_cas(text_casu(stav_hodin.sekundy));
+}
+
+void nastav_cas(TextPohled cas) {
+    stav_hodin.sekundy = sekundy_textu(cas);
+    ukaz_cas(cas);
+}
 
 bool je_text_casu(TextPohled cas) {
     const std::size_t prvni = cas.find(':');
@@ -41,8 +57,12 @@ std::int32_t sekundy_textu(TextPohled cas) {
     return na_long(casti[0] * 3600 + casti[1] * 60 + casti[2]);
 }
 
+std::int32_t sekundy_dne(std::int32_t sekundy) {
+    return v_mezich(sekundy, kDen_s);
+}
+
 Text text_casu(std::int32_t sekundy) {
-    const std::int32_t s = v_mezich(sekundy, kDen_s);
+    const std::int32_t s = sekundy_dne(sekundy);
     return text_cisla(s / 3600) + ":" + text_cisla_mist(s / 60 % 60, 2) + ":" + text_cisla_mist(s % 60, 2);
 }
 
@@ -57,15 +77,15 @@ TextPohled nazev_dne(int den) {
     return kDny.at(static_cast<std::size_t>(den));
 }
 
-const Text& cas_hodin() {
+const Text& text_hodin() {
     return relief.lblcas[0].text;
 }
 
-std::int32_t sekundy_simulace(TextPohled cas) {
+std::int32_t sekundy_simulace(std::int32_t cas) {
     const std::int32_t dny = (simulace.cas_zacatku + simulace.minuty_simulace) / kDen_min;
-    return sekundy_textu(cas) + dny * kDen_s;
+    return cas + dny * kDen_s;
 }
 
-std::int16_t minuta_dne(TextPohled cas) {
-    return na_integer(sekundy_textu(cas) / 60);
+std::int16_t minuta_dne(std::int32_t cas) {
+    return na_integer(cas / 60);
 }

@@ -52,12 +52,6 @@ void ukaz_najety_prvek() {
         obnov_panel(s);
 }
 
-void pis_cas(const Text& cas) {
-    relief.lblcas[0].text = cas;
-    if (simulace.dva_monitory && relief.lblcas.je(1))
-        relief.lblcas[1].text = cas;
-}
-
 // Midnight: the next day of the week, and its label.
 void dalsi_den() {
     if (!std::has_single_bit(simulace.den) || simulace.den > 64)
@@ -133,12 +127,12 @@ void krok_hodin() {
         std::min(zaokrouhli(od_tiku(simulace.tick_hodin) - na_sekundu), kNejvyssiPrenos));
     const std::int16_t minuta = minuta_dne(cas_hodin());
     const std::int32_t sekund = na_long(od_tiku(simulace.tick_hodin) / K * simulace.rychlost);
-    const Text cas = text_casu(sekundy_textu(cas_hodin()) + sekund);
+    const std::int32_t cas = sekundy_dne(cas_hodin() + sekund);
     if (minuta_dne(cas) != minuta && minut_do_konce_sluzby() <= 0) {
         ukonci_sluzbu();
         return;
     }
-    pis_cas(cas);
+    nastav_cas(cas);
     simulace.tick_hodin = static_cast<std::int32_t>(static_cast<std::uint32_t>(platforma.tik_ms()) -
                                                     static_cast<std::uint32_t>(prenos));
     if (minuta_dne(cas_hodin()) != minuta)

@@ -50,6 +50,8 @@ Nalez hodiny() {
     const Text cas = relief.lblcas[0].text;
     if (!je_text_casu(cas))
         return veta({"hodiny: čas „"_cz, cas, "“ není čas"_cz});
+    if (sekundy_textu(cas) != cas_hodin())
+        return veta({"hodiny: ukazují „"_cz, cas, "“, a je "_cz, text_casu(cas_hodin())});
     if (simulace.dva_monitory && relief.lblcas.je(1) && relief.lblcas[1].text() != cas)
         return Text("hodiny: druhý monitor ukazuje jiný čas"_cz);
     if (simulace.den == 0 || simulace.den > 64 || (simulace.den & (simulace.den - 1)) != 0)

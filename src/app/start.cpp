@@ -250,7 +250,8 @@ void zhasni_navestidlo() {
     p.pozadi = barvy::seda;
     p.ramecek = true;
     p.vlevo = p.vlevo() + uzel::kPosunZhasleho;
-    simulace.poruchy.push_back(cas_hodin() + Text(" Zhaslé návěstidlo "_cz) + jmeno(uzel::kZhasleNavestidlo));
+    simulace.poruchy.push_back(text_hodin() + Text(" Zhaslé návěstidlo "_cz) +
+                               jmeno(uzel::kZhasleNavestidlo));
 }
 
 void nater_klid() {
@@ -344,10 +345,7 @@ void prevezmi_volby(const VolbyStartu& v) {
 }
 
 void nastav_hodiny(const VolbyStartu& v) {
-    const Text cas = text_casu(v.hodina * 3600 + v.minuta * 60 - 2);
-    relief.lblcas[0].text = cas;
-    if (relief.lblcas.je(1))
-        relief.lblcas[1].text = cas;
+    nastav_cas(v.hodina * 3600 + v.minuta * 60 - 2);
     relief.lblDEN[0].text = nazev_dne(v.den);
     simulace.pp_povoleno = v.pp;
     simulace.zpozdeni_povoleno = v.zpozdeni;

@@ -5,9 +5,12 @@
 // that fails and gives the old state back, or by a test that compares two states.
 #pragma once
 
+#include "app/cas.h"
 #include "app/parametry.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
+#include "desk/hlaseni.h"
+#include "desk/info_o_vlaku.h"
 #include "desk/menu.h"
 #include "desk/stav_blikani.h"
 #include "desk/stitky.h"
@@ -35,6 +38,7 @@
 // TABULKA(name, value in a fresh process), in the order in which a reset goes.
 #define TABULKY_SIMULACE(TABULKA)                                                                            \
     TABULKA(simulace, {})                                                                                    \
+    TABULKA(stav_hodin, {})                                                                                  \
     TABULKA(relief, novy_relief())                                                                           \
     TABULKA(prejezdy, {})                                                                                    \
     TABULKA(stav_provozu, {})                                                                                \
@@ -52,6 +56,7 @@
     TABULKA(stitky, std::vector<StitekPrvku>(1))                                                             \
     TABULKA(prikaz_radek, {})                                                                                \
     TABULKA(menu, {})                                                                                        \
+    TABULKA(stranka_vlaku, {})                                                                               \
     TABULKA(stav_menu_koleje, {})                                                                            \
     TABULKA(blikani, {})                                                                                     \
     TABULKA(hlaseni, {})                                                                                     \

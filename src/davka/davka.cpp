@@ -174,7 +174,7 @@ int spust_davku(const VolbyDavky& volby, std::istream& skript, std::ostream& vys
                 chyba_na_radku("simulace skončila sama, s kódem " + std::to_string(konec.navratovy_kod));
             } catch (const ChybaStavu& stav) {
                 kod = navrat::chyba_stavu;
-                chyba_na_radku("kontrola stavu v " + na_utf8(cas_hodin()) + " (" +
+                chyba_na_radku("kontrola stavu v " + na_utf8(text_hodin()) + " (" +
                                std::to_string(svet.cas_ms) + " ms): " + stav.co);
             }
             if (volby.po_radcich)

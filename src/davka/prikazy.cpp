@@ -16,6 +16,7 @@
 #include "davka/skript.h"
 #include "davka/virtualni_svet.h"
 #include "davka/vypisy.h"
+#include "desk/info_o_vlaku.h"
 #include "jizda/vlak.h"
 #include "zaklad/cisla.h"
 #include "zaklad/soubory.h"
@@ -90,18 +91,18 @@ void prikaz_cekej(BehSkriptu&, Slova slova) {
 
 void prikaz_cekej_do(BehSkriptu&, Slova slova) {
     const auto vpred = [](std::int32_t od, std::int32_t k) { return ((k - od) % kDen_s + kDen_s) % kDen_s; };
-    std::int32_t ted = sekundy_textu(cas_hodin());
+    std::int32_t ted = cas_hodin();
     std::int32_t zbyva = vpred(ted, cas_slova(slova[0]));
     const auto stoji = [] { return simulace.pauza || simulace.rychlost == 0; };
     const auto dost = [&] {
-        const std::int32_t nyni = sekundy_textu(cas_hodin());
+        const std::int32_t nyni = cas_hodin();
         zbyva -= vpred(ted, nyni);
         ted = nyni;
         return zbyva <= 0 || stoji();
     };
     while (zbyva > 0) {
         if (stoji())
-            chyba_skriptu("cekej_do: hodiny simulace stojí na " + na_utf8(cas_hodin()));
+            chyba_skriptu("cekej_do: hodiny simulace stojí na " + na_utf8(text_hodin()));
         plyn_do(svet.cas_ms + kDen_s * 1000LL, dost);
     }
 }
@@ -214,13 +215,28 @@ void nastav_prvek(Prvek& p, const Prirazeni& co) {
     }
 }
 
-void nastav_cas(const Prirazeni& co) {
+// A script writes what an element shows. Where the desk knows it by a value and the element shows that value,
+// the value follows, so that the text set by hand has the effect it tells of.
+void prevezmi_napsane(Druh druh, int n) {
+    if (n != 0)
+        return;
+    const Prvek& p = tabulka(druh)[n];
+    switch (druh) {
+    case Druh::lblcas: stav_hodin.sekundy = sekundy_textu(p.text()); break;
+    case Druh::lblIinfo_o_vlaku: {
+        const double vlak = ciselny_text(p.stav()).value_or(kZadny);
+        stranka_vlaku.vlak =
+            vlak >= 0 && vlak < std::numeric_limits<int>::max() ? static_cast<int>(vlak) : kZadny;
+        break;
+    }
+    default: break;
+    }
+}
+
+void nastav_hodiny(const Prirazeni& co) {
     if (co.pole != "cas")
         chyba_skriptu("hodinám jde nastavit jen cas");
-    const Text cas = text_casu(cas_slova(co.hodnota));
-    for (int n = 0; n <= relief.lblcas.nejvyssi(); ++n)
-        if (relief.lblcas.je(n))
-            relief.lblcas[n].text = cas;
+    nastav_cas(cas_slova(co.hodnota));
 }
 
 // A stop is an entry of each of four lists.
@@ -263,9 +279,10 @@ void prikaz_nastav(BehSkriptu&, Slova slova) {
             chyba_skriptu("prvek " + cil.slovo + " " + std::to_string(cil.cislo) + " neexistuje");
         for (const Prirazeni& co : vse)
             nastav_prvek(tabulka(*cil.druh)[cil.cislo], co);
+        prevezmi_napsane(*cil.druh, cil.cislo);
     } else if (cil.slovo == "hodiny") {
         for (const Prirazeni& co : vse)
-            nastav_cas(co);
+            nastav_hodiny(co);
     } else if (cil.slovo == "cesta") {
         nastav_zaznam(cesty, cil.slovo, cil.cislo, vse);
     } else if (cil.slovo == "vlak") {

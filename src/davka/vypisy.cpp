@@ -84,7 +84,7 @@ void vypis_hodiny(ZaznamJsonu& z) {
     pridej(z, "minuty_simulace", simulace.minuty_simulace);
     pridej(z, "pauza", simulace.pauza);
     pridej(z, "rychlost", simulace.rychlost);
-    pridej(z, "sekundy", sekundy_simulace(prvek(relief.lblcas, 0).text()));
+    pridej(z, "sekundy", ted_s());
     pridej(z, "tik_ms", platforma.tik_ms());
 }
 

@@ -289,21 +289,22 @@ void ukaz_vozy() {
     relief.lblPokracuje[0].viditelny = pokracuje;
 }
 
+// The page belongs to this train; kZadny: to none that runs.
+void pridel_stranku(int vlak) {
+    stranka_vlaku.vlak = vlak;
+    relief.lblIinfo_o_vlaku[0].stav = vlak < 0 ? Text{} : text_cisla(vlak);
+}
+
 void napln_stranku(int vlak) {
-    Prvek& radek = relief.lblIinfo_o_vlaku[0];
-    radek.text = text_vlaku(vlak);
-    radek.stav = text_cisla(vlak);
+    relief.lblIinfo_o_vlaku[0].text = text_vlaku(vlak);
+    pridel_stranku(vlak);
     napln_vozy(vlak_c(vlak));
 }
 
 } // namespace
 
 int vlak_na_panelu() {
-    const Text& skryty = relief.lblIinfo_o_vlaku[0].stav;
-    const auto cislo = ciselny_text(skryty);
-    if (!cislo || *cislo < 0 || *cislo >= static_cast<double>(vlaky.size()))
-        return kZadny;
-    return skutecny_vlak(static_cast<int>(*cislo)) != nullptr ? static_cast<int>(*cislo) : kZadny;
+    return skutecny_vlak(stranka_vlaku.vlak) != nullptr ? stranka_vlaku.vlak : kZadny;
 }
 
 int vozu_na_panelu() {
@@ -436,7 +437,7 @@ void info_podle_gvd(std::int32_t cislo) {
     if (radek == nullptr)
         return;
     uvolni_vozy();
-    relief.lblIinfo_o_vlaku[0].stav = Text{};
+    pridel_stranku(kZadny);
     relief.lblIinfo_o_vlaku[0].text = text_jedouciho(vlak_podle_gvd(*radek), false);
     prepni_panel(Panel::vlak);
 }
@@ -444,6 +445,6 @@ void info_podle_gvd(std::int32_t cislo) {
 void zapomen_info(int vlak) {
     if (vlak_na_panelu() != vlak)
         return;
-    relief.lblIinfo_o_vlaku[0].stav = Text{};
+    pridel_stranku(kZadny);
     uvolni_vozy();
 }

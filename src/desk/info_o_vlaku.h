@@ -1,16 +1,23 @@
 // desk/info_o_vlaku.h - what a dispatcher's paper says about one train, and the row of its vehicles.
 //
-// The bar lblIinfo_o_vlaku 0 shows the text; its state text holds the index of the train on display, so
-// that the pictures find their train. Vehicle i of the train is imgObrzaek_vlaku i with lblPopis_vozu i:
-// the picture's state text is the file, its tag the series or type, its frame the drawing with a
-// locomotive's frame, and it takes input as long as it stands for a vehicle.
+// The bar lblIinfo_o_vlaku 0 shows the text, and its state text the index of the train on display, by which
+// the pictures find their train. Vehicle i of the train is imgObrzaek_vlaku i with lblPopis_vozu i: the
+// picture's state text is the file, its tag the series or type, its frame the drawing with a locomotive's
+// frame, and it takes input as long as it stands for a vehicle.
 #pragma once
 
+#include "zaklad/cisla.h"
 #include "zaklad/text.h"
 
 #include <cstdint>
 
 struct Vlak; // jizda/vlak.h
+
+struct StrankaVlaku {
+    int vlak = kZadny; // index of the train that the page was filled with
+    bool operator==(const StrankaVlaku&) const = default;
+};
+extern StrankaVlaku stranka_vlaku;
 
 // --- on the operator's command
 

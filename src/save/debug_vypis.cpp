@@ -82,7 +82,7 @@ Text vlak_cesty(const Cesta& c) {
 void pis_hlavu(const Vypis& f, const NastennyCas& ted) {
     f.radek(datum(ted) + " " + text_casu(ted.sekundy_dne()));
     f.radek("KPS RVZ TESK " + text_verze());
-    f.radek(Text("Čas: "_cz) + cas_hodin() + " den " + relief.lblDEN[0].text());
+    f.radek(Text("Čas: "_cz) + text_hodin() + " den " + relief.lblDEN[0].text());
     f.radek("PP " + text_cisla(simulace.pp_povoleno ? -1 : 0));
     f.radek(Text("čas začátku "_cz) + text_cisla(simulace.cas_zacatku));
     f.radek("den: " + text_cisla(simulace.den));

@@ -185,9 +185,7 @@ void prevezmi_tabulky(Zaznam& z) {
 }
 
 void prevezmi_cas(const Zaznam& z, std::int16_t minuty) {
-    for (int n = 0; n <= relief.lblcas.nejvyssi(); ++n)
-        if (relief.lblcas.je(n))
-            relief.lblcas[n].text = z.cas;
+    nastav_cas(z.cas);
     simulace.cas_zacatku = static_cast<std::int16_t>(z.cas_zacatku);
     if (minuty != z.minuty_simulace)
         platforma.okno("KPS RVZ TESK", "V záznamu se neshoduje časová značka! Značka bude opravena."_cz);

@@ -75,7 +75,7 @@ void dobehni(const Rozbeh& rozbeh) {
 
 // "Tesk pondělí 8-05-30.sim": what the operator sees on the clock.
 Text navrzene_jmeno() {
-    Text cas = cas_hodin();
+    Text cas = text_hodin();
     std::replace(cas.begin(), cas.end(), ':', '-');
     return "Tesk " + relief.lblDEN[0].text() + " " + cas + Text(kPripona);
 }
@@ -150,7 +150,7 @@ Text soubor_autosave() {
 
 Text jmeno_okamziku() {
     const NastennyCas ted = platforma.nastenny_cas();
-    const std::int32_t simulovano = sekundy_textu(cas_hodin());
+    const std::int32_t simulovano = cas_hodin();
     const auto dve = [](int hodnota) { return text_cisla_mist(hodnota, 2); };
     return dve(ted.rok % 100) + dve(ted.mesic) + dve(ted.den) + "_" + dve(ted.hodina) + dve(ted.minuta) +
            dve(ted.sekunda) + "_" + dve(simulovano / 3600) + dve(simulovano / 60 % 60) +

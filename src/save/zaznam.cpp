@@ -149,7 +149,7 @@ Zaznam zaznam_simulace() {
     z.verze_major = kVerzeMajor;
     z.verze_minor = kVerzeMinor;
     z.verze_revize = kVerzeRevize;
-    z.cas = cas_hodin();
+    z.cas = text_hodin();
     z.cas_zacatku = simulace.cas_zacatku;
     z.den = simulace.den;
     z.pp_povoleno = simulace.pp_povoleno;

@@ -1,5 +1,7 @@
 // testy/app/blikani_test.cpp - what flashes, and what half a second drives.
 #include "app/blikani.h"
+#include "app/cas.h"
+#include "desk/hlaseni.h"
 #include "desk/stav_blikani.h"
 #include "desk/zprava.h"
 #include "pomocne/virtualni_platforma.h"
@@ -19,7 +21,7 @@ class BlikaniDesky : public SPlatformou {
 protected:
     void SetUp() override {
         simulace.pauza = false;
-        relief.lblcas[0].text = TextPohled("12:00:00");
+        nastav_cas("12:00:00");
     }
     static Text znaky(std::initializer_list<int> kody) {
         Text text;
@@ -171,7 +173,7 @@ TEST_F(BlikaniDesky, StationCrossingClosesWhenItsTimeIsPast) {
     p.cas = 12 * 3600;
     krok_blikani();
     EXPECT_FALSE(p.uzavren); // reached is not past
-    relief.lblcas[0].text = TextPohled("12:00:01");
+    nastav_cas("12:00:01");
     krok_blikani();
     EXPECT_TRUE(p.uzavren);
     EXPECT_EQ(p.cas, -3);

@@ -23,7 +23,7 @@ protected:
         nastav("12:00:00");
         spust_hodiny();
     }
-    void nastav(TextPohled cas) { relief.lblcas[0].text = cas; }
+    void nastav(TextPohled cas) { nastav_cas(cas); }
     const Text& cas() { return relief.lblcas[0].text; }
     void krok(int ms) {
         svet.posun_ms(ms);
@@ -151,7 +151,7 @@ TEST_F(Hodiny, OrdersOfTheTwoSecondsBeforeAStartAtMidnightKeepTheirTerms) {
     stav_vyhybek.prehoz_cas = 86398 + 3;
     krok(2000);
     EXPECT_EQ(cas(), "0:00:00");
-    EXPECT_EQ(sekundy_simulace(cas()), 0);
+    EXPECT_EQ(ted_s(), 0);
     EXPECT_EQ(cesty[0].cas_stavby, 1); // due at once: 0 would mean none
     EXPECT_EQ(cesty[0].Kdy_prehoz, 5);
     EXPECT_EQ(cesty[0].cas_ruseni, -3);

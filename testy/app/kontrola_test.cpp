@@ -1,4 +1,5 @@
 // testy/app/kontrola_test.cpp - the state check finds each kind of fault, and none in a sound state.
+#include "app/cas.h"
 #include "app/kontrola.h"
 #include "cesty/cesta.h"
 #include "desk/menu.h"
@@ -25,7 +26,7 @@ protected:
         for (int n = 0; n <= relief.kolej.nejvyssi(); ++n)
             if (relief.kolej.je(n))
                 relief.kolej[n].barva = barvy::seda;
-        relief.lblcas[0].text = Text("12:00:00");
+        nastav_cas("12:00:00");
         relief.lblcas[0].viditelny = true;
         vlaky = prvni_vlaky();
         koleje_vlaky = prvni_koleje_vlaky();
@@ -69,11 +70,11 @@ TEST_F(Kontrola, NothingIsLookedAtBeforeTheStart) {
 TEST_F(Kontrola, ClockMustReadATime) {
     for (const char* cas :
          {"", "12:00", "24:00:00", "12:60:00", "12:00:60", "1x:00:00", "112:00:00", "12:00:0"}) {
-        relief.lblcas[0].text = Text(cas);
+        nastav_cas(cas);
         EXPECT_TRUE(obsahuje(nalez(), "hodiny: čas")) << cas;
     }
     for (const char* cas : {"0:00:00", "9:05:59", "23:59:59"}) {
-        relief.lblcas[0].text = Text(cas);
+        nastav_cas(cas);
         EXPECT_EQ(nalez(), "") << cas;
     }
 }

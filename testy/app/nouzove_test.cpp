@@ -58,7 +58,7 @@ protected:
     void jdi_o_minutu() {
         svet.posun_ms(60'000);
         spust_hodiny();
-        relief.lblcas[0].text = text_casu(sekundy_textu(cas_hodin()) + 60);
+        nastav_cas(cas_hodin() + 60);
         krok_minuty();
     }
     std::vector<Text> cekajici() const { return soubory_slozky(svet.cesta() + "save\\nouzove", "*"); }
@@ -77,7 +77,7 @@ protected:
         ASSERT_EQ(svet.otazky.size(), 1u);
         start_simulace();
         ASSERT_FALSE(svet.konec) << na_utf8(svet.okna.back().text);
-        EXPECT_EQ(cas_hodin(), cas);
+        EXPECT_EQ(text_hodin(), cas);
         EXPECT_EQ(relief.kolej[63].barva(), barvy::cervena);
         prihlas();
         EXPECT_FALSE(simulace.pauza);
@@ -116,7 +116,7 @@ class NouzoveDruhy : public Nouzove, public testing::WithParamInterface<int> {};
 
 TEST_P(NouzoveDruhy, GameGoesOnAfterTheError) {
     hraj();
-    const Text cas = cas_hodin();
+    const Text cas = text_hodin();
     EXPECT_FALSE(bezpecne([] { hod(GetParam()); }));
     over_konec_s_ulozenim(kCisla[GetParam()]);
     over_pokracovani(cas);
@@ -146,7 +146,7 @@ TEST_F(Nouzove, ErrorInTheMovementOfTrainsEndsWithASave) {
 // A state with such a route could not be loaded either: the last minute is.
 TEST_F(Nouzove, ErrorInTheRouteMachineEndsWithTheStateOfTheLastMinute) {
     hraj();
-    relief.lblcas[0].text = TextPohled("12:03:40");
+    nastav_cas("12:03:40");
     Cesta vadna;
     vadna.zacatek = 61; // no such signal
     vadna.konec = 62;
@@ -179,7 +179,7 @@ TEST_F(Nouzove, ErrorInACommandOfTheOperatorEndsWithASave) {
 
 TEST_F(Nouzove, ErrorInTheSaveItselfEndsWithTheStateOfTheLastMinute) {
     hraj();
-    relief.lblcas[0].text = TextPohled("12:03:40");
+    nastav_cas("12:03:40");
     relief.kolej[62].stav = TextPohled("40000"); // metres that no save can hold
     svet.zapis("debug.dat", "");
     EXPECT_FALSE(bezpecne([this] { uloz_simulaci(svet.cesta() + "save\\hra.sim", false); }));

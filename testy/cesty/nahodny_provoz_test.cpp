@@ -1,5 +1,6 @@
 // testy/cesty/nahodny_provoz_test.cpp - thousands of random hands at the desk; after each the tables must
 // hold together. A fault is reported with the shortest script that still shows it.
+#include "app/cas.h"
 #include "app/casovace.h"
 #include "app/kontrola.h"
 #include "cesty/cisla_vlaku.h"

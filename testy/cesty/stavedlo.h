@@ -175,8 +175,8 @@ struct Stavedlo : testing::Test {
 
     // --- time
 
-    static void nastav_cas(TextPohled cas) { relief.lblcas[0].text = cas; }
-    static void posun_cas(int s) { relief.lblcas[0].text = text_casu(sekundy_textu(cas_hodin()) + s); }
+    static void nastav_cas(TextPohled cas) { ::nastav_cas(cas); }
+    static void posun_cas(int s) { ::nastav_cas(cas_hodin() + s); }
     // Lets seconds of the simulation pass, a tick of the route machine after each.
     static void cekej(int s) {
         for (int i = 0; i < s; ++i) {

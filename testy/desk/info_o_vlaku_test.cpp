@@ -131,6 +131,17 @@ TEST_F(InfoVlaku, TextOfTheCallerStandsInFront) {
     EXPECT_EQ(relief.lblIinfo_o_vlaku[0].stav(), "0");
 }
 
+TEST_F(InfoVlaku, TrainOfThePageDoesNotHangOnTheStateTextOfTheLine) {
+    vlak();
+    EXPECT_EQ(vlak_na_panelu(), kZadny);
+    info_o_vlaku({}, 0);
+    relief.lblIinfo_o_vlaku[0].stav = TextPohled("");
+    EXPECT_EQ(vlak_na_panelu(), 0);
+    zapomen_info(0);
+    EXPECT_EQ(vlak_na_panelu(), kZadny);
+    EXPECT_EQ(relief.lblIinfo_o_vlaku[0].stav(), "");
+}
+
 TEST_F(InfoVlaku, TrainThatBeginsAtAnOwnStationDepartsAndOneFromANeighbourPasses) {
     Vlak& v = vlak();
     for (const int kod : {1, 2, 3, 4, 5, 6}) {

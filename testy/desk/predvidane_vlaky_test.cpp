@@ -1,4 +1,6 @@
 // testy/desk/predvidane_vlaky_test.cpp - the prediction of trains in the journal.
+#include "app/cas.h"
+#include "desk/hlaseni.h"
 #include "desk/menu.h"
 #include "desk/predvidane_vlaky.h"
 #include "gvd/gvd.h"
@@ -21,7 +23,7 @@ protected:
     }
     ~PredvidaneVlaky() override { gvd_vlaky = {}; }
 
-    static void cas(const char* text) { relief.lblcas[0].text = Text(text); }
+    static void cas(const char* text) { nastav_cas(text); }
     // A train from a station to another, by its first and its last minute.
     static void vlak(std::int32_t cislo, int odkud, int kam, int odjezd, int prijezd) {
         GvdVlak r;

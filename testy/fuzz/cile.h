@@ -125,7 +125,7 @@ inline void zkus_provoz(Vstup vstup) {
         musi(!radek.stanice.empty() && radek.odjezdy.size() == radek.stanice.size() && !radek.vozy.empty(),
              "a row can be read without asking");
     try {
-        const auto jdi = [](int minuta) { relief.lblcas[0].text = text_casu(minuta * 60); };
+        const auto jdi = [](int minuta) { nastav_cas(minuta * 60); };
         jdi(599);
         zaplneni_kolejiste(599);
         for (int minuta = 600; minuta < 630; ++minuta) {
@@ -236,7 +236,7 @@ inline Bajty vzor_maker() {
 // A desk of a few elements at rest, before the login; a refused load has left it as it was.
 inline void postav_pro_nacteni() {
     static const DocasnaSlozka slozka;
-    if (simulace.cesta_aplikace == slozka.cesta && relief.lblcas.je(0) && cas_hodin() == "11:59:58")
+    if (simulace.cesta_aplikace == slozka.cesta && relief.lblcas.je(0) && text_hodin() == "11:59:58")
         return;
     nova_simulace();
     simulace.cesta_aplikace = slozka.cesta;
@@ -248,7 +248,7 @@ inline void postav_pro_nacteni() {
         return true;
     }();
     musi(zapsano, "the folder can be written");
-    relief.lblcas[0].text = TextPohled("11:59:58");
+    nastav_cas("11:59:58");
     for (const int n : {1, 2, 3, 4, 6, 9, 13, 14, 18}) {
         relief.kolej.zaloz(n).barva = barvy::seda;
         relief.kolej[n].stav = TextPohled("0");
@@ -277,7 +277,7 @@ inline void zkus_zaznam(Vstup vstup) {
     try {
         nacti_simulaci_z(vstup);
     } catch (const BehovaChyba&) {
-        musi(cas_hodin() == "11:59:58" && cesty.size() == 1 && vlaky.size() == kPrvnichVlaku &&
+        musi(text_hodin() == "11:59:58" && cesty.size() == 1 && vlaky.size() == kPrvnichVlaku &&
                  prejezdy.size() == 1 && relief.kolej[3].barva == barvy::seda && simulace.pauza,
              "a refused save changes nothing");
         return;
@@ -292,7 +292,7 @@ inline void zkus_zaznam(Vstup vstup) {
         obnov_souhlasy();
         spust_hodiny();
         for (int i = 0; i < 12; ++i) {
-            relief.lblcas[0].text = text_casu(sekundy_textu(cas_hodin()) + 10);
+            nastav_cas(cas_hodin() + 10);
             simulace.tick_jizdy -= 1000;
             for (const Casovac& casovac : casovace)
                 casovac.telo();

@@ -26,7 +26,7 @@ protected:
         zapis_male_kolejiste(simulace.cesta_aplikace);
         postav_male_kolejiste();
         relief.imgVyhybka[7].stav = "2"_cz;
-        relief.lblcas[0].text = Text("8:00:00");
+        nastav_cas("8:00:00");
         relief.lblcas[0].viditelny = true;
         simulace.cas_zacatku = 480;
         spust_hodiny();

@@ -72,7 +72,7 @@ protected:
 
     // The fault, with what the hands did before it.
     std::string vada(TextPohled nalez, std::string_view kdy) const {
-        return na_utf8(cas_hodin()) + " " + std::string(kdy) + ": " + na_utf8(nalez) + ruka.posledni();
+        return na_utf8(text_hodin()) + " " + std::string(kdy) + ": " + na_utf8(nalez) + ruka.posledni();
     }
 
     // A save, and a fresh process that starts from it.

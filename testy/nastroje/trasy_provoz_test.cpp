@@ -51,7 +51,7 @@ protected:
     }
     // So many seconds at once, with one tick behind them.
     static void preskoc(int s) {
-        relief.lblcas[0].text = text_casu(sekundy_textu(cas_hodin()) + s);
+        nastav_cas(cas_hodin() + s);
         krok_volby();
     }
     static bool zarad(const kolejiste::Trasa& t) {

@@ -1,4 +1,5 @@
 // testy/obsluha/vstup_test.cpp - clicks and menus.
+#include "app/cas.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "desk/menu.h"
@@ -127,7 +128,7 @@ protected:
     void SetUp() override {
         zapis_male_kolejiste(svet.cesta());
         postav_male_kolejiste();
-        relief.lblcas[0].text = TextPohled("12:00:00");
+        nastav_cas("12:00:00");
         simulace.pauza = false;
     }
     bool stiskni(TextPohled jmeno) { return klavesa(klavesa_podle_jmena(jmeno)); }

@@ -31,7 +31,7 @@ protected:
         gvd_vlaky = {};
     }
 
-    static void hodiny(TextPohled cas) { relief.lblcas[0].text = cas; }
+    static void hodiny(TextPohled cas) { nastav_cas(cas); }
 
     // Free tracks with a label each.
     static void koleje(std::initializer_list<int> cisla) {

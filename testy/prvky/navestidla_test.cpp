@@ -31,7 +31,7 @@ struct ObsluhaNavestidla : testing::Test {
         navestidlo(61, 228, "THN L61");
         navestidlo(62, 226, "THN L62");
         navestidlo(540, 240, "THN Se40");
-        relief.lblcas[0].text = "12:00:00";
+        nastav_cas("12:00:00");
         simulace.pauza = false;
         gtn_otevri();
         zacatek_logu = bajty_logu(svet).size();
@@ -395,7 +395,7 @@ TEST_F(Automat, DoesNothingWhileASignalOfTheListIsCleared) {
 
 TEST_F(Automat, SignalThatTheReliefDoesNotHoldIsLeftOut) {
     relief = novy_relief();
-    relief.lblcas[0].text = "12:00:00";
+    nastav_cas("12:00:00");
     automat(kPost);
     EXPECT_EQ(cesty.size(), 1u);
     EXPECT_LT(cesty[0].zacatek, 0);

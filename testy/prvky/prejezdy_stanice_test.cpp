@@ -22,7 +22,7 @@ struct PrejezdStanice : testing::Test {
     PrejezdStanice() {
         relief.lblPrejezd.zaloz(0).barva = barvy::seda;
         relief.lblPrejezd.zaloz(1).barva = barvy::seda;
-        relief.lblcas[0].text = "12:00:00";
+        nastav_cas("12:00:00");
         simulace.pauza = false;
     }
     static Text pruh(std::initializer_list<int> glyfy) {
@@ -56,10 +56,10 @@ TEST_F(PrejezdStanice, ClosureOfACrossingThatATrainHasClosedSetsNoTime) {
 
 TEST_F(PrejezdStanice, ClosureTimeIsReachedByTheBlinkStepOnlyWhenItHasPassed) {
     prejezd_uz(0);
-    relief.lblcas[0].text = "12:00:30";
+    nastav_cas("12:00:30");
     krok_blikani();
     EXPECT_FALSE(stanicni_prejezdy[0].uzavren);
-    relief.lblcas[0].text = "12:00:31";
+    nastav_cas("12:00:31");
     krok_blikani();
     EXPECT_TRUE(stanicni_prejezdy[0].uzavren);
     EXPECT_EQ(stanicni_prejezdy[0].cas, -3);
@@ -188,7 +188,7 @@ TEST_F(PrejezdStanice, AnIndexThatIsNoCrossingDoesNothing) {
 
 TEST_F(PrejezdStanice, CommandsWorkWithoutTheLabelOnTheRelief) {
     relief = novy_relief();
-    relief.lblcas[0].text = "12:00:00";
+    nastav_cas("12:00:00");
     prejezd_uz(1);
     EXPECT_EQ(stanicni_prejezdy[1].cas, ted_s() + 30);
     prejezd_not(1);

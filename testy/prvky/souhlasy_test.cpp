@@ -1,5 +1,6 @@
 // testy/prvky/souhlasy_test.cpp - consents to the three neighbouring stations.
 #include "app/blikani.h"
+#include "app/cas.h"
 #include "desk/menu.h"
 #include "desk/stav_blikani.h"
 #include "desk/zprava.h"
@@ -22,7 +23,7 @@ struct Souhlas : testing::Test {
             lampa.barva = barvy::seda;
             lampa.text = znak(uzel::kKonceTrati[static_cast<std::size_t>(k)].znak_dovnitr);
         }
-        relief.lblcas[0].text = "12:00:00";
+        nastav_cas("12:00:00");
         simulace.pauza = false;
         gtn_otevri();
         zapsano = bajty_logu(svet).size();

@@ -30,7 +30,7 @@ struct Vyhybka : testing::Test {
             relief.imgVyhybka.zaloz(n).vlevo = x;
         for (const int n : {1, 2, 3, 5, 6, 8})
             stav(n, 2);
-        relief.lblcas[0].text = "12:00:00";
+        nastav_cas("12:00:00");
         simulace.pauza = false;
         gtn_otevri();
         zacatek_logu = bajty_logu(svet).size();

@@ -1,4 +1,5 @@
 // testy/save/debug_vypis_test.cpp - the debug dump, line by line.
+#include "app/cas.h"
 #include "cesty/cesta.h"
 #include "desk/hlaseni.h"
 #include "desk/stitky.h"
@@ -23,7 +24,7 @@ protected:
 
     void SetUp() override {
         svet.cas = {2026, 1, 5, 8, 7, 6, 0};
-        relief.lblcas[0].text = TextPohled("22:15:03");
+        nastav_cas("22:15:03");
         relief.lblDEN[0].text = TextPohled("středa"_cz);
         simulace.pp_povoleno = false;
         simulace.cas_zacatku = 1319;

@@ -1,4 +1,5 @@
 // testy/save/gtn_test.cpp - the train-number log, byte by byte.
+#include "app/cas.h"
 #include "pomocne/virtualni_platforma.h"
 #include "relief/relief.h"
 #include "save/gtn.h"
@@ -14,7 +15,7 @@ protected:
     static constexpr std::size_t kHlavicka = 36; // with a date of eight letters
     void SetUp() override {
         svet.cas = {2026, 1, 5, 8, 0, 5, 0};
-        relief.lblcas[0].text = TextPohled("12:00:00");
+        nastav_cas("12:00:00");
     }
     Bajty obsah(const char* jmeno = "GTN/260105.gtn") {
         gtn_vyprazdni();
@@ -79,10 +80,10 @@ TEST_F(Denik, TimeGrowsAcrossMidnight) {
     gtn_otevri();
     simulace.cas_zacatku = 1438;
     simulace.minuty_simulace = 1;
-    relief.lblcas[0].text = TextPohled("23:59:59");
+    nastav_cas("23:59:59");
     gtn_zapis(1, gtn::barva_koleje, 0);
     simulace.minuty_simulace = 2;
-    relief.lblcas[0].text = TextPohled("0:00:00");
+    nastav_cas("0:00:00");
     gtn_zapis(1, gtn::barva_koleje, 0);
     const Bajty log = obsah();
     EXPECT_EQ(cas_zaznamu(log, 0), 86399);

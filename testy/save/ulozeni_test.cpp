@@ -99,7 +99,7 @@ protected:
     Text jmeno_okna(TextPohled pred, TextPohled za) const { return Text(pred) + soubor() + Text(za); }
     static void jed(int s) {
         for (int i = 0; i < s; ++i) {
-            relief.lblcas[0].text = text_casu(sekundy_textu(cas_hodin()) + 1);
+            nastav_cas(cas_hodin() + 1);
             krok_volby();
         }
     }
@@ -276,7 +276,7 @@ TEST_F(Ulozeni, PeriodicSaveComesAtMultiplesOfItsPeriodAlsoAcrossALoad) {
     const auto ulozenych = [&] { return soubory_slozky(svet.cesta() + "save\\autosave", "*.sim").size(); };
     const auto minuta = [&] {
         svet.posun_ms(60'000);
-        relief.lblcas[0].text = text_casu(sekundy_textu(cas_hodin()) + 60);
+        nastav_cas(cas_hodin() + 60);
         krok_minuty();
     };
     simulace.autosave = true;
@@ -383,7 +383,7 @@ TEST_F(Ulozeni, TimeThatTheDialogueOfASaveTakesIsNotSimulated) {
 // --- the name that the dialogue proposes
 
 TEST_F(Ulozeni, DialogueProposesTheDayAndTheTime) {
-    relief.lblcas[0].text = TextPohled("8:05:30");
+    nastav_cas("8:05:30");
     relief.lblDEN[0].text = nazev_dne(1);
     uloz_dialog();
     EXPECT_EQ(svet.navrzena_jmena, std::vector<Text>{Text("Tesk úterý 8-05-30.sim"_cz)});
@@ -573,7 +573,7 @@ TEST_F(Ulozeni, ContradictionsAreRefusedAndNothingChanges) {
     const auto odmitne = [&](auto zmena) {
         svet.konec.reset();
         nacti_zmeneny(zmena);
-        const bool odmitnuto = svet.konec == 1 && cas_hodin() == "0:00:00" && cesty.size() == 1;
+        const bool odmitnuto = svet.konec == 1 && text_hodin() == "0:00:00" && cesty.size() == 1;
         nova_simulace();
         simulace.cesta_aplikace = svet.cesta();
         spust();

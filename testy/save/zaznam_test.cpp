@@ -1,4 +1,5 @@
 // testy/save/zaznam_test.cpp - the record of a save, byte by byte.
+#include "app/cas.h"
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/prvky_cesty.h"
 #include "pomocne/virtualni_platforma.h"
@@ -58,7 +59,7 @@ void postav_vzorove_kolejiste() {
 TEST_F(ZaznamSimulace, EmptySimulationHasTheLengthOfItsFields) {
     postav_vzorove_kolejiste();
     prejezdy.clear();
-    relief.lblcas[0].text = TextPohled("11:59:58");
+    nastav_cas("11:59:58");
     relief.lblGVD[0].text = TextPohled("GVD2005");
     const Zaznam z = zaznam_simulace();
     const Bajty b = bajty_zaznamu(z);

@@ -1,4 +1,5 @@
 // testy/technologie/provoz2_test.cpp - the maintenance screen of the stack, the possessions and the macros.
+#include "app/cas.h"
 #include "app/casovace.h"
 #include "app/nova_simulace.h"
 #include "cesty/duvod.h"
@@ -83,14 +84,14 @@ TEST_F(Provoz2Obrazovka, NoTimerMovesARouteWhileItIsOpen) {
     zarad_dve();
     otevri();
     const std::vector<Cesta> predtim = cesty;
-    const Text cas = cas_hodin();
+    const Text cas = text_hodin();
     for (int i = 0; i < 60; ++i) {
         svet.posun_ms(1000);
         for (const Casovac& c : casovace)
             c.telo();
     }
     EXPECT_EQ(cesty, predtim);
-    EXPECT_EQ(cas_hodin(), cas);
+    EXPECT_EQ(text_hodin(), cas);
 }
 
 TEST_F(Provoz2Obrazovka, CoversTheDesk) {
@@ -125,12 +126,12 @@ TEST_F(Provoz2Obrazovka, DateFollowsTheComputersClockAndNotTheSimulation) {
     svet.cas = {2005, 1, 1, 12, 38, 39, 0};
     otevri();
     EXPECT_EQ(technologie.lblDatum, " 01.01.05 12:38:39");
-    const Text cas = cas_hodin();
+    const Text cas = text_hodin();
     svet.cas = {2031, 12, 24, 7, 5, 9, 0};
     EXPECT_EQ(technologie.lblDatum, " 01.01.05 12:38:39") << "only its timer writes it";
     tik_technologie();
     EXPECT_EQ(technologie.lblDatum, " 24.12.31 07:05:09");
-    EXPECT_EQ(cas_hodin(), cas);
+    EXPECT_EQ(text_hodin(), cas);
 }
 
 TEST_F(Provoz2Obrazovka, DateStandsWhileItIsClosed) {

@@ -1,4 +1,5 @@
 // testy/technologie/technologie_test.cpp - the five maintenance screens: opening, tabs, contents, timers.
+#include "app/cas.h"
 #include "app/casovace.h"
 #include "app/nova_simulace.h"
 #include "cesty/dotazy.h"
@@ -190,13 +191,13 @@ TEST_F(ObrazovkyTechnologie, EachHasTheHeadTheTitleAndTheDate) {
 TEST_F(ObrazovkyTechnologie, ChangingTheComputersClockChangesTheDateAndNotTheSimulatedTime) {
     for (const Technologie t : kVsechny) {
         otevri(t);
-        const Text cas = cas_hodin();
+        const Text cas = text_hodin();
         const Text predtim = technologie.lblDatum;
         svet.cas.rok += 1;
         EXPECT_EQ(technologie.lblDatum, predtim) << "only its timer writes it";
         tik_technologie();
         EXPECT_NE(technologie.lblDatum, predtim);
-        EXPECT_EQ(cas_hodin(), cas);
+        EXPECT_EQ(text_hodin(), cas);
     }
 }
 

@@ -325,7 +325,7 @@ void zapis_mapu(const HlavniOkno& okno, const Platno& platno) {
 void zapis_stav() {
     QString obsah;
     QTextStream stav(&obsah);
-    stav << "cas " << na_qstring(cas_hodin()) << "\npauza " << (simulace.pauza ? 1 : 0) << '\n';
+    stav << "cas " << na_qstring(text_hodin()) << "\npauza " << (simulace.pauza ? 1 : 0) << '\n';
     for (const Vlak& v : vlaky)
         if (v.cislo > 0 && !v.prvky.empty())
             stav << "vlak " << v.cislo << ' ' << v.prvky.back().prvek << ' ' << v.rychlost << '\n';
