@@ -172,9 +172,11 @@ Nalez volba() {
 
 Nalez pult() {
     const Prikaz& p = prikaz_radek;
-    if (p.fronta_zprav.empty() || !p.fronta_zprav.back().prikaz.empty() ||
+    if (p.fronta_zprav.empty() || !p.fronta_zprav.back().slovo.text().empty() ||
         !p.fronta_zprav.back().volba.empty())
         return Text("fronta_zprav: na konci chybí prázdný záznam"_cz);
+    if (relief.lblPrikaz[0].text() != p.slovo.text())
+        return Text("příkazový řádek: ukazuje jiné slovo, než je jeho zpráva"_cz);
     if (relief.lblPrikaz[0].viditelny && !p.obsazen)
         return Text("příkazový řádek: ukazuje zprávu, ale není obsazen"_cz);
     if (p.blikani_prikazu && !p.obsazen)
@@ -183,12 +185,12 @@ Nalez pult() {
         return Text("menu: položky bez otevřeného menu"_cz);
     if (!menu.jmeno.empty() && menu.prvek >= 0 && !tabulka(menu.druh).je(menu.prvek))
         return veta({"menu: prvek "_cz, text_cisla(menu.prvek), " neexistuje"_cz});
+    if (relief.lstZpravy.radky != texty_hlaseni())
+        return Text("lstZpravy: ukazuje něco jiného, než co hlásí"_cz);
     if (stitky.empty())
         return Text("stitky: tabulka je prázdná"_cz);
     return std::nullopt;
 }
-    if (relief.lstZpravy.radky != texty_hlaseni())
-        return Text("lstZpravy: ukazuje něco jiného, než co hlásí"_cz);
 
 Nalez souhlasy_trati() {
     const auto& cekajici = souhlasy.cekajici_vlaky;

@@ -386,7 +386,7 @@ void start_simulace() {
     relief.lblrychlost_simulace[0].text = text_cisla(simulace.rychlost);
     simulace.tick_jizdy = platforma.tik_ms();
     pipni(400, 150);
-    zprava(" INIT ", " OK ", barvy::zelena, 0, false, barvy::bila, 0, false);
+    zprava(DruhZpravy::init, " OK ", barvy::zelena, 0, false, barvy::bila, 0, false);
     if (simulace.nacitani_zaznamu)
         pripomen_varovani(); // behind the login
     if (simulace.nacitani_zaznamu)

@@ -54,12 +54,12 @@
     TABULKA(stav_vyhybek, {})                                                                                \
     TABULKA(panel_navestidla, {})                                                                            \
     TABULKA(stitky, std::vector<StitekPrvku>(1))                                                             \
+    TABULKA(hlaseni, {})                                                                                     \
     TABULKA(prikaz_radek, {})                                                                                \
-    TABULKA(menu, {})                                                                                        \
     TABULKA(stranka_vlaku, {})                                                                               \
+    TABULKA(menu, {})                                                                                        \
     TABULKA(stav_menu_koleje, {})                                                                            \
     TABULKA(blikani, {})                                                                                     \
-    TABULKA(hlaseni, {})                                                                                     \
     TABULKA(technologie, {})                                                                                 \
     TABULKA(provoz1, {})                                                                                     \
     TABULKA(provoz2, {})                                                                                     \

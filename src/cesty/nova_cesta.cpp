@@ -15,8 +15,8 @@
 
 namespace {
 
-void varuj(TextPohled slovo, TextPohled text, int ms) {
-    zprava(slovo, text, barvy::cervena, 0, false, barvy::bila, barvy::bila);
+void varuj(DruhZpravy druh, TextPohled text, int ms) {
+    zprava(druh, text, barvy::cervena, 0, false, barvy::bila, barvy::bila);
     pipni(800, ms);
 }
 
@@ -25,14 +25,14 @@ void varuj_pred_stitky(Cesta& c, int prvek) {
     if (i < 0)
         return;
     const StitekPrvku& stitek = stitky[static_cast<std::size_t>(i)];
-    const std::array<std::array<TextPohled, 2>, 3> varovani = {{{" POZOR VYLUKA "_cz, stitek.vyluka},
-                                                                {" POZOR NVL "_cz, stitek.nvl},
-                                                                {" POZOR STITEK "_cz, stitek.stitek}}};
-    for (const auto& [slovo, text] : varovani) {
+    const std::array<std::pair<DruhZpravy, TextPohled>, 3> varovani = {{{DruhZpravy::vyluka, stitek.vyluka},
+                                                                        {DruhZpravy::nvl, stitek.nvl},
+                                                                        {DruhZpravy::stitek, stitek.stitek}}};
+    for (const auto& [druh, text] : varovani) {
         if (text.empty())
             continue;
         c.varovani = -1;
-        varuj(slovo, " " + Text(text), 100);
+        varuj(druh, " " + Text(text), 100);
     }
 }
 
@@ -54,7 +54,7 @@ void varuj_pred_pn(Cesta& c) {
         if (&jina == &c || !jina.PN || jmeno_navestidla(jina.zacatek).substr(0, 3) != stanice)
             continue;
         c.varovani = -1;
-        varuj(" POZOR PN "_cz,
+        varuj(DruhZpravy::sviti_pn,
               jmeno_navestidla(jina.zacatek) + Text(" Svítí přivolávací návěst "_cz) + Text(" !"_cz), 300);
         return;
     }

@@ -88,6 +88,8 @@ void zablokuj(const Cesta& c, Pruchod& pruchod) {
 
 // --- stage one: the switches are commanded
 
+// The names are asked for as the operator reads them on the line, not the elements: those that bear one name
+// are one signal and one end to him.
 bool je_ve_volbe(TextPohled jmeno) {
     return !jmeno.empty() &&
            (" " + relief.lblVolba[0].text() + " ").find(" " + Text(jmeno) + " ") != Text::npos;
@@ -102,8 +104,8 @@ bool je_zacatek_ve_volbe(const Cesta& c) {
 
 // The prompt that picked this route has done its work.
 void skryj_vyzvu(const Cesta& c) {
-    const TextPohled slovo = relief.lblPrikaz[0].text();
-    if (!prikaz_radek.obsazen || (slovo != " VC " && slovo != " PC " && slovo != " PN "))
+    const auto stoji = stojici_zprava();
+    if (!stoji || !je_vyzva_cesty(*stoji))
         return;
     if (je_zacatek_ve_volbe(c) && (!c.VC || je_ve_volbe(jmeno_konce(c.konec)))) {
         skryj_prikaz();

@@ -68,7 +68,7 @@ template <class A, ZaznamJe<Vyber> Z> void popis_poli(A& a, Z& z) {
 }
 
 template <class A, ZaznamJe<ZpravaFronty> Z> void popis_poli(A& a, Z& z) {
-    a.pole("prikaz", z.prikaz);
+    a.pole("prikaz", Text(z.slovo.text()));
     a.pole("volba", z.volba);
     a.barva("pozadi", z.pozadi);
     a.barva("pozadi_volby", z.pozadi_volby);

@@ -17,7 +17,9 @@
 #include "davka/virtualni_svet.h"
 #include "davka/vypisy.h"
 #include "desk/info_o_vlaku.h"
+#include "desk/zprava.h"
 #include "jizda/vlak.h"
+#include "obsluha/vyber.h"
 #include "zaklad/cisla.h"
 #include "zaklad/soubory.h"
 
@@ -223,6 +225,8 @@ void prevezmi_napsane(Druh druh, int n) {
     const Prvek& p = tabulka(druh)[n];
     switch (druh) {
     case Druh::lblcas: stav_hodin.sekundy = sekundy_textu(p.text()); break;
+    case Druh::lblPrikaz: prikaz_radek.slovo = p.text(); break;
+    case Druh::lblMakro_pismeno: vyber.makro_pismeno = orez(p.text()); break;
     case Druh::lblIinfo_o_vlaku: {
         const double vlak = ciselny_text(p.stav()).value_or(kZadny);
         stranka_vlaku.vlak =

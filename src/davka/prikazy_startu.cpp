@@ -11,6 +11,7 @@
 #include "davka/virtualni_svet.h"
 #include "desk/menu.h"
 #include "obsluha/klavesy.h"
+#include "obsluha/povely.h"
 #include "obsluha/vstup.h"
 #include "save/ulozeni.h"
 #include "zaklad/soubory.h"
@@ -44,9 +45,8 @@ Text nalezeny_zaznam(std::string_view utf8) {
     return cesta; // the start tells that there is none
 }
 
-bool je_prihlaseni() {
-    const Text& slovo = relief.lblPrikaz[0].text;
-    return relief.lblPrikaz[0].viditelny && (slovo == " INIT " || slovo == " TPC " || slovo == " ARCHIV ");
+bool ceka_prihlaseni() {
+    return relief.lblPrikaz[0].viditelny && prihlaseni_bezi();
 }
 
 } // namespace
@@ -74,7 +74,7 @@ void prikaz_otevrit(BehSkriptu& beh) {
 
 // A save ends with a running clock; during the login it goes on standing, for nobody has taken over yet.
 void prikaz_uloz(BehSkriptu&, Slova slova) {
-    const bool pauza_startu = je_prihlaseni() && simulace.pauza;
+    const bool pauza_startu = ceka_prihlaseni() && simulace.pauza;
     const auto rozbeh = zastav_pro_ulozeni();
     uloz_simulaci(cesta_zaznamu(slova[0]), false, rozbeh);
     if (pauza_startu)
@@ -82,11 +82,11 @@ void prikaz_uloz(BehSkriptu&, Slova slova) {
 }
 
 void prikaz_prihlas(BehSkriptu&, Slova) {
-    if (!je_prihlaseni())
+    if (!ceka_prihlaseni())
         chyba_skriptu("přihlášení není na řadě: na příkazovém řádku stojí " +
                       v_uvozovkach(na_utf8(relief.lblPrikaz[0].text())));
     Klavesa enter;
     enter.kod = KodKlavesy::enter;
-    for (int i = 0; i < 3 && je_prihlaseni(); ++i)
+    for (int i = 0; i < 3 && ceka_prihlaseni(); ++i)
         klavesa(enter);
 }

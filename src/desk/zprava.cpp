@@ -18,13 +18,12 @@ constexpr int kOdstupVpravo = 5;
 constexpr Barva kPozadiTlacitka = 0xE0E0E0;
 constexpr Barva kStisknuteTlacitko = 0x800000;
 
-// Words of the warnings of routes.
-constexpr std::array kVarovani = {" POZOR STITEK "_cz, " POZOR NVL "_cz, " POZOR VYLUKA "_cz,
-                                  " POZOR PN "_cz};
-
-bool je_vyzva_cesty(TextPohled kod) {
-    return kod == " VC "_cz || kod == " PC "_cz || kod == " PN "_cz;
-}
+// By kind; what only tells something has no word of its own.
+constexpr std::array kSlova = {TextPohled(),        " INIT "_cz,      " TPC "_cz,          " ARCHIV "_cz,
+                               " VC "_cz,           " PC "_cz,        " PN "_cz,           " ZPRÁVA "_cz,
+                               " POZOR STITEK "_cz, " POZOR NVL "_cz, " POZOR VYLUKA "_cz, " POZOR PN "_cz,
+                               " CIV "_cz};
+static_assert(kSlova.size() == static_cast<std::size_t>(DruhZpravy::cislo_vlaku) + 1);
 
 // Opens or closes the input field over the text of the line. While the operator types, the pointer is
 // out of the way.
@@ -57,10 +56,11 @@ void dvojce(TabulkaPrvku& prvky) {
 }
 
 // Captions and places of both labels, and their copies.
-void vypis_radek(TextPohled kod, TextPohled text) {
+void vypis_radek(const SlovoZpravy& slovo, TextPohled text) {
     Prvek& prikaz = relief.lblPrikaz[0];
     Prvek& volba = relief.lblVolba[0];
-    nastav_text(prikaz, kod);
+    prikaz_radek.slovo = slovo;
+    nastav_text(prikaz, slovo.text());
     prikaz.viditelny = true;
     volba.text = text;
     volba.viditelny = true;
@@ -70,7 +70,7 @@ void vypis_radek(TextPohled kod, TextPohled text) {
     dvojce(relief.lblVolba);
     prikaz_radek.obsazen = true;
     // these flash until they are answered
-    prikaz_radek.blikani_prikazu = je_varovani(kod) || kod == " ZPRÁVA "_cz;
+    prikaz_radek.blikani_prikazu = je_varovani(slovo.druh()) || slovo.druh() == DruhZpravy::souhlas;
 }
 
 void zobraz(const ZpravaFronty& z, int kod) {
@@ -81,7 +81,7 @@ void zobraz(const ZpravaFronty& z, int kod) {
     prikaz.barva = varovani ? barvy::bila : z.popredi;
     volba.pozadi = z.pozadi_volby;
     volba.barva = varovani ? barvy::bila : barvy::cerna;
-    vypis_radek(z.prikaz, z.volba);
+    vypis_radek(z.slovo, z.volba);
     prikaz_radek.kod_zpravy = static_cast<std::int16_t>(kod);
     nastav_vstup(z.vstup);
 }
@@ -92,8 +92,8 @@ void zarad(ZpravaFronty z) {
     prikaz_radek.fronta_zprav.emplace_back();
 }
 
-ZpravaFronty stojici_zprava() {
-    return {relief.lblPrikaz[0].text,  relief.lblVolba[0].text,   relief.lblPrikaz[0].pozadi,
+ZpravaFronty zprava_na_radku() {
+    return {prikaz_radek.slovo,        relief.lblVolba[0].text,   relief.lblPrikaz[0].pozadi,
             relief.lblVolba[0].pozadi, relief.lblPrikaz[0].barva, relief.txtZadav_pole[0].povoleny};
 }
 
@@ -143,29 +143,54 @@ void ukaz_obsah(Panel panel) {
 
 } // namespace
 
-bool je_varovani(TextPohled kod) {
-    return std::find(kVarovani.begin(), kVarovani.end(), kod) != kVarovani.end();
+TextPohled SlovoZpravy::text() const {
+    return druh_zpravy == DruhZpravy::sdeleni ? TextPohled(sdeleni)
+                                              : kSlova[static_cast<std::size_t>(druh_zpravy)];
 }
 
-void zprava(TextPohled prikaz, TextPohled volba, Barva pozadi, int kod, bool vstup, Barva pozadi_volby,
+void SlovoZpravy::precti(TextPohled slovo) {
+    const auto misto = std::find(kSlova.begin() + 1, kSlova.end(), slovo);
+    if (misto != kSlova.end())
+        druh_zpravy = static_cast<DruhZpravy>(misto - kSlova.begin());
+    else
+        sdeleni = slovo;
+}
+
+bool je_varovani(DruhZpravy druh) {
+    return druh >= DruhZpravy::stitek && druh <= DruhZpravy::sviti_pn;
+}
+
+bool je_vyzva_cesty(DruhZpravy druh) {
+    return druh >= DruhZpravy::vc && druh <= DruhZpravy::pn;
+}
+
+bool je_prihlaseni(DruhZpravy druh) {
+    return druh >= DruhZpravy::init && druh <= DruhZpravy::archiv;
+}
+
+std::optional<DruhZpravy> stojici_zprava() {
+    return prikaz_radek.obsazen ? std::optional(prikaz_radek.slovo.druh()) : std::nullopt;
+}
+
+void zprava(const SlovoZpravy& slovo, TextPohled volba, Barva pozadi, int kod, bool vstup, Barva pozadi_volby,
             Barva popredi, bool do_fronty) {
-    ZpravaFronty nova{Text(prikaz), Text(volba), pozadi, pozadi_volby, popredi, vstup};
-    const TextPohled stoji = relief.lblPrikaz[0].text();
-    if (prikaz == " CIV "_cz || !prikaz_radek.obsazen) {
+    ZpravaFronty nova{slovo, Text(volba), pozadi, pozadi_volby, popredi, vstup};
+    if (slovo.druh() == DruhZpravy::cislo_vlaku || !prikaz_radek.obsazen) {
         zobraz(nova, kod);
     } else if (relief.lblVolba[0].text() == volba) {
         return; // the same is not said twice in a row
-    } else if (je_vyzva_cesty(stoji)) {
+    } else if (je_vyzva_cesty(prikaz_radek.slovo.druh())) {
         zobraz(nova, kod);
     } else if (do_fronty) {
-        zarad(stojici_zprava());
+        zarad(zprava_na_radku());
         zobraz(nova, kod);
-    } else if (!je_vyzva_cesty(prikaz)) {
+    } else if (!je_vyzva_cesty(slovo.druh())) {
         zarad(std::move(nova));
     } // a prompt never waits
 }
 
 void skryj_prikaz() {
+    prikaz_radek.slovo = {};
     nastav_text(relief.lblPrikaz[0], {});
     relief.lblPrikaz[0].viditelny = false;
     relief.lblVolba[0].viditelny = false;
@@ -184,33 +209,33 @@ void potvrd_prikaz() {
 
 void dalsi_zprava() {
     std::vector<ZpravaFronty>& fronta = prikaz_radek.fronta_zprav;
-    const bool volno = !prikaz_radek.obsazen || je_vyzva_cesty(relief.lblPrikaz[0].text());
+    const bool volno = !prikaz_radek.obsazen || je_vyzva_cesty(prikaz_radek.slovo.druh());
     // Into an occupied line the message would only go to the end of the queue: it keeps its turn.
     if (fronta.size() < 2 || !volno)
         return;
     const ZpravaFronty z = std::move(fronta.front());
     fronta.erase(fronta.begin());
-    zprava(z.prikaz, z.volba, z.pozadi, 0, z.vstup, z.pozadi_volby, z.popredi);
+    zprava(z.slovo, z.volba, z.pozadi, 0, z.vstup, z.pozadi_volby, z.popredi);
 }
 
 void odvolej_varovani() {
     std::vector<ZpravaFronty>& fronta = prikaz_radek.fronta_zprav;
     fronta.erase(std::remove_if(fronta.begin(), fronta.end(),
-                                [](const ZpravaFronty& z) { return je_varovani(z.prikaz); }),
+                                [](const ZpravaFronty& z) { return je_varovani(z.slovo.druh()); }),
                  fronta.end());
-    if (!prikaz_radek.obsazen || !je_varovani(relief.lblPrikaz[0].text()))
+    if (!prikaz_radek.obsazen || !je_varovani(prikaz_radek.slovo.druh()))
         return;
     skryj_prikaz();
     prikaz_radek.kod_zpravy = 0;
     dalsi_zprava();
 }
 
-void zobraz_prikaz(TextPohled prikaz, TextPohled volba, Barva popredi, Barva pozadi) {
+void zobraz_prikaz(const SlovoZpravy& slovo, TextPohled volba, Barva popredi, Barva pozadi) {
     for (Prvek* p : {&relief.lblPrikaz[0], &relief.lblVolba[0]}) {
         p->barva = popredi;
         p->pozadi = pozadi;
     }
-    vypis_radek(prikaz, volba);
+    vypis_radek(slovo, volba);
     prikaz_radek.kod_zpravy = 0;
     nastav_vstup(false);
 }

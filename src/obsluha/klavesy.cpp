@@ -33,22 +33,22 @@ bool vstup_otevren() {
 
 // --- Enter and Esc
 
-void prihlas(TextPohled dalsi_kod, TextPohled dalsi_text) {
+void prihlas(DruhZpravy dalsi, TextPohled text) {
     potvrd_prikaz();
-    zprava(dalsi_kod, dalsi_text, barvy::zelena, 0, false, barvy::bila, 0, false);
+    zprava(dalsi, text, barvy::zelena, 0, false, barvy::bila, 0, false);
 }
 
 // Enter answers what stands on the line; false when nothing stood there.
 bool odpovez_na_radek() {
-    const Text kod = relief.lblPrikaz[0].text;
-    if (kod == " INIT ") {
-        prihlas(" TPC ", " OK ");
-    } else if (kod == " TPC ") {
-        prihlas(" ARCHIV ", " Karta PIK - opravnění B Dispečer , ARCHIV INIT OK "_cz);
-    } else if (kod == " ARCHIV ") {
+    const DruhZpravy stoji = prikaz_radek.slovo.druh();
+    if (stoji == DruhZpravy::init) {
+        prihlas(DruhZpravy::tpc, " OK ");
+    } else if (stoji == DruhZpravy::tpc) {
+        prihlas(DruhZpravy::archiv, " Karta PIK - opravnění B Dispečer , ARCHIV INIT OK "_cz);
+    } else if (stoji == DruhZpravy::archiv) {
         spust_hodiny();
         potvrd_prikaz();
-    } else if (je_varovani(kod)) {
+    } else if (je_varovani(stoji)) {
         potvrd_varovani();
     } else if (makro_se_zaznamenava()) {
         uloz_makro();

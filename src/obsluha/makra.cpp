@@ -25,6 +25,7 @@ void odznac_kroky() {
 
 void ukonci_zaznam() {
     vyber.makro_zaznam = false;
+    vyber.makro_pismeno.clear();
     nastav_text(relief.lblMakro_pismeno[0], {});
 }
 
@@ -46,11 +47,12 @@ void vyber_krok(int zacatek, int konec, int druh) {
 } // namespace
 
 bool makro_se_zaznamenava() {
-    return !orez(relief.lblMakro_pismeno[0].text()).empty();
+    return !vyber.makro_pismeno.empty();
 }
 
 void zacni_makro(char pismeno) {
     vyber.makro_zaznam = true;
+    vyber.makro_pismeno = orez(TextPohled(&pismeno, 1)); // the blank is no letter: such a macro is never kept
     vyber.makro_zacatky = {-3};
     vyber.makro_konce = {-3};
     vyber.makro_druhy = {0};
@@ -62,8 +64,8 @@ void krok_makra(int zacatek, int konec, int druh) {
     if (druh != druh_volby::vlak && druh != druh_volby::posun)
         return;
     // The prompt turns orange; another message on the line stays as it is.
-    const TextPohled slovo = druh == druh_volby::vlak ? " VC "_cz : " PC "_cz;
-    if (prikaz_radek.obsazen && relief.lblPrikaz[0].text() == slovo)
+    const DruhZpravy slovo = druh == druh_volby::vlak ? DruhZpravy::vc : DruhZpravy::pc;
+    if (stojici_zprava() == slovo)
         zobraz_prikaz(slovo, Text(relief.lblVolba[0].text), barvy::oranzova, relief.lblPrikaz[0].pozadi);
     if (vyber.makro_zacatky.front() >= 0) {
         vyber.makro_zacatky.emplace_back();
@@ -79,8 +81,8 @@ void krok_makra(int zacatek, int konec, int druh) {
 void uloz_makro() {
     odznac_kroky();
     if (vyber.makro_zacatky.front() >= 0) {
-        const ZaznamMakra makro{Text(orez(relief.lblMakro_pismeno[0].text())), vyber.makro_druhy,
-                                vyber.makro_zacatky, vyber.makro_konce};
+        const ZaznamMakra makro{vyber.makro_pismeno, vyber.makro_druhy, vyber.makro_zacatky,
+                                vyber.makro_konce};
         pridej_ulozene_makro(makro);
     }
     ukonci_zaznam();

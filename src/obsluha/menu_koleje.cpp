@@ -300,6 +300,6 @@ void volej_civ(int v) {
     zastav_hodiny();
     prikaz_radek.zadany_prvek = na_integer(v);
     prikaz_radek.rezim_zadani = rezim_zadani::cislo_vlaku;
-    zprava(" CIV "_cz, {}, barvy::azurova, kOtazkaCislaVlaku, true);
+    zprava(DruhZpravy::cislo_vlaku, {}, barvy::azurova, kOtazkaCislaVlaku, true);
     relief.txtZadav_pole[0].text = text_cisla(vlak_c(v).cislo);
 }

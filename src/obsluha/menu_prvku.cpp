@@ -42,8 +42,6 @@ template <PovelVyhybky Povel> void akce_hod(int n) {
 
 // --- consents
 
-constexpr TextPohled kSlovoZpravy = " ZPRÁVA "_cz;
-
 bool je_lampa(int k) {
     return k >= 0 && static_cast<std::size_t>(k) < uzel::kKonceTrati.size() && relief.lblSouhlas.je(k);
 }
@@ -57,10 +55,10 @@ Text otazka(int k) {
 }
 
 // The question of line k stands on the command line, asked at once or brought by the queue. That of
-// another line is not answered by this consent.
+// another line is not answered by this consent, nor that of the train which asked before: the whole question
+// is compared, since it names both.
 bool stoji_otazka(int k) {
-    return prikaz_radek.obsazen && relief.lblPrikaz[0].text() == kSlovoZpravy &&
-           relief.lblVolba[0].text() == otazka(k);
+    return stojici_zprava() == DruhZpravy::souhlas && relief.lblVolba[0].text() == otazka(k);
 }
 
 } // namespace
@@ -142,7 +140,7 @@ void klik_souhlas(int k, Tlacitko tlacitko) {
         return;
     }
     if (tlacitko == Tlacitko::leve && !relief.lblSouhlas[k].popis->empty())
-        zprava(kSlovoZpravy, otazka(k), barvy::azurova, k + 1);
+        zprava(DruhZpravy::souhlas, otazka(k), barvy::azurova, k + 1);
 }
 
 void menu_souhlasu(int k) {

@@ -3,6 +3,7 @@
 
 #include "app/konec.h"
 #include "app/simulace.h"
+#include "desk/zprava.h"
 #include "relief/relief.h"
 #include "save/ulozeni.h"
 #include "technologie/technologie.h"
@@ -22,8 +23,7 @@ void nastav_rychlost(int rychlost) {
 } // namespace
 
 bool prihlaseni_bezi() {
-    const Text& kod = relief.lblPrikaz[0].text;
-    return kod == " INIT " || kod == " TPC " || kod == " ARCHIV ";
+    return je_prihlaseni(prikaz_radek.slovo.druh());
 }
 
 void pipni_klavesou() {

@@ -26,29 +26,26 @@ constexpr std::int32_t kCasVolby_s = 10; // wall-clock seconds from the start to
 
 constexpr TextPohled kNenalezena = " Cesta nenalezena v závěrové tabulce ! "_cz;
 
-constexpr std::array kSlova = {""_cz, " VC "_cz, " PC "_cz, " PN "_cz}; // by kind
+// By kind of the selection.
+const std::array<SlovoZpravy, 4> kSlova = {SlovoZpravy(), DruhZpravy::vc, DruhZpravy::pc, DruhZpravy::pn};
 constexpr std::array kBarvy = {barvy::cerna, barvy::zelena, barvy::bila, barvy::azurova};
 
 // --- the command line
 
-TextPohled slovo_prikazu() {
-    return prikaz_radek.obsazen ? TextPohled(relief.lblPrikaz[0].text()) : TextPohled{};
-}
-
 bool stoji_vyzva() {
-    const TextPohled slovo = slovo_prikazu();
-    return slovo == " VC " || slovo == " PC " || slovo == " PN ";
+    const auto stoji = stojici_zprava();
+    return stoji && je_vyzva_cesty(*stoji);
 }
 
 // The prompt of a selection from the signal s.
 Vyzva vyzva_volby(int druh, int s) {
     if (druh == druh_volby::posun)
-        return {" PC ", jmeno_navestidla(s), barvy::bila, barvy::cerna};
+        return {DruhZpravy::pc, jmeno_navestidla(s), barvy::bila, barvy::cerna};
     if (druh == druh_volby::pn)
-        return {" PN ", jmeno_navestidla(s), barvy::bila, barvy::azurova};
+        return {DruhZpravy::pn, jmeno_navestidla(s), barvy::bila, barvy::azurova};
     if (makro_se_zaznamenava())
-        return {" VC ", jmeno_navestidla(s), barvy::seda, barvy::azurova};
-    return {" VC ", jmeno_navestidla(s), barvy::bila, barvy::zelena};
+        return {DruhZpravy::vc, jmeno_navestidla(s), barvy::seda, barvy::azurova};
+    return {DruhZpravy::vc, jmeno_navestidla(s), barvy::bila, barvy::zelena};
 }
 
 // A prompt never takes the line from another message, and does not wait for it: a warning that must be
@@ -162,7 +159,7 @@ void pripis_konec(int e) {
     text += " " + jmeno_konce(e);
     if (jmeno_cile(e).empty())
         text += " " + text_cisla(delka_koleje(e)) + "m";
-    zobraz_prikaz(slovo_prikazu(), text, relief.lblPrikaz[0].barva, relief.lblPrikaz[0].pozadi);
+    zobraz_prikaz(prikaz_radek.slovo, text, relief.lblPrikaz[0].barva, relief.lblPrikaz[0].pozadi);
 }
 
 // --- Esc
@@ -205,7 +202,7 @@ void klik_navestidlo(int s, Tlacitko tlacitko, bool ctrl) {
         return;
     const Prvek& navestidlo = relief.navestidlo[s];
     if (navestidlo.pozadi == barvy::seda || navestidlo.barva == barvy::purpurova ||
-        slovo_prikazu() == " POZOR STITEK ")
+        stojici_zprava() == DruhZpravy::stitek)
         return;
     pipni(800, 10);
     obnov_panel(s);
@@ -236,7 +233,7 @@ void klik_navestidlo_ser(int s, Tlacitko tlacitko) {
 }
 
 void volba_pn(int s) {
-    if (!navestidla(s).je(s) || simulace.pauza || slovo_prikazu() == " POZOR STITEK ")
+    if (!navestidla(s).je(s) || simulace.pauza || stojici_zprava() == DruhZpravy::stitek)
         return;
     if (barva_navestidla(s) == barvy::cervena) {
         ohlas_zablokovane(" Návěstidlo zablokováno v poloze STŮJ!"_cz);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "cesty/nova_cesta.h"
+#include "desk/zprava.h"
 #include "obsluha/tlacitko.h"
 #include "obsluha/vyber.h"
 #include "relief/prvek.h"
@@ -10,7 +11,8 @@
 
 // What the command line says of a selection: the word of its kind and the name of its start.
 struct Vyzva {
-    Text slovo, text;
+    SlovoZpravy slovo;
+    Text text;
     Barva popredi = 0, pozadi = 0;
     bool operator==(const Vyzva&) const = default;
 };

@@ -5,6 +5,7 @@
 #pragma once
 
 #include "relief/relief.h"
+#include "zaklad/text.h"
 
 #include <cstdint>
 #include <vector>
@@ -20,6 +21,7 @@ struct Vyber {
     bool volba_posun = false; // the highlighted start belongs to a shunt selection
 
     bool makro_zaznam = false; // a macro is being recorded
+    Text makro_pismeno;        // the letter that will play it, as lblMakro_pismeno shows; empty without one
     std::vector<std::int16_t> makro_zacatky{-3}, makro_konce{-3};
     std::vector<std::uint8_t> makro_druhy{0};
 

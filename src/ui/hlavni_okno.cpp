@@ -130,7 +130,7 @@ bool zvyraznuje_se(const Nalezeny& kde) {
 Prvek stitek_vyzvy(const Vyzva& vyzva) {
     Prvek p;
     p.viditelny = true;
-    p.text = vyzva.slovo + vyzva.text + " ";
+    p.text = Text(vyzva.slovo.text()) + vyzva.text + " ";
     p.barva = vyzva.popredi;
     p.pozadi = vyzva.pozadi;
     p.ramecek = true;

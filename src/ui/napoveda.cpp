@@ -3,6 +3,7 @@
 
 #include "desk/info_o_vlaku.h"
 #include "desk/stitky.h"
+#include "desk/zprava.h"
 #include "gvd/gvd.h"
 #include "obsluha/menu_koleje.h"
 #include "prvky/prejezdy_stanice.h"
@@ -42,12 +43,11 @@ QString poznamky(int prvek) {
 
 // What the command line waits for.
 const char* co_s_radkem() {
-    const TextPohled kod = orez(relief.lblPrikaz[0].text());
     if (relief.txtZadav_pole[0].viditelny && relief.txtZadav_pole[0].povoleny)
         return "Enter odešle, Esc zavře";
-    if (kod == "INIT" || kod == "TPC" || kod == "ARCHIV")
+    if (je_prihlaseni(prikaz_radek.slovo.druh()))
         return "přihlášení: potvrďte klávesou Enter nebo klepnutím sem";
-    if (kod == "VC" || kod == "PC" || kod == "PN")
+    if (je_vyzva_cesty(prikaz_radek.slovo.druh()))
         return "klepněte na konec cesty; Esc volbu zruší";
     return "Enter nebo klepnutí sem hlášení potvrdí";
 }

@@ -191,6 +191,48 @@ TEST_F(PrikazovyRadek, QueuedQuestionWithoutTextDoesNotBlockThoseBehindIt) {
     EXPECT_EQ(text(), "dalsi");
 }
 
+TEST_F(PrikazovyRadek, WordOfAKindIsAMessageOfThatKind) {
+    const std::vector<std::pair<DruhZpravy, TextPohled>> slova = {{DruhZpravy::init, " INIT "},
+                                                                  {DruhZpravy::tpc, " TPC "},
+                                                                  {DruhZpravy::archiv, " ARCHIV "},
+                                                                  {DruhZpravy::vc, " VC "},
+                                                                  {DruhZpravy::pc, " PC "},
+                                                                  {DruhZpravy::pn, " PN "},
+                                                                  {DruhZpravy::souhlas, " ZPRÁVA "_cz},
+                                                                  {DruhZpravy::stitek, " POZOR STITEK "},
+                                                                  {DruhZpravy::nvl, " POZOR NVL "},
+                                                                  {DruhZpravy::vyluka, " POZOR VYLUKA "},
+                                                                  {DruhZpravy::sviti_pn, " POZOR PN "},
+                                                                  {DruhZpravy::cislo_vlaku, " CIV "}};
+    for (const auto& [druh, slovo] : slova) {
+        EXPECT_EQ(SlovoZpravy(druh).text(), slovo);
+        EXPECT_EQ(SlovoZpravy(slovo), SlovoZpravy(druh)) << slovo;
+    }
+    for (const TextPohled jine : {"", "VC", " POZOR ", " ZAM "}) {
+        EXPECT_EQ(SlovoZpravy(jine).druh(), DruhZpravy::sdeleni);
+        EXPECT_EQ(SlovoZpravy(jine).text(), jine);
+    }
+}
+
+TEST_F(PrikazovyRadek, KindOfTheMessageDoesNotHangOnWhatTheLabelShows) {
+    zprava(DruhZpravy::stitek, "text", barvy::cervena);
+    EXPECT_EQ(stojici_zprava(), DruhZpravy::stitek);
+    relief.lblPrikaz[0].text = TextPohled(" VC ");
+    zprava(" ZAM ", "jina", barvy::cervena); // would take the place of a prompt
+    EXPECT_EQ(text(), "text");
+    EXPECT_EQ(ceka(), 1u);
+}
+
+TEST_F(PrikazovyRadek, NothingStandsOnAnAnsweredLine) {
+    EXPECT_EQ(stojici_zprava(), std::nullopt);
+    zprava(DruhZpravy::init, " OK ", barvy::zelena);
+    EXPECT_TRUE(je_prihlaseni(prikaz_radek.slovo.druh()));
+    potvrd_prikaz();
+    EXPECT_EQ(stojici_zprava(), std::nullopt);
+    EXPECT_EQ(prikaz_radek.slovo, SlovoZpravy());
+    EXPECT_EQ(kod(), "");
+}
+
 TEST_F(PrikazovyRadek, SelectionWritesBothLabelsInItsOwnColours) {
     zobraz_prikaz(" VC ", "S1", barvy::bila, barvy::zelena);
     EXPECT_TRUE(prikaz_radek.obsazen);

@@ -65,7 +65,7 @@ TEST_F(Provoz2Obrazovka, EscEnterAndTheEndOfThePauseCloseIt) {
 
 TEST_F(Provoz2Obrazovka, StaysClosedBeforeTheLogin) {
     zastav_hodiny();
-    relief.lblPrikaz[0].text = TextPohled(" INIT ");
+    prikaz_radek.slovo = DruhZpravy::init;
     otevri();
     stiskni("PrintScreen");
     EXPECT_EQ(simulace.obrazovka, "frmMain");

@@ -128,11 +128,11 @@ TEST_F(NapovedaStolu, EveryElementAndCommandHasItsChapterInTheManual) {
 
 TEST_F(NapovedaStolu, CommandLineSaysWhatItWaitsFor) {
     const auto rika = [] { return napoveda_prvku({Druh::lblVolba, 0}); };
-    relief.lblPrikaz[0].text = Text(" INIT ");
+    prikaz_radek.slovo = DruhZpravy::init;
     EXPECT_TRUE(rika().startsWith(QStringLiteral("přihlášení")));
-    relief.lblPrikaz[0].text = Text(" VC ");
+    prikaz_radek.slovo = DruhZpravy::vc;
     EXPECT_TRUE(rika().startsWith(QStringLiteral("klepněte na konec cesty")));
-    relief.lblPrikaz[0].text = Text(" POZOR ");
+    prikaz_radek.slovo = " POZOR ";
     EXPECT_TRUE(rika().contains(QStringLiteral("potvrdí")));
     relief.txtZadav_pole[0].viditelny = relief.txtZadav_pole[0].povoleny = true;
     EXPECT_EQ(rika(), QStringLiteral("Enter odešle, Esc zavře"));
