@@ -76,7 +76,7 @@ void zavri_prejezd_vcas(std::size_t k) {
     StanicniPrejezd& prejezd = stanicni_prejezdy[k];
     if (prejezd.cas <= 0 || ted_s() <= prejezd.cas)
         return;
-    prejezd.cas = -3;
+    prejezd.cas = kZadny;
     if (!prejezd.uzavren)
         gtn_zapis(static_cast<int>(k), gtn::prejezd, 1);
     prejezd.uzavren = true;

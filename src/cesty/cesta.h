@@ -2,33 +2,34 @@
 //
 // A route is queued, being set, standing, or run over. `cesty` is never empty: without any route it
 // holds one record whose zacatek is below 0. An index changes whenever an earlier route goes, so no
-// other table keeps one across a tick. -3 means none in every field.
+// other table keeps one across a tick. kZadny means none in every field.
 #pragma once
 
 #include "cesty/prvek_cesty.h"
 #include "relief/prvek.h"
+#include "zaklad/cisla.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <vector>
 
 struct Cesta {
-    std::int16_t zacatek = -3;         // start signal; below 0: empty record
-    std::int16_t konec = -3;           // end element
+    std::int16_t zacatek = kZadny;     // start signal; below 0: empty record
+    std::int16_t konec = kZadny;       // end element
     std::vector<PrvekCesty> prvky{{}}; // in running order; entry 0 is the track before the signal
-    std::int32_t Kdy_prehoz = -3;      // second after which the switches count as thrown
+    std::int32_t Kdy_prehoz = kZadny;  // second after which the switches count as thrown
     std::uint8_t rychlost = 0;         // speed class: 0 free, 1, 2, 3 = 40, 60, 80 km/h
     bool VC = false;                   // train or calling-on route; else a shunt route
     bool PN = false;                   // calling-on route
-    std::int32_t PN_do = -3;           // second at which the calling-on aspect ends
+    std::int32_t PN_do = kZadny;       // second at which the calling-on aspect ends
     bool PN_zaver = false;             // the calling-on locking was released by hand
-    std::int32_t cas_stavby = -3;      // second from which the route machine may work
+    std::int32_t cas_stavby = kZadny;  // second from which the route machine may work
     bool prehozena = false;            // the switches have been commanded
     bool Postavena = false;            // stands with the signal cleared
     bool Provedena = false;            // has reached the end of setting
-    std::int32_t cas_ruseni = -3;      // second at which the cancellation takes effect
+    std::int32_t cas_ruseni = kZadny;  // second at which the cancellation takes effect
     std::int32_t barva_cisla = 0;      // background of the end's label before the highlight
-    std::int16_t Vlak = -3;     // train that has taken it; -4 waiting automatic copy; -10 to be removed
+    std::int16_t Vlak = kZadny; // train that has taken it; -4 waiting automatic copy; -10 to be removed
     std::uint8_t Umazat = 0;    // index of the element that the head has reached; 0: no train yet
     std::int16_t vyhybka = 0;   // switch whose clearing ends the route's speed limit
     std::int16_t varovani = 0;  // a warning is pending, the machine must not touch the route
@@ -72,10 +73,10 @@ inline std::size_t posledni_index(const Cesta& c) {
     return c.prvky.empty() ? 0 : c.prvky.size() - 1;
 }
 inline int prvni_prvek(const Cesta& c) {
-    return c.prvky.empty() ? -3 : c.prvky.front().prvek;
+    return c.prvky.empty() ? kZadny : c.prvky.front().prvek;
 }
 inline int posledni_prvek(const Cesta& c) {
-    return c.prvky.empty() ? -3 : c.prvky.back().prvek;
+    return c.prvky.empty() ? kZadny : c.prvky.back().prvek;
 }
 // Kind and position of entry k; behind the end there is nothing: 0.
 inline std::uint8_t druh_na(const Cesta& c, std::size_t k) {

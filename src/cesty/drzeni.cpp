@@ -68,7 +68,7 @@ int ztracena_vyhybka(const Cesta& c) {
     for (std::size_t k = 1; k < c.prvky.size(); ++k)
         if (druh_na(c, k) == druh_prvku::vyhybka && drzitel(druh_prvku::vyhybka, c.prvky[k].prvek) != &c)
             return c.prvky[k].prvek;
-    return -3;
+    return kZadny;
 }
 
 bool stoji_na_vyhybce(int n) {

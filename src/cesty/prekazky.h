@@ -43,7 +43,7 @@ enum class DruhPrekazky : std::uint8_t {
 
 struct Prekazka {
     DruhPrekazky druh = DruhPrekazky::zadna;
-    int prvek = -3;
+    int prvek = kZadny;
     std::size_t dosel = 0; // entry of the route at which the walk ended
     explicit operator bool() const { return druh != DruhPrekazky::zadna; }
 };

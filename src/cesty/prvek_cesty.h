@@ -2,6 +2,7 @@
 #pragma once
 
 #include "zaklad/balik.h"
+#include "zaklad/cisla.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -16,9 +17,9 @@ inline constexpr std::uint8_t vykolejka = 4;
 } // namespace druh_prvku
 
 struct PrvekCesty {
-    std::int16_t prvek = -3; // element number within its kind
-    std::uint8_t druh = 0;   // one of druh_prvku; 0 in an empty record
-    std::uint8_t poloha = 0; // demanded position of a switch; 2 on a track: labelled at release
+    std::int16_t prvek = kZadny; // element number within its kind
+    std::uint8_t druh = 0;       // one of druh_prvku; 0 in an empty record
+    std::uint8_t poloha = 0;     // demanded position of a switch; 2 on a track: labelled at release
 
     bool operator==(const PrvekCesty&) const = default;
 };

@@ -49,13 +49,13 @@ struct Pruchod {
 // --- the manual throw
 
 void dokonci_rucni_prehoz(std::int32_t ted) {
-    if (stav_vyhybek.prehoz_cas == -3 || ted < stav_vyhybek.prehoz_cas)
+    if (stav_vyhybek.prehoz_cas == kZadny || ted < stav_vyhybek.prehoz_cas)
         return;
     const int n = stav_vyhybek.prehoz_vyhybka;
     if (relief.imgVyhybka.je(n))
         vyhybka_stav(n, stav_vyhybky_cislo(n), true, true);
-    stav_vyhybek.prehoz_vyhybka = -3;
-    stav_vyhybek.prehoz_cas = -3;
+    stav_vyhybek.prehoz_vyhybka = kZadny;
+    stav_vyhybek.prehoz_cas = kZadny;
 }
 
 // --- calling-on aspects
@@ -120,8 +120,8 @@ void zapamatuj_barvu_konce(Cesta& c) {
 
 void uvolni_vyber(const Cesta& c) {
     if (vyber.volba_zacatek == c.zacatek && vyber.volba_konec == c.konec) {
-        vyber.volba_zacatek = -3;
-        vyber.volba_konec = -3;
+        vyber.volba_zacatek = kZadny;
+        vyber.volba_konec = kZadny;
     }
 }
 
@@ -138,7 +138,7 @@ void ohlas_cekani(const Cesta& c) {
 // the switch that ends the speed limit, sections whose label is cleared at release.
 void oznac_prvky(Cesta& c, std::size_t dosel) {
     c.prejezd = kBezPrejezdu;
-    c.vyhybka = -3;
+    c.vyhybka = kZadny;
     for (std::size_t k = 1; k < c.prvky.size() && k <= dosel; ++k) {
         const int n = c.prvky[k].prvek;
         if (druh_na(c, k) == druh_prvku::vyhybka && k < dosel)

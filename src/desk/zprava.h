@@ -6,6 +6,7 @@
 #pragma once
 
 #include "relief/prvek.h"
+#include "zaklad/cisla.h"
 #include "zaklad/text.h"
 
 #include <concepts>
@@ -60,11 +61,11 @@ struct ZpravaFronty {
 struct Prikaz {
     SlovoZpravy slovo;                         // of the message that stands; empty when none does
     std::vector<ZpravaFronty> fronta_zprav{1}; // the waiting messages, then one empty spare
-    std::int16_t kod_zpravy = 0;    // what an Enter answers: 1 to 3 consent of a line, 9 train number
-    std::int16_t rezim_zadani = 0;  // what the input field is for; 0 nothing
-    std::int16_t zadany_prvek = -3; // the element or train that the input belongs to
-    bool obsazen = false;           // the line is occupied; the dark half of a blinking does not count
-    bool blikani_prikazu = false;   // lblPrikaz flashes
+    std::int16_t kod_zpravy = 0;        // what an Enter answers: 1 to 3 consent of a line, 9 train number
+    std::int16_t rezim_zadani = 0;      // what the input field is for; 0 nothing
+    std::int16_t zadany_prvek = kZadny; // the element or train that the input belongs to
+    bool obsazen = false;               // the line is occupied; the dark half of a blinking does not count
+    bool blikani_prikazu = false;       // lblPrikaz flashes
     bool operator==(const Prikaz&) const = default;
 };
 extern Prikaz prikaz_radek;

@@ -20,7 +20,7 @@ void otoc_vlak(int v);
 void otoc_nouzove(int v);
 // Couples two records that stand wholly on one element; else a refusal on the command line.
 void spoj(int a, int b);
-// Splits off the vehicles 0 to i (the last one alone when i is the last); index of the new record, -3
+// Splits off the vehicles 0 to i (the last one alone when i is the last); index of the new record, kZadny
 // when nothing was done. `zobraz`: the train is shown on the train page; else only when it stands there.
 int odvesit(int v, int i, bool zobraz);
 // Click on the picture of vehicle i of the train on the train page: it comes off with those before it. A

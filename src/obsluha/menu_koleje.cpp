@@ -37,7 +37,7 @@ bool je_vlak(int v) {
 
 // --- the trains of the menu
 
-// The train of entry `poradi`; -3 when the entry is empty or its train has gone meanwhile.
+// The train of entry `poradi`; kZadny when the entry is empty or its train has gone meanwhile.
 int vlak_polozky(int poradi) {
     if (poradi < 0 || poradi >= kVlakuVMenu)
         return kZadny;
@@ -197,7 +197,7 @@ std::int32_t cislo_na_stitku(int stitek) {
     return cele_z_textu(text);
 }
 
-// The only train in the list of the track; -3 when there is none or more than one.
+// The only train in the list of the track; kZadny when there is none or more than one.
 int jediny_vlak(int e) {
     const int zaznam = zaznam_koleje(e);
     if (zaznam < 0)

@@ -15,7 +15,7 @@ inline constexpr int kVlakuVMenu = 4;
 // What mnuKolej was opened with. A train that is no longer the one of that number is left alone.
 struct MenuKoleje {
     int prvek = kZadny;
-    std::array<int, kVlakuVMenu> vlak{kZadny, kZadny, kZadny, kZadny}; // index in `vlaky`, -3 none
+    std::array<int, kVlakuVMenu> vlak{kZadny, kZadny, kZadny, kZadny}; // index in `vlaky`
     std::array<std::int32_t, kVlakuVMenu> cislo{};                     // its number then
     bool operator==(const MenuKoleje&) const = default;
 };

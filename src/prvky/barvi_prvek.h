@@ -19,8 +19,8 @@ void obnov_lampu_souhlasu(int n);
 // Labels of station tracks wear the colour of their track; those of line ends and single tracks never do.
 bool stitek_ma_barvu_koleje(int n);
 // Flank check of two consecutive switches of a route: the switch at the fourth corner of their rectangle
-// when it is locked or moves; -3 when there is no such switch.
+// when it is locked or moves; kZadny when there is no such switch.
 int bocni_vyhybka(int a, int b);
 bool sousedni_volne(int a, int b);
-// The track whose colour n repeats in another picture of it; -3 when n is no such picture.
+// The track whose colour n repeats in another picture of it; kZadny when n is no such picture.
 int vzor_zrcadla(int n);

@@ -41,7 +41,7 @@ void prejezd_not(int k) {
         return;
     prejezd(k).UZ = false;
     obarvi_popisek(k, barvy::seda);
-    prejezd(k).cas = -3;
+    prejezd(k).cas = kZadny;
     prejezd(k).uzavren = false;
     prejezd(k).pocet = kBezVlaku;
 }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "zaklad/balik.h"
+#include "zaklad/cisla.h"
 
 #include <array>
 #include <cstdint>
@@ -14,7 +15,7 @@ struct StanicniPrejezd {
     bool UZ = false;           // closed by the operator
     std::int16_t rezerva1 = 0; // kept in saves, read by nobody
     std::int16_t rezerva2 = 0;
-    std::int32_t cas = -3;          // second at which it begins to close; -3 none pending
+    std::int32_t cas = kZadny;      // second at which it begins to close; kZadny none pending
     std::uint8_t pocet = kBezVlaku; // trains in its area, counted from kBezVlaku
     bool operator==(const StanicniPrejezd&) const = default;
 };

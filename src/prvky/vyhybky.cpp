@@ -204,7 +204,7 @@ void projdi_partnery(int n, const std::function<void(int)>& prace) {
 }
 
 bool hazi_se_rukou(int n) {
-    if (stav_vyhybek.prehoz_cas == -3 || !vyhybka_v_pohybu(n))
+    if (stav_vyhybek.prehoz_cas == kZadny || !vyhybka_v_pohybu(n))
         return false;
     bool hazi = stav_vyhybek.prehoz_vyhybka == n;
     projdi_partnery(stav_vyhybek.prehoz_vyhybka, [&](int b) { hazi = hazi || b == n; });
@@ -326,7 +326,7 @@ void obnov_pohyb_vyhybek() {
         }
     }
     const int n = stav_vyhybek.prehoz_vyhybka;
-    if (stav_vyhybek.prehoz_cas != -3 && relief.imgVyhybka.je(n) && stav_vyhybky_cislo(n) < 50) {
+    if (stav_vyhybek.prehoz_cas != kZadny && relief.imgVyhybka.je(n) && stav_vyhybky_cislo(n) < 50) {
         rozjed(n);
         if (!je_anglicka(stav_vyhybky_cislo(n)))
             rozjed_vykolejky(n, stav_vyhybky_cislo(n));

@@ -3,7 +3,7 @@
 // An element exists only if the relief file or the screen itself placed it. Elements are made once and
 // never destroyed. Two kinds may use the same number: 212 is a track, a label and a signal, in three
 // places. Element 0 of every kind of the relief exists from the start, invisible and blank, so 0 is a
-// number like any other and -3 is the one that means none. uzel/cislovani.h tells what the numbers mean.
+// number like any other and kZadny is the one that means none. uzel/cislovani.h tells what the numbers mean.
 #pragma once
 
 #include "relief/prvek.h"

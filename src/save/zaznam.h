@@ -45,8 +45,8 @@ struct Zaznam {
     std::vector<StanicniPrejezd> stanicni_prejezdy;
     std::vector<Prejezd> prejezdy;
     std::vector<std::int32_t> cekajici_vlaky;
-    std::int16_t prehoz_vyhybka = -3;
-    std::int32_t prehoz_cas = -3;
+    std::int16_t prehoz_vyhybka = kZadny;
+    std::int32_t prehoz_cas = kZadny;
     std::vector<StitekPrvku> stitky;
     std::vector<KolejVlaky> koleje_vlaky;
     std::array<Text, 3> souhlas_text;
