@@ -370,7 +370,8 @@ void krok_konce(int v) {
 
 // --- route pass
 
-// A route that a removal moves down waits for the next step: this is meant.
+// A route that a removal moves down waits for the next step: every route is looked at once a step, in the
+// order of the stack as it stands.
 void uklid_cesty() {
     bool zmena = false;
     for (int c = 0; c < pocet_cest(); ++c) {

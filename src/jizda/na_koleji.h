@@ -13,7 +13,8 @@
 // On 118 the sense of travel turns, so `smer` counts the other way there. The labels follow.
 void pridej_na_kolej(int prvek, int vlak, bool smer, int vedle);
 // Takes a train out of the list of an element; nothing when it is not in it. The labels follow, but not
-// when it was the only one: they keep what they show until the next painting, which is meant.
+// when it was the only one: whoever takes it away says what the label shows then, the number of the next
+// train or the name of the track.
 void uber_z_koleje(int prvek, int vlak);
 // The labels of one record of koleje_vlaky. A track with two labels shows its lowest train on the left
 // one and its highest on the right one; a single train stands on the left, the track's name on the

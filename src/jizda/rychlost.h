@@ -13,5 +13,6 @@ void rychlost_trati_prvek(int prvek, int v);
 // The head stands on the start of the route: its limit is in force, by its speed class; 30 km/h over a
 // shunt or calling-on route.
 void omez_rychlost(const Cesta& cesta, int v);
-// Next speed of train v. Braking takes no distance: there is no braking curve, which is meant.
+// Next speed of train v. Braking takes no distance: what the driver does before a signal or a stop
+// is not the desk's, and the moment at which the train clears a section is the same.
 void uprav_rychlost(int v);

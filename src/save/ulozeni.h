@@ -1,8 +1,9 @@
 // save/ulozeni.h - saved simulations: writing the whole state to a file.
 //
 // A save is one record of 42 fields (save/zaznam.h). It is written in a pause, and its end always starts the
-// clock again: a save made by hand in a pause leaves the simulation running, which is meant. It costs no
-// simulated time: where the clock ran, it goes on within its second as if there had been no save.
+// clock again: a save made by hand in a pause leaves the simulation running, for every save ends in the same
+// way, the periodic one too. It costs no simulated time: where the clock ran, it goes on within its second as
+// if there had been no save.
 #pragma once
 
 #include "zaklad/text.h"

@@ -35,7 +35,8 @@ constexpr bool je_opakovaci(int s) {
 }
 
 // Exits of the junction: what lies behind them is not the desk's business, so that the signal in front
-// announces nothing. (41 is an exit like 64, 67 and 88 and is missing: as designed.)
+// announces nothing. 41 is an exit like 64, 67 and 88 and is not among them: there the signal
+// in front announces stop, which errs on the safe side.
 inline constexpr std::array kBezPredzvesti = {212, 213, 219, 120, 123, 118, 64, 67, 88};
 
 // Mast of a main signal by ranges of numbers, both included; ranges do not overlap, and every other main

@@ -25,8 +25,7 @@ inline constexpr std::array kPredMokrinou = {666, 668};
 
 struct PrejezdStanice {
     TextPohled kilometr; // its name on the desk
-    TextPohled
-        stitek; // under which the supervision screen lists it; the places differ by ten metres: as designed
+    TextPohled stitek;   // on the supervision screen: another office has measured it, ten metres off
     std::span<const int> zavira, otvira;
     int stanice_od, stanice_po; // tracks of the station at the road
     std::span<const int> pred;  // and others from which a route may run over it

@@ -31,8 +31,9 @@ struct SeznamStanic {
 };
 
 // The sense of a train that stands at a station: `obvykly`, unless its next stop is one of the list, which
-// gives the other one. Where a station is missing the sense is to the left. Vyšní Hrabov faces the wrong way:
-// as designed.
+// gives the other one. Where a station is missing the sense is to the left. Vyšní Hrabov faces the wrong way,
+// unless the train is bound for the main station or the lower one: a train with a cab or a locomotive at both
+// ends turns for its first route, and the others are for the operator to turn.
 struct SmerVeStanici {
     int stanice;
     bool obvykly;

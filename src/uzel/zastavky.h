@@ -58,12 +58,14 @@ inline constexpr std::array kMistaStopu = {
     MistoStopu{930, 930, dopravna::javorna}};
 
 // Departures that the journal tells, by the track that the train leaves. Hájovice and the last track of Vyšní
-// Hrabov are not told: as designed.
+// Hrabov are not told: their offices keep journals of their own.
 struct RadekDeniku {
     int od, po;
     TextPohled text;
     int stanice;
-    bool prvnim_cislem = false; // the train goes by its first number even after the change: this is meant
+    // The train goes by its first number even after the change: the number changes there, and the journal of
+    // the station has it as it came.
+    bool prvnim_cislem = false;
 };
 inline constexpr std::array kDenik = {
     RadekDeniku{86, 90, " odjel z Lhotína v "_cz, dopravna::lhotin},
