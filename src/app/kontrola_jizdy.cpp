@@ -6,6 +6,7 @@
 #include "app/kontrola_jizdy.h"
 
 #include "app/cas.h"
+#include "app/nova_simulace.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/smer_trati.h"
@@ -59,6 +60,7 @@ struct VidenaSipka {
     Text smer;
 };
 struct Videno {
+    std::uint64_t simulace = 0;
     std::uint32_t kroku = 0;  // of the movement
     std::size_t zkraceni = 0; // commands ZKRATIT
     std::vector<VidenyVlak> vlaky;
@@ -505,6 +507,10 @@ void prijmi_zkracene() {
 } // namespace
 
 std::optional<Text> kontrola_jizdy() {
+    if (videno.simulace != poradi_simulace()) {
+        zapomen_kontrolu_jizdy();
+        videno.simulace = poradi_simulace();
+    }
     prijmi_zkracene();
     constexpr std::array kKontroly = {vjezdy, vyhybky_pod_vlaky, souvislost, delky, navesti, smery_trati};
     Nalez nalez;

@@ -1,6 +1,7 @@
 // app/kontrola_majitelu.cpp - who owns what the relief shows.
 #include "app/kontrola_majitelu.h"
 
+#include "app/nova_simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/drzeni.h"
 #include "jizda/vlak.h"
@@ -43,8 +44,9 @@ struct Prestupek {
 };
 using Prestupky = std::vector<Prestupek>;
 
-Prestupky prijate;        // what stood there before anybody looked
-bool prijmout_vse = true; // the next look takes everything as it is
+Prestupky prijate;               // what stood there before anybody looked
+bool prijmout_vse = true;        // the next look takes everything as it is
+std::uint64_t videne_poradi = 0; // of the simulation at the last look
 
 // --- the owners
 
@@ -263,6 +265,10 @@ std::optional<Text> kontrola_majitelu() {
     if (!relief.lblcas.je(0) || !relief.lblcas[0].viditelny) {
         prijmi_majitele();
         return std::nullopt;
+    }
+    if (const std::uint64_t poradi = poradi_simulace(); poradi != videne_poradi) {
+        prijmi_majitele();
+        videne_poradi = poradi;
     }
     Prestupky nalezy = prestupky();
     const auto novy = std::find_if(nalezy.begin(), nalezy.end(), [](const Prestupek& p) {

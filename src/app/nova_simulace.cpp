@@ -1,8 +1,6 @@
 // app/nova_simulace.cpp - the tables of the simulation, and their reset.
 #include "app/nova_simulace.h"
 
-#include "app/kontrola_jizdy.h"
-#include "app/kontrola_majitelu.h"
 #include "app/nouzove.h"
 #include "app/stav_simulace.h"
 #include "save/gtn.h"
@@ -13,12 +11,21 @@
 TABULKY_SIMULACE(TABULKA)
 #undef TABULKA
 
+namespace {
+
+std::uint64_t poradi = 0;
+
+} // namespace
+
 void nova_simulace() {
+    ++poradi;
     gtn_zavri();
     vrat_stav(StavSimulace{});
-    zapomen_kontrolu_jizdy();
-    prijmi_majitele();
     zapomen_nouzovy_stav();
+}
+
+std::uint64_t poradi_simulace() {
+    return poradi;
 }
 
 StavSimulace stav_simulace() {

@@ -2,6 +2,8 @@
 // peace.
 #include "app/kontrola.h"
 #include "app/kontrola_majitelu.h"
+#include "app/nova_simulace.h"
+#include "app/stav_simulace.h"
 #include "cesty/prehoz_rukou.h"
 #include "jizda/svet_vlaku.h"
 #include "pomocne/prvky_cesty.h"
@@ -164,6 +166,19 @@ TEST_F(KontrolaMajitelu, ListOfATrackKnowsWhoStandsThere) {
     ASSERT_EQ(nalez(), "");
     pridej_na_kolej(63, v, true, -1);
     EXPECT_EQ(nalez(), "kolej 63: seznam vlaků neodpovídá tomu, kdo na ní je");
+}
+
+TEST_F(KontrolaMajitelu, WhatANewSimulationBeginsWithIsTakenAsItIs) {
+    EXPECT_EQ(nalez(), "");
+    const StavSimulace stav = stav_simulace();
+    nova_simulace();
+    vrat_stav(stav);
+    barvi_prvek(440, barvy::cervena);
+    EXPECT_EQ(nalez(), "");
+    barvi_prvek(440, barvy::seda);
+    EXPECT_EQ(nalez(), "");
+    barvi_prvek(440, barvy::cervena);
+    EXPECT_EQ(nalez(), "kolej 440: je obsazená a žádný vlak na ní není");
 }
 
 TEST_F(KontrolaMajitelu, WhatAHandOrASaveHasBroughtIsTakenAsItIs) {
