@@ -2,7 +2,7 @@
 #include "cesty/tabulky.h"
 
 #include "app/simulace.h"
-#include "zaklad/soubory.h"
+#include "zaklad/mezipamet.h"
 
 #include <algorithm>
 #include <array>
@@ -23,30 +23,6 @@ template <class Zaznam, class Popis> std::vector<Zaznam> cti_zaznamy(const Bajty
     }
     return zaznamy;
 }
-
-// What a file says now: read anew when the file's mark has changed. A file that is taken away while the
-// desk runs leaves what it said.
-template <class Obsah> class Mezipamet {
-public:
-    template <class Cteni> const Obsah& vezmi(TextPohled jmeno, Cteni cteni) {
-        Text uplna = simulace.cesta_aplikace;
-        uplna += jmeno;
-        const std::uint64_t znacka = otisk_souboru(uplna);
-        const bool odebran = znacka == 0 && otisk != 0 && uplna == soubor;
-        if (!odebran && (znacka == 0 || znacka != otisk || uplna != soubor)) {
-            otisk = 0;
-            obsah = cteni(nacti_soubor(uplna)); // a missing file is its run-time error
-            soubor = std::move(uplna);
-            otisk = znacka;
-        }
-        return obsah;
-    }
-
-private:
-    Text soubor;
-    std::uint64_t otisk = 0;
-    Obsah obsah;
-};
 
 struct ObsahCest {
     std::vector<ZaznamCesty> zaznamy;
@@ -82,7 +58,7 @@ ObsahVazeb cti_obsah_vazeb(const Bajty& bajty) {
 
 const ObsahVazeb& obsah_vazeb() {
     static Mezipamet<ObsahVazeb> mezipamet;
-    return mezipamet.vezmi("data\\tesk.stg", cti_obsah_vazeb);
+    return mezipamet.vezmi(simulace.cesta_aplikace, "data\\tesk.stg", cti_obsah_vazeb);
 }
 
 } // namespace
@@ -102,8 +78,8 @@ std::vector<ZaznamMakra> cti_makra(const Bajty& bajty) {
 NalezenaCesta najdi_v_tabulce(TabulkaCest tabulka, int zacatek, int konec) {
     static std::array<Mezipamet<ObsahCest>, 2> mezipameti;
     const bool vlakova = tabulka == TabulkaCest::zat;
-    const ObsahCest& obsah =
-        mezipameti[vlakova ? 0 : 1].vezmi(vlakova ? "data\\tesk.zat" : "data\\tesk.zpc", cti_obsah_cest);
+    const ObsahCest& obsah = mezipameti[vlakova ? 0 : 1].vezmi(
+        simulace.cesta_aplikace, vlakova ? "data\\tesk.zat" : "data\\tesk.zpc", cti_obsah_cest);
     const auto nalezena = obsah.podle_dvojice.find(klic(zacatek, konec));
     if (nalezena == obsah.podle_dvojice.end())
         return {};

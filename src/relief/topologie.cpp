@@ -3,8 +3,7 @@
 
 #include "app/simulace.h"
 #include "zaklad/cisla.h"
-#include "zaklad/platforma.h"
-#include "zaklad/soubory.h"
+#include "zaklad/mezipamet.h"
 
 #include <bitset>
 
@@ -13,38 +12,6 @@ namespace {
 constexpr std::size_t kZaznam = 7;     // bytes of a record
 constexpr std::size_t kPoleKoleje = 3; // of which the number of the element
 constexpr std::int16_t kVychoziDelka_m = 60;
-constexpr std::uint32_t kDotazDisku_ms = 10'000; // how long a look at the disk holds
-
-struct Topologie {
-    Text slozka; // the program's folder whose file this is
-    std::uint64_t otisk = 0;
-    std::int32_t tik = 0; // when the disk was asked last
-    std::uint64_t zmeny = 0;
-    Delky delky{};
-};
-Topologie topologie;
-
-void obnov() {
-    const std::int32_t tik = platforma.tik_ms();
-    const std::uint64_t zmeny = vlastni_zmeny();
-    const bool stejna_slozka = topologie.slozka == simulace.cesta_aplikace;
-    const bool nedavno =
-        static_cast<std::uint32_t>(tik) - static_cast<std::uint32_t>(topologie.tik) < kDotazDisku_ms;
-    if (topologie.otisk != 0 && stejna_slozka && nedavno && topologie.zmeny == zmeny)
-        return;
-    const Text cesta = simulace.cesta_aplikace + "data\\tesk.top";
-    const std::uint64_t otisk = otisk_souboru(cesta);
-    const bool odebran = otisk == 0 && topologie.otisk != 0 && stejna_slozka; // what it said still holds
-    if (!odebran && (otisk == 0 || otisk != topologie.otisk || !stejna_slozka)) {
-        topologie.otisk = 0; // a fault below leaves no table behind
-        topologie.delky = delky_kolejiste(nacti_soubor(cesta));
-    }
-    topologie.slozka = simulace.cesta_aplikace;
-    if (!odebran)
-        topologie.otisk = otisk;
-    topologie.tik = tik;
-    topologie.zmeny = zmeny;
-}
 
 } // namespace
 
@@ -65,8 +32,9 @@ Delky delky_kolejiste(std::span<const std::uint8_t> bajty) {
 }
 
 std::int16_t delka_koleje(int kolej) {
-    obnov();
+    static Mezipamet<Delky> delky;
+    const Delky& platne = delky.vezmi(simulace.cesta_aplikace, "data\\tesk.top", delky_kolejiste);
     if (kolej < 0 || kolej > kNejvyssiPrvek)
         return kVychoziDelka_m;
-    return topologie.delky[static_cast<std::size_t>(kolej)];
+    return platne[static_cast<std::size_t>(kolej)];
 }

@@ -57,8 +57,7 @@ bool presun_soubor(TextPohled odkud, TextPohled kam);
 std::vector<Text> soubory_slozky(TextPohled slozka, TextPohled vzor);
 // Wall-clock time of the last change: seconds since 1970 in local time; nothing when missing.
 std::optional<std::int64_t> cas_zmeny(TextPohled cesta);
-// A mark that changes when the file does (time and length): for caches of tables that the rules read
-// anew at each use. 0 when the file is missing.
+// A mark that changes when the file does (time and length). 0 when the file is missing.
 std::uint64_t otisk_souboru(TextPohled cesta);
 // How many files this process has written or removed so far: for caches that look at the disk only now
 // and then.
