@@ -270,6 +270,23 @@ void zapis_vedle(TextPohled cesta, const std::string& jmeno, const Bajty& obsah,
     uloz_slozku(slozka);
 }
 
+// Opens an empty file of this process's own. An older one of the name goes, and who still writes into that
+// one goes on with what he has: two files never mix. One that cannot be removed is emptied.
+int otevri_novy(const std::string& jmeno) {
+    constexpr int kPokusu = 10;
+    constexpr int kVolby = O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK;
+    for (int pokus = 0; pokus < kPokusu; ++pokus) {
+        const int soubor = ::open(jmeno.c_str(), kVolby | O_EXCL, 0644);
+        if (soubor >= 0 || errno != EEXIST)
+            return soubor;
+        struct stat st {};
+        if (::lstat(jmeno.c_str(), &st) == 0 &&
+            (!S_ISREG(st.st_mode) || (::unlink(jmeno.c_str()) != 0 && errno != ENOENT)))
+            break;
+    }
+    return ::open(jmeno.c_str(), kVolby | O_TRUNC, 0644);
+}
+
 // Both in lower case.
 bool odpovida(TextPohled jmeno, TextPohled vzor) {
     if (vzor.empty())
@@ -360,8 +377,7 @@ void prepis_zacatek_souboru(TextPohled cesta, const Bajty& obsah) {
 void zaloz_rostouci(RostouciSoubor& soubor, TextPohled cesta) {
     zavri_rostouci(soubor);
     ++zmeny;
-    soubor.popisovac =
-        ::open(cesta_k_zapisu(cesta).c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC | O_NONBLOCK, 0644);
+    soubor.popisovac = otevri_novy(cesta_k_zapisu(cesta));
     soubor.delka = 0;
     if (soubor.popisovac < 0)
         chyba_zapisu(cesta, errno);

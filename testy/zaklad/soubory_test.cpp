@@ -335,6 +335,18 @@ TEST_F(Soubory, LockOfAFolderIsSharedByThoseThatShareAndByNoOther) {
     EXPECT_TRUE(zamkni_slozku(slozka.cesta + "neni", Zamek::jen_ja));
 }
 
+TEST_F(Soubory, TwoGrowingFilesOfOneNameNeverMix) {
+    RostouciSoubor prvni, druhy;
+    zaloz_rostouci(prvni, slozka.cesta + "denik");
+    EXPECT_FALSE(pripis(prvni, Bajty(10, 'a')));
+    zaloz_rostouci(druhy, slozka.cesta + "denik");
+    EXPECT_FALSE(pripis(druhy, Bajty(5, 'b')));
+    EXPECT_FALSE(pripis(prvni, Bajty(10, 'c'))); // whose name is gone
+    zavri_rostouci(prvni);
+    zavri_rostouci(druhy);
+    EXPECT_EQ(cti("denik"), Text(5, 'b'));
+}
+
 TEST_F(Soubory, WhatAFullDiskDoesNotTakeIsNotLeftHalfInAGrowingFile) {
     RostouciSoubor soubor;
     zaloz_rostouci(soubor, slozka.cesta + "denik");
