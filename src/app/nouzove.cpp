@@ -1,6 +1,7 @@
 // app/nouzove.cpp - the emergency save, and what the start screen needs of it.
 #include "app/nouzove.h"
 
+#include "app/konec.h"
 #include "app/nacteni.h"
 #include "app/simulace.h"
 #include "relief/relief.h"
@@ -76,6 +77,11 @@ NouzoveUlozeni uloz_nouzove() noexcept {
     } catch (...) {
         return NouzoveUlozeni::selhalo;
     }
+}
+
+void konec_od_systemu() {
+    uloz_nouzove();
+    konec_ihned();
 }
 
 std::optional<Text> cekajici_nouzovy() {

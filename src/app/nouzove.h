@@ -23,6 +23,12 @@ void zapamatuj_stav();
 // save itself.
 NouzoveUlozeni uloz_nouzove() noexcept;
 
+// --- when the system ends the process
+
+// The machine is switched off, or the program is told to end: nobody answers a question. The game is saved in
+// silence for the next start, and the program ends as by the end key.
+void konec_od_systemu();
+
 // --- on the start screen
 
 // The newest emergency save that was not offered yet, as a path.

@@ -35,6 +35,18 @@ bool v_jadre(const std::function<void()>& telo) {
     return true;
 }
 
+void ukonci_zvenci(const std::function<void()>& telo) {
+    if (v_jadre(telo) || konec)
+        return;
+    try {
+        telo();
+    } catch (const KonecProgramu& k) {
+        skonci(k.navratovy_kod);
+    } catch (...) {
+        skonci(1);
+    }
+}
+
 bool je_konec() {
     return konec;
 }

@@ -8,6 +8,7 @@
 #include "ui/parametry.h"
 #include "ui/platforma_qt.h"
 #include "ui/prirucka.h"
+#include "ui/signaly.h"
 #include "ui/uvod.h"
 #include "ui/vzhled.h"
 #include "ui/zvuk.h"
@@ -143,6 +144,7 @@ int main(int pocet, char** slova) {
     zapln_platformu();
     platforma.nech_bezet_ui = nech_bezet_ui;
     zapni_zvuk();
+    hlidej_signaly(&aplikace);
 
     bool pripravena = false;
     v_jadre([&] { pripravena = nacti_start(slozka_programu()); });

@@ -1,11 +1,13 @@
 #!/usr/bin/python3
 # testy/obrazovka/nouzove.py - a run-time error ends the desk, and the next start offers the game.
 import os
+import signal
 import sys
 import time
 
 import stul as s
 
+signal.signal(signal.SIGINT, signal.default_int_handler)  # the desk shall not inherit that it is ignored
 program, slozka = s.priprav(sys.argv[1:])
 MAKRA = os.path.join(slozka, "data", "tesk.mak")
 
@@ -79,5 +81,31 @@ stul = s.Stul(program, slozka)
 stul.cekej_na("úvodní formulář", s.je_formular)
 time.sleep(1.5)
 assert stul.okna() == BEZ_NABIDKY, "nouzový záznam je nabízen znovu"
+stul.konec()
+
+# --- the system ends the desk, in the running shift and behind an open question: as after an error, but in order
+for cislo, pod_otazkou in ((signal.SIGTERM, False), (signal.SIGINT, False), (signal.SIGTERM, True)):
+    stul = s.Stul(program, slozka)
+    stul.cekej_na("úvodní formulář", s.je_formular)
+    s.prihlas(stul, rychle=True)
+    hraj(stul)
+    if pod_otazkou:
+        stul.klikni(1010, 10)
+        stul.ukaz(700, 480)
+        stul.cekej("otázka na konec", lambda: stul.okna() > stul.oken_v_klidu)
+    stul.program.send_signal(cislo)
+    stul.cekej("konec programu", lambda: stul.program.poll() is not None)
+    assert stul.program.poll() == 0, "program skončil s %s" % stul.program.poll()
+    zaznamy = soubory("save", "nouzove")
+    assert len(zaznamy) == 1, "po signálu %d zůstalo záznamů: %d" % (cislo, len(zaznamy))
+    os.remove(os.path.join(slozka, "save", "nouzove", zaznamy[0]))
+    stul.konec()
+
+# --- of a desk that nobody has begun to work nothing is left
+stul = s.Stul(program, slozka)
+stul.cekej_na("úvodní formulář", s.je_formular)
+stul.program.send_signal(signal.SIGTERM)
+stul.cekej("konec programu", lambda: stul.program.poll() is not None)
+assert stul.program.poll() == 0 and not soubory("save", "nouzove")
 stul.konec()
 print("v pořádku")
