@@ -81,7 +81,28 @@ stul.klikni(ZALOZKY["ES DOHLED"], 48)
 stul.ukaz(400, 690)
 stul.cekej_na("ES DOHLED s cestou v seznamu",
               lambda o: otevrena("ES DOHLED")(o) and o.bodu(*JEDNA_CESTA, POZADI) < 900 * 21 - 200)
-stul.obraz("dohled")
+obraz = stul.obraz("dohled")
+
+
+def zacatky_slov(y, vyska):
+    """Where words begin in a strip of the crossings' list; what stands a blank apart is one."""
+    zem = obraz.bod(1000, y + 1)
+    plne = [any(obraz.bod(x, y + dy) != zem for dy in range(vyska)) for x in range(14, 1000)]
+    zacatky, prazdne = [], 99
+    for x, je in enumerate(plne, 14):
+        if je and prazdne > 2 * BUNKA:
+            zacatky.append(x)
+        prazdne = 0 if je else prazdne + 1
+    return zacatky
+
+
+# of each crossing its name, its condition, its state and the data stand under their heads
+BUNKA = 12
+HLAVA, RADEK_PREJEZDU = (621, 14), (643, 16)
+nadpisy, sloupce = zacatky_slov(*HLAVA), zacatky_slov(*RADEK_PREJEZDU)
+assert len(sloupce) == 4, "sloupce přejezdů začínají na %s" % sloupce
+for sloupec in sloupce:
+    assert min(abs(sloupec - x) for x in nadpisy) < BUNKA, "nadpisy %s, sloupce %s" % (nadpisy, sloupce)
 stul.klikni(ZALOZKY["SEKVENCE"], 48)
 stul.cekej_na("potvrzovací sekvence", otevrena("SEKVENCE"))
 stul.ukaz(400, 690)
