@@ -57,13 +57,7 @@ def prihlaseni_bez_purpurove(o):
 
 
 stul.cekej_na("přihlášení INIT", prihlaseni_bez_purpurove, 600)
-for dalsi in ("TPC", "ARCHIV"):
-    predtim = stul.obraz().vyrez(*s.RADEK_PRIKAZU)
-    stul.klavesa("Return")
-    stul.cekej_na("přihlášení " + dalsi, lambda o: s.je_prihlaseni(o) and o.vyrez(*s.RADEK_PRIKAZU) != predtim)
-stul.klavesa("Return")
-stul.cekej_na("prázdný příkazový řádek", lambda o: not s.je_prihlaseni(o))
-stul.oken_v_klidu = stul.okna()
+s.potvrd_prihlaseni(stul)
 
 
 def stoji(o):

@@ -31,13 +31,7 @@ stul.tiskni("Return", "začátek simulace", lambda: not s.je_formular(stul.obraz
 
 # 2: three times Enter
 stul.cekej_na("přihlášení INIT", s.je_prihlaseni, 600)
-for dalsi in ("TPC", "ARCHIV"):
-    predtim = stul.obraz().vyrez(*s.RADEK_PRIKAZU)
-    stul.klavesa("Return")
-    stul.cekej_na("přihlášení " + dalsi, lambda o: s.je_prihlaseni(o) and o.vyrez(*s.RADEK_PRIKAZU) != predtim)
-stul.klavesa("Return")
-stul.cekej_na("prázdný příkazový řádek", lambda o: not s.je_prihlaseni(o))
-stul.oken_v_klidu = stul.okna()
+s.potvrd_prihlaseni(stul)
 
 # once too late: the choice is dropped and the desk says so; Enter, and from the beginning
 stul.klikni(*LHO_S1)

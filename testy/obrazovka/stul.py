@@ -439,7 +439,6 @@ def nastav_cas(stul, hodina, minuta):
 def prihlas(stul, krat=1, rychle=False, pred_prvnim=lambda: None):
     """From the start screen to the running clock, as an operator does it; `rychle` with the highest speed that
     the start screen offers; `pred_prvnim` runs when the login asks first."""
-    radek = tuple(krat * x for x in RADEK_PRIKAZU)
     prihlaseni = lambda o: je_prihlaseni(o, krat)
     nastav_cas(stul, "12", "00")
     if rychle:
@@ -448,6 +447,13 @@ def prihlas(stul, krat=1, rychle=False, pred_prvnim=lambda: None):
     stul.tiskni("Return", "začátek simulace", lambda: not je_formular(stul.obraz()))
     stul.cekej_na("přihlášení INIT", prihlaseni)
     pred_prvnim()
+    return potvrd_prihlaseni(stul, krat)
+
+
+def potvrd_prihlaseni(stul, krat=1):
+    """The three confirmations, from the first question to the running clock."""
+    radek = tuple(krat * x for x in RADEK_PRIKAZU)
+    prihlaseni = lambda o: je_prihlaseni(o, krat)
     for dalsi in ("TPC", "ARCHIV"):
         predtim = stul.obraz().vyrez(*radek)
         stul.klavesa("Return")
