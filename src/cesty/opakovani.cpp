@@ -13,7 +13,7 @@
 
 namespace {
 
-// The copy of a route from s that waits for its next run.
+// The first copy of a route from s that waits for its next run; -1 none.
 int cekajici_kopie(int s) {
     for (std::size_t i = 0; i < cesty.size(); ++i) {
         const Cesta& c = cesty[i];
@@ -33,7 +33,7 @@ bool ceka_nebo_stoji_z(int s) {
 
 void prepni_ab(int s) {
     if (!prepni_znak_ab(s))
-        if (const int i = cekajici_kopie(s); i >= 0)
+        for (int i = cekajici_kopie(s); i >= 0; i = cekajici_kopie(s))
             smaz_cestu(i);
     gtn_zapis(s, gtn::ab, 0);
 }
@@ -55,8 +55,8 @@ void kopie_ab(int i) {
     kopie.Provedena = false;
     kopie.Postavena = false;
     kopie.prehozena = false;
-    kopie.Kdy_prehoz = -3;
-    kopie.cas_ruseni = -3;
+    kopie.Kdy_prehoz = kZadny;
+    kopie.cas_ruseni = kZadny;
     kopie.Umazat = 0;
     kopie.Vlak = kKopieAB;
     pridej_cestu(std::move(kopie));

@@ -11,7 +11,8 @@ bool ceka_nebo_stoji_z(int s);
 
 // --- on the operator's command, and by RC and STUJ
 
-// Toggles the automatic mode of s; switching it off drops the copy that waits for its turn.
+// Toggles the automatic mode of s; switching it off drops its copies that wait for their turn. More than one
+// waits when several routes from the signal have been run over.
 void prepni_ab(int s);
 
 // --- when a train passes the start of route i

@@ -185,6 +185,14 @@ void zastav_cestu(Cesta& c) {
         vymaz_cislo(index_cesty(c), true, {});
 }
 
+// Another route than i from the signal s stands before its train, with the signal at proceed: the first one.
+Cesta* jina_stojici(int s, int i) {
+    return prvni_cesta([&](const Cesta& x) {
+        return index_cesty(x) != i && x.zacatek == s && x.Postavena && x.Provedena && x.Umazat == 0 &&
+               !x.PN && x.cas_ruseni < 0 && !je_vjezd_z_trati(x);
+    });
+}
+
 // RNZ gives every switch of its route the state at rest: not one that another route has taken since, and not
 // one that would move under a train.
 bool uvolni_rnz(const Cesta& c, std::size_t k) {
@@ -205,6 +213,10 @@ void zrus_cestu(int s) {
         return;
     Cesta& c = cesta_c(i);
     c.cas_ruseni = ted + doba_ruseni(c);
+    // Several routes stand from a signal where they lead straight out to the line. It goes to stop for all of
+    // them: no train may leave past a signal at stop.
+    while (Cesta* jina = jina_stojici(s, i))
+        zastav_cestu(*jina);
     nastav_navest(s, barvy::seda);
     gtn_zapis(s, gtn::ruseni, 0);
     vymaz_cislo(i, false, {});
@@ -214,13 +226,15 @@ void zrus_cestu(int s) {
 void proved_zruseni(int i) {
     Cesta& c = cesta_c(i);
     const int konec = c.konec;
-    if (navestidla(c.zacatek).je(c.zacatek) && !je_zablokovano(c.zacatek))
+    // DN may have given the signal for an older route meanwhile.
+    if (navestidla(c.zacatek).je(c.zacatek) && !je_zablokovano(c.zacatek) &&
+        jina_stojici(c.zacatek, i) == nullptr)
         navestidla(c.zacatek)[c.zacatek].barva = barvy::seda;
     gtn_zapis(c.zacatek, gtn::zrusena, 0);
     uvolni_prvky(c);
     vymaz_cislo(i, false, {});
     if (c.prejezd < stanicni_prejezdy.size() && c.prejezd_zaver && !stanicni_prejezdy[c.prejezd].UZ)
-        stanicni_prejezdy[c.prejezd].cas = -3;
+        stanicni_prejezdy[c.prejezd].cas = kZadny;
     if (!je_usek_trati(konec) && c.VC && !c.PN && je_kolej(konec))
         uvolni_prvek(konec);
     vrat_jmeno_koleje(konec);
@@ -258,7 +272,7 @@ void obnov_cestu(int s) {
         return;
     c->Postavena = true;
     if (c->cas_ruseni > 0) {
-        c->cas_ruseni = -3;
+        c->cas_ruseni = kZadny;
         gtn_zapis(s, gtn::zrusena, 0);
     }
     nastav_navest(s, volnoznak(*c));

@@ -231,6 +231,28 @@ TEST_F(Uvolneni, DirectionStaysForAnotherRouteOntoTheLine) {
     EXPECT_EQ(relief.lblSouhlas2[604].barva, barvy::seda);
 }
 
+TEST_F(Uvolneni, CancellationStopsEveryRouteThatStandsFromTheSignal) {
+    zat.push_back({46, 604, prvky_cesty({46, 604}, {1, 1}, {0, 0}), 0});
+    postav_tabulky();
+    postav(46, 604);
+    postav(46, 604); // nothing of the first one is locked: it leads straight out to the line
+    ASSERT_EQ(cesty.size(), 2u);
+    ASSERT_TRUE(cesty[0].Postavena && cesty[1].Postavena);
+    zrus_cestu(46);
+    EXPECT_EQ(cesty[1].cas_ruseni, ted_s() + 5);
+    EXPECT_EQ(cesty[0].cas_ruseni, -3);
+    EXPECT_EQ(navestni(46), barvy::seda);
+    EXPECT_FALSE(cesty[0].Postavena) << "no train leaves past a signal at stop";
+    EXPECT_TRUE(cesty[0].Provedena);
+    obnov_cestu(46); // DN takes the oldest
+    EXPECT_TRUE(cesty[0].Postavena);
+    EXPECT_EQ(navestni(46), barvy::zelena);
+    cekej(6);
+    ASSERT_EQ(cesty.size(), 1u);
+    EXPECT_TRUE(cesty[0].Postavena);
+    EXPECT_EQ(navestni(46), barvy::zelena) << "the signal shows what the standing route gives";
+}
+
 TEST_F(Uvolneni, CancellationBeforeTheSignalClearedTakesTheHighlightsAway) {
     zarad(240, 41);
     cekej(4);
@@ -398,14 +420,20 @@ TEST_F(Uvolneni, RNZReleasesACallingOnRouteAfterItsAspect) {
     EXPECT_EQ(zapsano({104, 240, 0}), 1u);
 }
 
-TEST_F(Uvolneni, RNZUnderATrainLeavesTheRecordToItsEnd) {
-    postav(240, 41, druh_volby::pn);
-    cekej(31);
-    cesty[0].Umazat = 1;
-    cesty[0].Vlak = 0;
-    vlaky[0].prvky = prvky_cesty({40, 5});
-    vlaky[0].prvek_konec = 0;
-    rnz(240);
+struct PodVlakem : Uvolneni {
+    // A train stands on switch 5 of a calling-on route whose aspect is over, and RNZ has been given.
+    PodVlakem() {
+        postav(240, 41, druh_volby::pn);
+        cekej(31);
+        cesty[0].Umazat = 1;
+        cesty[0].Vlak = 0;
+        vlaky[0].prvky = prvky_cesty({40, 5});
+        vlaky[0].prvek_konec = 0;
+        rnz(240);
+    }
+};
+
+TEST_F(PodVlakem, RNZLeavesTheRecordToItsEnd) {
     ASSERT_EQ(cesty[0].zacatek, 240);
     EXPECT_TRUE(cesty[0].PN_zaver);
     vlaky[0].prvky = prvky_cesty({40, 5, 41});
@@ -414,14 +442,7 @@ TEST_F(Uvolneni, RNZUnderATrainLeavesTheRecordToItsEnd) {
     EXPECT_EQ(cesty[0].zacatek, -3);
 }
 
-TEST_F(Uvolneni, SecondRNZTouchesNoSwitchThatAnotherRouteHasLocked) {
-    postav(240, 41, druh_volby::pn);
-    cekej(31);
-    cesty[0].Umazat = 1;
-    cesty[0].Vlak = 0;
-    vlaky[0].prvky = prvky_cesty({40, 5});
-    vlaky[0].prvek_konec = 0;
-    rnz(240);
+TEST_F(PodVlakem, SecondRNZTouchesNoSwitchThatAnotherRouteHasLocked) {
     ASSERT_EQ(stav(5), 2);
     vyhybka_stav(5, 202, false, false); // locked by a shunt route since
     rnz(240);
