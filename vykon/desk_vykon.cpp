@@ -8,6 +8,7 @@
 #include "desk/tabulka_vlaku.h"
 #include "gvd/gvd.h"
 #include "jizda/vlak.h"
+#include "pomocne/zastavky.h"
 #include "relief/relief.h"
 #include "zaklad/cisla.h"
 
@@ -26,10 +27,7 @@ void postav_vlak(std::size_t i, std::size_t vozu) {
     v.nazev = "Skalak";
     v.delka = 220;
     v.max_rychlost = 120;
-    v.stanice = {1, 8, 9, 5};
-    v.prijezd = {-3, 606, 610, 625};
-    v.odjezd = {600, 607, 612, -3};
-    v.odjezd_realny = v.odjezd;
+    v.zastavky = zastavky_vlaku({1, 8, 9, 5}, {kZadny, 606, 610, 625}, {600, 607, 612, kZadny});
     v.pokyn = "5k";
     v.vozy.assign(vozu, {"OBB Bmpz", "1500", "B.ico"});
     v.vozy.front().rada = "363";
@@ -73,9 +71,7 @@ void predpoved(benchmark::State& stav) {
     for (std::int64_t i = 0; i < stav.range(0); ++i) {
         GvdVlak r;
         const auto t = static_cast<std::int16_t>(i * 617 % 1440);
-        r.stanice = {1, 9};
-        r.prijezdy = {-1, static_cast<std::int16_t>(t + 12)};
-        r.odjezdy = {t, -1};
+        r.zastavky = zastavky_radku({1, 9}, {-1, static_cast<std::int16_t>(t + 12)}, {t, -1});
         r.cislo = static_cast<std::int32_t>(i + 1);
         r.druh = 7;
         r.dny = 0x7F;

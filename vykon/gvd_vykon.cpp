@@ -6,6 +6,7 @@
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
 #include "gvd/zaplneni.h"
+#include "pomocne/zastavky.h"
 #include "relief/nacti_relief.h"
 #include "relief/prejezdy.h"
 #include "relief/relief.h"
@@ -23,9 +24,9 @@ std::vector<GvdVlak> rady(std::int64_t pocet) {
     for (std::int64_t i = 0; i < pocet; ++i) {
         const auto t = static_cast<std::int16_t>(i * 617 % 1440);
         GvdVlak r;
-        r.stanice = {kZacatky[static_cast<std::size_t>(i) % kZacatky.size()], 8, 9};
-        r.prijezdy = {-1, static_cast<std::int16_t>(t + 6), static_cast<std::int16_t>(t + 12)};
-        r.odjezdy = {t, static_cast<std::int16_t>(t + 7), static_cast<std::int16_t>(t + 15)};
+        r.zastavky = zastavky_radku({kZacatky[static_cast<std::size_t>(i) % kZacatky.size()], 8, 9},
+                                    {-1, static_cast<std::int16_t>(t + 6), static_cast<std::int16_t>(t + 12)},
+                                    {t, static_cast<std::int16_t>(t + 7), static_cast<std::int16_t>(t + 15)});
         r.cislo = static_cast<std::int32_t>(i + 1);
         r.vozy = {"754", "Bp", "Bp"};
         r.vozy_vlaky = {0, static_cast<std::int16_t>(i * 31 % 32000 + 1), 0};

@@ -12,6 +12,7 @@
 #include "jizda/vlak.h"
 #include "jizda/zastavky.h"
 #include "pomocne/male_kolejiste.h"
+#include "pomocne/zastavky.h"
 #include "zaklad/platforma.h"
 
 #include <benchmark/benchmark.h>
@@ -175,9 +176,7 @@ void cekajici_vlaky(benchmark::State& stav) {
     const Koleje koleje(pocet);
     for (int v = 0; v < pocet; ++v) {
         Vlak& vlak = vlaky[static_cast<std::size_t>(v)];
-        vlak.stanice = {9, 12};
-        vlak.prijezd = {-3, 900};
-        vlak.odjezd = vlak.odjezd_realny = {800, -3};
+        vlak.zastavky = zastavky_vlaku({9, 12}, {kZadny, 900}, {800, kZadny});
     }
     for (auto _ : stav) {
         for (int v = 0; v < pocet; ++v)

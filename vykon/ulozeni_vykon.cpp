@@ -49,9 +49,7 @@ struct Kolejiste {
             Vlak& v = vlaky[static_cast<std::size_t>(novy_vlak())];
             v.cislo = 1000 + i;
             v.muze_jet = true;
-            v.stanice.assign(12, 9);
-            v.prijezd.assign(12, 700);
-            v.odjezd = v.odjezd_realny = v.prijezd;
+            v.zastavky.assign(12, {9, 700, 700, 700});
             v.vozy.assign(8, {"Bp", "4701", "Bp_1.ico"});
             v.prvky.assign(300, {static_cast<std::int16_t>(kolej), druh_prvku::kolej, 0});
             v.prvek_konec = 299;

@@ -128,7 +128,7 @@ struct Prekladac {
     void uzavri_vlak() {
         if (!v_vlaku)
             return;
-        if (vlak.stanice.size() < 2)
+        if (vlak.zastavky.size() < 2)
             hlas_na(radek_vlaku, "vlak má mít aspoň dvě stanice");
         if (vlak.dny == 0)
             hlas_na(radek_vlaku, "chybí „dny“");
@@ -148,13 +148,12 @@ struct Prekladac {
     void zkontroluj_casy() {
         int posledni = -1;
         // a mere name stands before its neighbour with the neighbour's departure
-        for (std::size_t i = 0; i < vlak.stanice.size(); ++i)
-            for (const int t : {static_cast<int>(vlak.prijezdy[i]), static_cast<int>(vlak.odjezdy[i])}) {
-                if (t < 0 || je_jen_jmeno(vlak.stanice[i]))
+        for (const ZastavkaGvd& z : vlak.zastavky)
+            for (const int t : {static_cast<int>(z.prijezd), static_cast<int>(z.odjezd)}) {
+                if (t < 0 || je_jen_jmeno(z.stanice))
                     continue;
                 if (t < posledni)
-                    hlas_na(radek_vlaku,
-                            "časy jdou zpět ve stanici " + na_utf8(nazev_stanice(vlak.stanice[i])));
+                    hlas_na(radek_vlaku, "časy jdou zpět ve stanici " + na_utf8(nazev_stanice(z.stanice)));
                 posledni = t;
             }
         if (posledni >= 48 * 60)
@@ -176,7 +175,7 @@ struct Prekladac {
 
     void vloz_vlak() {
         const auto prvni = [](const GvdVlak& v) {
-            return v.odjezdy.empty() ? 0 : static_cast<int>(v.odjezdy[0]);
+            return v.zastavky.empty() ? 0 : static_cast<int>(v.zastavky[0].odjezd);
         };
         GvdVlak dalsi = vlak;
         while (true) {
@@ -192,10 +191,10 @@ struct Prekladac {
             if (dalsi.cislo2 > 0)
                 dalsi.cislo2 += takt->krok_cisla;
             posun_navazne(dalsi, takt->krok_cisla);
-            for (auto* casy : {&dalsi.prijezdy, &dalsi.odjezdy})
-                for (std::int16_t& t : *casy)
-                    if (t >= 0)
-                        t = static_cast<std::int16_t>(t + takt->perioda);
+            for (ZastavkaGvd& z : dalsi.zastavky)
+                for (std::int16_t* t : {&z.prijezd, &z.odjezd})
+                    if (*t >= 0)
+                        *t = static_cast<std::int16_t>(*t + takt->perioda);
         }
     }
 
@@ -259,9 +258,7 @@ struct Prekladac {
                  (projizdi ? "čas průjezdu" : "příjezd a odjezd (h:mm nebo -)"));
             return;
         }
-        vlak.stanice.push_back(static_cast<std::uint8_t>(*kod));
-        vlak.prijezdy.push_back(projizdi ? kBezCasu : *prvni);
-        vlak.odjezdy.push_back(*druhy);
+        vlak.zastavky.push_back({static_cast<std::uint8_t>(*kod), projizdi ? kBezCasu : *prvni, *druhy});
     }
 
     // A number behind the word, into a field of the train; 0 when it is wrong, which is told.

@@ -164,9 +164,6 @@ Nalez vyhybky_pod_navestmi() {
 Nalez volba() {
     if (vyber.volba_druh > 3)
         return veta({"volba: druh "_cz, text_cisla(vyber.volba_druh), " není druhem cesty"_cz});
-    if (vyber.makro_zacatky.size() != vyber.makro_konce.size() ||
-        vyber.makro_zacatky.size() != vyber.makro_druhy.size())
-        return Text("makro: seznamy začátků, konců a druhů nejsou stejně dlouhé"_cz);
     return std::nullopt;
 }
 
@@ -209,8 +206,8 @@ Nalez zaznamy_vlaku() {
         const Vlak& v = vlaky[i];
         if (v.cislo < 1)
             continue;
-        if (v.stanice_index >= 0 && !v.stanice.empty() &&
-            static_cast<std::size_t>(v.stanice_index) >= v.stanice.size())
+        if (v.stanice_index >= 0 && !v.zastavky.empty() &&
+            static_cast<std::size_t>(v.stanice_index) >= v.zastavky.size())
             return na_miste("vlaky", i, "stanice_index ukazuje za poslední stanici"_cz);
         if (v.prvky.empty())
             continue;

@@ -119,7 +119,7 @@ void obnov_souhlasy() {
         if (cislo == 0)
             continue;
         for (const auto& [klic, n] : gvd_vlaky.s_cislem(cislo))
-            if (const int k = uzel::konec_ke_stanici(radek_gvd(n).stanice.front()); k >= 0)
+            if (const int k = uzel::konec_ke_stanici(radek_gvd(n).zastavky.front().stanice); k >= 0)
                 souhlasy.souhlas[static_cast<std::size_t>(k)] = true;
     }
     // The minute of a train that has gone in is out, although its text stays until the next consent ends.

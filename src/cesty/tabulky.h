@@ -6,12 +6,13 @@
 // data\tesk.mak   the operator's macros
 //
 // Packed records without a header or a count, read to the end of the file; a record cut off there is
-// dropped. The rules read the tables anew at each use; here a table is read again only when the file
-// has changed, with the same answers: the first record that matches wins.
+// dropped. The rules read the tables anew at each use; zaklad/mezipamet.h gives the same answers: the
+// first record that matches wins.
 #pragma once
 
 #include "cesty/prvek_cesty.h"
 #include "zaklad/balik.h"
+#include "zaklad/cisla.h"
 #include "zaklad/text.h"
 
 #include <cstdint>
@@ -19,8 +20,8 @@
 
 // A route.
 struct ZaznamCesty {
-    std::int16_t zacatek = -3;     // start signal
-    std::int16_t konec = -3;       // end: the mate of a signal, a station track, a block section
+    std::int16_t zacatek = kZadny; // start signal
+    std::int16_t konec = kZadny;   // end: the mate of a signal, a station track, a block section
     std::vector<PrvekCesty> prvky; // in running order, from the track before the signal
     std::uint8_t rychlost = 0;     // speed class: 0 free, 1, 2, 3 = 40, 60, 80 km/h
     bool operator==(const ZaznamCesty&) const = default;
@@ -48,20 +49,28 @@ template <class A, class Z> void popis_zaznamu_vazeb(A& a, Z& z) {
     a.text(z.nazev);
 }
 
+// One pick of a macro.
+struct KrokMakra {
+    std::int16_t zacatek = kZadny; // start signal
+    std::int16_t konec = kZadny;   // end element
+    std::uint8_t druh = 0;         // 1 train, 2 shunt route
+    bool operator==(const KrokMakra&) const = default;
+};
+
 // A macro: the picks of an operator under one letter.
 struct ZaznamMakra {
     Text pismeno;
-    std::vector<std::uint8_t> druhy; // 1 train, 2 shunt route
-    std::vector<std::int16_t> zacatky;
-    std::vector<std::int16_t> konce;
+    std::vector<KrokMakra> kroky;
     bool operator==(const ZaznamMakra&) const = default;
 };
 
+// Of a damaged record only the picks count that all three of its lists have.
 template <class A, class Z> void popis_zaznamu_makra(A& a, Z& z) {
     a.text(z.pismeno);
-    pole_b(a, z.druhy);
-    pole_i(a, z.zacatky);
-    pole_i(a, z.konce);
+    a.sloupce(z.kroky, Sloupec{"druhy", &KrokMakra::druh}, Sloupec{"zacatky", &KrokMakra::zacatek},
+              Sloupec{"konce", &KrokMakra::konec});
+    if constexpr (A::cte)
+        z.kroky.resize(a.ok ? a.uplnych : 0);
 }
 
 // All whole records of a table's bytes, in their order. Damage ends the table where it begins.

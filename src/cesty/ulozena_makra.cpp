@@ -6,7 +6,6 @@
 #include "prvky/jmena.h"
 #include "zaklad/soubory.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace {
@@ -16,10 +15,6 @@ Text soubor_maker() {
 }
 
 } // namespace
-
-std::size_t pocet_kroku(const ZaznamMakra& makro) {
-    return std::min({makro.druhy.size(), makro.zacatky.size(), makro.konce.size()});
-}
 
 std::vector<ZaznamMakra> ulozena_makra() {
     return cti_makra(nacti_soubor(soubor_maker()));
@@ -45,9 +40,9 @@ SeznamMaker nacti_makra() {
     SeznamMaker seznam;
     for (const ZaznamMakra& makro : ulozena_makra()) {
         Text radek = makro.pismeno;
-        for (std::size_t i = 0; i < pocet_kroku(makro); ++i) {
-            radek += makro.druhy[i] == druh_volby::posun ? " PC " : " VC ";
-            radek += jmeno_navestidla(makro.zacatky[i]) + " " + jmeno_konce(makro.konce[i]);
+        for (const KrokMakra& krok : makro.kroky) {
+            radek += krok.druh == druh_volby::posun ? " PC " : " VC ";
+            radek += jmeno_navestidla(krok.zacatek) + " " + jmeno_konce(krok.konec);
         }
         if (!seznam.klavesy.empty())
             seznam.klavesy += '\x0D';

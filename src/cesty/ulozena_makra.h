@@ -4,7 +4,6 @@
 #include "cesty/tabulky.h"
 #include "zaklad/text.h"
 
-#include <cstddef>
 #include <vector>
 
 // What the maintenance screen shows of the macros.
@@ -20,8 +19,6 @@ struct SeznamMaker {
 std::vector<ZaznamMakra> ulozena_makra();
 // The list for the maintenance screen.
 SeznamMaker nacti_makra();
-// Steps of a record; in a damaged one the shortest list counts.
-std::size_t pocet_kroku(const ZaznamMakra& makro);
 
 // --- on the operator's command
 

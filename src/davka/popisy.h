@@ -62,9 +62,8 @@ template <class A, ZaznamJe<Vyber> Z> void popis_poli(A& a, Z& z) {
     a.pole("volba_svetla", z.volba_svetla);
     a.pole("volba_posun", z.volba_posun);
     a.pole("makro_zaznam", z.makro_zaznam);
-    a.pole("makro_zacatky", z.makro_zacatky);
-    a.pole("makro_konce", z.makro_konce);
-    a.pole("makro_druhy", z.makro_druhy);
+    a.sloupce(z.makro_kroky, Sloupec{"makro_zacatky", &KrokMakra::zacatek},
+              Sloupec{"makro_konce", &KrokMakra::konec}, Sloupec{"makro_druhy", &KrokMakra::druh});
 }
 
 template <class A, ZaznamJe<ZpravaFronty> Z> void popis_poli(A& a, Z& z) {

@@ -243,19 +243,6 @@ void nastav_hodiny(const Prirazeni& co) {
     nastav_cas(cas_slova(co.hodnota));
 }
 
-// A stop is an entry of each of four lists.
-void over_zastavky(const Cesta&, std::span<const Prirazeni>) {}
-void over_zastavky(const Vlak& v, std::span<const Prirazeni> prirazeni) {
-    constexpr std::array<std::string_view, 4> kSeznamy = {"stanice", "prijezd", "odjezd", "odjezd_realny"};
-    const bool zmena = std::any_of(prirazeni.begin(), prirazeni.end(), [&](const Prirazeni& p) {
-        return std::find(kSeznamy.begin(), kSeznamy.end(), p.pole) != kSeznamy.end();
-    });
-    const std::size_t zastavek = v.stanice.size();
-    if (zmena &&
-        (v.prijezd.size() != zastavek || v.odjezd.size() != zastavek || v.odjezd_realny.size() != zastavek))
-        chyba_seznamu(kSeznamy);
-}
-
 template <class Zaznam>
 void nastav_zaznam(std::vector<Zaznam>& tabulka, std::string_view slovo, std::int64_t index,
                    std::span<const Prirazeni> prirazeni) {
@@ -267,7 +254,6 @@ void nastav_zaznam(std::vector<Zaznam>& tabulka, std::string_view slovo, std::in
         if (!nastav_pole(zaznam, co.pole, co.hodnota))
             chyba_skriptu(std::string(slovo) + " nemá pole " + v_uvozovkach(co.pole));
     nastav_seznamy(zaznam, prirazeni);
-    over_zastavky(zaznam, prirazeni);
 }
 
 void prikaz_nastav(BehSkriptu&, Slova slova) {

@@ -5,6 +5,7 @@
 #include "app/simulace.h"
 #include "desk/hlaseni.h"
 #include "desk/zprava.h"
+#include "gvd/casy.h"
 #include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
 #include "gvd/skladba.h"
@@ -59,18 +60,18 @@ const GvdVlak* radek_s_cislem(double cislo) {
 
 // First and last station with their times. A train of a neighbour only passes its first station.
 Text text_trasy(const Vlak& v) {
-    const std::size_t pocet = std::min({v.stanice.size(), v.prijezd.size(), v.odjezd.size()});
-    if (pocet == 0)
+    if (v.zastavky.empty())
         return {};
-    const int odjezd = v.odjezd.front() >= 0 ? v.odjezd.front() : v.prijezd.front();
-    const int prijezd = v.prijezd[pocet - 1] >= 0 ? v.prijezd[pocet - 1] : v.odjezd[pocet - 1];
+    const Zastavka &prvni = v.zastavky.front(), &posledni = v.zastavky.back();
+    const int odjezd = prvni.odjezd >= 0 ? prvni.odjezd : prvni.prijezd;
+    const int prijezd = posledni.prijezd >= 0 ? posledni.prijezd : posledni.odjezd;
     Text text = "(";
-    text += nazev_stanice(v.stanice.front());
-    text += v.stanice.front() <= kPosledniSoused ? " průj. "_cz : " odj. "_cz;
+    text += nazev_stanice(prvni.stanice);
+    text += prvni.stanice <= kPosledniSoused ? " průj. "_cz : " odj. "_cz;
     text += text_minuty(odjezd);
-    if (pocet > 1) {
+    if (v.zastavky.size() > 1) {
         text += " ... ";
-        text += nazev_stanice(v.stanice[pocet - 1]);
+        text += nazev_stanice(posledni.stanice);
         text += " příj. "_cz;
         text += text_minuty(prijezd);
     }
@@ -91,9 +92,7 @@ std::int32_t odkud_lokomotiva(const Vlak& v) {
 
 // What the locomotives of the train still have to do at the main station.
 Text prace_lokomotiv(const Vlak& v) {
-    const auto stavi = [&v](int kod) {
-        return std::find(v.stanice.begin(), v.stanice.end(), kod) != v.stanice.end();
-    };
+    const auto stavi = [&v](int kod) { return zastavka_ve_stanici(v, kod) != v.zastavky.end(); };
     const bool z_thj = stavi(dopravna::hajovice) && !stavi(dopravna::tesk);
     const bool osobni = v.druh < druh_vlaku::prvni_nakladni,
                pripraz = (v.priznaky & priznak_vlaku::pripraz) != 0;
@@ -143,23 +142,13 @@ Text text_jedouciho(const Vlak& v, bool jede = true) {
 // What a row of the timetable says of its train, before there is one.
 Vlak vlak_podle_gvd(const GvdVlak& r) {
     Vlak v;
-    v.stanice = r.stanice;
-    v.prijezd = r.prijezdy;
-    v.odjezd = r.odjezdy;
-    v.druh = r.druh;
-    v.cislo = r.cislo;
-    v.druh2 = r.druh2;
-    v.cislo2 = r.cislo2;
-    v.nazev = r.nazev;
+    for (const ZastavkaGvd& z : r.zastavky)
+        v.zastavky.push_back({z.stanice, z.prijezd, z.odjezd, z.odjezd});
+    prevezmi_udaje(v, r);
     v.max_rychlost = r.rychlost;
     v.delka = r.delka;
-    v.loko_rada = r.loko_rada;
-    v.loko_rada2 = r.loko_rada2;
     for (const Text& rada : r.vozy)
         v.vozy.push_back({rada, {}, {}});
-    v.pokyn = r.kolej;
-    v.dny = r.dny;
-    v.priznaky = r.priznaky;
     v.zpozdeni = zpozdeni_vlaku(r.cislo);
     return v;
 }
@@ -170,7 +159,7 @@ Vlak vlak_podle_gvd(const GvdVlak& r) {
 Text odjezd_z_hlavniho(const Vlak& v) {
     const std::size_t i = static_cast<std::size_t>(std::max<int>(v.stanice_index, 0));
     const Text urceni = prvni_urceni(v);
-    if (i >= v.stanice.size() || v.stanice[i] != dopravna::tesk || v.druh == druh_vlaku::lv ||
+    if (i >= v.zastavky.size() || v.zastavky[i].stanice != dopravna::tesk || v.druh == druh_vlaku::lv ||
         urceni == "ZAL" || v.vozy.size() < 2)
         return {};
     const auto veta = [](int minuta, int cil) {
@@ -180,15 +169,15 @@ Text odjezd_z_hlavniho(const Vlak& v) {
         text += kod_stanice(cil);
         return text + ")";
     };
-    if (i < v.odjezd.size() && v.odjezd[i] >= 0)
-        return veta(v.odjezd[i], v.stanice.back());
+    if (v.zastavky[i].odjezd >= 0)
+        return veta(v.zastavky[i].odjezd, v.zastavky.back().stanice);
     const auto cislo = ciselny_text(urceni);
     const GvdVlak* dalsi = cislo ? radek_s_cislem(*cislo) : nullptr;
     if (dalsi == nullptr)
         return {};
-    for (std::size_t k = 0; k < dalsi->stanice.size(); ++k)
-        if (dalsi->stanice[k] == dopravna::tesk && dalsi->odjezdy[k] >= 0)
-            return veta(dalsi->odjezdy[k], dalsi->stanice.back());
+    for (const ZastavkaGvd& z : dalsi->zastavky)
+        if (z.stanice == dopravna::tesk && z.odjezd >= 0)
+            return veta(z.odjezd, dalsi->zastavky.back().stanice);
     return {};
 }
 
@@ -366,12 +355,11 @@ Text navazny_spoj(TextPohled cislo) {
         return {};
     Text text(zkratka_druhu(spoj->druh));
     text += " " + text_cisla(spoj->cislo);
-    for (std::size_t i = 0; i < spoj->stanice.size(); ++i)
-        if ((spoj->stanice[i] == dopravna::tesk || spoj->stanice[i] == dopravna::hajovice) &&
-            spoj->prijezdy[i] >= 0) {
+    for (const ZastavkaGvd& z : spoj->zastavky)
+        if ((z.stanice == dopravna::tesk || z.stanice == dopravna::hajovice) && z.prijezd >= 0) {
             text += " (příj. "_cz;
-            text += text_minuty(spoj->prijezdy[i]) + " z ";
-            text += kod_stanice(spoj->stanice.front());
+            text += text_minuty(z.prijezd) + " z ";
+            text += kod_stanice(spoj->zastavky.front().stanice);
             return text + ")";
         }
     return text;

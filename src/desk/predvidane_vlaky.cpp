@@ -50,19 +50,18 @@ Text radek_predpovedi(const Predvidany& p) {
 std::vector<Predvidany> predvidane(int stanice, int ted) {
     std::vector<Predvidany> vlaky_stanice;
     for (const GvdVlak& r : gvd_vlaky) {
-        if (r.stanice.empty())
-            continue;
-        const bool konci = r.stanice.back() == stanice;
-        if ((r.stanice.front() != stanice && !konci) || !aktivni_dnes(r))
+        const ZastavkaGvd &vychozi = r.zastavky.front(), &konecna = r.zastavky.back();
+        const bool konci = konecna.stanice == stanice;
+        if ((vychozi.stanice != stanice && !konci) || !aktivni_dnes(r))
             continue;
         const int zpozdeni = zpozdeni_vlaku(r.cislo);
-        const int prvni = r.prijezdy.front() <= -1 ? r.odjezdy.front() : r.prijezdy.front();
+        const int prvni = vychozi.prijezd <= -1 ? vychozi.odjezd : vychozi.prijezd;
         const int m = zpozdeni + prvni - ted;
         if (m < 0 || m > kPredpoved_min)
             continue;
-        const int posledni = r.odjezdy.back() >= 0 ? r.odjezdy.back() : r.prijezdy.back();
+        const int posledni = konecna.odjezd >= 0 ? konecna.odjezd : konecna.prijezd;
         if (konci)
-            vlaky_stanice.push_back({zpozdeni + r.odjezdy.back(), posledni, zpozdeni, &r});
+            vlaky_stanice.push_back({zpozdeni + konecna.odjezd, posledni, zpozdeni, &r});
         else
             vlaky_stanice.push_back({m, prvni, zpozdeni, &r});
     }

@@ -49,8 +49,8 @@ Text radek_vlaku(const Vlak& v) {
     if (v.zpozdeni != 0)
         udaje = " +" + text_cisla(v.zpozdeni);
     udaje += text_cisla(v.delka) + "m, ";
-    if (!v.stanice.empty())
-        udaje += kod_stanice(v.stanice.back());
+    if (!v.zastavky.empty())
+        udaje += kod_stanice(v.zastavky.back().stanice);
     udaje += ", " + text_cisla(v.max_rychlost) + "km/h";
     Text radek(kSirkaRadku, ' ');
     pis_druh_a_cislo(radek, v);

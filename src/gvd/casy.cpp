@@ -1,4 +1,4 @@
-// gvd/casy.cpp - times of the timetable as running minutes.
+// gvd/casy.cpp - what a train takes over from its row of the timetable.
 #include "gvd/casy.h"
 
 #include "app/cas.h"
@@ -13,10 +13,28 @@ std::int16_t korekce(std::int16_t minuta) {
     return na_integer(m / kDen_min * kDen_min + (az_zitra ? kDen_min : 0));
 }
 
-std::vector<std::int16_t> dnesni_casy(const std::vector<std::int16_t>& casy) {
-    std::vector<std::int16_t> dnesni;
-    dnesni.reserve(casy.size());
-    for (const std::int16_t cas : casy)
-        dnesni.push_back(na_integer(cas + korekce(cas)));
-    return dnesni;
+std::vector<Zastavka> dnesni_zastavky(const GvdVlak& radek) {
+    const auto dnes = [](std::int16_t cas) { return na_integer(cas + korekce(cas)); };
+    std::vector<Zastavka> zastavky;
+    zastavky.reserve(radek.zastavky.size());
+    for (const ZastavkaGvd& z : radek.zastavky) {
+        const std::int16_t odjezd = dnes(z.odjezd);
+        zastavky.push_back({z.stanice, dnes(z.prijezd), odjezd, odjezd});
+    }
+    return zastavky;
+}
+
+void prevezmi_udaje(Vlak& vlak, const GvdVlak& radek) {
+    vlak.druh = radek.druh;
+    vlak.cislo = radek.cislo;
+    vlak.druh2 = radek.druh2;
+    vlak.cislo2 = radek.cislo2;
+    vlak.stanice_zmeny = radek.stanice_zmeny;
+    vlak.nazev = radek.nazev;
+    vlak.loko_rada = radek.loko_rada;
+    vlak.loko_rada2 = radek.loko_rada2;
+    vlak.poznamka = radek.poznamka;
+    vlak.pokyn = radek.kolej;
+    vlak.dny = radek.dny;
+    vlak.priznaky = radek.priznaky;
 }

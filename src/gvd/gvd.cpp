@@ -38,11 +38,9 @@ constexpr std::array<TextPohled, 19> kDruhyVlaku = {{{},
                                                      "Slu"_cz,
                                                      "Vle"_cz}};
 
-// The users of a row ask for the last element of these arrays without testing that there is one, and
-// use one index for all three times.
+// The users of a row ask for the last element of these lists without testing that there is one.
 bool pouzitelny(const GvdVlak& radek) {
-    return !radek.stanice.empty() && radek.prijezdy.size() == radek.stanice.size() &&
-           radek.odjezdy.size() == radek.stanice.size() && !radek.vozy.empty() && !radek.vozy_vlaky.empty();
+    return !radek.zastavky.empty() && !radek.vozy.empty() && !radek.vozy_vlaky.empty();
 }
 
 void cti_hlavicku(Ctenar& c, Text& popis) {
@@ -109,8 +107,9 @@ void nacti_gvd_z(std::span<const std::uint8_t> bajty) {
     std::vector<GvdVlak> nove;
     while (c.ok && !c.na_konci()) {
         GvdVlak radek;
+        c.nestejny = {};
         popis_poli(c, radek);
-        if (c.ok && pouzitelny(radek))
+        if (c.ok && c.nestejny.empty() && pouzitelny(radek))
             nove.push_back(std::move(radek));
     }
     gvd_vlaky = TabulkaGvd(std::move(nove));
@@ -133,11 +132,12 @@ bool aktivni_dnes(const GvdVlak& radek) {
 }
 
 bool bez_prijezdu(const GvdVlak& radek) {
-    return radek.prijezdy.front() <= -1 || uzel::konec_ke_stanici(radek.stanice.front()) >= 0;
+    const ZastavkaGvd& prvni = radek.zastavky.front();
+    return prvni.prijezd <= -1 || uzel::konec_ke_stanici(prvni.stanice) >= 0;
 }
 
 std::int16_t cas_vstupu(const GvdVlak& radek) {
-    return bez_prijezdu(radek) ? radek.odjezdy.front() : radek.prijezdy.front();
+    return bez_prijezdu(radek) ? radek.zastavky.front().odjezd : radek.zastavky.front().prijezd;
 }
 
 TextPohled nazev_stanice(int kod) {

@@ -14,10 +14,17 @@
 #include <span>
 #include <vector>
 
+// A stop or a point that is passed. Times are minutes after midnight; -1 or below none.
+struct ZastavkaGvd {
+    std::uint8_t stanice = 0;  // station code
+    std::int16_t prijezd = -1; // none: the train starts there
+    std::int16_t odjezd = -1;
+
+    bool operator==(const ZastavkaGvd&) const = default;
+};
+
 struct GvdVlak {
-    std::vector<std::uint8_t> stanice;  // stops and passing points, station codes
-    std::vector<std::int16_t> prijezdy; // minutes after midnight; -1 or below: starts there
-    std::vector<std::int16_t> odjezdy;
+    std::vector<ZastavkaGvd> zastavky;
     std::uint8_t druh = 0; // category, 1 to 18
     std::int32_t cislo = 0;
     std::uint8_t druh2 = 0;
@@ -43,9 +50,8 @@ struct GvdVlak {
 
 // The fields under their names, in the order of the file.
 template <class A, ZaznamJe<GvdVlak> Z> constexpr void popis_poli(A& a, Z& z) {
-    a.pole("stanice", z.stanice);
-    a.pole("prijezdy", z.prijezdy);
-    a.pole("odjezdy", z.odjezdy);
+    a.sloupce(z.zastavky, Sloupec{"stanice", &ZastavkaGvd::stanice},
+              Sloupec{"prijezdy", &ZastavkaGvd::prijezd}, Sloupec{"odjezdy", &ZastavkaGvd::odjezd});
     a.pole("druh", z.druh);
     a.pole("cislo", z.cislo);
     a.pole("druh2", z.druh2);
@@ -81,7 +87,7 @@ public:
     using Zapisy = std::span<const Zapis>;
 
     TabulkaGvd() = default;
-    // Every row has a stop at least, and a time of each kind for each stop.
+    // Every row has a stop at least.
     explicit TabulkaGvd(std::vector<GvdVlak> nove);
 
     std::size_t size() const { return radky.size(); }
@@ -138,7 +144,7 @@ bool bez_prijezdu(const GvdVlak& radek);
 // Minute of its entry: of that departure, else of its first arrival.
 std::int16_t cas_vstupu(const GvdVlak& radek);
 
-// Full name of a station or point, empty for an unknown code. -3 is the main station.
+// Full name of a station or point, empty for an unknown code. kZadny is the main station.
 TextPohled nazev_stanice(int kod);
 // Three-letter code; empty for points and stations that have none.
 TextPohled kod_stanice(int kod);

@@ -183,8 +183,8 @@ int kolej_ohlaseni(const uzel::StaniceOhlaseni& s, bool predbiha, std::uint8_t d
 
 // A later train is due before this late one, which may be overtaken.
 bool je_predbihan(const GvdVlak& r) {
-    const DalsiVlak& dalsi = stav_provozu.dalsi_vlaky[r.stanice.front()];
-    return dalsi.predpoklad != 0 && dalsi.predpoklad < zpozdeni_vlaku(r.cislo) + r.odjezdy.front() &&
+    const DalsiVlak& dalsi = stav_provozu.dalsi_vlaky[r.zastavky.front().stanice];
+    return dalsi.predpoklad != 0 && dalsi.predpoklad < zpozdeni_vlaku(r.cislo) + r.zastavky.front().odjezd &&
            dalsi.cislo != r.cislo;
 }
 
@@ -203,13 +203,13 @@ void zaloha_731() {
 }
 
 void zapis_dalsi_vlak(const GvdVlak& r, int zbyva, int zpozdeni) {
-    const std::size_t stanice = r.stanice.front();
+    const std::size_t stanice = r.zastavky.front().stanice;
     if (zbyva <= 5 || stanice >= stav_provozu.dalsi_vlaky.size())
         return;
     DalsiVlak& dalsi = stav_provozu.dalsi_vlaky[stanice];
     if (dalsi.cas <= zbyva)
         return;
-    dalsi = {na_integer(zbyva), r.cislo, r.druh, na_integer(zpozdeni + r.odjezdy.front())};
+    dalsi = {na_integer(zbyva), r.cislo, r.druh, na_integer(zpozdeni + r.zastavky.front().odjezd)};
 }
 
 void krok_radku(int gvd_index, int ted) {
@@ -217,7 +217,7 @@ void krok_radku(int gvd_index, int ted) {
     const bool aktivni = aktivni_dnes(r);
     if (!aktivni && zpozdeni_v_kroku(r.cislo) <= 0)
         return;
-    const int stanice = r.stanice.front();
+    const int stanice = r.zastavky.front().stanice;
     int zbyva = (cas_vstupu(r) - ted) % kDen_min;
     const bool ceka = je_cekajici(r.cislo);
     if (ceka)
@@ -306,7 +306,7 @@ void krok_provozu() {
 
 void vstup_v_minute(int gvd_index) {
     const GvdVlak& r = radek_gvd(gvd_index);
-    const int stanice = r.stanice.front();
+    const int stanice = r.zastavky.front().stanice;
     if (const uzel::StaniceOhlaseni* s = ohlasovana(stanice)) {
         rozjed(r.cislo, koleje_ohlaseni(*s));
         return;
@@ -327,7 +327,7 @@ void vstup_v_minute(int gvd_index) {
 
 void vstup_se_souhlasem(int gvd_index) {
     const GvdVlak& r = radek_gvd(gvd_index);
-    const int k = uzel::konec_ke_stanici(r.stanice.front());
+    const int k = uzel::konec_ke_stanici(r.zastavky.front().stanice);
     if (!relief.lblSouhlas.je(k))
         return;
     const uzel::KonecTrati& konec = uzel::kKonceTrati[static_cast<std::size_t>(k)];
@@ -356,14 +356,14 @@ void vstup_se_souhlasem(int gvd_index) {
 
 void ohlaseni(int gvd_index) {
     const GvdVlak& r = radek_gvd(gvd_index);
-    const uzel::StaniceOhlaseni* s = ohlasovana(r.stanice.front());
+    const uzel::StaniceOhlaseni* s = ohlasovana(r.zastavky.front().stanice);
     if (s == nullptr ||
         std::any_of(vlaky.begin(), vlaky.end(), [&r](const Vlak& v) { return v.cislo == r.cislo; }))
         return;
     bool predbiha = false;
     if (s->predjizdi) {
         predbiha = je_predbihan(r);
-        DalsiVlak& dalsi = stav_provozu.dalsi_vlaky[r.stanice.front()];
+        DalsiVlak& dalsi = stav_provozu.dalsi_vlaky[r.zastavky.front().stanice];
         if (dalsi.cislo == r.cislo)
             dalsi.cas = kPoOhlaseni;
     }

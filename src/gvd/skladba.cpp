@@ -38,31 +38,14 @@ std::uint8_t prvni_rychlost(int stanice, std::uint8_t rychlost) {
 }
 
 void prevezmi_radek(Vlak& v, const GvdVlak& r) {
-    v.cislo = r.cislo;
-    v.cislo2 = r.cislo2;
+    prevezmi_udaje(v, r);
     v.delka = r.delka;
-    v.druh = r.druh;
-    v.druh2 = r.druh2;
     v.gvd_hodnota = r.gvd_hodnota;
-    v.loko_rada = r.loko_rada;
-    v.loko_rada2 = r.loko_rada2;
     v.hodnota_2 = r.hodnota_2;
-    v.dny = r.dny;
-    v.stanice_zmeny = r.stanice_zmeny;
-    v.stanice = r.stanice;
-    v.pokyn = r.kolej;
-    v.nazev = r.nazev;
     v.max_rychlost = r.rychlost;
-    v.poznamka = r.poznamka;
+    v.zastavky = dnesni_zastavky(r);
     for (const Text& rada : r.vozy)
         v.vozy.push_back({rada, {}, {}});
-    v.priznaky = r.priznaky;
-}
-
-void pridej_casy(Vlak& v, const GvdVlak& r) {
-    v.prijezd = dnesni_casy(r.prijezdy);
-    v.odjezd = dnesni_casy(r.odjezdy);
-    v.odjezd_realny = v.odjezd;
 }
 
 // What each vehicle does next. A set that comes out of the depot first runs as its own train.
@@ -125,16 +108,16 @@ void nasad(Vlak& v, std::size_t i, int rada) {
     v.vozy[i].obrazek = obrazek_vozu(rada);
 }
 
-bool meni_lokomotivu(int stanice) {
-    return stanice == dopravna::tesk || stanice == dopravna::hajovice;
+bool meni_lokomotivu(const Zastavka& z) {
+    return z.stanice == dopravna::tesk || z.stanice == dopravna::hajovice;
 }
 
 // A train that is placed on its way has already changed its locomotive where it has been.
 void lokomotivy_na_ceste(Vlak& v, int index) {
     if (v.vozy.empty())
         return;
-    const auto po = v.stanice.begin() + std::min<std::ptrdiff_t>(index + 1, std::ssize(v.stanice));
-    if (std::find_if(v.stanice.begin(), po, meni_lokomotivu) == po)
+    const auto po = v.zastavky.begin() + std::min<std::ptrdiff_t>(index + 1, std::ssize(v.zastavky));
+    if (std::find_if(v.zastavky.begin(), po, meni_lokomotivu) == po)
         return;
     const bool ma_druhy = v.vozy.size() > 1;
     if (v.loko_rada2 != 0) {
@@ -144,7 +127,7 @@ void lokomotivy_na_ceste(Vlak& v, int index) {
             v.vozy[1].obrazek = v.vozy[2].obrazek;
         }
     }
-    if (!ma_druhy || std::find(v.stanice.begin(), po, dopravna::hajovice) == po)
+    if (!ma_druhy || zastavka_ve_stanici(v, dopravna::hajovice) >= po)
         return;
     const int pomocna = v.loko_rada2 != 0 ? v.loko_rada2 : v.loko_rada;
     if ((v.priznaky & priznak_vlaku::druhe_loko) != 0)
@@ -163,9 +146,9 @@ void oznac_vymeny(Vlak& v) {
     const bool druhy_neni_loko = v.vozy.size() > 1 && !je_loko(v.vozy[1].rada);
     if (je_rada(v.vozy.front().rada, v.loko_rada2) && !druhy_neni_loko)
         return;
-    for (std::size_t i = 0; i < v.stanice.size(); ++i)
-        if (meni_lokomotivu(v.stanice[i]))
-            v.odjezd_realny[i] = kNaPovel;
+    for (Zastavka& z : v.zastavky)
+        if (meni_lokomotivu(z))
+            z.odjezd_realny = kNaPovel;
 }
 
 void srovnej_lokomotivy(Vlak& v) {
@@ -204,14 +187,13 @@ std::int16_t vytvor_vlak(bool smer, int element, bool muze_jet, int index, int g
     v.smer = smer;
     v.muze_jet = muze_jet;
     prevezmi_radek(v, r);
-    pridej_casy(v, r);
     pridej_urceni(v, r, element);
     pridej_obrazky(v);
     if (index == kNaVstupu)
         v.zpozdeni = zpozdeni_na_vstupu(r);
     v.zpozdeni_vstup = zpozdeni_vlaku(v.cislo);
     index = std::max(index, 0);
-    v.rychlost_trati = prvni_rychlost(v.stanice.at(static_cast<std::size_t>(index)), v.max_rychlost);
+    v.rychlost_trati = prvni_rychlost(v.zastavky.at(static_cast<std::size_t>(index)).stanice, v.max_rychlost);
     if (simulace.minuty_simulace == 0)
         v.rychlost = v.rychlost_trati;
     if (index >= 1)

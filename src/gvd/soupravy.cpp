@@ -45,7 +45,7 @@ bool ma_vozy(const Vlak& v) {
 bool odjede_brzy(TabulkaGvd::Zapisy radky) {
     const int ted = minuta_dne(cas_hodin());
     return std::any_of(radky.begin(), radky.end(), [ted](const TabulkaGvd::Zapis& z) {
-        const int m = (radek_gvd(z.radek).odjezdy.front() - ted) % kDen_min;
+        const int m = (radek_gvd(z.radek).zastavky.front().odjezd - ted) % kDen_min;
         return m > 0 && m < 45 && aktivni_dnes(radek_gvd(z.radek));
     });
 }
@@ -86,10 +86,8 @@ Vlak lokomotiva(int rada, int element, bool smer, TextPohled urceni, bool posun)
     v.vozy = {{text_cisla(rada), Text(urceni), obrazek_vozu(rada)}};
     v.prvky = {{na_integer(element), druh_prvku::kolej, 2}};
     v.prvek_konec = 0;
-    v.stanice = {dopravna::dkv_vh, dopravna::tesk};
-    v.prijezd = {kZadny, na_integer(cas_min() + 7)};
-    v.odjezd = {cas_min(), kZadny};
-    v.odjezd_realny = v.odjezd;
+    v.zastavky = {{dopravna::dkv_vh, kZadny, cas_min(), cas_min()},
+                  {dopravna::tesk, na_integer(cas_min() + 7), kZadny, kZadny}};
     return v;
 }
 
@@ -154,7 +152,7 @@ std::int16_t kontrola_soupravy(std::int32_t cislo, bool& jsou_vozy) {
 bool souprava_pripravena(int gvd_index, std::int16_t ted) {
     const TabulkaGvd::Zapisy predavaji = gvd_vlaky.s_predanou_soupravou(radek_gvd(gvd_index).cislo);
     return std::none_of(predavaji.begin(), predavaji.end(), [ted](const TabulkaGvd::Zapis& z) {
-        return radek_gvd(z.radek).odjezdy.front() > ted && aktivni_dnes(radek_gvd(z.radek));
+        return radek_gvd(z.radek).zastavky.front().odjezd > ted && aktivni_dnes(radek_gvd(z.radek));
     });
 }
 
@@ -164,7 +162,7 @@ void stanice_start(int gvd_index) {
     if (kontrola_soupravy(r.cislo, jsou_vozy) != 0 || (r.vozy.size() == 1 && jsou_vozy))
         return;
     const int element =
-        je_v(r.stanice.back(), uzel::kCilePristaveniA) ? uzel::kPristaveniA : uzel::kPristaveniB;
+        je_v(r.zastavky.back().stanice, uzel::kCilePristaveniA) ? uzel::kPristaveniA : uzel::kPristaveniB;
     if (!je_kolej(element))
         return;
     if (!je_volna(element)) {
@@ -191,9 +189,8 @@ void posun_po_vytvoreni(int vlak) {
     if (v.vozy.empty() || v.loko_rada == uzel::kJednotka || uzel::je_rada_ridiciho(v.loko_rada) ||
         (v.loko_rada == uzel::kMotorovyVuzSRidicim && v.vozy.back().rada == uzel::kRidiciVozy[0].vuz))
         return;
-    const int druha = v.stanice.size() > 1 ? v.stanice[1] : 0;
-    const int treti = v.stanice.size() > 2 ? v.stanice[2] : 0;
-    const int posledni = v.stanice.empty() ? 0 : v.stanice.back();
+    const auto stanice = [&v](std::size_t i) { return i < v.zastavky.size() ? v.zastavky[i].stanice : 0; };
+    const int druha = stanice(1), treti = stanice(2), posledni = stanice(v.zastavky.size() - 1);
     if (druha == dopravna::dkv_vh &&
         je_v(treti, {dopravna::vysni_hrabov, dopravna::kamenec, dopravna::mokrina})) {
         obrat_soupravy(vlak);

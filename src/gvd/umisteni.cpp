@@ -131,11 +131,11 @@ int umisti_vlak(int element, bool smer, int index, int gvd_index) {
     }
     pridej_do_tabulky(i);
     const auto zastavka = static_cast<std::size_t>(std::max(index, 0));
-    if (v.cislo2 > 0 && v.stanice_zmeny != 0 && zastavka < v.stanice.size() &&
-        v.stanice_zmeny == v.stanice[zastavka])
+    if (v.cislo2 > 0 && v.stanice_zmeny != 0 && zastavka < v.zastavky.size() &&
+        v.stanice_zmeny == v.zastavky[zastavka].stanice)
         prepni_cislo(i);
-    if (index < 1 && v.stanice.size() > 1 && v.stanice[1] == dopravna::rybnice &&
-        v.stanice.back() == dopravna::dubnice)
+    if (index < 1 && v.zastavky.size() > 1 && v.zastavky[1].stanice == dopravna::rybnice &&
+        v.zastavky.back().stanice == dopravna::dubnice)
         obrat_soupravy(i);
     vlak_v_cili(element, i);
     return i;

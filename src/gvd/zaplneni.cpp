@@ -19,35 +19,36 @@ constexpr int kPredPristavenim = 29; // minutes a set stands at the platform bef
 
 void umisti_radek(int gvd_index, std::int16_t ted, bool jen_odjinud) {
     const GvdVlak& r = radek_gvd(gvd_index);
-    if (jen_odjinud == (r.stanice.front() == dopravna::tesk) || !aktivni_dnes(r))
+    const ZastavkaGvd &prvni = r.zastavky.front(), &posledni = r.zastavky.back();
+    if (jen_odjinud == (prvni.stanice == dopravna::tesk) || !aktivni_dnes(r))
         return;
     int od = cas_vstupu(r);
-    if (bez_prijezdu(r) && r.stanice.front() == dopravna::tesk)
+    if (bez_prijezdu(r) && prvni.stanice == dopravna::tesk)
         od -= kPredPristavenim;
-    int po = r.prijezdy.back() <= -1 ? r.odjezdy.back() : r.prijezdy.back();
+    int po = posledni.prijezd <= -1 ? posledni.odjezd : posledni.prijezd;
     if (od > po)
         po += kDen_min;
     if (ted < od || ted >= po)
         return;
-    const auto zastavka =
-        std::find_if(r.odjezdy.begin(), r.odjezdy.end(), [ted](std::int16_t t) { return ted < t; });
-    if (zastavka == r.odjezdy.end())
+    const auto zastavka = std::find_if(r.zastavky.begin(), r.zastavky.end(),
+                                       [ted](const ZastavkaGvd& z) { return ted < z.odjezd; });
+    if (zastavka == r.zastavky.end())
         return;
-    const auto i = static_cast<std::size_t>(zastavka - r.odjezdy.begin());
+    const auto i = static_cast<std::size_t>(zastavka - r.zastavky.begin());
     if (i == 1 && ted == od) // the traffic step will see it
         return;
     bool jsou_vozy = false;
     if (kontrola_soupravy(r.cislo, jsou_vozy) != 0)
         return;
-    const int predchozi = i > 0 ? r.stanice[i - 1] : 0;
-    const int dalsi = i + 1 < r.stanice.size() ? r.stanice[i + 1] : 0;
-    umisti_vlak_do_stanice(r.stanice[i], predchozi, dalsi, static_cast<int>(i), gvd_index);
+    const int predchozi = i > 0 ? r.zastavky[i - 1].stanice : 0;
+    const int dalsi = i + 1 < r.zastavky.size() ? r.zastavky[i + 1].stanice : 0;
+    umisti_vlak_do_stanice(zastavka->stanice, predchozi, dalsi, static_cast<int>(i), gvd_index);
 }
 
 // The row's train still calls at the main station.
 bool jede_pres_hlavni(const GvdVlak& r, std::int16_t ted) {
-    for (std::size_t k = 0; k + 1 < r.stanice.size(); ++k)
-        if (r.stanice[k + 1] == dopravna::tesk && r.odjezdy[k] > ted)
+    for (std::size_t k = 0; k + 1 < r.zastavky.size(); ++k)
+        if (r.zastavky[k + 1].stanice == dopravna::tesk && r.zastavky[k].odjezd > ted)
             return true;
     return false;
 }
@@ -55,7 +56,7 @@ bool jede_pres_hlavni(const GvdVlak& r, std::int16_t ted) {
 // First row of today with the number that leaves after `ted`; -1 when there is none.
 int pozdejsi_radek(double cislo, std::int16_t ted) {
     for (const auto& [klic, n] : gvd_vlaky.s_cislem(cislo))
-        if (radek_gvd(n).odjezdy.front() > ted && aktivni_dnes(radek_gvd(n)))
+        if (radek_gvd(n).zastavky.front().odjezd > ted && aktivni_dnes(radek_gvd(n)))
             return n;
     return -1;
 }

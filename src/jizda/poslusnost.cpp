@@ -97,7 +97,7 @@ void varuj_na_konci_useku(const Cesta& cesta, int e, int v) {
         return;
     }
     const Text kde = jmeno_konce(cesta, smer);
-    // Two blanks behind "na" here, one in the other warnings: as designed.
+    // Two blanks behind "na" here, one in the other warnings, as in the texts of the real desk.
     if (!uz_receno(kde + " okolo navesti VYSTRAHA!"))
         varuj(veta_projel(v, " projel na  ", kde));
 }
@@ -106,9 +106,9 @@ void varuj_na_konci_useku(const Cesta& cesta, int e, int v) {
 
 // Neighbours that lie in one direction are one.
 bool spravny_smer(const Vlak& vlak, int stanice) {
-    if (stanice == dopravna::zadna || vlak.stanice.empty())
+    if (stanice == dopravna::zadna || vlak.zastavky.empty())
         return true;
-    const int cil = vlak.stanice.back();
+    const int cil = vlak.zastavky.back().stanice;
     return cil == stanice || (je_v(cil, uzel::kVJednomSmeru) && je_v(stanice, uzel::kVJednomSmeru));
 }
 

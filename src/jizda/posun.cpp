@@ -29,7 +29,7 @@ void odmitni(TextPohled veta) {
     zprava(" ZMENA "_cz, veta, barvy::bila, 0, false, 0xFFFFFF, barvy::cervena);
 }
 
-// The three refusals differ in their blanks: as designed.
+// The three refusals differ in their blanks, as the texts of the real desk do.
 bool smi_se_zmenit(int v, int prvek) {
     const Vlak& vlak = vlak_c(v);
     const Text popis = je_cislo_koleje(prvek) ? relief.cislo_koleje[prvek].popis() : Text{};
@@ -48,7 +48,7 @@ bool smi_se_zmenit(int v, int prvek) {
 
 void stane_se_vlakem(int v) {
     Vlak& vlak = vlak_c(v);
-    const int prvni = vlak.stanice.empty() ? 0 : vlak.stanice.front();
+    const int prvni = vlak.zastavky.empty() ? 0 : vlak.zastavky.front().stanice;
     if (je_v(prvni, {dopravna::ona, dopravna::onb, dopravna::posta, dopravna::dkv_vh}))
         vlak.stanice_index = 1;
     zobraz_cekani(v);
@@ -126,11 +126,9 @@ void vlak_na_posun_cislo(int v) {
     vlak.stanice_zmeny = 0;
     vlak.pokyn.clear();
     const auto odkud = static_cast<std::uint8_t>(stanice_stroje(vlak.prvky.back().prvek));
-    vlak.stanice = {odkud, cil_stroje(vlak, odkud)};
-    const std::int16_t ted = cas_min();
-    vlak.prijezd = {ted, na_integer(ted + 15)};
-    vlak.odjezd = {na_integer(ted + 2), kZadny};
-    vlak.odjezd_realny = vlak.odjezd;
+    const std::int16_t ted = cas_min(), odjezd = na_integer(ted + 2);
+    vlak.zastavky = {{odkud, ted, odjezd, odjezd},
+                     {cil_stroje(vlak, odkud), na_integer(ted + 15), kZadny, kZadny}};
     vlak.max_rychlost = 80;
     vlak.muze_jet = false;
     vlak.posun = false;

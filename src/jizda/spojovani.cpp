@@ -88,15 +88,15 @@ void predej_cesty(int zanikl, int zustal) {
 // A stop that waited for this coupling has a departure again.
 void obnov_odjezd(Vlak& vlak) {
     const auto i = static_cast<std::size_t>(std::max<int>(vlak.stanice_index, 0));
-    if (i + 1 >= vlak.stanice.size() || i >= vlak.odjezd_realny.size() || i >= vlak.odjezd.size() ||
-        vlak.odjezd_realny[i] != kNaPovel)
+    if (i + 1 >= vlak.zastavky.size() || vlak.zastavky[i].odjezd_realny != kNaPovel)
         return;
     if (((vlak.priznaky & priznak_vlaku::pripraz) != 0 && !posledni_je_loko(vlak)) ||
         ((vlak.priznaky & priznak_vlaku::druhe_loko) != 0 && !druhy_je_loko(vlak)))
         return;
     const int nejdrive =
         cas_min() + (vlak.druh >= druh_vlaku::prvni_nakladni && vlak.druh != druh_vlaku::lv ? 6 : 3);
-    vlak.odjezd_realny[i] = na_integer(std::max<int>(nejdrive, vlak.odjezd[i]));
+    Zastavka& zastavka = vlak.zastavky[i];
+    zastavka.odjezd_realny = na_integer(std::max<int>(nejdrive, zastavka.odjezd));
 }
 
 // --- splitting
@@ -126,10 +126,7 @@ void zaloz_dil(const Vlak& vlak, Vlak& dil) {
     dil.druh = vlak.druh;
     dil.max_rychlost = vlak.max_rychlost;
     dil.smer = vlak.smer;
-    dil.stanice = vlak.stanice;
-    dil.prijezd = vlak.prijezd;
-    dil.odjezd = vlak.odjezd;
-    dil.odjezd_realny = vlak.odjezd_realny;
+    dil.zastavky = vlak.zastavky;
     dil.rychlost_trati = kRychlostDilu;
     dil.posun = true;
     dil.muze_jet = true;
@@ -138,8 +135,8 @@ void zaloz_dil(const Vlak& vlak, Vlak& dil) {
 
 // The stop now ends only by order, or when another locomotive is coupled.
 void cekej_na_povel(Vlak& vlak) {
-    if (vlak.stanice_index >= 0 && static_cast<std::size_t>(vlak.stanice_index) < vlak.odjezd_realny.size())
-        vlak.odjezd_realny[static_cast<std::size_t>(vlak.stanice_index)] = kNaPovel;
+    if (vlak.stanice_index >= 0 && static_cast<std::size_t>(vlak.stanice_index) < vlak.zastavky.size())
+        vlak.zastavky[static_cast<std::size_t>(vlak.stanice_index)].odjezd_realny = kNaPovel;
 }
 
 // Routes that neither part has entered yet are free for either.
@@ -218,33 +215,19 @@ void smaz_radek_vlaku(int v) {
 }
 
 void prevezmi_radek(Vlak& vlak, const GvdVlak& radek) {
-    vlak.nazev = radek.nazev;
-    vlak.druh = radek.druh;
-    vlak.cislo = radek.cislo;
-    vlak.druh2 = radek.druh2;
-    vlak.cislo2 = radek.cislo2;
+    prevezmi_udaje(vlak, radek);
     vlak.cislo2_platne = false;
-    vlak.stanice_zmeny = radek.stanice_zmeny;
-    vlak.poznamka = radek.poznamka;
-    vlak.pokyn = radek.kolej;
-    vlak.loko_rada = radek.loko_rada;
-    vlak.loko_rada2 = radek.loko_rada2;
-    vlak.dny = radek.dny;
-    vlak.priznaky = radek.priznaky;
     vlak.stanice_index = -1;
     vlak.zpozdeni = 0;
     vlak.zpozdeni_vstup = 0;
-    vlak.stanice = radek.stanice;
-    vlak.prijezd = dnesni_casy(radek.prijezdy);
-    vlak.odjezd = dnesni_casy(radek.odjezdy);
-    vlak.odjezd_realny = vlak.odjezd;
+    vlak.zastavky = dnesni_zastavky(radek);
 }
 
 // The first stop sends the train back the way it came: its locomotive comes off the head.
 bool musi_objet(const Vlak& vlak) {
-    if (vlak.stanice.size() < 2 || vlak.vozy.empty() || !je_loko(vlak.vozy.front().rada))
+    if (vlak.zastavky.size() < 2 || vlak.vozy.empty() || !je_loko(vlak.vozy.front().rada))
         return false;
-    const int druha = vlak.stanice[1];
+    const int druha = vlak.zastavky[1].stanice;
     if (vlak.smer)
         return je_v(druha, {dopravna::vysni_hrabov, dopravna::mokrina, dopravna::vrbice}) &&
                rada_vozu(vlak.vozy.back().rada) < kPrvniRidiciVuz;

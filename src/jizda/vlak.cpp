@@ -29,5 +29,5 @@ bool drzi_jiny(int kolej, int v) {
 }
 
 bool stoji_na_posledni(const Vlak& v) {
-    return v.stanice_index >= 0 && static_cast<std::size_t>(v.stanice_index) + 1 == v.stanice.size();
+    return v.stanice_index >= 0 && static_cast<std::size_t>(v.stanice_index) + 1 == v.zastavky.size();
 }

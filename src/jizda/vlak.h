@@ -8,8 +8,10 @@
 #pragma once
 
 #include "cesty/prvek_cesty.h"
+#include "zaklad/cisla.h"
 #include "zaklad/text.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <vector>
@@ -28,17 +30,25 @@ struct Vuz {
     bool operator==(const Vuz&) const = default;
 };
 
+// A stop of a train, or a point that it passes. Times are running minutes: minute of the day + 1440 a day
+// since the first; kZadny none.
+struct Zastavka {
+    std::uint8_t stanice = 0; // station code
+    std::int16_t prijezd = kZadny;
+    std::int16_t odjezd = kZadny;        // by the timetable
+    std::int16_t odjezd_realny = kZadny; // working departure; kNaPovel only on the operator's order
+
+    bool operator==(const Zastavka&) const = default;
+};
+
 struct Vlak {
-    std::vector<std::uint8_t> stanice; // timetable stations in running order, station codes
-    std::vector<std::int16_t> prijezd; // running minutes: minute of the day + 1440 a day since the first
-    std::vector<std::int16_t> odjezd;  // by the timetable; -3 none
-    std::vector<std::int16_t> odjezd_realny; // working departure; -3 none, -10 only on the operator's order
-    std::uint8_t druh = 0;                   // category
-    std::int32_t cislo = 0;                  // train number; below 1: free record
-    std::uint8_t druh2 = 0;                  // category and number after the change
-    std::int32_t cislo2 = 0;                 // 0 or -3 none
-    std::uint8_t stanice_zmeny = 0;          // station where cislo2 takes over; 0 none
-    bool posun = false;                      // runs as a shunting movement
+    std::vector<Zastavka> zastavky; // by the timetable, in running order
+    std::uint8_t druh = 0;          // category
+    std::int32_t cislo = 0;         // train number; below 1: free record
+    std::uint8_t druh2 = 0;         // category and number after the change
+    std::int32_t cislo2 = 0;        // 0 or kZadny none
+    std::uint8_t stanice_zmeny = 0; // station where cislo2 takes over; 0 none
+    bool posun = false;             // runs as a shunting movement
     Text nazev;
     std::uint8_t max_rychlost = 0; // km/h, of this consist
     std::int16_t delka = 0;        // metres
@@ -48,23 +58,23 @@ struct Vlak {
     std::int16_t hodnota_2 = 0;    // from the timetable, not used
     std::vector<Vuz> vozy;         // from the head to the tail
     Text poznamka;
-    Text pokyn;                      // working instruction: the planned track
-    std::uint8_t dny = 0;            // days of running, bit 7 holidays
-    std::uint8_t priznaky = 0;       // bits of priznak_vlaku
-    std::int16_t stanice_index = 0;  // stop now or last served; negative: none yet
-    bool muze_jet = false;           // may run; else it waits at a stop
-    std::vector<PrvekCesty> prvky;   // entered, oldest first; the last one is the head
-    std::int16_t prvek_konec = -3;   // index of the rearmost entry still held
-    bool smer = false;               // true: towards larger numbers of a line and larger X
-    std::uint8_t rychlost = 0;       // km/h
-    std::uint8_t rychlost_trati = 0; // line speed in force
-    std::uint8_t rychlost_cesty = 0; // limit of the route entered last; 0 none
-    std::int16_t konec_omezeni = 0;  // switch whose clearing by the tail ends that limit
-    bool omezeni_ukonceno = false;   // that limit no longer binds
-    std::int16_t rezerva = -3;       // -3 in new records, never read
-    bool cislo2_platne = false;      // runs under cislo2 and druh2
-    std::int16_t zpozdeni_vstup = 0; // delay carried in, minutes
-    std::int16_t zpozdeni = 0;       // present delay, minutes
+    Text pokyn;                        // working instruction: the planned track
+    std::uint8_t dny = 0;              // days of running, bit 7 holidays
+    std::uint8_t priznaky = 0;         // bits of priznak_vlaku
+    std::int16_t stanice_index = 0;    // stop now or last served; negative: none yet
+    bool muze_jet = false;             // may run; else it waits at a stop
+    std::vector<PrvekCesty> prvky;     // entered, oldest first; the last one is the head
+    std::int16_t prvek_konec = kZadny; // index of the rearmost entry still held
+    bool smer = false;                 // true: towards larger numbers of a line and larger X
+    std::uint8_t rychlost = 0;         // km/h
+    std::uint8_t rychlost_trati = 0;   // line speed in force
+    std::uint8_t rychlost_cesty = 0;   // limit of the route entered last; 0 none
+    std::int16_t konec_omezeni = 0;    // switch whose clearing by the tail ends that limit
+    bool omezeni_ukonceno = false;     // that limit no longer binds
+    std::int16_t rezerva = kZadny;     // kZadny in new records, never read
+    bool cislo2_platne = false;        // runs under cislo2 and druh2
+    std::int16_t zpozdeni_vstup = 0;   // delay carried in, minutes
+    std::int16_t zpozdeni = 0;         // present delay, minutes
 
     // Derived, not saved: length of `prvky` when the stop handling last ran at the end of a route. It runs
     // once for an arrival, else a station that stands twice in the timetable would hold the train twice.
@@ -75,10 +85,8 @@ struct Vlak {
 
 // The fields under their names, in the order of a saved record.
 template <class A, ZaznamJe<Vlak> Z> constexpr void popis_poli(A& a, Z& z) {
-    a.pole("stanice", z.stanice);
-    a.pole("prijezd", z.prijezd);
-    a.pole("odjezd", z.odjezd);
-    a.pole("odjezd_realny", z.odjezd_realny);
+    a.sloupce(z.zastavky, Sloupec{"stanice", &Zastavka::stanice}, Sloupec{"prijezd", &Zastavka::prijezd},
+              Sloupec{"odjezd", &Zastavka::odjezd}, Sloupec{"odjezd_realny", &Zastavka::odjezd_realny});
     a.pole("druh", z.druh);
     a.pole("cislo", z.cislo);
     a.pole("druh2", z.druh2);
@@ -114,10 +122,10 @@ template <class A, ZaznamJe<Vlak> Z> constexpr void popis_poli(A& a, Z& z) {
     a.pole("zpozdeni", z.zpozdeni);
 }
 
-// Trains on one element, in their order along the track; one entry -3: none.
+// Trains on one element, in their order along the track; one entry kZadny: none.
 struct KolejVlaky {
     std::int16_t prvek = 0;
-    std::vector<std::int16_t> vlaky{-3};
+    std::vector<std::int16_t> vlaky{kZadny};
     bool operator==(const KolejVlaky&) const = default;
 };
 
@@ -153,6 +161,11 @@ bool drzi_prvek(const Vlak& v, int kolej);
 // Another train than v holds the track.
 bool drzi_jiny(int kolej, int v);
 
+// The stop of the train in a station, the first of several; the end of its stops when it has none there.
+inline auto zastavka_ve_stanici(const Vlak& v, int stanice) {
+    return std::find_if(v.zastavky.begin(), v.zastavky.end(),
+                        [stanice](const Zastavka& z) { return z.stanice == stanice; });
+}
 // The number that the operator sees: cislo2 when it is in force, else cislo.
 inline std::int32_t zobrazene_cislo(const Vlak& v) {
     return v.cislo2_platne ? v.cislo2 : v.cislo;

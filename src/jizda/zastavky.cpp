@@ -36,20 +36,15 @@ constexpr Barva kPozadiTrati = 0x808000;  // label of a train that waits on a li
 constexpr Barva kPozadiMinuty = 0x00FFFF; // label in the last minute
 constexpr Barva kPozadiDvou = 0x808080;   // two minutes before
 
-// A time of stop i; a list that is too short has none.
-std::int16_t cas_zastavky(const std::vector<std::int16_t>& casy, int i) {
-    return i >= 0 && static_cast<std::size_t>(i) < casy.size() ? casy[static_cast<std::size_t>(i)]
-                                                               : std::int16_t{kZadny};
+// Stop i; beyond the ends one of no station and without times.
+Zastavka zastavka(const Vlak& vlak, int i) {
+    return i >= 0 && static_cast<std::size_t>(i) < vlak.zastavky.size()
+               ? vlak.zastavky[static_cast<std::size_t>(i)]
+               : Zastavka{};
 }
 void nastav_odjezd(Vlak& vlak, int i, std::int16_t minuta) {
-    if (i >= 0 && static_cast<std::size_t>(i) < vlak.odjezd_realny.size())
-        vlak.odjezd_realny[static_cast<std::size_t>(i)] = minuta;
-}
-// Station of stop i; 0, which is none, beyond the ends.
-int stanice_zastavky(const Vlak& vlak, int i) {
-    return i >= 0 && static_cast<std::size_t>(i) < vlak.stanice.size()
-               ? vlak.stanice[static_cast<std::size_t>(i)]
-               : 0;
+    if (i >= 0 && static_cast<std::size_t>(i) < vlak.zastavky.size())
+        vlak.zastavky[static_cast<std::size_t>(i)].odjezd_realny = minuta;
 }
 Text urceni(const Vlak& vlak, std::size_t i) {
     return i < vlak.vozy.size() ? vlak.vozy[i].urceni : Text{};
@@ -67,7 +62,7 @@ const uzel::MistoStopu* najdi_misto(int prvek) {
 // --- locomotives at the stops
 
 bool stoji_ve_stanici(const Vlak& vlak, int kod) {
-    return stanice_zastavky(vlak, vlak.stanice_index) == kod;
+    return zastavka(vlak, vlak.stanice_index).stanice == kod;
 }
 
 // The engine at one end is another one than the train goes on with, and it does not stay for the branch.
@@ -111,7 +106,7 @@ void vymen_loko_v_hajovicich(int v) {
 // off, whatever it is, so that it can run to the other end.
 void odves_v_dolnim(int v) {
     const Vlak& vlak = vlak_c(v);
-    const int dalsi = stanice_zastavky(vlak, vlak.stanice_index + 1);
+    const int dalsi = zastavka(vlak, vlak.stanice_index + 1).stanice;
     if (!stoji_ve_stanici(vlak, dopravna::dolni) || vlak.vozy.size() < 2)
         return;
     if (dalsi == dopravna::rybnice && !vlak.smer)
@@ -125,8 +120,8 @@ void odves_v_dolnim(int v) {
 void postav_soupravu(int prvek, int v) {
     const Vlak& vlak = vlak_c(v);
     const TextPohled pokyn = orez(vlak.pokyn);
-    if (vlak.stanice_index > 0 || !uzel::je_kolej_hlavniho(prvek) || pokyn.empty() || vlak.stanice.empty() ||
-        !je_v(vlak.stanice.front(), {dopravna::tesk, dopravna::posta, dopravna::dkv_vh}) ||
+    if (vlak.stanice_index > 0 || !uzel::je_kolej_hlavniho(prvek) || pokyn.empty() || vlak.zastavky.empty() ||
+        !je_v(vlak.zastavky.front().stanice, {dopravna::tesk, dopravna::posta, dopravna::dkv_vh}) ||
         je_nastaveno_posun_z(prvek) || !je_cislo_koleje(prvek) ||
         orez(relief.cislo_koleje[prvek].popis()) != pokyn)
         return;
@@ -222,16 +217,16 @@ void ukaz_na_trati(int v, int zbyva) {
 
 // Minutes to the departure from stop i.
 int zbyva_do_odjezdu(Vlak& vlak, int i) {
-    if (cas_zastavky(vlak.odjezd_realny, i) == kNaPovel)
+    const Zastavka z = zastavka(vlak, i);
+    if (z.odjezd_realny == kNaPovel)
         return kCekaNaPovel;
-    const int posledni = static_cast<int>(vlak.stanice.size()) - 1;
-    const bool konci = i == posledni && vlak.stanice.back() == dopravna::tesk &&
-                       !vlak.odjezd_realny.empty() && vlak.odjezd_realny.back() < 0;
+    const bool konci =
+        i + 1 == static_cast<int>(vlak.zastavky.size()) && z.stanice == dopravna::tesk && z.odjezd_realny < 0;
     if (!ma_loko(vlak) || konci) {
         nastav_odjezd(vlak, i, kNaPovel);
         return kNepojede;
     }
-    return cas_zastavky(vlak.odjezd_realny, i) - cas_min();
+    return z.odjezd_realny - cas_min();
 }
 
 // --- journal
@@ -299,15 +294,15 @@ void stanice_stop(int kod, int v, int doba) {
     Vlak& vlak = vlak_c(v);
     const auto od = static_cast<std::size_t>(std::max(0, vlak.stanice_index + 1));
     std::size_t misto = od;
-    while (misto < vlak.stanice.size() && vlak.stanice[misto] != kod)
+    while (misto < vlak.zastavky.size() && vlak.zastavky[misto].stanice != kod)
         ++misto;
-    if (misto >= vlak.stanice.size())
+    if (misto >= vlak.zastavky.size())
         return; // not in its timetable: it runs through
     const int i = static_cast<int>(misto);
     vlak.stanice_index = na_integer(i);
-    const bool pobyt = cas_zastavky(vlak.prijezd, i) >= 0;
-    const bool vychozi = !pobyt && kod == dopravna::tesk && vlak.stanice.front() == dopravna::tesk &&
-                         cas_zastavky(vlak.odjezd, i) > 0;
+    const bool pobyt = vlak.zastavky[misto].prijezd >= 0;
+    const bool vychozi = !pobyt && kod == dopravna::tesk && vlak.zastavky.front().stanice == dopravna::tesk &&
+                         vlak.zastavky[misto].odjezd > 0;
     if (pobyt || vychozi) {
         zastav_vlak(v, pobyt ? doba : kPobytVychozi, i);
         zobraz_cekani(v);
@@ -322,21 +317,20 @@ void zastav_vlak(int v, int doba, int i) {
     vlak.zpozdeni = std::max<std::int16_t>(vlak.zpozdeni, 0);
     vlak.muze_jet = false;
     vlak.rychlost = 0;
-    const int odjezd = cas_zastavky(vlak.odjezd, i);
-    const int prijezd = cas_zastavky(vlak.prijezd, i);
-    if (odjezd < 0 || prijezd < 0 || cas_zastavky(vlak.odjezd_realny, i) == kNaPovel)
+    const Zastavka z = zastavka(vlak, i);
+    if (z.odjezd < 0 || z.prijezd < 0 || z.odjezd_realny == kNaPovel)
         return;
-    doba = std::min(doba, odjezd - prijezd);
-    if (odjezd >= cas_min() + doba)
-        nastav_odjezd(vlak, i, na_integer(odjezd));
+    doba = std::min(doba, z.odjezd - z.prijezd);
+    if (z.odjezd >= cas_min() + doba)
+        nastav_odjezd(vlak, i, z.odjezd);
     else if (!simulace.pauza)
         nastav_odjezd(vlak, i, na_integer(cas_min() + doba));
 }
 
 void zobraz_cekani(int v) {
     Vlak& vlak = vlak_c(v);
-    if (vlak.posun || vlak.stanice.empty() ||
-        (vlak.stanice_index < 0 && vlak.stanice.front() != dopravna::tesk))
+    if (vlak.posun || vlak.zastavky.empty() ||
+        (vlak.stanice_index < 0 && vlak.zastavky.front().stanice != dopravna::tesk))
         return;
     const int zbyva = zbyva_do_odjezdu(vlak, std::max<int>(vlak.stanice_index, 0));
     vlak.muze_jet = zbyva <= 0;
@@ -362,8 +356,8 @@ void aktualizuj_cekani() {
 
 bool muze_tahnout(int v) {
     const Vlak& vlak = vlak_c(v);
-    int j = std::min(static_cast<int>(vlak.stanice.size()) - 1, static_cast<int>(vlak.stanice_index));
-    while (j >= 0 && !je_v(stanice_zastavky(vlak, j), {dopravna::tesk, dopravna::hajovice}))
+    int j = std::min(static_cast<int>(vlak.zastavky.size()) - 1, static_cast<int>(vlak.stanice_index));
+    while (j >= 0 && !je_v(zastavka(vlak, j).stanice, {dopravna::tesk, dopravna::hajovice}))
         --j;
     if (j < 0)
         return true;
@@ -396,13 +390,10 @@ void spocti_zpozdeni(int v, int kod) {
     Vlak& vlak = vlak_c(v);
     if (vlak.posun)
         return;
-    const auto stanice = std::find(vlak.stanice.begin(), vlak.stanice.end(), kod);
-    if (stanice == vlak.stanice.end())
+    const auto misto = zastavka_ve_stanici(vlak, kod);
+    if (misto == vlak.zastavky.end() || misto->odjezd < 0)
         return;
-    const std::int16_t odjezd = cas_zastavky(vlak.odjezd, static_cast<int>(stanice - vlak.stanice.begin()));
-    if (odjezd < 0)
-        return;
-    int zpozdeni = cas_min() - odjezd;
+    int zpozdeni = cas_min() - misto->odjezd;
     if (zpozdeni == 1)
         zpozdeni = 0; // a minute late is on time: nobody reports it
     if (zpozdeni > 1300)
@@ -424,8 +415,8 @@ void prepni_cislo(int v) {
 void otoc_podle_stanic(int v) {
     const Vlak& vlak = vlak_c(v);
     const int i = std::max<int>(vlak.stanice_index, 0);
-    const int odkud = stanice_zastavky(vlak, i);
-    const int kam = stanice_zastavky(vlak, i + 1);
+    const int odkud = zastavka(vlak, i).stanice;
+    const int kam = zastavka(vlak, i + 1).stanice;
     if (std::any_of(uzel::kObraty.begin(), uzel::kObraty.end(), [&](const uzel::Obrat& o) {
             return o.odkud == odkud && o.kam == kam && o.smer == vlak.smer;
         }))

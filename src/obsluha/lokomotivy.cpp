@@ -68,10 +68,8 @@ int nova_lokomotiva(TextPohled rada, std::size_t pocet, int kolej, bool smer,
     for (std::size_t i = 0; i < pocet; ++i)
         vlak.vozy.push_back({Text(rada), {}, obrazek_vozu(vlak.loko_rada)});
     vlak.prvky = {{na_integer(kolej), druh_prvku::kolej, 2}};
-    vlak.stanice.assign(odkud_kam.begin(), odkud_kam.end());
-    vlak.prijezd = {kZadny, na_integer(cas_min() + jizda_min)};
-    vlak.odjezd = {cas_min(), kZadny};
-    vlak.odjezd_realny = vlak.odjezd;
+    vlak.zastavky = {{odkud_kam[0], kZadny, cas_min(), cas_min()},
+                     {odkud_kam[1], na_integer(cas_min() + jizda_min), kZadny, kZadny}};
     return v;
 }
 

@@ -15,11 +15,11 @@ bool ma_pismeno(const ZaznamMakra& makro, char pismeno) {
 }
 
 void odznac_kroky() {
-    for (std::size_t i = 0; i < vyber.makro_zacatky.size(); ++i) {
-        if (vyber.makro_zacatky[i] < 0)
+    for (const KrokMakra& krok : vyber.makro_kroky) {
+        if (krok.zacatek < 0)
             continue;
-        odznac_navestidlo(vyber.makro_zacatky[i]);
-        odznac_konec(vyber.makro_konce[i]);
+        odznac_navestidlo(krok.zacatek);
+        odznac_konec(krok.konec);
     }
 }
 
@@ -29,7 +29,8 @@ void ukonci_zaznam() {
     nastav_text(relief.lblMakro_pismeno[0], {});
 }
 
-void vyber_krok(int zacatek, int konec, int druh) {
+void vyber_krok(const KrokMakra& krok) {
+    const int zacatek = krok.zacatek, konec = krok.konec, druh = krok.druh;
     if (zacatek < 0 || (druh != druh_volby::vlak && druh != druh_volby::posun))
         return;
     const bool vlak = druh == druh_volby::vlak;
@@ -40,7 +41,7 @@ void vyber_krok(int zacatek, int konec, int druh) {
     zvyrazni_navestidlo(zacatek, vlak ? barvy::zelena : barvy::bila);
     vyber.volba_konec = static_cast<std::int16_t>(konec);
     vyber.volba_druh = static_cast<std::uint8_t>(druh);
-    vyber.volba_cas = -3;
+    vyber.volba_cas = kZadny;
     najdi_cestu(zacatek, konec, druh, false);
 }
 
@@ -53,9 +54,7 @@ bool makro_se_zaznamenava() {
 void zacni_makro(char pismeno) {
     vyber.makro_zaznam = true;
     vyber.makro_pismeno = orez(TextPohled(&pismeno, 1)); // the blank is no letter: such a macro is never kept
-    vyber.makro_zacatky = {-3};
-    vyber.makro_konce = {-3};
-    vyber.makro_druhy = {0};
+    vyber.makro_kroky = {KrokMakra{}};
     nastav_text(relief.lblMakro_pismeno[0], " " + Text(1, pismeno) + " ");
     pipni(800, 10);
 }
@@ -67,24 +66,17 @@ void krok_makra(int zacatek, int konec, int druh) {
     const DruhZpravy slovo = druh == druh_volby::vlak ? DruhZpravy::vc : DruhZpravy::pc;
     if (stojici_zprava() == slovo)
         zobraz_prikaz(slovo, Text(relief.lblVolba[0].text), barvy::oranzova, relief.lblPrikaz[0].pozadi);
-    if (vyber.makro_zacatky.front() >= 0) {
-        vyber.makro_zacatky.emplace_back();
-        vyber.makro_konce.emplace_back();
-        vyber.makro_druhy.emplace_back();
-    }
-    vyber.makro_zacatky.back() = static_cast<std::int16_t>(zacatek);
-    vyber.makro_konce.back() = static_cast<std::int16_t>(konec);
-    vyber.makro_druhy.back() = static_cast<std::uint8_t>(druh);
-    vyber.volba_navestidlo = -3; // the highlight of the start stays as a picture of the macro
+    if (vyber.makro_kroky.front().zacatek >= 0)
+        vyber.makro_kroky.emplace_back();
+    vyber.makro_kroky.back() = {static_cast<std::int16_t>(zacatek), static_cast<std::int16_t>(konec),
+                                static_cast<std::uint8_t>(druh)};
+    vyber.volba_navestidlo = kZadny; // the highlight of the start stays as a picture of the macro
 }
 
 void uloz_makro() {
     odznac_kroky();
-    if (vyber.makro_zacatky.front() >= 0) {
-        const ZaznamMakra makro{vyber.makro_pismeno, vyber.makro_druhy, vyber.makro_zacatky,
-                                vyber.makro_konce};
-        pridej_ulozene_makro(makro);
-    }
+    if (vyber.makro_kroky.front().zacatek >= 0)
+        pridej_ulozene_makro({vyber.makro_pismeno, vyber.makro_kroky});
     ukonci_zaznam();
     skryj_prikaz();
 }
@@ -100,7 +92,7 @@ void prehraj_makro(char pismeno) {
     for (const ZaznamMakra& makro : ulozena_makra()) {
         if (!ma_pismeno(makro, pismeno))
             continue;
-        for (std::size_t i = 0; i < pocet_kroku(makro); ++i)
-            vyber_krok(makro.zacatky[i], makro.konce[i], makro.druhy[i]);
+        for (const KrokMakra& krok : makro.kroky)
+            vyber_krok(krok);
     }
 }

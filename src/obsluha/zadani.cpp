@@ -91,10 +91,7 @@ void prevezmi_radek(Vlak& vlak, const GvdVlak& radek) {
     vlak.druh = radek.druh;
     vlak.pokyn = radek.kolej;
     vlak.poznamka = radek.poznamka;
-    vlak.stanice = radek.stanice;
-    vlak.prijezd = dnesni_casy(radek.prijezdy);
-    vlak.odjezd = dnesni_casy(radek.odjezdy);
-    vlak.odjezd_realny = vlak.odjezd;
+    vlak.zastavky = dnesni_zastavky(radek);
     vlak.stanice_index = -1;
 }
 

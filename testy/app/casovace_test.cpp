@@ -7,6 +7,7 @@
 #include "jizda/vlak.h"
 #include "obsluha/vstup.h"
 #include "pomocne/virtualni_platforma.h"
+#include "pomocne/zastavky.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "prvky/stav_vyhybek.h"
 #include "relief/relief.h"
@@ -165,9 +166,7 @@ TEST_F(Hodiny, OrdersOfTheTwoSecondsBeforeAStartAtMidnightKeepTheirTerms) {
 
 TEST_F(Hodiny, TrafficOfTheFirstMinuteBelongsToTheOldDay) {
     GvdVlak nedelni;
-    nedelni.stanice = {27, 12};
-    nedelni.prijezdy = {0, 20};
-    nedelni.odjezdy = {0, -1};
+    nedelni.zastavky = zastavky_radku({27, 12}, {0, 20}, {0, -1});
     nedelni.cislo = 601;
     nedelni.dny = 64;
     nedelni.vozy = {"742"};

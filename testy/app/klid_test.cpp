@@ -4,6 +4,7 @@
 #include "gvd/provoz.h"
 #include "gvd/stav_provozu.h"
 #include "jizda/svet_vlaku.h"
+#include "pomocne/zastavky.h"
 
 #include <cstdlib>
 #include <new>
@@ -68,9 +69,8 @@ TEST_F(Klid, TrafficStepWithoutATrainThatIsDueTakesNothing) {
     for (int i = 0; i < 1000; ++i) {
         GvdVlak r;
         r.cislo = 1000 + i;
-        r.stanice = {1, 9};
-        r.prijezdy = {-1, static_cast<std::int16_t>(i % 300)};
-        r.odjezdy = {static_cast<std::int16_t>(i % 300), -1};
+        r.zastavky = zastavky_radku({1, 9}, {-1, static_cast<std::int16_t>(i % 300)},
+                                    {static_cast<std::int16_t>(i % 300), -1});
         r.vozy = {"754"};
         r.vozy_vlaky = {0};
         r.dny = 0x7F;

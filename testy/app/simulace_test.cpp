@@ -44,8 +44,7 @@ TEST_F(NovaSimulace, LeavesNothingOfTheOldOne) {
     vlaky.resize(60);
     koleje_vlaky.resize(5);
     GvdVlak radek;
-    radek.stanice = {9};
-    radek.prijezdy = radek.odjezdy = {600};
+    radek.zastavky = {{9, 600, 600}};
     gvd_vlaky = TabulkaGvd({radek});
     parametry.vlevo = 7;
     technologie.jen_pohled = true;

@@ -13,6 +13,7 @@
 #include "obsluha/vyber.h"
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/virtualni_platforma.h"
+#include "pomocne/zastavky.h"
 #include "prvky/stav_vyhybek.h"
 #include "relief/prejezdy.h"
 #include "relief/relief.h"
@@ -289,9 +290,7 @@ TEST_F(Start, TrainsStartWithNoElementHeld) {
 // A train from Borovec at 12:01 is announced by the traffic step that ends the fill, at 11:59:58.
 TEST_F(Start, TrafficIsThereAtOnceUnlessASavedSimulationBringsIt) {
     GvdVlak radek;
-    radek.stanice = {2, 9};
-    radek.prijezdy = {-1, 740};
-    radek.odjezdy = {721, -1};
+    radek.zastavky = zastavky_radku({2, 9}, {-1, 740}, {721, -1});
     radek.cislo = 4701;
     radek.dny = 0x7F;
     radek.vozy = {"754"};
@@ -324,7 +323,7 @@ TEST_F(Start, TrafficIsThereAtOnceUnlessASavedSimulationBringsIt) {
     for (std::size_t i = 0; i < vlaky.size(); ++i) {
         EXPECT_EQ(vlaky[i].cislo, ulozene_vlaky[i].cislo) << i;
         EXPECT_EQ(vlaky[i].prvky, ulozene_vlaky[i].prvky) << i;
-        EXPECT_EQ(vlaky[i].odjezd_realny, ulozene_vlaky[i].odjezd_realny) << i;
+        EXPECT_EQ(vlaky[i].zastavky, ulozene_vlaky[i].zastavky) << i;
     }
     EXPECT_EQ(prejezdy, ulozene_prejezdy);
     EXPECT_EQ(gvd_vlaky.size(), 1u);

@@ -3,6 +3,8 @@
 #include "cesty/tabulky.h"
 #include "zaklad/chyba.h"
 
+#include <fstream>
+
 using Tabulky = Stavedlo;
 
 TEST_F(Tabulky, FirstRecordOfAPairWins) {
@@ -45,7 +47,7 @@ TEST_F(Tabulky, RecordOfARouteTakesItsBytes) {
     // 13 + k + n
     EXPECT_EQ(bajty_vazeb({{5, {6, 7}, "5/6"}}).size(), 13u + 2 + 3);
     Zapisovac z;
-    const ZaznamMakra makro{"A", {1, 2}, {240, 41}, {41, 40}};
+    const ZaznamMakra makro{"A", {{240, 41, 1}, {41, 40, 2}}};
     popis_zaznamu_makra(z, makro);
     EXPECT_EQ(z.bajty.size(), 33u + 5 * 2);
 }
@@ -64,6 +66,17 @@ TEST_F(Tabulky, WhatTheListsOfADamagedRecordLackReadsAsZero) {
               (std::vector<ZaznamCesty>{{240, 41, prvky_cesty({40, 5, 41}, {1, 2, 0}, {2, 3, 0}), 1}}));
 }
 
+TEST_F(Tabulky, DamagedMacroHasThePicksThatAllItsListsHave) {
+    Zapisovac z;
+    const std::vector<std::uint8_t> druhy{1, 2, 1};
+    const std::vector<std::int16_t> zacatky{240, 41}, konce{41, 40, 42};
+    z.text("A");
+    pole_b(z, druhy);
+    pole_i(z, zacatky);
+    pole_i(z, konce);
+    EXPECT_EQ(cti_makra(z.bajty), (std::vector<ZaznamMakra>{{"A", {{240, 41, 1}, {41, 40, 2}}}}));
+}
+
 TEST_F(Tabulky, DamagedBytesNeverEndTheProcess) {
     const Bajty cele = bajty_cest(zat);
     for (std::size_t i = 0; i < cele.size(); ++i)
@@ -78,6 +91,17 @@ TEST_F(Tabulky, RouteWithoutElementsIsNoRoute) {
     svet.zapis("data/tesk.zat", bajty_cest({{240, 41, {}, 0}}));
     EXPECT_FALSE(najdi_v_tabulce(TabulkaCest::zat, 240, 41));
     EXPECT_FALSE(najdi_cestu(240, 41, druh_volby::vlak, false));
+}
+
+TEST_F(Tabulky, TableChangedByAnotherProgramIsSeenWithinTenSeconds) {
+    ASSERT_TRUE(najdi_v_tabulce(TabulkaCest::zat, 240, 41));
+    const Bajty prazdna = bajty_cest({{240, 41, {}, 0}});
+    std::ofstream(svet.koren / "data" / "tesk.zat", std::ios::binary)
+        .write(reinterpret_cast<const char*>(prazdna.data()), std::ssize(prazdna));
+    svet.tik += 9'999;
+    EXPECT_TRUE(najdi_v_tabulce(TabulkaCest::zat, 240, 41));
+    ++svet.tik;
+    EXPECT_FALSE(najdi_v_tabulce(TabulkaCest::zat, 240, 41));
 }
 
 TEST_F(Tabulky, MissingTableIsAnError) {

@@ -10,6 +10,7 @@
 #include "pomocne/prvky_cesty.h"
 #include "pomocne/virtualni_platforma.h"
 #include "pomocne/vozy_vlaku.h"
+#include "pomocne/zastavky.h"
 #include "relief/relief.h"
 #include "zaklad/cisla.h"
 
@@ -34,10 +35,7 @@ protected:
         v.druh = 5;
         v.delka = 220;
         v.max_rychlost = 120;
-        v.stanice = {1, 9, 5};
-        v.prijezd = {-3, 610, 625};
-        v.odjezd = {600, 612, -3};
-        v.odjezd_realny = v.odjezd;
+        v.zastavky = zastavky_vlaku({1, 9, 5}, {-3, 610, 625}, {600, 612, -3});
         v.stanice_index = 1;
         v.smer = true;
         v.vozy = vozy_vlaku({"363", "Bp", "A"}, {"", "", ""}, {"363_5.ico", "B.ico", "A.ico"});
@@ -55,9 +53,7 @@ protected:
         GvdVlak r;
         r.cislo = cislo;
         r.druh = 7;
-        r.stanice = {2, 12, 9, 1};
-        r.prijezdy = {-1, 745, 750, 800};
-        r.odjezdy = {720, 746, 755, -1};
+        r.zastavky = zastavky_radku({2, 12, 9, 1}, {-1, 745, 750, 800}, {720, 746, 755, -1});
         r.loko_rada = 754;
         r.vozy = {"754", "Bp"};
         r.vozy_vlaky = {0, dale};
@@ -145,29 +141,27 @@ TEST_F(InfoVlaku, TrainOfThePageDoesNotHangOnTheStateTextOfTheLine) {
 TEST_F(InfoVlaku, TrainThatBeginsAtAnOwnStationDepartsAndOneFromANeighbourPasses) {
     Vlak& v = vlak();
     for (const int kod : {1, 2, 3, 4, 5, 6}) {
-        v.stanice.front() = static_cast<std::uint8_t>(kod);
+        v.zastavky.front().stanice = static_cast<std::uint8_t>(kod);
         EXPECT_TRUE(obsahuje(text_vlaku(0), Text(nazev_stanice(kod)) + Text(" průj. 10:00 ... "_cz)));
     }
     for (const int kod : {7, 9, 19, 28}) {
-        v.stanice.front() = static_cast<std::uint8_t>(kod);
+        v.zastavky.front().stanice = static_cast<std::uint8_t>(kod);
         EXPECT_TRUE(obsahuje(text_vlaku(0), Text(nazev_stanice(kod)) + " odj. 10:00 ... "));
     }
 }
 
 TEST_F(InfoVlaku, TimesOfAnotherDayAreTimesOfTheDay) {
     Vlak& v = vlak();
-    v.odjezd.front() = 1440 + 65;
-    v.prijezd.back() = 2 * 1440 + 5;
+    v.zastavky.front().odjezd = 1440 + 65;
+    v.zastavky.back().prijezd = 2 * 1440 + 5;
     EXPECT_TRUE(obsahuje(text_vlaku(0), "(Lhotín průj. 1:05 ... Vrbice příj. 0:05)"_cz));
 }
 
 TEST_F(InfoVlaku, TrainWithoutATimetableHasNoRoute) {
     Vlak& v = vlak();
-    v.stanice.clear();
+    v.zastavky.clear();
     EXPECT_EQ(text_vlaku(0), "R 1234  >> 0min; 220m, 120km/h");
-    v.stanice = {9};
-    v.prijezd = {-3};
-    v.odjezd = {600};
+    v.zastavky = zastavky_vlaku({9}, {-3}, {600});
     EXPECT_TRUE(obsahuje(text_vlaku(0), "(Tesk hl. n. odj. 10:00)>> "));
 }
 
@@ -190,7 +184,7 @@ TEST_F(InfoVlaku, PassengerTrainWithoutItsBankingLocomotiveSaysWhereItComesOn) {
     EXPECT_TRUE(text_vlaku(0).ends_with("; z THN 210pk"));
     v.loko_rada2 = 0;
     EXPECT_TRUE(text_vlaku(0).ends_with("; z THN 754pk"));
-    v.stanice = {1, 12, 5};
+    zmen_stanice(v.zastavky, {1, 12, 5});
     EXPECT_TRUE(text_vlaku(0).ends_with("; z THJ 754pk"));
     v.vozy.back().rada = "754";
     EXPECT_FALSE(obsahuje(text_vlaku(0), "pk"));
@@ -203,7 +197,7 @@ TEST_F(InfoVlaku, FreightTrainIsToldItsAssistingLocomotive) {
     v.priznaky = 2;
     v.loko_rada2 = 742;
     EXPECT_TRUE(text_vlaku(0).ends_with("; z THN přípřež ř.742"_cz));
-    v.stanice = {1, 12, 5};
+    zmen_stanice(v.zastavky, {1, 12, 5});
     EXPECT_TRUE(text_vlaku(0).ends_with("; z THJ přípřež ř.742"_cz));
 }
 
@@ -211,7 +205,7 @@ TEST_F(InfoVlaku, ChangeOfTheLocomotiveIsToldUntilItIsDone) {
     Vlak& v = vlak();
     v.loko_rada2 = 754;
     EXPECT_TRUE(text_vlaku(0).ends_with("; z THN lok.ř.754(1234)"_cz));
-    v.stanice = {1, 12, 5};
+    zmen_stanice(v.zastavky, {1, 12, 5});
     EXPECT_TRUE(text_vlaku(0).ends_with("; z THJ lok.ř.754(1234)"_cz));
     radek(1400);
     zmen_radek_gvd(0, [](GvdVlak& g) {
@@ -254,16 +248,14 @@ TEST_F(InfoVlaku, LoneLocomotiveIsToldByWhatItDoesNext) {
 }
 
 TEST_F(InfoVlaku, NextWorkOfTheSetFollows) {
-    posun({"754", "Bp"}, "1500").stanice = {1, 5};
+    posun({"754", "Bp"}, "1500").zastavky = zastavky_vlaku({1, 5});
     radek(1400, 1500);
     EXPECT_EQ(text_vlaku(0), " Souprava vlaku 1234 Os 1400 (příj. 12:25 z BOR)"_cz);
 }
 
 TEST_F(InfoVlaku, SetAtTheMainStationIsToldItsDeparture) {
     Vlak& v = posun({"754", "Bp"}, "1500");
-    v.stanice = {9, 5};
-    v.prijezd = {-3, 640};
-    v.odjezd = {615, -3};
+    v.zastavky = zastavky_vlaku({9, 5}, {-3, 640}, {615, -3});
     EXPECT_EQ(text_vlaku(0), " Souprava vlaku 1234 (Tesk hl.n. odj. 10:15 směr VRB)"_cz);
     v.druh = 16;
     EXPECT_FALSE(obsahuje(text_vlaku(0), "Tesk hl.n."));
@@ -277,9 +269,7 @@ TEST_F(InfoVlaku, SetAtTheMainStationIsToldItsDeparture) {
 
 TEST_F(InfoVlaku, SetThatEndedAtTheMainStationIsToldTheDepartureOfItsNextTrain) {
     Vlak& v = posun({"754", "Bp"}, "1400");
-    v.stanice = {5, 9};
-    v.prijezd = {-3, 640};
-    v.odjezd = {615, -3};
+    v.zastavky = zastavky_vlaku({5, 9}, {-3, 640}, {615, -3});
     v.stanice_index = 1;
     radek(1400);
     EXPECT_TRUE(text_vlaku(0).ends_with(" (Tesk hl.n. odj. 12:35 směr LHO)"_cz));
@@ -292,7 +282,7 @@ TEST_F(InfoVlaku, SetThatEndedAtTheMainStationIsToldTheDepartureOfItsNextTrain) 
 
 TEST_F(InfoVlaku, NextWorkIsTheTrainThatBringsTheVehicles) {
     radek(1500);
-    zmen_radek_gvd(0, [](GvdVlak& g) { g.stanice = {9, 9, 9, 1}; });
+    zmen_radek_gvd(0, [](GvdVlak& g) { zmen_stanice(g.zastavky, {9, 9, 9, 1}); });
     radek(1400, 1500);
     EXPECT_EQ(navazny_spoj("1500"), "Os 1400 (příj. 12:25 z BOR)"_cz);
     zmen_radek_gvd(1, [](GvdVlak& g) { g.dny = 2; }); // not today
@@ -305,9 +295,9 @@ TEST_F(InfoVlaku, NextWorkIsTheTrainThatBringsTheVehicles) {
 TEST_F(InfoVlaku, NextWorkIsTheTrainItselfWhereItPassesTheMainStation) {
     radek(1400);
     EXPECT_EQ(navazny_spoj("1400"), "Os 1400 (příj. 12:25 z BOR)"_cz);
-    zmen_radek_gvd(0, [](GvdVlak& g) { g.stanice[1] = 7; });
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.zastavky[1].stanice = 7; });
     EXPECT_EQ(navazny_spoj(" 1400 "), "Os 1400 (příj. 12:30 z BOR)"_cz);
-    zmen_radek_gvd(0, [](GvdVlak& g) { g.stanice = {9, 8, 2, 1}; });
+    zmen_radek_gvd(0, [](GvdVlak& g) { zmen_stanice(g.zastavky, {9, 8, 2, 1}); });
     EXPECT_EQ(navazny_spoj("1400"), "Os 1400"); // it begins there: nothing arrives
 }
 
@@ -459,7 +449,7 @@ TEST_F(InfoVlaku, NumberWithoutATrainIsToldByTheTimetable) {
         g.dny = 2;
     });
     radek(1400);
-    zmen_radek_gvd(1, [](GvdVlak& g) { g.stanice = {6, 12, 9, 1}; });
+    zmen_radek_gvd(1, [](GvdVlak& g) { zmen_stanice(g.zastavky, {6, 12, 9, 1}); });
     prevezmi_hlaseni({Text("Zpoždění vlaku 1400 +8´"_cz)});
     info_podle_gvd(1400); // today's row
     EXPECT_TRUE(radka().starts_with("Os 1400  (Rokytno průj. 12:00 ... Lhotín příj. 13:20) 8min; "_cz));

@@ -8,6 +8,7 @@
 #include "pomocne/jizdni_rad.h"
 #include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"
+#include "pomocne/zastavky.h"
 #include "relief/relief.h"
 
 namespace {
@@ -29,9 +30,10 @@ protected:
         GvdVlak r;
         r.cislo = cislo;
         r.druh = 5;
-        r.stanice = {static_cast<std::uint8_t>(odkud), 9, static_cast<std::uint8_t>(kam)};
-        r.prijezdy = {-1, static_cast<std::int16_t>(odjezd + 10), static_cast<std::int16_t>(prijezd)};
-        r.odjezdy = {static_cast<std::int16_t>(odjezd), static_cast<std::int16_t>(odjezd + 12), -1};
+        r.zastavky =
+            zastavky_radku({static_cast<std::uint8_t>(odkud), 9, static_cast<std::uint8_t>(kam)},
+                           {-1, static_cast<std::int16_t>(odjezd + 10), static_cast<std::int16_t>(prijezd)},
+                           {static_cast<std::int16_t>(odjezd), static_cast<std::int16_t>(odjezd + 12), -1});
         r.vozy = {"754"};
         r.vozy_vlaky = {0};
         r.dny = 1;
@@ -52,7 +54,7 @@ TEST_F(PredvidaneVlaky, LineHasCategoryNumberTimeAndDelayAtTheirColumns) {
     EXPECT_EQ(denik()[1], "Předvídané vlaky v LHO 8:00"_cz);
     zmen_radek_gvd(0, [](GvdVlak& g) {
         g.cislo = 123456;
-        g.odjezdy[0] = 490;
+        g.zastavky[0].odjezd = 490;
         g.druh = 8;
     });
     predvidane_vlaky(1);
@@ -84,22 +86,25 @@ TEST_F(PredvidaneVlaky, DelayMovesATrainIntoTheHourAndOutOfIt) {
 
 TEST_F(PredvidaneVlaky, ArrivalAtTheFirstStopRulesBeforeItsDeparture) {
     vlak(10, 1, 5, 485, 510);
-    zmen_radek_gvd(0, [](GvdVlak& g) { g.prijezdy[0] = 482; });
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.zastavky[0].prijezd = 482; });
     predvidane_vlaky(1);
     EXPECT_EQ(denik()[0], "R       10   8:02        ");
-    zmen_radek_gvd(0, [](GvdVlak& g) { g.prijezdy[0] = 0; }); // midnight is a time, and it is past
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.zastavky[0].prijezd = 0; }); // midnight is a time, and it is past
     predvidane_vlaky(1);
     EXPECT_EQ(denik().size(), 3u);
 }
 
 TEST_F(PredvidaneVlaky, TrainThatEndsThereIsSortedByTheMinuteOfTheDay) {
     vlak(10, 5, 1, 485, 510);
-    zmen_radek_gvd(0, [](GvdVlak& g) { g.odjezdy.back() = 515; });
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.zastavky.back().odjezd = 515; });
     predvidane_vlaky(1);
     EXPECT_EQ(denik(), (std::vector<Text>{Text("Předvídané vlaky v LHO 8:00"_cz)})); // 515 is no minute to 60
     relief.lstDenik.radky.clear();
     cas("0:05:00");
-    zmen_radek_gvd(0, [](GvdVlak& g) { g.odjezdy = {10, 22, 40}; });
+    zmen_radek_gvd(0, [](GvdVlak& g) {
+        for (std::size_t i = 0; i < 3; ++i)
+            g.zastavky[i].odjezd = std::array<std::int16_t, 3>{10, 22, 40}[i];
+    });
     predvidane_vlaky(1);
     ASSERT_EQ(denik().size(), 2u);
     EXPECT_EQ(denik()[0], "R       10   0:40        ");

@@ -7,6 +7,7 @@
 #include "obsluha/vstup.h"
 #include "pomocne/pult.h"
 #include "pomocne/virtualni_platforma.h"
+#include "pomocne/zastavky.h"
 #include "zaklad/cisla.h"
 
 namespace {
@@ -20,7 +21,7 @@ protected:
         v.druh = 5;
         v.delka = 220;
         v.max_rychlost = 120;
-        v.stanice = {9, 1};
+        v.zastavky = zastavky_vlaku({9, 1});
         return v;
     }
     static void pridej(std::int32_t cislo) {
@@ -77,7 +78,7 @@ TEST_F(TabulkaVlaku, LineIsCutToItsWidth) {
     vlaky[0].max_rychlost = 160;
     pridej_do_tabulky(0);
     EXPECT_EQ(radek(0), "R   123456  +-12032767m, LHO, 160km/h    ");
-    vlaky[0].stanice = {9, 7}; // a station without a code
+    vlaky[0].zastavky = zastavky_vlaku({9, 7}); // a station without a code
     pridej_do_tabulky(0);
     EXPECT_EQ(radek(1), "R   123456  +-12032767m, , 160km/h       ");
     EXPECT_EQ(radek(1).size(), 41u);

@@ -1,6 +1,7 @@
 // testy/gvd/gvd_test.cpp - reading the timetable, names of stations and categories.
 #include "app/simulace.h"
 #include "gvd/gvd.h"
+#include "pomocne/zastavky.h"
 #include "zaklad/chyba.h"
 
 #include <gtest/gtest.h>
@@ -13,9 +14,7 @@ namespace {
 
 GvdVlak radek(std::int32_t cislo) {
     GvdVlak v;
-    v.stanice = {1, 8};
-    v.prijezdy = {-1, 500};
-    v.odjezdy = {490, 501};
+    v.zastavky = zastavky_radku({1, 8}, {-1, 500}, {490, 501});
     v.cislo = cislo;
     v.vozy = {"943", "054"};
     v.vozy_vlaky = {0, 7};
@@ -85,10 +84,10 @@ TEST_F(Gvd, RowsAreFoundInFileOrderByNumberByNextTrainAndByTheSetHandedOn) {
 
 TEST_F(Gvd, RowsAreFoundByTheirMinuteOfEntryWhateverTheFileHolds) {
     std::vector<GvdVlak> rad = {radek(1), radek(2), radek(3), radek(4), radek(5)};
-    rad[1].prijezdy.front() = 100; // it comes before it leaves
-    rad[2].odjezdy.front() = -1;
-    rad[3].odjezdy.front() = 1440 + 490;
-    rad[4].odjezdy.front() = -32768;
+    rad[1].zastavky.front().prijezd = 100; // it comes before it leaves
+    rad[2].zastavky.front().odjezd = -1;
+    rad[3].zastavky.front().odjezd = 1440 + 490;
+    rad[4].zastavky.front().odjezd = -32768;
     gvd_vlaky = TabulkaGvd(rad);
     const auto v_minute = [](int m) {
         const auto nalez = gvd_vlaky.v_minute(m);
@@ -121,12 +120,30 @@ TEST_F(Gvd, EveryCutFileKeepsItsWholeRows) {
 }
 
 TEST_F(Gvd, RowWhoseTimesDoNotMatchItsStationsIsLeftOut) {
-    GvdVlak kratky = radek(5);
-    kratky.odjezdy.pop_back();
-    zapis(soubor({radek(1), kratky, radek(2)}));
-    nacti_gvd();
-    ASSERT_EQ(gvd_vlaky.size(), 2u);
-    EXPECT_EQ(gvd_vlaky[1].cislo, 2);
+    constexpr std::ptrdiff_t kBajtuZastavek = 3 * 10 + 2 * (1 + 2 + 2); // three lists of two
+    const auto bajty_radku = [](const GvdVlak& r) {
+        Zapisovac z;
+        popis_poli(z, r);
+        return z.bajty;
+    };
+    for (const unsigned kratky : {0u, 1u, 2u}) {
+        Zapisovac z;
+        const std::vector<std::uint8_t> stanice(kratky == 0 ? 1 : 2, 1);
+        const std::vector<std::int16_t> prijezdy(kratky == 1 ? 1 : 2, 500), odjezdy(kratky == 2 ? 1 : 2, 500);
+        pole_b(z, stanice);
+        pole_i(z, prijezdy);
+        pole_i(z, odjezdy);
+        const Bajty cely = bajty_radku(radek(5)), dalsi = bajty_radku(radek(2));
+        Bajty bajty = soubor({radek(1)});
+        bajty.insert(bajty.end(), z.bajty.begin(), z.bajty.end());
+        bajty.insert(bajty.end(), cely.begin() + kBajtuZastavek, cely.end());
+        bajty.insert(bajty.end(), dalsi.begin(), dalsi.end());
+        zapis(bajty);
+        nacti_gvd();
+        ASSERT_EQ(gvd_vlaky.size(), 2u) << kratky;
+        EXPECT_EQ(gvd_vlaky[0], radek(1)) << kratky;
+        EXPECT_EQ(gvd_vlaky[1], radek(2)) << kratky;
+    }
 }
 
 TEST_F(Gvd, FileWithoutRowsLeavesAnEmptyTimetable) {

@@ -81,7 +81,7 @@ TEST_F(Provoz, MinutePastGivesNoBranch) {
     v("10:30:00");
     EXPECT_EQ(pocet_vlaku(), 0);
     v("0:00:00"); // a departure at 0:01 is not seen from the day before
-    zmen_radek_gvd(0, [](GvdVlak& g) { g.odjezdy[0] = 1; });
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.zastavky[0].odjezd = 1; });
     v("23:59:00");
     EXPECT_EQ(pocet_vlaku(), 0);
 }
@@ -342,7 +342,7 @@ TEST_F(Provoz, AnnouncedTrainIsNoLongerTheNextOne) {
 
 TEST_F(Provoz, StationBeyondTheTableIsNoNextTrain) {
     GvdVlak r = z_lhotina(5, 639);
-    r.stanice[0] = 200;
+    r.zastavky[0].stanice = 200;
     pridej(r);
     v("10:30:00");
     for (const DalsiVlak& d : stav_provozu.dalsi_vlaky)

@@ -5,6 +5,7 @@
 #include "pomocne/provoz_sveta.h"
 #include "pomocne/prvky_cesty.h"
 #include "pomocne/vozy_vlaku.h"
+#include "pomocne/zastavky.h"
 
 #include <gtest/gtest.h>
 
@@ -62,7 +63,7 @@ TEST_F(Skladba, RowIsCopiedIntoTheRecord) {
     EXPECT_EQ(v.hodnota_2, 12);
     EXPECT_EQ(v.dny, 0xFF);
     EXPECT_EQ(v.max_rychlost, 90);
-    EXPECT_EQ(v.stanice, r.stanice);
+    EXPECT_EQ(sloupec(v.zastavky, &Zastavka::stanice), sloupec(r.zastavky, &ZastavkaGvd::stanice));
     EXPECT_EQ(v.stanice_index, -4);
     EXPECT_EQ(v.prvek_konec, 0);
     EXPECT_EQ(polohy_prvku(v.prvky), std::vector<std::uint8_t>{2});
@@ -117,9 +118,9 @@ TEST_F(Skladba, StopsCarryTimesOfTheirDay) {
     hodiny("23:40:00");
     pridej(radek(1, {{2, -1, 1421}, {9, 1438, 2}, {8, 30, -1}}));
     const Vlak& v = vytvor(false, 87);
-    EXPECT_EQ(v.prijezd, (std::vector<std::int16_t>{-1, 1438, 1470}));
-    EXPECT_EQ(v.odjezd, (std::vector<std::int16_t>{1421, 1442, -1}));
-    EXPECT_EQ(v.odjezd_realny, v.odjezd);
+    EXPECT_EQ(sloupec(v.zastavky, &Zastavka::prijezd), (std::vector<std::int16_t>{-1, 1438, 1470}));
+    EXPECT_EQ(sloupec(v.zastavky, &Zastavka::odjezd), (std::vector<std::int16_t>{1421, 1442, -1}));
+    EXPECT_EQ(sloupec(v.zastavky, &Zastavka::odjezd_realny), sloupec(v.zastavky, &Zastavka::odjezd));
 }
 
 TEST_F(Skladba, LatenessAtTheEntryIsNeverNegative) {
@@ -128,9 +129,10 @@ TEST_F(Skladba, LatenessAtTheEntryIsNeverNegative) {
     EXPECT_EQ(vytvor(false, 87).zpozdeni, 8);
     hodiny("10:20:00");
     EXPECT_EQ(vytvor(false, 87).zpozdeni, 0);
-    zmen_radek_gvd(0, [](GvdVlak& g) { g.prijezdy[0] = 615; }); // counts for a neighbour without consent
+    zmen_radek_gvd(0,
+                   [](GvdVlak& g) { g.zastavky[0].prijezd = 615; }); // counts for a neighbour without consent
     EXPECT_EQ(vytvor(false, 87).zpozdeni, 5);
-    zmen_radek_gvd(0, [](GvdVlak& g) { g.stanice[0] = 19; }); // there the departure counts
+    zmen_radek_gvd(0, [](GvdVlak& g) { g.zastavky[0].stanice = 19; }); // there the departure counts
     hodiny("10:25:00");
     EXPECT_EQ(vytvor(false, 87).zpozdeni, 3);
     prevezmi_hlaseni({Text("Zpoždění vlaku 1 +12´"_cz)});
@@ -202,12 +204,12 @@ TEST_F(Skladba, UnitKeepsTogether) {
 TEST_F(Skladba, StopsWithALocomotiveChangeWaitForTheOrder) {
     pridej(dalkovy());
     const Vlak& v = vytvor(false, 87);
-    EXPECT_EQ(v.odjezd_realny, (std::vector<std::int16_t>{600, -10, -10, 661}));
-    EXPECT_EQ(v.odjezd[2], 645);
+    EXPECT_EQ(sloupec(v.zastavky, &Zastavka::odjezd_realny), (std::vector<std::int16_t>{600, -10, -10, 661}));
+    EXPECT_EQ(v.zastavky[2].odjezd, 645);
     zmen_radek_gvd(0, [](GvdVlak& g) { g.loko_rada2 = 0; });
-    EXPECT_EQ(vytvor(false, 538).odjezd_realny[2], 645);
+    EXPECT_EQ(vytvor(false, 538).zastavky[2].odjezd_realny, 645);
     zmen_radek_gvd(0, [](GvdVlak& g) { g.priznaky = 2; }); // an assisting locomotive is to come
-    EXPECT_EQ(vytvor(false, 538).odjezd_realny[2], -10);
+    EXPECT_EQ(vytvor(false, 538).zastavky[2].odjezd_realny, -10);
 }
 
 TEST_F(Skladba, TrainPlacedBehindTheChangeHasTheOtherLocomotive) {
@@ -224,7 +226,7 @@ TEST_F(Skladba, TrainPlacedBehindTheChangeHasTheOtherLocomotive) {
 
 TEST_F(Skladba, TrainPlacedBeforeTheChangeKeepsItsLocomotive) {
     GvdVlak r = dalkovy();
-    r.stanice = {2, 22, 23, 12}; // no change before the last stop
+    zmen_stanice(r.zastavky, {2, 22, 23, 12}); // no change before the last stop
     pridej(r);
     EXPECT_EQ(vytvor(false, 50, 1).vozy[0].rada, "362");
 }

@@ -5,6 +5,7 @@
 #include "pomocne/provoz_sveta.h"
 #include "pomocne/prvky_cesty.h"
 #include "pomocne/vozy_vlaku.h"
+#include "pomocne/zastavky.h"
 
 #include <gtest/gtest.h>
 
@@ -35,9 +36,9 @@ TEST_F(Soupravy, LocomotiveTakesTheFirstFreeTrackOfTheDepot) {
     EXPECT_EQ(v.max_rychlost, 80);
     EXPECT_EQ(v.rychlost_trati, 80);
     EXPECT_EQ(v.rychlost, 0);
-    EXPECT_EQ(v.stanice, (std::vector<std::uint8_t>{34, 9}));
-    EXPECT_EQ(v.prijezd, (Prvky{-3, 607}));
-    EXPECT_EQ(v.odjezd, (Prvky{600, -3}));
+    EXPECT_EQ(sloupec(v.zastavky, &Zastavka::stanice), (std::vector<std::uint8_t>{34, 9}));
+    EXPECT_EQ(sloupec(v.zastavky, &Zastavka::prijezd), (Prvky{-3, 607}));
+    EXPECT_EQ(sloupec(v.zastavky, &Zastavka::odjezd), (Prvky{600, -3}));
     EXPECT_EQ(urceni_vozu(v.vozy), Texty{"4701"});
     EXPECT_EQ(stav_provozu.pocet_zaloh, 0);
     EXPECT_FALSE(stav_provozu.zaloha_731_jede);
@@ -85,7 +86,7 @@ TEST_F(Soupravy, LocomotiveWaitsForASetThatIsStillToCome) {
     vlaky = prvni_vlaky();
     relief.kolej[558].barva = barvy::seda;
     zmen_radek_gvd(1, [](GvdVlak& g) {
-        g.stanice = {8, 1};
+        zmen_stanice(g.zastavky, {8, 1});
     }); // it does not come there, and no train hands it a set
     soupravy_do_depa(600);
     EXPECT_EQ(pocet_vlaku(), 0);
@@ -240,7 +241,7 @@ TEST_F(StaniceStart, VehiclesAtHandGetAShuntingLocomotiveInPlaceOfTheirOwn) {
     EXPECT_EQ(urceni_vozu(najdi(1702)->vozy), (Texty{"1702", "1702", "ZAL"}));
     EXPECT_EQ(stav_provozu.pocet_zaloh, 1);
 
-    zmen_radek_gvd(0, [](GvdVlak& g) { g.stanice = {9, 24, 1}; });
+    zmen_radek_gvd(0, [](GvdVlak& g) { zmen_stanice(g.zastavky, {9, 24, 1}); });
     najdi(1702)->cislo = -3;
     stanice_start(0);
     EXPECT_EQ(cisla_prvku(najdi(1702)->prvky), Prvky{569});
@@ -276,10 +277,10 @@ TEST_F(StaniceStart, TrafficStepBringsSetsOutFrom30To16MinutesBefore) {
 
 class ObratSoupravy : public Soupravy {
 protected:
-    static Texty po_vytvoreni(std::vector<std::uint8_t> stanice, std::int16_t rada = 754,
+    static Texty po_vytvoreni(const std::vector<std::uint8_t>& stanice, std::int16_t rada = 754,
                               const Texty& vozy = {"754", "Bp"}) {
         Vlak v;
-        v.stanice = std::move(stanice);
+        v.zastavky = zastavky_vlaku(stanice);
         v.loko_rada = rada;
         v.vozy = vozy_vlaku(vozy, vozy, vozy);
         vlaky[0] = v;

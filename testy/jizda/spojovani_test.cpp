@@ -11,6 +11,7 @@
 #include "obsluha/vstup.h"
 #include "pomocne/prvky_cesty.h"
 #include "pomocne/vozy_vlaku.h"
+#include "pomocne/zastavky.h"
 
 #include <algorithm>
 
@@ -28,9 +29,7 @@ protected:
         GvdVlak g;
         g.cislo = cislo;
         g.druh = 7;
-        g.stanice = {9, 2};
-        g.prijezdy = {-1, 600};
-        g.odjezdy = {540, -1};
+        g.zastavky = zastavky_radku({9, 2}, {-1, 600}, {540, -1});
         g.vozy = {"843"};
         g.vozy_vlaky = {0, 0};
         g.kolej = "3";
@@ -133,36 +132,36 @@ TEST_F(Spojovani, CouplingGivesTheStopItsDepartureBack) {
     const int v = vlak_na(62, true, 77, {"B", "B"});
     zastavky(v, {9, 2, 6}, {-3, 478, 500}, {470, 482, -3});
     vlak(v).stanice_index = 1;
-    vlak(v).odjezd_realny[1] = -10;
+    vlak(v).zastavky[1].odjezd_realny = -10;
     vlak(v).priznaky = 2;
     const int prvni = vlak_na(62, true, 88, {"754"});
     spoj(v, prvni);
-    EXPECT_EQ(vlak(v).odjezd_realny[1], -10); // the assisting one at the end is still missing
+    EXPECT_EQ(vlak(v).zastavky[1].odjezd_realny, -10); // the assisting one at the end is still missing
     vlak(v).priznaky = 0;
     const int druhy = vlak_na(62, true, 88, {"754"});
     spoj(v, druhy);
-    EXPECT_EQ(vlak(v).odjezd_realny[1], 483); // three minutes
-    vlak(v).odjezd_realny[1] = -10;
+    EXPECT_EQ(vlak(v).zastavky[1].odjezd_realny, 483); // three minutes
+    vlak(v).zastavky[1].odjezd_realny = -10;
     vlak(v).druh = 14;
     spoj(v, vlak_na(62, true, 88, {"754"}));
-    EXPECT_EQ(vlak(v).odjezd_realny[1], 486);
-    vlak(v).odjezd_realny[1] = -10;
-    vlak(v).odjezd[1] = 495;
+    EXPECT_EQ(vlak(v).zastavky[1].odjezd_realny, 486);
+    vlak(v).zastavky[1].odjezd_realny = -10;
+    vlak(v).zastavky[1].odjezd = 495;
     spoj(v, vlak_na(62, true, 88, {"754"}));
-    EXPECT_EQ(vlak(v).odjezd_realny[1], 495);
+    EXPECT_EQ(vlak(v).zastavky[1].odjezd_realny, 495);
 }
 
 TEST_F(Spojovani, TrainThatNeedsTwoLocomotivesWaitsForTheSecondOne) {
     const int v = vlak_na(62, false, 77, {"B", "B"});
     zastavky(v, {9, 2}, {-3, 500}, {482, -3});
-    vlak(v).odjezd_realny[0] = -10;
+    vlak(v).zastavky[0].odjezd_realny = -10;
     vlak(v).priznaky = 1;
     spoj(v, vlak_na(62, false, 88, {"754"})); // behind the carriages: no second one at the front
-    EXPECT_EQ(vlak(v).odjezd_realny[0], -10);
+    EXPECT_EQ(vlak(v).zastavky[0].odjezd_realny, -10);
     otoc_vlak(v);
     spoj(v, vlak_na(62, true, 88, {"754"}));
     EXPECT_EQ(rady_vozu(vlak(v).vozy), (Vozy{"754", "754", "B", "B"}));
-    EXPECT_EQ(vlak(v).odjezd_realny[0], 483);
+    EXPECT_EQ(vlak(v).zastavky[0].odjezd_realny, 483);
 }
 
 TEST_F(Spojovani, SplitLeavesTheFrontPartOnTheSideOfTheHead) {
@@ -181,8 +180,8 @@ TEST_F(Spojovani, SplitLeavesTheFrontPartOnTheSideOfTheHead) {
         EXPECT_TRUE(vlak(d).posun);
         EXPECT_TRUE(vlak(d).muze_jet);
         EXPECT_EQ(vlak(d).stanice_index, 0);
-        EXPECT_EQ(vlak(d).odjezd_realny[1], 482);
-        EXPECT_EQ(vlak(v).odjezd_realny[1], -10);
+        EXPECT_EQ(vlak(d).zastavky[1].odjezd_realny, 482);
+        EXPECT_EQ(vlak(v).zastavky[1].odjezd_realny, -10);
         EXPECT_EQ(metry(62), 42);
         EXPECT_EQ(poradi(62, d) > poradi(62, v), smer);
         EXPECT_EQ(cisla_prvku(vlak(d).prvky), std::vector<std::int16_t>{62});
@@ -441,7 +440,8 @@ TEST_F(Spojovani, FinishedSetTakesOnItsNextTrain) {
     EXPECT_EQ(zobrazene_cislo(vlak(v)), 5678);
     EXPECT_EQ(vlak(v).zpozdeni, 0);
     EXPECT_EQ(vlak(v).stanice_index, -1);
-    EXPECT_EQ(vlak(v).odjezd, (std::vector<std::int16_t>{1980, -1})); // of the second day
+    EXPECT_EQ(sloupec(vlak(v).zastavky, &Zastavka::odjezd),
+              (std::vector<std::int16_t>{1980, -1})); // of the second day
     EXPECT_EQ(vlak(v).pokyn, "3");
     EXPECT_EQ(radek_tabulky(78), -1);
     EXPECT_EQ(radek_tabulky(5678), 0);
@@ -478,7 +478,8 @@ TEST_F(Spojovani, SingleVehicleMarkedWithItsOwnNumberTakesItsTimetableAnew) {
         pridej_do_tabulky(v);
         navazny_vlak(v);
         const bool vzal = vlak(v).stanice_index == -1 && vlak(v).zpozdeni == 0 &&
-                          vlak(v).stanice == radek_gvd(5678).stanice;
+                          sloupec(vlak(v).zastavky, &Zastavka::stanice) ==
+                              sloupec(radek_gvd(5678).zastavky, &ZastavkaGvd::stanice);
         EXPECT_EQ(radek_tabulky(5678), 0);
         EXPECT_FALSE(!vzal && vlak(v).zpozdeni != 9);
         vlaky = prvni_vlaky();
@@ -507,7 +508,7 @@ TEST_F(Spojovani, VehicleOfAnotherNextTrainComesOff) {
 TEST_F(Spojovani, LocomotiveComesOffWhenTheNextTrainGoesBack) {
     const auto objede = [&](std::uint8_t druha, bool smer, const Vozy& vozy) {
         GvdVlak g = radek_gvd(5678);
-        g.stanice = {9, druha};
+        zmen_stanice(g.zastavky, {9, druha});
         gvd_vlaky = TabulkaGvd({g});
         const int v = vlak_na(62, smer, 77, vozy);
         nastav_urceni(vlak(v).vozy, Vozy(vozy.size(), "5678"));
@@ -572,8 +573,8 @@ TEST_F(Spojovani, LightEngineGetsANumberAndATimetableOfItsOwn) {
     EXPECT_GE(vlak(v).cislo, 70000);
     EXPECT_LT(vlak(v).cislo, 80000);
     EXPECT_EQ(vlak(v).druh, 16);
-    EXPECT_EQ(vlak(v).stanice, (std::vector<std::uint8_t>{2, 28}));
-    EXPECT_EQ(vlak(v).odjezd_realny, (std::vector<std::int16_t>{482, -3}));
+    EXPECT_EQ(sloupec(vlak(v).zastavky, &Zastavka::stanice), (std::vector<std::uint8_t>{2, 28}));
+    EXPECT_EQ(sloupec(vlak(v).zastavky, &Zastavka::odjezd_realny), (std::vector<std::int16_t>{482, -3}));
     EXPECT_FALSE(vlak(v).muze_jet);
     const std::int32_t cislo = vlak(v).cislo;
     zmena_posun(v, 62, false);
@@ -586,7 +587,7 @@ TEST_F(Spojovani, LightEngineGoesWhereItsNextWorkIs) {
         vlak(v).posun = true;
         nastav_urceni(vlak(v).vozy, {Text(urceni)});
         vlak_na_posun_cislo(v);
-        const std::vector<std::uint8_t> stanice = vlak(v).stanice;
+        const std::vector<std::uint8_t> stanice = sloupec(vlak(v).zastavky, &Zastavka::stanice);
         vlaky = prvni_vlaky();
         koleje_vlaky = prvni_koleje_vlaky();
         return stanice;
@@ -611,8 +612,8 @@ TEST_F(Spojovani, LightEngineHasAQuarterOfAnHour) {
     vlak(v).cislo2 = 5;
     vlak(v).pokyn = "3";
     vlak_na_posun_cislo(v);
-    EXPECT_EQ(vlak(v).prijezd, (std::vector<std::int16_t>{480, 495}));
-    EXPECT_EQ(vlak(v).odjezd, (std::vector<std::int16_t>{482, -3}));
+    EXPECT_EQ(sloupec(vlak(v).zastavky, &Zastavka::prijezd), (std::vector<std::int16_t>{480, 495}));
+    EXPECT_EQ(sloupec(vlak(v).zastavky, &Zastavka::odjezd), (std::vector<std::int16_t>{482, -3}));
     EXPECT_EQ(vlak(v).cislo2, 0);
     EXPECT_EQ(vlak(v).max_rychlost, 80);
     EXPECT_EQ(vlak(v).pokyn, "");

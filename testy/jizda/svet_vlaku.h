@@ -17,6 +17,7 @@
 #include "pomocne/prvky_cesty.h"
 #include "pomocne/virtualni_platforma.h"
 #include "pomocne/vozy_vlaku.h"
+#include "pomocne/zastavky.h"
 #include "prvky/barvi_prvek.h"
 #include "prvky/vyhybky.h"
 
@@ -61,14 +62,10 @@ protected:
     }
     static Vlak& vlak(int i) { return vlaky[static_cast<std::size_t>(i)]; }
 
-    static void zastavky(int i, std::vector<std::uint8_t> stanice, std::vector<std::int16_t> prijezd,
-                         std::vector<std::int16_t> odjezd) {
-        Vlak& v = vlak(i);
-        v.stanice = std::move(stanice);
-        v.prijezd = std::move(prijezd);
-        v.odjezd = std::move(odjezd);
-        v.odjezd_realny = v.odjezd;
-        v.stanice_index = -1;
+    static void zastavky(int i, const std::vector<std::uint8_t>& stanice,
+                         const std::vector<std::int16_t>& prijezd, const std::vector<std::int16_t>& odjezd) {
+        vlak(i).zastavky = zastavky_vlaku(stanice, prijezd, odjezd);
+        vlak(i).stanice_index = -1;
     }
 
     // A standing route with its switches locked and its signal at proceed.

@@ -39,7 +39,7 @@ protected:
 TEST_F(Zastavky, EarlyTrainWaitsForItsTimetable) {
     const int v = zastavi_v_borovci(482, 490);
     EXPECT_EQ(vlak(v).stanice_index, 1);
-    EXPECT_EQ(vlak(v).odjezd_realny[1], 490);
+    EXPECT_EQ(vlak(v).zastavky[1].odjezd_realny, 490);
     EXPECT_FALSE(vlak(v).muze_jet);
     EXPECT_EQ(vlak(v).rychlost, 0);
     EXPECT_EQ(relief.cislo_koleje[62].pozadi, barvy::cervena);
@@ -48,13 +48,13 @@ TEST_F(Zastavky, EarlyTrainWaitsForItsTimetable) {
 
 TEST_F(Zastavky, LateTrainStaysForTheShorterOfItsStopAndTheMinimum) {
     const int v = zastavi_v_borovci(470, 473);
-    EXPECT_EQ(vlak(v).odjezd_realny[1], 481);
+    EXPECT_EQ(vlak(v).zastavky[1].odjezd_realny, 481);
     minuta();
     EXPECT_TRUE(vlak(v).muze_jet);
     const int w = vlak_na(63, true, 55);
     zastavky(w, {2}, {470}, {470}); // no dwell at all
     vlak_v_cili(63, w);
-    EXPECT_EQ(vlak(w).odjezd_realny[0], 481); // 470 is over: the present minute
+    EXPECT_EQ(vlak(w).zastavky[0].odjezd_realny, 481); // 470 is over: the present minute
     EXPECT_TRUE(vlak(w).muze_jet);
 }
 
@@ -87,13 +87,13 @@ TEST_F(Zastavky, LabelCountsTheMinutesDown) {
 
 TEST_F(Zastavky, CancelledStopWaitsUntilTheOperatorOrdersDeparture) {
     const int v = zastavi_v_borovci(482, 484);
-    vlak(v).odjezd_realny[1] = -10;
+    vlak(v).zastavky[1].odjezd_realny = -10;
     for (int i = 0; i < 60; ++i) {
         minuta();
         ASSERT_FALSE(vlak(v).muze_jet);
     }
     odjezd_povel(v);
-    EXPECT_EQ(vlak(v).odjezd_realny[1], cas_min() + 1);
+    EXPECT_EQ(vlak(v).zastavky[1].odjezd_realny, cas_min() + 1);
     EXPECT_FALSE(vlak(v).muze_jet);
     minuta();
     EXPECT_TRUE(vlak(v).muze_jet);
@@ -104,7 +104,7 @@ TEST_F(Zastavky, TrainWithoutALocomotiveDoesNotGo) {
     vlak(v).vozy = vozy_vlaku({"B", "B"});
     minuta(10);
     EXPECT_FALSE(vlak(v).muze_jet);
-    EXPECT_EQ(vlak(v).odjezd_realny[1], -10);
+    EXPECT_EQ(vlak(v).zastavky[1].odjezd_realny, -10);
     EXPECT_EQ(relief.cislo_koleje[62].barva, barvy::cerna);
     EXPECT_EQ(relief.cislo_koleje[62].pozadi, barvy::cervena);
 }
@@ -113,7 +113,7 @@ TEST_F(Zastavky, TrainThatEndsAtTheMainStationStays) {
     const int v = vlak_na(26, false, 77);
     zastavky(v, {2, 9}, {-3, 478}, {470, -3});
     vlak_v_cili(26, v);
-    EXPECT_EQ(vlak(v).odjezd_realny[1], -10);
+    EXPECT_EQ(vlak(v).zastavky[1].odjezd_realny, -10);
     minuta(30);
     EXPECT_FALSE(vlak(v).muze_jet);
 }
@@ -222,7 +222,7 @@ TEST_F(Zastavky, StopOverMidnightDepartsInTheRunningMinutesOfTheNextDay) {
     const int v = vlak_na(62, true, 77);
     zastavky(v, {2, 9}, {1436, 1500}, {1442, -3});
     vlak_v_cili(62, v);
-    EXPECT_EQ(vlak(v).odjezd_realny[0], 1442);
+    EXPECT_EQ(vlak(v).zastavky[0].odjezd_realny, 1442);
     minuta(4);
     EXPECT_FALSE(vlak(v).muze_jet);
     minuta();
@@ -372,7 +372,7 @@ TEST_F(Zastavky, LocomotiveOfAnotherSeriesComesOffAtTheMainStation) {
     vlak(v).delka = 70;
     vlak_v_cili(26, v);
     EXPECT_EQ(rady_vozu(vlak(v).vozy), (std::vector<Text>{"B", "B"}));
-    EXPECT_EQ(vlak(v).odjezd_realny[1], -10);
+    EXPECT_EQ(vlak(v).zastavky[1].odjezd_realny, -10);
     EXPECT_EQ(vlak(v).cislo, 77);
     EXPECT_EQ(vlak(v).stanice_index, 1); // a through train keeps its timetable
     const int loko = koleje_vlaky.back().vlaky.back();

@@ -1,5 +1,6 @@
 // testy/nastroje/gvd_test.cpp - the timetable compiler.
 #include "gvd/prekladac.h"
+#include "pomocne/zastavky.h"
 #include "zaklad/balik.h"
 
 #include <gtest/gtest.h>
@@ -35,9 +36,9 @@ TEST(PrekladGvd, TrainBecomesOneRowWithItsStops) {
     ASSERT_TRUE(chyby.empty()) << chyby[0].zprava;
     ASSERT_EQ(rad.vlaky.size(), 1u);
     const GvdVlak& v = rad.vlaky[0];
-    EXPECT_EQ(v.stanice, (std::vector<std::uint8_t>{1, 24, 9}));
-    EXPECT_EQ(v.prijezdy, (std::vector<std::int16_t>{-1, -1, 505}));
-    EXPECT_EQ(v.odjezdy, (std::vector<std::int16_t>{490, 495, -1}));
+    EXPECT_EQ(sloupec(v.zastavky, &ZastavkaGvd::stanice), (std::vector<std::uint8_t>{1, 24, 9}));
+    EXPECT_EQ(sloupec(v.zastavky, &ZastavkaGvd::prijezd), (std::vector<std::int16_t>{-1, -1, 505}));
+    EXPECT_EQ(sloupec(v.zastavky, &ZastavkaGvd::odjezd), (std::vector<std::int16_t>{490, 495, -1}));
     EXPECT_EQ(v.druh, 7);
     EXPECT_EQ(v.cislo, 7501);
     EXPECT_EQ(v.nazev, "Lhoták"_cz);
@@ -64,8 +65,8 @@ TEST(PrekladGvd, WrittenFileReadsBackAsTheSameRows) {
 
 TEST(PrekladGvd, SmallestRowOfTheFileHasNinetyFiveBytes) {
     GvdVlak v;
-    v.stanice = {1};
-    v.prijezdy = v.odjezdy = v.vozy_vlaky = {0};
+    v.zastavky = {{1, 0, 0}};
+    v.vozy_vlaky = {0};
     v.vozy = {""};
     Miric m;
     popis_poli(m, v);
@@ -77,8 +78,8 @@ TEST(PrekladGvd, ClockFaceServiceRepeatsToTheLastDeparture) {
     const JizdniRad rad = preloz_jizdni_rad(std::string(kOsobni) + "  takt 60 10:10 2\n", chyby);
     ASSERT_EQ(rad.vlaky.size(), 3u);
     EXPECT_EQ(rad.vlaky[2].cislo, 7505);
-    EXPECT_EQ(rad.vlaky[2].odjezdy[0], 610);
-    EXPECT_EQ(rad.vlaky[2].prijezdy[0], -1);
+    EXPECT_EQ(rad.vlaky[2].zastavky[0].odjezd, 610);
+    EXPECT_EQ(rad.vlaky[2].zastavky[0].prijezd, -1);
 }
 
 TEST(PrekladGvd, RepeatedTrainHandsItsSetToTheRepeatedOne) {

@@ -27,7 +27,7 @@ TEST_F(Makra, RecordedPicksAreStoredAndNotSet) {
     EXPECT_EQ(prikaz(), "");
     EXPECT_FALSE(relief.navestidlo[240].ramecek);
     ASSERT_EQ(ulozena().size(), 1u);
-    EXPECT_EQ(ulozena()[0], (ZaznamMakra{"A", {1, 2}, {240, 41}, {41, 40}}));
+    EXPECT_EQ(ulozena()[0], (ZaznamMakra{"A", {{240, 41, 1}, {41, 40, 2}}}));
 }
 
 TEST_F(Makra, FailedLookUpAddsNoStep) {
@@ -43,7 +43,7 @@ TEST_F(Makra, CallingOnRoutesAreNotRecorded) {
     zacni_makro('A');
     volba_pn(240);
     klik_cil(41);
-    EXPECT_EQ(vyber.makro_zacatky, std::vector<std::int16_t>{-3});
+    EXPECT_EQ(vyber.makro_kroky, std::vector<KrokMakra>(1));
     EXPECT_EQ(cesty[0].zacatek, -3);
 }
 
@@ -85,9 +85,8 @@ TEST_F(Makra, MissingFileIsMadeByTheFirstMacro) {
 struct Prehrani : Makra {
     Prehrani() {
         Zapisovac z;
-        const std::vector<ZaznamMakra> makra = {{"A", {1}, {240}, {41}},
-                                                {"B", {1}, {42}, {40}},
-                                                {" A ", {1, 1, 2}, {-3, 241, 41}, {-3, 604, 40}}};
+        const std::vector<ZaznamMakra> makra = {
+            {"A", {{240, 41, 1}}}, {"B", {{42, 40, 1}}}, {" A ", {{-3, -3, 1}, {241, 604, 1}, {41, 40, 2}}}};
         for (const ZaznamMakra& makro : makra)
             popis_zaznamu_makra(z, makro);
         svet.zapis("data/tesk.mak", z.bajty);

@@ -8,6 +8,7 @@
 #include "obsluha/vyber.h"
 #include "pomocne/prvky_cesty.h"
 #include "pomocne/pult.h"
+#include "pomocne/zastavky.h"
 
 #include <algorithm>
 
@@ -279,11 +280,11 @@ TEST_F(MenuKolejeTest, DepartureIsOrderedForTheNextMinute) {
     const int v = vlak_na(62, true, 77);
     zastavky(v, {9, 2, 6}, {-3, 478, 500}, {470, 482, -3});
     vlak(v).stanice_index = 1;
-    vlak(v).odjezd_realny[1] = -10;
+    vlak(v).zastavky[1].odjezd_realny = -10;
     vlak(v).muze_jet = false;
     otevri(62);
     ASSERT_TRUE(zvol_v_menu("miOdjezd0"));
-    EXPECT_EQ(vlak(v).odjezd_realny[1], 481);
+    EXPECT_EQ(vlak(v).zastavky[1].odjezd_realny, 481);
     EXPECT_FALSE(vlak(v).muze_jet);
     minuta();
     EXPECT_TRUE(vlak(v).muze_jet);
@@ -379,9 +380,7 @@ TEST_F(MenuKolejeTest, DoubleClickOnANumberWithoutATrainAsksTheTimetable) {
     g.druh = 7;
     g.cislo = 5678;
     g.nazev = "Bystrice";
-    g.stanice = {9, 2};
-    g.prijezdy = {-1, 600};
-    g.odjezdy = {540, -1};
+    g.zastavky = zastavky_radku({9, 2}, {-1, 600}, {540, -1});
     gvd_vlaky = TabulkaGvd({g});
     info_o_vlaku({}, vlak_na(62, true, 77));
     prepni_panel(Panel::denik);

@@ -7,6 +7,7 @@
 #include "obsluha/vyber.h"
 #include "obsluha/zadani.h"
 #include "pomocne/jizdni_rad.h"
+#include "pomocne/zastavky.h"
 #include "relief/prejezdy.h"
 
 namespace {
@@ -50,9 +51,7 @@ protected:
         r.druh = 11;
         r.kolej = "3";
         r.poznamka = "veze uhli";
-        r.stanice = {2, 12};
-        r.prijezdy = {479, 500};
-        r.odjezdy = {490, -1};
+        r.zastavky = zastavky_radku({2, 12}, {479, 500}, {490, -1});
         pridej_radek_gvd(r);
     }
     static bool pole_otevrene() { return relief.txtZadav_pole[0].povoleny; }
@@ -347,10 +346,10 @@ TEST_F(Zadani, RenumberedTrainTakesTheTimetableOfItsNewNumber) {
     EXPECT_EQ(t.druh, 11);
     EXPECT_EQ(t.pokyn, "3");
     EXPECT_EQ(t.poznamka, "veze uhli");
-    EXPECT_EQ(t.stanice, (std::vector<std::uint8_t>{2, 12}));
-    EXPECT_EQ(t.prijezd, (std::vector<std::int16_t>{479, 500}));
-    EXPECT_EQ(t.odjezd, (std::vector<std::int16_t>{490, -1}));
-    EXPECT_EQ(t.odjezd_realny.size(), 2u);
+    EXPECT_EQ(sloupec(t.zastavky, &Zastavka::stanice), (std::vector<std::uint8_t>{2, 12}));
+    EXPECT_EQ(sloupec(t.zastavky, &Zastavka::prijezd), (std::vector<std::int16_t>{479, 500}));
+    EXPECT_EQ(sloupec(t.zastavky, &Zastavka::odjezd), (std::vector<std::int16_t>{490, -1}));
+    EXPECT_EQ(t.zastavky.size(), 2u);
     EXPECT_EQ(t.stanice_index, 0); // it starts again where it stands: a stop of the new number
     EXPECT_FALSE(t.muze_jet);
     EXPECT_EQ(stitek(63), "2002");
@@ -373,7 +372,7 @@ TEST_F(Zadani, NumberWithoutATimetableChangesOnlyTheNumber) {
     odpovez(" 4711 ");
     EXPECT_EQ(vlak(v).cislo, 4711);
     EXPECT_FALSE(vlak(v).cislo2_platne);
-    EXPECT_EQ(vlak(v).stanice, pred.stanice);
+    EXPECT_EQ(vlak(v).zastavky, pred.zastavky);
     EXPECT_EQ(vlak(v).stanice_index, pred.stanice_index);
     EXPECT_EQ(stitek(63), "4711");
     EXPECT_LT(radek_tabulky(777), 0);

@@ -50,11 +50,7 @@ protected:
     static Barva barva(int n) { return relief.kolej[n].barva; }
 
     // A row that runs every day; times of the stops as arrival and departure, -1 none.
-    struct Zastavka {
-        std::uint8_t kod;
-        std::int16_t prijezd, odjezd;
-    };
-    static GvdVlak radek(std::int32_t cislo, std::initializer_list<Zastavka> zastavky) {
+    static GvdVlak radek(std::int32_t cislo, std::initializer_list<ZastavkaGvd> zastavky) {
         GvdVlak r;
         r.cislo = cislo;
         r.druh = 7;
@@ -64,11 +60,7 @@ protected:
         r.vozy = {"754", "Bp", "A"};
         r.vozy_vlaky = {0, 0, 0};
         r.dny = 0x7F;
-        for (const Zastavka& z : zastavky) {
-            r.stanice.push_back(z.kod);
-            r.prijezdy.push_back(z.prijezd);
-            r.odjezdy.push_back(z.odjezd);
-        }
+        r.zastavky = zastavky;
         return r;
     }
     static void pridej(GvdVlak r) { pridej_radek_gvd(std::move(r)); }

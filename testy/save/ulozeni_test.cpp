@@ -21,6 +21,7 @@
 #include "pomocne/prvky_cesty.h"
 #include "pomocne/virtualni_platforma.h"
 #include "pomocne/vozy_vlaku.h"
+#include "pomocne/zastavky.h"
 #include "prvky/navestidla.h"
 #include "prvky/souhlasy.h"
 #include "prvky/stav_vyhybek.h"
@@ -619,7 +620,7 @@ TEST_F(Ulozeni, ContradictionsAreRefusedAndNothingChanges) {
 }
 
 TEST_F(Ulozeni, ListsOfDifferentLengthsAreRefusedByTheirTableAndRecord) {
-    Zapisovac prvky, nestejne_prvky, vozy, nestejne_vozy;
+    Zapisovac prvky, nestejne_prvky, vozy, nestejne_vozy, zastavky, nestejne_zastavky;
     popis_prvku(prvky, kDvaPrvky, "", "", "");
     const std::vector<std::int16_t> cisla{62, 63};
     const std::vector<std::uint8_t> druhy{1}, polohy{0, 0, 0};
@@ -631,6 +632,15 @@ TEST_F(Ulozeni, ListsOfDifferentLengthsAreRefusedByTheirTableAndRecord) {
     pole_textu(vozy, urceni);
     pole_textu(nestejne_vozy, rady);
     pole_textu(nestejne_vozy, jedno);
+    const std::vector<std::uint8_t> stanice{9, 1};
+    const std::vector<std::int16_t> minuty{601, 602}, jedna{601};
+    for (Zapisovac* z : {&zastavky, &nestejne_zastavky}) {
+        pole_b(*z, stanice);
+        pole_i(*z, minuty);
+        pole_i(*z, minuty);
+    }
+    pole_i(zastavky, minuty);
+    pole_i(nestejne_zastavky, jedna);
     const auto nacti_s = [&](const Zapisovac& co, const Zapisovac& za, auto zmena) {
         svet.konec.reset();
         nova_simulace();
@@ -655,6 +665,10 @@ TEST_F(Ulozeni, ListsOfDifferentLengthsAreRefusedByTheirTableAndRecord) {
     nacti_s(vozy, nestejne_vozy,
             [&](Zaznam& z) { z.vlaky[4].cislo = 5, z.vlaky[4].vozy = vozy_vlaku(rady, urceni); });
     EXPECT_TRUE(odmitnuto_pro("vlaky 4: vozy")) << okno();
+    nacti_s(zastavky, nestejne_zastavky, [](Zaznam& z) {
+        z.vlaky[4].cislo = 5, z.vlaky[4].zastavky = {{9, 601, 601, 601}, {1, 602, 602, 602}};
+    });
+    EXPECT_TRUE(odmitnuto_pro("vlaky 4: stanice")) << okno();
     nacti_s(prvky, nestejne_prvky, [](Zaznam& z) { z.vlaky[3].prvky = kDvaPrvky; });
     EXPECT_FALSE(svet.konec) << "a free record holds no train: " << okno();
     EXPECT_EQ(vlaky[3].prvky, (std::vector<PrvekCesty>{{62, 1, 0}, {63, 0, 0}}));
@@ -684,9 +698,7 @@ TEST_F(Ulozeni, FreeTrainRecordsAreInNoService) {
 
 TEST_F(Ulozeni, ConsentsAreKnownAgainByTheTrainsThatWait) {
     GvdVlak radek;
-    radek.stanice = {20, 3};
-    radek.prijezdy = {-1, 700};
-    radek.odjezdy = {690, -1};
+    radek.zastavky = zastavky_radku({20, 3}, {-1, 700}, {690, -1});
     radek.vozy = {"754"};
     radek.vozy_vlaky = {0, 0};
     radek.cislo = 4701;

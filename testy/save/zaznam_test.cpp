@@ -306,8 +306,7 @@ TEST_F(ZaznamSimulace, EveryTableReadsBackAsItWas) {
     z.cesty[1].prvky = prvky_cesty({62, 7, 63}, {1, 2, 1}, {2, 3, 2});
     z.cesty[1].prejezd_zaver = true;
     z.vlaky[50].vozy = vozy_vlaku({"754", "Bp"}, {"ZAL", ""}, {"a.ico", "b.ico"});
-    z.vlaky[50].stanice = {9, 1};
-    z.vlaky[50].odjezd_realny = {-10, -3};
+    z.vlaky[50].zastavky = {{9, -3, 600, -10}, {1, 640, -3, -3}};
     z.vlaky[50].poznamka = "Pozor";
     z.stanicni_prejezdy[1].uzavren = true;
     z.prejezdy.push_back({true, false, true, 640, -7, "pole"});

@@ -153,7 +153,7 @@ TEST_F(Provoz2Obrazovka, NumbersOfRowsHaveALeadingBlankBelowTen) {
 TEST_F(Provoz2Obrazovka, EveryLineOfALongListHasItsNumber) {
     std::vector<ZaznamMakra> makra;
     for (int i = 0; i < 26; ++i)
-        makra.push_back({Text(1, static_cast<char>('A' + i)), {1}, {240}, {41}});
+        makra.push_back({Text(1, static_cast<char>('A' + i)), {{240, 41, 1}}});
     zapis_makra(makra);
     otevri();
     EXPECT_EQ(technologie.lblCisla2, cisla_radku(26));
@@ -270,7 +270,7 @@ TEST_F(Provoz2Obrazovka, PossessionLineEndsWithTheLength) {
 // --- macros
 
 TEST_F(Provoz2Obrazovka, MacrosStandWithTheirPicksAndLetters) {
-    zapis_makra({{"A", {1, 2}, {240, 41}, {41, 40}}, {"B", {1}, {242}, {604}}});
+    zapis_makra({{"A", {{240, 41, 1}, {41, 40, 2}}}, {"B", {{242, 604, 1}}}});
     otevri();
     ASSERT_EQ(provoz2.lstmakra.radky.size(), 2u);
     EXPECT_EQ(provoz2.lstmakra.radky[0], nacti_makra().radky[0]);
@@ -282,7 +282,7 @@ TEST_F(Provoz2Obrazovka, MacrosStandWithTheirPicksAndLetters) {
 }
 
 TEST_F(Provoz2Obrazovka, DeleteTakesAllRecordsOfTheLetter) {
-    zapis_makra({{"A", {1}, {240}, {41}}, {"B", {1}, {242}, {604}}, {"A", {1}, {241}, {604}}});
+    zapis_makra({{"A", {{240, 41, 1}}}, {"B", {{242, 604, 1}}}, {"A", {{241, 604, 1}}}});
     otevri();
     klik_na_radek(provoz2.lstmakra, 2);
     stiskni("Delete");
@@ -304,7 +304,7 @@ TEST_F(Provoz2Obrazovka, OpensWithoutAMacroFile) {
 // --- the selection by keys
 
 TEST_F(Provoz2Obrazovka, ArrowsMoveWithinTheListAndTabBetweenLists) {
-    zapis_makra({{"A", {1}, {240}, {41}}});
+    zapis_makra({{"A", {{240, 41, 1}}}});
     zarad_dve();
     otevri();
     stiskni("Dolu");

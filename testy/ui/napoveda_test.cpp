@@ -8,6 +8,7 @@
 #include "obsluha/vstup.h"
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/virtualni_platforma.h"
+#include "pomocne/zastavky.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
 #include "ui/napoveda.h"
@@ -94,9 +95,7 @@ TEST_F(NapovedaStolu, TrainNumberTellsOfItsTrainAndOfItsTrack) {
     Vlak& v = vlaky[0];
     v.cislo = 651;
     v.druh = 5;
-    v.stanice = {1, 5};
-    v.prijezd = {-3, 625};
-    v.odjezd = {600, -3};
+    v.zastavky = zastavky_vlaku({1, 5}, {-3, 625}, {600, -3});
     v.zpozdeni = 4;
     v.pokyn = "3";
     relief.cislo_koleje[62].text = Text("651");
