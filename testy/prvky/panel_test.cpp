@@ -6,6 +6,7 @@
 #include "pomocne/virtualni_platforma.h"
 #include "prvky/navestidla.h"
 #include "prvky/panel.h"
+#include "prvky/svety.h"
 
 #include <set>
 
@@ -33,19 +34,9 @@ struct Navest : testing::Test {
     }
     // A train route that stands with its signal cleared.
     static Cesta& cesta(int zacatek, const std::vector<std::int16_t>& prvky, int rychlost = 0) {
-        Cesta c;
-        c.zacatek = static_cast<std::int16_t>(zacatek);
-        c.konec = prvky.back();
-        for (PrvekCesty& p : c.prvky = prvky_cesty(prvky))
-            p.druh = druh_prvku::kolej;
+        Cesta& c = stojici_cesta(zacatek, prvky);
         c.rychlost = static_cast<std::uint8_t>(rychlost);
-        c.cas_stavby = 0;
-        c.VC = c.prehozena = c.Postavena = c.Provedena = true;
-        if (cesty.front().zacatek < 0)
-            cesty.front() = c;
-        else
-            cesty.push_back(c);
-        return cesty.back();
+        return c;
     }
     static std::set<int> sviti() {
         std::set<int> vse;

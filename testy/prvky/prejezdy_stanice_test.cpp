@@ -1,37 +1,10 @@
 // testy/prvky/prejezdy_stanice_test.cpp - the operator's commands on the station crossings.
 #include "app/blikani.h"
-#include "app/cas.h"
 #include "app/casovace.h"
-#include "cesty/cesta.h"
-#include "desk/menu.h"
-#include "desk/stav_blikani.h"
-#include "obsluha/menu_prvku.h"
-#include "obsluha/vstup.h"
-#include "pomocne/prvky_cesty.h"
-#include "pomocne/pult.h"
-#include "pomocne/virtualni_platforma.h"
 #include "prvky/prejezdy_stanice.h"
-
-#include <algorithm>
-#include <vector>
+#include "prvky/svety.h"
 
 namespace {
-
-struct PrejezdStanice : testing::Test {
-    VirtualniPlatforma svet;
-    PrejezdStanice() {
-        relief.lblPrejezd.zaloz(0).barva = barvy::seda;
-        relief.lblPrejezd.zaloz(1).barva = barvy::seda;
-        nastav_cas("12:00:00");
-        simulace.pauza = false;
-    }
-    static Text pruh(std::initializer_list<int> glyfy) {
-        Text text;
-        for (const int g : glyfy)
-            text += znak(g);
-        return text;
-    }
-};
 
 const Text kZavreno = znak(16) + Text(8, '\x0D') + znak(16);
 
@@ -131,59 +104,13 @@ TEST_F(PrejezdStanice, IsIdleOnlyWithoutTrainsClosingTimeAndOperatorsClosure) {
     EXPECT_FALSE(prejezd_v_klidu(-3));
 }
 
-TEST_F(PrejezdStanice, MenuNamesTheCrossingByItsKilometre) {
-    menu_prejezdu(0);
-    EXPECT_EQ(menu.hlava, "140,310");
-    EXPECT_EQ(menu.prvek, 0);
-    EXPECT_EQ(menu.druh, Druh::lblPrejezd);
-    menu_prejezdu(1);
-    EXPECT_EQ(menu.hlava, "5,910");
-}
-
-TEST_F(PrejezdStanice, EmergencyOpeningIsCalledEndOfTheClosureWhileTheOperatorHoldsTheCrossing) {
-    const auto texty = [] {
-        std::vector<Text> videt;
-        for (const PolozkaMenu& polozka : menu.polozky)
-            if (polozka.viditelna)
-                videt.push_back(polozka.text);
-        return videt;
-    };
-    menu_prejezdu(0);
-    EXPECT_EQ(texty(), (std::vector<Text>{"UZ", "NOT", "STIT", "DK"}));
-    EXPECT_FALSE(zvol_v_menu("miZUZ"));
-    EXPECT_TRUE(zvol_v_menu("miUZ"));
-    menu_prejezdu(0);
-    EXPECT_EQ(texty(), (std::vector<Text>{"UZ", "ZUZ", "STIT", "DK"}));
-    EXPECT_EQ(polozka_menu("miSTIT").akce, nullptr);
-    EXPECT_EQ(polozka_menu("miDK").akce, nullptr);
-    EXPECT_TRUE(zvol_v_menu("miZUZ"));
-    EXPECT_EQ(stanicni_prejezdy[0], StanicniPrejezd{});
-    prejezd_uz(0);
-    menu_prejezdu(0);
-    EXPECT_TRUE(zvol_v_menu("miNOT")); // the same entry
-    EXPECT_EQ(stanicni_prejezdy[0], StanicniPrejezd{});
-}
-
-TEST_F(PrejezdStanice, MenuShowsTheCounterToTheDeveloperOnly) {
-    stanicni_prejezdy[1].pocet = 130;
-    stanicni_prejezdy[1].uzavren = true;
-    menu_prejezdu(1);
-    EXPECT_FALSE(menu.polozky.front().viditelna);
-    simulace.polozky_ladeni = true;
-    menu_prejezdu(1);
-    EXPECT_TRUE(menu.polozky.front().viditelna);
-    EXPECT_EQ(menu.polozky.front().text, "130 -1");
-}
-
 TEST_F(PrejezdStanice, AnIndexThatIsNoCrossingDoesNothing) {
     for (const int k : {-3, -1, 2, 128}) {
         prejezd_uz(k);
         prejezd_not(k);
-        menu_prejezdu(k);
     }
     EXPECT_EQ(stanicni_prejezdy[0], StanicniPrejezd{});
     EXPECT_EQ(stanicni_prejezdy[1], StanicniPrejezd{});
-    EXPECT_TRUE(menu.jmeno.empty());
 }
 
 TEST_F(PrejezdStanice, CommandsWorkWithoutTheLabelOnTheRelief) {

@@ -1,58 +1,7 @@
-// testy/prvky/vyhybky_test.cpp - throwing of switches, couplings, derailers, the menu of a switch.
-#include "app/cas.h"
-#include "app/simulace.h"
-#include "cesty/prehoz_rukou.h"
-#include "desk/menu.h"
-#include "obsluha/menu_prvku.h"
-#include "pomocne/male_kolejiste.h"
-#include "pomocne/pult.h"
-#include "pomocne/virtualni_platforma.h"
+// testy/prvky/vyhybky_test.cpp - throwing of switches, couplings, derailers, throws by hand.
+#include "prvky/svety.h"
 #include "prvky/vyhybky.h"
 #include "zaklad/chyba.h"
-#include "zaklad/cisla.h"
-
-#include <algorithm>
-#include <map>
-
-namespace {
-
-// Switches: 1 stands in the middle, 2 left of it, 3 right of it; 5 has no partner though its list has an
-// entry; 6 is not in the table at all. Each of 1 to 3 drags the two others.
-struct Vyhybka : testing::Test {
-    VirtualniPlatforma svet;
-
-    Vyhybka() {
-        svet.zapis(
-            "data/tesk.stg",
-            soubor_vazeb(
-                {{1, {2, 3}, "1/3"}, {2, {1}, "2"}, {3, {1}, "3"}, {5, {255}, "5ab"}, {8, {99, 5}, "8"}}));
-        for (const auto& [n, x] : std::map<int, int>{{1, 1000}, {2, 500}, {3, 1500}, {5, 0}, {6, 0}, {8, 0}})
-            relief.imgVyhybka.zaloz(n).vlevo = x;
-        for (const int n : {1, 2, 3, 5, 6, 8})
-            stav(n, 2);
-        nastav_cas("12:00:00");
-        simulace.pauza = false;
-        gtn_otevri();
-        zacatek_logu = bajty_logu(svet).size();
-    }
-    static void stav(int n, int s) {
-        relief.imgVyhybka[n].stav = text_cisla(s);
-        relief.imgVyhybka[n].obrazek = static_cast<std::int16_t>(s + 100);
-    }
-    static int stav(int n) { return stav_vyhybky_cislo(n); }
-    std::vector<Udalost> udalosti() const { return udalosti_logu(svet, zacatek_logu); }
-    // Which of S+, S-, S+ b, S- b the menu of n offers.
-    static std::string nabidka(int n) {
-        menu_vyhybky(n);
-        std::string vse;
-        for (const TextPohled jmeno : {"miPLUS", "miMINUS", "miPLUS_B", "miMINUS_B"})
-            vse += polozka_menu(jmeno).povolena ? '1' : '0';
-        return vse;
-    }
-    std::size_t zacatek_logu = 0;
-};
-
-} // namespace
 
 TEST_F(Vyhybka, MovingPictureBelongsToTheTripleOrToTheShape) {
     for (int p = 1; p <= 24; ++p)
@@ -126,7 +75,6 @@ TEST_F(Vyhybka, EveryPositionHasItsPictureInEveryClass) {
 TEST_F(Vyhybka, UnknownSwitchIsAnError) {
     EXPECT_THROW(prehod(77, 3, true, true), BehovaChyba);
     EXPECT_THROW(vyhybka_stav(77, 3, true, true), BehovaChyba);
-    EXPECT_THROW(menu_vyhybky(-3), BehovaChyba);
     EXPECT_FALSE(vyhybka_v_pohybu(77));
     EXPECT_FALSE(vyhybka_v_pohybu(-3));
 }
@@ -266,42 +214,6 @@ TEST_F(Vyhybka, EndOfTheThrowEndsThePartnersToo) {
 
 // --- derailers
 
-struct Vykolejky : Vyhybka {
-    Vykolejky() {
-        for (const int n : {190, 202, 206, 14})
-            relief.imgVyhybka.zaloz(n).stav = Text("2");
-        for (int d = 0; d < 3; ++d) {
-            relief.lblVykolejka.zaloz(d).text = znak(21);
-            relief.lblVykolejka[d].barva = barvy::seda;
-        }
-    }
-    static void znaky(int a, int b, int c) {
-        relief.lblVykolejka[0].text = znak(a);
-        relief.lblVykolejka[1].text = znak(b);
-        relief.lblVykolejka[2].text = znak(c);
-        for (int d = 0; d < 3; ++d) {
-            relief.lblVykolejka[d].barva = barvy::seda;
-            relief.lblVykolejka[d].pozadi = barvy::cerna;
-        }
-    }
-    static bool jede(int d) {
-        return relief.lblVykolejka[d].barva() == barvy::cerna &&
-               relief.lblVykolejka[d].pozadi() == barvy::seda;
-    }
-    static std::vector<int> jedou() {
-        std::vector<int> vse;
-        for (int d = 0; d < 3; ++d)
-            if (jede(d))
-                vse.push_back(d);
-        return vse;
-    }
-    static std::vector<int> znaky() {
-        std::vector<int> vse;
-        for (int d = 0; d < 3; ++d)
-            vse.push_back(kod_znaku(relief.lblVykolejka[d].text()));
-        return vse;
-    }
-};
 using V = std::vector<int>;
 
 TEST_F(Vykolejky, FirstGoesWithSwitch202) {
@@ -391,47 +303,6 @@ TEST_F(Vykolejky, Switch14PaintsTheShortTrack4) {
     EXPECT_EQ(relief.kolej[4].barva(), barvy::bila);
 }
 
-// --- the operator's menu
-
-TEST_F(Vyhybka, MenuCarriesTheNameAndAllEntriesInOrder) {
-    menu_vyhybky(1);
-    EXPECT_EQ(menu.jmeno, "mnuVYHYBKA");
-    EXPECT_EQ(menu.hlava, "1/3");
-    EXPECT_EQ(menu.prvek, 1);
-    const std::vector<std::pair<Text, Text>> cekano = {
-        {"miPLUS", "S+"},         {"miMINUS", "S-"},        {"miPLUS_B", "S+ b"},
-        {"miMINUS_B", "S- b"},    {"miZAV_vyhybka", "ZAV"}, {"miSTIT_vyhybka", "STIT"},
-        {"miVYL_vyhybka", "VYL"}, {"miMST", "MST"},         {"miVyh_nouz", "NOUZ"}};
-    ASSERT_EQ(menu.polozky.size(), cekano.size());
-    for (std::size_t i = 0; i < cekano.size(); ++i) {
-        EXPECT_EQ(menu.polozky[i].jmeno, cekano[i].first);
-        EXPECT_EQ(menu.polozky[i].text, cekano[i].second);
-        EXPECT_TRUE(menu.polozky[i].viditelna);
-        EXPECT_EQ(menu.polozky[i].akce == nullptr, i >= 4 && i <= 7) << i; // kept for the look
-    }
-    menu_vyhybky(6);
-    EXPECT_EQ(menu.hlava, "");
-}
-
-TEST_F(Vyhybka, MenuOffersWhatThePositionAllowsInEveryState) {
-    for (int s = 1; s <= 249; ++s) {
-        stav(6, s);
-        std::string cekano = "0000";
-        if (s >= 25 && s <= 32) {
-            const bool a_plus = s == 25 || s == 28 || s == 29 || s == 31;
-            const bool b_plus = s == 25 || s == 27 || s == 29 || s == 32;
-            cekano = {a_plus ? '0' : '1', a_plus ? '1' : '0', b_plus ? '0' : '1', b_plus ? '1' : '0'};
-        } else if (s < 25) {
-            cekano[0] = s % 3 == 2 ? '1' : '0';
-            cekano[1] = s % 3 == 0 ? '1' : '0';
-        } else if (s < 50) {
-            continue; // no such position
-        }
-        EXPECT_EQ(nabidka(6), cekano) << s;
-        EXPECT_TRUE(polozka_menu("miVyh_nouz").povolena);
-    }
-}
-
 TEST_F(Vyhybka, ThrowByHandTakesThreeSeconds) {
     const std::int32_t ted = ted_s();
     hod_vyhybku(1, PovelVyhybky::plus);
@@ -448,8 +319,7 @@ TEST_F(Vyhybka, SecondThrowByHandLeavesTheFirstSwitchMovingUntilNouz) {
     hod_vyhybku(6, PovelVyhybky::plus);
     EXPECT_EQ(stav_vyhybek.prehoz_vyhybka, 6);
     EXPECT_TRUE(vyhybka_v_pohybu(5));
-    menu_vyhybky(5);
-    polozka_menu("miVyh_nouz").akce(polozka_menu("miVyh_nouz").cil);
+    vyhybka_nouz(5);
     EXPECT_FALSE(vyhybka_v_pohybu(5));
     EXPECT_EQ(stav(5), 3);
     EXPECT_EQ(stav_vyhybek.prehoz_vyhybka, 6);
@@ -462,20 +332,6 @@ TEST_F(Vyhybka, EmergencyEndFreesALockedSwitchAndLeavesItsPartnersAlone) {
     EXPECT_EQ(stav(1), 6);
     EXPECT_EQ(stav(2), 52);
     EXPECT_EQ(relief.imgVyhybka[1].obrazek(), 106);
-}
-
-TEST_F(Vyhybka, OrderThatTheStateNoLongerAllowsIsRefused) {
-    menu_vyhybky(1);
-    const PolozkaMenu plus = polozka_menu("miPLUS");
-    stav(1, 52); // a route has locked it while the menu was open
-    plus.akce(plus.cil);
-    EXPECT_EQ(stav(1), 52);
-    EXPECT_EQ(stav_vyhybek.prehoz_vyhybka, -3);
-    stav(1, 2);
-    stav(2, 53);
-    plus.akce(plus.cil);
-    EXPECT_EQ(stav(1), 2);
-    EXPECT_FALSE(vyhybka_v_pohybu(1));
 }
 
 TEST_F(Vyhybka, BothEndsOfADoubleSlipAreThrownByHand) {
