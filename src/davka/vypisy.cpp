@@ -232,46 +232,43 @@ void vypis_obrazovka(ZaznamJsonu& z) {
         vypis_technologii(z, *ktera);
 }
 
-void vypis_pipnuti(ZaznamJsonu& z) {
+// The items of a list as numbered rows; `pole` adds the fields of one.
+template <class Seznam, class Pole> void pridej_radky(ZaznamJsonu& z, const Seznam& seznam, Pole pole) {
     SeznamJsonu radky;
-    for (const Pipnuti& p : svet.pipnuti) {
+    for (const auto& polozka : seznam) {
         ZaznamJsonu radek;
         pridej(radek, "i", Json(radky.size()));
-        pridej(radek, "hz", p.hz);
-        pridej(radek, "ms", p.ms);
-        pridej(radek, "cas_ms", p.cas_ms);
+        pole(radek, polozka);
         radky.emplace_back(std::move(radek));
     }
     pridej(z, "radky", Json(std::move(radky)));
+}
+
+void vypis_pipnuti(ZaznamJsonu& z) {
+    pridej_radky(z, svet.pipnuti, [](ZaznamJsonu& radek, const Pipnuti& p) {
+        pridej(radek, "hz", p.hz);
+        pridej(radek, "ms", p.ms);
+        pridej(radek, "cas_ms", p.cas_ms);
+    });
 }
 
 // Questions are boxes too; they alone have an answer.
 void vypis_okna(ZaznamJsonu& z) {
-    SeznamJsonu radky;
-    for (const OknoZpravy& o : svet.okna) {
-        ZaznamJsonu radek;
-        pridej(radek, "i", Json(radky.size()));
+    pridej_radky(z, svet.okna, [](ZaznamJsonu& radek, const OknoZpravy& o) {
         pridej(radek, "titul", json_text(o.titul));
         pridej(radek, "text", json_text(o.text));
         if (o.odpoved)
             pridej(radek, "odpoved", json_text(*o.odpoved ? "ano" : "ne"));
-        radky.emplace_back(std::move(radek));
-    }
-    pridej(z, "radky", Json(std::move(radky)));
+    });
 }
 
 // The settings store, for scripts that check what the start screen keeps.
 void vypis_nastaveni(ZaznamJsonu& z) {
-    SeznamJsonu radky;
-    for (const ZaznamNastaveni& n : svet.nastaveni) {
-        ZaznamJsonu radek;
-        pridej(radek, "i", Json(radky.size()));
+    pridej_radky(z, svet.nastaveni, [](ZaznamJsonu& radek, const ZaznamNastaveni& n) {
         pridej(radek, "sekce", json_text(n.sekce));
         pridej(radek, "klic", json_text(n.klic));
         pridej(radek, "hodnota", json_text(n.hodnota));
-        radky.emplace_back(std::move(radek));
-    }
-    pridej(z, "radky", Json(std::move(radky)));
+    });
 }
 
 // By station code: row 1 is the nearest train from LHO.

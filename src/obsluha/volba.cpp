@@ -68,7 +68,7 @@ std::int32_t sekunda_dne() {
 }
 
 void zacni_volbu(int s) {
-    vyber.volba_konec = -3;
+    vyber.volba_konec = kZadny;
     vyber.volba_zacatek = static_cast<std::int16_t>(s);
     vyber.volba_cas = sekunda_dne();
     vyber.volba_navestidlo = static_cast<std::int16_t>(s);
@@ -97,17 +97,24 @@ Barva barva_navestidla(int s) {
     return navestidla(s)[s].barva;
 }
 
+// The signal is the start of a train or shunt route: it is lit in the colour of that proceed.
+void nabidni_zacatek(int s, std::uint8_t druh) {
+    const bool posun = druh == druh_volby::posun;
+    const Barva svetlo = posun ? barvy::bila : barvy::zelena;
+    gtn_zapis(s, posun ? gtn::volba_posun : gtn::volba_vlak, 0);
+    ukaz_vyzvu(druh, s);
+    vyber.volba_posun = posun;
+    vyber.volba_svetla = barva_navestidla(s) == svetlo;
+    zvyrazni_navestidlo(s, svetlo);
+    vyber.volba_druh = druh;
+    zacni_volbu(s);
+}
+
 void vyber_posun(int s, int konec) {
     odznac_navestidlo(vyber.volba_navestidlo);
     if (navazuje_na_volbu(s))
         ukonci_volbu_v(konec, druh_volby::posun);
-    gtn_zapis(s, gtn::volba_posun, 0);
-    ukaz_vyzvu(druh_volby::posun, s);
-    vyber.volba_posun = true;
-    vyber.volba_svetla = barva_navestidla(s) == barvy::bila;
-    zvyrazni_navestidlo(s, barvy::bila);
-    vyber.volba_druh = druh_volby::posun;
-    zacni_volbu(s);
+    nabidni_zacatek(s, druh_volby::posun);
 }
 
 void vyber_vlak(int s) {
@@ -115,13 +122,7 @@ void vyber_vlak(int s) {
     if (navazuje_na_volbu(s) && !vyber.volba_posun && !je_vyjimka_retezeni(s))
         ukonci_volbu_v(s == uzel::kObrazKamence ? uzel::kKamenec : uzel::konec_u_navestidla(s),
                        druh_volby::vlak);
-    gtn_zapis(s, gtn::volba_vlak, 0);
-    ukaz_vyzvu(druh_volby::vlak, s);
-    vyber.volba_posun = false;
-    vyber.volba_svetla = barva_navestidla(s) == barvy::zelena;
-    zvyrazni_navestidlo(s, barvy::zelena);
-    vyber.volba_druh = druh_volby::vlak;
-    zacni_volbu(s);
+    nabidni_zacatek(s, druh_volby::vlak);
 }
 
 // --- the end
@@ -139,9 +140,9 @@ void ohlas_nenalezenou(int druh, bool automaticky) {
            barvy::bila);
     if (!vyber.volba_svetla && !automaticky)
         odznac_navestidlo(vyber.volba_navestidlo);
-    vyber.volba_navestidlo = -3;
-    vyber.volba_zacatek = -3;
-    vyber.volba_konec = -3;
+    vyber.volba_navestidlo = kZadny;
+    vyber.volba_zacatek = kZadny;
+    vyber.volba_konec = kZadny;
 }
 
 int konec_druhe_casti(const uzel::DvojityKonec& d, int druh) {
@@ -183,9 +184,9 @@ bool vrat_vybranou_cestu() {
     odznac_navestidlo(posledni.zacatek);
     uvolni_cekani(posledni);
     if (cesty.size() == 1) {
-        posledni.zacatek = -3;
-        posledni.konec = -3;
-        posledni.cas_stavby = -3;
+        posledni.zacatek = kZadny;
+        posledni.konec = kZadny;
+        posledni.cas_stavby = kZadny;
     } else {
         smaz_cestu(static_cast<int>(cesty.size()) - 1);
     }
@@ -263,7 +264,7 @@ void klik_cil(int e) {
         konec = konec_druhe_casti(*d, druh);
     }
     vyber.volba_konec = static_cast<std::int16_t>(konec);
-    vyber.volba_cas = -3;
+    vyber.volba_cas = kZadny;
     pipni(800, 10);
     pripis_konec(konec);
     gtn_zapis(vyber.volba_zacatek, static_cast<std::uint8_t>(gtn::konec_volby + druh), konec);
@@ -282,7 +283,7 @@ bool najdi_cestu(int zacatek, int konec, int druh, bool automaticky) {
     } else {
         const Cesta& c = zarad_cestu(nalezena, druh, automaticky);
         zvyrazni_konec(c.konec, kBarvy[static_cast<std::size_t>(druh)]);
-        vyber.volba_navestidlo = -3;
+        vyber.volba_navestidlo = kZadny;
     }
     vyber.volba_druh = druh_volby::zadny;
     return static_cast<bool>(nalezena);
@@ -296,9 +297,9 @@ void zrus_volbu() {
     if (!vrat_vybranou_cestu())
         return;
     odznac_navestidlo(vyber.volba_zacatek);
-    vyber.volba_zacatek = -3;
-    vyber.volba_konec = -3;
-    vyber.volba_cas = -3; // a selection that was dropped cannot run out of time
+    vyber.volba_zacatek = kZadny;
+    vyber.volba_konec = kZadny;
+    vyber.volba_cas = kZadny; // a selection that was dropped cannot run out of time
 }
 
 // The prompt goes with the choice that it tells of.
@@ -308,8 +309,8 @@ void klik_plocha() {
     if (!vyber.volba_svetla)
         odznac_navestidlo(vyber.volba_navestidlo);
     vyber.volba_druh = druh_volby::zadny;
-    vyber.volba_navestidlo = -3;
-    vyber.volba_cas = -3;
+    vyber.volba_navestidlo = kZadny;
+    vyber.volba_cas = kZadny;
     vyber.volba_svetla = false;
     vyber.volba_posun = false;
 }
@@ -339,6 +340,6 @@ void hlidej_cas_volby() {
            barvy::bila);
     pipni(100, 200);
     odznac_navestidlo(vyber.volba_zacatek);
-    vyber.volba_zacatek = -3;
-    vyber.volba_cas = -3;
+    vyber.volba_zacatek = kZadny;
+    vyber.volba_cas = kZadny;
 }

@@ -18,6 +18,7 @@
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/prvky_cesty.h"
 #include "pomocne/vozy_vlaku.h"
+#include "pomocne/zastavky.h"
 #include "prvky/stav_vyhybek.h"
 #include "relief/topologie.h"
 #include "save/zaznam.h"
@@ -122,8 +123,7 @@ inline void zkus_provoz(Vstup vstup) {
     nacti_gvd_z(vstup);
     musi(gvd_vlaky.size() <= vstup.size() / 95, "a row takes 95 bytes at least");
     for (const GvdVlak& radek : gvd_vlaky)
-        musi(!radek.stanice.empty() && radek.odjezdy.size() == radek.stanice.size() && !radek.vozy.empty(),
-             "a row can be read without asking");
+        musi(!radek.zastavky.empty() && !radek.vozy.empty(), "a row can be read without asking");
     try {
         const auto jdi = [](int minuta) { nastav_cas(minuta * 60); };
         jdi(599);
@@ -131,28 +131,25 @@ inline void zkus_provoz(Vstup vstup) {
         for (int minuta = 600; minuta < 630; ++minuta) {
             jdi(minuta);
             for (const std::int32_t ceka : {19, 5}) // consents are given at once
-                if (!gvd_vlaky.empty() && gvd_vlaky[0].stanice.front() == ceka)
+                if (!gvd_vlaky.empty() && gvd_vlaky[0].zastavky.front().stanice == ceka)
                     pridej_cekajici(gvd_vlaky[0].cislo);
             krok_provozu();
         }
     } catch (const BehovaChyba& e) {
         musi(e.kod == KodChyby::preteceni, "only a number that does not fit ends the traffic");
     }
-    for (const Vlak& v : vlaky)
-        if (v.cislo >= 1)
-            musi(v.stanice.size() == v.odjezd_realny.size(), "the lists of a train go together");
     nova_simulace();
 }
 inline Bajty vzor_provozu() {
     Zapisovac soubor;
     soubor.l(0);
     soubor.text("vzor");
-    const auto vlak = [&](std::vector<std::uint8_t> stanice, std::int16_t odjezd, std::int32_t cislo) {
+    const auto vlak = [&](const std::vector<std::uint8_t>& stanice, std::int16_t odjezd, std::int32_t cislo) {
         GvdVlak r;
-        r.stanice = std::move(stanice);
-        for (std::size_t i = 0; i < r.stanice.size(); ++i) {
-            r.prijezdy.push_back(static_cast<std::int16_t>(i == 0 ? -1 : odjezd + 10 * static_cast<int>(i)));
-            r.odjezdy.push_back(static_cast<std::int16_t>(odjezd + 10 * static_cast<int>(i) + 2));
+        for (std::size_t i = 0; i < stanice.size(); ++i) {
+            const int cas = odjezd + 10 * static_cast<int>(i);
+            r.zastavky.push_back({stanice[i], static_cast<std::int16_t>(i == 0 ? -1 : cas),
+                                  static_cast<std::int16_t>(cas + 2)});
         }
         r.cislo = cislo;
         r.druh = 7;
@@ -179,15 +176,21 @@ inline Bajty vzor_provozu() {
 }
 inline Bajty vzor_gvd() {
     GvdVlak vlak;
-    vlak.stanice = {2, 9, 12};
-    vlak.prijezdy = {-1, 600, 620};
-    vlak.odjezdy = {590, 605, -1};
+    vlak.zastavky = zastavky_radku({2, 9, 12}, {-1, 600, 620}, {590, 605, -1});
     vlak.vozy = {"560", "Bp"};
     vlak.vozy_vlaky = {0, 4701};
     vlak.nazev = "Tesk";
     Zapisovac soubor;
     popis_poli(soubor, vlak);
     popis_poli(soubor, vlak);
+    return soubor.bajty;
+}
+
+// The bytes of two records of a table.
+template <class Zaznam, class Popis> Bajty bajty_dvou(const Zaznam& a, const Zaznam& b, Popis popis) {
+    Zapisovac soubor;
+    popis(soubor, a);
+    popis(soubor, b);
     return soubor.bajty;
 }
 
@@ -199,10 +202,7 @@ inline void zkus_cesty(Vstup vstup) {
 inline Bajty vzor_cest() {
     const ZaznamCesty prvni{287, 600, prvky_cesty({87, 33, 404, 600}, {1, 2, 1, 1}, {2, 12, 0, 2}), 0};
     const ZaznamCesty druhy{601, 12, prvky_cesty({650, 107, 12}, {1, 1, 1}, {2, 0, 2}), 1};
-    Zapisovac soubor;
-    popis_zaznamu_cesty(soubor, prvni);
-    popis_zaznamu_cesty(soubor, druhy);
-    return soubor.bajty;
+    return bajty_dvou(prvni, druhy, [](auto& a, auto& z) { popis_zaznamu_cesty(a, z); });
 }
 
 inline void zkus_vazby(Vstup vstup) {
@@ -213,10 +213,7 @@ inline void zkus_vazby(Vstup vstup) {
 inline Bajty vzor_vazeb() {
     const ZaznamVazeb samotna{14, {255}, "14/1"};
     const ZaznamVazeb sprazena{53, {54, 55}, "53/54"};
-    Zapisovac soubor;
-    popis_zaznamu_vazeb(soubor, samotna);
-    popis_zaznamu_vazeb(soubor, sprazena);
-    return soubor.bajty;
+    return bajty_dvou(samotna, sprazena, [](auto& a, auto& z) { popis_zaznamu_vazeb(a, z); });
 }
 
 inline void zkus_makra(Vstup vstup) {
@@ -225,12 +222,9 @@ inline void zkus_makra(Vstup vstup) {
          "a macro takes eight bytes");
 }
 inline Bajty vzor_maker() {
-    const ZaznamMakra prvni{"A", {1, 2}, {287, 511}, {600, 558}};
-    const ZaznamMakra druhe{"B", {1}, {601}, {12}};
-    Zapisovac soubor;
-    popis_zaznamu_makra(soubor, prvni);
-    popis_zaznamu_makra(soubor, druhe);
-    return soubor.bajty;
+    const ZaznamMakra prvni{"A", {{287, 600, 1}, {511, 558, 2}}};
+    const ZaznamMakra druhe{"B", {{601, 12, 1}}};
+    return bajty_dvou(prvni, druhe, [](auto& a, auto& z) { popis_zaznamu_makra(a, z); });
 }
 
 // A desk of a few elements at rest, before the login; a refused load has left it as it was.
@@ -328,9 +322,7 @@ inline Bajty vzor_zaznamu() {
     v.delka = 100;
     v.max_rychlost = v.rychlost_trati = 90;
     v.muze_jet = v.smer = true;
-    v.stanice = {9, 3};
-    v.prijezd = {-3, 740};
-    v.odjezd = v.odjezd_realny = {725, -3};
+    v.zastavky = zastavky_vlaku({9, 3}, {-3, 740}, {725, -3});
     v.vozy = vozy_vlaku({"754", "Bp"}, {"ZAL", ""}, {"", ""});
     v.prvky = prvky_cesty({1, 5}, {1, 2}, {2, 2});
     v.prvek_konec = 0;

@@ -3,16 +3,13 @@
 #include "kolejiste/kontroly.h"
 #include "kolejiste/kresba.h"
 #include "kolejiste/vystup.h"
-#include "pomocne/zdroje.h"
+#include "pomocne/zdroj_kolejiste.h"
 #include "relief/nacti_relief.h"
 #include "relief/relief.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
 
 using namespace kolejiste;
 
@@ -80,17 +77,7 @@ std::string s_radkem(std::string_view radek) {
 const Preklad& tesk() {
     static const Preklad preklad = [] {
         Preklad p;
-        std::vector<std::filesystem::path> zdroje;
-        for (const auto& polozka : std::filesystem::directory_iterator(kZdrojeKolejiste))
-            if (polozka.path().extension() == ".tk")
-                zdroje.push_back(polozka.path());
-        std::sort(zdroje.begin(), zdroje.end());
-        for (const auto& zdroj : zdroje) {
-            std::ifstream f(zdroj, std::ios::binary);
-            std::ostringstream text;
-            text << f.rdbuf();
-            precti(text.str(), zdroj.filename().string(), p.plan, p.zavady);
-        }
+        precti_kolejiste(p.plan, p.zavady);
         p.dokonci();
         return p;
     }();

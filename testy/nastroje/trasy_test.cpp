@@ -3,14 +3,11 @@
 #include "kolejiste/kontroly.h"
 #include "kolejiste/kresba.h"
 #include "pomocne/prvky_cesty.h"
-#include "pomocne/zdroje.h"
+#include "pomocne/zdroj_kolejiste.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
 
 using namespace kolejiste;
 
@@ -121,17 +118,7 @@ std::string s_radkem(const std::string& radek) {
 const Preklad& tesk() {
     static const Preklad preklad = [] {
         Preklad p;
-        std::vector<std::filesystem::path> zdroje;
-        for (const auto& polozka : std::filesystem::directory_iterator(kZdrojeKolejiste))
-            if (polozka.path().extension() == ".tk")
-                zdroje.push_back(polozka.path());
-        std::sort(zdroje.begin(), zdroje.end());
-        for (const auto& zdroj : zdroje) {
-            std::ifstream f(zdroj, std::ios::binary);
-            std::ostringstream text;
-            text << f.rdbuf();
-            precti(text.str(), zdroj.filename().string(), p.plan, p.zavady);
-        }
+        precti_kolejiste(p.plan, p.zavady);
         p.dokonci();
         return p;
     }();

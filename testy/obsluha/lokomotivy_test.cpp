@@ -6,6 +6,7 @@
 #include "pomocne/prvky_cesty.h"
 #include "pomocne/pult.h"
 #include "pomocne/vozy_vlaku.h"
+#include "pomocne/zastavky.h"
 #include "zaklad/nahoda.h"
 
 namespace {
@@ -30,6 +31,18 @@ protected:
                 nalezeny = static_cast<int>(v);
             }
         return nalezeny;
+    }
+    // What each of them has that comes out of a depot.
+    static void over_lokomotivu(const Vlak& v, TextPohled rada, int delka) {
+        EXPECT_GE(v.cislo, 74'800);
+        EXPECT_LT(v.cislo, 75'000);
+        EXPECT_EQ(v.druh, 16);
+        EXPECT_TRUE(v.muze_jet);
+        EXPECT_EQ(v.delka, delka);
+        EXPECT_EQ(v.max_rychlost, 80);
+        EXPECT_EQ(v.rychlost_trati, 80);
+        EXPECT_EQ(v.loko_rada, cele_z_textu(rada));
+        EXPECT_EQ(rady_vozu(v.vozy), std::vector<Text>{Text(rada)});
     }
     static std::vector<Text> texty_menu() {
         std::vector<Text> texty;
@@ -62,25 +75,17 @@ TEST_F(Lokomotivy, LocomotiveOfTheDepotComesAsAShuntingMovement) {
     klik(Druh::popis_stanice, 28, Tlacitko::prave, false);
     ASSERT_TRUE(zvol_v_menu("mi754"));
     const Vlak& v = vlak(jediny());
-    EXPECT_GE(v.cislo, 74'800);
-    EXPECT_LT(v.cislo, 75'000);
-    EXPECT_EQ(v.druh, 16);
+    over_lokomotivu(v, "754", 18);
     EXPECT_FALSE(v.smer);
     EXPECT_TRUE(v.posun);
-    EXPECT_TRUE(v.muze_jet);
-    EXPECT_EQ(v.delka, 18);
-    EXPECT_EQ(v.max_rychlost, 80);
-    EXPECT_EQ(v.rychlost_trati, 80);
-    EXPECT_EQ(v.loko_rada, 754);
-    EXPECT_EQ(rady_vozu(v.vozy), std::vector<Text>{"754"});
     EXPECT_EQ(urceni_vozu(v.vozy), std::vector<Text>{""});
     EXPECT_EQ(cisla_prvku(v.prvky), std::vector<std::int16_t>{112});
     EXPECT_EQ(druhy_prvku(v.prvky), std::vector<std::uint8_t>{1});
     EXPECT_EQ(polohy_prvku(v.prvky), std::vector<std::uint8_t>{2});
-    EXPECT_EQ(v.stanice, (std::vector<std::uint8_t>{27, 12}));
-    EXPECT_EQ(v.prijezd, (std::vector<std::int16_t>{-3, 482}));
-    EXPECT_EQ(v.odjezd, (std::vector<std::int16_t>{480, -3}));
-    EXPECT_EQ(v.odjezd_realny, v.odjezd);
+    EXPECT_EQ(sloupec(v.zastavky, &Zastavka::stanice), (std::vector<std::uint8_t>{27, 12}));
+    EXPECT_EQ(sloupec(v.zastavky, &Zastavka::prijezd), (std::vector<std::int16_t>{-3, 482}));
+    EXPECT_EQ(sloupec(v.zastavky, &Zastavka::odjezd), (std::vector<std::int16_t>{480, -3}));
+    EXPECT_EQ(sloupec(v.zastavky, &Zastavka::odjezd_realny), (std::vector<std::int16_t>{480, -3}));
     EXPECT_EQ(v.stanice_index, 0);
     EXPECT_EQ(v.prvek_konec, 0);
     EXPECT_EQ(v.cislo2, 0);
@@ -149,19 +154,12 @@ TEST_F(Lokomotivy, RailcarOfTheBranchDepotComesAsATrain) {
     klik(Druh::popis_stanice, 34, Tlacitko::prave, false);
     ASSERT_TRUE(zvol_v_menu("mi850"));
     const Vlak& v = vlak(jediny());
-    EXPECT_GE(v.cislo, 74'800);
-    EXPECT_LT(v.cislo, 75'000);
-    EXPECT_EQ(v.druh, 16);
+    over_lokomotivu(v, "850", 20);
     EXPECT_TRUE(v.smer);
     EXPECT_FALSE(v.posun);
-    EXPECT_TRUE(v.muze_jet);
-    EXPECT_EQ(v.delka, 20);
-    EXPECT_EQ(v.max_rychlost, 80);
-    EXPECT_EQ(v.rychlost_trati, 80);
-    EXPECT_EQ(rady_vozu(v.vozy), std::vector<Text>{"850"});
-    EXPECT_EQ(v.stanice, (std::vector<std::uint8_t>{34, 9}));
-    EXPECT_EQ(v.prijezd, (std::vector<std::int16_t>{-3, 487}));
-    EXPECT_EQ(v.odjezd, (std::vector<std::int16_t>{480, -3}));
+    EXPECT_EQ(sloupec(v.zastavky, &Zastavka::stanice), (std::vector<std::uint8_t>{34, 9}));
+    EXPECT_EQ(sloupec(v.zastavky, &Zastavka::prijezd), (std::vector<std::int16_t>{-3, 487}));
+    EXPECT_EQ(sloupec(v.zastavky, &Zastavka::odjezd), (std::vector<std::int16_t>{480, -3}));
     EXPECT_EQ(relief.kolej[25].barva, barvy::cervena);
     EXPECT_EQ(metry(25), 200);
     EXPECT_EQ(stitek(25), text_cisla(v.cislo));

@@ -8,24 +8,12 @@
 #include "kolejiste/vystup.h"
 #include "obsluha/vstup.h"
 #include "pomocne/virtualni_platforma.h"
-#include "pomocne/zdroje.h"
-
-#include <algorithm>
-#include <filesystem>
-#include <fstream>
-#include <sstream>
+#include "pomocne/zdroj_kolejiste.h"
 
 struct DataKolejiste {
     Bajty rea, reb, top, pzz, stg, zat, zpc;
     std::vector<kolejiste::Trasa> trasy;
 };
-
-inline std::string obsah_souboru(const std::filesystem::path& cesta) {
-    std::ifstream f(cesta, std::ios::binary);
-    std::ostringstream text;
-    text << f.rdbuf();
-    return text.str();
-}
 
 inline const DataKolejiste& data_kolejiste() {
     static const DataKolejiste data = [] {
@@ -33,13 +21,7 @@ inline const DataKolejiste& data_kolejiste() {
         DataKolejiste d;
         Plan plan;
         std::vector<Zavada> zavady;
-        std::vector<std::filesystem::path> zdroje;
-        for (const auto& polozka : std::filesystem::directory_iterator(kZdrojeKolejiste))
-            if (polozka.path().extension() == ".tk")
-                zdroje.push_back(polozka.path());
-        std::sort(zdroje.begin(), zdroje.end());
-        for (const auto& zdroj : zdroje)
-            precti(obsah_souboru(zdroj), zdroj.filename().string(), plan, zavady);
+        precti_kolejiste(plan, zavady);
         const Graf graf = sestav_graf(plan, zavady);
         d.rea = soubor_reliefu(nakresli(plan, Obraz::jeden, zavady), "");
         d.reb = soubor_reliefu(nakresli(plan, Obraz::dva, zavady), "");
