@@ -377,7 +377,7 @@ Bajty soubor_tras(const std::vector<Trasa>& trasy, DruhTrasy druh) {
         if (t.druh != druh)
             continue;
         if (++radek == kRadekProgramovych) {
-            const ZaznamCesty prazdny{-3, -3, {PrvekCesty{}}, 0};
+            const ZaznamCesty prazdny{kZadny, kZadny, {PrvekCesty{}}, 0};
             popis_zaznamu_cesty(a, prazdny);
             ++radek;
         }

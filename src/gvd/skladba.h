@@ -1,12 +1,12 @@
 // gvd/skladba.h - a timetable row becomes a running train: its record and vehicles.
 #pragma once
 
-#include "zaklad/text.h"
+#include "zaklad/cisla.h"
 
 #include <cstdint>
 
-// Where `index` of vytvor_vlak says that the train has just come to its entry.
-inline constexpr int kNaVstupu = -3;
+// `index` of vytvor_vlak for a train that has just come to its entry: it stands at no stop yet.
+inline constexpr int kNaVstupu = kZadny;
 
 // --- by the traffic and the start
 
