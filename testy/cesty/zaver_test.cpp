@@ -153,9 +153,12 @@ TEST_F(Zaver, SwitchLockedUnderAClearedSignalIsNotFreedByCancellingTheRouteThatL
     EXPECT_EQ(drzitel(druh_prvku::vyhybka, 6), &cesty[0]);
     obnov_cestu(242);
     EXPECT_FALSE(cesty[1].Postavena);
-    zrus_cestu(242); // the newer one
+    zrus_cestu(242); // the newer one, and the signal goes to stop for both
+    EXPECT_FALSE(cesty[0].Postavena);
+    obnov_cestu(242);
     cekej(6);
     ASSERT_TRUE(cesty[0].Postavena);
+    EXPECT_EQ(navestni(242), barvy::zelena);
     EXPECT_EQ(cesty.size(), 1u);
     EXPECT_EQ(stav(6), 56);
 }
