@@ -109,6 +109,8 @@ class Stul:
         self.oken_v_klidu = 0  # windows of the desk alone, once it runs
 
     def konec(self):
+        if self.program is not None and self.program.poll() is None:
+            self.program.kill()  # told to end it would save its game
         for proces in (self.program, self.xvfb):
             if proces is not None and proces.poll() is None:
                 proces.terminate()

@@ -96,10 +96,10 @@ def zacatky_slov(y, vyska):
     return zacatky
 
 
-# of each crossing its name, its condition, its state and the data stand under their heads
+# the name, the condition, the state and the data of the crossing at rest stand under their heads
 BUNKA = 12
-HLAVA, RADEK_PREJEZDU = (621, 14), (643, 16)
-nadpisy, sloupce = zacatky_slov(*HLAVA), zacatky_slov(*RADEK_PREJEZDU)
+HLAVA, DRUHY_PREJEZD = (621, 14), (664, 16)
+nadpisy, sloupce = zacatky_slov(*HLAVA), zacatky_slov(*DRUHY_PREJEZD)
 assert len(sloupce) == 4, "sloupce přejezdů začínají na %s" % sloupce
 for sloupec in sloupce:
     assert min(abs(sloupec - x) for x in nadpisy) < BUNKA, "nadpisy %s, sloupce %s" % (nadpisy, sloupce)
