@@ -53,7 +53,15 @@ HLAVNI = 9
 KOLEJE_HLAVNIHO = range(26, 36)
 # where trains stop, by station
 KOLEJE_STANIC = {1: range(86, 91), 2: range(62, 66), 3: range(4), 4: range(41, 44), 6: range(66, 70),
-                 8: range(9, 19), HLAVNI: KOLEJE_HLAVNIHO, 11: range(36, 41), 13: range(70, 76), 15: range(78, 84)}
+                 7: (44, 45, 46, 93, 94, 96, 638), 8: range(9, 19), HLAVNI: KOLEJE_HLAVNIHO, 11: range(36, 41),
+                 12: (*range(47, 55), *range(57, 62)), 13: range(70, 76), 15: range(78, 84)}
+# sections of lines, and tracks like them, on which a train stops as soon as all of it is there, by station
+USEKY_ZASTAVEK = {7: (96, 638), 14: (674, 676), 21: (824, 826), 22: (728, 730), 23: (928, 930), 35: (720, 722)}
+NEJDELSI_KROK = 218  # metres that a train runs at once at the highest speed, and those at the end that it never runs
+# where trains of a timetable come in and go out beside the tracks of the stations
+VJEZDY = {5: (117,), 19: (84,), 20: (85,), 27: (55, 56), 28: (112,), 31: (91, 92), 33: (574,), 34: (25,)}
+VYJEZDY = {5: (219,), 17: (557, 595), 18: (557, 595), 19: (212,), 20: (213,), 27: (55, 56), 28: (112,), 30: (119,),
+           31: (91, 92), 33: (574,), 34: (25,)}
 NEJVYSSI_CISLO = 399998
 NEJDELSI_OBRAT_MIN = 15  # the depot looks for the set of a train up to 16 minutes before its departure
 
@@ -328,9 +336,16 @@ def zkontroluj_nazvy(k, jmeno, relief):
             for n in (blizka, daleka):
                 k.plati(relief.ma(KOLEJ, n) and n in nazvy and not nazvy[n].nazev.strip(), jmeno,
                         f"konec tratě {n}: chybí, nebo má v klidu nápis")
-    hlavni = Counter(nazvy[n].nazev for n in KOLEJE_HLAVNIHO if n in nazvy)
-    for nazev, pocet in hlavni.items():
-        k.plati(pocet == 1 and nazev.strip(), jmeno, f'název koleje hlavního nádraží "{nazev}" je tu {pocet}krát')
+    for n in KOLEJE_HLAVNIHO:
+        k.plati(n not in nazvy or nazvy[n].nazev.strip(), jmeno, f"kolej hlavního nádraží {n} nemá název")
+    for stanice, koleje in KOLEJE_STANIC.items():
+        for nazev, pocet in Counter(nazvy[n].nazev for n in koleje if n in nazvy).items():
+            k.plati(pocet == 1 or not nazev.strip(), jmeno, f'název koleje "{nazev}" je ve stanici {stanice} {pocet}krát')
+    cile = Counter(p.nazev for p in relief.podle[CIL].values())
+    navestidla = Counter(p.nazev for typ in (NAVESTIDLO, NAVESTIDLO_SER) for p in relief.podle[typ].values())
+    for druh, jmena in (("cíle", cile), ("návěstidla", navestidla)):
+        for nazev, pocet in jmena.items():
+            k.plati(pocet == 1, jmeno, f'jméno {druh} "{nazev}" je tu {pocet}krát')
 
 
 def zkontroluj_trate(k, jmeno, relief):
@@ -607,6 +622,40 @@ def zkontroluj_delku_vlaku(k, jmeno, kdo, v, relief, delky):
                     f"{kdo}: {v.delka} m se nevejde na kolej ve stanici {stanice}")
 
 
+    for stanice in set(v.stanice) & set(USEKY_ZASTAVEK):
+        for n in USEKY_ZASTAVEK[stanice]:
+            k.plati(not relief.ma(KOLEJ, n) or v.delka + NEJDELSI_KROK < delky.get(n, 60), jmeno,
+                    f"{kdo}: {v.delka} m by na úseku {n} ve stanici {stanice} nezastavil celý")
+
+
+def dosazitelne(cesty, relief, odkud):
+    """Tracks to which trains come from these over routes; on a line they run to its other end."""
+    kam = defaultdict(set)
+    for c in cesty:
+        if c.prvky:
+            kam[c.prvky[0]] |= {c.prvky[-1], *(relief.rada(c.prvky[-1]) if c.prvky[-1] >= 600 else ())}
+    hotove, fronta = set(), list(odkud)
+    while fronta:
+        n = fronta.pop()
+        if n not in hotove:
+            hotove.add(n)
+            fronta += kam[n]
+    return hotove
+
+
+def zkontroluj_jizdy(k, jmeno, vlaky, cesty, relief):
+    """From where a train comes in a way leads to where it ends."""
+    videne = {}
+    for radek, v in enumerate(vlaky, 1):
+        if not v.stanice:
+            continue
+        odkud, kam = v.stanice[0], v.stanice[-1]
+        if odkud not in videne:
+            videne[odkud] = dosazitelne(cesty, relief, VJEZDY.get(odkud, KOLEJE_STANIC.get(odkud, ())))
+        k.plati(videne[odkud] & {*VYJEZDY.get(kam, ()), *KOLEJE_STANIC.get(kam, ())}, jmeno,
+                f"řádek {radek} (vlak {v.cislo}): ze stanice {odkud} nevede cesta do stanice {kam}")
+
+
 def zkontroluj_casy(k, jmeno, kdo, v):
     """Times run on from stop to stop, also over midnight; -1 is none."""
     posledni = None
@@ -825,9 +874,10 @@ def zkontroluj_instalaci(k, slozka, navic):
     delky = zkontroluj_delky(k, jmeno["top"], zaznamy(k, jmeno["top"], data["top"], cti_delku), relief)
     zkontroluj_prejezdy(k, jmeno["pzz"], zaznamy(k, jmeno["pzz"], data["pzz"], cti_prejezd), relief, delky)
     zkontroluj_vazby(k, jmeno["stg"], zaznamy(k, jmeno["stg"], data["stg"], cti_vazby), relief)
-    dvojice = {}
+    dvojice, vsechny_cesty = {}, []
     for druh, pripona in ((1, "zat"), (2, "zpc")):
         cesty = zaznamy(k, jmeno[pripona], data[pripona], cti_cestu)
+        vsechny_cesty += cesty
         dvojice[druh] = zkontroluj_cesty(k, jmeno[pripona], cesty, reliefy, druh == 1)
         for n in sorted({p for c in cesty for p, d in zip(c.prvky or (), c.druhy or ()) if d == 1} - set(delky)):
             k.vada(jmeno["top"], f"kolej {n} má cesty a nemá délku")
@@ -840,8 +890,9 @@ def zkontroluj_instalaci(k, slozka, navic):
     k.plati(soubory, "gvd", "není žádný jízdní řád")
     for soubor in soubory:
         obsah = (pathlib.Path(gvd) / soubor).read_bytes()
-        zkontroluj_gvd(k, f"gvd/{soubor}", zaznamy(k, f"gvd/{soubor}", obsah, cti_vlak, hlavicka=True), relief,
-                       delky, obrazky)
+        vlaky = zaznamy(k, f"gvd/{soubor}", obsah, cti_vlak, hlavicka=True)
+        zkontroluj_gvd(k, f"gvd/{soubor}", vlaky, relief, delky, obrazky)
+        zkontroluj_jizdy(k, f"gvd/{soubor}", vlaky, vsechny_cesty, relief)
 
     for podslozka, pripona in (("save", ".sim"), ("save/autosave", ".sim"), ("GTN", ".gtn")):
         kde = najdi(slozka, podslozka)

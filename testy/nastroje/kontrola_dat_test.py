@@ -89,6 +89,9 @@ class Instalace(unittest.TestCase):
         self.poskozeno("data/tesk.rea", lambda b: b[:-1], "soubor končí uprostřed")
         self.poskozeno("data/tesk.rea", lambda b: zmen(b, b"JAV L1", b"JAVxL1"), "není KÓD a jméno")
         self.poskozeno("data/tesk.reb", lambda b: zmen(b, b"JAV L1", b"JAV L9"), "jiný než ve druhé kresbě")
+        self.poskozeno("data/tesk.rea", lambda b: zmen(b, b"LHO S1", b"LHO S2"), 'jméno návěstidla "LHO S2" je tu 2krát')
+        self.poskozeno("data/tesk.rea", lambda b: zmen(b, b"\x03\x57\x00\x00\x01\x001", b"\x03\x57\x00\x00\x01\x002"),
+                       'název koleje "2" je ve stanici 1 2krát')
         self.poskozeno("data/tesk.top", lambda b: b + b"9991000", "kolej 999 v kolejišti není")
         self.poskozeno("data/tesk.top", lambda b: zmen(b, b" 18 620", b" 18   0"), "délka 0")
         self.poskozeno("data/tesk.top", lambda b: b[7:], "kolej 0 má cesty a nemá délku")
@@ -123,6 +126,11 @@ class Instalace(unittest.TestCase):
         self.poskozeno(jmeno, lambda b: zmen(b, b"\x02\x005k", b"\x02\x0055"), "na hlavním nádraží není")
         self.poskozeno(jmeno, lambda b: zmen(b, b"\x5a\x47\x00", b"\x5a\xf4\x01"), "500 m se nevejde")
         self.poskozeno(jmeno, lambda b: zmen(b, b"\x03\x00843", b"\x03\x00844"), "řada 844 nemá")
+
+    def test_train_without_a_way_is_told(self):
+        (self.slozka / "data/tesk.zat").write_bytes(b"")
+        (self.slozka / "data/tesk.zpc").write_bytes(b"")
+        self.assertTrue(any("nevede cesta do stanice" in v for v in self.vady()))
 
     def test_damage_of_a_save_and_of_a_log_is_told(self):
         hra, log = self.odehraj()
