@@ -6,6 +6,7 @@
 #include <QFontInfo>
 #include <QHash>
 #include <QImage>
+#include <QPaintEngine>
 #include <QPainterPath>
 #include <QRawFont>
 
@@ -46,26 +47,41 @@ void zajisti_nahradu() {
     pismo.obrysy = QRawFont::fromFont(nahrada);
 }
 
-// The glyph fills its cell: the advance gives the width, ascent and descent the height.
-QImage nakresli_znak(const Klic& klic, double sirka, double vyska) {
-    const QVector<quint32> indexy = pismo.obrysy.glyphIndexesForString(QString::fromUcs4(&klic.znak, 1));
+// The outline of a glyph and how it is stretched to a cell: the advance gives the width, ascent and descent
+// the height. Empty for a blank and for what the font lacks.
+struct ObrysZnaku {
+    QPainterPath obrys;
+    double krat_x = 1, krat_y = 1;
+
+    void kresli(QPainter& p, QRgb barva) const {
+        p.setRenderHint(QPainter::Antialiasing);
+        p.scale(krat_x, krat_y);
+        p.translate(0, pismo.obrysy.ascent());
+        p.fillPath(obrys, QColor::fromRgba(barva));
+    }
+};
+
+ObrysZnaku obrys_znaku(char32_t znak, double sirka, double vyska) {
+    const QVector<quint32> indexy = pismo.obrysy.glyphIndexesForString(QString::fromUcs4(&znak, 1));
     if (indexy.size() != 1 || indexy.front() == 0)
         return {};
-    const QVector<QPointF> posuny = pismo.obrysy.advancesForGlyphIndexes(indexy);
-    const double sirka_znaku = posuny.front().x();
+    const double sirka_znaku = pismo.obrysy.advancesForGlyphIndexes(indexy).front().x();
     const double vyska_znaku = pismo.obrysy.ascent() + pismo.obrysy.descent();
-    const QPainterPath obrys = pismo.obrysy.pathForGlyph(indexy.front());
-    if (obrys.isEmpty() || sirka_znaku <= 0 || vyska_znaku <= 0)
+    if (sirka_znaku <= 0 || vyska_znaku <= 0)
+        return {};
+    return {pismo.obrysy.pathForGlyph(indexy.front()), sirka / sirka_znaku, vyska / vyska_znaku};
+}
+
+QImage nakresli_znak(const Klic& klic, double sirka, double vyska) {
+    const ObrysZnaku znak = obrys_znaku(klic.znak, sirka, vyska);
+    if (znak.obrys.isEmpty())
         return {};
     // one pixel more: a fraction of the width may fall behind the whole ones
     QImage obrazek(static_cast<int>(std::ceil(sirka)) + 1, static_cast<int>(std::ceil(vyska)) + 1,
                    QImage::Format_ARGB32_Premultiplied);
     obrazek.fill(Qt::transparent);
     QPainter p(&obrazek);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.scale(sirka / sirka_znaku, vyska / vyska_znaku);
-    p.translate(0, pismo.obrysy.ascent());
-    p.fillPath(obrys, QColor::fromRgba(klic.barva));
+    znak.kresli(p, klic.barva);
     return obrazek;
 }
 
@@ -137,15 +153,24 @@ void kresli_radek(QPainter& p, double x, double y, double sirka, double vyska, T
     }
     const QRgb odstin = barva_qt(barva).rgb();
     const int radek = static_cast<int>(std::lround(y));
+    // a screen gets ready-made images, a file of lines the outlines themselves
+    const bool obrysy = p.paintEngine()->type() != QPaintEngine::Raster;
     for (std::size_t i = 0; i < text.size(); ++i) {
         const auto bajt = static_cast<unsigned char>(text[i]);
         if (bajt == ' ')
             continue;
         const char32_t kod = cp1250::na_unicode(bajt);
         const char32_t znak = znaky == Znaky::znacky && pismo.nactene ? kZnakyReliefu + bajt : kod;
+        const QPoint kde(static_cast<int>(std::lround(x + static_cast<double>(i) * sirka)), radek);
+        if (obrysy) {
+            p.save();
+            p.translate(kde);
+            obrys_znaku(znak, sirka, vyska).kresli(p, odstin);
+            p.restore();
+            continue;
+        }
         const QImage& obrazek = obrazek_znaku(znak, odstin, sirka, vyska);
         if (!obrazek.isNull())
-            p.drawImage(QPoint(static_cast<int>(std::lround(x + static_cast<double>(i) * sirka)), radek),
-                        obrazek);
+            p.drawImage(kde, obrazek);
     }
 }

@@ -136,7 +136,12 @@ QRegion Platno::obnov() {
         zmenene = platno.rect();
     vse = false;
     zmenene &= platno.rect();
-    kresli(zmenene);
+    if (!zmenene.isEmpty()) {
+        QPainter p(&platno);
+        if (zmenene != QRegion(platno.rect()))
+            p.setClipRegion(zmenene);
+        kresli(p, zmenene);
+    }
     return zmenene;
 }
 
@@ -145,12 +150,7 @@ void Platno::prekresli() {
     obnov();
 }
 
-void Platno::kresli(const QRegion& kde) {
-    if (kde.isEmpty())
-        return;
-    QPainter p(&platno);
-    if (kde != QRegion(platno.rect()))
-        p.setClipRegion(kde);
+void Platno::kresli(QPainter& p, const QRegion& kde) const {
     p.fillRect(kde.boundingRect(), Qt::black);
     const QRect stul = v_bodech(QRect(0, 0, sirka_stolu, kVyskaStolu));
     nakresli_podklad(p, m, stul & kde.boundingRect());

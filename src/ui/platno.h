@@ -35,6 +35,8 @@ public:
     void prekresli();
 
     const QImage& obraz() const { return platno; }
+    // Draws the desk, as it was looked at last, on another device of the same measure: a file of lines.
+    void nakresli_na(QPainter& p) const { kresli(p, platno.rect()); }
     const Meritko& meritko() const { return m; }
     QPoint na_twipy(QPointF bod) const;       // from device pixels of the picture
     QRect v_bodech(const QRect& twipy) const; // the other way
@@ -55,7 +57,7 @@ private:
     void serad();
     void najdi_spoje();
     bool navazuje(int x, int y) const { return spoje.contains({x, y}); }
-    void kresli(const QRegion& kde);
+    void kresli(QPainter& p, const QRegion& kde) const;
 
     QImage platno;
     Meritko m;
