@@ -40,11 +40,6 @@ bool zapis(const std::filesystem::path& kam, const Bajty& obsah) {
     return zapis(kam, std::string_view(reinterpret_cast<const char*>(obsah.data()), obsah.size()));
 }
 
-int pocet_tras(const std::vector<Trasa>& trasy, DruhTrasy druh) {
-    return static_cast<int>(
-        std::count_if(trasy.begin(), trasy.end(), [&](const Trasa& t) { return t.druh == druh; }));
-}
-
 void vypis_souhrn(const Plan& plan, const std::vector<ZaznamReliefu>& jeden, const Graf& graf,
                   const std::vector<Trasa>& trasy) {
     std::printf("%-6s %-24s %6s %9s %8s %8s\n", "kód", "název", "koleje", "návěstidla", "výhybky", "délka m");
@@ -61,8 +56,9 @@ void vypis_souhrn(const Plan& plan, const std::vector<ZaznamReliefu>& jeden, con
                     koleje, navestidla, vyhybky, delka);
     }
     std::printf("záznamů reliefu %zu, spojů %zu\n", jeden.size(), graf.spoje.size() / 2);
-    std::printf("vlakových cest %d, posunových %d\n", pocet_tras(trasy, DruhTrasy::vlak),
-                pocet_tras(trasy, DruhTrasy::posun));
+    const PoctyTras p = spocti_trasy(trasy);
+    std::printf("vlakových cest %zu, posunových %zu; z %zu dvojic jich %zu nemůže stát zároveň\n",
+                p.vlakovych, p.posunovych, p.dvojic, p.vylucuje_se);
     if (const int ceka = cekajici_povinne(plan, trasy))
         std::printf("z %zu cest, o které program žádá, jich %d ještě nemá nakreslené prvky\n",
                     plan.pravidla_tras.povinne.size(), ceka);

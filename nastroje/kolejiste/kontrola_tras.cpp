@@ -420,6 +420,9 @@ void Kontrola::dvojice() {
 // the fourth corner of their rectangle, but only at its own setting. So whoever runs over that one must
 // exclude the route anyway.
 void Kontrola::boky() {
+    std::vector<Zamcene> drzi;
+    for (const Trasa& t : trasy)
+        drzi.push_back(zamcene(t));
     for (const Obraz obraz : kObrazy) {
         std::map<BodKresby, std::vector<int>> na_miste;
         for (const auto& [n, v] : vyhybky)
@@ -429,9 +432,9 @@ void Kontrola::boky() {
             for (std::size_t k = 1; k < trasy[i].zaznam.prvky.size(); ++k)
                 if (trasy[i].zaznam.prvky[k].druh == static_cast<std::uint8_t>(DruhPrvku::vyhybka))
                     cesty_pres[trasy[i].zaznam.prvky[k].prvek].push_back(i);
-        for (const Trasa& t : trasy)
-            for (std::size_t k = 1; k + 1 < t.zaznam.prvky.size(); ++k) {
-                const ZaznamCesty& z = t.zaznam;
+        for (std::size_t j = 0; j < trasy.size(); ++j)
+            for (std::size_t k = 1; k + 1 < trasy[j].zaznam.prvky.size(); ++k) {
+                const ZaznamCesty& z = trasy[j].zaznam;
                 const auto vyhybka = static_cast<std::uint8_t>(DruhPrvku::vyhybka);
                 if (z.prvky[k].druh != vyhybka || z.prvky[k + 1].druh != vyhybka)
                     continue;
@@ -444,9 +447,9 @@ void Kontrola::boky() {
                     for (const int n : na_miste[roh])
                         if (n != a && n != b && std::abs(n - a) <= 3)
                             for (const std::size_t i : cesty_pres[n])
-                                if ((zamcene(t) & zamcene(trasy[i])).none())
-                                    zavada(t, "výhybka " + s(n) + " ji chrání z boku, ale " +
-                                                  jmeno(trasy[i]) + " po ní může stát zároveň");
+                                if ((drzi[j] & drzi[i]).none())
+                                    zavada(trasy[j], "výhybka " + s(n) + " ji chrání z boku, ale " +
+                                                         jmeno(trasy[i]) + " po ní může stát zároveň");
             }
     }
 }
@@ -466,9 +469,10 @@ void Kontrola::podle_cisel() {
         const auto i = vlakove.find({c.zacatek, c.konec});
         if (i == vlakove.end()) {
             const auto od = navestidla.find(c.zacatek);
-            if (od != navestidla.end() && koleje.contains(plan.kolej_navestidla(*od->second)) &&
-                koleje.contains(c.konec) &&
-                !ceka_na_dokresleni(plan, graf, plan.kolej_navestidla(*od->second), od->second->u_konce()))
+            if (plan.pozadavky.uplne ||
+                (od != navestidla.end() && koleje.contains(plan.kolej_navestidla(*od->second)) &&
+                 koleje.contains(c.konec) &&
+                 !ceka_na_dokresleni(plan, graf, plan.kolej_navestidla(*od->second), od->second->u_konce())))
                 zavady.push_back({c.misto, kdo, "program ji potřebuje a v tabulce není"});
             continue;
         }
@@ -482,8 +486,13 @@ void Kontrola::podle_cisel() {
             zavady.push_back({c.misto, "cesta " + s(c.zacatek) + " " + s(c.konec), "v tabulce nesmí být"});
     for (const PravidlaTras::Programova& c : p.programove) {
         const std::string kdo = "cesta " + s(c.zacatek) + " " + s(c.konec) + " programu";
-        if (!std::all_of(c.koleje.begin(), c.koleje.end(), [&](int n) { return koleje.contains(n); }))
-            continue; // not drawn yet
+        const auto chybi =
+            std::find_if(c.koleje.begin(), c.koleje.end(), [&](int n) { return !koleje.contains(n); });
+        if (chybi != c.koleje.end()) {
+            if (plan.pozadavky.uplne)
+                zavady.push_back({c.misto, kdo, "kolej " + s(*chybi) + " není nakreslena"});
+            continue;
+        }
         if (!navestidla.contains(c.zacatek))
             zavady.push_back({c.misto, kdo, "návěstidlo " + s(c.zacatek) + " není nakresleno"});
         else if (!vlakove_od.contains(c.koleje.back()))
@@ -498,8 +507,9 @@ void Kontrola::odjezdy() {
             vedou.insert({t.zaznam.prvky[0].prvek, od->second->u_konce(), t.druh});
     for (const PravidlaTras::Odjezdy& o : plan.pravidla_tras.odjezdy)
         for (const int n : o.koleje)
-            if (koleje.contains(n) && !vedou.contains({n, o.strana, o.druh}) &&
-                !ceka_na_dokresleni(plan, graf, n, o.strana))
+            if (!vedou.contains({n, o.strana, o.druh}) &&
+                (plan.pozadavky.uplne ||
+                 (koleje.contains(n) && !ceka_na_dokresleni(plan, graf, n, o.strana))))
                 zavady.push_back({o.misto, "kolej " + s(n),
                                   std::string("nevede z ní žádná cesta ") +
                                       (o.strana == Strana::vpravo ? "vpravo" : "vlevo")});

@@ -3,6 +3,7 @@
 
 #include "kolejiste/kresba.h"
 #include "relief/relief.h"
+#include "uzel/dopravny.h"
 #include "uzel/kresba.h"
 #include "uzel/navestidla.h"
 #include "uzel/trate.h"
@@ -43,9 +44,10 @@ std::string druh_zaznamu(std::uint8_t typ) {
     return {};
 }
 
-std::map<std::string, std::map<int, const ZaznamReliefu*>>
-podle_druhu(const std::vector<ZaznamReliefu>& zaznamy) {
-    std::map<std::string, std::map<int, const ZaznamReliefu*>> druhy;
+using DruhyZaznamu = std::map<std::string, std::map<int, const ZaznamReliefu*>>;
+
+DruhyZaznamu podle_druhu(const std::vector<ZaznamReliefu>& zaznamy) {
+    DruhyZaznamu druhy;
     for (const ZaznamReliefu& z : zaznamy)
         if (const std::string d = druh_zaznamu(z.typ); !d.empty())
             druhy[d][z.cislo] = &z;
@@ -62,7 +64,12 @@ struct Kontrola {
         zavady.push_back({kde, std::move(kdo), std::move(text)});
     }
     void koleje(const std::map<int, const ZaznamReliefu*>& stitky);
-    void rodiny(const std::map<std::string, std::map<int, const ZaznamReliefu*>>& druhy);
+    void stitky_koleji(const std::map<int, const ZaznamReliefu*>& stitky);
+    void jmena();
+    Misto misto_prvku(const std::string& druh, int n) const;
+    void stejne_prvky(const DruhyZaznamu& jedny, const DruhyZaznamu& druhe, const char* potiz);
+    void uplnost(const std::vector<ZaznamReliefu>& jeden);
+    void rodiny(const DruhyZaznamu& druhy);
     void navestidla();
     void vyhybky();
     void prejezdy();
@@ -119,7 +126,113 @@ void Kontrola::koleje(const std::map<int, const ZaznamReliefu*>& stitky) {
             zavada(k.misto, "kolej " + s(k.cislo), "nesmí mít druhý štítek");
 }
 
-void Kontrola::rodiny(const std::map<std::string, std::map<int, const ZaznamReliefu*>>& druhy) {
+// The label that a track carries itself; none at both ends.
+const Stitek* vlastni_stitek(const Kolej& k) {
+    return k.stitky[0] ? &*k.stitky[0] : k.jediny_vpravo ? &*k.jediny_vpravo : nullptr;
+}
+
+bool je_prazdny(const Text& nazev) {
+    return nazev.find_first_not_of(' ') == Text::npos;
+}
+
+// Labels by the numbers of their tracks.
+void Kontrola::stitky_koleji(const std::map<int, const ZaznamReliefu*>& stitky) {
+    const auto stejne = [&](int a, int b) {
+        const auto x = stitky.find(a), y = stitky.find(b);
+        return x != stitky.end() && y != stitky.end() && !je_prazdny(x->second->nazev) &&
+               x->second->nazev == y->second->nazev;
+    };
+    for (const Kolej& k : plan.koleje) {
+        const std::string kdo = "kolej " + s(k.cislo);
+        const Stitek* stitek = vlastni_stitek(k);
+        const int vlastni = k.cislo - kDruhyStitek, druha = k.cislo + kDruhyStitek;
+        // The end of a route is painted by its name; the tracks towards the neighbours only show numbers.
+        if (k.cil && stitek && je_prazdny(stitek->nazev) && !je_usek_trati(k.cislo) &&
+            !uzel::je_hranicni(k.cislo) && !uzel::je_trat_dubnice(k.cislo))
+            zavada(k.misto, kdo, "konec cest potřebuje štítek s názvem");
+        // A label of such a number would be taken for the right one of the track 200 lower.
+        if (stitek && vlastni >= 0 && k.cislo < kPrvniOdstavna && !je_vstup_z_trati(k.cislo))
+            zavada(k.misto, kdo, "mezikolej nesmí mít štítek, vlak by se na něj zapsal");
+        if (je_vstup_z_trati(k.cislo) && stejne(k.cislo, vlastni))
+            zavada(k.misto, kdo, "štítek se jmenuje jako štítek koleje " + s(vlastni));
+        if (je_odstavna(k.cislo) && stejne(k.cislo, druha))
+            zavada(k.misto, kdo, "štítek se jmenuje jako štítek trati " + s(druha));
+    }
+}
+
+// An operator names a track, and a target of routes, by station and name.
+void Kontrola::jmena() {
+    // the tracks of a station by its code, those between stations by their block
+    const auto kde = [&](const Kolej& k) {
+        const uzel::KolejeStanice* stanice = uzel::stanice_koleje(k.cislo);
+        return stanice ? s(stanice->stanice) : plan.bloky[k.blok].kod;
+    };
+    std::map<std::pair<std::string, Text>, const Kolej*> podle_jmena;
+    std::map<Text, const Kolej*> cile;
+    for (const Kolej& k : plan.koleje) {
+        const Stitek* stitek = vlastni_stitek(k);
+        if (stitek && !je_prazdny(stitek->nazev))
+            if (const auto [jina, nova] = podle_jmena.try_emplace({kde(k), stitek->nazev}, &k); !nova)
+                zavada(k.misto, "kolej " + s(k.cislo),
+                       "jméno \"" + na_utf8(stitek->nazev) + "\" tu má už kolej " + s(jina->second->cislo));
+        if (k.cil)
+            if (const auto [jina, novy] = cile.try_emplace(*k.cil, &k); !novy)
+                zavada(k.misto, "kolej " + s(k.cislo),
+                       "cíl \"" + na_utf8(*k.cil) + "\" se jmenuje jako kolej " + s(jina->second->cislo));
+    }
+}
+
+// Where the source tells of an element; of one that it does not draw, where it speaks of its number.
+Misto Kontrola::misto_prvku(const std::string& druh, int n) const {
+    const auto hledej = [n](const auto& prvky, const auto& patri) -> const Zapis* {
+        for (const auto& prvek : prvky)
+            if (patri(prvek) && prvek.cislo == n)
+                return &prvek;
+        return nullptr;
+    };
+    const auto vsechny = [](const Zapis&) { return true; };
+    const Zapis* zapis = nullptr;
+    if (druh == "navestidlo" || druh == "navestidlo_ser")
+        zapis = hledej(plan.navestidla, vsechny);
+    else if (druh == "imgVyhybka")
+        zapis = hledej(plan.vyhybky, vsechny);
+    else if (druh == "lblVykolejka")
+        zapis = hledej(plan.vykolejky, vsechny);
+    else if (zapis = hledej(
+                 plan.kresby,
+                 [&](const Kresba& x) { return druh_zaznamu(static_cast<std::uint8_t>(x.typ)) == druh; });
+             !zapis) {
+        zapis = hledej(plan.koleje, vsechny);
+        if (druh == "cislo_koleje")
+            for (const Kolej& x : plan.koleje)
+                if (x.stitky[1] && x.cislo + kDruhyStitek == n)
+                    zapis = &x;
+    }
+    if (zapis)
+        return zapis->misto;
+    const auto i = p.misto_povinnych.find({druh, n});
+    return i == p.misto_povinnych.end() ? plan.bloky.front().misto : i->second;
+}
+
+void Kontrola::stejne_prvky(const DruhyZaznamu& jedny, const DruhyZaznamu& druhe, const char* potiz) {
+    for (const auto& [druh, prvky] : jedny)
+        for (const auto& [n, zaznam] : prvky)
+            if (const auto i = druhe.find(druh); i == druhe.end() || !i->second.contains(n))
+                zavada(misto_prvku(druh, n), druh + " " + s(n), potiz);
+}
+
+// Once the source says that the junction is whole nothing of what the rules demand may be missing.
+void Kontrola::uplnost(const std::vector<ZaznamReliefu>& jeden) {
+    for (const auto& [druh, cisla] : chybejici(plan, jeden))
+        for (const int n : cisla)
+            zavada(p.misto_povinnych.at({druh, n}), druh + " " + s(n), "není nakresleno");
+    for (const auto& [n, kolej] : p.kolej_prejezdu)
+        if (std::none_of(plan.prejezdy.begin(), plan.prejezdy.end(),
+                         [n = n](const PrejezdTrati& r) { return r.cislo == n; }))
+            zavada(p.misto_prejezdu.at(n), "prejezd " + s(n), "chybí záznam přejezdu na koleji " + s(kolej));
+}
+
+void Kontrola::rodiny(const DruhyZaznamu& druhy) {
     const auto je = [&](const char* druh, int n) {
         const auto i = druhy.find(druh);
         return i != druhy.end() && i->second.contains(n);
@@ -279,6 +392,8 @@ void zkontroluj(const Plan& plan, const Graf& graf, const std::vector<ZaznamReli
     const auto stitky = druhy.find("cislo_koleje");
     static const std::map<int, const ZaznamReliefu*> zadne;
     k.koleje(stitky == druhy.end() ? zadne : stitky->second);
+    k.stitky_koleji(stitky == druhy.end() ? zadne : stitky->second);
+    k.jmena();
     k.rodiny(druhy);
     k.navestidla();
     k.vyhybky();
@@ -286,26 +401,17 @@ void zkontroluj(const Plan& plan, const Graf& graf, const std::vector<ZaznamReli
     k.kresby();
     for (const Obraz o : kObrazy)
         k.poradi(o);
-    const auto misto_cisla = [&](const std::string& druh, int n) {
-        for (const Kolej& kolej : plan.koleje)
-            if (kolej.cislo == n ||
-                (druh == "cislo_koleje" && kolej.cislo + kDruhyStitek == n && kolej.stitky[1]))
-                return kolej.misto;
-        for (const Kresba& kresba : plan.kresby)
-            if (kresba.cislo == n)
-                return kresba.misto;
-        return Misto{"kolejiste", 0};
-    };
+    if (plan.pozadavky.uplne)
+        k.uplnost(jeden);
     for (const auto& [druh, zakazane] : plan.pozadavky.zakazane)
         if (const auto i = druhy.find(druh); i != druhy.end())
             for (const int n : zakazane)
                 if (i->second.contains(n))
-                    zavady.push_back(
-                        {misto_cisla(druh, n), druh + " " + s(n), "toto číslo nesmí být použito"});
+                    k.zavada(k.misto_prvku(druh, n), druh + " " + s(n), "toto číslo nesmí být použito");
     // both pictures hold the same elements
-    if (jeden.size() != dva.size())
-        zavady.push_back(
-            {Misto{"kolejiste", 0}, std::string(), "obrazy jednoho a dvou monitorů nemají stejné prvky"});
+    const auto druhy_dvou = podle_druhu(dva);
+    k.stejne_prvky(druhy, druhy_dvou, "chybí v obraze dvou monitorů");
+    k.stejne_prvky(druhy_dvou, druhy, "chybí v obraze jednoho monitoru");
 }
 
 std::map<std::string, std::vector<int>> chybejici(const Plan& plan, const std::vector<ZaznamReliefu>& jeden) {

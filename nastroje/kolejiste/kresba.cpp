@@ -2,10 +2,13 @@
 #include "kolejiste/kresba.h"
 
 #include "relief/relief.h"
+#include "uzel/kresba.h"
 #include "uzel/navestidla.h"
 
 #include <algorithm>
 #include <cmath>
+#include <map>
+#include <set>
 
 namespace kolejiste {
 
@@ -23,8 +26,9 @@ struct Plocha { // what takes room in the picture
     Obdelnik kde;
     const Zapis* zapis = nullptr;
     std::string popis;
-    bool napis = false; // text: nothing may lie on it, no line may cross it
-    int kolej = -1;     // but the line of the track that it stands on: text clears what lies under it
+    bool vysvetluje = false; // a sign
+    int kolej =
+        -1; // the track that it stands on, whose line alone may cross it: text clears what lies under it
 };
 
 struct Cara {
@@ -32,6 +36,7 @@ struct Cara {
     const Zapis* zapis = nullptr;
     std::string popis;
     int kolej = -1;
+    const Kolej* obraz_nebo_kolej = nullptr; // none of a line that is only drawn
 };
 
 // Does the line cross the inside of the rectangle? Exact, by clipping.
@@ -72,6 +77,21 @@ Mezera mezera(const Plan& plan, const Kolej& k, Strana strana) {
     return m;
 }
 
+// The word that the source has for it.
+const char* jmeno_kresby(TypReliefu typ) {
+    switch (typ) {
+    case TypReliefu::nastupiste: return "nastupiste";
+    case TypReliefu::stanoviste: return "stanoviste";
+    case TypReliefu::souhlas: return "souhlas";
+    case TypReliefu::smer_trati: return "sipka";
+    case TypReliefu::prejezd_stanice: return "prejezd_stanice";
+    case TypReliefu::prejezd_trati: return "prejezd_trati";
+    case TypReliefu::cislo_koleje: return "stitek";
+    case TypReliefu::most: return "cara";
+    default: return "popis";
+    }
+}
+
 std::int16_t twip(int x) {
     return static_cast<std::int16_t>(std::clamp(x, -32768, 32767));
 }
@@ -88,6 +108,7 @@ private:
     std::vector<Zavada>& zavady;
     std::vector<ZaznamReliefu> cile, plosne, koleje, vyhybky, napisy;
     std::vector<Plocha> plochy;
+    std::vector<Plocha> terce; // places of the targets, which a click picks
     std::vector<Cara> cary;
 
     std::string kde_to_je() const { return obraz == Obraz::jeden ? "jeden monitor" : "dva monitory"; }
@@ -102,20 +123,31 @@ private:
     void stitek(const Zapis& z, int cislo, const Stitek& s, int x, int y);
     void kresba(const Kresba& k);
     void zakonceni(const UzavrenyKonec& u);
-    void zaber(const Zapis& z, std::string kdo, int x, int y, int sirka, int vyska, bool napis,
-               int kolej = -1);
+    void zaber(const Zapis& z, std::string kdo, int x, int y, int sirka, int vyska, int kolej = -1,
+               bool vysvetluje = false);
+    BodKresby misto_portu_v(const Vyhybka& v, Port port) const {
+        const BodKresby b = bod(v, v.kde);
+        const MistoPortu p = misto_portu(port);
+        return {b.x + p.x, b.y + p.y - kOsaRadku};
+    }
     void zkontroluj_plochy();
+    void zkontroluj_terce();
+    void zkontroluj_cary();
+    void zkontroluj_konce();
 };
 
-void Kreslic::zaber(const Zapis& z, std::string kdo, int x, int y, int sirka, int vyska, bool napis,
-                    int kolej) {
-    plochy.push_back({{x, y, x + sirka, y + vyska}, &z, std::move(kdo), napis, kolej});
+void Kreslic::zaber(const Zapis& z, std::string kdo, int x, int y, int sirka, int vyska, int kolej,
+                    bool vysvetluje) {
+    plochy.push_back({{x, y, x + sirka, y + vyska}, &z, std::move(kdo), vysvetluje, kolej});
 }
 
 void Kreslic::stitek(const Zapis& z, int cislo, const Stitek& s, int x, int y) {
     napisy.push_back({static_cast<std::uint8_t>(TypReliefu::cislo_koleje), static_cast<std::int16_t>(cislo),
                       0, s.nazev, twip(x), 0, twip(y), 0});
-    zaber(z, "cislo_koleje " + std::to_string(cislo), x, y, s.sirka * kSloupec, kRadek, true, z.cislo);
+    const std::string kdo = "cislo_koleje " + std::to_string(cislo);
+    if (static_cast<int>(s.nazev.size()) > s.sirka)
+        zavada(z, kdo, "jméno je delší než " + std::to_string(s.sirka) + " sloupců štítku");
+    zaber(z, kdo, x, y, s.sirka * kSloupec, kRadek, z.cislo);
 }
 
 void Kreslic::kolej(const Kolej& k) {
@@ -149,11 +181,12 @@ void Kreslic::kolej(const Kolej& k) {
             const int od = l.x + vlevo.navestidlo * kSloupec, po = p.x - vpravo.navestidlo * kSloupec;
             cile.push_back({static_cast<std::uint8_t>(TypReliefu::cil), static_cast<std::int16_t>(k.cislo), 0,
                             *k.cil, twip(od), twip(po - od), twip(y), kRadek});
+            terce.push_back({{od, y, po, y + kRadek}, &k, "cil " + std::to_string(k.cislo), false, k.cislo});
         }
     }
     koleje.push_back({static_cast<std::uint8_t>(TypReliefu::kolej), static_cast<std::int16_t>(k.cislo), 0,
                       Text(), twip(l.x), twip(p.x), twip(l.y), twip(p.y)});
-    cary.push_back({l, p, &k, kdo, k.vzor.value_or(k.cislo)});
+    cary.push_back({l, p, &k, kdo, k.vzor.value_or(k.cislo), &k});
 }
 
 void Kreslic::navestidlo(const Navestidlo& n) {
@@ -181,7 +214,7 @@ void Kreslic::navestidlo(const Navestidlo& n) {
         {static_cast<std::uint8_t>(n.posunove ? TypReliefu::navestidlo_ser : TypReliefu::navestidlo),
          static_cast<std::int16_t>(n.cislo), static_cast<std::uint8_t>(n.znak), n.jmeno, twip(vlevo), 0,
          twip(rada(b.y)), 0});
-    zaber(n, kdo, b.x, rada(b.y), kSloupec, kRadek, true, plan.kolej_navestidla(n));
+    zaber(n, kdo, b.x, rada(b.y), kSloupec, kRadek, plan.kolej_navestidla(n));
 }
 
 void Kreslic::kresba(const Kresba& k) {
@@ -194,14 +227,15 @@ void Kreslic::kresba(const Kresba& k) {
                     0,
                     twip(rada(b.y)),
                     0};
-    const std::string kdo = k.typ == TypReliefu::popis_stanice ? "popis \"" + na_utf8(k.nazev) + "\""
-                                                               : "kresba " + std::to_string(k.cislo);
+    const std::string kdo = k.typ == TypReliefu::popis_stanice
+                                ? "popis \"" + na_utf8(k.nazev) + "\""
+                                : std::string(jmeno_kresby(k.typ)) + " " + std::to_string(k.cislo);
     if (k.kam) {
         const BodKresby do_ = bod(k, *k.kam);
         z.b = twip(do_.x);
         z.c = twip(b.y);
         z.d = twip(do_.y);
-        cary.push_back({b, do_, &k, kdo, -1});
+        cary.push_back({b, do_, &k, kdo, -1, nullptr});
         plosne.push_back(std::move(z));
         return;
     }
@@ -219,7 +253,7 @@ void Kreslic::kresba(const Kresba& k) {
     }
     if (k.typ == TypReliefu::prejezd_trati)
         z.a = twip(b.x + kSloupec); // its first lamp stands 100 to the left
-    zaber(k, kdo, b.x, rada(b.y), sirka, k.vyska * kRadek, napis);
+    zaber(k, kdo, b.x, rada(b.y), sirka, k.vyska * kRadek, -1, k.typ == TypReliefu::popis_stanice);
     (napis ? napisy : plosne).push_back(std::move(z));
 }
 
@@ -248,7 +282,7 @@ void Kreslic::zkontroluj_plochy() {
         const Plocha& a = plochy[i];
         meze(*a.zapis, a.popis, a.kde);
         for (std::size_t j = i + 1; j < plochy.size(); ++j)
-            if ((a.napis || plochy[j].napis) && a.kde.prekryva(plochy[j].kde))
+            if (a.kde.prekryva(plochy[j].kde))
                 zavada(*a.zapis, a.popis, "překrývá se s " + plochy[j].popis);
     }
     for (const Cara& c : cary) {
@@ -264,6 +298,80 @@ void Kreslic::zkontroluj_plochy() {
     }
 }
 
+// A click on a target means its track: no other target lies under it, and nothing that belongs elsewhere.
+void Kreslic::zkontroluj_terce() {
+    for (std::size_t i = 0; i < terce.size(); ++i) {
+        const Plocha& a = terce[i];
+        for (std::size_t j = i + 1; j < terce.size(); ++j)
+            if (a.kde.prekryva(terce[j].kde))
+                zavada(*a.zapis, a.popis, "překrývá se s " + terce[j].popis);
+        for (const Plocha& p : plochy)
+            if (p.kolej != a.kolej && a.kde.prekryva(p.kde))
+                zavada(*a.zapis, a.popis, "překrývá se s " + p.popis);
+    }
+}
+
+// Two lines may cross, but not run on each other.
+void Kreslic::zkontroluj_cary() {
+    const auto vedle = [](const Cara& c, BodKresby b) { // twice the area between the line and the point
+        return static_cast<std::int64_t>(c.b.x - c.a.x) * (b.y - c.a.y) -
+               static_cast<std::int64_t>(c.b.y - c.a.y) * (b.x - c.a.x);
+    };
+    for (std::size_t i = 0; i < cary.size(); ++i)
+        for (std::size_t j = i + 1; j < cary.size(); ++j) {
+            const Cara &a = cary[i], &b = cary[j];
+            if (vedle(a, b.a) != 0 || vedle(a, b.b) != 0)
+                continue;
+            const bool svisla = a.a.x == a.b.x;
+            const auto rozsah = [svisla](const Cara& c) {
+                return svisla ? std::minmax(c.a.y, c.b.y) : std::minmax(c.a.x, c.b.x);
+            };
+            if (const auto ra = rozsah(a), rb = rozsah(b);
+                std::max(ra.first, rb.first) < std::min(ra.second, rb.second))
+                zavada(*b.zapis, b.popis, "běží po čáře " + a.popis);
+        }
+}
+
+// A line that breaks off in the picture and goes on elsewhere has a sign beside its end that says where to;
+// the edge of the desk says it by itself.
+void Kreslic::zkontroluj_konce() {
+    constexpr int kDaleko = 3, kNadNebo = 2; // columns and rows between the end and its sign
+    const int sirka = (obraz == Obraz::jeden ? 1 : 2) * kSloupcuJeden * kSloupec;
+    std::map<BodKresby, int> dotyky;
+    for (const Cara& c : cary)
+        ++dotyky[c.a], ++dotyky[c.b];
+    for (const Vyhybka& v : plan.vyhybky)
+        for (const Port port : tvar_vyhybky(v.poloha).nohy)
+            if (port != Port::zadny)
+                ++dotyky[misto_portu_v(v, port)];
+    // behind the signal panel a line runs on unseen
+    const auto je_u_panelu = [](BodKresby b) {
+        return b.x >= kPanelVlevo && b.x <= kPanelVpravo + kSloupec && b.y >= kPanelNahore &&
+               b.y <= kPanelDole;
+    };
+    const auto je_u_okraje = [&](BodKresby b) { return b.x == 0 || b.x == sirka || je_u_panelu(b); };
+    const auto ma_napis = [&](BodKresby b) {
+        return std::any_of(plochy.begin(), plochy.end(), [&](const Plocha& p) {
+            return p.vysvetluje && p.kde.x1 <= b.x + kDaleko * kSloupec &&
+                   p.kde.x2 >= b.x - kDaleko * kSloupec && p.kde.y1 <= b.y + kNadNebo * kRadek &&
+                   p.kde.y2 >= b.y - kNadNebo * kRadek;
+        });
+    };
+    const auto zkontroluj = [&](const Zapis& z, const std::string& kdo, BodKresby b) {
+        if (dotyky[b] < 2 && !je_u_okraje(b) && !ma_napis(b))
+            zavada(z, kdo, "čára tu končí a žádný nápis neříká, kam vede");
+    };
+    std::set<Konec> jinde; // ends that are joined by name
+    for (const Spoj& spoj : plan.spoje)
+        jinde.insert({spoj.a, spoj.b});
+    for (const Cara& c : cary)
+        if (const auto* k = c.obraz_nebo_kolej; k && !je_v(k->cislo, uzel::kSkryteKoleje))
+            for (const Port port : {Port::vlevo, Port::vpravo})
+                if (k->vzor || jinde.contains({Typ::kolej, k->cislo, port}))
+                    zkontroluj(*k, c.popis + (port == Port::vlevo ? " vlevo" : " vpravo"),
+                               port == Port::vlevo ? c.a : c.b);
+}
+
 std::vector<ZaznamReliefu> Kreslic::nakresli() {
     for (const Kolej& k : plan.koleje)
         kolej(k);
@@ -271,14 +379,14 @@ std::vector<ZaznamReliefu> Kreslic::nakresli() {
         const BodKresby b = bod(v, v.kde);
         vyhybky.push_back({static_cast<std::uint8_t>(TypReliefu::vyhybka), static_cast<std::int16_t>(v.cislo),
                            0, std::to_string(v.poloha), twip(b.x), 0, twip(rada(b.y)), 0});
-        zaber(v, "vyhybka " + std::to_string(v.cislo), b.x, rada(b.y), kSirkaVyhybky, kVyskaVyhybky, true);
+        zaber(v, "vyhybka " + std::to_string(v.cislo), b.x, rada(b.y), kSirkaVyhybky, kVyskaVyhybky);
     }
     for (const Vykolejka& d : plan.vykolejky) {
         const BodKresby b = bod(d, d.kde);
         vyhybky.push_back({static_cast<std::uint8_t>(TypReliefu::vykolejka),
                            static_cast<std::int16_t>(d.cislo), static_cast<std::uint8_t>(d.znak), Text(),
                            twip(b.x), 0, twip(rada(b.y)), 0});
-        zaber(d, "vykolejka " + std::to_string(d.cislo), b.x, rada(b.y), kSloupec, kRadek, true);
+        zaber(d, "vykolejka " + std::to_string(d.cislo), b.x, rada(b.y), kSloupec, kRadek);
     }
     for (const Navestidlo& n : plan.navestidla)
         navestidlo(n);
@@ -287,6 +395,9 @@ std::vector<ZaznamReliefu> Kreslic::nakresli() {
     for (const UzavrenyKonec& u : plan.konce)
         zakonceni(u);
     zkontroluj_plochy();
+    zkontroluj_terce();
+    zkontroluj_cary();
+    zkontroluj_konce();
 
     std::vector<ZaznamReliefu> vse;
     for (const auto* skupina : {&cile, &plosne, &koleje, &vyhybky, &napisy})

@@ -170,6 +170,11 @@ struct Pozadavky {
     };
     std::vector<Poradi> poradi;
     std::map<int, int> kolej_prejezdu; // crossing record to its track
+    // Where each demanded number stands, by kind; and that of each crossing record.
+    std::map<std::pair<std::string, int>, Misto> misto_povinnych;
+    std::map<int, Misto> misto_prejezdu;
+    // The source says that the junction is whole: what is demanded and is not drawn is a fault.
+    bool uplne = false;
 };
 
 enum class DruhTrasy : std::uint8_t { vlak, posun }; // tables tesk.zat and tesk.zpc

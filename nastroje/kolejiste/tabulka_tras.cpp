@@ -117,16 +117,25 @@ std::string popis_prvku_trasy(const ZaznamCesty& z, std::size_t k) {
     return n;
 }
 
+PoctyTras spocti_trasy(const std::vector<Trasa>& trasy) {
+    PoctyTras p;
+    for (const Trasa& t : trasy)
+        ++(t.druh == DruhTrasy::vlak ? p.vlakovych : p.posunovych);
+    p.dvojic = trasy.empty() ? 0 : trasy.size() * (trasy.size() - 1) / 2;
+    p.vylucuje_se = spocti_vylucovani(trasy).dvojic;
+    return p;
+}
+
 std::string tabulka_tras(const Plan& plan, const std::vector<Trasa>& trasy) {
     const Vylucovani vylucovani = spocti_vylucovani(trasy);
     std::string text;
     for (std::size_t b = 0; b < plan.bloky.size(); ++b)
         for (const DruhTrasy druh : kDruhyTras)
             text += oddil(plan, b, druh, trasy, vylucovani);
-    const auto vlakovych =
-        std::count_if(trasy.begin(), trasy.end(), [](const Trasa& t) { return t.druh == DruhTrasy::vlak; });
-    return text + "cest " + std::to_string(trasy.size()) + ", z toho vlakových " + std::to_string(vlakovych) +
-           "; dvojic, které nemohou stát spolu, " + std::to_string(vylucovani.dvojic) + "\n";
+    const PoctyTras p = spocti_trasy(trasy);
+    return text + "cest " + std::to_string(trasy.size()) + ", z toho vlakových " +
+           std::to_string(p.vlakovych) + "; dvojic, které nemohou stát spolu, " +
+           std::to_string(p.vylucuje_se) + "\n";
 }
 
 } // namespace kolejiste

@@ -314,9 +314,6 @@ void Odvozeni::zkontroluj_pravidla() {
                 {r.misto, jmeno_pravidla(r),
                  std::string("od tohoto návěstidla nezačíná ") + jmeno_druhu(r.druh) + " cesta"});
     }
-    for (const auto& [n, trida] : pravidla.rychlost)
-        if (trida == 1)
-            zavady.push_back({{"kolejiste", 0}, "rychlost " + s(n), "40 km/h platí i bez tohoto pravidla"});
 }
 
 std::vector<Trasa> Odvozeni::vsechny() {

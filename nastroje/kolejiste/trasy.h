@@ -46,6 +46,12 @@ bool ceka_na_dokresleni(const Plan& plan, const Graf& graf, int kolej, Strana st
 inline constexpr std::size_t kRadekProgramovych = 999;
 Bajty soubor_tras(const std::vector<Trasa>& trasy, DruhTrasy druh);
 
+// How many routes there are, how many pairs of them, and how many of the pairs cannot stand at once.
+struct PoctyTras {
+    std::size_t vlakovych = 0, posunovych = 0, dvojic = 0, vylucuje_se = 0;
+};
+PoctyTras spocti_trasy(const std::vector<Trasa>& trasy);
+
 // A table for the eye: every station with its routes, their elements, and with how many others each cannot
 // stand at once.
 std::string tabulka_tras(const Plan& plan, const std::vector<Trasa>& trasy);

@@ -113,6 +113,8 @@ void cti_rychlost(Veta& v) {
     const int trida = v.cislo("třída rychlosti");
     if (trida < 0 || trida > 3)
         nesrozumitelne("třídy rychlosti jsou 0 až 3");
+    if (trida == 1)
+        nesrozumitelne("40 km/h platí i bez tohoto pravidla");
     for (const int n : v.rada())
         rekni_jednou(v.plan.pravidla_tras.rychlost, n, trida);
     cti_duvod(v);
@@ -143,7 +145,14 @@ template <std::map<std::string, std::set<int>> Pozadavky::*Seznam> void cti_cisl
     const std::string druh = v.slovo("druh prvku").text;
     if (!druh_podle_jmena(druh))
         nesrozumitelne("druh \"" + druh + "\" není");
-    (v.plan.pozadavky.*Seznam)[druh].merge(v.rada());
+    const std::set<int> cisla = v.rada();
+    for (const int n : cisla)
+        v.plan.pozadavky.misto_povinnych.try_emplace({druh, n}, v.misto);
+    (v.plan.pozadavky.*Seznam)[druh].insert(cisla.begin(), cisla.end());
+}
+
+void cti_uplne(Veta& v) {
+    v.plan.pozadavky.uplne = true;
 }
 
 void cti_nejmene(Veta& v) {
@@ -188,8 +197,10 @@ void cti_zprava(Veta& v) {
 
 void cti_prejezd_na(Veta& v) {
     const int n = v.cislo("kolej");
-    for (const int k : v.rada())
+    for (const int k : v.rada()) {
         v.plan.pozadavky.kolej_prejezdu[k] = n;
+        v.plan.pozadavky.misto_prejezdu[k] = v.misto;
+    }
 }
 
 constexpr Druh kVetyPozadavku[] = {
@@ -203,6 +214,7 @@ constexpr Druh kVetyPozadavku[] = {
     {"zleva", &cti_zleva},
     {"zprava", &cti_zprava},
     {"prejezd_na", &cti_prejezd_na},
+    {"uplne", &cti_uplne},
 };
 
 } // namespace

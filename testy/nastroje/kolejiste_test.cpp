@@ -220,7 +220,7 @@ TEST(GrafKolejiste, JoinToAnUnknownEndIsAFault) {
 }
 
 TEST(GrafKolejiste, SecondDrawingIsNoPartOfTheGraph) {
-    const Preklad p(s_radkem("obrazy 63 70\nobraz 70 vzor 63 40,8 44,8"));
+    const Preklad p(s_radkem("obrazy 63 70\nobraz 70 vzor 63 40,8 44,8\npopis \"A\" 37,8\npopis \"B\" 45,8"));
     EXPECT_EQ(p.vsechny(), "");
     EXPECT_EQ(p.graf.soused({Typ::kolej, 70, Port::vlevo}), std::nullopt);
     ASSERT_NE(p.zaznam(TypReliefu::kolej, 70), nullptr);
