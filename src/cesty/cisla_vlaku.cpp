@@ -226,9 +226,8 @@ void smaz_z_konce(const Cesta& cesta, TextPohled text, bool tiche) {
         ukaz_stojici_vlak(posledni);
     if (const int usek = uzel::usek_za_vstupem(posledni); usek != kZadny)
         pis_cislo(usek, text, true, tiche); // the second element of a line end shows the same train
-    if (je_konec_pred_trati(posledni))
-        pis_cislo(trat_za_koleji(posledni), text, true, tiche);
-    // Where the numbered end is another element than the last one, the number stands there too.
+    // Where the numbered end is another element than the last one, the number stands there too. A route whose
+    // last element is a track before a line comes out of that line: there the number stays with its train.
     if (cesta.konec != posledni && ukazuje(cesta.konec, text)) {
         pis_cislo(cesta.konec, text, true, tiche);
         if (je_konec_pred_trati(cesta.konec))

@@ -12,6 +12,7 @@
 #include "prvky/stav_vyhybek.h"
 #include "prvky/vyhybky.h"
 #include "relief/relief.h"
+#include "uzel/trate.h"
 #include "uzel/vyhybky.h"
 #include "zaklad/cisla.h"
 
@@ -148,10 +149,15 @@ TEST_F(ProvozTras, TrainRouteThatIsTakenBackLeavesNothingBehind) {
             do_klidu();
             stanicni_prejezdy = {};
             const int kolej = t.zaznam.prvky.front().prvek;
-            const int stitek = kolej < 600 ? kolej : 600 + kolej % 50;
             const int s = t.zaznam.zacatek;
+            const int stitek = s == uzel::kNavestidloNaKonciTrati ? uzel::kStitekPredNim
+                               : kolej < 600                      ? kolej
+                                                                  : 600 + kolej % 50;
             relief.kolej[kolej].barva = barvy::cervena;
             relief.cislo_koleje[stitek].text = TextPohled("77601");
+            for (const uzel::ObrazStitku& obraz : uzel::kObrazyStitku)
+                if (obraz.vzor == stitek)
+                    relief.cislo_koleje[obraz.kopie].text = TextPohled("77601");
             const auto pred = obraz_klidu();
             ASSERT_TRUE(najdi_cestu(s, t.zaznam.konec, pn ? druh_volby::pn : druh_volby::vlak, false));
             for (int i = 0; i < 60 && !cesty[0].Postavena; ++i) // a crossing takes its time
