@@ -103,7 +103,8 @@ class Instalace(unittest.TestCase):
         prvni = k.cti_cestu(k.Ctecka((self.slozka / "data/tesk.zat").read_bytes()))
         m = len(prvni.prvky)
         druhy, polohy, rychlost = 4 + 10 + 2 * m + 10, 4 + 10 + 2 * m + 10 + m + 10, 4 + 10 + 2 * m + 2 * (10 + m)
-        vyhybka = prvni.druhy.index(2)
+        # a plain switch: three positions on, a double slip would still lie in one of its own
+        vyhybka = next(i for i, (druh, poloha) in enumerate(zip(prvni.druhy, prvni.polohy)) if druh == 2 and poloha < 25)
 
         def prepis(misto, hodnota):
             return lambda b: b[:misto] + bytes([hodnota]) + b[misto + 1:]
