@@ -1,11 +1,14 @@
 // nastroje/gvd/prekladac.cpp - reads the timetable source statement by statement.
 #include "gvd/prekladac.h"
 
+#include "jizda/souprava.h"
 #include "slova.h"
+#include "uzel/dopravny.h"
 #include "zaklad/cisla.h"
 
 #include <algorithm>
 #include <array>
+#include <map>
 #include <optional>
 #include <set>
 #include <span>
@@ -60,6 +63,8 @@ std::optional<int> kod_podle_jmena(const std::string& jmeno) {
     return std::nullopt;
 }
 
+constexpr std::uint8_t kVesela = 36;
+
 // Veselá, Skalka, Ořechov: names without a track.
 bool je_jen_jmeno(int kod) {
     return kod >= 36 && kod <= 38;
@@ -91,6 +96,18 @@ struct Takt {
         krok_cisla = 0; // minutes, minute of the last departure, step of the number
 };
 
+// A statement of a block that trains take over.
+struct RadekBloku {
+    int radek = 0;
+    std::vector<Slovo> slova;
+};
+// What stands under a name: the set of trains (`vzor`), or their run (`trasa`).
+struct Blok {
+    bool pouzit = false;
+    int radek = 0;
+    std::vector<RadekBloku> radky;
+};
+
 // The compiler's place in the source.
 struct Prekladac {
     JizdniRad rad;
@@ -101,6 +118,10 @@ struct Prekladac {
     int radek_vlaku = 0;
     std::optional<Takt> takt;
     std::set<std::tuple<std::int32_t, int>> cisla; // number and day already used
+    std::map<std::string, Blok> vzory, trasy;
+    Blok* blok = nullptr;    // the one that is being written
+    int posun_min = 0;       // of the times that come out of a `trasa`
+    std::set<int> vynechane; // first departures that the clock face leaves out
 
     void hlas(const std::string& zprava) { hlas_na(radek, zprava); }
     void hlas_na(int kde, const std::string& zprava) {
@@ -139,10 +160,39 @@ struct Prekladac {
         if (vlak.vozy_vlaky.size() > vlak.vozy.size())
             hlas_na(radek_vlaku, "„dale“ má více údajů než „vozy“");
         vlak.vozy_vlaky.resize(std::max<std::size_t>(vlak.vozy.size(), 1), 0);
+        oznac_hrabov();
         zkontroluj_casy();
         vloz_vlak();
         v_vlaku = false;
         takt.reset();
+        for (const int t : vynechane)
+            hlas_na(radek_vlaku, "„krome“ vynechává odjezd " + text_casu_min(t) + ", v němž nic nejede");
+        vynechane.clear();
+    }
+
+    static std::string text_casu_min(int t) {
+        return std::to_string(t / 60) + ":" + (t % 60 < 10 ? "0" : "") + std::to_string(t % 60);
+    }
+
+    // A train with one cab that the start of a simulation puts down at Vyšní Hrabov could not turn there. A
+    // name behind the stop makes it face the left; one before it counts the train as being at the name.
+    void oznac_hrabov() {
+        const auto& vozy = vlak.vozy;
+        const auto stanoviste = [](const Text& v) { return je_loko(v) || je_ridici_vuz(v); };
+        if (vozy.empty() || (stanoviste(vozy.front()) && stanoviste(vozy.back())))
+            return;
+        for (std::size_t k = 1; k + 1 < vlak.zastavky.size(); ++k) {
+            if (vlak.zastavky[k].stanice != dopravna::vysni_hrabov ||
+                je_jen_jmeno(vlak.zastavky[k - 1].stanice) || je_jen_jmeno(vlak.zastavky[k + 1].stanice))
+                continue;
+            const bool vlevo =
+                je_v(vlak.zastavky[k + 1].stanice,
+                     {dopravna::lhotin, dopravna::javorin, dopravna::podoli, dopravna::javorin_dolni});
+            const auto misto = static_cast<std::ptrdiff_t>(vlevo ? k + 1 : k);
+            vlak.zastavky.insert(vlak.zastavky.begin() + misto,
+                                 ZastavkaGvd{kVesela, kBezCasu, vlak.zastavky[k].odjezd});
+            ++k;
+        }
     }
 
     void zkontroluj_casy() {
@@ -173,18 +223,24 @@ struct Prekladac {
             v.navazny_vlak = text_cisla(static_cast<std::int32_t>(*navazny) + krok);
     }
 
+    void pridej_vlak(const GvdVlak& v) {
+        for (int den = 0; den < 8; ++den)
+            if ((v.dny >> den & 1) != 0 && !cisla.insert({v.cislo, den}).second) {
+                hlas_na(radek_vlaku, "číslo " + std::to_string(v.cislo) + " jede týž den dvakrát");
+                break;
+            }
+        rad.vlaky.push_back(v);
+        rad.radky.push_back(radek_vlaku);
+    }
+
     void vloz_vlak() {
         const auto prvni = [](const GvdVlak& v) {
             return v.zastavky.empty() ? 0 : static_cast<int>(v.zastavky[0].odjezd);
         };
         GvdVlak dalsi = vlak;
         while (true) {
-            for (int den = 0; den < 8; ++den)
-                if ((dalsi.dny >> den & 1) != 0 && !cisla.insert({dalsi.cislo, den}).second) {
-                    hlas_na(radek_vlaku, "číslo " + std::to_string(dalsi.cislo) + " jede týž den dvakrát");
-                    break;
-                }
-            rad.vlaky.push_back(dalsi);
+            if (vynechane.erase(prvni(dalsi)) == 0)
+                pridej_vlak(dalsi);
             if (!takt || prvni(dalsi) + takt->perioda > takt->posledni)
                 return;
             dalsi.cislo += takt->krok_cisla;
@@ -249,7 +305,10 @@ struct Prekladac {
         const auto udaj = [&](std::size_t i) -> std::optional<std::int16_t> {
             if (i >= s.size())
                 return std::nullopt;
-            return s[i].text == "-" ? std::optional<std::int16_t>(kBezCasu) : cas(s[i].text);
+            if (s[i].text == "-")
+                return kBezCasu;
+            const auto t = cas(s[i].text);
+            return t ? std::optional<std::int16_t>(static_cast<std::int16_t>(*t + posun_min)) : t;
         };
         const auto prvni = udaj(2);
         const auto druhy = projizdi ? prvni : udaj(3);
@@ -308,6 +367,76 @@ struct Prekladac {
         takt = Takt{*perioda, *posledni, *krok};
     }
 
+    // The clock face leaves out trains that would begin at these times.
+    void krome(const std::vector<Slovo>& s) {
+        for (std::size_t i = 1; i < s.size(); ++i)
+            if (const auto t = cas(s[i].text))
+                vynechane.insert(*t);
+            else
+                hlas("za slovem „krome“ mají být první odjezdy h:mm");
+    }
+
+    // The whole set, locomotive and all, goes on as that train.
+    void obeh(const std::vector<Slovo>& s) {
+        const auto cislo = cislo_do(s, 1, 32767);
+        if (!cislo)
+            return;
+        if (vlak.vozy.empty())
+            hlas("„obeh“ má stát až za „vozy“");
+        vlak.vozy_vlaky.assign(vlak.vozy.size(), static_cast<std::int16_t>(*cislo));
+        vlak.navazny_vlak = text_cisla(*cislo);
+    }
+
+    void prevezmi_blok(std::map<std::string, Blok>& bloky, const std::string& jmeno) {
+        const auto misto = bloky.find(jmeno);
+        if (misto == bloky.end()) {
+            hlas("neznámé jméno „" + jmeno + "“");
+            return;
+        }
+        misto->second.pouzit = true;
+        const int tady = radek;
+        for (const RadekBloku& r : misto->second.radky) {
+            radek = r.radek;
+            udaj_vlaku(r.slova);
+        }
+        radek = tady;
+    }
+
+    void podle(const std::vector<Slovo>& s) {
+        if (s.size() != 2)
+            hlas("za slovem „podle“ má být jméno vzoru");
+        else
+            prevezmi_blok(vzory, s[1].text);
+    }
+
+    void jede(const std::vector<Slovo>& s) {
+        const auto t = s.size() == 3 ? cas(s[2].text) : std::nullopt;
+        if (!t) {
+            hlas("za slovem „jede“ má být jméno trasy a čas h:mm");
+            return;
+        }
+        posun_min = *t;
+        prevezmi_blok(trasy, s[1].text);
+        posun_min = 0;
+    }
+
+    void zacni_blok(std::map<std::string, Blok>& bloky, const std::vector<Slovo>& s) {
+        uzavri_vlak();
+        if (s.size() != 2 || bloky.contains(s[1].text)) {
+            hlas("za slovem „" + s[0].text + "“ má být nové jméno");
+            return;
+        }
+        blok = &bloky[s[1].text];
+        blok->radek = radek;
+    }
+
+    void uzavri_bloky() {
+        for (const auto* bloky : {&vzory, &trasy})
+            for (const auto& [jmeno, b] : *bloky)
+                if (!b.pouzit)
+                    hlas_na(b.radek, "podle jména „" + jmeno + "“ nic nejede");
+    }
+
     struct Udaj {
         std::string_view slovo;
         void (Prekladac::*cti)(const std::vector<Slovo>&);
@@ -330,7 +459,16 @@ struct Prekladac {
         if (slovo == "popis") {
             rad.popis = s.size() > 1 ? z_utf8(s[1].text) : Text{};
         } else if (slovo == "vlak") {
+            blok = nullptr;
             zacni_vlak(s);
+        } else if (slovo == "vzor") {
+            zacni_blok(vzory, s);
+        } else if (slovo == "trasa") {
+            zacni_blok(trasy, s);
+        } else if (blok != nullptr && (slovo == "podle" || slovo == "jede")) {
+            hlas("„" + slovo + "“ patří k vlaku");
+        } else if (blok != nullptr) {
+            blok->radky.push_back({radek, s});
         } else if (!v_vlaku) {
             hlas("„" + slovo + "“ patří k vlaku, ale žádný vlak ještě nezačal");
         } else {
@@ -357,6 +495,10 @@ std::span<const Prekladac::Udaj> Prekladac::udaje() {
         {"poznamka", &Prekladac::text_vlaku<&GvdVlak::poznamka>},
         {"zmena", &Prekladac::zmena},
         {"takt", &Prekladac::cti_takt},
+        {"krome", &Prekladac::krome},
+        {"obeh", &Prekladac::obeh},
+        {"podle", &Prekladac::podle},
+        {"jede", &Prekladac::jede},
     };
     return kUdaje;
 }
@@ -364,7 +506,14 @@ std::span<const Prekladac::Udaj> Prekladac::udaje() {
 } // namespace
 
 JizdniRad preloz_jizdni_rad(std::string_view zdroj, std::vector<ChybaZdroje>& chyby) {
-    Prekladac p{.rad = {}, .chyby = chyby, .vlak = {}, .takt = {}, .cisla = {}};
+    Prekladac p{.rad = {},
+                .chyby = chyby,
+                .vlak = {},
+                .takt = {},
+                .cisla = {},
+                .vzory = {},
+                .trasy = {},
+                .vynechane = {}};
     while (!zdroj.empty()) {
         ++p.radek;
         const std::size_t konec = zdroj.find('\n');
@@ -374,6 +523,7 @@ JizdniRad preloz_jizdni_rad(std::string_view zdroj, std::vector<ChybaZdroje>& ch
         zdroj.remove_prefix(konec == std::string_view::npos ? zdroj.size() : konec + 1);
     }
     p.uzavri_vlak();
+    p.uzavri_bloky();
     return std::move(p.rad);
 }
 

@@ -1,7 +1,8 @@
 // nastroje/gvd/prekladac.h - the timetable compiler: readable text into rows of the timetable file.
 //
 // The source is UTF-8, one statement a line, `#` starts a comment. A train begins with `vlak` and runs to
-// the next one; its stops follow in running order. docs/jizdni-rad.md tells the language.
+// the next one; its stops follow in running order. docs/jizdni-rad.md tells the language. Whether what is
+// written can be run is the matter of gvd/dukaz.h.
 #pragma once
 
 #include "gvd/gvd.h"
@@ -13,6 +14,7 @@
 struct JizdniRad {
     Text popis;                 // description shown by the start screen
     std::vector<GvdVlak> vlaky; // in the order of the source: the first of two that contend is the first
+    std::vector<int> radky;     // of the source, where each of them begins
 };
 
 struct ChybaZdroje {

@@ -131,3 +131,78 @@ TEST(PrekladGvd, WordsOutsideATrainAreRefused) {
     ASSERT_EQ(chyby.size(), 1u);
     EXPECT_EQ(chyby[0].radek, 1);
 }
+
+TEST(PrekladGvd, BlocksGiveTrainsTheirSetAndTheirRun) {
+    std::vector<ChybaZdroje> chyby;
+    const JizdniRad rad =
+        preloz_jizdni_rad("vzor souprava\nrychlost 80\nvozy 843 054 943\n"
+                          "trasa tam\nstavi LHO - 0:00\nprojede TVH 0:05\nstavi THN 0:12 -\n"
+                          "vlak Os 12\ndny Po\npodle souprava\njede tam 8:10\n"
+                          "vlak Os 14\ndny Po\npodle souprava\njede tam 9:55\n",
+                          chyby);
+    ASSERT_TRUE(chyby.empty()) << chyby[0].zprava;
+    ASSERT_EQ(rad.vlaky.size(), 2u);
+    EXPECT_EQ(rad.vlaky[1].zastavky, (std::vector<ZastavkaGvd>{{1, -1, 595}, {8, -1, 600}, {9, 607, -1}}));
+    EXPECT_EQ(rad.vlaky[1].vozy.size(), 3u);
+    EXPECT_EQ(rad.radky, (std::vector<int>{8, 12}));
+}
+
+TEST(PrekladGvd, BlockThatNobodyTakesOrKnowsIsRefused) {
+    const auto nikdo = chyby_zdroje("vzor souprava\nrychlost 80\n");
+    ASSERT_EQ(nikdo.size(), 1u);
+    EXPECT_EQ(nikdo[0].zprava, "podle jména „souprava“ nic nejede");
+    const auto nezname = chyby_zdroje("vlak Os 12\ndny Po\nrychlost 80\nvozy 843\npodle xyz\n"
+                                      "stavi LHO - 8:10\nstavi TVH 8:20 -\n");
+    ASSERT_EQ(nezname.size(), 1u);
+    EXPECT_EQ(nezname[0].zprava, "vlak 12: neznámé jméno „xyz“");
+    EXPECT_FALSE(chyby_zdroje("vzor a\npodle a\nvlak Os 12\ndny Po\nrychlost 80\nvozy 843\npodle a\n"
+                              "stavi LHO - 8:10\nstavi TVH 8:20 -\n")
+                     .empty());
+}
+
+TEST(PrekladGvd, WholeSetGoesOnAsTheNextTrain) {
+    std::vector<ChybaZdroje> chyby;
+    const JizdniRad rad = preloz_jizdni_rad("vlak Os 12\ndny Po\nrychlost 80\nvozy 843 054 943\nobeh 14\n"
+                                            "stavi LHO - 8:10\nstavi TVH 8:20 -\ntakt 60 9:10 4\n",
+                                            chyby);
+    ASSERT_EQ(rad.vlaky.size(), 2u);
+    EXPECT_EQ(rad.vlaky[1].vozy_vlaky, (std::vector<std::int16_t>{18, 18, 18}));
+    EXPECT_EQ(rad.vlaky[1].navazny_vlak, "18");
+}
+
+TEST(PrekladGvd, ClockFaceLeavesOutWhatIsExcepted) {
+    std::vector<ChybaZdroje> chyby;
+    const char* zdroj = "vlak Os 12\ndny Po\nrychlost 80\nvozy 843\nstavi LHO - 8:10\nstavi TVH 8:20 -\n"
+                        "takt 60 11:10 2\nkrome 9:10 10:10\n";
+    const JizdniRad rad = preloz_jizdni_rad(zdroj, chyby);
+    ASSERT_EQ(rad.vlaky.size(), 2u);
+    EXPECT_EQ(rad.vlaky[1].cislo, 18);
+    EXPECT_EQ(rad.vlaky[1].zastavky[0].odjezd, 670);
+
+    const auto zadny = chyby_zdroje(std::string(zdroj) + "krome 9:15\n");
+    ASSERT_EQ(zadny.size(), 1u);
+    EXPECT_NE(zadny[0].zprava.find("vynechává odjezd 9:15"), std::string::npos);
+}
+
+// Between the neighbours on the left and the stations on the right of it a train with one cab could not turn.
+TEST(PrekladGvd, TrainWithOneCabGetsItsNameAtVysniHrabov) {
+    const auto stanice = [](const std::string& vozy, const std::string& body) {
+        std::vector<ChybaZdroje> chyby;
+        const JizdniRad rad =
+            preloz_jizdni_rad("vlak Os 12\ndny Po\nrychlost 80\nvozy " + vozy + "\n" + body, chyby);
+        EXPECT_TRUE(chyby.empty());
+        std::vector<std::uint8_t> kody;
+        for (const ZastavkaGvd& z : rad.vlaky.at(0).zastavky)
+            kody.push_back(z.stanice);
+        return kody;
+    };
+    using Stanice = std::vector<std::uint8_t>;
+    const std::string tam = "stavi LHO - 8:10\nstavi TVH 8:15 8:20\nstavi THN 8:26 -\n";
+    const std::string zpet = "stavi THN - 8:10\nstavi TVH 8:16 8:18\nstavi LHO 8:25 -\n";
+    EXPECT_EQ(stanice("754 Bp", tam), (Stanice{1, 36, 8, 9}));
+    EXPECT_EQ(stanice("754 Bp", zpet), (Stanice{9, 8, 36, 1}));
+    EXPECT_EQ(stanice("843 943", tam), (Stanice{1, 8, 9}));
+    EXPECT_EQ(
+        stanice("754 Bp", "stavi LHO - 8:10\nprojede SKA 8:20\nstavi TVH 8:15 8:20\nstavi THN 8:26 -\n"),
+        (Stanice{1, 37, 8, 9}));
+}

@@ -1,0 +1,544 @@
+// nastroje/gvd/sit.cpp - searches ways through the routes, and runs trains over them second by second.
+#include "gvd/sit.h"
+
+#include "gvd/druhy_vlaku.h"
+#include "jizda/zastavky.h"
+#include "uzel/cislovani.h"
+#include "uzel/rychlosti.h"
+#include "uzel/trate.h"
+#include "uzel/vstupy.h"
+#include "uzel/zastavky.h"
+
+#include <queue>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <set>
+#include <tuple>
+
+namespace planovani {
+
+namespace {
+
+constexpr int kVyhybka_m = 20;        // of train length on a switch
+constexpr int kKonec_m = 9;           // never run at the end of a track
+constexpr int kOdjezdSouseda_m = 400; // where the head of an announced train stands when it sets off
+constexpr int kOdjezdBranyVh_m = 500; // of one from the gate of the small depot
+constexpr int kProtismer_m = 200'000; // what a line in the unusual direction is avoided by
+constexpr int kNavest_m = 10;         // what each signal on the way is avoided by,
+constexpr std::array kOdbocka_m = {0, 600, 400, 200}; // and a route over diverging switches, by its speed
+constexpr int kObjeti_m = 5'000;     // what a run of the locomotive round its train is avoided by
+constexpr int kKratka_m = 2'000'000; // what a track that is too short is avoided by
+constexpr int kNejvyssi = 1000;      // switches are numbered from here where kinds are mixed
+
+// Lines whose usual direction is to the left; the others run to the right. Their numbers are those of the
+// first section.
+constexpr std::array kVlevo = {602, 606, 610, 614, 618, 622, 626, 630, 634, 636, 120, 19};
+// Lines without a usual direction.
+constexpr std::array kObousmerne = {118, 84, 85, 117, 76, 77, 113, 115};
+
+bool je_rodina(int prvek) {
+    return prvek >= kPrvniTrat && prvek <= kNejvyssiPrvek;
+}
+
+// The sense in which a route leads, by the number of its start signal.
+bool smer_navestidla(int s) {
+    if (s == 115 || s == 116 || s == 998)
+        return true;
+    return s >= kPrvniTrat ? s % 2 == 1 : s >= 200;
+}
+
+void pridej_useky(const Sit& sit, ZaznamCesty& z, bool smer) {
+    const int posledni = z.prvky.back().prvek;
+    if (!je_rodina(posledni) || z.prvky.back().druh != druh_prvku::kolej)
+        return;
+    const int krok = smer ? kKrokTrati : -kKrokTrati;
+    for (int n = posledni + krok; je_rodina(n) && sit.koleje[static_cast<std::size_t>(n)]; n += krok)
+        z.prvky.push_back({static_cast<std::int16_t>(n), druh_prvku::kolej, 2});
+}
+
+} // namespace
+
+int stanice_elementu(int prvek) {
+    switch (prvek) {
+    case 84:
+    case 212: return dopravna::polska_lhota;
+    case 85:
+    case 213: return dopravna::hvozdy;
+    case 117:
+    case 219: return dopravna::vrbice;
+    case 25: return dopravna::dkv_vh;
+    case 55:
+    case 56: return dopravna::hajovice_sn;
+    case 91:
+    case 92: return dopravna::hajovice_sn_2;
+    case 112: return dopravna::dkv;
+    case 119: return dopravna::dkv_2;
+    case 574: return dopravna::posta;
+    default: return stanice_prvku(prvek);
+    }
+}
+
+int trat_elementu(int prvek) {
+    if (je_rodina(prvek))
+        return kPrvniTrat + prvek % kKrokTrati;
+    switch (prvek) {
+    case 212: return 84;
+    case 213: return 85;
+    case 219: return 117;
+    case 93: return 634;
+    case 94: return 636;
+    case 96: return 632;
+    case 114: return 113;
+    case 116: return 115;
+    default: return prvek;
+    }
+}
+
+bool je_tratovy(int prvek) {
+    const int t = trat_elementu(prvek);
+    return je_rodina(t) || (t >= 19 && t <= 21) || t == uzel::kKamenec || uzel::je_trat_dubnice(t) ||
+           std::find(kObousmerne.begin(), kObousmerne.end(), t) != kObousmerne.end();
+}
+
+namespace {
+
+bool je_protismer(int prvek, bool smer) {
+    if (!je_tratovy(prvek))
+        return false;
+    const int t = trat_elementu(prvek);
+    if (std::find(kObousmerne.begin(), kObousmerne.end(), t) != kObousmerne.end())
+        return false;
+    const bool vlevo = std::find(kVlevo.begin(), kVlevo.end(), t) != kVlevo.end();
+    return smer == vlevo;
+}
+
+// Trains stop there with all their length on the section, not at its end.
+bool stavi_na_trati(int prvek) {
+    return prvek > kPrvniTrat || prvek == uzel::kKolejStopuPredTrati || prvek == uzel::kKamenec;
+}
+
+struct Stav {
+    int prvek = 0;
+    bool smer = false;
+    std::size_t bodu = 0; // that are served
+    auto operator<=>(const Stav&) const = default;
+};
+
+// Names without a track are passed with the point before them.
+bool je_jmeno(int stanice) {
+    return stanice >= 36 && stanice <= 38;
+}
+
+struct Hledani {
+    const Sit& sit;
+    const Ukol& ukol;
+    struct Uzel {
+        double cena = 0;
+        Stav odkud{};
+        std::size_t trasa = kBezTrasy;
+        bool konec = false;
+    };
+    std::map<Stav, Uzel> uzly{};
+    std::size_t nejdal = 0;
+
+    std::size_t preskoc_jmena(std::size_t k) const {
+        while (k < ukol.body.size() && je_jmeno(ukol.body[k].stanice))
+            ++k;
+        return k;
+    }
+    bool hodi_se(std::size_t k, int prvek) const {
+        const Bod& b = ukol.body[k];
+        return stanice_elementu(prvek) == b.stanice &&
+               (b.koleje.empty() || std::find(b.koleje.begin(), b.koleje.end(), prvek) != b.koleje.end());
+    }
+    double cena_stani(std::size_t k, int prvek) const {
+        return ukol.body[k].stavi && sit.delky[static_cast<std::size_t>(prvek)] < ukol.delka ? kKratka_m : 0;
+    }
+    bool zakazan(const PrvekCesty& p) const {
+        const int n = p.druh == druh_prvku::vyhybka ? kNejvyssi + p.prvek : p.prvek;
+        return std::find(ukol.mimo.begin(), ukol.mimo.end(), n) != ukol.mimo.end();
+    }
+
+    // The state behind a route; nothing when the train cannot take it.
+    std::optional<Stav> za_trasou(const Stav& s, const Trasa& t, double& cena) const {
+        Stav dal{0, s.smer, s.bodu};
+        const auto& prvky = t.zaznam.prvky;
+        for (std::size_t i = 1; i < prvky.size(); ++i) {
+            const PrvekCesty& p = prvky[i];
+            if (zakazan(p))
+                return std::nullopt;
+            if (p.druh != druh_prvku::kolej) {
+                cena += 2 * kVyhybka_m;
+                continue;
+            }
+            const bool z_koleje = prvky[i - 1].druh == druh_prvku::kolej;
+            if (z_koleje ? je_v(p.prvek, uzel::kOhybyZKoleje) : je_v(p.prvek, uzel::kOhybyZVyhybky))
+                dal.smer = !dal.smer;
+            cena += sit.delky[static_cast<std::size_t>(p.prvek)];
+            if (je_protismer(p.prvek, dal.smer))
+                cena += kProtismer_m;
+            const bool posledni = i + 1 == prvky.size();
+            while (dal.bodu < ukol.body.size() && hodi_se(dal.bodu, p.prvek) &&
+                   (posledni || !ukol.body[dal.bodu].stavi || stavi_na_trati(p.prvek))) {
+                cena += cena_stani(dal.bodu, p.prvek);
+                dal.bodu = preskoc_jmena(dal.bodu + 1);
+            }
+            if (posledni)
+                dal.prvek = p.prvek;
+        }
+        otoc(dal);
+        return dal;
+    }
+
+    // Behind a stop the train goes on the other way where the junction turns it.
+    void otoc(Stav& s) const {
+        if (s.bodu == 0 || s.bodu >= ukol.body.size())
+            return;
+        const Bod& tady = bod_pred(s);
+        if ((tady.stavi || &tady == ukol.body.data()) && stanice_elementu(s.prvek) == tady.stanice)
+            s.smer = po_obratu(tady.stanice, (&tady + 1)->stanice, s.smer);
+    }
+    bool muze_objet(const Stav& s) const {
+        return s.bodu > 0 && s.bodu < ukol.body.size() && bod_pred(s).muze_otocit &&
+               stanice_elementu(s.prvek) == bod_pred(s).stanice;
+    }
+    // The last point that is served, a name apart.
+    const Bod& bod_pred(const Stav& s) const {
+        std::size_t i = s.bodu - 1;
+        while (i > 0 && je_jmeno(ukol.body[i].stanice))
+            --i;
+        return ukol.body[i];
+    }
+    static bool po_obratu(int odkud, int kam, bool smer) {
+        for (const uzel::Obrat& o : uzel::kObraty)
+            if (o.odkud == odkud && o.kam == kam && o.smer == smer)
+                return !smer;
+        return smer;
+    }
+
+    struct Polozka {
+        double cena;
+        Stav stav;
+        bool operator<(const Polozka& o) const { return std::tie(o.cena, o.stav) < std::tie(cena, stav); }
+    };
+    std::priority_queue<Polozka> fronta{};
+
+    void pridej(const Stav& s, double cena, const Stav& odkud, std::size_t trasa) {
+        const auto misto = uzly.find(s);
+        if (misto != uzly.end() && misto->second.cena <= cena)
+            return;
+        uzly[s] = {cena, odkud, trasa, false};
+        nejdal = std::max(nejdal, s.bodu);
+        fronta.push({cena, s});
+    }
+
+    void zacni() {
+        const int odkud = ukol.body.front().stanice;
+        const auto z = [&](int prvek, bool smer) {
+            if (!sit.koleje[static_cast<std::size_t>(prvek)] || !hodi_se(0, prvek))
+                return;
+            Stav s{prvek, smer, preskoc_jmena(1)};
+            pridej(s, cena_stani(0, prvek), s, kBezTrasy);
+        };
+        for (const uzel::StaniceOhlaseni& s : uzel::kOhlasovane)
+            if (s.kod == odkud) {
+                double cena = 0;
+                for (const int e : s.koleje)
+                    if (e != 0 && sit.koleje[static_cast<std::size_t>(e)] && hodi_se(0, e)) {
+                        Stav stav{e, s.smer, preskoc_jmena(1)};
+                        pridej(stav, cena + cena_stani(0, e), stav, kBezTrasy);
+                        cena += 100; // the first free one
+                    }
+            }
+        for (const uzel::VstupZeStanice& v : uzel::kVstupy)
+            if (v.stanice == odkud)
+                for (const int e : v.koleje)
+                    if (e != 0)
+                        z(e, v.smer);
+        if (const int k = uzel::konec_ke_stanici(odkud); k >= 0)
+            z(uzel::kKonceTrati[static_cast<std::size_t>(k)].usek, true);
+        if (odkud == dopravna::dkv_vh)
+            z(uzel::kBranaVh.kolej, uzel::kBranaVh.smer);
+        // Where a train begins within the junction it stands the way that it goes.
+        if (odkud == dopravna::tesk || odkud == dopravna::vysni_hrabov || odkud == dopravna::javorin ||
+            odkud == dopravna::rybnice || odkud == dopravna::hajovice || odkud == dopravna::dolni ||
+            odkud == dopravna::knizeci_luka || odkud == dopravna::mokrina)
+            for (int e = 0; e < kPrvniTrat; ++e)
+                if (stanice_elementu(e) == odkud)
+                    for (const bool smer : {false, true}) {
+                        Stav s{e, smer, preskoc_jmena(1)};
+                        if (!sit.koleje[static_cast<std::size_t>(e)] || !hodi_se(0, e))
+                            continue;
+                        otoc(s);
+                        pridej(s, cena_stani(0, e), s, kBezTrasy);
+                    }
+    }
+
+    std::optional<Stav> hledej() {
+        zacni();
+        std::set<Stav> hotove;
+        while (!fronta.empty()) {
+            const auto [cena, s] = fronta.top();
+            fronta.pop();
+            if (!hotove.insert(s).second)
+                continue;
+            if (s.bodu == ukol.body.size())
+                return s;
+            const auto vychozi = sit.odkud.find({s.prvek, s.smer});
+            if (vychozi == sit.odkud.end())
+                continue; // the way ends here
+            for (const std::size_t i : vychozi->second) {
+                double dal =
+                    cena + kNavest_m + kOdbocka_m[std::min<std::size_t>(sit.trasy[i].zaznam.rychlost, 3)];
+                const auto kam = za_trasou(s, sit.trasy[i], dal);
+                if (!kam)
+                    continue;
+                pridej(*kam, dal, s, i);
+                if (muze_objet(*kam))
+                    pridej({kam->prvek, !kam->smer, kam->bodu}, dal + kObjeti_m, s, i);
+            }
+        }
+        return std::nullopt;
+    }
+
+    Pruchod sloz(const Stav& konec) const {
+        std::vector<Stav> stavy{konec};
+        while (uzly.at(stavy.back()).trasa != kBezTrasy)
+            stavy.push_back(uzly.at(stavy.back()).odkud);
+        std::reverse(stavy.begin(), stavy.end());
+        Pruchod p;
+        p.mista.assign(ukol.body.size(), 0);
+        p.kratka_kolej = uzly.at(konec).cena >= kKratka_m;
+        p.protismer = std::fmod(uzly.at(konec).cena, kKratka_m) >= kProtismer_m;
+        const int prvni = stavy.front().prvek;
+        const bool souhlas = uzel::je_usek_konce(prvni);
+        if (souhlas) {
+            const int k = uzel::konec_trati(prvni);
+            p.kroky.push_back(
+                {{static_cast<std::int16_t>(uzel::kKonceTrati[static_cast<std::size_t>(k)].navestidlo),
+                  druh_prvku::kolej, 2},
+                 kBezTrasy,
+                 true,
+                 false});
+        }
+        p.kroky.push_back(
+            {{static_cast<std::int16_t>(prvni), druh_prvku::kolej, 2}, kBezTrasy, stavy.front().smer, false});
+        std::size_t bodu = preskoc_jmena(1);
+        for (std::size_t k = 1; k < bodu; ++k)
+            p.mista[k] = p.kroky.size() - 1;
+        for (std::size_t i = 1; i < stavy.size(); ++i)
+            pridej_trasu(p, uzly.at(stavy[i]).trasa, stavy[i - 1].smer, bodu);
+        return p;
+    }
+
+    void pridej_trasu(Pruchod& p, std::size_t trasa, bool smer, std::size_t& bodu) const {
+        const auto& prvky = sit.trasy[trasa].zaznam.prvky;
+        for (std::size_t i = 1; i < prvky.size(); ++i) {
+            const bool z_koleje = prvky[i - 1].druh == druh_prvku::kolej;
+            if (prvky[i].druh == druh_prvku::kolej && (z_koleje ? je_v(prvky[i].prvek, uzel::kOhybyZKoleje)
+                                                                : je_v(prvky[i].prvek, uzel::kOhybyZVyhybky)))
+                smer = !smer;
+            p.kroky.push_back({prvky[i], trasa, smer, i == 1});
+            if (prvky[i].druh != druh_prvku::kolej)
+                continue;
+            const bool posledni = i + 1 == prvky.size();
+            while (bodu < ukol.body.size() && hodi_se(bodu, prvky[i].prvek) &&
+                   (posledni || !ukol.body[bodu].stavi || stavi_na_trati(prvky[i].prvek))) {
+                const std::size_t dal = preskoc_jmena(bodu + 1);
+                for (; bodu < dal; ++bodu)
+                    p.mista[bodu] = p.kroky.size() - 1;
+            }
+        }
+    }
+};
+
+} // namespace
+
+Sit sestav_sit(const Bajty& top, const Bajty& zat) {
+    Sit sit;
+    sit.delky = delky_kolejiste(top);
+    const TextPohled text(reinterpret_cast<const char*>(top.data()), top.size());
+    for (std::size_t i = 0; i + 7 <= text.size(); i += 7)
+        sit.koleje.set(static_cast<std::size_t>(cele_z_textu(text.substr(i, 3))));
+    for (ZaznamCesty& z : cti_cesty(zat)) {
+        if (z.prvky.empty())
+            continue;
+        Trasa t{std::move(z), false, 0};
+        t.smer = smer_navestidla(t.zaznam.zacatek);
+        // To Kamenec the sense turns on the way: the route leads on as the train runs before it.
+        pridej_useky(sit, t.zaznam, t.smer);
+        for (std::size_t i = 0; i < t.zaznam.prvky.size(); ++i)
+            if (t.zaznam.prvky[i].druh == druh_prvku::vyhybka)
+                t.posledni_vyhybka = i;
+        sit.odkud[{t.zaznam.prvky.front().prvek, t.smer}].push_back(sit.trasy.size());
+        sit.trasy.push_back(std::move(t));
+    }
+    return sit;
+}
+
+std::optional<Pruchod> najdi_pruchod(const Sit& sit, const Ukol& ukol, std::size_t& kam_az) {
+    Hledani h{sit, ukol};
+    const auto konec = h.hledej();
+    kam_az = h.nejdal;
+    if (!konec)
+        return std::nullopt;
+    return h.sloz(*konec);
+}
+
+namespace {
+
+// A train on its way, as the movement step runs it at the speed of the clock.
+struct Beh {
+    const Sit& sit;
+    const Pruchod& p;
+    const Vlastnosti& vlak;
+    Prujezd vysledek{};
+    std::size_t i = 0;     // step of the head
+    std::size_t konec = 0; // of the tail
+    double metry = 0, sekundy = 0;
+    int rychlost = 0, trat = 0, cesta = 0;
+    std::size_t omezeni_do = 0; // the step whose clearing ends the limit of the route
+    bool omezeno = false;
+
+    double delka_kroku(std::size_t k) const {
+        return p.kroky[k].prvek.druh == druh_prvku::kolej
+                   ? sit.delky[static_cast<std::size_t>(p.kroky[k].prvek.prvek)]
+               : p.kroky[k].prvek.druh == druh_prvku::vyhybka ? kVyhybka_m
+                                                              : 0;
+    }
+    bool cely_na_kroku() const { return konec == i; }
+
+    void uprav_rychlost() {
+        float d = 1;
+        if (vlak.druh >= druh_vlaku::prvni_nakladni && vlak.druh != druh_vlaku::lv)
+            d = static_cast<float>(vlak.delka) / 350.0f + 1.0f;
+        if (vlak.druh == druh_vlaku::vn)
+            d = d / 2.0f + 1.0f;
+        const float a = 3.0f / d;
+        const int cil = omezeno && cesta != 0 ? cesta : trat;
+        if (cil < rychlost || a > static_cast<float>(cil - rychlost))
+            rychlost = cil;
+        else
+            rychlost = static_cast<int>(std::nearbyint(static_cast<float>(rychlost) + a));
+        rychlost = std::min(rychlost, vlak.rychlost);
+    }
+
+    void dal() {
+        metry = 0;
+        ++i;
+        const Krok& k = p.kroky[i];
+        vysledek.vstup[i] = sekundy;
+        if (k.zacatek && k.trasa != kBezTrasy)
+            omez(k);
+        if (k.prvek.druh == druh_prvku::kolej) {
+            const bool smer = p.kroky[i - 1].smer; // the speed is that of the sense in which it comes
+            if (const int r = uzel::rychlost_prvku(k.prvek.prvek, smer); r != 0)
+                trat = r;
+        }
+    }
+    void omez(const Krok& k) {
+        constexpr std::array<int, 4> kTridy = {0, 40, 60, 80};
+        const Trasa& t = sit.trasy[k.trasa];
+        cesta =
+            t.zaznam.rychlost == 0 || t.zaznam.rychlost >= kTridy.size() ? trat : kTridy[t.zaznam.rychlost];
+        omezeno = t.posledni_vyhybka != 0;
+        omezeni_do = i + t.posledni_vyhybka - 1;
+    }
+
+    void uvolni() {
+        double obsazeno = metry;
+        for (std::size_t k = konec; k < i; ++k)
+            obsazeno += delka_kroku(k);
+        while (konec < i && obsazeno - delka_kroku(konec) >= vlak.delka) {
+            obsazeno -= delka_kroku(konec);
+            vysledek.uvolneni[konec] = sekundy;
+            if (omezeno && konec == omezeni_do)
+                omezeno = false;
+            ++konec;
+        }
+    }
+
+    // One second; false at the end of the way, or of the track on which it has to stop.
+    bool krok(bool posledni) {
+        sekundy += 1;
+        const double delka_s = std::nearbyint(std::floor(rychlost * 1000.0 / 3600.0) * 0.97);
+        uprav_rychlost();
+        const bool kolej = p.kroky[i].prvek.druh == druh_prvku::kolej;
+        if (kolej && metry + delka_s <= delka_kroku(i) - kKonec_m) {
+            metry += delka_s;
+        } else if (posledni) {
+            metry = delka_kroku(i);
+            uvolni();
+            return false;
+        } else {
+            dal();
+        }
+        uvolni();
+        return true;
+    }
+
+    bool stoji_na_trati() const {
+        const int e = p.kroky[i].prvek.prvek;
+        if (e == uzel::kKamenec) {
+            const bool od_mokriny = i > 0 && p.kroky[i - 1].prvek.prvek == uzel::kKeKamenciOdMokriny;
+            const uzel::Nastupiste& n = od_mokriny ? uzel::kKamenecOdMokriny : uzel::kKamenecOdTesku;
+            return metry > n.od_m;
+        }
+        if (!cely_na_kroku())
+            return false;
+        for (const uzel::MistoStopu& m : uzel::kMistaStopu)
+            if (e >= m.od && e <= m.po && m.od_metru >= 0 && !p.kroky[i].smer && metry < m.od_metru)
+                return false;
+        return true;
+    }
+};
+
+} // namespace
+
+Prujezd projed(const Sit& sit, const Pruchod& pruchod, const Ukol& ukol, const Vlastnosti& vlak) {
+    Beh b{sit, pruchod, vlak};
+    b.vysledek.vstup.assign(pruchod.kroky.size(), 0);
+    b.vysledek.uvolneni.assign(pruchod.kroky.size(), -1);
+    b.vysledek.stani.assign(pruchod.kroky.size(), -1);
+    const int odkud = ukol.body.front().stanice;
+    b.trat = uzel::kRychlostJinde;
+    for (const uzel::PrvniRychlost& r : uzel::kPrvniRychlosti)
+        if (r.stanice == odkud)
+            b.trat = r.strop ? std::min<int>(r.rychlost, vlak.rychlost) : r.rychlost;
+    for (const uzel::StaniceOhlaseni& s : uzel::kOhlasovane)
+        if (s.kod == odkud)
+            b.metry = kOdjezdSouseda_m;
+    if (odkud == dopravna::dkv_vh)
+        b.metry = kOdjezdBranyVh_m;
+    if (odkud == dopravna::tesk)
+        b.metry = b.delka_kroku(0);
+    b.sekundy = ukol.body.front().odjezd_s;
+    b.vysledek.vstup[0] = b.sekundy;
+    std::map<std::size_t, double> stopy; // and the departures from them
+    for (std::size_t k = 1; k < ukol.body.size(); ++k)
+        if (ukol.body[k].stavi && pruchod.mista[k] > 0)
+            stopy[pruchod.mista[k]] = ukol.body[k].odjezd_s;
+    const std::size_t posledni = pruchod.kroky.size() - 1;
+    stopy.emplace(posledni, 0);
+    while (true) {
+        const bool stop = stopy.contains(b.i) && b.vysledek.stani[b.i] < 0;
+        const bool na_trati = stop && stavi_na_trati(pruchod.kroky[b.i].prvek.prvek) && b.i != posledni;
+        bool stoji = na_trati && b.stoji_na_trati();
+        if (!stoji)
+            stoji = !b.krok(stop && !na_trati);
+        if (!stoji)
+            continue;
+        b.vysledek.stani[b.i] = b.sekundy;
+        if (b.i == posledni)
+            break;
+        b.sekundy = stopy.at(b.i);
+        b.rychlost = na_trati ? 5 : 0;
+    }
+    for (std::size_t k = b.konec; k <= posledni; ++k)
+        b.vysledek.uvolneni[k] = b.vysledek.stani[posledni];
+    return b.vysledek;
+}
+
+} // namespace planovani
