@@ -40,7 +40,7 @@ void tabulka_vlaku(benchmark::State& stav) {
         postav_vlak(i, 1);
     for (auto _ : stav) {
         for (int i = 0; i < kRadkuTabulky; ++i)
-            relief.lblTabulka_vlaku[i].text = Text{};
+            prevezmi_radek_tabulky(i, {});
         for (int i = 0; i < 2 * kRadkuTabulky; ++i)
             pridej_do_tabulky(i);
     }

@@ -5,6 +5,7 @@
 #include "app/simulace.h"
 #include "desk/stav_blikani.h"
 #include "desk/zprava.h"
+#include "prvky/souhlasy.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "relief/prejezdy.h"
 #include "relief/relief.h"
@@ -61,7 +62,7 @@ void lampy_souhlasu() {
             continue;
         Prvek& lampa = relief.lblSouhlas[k];
         const Text& text = lampa.text;
-        const bool pta_se = !lampa.popis->empty();
+        const bool pta_se = souhlasy.zada[static_cast<std::size_t>(k)].has_value();
         ceka = ceka || pta_se;
         if (pta_se && text.size() == 1)
             nastav_text(lampa, " " + text);

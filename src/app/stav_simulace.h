@@ -9,11 +9,13 @@
 #include "app/parametry.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
+#include "cesty/zasobnik.h"
 #include "desk/hlaseni.h"
 #include "desk/info_o_vlaku.h"
 #include "desk/menu.h"
 #include "desk/stav_blikani.h"
 #include "desk/stitky.h"
+#include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
 #include "gvd/stav_provozu.h"
@@ -47,6 +49,7 @@
     TABULKA(koleje_vlaky, prvni_koleje_vlaky())                                                              \
     TABULKA(zkracene_vlaky, {})                                                                              \
     TABULKA(cesty, std::vector<Cesta>(1))                                                                    \
+    TABULKA(stav_zasobniku, {})                                                                              \
     TABULKA(odjete, {})                                                                                      \
     TABULKA(vyber, {})                                                                                       \
     TABULKA(souhlasy, {})                                                                                    \
@@ -56,6 +59,7 @@
     TABULKA(stitky, std::vector<StitekPrvku>(1))                                                             \
     TABULKA(hlaseni, {})                                                                                     \
     TABULKA(prikaz_radek, {})                                                                                \
+    TABULKA(tabulka_vlaku, {})                                                                               \
     TABULKA(stranka_vlaku, {})                                                                               \
     TABULKA(menu, {})                                                                                        \
     TABULKA(stav_menu_koleje, {})                                                                            \

@@ -15,6 +15,8 @@ constexpr int kPravyOkraj = 11290; // twips; the label ends here
 constexpr int kPresah = 180;       // and overhangs by this
 constexpr char kOddelovac = '\x0D';
 
+// The list is its lines and nothing else: what a route still has to count stands in the route (PN_do), and a
+// line is found again by the name with which it begins, so that signals of one name have one countdown.
 std::vector<Text> cti_polozky() {
     std::vector<Text> polozky;
     TextPohled zbytek = relief.lblPN[kPN].text();

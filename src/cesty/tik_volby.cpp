@@ -125,15 +125,6 @@ void uvolni_vyber(const Cesta& c) {
     }
 }
 
-void ohlas_cekani(const Cesta& c) {
-    Prvek& blokv = relief.lblZasobnik_blokv[0];
-    if (!blokv.text->empty() || c.Vlak == kKopieAB)
-        return;
-    nastav_text(blokv, popis_cesty(c));
-    blokv.popis = text_cisla(c.ZT);
-    blokv.viditelny = true;
-}
-
 // What the walk over the elements finds on its way, up to the entry at which it ended: the crossing,
 // the switch that ends the speed limit, sections whose label is cleared at release.
 void oznac_prvky(Cesta& c, std::size_t dosel) {

@@ -26,8 +26,7 @@ std::vector<int> radky_zasobniku() {
 }
 
 bool ceka_na_ni_zasobnik(const Cesta& cesta) {
-    const Prvek& blokv = relief.lblZasobnik_blokv[0];
-    return !blokv.text->empty() && cele_z_textu(blokv.popis()) == cesta.ZT;
+    return stav_zasobniku.ceka == std::int32_t{cesta.ZT};
 }
 
 void zmena_zasobniku() {
@@ -35,9 +34,20 @@ void zmena_zasobniku() {
     nastav_text(relief.lblZasobnik_pocet[0], text_cisla_mist(pocet, 2));
 }
 
+void ohlas_cekani(const Cesta& cesta) {
+    if (stav_zasobniku.ceka || cesta.Vlak == kKopieAB)
+        return;
+    stav_zasobniku.ceka = cesta.ZT;
+    Prvek& blokv = relief.lblZasobnik_blokv[0];
+    nastav_text(blokv, popis_cesty(cesta));
+    blokv.popis = text_cisla(cesta.ZT);
+    blokv.viditelny = true;
+}
+
 void uvolni_cekani(const Cesta& cesta, TextPohled znacka) {
     if (!ceka_na_ni_zasobnik(cesta))
         return;
+    stav_zasobniku.ceka.reset();
     Prvek& blokv = relief.lblZasobnik_blokv[0];
     nastav_text(blokv, {});
     blokv.popis = znacka;

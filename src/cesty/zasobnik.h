@@ -7,7 +7,15 @@
 
 #include "cesty/cesta.h"
 
+#include <cstdint>
+#include <optional>
 #include <vector>
+
+struct StavZasobniku {
+    std::optional<std::int32_t> ceka; // line of the table record at whose route the stack stands now
+    bool operator==(const StavZasobniku&) const = default;
+};
+extern StavZasobniku stav_zasobniku;
 
 // --- at any time, without change
 
@@ -24,6 +32,9 @@ bool ceka_na_ni_zasobnik(const Cesta& cesta);
 
 // The count of the desk anew.
 void zmena_zasobniku();
+// The stack stands at this route, unless it stands already: the waiting line shows it. An automatic copy
+// waits in the background and is not told.
+void ohlas_cekani(const Cesta& cesta);
 // The waiting line is cleared, hidden, its tag `znacka`, when it shows this route.
 void uvolni_cekani(const Cesta& cesta, TextPohled znacka = "-3");
 

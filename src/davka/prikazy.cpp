@@ -7,6 +7,7 @@
 #include "app/kontrola_majitelu.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
+#include "cesty/zasobnik.h"
 #include "davka/obrazovka_startu.h"
 #include "davka/planovac.h"
 #include "davka/popisy.h"
@@ -17,9 +18,11 @@
 #include "davka/virtualni_svet.h"
 #include "davka/vypisy.h"
 #include "desk/info_o_vlaku.h"
+#include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
 #include "jizda/vlak.h"
 #include "obsluha/vyber.h"
+#include "prvky/souhlasy.h"
 #include "zaklad/cisla.h"
 #include "zaklad/soubory.h"
 
@@ -220,12 +223,20 @@ void nastav_prvek(Prvek& p, const Prirazeni& co) {
 // A script writes what an element shows. Where the desk knows it by a value and the element shows that value,
 // the value follows, so that the text set by hand has the effect it tells of.
 void prevezmi_napsane(Druh druh, int n) {
-    if (n != 0)
-        return;
     const Prvek& p = tabulka(druh)[n];
+    switch (druh) {
+    case Druh::lblSouhlas: zadej_souhlas(n, Text(p.popis)); return;
+    case Druh::lblTabulka_vlaku: prevezmi_radek_tabulky(n, Text(p.text)); return;
+    default: break;
+    }
+    if (n != 0) // the twin on the second monitor shows what element 0 shows
+        return;
     switch (druh) {
     case Druh::lblcas: stav_hodin.sekundy = sekundy_textu(p.text()); break;
     case Druh::lblPrikaz: prikaz_radek.slovo = p.text(); break;
+    case Druh::lblZasobnik_blokv:
+        stav_zasobniku.ceka = p.text->empty() ? std::nullopt : std::optional(cele_z_textu(p.popis()));
+        break;
     case Druh::lblMakro_pismeno: vyber.makro_pismeno = orez(p.text()); break;
     case Druh::lblIinfo_o_vlaku: {
         const double vlak = ciselny_text(p.stav()).value_or(kZadny);

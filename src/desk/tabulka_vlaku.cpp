@@ -22,18 +22,20 @@ Text pole_radku(TextPohled text, std::size_t sirka) {
     return pole;
 }
 
-bool je_prazdny(int i) {
-    return orez(relief.lblTabulka_vlaku[i].text()).empty();
+RadekTabulky& zaznam_radku(int i) {
+    return tabulka_vlaku.at(static_cast<std::size_t>(i));
 }
 
 void presun(int odkud, int kam) {
+    zaznam_radku(kam) = zaznam_radku(odkud);
     relief.lblTabulka_vlaku[kam].text = Text(relief.lblTabulka_vlaku[odkud].text());
     relief.lblTabulka_vlaku[kam].barva = relief.lblTabulka_vlaku[odkud].barva();
     blikani.blikani_radku[static_cast<std::size_t>(kam)] =
         blikani.blikani_radku[static_cast<std::size_t>(odkud)];
 }
 
-void zapis(int i, TextPohled text) {
+void zapis(int i, const RadekTabulky& zaznam, TextPohled text) {
+    zaznam_radku(i) = zaznam;
     relief.lblTabulka_vlaku[i].text = text;
     relief.lblTabulka_vlaku[i].barva = barvy::bila;
     blikani.blikani_radku[static_cast<std::size_t>(i)] = false;
@@ -60,22 +62,32 @@ Text radek_vlaku(const Vlak& v) {
 
 } // namespace
 
+bool radek_obsazen(int radek) {
+    return zaznam_radku(radek).obsazen;
+}
+
 std::int32_t cislo_radku(int radek) {
-    return cele_z_textu(vyrez(relief.lblTabulka_vlaku[radek].text(), kSloupecCisla, kSirkaCisla));
+    return zaznam_radku(radek).cislo;
+}
+
+void prevezmi_radek_tabulky(int radek, TextPohled text) {
+    zaznam_radku(radek) = {!orez(text).empty(), cele_z_textu(vyrez(text, kSloupecCisla, kSirkaCisla))};
+    relief.lblTabulka_vlaku[radek].text = text;
 }
 
 void pridej_do_tabulky(int vlak) {
     const Text radek = radek_vlaku(vlak_c(vlak));
-    if (!je_prazdny(kRadkuTabulky - 1)) {
+    const RadekTabulky zaznam{true, zobrazene_cislo(vlak_c(vlak))};
+    if (radek_obsazen(kRadkuTabulky - 1)) {
         for (int i = kRadkuTabulky - 1; i > 0; --i)
             presun(i - 1, i);
-        zapis(0, radek);
+        zapis(0, zaznam, radek);
         return;
     }
     int volny = 0;
-    while (!je_prazdny(volny))
+    while (radek_obsazen(volny))
         ++volny;
-    zapis(volny, radek);
+    zapis(volny, zaznam, radek);
 }
 
 void smaz_z_tabulky(std::int32_t cislo) {
@@ -84,7 +96,7 @@ void smaz_z_tabulky(std::int32_t cislo) {
         return;
     for (int i = radek; i + 1 < kRadkuTabulky; ++i)
         presun(i + 1, i);
-    zapis(kRadkuTabulky - 1, {});
+    zapis(kRadkuTabulky - 1, {}, {});
 }
 
 int radek_tabulky(std::int32_t cislo) {
@@ -102,6 +114,7 @@ void prepis_v_tabulce(std::int32_t cislo, int vlak) {
         return;
     Text radek = relief.lblTabulka_vlaku[i].text();
     pis_druh_a_cislo(radek, vlak_c(vlak));
+    zaznam_radku(i).cislo = zobrazene_cislo(vlak_c(vlak));
     relief.lblTabulka_vlaku[i].text = radek;
 }
 

@@ -4,9 +4,20 @@
 // of a line that flashes (blikani_radku) goes with its line.
 #pragma once
 
+#include "zaklad/text.h"
+
+#include <array>
 #include <cstdint>
 
 inline constexpr int kRadkuTabulky = 24;
+
+// What is known of a line; lblTabulka_vlaku shows its text.
+struct RadekTabulky {
+    bool obsazen = false;
+    std::int32_t cislo = 0; // of its train
+    bool operator==(const RadekTabulky&) const = default;
+};
+extern std::array<RadekTabulky, kRadkuTabulky> tabulka_vlaku;
 
 // --- by everything that makes a train, or gives it a number
 
@@ -19,9 +30,18 @@ void prepis_v_tabulce(std::int32_t cislo, int vlak);
 // The line of the number flashes, or no longer: its train is about to depart.
 void blikej_v_tabulce(std::int32_t cislo, bool blika);
 
+// --- by a load
+
+// The line is the one of a save, as it is. It holds texts only, so this is the one place where a number is
+// read out of its line.
+void prevezmi_radek_tabulky(int radek, TextPohled text);
+
 // --- at any time, without change
 
-// Line of a number: it stands from the fifth character on; -1 when there is none.
+// A train stands in the line.
+bool radek_obsazen(int radek);
+
+// Line of a number; -1 when there is none.
 int radek_tabulky(std::int32_t cislo);
 // Number in a line; 0 in an empty one.
 std::int32_t cislo_radku(int radek);

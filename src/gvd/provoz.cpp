@@ -333,9 +333,8 @@ void vstup_se_souhlasem(int gvd_index) {
     const uzel::KonecTrati& konec = uzel::kKonceTrati[static_cast<std::size_t>(k)];
     if (!je_kolej(konec.navestidlo) || !je_kolej(konec.usek))
         return;
-    Prvek& lampa = relief.lblSouhlas[k];
     if (!je_cekajici(r.cislo)) {
-        lampa.popis = text_cisla(r.cislo);
+        zadej_souhlas(k, r.cislo);
         simulace.ticho_souhlasu = false;
         return;
     }

@@ -6,6 +6,7 @@
 #include "desk/hlaseni.h"
 #include "desk/info_o_vlaku.h"
 #include "desk/menu.h"
+#include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
 #include "jizda/na_koleji.h"
 #include "obsluha/makra.h"
@@ -105,7 +106,7 @@ bool je_bez_povelu_pod_kurzorem() {
     case Druh::imgToc:
     case Druh::imgToc2:
     case Druh::lblPrava: return true;
-    case Druh::lblTabulka_vlaku: return orez(tabulka(vyber.mys_druh)[vyber.mys_prvek].text()).empty();
+    case Druh::lblTabulka_vlaku: return !radek_obsazen(vyber.mys_prvek);
     default: return false;
     }
 }

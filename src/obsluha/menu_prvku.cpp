@@ -139,7 +139,7 @@ void klik_souhlas(int k, Tlacitko tlacitko) {
         menu_souhlasu(k);
         return;
     }
-    if (tlacitko == Tlacitko::leve && !relief.lblSouhlas[k].popis->empty())
+    if (tlacitko == Tlacitko::leve && souhlasy.zada[static_cast<std::size_t>(k)])
         zprava(DruhZpravy::souhlas, otazka(k), barvy::azurova, k + 1);
 }
 

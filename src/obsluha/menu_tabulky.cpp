@@ -42,7 +42,7 @@ void hledej_radek(int radek) {
 }
 
 void menu_tabulky(int radek) {
-    if (orez(relief.lblTabulka_vlaku[radek].text()).empty())
+    if (!radek_obsazen(radek))
         return;
     Menu nove{"mnuTabulka", {}, Druh::lblTabulka_vlaku, radek, {}};
     nove.polozky.push_back({"miSmazat", "SMAZ", true, true, smaz_radek, radek});

@@ -18,23 +18,33 @@ const uzel::KonecTrati& konec(int k) {
 
 } // namespace
 
-void souhlas_us(int k) {
+void zadej_souhlas(int k, std::int32_t cislo) {
+    zadej_souhlas(k, TextPohled(text_cisla(cislo)));
+}
+
+void zadej_souhlas(int k, TextPohled cislo) {
     if (!je_lampa(k))
         return;
-    Prvek& lampa = relief.lblSouhlas[k];
-    if (lampa.popis->empty())
+    relief.lblSouhlas[k].popis = cislo;
+    souhlasy.zada[static_cast<std::size_t>(k)] =
+        cislo.empty() ? std::nullopt : std::optional(cele_z_textu(cislo));
+}
+
+void souhlas_us(int k) {
+    if (!je_lampa(k) || !souhlasy.zada[static_cast<std::size_t>(k)])
         return;
+    Prvek& lampa = relief.lblSouhlas[k];
     if (lampa.barva != barvy::modra) // else a route leads out here, and the lamp goes on saying so
         nastav_text(lampa, znak(konec(k).znak_dovnitr));
     lampa.barva = barvy::modra;
 
-    const std::int32_t cislo = cele_z_textu(lampa.popis());
+    const std::int32_t cislo = *souhlasy.zada[static_cast<std::size_t>(k)];
     std::vector<std::int32_t>& cekajici = souhlasy.cekajici_vlaky;
     if (cekajici.size() == 1 && cekajici.front() == 0)
         cekajici.front() = cislo;
     else
         cekajici.push_back(cislo);
     souhlasy.souhlas[static_cast<std::size_t>(k)] = true;
-    lampa.popis = Text();
+    zadej_souhlas(k, TextPohled());
     gtn_zapis(k, gtn::souhlas, 0);
 }

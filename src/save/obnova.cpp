@@ -9,6 +9,7 @@
 #include "cesty/zasobnik.h"
 #include "desk/hlaseni.h"
 #include "desk/stav_blikani.h"
+#include "desk/tabulka_vlaku.h"
 #include "jizda/krok_jizdy.h"
 #include "jizda/zastavky.h"
 #include "prvky/barvi_prvek.h"
@@ -140,7 +141,7 @@ void obnov_smery(const Zaznam& z) {
             Prvek& lampa = relief.lblSouhlas[k];
             lampa.barva = z.souhlas_barva[i] == 0 ? barvy::modra : barvy::seda;
             nastav_text(lampa, z.souhlas_text[i]);
-            lampa.popis = z.souhlas_tag[i];
+            zadej_souhlas(k, z.souhlas_tag[i]);
         }
         if (relief.lblPredvidany_odjezd.je(k)) {
             Prvek& odjezd = relief.lblPredvidany_odjezd[k];
@@ -211,7 +212,7 @@ void prevezmi_provoz(const Zaznam& z) {
 void prevezmi_seznamy(Zaznam& z) {
     for (std::size_t i = 0; i < z.tabulka.size(); ++i)
         if (relief.lblTabulka_vlaku.je(static_cast<int>(i)))
-            relief.lblTabulka_vlaku[static_cast<int>(i)].text = z.tabulka[i];
+            prevezmi_radek_tabulky(static_cast<int>(i), z.tabulka[i]);
     prevezmi_hlaseni(z.zpravy);
 }
 

@@ -5,6 +5,7 @@
 #include "desk/stav_blikani.h"
 #include "desk/zprava.h"
 #include "pomocne/virtualni_platforma.h"
+#include "prvky/souhlasy.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "relief/prejezdy.h"
 #include "relief/relief.h"
@@ -43,7 +44,8 @@ TEST_F(BlikaniDesky, StandsStillInAPause) {
     blikani.blikani_radku[3] = true;
     krok_blikani();
     simulace.pauza = true;
-    lampa(0, 8).popis = TextPohled("123");
+    lampa(0, 8);
+    zadej_souhlas(0, 123);
     simulace.nova_zprava = true;
     simulace.pn_bezi = true;
     blikani.ramecek_hledani = 6;
@@ -134,7 +136,8 @@ TEST_F(BlikaniDesky, NothingBeepsWithTheSoundOff) {
     simulace.zvuk_vypnut = true;
     simulace.nova_zprava = true;
     simulace.pn_bezi = true;
-    lampa(0, 8).popis = TextPohled("4711");
+    lampa(0, 8);
+    zadej_souhlas(0, 4711);
     zprava(" POZOR PN ", "text", barvy::cervena);
     for (int i = 0; i < 4; ++i)
         krok_blikani();
@@ -144,7 +147,7 @@ TEST_F(BlikaniDesky, NothingBeepsWithTheSoundOff) {
 
 TEST_F(BlikaniDesky, ConsentLampMovesAndKeepsItsGlyph) {
     Prvek& p = lampa(2, 176);
-    p.popis = TextPohled("4711");
+    zadej_souhlas(2, 4711);
     for (int i = 0; i < 25; ++i) {
         krok_blikani();
         EXPECT_EQ(p.text(), " " + znak(176));
@@ -152,7 +155,7 @@ TEST_F(BlikaniDesky, ConsentLampMovesAndKeepsItsGlyph) {
         EXPECT_EQ(p.text(), znak(176));
     }
     krok_blikani();
-    p.popis = TextPohled("");
+    zadej_souhlas(2, TextPohled());
     krok_blikani();
     EXPECT_EQ(p.text(), znak(176));
     krok_blikani();
@@ -160,7 +163,8 @@ TEST_F(BlikaniDesky, ConsentLampMovesAndKeepsItsGlyph) {
 }
 
 TEST_F(BlikaniDesky, WaitingConsentBeepsUntilSilenced) {
-    lampa(0, 8).popis = TextPohled("4711");
+    lampa(0, 8);
+    zadej_souhlas(0, 4711);
     krok_blikani();
     EXPECT_EQ(svet.pipnuti, (std::vector<Pipnuti>{{500, 40}}));
     simulace.ticho_souhlasu = true;

@@ -3,6 +3,7 @@
 #include "cesty/stavedlo.h"
 #include "cesty/tik_volby.h"
 #include "cesty/uvolneni.h"
+#include "cesty/zasobnik.h"
 #include "pomocne/prvky_cesty.h"
 #include "prvky/barvi_prvek.h"
 #include "prvky/stanicni_prejezdy.h"
@@ -33,6 +34,8 @@ TEST_F(StavebCest, TrainRouteFromPickToClearedSignal) {
     EXPECT_TRUE(vyhybka_v_pohybu(5));
     EXPECT_EQ(relief.lblZasobnik_blokv[0].text(), "VC TST S240 K42 400m");
     EXPECT_EQ(relief.lblZasobnik_blokv[0].popis(), "2");
+    EXPECT_EQ(stav_zasobniku.ceka, 2);
+    relief.lblZasobnik_blokv[0].popis = Text("7"); // the route does not hang on what the line shows
     EXPECT_EQ(relief.lblZasobnik_blokv[0].barva, barvy::cerna);
     EXPECT_EQ(zapsano({31, 240, 42}), 1u);
     cekej(5);
@@ -47,6 +50,7 @@ TEST_F(StavebCest, TrainRouteFromPickToClearedSignal) {
     EXPECT_EQ(c.prvky.back().poloha, 2);
     EXPECT_EQ(relief.lblZasobnik_blokv[0].text(), "");
     EXPECT_EQ(relief.lblZasobnik_blokv[0].popis(), "-3");
+    EXPECT_EQ(stav_zasobniku.ceka, std::nullopt);
     EXPECT_EQ(relief.lblZasobnik_pocet[0].text(), "00");
     EXPECT_EQ(zapsano({51, 240, 42}), 1u);
     EXPECT_EQ(zapsano({75, 240, barvy::zelena}), 1u);

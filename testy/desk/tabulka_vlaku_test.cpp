@@ -87,7 +87,7 @@ TEST_F(TabulkaVlaku, LineIsCutToItsWidth) {
 TEST_F(TabulkaVlaku, NewTrainTakesTheFirstEmptyLine) {
     for (const int cislo : {11, 22, 33})
         pridej(cislo);
-    relief.lblTabulka_vlaku[1].text = Text(41, ' ');
+    prevezmi_radek_tabulky(1, Text(41, ' '));
     blikani.blikani_radku[1] = true;
     pridej(44);
     EXPECT_EQ(radek_tabulky(44), 1);
@@ -147,4 +147,27 @@ TEST_F(TabulkaVlaku, TrainThatNoLabelShowsIsNotFramed) {
         EXPECT_EQ(blikani.ramecek_hledani, 0);
         EXPECT_EQ(relief.shpVyhledavani[0], pred);
     }
+}
+
+TEST_F(TabulkaVlaku, TrainOfALineDoesNotHangOnWhatTheLineShows) {
+    pridej(1234);
+    relief.lblTabulka_vlaku[0].text = Text("Os  99");
+    EXPECT_EQ(cislo_radku(0), 1234);
+    EXPECT_EQ(radek_tabulky(1234), 0);
+    EXPECT_EQ(radek_tabulky(99), -1);
+    relief.lblTabulka_vlaku[0].text = Text();
+    pridej(5678);
+    EXPECT_EQ(radek_tabulky(5678), 1); // the line is taken
+}
+
+TEST_F(TabulkaVlaku, LineOfASaveStaysAsItIsAndItsNumberStandsFromTheFifthCharacter) {
+    prevezmi_radek_tabulky(2, "Os  4701");
+    EXPECT_EQ(radek(2), "Os  4701");
+    EXPECT_EQ(cislo_radku(2), 4701);
+    prevezmi_radek_tabulky(2, "   ");
+    EXPECT_FALSE(radek_obsazen(2));
+    EXPECT_EQ(cislo_radku(2), 0);
+    prevezmi_radek_tabulky(2, "xxx");
+    EXPECT_TRUE(radek_obsazen(2));
+    EXPECT_EQ(cislo_radku(2), 0);
 }

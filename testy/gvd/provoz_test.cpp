@@ -9,6 +9,7 @@
 #include "pomocne/provoz_sveta.h"
 #include "pomocne/prvky_cesty.h"
 #include "pomocne/vozy_vlaku.h"
+#include "prvky/souhlasy.h"
 
 #include <gtest/gtest.h>
 
@@ -522,7 +523,7 @@ TEST_F(Provoz, RequestIsMadeInOneMinuteOnly) {
     souhlasova_lampa(2);
     pridej(radek(4701, {{5, -1, 631}, {9, 660, -1}}));
     v("10:30:00");
-    relief.lblSouhlas[2].popis = Text();
+    zadej_souhlas(2, TextPohled());
     v("10:31:00");
     EXPECT_EQ(relief.lblSouhlas[2].popis, "");
 }

@@ -1,6 +1,7 @@
 // testy/obsluha/klavesy_test.cpp - keys, and their names.
 #include "app/simulace.h"
 #include "desk/menu.h"
+#include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
 #include "obsluha/klavesy.h"
 #include "obsluha/vstup.h"
@@ -134,7 +135,7 @@ TEST_F(Klavesy, F2AsksForAUnitWhenThePointerIsOverNothing) {
 }
 
 TEST_F(Klavesy, F2AsksForAUnitOverWhatTakesNoRightButton) {
-    relief.lblTabulka_vlaku[3].text = Text(41, ' ');
+    prevezmi_radek_tabulky(3, Text(41, ' '));
     for (const auto& [druh, n] :
          {std::pair{Druh::imgToc, 0}, std::pair{Druh::lblPrava, 0}, std::pair{Druh::lblTabulka_vlaku, 3}}) {
         potvrd_prikaz();
@@ -144,7 +145,7 @@ TEST_F(Klavesy, F2AsksForAUnitOverWhatTakesNoRightButton) {
         EXPECT_EQ(relief.lblPrikaz[0].text(), " JEDNOTKA? ") << jmeno_druhu(druh);
     }
     potvrd_prikaz();
-    relief.lblTabulka_vlaku[3].text = Text("Os  1234       62m, BOR, 80km/h          ");
+    prevezmi_radek_tabulky(3, "Os  1234       62m, BOR, 80km/h          ");
     stiskni("F2");
     EXPECT_FALSE(prikaz_radek.obsazen) << "a row of a train has a menu";
     EXPECT_FALSE(menu.jmeno.empty());
@@ -196,7 +197,7 @@ TEST_F(Klavesy, EnterOverTheEmptyLineFindsNothingToClick) {
 TEST_F(Klavesy, EnterOnTheQuestionOfANeighbourGivesConsent) {
     Prvek& lampa = relief.lblSouhlas.zaloz(1);
     lampa.text = znak(8);
-    lampa.popis = TextPohled("4711");
+    zadej_souhlas(1, 4711);
     klik(Druh::lblSouhlas, 1, Tlacitko::leve, false);
     ASSERT_EQ(prikaz_radek.kod_zpravy, 2);
     stiskni("Enter");
@@ -210,7 +211,7 @@ TEST_F(Klavesy, EnterOnTheQuestionOfANeighbourGivesConsent) {
 TEST_F(Klavesy, EnterOnTheQuestionBringsOneMessageOnly) {
     Prvek& lampa = relief.lblSouhlas.zaloz(1);
     lampa.text = znak(8);
-    lampa.popis = TextPohled("4711");
+    zadej_souhlas(1, 4711);
     klik(Druh::lblSouhlas, 1, Tlacitko::leve, false);
     zprava(" M ", "A", barvy::cervena);
     zprava(" M ", "B", barvy::cervena);

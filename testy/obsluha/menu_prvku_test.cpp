@@ -189,7 +189,7 @@ TEST_F(MenuSouhlasu, LeftClickAsksWhetherToTakeTheTrain) {
     for (int k = 0; k < 3; ++k) {
         prikaz_radek = Prikaz{};
         skryj_prikaz();
-        relief.lblSouhlas[k].popis = Text("4711");
+        zadej_souhlas(k, 4711);
         klik_souhlas(k, Tlacitko::leve);
         EXPECT_EQ(relief.lblPrikaz[0].text(), " ZPRÁVA "_cz);
         EXPECT_EQ(relief.lblPrikaz[0].pozadi(), barvy::azurova);
@@ -218,7 +218,7 @@ TEST_F(MenuSouhlasu, RightClickOpensTheMenuOfTheLine) {
 }
 
 TEST_F(MenuSouhlasu, GivenFromTheMenuConfirmsTheQuestionOfItsLine) {
-    relief.lblSouhlas[0].popis = Text("4711");
+    zadej_souhlas(0, 4711);
     klik_souhlas(0, Tlacitko::leve);
     zprava(" OK ", "dalsi", barvy::zelena);
     udel_souhlas(0);
@@ -227,7 +227,7 @@ TEST_F(MenuSouhlasu, GivenFromTheMenuConfirmsTheQuestionOfItsLine) {
 }
 
 TEST_F(MenuSouhlasu, QuestionBroughtByTheQueueIsConfirmedToo) {
-    relief.lblSouhlas[0].popis = Text("4711");
+    zadej_souhlas(0, 4711);
     zprava(" OK ", "prvni", barvy::zelena);
     klik_souhlas(0, Tlacitko::leve);
     potvrd_prikaz();
@@ -238,8 +238,8 @@ TEST_F(MenuSouhlasu, QuestionBroughtByTheQueueIsConfirmedToo) {
 }
 
 TEST_F(MenuSouhlasu, QuestionOfAnotherLineIsNotAnsweredByIt) {
-    relief.lblSouhlas[0].popis = Text("4711");
-    relief.lblSouhlas[1].popis = Text("4712");
+    zadej_souhlas(0, 4711);
+    zadej_souhlas(1, 4712);
     klik_souhlas(1, Tlacitko::leve);
     udel_souhlas(0);
     EXPECT_TRUE(prikaz_radek.obsazen);
@@ -248,7 +248,7 @@ TEST_F(MenuSouhlasu, QuestionOfAnotherLineIsNotAnsweredByIt) {
 }
 
 TEST_F(MenuSouhlasu, EnterOnTheQuestionGivesTheConsentOnce) {
-    relief.lblSouhlas[1].popis = Text("4711");
+    zadej_souhlas(1, 4711);
     klik(Druh::lblSouhlas, 1, Tlacitko::leve, false);
     zprava(" OK ", "dalsi", barvy::zelena);
     klavesa(klavesa_podle_jmena("Enter"));

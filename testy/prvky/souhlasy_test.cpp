@@ -3,11 +3,31 @@
 #include "prvky/souhlasy.h"
 #include "prvky/svety.h"
 
+TEST_F(Souhlas, TrainThatMayComeDoesNotHangOnTheTagOfTheLamp) {
+    zadej_souhlas(1, 4711);
+    EXPECT_EQ(relief.lblSouhlas[1].popis(), "4711");
+    relief.lblSouhlas[1].popis = Text("12");
+    souhlas_us(1);
+    EXPECT_EQ(souhlasy.cekajici_vlaky, (std::vector<std::int32_t>{4711}));
+    EXPECT_EQ(souhlasy.zada[1], std::nullopt);
+    EXPECT_EQ(relief.lblSouhlas[1].popis(), "");
+}
+
+TEST_F(Souhlas, NobodyAsksByAnEmptyTag) {
+    zadej_souhlas(0, "4711");
+    EXPECT_EQ(souhlasy.zada[0], 4711);
+    zadej_souhlas(0, TextPohled());
+    EXPECT_EQ(souhlasy.zada[0], std::nullopt);
+    souhlas_us(0);
+    EXPECT_FALSE(souhlasy.souhlas[0]);
+    zadej_souhlas(3, 4711); // no line end
+}
+
 TEST_F(Souhlas, GivenConsentTurnsTheLampInwardsAndLetsTheTrainIn) {
     const int dovnitr[] = {8, 8, 176};
     for (int k = 0; k < 3; ++k) {
         relief.lblSouhlas[k].text = Text("x");
-        relief.lblSouhlas[k].popis = text_cisla(4711 + k);
+        zadej_souhlas(k, 4711 + k);
         souhlas_us(k);
         EXPECT_EQ(relief.lblSouhlas[k].text(), znak(dovnitr[k]));
         EXPECT_EQ(relief.lblSouhlas[k].barva(), barvy::modra);
@@ -21,7 +41,7 @@ TEST_F(Souhlas, GivenConsentTurnsTheLampInwardsAndLetsTheTrainIn) {
 TEST_F(Souhlas, WithARouteLockedOutwardsTheLampGoesOnSayingSo) {
     relief.lblSouhlas[2].barva = barvy::modra;
     relief.lblSouhlas[2].text = znak(183);
-    relief.lblSouhlas[2].popis = Text("99");
+    zadej_souhlas(2, 99);
     souhlas_us(2);
     EXPECT_EQ(relief.lblSouhlas[2].text(), znak(183));
     EXPECT_EQ(relief.lblSouhlas[2].barva(), barvy::modra);
@@ -38,7 +58,7 @@ TEST_F(Souhlas, WithNobodyAskingDoesNothing) {
 }
 
 TEST_F(Souhlas, LampBlinksByMovingItsGlyphUntilTheTrainIsTaken) {
-    relief.lblSouhlas[2].popis = Text("4711");
+    zadej_souhlas(2, 4711);
     const Text glyf = znak(176);
     for (int i = 0; i < 4; ++i) {
         krok_blikani();

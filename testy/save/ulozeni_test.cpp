@@ -9,6 +9,7 @@
 #include "desk/hlaseni.h"
 #include "desk/stav_blikani.h"
 #include "desk/stitky.h"
+#include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
 #include "gvd/stav_provozu.h"
@@ -710,7 +711,7 @@ TEST_F(Ulozeni, ConsentsAreKnownAgainByTheTrainsThatWait) {
     nova_simulace();
     simulace.cesta_aplikace = svet.cesta();
     spust();
-    relief.lblSouhlas[1].popis = TextPohled("4701");
+    zadej_souhlas(1, 4701);
     udel_souhlas(1);
     ASSERT_TRUE(souhlasy.souhlas[1]);
     uloz();
@@ -796,7 +797,7 @@ TEST_F(Ulozeni, CallingOnAspectCountsDownOn) {
 }
 
 TEST_F(Ulozeni, TrainTableFlashesOn) {
-    relief.lblTabulka_vlaku[3].text = TextPohled("Os  4701");
+    prevezmi_radek_tabulky(3, "Os  4701");
     blikani.blikani_radku[3] = true;
     uloz();
     nacti();

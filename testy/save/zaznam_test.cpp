@@ -50,7 +50,7 @@ void postav_vzorove_kolejiste() {
     relief.lblSouhlas2.zaloz(638);
     for (int k = 0; k < 3; ++k) {
         relief.lblSouhlas.zaloz(k).text = znak(8);
-        relief.lblSouhlas[k].popis = Text{};
+        zadej_souhlas(k, TextPohled());
     }
 }
 
@@ -270,7 +270,7 @@ TEST_F(ZaznamSimulace, DerailersArrowsAndLampsHaveTheirCodes) {
     relief.lblVykolejka[0].barva = barvy::bila;
     relief.lblSouhlas2[640].barva = barvy::azurova;
     relief.lblSouhlas[1].barva = barvy::modra;
-    relief.lblSouhlas[1].popis = TextPohled("4701");
+    zadej_souhlas(1, 4701);
     const Zaznam z = zaznam_simulace();
     EXPECT_EQ(z.vykolejky_znak, Bajty{21});
     EXPECT_EQ(z.vykolejky_barva, Bajty{2});

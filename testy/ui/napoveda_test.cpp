@@ -34,7 +34,7 @@ protected:
 };
 
 TEST_F(NapovedaStolu, EveryCommandOfEveryMenuIsExplained) {
-    relief.lblTabulka_vlaku[0].text = Text("Os  1234       62m, BOR, 80km/h          ");
+    prevezmi_radek_tabulky(0, "Os  1234       62m, BOR, 80km/h          ");
     const std::function<void()> nabidky[] = {
         [] { pravym(Druh::navestidlo, 262); },
         [] { pravym(Druh::navestidlo_ser, 540); },
@@ -139,7 +139,7 @@ TEST_F(NapovedaStolu, CommandLineSaysWhatItWaitsFor) {
 
 TEST_F(NapovedaStolu, ConsentLampNamesTheTrainThatAsks) {
     EXPECT_TRUE(napoveda_prvku({Druh::lblSouhlas, 2}).startsWith(QStringLiteral("VRB-THN")));
-    relief.lblSouhlas[2].popis = Text("16851");
+    zadej_souhlas(2, 16851);
     EXPECT_TRUE(napoveda_prvku({Druh::lblSouhlas, 2}).contains(QStringLiteral("žádá vlak 16851")));
 }
 
