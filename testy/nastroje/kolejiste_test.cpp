@@ -523,6 +523,52 @@ TEST(Tesk, EveryLineReachesEveryTrackOfTheMainStation) {
     EXPECT_EQ(koleje_cesty(tesk(), 32, true, 574), (std::vector<int>{32, 574}));
 }
 
+TEST(Tesk, EveryLineReachesEveryTrackOfMokrinaOverOneOfItsLevelCrossings) {
+    for (int kolej = 36; kolej <= 40; ++kolej) {
+        for (const auto& [trat, prejezd, zahlavi] : {std::array{666, 279, 270}, std::array{668, 280, 271}}) {
+            const auto tam = koleje_cesty(tesk(), trat, true, kolej),
+                       zpet = koleje_cesty(tesk(), kolej, false, trat);
+            EXPECT_TRUE(obsahuje(tam, prejezd) && obsahuje(tam, zahlavi)) << trat << " " << kolej;
+            EXPECT_TRUE(obsahuje(zpet, prejezd) && obsahuje(zpet, zahlavi)) << trat << " " << kolej;
+        }
+        EXPECT_FALSE(koleje_cesty(tesk(), kolej, true, 123).empty()) << kolej;
+        EXPECT_FALSE(koleje_cesty(tesk(), kolej, true, 120).empty()) << kolej;
+    }
+    for (const int kolej : {41, 42, 43})
+        for (const int trat : {120, 123})
+            EXPECT_FALSE(koleje_cesty(tesk(), kolej, false, trat).empty()) << kolej << " " << trat;
+}
+
+TEST(Tesk, KamenecLiesBetweenTheMainStationAndMokrina) {
+    EXPECT_EQ(tesk().plan.kolej(118)->delka, 6050);
+    EXPECT_EQ(*tesk().graf.soused({Typ::kolej, 118, Port::vlevo}), (Konec{Typ::kolej, 187, Port::vlevo}));
+    EXPECT_EQ(*tesk().graf.soused({Typ::kolej, 118, Port::vpravo}), (Konec{Typ::kolej, 303, Port::vlevo}));
+    for (int kolej = 36; kolej <= 40; ++kolej)
+        EXPECT_FALSE(koleje_cesty(tesk(), 118, true, kolej).empty()) << kolej;
+}
+
+TEST(Tesk, TheFoldTurnsTrainsBetweenPlainSectionsOnly) {
+    for (const int kolej : {115, 116})
+        for (const Port strana : {Port::vlevo, Port::vpravo}) {
+            const auto soused = tesk().graf.soused({Typ::kolej, kolej, strana});
+            ASSERT_TRUE(soused) << kolej;
+            EXPECT_EQ(soused->typ, Typ::kolej) << kolej;
+            EXPECT_FALSE(tesk().plan.kolej(soused->cislo)->cil) << kolej;
+        }
+    for (const int odkud : {113, 114})
+        for (const int trat : {616, 618})
+            EXPECT_FALSE(koleje_cesty(tesk(), odkud, true, trat).empty()) << odkud << " " << trat;
+}
+
+TEST(Tesk, HajoviceLeadFromBothTracksOfRybniceToTheYardAndTheDepot) {
+    for (int kolej = 47; kolej <= 54; ++kolej) {
+        for (const int odkud : {76, 77})
+            EXPECT_FALSE(koleje_cesty(tesk(), odkud, true, kolej).empty()) << odkud << " " << kolej;
+        for (const int kam : {55, 56, 112})
+            EXPECT_FALSE(koleje_cesty(tesk(), kolej, true, kam).empty()) << kolej << " " << kam;
+    }
+}
+
 TEST(Tesk, RepeatersLeadOnFromTheirSections) {
     EXPECT_FALSE(koleje_cesty(tesk(), 21, true, 24).empty());
     EXPECT_FALSE(koleje_cesty(tesk(), 22, true, 27).empty());
