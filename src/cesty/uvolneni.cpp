@@ -310,7 +310,9 @@ void stuj_bez_vyhybky(int n) {
 }
 
 void ppn(int s) {
-    if (Cesta* c = prvni_cesta([&](const Cesta& x) { return x.zacatek == s && x.PN && x.PN_do > 0; }))
+    // What has run out, or was put to stop since the menu was opened, is not lit again.
+    const std::int32_t ted = ted_s();
+    if (Cesta* c = prvni_cesta([&](const Cesta& x) { return x.zacatek == s && x.PN && x.PN_do > ted; }))
         c->PN_do += kProdlouzeniPN_s;
 }
 

@@ -409,6 +409,29 @@ TEST_F(Uvolneni, StujEndsACallingOnAspect) {
     EXPECT_EQ(relief.lblPN[1].text(), "");
 }
 
+// The menu that offered it was opened while the aspect showed.
+TEST_F(Uvolneni, PPNDoesNotLightACallingOnAspectThatHasEndedAgain) {
+    postav(240, 42, druh_volby::pn);
+    const std::int32_t konec = cesty[0].PN_do;
+    ppn(240);
+    EXPECT_EQ(cesty[0].PN_do, konec + 30);
+    navestidlo_stuj(240);
+    ppn(240);
+    cekej(2);
+    EXPECT_EQ(cesty[0].PN_do, -3) << "put to stop";
+    EXPECT_EQ(navestni(240), barvy::seda);
+    EXPECT_FALSE(pn_sviti(240));
+
+    cesty.assign(1, Cesta{});
+    relief.imgVyhybka[5].stav = TextPohled("2");
+    postav(240, 42, druh_volby::pn);
+    posun_cas(cesty[0].PN_do - ted_s());
+    ppn(240); // between the second that ends it and the next step of the machine
+    cekej(2);
+    EXPECT_EQ(cesty[0].PN_do, -3) << "run out";
+    EXPECT_FALSE(pn_sviti(240));
+}
+
 TEST_F(Uvolneni, RNZReleasesACallingOnRouteAfterItsAspect) {
     postav(240, 41, druh_volby::pn);
     rnz(240);
