@@ -433,11 +433,19 @@ bool jsou_vlaky_u_sipky(int n) {
     return false;
 }
 
+// A calling-on or a shunting route may lead onto the track of the line that a train occupies. The arrow of
+// such a track follows the start of the route commanded last, and so of this one.
+bool vede_k_vlaku(int n) {
+    return uzel::je_trat_dubnice(n) && std::any_of(cesty.begin(), cesty.end(), [n](const Cesta& c) {
+               return c.zacatek >= 0 && c.prehozena && c.konec == n && (c.PN || !c.VC);
+           });
+}
+
 // A direction is given up before the other one is taken; under a train nobody takes it.
 Nalez smery_trati() {
     for (const VidenaSipka& drive : videno.sipky)
         if (drive.svitila && !drive.smer.empty() && relief.lblSouhlas2.je(drive.cislo) &&
-            jsou_vlaky_u_sipky(drive.cislo)) {
+            jsou_vlaky_u_sipky(drive.cislo) && !vede_k_vlaku(drive.cislo)) {
             const Prvek& sipka = relief.lblSouhlas2[drive.cislo];
             if (sipka.barva == barvy::azurova && !orez(sipka.text()).empty() &&
                 orez(sipka.text()) != TextPohled(drive.smer))

@@ -282,6 +282,23 @@ TEST_F(KontrolaJizdy, DirectionNeverTurnsUnderATrain) {
     EXPECT_EQ(nalez(), "lblSouhlas2 604: směr se obrátil pod vlakem");
 }
 
+// A train on sight follows another one, or comes to meet it: that is the operator's to answer for.
+TEST_F(KontrolaJizdy, ArrowOfTheTrackToDubniceFollowsACallingOnRouteUnderATrain) {
+    pridej_kolej(120);
+    relief.lblSouhlas2.zaloz(120);
+    barvi_prvek(120, barvy::cervena);
+    nastav_text(relief.lblSouhlas2[120], kSipkaVpravo);
+    const int c = cesta({263, 120, {63, 120}, {1, 1}, {2, 0}, 0});
+    ASSERT_EQ(nalez(), "");
+    nastav_text(relief.lblSouhlas2[120], kSipkaVlevo);
+    EXPECT_EQ(nalez(), "lblSouhlas2 120: směr se obrátil pod vlakem") << "by a train route it never does";
+    nastav_text(relief.lblSouhlas2[120], kSipkaVpravo);
+    cesta_c(c).PN = true;
+    ASSERT_EQ(nalez(), "");
+    nastav_text(relief.lblSouhlas2[120], kSipkaVlevo);
+    EXPECT_EQ(nalez(), "");
+}
+
 TEST_F(KontrolaJizdy, WhatWasSeenBelongsToOneSimulation) {
     const int v = vlak_na(62, true, 1234);
     const int c = cesta(pres_vyhybku());
