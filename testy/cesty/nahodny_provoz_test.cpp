@@ -1,18 +1,29 @@
 // testy/cesty/nahodny_provoz_test.cpp - thousands of random hands at the desk; after each the tables must
 // hold together. A fault is reported with the shortest script that still shows it.
+//
+// The acts on routes, switches, signals, consents, crossings and notes are drawn one by one; `ruka` does
+// everything else that a hand can do here: pomocne/dosah_ruky.h lists it, and a test counts that it was done.
 #include "app/cas.h"
 #include "app/casovace.h"
 #include "app/kontrola.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/duvod.h"
+#include "cesty/navest.h"
 #include "cesty/opakovani.h"
 #include "cesty/prehoz_rukou.h"
 #include "cesty/prekazky.h"
 #include "cesty/stavedlo.h"
 #include "cesty/uvolneni.h"
 #include "obsluha/makra.h"
+#include "obsluha/zadani.h"
+#include "pomocne/dosah_ruky.h"
+#include "pomocne/nahodna_ruka.h"
+#include "pomocne/semena.h"
 #include "prvky/barvi_prvek.h"
 #include "prvky/navestidla.h"
+#include "prvky/prejezdy_stanice.h"
+#include "prvky/souhlasy.h"
+#include "uzel/trate.h"
 #include "zaklad/chyba.h"
 
 #include <random>
@@ -34,8 +45,15 @@ enum class Co {
     stuj,
     rnz,
     zam,
+    zam_chvili,
     ab,
+    ppn,
+    nouz,
     hod,
+    ruka, // whatever a hand can do: menus, keys, pictures, macros, the maintenance screens
+    prejezd,
+    souhlas,
+    stitek,
     enter,
     obsad,
     vlak,
@@ -46,10 +64,11 @@ enum class Co {
     porucha, // a fault made on purpose: a signal cleared by nobody
     pocet
 };
-constexpr std::array kSlova = {"klik",     "klik ctrl", "klik ser", "PN",    "cil",    "cesta",
-                               "Esc",      "plocha",    "RC",       "DN",    "STUJ",   "RNZ",
-                               "ZAM",      "AB",        "hod",      "Enter", "obsad",  "vlak",
-                               "zasobnik", "PV/VZ",     "makro",    "cekej", "porucha"};
+constexpr std::array kSlova = {"klik", "klik ctrl",  "klik ser", "PN",     "cil",   "cesta",
+                               "Esc",  "plocha",     "RC",       "DN",     "STUJ",  "RNZ",
+                               "ZAM",  "ZAM chvili", "AB",       "PPN",    "NOUZ",  "hod",
+                               "ruka", "prejezd",    "souhlas",  "stitek", "Enter", "obsad",
+                               "vlak", "zasobnik",   "PV/VZ",    "makro",  "cekej", "porucha"};
 static_assert(kSlova.size() == static_cast<std::size_t>(Co::pocet));
 
 struct Ukon {
@@ -57,31 +76,55 @@ struct Ukon {
     int cislo;
 };
 
+// The small junction with a post that sets two through routes at once, and with its crossings.
 struct Svet : Stavedlo {
     static inline std::size_t jizdy = 0; // routes run over by trains
+    static inline int vlaku = 0;         // number of the train that came last
+    std::map<std::string, int> pouzito;  // what the hand has done, as it counts it
     Svet() {
+        zat.push_back({323, 41, prvky_cesty({123, 41}, {1, 1}, {0, 0}), 0});
+        zat.push_back({42, 120, prvky_cesty({42, 120}, {1, 1}, {0, 0}), 0});
+        postav_tabulky();
+        kolej(123, 2000, 3000, 4390);
+        navest(323, 229, "TST S323");
+        relief.imgStanoviste.zaloz(dopravna::dubnice);
+        relief.popis_stanice.zaloz(dopravna::dubnice).viditelny = true;
+        for (const int k : {0, 1})
+            relief.lblPrejezd.zaloz(k);
         relief.lblcas[0].viditelny = true;
         nastav_cas("8:00:00");
         jizdy = 0;
+        vlaku = 1000;
     }
     void TestBody() override {}
 };
 
-constexpr std::array kNavestidla = {240, 241, 242, 41, 42, 40, 43, 46, 48, 246, 604, 605};
+constexpr std::array kNavestidla = {240, 241, 242, 41, 42, 40, 43, 46, 48, 246, 323, 604, 605};
 constexpr std::array kCile = {40, 41, 42, 43, 44, 46, 47, 84, 117, 118, 120, 604};
-constexpr std::array kKoleje = {40, 41, 42, 43, 44, 45, 46, 47, 84, 117, 118, 120};
+constexpr std::array kKoleje = {40, 41, 42, 43, 44, 45, 46, 47, 84, 117, 118, 120, 123};
 constexpr std::array kVyhybky = {5, 6, 7};
 
 template <std::size_t N> int vyber_z(const std::array<int, N>& pole, int cislo) {
     return pole[static_cast<std::size_t>(cislo) % N];
 }
 
-// A train comes to a free track, or goes from one that no route has locked.
+// The train number that the label shows; empty when it shows the name of its track.
+Text cislo_na(int n) {
+    if (!je_cislo_koleje(n))
+        return {};
+    const TextPohled text = orez(relief.cislo_koleje[n].text());
+    return text == orez(relief.cislo_koleje[n].popis()) ? Text() : Text(text);
+}
+
+// A train comes to a free track: the one that is announced there, or a new one. Or it goes from one, and its
+// number goes from the line onto which it might have run.
 void obsad(int n) {
     if (relief.kolej[n].barva == barvy::seda) {
         barvi_prvek(n, barvy::cervena);
-        pis_cislo(n, text_cisla(1000 + n));
+        if (cislo_na(n).empty())
+            pis_cislo(n, text_cisla(++Svet::vlaku));
     } else if (relief.kolej[n].barva == barvy::cervena) {
+        pis_cislo(604, cislo_na(n), true, true);
         barvi_prvek(n, barvy::seda);
         pis_cislo(n, "", true);
     }
@@ -108,6 +151,9 @@ void jed(std::size_t od) {
         return;
     if (relief.kolej[cesty[i].prvky[0].prvek].barva == barvy::seda)
         obsad(cesty[i].prvky[0].prvek);
+    Text cislo = cislo_na(cesty[i].prvky[0].prvek);
+    if (cislo.empty()) // a track without a label
+        cislo = text_cisla(++Svet::vlaku);
     kopie_ab(static_cast<int>(i));
     cesty[i].Vlak = 0;
     navestidla(cesty[i].zacatek)[cesty[i].zacatek].barva = barvy::seda;
@@ -134,8 +180,9 @@ void jed(std::size_t od) {
     smaz_cestu(static_cast<int>(i));
     if (konec >= 600) { // it leaves the picture at the far end of the line
         barvi_prvek(konec, barvy::seda);
-        for (const int zdroj : {1041, 1042})
-            pis_cislo(konec, text_cisla(zdroj), true);
+        pis_cislo(konec, cislo, true);
+    } else {
+        pis_cislo(konec, cislo);
     }
     zmena_zasobniku();
 }
@@ -144,6 +191,40 @@ void jed(std::size_t od) {
 void hod(int n, PovelVyhybky povel) {
     if (stav_vyhybky_cislo(n) < 50 && stav_vyhybek.prehoz_cas == -3)
         hod_vyhybku(n, povel);
+}
+
+// The number seeds a hand of its own, so that a script without the acts before it does the same there.
+void ruka(Svet& svet, int cislo) {
+    std::mt19937 zdroj(static_cast<unsigned>(cislo));
+    NahodnaRuka hand(zdroj);
+    hand.ukon();
+    for (const auto& [co, kolikrat] : hand.pouzito())
+        svet.pouzito[co] += kolikrat;
+}
+
+// A train that was let in has come and run on: the line end is at rest.
+void uvolni_konec_trati(int k) {
+    souhlasy.souhlas[static_cast<std::size_t>(k)] = false;
+    const int usek = uzel::kKonceTrati[static_cast<std::size_t>(k)].usek;
+    if (relief.kolej[usek].barva == barvy::seda)
+        barvi_prvek(usek, barvy::seda);
+}
+
+// A neighbour asks, and the operator takes the train, or lets it wait.
+void souhlas(int cislo) {
+    const int k = cislo % 2 * 2; // there is no line end 1 here
+    if (relief.lblSouhlas[k].popis->empty())
+        relief.lblSouhlas[k].popis = text_cisla(4000 + cislo % 1000);
+    if (cislo % 3 == 0)
+        souhlas_us(k);
+    if (cislo % 5 == 0)
+        uvolni_konec_trati(k);
+}
+
+void stitek(int cislo) {
+    otevri_stitek(vyber_z(kKoleje, cislo), static_cast<DruhStitku>(cislo % 3));
+    zpracuj_zadani(cislo % 2 == 0 ? "x" : "");
+    potvrd_prikaz();
 }
 
 // ZAM only ever stays for a short while.
@@ -176,7 +257,7 @@ void vyber_cestu(const Svet& svet, int cislo) {
     klik_cil(z.konec);
 }
 
-void proved(const Svet& svet, const Ukon& u) {
+void proved(Svet& svet, const Ukon& u) {
     const int s = vyber_z(kNavestidla, u.cislo);
     switch (u.co) {
     case Co::klik: klik_navestidlo(s, Tlacitko::leve, false); break;
@@ -191,7 +272,14 @@ void proved(const Svet& svet, const Ukon& u) {
     case Co::dn: obnov_cestu(s); break;
     case Co::stuj: navestidlo_stuj(s); break;
     case Co::rnz: rnz(s); break;
-    case Co::zam: zam_a_zpet(s); break;
+    case Co::zam: zam(s); break;
+    case Co::zam_chvili: zam_a_zpet(s); break;
+    case Co::ppn: ppn(s); break;
+    case Co::nouz: vyhybka_nouz(vyber_z(kVyhybky, u.cislo)); break;
+    case Co::ruka: ruka(svet, u.cislo); break;
+    case Co::prejezd: u.cislo % 2 == 0 ? prejezd_uz(u.cislo / 2 % 2) : prejezd_not(u.cislo / 2 % 2); break;
+    case Co::souhlas: souhlas(u.cislo); break;
+    case Co::stitek: stitek(u.cislo); break;
     case Co::ab: prepni_ab(s); break;
     case Co::hod: hod(vyber_z(kVyhybky, u.cislo), static_cast<PovelVyhybky>(u.cislo / 3 % 4)); break;
     case Co::enter: enter(); break;
@@ -209,6 +297,7 @@ void proved(const Svet& svet, const Ukon& u) {
 // What the script has brought about, by the log: a test that sets no routes proves nothing.
 struct Souhrn {
     std::size_t postavene = 0, posunove = 0, privolavaci = 0, zrusene = 0, jizdy = 0;
+    std::map<std::string, int> pouzito;
 };
 
 // A section that a train route holds is held by it alone; a standing signal has its route.
@@ -251,10 +340,14 @@ std::string kontrola_duvodu() {
     const auto prvni = std::find_if(cesty.begin(), cesty.end(), ma_fazi(FazeCesty::staveni));
     const auto i = static_cast<std::size_t>(prvni - cesty.begin());
     const bool rusi_se = std::any_of(cesty.begin(), cesty.end(), ma_fazi(FazeCesty::zruseni));
+    // a route before it that locks in the same tick may take what it needs
+    const bool uzavre_se = std::any_of(cesty.begin(), prvni, [&](const Cesta& c) {
+        return ma_fazi(FazeCesty::zaver)(c) && duvod_cekani(static_cast<int>(&c - cesty.data())).empty();
+    });
     const Text duvod = duvod_cekani(static_cast<int>(i));
     if (cesty != pred)
         return "asking for a reason changed a route";
-    if (prvni == cesty.end() || rusi_se)
+    if (prvni == cesty.end() || rusi_se || uzavre_se)
         return {};
     krok_volby();
     if (cesty[i].prehozena != duvod.empty())
@@ -263,17 +356,44 @@ std::string kontrola_duvodu() {
     return {};
 }
 
+// The same of the lock: asked of the first route when it is the next thing to be done.
+std::string kontrola_duvodu_zaveru() {
+    const std::int32_t ted = ted_s();
+    const auto ma_fazi = [ted](FazeCesty faze) {
+        return [=](const Cesta& c) { return c.zacatek >= 0 && faze_cesty(c, ted) == faze; };
+    };
+    const auto klidna = [&](const Cesta& c) {
+        return ma_fazi(FazeCesty::klid)(c) || ma_fazi(FazeCesty::privolavaci)(c);
+    };
+    const auto prvni = std::find_if_not(cesty.begin(), cesty.end(), klidna);
+    const auto i = static_cast<std::size_t>(prvni - cesty.begin());
+    if (prvni == cesty.end() || !ma_fazi(FazeCesty::zaver)(*prvni) ||
+        std::any_of(cesty.begin(), cesty.end(), ma_fazi(FazeCesty::zruseni)))
+        return {};
+    const Text duvod = duvod_cekani(static_cast<int>(i));
+    krok_volby();
+    if (cesty[i].Provedena != duvod.empty())
+        return "route " + std::to_string(i) +
+               (duvod.empty() ? " is not locked for no reason" : " was locked: ") + na_utf8(duvod);
+    return {};
+}
+
 // The operator takes everything back and all trains go: nothing may stay locked.
 std::string kontrola_klidu() {
     zrus_volbu();
-    for (int kolo = 0; kolo < 40 && cesty[0].zacatek >= 0; ++kolo) {
+    for (int kolo = 0; kolo < 100 && cesty[0].zacatek >= 0; ++kolo) {
         for (const int n : kKoleje)
             if (relief.kolej[n].barva == barvy::cervena)
                 obsad(n);
-        while (!radky_zasobniku().empty() && cesty.size() > 1 &&
-               !cesty[static_cast<std::size_t>(radky_zasobniku().front())].prehozena)
-            odeber_ze_zasobniku(radky_zasobniku().front());
-        for (const int s : {240, 241, 242, 41, 42, 40, 43, 46, 48, 246, 604, 605, 545}) {
+        for (const int k : {0, 2})
+            uvolni_konec_trati(k);
+        if (relief.kolej[604].barva == barvy::seda)
+            barvi_prvek(604, barvy::seda); // the line is quit as a train quits it
+        const std::vector<int> radky = radky_zasobniku();
+        std::for_each(radky.rbegin(), radky.rend(), odeber_ze_zasobniku);
+        for (const int s : {240, 241, 242, 41, 42, 40, 43, 46, 48, 246, 323, 604, 605, 545}) {
+            if (je_zablokovano(s))
+                zam(s);
             zrus_cestu(s);
             rnz(s);
         }
@@ -316,6 +436,8 @@ std::string zkus(const std::vector<Ukon>& skript, std::size_t* kde = nullptr, So
             return nalez;
         if (std::string nalez = kontrola_duvodu(); !nalez.empty())
             return nalez;
+        if (std::string nalez = kontrola_duvodu_zaveru(); !nalez.empty())
+            return nalez;
     }
     if (kde != nullptr)
         *kde = skript.size() - 1;
@@ -327,17 +449,25 @@ std::string zkus(const std::vector<Ukon>& skript, std::size_t* kde = nullptr, So
         souhrn->privolavaci += svet.zapsano_kodu(gtn::konec_pn);
         souhrn->zrusene += svet.zapsano_kodu(gtn::zrusena);
         souhrn->jizdy += svet.jizdy;
+        souhrn->pouzito = svet.pouzito;
     }
     return {};
 }
 
+// Indices change as the script grows shorter.
+std::string bez_cislic(std::string text) {
+    std::erase_if(text, [](char c) { return c >= '0' && c <= '9'; });
+    return text;
+}
+
 std::vector<Ukon> zkrat(std::vector<Ukon> skript) {
+    const std::string vada = bez_cislic(zkus(skript));
     for (std::size_t kus = std::max<std::size_t>(skript.size() / 2, 1); kus > 0; kus /= 2)
         for (std::size_t od = 0; od < skript.size();) {
             std::vector<Ukon> kratsi = skript;
             const auto zacatek = kratsi.begin() + static_cast<std::ptrdiff_t>(od);
             kratsi.erase(zacatek, zacatek + static_cast<std::ptrdiff_t>(std::min(kus, kratsi.size() - od)));
-            if (zkus(kratsi).empty())
+            if (bez_cislic(zkus(kratsi)) != vada)
                 od += kus;
             else
                 skript = std::move(kratsi);
@@ -358,17 +488,18 @@ Ukon nahodny_ukon(std::mt19937& zdroj) {
         Co co;
         unsigned podil;
     };
-    constexpr std::array<Cetnost, 22> kCetnosti = {
-        {{Co::cesta, 30}, {Co::klik, 6},   {Co::klik_ctrl, 4}, {Co::klik_ser, 2}, {Co::pn, 3},
-         {Co::cil, 6},    {Co::esc, 2},    {Co::plocha, 1},    {Co::rc, 12},      {Co::dn, 3},
-         {Co::stuj, 2},   {Co::rnz, 8},    {Co::zam, 1},       {Co::ab, 2},       {Co::hod, 2},
-         {Co::enter, 12}, {Co::obsad, 12}, {Co::vlak, 12},     {Co::zasobnik, 8}, {Co::pv_vz, 1},
-         {Co::makro, 1},  {Co::cekej, 30}}};
+    constexpr std::array<Cetnost, 29> kCetnosti = {
+        {{Co::cesta, 30},   {Co::klik, 6},  {Co::klik_ctrl, 4}, {Co::klik_ser, 2},   {Co::pn, 3},
+         {Co::cil, 6},      {Co::esc, 2},   {Co::plocha, 1},    {Co::rc, 12},        {Co::dn, 3},
+         {Co::stuj, 2},     {Co::rnz, 8},   {Co::zam, 1},       {Co::zam_chvili, 1}, {Co::ppn, 1},
+         {Co::nouz, 2},     {Co::ruka, 14}, {Co::prejezd, 1},   {Co::souhlas, 1},    {Co::stitek, 1},
+         {Co::ab, 2},       {Co::hod, 2},   {Co::enter, 12},    {Co::obsad, 12},     {Co::vlak, 12},
+         {Co::zasobnik, 8}, {Co::pv_vz, 1}, {Co::makro, 1},     {Co::cekej, 30}}};
     unsigned soucet = 0;
     for (const Cetnost& c : kCetnosti)
         soucet += c.podil;
     unsigned los = static_cast<unsigned>(zdroj() % soucet);
-    const int cislo = static_cast<int>(zdroj() % 1000);
+    const int cislo = static_cast<int>(zdroj() % 1'000'000);
     for (const Cetnost& c : kCetnosti) {
         if (los < c.podil)
             return {c.co, cislo};
@@ -377,31 +508,55 @@ Ukon nahodny_ukon(std::mt19937& zdroj) {
     return {Co::cekej, cislo};
 }
 
+std::vector<Ukon> nahodny_skript(unsigned semeno) {
+    std::mt19937 zdroj(semeno);
+    std::vector<Ukon> skript(2000);
+    for (Ukon& u : skript)
+        u = nahodny_ukon(zdroj);
+    return skript;
+}
+
 class NahodnyProvoz : public testing::TestWithParam<unsigned> {};
 
 } // namespace
 
 TEST_P(NahodnyProvoz, TablesHoldTogetherAfterEveryHand) {
-    std::mt19937 zdroj(GetParam());
-    std::vector<Ukon> skript(2000);
-    for (Ukon& u : skript)
-        u = nahodny_ukon(zdroj);
+    std::vector<Ukon> skript = nahodny_skript(GetParam());
     std::size_t kde = 0;
     Souhrn souhrn;
     const std::string vada = zkus(skript, &kde, &souhrn);
     if (vada.empty()) {
-        EXPECT_GT(souhrn.postavene, 20u);
-        EXPECT_GT(souhrn.posunove, 2u);
-        EXPECT_GT(souhrn.privolavaci, 2u);
-        EXPECT_GT(souhrn.zrusene, 10u);
-        EXPECT_GT(souhrn.jizdy, 10u);
+        EXPECT_GT(souhrn.postavene, 5u);
+        EXPECT_GT(souhrn.posunove, 0u);
+        EXPECT_GT(souhrn.privolavaci, 0u);
+        EXPECT_GT(souhrn.zrusene, 2u);
+        EXPECT_GT(souhrn.jizdy, 1u);
         return;
     }
     skript.resize(kde + 1);
     FAIL() << vada << "\nshortest script:\n" << tisk(zkrat(skript));
 }
 
-INSTANTIATE_TEST_SUITE_P(Semena, NahodnyProvoz, testing::Range(1u, 5u));
+INSTANTIATE_TEST_SUITE_P(Semena, NahodnyProvoz, semena(1, 4));
+
+// The acts that are drawn one by one are all in the scripts; the rest is counted as the hand does it.
+TEST(NahodnyProvozDosah, EveryCommandThereIsOnTheSmallWorldIsDrawn) {
+    std::array<int, static_cast<std::size_t>(Co::pocet)> ukonu{};
+    std::map<std::string, int> pouzito;
+    for (unsigned semeno = 5; semeno < 29; ++semeno) {
+        const std::vector<Ukon> skript = nahodny_skript(semeno);
+        for (const Ukon& u : skript)
+            ++ukonu[static_cast<std::size_t>(u.co)];
+        Souhrn souhrn;
+        EXPECT_EQ(zkus(skript, nullptr, &souhrn), "") << "seed " << semeno;
+        for (const auto& [co, kolikrat] : souhrn.pouzito)
+            pouzito[co] += kolikrat;
+    }
+    for (std::size_t co = 0; co < static_cast<std::size_t>(Co::porucha); ++co)
+        EXPECT_GT(ukonu[co], 0) << kSlova[co];
+    for (const std::string& chybi : nepouzite(pouzito, Dosah::maly))
+        ADD_FAILURE() << "not drawn: " << chybi;
+}
 
 TEST(NahodnyProvozZkraceni, FaultIsFoundAndItsScriptShortened) {
     std::vector<Ukon> skript(20, {Co::cekej, 1});

@@ -42,13 +42,19 @@ public:
             &NahodnaRuka::menu_vlaku,      &NahodnaRuka::menu_vlaku,      &NahodnaRuka::menu_koleje_,
             &NahodnaRuka::menu_ostatni,    &NahodnaRuka::volba_cesty,     &NahodnaRuka::volba_cesty,
             &NahodnaRuka::volba_cesty,     &NahodnaRuka::makro,           &NahodnaRuka::zasobnik,
-            &NahodnaRuka::tlacitko,        &NahodnaRuka::klavesa_,        &NahodnaRuka::stranka_vlaku};
+            &NahodnaRuka::tlacitko,        &NahodnaRuka::tlacitko,        &NahodnaRuka::klavesa_,
+            &NahodnaRuka::klavesa_,        &NahodnaRuka::klavesa_,        &NahodnaRuka::stranka_vlaku,
+            &NahodnaRuka::udrzba,          &NahodnaRuka::hledani,         &NahodnaRuka::otazka_souseda,
+            &NahodnaRuka::radek_tabulky};
         (this->*kUkony[z_kolika(kUkony.size())])();
         dokonci();
     }
 
-    // How often each entry was chosen: a hand that never came to a command proves nothing of it.
+    // How often each menu was opened, each entry chosen and everything else done that dosah_ruky.h names: a
+    // hand that never came to a command proves nothing of it.
     const std::map<std::string, int>& pouzito() const { return pouzito_; }
+    // How often each entry could have been chosen.
+    const std::map<std::string, int>& nabidnuto() const { return nabidnuto_; }
     // The last acts, one a line.
     std::string posledni() const {
         std::string text;
@@ -64,8 +70,9 @@ public:
 
 private:
     std::mt19937& los;
-    std::map<std::string, int> pouzito_;
+    std::map<std::string, int> pouzito_, nabidnuto_;
     std::deque<std::string> ukony;
+    std::map<bool, std::vector<ZaznamCesty>> tabulky; // train routes, shunt routes
 
     std::size_t z_kolika(std::size_t n) { return los() % n; }
     bool nahodou(unsigned promile) { return los() % 1000 < promile; }
@@ -106,12 +113,20 @@ private:
         klik(druh, n, Tlacitko::prave, false);
         if (menu.jmeno.empty())
             return;
+        ++pouzito_[na_utf8(menu.jmeno)];
+        if (nahodou(30)) {
+            ++pouzito_["menu thrown away"];
+            zahod_menu();
+            return;
+        }
         std::vector<const PolozkaMenu*> mozne;
         for (const PolozkaMenu& p : menu.polozky)
             if (p.viditelna && p.povolena && p.akce != nullptr)
                 mozne.push_back(&p);
         if (mozne.empty())
             return;
+        for (const PolozkaMenu* p : mozne)
+            ++nabidnuto_[na_utf8(p->jmeno)];
         // what has seldom been chosen, as often as what comes by chance
         const auto drive = [this](const PolozkaMenu* p) {
             const auto jmeno = pouzito_.find(na_utf8(p->jmeno));
@@ -121,6 +136,9 @@ private:
                                               [&](auto* a, auto* b) { return drive(a) < drive(b); });
         const Text jmeno = nahodou(500) ? (*nejmene)->jmeno : mozne[z_kolika(mozne.size())]->jmeno;
         zapis(na_utf8(menu.jmeno) + " " + std::to_string(n) + " " + na_utf8(jmeno));
+        for (const PolozkaMenu* p : mozne)
+            if (p->jmeno == jmeno && druh == Druh::popis_stanice)
+                ++pouzito_[na_utf8(p->druhe_jmeno)]; // the depots call their entries by their captions
         ++pouzito_[na_utf8(jmeno)];
         zvol_v_menu(jmeno);
     }
@@ -157,19 +175,24 @@ private:
 
     // --- picks
 
-    static const std::vector<ZaznamCesty>& trasy(bool posun) {
-        static std::map<Text, std::vector<ZaznamCesty>> tabulky;
-        const Text soubor = simulace.cesta_aplikace + (posun ? "data\\tesk.zpc" : "data\\tesk.zat");
-        auto& t = tabulky[soubor];
+    const std::vector<ZaznamCesty>& trasy(bool posun) {
+        auto& t = tabulky[posun];
         if (t.empty())
-            t = cti_cesty(nacti_soubor(soubor));
+            t = cti_cesty(
+                nacti_soubor(simulace.cesta_aplikace + (posun ? "data\\tesk.zpc" : "data\\tesk.zat")));
         return t;
     }
+    // A shunt route is asked for by Ctrl or by the middle button.
     void klik_na_zacatek(int s, bool posun) {
-        klik(je_na_ser(s) ? Druh::navestidlo_ser : Druh::navestidlo, s, Tlacitko::leve, posun);
+        ++pouzito_[je_na_ser(s) ? "shunting start" : "start"];
+        const bool prostredni = posun && nahodou(300);
+        klik(je_na_ser(s) ? Druh::navestidlo_ser : Druh::navestidlo, s,
+             prostredni ? Tlacitko::prostredni : Tlacitko::leve, posun && !prostredni);
     }
     void klik_na_konec(int e) {
-        klik(relief.Image1.je(e) ? Druh::Image1 : Druh::cislo_koleje, e, Tlacitko::leve, false);
+        const bool cil = relief.Image1.je(e);
+        ++pouzito_[cil ? "end" : "end by the label"];
+        klik(cil ? Druh::Image1 : Druh::cislo_koleje, e, Tlacitko::leve, false);
     }
     void volba_cesty() {
         const bool posun = nahodou(400);
@@ -213,12 +236,15 @@ private:
         klavesa(pismeno(p, true));
         for (std::size_t i = z_kolika(3) + 1; i > 0; --i)
             volba_cesty();
-        klavesa({nahodou(800) ? KodKlavesy::enter : KodKlavesy::esc});
+        const bool uloz = nahodou(800);
+        ++pouzito_[uloz ? "record stored" : "record dropped"];
+        klavesa({uloz ? KodKlavesy::enter : KodKlavesy::esc});
     }
     void zasobnik() {
         klik(Druh::lblZasobnik_EZ, 0, Tlacitko::leve, false);
         Seznam& seznam = nahodou(850) ? provoz2.lstZasobnik : provoz2.lstmakra;
         if (!seznam.radky.empty()) {
+            ++pouzito_["line of a list"];
             klik_na_radek(seznam, static_cast<int>(z_kolika(seznam.radky.size())));
             zapis("Delete in " + std::string(&seznam == &provoz2.lstZasobnik ? "the stack" : "the macros"));
             ++pouzito_["Delete"];
@@ -226,31 +252,86 @@ private:
         }
         klavesa({KodKlavesy::esc});
     }
+    // The end picture asks, and stays without an answer.
     void tlacitko() {
         constexpr std::array kTlacitka = {
-            Druh::lblZasobnik_PV, Druh::lblZasobnik_VZ, Druh::cmdZpravy, Druh::cmDenik,  Druh::cmdTABULKA,
-            Druh::cmdVLAK,        Druh::imgSound,       Druh::imgUloz,   Druh::imgPauza, Druh::lblPrikaz};
+            Druh::lblZasobnik_PV, Druh::lblZasobnik_VZ, Druh::cmdZpravy,
+            Druh::cmDenik,        Druh::cmdTABULKA,     Druh::cmdVLAK,
+            Druh::imgSound,       Druh::imgUloz,        Druh::imgPauza,
+            Druh::lblPrikaz,      Druh::lblVolba,       Druh::imgKONEC,
+            Druh::imgDEBUG,       Druh::imgMinimalizuj, Druh::lblrychlost_simulace};
         const Druh druh = kTlacitka[z_kolika(kTlacitka.size())];
-        zapis("key of the desk " + std::to_string(static_cast<int>(druh)));
-        klik(druh, 0, Tlacitko::leve, false);
+        zapis("picture " + std::string(jmeno_druhu(druh)));
+        ++pouzito_[std::string(jmeno_druhu(druh))];
+        klik(druh, 0, nahodou(800) ? Tlacitko::leve : Tlacitko::prave, false);
+    }
+    void stiskni(const char* jmeno) {
+        zapis(std::string("key ") + jmeno);
+        ++pouzito_[std::string("key ") + jmeno];
+        klavesa(klavesa_podle_jmena(jmeno));
     }
     void klavesa_() {
-        constexpr std::array kKlavesy = {
-            KodKlavesy::enter,    KodKlavesy::enter,        KodKlavesy::esc,    KodKlavesy::f2,
-            KodKlavesy::f3,       KodKlavesy::f8,           KodKlavesy::f10,    KodKlavesy::num_minus,
-            KodKlavesy::num_plus, KodKlavesy::print_screen, KodKlavesy::delete_};
+        constexpr std::array kKlavesy = {"Enter", "Enter", "Esc",    "F2",   "F3",          "F8",   "F9",
+                                         "F10",   "F11",   "Num/",   "Num+", "Num-",        "Left", "Right",
+                                         "Up",    "Down",  "Delete", "Tab",  "PrintScreen", "F12",  "Ctrl+S"};
         const Druh druh = nahodou(500) ? Druh::cislo_koleje : Druh::navestidlo;
         const int n = nahodny(druh, [](const Prvek&) { return true; });
-        if (nahodou(700) && n != kZadny)
+        const bool nad_prvkem = nahodou(700) && n != kZadny;
+        ++pouzito_[nad_prvkem ? "pointer over" : "pointer away"];
+        if (nad_prvkem)
             najeti(druh, n);
         else
             odjeti();
-        const KodKlavesy kod = kKlavesy[z_kolika(kKlavesy.size())];
-        zapis("key " + std::to_string(static_cast<int>(kod)));
-        klavesa({kod});
-        if (nahodou(300) && n != kZadny)
+        stiskni(kKlavesy[z_kolika(kKlavesy.size())]);
+        if (nahodou(300) && n != kZadny) {
+            ++pouzito_["double click"];
             dvojklik(druh, n);
+        }
+        ++pouzito_["desk"];
         klik_na_plochu();
+    }
+    // The maintenance screens, their tabs and lists.
+    void udrzba() {
+        constexpr std::array kKlavesy = {"Left", "Right", "Up", "Down", "Tab", "Delete"};
+        stiskni("PrintScreen");
+        for (std::size_t i = z_kolika(8) + 1; i > 0 && technologie_kryje_stul(); --i) {
+            if (nahodou(300)) {
+                const auto ktera = static_cast<Technologie>(z_kolika(kTechnologie.size()));
+                zapis("tab " + std::to_string(static_cast<int>(ktera)));
+                ++pouzito_["tab"];
+                klik_na_zalozku(ktera);
+            } else {
+                stiskni(kKlavesy[z_kolika(kKlavesy.size())]);
+            }
+        }
+    }
+    void hledani() {
+        odjeti();
+        stiskni("F2");
+        const int s = nahodny(Druh::navestidlo, [](const Prvek& p) { return !p.popis->empty(); });
+        if (s == kZadny || !relief.txtZadav_pole[0].povoleny())
+            return;
+        zapis("search of signal " + std::to_string(s));
+        ++pouzito_["search"];
+        pis_do_pole(relief.navestidlo[s].popis());
+        klavesa({KodKlavesy::enter});
+    }
+    // A click on the lamp, and Enter to the question.
+    void otazka_souseda() {
+        const int k = nahodny(Druh::lblSouhlas, [](const Prvek& p) { return !p.popis->empty(); });
+        if (k == kZadny)
+            return;
+        zapis("lamp " + std::to_string(k));
+        ++pouzito_["lamp"];
+        klik(Druh::lblSouhlas, k, Tlacitko::leve, false);
+    }
+    void radek_tabulky() {
+        const int radek =
+            nahodny(Druh::lblTabulka_vlaku, [](const Prvek& p) { return !orez(p.text()).empty(); });
+        if (radek == kZadny)
+            return;
+        ++pouzito_["row of the table"];
+        klik(Druh::lblTabulka_vlaku, radek, Tlacitko::leve, false);
     }
     void stranka_vlaku() {
         klik(Druh::cmdVLAK, 0, Tlacitko::leve, false);
@@ -273,7 +354,9 @@ private:
         if (relief.txtZadav_pole[0].povoleny()) {
             constexpr std::array<TextPohled, 4> kTexty = {"", "x", "70123", "4711"};
             pis_do_pole(kTexty[z_kolika(kTexty.size())]);
-            klavesa({nahodou(800) ? KodKlavesy::enter : KodKlavesy::esc});
+            const bool odpovi = nahodou(800);
+            ++pouzito_[odpovi ? "text" : "text dropped"];
+            klavesa({odpovi ? KodKlavesy::enter : KodKlavesy::esc});
         }
         if (vyber.volba_zacatek >= 0 && vyber.volba_konec < 0)
             dober_konec();
