@@ -12,6 +12,7 @@
 #include "zaklad/soubory.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -212,6 +213,8 @@ protected:
 
 private:
     static int kapitola_tady() {
+        if (qobject_cast<QFileDialog*>(QApplication::activeModalWidget()) != nullptr)
+            return kapitoly::hodiny; // it tells of saves
         if (const HlavniOkno* stul = HlavniOkno::otevrene())
             return stul->kapitola_pod_kurzorem();
         return kapitoly::spusteni;
