@@ -168,6 +168,14 @@ void uvolni_prvek_bez_vlaku(const Cesta& c, std::size_t k) {
     }
 }
 
+// Another route has ordered the same crossing for a train before its signal, and that train has not come yet.
+bool objednal_jiny(const Cesta& c) {
+    return std::any_of(cesty.begin(), cesty.end(), [&c](const Cesta& x) {
+        return &x != &c && x.zacatek >= 0 && x.prehozena && x.prejezd == c.prejezd && x.prejezd_zaver &&
+               x.Umazat == 0;
+    });
+}
+
 void vypni_automat(int s) {
     if (!je_na_ser(s) && relief.navestidlo.je(s) && ab_zapnuto(s))
         prepni_ab(s);
@@ -233,7 +241,9 @@ void proved_zruseni(int i) {
     gtn_zapis(c.zacatek, gtn::zrusena, 0);
     uvolni_prvky(c);
     vymaz_cislo(i, false, {});
-    if (c.prejezd < stanicni_prejezdy.size() && c.prejezd_zaver && !stanicni_prejezdy[c.prejezd].UZ)
+    // Called off only when nobody else waits for it: that one's signal would clear over an open road.
+    if (c.prejezd < stanicni_prejezdy.size() && c.prejezd_zaver && !stanicni_prejezdy[c.prejezd].UZ &&
+        !objednal_jiny(c))
         stanicni_prejezdy[c.prejezd].cas = kZadny;
     if (!je_usek_trati(konec) && c.VC && !c.PN && je_kolej(konec))
         uvolni_prvek(konec);

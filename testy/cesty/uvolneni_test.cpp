@@ -312,6 +312,24 @@ TEST_F(Uvolneni, CancelledRouteCallsTheCrossingOff) {
     EXPECT_EQ(stanicni_prejezdy[0].cas, -3);
 }
 
+TEST_F(Uvolneni, CancelledRouteLeavesTheCrossingToAnotherOneThatWaitsForIt) {
+    relief.kolej[40].barva = barvy::cervena;
+    zarad(240, 43);
+    cekej(4);
+    const auto cas = stanicni_prejezdy[0].cas;
+    ASSERT_GT(cas, 0);
+    Cesta jina = cesty[0];
+    jina.zacatek = 246;
+    cesty.push_back(jina);
+    zrus_cestu(240);
+    cekej(4);
+    ASSERT_EQ(cesty[0].zacatek, 246);
+    EXPECT_FALSE(cesty[0].Postavena) << "the road is open yet";
+    EXPECT_EQ(stanicni_prejezdy[0].cas, cas);
+    proved_zruseni(0);
+    EXPECT_EQ(stanicni_prejezdy[0].cas, -3);
+}
+
 TEST_F(Uvolneni, CrossingClosedByTheOperatorIsNotCalledOff) {
     relief.kolej[40].barva = barvy::cervena;
     zarad(240, 43);
