@@ -65,6 +65,7 @@ struct Videno {
     std::size_t zkraceni = 0; // commands ZKRATIT
     std::vector<VidenyVlak> vlaky;
     std::vector<VidenaCesta> cesty;
+    bool pohled = false; // the routes have been looked at before
     std::vector<VidenaSipka> sipky;
 };
 Videno videno;
@@ -489,10 +490,12 @@ void zapamatuj_cesty() {
         if (c.zacatek < 0 || !c.prehozena)
             continue;
         const VidenaCesta* drive = videna(c);
-        nove.push_back({c.zacatek, c.konec, c.Kdy_prehoz, c.Provedena,
-                        zavira(c) || (drive != nullptr && drive->zavirala)});
+        // of a route that was commanded before anybody looked, nobody knows what its crossing did since
+        const bool zavirala = drive != nullptr ? drive->zavirala : !videno.pohled;
+        nove.push_back({c.zacatek, c.konec, c.Kdy_prehoz, c.Provedena, zavira(c) || zavirala});
     }
     videno.cesty = std::move(nove);
+    videno.pohled = true;
 }
 void zapamatuj_sipky() {
     videno.sipky.clear();
