@@ -14,8 +14,8 @@ import stul as s
 program, slozka = s.priprav_celou(sys.argv[1:4])
 nahoda = random.Random(int(sys.argv[4]) if len(sys.argv) > 4 else 1)
 SLUZBY_S = 4 * 60  # of the simulated clock, at least
-RYCHLOST = 8  # that the trial mode allows
-open(os.path.join(slozka, "debug.dat"), "wb").close()
+RYCHLOST = 8  # that the trial mode allows; its marker stands only while the speed is raised
+LADENI = os.path.join(slozka, "debug.dat")
 
 stul = s.Stul(program, slozka)
 s.prihlas(stul, rychle=True)
@@ -29,7 +29,7 @@ VAHY = {"navestidlo": 8, "navestidlo_ser": 3, "Image1": 8, "cislo_koleje": 8, "i
         "imgDEBUG": 1, "imgUloz": 1}
 KLAVESY = ("Escape Return F1 F2 F3 F8 F9 F10 KP_Divide KP_Add KP_Subtract Print Delete Tab shift+Tab space Up Down "
            "Left Right Insert Menu shift+Insert alt+Insert ctrl+Left ctrl+Right ctrl+Up ctrl+Down alt+b alt+shift+b "
-           "alt+k ctrl+s F11 Page_Up Page_Down Home End 7 x BackSpace").split()
+           "alt+k alt+a F11 Page_Up Page_Down Home End 7 x BackSpace").split()
 # What must have come up before the hand may stop: the first words of what the program sees.
 OKNA = ["nabidka STUJ|", "nabidka S+|", "nabidka US|", "nabidka UZ|", "nabidka KC|", "nabidka AH|", "nabidka SMAZ|",
         "okno zpráva „Ladící záznam", "okno zpráva „Opravdu", "okno zpráva „Prohlížeč", "okno dialog Uložit",
@@ -90,9 +90,18 @@ def obrazovky():
 
 
 def uloz():
-    """A save under one name, so that the second one asks."""
-    return klavesa("ctrl+s") + ["sleep", 0.6, "key", "ctrl+a", "type", "ruka", "sleep", 0.1, "key", "Return",
-                                "sleep", 0.5, "key", nahoda.choice(("alt+a", "Return")), "sleep", 0.5, "key", "Escape"]
+    """Two saves under one name: the second one asks."""
+    for zprava in ("okno zpráva „Stav simulace byl", "okno zpráva „Soubor již existuje"):
+        cas_bezi()
+        stul.tiskni("ctrl+s", "dialog uložení", lambda: stul.stav("pauza") == ["1"])
+        for _ in range(10):  # keys before the focus are lost
+            stul.xdotool("sleep", 0.3, "key", "ctrl+a", "type", "ruka", "sleep", 0.2, "key", "Return")
+            konec = time.monotonic() + 3
+            while time.monotonic() < konec and zprava in zbyva_oken():
+                time.sleep(s.KROK)
+            if zprava not in zbyva_oken():
+                break
+    return klavesa("alt+a")
 
 
 def nabidka(druh):
@@ -142,7 +151,9 @@ def cas_bezi():
         return False
 
     stul.cekej("běžící čas", bezi)
-    stul.xdotool("key", "--delay", 5, *RYCHLOST * ["KP_Add"])
+    open(LADENI, "wb").close()
+    stul.xdotool("key", "--delay", 5, *RYCHLOST * ["KP_Add"], "sleep", 0.2)
+    os.remove(LADENI)
 
 
 cinu = 0

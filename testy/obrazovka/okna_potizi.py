@@ -13,7 +13,7 @@ import stul as s
 program, slozka = s.priprav(sys.argv[1:4])
 velikost = sys.argv[4]
 shutil.copytree(os.path.join(sys.argv[2], "navod"), os.path.join(slozka, "navod"))
-PURPUROVA = (255, 0, 255)
+PURPUROVA, VYBRANA_KAPITOLA = (255, 0, 255), (32, 80, 192)
 SAVE = os.path.join(slozka, "save")
 ULOZENA = os.path.join(SAVE, "sluzba.sim")
 MAKRA = os.path.join(slozka, "data", "tesk.mak")
@@ -21,6 +21,7 @@ MAKRA = os.path.join(slozka, "data", "tesk.mak")
 
 class Zkouska(s.Stul):
     """The desk, and what its program has seen since it was started."""
+    formular = None  # windows of the start screen alone
 
     def __init__(self):
         for jmeno in ("stav.txt", "mapa.txt", "nalezy.txt"):
@@ -28,7 +29,7 @@ class Zkouska(s.Stul):
                 os.remove(os.path.join(slozka, jmeno))
         super().__init__(program, slozka, velikost)
         self.cekej_na("úvodní formulář", s.je_formular)
-        self.oken_v_klidu = self.okna()
+        self.oken_v_klidu = Zkouska.formular = Zkouska.formular or self.okna()
 
     def videl(self, zacatek):
         self.bez_vad()
@@ -44,13 +45,17 @@ class Zkouska(s.Stul):
         self.tiskni(klavesa, "zavřené okno", lambda: self.okna() == okna)
 
     def prirucka(self, co):
-        """F1 opens the manual over what is there, and Esc leaves that as it was."""
+        """F1 opens the manual over what is there, and Esc leaves that as it was; height on the screen of the chapter
+        that is picked in its contents."""
         okna = self.okna()
         self.tiskni("F1", "příručka: " + co, lambda: self.okna() == okna + 1)
         time.sleep(0.6)
         self.bez_vad()
-        self.obraz("prirucka_" + co)
+        obraz = self.obraz("prirucka_" + co)
+        obsah = int(self.sirka * 0.33)  # from there on lies the list of the chapters
+        kapitola = next(y for y in range(self.vyska) if obraz.bodu(obsah, y, 150, 1, VYBRANA_KAPITOLA) > 60)
         self.zavri(okna)
+        return kapitola
 
     def pis_do_dialogu(self, text, hotovo):
         """Types a name into the file dialogue until it has taken effect: keys before the focus are lost."""
@@ -102,7 +107,7 @@ class Zkouska(s.Stul):
 # --- the manual over the dialogue that opens a save
 stul = Zkouska()
 stul.otevri("alt+o", "okno dialog Načíst")
-stul.prirucka("nacteni")
+kapitola_zaznamu = stul.prirucka("nacteni")
 stul.zavri(stul.oken_v_klidu)
 
 # --- a shift, and the manual over each maintenance screen: the screen stays, and so does its pause
@@ -114,7 +119,8 @@ stul.prihlas()
 for klavesa, zalozka in (("Print", "PROVOZ 1"), ("Right", "PROVOZ 2"), ("Right", "PE-NET"), ("Right", "ES DOHLED"),
                          ("Right", "Potvrzovací sekvence")):
     stul.tiskni(klavesa, zalozka, lambda: stul.videl("obrazovka " + zalozka))
-    stul.prirucka(zalozka)
+    kapitola = stul.prirucka(zalozka)
+    assert kapitola > kapitola_zaznamu, "příručka není u obrazovek technologie"
     assert stul.stav("pauza") == ["1"], "obrazovka zmizela pod příručkou"
 stul.klavesa("Escape")
 stul.cekej("běžící stůl", lambda: stul.stav("pauza") == ["0"])
@@ -122,7 +128,7 @@ stul.cekej("první minuta služby", lambda: stul.cas_s() > 12 * 3600 + 70)
 
 # --- a save where nothing can be written, after the manual over its dialogue; and one that succeeds
 stul.otevri("ctrl+s", "okno dialog Uložit")
-stul.prirucka("ulozeni")
+assert stul.prirucka("ulozeni") == kapitola_zaznamu, "příručka není u ukládání"
 nikam = os.path.join(slozka, "vyjmutý disk s velmi dlouhým jménem složky")
 stul.pis_do_dialogu(os.path.join(nikam, "služba"), lambda: stul.videl("okno zpráva „Stav simulace se nepodařilo uložit"))
 stul.obraz("neulozeno")

@@ -203,7 +203,8 @@ void zmer_ovladac(const QWidget& w) {
                 vada(QStringLiteral("úzký sloupec"), text);
         }
     } else if (const auto* r = qobject_cast<const QListWidget*>(&w)) {
-        if (r->sizeHintForColumn(0) > r->viewport()->width() && r->horizontalScrollBar()->maximum() == 0)
+        if (!r->wordWrap() && r->sizeHintForColumn(0) > r->viewport()->width() &&
+            r->horizontalScrollBar()->maximum() == 0)
             vada(QStringLiteral("uříznutý seznam"), {});
     }
 }
