@@ -72,7 +72,7 @@ def cin(mapa):
     if los < 0.79:
         return ["mousemove", nahoda.randrange(1000), nahoda.randrange(20, 760), "click", 1]
     if los < 0.83:  # a text for the field, when it is open
-        return ["type", nahoda.choice(("1234", "tvh 1", "x", "754"))] + ["key", "Return"]
+        return ["type", "--args", 1, nahoda.choice(("1234", "tvh 1", "x", "754")), "key", "Return"]
     if los < 0.85:  # the end is asked for, and not meant
         x, y = mapa["imgKONEC", 0]
         return ["mousemove", x, y, "click", 1, "sleep", 0.3, "key", "Escape", "sleep", 0.1, "key", "Escape"]
@@ -95,7 +95,7 @@ def uloz():
         cas_bezi()
         stul.tiskni("ctrl+s", "dialog uložení", lambda: stul.stav("pauza") == ["1"])
         for _ in range(10):  # keys before the focus are lost
-            stul.xdotool("sleep", 0.3, "key", "ctrl+a", "type", "ruka", "sleep", 0.2, "key", "Return")
+            stul.xdotool("sleep", 0.3, "key", "ctrl+a", "type", "--args", 1, "ruka", "sleep", 0.2, "key", "Return")
             konec = time.monotonic() + 3
             while time.monotonic() < konec and zprava in zbyva_oken():
                 time.sleep(s.KROK)
