@@ -7,6 +7,7 @@
 #include "app/casovace.h"
 #include "app/kontrola.h"
 #include "cesty/cisla_vlaku.h"
+#include "cesty/drzeni.h"
 #include "cesty/duvod.h"
 #include "cesty/navest.h"
 #include "cesty/opakovani.h"
@@ -382,6 +383,9 @@ std::string kontrola_duvodu_zaveru() {
 std::string kontrola_klidu() {
     zrus_volbu();
     for (int kolo = 0; kolo < 100 && cesty[0].zacatek >= 0; ++kolo) {
+        for (const int n : kVyhybky) // the throw of another one has taken the place of its own
+            if (vyhybka_v_pohybu(n) && !stavi_se_vyhybka(n) && !hazi_se_rukou(n))
+                vyhybka_nouz(n);
         for (const int n : kKoleje)
             if (relief.kolej[n].barva == barvy::cervena)
                 obsad(n);
@@ -449,7 +453,8 @@ std::string zkus(const std::vector<Ukon>& skript, std::size_t* kde = nullptr, So
         souhrn->privolavaci += svet.zapsano_kodu(gtn::konec_pn);
         souhrn->zrusene += svet.zapsano_kodu(gtn::zrusena);
         souhrn->jizdy += svet.jizdy;
-        souhrn->pouzito = svet.pouzito;
+        for (const auto& [co, kolikrat] : svet.pouzito)
+            souhrn->pouzito[co] += kolikrat;
     }
     return {};
 }
@@ -523,16 +528,9 @@ class NahodnyProvoz : public testing::TestWithParam<unsigned> {};
 TEST_P(NahodnyProvoz, TablesHoldTogetherAfterEveryHand) {
     std::vector<Ukon> skript = nahodny_skript(GetParam());
     std::size_t kde = 0;
-    Souhrn souhrn;
-    const std::string vada = zkus(skript, &kde, &souhrn);
-    if (vada.empty()) {
-        EXPECT_GT(souhrn.postavene, 5u);
-        EXPECT_GT(souhrn.posunove, 0u);
-        EXPECT_GT(souhrn.privolavaci, 0u);
-        EXPECT_GT(souhrn.zrusene, 2u);
-        EXPECT_GT(souhrn.jizdy, 1u);
+    const std::string vada = zkus(skript, &kde);
+    if (vada.empty())
         return;
-    }
     skript.resize(kde + 1);
     FAIL() << vada << "\nshortest script:\n" << tisk(zkrat(skript));
 }
@@ -542,19 +540,21 @@ INSTANTIATE_TEST_SUITE_P(Semena, NahodnyProvoz, semena(1, 4));
 // The acts that are drawn one by one are all in the scripts; the rest is counted as the hand does it.
 TEST(NahodnyProvozDosah, EveryCommandThereIsOnTheSmallWorldIsDrawn) {
     std::array<int, static_cast<std::size_t>(Co::pocet)> ukonu{};
-    std::map<std::string, int> pouzito;
+    Souhrn vse;
     for (unsigned semeno = 5; semeno < 29; ++semeno) {
         const std::vector<Ukon> skript = nahodny_skript(semeno);
         for (const Ukon& u : skript)
             ++ukonu[static_cast<std::size_t>(u.co)];
-        Souhrn souhrn;
-        EXPECT_EQ(zkus(skript, nullptr, &souhrn), "") << "seed " << semeno;
-        for (const auto& [co, kolikrat] : souhrn.pouzito)
-            pouzito[co] += kolikrat;
+        EXPECT_EQ(zkus(skript, nullptr, &vse), "") << "seed " << semeno;
     }
+    EXPECT_GT(vse.postavene, 120u);
+    EXPECT_GT(vse.posunove, 20u);
+    EXPECT_GT(vse.privolavaci, 20u);
+    EXPECT_GT(vse.zrusene, 60u);
+    EXPECT_GT(vse.jizdy, 40u);
     for (std::size_t co = 0; co < static_cast<std::size_t>(Co::porucha); ++co)
         EXPECT_GT(ukonu[co], 0) << kSlova[co];
-    for (const std::string& chybi : nepouzite(pouzito, Dosah::maly))
+    for (const std::string& chybi : nepouzite(vse.pouzito, Dosah::maly))
         ADD_FAILURE() << "not drawn: " << chybi;
 }
 
