@@ -55,11 +55,6 @@ void kopiruj_stitek(int vzor, int kopie) {
     relief.cislo_koleje[kopie].viditelny = true;
 }
 
-void obnov_zrcadla_stitku() {
-    for (const uzel::ObrazStitku& obraz : uzel::kObrazyStitku)
-        kopiruj_stitek(obraz.vzor, obraz.kopie);
-}
-
 // --- writing
 
 void pis_na_kolej(int n, TextPohled text, bool tise) {
@@ -257,6 +252,11 @@ bool drzi_jine_cislo(int stitek, TextPohled text) {
 }
 
 } // namespace
+
+void obnov_zrcadla_stitku() {
+    for (const uzel::ObrazStitku& obraz : uzel::kObrazyStitku)
+        kopiruj_stitek(obraz.vzor, obraz.kopie);
+}
 
 void pis_cislo(int prvek, TextPohled text, bool mazat, bool tise) {
     const Text cislo(text); // the caller's view may lie in a label that changes here

@@ -9,6 +9,8 @@
 // the first free label of the sections; taken off, those behind it move up, and the arrow of the line
 // goes out with the last number, unless `tise` (the signal is at stop, its route still locked).
 void pis_cislo(int prvek, TextPohled text, bool mazat = false, bool tise = false);
+// The labels that only repeat another one show again what it shows.
+void obnov_zrcadla_stitku();
 // Carries the number before the signal of route i to its end, and on over the routes that follow.
 void postup_cisla(int i);
 // Takes the number off the end of route i and of the routes that follow. `text` empty: the number

@@ -3,6 +3,7 @@
 
 #include "app/cas.h"
 #include "app/simulace.h"
+#include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
 #include "cesty/odpocet_pn.h"
 #include "cesty/prekazky.h"
@@ -73,6 +74,7 @@ void obnov_stitky_koleji(const Zaznam& z) {
         if (bez_vyznamu || pod_vlakem)
             stitek.viditelny = false;
     }
+    obnov_zrcadla_stitku(); // of them the save knows the text alone
 }
 
 // Numbers beyond the saved ones, and unknown codes, leave the signal at rest.

@@ -43,6 +43,7 @@ protected:
     }
     void do_klidu() {
         relief = klid;
+        nastav_cas("12:00:00"); // hundreds of routes take days, and no waiting may reach over midnight
         cesty.assign(1, Cesta{});
         std::fill(stav_vyhybek.vyhybka_pohyb.begin(), stav_vyhybek.vyhybka_pohyb.end(), false);
     }
