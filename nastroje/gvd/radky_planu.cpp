@@ -148,6 +148,7 @@ struct Radky : Plan {
             j.ukol.body.push_back(std::move(b));
         }
         j.ukol.delka = r.delka;
+        j.ukol.druh = r.druh;
         std::size_t kam_az = 0;
         auto pruchod = najdi_pruchod(sit, j.ukol, kam_az);
         if (!pruchod) {

@@ -6,6 +6,7 @@
 #include "uzel/cislovani.h"
 #include "uzel/rychlosti.h"
 #include "uzel/trate.h"
+#include "uzel/umisteni.h"
 #include "uzel/vstupy.h"
 #include "uzel/zastavky.h"
 
@@ -28,6 +29,8 @@ constexpr int kOdjezdBranyVh_m = 500; // of one from the gate of the small depot
 constexpr int kProtismer_m = 200'000; // what a line in the unusual direction is avoided by
 constexpr int kNavest_m = 10;         // what each signal on the way is avoided by,
 constexpr std::array kOdbocka_m = {0, 600, 400, 200}; // and a route over diverging switches, by its speed
+constexpr int kVjezdOdbockou_m = 300;
+constexpr int kNeobvykla_m = 2'000;  // a stop on a track that the station keeps for other trains
 constexpr int kObjeti_m = 5'000;     // what a run of the locomotive round its train is avoided by
 constexpr int kKratka_m = 2'000'000; // what a track that is too short is avoided by
 constexpr int kNejvyssi = 1000;      // switches are numbered from here where kinds are mixed
@@ -154,7 +157,33 @@ struct Hledani {
                (b.koleje.empty() || std::find(b.koleje.begin(), b.koleje.end(), prvek) != b.koleje.end());
     }
     double cena_stani(std::size_t k, int prvek) const {
-        return ukol.body[k].stavi && sit.delky[static_cast<std::size_t>(prvek)] < ukol.delka ? kKratka_m : 0;
+        if (!ukol.body[k].stavi)
+            return 0;
+        return (sit.delky[static_cast<std::size_t>(prvek)] < ukol.delka ? kKratka_m : 0) +
+               (k == 0 || k + 1 == ukol.body.size() || je_obvykla(k, prvek) ? 0 : kNeobvykla_m);
+    }
+    bool je_pro_vlak(uzel::ProVlaky vlaky) const {
+        switch (vlaky) {
+        case uzel::ProVlaky::vsechny: return true;
+        case uzel::ProVlaky::osobni: return ukol.druh < druh_vlaku::prvni_nakladni;
+        case uzel::ProVlaky::nakladni: return ukol.druh >= druh_vlaku::prvni_nakladni;
+        case uzel::ProVlaky::mn: return ukol.druh == druh_vlaku::mn;
+        case uzel::ProVlaky::mn_a_lokomotivni: return ukol.druh >= druh_vlaku::mn;
+        }
+        return true;
+    }
+    // The track is one of those that the station keeps for trains of this kind and way, if it keeps any.
+    bool je_obvykla(std::size_t k, int prvek) const {
+        const int predchozi = k > 0 ? ukol.body[k - 1].stanice : 0;
+        const int dalsi = k + 1 < ukol.body.size() ? ukol.body[k + 1].stanice : 0;
+        for (const uzel::KolejeUmisteni& u : uzel::kKolejeUmisteni) {
+            const bool soused = u.sousedni.pocet == 0 || u.sousedni.ma(predchozi) || u.sousedni.ma(dalsi);
+            if (u.stanice == ukol.body[k].stanice && je_pro_vlak(u.vlaky) && soused &&
+                (u.dalsi == dopravna::zadna || u.dalsi == dalsi))
+                return u.smer != uzel::ProSmer::oba ||
+                       std::find(u.koleje.begin(), u.koleje.end(), prvek) != u.koleje.end();
+        }
+        return true;
     }
     bool zakazan(const PrvekCesty& p) const {
         const int n = p.druh == druh_prvku::vyhybka ? kNejvyssi + p.prvek : p.prvek;
@@ -290,11 +319,14 @@ struct Hledani {
             if (vychozi == sit.odkud.end())
                 continue; // the way ends here
             for (const std::size_t i : vychozi->second) {
-                double dal =
-                    cena + kNavest_m + kOdbocka_m[std::min<std::size_t>(sit.trasy[i].zaznam.rychlost, 3)];
+                const std::uint8_t rychlost = sit.trasy[i].zaznam.rychlost;
+                double dal = cena + kNavest_m + kOdbocka_m[std::min<std::size_t>(rychlost, 3)];
                 const auto kam = za_trasou(s, sit.trasy[i], dal);
                 if (!kam)
                     continue;
+                // A train comes in straight and goes out over the branch: it stands on the track of its line.
+                if (rychlost != 0 && stanice_elementu(kam->prvek) != 0 && !je_tratovy(kam->prvek))
+                    dal += kVjezdOdbockou_m;
                 pridej(*kam, dal, s, i);
                 if (muze_objet(*kam))
                     pridej({kam->prvek, !kam->smer, kam->bodu}, dal + kObjeti_m, s, i);

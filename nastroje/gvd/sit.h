@@ -42,6 +42,7 @@ struct Bod {
 struct Ukol {
     std::vector<Bod> body;   // names without a track stand here too: a train is turned by the next name
     int delka = 0;           // metres
+    int druh = 0;            // category
     std::vector<int> mimo{}; // elements that the way must not touch, switches as 1000 + number
 };
 
