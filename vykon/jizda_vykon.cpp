@@ -155,12 +155,10 @@ void simulovana_hodina(benchmark::State& stav) {
 }
 BENCHMARK(simulovana_hodina)->Arg(30)->Unit(benchmark::kMillisecond)->Iterations(1);
 
-// An hour of the week for learning on the whole junction, the start included, as the runner plays it.
-void hodina_cvicneho_tydne(benchmark::State& stav) {
+// The script on the staged installation, the start included, as the runner plays it.
+void sehraj(benchmark::State& stav, const char* text) {
     for (auto _ : stav) {
-        std::istringstream skript("semeno 3\npc 2026-01-05 08:00:00\n"
-                                  "spust cas=6:00 den=0 rychlost=1 gvd=GVD_cvicny zpozdeni=0\n"
-                                  "prihlas\ncekej_do 7:00:00\n");
+        std::istringstream skript(text);
         std::ostringstream vystup, chyby;
         if (spust_davku({.slozka = TESK_INSTALACE}, skript, vystup, chyby) != navrat::v_poradku)
             stav.SkipWithError(chyby.str().c_str());
@@ -168,7 +166,22 @@ void hodina_cvicneho_tydne(benchmark::State& stav) {
     nova_simulace();
     platforma = prazdna_platforma();
 }
+
+// An hour of the week for learning on the whole junction.
+void hodina_cvicneho_tydne(benchmark::State& stav) {
+    sehraj(stav, "semeno 3\npc 2026-01-05 08:00:00\n"
+                 "spust cas=6:00 den=0 rychlost=1 gvd=GVD_cvicny zpozdeni=0\n"
+                 "prihlas\ncekej_do 7:00:00\n");
+}
 BENCHMARK(hodina_cvicneho_tydne)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+// A working day of the full week without the hands of a dispatcher.
+void den_plneho_tydne(benchmark::State& stav) {
+    sehraj(stav, "semeno 3\npc 2026-01-05 08:00:00\n"
+                 "spust cas=0:15 den=0 rychlost=8 gvd=GVD_plny zpozdeni=1\n"
+                 "prihlas\ncekej_do 23:59:00\n");
+}
+BENCHMARK(den_plneho_tydne)->Unit(benchmark::kMillisecond)->Iterations(1);
 
 // Every train waits at a stop: the pass of each simulated minute.
 void cekajici_vlaky(benchmark::State& stav) {
