@@ -238,6 +238,47 @@ TEST(DukazGvd, TrainBeginsAndEndsWhereTheJunctionLetsIt) {
           "by před půlnocí z depa nevyjela");
 }
 
+TEST(DukazGvd, EasternGateOfTheDepotSendsNobodyAndTheYardIsEnteredWithoutAStop) {
+    const std::string lv = "vlak Lv 7\ndny So\nrychlost 90\ndelka 18\nloko 362\nvozy 362\n";
+    najde(kPlan + lv + "stavi 30 - 6:00\nstavi THN 6:20 -\n",
+          "vlak 7: z východní brány DKV žádný vlak nevyjede");
+    najde(kPlan + lv + "stavi LHO - 12:00\nstavi THJ 12:40 12:50\nstavi THS 12:56 -\n",
+          "vlak 7: před vjezdem do nádraží nesmí mít zastavení v Hájovicích");
+    EXPECT_EQ(vse(dokaz_zdroj(kPlan + lv + "stavi LHO - 12:00\nstavi THS 12:40 -\n")), "");
+}
+
+TEST(DukazGvd, LocomotiveThatComesForATrainIsOfItsSeries) {
+    const std::string lv = "vlak Lv 80005\ndny Po-Pá\nrychlost 90\ndelka 18\nloko 754\nvozy 754\ndale 5\n"
+                           "souprava 5\nstavi DVH - 8:00\nstavi THN 8:08 -\n";
+    EXPECT_EQ(vse(dokaz_zdroj(kPlan + lv)), "");
+    najde(s_chybou(kPlan + lv, "loko 754\nvozy 754", "loko 230\nvozy 230"),
+          "vlak 80005: vlak 5 nečeká lokomotivu řady 230");
+}
+
+TEST(DukazGvd, TrainThatGoesBackOnItsWayIsRunRound) {
+    const std::string pn =
+        "vlak Pn 7\ndny So\nrychlost 100\ndelka 120\nloko 754\nvozy 754 Eas Eas\nkolej \"3\"\n"
+        "stavi LHO - 12:00\nstavi THN 12:15 12:20\nstavi TVH 12:27 12:28\nstavi LHO 12:36 -\n";
+    najde(kPlan + pn, "vlak 7: na objetí soupravy ve stanici Tesk hl. n. má jen 5 min");
+    EXPECT_EQ(vse(dokaz_zdroj(s_chybou(kPlan + pn, "vozy 754 Eas Eas", "vozy 754 Eas 754"))), "");
+}
+
+TEST(DukazGvd, LineIsUsedAgainstItsDirectionForWantOfAnotherWayOnly) {
+    planovani::Ukol ukol;
+    ukol.body = {{.stanice = 1, .stavi = true}, {.stanice = 8, .stavi = true}, {.stanice = 9, .stavi = true}};
+    std::size_t kam_az = 0;
+    const auto obvykly = planovani::najdi_pruchod(sit(), ukol, kam_az);
+    ASSERT_TRUE(obvykly);
+    EXPECT_FALSE(obvykly->protismer);
+    ukol.mimo = {20, 21};
+    const auto po_leve = planovani::najdi_pruchod(sit(), ukol, kam_az);
+    ASSERT_TRUE(po_leve);
+    EXPECT_TRUE(po_leve->protismer);
+    ukol.mimo = {19, 20, 21};
+    EXPECT_FALSE(planovani::najdi_pruchod(sit(), ukol, kam_az));
+    EXPECT_EQ(kam_az, 2u);
+}
+
 TEST(DukazGvd, ReportTellsWhatIsLeftToHands) {
     std::vector<ChybaZdroje> chyby;
     const JizdniRad rad = preloz_jizdni_rad(kPlan, chyby);
