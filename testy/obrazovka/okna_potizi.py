@@ -5,6 +5,7 @@
 import os
 import shutil
 import struct
+import subprocess
 import sys
 import time
 
@@ -45,17 +46,21 @@ class Zkouska(s.Stul):
         self.tiskni(klavesa, "zavřené okno", lambda: self.okna() == okna)
 
     def prirucka(self, co):
-        """F1 opens the manual over what is there, and Esc leaves that as it was; height on the screen of the chapter
-        that is picked in its contents."""
+        """F1 opens the manual over what is there, and Esc leaves that as it was; place of the chapter that is picked in
+        its contents, from 0. Its rows are of one height, which the size of the letters over the desk makes larger."""
         okna = self.okna()
         self.tiskni("F1", "příručka: " + co, lambda: self.okna() == okna + 1)
         time.sleep(0.6)
         self.bez_vad()
         obraz = self.obraz("prirucka_" + co)
         obsah = int(self.sirka * 0.33)  # from there on lies the list of the chapters
-        kapitola = next(y for y in range(self.vyska) if obraz.bodu(obsah, y, 150, 1, VYBRANA_KAPITOLA) > 60)
+        vybrane = [y for y in range(self.vyska) if obraz.bodu(obsah, y, 150, 1, VYBRANA_KAPITOLA) > 60]
+        nahore = int(subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "příručka výpravčího",
+                                     "getwindowgeometry", "--shell"], env=self.prostredi, check=True,
+                                    capture_output=True, text=True).stdout.split("Y=")[1].split()[0])
         self.zavri(okna)
-        return kapitola
+        okraj = 10  # around the contents, less than a row
+        return (vybrane[0] - nahore - okraj) // len(vybrane)
 
     def pis_do_dialogu(self, text, hotovo):
         """Types a name into the file dialogue until it has taken effect: keys before the focus are lost."""

@@ -43,6 +43,7 @@
 
 #include <cstdio>
 #include <set>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -62,8 +63,14 @@ void zapis(const QString& radek) {
         soubor.write(radek.toUtf8().replace('\n', ' ') + '\n');
 }
 
+// Only what is there at two looks in a row: a window is laid out anew a moment after its text has changed.
+std::set<QString> vady, vady_minule;
+
 void vada(const QString& co, const QString& text) {
-    zapis(QStringLiteral("vada %1: %2: %3").arg(kde, co, text.simplified().left(120)));
+    const QString radek = QStringLiteral("vada %1: %2: %3").arg(kde, co, text.simplified().left(120));
+    vady.insert(radek);
+    if (vady_minule.contains(radek))
+        zapis(radek);
 }
 
 // --- texts that the program draws itself
@@ -367,6 +374,7 @@ void prohledni_stul(const HlavniOkno& okno) {
 }
 
 void prohlidni() {
+    vady_minule = std::exchange(vady, {});
     for (QWidget* okno : QApplication::topLevelWidgets())
         if (okno->isVisible() && !okno->isMinimized())
             prohledni_okno(*okno);
