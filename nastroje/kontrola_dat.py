@@ -11,14 +11,16 @@
 import argparse
 import os
 import pathlib
-import struct
 import sys
-from collections import Counter, defaultdict, namedtuple
+from collections import Counter, defaultdict
+
+from datove_soubory import (CIL, CISLO_KOLEJE, KOLEJ, MOST, NASTUPISTE, NAVESTIDLO, NAVESTIDLO_SER, POPIS,
+                            POZADI_KONEC, POZADI_ZNAK, PREJEZD, PREJEZDY, SIPKA, SOUHLAS, STANOVISTE, VYHYBKA,
+                            VYKOLEJKA, Ctecka, Konec, cti_cestu, cti_delku, cti_hlavicku_gvd, cti_hru, cti_log, cti_makro,
+                            cti_prejezd, cti_prvek, cti_vazby, cti_vlak, najdi)
 
 # --- kinds of the relief, by the type of the record
 
-KOLEJ, NAVESTIDLO, CISLO_KOLEJE, CIL, NAVESTIDLO_SER, PREJEZD, PREJEZDY, MOST, NASTUPISTE, STANOVISTE, POPIS, \
-    VYHYBKA, SOUHLAS, SIPKA, POZADI_KONEC, POZADI_ZNAK, VYKOLEJKA = range(1, 18)
 JMENA_TYPU = {KOLEJ: "kolej", NAVESTIDLO: "navestidlo", CISLO_KOLEJE: "cislo_koleje", CIL: "Image1",
               NAVESTIDLO_SER: "navestidlo_ser", PREJEZD: "lblPrejezd", PREJEZDY: "lblPrejezdy", MOST: "most",
               NASTUPISTE: "lblnastupiste", STANOVISTE: "imgStanoviste", POPIS: "popis_stanice",
@@ -71,69 +73,6 @@ KODY_LOGU = {0, 11, 12, 13, 21, 22, 23, 31, 32, 33, 34, 51, 52, 53, 54, 73, 74, 
 BARVY = {0x808080, 0x0000FF, 0xFFFF00, 0x00FF00, 0xFFFFFF, 0xFF00FF, 0x000000, 0xFF0000}
 NAZEV_LOGU = "KPS RVZ TESK2"
 
-Prvek = namedtuple("Prvek", "typ cislo parametr nazev a b c d")
-Cesta = namedtuple("Cesta", "zacatek konec prvky druhy polohy rychlost")
-Vlak = namedtuple("Vlak", "stanice prijezdy odjezdy druh cislo druh2 cislo2 stanice_zmeny nazev rychlost delka "
-                          "gvd_hodnota loko_rada loko_rada2 hodnota_2 vozy vozy_vlaky poznamka text_2 text_3 "
-                          "kolej navazny_vlak dny priznaky")
-
-
-class Konec(Exception):
-    """The bytes end inside a record, or an array cannot be one."""
-
-
-class Ctecka:
-    """Packed little-endian fields, one after another."""
-
-    def __init__(self, bajty):
-        self.bajty = bajty
-        self.misto = 0
-
-    def na_konci(self):
-        return self.misto == len(self.bajty)
-
-    def syrove(self, pocet):
-        if self.misto + pocet > len(self.bajty):
-            raise Konec(f"soubor končí uprostřed pole na místě {self.misto}")
-        self.misto += pocet
-        return self.bajty[self.misto - pocet:self.misto]
-
-    def byte(self):
-        return self.syrove(1)[0]
-
-    def integer(self):
-        return struct.unpack("<h", self.syrove(2))[0]
-
-    def long(self):
-        return struct.unpack("<i", self.syrove(4))[0]
-
-    def flag(self):
-        hodnota = self.integer()
-        if hodnota not in (0, -1):
-            raise Konec(f"příznak má hodnotu {hodnota} na místě {self.misto - 2}")
-        return hodnota != 0
-
-    def text(self):
-        (delka,) = struct.unpack("<H", self.syrove(2))
-        return self.syrove(delka).decode("cp1250", "replace")
-
-    def pole(self, cti):
-        rozmeru = self.integer()
-        if rozmeru == 0:
-            return None
-        pocet, dolni = self.long(), self.long()
-        if rozmeru != 1 or pocet < 0 or dolni != 0:
-            raise Konec(f"pole o {rozmeru} rozměrech, {pocet} prvcích od {dolni} před místem {self.misto}")
-        return [cti() for _ in range(pocet)]
-
-    def zaznam(self, popis):
-        """Fields named in one line of text: B I L F T, [x] an array of x."""
-        cteni = {"B": self.byte, "I": self.integer, "L": self.long, "F": self.flag, "T": self.text}
-        vysledek = {}
-        for slovo in popis.split():
-            jmeno, druh = slovo.split(":")
-            vysledek[jmeno] = self.pole(cteni[druh[1]]) if druh[0] == "[" else cteni[druh]()
-        return vysledek
 
 
 class Kontrola:
@@ -160,45 +99,13 @@ def zaznamy(kontrola, jmeno, bajty, cti, hlavicka=False):
     ctecka, vysledek = Ctecka(bajty), []
     try:
         if hlavicka:
-            ctecka.syrove(4)
-            ctecka.text()
+            cti_hlavicku_gvd(ctecka)
         while not ctecka.na_konci():
             vysledek.append(cti(ctecka))
     except Konec as duvod:
         kontrola.vada(jmeno, f"záznam {len(vysledek) + 1}: {duvod}")
     kontrola.souhrn.append(f"{jmeno}: {len(bajty)} B, záznamů {len(vysledek)}")
     return vysledek
-
-
-def cti_prvek(c):
-    return Prvek(c.byte(), c.integer(), c.byte(), c.text(), c.integer(), c.integer(), c.integer(), c.integer())
-
-
-def cti_delku(c):
-    return c.syrove(3), c.syrove(4)
-
-
-def cti_prejezd(c):
-    return c.byte(), c.text(), c.integer(), c.integer()
-
-
-def cti_cestu(c):
-    return Cesta(c.integer(), c.integer(), c.pole(c.integer), c.pole(c.byte), c.pole(c.byte), c.byte())
-
-
-def cti_vazby(c):
-    return c.byte(), c.pole(c.byte), c.text()
-
-
-def cti_makro(c):
-    return c.text(), c.pole(c.byte), c.pole(c.integer), c.pole(c.integer)
-
-
-def cti_vlak(c):
-    return Vlak(c.pole(c.byte), c.pole(c.integer), c.pole(c.integer), c.byte(), c.long(), c.byte(), c.long(),
-                c.byte(), c.text(), c.byte(), c.integer(), c.integer(), c.integer(), c.integer(), c.integer(),
-                c.pole(c.text), c.pole(c.integer), c.text(), c.text(), c.text(), c.text(), c.text(), c.byte(),
-                c.byte())
 
 
 # --- relief
@@ -703,43 +610,6 @@ def zkontroluj_hrabov(k, jmeno, kdo, v):
 
 # --- saved simulation
 
-POLE_CESTY = ("zacatek:I konec:I prvky:[I druhy:[B polohy:[B Kdy_prehoz:L rychlost:B VC:F PN:F PN_do:L PN_zaver:F "
-              "cas_stavby:L prehozena:F Postavena:F Provedena:F cas_ruseni:L barva_cisla:L Vlak:I Umazat:B vyhybka:I "
-              "varovani:I rezerva:I prejezd:B prejezd_zaver:F ZT:I")
-POLE_VLAKU = ("stanice:[B prijezd:[I odjezd:[I odjezd_realny:[I druh:B cislo:L druh2:B cislo2:L stanice_zmeny:B "
-              "posun:F nazev:T max_rychlost:B delka:I gvd_hodnota:I loko_rada:I loko_rada2:I hodnota_2:I vozy:[T "
-              "vozy_urceni:[T vozy_obrazek:[T poznamka:T pokyn:T dny:B priznaky:B stanice_index:I muze_jet:F prvky:[I "
-              "prvky_druh:[B prvky_poloha:[B prvek_konec:I smer:F rychlost:B rychlost_trati:B rychlost_cesty:B "
-              "konec_omezeni:I omezeni_ukonceno:F rezerva:I cislo2_platne:F zpozdeni_vstup:I zpozdeni:I")
-
-
-def cti_hru(c):
-    """The 42 fields in file order, by their names."""
-    h = c.zaznam("podpis:T verze_major:B verze_minor:I verze_revize:I cas:T cas_zacatku:L den:B pp_povoleno:F "
-                 "zpozdeni_povoleno:F minuty_simulace:I gvd:T rychlost:B zaloha_731_strana:F zaloha_731_jede:F volne:I "
-                 "pocet_zaloh:I")
-
-    def rada(popis):
-        return lambda: c.zaznam(popis)
-
-    h["dalsi_vlaky"] = c.pole(rada("cas:I cislo:L druh:B predpoklad:I volne:I"))
-    h["cesty"] = c.pole(rada(POLE_CESTY))
-    h["vlaky"] = c.pole(rada(POLE_VLAKU))
-    h["stanicni_prejezdy"] = c.pole(rada("uzavren:F UZ:F volne1:I volne2:I cas:L pocet:B"))
-    h["prejezdy"] = c.pole(rada("zona:F vyluka:F uvolnen:F kolej:I poloha:I nazev:T"))
-    h.update(c.zaznam("cekajici_vlaky:[L prehoz_vyhybka:I prehoz_cas:L"))
-    h["stitky"] = c.pole(rada("prvek:I stitek:T nvl:T vyluka:T"))
-    h["koleje_vlaky"] = c.pole(rada("prvek:I vlaky:[I"))
-    h["souhlas_text"] = [c.text() for _ in range(3)]
-    h["souhlas_barva"] = [c.byte() for _ in range(3)]
-    h["souhlas_tag"] = [c.text() for _ in range(3)]
-    h["predvidany_odjezd"] = [c.text() for _ in range(3)]
-    h.update(c.zaznam("souhlas2_smer:[F souhlas2_barva:[B koleje_barva:[B koleje_poloha:[I vyhybky:[B koleje_popis:[T "
-                      "navestidla_barva:[B navestidla_pozadi:[B vykolejky_znak:[B vykolejky_barva:[B tabulka:[T "
-                      "tabulka_blikani:[F zpravy:[T"))
-    return h
-
-
 def zkontroluj_hru(k, jmeno, bajty, relief):
     ctecka = Ctecka(bajty)
     try:
@@ -755,7 +625,7 @@ def zkontroluj_hru(k, jmeno, bajty, relief):
                     f"cest {sum(c['zacatek'] >= 0 for c in h['cesty'])}, za záznamem {len(bajty) - ctecka.misto} B")
     k.plati(h["podpis"] == "123", jmeno, f'podpis "{h["podpis"]}"')
     k.plati(h["den"] in (1, 2, 4, 8, 16, 32, 64), jmeno, f"den {h['den']}")
-    k.plati(0 <= h["rychlost"] <= 8 and h["volne"] == 0, jmeno, "rychlost nebo volné pole")
+    k.plati(0 <= h["rychlost"] <= 8 and h["_volne"] == 0, jmeno, "rychlost nebo volné pole")
     casti = h["cas"].split(":")
     if k.plati(len(casti) == 3 and all(x.isdigit() for x in casti), jmeno, f'hodiny "{h["cas"]}"'):
         k.plati((int(casti[0]) * 60 + int(casti[1]) - h["cas_zacatku"] - h["minuty_simulace"]) % 1440 == 0, jmeno,
@@ -794,7 +664,7 @@ def zkontroluj_tabulky_hry(k, jmeno, h, relief):
         k.plati(len({len(c[p] or ()) for p in ("prvky", "druhy", "polohy")}) == 1, jmeno, f"cesta {i}: pole prvků")
         k.plati(c["Vlak"] < 0 or c["Vlak"] < len(h["vlaky"]) and h["vlaky"][c["Vlak"]]["cislo"] > 0, jmeno,
                 f"cesta {i}: patří vlaku {c['Vlak']}, který není")
-        k.plati(c["rezerva"] == 0, jmeno, f"cesta {i}: volné pole")
+        k.plati(c["_rezerva"] == 0, jmeno, f"cesta {i}: volné pole")
     for zaznam in h["koleje_vlaky"]:
         for index in zaznam["vlaky"] or ():
             k.plati(index == -3 or 0 <= index < len(h["vlaky"]) and h["vlaky"][index]["cislo"] > 0, jmeno,
@@ -805,19 +675,16 @@ def zkontroluj_tabulky_hry(k, jmeno, h, relief):
 
 
 def zkontroluj_log(k, jmeno, bajty, relief):
-    c = Ctecka(bajty)
     try:
-        h = c.zaznam("datum:T cas:L nazev:T den:B revize:I major:I minor:I")
+        h, zaznamy_logu, zbyva = cti_log(bajty)
     except Konec as duvod:
         k.vada(jmeno, f"hlavička: {duvod}")
         return
-    k.plati(h["nazev"] == NAZEV_LOGU, jmeno, f'hlavička: program "{h["nazev"]}"')
-    k.plati(h["datum"].count(".") == 2 and 0 <= h["cas"] < 86400 and h["den"] <= 6, jmeno, "hlavička: datum, čas nebo den")
-    k.plati((len(bajty) - c.misto) % 11 == 0, jmeno, "poslední záznam je useknutý")
-    predchozi, pocet = None, 0
-    while len(bajty) - c.misto >= 11:
-        cas, kod, prvek, hodnota = c.long(), c.byte(), c.integer(), c.long()
-        pocet += 1
+    k.plati(h.nazev == NAZEV_LOGU, jmeno, f'hlavička: program "{h.nazev}"')
+    k.plati(h.datum.count(".") == 2 and 0 <= h.cas < 86400 and h.den <= 6, jmeno, "hlavička: datum, čas nebo den")
+    k.plati(zbyva == 0, jmeno, "poslední záznam je useknutý")
+    predchozi = None
+    for pocet, (cas, kod, prvek, hodnota) in enumerate(zaznamy_logu, 1):
         kdo = f"záznam {pocet} (kód {kod}, prvek {prvek})"
         k.plati(kod in KODY_LOGU, jmeno, f"{kdo}: neznámý kód")
         # a start at 0:00 falls back by a day once, two seconds after it
@@ -833,26 +700,10 @@ def zkontroluj_log(k, jmeno, bajty, relief):
             k.plati(hodnota in BARVY, jmeno, f"{kdo}: barva {hodnota:#010x}")
         if kod == 76:
             k.plati(prvek in (0, 1) and hodnota in (0, 1), jmeno, f"{kdo}: hodnota {hodnota}")
-    k.souhrn.append(f"{jmeno}: {len(bajty)} B, záznamů {pocet}")
+    k.souhrn.append(f"{jmeno}: {len(bajty)} B, záznamů {len(zaznamy_logu)}")
 
 
 # --- the whole installation
-
-
-def najdi(slozka, cesta):
-    """A file whatever the case of its letters."""
-    for cast in cesta.split("/"):
-        polozky = [p for p in os.listdir(slozka) if p.lower() == cast.lower()] if os.path.isdir(slozka) else []
-        if not polozky:
-            return None
-        # data and DATA may lie side by side: the one that holds what is looked for
-        slozka = [os.path.join(slozka, p) for p in sorted(polozky)]
-        if len(slozka) > 1:
-            zbytek = cesta.split("/", 1)[1] if "/" in cesta else ""
-            nalezene = [n for n in (najdi(s, zbytek) for s in slozka) if n]
-            return nalezene[0] if nalezene else None
-        slozka = slozka[0]
-    return slozka
 
 
 def zkontroluj_instalaci(k, slozka, navic):

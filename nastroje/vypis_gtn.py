@@ -13,10 +13,12 @@ import json
 import math
 import pathlib
 import re
-import struct
 import sys
-from collections import namedtuple
 from xml.sax.saxutils import escape
+
+from datove_soubory import Konec, cti_log
+from nakres import (OKRAJ_DOLE, OKRAJ_NAHORE, OKRAJ_VLEVO, OKRAJ_VPRAVO, cislo_na_care, hodiny_minuty, legenda,
+                    mrizka_casu, osa_stanic, zacatek)
 
 UDALOSTI = {
     0: "automat", 11: "volba vlakové cesty", 12: "volba posunové cesty", 13: "volba přivolávací návěsti",
@@ -33,39 +35,10 @@ S_VLAKEM = {90, NA_KOLEJ, Z_KOLEJE}  # the value is a train number
 KOLEJ, NAVESTIDLO, VYHYBKA, JINE = "kolej", "navestidlo", "vyhybka", ""
 DRUH_PRVKU = {73: KOLEJ, 90: KOLEJ, 131: KOLEJ, 132: KOLEJ, 74: VYHYBKA, 76: JINE, 103: JINE}
 DNY = ("pondělí", "úterý", "středa", "čtvrtek", "pátek", "sobota", "neděle")
-DELKA_ZAZNAMU = 11
-
-Hlavicka = namedtuple("Hlavicka", "datum cas nazev den revize major minor")
-Zaznam = namedtuple("Zaznam", "cas kod prvek hodnota")
 
 
 class Chyba(Exception):
     """Told to the user in one line, exit status 1."""
-
-
-# --- the file
-
-
-def cti_log(bajty):
-    """Header, whole records, and how many bytes of a cut record are left over."""
-    def text(misto):
-        (delka,) = struct.unpack_from("<H", bajty, misto)
-        konec = misto + 2 + delka
-        if konec > len(bajty):
-            raise Chyba("hlavička logu je poškozena")
-        return bajty[misto + 2:konec].decode("cp1250", "replace"), konec
-
-    try:
-        datum, misto = text(0)
-        (cas,) = struct.unpack_from("<i", bajty, misto)
-        nazev, misto = text(misto + 4)
-        den, revize, major, minor = struct.unpack_from("<Bhhh", bajty, misto)
-    except struct.error:
-        raise Chyba("hlavička logu je poškozena") from None
-    misto += 7
-    zbyva = (len(bajty) - misto) % DELKA_ZAZNAMU
-    zaznamy = [Zaznam(*z) for z in struct.iter_unpack("<iBhi", bajty[misto:len(bajty) - zbyva])]
-    return Hlavicka(datum, cas, nazev, den, revize, major, minor), zaznamy, zbyva
 
 
 # --- time
@@ -319,9 +292,6 @@ def osa_nakresu(jizdy, kolejiste, kody=None):
 
 # --- the diagram
 
-OKRAJ_VLEVO, OKRAJ_VPRAVO, OKRAJ_NAHORE, OKRAJ_DOLE = 160, 36, 92, 54
-PISMO = "font-family=\"'DejaVu Sans', 'Noto Sans', sans-serif\""
-
 
 def nakres(hlavicka, zaznamy, kolejiste, kody=None):
     """The trains of the log as SVG text: time from left to right, stations from the top down."""
@@ -356,34 +326,11 @@ def nakres(hlavicka, zaznamy, kolejiste, kody=None):
         return OKRAJ_NAHORE + m / delka_osy * vyska_osy
 
     dole = OKRAJ_NAHORE + vyska_osy
-    svg = ['<svg xmlns="http://www.w3.org/2000/svg" width="%.0f" height="%.0f" viewBox="0 0 %.0f %.0f" %s>'
-           % (sirka, vyska, sirka, vyska, PISMO),
-           "<title>Nákresný jízdní řád podle záznamu %s</title>" % escape(hlavicka.datum),
-           '<rect width="100%" height="100%" fill="#fffdf7"/>',
-           '<text x="%d" y="34" font-size="20" font-weight="bold" fill="#222">Splněný grafikon</text>' % OKRAJ_VLEVO,
-           '<text x="%d" y="54" font-size="12" fill="#666">%s</text>' % (OKRAJ_VLEVO, escape(
-               "%s, záznam z %s, %s, %s až %s" % (hlavicka.nazev, hlavicka.datum,
-                                                  DNY[hlavicka.den % 7], hodiny(od)[:-3], hodiny(do)[:-3])))]
-
-    # time: hours strong, ten minutes thin
-    for cas in range(od, do + 1, 600):
-        hodina, pul = cas % 3600 == 0, cas % 1800 == 0
-        svg.append('<line x1="%.1f" y1="%.1f" x2="%.1f" y2="%.1f" stroke="%s" stroke-width="%s"/>'
-                   % (x(cas), OKRAJ_NAHORE, x(cas), dole, "#9a9484" if hodina else "#ddd6c4", 1.2 if hodina else 0.6))
-        if hodina or (pul and na_minutu >= 2.5) or na_minutu >= 5:
-            for misto in (OKRAJ_NAHORE - 10, dole + 20):
-                svg.append('<text x="%.1f" y="%.1f" font-size="%d" text-anchor="middle" fill="#444"%s>%s</text>'
-                           % (x(cas), misto, 12 if hodina else 10, ' font-weight="bold"' if hodina else "",
-                              hodiny(cas)[:-3]))
-
-    # stations at their distances
-    for kod, m in osa:
-        svg.append('<line x1="%d" y1="%.1f" x2="%.1f" y2="%.1f" stroke="#6b6658" stroke-width="1.2"/>'
-                   % (OKRAJ_VLEVO, y(m), x(do), y(m)))
-        svg.append('<text x="%d" y="%.1f" font-size="13" text-anchor="end" fill="#222">%s</text>'
-                   % (OKRAJ_VLEVO - 24, y(m) - 1, escape(kolejiste.stanice[kod])))
-        svg.append('<text x="%d" y="%.1f" font-size="10" text-anchor="end" fill="#888">%s · %s km</text>'
-                   % (OKRAJ_VLEVO - 24, y(m) + 12, kod, ("%.1f" % (m / 1000)).replace(".", ",")))
+    svg = zacatek(sirka, vyska, "Nákresný jízdní řád podle záznamu %s" % hlavicka.datum, "Splněný grafikon",
+                  "%s, záznam z %s, %s, %s až %s" % (hlavicka.nazev, hlavicka.datum, DNY[hlavicka.den % 7],
+                                                     hodiny_minuty(od), hodiny_minuty(do)))
+    svg += mrizka_casu(x, od, do, OKRAJ_NAHORE, dole, na_minutu)
+    svg += osa_stanic([(kolejiste.stanice[kod], kod, m) for kod, m in osa], y, OKRAJ_VLEVO, x(do))
 
     # trains: down in one colour, up in the other; locomotives and shunting broken
     popisy = []
@@ -394,27 +341,16 @@ def nakres(hlavicka, zaznamy, kolejiste, kody=None):
         svg.append('<polyline points="%s" fill="none" stroke="%s" stroke-width="1.8" stroke-linejoin="round"%s>'
                    "<title>vlak %d</title></polyline>"
                    % (" ".join("%.1f,%.1f" % (x(c), y(m)) for c, m in body), barva, cara, jizda.cislo))
-        # the number lies along the longest run between two stations, on a ground of its own
-        useky = [(a, b) for a, b in zip(body, body[1:]) if a[1] != b[1]]
-        (c1, m1), (c2, m2) = max(useky, key=lambda u: math.hypot(x(u[1][0]) - x(u[0][0]), y(u[1][1]) - y(u[0][1])))
-        uhel = math.degrees(math.atan2(y(m2) - y(m1), x(c2) - x(c1)))
-        misto = 'transform="translate(%.1f %.1f) rotate(%.1f)"' % ((x(c1) + x(c2)) / 2, (y(m1) + y(m2)) / 2, uhel)
-        pul = 3.6 * len(str(jizda.cislo)) + 3
-        popisy.append('<g %s><rect x="%.1f" y="-7" width="%.1f" height="14" fill="#fffdf7"/>'
-                      '<text y="4.2" font-size="12" text-anchor="middle" fill="%s">%d</text></g>'
-                      % (misto, -pul, 2 * pul, barva, jizda.cislo))
+        # the number lies along the longest run between two stations
+        useky = [((x(c1), y(m1)), (x(c2), y(m2))) for (c1, m1), (c2, m2) in zip(body, body[1:]) if m1 != m2]
+        popisy.append(cislo_na_care(*max(useky, key=lambda u: math.dist(*u)), jizda.cislo, barva))
     svg += popisy
 
-    legenda = [("#b3261e", "", "směr " + kolejiste.stanice[osa[-1][0]]),
+    polozky = [("#b3261e", "", "směr " + kolejiste.stanice[osa[-1][0]]),
                ("#1d4f91", "", "směr " + kolejiste.stanice[osa[0][0]])]
     if any(jizda.posun for jizda, _ in vlaky):
-        legenda.append(("#7a7a7a", ' stroke-dasharray="6 4"', "lokomotivy a posun"))
-    lx = OKRAJ_VLEVO
-    for barva, cara, text in legenda:
-        svg.append('<line x1="%d" y1="%.1f" x2="%d" y2="%.1f" stroke="%s" stroke-width="1.8"%s/>'
-                   '<text x="%d" y="%.1f" font-size="11" fill="#444">%s</text>'
-                   % (lx, dole + 40, lx + 28, dole + 40, barva, cara, lx + 34, dole + 44, escape(text)))
-        lx += 60 + 7 * len(text)
+        polozky.append(("#7a7a7a", ' stroke-dasharray="6 4"', "lokomotivy a posun"))
+    svg += legenda(polozky, dole + 40)
     svg.append("</svg>")
     return "\n".join(svg) + "\n"
 
@@ -473,6 +409,8 @@ def hlavni(argumenty, vystup):
             hlavicka, zaznamy, zbyva = cti_log(soubor.read())
     except OSError as potiz:
         raise Chyba("%s: %s" % (volby.log, potiz.strerror)) from None
+    except Konec:
+        raise Chyba("hlavička logu je poškozena") from None
     vybrane = list(vyber(zaznamy, volby))
     slozka = volby.kolejiste
     if slozka is None and volby.nakres:
