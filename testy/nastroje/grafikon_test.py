@@ -347,6 +347,29 @@ class Zdroj(Zaklad):
         dat = self.soubor(gvd(vlak(14701, *RANNI, kolej="4")))
         self.assertIn("beze změny 1", self.vystup("rozdil", zdroj, dat, "--tesk-gvd", TESK_GVD))
 
+    def test_week_of_the_document_is_proved_and_its_faults_are_those_that_it_tells(self):
+        dokument = (ZDROJE / "docs/jizdni-rad.md").read_text(encoding="utf-8")
+        tyden = re.search(r'^ {7}popis "Můj.*?(?=^2\. )', dokument, re.S | re.M)[0]
+        self.soubor(re.sub(r"^ {7}", "", tyden, flags=re.M).encode("utf-8"), "GVD_muj.gvd")
+
+        def preloz(zdroj):
+            beh = subprocess.run([TESK_GVD.resolve(), zdroj, "GVD_muj.dat", "--data", (INSTALACE / "data").resolve()],
+                                 cwd=self.slozka, capture_output=True, check=False)
+            return beh.stdout.decode("utf-8"), beh.stderr.decode("utf-8")
+
+        self.assertEqual(preloz("GVD_muj.gvd"), ("GVD_muj.dat: 32 vlaků\n", ""))
+        self.assertIn("`32 vlaků`", dokument)
+        self.assertIn("ODJEZDY (16)", self.vystup("tabule", self.slozka / "GVD_muj.dat", "--stanice", "THN"))
+        zdroj = self.slozka / "GVD_muj.gvd"
+        zdroj.write_text(zdroj.read_text(encoding="utf-8").replace("jede zpet 6:25", "jede zpet 6:02"), encoding="utf-8")
+        vada = preloz("GVD_muj.gvd")[1].splitlines()[0]
+        self.assertIn("`" + vada + "`", dokument)
+
+    def test_lines_that_the_document_names_are_those_that_there_are(self):
+        dokument = (ZDROJE / "docs/jizdni-rad.md").read_text(encoding="utf-8")
+        veta = dokument[dokument.index("The lines are "):]
+        self.assertEqual(re.findall("`([a-z-]+)`", veta[:veta.index(": the table")]), list(g.TRATE))
+
     def test_faults_of_the_source_are_those_of_the_compiler(self):
         zdroj = self.soubor(self.ZDROJ.replace("LHO", "XYZ").encode("utf-8"), "muj.gvd")
         self.assertIn("muj.gvd:9:", self.odmitne("tabule", zdroj, "--stanice", "THN", "--tesk-gvd", TESK_GVD))
