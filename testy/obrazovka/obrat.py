@@ -16,18 +16,6 @@ VOZ = (8, 696, 72, 26)  # within the place of the first vehicle
 ZNACKY = (8, 643, 25, 8)  # of the first row of the train table
 
 
-def pole(tvar, hodnoty):
-    return struct.pack("<Hii", 1, len(hodnoty), 0) + struct.pack("<%d%s" % (len(hodnoty), tvar), *hodnoty)
-
-
-def text(slovo):
-    return struct.pack("<H", len(slovo)) + slovo.encode("cp1250")
-
-
-def texty(slova):
-    return struct.pack("<Hii", 1, len(slova), 0) + b"".join(map(text, slova))
-
-
 def kolejiste():
     """From the depot on the left to the platform, and to a stub on the right of it."""
     r = s.Relief()
@@ -47,23 +35,22 @@ def kolejiste():
 
 
 def cesta(zacatek, prvky):
-    return (struct.pack("<hh", zacatek, prvky[-1]) + pole("h", prvky) + pole("B", (1,) * len(prvky)) +
-            pole("B", (2,) + (0,) * (len(prvky) - 1)) + b"\0")
+    return (struct.pack("<hh", zacatek, prvky[-1]) + s.pole("h", prvky) + s.pole("B", (1,) * len(prvky)) +
+            s.pole("B", (2,) + (0,) * (len(prvky) - 1)) + b"\0")
 
 
 def vlak(cislo, trasa, vozy, dalsi, souprava):
     """A row of the timetable; `trasa` is code, arrival and departure of each stop."""
     stanice, prijezdy, odjezdy = zip(*trasa)
-    return (pole("B", stanice) + pole("h", prijezdy) + pole("h", odjezdy) +
-            struct.pack("<BiBiB", 7, cislo, 0, 0, 0) + text("") +
-            struct.pack("<Bhhhhh", 100, 60, 0, 754, 0, 0) + texty(vozy) + pole("h", dalsi) + 3 * text("") +
-            text("1") + text(souprava) + struct.pack("<BB", 127, 0))
+    return (s.pole("B", stanice) + s.pole("h", prijezdy) + s.pole("h", odjezdy) +
+            struct.pack("<BiBiB", 7, cislo, 0, 0, 0) + s.text("") +
+            struct.pack("<Bhhhhh", 100, 60, 0, 754, 0, 0) + s.texty(vozy) + s.pole("h", dalsi) + 3 * s.text("") +
+            s.text("1") + s.text(souprava) + struct.pack("<BB", 127, 0))
 
 
 def zapis(slozka):
     def soubor(jmeno, bajty):
-        with open(os.path.join(slozka, *jmeno.split("/")), "wb") as f:
-            f.write(bajty)
+        s.zapis_soubor(slozka, jmeno, bajty)
 
     for pripona in ("rea", "reb"):
         soubor("data/tesk." + pripona, kolejiste())
@@ -71,7 +58,7 @@ def zapis(slozka):
     soubor("data/tesk.zpc", cesta(226, (26, 441, 145)) + cesta(319, (119, 440, 26)))
     os.remove(os.path.join(slozka, "gvd", "GVD_tichy.dat"))
     # the train stands at the platform at 12:00; its set goes back at 12:45
-    soubor("gvd/GVD_obrat.dat", b"\0" * 4 + text("obrat") +
+    soubor("gvd/GVD_obrat.dat", b"\0" * 4 + s.text("obrat") +
            vlak(1510, ((1, 700, 700), (9, 715, 730), (7, 735, 735)), ("754", "B", "A"), (0, 1520, 1520), "DKV") +
            vlak(1520, ((9, -1, 765), (1, 780, 780)), ("754", "B", "A"), (0, 0, 0), ""))
 

@@ -368,22 +368,31 @@ def je_formular(obraz):
     return obraz.bodu(obraz.sirka // 2 - 310, obraz.vyska // 2 - 200, 100, 100, BARVA_FORMULARE) > 1000
 
 
+# --- the data of an installation, field by field
+
+def pole(tvar, hodnoty):
+    return struct.pack("<Hii", 1, len(hodnoty), 0) + struct.pack("<%d%s" % (len(hodnoty), tvar), *hodnoty)
+
+
+def text(slovo):
+    return struct.pack("<H", len(slovo)) + slovo.encode("cp1250")
+
+
+def texty(slova):
+    return struct.pack("<Hii", 1, len(slova), 0) + b"".join(map(text, slova))
+
+
+def zapis_soubor(slozka, jmeno, bajty):
+    with open(os.path.join(slozka, *jmeno.split("/")), "wb") as f:
+        f.write(bajty)
+
+
 def kolejiste_jednoho_vlaku(slozka, delka_m, rychlost):
     """The data of an installation in the folder with a line from Lhotín on the left over one switch to the exit
     of Borovec on the right, its long section of so many metres; and a timetable of one train, of that speed in
     km/h: announced at the start at 12:00, it leaves Lhotín in the first minute and runs through Borovec."""
-    def pole(tvar, hodnoty):
-        return struct.pack("<Hii", 1, len(hodnoty), 0) + struct.pack("<%d%s" % (len(hodnoty), tvar), *hodnoty)
-
-    def text(slovo):
-        return struct.pack("<H", len(slovo)) + slovo.encode("cp1250")
-
-    def texty(slova):
-        return struct.pack("<Hii", 1, len(slova), 0) + b"".join(map(text, slova))
-
     def soubor(jmeno, bajty):
-        with open(os.path.join(slozka, *jmeno.split("/")), "wb") as f:
-            f.write(bajty)
+        zapis_soubor(slozka, jmeno, bajty)
 
     r = Relief()
     r.kolej(87, 10, 28, 8)
