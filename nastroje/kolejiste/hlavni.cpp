@@ -1,17 +1,18 @@
 // nastroje/kolejiste/hlavni.cpp - tesk-kolejiste, the compiler of the junction.
 //
-//   tesk-kolejiste [--data SLOZKA] [--nahled SOUBOR.svg] [--nahled2 SOUBOR.svg] [--soused PRVEK]
-//                  [--cesta OD STRANA DO] [--chybi] [--tabulka] ZDROJ...
+//   tesk-kolejiste [--data SLOZKA] [--makra SOUBOR] [--nahled SOUBOR.svg] [--nahled2 SOUBOR.svg]
+//                  [--soused PRVEK] [--cesta OD STRANA DO] [--chybi] [--tabulka] ZDROJ...
 //
-// Reads all sources, reports every fault with its file and line, and writes the data files only when
-// there is none. --soused prints what stands around an element: a track "26", a switch "v14", a derailer
-// "d0"; --cesta the shortest way from a track by its side vlevo or vpravo to another; --chybi the demanded
-// numbers that are not drawn. Exit status: 0; 1 the sources have faults; 2 wrong use or a file that cannot be
-// read or written.
+// Reads all sources, and the macros that the desk comes with, reports every fault with its file and line, and
+// writes the data files only when there is none. --soused prints what stands around an element: a track "26",
+// a switch "v14", a derailer "d0"; --cesta the shortest way from a track by its side vlevo or vpravo to
+// another; --chybi the demanded numbers that are not drawn. Exit status: 0; 1 the sources have faults; 2
+// wrong use or a file that cannot be read or written.
 #include "kolejiste/graf.h"
 #include "kolejiste/kontrola_tras.h"
 #include "kolejiste/kontroly.h"
 #include "kolejiste/kresba.h"
+#include "kolejiste/makra.h"
 #include "kolejiste/trasy.h"
 #include "kolejiste/vystup.h"
 #include "zaklad/chyba.h"
@@ -74,7 +75,7 @@ void vypis_souhrn(const Plan& plan, const std::vector<ZaznamReliefu>& jeden, con
 // --- the command line
 
 struct Zadani {
-    std::string slozka, nahled_jeden, nahled_dva;
+    std::string slozka, makra, nahled_jeden, nahled_dva;
     std::vector<std::string> zdroje, sousede;
     std::vector<std::string> cesty; // three words each: from, side, to
     bool chybi = false, tabulka = false;
@@ -87,6 +88,7 @@ bool precti_zadani(int argc, char** argv, Zadani& zadani) {
     for (int i = 1; i < argc; ++i) {
         const std::string a = argv[i];
         std::string* kam = a == "--data"      ? &zadani.slozka
+                           : a == "--makra"   ? &zadani.makra
                            : a == "--nahled"  ? &zadani.nahled_jeden
                            : a == "--nahled2" ? &zadani.nahled_dva
                                               : nullptr;
@@ -109,8 +111,8 @@ bool precti_zadani(int argc, char** argv, Zadani& zadani) {
         }
     }
     if (zadani.zdroje.empty())
-        std::fprintf(stderr, "tesk-kolejiste [--data SLOZKA] [--nahled SVG] [--nahled2 SVG] [--soused PRVEK] "
-                             "[--cesta OD STRANA DO] [--chybi] [--tabulka] ZDROJ...\n");
+        std::fprintf(stderr, "tesk-kolejiste [--data SLOZKA] [--makra SOUBOR] [--nahled SVG] [--nahled2 SVG] "
+                             "[--soused PRVEK] [--cesta OD STRANA DO] [--chybi] [--tabulka] ZDROJ...\n");
     return !zadani.zdroje.empty();
 }
 
@@ -148,21 +150,32 @@ void vypis_chybejici(const Plan& plan, const std::vector<ZaznamReliefu>& jeden) 
 
 // --- the compilation
 
-// False when a source cannot be read, which has been told.
-bool precti_zdroje(const std::vector<std::string>& zdroje, Plan& plan, std::vector<Zavada>& zavady) {
-    for (const std::string& zdroj : zdroje) {
-        std::ifstream f(zdroj, std::ios::binary);
-        std::ostringstream text;
-        text << f.rdbuf();
-        if (!f) {
-            std::fprintf(stderr, "%s: nelze přečíst\n", zdroj.c_str());
-            return false;
-        }
-        // in messages the source is named from its own folder
-        const std::filesystem::path cesta(zdroj);
-        precti(text.str(), (cesta.parent_path().filename() / cesta.filename()).string(), plan, zavady);
+// Gives the source to `cti`, with its name in messages, which is told from its own folder. False when it
+// cannot be read, which has been told.
+template <class Cti> bool precti_zdroj(const std::string& zdroj, Cti cti) {
+    std::ifstream f(zdroj, std::ios::binary);
+    std::ostringstream text;
+    text << f.rdbuf();
+    if (!f) {
+        std::fprintf(stderr, "%s: nelze přečíst\n", zdroj.c_str());
+        return false;
     }
+    const std::filesystem::path cesta(zdroj);
+    cti(text.str(), (cesta.parent_path().filename() / cesta.filename()).string());
     return true;
+}
+
+bool precti_zdroje(const Zadani& zadani, Plan& plan, std::vector<VychoziMakro>& makra,
+                   std::vector<Zavada>& zavady) {
+    for (const std::string& zdroj : zadani.zdroje)
+        if (!precti_zdroj(zdroj, [&](const std::string& text, const std::string& jmeno) {
+                precti(text, jmeno, plan, zavady);
+            }))
+            return false;
+    return zadani.makra.empty() ||
+           precti_zdroj(zadani.makra, [&](const std::string& text, const std::string& jmeno) {
+               precti_makra(text, jmeno, makra, zavady);
+           });
 }
 
 void vypis_zavady(std::vector<Zavada>& zavady) {
@@ -176,7 +189,7 @@ void vypis_zavady(std::vector<Zavada>& zavady) {
 
 bool zapis_data(const std::filesystem::path& slozka, const Plan& plan,
                 const std::vector<ZaznamReliefu>& jeden, const std::vector<ZaznamReliefu>& dva,
-                const std::vector<Trasa>& trasy) {
+                const std::vector<Trasa>& trasy, const std::vector<VychoziMakro>& makra) {
     std::error_code potiz;
     std::filesystem::create_directories(slozka, potiz);
     return zapis(slozka / "tesk.rea", soubor_reliefu(jeden, "Tesk, jeden monitor")) &&
@@ -186,19 +199,21 @@ bool zapis_data(const std::filesystem::path& slozka, const Plan& plan,
            zapis(slozka / "tesk.stg", soubor_vazeb(plan)) &&
            zapis(slozka / "tesk.zat", soubor_tras(trasy, DruhTrasy::vlak)) &&
            zapis(slozka / "tesk.zpc", soubor_tras(trasy, DruhTrasy::posun)) &&
-           zapis(slozka / "tesk.mak", Bajty{});
+           uloz_makra(slozka, soubor_maker(makra));
 }
 
 int preloz(const Zadani& zadani) {
     Plan plan;
     std::vector<Zavada> zavady;
-    if (!precti_zdroje(zadani.zdroje, plan, zavady))
+    std::vector<VychoziMakro> makra;
+    if (!precti_zdroje(zadani, plan, makra, zavady))
         return 2;
     const Graf graf = sestav_graf(plan, zavady);
     const auto jeden = nakresli(plan, Obraz::jeden, zavady), dva = nakresli(plan, Obraz::dva, zavady);
     zkontroluj(plan, graf, jeden, dva, zavady);
     const std::vector<Trasa> trasy = odvod_trasy(plan, graf, zavady);
     zkontroluj_trasy(plan, graf, trasy, zavady);
+    zkontroluj_makra(makra, trasy, zavady);
 
     if (!zadani.nahled_jeden.empty() && !zapis(zadani.nahled_jeden, nahled(jeden, Obraz::jeden)))
         return 2;
@@ -216,7 +231,7 @@ int preloz(const Zadani& zadani) {
         vypis_zavady(zavady);
         return 1;
     }
-    if (!zadani.slozka.empty() && !zapis_data(zadani.slozka, plan, jeden, dva, trasy))
+    if (!zadani.slozka.empty() && !zapis_data(zadani.slozka, plan, jeden, dva, trasy, makra))
         return 2;
     if (!zadani.je_dotaz())
         vypis_souhrn(plan, jeden, graf, trasy);

@@ -117,6 +117,10 @@ std::string popis_prvku_trasy(const ZaznamCesty& z, std::size_t k) {
     return n;
 }
 
+bool vylucuji_se(const Trasa& a, const Trasa& b) {
+    return (drzene(a.zaznam) & drzene(b.zaznam)).any();
+}
+
 PoctyTras spocti_trasy(const std::vector<Trasa>& trasy) {
     PoctyTras p;
     for (const Trasa& t : trasy)

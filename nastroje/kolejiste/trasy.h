@@ -46,6 +46,9 @@ bool ceka_na_dokresleni(const Plan& plan, const Graf& graf, int kolej, Strana st
 inline constexpr std::size_t kRadekProgramovych = 999;
 Bajty soubor_tras(const std::vector<Trasa>& trasy, DruhTrasy druh);
 
+// The routes cannot stand at once: they hold an element in common, the track before a start apart.
+bool vylucuji_se(const Trasa& a, const Trasa& b);
+
 // How many routes there are, how many pairs of them, and how many of the pairs cannot stand at once.
 struct PoctyTras {
     std::size_t vlakovych = 0, posunovych = 0, dvojic = 0, vylucuje_se = 0;
