@@ -32,6 +32,9 @@ cekej 2min
 klik navestidlo 287
 klik Image1 600
 cekej 20s
+klik navestidlo 273
+klik Image1 624
+cekej 20s
 klik navestidlo 225
 klik Image1 145
 cekej 3s

@@ -181,6 +181,7 @@ bool nenese(Druh druh, std::string_view vlastnost, bool hned) {
     case Druh::lblNavestidlo_stanice:
     case Druh::svetlo:
     case Druh::pruh:
+    case Druh::cmdZpravy:           // nobody has left a message unread before the login
     case Druh::lblZasobnik_blokv:   // the waiting line shows the first route that waits
     case Druh::imgToc: return true; // and the picture of the clock starts anew
     case Druh::lblMereni_casu: return hned;
