@@ -128,6 +128,11 @@ void uvolni_prvky(const Cesta& c) {
             break;
         }
     }
+    // T2 of Rybnice is painted at the command already; as a section of its line it comes into the route only
+    // when that is locked.
+    if (!c.PN && c.konec == uzel::kT2 && je_kolej(c.konec) && !obsahuje(c.prvky, c.konec) &&
+        relief.kolej[c.konec].barva == barvy::azurova)
+        uvolni_prvek(c.konec);
 }
 
 // The head stands at the end of the route's list, and the whole train too.

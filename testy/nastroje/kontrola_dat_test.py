@@ -17,7 +17,7 @@ INSTALACE, DAVKA = pathlib.Path(sys.argv[1]), sys.argv[2]
 
 # trains on their way, a standing route, one being set, a thrown switch, a note
 PROVOZ = """semeno 3
-spust cas=6:20 den=0 rychlost=4
+spust cas=6:50 den=0 rychlost=4
 prihlas
 klik navestidlo 317
 klik Image1 26
