@@ -28,7 +28,7 @@ DKS = {25: [("L", "R", 25), ("LT", "R", 27), ("L", "RB", 28), ("LT", "RB", 26)],
 KONCE_DKS = {25: (0, 0), 27: (1, 0), 28: (0, 1), 26: (1, 1), 29: (0, 0), 32: (1, 0), 31: (0, 1), 30: (1, 1)}
 # Signals of a track that their numbers do not tell.
 NA_KOLEJI = {511: 135, 519: 519, 520: 520, 576: 576, 577: 577, 703: 503, 738: 538, 769: 569}
-POSUNOVE_VLEVO = {509, 510, 558, 559, 560, 574}
+POSUNOVE_VLEVO = {509, 510, 536, 558, 559, 560, 574}
 U_OBRAZU = {998: 118, 513: 118}  # they stand at the second drawing of its left end
 ZHASLA = {305}
 

@@ -465,4 +465,4 @@ TEST_P(Pokracovani, SaveAtAnyMomentEqualsNeverHavingSaved) {
     EXPECT_LT(vynechane, kUlozeni / 3);
 }
 
-INSTANTIATE_TEST_SUITE_P(Hodiny, Pokracovani, testing::Values(7, 8, 16, 17));
+INSTANTIATE_TEST_SUITE_P(Hodiny, Pokracovani, testing::Values(6, 8, 10, 17));
