@@ -46,8 +46,11 @@ TEST_F(SeznamHlaseni, LineOfASaveTellsTheDelayThatWasSaved) {
 }
 
 TEST_F(SeznamHlaseni, LineOfASaveStaysAsItIsAndTheLastThreeCharactersAreItsMinutes) {
-    const std::vector<Text> ulozene = {Text("Zpoždění vlaku 1 +123´"_cz), Text("Zpoždění vlaku 2"_cz),
-                                       Text("Zpoždění vlaku"_cz), Text("Jiná zpráva 4701 +33´"_cz), ""};
+    std::vector<Text> ulozene;
+    for (const TextPohled radek :
+         {TextPohled("Zpoždění vlaku 1 +123´"_cz), TextPohled("Zpoždění vlaku 2"_cz),
+          TextPohled("Zpoždění vlaku"_cz), TextPohled("Jiná zpráva 4701 +33´"_cz), TextPohled()})
+        ulozene.emplace_back(radek);
     prevezmi_hlaseni(ulozene);
     EXPECT_EQ(radky(), ulozene);
     EXPECT_EQ(zpozdeni_vlaku(1), 23);
