@@ -1,6 +1,7 @@
 // testy/nastroje/mutace_kolejiste_test.cpp - sources of the junction damaged in every way: the compiler tells
 // what is wrong with file, line and element, and never falls.
 #include "pomocne/preklad_kolejiste.h"
+#include "pomocne/semena.h"
 
 #include <gtest/gtest.h>
 
@@ -9,7 +10,7 @@
 namespace {
 
 // Of every so many lines one is damaged in the whole compilation; all of them in the reading alone.
-constexpr std::size_t kKrok = 37;
+constexpr std::size_t kKrok = 37 * TESK_DIL_ZKOUSEK;
 
 struct Zdroje {
     std::vector<ZdrojKolejiste> vse = zdroje_tesku();
