@@ -36,6 +36,8 @@ PATRA = (
     ("technologie",),
     # the operator's hands
     ("obsluha",),
+    # the automatic dispatcher, who works through them
+    ("vypravci",),
     # start, timers, load, and the list of all tables
     ("app",),
     # the hosts

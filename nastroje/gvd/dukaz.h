@@ -7,7 +7,7 @@
 #pragma once
 
 #include "gvd/prekladac.h"
-#include "gvd/sit.h"
+#include "vypravci/sit.h"
 
 #include <cstdint>
 #include <string>

@@ -19,6 +19,7 @@
 #include "relief/relief.h"
 #include "save/gtn.h"
 #include "save/ulozeni.h"
+#include "vypravci/vypravci.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
@@ -106,6 +107,7 @@ constexpr std::array kCasovace = {
     Casovac{"tmrJizdy", "jizdy", 1000, &krok_jizdy},
     Casovac{"tmrVolby", "volby", 1100, &krok_volby},
     Casovac{"tmrBlikani", "blikani", 500, &krok_blikani},
+    Casovac{"tmrVypravci", "vypravci", 1000, &vypravci::krok},
 };
 
 } // namespace

@@ -1,6 +1,6 @@
-// app/casovace.h - the four timers of the main screen, and their order.
+// app/casovace.h - the timers of the main screen, and their order.
 //
-// Four timers run from the creation of the main screen to the end of the process, on one thread, so
+// Five timers run from the creation of the main screen to the end of the process, on one thread, so
 // that their bodies never overlap. A host calls each body at its period; when several are due at once,
 // in the order of this table. Each body does nothing in a pause.
 #pragma once
@@ -37,5 +37,6 @@ void krok_volby();
 bool je_cas_ulozit();
 
 // The timers in the order in which they run when due at the same time: clock, movement, route machine,
-// blinking. The bodies stand with their owners.
+// blinking; and behind them all, as the operator whose place he takes, the automatic dispatcher. The bodies
+// stand with their owners.
 extern const std::span<const Casovac> casovace;

@@ -10,7 +10,7 @@
 // When each timer of `casovace` had its last event, ms of the host's clock; below 0: never yet. The clock
 // has to count the sleep of the computer too.
 struct ZnackyCasovacu {
-    std::array<std::int64_t, 4> posledni{-1, -1, -1, -1};
+    std::array<std::int64_t, 5> posledni{-1, -1, -1, -1, -1};
 };
 
 inline constexpr std::int64_t kNejdelsiZpozdeni_ms = 10'000; // a longer gap is no delay but a stall

@@ -36,6 +36,7 @@
 #include "technologie/provoz2.h"
 #include "technologie/sekvence.h"
 #include "technologie/technologie.h"
+#include "vypravci/vypravci.h"
 
 // TABULKA(name, value in a fresh process), in the order in which a reset goes.
 #define TABULKY_SIMULACE(TABULKA)                                                                            \
@@ -70,6 +71,7 @@
     TABULKA(penet, {})                                                                                       \
     TABULKA(dohled, {})                                                                                      \
     TABULKA(sekvence, {})                                                                                    \
+    TABULKA(stav_vypravciho, {})                                                                             \
     TABULKA(parametry, {})
 
 // The whole simulation as a value.

@@ -2,8 +2,8 @@
 //
 // Each timer is due at the multiples of its period, counted from virtual millisecond 0, and runs with
 // the virtual clock standing at that moment. When several are due at once they run in the order of the
-// table of app/casovace.h: clock, movement, route machine, blinking; the flashing lamp of the signal
-// panel and the date and the marks of an open maintenance screen come last.
+// table of app/casovace.h: clock, movement, route machine, blinking, automatic dispatcher; the flashing lamp
+// of the signal panel and the date and the marks of an open maintenance screen come last.
 #pragma once
 
 #include <cstdint>

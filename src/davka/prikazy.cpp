@@ -23,6 +23,7 @@
 #include "jizda/vlak.h"
 #include "obsluha/vyber.h"
 #include "prvky/souhlasy.h"
+#include "vypravci/vypravci.h"
 #include "zaklad/cisla.h"
 #include "zaklad/soubory.h"
 
@@ -118,7 +119,30 @@ void prikaz_krok(BehSkriptu&, Slova slova) {
             proved_krok(i);
             return;
         }
-    chyba_skriptu("krok je hodiny, volby, jizdy nebo blikani, ne " + v_uvozovkach(slova[0]));
+    chyba_skriptu("krok je hodiny, volby, jizdy, blikani nebo vypravci, ne " + v_uvozovkach(slova[0]));
+}
+
+// --- the automatic dispatcher
+
+// "ano", "ne", or "ano" with the three letters of the stations that he gets.
+void prikaz_vypravci(BehSkriptu&, Slova slova) {
+    const auto priznak = priznak_textu(slova[0]);
+    if (!priznak || (!*priznak && slova.size() > 1))
+        chyba_skriptu("píše se vypravci ano, vypravci ne nebo vypravci ano TVH LHO");
+    std::vector<std::uint8_t> stanice;
+    for (const std::string& slovo : slova.subspan(1)) {
+        const int kod = vypravci::stanice_kodu(text_slova(slovo));
+        if (kod == 0)
+            chyba_skriptu("stanice " + v_uvozovkach(slovo) + " není" +
+                          napoveda(slovo, vypravci::kody_stanic()));
+        stanice.push_back(static_cast<std::uint8_t>(kod));
+    }
+    if (!*priznak)
+        vypravci::vezmi();
+    else if (stanice.empty())
+        vypravci::predej();
+    else
+        vypravci::predej(stanice);
 }
 
 // --- looking
@@ -339,7 +363,10 @@ constexpr std::array kPrikazy = {
     PopisPrikazu{"odpovez", 1, 1, Kdy::kdykoli, false, "odpovez ano|ne|zrus|TEXT", prikaz_odpovez},
     PopisPrikazu{"cekej", 1, 1, Kdy::kdykoli, false, "cekej 30s | 1500ms | 10min", prikaz_cekej},
     PopisPrikazu{"cekej_do", 1, 1, Kdy::po_startu, false, "cekej_do H:MM:SS", prikaz_cekej_do},
-    PopisPrikazu{"krok", 1, 1, Kdy::po_startu, false, "krok hodiny|volby|jizdy|blikani", prikaz_krok},
+    PopisPrikazu{"krok", 1, 1, Kdy::po_startu, false, "krok hodiny|volby|jizdy|blikani|vypravci",
+                 prikaz_krok},
+    PopisPrikazu{"vypravci", 1, kMnoho, Kdy::po_startu, false, "vypravci ano [STANICE ...] | vypravci ne",
+                 prikaz_vypravci},
     PopisPrikazu{"vypis", 1, 2, Kdy::kdykoli, true, "vypis DRUH CISLO | vypis TABULKA [RADEK]", prikaz_vypis},
     PopisPrikazu{"over", 2, kMnoho, Kdy::kdykoli, true, "over CO [CISLO] POLE=HODNOTA ...", prikaz_over},
     PopisPrikazu{"nastav", 2, kMnoho, Kdy::kdykoli, false, "nastav CO [CISLO] POLE=HODNOTA ...",

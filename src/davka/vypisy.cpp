@@ -21,6 +21,7 @@
 #include "technologie/provoz2.h"
 #include "technologie/sekvence.h"
 #include "technologie/technologie.h"
+#include "vypravci/vypravci.h"
 #include "zaklad/platforma.h"
 
 #include <algorithm>
@@ -276,6 +277,27 @@ void vypis_dalsi_vlaky(ZaznamJsonu& z) {
     pridej(z, "radky", zaznamy(stav_provozu.dalsi_vlaky));
 }
 
+// The automatic dispatcher: what he has, his decisions from the oldest, and what waits now.
+void vypis_vypravci(ZaznamJsonu& z) {
+    const StavVypravciho& v = stav_vypravciho;
+    pridej(z, "zapnut", v.zapnut);
+    SeznamJsonu stanice;
+    if (v.zapnut && !v.vse)
+        for (const TextPohled kod : vypravci::kody_stanic())
+            if (vypravci::ma_stanici(vypravci::stanice_kodu(kod)))
+                stanice.push_back(json_text(kod));
+    pridej(z, "stanice", Json(std::move(stanice)));
+    pridej(z, "povelu", v.povelu);
+    std::vector<Veta> vety = v.vety;
+    vety.insert(vety.end(), v.cekani.begin(), v.cekani.end());
+    pridej_radky(z, vety, [](ZaznamJsonu& radek, const Veta& veta) {
+        pridej(radek, "cislo", veta.vlak);
+        pridej(radek, "cas", json_text(text_casu(veta.cas_s)));
+        pridej(radek, "veta", json_text(veta.text));
+        pridej(radek, "ceka", veta.ceka);
+    });
+}
+
 struct Vypis {
     std::string_view slovo;
     std::string_view zaznam; // the word for one of its rows: `nastav vlak 3`, `over cesta 0`
@@ -306,6 +328,7 @@ constexpr std::array kVypisy = {
     Vypis{"pipnuti", "", vypis_pipnuti},
     Vypis{"okna", "", vypis_okna},
     Vypis{"nastaveni", "", vypis_nastaveni},
+    Vypis{"vypravci", "", vypis_vypravci},
 };
 
 const Vypis* najdi_vypis(std::string_view slovo) {

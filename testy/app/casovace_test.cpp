@@ -312,14 +312,16 @@ TEST_F(Hodiny, RestOfThePointerIsCountedAnewAtMidnightOfTheWallClock) {
     EXPECT_EQ(simulace.detail_navestidlo, 262);
 }
 
-TEST_F(Hodiny, TimersRunClockFirstThenRoutesAndBlinkingLast) {
-    ASSERT_GE(casovace.size(), 3u);
+TEST_F(Hodiny, TimersRunClockFirstThenRoutesThenBlinkingAndTheDispatcherLast) {
+    ASSERT_EQ(casovace.size(), 5u);
     EXPECT_EQ(casovace.front().jmeno, "tmrHodiny");
     EXPECT_EQ(casovace.front().perioda_ms, 150);
-    EXPECT_EQ(casovace[casovace.size() - 2].jmeno, "tmrVolby");
-    EXPECT_EQ(casovace[casovace.size() - 2].perioda_ms, 1100);
-    EXPECT_EQ(casovace.back().jmeno, "tmrBlikani");
-    EXPECT_EQ(casovace.back().perioda_ms, 500);
+    EXPECT_EQ(casovace[2].jmeno, "tmrVolby");
+    EXPECT_EQ(casovace[2].perioda_ms, 1100);
+    EXPECT_EQ(casovace[3].jmeno, "tmrBlikani");
+    EXPECT_EQ(casovace[3].perioda_ms, 500);
+    EXPECT_EQ(casovace.back().jmeno, "tmrVypravci");
+    EXPECT_EQ(casovace.back().perioda_ms, 1000);
 }
 
 TEST_F(Hodiny, TimersDoNothingInAPause) {

@@ -8,7 +8,7 @@
 
 namespace {
 
-// The four timers of a host with a real clock: after a stall each has its event once, and then at its period.
+// The timers of a host with a real clock: after a stall each has its event once, and then at its period.
 class Prestavky : public SVlaky {
 protected:
     static constexpr int kRozjety = 160; // km/h

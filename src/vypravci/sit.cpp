@@ -1,5 +1,5 @@
-// nastroje/gvd/sit.cpp - searches ways through the routes, and runs trains over them second by second.
-#include "gvd/sit.h"
+// vypravci/sit.cpp - searches ways through the routes, and runs trains over them second by second.
+#include "vypravci/sit.h"
 
 #include "gvd/druhy_vlaku.h"
 #include "jizda/zastavky.h"
@@ -49,6 +49,8 @@ bool je_rodina(int prvek) {
 bool smer_navestidla(int s) {
     if (s == 115 || s == 116 || s == 998)
         return true;
+    if (je_na_ser(s))
+        return s >= kPrvniTrat;
     return s >= kPrvniTrat ? s % 2 == 1 : s >= 200;
 }
 

@@ -1,4 +1,4 @@
-// nastroje/gvd/sit.h - the junction as a planned train finds it: which routes follow each other, and how long
+// vypravci/sit.h - the junction as a planned train finds it: which routes follow each other, and how long
 // a train takes over them.
 //
 // Read from the compiled data, not from their source: what the plan is held against is what the trains will

@@ -1,0 +1,126 @@
+// vypravci/pohled.cpp - what is seen on the desk.
+#include "vypravci/pohled.h"
+
+#include "app/cas.h"
+#include "app/simulace.h"
+#include "cesty/navest.h"
+#include "desk/stitky.h"
+#include "gvd/gvd.h"
+#include "jizda/zastavky.h"
+#include "prvky/jmena.h"
+#include "prvky/navestidla.h"
+#include "relief/relief.h"
+#include "uzel/dopravny.h"
+#include "zaklad/soubory.h"
+
+#include <algorithm>
+#include <limits>
+
+namespace {
+
+planovani::Sit vlakova, posunova;
+
+} // namespace
+
+const planovani::Sit& sit_vlaku() {
+    return vlakova;
+}
+
+const planovani::Sit& sit_posunu() {
+    return posunova;
+}
+
+void nacti_site() {
+    const Bajty top = nacti_soubor(simulace.cesta_aplikace + "data\\tesk.top");
+    vlakova = planovani::sestav_sit(top, nacti_soubor(simulace.cesta_aplikace + "data\\tesk.zat"));
+    posunova = planovani::sestav_sit(top, nacti_soubor(simulace.cesta_aplikace + "data\\tesk.zpc"));
+}
+
+int kolej_cela(const Vlak& v) {
+    for (auto p = v.prvky.rbegin(); p != v.prvky.rend(); ++p)
+        if (p->druh == druh_prvku::kolej)
+            return p->prvek;
+    return kZadny;
+}
+
+bool cely_na_koleji(const Vlak& v) {
+    return !v.prvky.empty() && v.prvky.back().druh == druh_prvku::kolej &&
+           static_cast<std::size_t>(v.prvek_konec) + 1 == v.prvky.size();
+}
+
+int do_odjezdu_s(const Vlak& v) {
+    constexpr int kNikdy = std::numeric_limits<int>::max() / 2;
+    if (v.muze_jet || v.posun || v.zastavky.empty())
+        return 0;
+    const auto i = static_cast<std::size_t>(std::max<int>(v.stanice_index, 0));
+    if (i >= v.zastavky.size())
+        return 0;
+    const Zastavka& z = v.zastavky[i];
+    const int odjezd = v.stanice_index < 0 && z.odjezd_realny < 0 ? z.odjezd : z.odjezd_realny;
+    if (odjezd == kNaPovel)
+        return kNikdy;
+    if (odjezd < 0)
+        return 0;
+    return std::max(0, (odjezd - cas_min()) * 60 - cas_hodin() % 60);
+}
+
+int planovana_kolej(const Vlak& v) {
+    const TextPohled pokyn = orez(v.pokyn);
+    if (pokyn.empty())
+        return kZadny;
+    for (int e = 0; e < kPrvniTrat; ++e)
+        if (uzel::je_kolej_hlavniho(e) && je_cislo_koleje(e) && orez(relief.cislo_koleje[e].popis()) == pokyn)
+            return e;
+    return kZadny;
+}
+
+Text jmeno_vlaku(const Vlak& v) {
+    const TextPohled druh = zkratka_druhu(v.cislo2_platne ? v.druh2 : v.druh);
+    Text t(druh);
+    if (!t.empty())
+        t += " ";
+    t += text_cisla(zobrazene_cislo(v));
+    return t;
+}
+
+Text jmeno_koleje(int e) {
+    const int stanice = planovani::stanice_elementu(e);
+    Text t("kolej "_cz);
+    const TextPohled popis = je_cislo_koleje(e) ? orez(relief.cislo_koleje[e].popis()) : TextPohled{};
+    t += popis.empty() ? text_cisla(e) : Text(popis);
+    if (stanice != 0 && !nazev_stanice(stanice).empty()) {
+        t += " (";
+        t += nazev_stanice(stanice);
+        t += ")";
+    }
+    return t;
+}
+
+bool ma_vyluku(int e) {
+    const int i = stitek_prvku(e);
+    return i >= 0 && !stitky[static_cast<std::size_t>(i)].vyluka.empty();
+}
+
+bool je_vyloucena(const ZaznamCesty& z) {
+    if (je_zablokovano(z.zacatek) || ma_vyluku(z.konec))
+        return true;
+    return std::any_of(z.prvky.begin() + 1, z.prvky.end(),
+                       [](const PrvekCesty& p) { return p.druh == druh_prvku::kolej && ma_vyluku(p.prvek); });
+}
+
+Prekazka prekazka_cesty(const ZaznamCesty& z, bool vlakova_cesta) {
+    static Cesta c;
+    c.zacatek = z.zacatek;
+    c.konec = z.konec;
+    c.prvky.assign(z.prvky.begin(), z.prvky.end());
+    c.VC = vlakova_cesta;
+    c.prejezd = kBezPrejezdu;
+    return prekazka_staveni(c);
+}
+
+int cesta_v_zasobniku(int zacatek, int konec) {
+    for (std::size_t i = 0; i < cesty.size(); ++i)
+        if (cesty[i].zacatek == zacatek && cesty[i].konec == konec && cesty[i].Umazat == 0)
+            return static_cast<int>(i);
+    return kZadny;
+}

@@ -1,0 +1,43 @@
+// vypravci/pohled.h - what the automatic dispatcher sees: questions that an operator answers by a look at the
+// desk. Nothing here changes anything.
+#pragma once
+
+#include "cesty/cesta.h"
+#include "cesty/prekazky.h"
+#include "cesty/tabulky.h"
+#include "jizda/vlak.h"
+#include "vypravci/sit.h"
+
+#include <cstdint>
+
+// The network of train routes, and that of shunt routes. Read when the desk is handed over.
+const planovani::Sit& sit_vlaku();
+const planovani::Sit& sit_posunu();
+void nacti_site();
+
+// --- trains
+
+// The track under the head, or the last one before a switch; kZadny of a record without a place.
+int kolej_cela(const Vlak& v);
+// All of the train stands on that one track.
+bool cely_na_koleji(const Vlak& v);
+// Seconds until the working departure from the present stop; 0 when it is over or when there is none, a large
+// number when it goes only by order.
+int do_odjezdu_s(const Vlak& v);
+// Element of the main station's track that the record plans for the train; kZadny none.
+int planovana_kolej(const Vlak& v);
+// "Os 14707".
+Text jmeno_vlaku(const Vlak& v);
+// "kolej 5 (Tesk hl. n.)": a track as an operator names it.
+Text jmeno_koleje(int e);
+
+// --- the way
+
+// A possession note lies on the element.
+bool ma_vyluku(int e);
+// The route of the table leads over a possession, or from a blocked signal: it does not exist for him.
+bool je_vyloucena(const ZaznamCesty& z);
+// What would keep the route from being set now.
+Prekazka prekazka_cesty(const ZaznamCesty& z, bool vlakova);
+// The route that is queued, set, or run by a train, from start to end; kZadny none.
+int cesta_v_zasobniku(int zacatek, int konec);

@@ -1,0 +1,122 @@
+// vypravci/vypravci.cpp - handing over, the step, the sentences.
+#include "vypravci/vypravci.h"
+
+#include "app/cas.h"
+#include "app/simulace.h"
+#include "prvky/jmena.h"
+#include "uzel/dopravny.h"
+#include "vypravci/jizdy.h"
+#include "vypravci/rezervace.h"
+#include "vypravci/ruce.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace vypravci {
+
+namespace {
+
+void zacni() {
+    stav_vypravciho.zapnut = true;
+    stav_vypravciho.cekani.clear();
+    zapomen_rezervace();
+    zacni_jizdy();
+}
+
+auto misto_cekani(std::int32_t vlak) {
+    return std::lower_bound(stav_vypravciho.cekani.begin(), stav_vypravciho.cekani.end(), vlak,
+                            [](const Veta& v, std::int32_t cislo) { return v.vlak < cislo; });
+}
+
+} // namespace
+
+bool zapnut() {
+    return stav_vypravciho.zapnut;
+}
+
+bool ma_stanici(int kod) {
+    return stav_vypravciho.zapnut &&
+           (stav_vypravciho.vse || (kod >= 0 && static_cast<std::size_t>(kod) < kKoduStanic &&
+                                    stav_vypravciho.stanice[static_cast<std::size_t>(kod)]));
+}
+
+bool ma_navestidlo(int s) {
+    if (!stav_vypravciho.zapnut)
+        return false;
+    return stav_vypravciho.vse || ma_stanici(stanice_kodu(TextPohled(jmeno_navestidla(s)).substr(0, 3)));
+}
+
+int stanice_kodu(TextPohled kod) {
+    if (kod.size() != 3)
+        return 0;
+    for (const uzel::KolejeStanice& k : uzel::kKolejeStanic)
+        if (k.kod == kod)
+            return k.stanice;
+    for (std::size_t i = 0; i < uzel::kStanice.size(); ++i)
+        if (uzel::kStanice[i].kod == kod)
+            return static_cast<int>(i);
+    return 0;
+}
+
+std::vector<TextPohled> kody_stanic() {
+    std::vector<TextPohled> kody;
+    const auto pridej = [&](TextPohled kod) {
+        if (!kod.empty() && std::find(kody.begin(), kody.end(), kod) == kody.end())
+            kody.push_back(kod);
+    };
+    for (const uzel::KolejeStanice& k : uzel::kKolejeStanic)
+        pridej(k.kod);
+    for (const uzel::Stanice& s : uzel::kStanice)
+        pridej(s.kod);
+    return kody;
+}
+
+void predej() {
+    stav_vypravciho.vse = true;
+    stav_vypravciho.stanice.reset();
+    zacni();
+}
+
+void predej(std::span<const std::uint8_t> stanice) {
+    stav_vypravciho.vse = false;
+    stav_vypravciho.stanice.reset();
+    for (const std::uint8_t kod : stanice)
+        if (kod < kKoduStanic)
+            stav_vypravciho.stanice.set(kod);
+    zacni();
+}
+
+void vezmi() {
+    stav_vypravciho.zapnut = false;
+    stav_vypravciho.cekani.clear();
+}
+
+void rekni(std::int32_t vlak, Text text) {
+    auto& vety = stav_vypravciho.vety;
+    if (vety.size() >= 2 * kVetVypravciho) // seldom, and then many at once
+        vety.erase(vety.begin(), vety.end() - static_cast<std::ptrdiff_t>(kVetVypravciho));
+    vety.push_back({cas_hodin(), vlak, std::move(text), false});
+}
+
+void rekni_cekani(std::int32_t vlak, Text text) {
+    const auto misto = misto_cekani(vlak);
+    if (misto == stav_vypravciho.cekani.end() || misto->vlak != vlak)
+        stav_vypravciho.cekani.insert(misto, {cas_hodin(), vlak, std::move(text), true});
+    else if (misto->text != text)
+        *misto = {misto->cas_s, vlak, std::move(text), true};
+}
+
+void neceka(std::int32_t vlak) {
+    const auto misto = misto_cekani(vlak);
+    if (misto != stav_vypravciho.cekani.end() && misto->vlak == vlak)
+        stav_vypravciho.cekani.erase(misto);
+}
+
+void krok() {
+    if (!stav_vypravciho.zapnut || simulace.pauza || !lze_jednat())
+        return;
+    odpovez_na_zpravy();
+    krok_jizd();
+}
+
+} // namespace vypravci
