@@ -16,7 +16,7 @@ PATRA = (
     # the elements of the screen, and the run state that says where their files lie
     ("relief", "app/simulace"),
     # records with what can be asked of one alone, and leaves: the clock's arithmetic, the log, the files of the routes
-    ("app/cas", "save/gtn", "cesty/prvek_cesty", "cesty/cesta", "cesty/tabulky", "jizda/vlak", "jizda/metry", "jizda/souprava", "gvd/druhy_vlaku", "gvd/stav_provozu", "desk/menu", "desk/stav_blikani", "obsluha/vyber", "obsluha/tlacitko"),
+    ("app/cas", "app/pocty_provozu", "save/gtn", "cesty/prvek_cesty", "cesty/cesta", "cesty/tabulky", "jizda/vlak", "jizda/metry", "jizda/souprava", "gvd/druhy_vlaku", "gvd/stav_provozu", "desk/menu", "desk/stav_blikani", "obsluha/vyber", "obsluha/tlacitko"),
     # switches, signals, tracks, crossings, consents: their state, painting, glyphs, and what is free
     ("prvky",),
     # the timetable's rows, and their times today

@@ -5,6 +5,7 @@
 #include "app/cas.h"
 #include "app/nouzove.h"
 #include "app/simulace.h"
+#include "app/sledovani_provozu.h"
 #include "cesty/cesta.h"
 #include "cesty/tik_volby.h"
 #include "desk/stav_blikani.h"
@@ -139,6 +140,7 @@ void krok_hodin() {
                                                     static_cast<std::uint32_t>(prenos));
     if (minuta_dne(cas_hodin()) != minuta)
         krok_minuty();
+    sleduj_provoz();
 }
 
 void krok_minuty() {

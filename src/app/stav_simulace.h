@@ -7,7 +7,9 @@
 
 #include "app/cas.h"
 #include "app/parametry.h"
+#include "app/pocty_provozu.h"
 #include "app/simulace.h"
+#include "app/sledovani_provozu.h"
 #include "cesty/cesta.h"
 #include "cesty/zasobnik.h"
 #include "desk/hlaseni.h"
@@ -42,6 +44,7 @@
 #define TABULKY_SIMULACE(TABULKA)                                                                            \
     TABULKA(simulace, {})                                                                                    \
     TABULKA(stav_hodin, {})                                                                                  \
+    TABULKA(pocty_provozu, {})                                                                               \
     TABULKA(relief, novy_relief())                                                                           \
     TABULKA(prejezdy, {})                                                                                    \
     TABULKA(stav_provozu, {})                                                                                \
@@ -72,6 +75,7 @@
     TABULKA(dohled, {})                                                                                      \
     TABULKA(sekvence, {})                                                                                    \
     TABULKA(stav_vypravciho, {})                                                                             \
+    TABULKA(sledovani, {})                                                                                   \
     TABULKA(parametry, {})
 
 // The whole simulation as a value.

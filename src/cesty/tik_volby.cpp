@@ -5,6 +5,7 @@
 #include "cesty/tik_volby.h"
 
 #include "app/cas.h"
+#include "app/pocty_provozu.h"
 #include "app/simulace.h"
 #include "cesty/cisla_vlaku.h"
 #include "cesty/dotazy.h"
@@ -359,6 +360,7 @@ void uzavri_cestu(int i, Pruchod& pruchod) {
         rozsvit_navestidlo(c, pruchod.ted);
     c.Postavena = dovolena;
     c.Provedena = true;
+    ++pocty_provozu.cest;
     uvolni_cekani(c);
     gtn_zapis(c.zacatek, c.VC ? gtn::postavena_vlak : gtn::postavena_posun, c.konec);
     obnov_panel_kdyz_ukazuje(c.zacatek);

@@ -5,6 +5,7 @@
 #include "app/casovace.h"
 #include "app/parametry.h"
 #include "app/simulace.h"
+#include "app/zprava_o_provozu.h"
 #include "cesty/dotazy.h"
 #include "cesty/duvod.h"
 #include "cesty/zasobnik.h"
@@ -298,6 +299,64 @@ void vypis_vypravci(ZaznamJsonu& z) {
     });
 }
 
+// --- the report of the run
+
+Json minuty(const Rozdeleni& r) {
+    ZaznamJsonu z;
+    pridej(z, "median", r.median);
+    pridej(z, "p95", r.p95);
+    pridej(z, "nejvic", r.nejvic);
+    return Json(std::move(z));
+}
+
+void vypis_zpravu_o_provozu(ZaznamJsonu& z) {
+    const ZpravaOProvozu zprava = zprava_o_provozu();
+    pridej(z, "od", zprava.od_s);
+    pridej(z, "do", zprava.do_s);
+    pridej(z, "vlaku_melo_jet", zprava.melo_jet);
+    pridej(z, "dojelo", zprava.dojelo);
+    pridej(z, "spravnym_vyjezdem", zprava.spravnym_vyjezdem);
+    pridej(z, "spravnou_koleji", zprava.spravnou_koleji);
+    pridej(z, "na_ceste", zprava.na_ceste);
+    pridej(z, "nevyjelo", zprava.nevyjelo);
+    pridej(z, "ztraceno", zprava.ztraceno);
+    pridej(z, "uvazlo", zprava.uvazlo);
+    pridej(z, "cest", zprava.cest);
+    pridej(z, "povelu", zprava.povelu);
+    pridej(z, "zpozdeni_vstup", minuty(zprava.vstup));
+    pridej(z, "zpozdeni_pridane", minuty(zprava.pridane));
+    pridej_radky(z, zprava.radky, [](ZaznamJsonu& radek, const RadekZpravy& r) {
+        pridej(radek, "cislo", r.cislo);
+        pridej(radek, "druh", json_text(zkratka_druhu(r.druh)));
+        pridej(radek, "stav", json_text(r.stav));
+        pridej(radek, "kde", json_text(r.kde));
+        pridej(radek, "od", r.od_s);
+        pridej(radek, "duvod", json_text(r.duvod));
+    });
+    SeznamJsonu kategorie, cekani;
+    for (const KategorieZpravy& k : zprava.kategorie) {
+        ZaznamJsonu radek;
+        pridej(radek, "druh", json_text(zkratka_druhu(k.druh)));
+        pridej(radek, "vlaku_melo_jet", k.melo_jet);
+        pridej(radek, "dojelo", k.dojelo);
+        pridej(radek, "zpozdeni_vstup", minuty(k.vstup));
+        pridej(radek, "zpozdeni_konec", minuty(k.konec));
+        pridej(radek, "zpozdeni_pridane", minuty(k.pridane));
+        kategorie.emplace_back(std::move(radek));
+    }
+    for (const CekaniZpravy& c : zprava.cekani) {
+        ZaznamJsonu radek;
+        pridej(radek, "cislo", c.cislo);
+        pridej(radek, "kde", json_text(c.kde));
+        pridej(radek, "od", c.od_s);
+        pridej(radek, "trva", c.trva_s);
+        pridej(radek, "duvod", json_text(c.duvod));
+        cekani.emplace_back(std::move(radek));
+    }
+    pridej(z, "kategorie", Json(std::move(kategorie)));
+    pridej(z, "cekani", Json(std::move(cekani)));
+}
+
 struct Vypis {
     std::string_view slovo;
     std::string_view zaznam; // the word for one of its rows: `nastav vlak 3`, `over cesta 0`
@@ -329,6 +388,7 @@ constexpr std::array kVypisy = {
     Vypis{"okna", "", vypis_okna},
     Vypis{"nastaveni", "", vypis_nastaveni},
     Vypis{"vypravci", "", vypis_vypravci},
+    Vypis{"zprava_o_provozu", "", vypis_zpravu_o_provozu},
 };
 
 const Vypis* najdi_vypis(std::string_view slovo) {

@@ -2,6 +2,7 @@
 #include "obsluha/klavesy.h"
 
 #include "app/konec.h"
+#include "app/pocty_provozu.h"
 #include "app/simulace.h"
 #include "desk/hlaseni.h"
 #include "desk/info_o_vlaku.h"
@@ -250,6 +251,7 @@ bool klavesa_technologie(const Klavesa& k) {
 } // namespace
 
 bool klavesa(const Klavesa& k) {
+    ++pocty_provozu.povelu;
     // Ctrl+Alt+F10 is taken by most X servers for themselves; Ctrl+Shift+F10 comes everywhere.
     const bool konec = k.kod == KodKlavesy::f10 && k.ctrl && (k.alt || k.shift);
     if (prihlaseni_bezi() && !konec && !bere_klavesu(k.kod))
@@ -283,6 +285,8 @@ bool klavesa(const Klavesa& k) {
 }
 
 void pis_do_pole(TextPohled text) {
-    if (vstup_otevren())
-        relief.txtZadav_pole[0].text = text;
+    if (!vstup_otevren())
+        return;
+    ++pocty_provozu.povelu;
+    relief.txtZadav_pole[0].text = text;
 }

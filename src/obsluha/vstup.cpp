@@ -2,6 +2,7 @@
 #include "obsluha/vstup.h"
 
 #include "app/konec.h"
+#include "app/pocty_provozu.h"
 #include "app/simulace.h"
 #include "cesty/zasobnik.h"
 #include "desk/info_o_vlaku.h"
@@ -114,6 +115,8 @@ void klik_na_desku(Druh druh) {
 void klik(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
     if (!tabulka(druh).je(n) || technologie_kryje_stul() || !bere_klik(druh, tlacitko))
         return;
+    if (druh != Druh::lblPrikaz && druh != Druh::lblVolba) // on the command line it is the key Enter
+        ++pocty_provozu.povelu;
     zavri_pohled_sekvence();
     zavri_menu();
     if (klik_na_prvek(druh, n, tlacitko, ctrl))
@@ -127,6 +130,7 @@ void klik(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
 void dvojklik(Druh druh, int n) {
     if (!tabulka(druh).je(n) || technologie_kryje_stul() || prihlaseni_bezi())
         return;
+    ++pocty_provozu.povelu;
     zavri_menu();
     if (druh == Druh::cislo_koleje)
         dvojklik_cisla(n);
@@ -158,6 +162,7 @@ void pohyb_mysi() {
 void klik_na_plochu() {
     if (technologie_kryje_stul())
         return;
+    ++pocty_provozu.povelu;
     zavri_pohled_sekvence();
     zavri_menu();
     klik_plocha();
@@ -169,6 +174,7 @@ void klik_na_zalozku(Technologie ktera) {
 }
 
 void klik_na_radek(Seznam& seznam, int radek) {
+    ++pocty_provozu.povelu;
     const bool je = radek >= 0 && static_cast<std::size_t>(radek) < seznam.radky.size();
     seznam.vybrany = je ? radek : -1;
     if (technologie_kryje_stul())
@@ -184,6 +190,7 @@ bool zvol_v_menu(TextPohled jmeno) {
     });
     if (polozka == menu.polozky.end() || !polozka->povolena)
         return false;
+    ++pocty_provozu.povelu;
     const PolozkaMenu zvolena = *polozka;
     zavri_menu();
     auto rizikova = rizikova_funkce(zvolena.jmeno, zvolena.cil); // its conditions as they stand before it

@@ -1,5 +1,6 @@
 // testy/obsluha/vstup_test.cpp - clicks and menus.
 #include "app/cas.h"
+#include "app/pocty_provozu.h"
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "desk/menu.h"
@@ -35,6 +36,21 @@ TEST_F(Kliky, ClickOnTheLineAnswersItLikeEnter) {
         klik(druh, 0, Tlacitko::leve, false);
         EXPECT_FALSE(prikaz_radek.obsazen);
     }
+}
+
+TEST_F(Kliky, EveryHandIsCountedOnce) {
+    const auto povelu = [](auto ruka) {
+        const std::int32_t pred = pocty_provozu.povelu;
+        ruka();
+        return pocty_provozu.povelu - pred;
+    };
+    EXPECT_EQ(povelu([] { klik(Druh::lblrychlost_simulace, 0, Tlacitko::leve, false); }), 1);
+    EXPECT_EQ(povelu([] { klik(Druh::lblVolba, 0, Tlacitko::leve, false); }), 1) << "it is the key Enter";
+    EXPECT_EQ(povelu([] { klavesa({.kod = KodKlavesy::esc}); }), 1);
+    EXPECT_EQ(povelu([] { klik_na_plochu(); }), 1);
+    EXPECT_EQ(povelu([] { zvol_v_menu("miVC"); }), 0) << "no menu is open";
+    EXPECT_EQ(povelu([] { pis_do_pole("14"); }), 0) << "no field is open";
+    EXPECT_EQ(povelu([] { najeti(Druh::lblVolba, 0); }), 0) << "looking is no command";
 }
 
 TEST_F(Kliky, NothingIsCommandedDuringTheLogin) {
