@@ -1,17 +1,787 @@
 // vypravci/jizdy.cpp - train movements.
 #include "vypravci/jizdy.h"
 
+#include "app/cas.h"
+#include "app/simulace.h"
+#include "cesty/cesta.h"
+#include "cesty/dotazy.h"
+#include "cesty/drzeni.h"
+#include "cesty/nova_cesta.h"
+#include "desk/hlaseni.h"
+#include "gvd/casy.h"
+#include "gvd/druhy_vlaku.h"
+#include "gvd/gvd.h"
+#include "jizda/metry.h"
+#include "jizda/souprava.h"
+#include "jizda/vlak.h"
+#include "jizda/zastavky.h"
+#include "prvky/jmena.h"
 #include "prvky/souhlasy.h"
+#include "prvky/volnost.h"
+#include "relief/relief.h"
+#include "relief/topologie.h"
+#include "uzel/dopravny.h"
+#include "uzel/prejezdy.h"
+#include "uzel/rychlosti.h"
+#include "uzel/trate.h"
+#include "uzel/vstupy.h"
+#include "vypravci/banker.h"
 #include "vypravci/pohled.h"
+#include "vypravci/rezervace.h"
 #include "vypravci/ruce.h"
+#include "vypravci/vypravci.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <map>
+#include <optional>
+#include <utility>
+
+using planovani::kBezTrasy;
+using planovani::KrokTrasy;
+
+namespace {
+
+constexpr int kNikdy_s = 1'000'000;
+constexpr int kStavba_s = 10;   // a route takes so long, and with the speed of the clock more
+constexpr int kPredstih_s = 12; // and stands so long before it is needed
+constexpr int kPrejezd_s = 50;  // a crossing that has to close before the signal clears
+constexpr int kPohledNaCekani_s = 4;
+constexpr int kHledani_s = 60;        // between two searches for another way
+constexpr int kCekatNaKolej_s = 150;  // so long a train waits for its own platform
+constexpr int kVstup_min = 4;         // so long ahead entry tracks are kept free
+constexpr int kObjetiCestou_min = 12; // a stop in which a locomotive may run round its train
+constexpr std::size_t kNejvicKroku = 40;
+
+std::vector<Jizda> jizdy;
+std::map<std::pair<int, int>, std::size_t> trasa_podle_koncu; // start signal and end
+std::vector<std::uint8_t> bez_tras;                           // routes that do not exist now
+std::int32_t posledni_krok_s = 0;
+std::int32_t dalsi_vyluky_s = 0;
+
+const planovani::Sit& sit() {
+    return sit_vlaku();
+}
+const planovani::Trasa& trasa_c(std::size_t i) {
+    return sit().trasy[i];
+}
+
+// --- what a train is
+
+// It can set off the other way as it stands: a cab or a locomotive at both ends.
+bool je_vratny(const Vlak& v) {
+    if (v.vozy.empty())
+        return false;
+    const Text& celo = v.vozy.front().rada;
+    return v.druh == druh_vlaku::lv || je_ridici_vuz(celo) || je_loko(celo)
+               ? posledni_je_loko(v) || v.vozy.size() == 1
+               : false;
+}
+
+bool jede_vlakem(const Vlak& v) {
+    return v.cislo > 0 && !v.posun && !v.prvky.empty() && v.prvek_konec >= 0 && !v.zastavky.empty() &&
+           ma_loko(v);
+}
+
+void udelej_body(Jizda& j, const std::vector<Zastavka>& zastavky) {
+    j.body.clear();
+    for (std::size_t k = 0; k < zastavky.size(); ++k) {
+        const Zastavka& z = zastavky[k];
+        planovani::Bod b{.stanice = z.stanice, .stavi = k == 0 || z.prijezd >= 0 || k + 1 == zastavky.size()};
+        b.odjezd_s = z.odjezd * 60.0;
+        b.muze_otocit = k > 0 && z.prijezd >= 0 && z.odjezd - z.prijezd >= kObjetiCestou_min;
+        j.body.push_back(std::move(b));
+    }
+}
+
+// --- how long it takes
+
+struct Postup {
+    const Vlak& vlak;
+    const Jizda& jizda;
+    Hranice h;
+    double s = 0;        // seconds from now
+    double rychlost = 0; // line speed, km/h
+
+    double sekund_na(double m) const {
+        const double km_h = std::max(20.0, std::min<double>(vlak.max_rychlost, rychlost));
+        return m / (km_h / 3.6);
+    }
+    void rychlost_na(int prvek) {
+        if (const int r = uzel::rychlost_prvku(prvek, h.smer); r != 0)
+            rychlost = r;
+    }
+    // Planned departure of the stop, seconds from now; it waits until then.
+    void pockej(std::size_t k) {
+        if (k + 1 >= vlak.zastavky.size() || k >= vlak.zastavky.size())
+            return;
+        const Zastavka& z = vlak.zastavky[k];
+        if (z.prijezd < 0)
+            return;
+        s += 55; // a minute at least, counted from the full one
+        if (z.odjezd > 0)
+            s = std::max(s, (z.odjezd - cas_min()) * 60.0 - cas_hodin() % 60);
+    }
+    void obsluz(int prvek, bool konec) {
+        while (h.bodu < jizda.body.size() && planovani::slouzi(jizda.body[h.bodu], prvek, konec)) {
+            const std::size_t k = h.bodu;
+            h.bodu = planovani::preskoc_jmena(jizda.body, k + 1);
+            if (jizda.body[k].stavi)
+                pockej(k);
+            if (konec && jizda.body[k].stavi && h.bodu < jizda.body.size())
+                h.smer = planovani::smer_po_obratu(jizda.body[k].stanice, jizda.body[k + 1].stanice, h.smer);
+        }
+    }
+    // Over the entries from `od` on of the elements of a route.
+    void projed(const std::vector<PrvekCesty>& prvky, std::size_t od) {
+        for (std::size_t i = od; i < prvky.size(); ++i) {
+            if (prvky[i].druh != druh_prvku::kolej) {
+                s += sekund_na(20);
+                continue;
+            }
+            h.prvek = prvky[i].prvek;
+            rychlost_na(h.prvek);
+            h.smer = planovani::smer_za_prvkem(prvky, i, h.smer);
+            s += sekund_na(delka_koleje(h.prvek));
+            obsluz(h.prvek, i + 1 == prvky.size());
+        }
+    }
+};
+
+const planovani::Trasa* trasa_cesty(const Cesta& c) {
+    const auto misto = trasa_podle_koncu.find({c.zacatek, c.konec});
+    return misto == trasa_podle_koncu.end() ? nullptr : &trasa_c(misto->second);
+}
+
+// The route that the train is on: its head stands on one of its entries but not at its end.
+const Cesta* cesta_pod_vlakem(int v) {
+    const Vlak& vlak = vlak_c(v);
+    for (const Cesta& c : cesty)
+        if (c.zacatek >= 0 && c.Vlak == v && c.VC && c.Umazat < c.prvky.size() &&
+            c.prvky[c.Umazat].prvek == vlak.prvky.back().prvek &&
+            c.prvky[c.Umazat].druh == vlak.prvky.back().druh)
+            return &c;
+    return nullptr;
+}
+
+// A train route that is queued or stands, from the track on in that sense, and nobody has entered it.
+const Cesta* dalsi_cesta(int prvek, bool smer, int v) {
+    for (const Cesta& c : cesty) {
+        if (c.zacatek < 0 || !c.VC || c.Umazat != 0 || c.cas_ruseni >= 0 || c.prvky.size() < 2 ||
+            c.prvky.front().prvek != prvek || (c.Vlak >= 0 && c.Vlak != v))
+            continue;
+        const planovani::Trasa* t = trasa_cesty(c);
+        if (t == nullptr || t->smer == smer)
+            return &c;
+    }
+    return nullptr;
+}
+
+const std::vector<PrvekCesty>& prvky_cesty(const Cesta& c) {
+    const planovani::Trasa* t = trasa_cesty(c);
+    return t != nullptr && t->zaznam.prvky.size() > c.prvky.size() ? t->zaznam.prvky : c.prvky;
+}
+
+// --- the frontier
+
+void najdi_hranici(int v, Jizda& j) {
+    const Vlak& vlak = vlak_c(v);
+    const auto obslouzeno = static_cast<std::size_t>(std::max<int>(vlak.stanice_index, 0)) + 1;
+    Postup p{vlak, j, {kolej_cela(vlak), vlak.smer, 0}, 0, 0};
+    p.h.bodu = planovani::preskoc_jmena(j.body, std::min(obslouzeno, j.body.size()));
+    p.rychlost = std::max<int>(vlak.rychlost_trati, 40);
+    const Cesta* c = cesta_pod_vlakem(v);
+    j.stoji = false;
+    if (!vlak.muze_jet) {
+        p.s = do_odjezdu_s(vlak);
+        j.stoji = true;
+    }
+    const PrvekCesty hlava = vlak.prvky.back();
+    if (c != nullptr && (c->Umazat + 1u < prvky_cesty(*c).size() || vlak.obslouzeno != vlak.prvky.size())) {
+        if (hlava.druh == druh_prvku::kolej)
+            p.s += p.sekund_na(std::max(0.0, delka_koleje(hlava.prvek) - metry(hlava.prvek)));
+        const auto& prvky = prvky_cesty(*c);
+        if (c->Umazat + 1u >= prvky.size()) { // on the last track, its stop not made yet
+            if (vlak.muze_jet)
+                p.obsluz(p.h.prvek, true);
+        } else {
+            p.projed(prvky, c->Umazat + 1u);
+        }
+        j.stoji = false;
+    } else if (vlak.muze_jet) {
+        j.stoji = vlak.rychlost == 0;
+    }
+    bool prvni = true;
+    for (std::size_t i = 0; i < kNejvicKroku; ++i) {
+        const Cesta* d = dalsi_cesta(p.h.prvek, p.h.smer, v);
+        if (d == nullptr && prvni && je_vratny(vlak) && (d = dalsi_cesta(p.h.prvek, !p.h.smer, v)) != nullptr)
+            p.h.smer = !p.h.smer;
+        if (d == nullptr)
+            break;
+        const planovani::Trasa* t = trasa_cesty(*d);
+        p.h.smer = t != nullptr ? t->smer : p.h.smer;
+        p.projed(prvky_cesty(*d), 1);
+        prvni = false;
+        j.stoji = false;
+    }
+    j.hranice = p.h;
+    j.do_hranice_s = static_cast<std::int32_t>(std::min<double>(p.s, kNikdy_s));
+    j.doma = j.hranice.bodu >= j.body.size();
+}
+
+// --- the way
+
+bool je_vstupni(int prvek) {
+    for (const uzel::StaniceOhlaseni& s : uzel::kOhlasovane)
+        if (std::find(s.koleje.begin(), s.koleje.end(), prvek) != s.koleje.end() && prvek != 0)
+            return true;
+    for (const uzel::VstupZeStanice& s : uzel::kVstupy)
+        if (std::find(s.koleje.begin(), s.koleje.end(), prvek) != s.koleje.end() && prvek != 0)
+            return true;
+    return false;
+}
+
+std::vector<float> prirazky;
+
+// Metres by which the search avoids each track for this train: at the main station all but the planned one,
+// and what is kept by trains that stay.
+void udelej_prirazky(const Vlak& vlak, bool obsazene, int v) {
+    constexpr float kJinaKolej_m = 3'000, kObsazena_m = 40'000;
+    prirazky.assign(kNejvyssiPrvek + 1, 0);
+    if (const int planovana = planovana_kolej(vlak); planovana >= 0)
+        for (int e = 0; e < kPrvniOdstavna; ++e)
+            if (uzel::je_kolej_hlavniho(e) && e != planovana)
+                prirazky[static_cast<std::size_t>(e)] = kJinaKolej_m;
+    if (!obsazene)
+        return;
+    for (std::size_t w = 0; w < vlaky.size(); ++w) {
+        const Vlak& jiny = vlaky[w];
+        if (jiny.cislo < 1 || static_cast<int>(w) == v || jiny.prvky.empty())
+            continue;
+        for (std::size_t k = static_cast<std::size_t>(std::max<int>(jiny.prvek_konec, 0));
+             k < jiny.prvky.size(); ++k)
+            if (jiny.prvky[k].druh == druh_prvku::kolej)
+                prirazky[static_cast<std::size_t>(jiny.prvky[k].prvek)] += kObsazena_m;
+        if (w < jizdy.size() && jizdy[w].jede && jizdy[w].hranice.prvek >= 0)
+            prirazky[static_cast<std::size_t>(jizdy[w].hranice.prvek)] += kObsazena_m;
+    }
+}
+
+void najdi_cestu_vlaku(int v, Jizda& j, bool obsazene) {
+    const Vlak& vlak = vlak_c(v);
+    planovani::Ukol ukol;
+    ukol.body = j.body;
+    ukol.delka = vlak.delka;
+    ukol.druh = vlak.druh;
+    ukol.pocatek = planovani::Pocatek{j.hranice.prvek, j.hranice.smer, j.hranice.bodu,
+                                      j.stoji && je_vratny(vlak) && cely_na_koleji(vlak)};
+    udelej_prirazky(vlak, obsazene, v);
+    ukol.prirazky = prirazky;
+    ukol.bez_tras = bez_tras;
+    j.cesta.clear();
+    if (auto cesta = najdi_trasy(sit(), ukol))
+        j.cesta = std::move(*cesta);
+    j.cesta_od = j.hranice;
+}
+
+// The way as it is after the frontier has moved: what has been set of it goes.
+bool zkrat_cestu(Jizda& j) {
+    if (j.cesta_od == j.hranice)
+        return true;
+    for (std::size_t i = 0; i < j.cesta.size(); ++i)
+        if (j.cesta[i].prvek == j.hranice.prvek && j.cesta[i].smer == j.hranice.smer &&
+            j.cesta[i].bodu == j.hranice.bodu) {
+            j.cesta.erase(j.cesta.begin(), j.cesta.begin() + static_cast<std::ptrdiff_t>(i) + 1);
+            j.cesta_od = j.hranice;
+            return true;
+        }
+    return false;
+}
+
+void prestan_cekat(Jizda& j) {
+    j.ceka_od_s = kZadny;
+    if (j.receno != 0)
+        vypravci::neceka(j.receno);
+    j.receno = 0;
+}
+
+void obnov_jizdu(int v) {
+    if (jizdy.size() < vlaky.size())
+        jizdy.resize(vlaky.size());
+    Jizda& j = jizdy[static_cast<std::size_t>(v)];
+    const Vlak& vlak = vlak_c(v);
+    if (vlak.cislo < 1 || !jede_vlakem(vlak)) {
+        if (j.jede || j.cislo != 0) {
+            zrus_slib(v);
+            prestan_cekat(j);
+            j = Jizda{};
+        }
+        return;
+    }
+    if (j.cislo != vlak.cislo || j.zastavek != vlak.zastavky.size()) {
+        prestan_cekat(j);
+        j = Jizda{};
+        j.cislo = vlak.cislo;
+        j.zastavek = vlak.zastavky.size();
+        udelej_body(j, vlak.zastavky);
+    }
+    j.jede = true;
+    najdi_hranici(v, j);
+    if (j.doma) {
+        j.cesta.clear();
+        return;
+    }
+    if (!zkrat_cestu(j) || (j.cesta.empty() && ted_s() >= j.hledat_s)) {
+        najdi_cestu_vlaku(v, j, false);
+        j.hledat_s = ted_s() + kHledani_s;
+    }
+}
+
+// --- the banker
+
+std::vector<UcastnikBankere> ucastnici;
+std::vector<int> ucastnik_vlaku; // index in `vlaky` of each
+std::vector<std::uint8_t> obsazena, uvazli_pred, uvazli_po;
+
+// An exit: who comes there leaves the junction, or is taken over by a neighbour.
+bool je_konecna(int prvek) {
+    return je_vstupni(prvek) || prvek == 25 || prvek == 119 || misto_prvku(prvek) == 84 ||
+           misto_prvku(prvek) == 85 || misto_prvku(prvek) == 117;
+}
+
+void priprav_bankere() {
+    ucastnici.clear();
+    ucastnik_vlaku.clear();
+    obsazena.assign(kMist, 0);
+    for (std::size_t w = 0; w < vlaky.size(); ++w) {
+        const Vlak& vlak = vlaky[w];
+        if (vlak.cislo < 1 || vlak.prvky.empty())
+            continue;
+        const Jizda& j = jizdy[w];
+        if (!j.jede || (j.cesta.empty() && !(j.doma && je_konecna(j.hranice.prvek)))) {
+            for (std::size_t k = static_cast<std::size_t>(std::max<int>(vlak.prvek_konec, 0));
+                 k < vlak.prvky.size(); ++k)
+                if (vlak.prvky[k].druh == druh_prvku::kolej)
+                    ++obsazena[static_cast<std::size_t>(misto_prvku(vlak.prvky[k].prvek))];
+            if (j.jede && j.hranice.prvek != kolej_cela(vlak))
+                ++obsazena[static_cast<std::size_t>(misto_prvku(j.hranice.prvek))];
+            continue;
+        }
+        UcastnikBankere u;
+        u.misto = misto_prvku(j.hranice.prvek);
+        u.poradi = j.do_hranice_s;
+        u.cesta = j.cesta;
+        u.konci = true;
+        ucastnici.push_back(u);
+        ucastnik_vlaku.push_back(static_cast<int>(w));
+    }
+}
+
+// The train may take the first route of its way, to the track `prvek`: nobody is stuck by it who was not
+// before.
+bool je_bezpecne(int v, int prvek, std::span<const KrokTrasy> zbytek) {
+    priprav_bankere();
+    uvazli(sit(), ucastnici, obsazena, bez_tras, uvazli_pred);
+    const auto i = static_cast<std::size_t>(std::find(ucastnik_vlaku.begin(), ucastnik_vlaku.end(), v) -
+                                            ucastnik_vlaku.begin());
+    if (i >= ucastnici.size())
+        return true;
+    ucastnici[i].misto = misto_prvku(prvek);
+    ucastnici[i].poradi += 100'000; // behind those that are there
+    ucastnici[i].cesta = zbytek;
+    uvazli(sit(), ucastnici, obsazena, bez_tras, uvazli_po);
+    for (std::size_t k = 0; k < ucastnici.size(); ++k)
+        if (uvazli_po[k] != 0 && uvazli_pred[k] == 0)
+            return false;
+    // One that would not get to its end in any case stays off the lines.
+    return uvazli_po[i] == 0 || !planovani::je_tratovy(prvek);
+}
+
+// --- entries are kept free
+
+std::span<const int> vstupni_koleje(int prvek, int& stanice) {
+    const auto ma = [prvek](const auto& koleje) {
+        return prvek != 0 && std::find(koleje.begin(), koleje.end(), prvek) != koleje.end();
+    };
+    for (const uzel::StaniceOhlaseni& s : uzel::kOhlasovane)
+        if (ma(s.koleje)) {
+            stanice = s.kod;
+            return s.koleje;
+        }
+    for (const uzel::VstupZeStanice& s : uzel::kVstupy)
+        if (ma(s.koleje)) {
+            stanice = s.stanice;
+            return s.koleje;
+        }
+    return {};
+}
+
+std::int16_t ohlasene_zpozdeni(std::int32_t cislo) {
+    for (const Hlaseni& h : hlaseni)
+        if (h.zpozdeni && h.cislo == cislo)
+            return h.minut;
+    return 0;
+}
+
+bool je_na_stole(std::int32_t cislo) {
+    return std::any_of(vlaky.begin(), vlaky.end(), [cislo](const Vlak& v) { return v.cislo == cislo; });
+}
+
+// Trains that will come in at the station within the next minutes and are not here yet.
+int prijde_vlaku(int stanice, int minut) {
+    int pocet = 0;
+    const int ted = minuta_dne(cas_hodin());
+    for (int m = ted; m <= ted + minut; ++m)
+        for (const int n : gvd_vlaky.v_minute(m % kDen_min)) {
+            const GvdVlak& r = radek_gvd(n);
+            pocet += r.zastavky.front().stanice == stanice && aktivni_dnes(r) &&
+                             ohlasene_zpozdeni(r.cislo) == 0 && !je_na_stole(r.cislo)
+                         ? 1
+                         : 0;
+        }
+    for (const Hlaseni& h : hlaseni)
+        if (h.zpozdeni)
+            for (const auto& [klic, n] : gvd_vlaky.s_cislem(h.cislo)) {
+                const GvdVlak& r = radek_gvd(n);
+                const int za = ((cas_vstupu(r) + h.minut - ted) % kDen_min + kDen_min) % kDen_min;
+                pocet +=
+                    r.zastavky.front().stanice == stanice && za <= minut && !je_na_stole(h.cislo) ? 1 : 0;
+            }
+    return pocet;
+}
+
+// A train that ends there would take the last track on which one is due to come in.
+bool brani_vstupu(int prvek) {
+    int stanice = 0;
+    const auto koleje = vstupni_koleje(prvek, stanice);
+    if (koleje.empty())
+        return false;
+    const int prijde = prijde_vlaku(stanice, kVstup_min);
+    if (prijde == 0)
+        return false;
+    int volnych = 0;
+    for (const int e : koleje)
+        volnych += e != 0 && e != prvek && je_volna_kolej(e) ? 1 : 0;
+    return volnych < prijde;
+}
+
+// --- promises of platforms
+
+// Another train that is on its way will stand on the track before v has left it.
+int ceka_na_kolej(int e, int v) {
+    const Jizda& moje = jizdy[static_cast<std::size_t>(v)];
+    for (std::size_t w = 0; w < jizdy.size(); ++w) {
+        const Jizda& j = jizdy[w];
+        if (static_cast<int>(w) == v || !j.jede || j.cesta.empty() || planovana_kolej(vlaky[w]) != e)
+            continue;
+        if (j.do_hranice_s > moje.do_hranice_s + 420)
+            continue;
+        for (const KrokTrasy& k : j.cesta)
+            if (k.prvek == e)
+                return static_cast<int>(w);
+    }
+    return kZadny;
+}
+
+// --- the sentences
+
+Text veta_prekazky(const Prekazka& p) {
+    switch (p.druh) {
+    case DruhPrekazky::usek:
+    case DruhPrekazky::konec: {
+        Text t = jmeno_koleje(p.prvek);
+        const int w = kdo_drzi(p.prvek);
+        if (w >= 0) {
+            t += " drží "_cz;
+            t += jmeno_vlaku(vlak_c(w));
+        } else {
+            t += " není volná"_cz;
+        }
+        return t;
+    }
+    case DruhPrekazky::navestidlo:
+        return Text("návěstidlo "_cz) + jmeno_navestidla(p.prvek) + Text(" je zablokováno"_cz);
+    case DruhPrekazky::opacny_smer: return Text("trať drží vlak opačného směru"_cz);
+    case DruhPrekazky::souhlas: return Text("na trati je udělen souhlas sousední stanici"_cz);
+    case DruhPrekazky::kolej_118: return Text("trať přes Kamenec je obsazena"_cz);
+    case DruhPrekazky::vyhybka:
+    case DruhPrekazky::bocni_vyhybka:
+        if (const Cesta* c = drzitel(druh_prvku::vyhybka, p.prvek); c != nullptr)
+            return Text("v cestě je "_cz) + popis_cesty(*c);
+        return Text("výhybka "_cz) + text_cisla(p.prvek) + Text(" je pod závěrem"_cz);
+    default: return Text("zhlaví ještě není volné"_cz);
+    }
+}
+
+Text veta_cekani(int v, TextPohled proc) {
+    const Vlak& vlak = vlak_c(v);
+    Text t = jmeno_vlaku(vlak);
+    t += " čeká"_cz;
+    if (const int s = planovani::stanice_elementu(jizdy[static_cast<std::size_t>(v)].hranice.prvek); s != 0) {
+        t += " ("_cz;
+        t += nazev_stanice(s);
+        t += ")";
+    }
+    t += ": ";
+    t += proc;
+    t += ".";
+    return t;
+}
+
+// --- one route
+
+enum class Verdikt : std::uint8_t { lze, cizi, neni, zatim_ne, kolej };
+struct Posudek {
+    Verdikt co = Verdikt::lze;
+    Text proc;
+};
+
+int predstih_s(std::size_t trasa, bool stoji) {
+    const planovani::Trasa& t = trasa_c(trasa);
+    int s = kStavba_s + 5 * simulace.rychlost + kPredstih_s;
+    if (stoji)
+        s += 10;
+    for (const PrvekCesty& p : t.zaznam.prvky)
+        if (p.druh == druh_prvku::kolej && uzel::prejezd_nad(p.prvek) >= 0)
+            return s + kPrejezd_s;
+    return s;
+}
+
+// Another train has its head on the track before the signal: the route would be its own.
+int jiny_na_zacatku(const planovani::Trasa& t, int v) {
+    const int e = t.zaznam.prvky.front().prvek;
+    for (std::size_t w = 0; w < vlaky.size(); ++w)
+        if (static_cast<int>(w) != v && vlaky[w].cislo > 0 && !vlaky[w].posun && !vlaky[w].prvky.empty() &&
+            vlaky[w].prvky.back().prvek == e && vlaky[w].prvky.back().druh == druh_prvku::kolej &&
+            kolej_cela(vlak_c(v)) != e)
+            return static_cast<int>(w);
+    return kZadny;
+}
+
+// May the train take route `trasa` now, with that rest of its way behind it?
+Posudek posud(int v, std::size_t trasa, std::span<const KrokTrasy> zbytek) {
+    const planovani::Trasa& t = trasa_c(trasa);
+    if (!vypravci::ma_navestidlo(t.zaznam.zacatek))
+        return {Verdikt::cizi, {}};
+    if (const int w = jiny_na_zacatku(t, v); w >= 0)
+        return {Verdikt::zatim_ne, jmeno_vlaku(vlak_c(w)) + Text(" je před ním"_cz)};
+    if (bez_tras[trasa] != 0)
+        return {Verdikt::neni, Text("cesta je vyloučena"_cz)};
+    if (const Prekazka p = prekazka_cesty(t.zaznam, true)) {
+        const bool konec =
+            p.druh == DruhPrekazky::konec || (p.druh == DruhPrekazky::usek && p.prvek == t.konec);
+        return {konec ? Verdikt::kolej : Verdikt::zatim_ne, veta_prekazky(p)};
+    }
+    if (brani_vstupu(t.konec))
+        return {Verdikt::kolej, Text("kolej se drží volná pro vlak, který má vjet do uzlu"_cz)};
+    // A single line is entered only when the station behind it can take the train.
+    if (!je_bezpecne(v, t.konec, zbytek))
+        return {Verdikt::zatim_ne, Text("jinak by se vlaky navzájem zablokovaly"_cz)};
+    return {};
+}
+
+// A route is ordered.
+bool objednej(int v, std::size_t trasa) {
+    const planovani::Trasa& t = trasa_c(trasa);
+    if (!zvol_cestu(t.zaznam.zacatek, t.zaznam.konec, druh_volby::vlak))
+        return false;
+    const Vlak& vlak = vlak_c(v);
+    Text veta = jmeno_vlaku(vlak);
+    veta += ": cesta "_cz;
+    veta += jmeno_navestidla(t.zaznam.zacatek);
+    veta += " – "_cz;
+    veta += jmeno_koleje(t.konec);
+    veta += ".";
+    vypravci::rekni(zobrazene_cislo(vlak), std::move(veta));
+    return true;
+}
+
+// Another track on which the train may end its next route and go on as planned; nothing when there is none.
+std::optional<Nahrada> jina_kolej(int v, const Jizda& j) {
+    const std::size_t dalsi = j.cesta.size() > 1 ? j.cesta[1].trasa : kBezTrasy;
+    const Vlak& vlak = vlak_c(v);
+    const bool hlavni = uzel::je_kolej_hlavniho(j.cesta.front().prvek);
+    for (const Nahrada& n : nahrady(sit(), j.cesta.front().trasa, dalsi)) {
+        if (delka_koleje(n.prvek) < vlak.delka)
+            continue;
+        if (hlavni && ceka_na_kolej(n.prvek, v) >= 0)
+            continue;
+        if (dalsi != kBezTrasy && bez_tras[n.dalsi] != 0)
+            continue;
+        std::vector<KrokTrasy> zbytek(j.cesta.begin() + 1, j.cesta.end());
+        if (dalsi != kBezTrasy)
+            zbytek.front().trasa = n.dalsi;
+        if (posud(v, n.trasa, zbytek).co == Verdikt::lze)
+            return n;
+    }
+    return std::nullopt;
+}
+
+void vezmi_nahradu(Jizda& j, const Nahrada& n) {
+    j.cesta[0].trasa = n.trasa;
+    j.cesta[0].prvek = n.prvek;
+    if (j.cesta.size() > 1)
+        j.cesta[1].trasa = n.dalsi;
+}
+
+void cekej(int v, Jizda& j, TextPohled proc) {
+    if (j.do_hranice_s > 5)
+        return;
+    if (j.ceka_od_s < 0)
+        j.ceka_od_s = ted_s();
+    if (const std::int32_t cislo = zobrazene_cislo(vlak_c(v)); j.receno != cislo) {
+        if (j.receno != 0)
+            vypravci::neceka(j.receno);
+        j.receno = cislo;
+    }
+    vypravci::rekni_cekani(j.receno, veta_cekani(v, proc));
+}
+
+// The platform that it is planned on: how long until the one who stands there goes, at least.
+int uvolni_se_za_s(int e) {
+    const int w = kdo_drzi(e);
+    if (w < 0)
+        return 30;
+    if (static_cast<std::size_t>(w) >= jizdy.size() || !jizdy[static_cast<std::size_t>(w)].jede ||
+        jizdy[static_cast<std::size_t>(w)].cesta.empty())
+        return kNikdy_s;
+    return do_odjezdu_s(vlak_c(w));
+}
+
+// The next route of the train, when its time has come. True when one was ordered.
+bool zkus(int v) {
+    Jizda& j = jizdy[static_cast<std::size_t>(v)];
+    const std::int32_t ted = ted_s();
+    if (!j.jede || j.doma) {
+        j.podivat_s = ted + 20;
+        return false;
+    }
+    if (j.cesta.empty()) {
+        j.podivat_s = ted + 10;
+        cekej(v, j, "nevede odtud cesta po jeho zastávkách"_cz);
+        return false;
+    }
+    const std::size_t trasa = j.cesta.front().trasa;
+    const int predstih = predstih_s(trasa, j.stoji);
+    if (j.do_hranice_s > predstih) {
+        j.podivat_s = ted + std::min(60, std::max(1, j.do_hranice_s - predstih));
+        return false;
+    }
+    const Vlak& vlak = vlak_c(v);
+    if (!muze_tahnout(v) && j.stoji) {
+        j.podivat_s = ted + 10;
+        return false;
+    }
+    Posudek p = posud(v, trasa, std::span(j.cesta).subspan(1));
+    const bool dlouho = j.ceka_od_s >= 0 && ted - j.ceka_od_s > 60;
+    if (p.co == Verdikt::kolej || p.co == Verdikt::neni || (p.co == Verdikt::zatim_ne && dlouho)) {
+        const int e = j.cesta.front().prvek;
+        const bool vlastni = uzel::je_kolej_hlavniho(e) && planovana_kolej(vlak) == e;
+        const bool pocka =
+            p.co == Verdikt::kolej && vlastni && uvolni_se_za_s(e) < kCekatNaKolej_s && !dlouho;
+        if (!pocka)
+            if (const auto n = jina_kolej(v, j)) {
+                vezmi_nahradu(j, *n);
+                p = {};
+            }
+    }
+    if (p.co == Verdikt::lze) {
+        if (objednej(v, j.cesta.front().trasa)) {
+            prestan_cekat(j);
+            return true;
+        }
+        j.podivat_s = ted + 10;
+        return false;
+    }
+    if (p.co != Verdikt::cizi)
+        cekej(v, j, p.proc);
+    if ((p.co == Verdikt::neni || (j.ceka_od_s >= 0 && ted - j.ceka_od_s > 120)) && ted >= j.hledat_s) {
+        najdi_cestu_vlaku(v, j, true);
+        j.hledat_s = ted + kHledani_s;
+    }
+    j.podivat_s = ted + std::max<int>(kPohledNaCekani_s, simulace.rychlost);
+    return false;
+}
+
+// --- consents
+
+void rozhodni_souhlas(int k) {
+    const auto cislo = souhlasy.zada[static_cast<std::size_t>(k)];
+    if (!cislo)
+        return;
+    const uzel::KonecTrati& konec = uzel::kKonceTrati[static_cast<std::size_t>(k)];
+    if (!vypravci::ma_navestidlo(konec.vjezd))
+        return;
+    Text veta("Souhlas pro vlak "_cz);
+    veta += text_cisla(*cislo);
+    veta += " od stanice "_cz;
+    veta += nazev_stanice(konec.stanice);
+    veta += ".";
+    if (dej_souhlas(k))
+        vypravci::rekni(*cislo, std::move(veta));
+}
+
+void obnov_vyluky() {
+    bez_tras.assign(sit().trasy.size(), 0);
+    for (std::size_t i = 0; i < bez_tras.size(); ++i)
+        bez_tras[i] = je_vyloucena(trasa_c(i).zaznam) ? 1 : 0;
+}
+
+} // namespace
 
 void zacni_jizdy() {
     nacti_site();
+    zapomen_nahrady();
+    jizdy.clear();
+    trasa_podle_koncu.clear();
+    for (std::size_t i = 0; i < sit().trasy.size(); ++i)
+        trasa_podle_koncu.emplace(std::pair{trasa_c(i).zaznam.zacatek, trasa_c(i).zaznam.konec}, i);
+    posledni_krok_s = 0;
+    dalsi_vyluky_s = 0;
 }
 
 void krok_jizd() {
-    zapni_pv();
+    const std::int32_t ted = ted_s();
+    if (ted < posledni_krok_s) { // the first midnight of a service that began at it
+        for (Jizda& j : jizdy)
+            j.podivat_s = j.hledat_s = 0;
+        dalsi_vyluky_s = 0;
+    }
+    posledni_krok_s = ted;
     for (std::size_t k = 0; k < souhlasy.zada.size(); ++k)
         if (souhlasy.zada[k])
-            dej_souhlas(static_cast<int>(k));
+            rozhodni_souhlas(static_cast<int>(k));
+    if (jizdy.size() < vlaky.size())
+        jizdy.resize(vlaky.size());
+    bool neco = false;
+    for (std::size_t v = 0; v < vlaky.size() && !neco; ++v)
+        neco = vlaky[v].cislo > 0 && !vlaky[v].posun &&
+               (jizdy[v].podivat_s <= ted || jizdy[v].cislo != vlaky[v].cislo);
+    if (!neco)
+        return;
+    if (ted >= dalsi_vyluky_s) {
+        obnov_vyluky();
+        dalsi_vyluky_s = ted + 30;
+    }
+    zapni_pv();
+    for (std::size_t v = 0; v < vlaky.size(); ++v)
+        obnov_jizdu(static_cast<int>(v));
+    static std::vector<int> poradi;
+    poradi.clear();
+    for (std::size_t v = 0; v < vlaky.size(); ++v)
+        if (jizdy[v].jede && jizdy[v].podivat_s <= ted)
+            poradi.push_back(static_cast<int>(v));
+    std::stable_sort(poradi.begin(), poradi.end(), [](int a, int b) {
+        const Jizda &x = jizdy[static_cast<std::size_t>(a)], &y = jizdy[static_cast<std::size_t>(b)];
+        return x.do_hranice_s != y.do_hranice_s ? x.do_hranice_s < y.do_hranice_s
+                                                : vlak_c(a).druh < vlak_c(b).druh;
+    });
+    for (const int v : poradi)
+        for (std::size_t i = 0; i < kNejvicKroku && zkus(v); ++i)
+            obnov_jizdu(v);
+}
+
+const std::vector<Jizda>& jizdy_vlaku() {
+    return jizdy;
 }

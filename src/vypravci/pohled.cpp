@@ -56,7 +56,9 @@ int do_odjezdu_s(const Vlak& v) {
     if (i >= v.zastavky.size())
         return 0;
     const Zastavka& z = v.zastavky[i];
-    const int odjezd = v.stanice_index < 0 && z.odjezd_realny < 0 ? z.odjezd : z.odjezd_realny;
+    // A train that is announced at a neighbouring station sets off there by its time and its delay.
+    const bool ohlasen = v.stanice_index < 0 && z.stanice != dopravna::tesk;
+    const int odjezd = ohlasen ? z.odjezd + v.zpozdeni_vstup : z.odjezd_realny;
     if (odjezd == kNaPovel)
         return kNikdy;
     if (odjezd < 0)
@@ -71,6 +73,16 @@ int planovana_kolej(const Vlak& v) {
     for (int e = 0; e < kPrvniTrat; ++e)
         if (uzel::je_kolej_hlavniho(e) && je_cislo_koleje(e) && orez(relief.cislo_koleje[e].popis()) == pokyn)
             return e;
+    return kZadny;
+}
+
+int kdo_drzi(int e) {
+    for (std::size_t v = 0; v < vlaky.size(); ++v)
+        if (vlaky[v].cislo > 0 && drzi_prvek(vlaky[v], e))
+            return static_cast<int>(v);
+    for (const Cesta& c : cesty)
+        if (c.zacatek >= 0 && c.Vlak >= 0 && posledni_prvek(c) == e)
+            return c.Vlak;
     return kZadny;
 }
 

@@ -15,7 +15,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <set>
+#include <map>
 #include <tuple>
 
 namespace planovani {
@@ -65,7 +65,9 @@ void pridej_useky(const Sit& sit, ZaznamCesty& z, bool smer) {
 
 } // namespace
 
-int stanice_elementu(int prvek) {
+namespace {
+
+int najdi_stanici(int prvek) {
     switch (prvek) {
     case 84:
     case 212: return dopravna::polska_lhota;
@@ -83,6 +85,18 @@ int stanice_elementu(int prvek) {
     case 574: return dopravna::posta;
     default: return stanice_prvku(prvek);
     }
+}
+
+} // namespace
+
+int stanice_elementu(int prvek) {
+    static const auto stanice = [] {
+        std::array<std::uint8_t, kNejvyssiPrvek + 1> s{};
+        for (int n = 0; n <= kNejvyssiPrvek; ++n)
+            s[static_cast<std::size_t>(n)] = static_cast<std::uint8_t>(najdi_stanici(n));
+        return s;
+    }();
+    return prvek >= 0 && prvek <= kNejvyssiPrvek ? stanice[static_cast<std::size_t>(prvek)] : 0;
 }
 
 int trat_elementu(int prvek) {
@@ -109,7 +123,7 @@ bool je_tratovy(int prvek) {
 
 namespace {
 
-bool je_protismer(int prvek, bool smer) {
+bool urci_protismer(int prvek, bool smer) {
     if (!je_tratovy(prvek))
         return false;
     const int t = trat_elementu(prvek);
@@ -117,6 +131,17 @@ bool je_protismer(int prvek, bool smer) {
         return false;
     const bool vlevo = std::find(kVlevo.begin(), kVlevo.end(), t) != kVlevo.end();
     return smer == vlevo;
+}
+
+bool je_protismer(int prvek, bool smer) {
+    static const auto protismer = [] {
+        std::array<std::array<bool, kNejvyssiPrvek + 1>, 2> p{};
+        for (int n = 0; n <= kNejvyssiPrvek; ++n)
+            for (const bool vpravo : {false, true})
+                p[vpravo ? 1 : 0][static_cast<std::size_t>(n)] = urci_protismer(n, vpravo);
+        return p;
+    }();
+    return protismer[smer ? 1 : 0].at(static_cast<std::size_t>(prvek));
 }
 
 // Trains stop there with all their length on the section, not at its end.
@@ -136,23 +161,77 @@ bool je_jmeno(int stanice) {
     return stanice >= 36 && stanice <= 38;
 }
 
+} // namespace
+
+std::size_t preskoc_jmena(const std::vector<Bod>& body, std::size_t k) {
+    while (k < body.size() && je_jmeno(body[k].stanice))
+        ++k;
+    return k;
+}
+
+bool slouzi(const Bod& bod, int prvek, bool konec) {
+    return stanice_elementu(prvek) == bod.stanice &&
+           (bod.koleje.empty() ||
+            std::find(bod.koleje.begin(), bod.koleje.end(), prvek) != bod.koleje.end()) &&
+           (konec || !bod.stavi || stavi_na_trati(prvek));
+}
+
+bool smer_po_obratu(int odkud, int kam, bool smer) {
+    for (const uzel::Obrat& o : uzel::kObraty)
+        if (o.odkud == odkud && o.kam == kam && o.smer == smer)
+            return !smer;
+    return smer;
+}
+
+bool smer_za_prvkem(const std::vector<PrvekCesty>& prvky, std::size_t i, bool smer) {
+    if (i == 0 || prvky[i].druh != druh_prvku::kolej)
+        return smer;
+    const bool ohyb = prvky[i - 1].druh == druh_prvku::kolej ? je_v(prvky[i].prvek, uzel::kOhybyZKoleje)
+                                                             : je_v(prvky[i].prvek, uzel::kOhybyZVyhybky);
+    return smer != ohyb;
+}
+
+namespace {
+
+// What a search knows of each state, kept from search to search: only those of the present one count.
+struct Uzel {
+    double cena = 0;
+    Stav odkud{};
+    std::size_t trasa = kBezTrasy;
+    std::uint32_t hledani = 0; // the search that has written it
+    bool hotov = false;
+};
+struct Uzly {
+    std::vector<Uzel> vse;
+    std::uint32_t hledani = 0;
+};
+Uzly& spolecne_uzly() {
+    static thread_local Uzly uzly;
+    return uzly;
+}
+
 struct Hledani {
     const Sit& sit;
     const Ukol& ukol;
-    struct Uzel {
-        double cena = 0;
-        Stav odkud{};
-        std::size_t trasa = kBezTrasy;
-        bool konec = false;
-    };
-    std::map<Stav, Uzel> uzly{};
+    Uzly& uzly = spolecne_uzly();
     std::size_t nejdal = 0;
 
-    std::size_t preskoc_jmena(std::size_t k) const {
-        while (k < ukol.body.size() && je_jmeno(ukol.body[k].stanice))
-            ++k;
-        return k;
+    std::size_t index(const Stav& s) const {
+        return Sit::misto(s.prvek, s.smer) * (ukol.body.size() + 1) + s.bodu;
     }
+    bool je(const Stav& s) const { return uzly.vse[index(s)].hledani == uzly.hledani; }
+    const Uzel& uzel(const Stav& s) const { return uzly.vse[index(s)]; }
+    void zaloz() {
+        const std::size_t stavu = 2u * (kNejvyssiPrvek + 1) * (ukol.body.size() + 1);
+        if (uzly.vse.size() < stavu)
+            uzly.vse.resize(stavu);
+        if (++uzly.hledani == 0) { // the count has wrapped: all of them are old
+            std::fill(uzly.vse.begin(), uzly.vse.end(), Uzel{});
+            uzly.hledani = 1;
+        }
+    }
+
+    std::size_t preskoc_jmena(std::size_t k) const { return planovani::preskoc_jmena(ukol.body, k); }
     bool hodi_se(std::size_t k, int prvek) const {
         const Bod& b = ukol.body[k];
         return stanice_elementu(prvek) == b.stanice &&
@@ -204,10 +283,10 @@ struct Hledani {
                 cena += 2 * kVyhybka_m;
                 continue;
             }
-            const bool z_koleje = prvky[i - 1].druh == druh_prvku::kolej;
-            if (z_koleje ? je_v(p.prvek, uzel::kOhybyZKoleje) : je_v(p.prvek, uzel::kOhybyZVyhybky))
-                dal.smer = !dal.smer;
+            dal.smer = smer_za_prvkem(prvky, i, dal.smer);
             cena += sit.delky[static_cast<std::size_t>(p.prvek)];
+            if (!ukol.prirazky.empty())
+                cena += static_cast<double>(ukol.prirazky[static_cast<std::size_t>(p.prvek)]);
             if (je_protismer(p.prvek, dal.smer))
                 cena += kProtismer_m;
             const bool posledni = i + 1 == prvky.size();
@@ -229,7 +308,7 @@ struct Hledani {
             return;
         const Bod& tady = bod_pred(s);
         if ((tady.stavi || &tady == ukol.body.data()) && stanice_elementu(s.prvek) == tady.stanice)
-            s.smer = po_obratu(tady.stanice, (&tady + 1)->stanice, s.smer);
+            s.smer = smer_po_obratu(tady.stanice, (&tady + 1)->stanice, s.smer);
     }
     bool muze_objet(const Stav& s) const {
         return s.bodu > 0 && s.bodu < ukol.body.size() && bod_pred(s).muze_otocit &&
@@ -242,12 +321,6 @@ struct Hledani {
             --i;
         return ukol.body[i];
     }
-    static bool po_obratu(int odkud, int kam, bool smer) {
-        for (const uzel::Obrat& o : uzel::kObraty)
-            if (o.odkud == odkud && o.kam == kam && o.smer == smer)
-                return !smer;
-        return smer;
-    }
 
     struct Polozka {
         double cena;
@@ -257,15 +330,27 @@ struct Hledani {
     std::priority_queue<Polozka> fronta{};
 
     void pridej(const Stav& s, double cena, const Stav& odkud, std::size_t trasa) {
-        const auto misto = uzly.find(s);
-        if (misto != uzly.end() && misto->second.cena <= cena)
+        Uzel& u = uzly.vse[index(s)];
+        if (u.hledani == uzly.hledani && u.cena <= cena)
             return;
-        uzly[s] = {cena, odkud, trasa, false};
+        u = {cena, odkud, trasa, uzly.hledani, false};
         nejdal = std::max(nejdal, s.bodu);
         fronta.push({cena, s});
     }
 
+    void zacni_odtud(const Pocatek& p) {
+        const Stav s{p.prvek, p.smer, preskoc_jmena(p.bodu)};
+        pridej(s, 0, s, kBezTrasy);
+        const Stav obraceny{p.prvek, !p.smer, s.bodu};
+        if (p.vratny)
+            pridej(obraceny, kObjeti_m, obraceny, kBezTrasy);
+    }
+
     void zacni() {
+        if (ukol.pocatek) {
+            zacni_odtud(*ukol.pocatek);
+            return;
+        }
         const int odkud = ukol.body.front().stanice;
         const auto z = [&](int prvek, bool smer) {
             if (!sit.koleje[static_cast<std::size_t>(prvek)] || !hodi_se(0, prvek))
@@ -308,19 +393,20 @@ struct Hledani {
     }
 
     std::optional<Stav> hledej() {
+        zaloz();
         zacni();
-        std::set<Stav> hotove;
         while (!fronta.empty()) {
             const auto [cena, s] = fronta.top();
             fronta.pop();
-            if (!hotove.insert(s).second)
+            Uzel& u = uzly.vse[index(s)];
+            if (u.hotov)
                 continue;
+            u.hotov = true;
             if (s.bodu == ukol.body.size())
                 return s;
-            const auto vychozi = sit.odkud.find({s.prvek, s.smer});
-            if (vychozi == sit.odkud.end())
-                continue; // the way ends here
-            for (const std::size_t i : vychozi->second) {
+            for (const std::size_t i : sit.z_mista(s.prvek, s.smer)) {
+                if (!ukol.bez_tras.empty() && ukol.bez_tras[i] != 0)
+                    continue;
                 const std::uint8_t rychlost = sit.trasy[i].zaznam.rychlost;
                 double dal = cena + kNavest_m + kOdbocka_m[std::min<std::size_t>(rychlost, 3)];
                 const auto kam = za_trasou(s, sit.trasy[i], dal);
@@ -337,15 +423,20 @@ struct Hledani {
         return std::nullopt;
     }
 
-    Pruchod sloz(const Stav& konec) const {
+    std::vector<Stav> stavy_do(const Stav& konec) const {
         std::vector<Stav> stavy{konec};
-        while (uzly.at(stavy.back()).trasa != kBezTrasy)
-            stavy.push_back(uzly.at(stavy.back()).odkud);
+        while (uzel(stavy.back()).trasa != kBezTrasy)
+            stavy.push_back(uzel(stavy.back()).odkud);
         std::reverse(stavy.begin(), stavy.end());
+        return stavy;
+    }
+
+    Pruchod sloz(const Stav& konec) const {
+        const std::vector<Stav> stavy = stavy_do(konec);
         Pruchod p;
         p.mista.assign(ukol.body.size(), 0);
-        p.kratka_kolej = uzly.at(konec).cena >= kKratka_m;
-        p.protismer = std::fmod(uzly.at(konec).cena, kKratka_m) >= kProtismer_m;
+        p.kratka_kolej = uzel(konec).cena >= kKratka_m;
+        p.protismer = std::fmod(uzel(konec).cena, kKratka_m) >= kProtismer_m;
         const int prvni = stavy.front().prvek;
         const bool souhlas = uzel::je_usek_konce(prvni);
         if (souhlas) {
@@ -363,17 +454,14 @@ struct Hledani {
         for (std::size_t k = 1; k < bodu; ++k)
             p.mista[k] = p.kroky.size() - 1;
         for (std::size_t i = 1; i < stavy.size(); ++i)
-            pridej_trasu(p, uzly.at(stavy[i]).trasa, stavy[i - 1].smer, bodu);
+            pridej_trasu(p, uzel(stavy[i]).trasa, stavy[i - 1].smer, bodu);
         return p;
     }
 
     void pridej_trasu(Pruchod& p, std::size_t trasa, bool smer, std::size_t& bodu) const {
         const auto& prvky = sit.trasy[trasa].zaznam.prvky;
         for (std::size_t i = 1; i < prvky.size(); ++i) {
-            const bool z_koleje = prvky[i - 1].druh == druh_prvku::kolej;
-            if (prvky[i].druh == druh_prvku::kolej && (z_koleje ? je_v(prvky[i].prvek, uzel::kOhybyZKoleje)
-                                                                : je_v(prvky[i].prvek, uzel::kOhybyZVyhybky)))
-                smer = !smer;
+            smer = smer_za_prvkem(prvky, i, smer);
             p.kroky.push_back({prvky[i], trasa, smer, i == 1});
             if (prvky[i].druh != druh_prvku::kolej)
                 continue;
@@ -392,6 +480,7 @@ struct Hledani {
 
 Sit sestav_sit(const Bajty& top, const Bajty& zat) {
     Sit sit;
+    sit.odkud.resize(2u * (kNejvyssiPrvek + 1));
     sit.delky = delky_kolejiste(top);
     const TextPohled text(reinterpret_cast<const char*>(top.data()), top.size());
     for (std::size_t i = 0; i + 7 <= text.size(); i += 7)
@@ -406,7 +495,11 @@ Sit sestav_sit(const Bajty& top, const Bajty& zat) {
         for (std::size_t i = 0; i < t.zaznam.prvky.size(); ++i)
             if (t.zaznam.prvky[i].druh == druh_prvku::vyhybka)
                 t.posledni_vyhybka = i;
-        sit.odkud[{t.zaznam.prvky.front().prvek, t.smer}].push_back(sit.trasy.size());
+        t.konec_smer = t.smer;
+        for (std::size_t i = 1; i < t.zaznam.prvky.size(); ++i)
+            t.konec_smer = smer_za_prvkem(t.zaznam.prvky, i, t.konec_smer);
+        t.konec = t.zaznam.prvky.back().prvek;
+        sit.odkud[Sit::misto(t.zaznam.prvky.front().prvek, t.smer)].push_back(sit.trasy.size());
         sit.trasy.push_back(std::move(t));
     }
     return sit;
@@ -419,6 +512,18 @@ std::optional<Pruchod> najdi_pruchod(const Sit& sit, const Ukol& ukol, std::size
     if (!konec)
         return std::nullopt;
     return h.sloz(*konec);
+}
+
+std::optional<std::vector<KrokTrasy>> najdi_trasy(const Sit& sit, const Ukol& ukol) {
+    Hledani h{sit, ukol};
+    const auto konec = h.hledej();
+    if (!konec)
+        return std::nullopt;
+    std::vector<KrokTrasy> kroky;
+    for (const Stav& s : h.stavy_do(*konec))
+        if (const std::size_t trasa = h.uzel(s).trasa; trasa != kBezTrasy)
+            kroky.push_back({trasa, s.prvek, s.smer, s.bodu});
+    return kroky;
 }
 
 namespace {

@@ -9,8 +9,10 @@
 #include "relief/topologie.h"
 
 #include <bitset>
-#include <map>
+#include <cstdint>
 #include <optional>
+#include <span>
+#include <utility>
 #include <vector>
 
 namespace planovani {
@@ -20,13 +22,23 @@ struct Trasa {
     ZaznamCesty zaznam;
     bool smer = false;
     std::size_t posledni_vyhybka = 0; // index behind which its speed limit ends; 0 none
+    int konec = 0;                    // its last track,
+    bool konec_smer = false;          // and the sense of a train on it
 };
 
 struct Sit {
     Delky delky{};
     std::bitset<kNejvyssiPrvek + 1> koleje; // those that are drawn
     std::vector<Trasa> trasy;
-    std::map<std::pair<int, bool>, std::vector<std::size_t>> odkud; // by first track and sense
+    std::vector<std::vector<std::size_t>> odkud; // by misto() of the first track and the sense
+
+    static std::size_t misto(int prvek, bool smer) {
+        return static_cast<std::size_t>(prvek) * 2 + (smer ? 1u : 0u);
+    }
+    // Routes that go on from the track in that sense.
+    const std::vector<std::size_t>& z_mista(int prvek, bool smer) const {
+        return odkud.at(misto(prvek, smer));
+    }
 };
 // From the bytes of tesk.top and tesk.zat.
 Sit sestav_sit(const Bajty& top, const Bajty& zat);
@@ -39,11 +51,21 @@ struct Bod {
     double odjezd_s = 0;       // from a stop, seconds after midnight
     bool muze_otocit = false;  // it stands long enough for its locomotive to run round
 };
+// Where a train stands that is on its way: its track, its sense, how many of its points are served.
+struct Pocatek {
+    int prvek = 0;
+    bool smer = false;
+    std::size_t bodu = 0;
+    bool vratny = false; // it may set off the other way as well
+};
 struct Ukol {
     std::vector<Bod> body;   // names without a track stand here too: a train is turned by the next name
     int delka = 0;           // metres
     int druh = 0;            // category
     std::vector<int> mimo{}; // elements that the way must not touch, switches as 1000 + number
+    std::optional<Pocatek> pocatek{};         // none: it begins at its first point
+    std::span<const float> prirazky{};        // metres by which a track is avoided, by element; empty: none
+    std::span<const std::uint8_t> bez_tras{}; // 1 for each route that does not exist now; empty: all do
 };
 
 // One element of a way.
@@ -65,6 +87,26 @@ struct Pruchod {
 // The way on the usual tracks that a train of these points takes; nothing when there is none. `kam_az`: how
 // many of the points can be reached.
 std::optional<Pruchod> najdi_pruchod(const Sit& sit, const Ukol& ukol, std::size_t& kam_az);
+
+// The same as routes: each with the track on which it ends, the sense in which the train goes on from there,
+// and how many points are served then. Nothing when there is no way; an empty list when it is there.
+struct KrokTrasy {
+    std::size_t trasa = 0;
+    int prvek = 0;
+    bool smer = false;
+    std::size_t bodu = 0;
+    bool operator==(const KrokTrasy&) const = default;
+};
+std::optional<std::vector<KrokTrasy>> najdi_trasy(const Sit& sit, const Ukol& ukol);
+
+// The first point from number k on that has a track.
+std::size_t preskoc_jmena(const std::vector<Bod>& body, std::size_t k);
+// The point k is served on the track; `konec`: a route ends there.
+bool slouzi(const Bod& bod, int prvek, bool konec);
+// Sense in which a train goes on from a stop: turned where the junction turns it.
+bool smer_po_obratu(int odkud, int kam, bool smer);
+// The sense behind entry i of the elements of a route: it turns where the drawing is folded.
+bool smer_za_prvkem(const std::vector<PrvekCesty>& prvky, std::size_t i, bool smer);
 
 // How a train runs.
 struct Vlastnosti {
