@@ -95,7 +95,8 @@ bool vezmi_cestu(int c, int i, int v) {
     if (cesta_c(c).VC == vlak_c(v).posun)
         return false; // a train takes train routes, a shunt takes shunt routes
     if (cesta_c(c).Vlak >= 0 && cesta_c(c).Vlak != v)
-        return false; // asked before the sense: a route that is another train's turns nobody who runs across it
+        return false; // asked before the sense: a route that is another train's turns nobody who runs across
+                      // it
     if (!srovnej_smer(c, i, v))
         return false;
     if (i == 0 && !muze_vyjet(v, vlak_c(v).smer))

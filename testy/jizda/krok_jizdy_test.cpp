@@ -585,6 +585,16 @@ TEST_F(Jizda, RouteThatItsTrainHasRunIsTakenByNobodyElse) {
     EXPECT_EQ(vlak(v2).prvky.size(), 1u);
 }
 
+TEST_F(Jizda, TrainThatRunsAcrossTheBeginningOfAnotherTrainsRouteIsNotTurnedByIt) {
+    const int stojici = vlak_na(63, true, 11), jedouci = vlak_na(62, false, 12, {"943", "843"});
+    cesta(radek(0)); // to the right, run by the first train, which stands at its end
+    cesty[0].Umazat = static_cast<std::uint8_t>(cesty[0].prvky.size() - 1);
+    cesty[0].Vlak = static_cast<std::int16_t>(stojici);
+    krok();
+    EXPECT_FALSE(vlak(jedouci).smer);
+    EXPECT_EQ(rady_vozu(vlak(jedouci).vozy), (std::vector<Text>{"943", "843"}));
+}
+
 TEST_F(Jizda, RouteThatNoTrainHasTakenStays) {
     cesta(radek(0));
     cesta(radek(1));
