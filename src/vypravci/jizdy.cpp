@@ -44,9 +44,14 @@ using planovani::KrokTrasy;
 namespace {
 
 constexpr int kNikdy_s = 1'000'000;
-constexpr int kStavba_s = 10;   // a route takes so long, and with the speed of the clock more
-constexpr int kPredstih_s = 12; // and stands so long before it is needed
-constexpr int kPrejezd_s = 50;  // a crossing that has to close before the signal clears
+constexpr int kStavba_s = 10;           // a route takes so long, and with the speed of the clock more
+constexpr int kPredstih_s = 12;         // and stands so long before it is needed
+constexpr int kPrejezd_s = 50;          // a crossing that has to close before the signal clears
+constexpr int kNejdelePrednost_s = 420; // so long a train lets others go first
+constexpr int kZaSebou_s = 60;          // between two trains on a line
+constexpr int kNepotrebna_s = 90;       // a route without a use goes back so long after its order
+constexpr int kPostaveni_s = 30;        // a route is locked so long before the train comes to it
+constexpr int kObzorSlibu_s = 900;      // so far ahead promises are made
 constexpr int kPohledNaCekani_s = 4;
 constexpr int kHledani_s = 60;        // between two searches for another way
 constexpr int kCekatNaKolej_s = 150;  // so long a train waits for its own platform
@@ -59,6 +64,8 @@ std::map<std::pair<int, int>, std::size_t> trasa_podle_koncu; // start signal an
 std::vector<std::uint8_t> bez_tras;                           // routes that do not exist now
 std::int32_t posledni_krok_s = 0;
 std::int32_t dalsi_vyluky_s = 0;
+std::array<std::int32_t, uzel::kKonceTrati.size()> dalsi_souhlas_s{};
+std::int32_t slibeno_s = kZadny; // when the promises were made last
 
 const planovani::Sit& sit() {
     return sit_vlaku();
@@ -101,8 +108,10 @@ struct Postup {
     const Vlak& vlak;
     const Jizda& jizda;
     Hranice h;
-    double s = 0;        // seconds from now
-    double rychlost = 0; // line speed, km/h
+    double s = 0;                            // seconds from now
+    double rychlost = 0;                     // line speed, km/h
+    std::vector<Potreba>* potreby = nullptr; // written down as it goes
+    int kolej = kZadny;                      // the first stop on the way
 
     double sekund_na(double m) const {
         const double km_h = std::max(20.0, std::min<double>(vlak.max_rychlost, rychlost));
@@ -135,17 +144,29 @@ struct Postup {
     }
     // Over the entries from `od` on of the elements of a route.
     void projed(const std::vector<PrvekCesty>& prvky, std::size_t od) {
+        const double od_s = s - kPostaveni_s;
         for (std::size_t i = od; i < prvky.size(); ++i) {
             if (prvky[i].druh != druh_prvku::kolej) {
                 s += sekund_na(20);
+                zapis(prvky[i], od_s);
                 continue;
             }
             h.prvek = prvky[i].prvek;
             rychlost_na(h.prvek);
             h.smer = planovani::smer_za_prvkem(prvky, i, h.smer);
             s += sekund_na(delka_koleje(h.prvek));
+            const std::size_t bodu = h.bodu;
             obsluz(h.prvek, i + 1 == prvky.size());
+            zapis(prvky[i], od_s);
+            if (potreby != nullptr && h.bodu != bodu && kolej < 0 && i + 1 == prvky.size())
+                kolej = h.prvek;
         }
+    }
+    // It needs the element from the setting of the route until its tail has left it.
+    void zapis(const PrvekCesty& p, double od_s) const {
+        if (potreby != nullptr)
+            potreby->push_back({p.prvek, p.druh, static_cast<std::int32_t>(ted_s() + od_s),
+                                static_cast<std::int32_t>(ted_s() + s + sekund_na(vlak.delka) + 5)});
     }
 };
 
@@ -185,12 +206,14 @@ const std::vector<PrvekCesty>& prvky_cesty(const Cesta& c) {
 
 // --- the frontier
 
-void najdi_hranici(int v, Jizda& j) {
+// The train as it stands or runs, and over what is set for it: to its frontier.
+Postup postup_na_hranici(int v, Jizda& j, std::vector<Potreba>* potreby) {
     const Vlak& vlak = vlak_c(v);
     const auto obslouzeno = static_cast<std::size_t>(std::max<int>(vlak.stanice_index, 0)) + 1;
     Postup p{vlak, j, {kolej_cela(vlak), vlak.smer, 0}, 0, 0};
     p.h.bodu = planovani::preskoc_jmena(j.body, std::min(obslouzeno, j.body.size()));
     p.rychlost = std::max<int>(vlak.rychlost_trati, 40);
+    p.potreby = potreby;
     const Cesta* c = cesta_pod_vlakem(v);
     j.stoji = false;
     if (!vlak.muze_jet) {
@@ -225,6 +248,36 @@ void najdi_hranici(int v, Jizda& j) {
         prvni = false;
         j.stoji = false;
     }
+    return p;
+}
+
+// What is set for the train leads over the route.
+bool vede_pres(int v, const Cesta& hledana) {
+    const Vlak& vlak = vlak_c(v);
+    if (cesta_pod_vlakem(v) == &hledana)
+        return true;
+    const Cesta* c = cesta_pod_vlakem(v);
+    Hranice h{kolej_cela(vlak), vlak.smer, 0};
+    if (c != nullptr)
+        h.prvek = prvky_cesty(*c).back().prvek;
+    for (std::size_t i = 0; i < kNejvicKroku; ++i) {
+        const Cesta* d = nullptr;
+        for (const Cesta& k : cesty)
+            if (k.zacatek >= 0 && k.VC && k.Umazat == 0 && k.cas_ruseni < 0 && k.prvky.size() > 1 &&
+                k.prvky.front().prvek == h.prvek) {
+                if (&k == &hledana)
+                    return true;
+                d = &k;
+            }
+        if (d == nullptr)
+            return false;
+        h.prvek = prvky_cesty(*d).back().prvek;
+    }
+    return false;
+}
+
+void najdi_hranici(int v, Jizda& j) {
+    const Postup p = postup_na_hranici(v, j, nullptr);
     j.hranice = p.h;
     j.do_hranice_s = static_cast<std::int32_t>(std::min<double>(p.s, kNikdy_s));
     j.doma = j.hranice.bodu >= j.body.size();
@@ -336,6 +389,25 @@ void obnov_jizdu(int v) {
         najdi_cestu_vlaku(v, j, false);
         j.hledat_s = ted_s() + kHledani_s;
     }
+}
+
+// What the train will need within the next minutes, and where it will stand first.
+void slib_jizdy(int v) {
+    Jizda& j = jizdy[static_cast<std::size_t>(v)];
+    std::vector<Potreba> potreby;
+    j.useky.clear();
+    Postup p = postup_na_hranici(v, j, &potreby);
+    if (p.s < kNikdy_s)
+        for (const KrokTrasy& k : j.cesta) {
+            if (p.s > kObzorSlibu_s)
+                break;
+            p.h.smer = trasa_c(k.trasa).smer;
+            const double od_s = p.s;
+            p.projed(trasa_c(k.trasa).zaznam.prvky, 1);
+            j.useky.push_back({misto_prvku(k.prvek), trasa_c(k.trasa).konec_smer,
+                               static_cast<std::int32_t>(od_s), static_cast<std::int32_t>(p.s)});
+        }
+    slib_jizde(v, p.kolej, std::move(potreby));
 }
 
 // --- the banker
@@ -581,12 +653,100 @@ Posudek posud(int v, std::size_t trasa, std::span<const KrokTrasy> zbytek) {
     return {};
 }
 
+// --- who goes first
+
+// How much a minute of the train weighs.
+int vaha(const Vlak& v) {
+    switch (v.cislo2_platne ? v.druh2 : v.druh) {
+    case 1:
+    case 2:
+    case 3:
+    case 4:
+    case 8: return 4;
+    case 5:
+    case 6: return 3;
+    case 7: return 2;
+    default: return 1;
+    }
+}
+
+// A train for which v waits with its line: it would lose more behind v than v behind it. kZadny none.
+int ma_prednost(int v, const Jizda& j) {
+    const KrokTrasy& k = j.cesta.front();
+    if (!planovani::je_tratovy(k.prvek) || (j.ceka_od_s >= 0 && ted_s() - j.ceka_od_s > kNejdelePrednost_s))
+        return kZadny;
+    obnov_sliby_jizd();
+    const int misto = misto_prvku(k.prvek);
+    if (j.useky.empty() || j.useky.front().misto != misto)
+        return kZadny;
+    const Usek moje = j.useky.front();
+    const int kde = misto_prvku(j.hranice.prvek);
+    int prvni = kZadny;
+    for (std::size_t w = 0; w < jizdy.size(); ++w) {
+        const Jizda& jiny = jizdy[w];
+        if (static_cast<int>(w) == v || !jiny.jede || jiny.ceka_od_s >= 0)
+            continue;
+        for (const Usek& u : jiny.useky) {
+            if (u.misto == kde)
+                break; // it comes over the track on which v stands
+            if (u.misto != misto)
+                continue;
+            // Behind v it runs as slowly; against v it waits until the line is free.
+            const int ztrati =
+                u.smer == moje.smer ? moje.do_s + kZaSebou_s - u.do_s : moje.do_s + kZaSebou_s - u.od_s;
+            const int ztratim =
+                u.smer == moje.smer ? u.od_s + kZaSebou_s - moje.od_s : u.do_s + kZaSebou_s - moje.od_s;
+            if (ztrati > 30 && u.od_s >= moje.od_s - 30 && ztratim > 0 &&
+                ztrati * vaha(vlaky[w]) > ztratim * vaha(vlak_c(v)))
+                prvni = static_cast<int>(w);
+            break;
+        }
+    }
+    return prvni;
+}
+
+// --- routes that were ordered, and are of no use any more
+
+struct Objednana {
+    std::int16_t zacatek = kZadny, konec = kZadny;
+    std::int32_t vlak = 0; // number of the record
+    std::int32_t cas_s = 0;
+};
+std::vector<Objednana> objednane;
+
+// The train for which the route was set does not come, or not soon: it goes back, as it stands in the way.
+void zrus_nepotrebne() {
+    std::erase_if(objednane, [](const Objednana& o) { return cesta_v_zasobniku(o.zacatek, o.konec) < 0; });
+    for (const Objednana& o : objednane) {
+        if (ted_s() - o.cas_s < kNepotrebna_s || !vypravci::ma_navestidlo(o.zacatek))
+            continue;
+        const Cesta& c = cesta_c(cesta_v_zasobniku(o.zacatek, o.konec));
+        if (c.cas_ruseni >= 0 || c.Vlak >= 0 || !rc_mozne(o.zacatek))
+            continue;
+        const auto w =
+            std::find_if(vlaky.begin(), vlaky.end(), [&](const Vlak& v) { return v.cislo == o.vlak; });
+        const auto i = static_cast<std::size_t>(w - vlaky.begin());
+        const bool prijede = w != vlaky.end() && i < jizdy.size() && jizdy[i].jede &&
+                             vede_pres(static_cast<int>(i), c) && (w->muze_jet || do_odjezdu_s(*w) < 300);
+        if (prijede)
+            continue;
+        if (povel_navestidla(o.zacatek, "miRC")) {
+            Text veta("Ruší se cesta od návěstidla "_cz);
+            veta += jmeno_navestidla(o.zacatek);
+            veta += ", vlak po ní nepojede."_cz;
+            vypravci::rekni(o.vlak, std::move(veta));
+        }
+        return; // one a time: the table of routes may have changed
+    }
+}
+
 // A route is ordered.
 bool objednej(int v, std::size_t trasa) {
     const planovani::Trasa& t = trasa_c(trasa);
     if (!zvol_cestu(t.zaznam.zacatek, t.zaznam.konec, druh_volby::vlak))
         return false;
     const Vlak& vlak = vlak_c(v);
+    objednane.push_back({t.zaznam.zacatek, t.zaznam.konec, vlak.cislo, ted_s()});
     Text veta = jmeno_vlaku(vlak);
     veta += ": cesta "_cz;
     veta += jmeno_navestidla(t.zaznam.zacatek);
@@ -665,7 +825,9 @@ bool zkus(int v) {
     const std::size_t trasa = j.cesta.front().trasa;
     const int predstih = predstih_s(trasa, j.stoji);
     if (j.do_hranice_s > predstih) {
-        j.podivat_s = ted + std::min(60, std::max(1, j.do_hranice_s - predstih));
+        // Until an order lets it go the departure is nobody's guess.
+        const int nejdele = j.do_hranice_s >= kNikdy_s ? kPohledNaCekani_s : 60;
+        j.podivat_s = ted + std::min(nejdele, std::max(1, j.do_hranice_s - predstih));
         return false;
     }
     const Vlak& vlak = vlak_c(v);
@@ -674,6 +836,9 @@ bool zkus(int v) {
         return false;
     }
     Posudek p = posud(v, trasa, std::span(j.cesta).subspan(1));
+    if (p.co == Verdikt::lze)
+        if (const int w = ma_prednost(v, j); w >= 0)
+            p = {Verdikt::zatim_ne, Text("dává přednost vlaku "_cz) + jmeno_vlaku(vlak_c(w))};
     const bool dlouho = j.ceka_od_s >= 0 && ted - j.ceka_od_s > 60;
     if (p.co == Verdikt::kolej || p.co == Verdikt::neni || (p.co == Verdikt::zatim_ne && dlouho)) {
         const int e = j.cesta.front().prvek;
@@ -706,6 +871,39 @@ bool zkus(int v) {
 
 // --- consents
 
+// The train that asks at line end k would come onto the line: nobody is stuck by it.
+bool je_bezpecny_vjezd(int k, std::int32_t cislo) {
+    const auto radky = gvd_vlaky.s_cislem(cislo);
+    if (radky.empty())
+        return true;
+    const uzel::KonecTrati& konec = uzel::kKonceTrati[static_cast<std::size_t>(k)];
+    Jizda j;
+    const GvdVlak& r = radek_gvd(radky.front().radek);
+    udelej_body(j, dnesni_zastavky(r));
+    planovani::Ukol ukol;
+    ukol.body = j.body;
+    ukol.delka = r.delka;
+    ukol.druh = r.druh;
+    ukol.pocatek = planovani::Pocatek{konec.usek, true, 1, false};
+    ukol.bez_tras = bez_tras;
+    const auto cesta = najdi_trasy(sit(), ukol);
+    if (!cesta)
+        return true; // it comes, whatever becomes of it then
+    priprav_bankere();
+    uvazli(sit(), ucastnici, obsazena, bez_tras, uvazli_pred);
+    UcastnikBankere u;
+    u.misto = misto_prvku(konec.usek);
+    u.poradi = kNikdy_s;
+    u.cesta = *cesta;
+    u.konci = true;
+    ucastnici.push_back(u);
+    uvazli(sit(), ucastnici, obsazena, bez_tras, uvazli_po);
+    for (std::size_t i = 0; i < uvazli_po.size(); ++i)
+        if (uvazli_po[i] != 0 && (i >= uvazli_pred.size() || uvazli_pred[i] == 0))
+            return false;
+    return true;
+}
+
 void rozhodni_souhlas(int k) {
     const auto cislo = souhlasy.zada[static_cast<std::size_t>(k)];
     if (!cislo)
@@ -713,13 +911,23 @@ void rozhodni_souhlas(int k) {
     const uzel::KonecTrati& konec = uzel::kKonceTrati[static_cast<std::size_t>(k)];
     if (!vypravci::ma_navestidlo(konec.vjezd))
         return;
+    if (!je_bezpecny_vjezd(k, *cislo)) {
+        vypravci::rekni_cekani(*cislo, Text("Vlak "_cz) + text_cisla(*cislo) +
+                                           Text(" čeká u sousední stanice na souhlas: jinak by se vlaky "
+                                                "navzájem zablokovaly."_cz));
+        dalsi_souhlas_s[static_cast<std::size_t>(k)] = ted_s() + kPohledNaCekani_s;
+        return;
+    }
     Text veta("Souhlas pro vlak "_cz);
     veta += text_cisla(*cislo);
     veta += " od stanice "_cz;
     veta += nazev_stanice(konec.stanice);
     veta += ".";
-    if (dej_souhlas(k))
-        vypravci::rekni(*cislo, std::move(veta));
+    const std::int32_t ktery = *cislo; // the consent takes the question away
+    if (dej_souhlas(k)) {
+        vypravci::neceka(ktery);
+        vypravci::rekni(ktery, std::move(veta));
+    }
 }
 
 void obnov_vyluky() {
@@ -739,6 +947,9 @@ void zacni_jizdy() {
         trasa_podle_koncu.emplace(std::pair{trasa_c(i).zaznam.zacatek, trasa_c(i).zaznam.konec}, i);
     posledni_krok_s = 0;
     dalsi_vyluky_s = 0;
+    dalsi_souhlas_s = {};
+    slibeno_s = kZadny;
+    objednane.clear();
 }
 
 void krok_jizd() {
@@ -747,26 +958,34 @@ void krok_jizd() {
         for (Jizda& j : jizdy)
             j.podivat_s = j.hledat_s = 0;
         dalsi_vyluky_s = 0;
+        dalsi_souhlas_s = {};
     }
     posledni_krok_s = ted;
-    for (std::size_t k = 0; k < souhlasy.zada.size(); ++k)
-        if (souhlasy.zada[k])
-            rozhodni_souhlas(static_cast<int>(k));
     if (jizdy.size() < vlaky.size())
         jizdy.resize(vlaky.size());
     bool neco = false;
     for (std::size_t v = 0; v < vlaky.size() && !neco; ++v)
         neco = vlaky[v].cislo > 0 && !vlaky[v].posun &&
                (jizdy[v].podivat_s <= ted || jizdy[v].cislo != vlaky[v].cislo);
+    for (std::size_t k = 0; k < souhlasy.zada.size(); ++k)
+        neco = neco || (souhlasy.zada[k] && dalsi_souhlas_s[k] <= ted);
     if (!neco)
         return;
+    bool uklid = false;
     if (ted >= dalsi_vyluky_s) {
         obnov_vyluky();
+        uklid_rezervace();
+        uklid = true;
         dalsi_vyluky_s = ted + 30;
     }
     zapni_pv();
     for (std::size_t v = 0; v < vlaky.size(); ++v)
         obnov_jizdu(static_cast<int>(v));
+    for (std::size_t k = 0; k < souhlasy.zada.size(); ++k)
+        if (souhlasy.zada[k] && dalsi_souhlas_s[k] <= ted)
+            rozhodni_souhlas(static_cast<int>(k));
+    if (uklid)
+        zrus_nepotrebne();
     static std::vector<int> poradi;
     poradi.clear();
     for (std::size_t v = 0; v < vlaky.size(); ++v)
@@ -780,6 +999,17 @@ void krok_jizd() {
     for (const int v : poradi)
         for (std::size_t i = 0; i < kNejvicKroku && zkus(v); ++i)
             obnov_jizdu(v);
+}
+
+void obnov_sliby_jizd() {
+    if (slibeno_s == ted_s())
+        return;
+    slibeno_s = ted_s();
+    for (std::size_t v = 0; v < vlaky.size(); ++v) {
+        obnov_jizdu(static_cast<int>(v));
+        if (jizdy[v].jede)
+            slib_jizdy(static_cast<int>(v));
+    }
 }
 
 const std::vector<Jizda>& jizdy_vlaku() {

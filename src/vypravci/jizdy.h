@@ -18,6 +18,13 @@ struct Hranice {
     bool operator==(const Hranice&) const = default;
 };
 
+// A hop of a train to a place (misto_prvku), in that sense on it: when it begins and ends, seconds from now.
+struct Usek {
+    int misto = 0;
+    bool smer = false;
+    std::int32_t od_s = 0, do_s = 0;
+};
+
 // What the dispatcher has thought of a train; all of it is made again of what is seen when it is wanting.
 struct Jizda {
     std::int32_t cislo = 0;  // of the record: another one begins anew
@@ -32,6 +39,7 @@ struct Jizda {
     std::int32_t prvni_cislo = 0;
     std::vector<planovani::KrokTrasy> cesta; // from the frontier to the end
     Hranice cesta_od;                        // the frontier of that way
+    std::vector<Usek> useky;                 // its next hops, as they were when promises were made last
     std::int32_t podivat_s = 0;              // looked at not before
     std::int32_t hledat_s = 0;               // no other way is looked for before
     std::int32_t ceka_od_s = kZadny;         // since it waits
@@ -44,6 +52,11 @@ void zacni_jizdy();
 // --- once a step
 
 void krok_jizd();
+
+// --- by the promises
+
+// What each train will need as the desk stands, once a second at most.
+void obnov_sliby_jizd();
 
 // --- at any time, without change
 

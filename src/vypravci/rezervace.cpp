@@ -3,6 +3,7 @@
 
 #include "app/cas.h"
 #include "jizda/vlak.h"
+#include "vypravci/jizdy.h"
 
 #include <algorithm>
 #include <limits>
@@ -65,6 +66,7 @@ void zrus_slib(int v) {
 }
 
 bool volno_v_case(std::span<const PrvekCesty> prvky, int za_s, int trva_s, int v) {
+    obnov_sliby_jizd();
     const std::int32_t od = ted_s() + za_s;
     return std::none_of(vsechny.begin(), vsechny.end(), [&](const Slib& s) {
         return s.vlak != v && plati(s) && potrebuje(s, prvky, od, od + trva_s);
@@ -72,6 +74,7 @@ bool volno_v_case(std::span<const PrvekCesty> prvky, int za_s, int trva_s, int v
 }
 
 bool volno_pro_posun(std::span<const PrvekCesty> prvky, int za_s, int trva_s) {
+    obnov_sliby_jizd();
     const std::int32_t od = ted_s() + za_s;
     return std::none_of(vsechny.begin(), vsechny.end(), [&](const Slib& s) {
         return !s.posun && plati(s) && potrebuje(s, prvky, od, od + trva_s);
@@ -79,6 +82,7 @@ bool volno_pro_posun(std::span<const PrvekCesty> prvky, int za_s, int trva_s) {
 }
 
 int slibena(int kolej) {
+    obnov_sliby_jizd();
     for (const Slib& s : vsechny)
         if (s.kolej == kolej && plati(s))
             return s.vlak;
@@ -86,6 +90,7 @@ int slibena(int kolej) {
 }
 
 int volna_jeste_s(int kolej, int v) {
+    obnov_sliby_jizd();
     int nejdriv = std::numeric_limits<int>::max();
     for (const Slib& s : vsechny)
         if (s.vlak != v && !s.posun && plati(s))

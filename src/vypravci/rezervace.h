@@ -40,7 +40,8 @@ void slib_posunu(int v, int kolej, std::span<const PrvekCesty> prvky, int trva_s
 // Record v needs nothing any more.
 void zrus_slib(int v);
 
-// --- at any time, without change
+// --- at any time
+// What the trains need is worked out anew when somebody asks.
 
 // No other than v needs one of the elements from `za_s` seconds on for `trva_s` seconds.
 bool volno_v_case(std::span<const PrvekCesty> prvky, int za_s, int trva_s, int v);
