@@ -631,6 +631,18 @@ int jiny_na_zacatku(const planovani::Trasa& t, int v) {
     return kZadny;
 }
 
+// A route that is ordered and not commanded yet holds nothing that can be seen, and will all the same.
+const Cesta* ceka_pred_ni(const ZaznamCesty& z) {
+    for (const Cesta& c : cesty)
+        if (c.zacatek >= 0 && !c.prehozena)
+            for (std::size_t k = 1; k < c.prvky.size(); ++k)
+                if (std::find_if(z.prvky.begin() + 1, z.prvky.end(), [&](const PrvekCesty& p) {
+                        return p.druh == c.prvky[k].druh && p.prvek == c.prvky[k].prvek;
+                    }) != z.prvky.end())
+                    return &c;
+    return nullptr;
+}
+
 // May the train take route `trasa` now, with that rest of its way behind it?
 Posudek posud(int v, std::size_t trasa, std::span<const KrokTrasy> zbytek) {
     const planovani::Trasa& t = trasa_c(trasa);
@@ -645,6 +657,9 @@ Posudek posud(int v, std::size_t trasa, std::span<const KrokTrasy> zbytek) {
             p.druh == DruhPrekazky::konec || (p.druh == DruhPrekazky::usek && p.prvek == t.konec);
         return {konec ? Verdikt::kolej : Verdikt::zatim_ne, veta_prekazky(p)};
     }
+    if (const Cesta* c = ceka_pred_ni(t.zaznam); c != nullptr)
+        return {posledni_prvek(*c) == t.zaznam.prvky.back().prvek ? Verdikt::kolej : Verdikt::zatim_ne,
+                Text("v cestě je "_cz) + popis_cesty(*c)};
     if (brani_vstupu(t.konec))
         return {Verdikt::kolej, Text("kolej se drží volná pro vlak, který má vjet do uzlu"_cz)};
     // A single line is entered only when the station behind it can take the train.
@@ -721,6 +736,15 @@ void zrus_nepotrebne() {
         if (ted_s() - o.cas_s < kNepotrebna_s || !vypravci::ma_navestidlo(o.zacatek))
             continue;
         const Cesta& c = cesta_c(cesta_v_zasobniku(o.zacatek, o.konec));
+        if (!c.prehozena && c.varovani == 0) {
+            if (!odeber_cestu(o.zacatek, o.konec))
+                continue;
+            Text veta("Cesta od návěstidla "_cz);
+            veta += jmeno_navestidla(o.zacatek);
+            veta += " se dlouho nepostavila, odchází ze zásobníku."_cz;
+            vypravci::rekni(o.vlak, std::move(veta));
+            return;
+        }
         if (c.cas_ruseni >= 0 || c.Vlak >= 0 || !rc_mozne(o.zacatek))
             continue;
         const auto w =
@@ -819,7 +843,10 @@ bool zkus(int v) {
     }
     if (j.cesta.empty()) {
         j.podivat_s = ted + 10;
-        cekej(v, j, "nevede odtud cesta po jeho zastávkách"_cz);
+        cekej(v, j,
+              std::find(bez_tras.begin(), bez_tras.end(), 1) != bez_tras.end()
+                  ? "cesta po jeho zastávkách vede přes výluku nebo zablokované návěstidlo"_cz
+                  : "nevede odtud cesta po jeho zastávkách"_cz);
         return false;
     }
     const std::size_t trasa = j.cesta.front().trasa;

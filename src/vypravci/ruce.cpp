@@ -17,11 +17,13 @@
 #include "obsluha/vstup.h"
 #include "obsluha/vyber.h"
 #include "prvky/souhlasy.h"
+#include "technologie/provoz2.h"
 #include "technologie/technologie.h"
 #include "vypravci/vypravci.h"
 
 #include <algorithm>
 #include <optional>
+#include <vector>
 
 namespace {
 
@@ -122,6 +124,25 @@ bool zvol_cestu(int zacatek, int konec, int druh) {
     spocti_povel();
     odpovez_na_zpravy();
     return cesty.size() > pred || (!byla && cesty.front().zacatek >= 0);
+}
+
+bool odeber_cestu(int zacatek, int konec) {
+    if (!lze_jednat())
+        return false;
+    const std::vector<int> radky = radky_zasobniku();
+    const auto radek = std::find_if(radky.begin(), radky.end(), [=](int i) {
+        return cesta_c(i).zacatek == zacatek && cesta_c(i).konec == konec && !cesta_c(i).prehozena;
+    });
+    if (radek == radky.end())
+        return false;
+    klik(Druh::lblZasobnik_EZ, 0, Tlacitko::leve, false);
+    if (!technologie_kryje_stul())
+        return false;
+    klik_na_radek(provoz2.lstZasobnik, static_cast<int>(radek - radky.begin()));
+    klavesa({KodKlavesy::delete_});
+    klavesa({KodKlavesy::esc});
+    spocti_povel();
+    return radky_zasobniku().size() < radky.size();
 }
 
 bool povel_navestidla(int s, TextPohled polozka) {

@@ -24,6 +24,8 @@ bool ma_menu_koleje(int e);
 // Picks the route of the table from start signal to end; `druh` of cesty/nova_cesta.h: train, shunting,
 // calling-on. False when the desk took no such route. What the desk then warns of is confirmed.
 bool zvol_cestu(int zacatek, int konec, int druh);
+// A route that waits in the stack, its switches not commanded, is taken out of it on the screen of the stack.
+bool odeber_cestu(int zacatek, int konec);
 // An entry of the menu of signal s: "miRC", "miDN", "miSTUJ", "miZAM", ...
 bool povel_navestidla(int s, TextPohled polozka);
 // An entry of the menu of switch n: "miPLUS", ...
