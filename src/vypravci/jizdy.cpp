@@ -53,10 +53,13 @@ constexpr int kNepotrebna_s = 90;       // a route without a use goes back so lo
 constexpr int kPostaveni_s = 30;        // a route is locked so long before the train comes to it
 constexpr int kObzorSlibu_s = 900;      // so far ahead promises are made
 constexpr int kPohledNaCekani_s = 4;
-constexpr int kHledani_s = 60;        // between two searches for another way
-constexpr int kCekatNaKolej_s = 150;  // so long a train waits for its own platform
-constexpr int kVstup_min = 4;         // so long ahead entry tracks are kept free
-constexpr int kObjetiCestou_min = 12; // a stop in which a locomotive may run round its train
+constexpr int kHledani_s = 60;         // between two searches for another way
+constexpr int kCekatNaKolej_s = 150;   // a train waits for its own platform that is free so soon,
+constexpr int kCekatNaVlastni_s = 240; // and no longer than this;
+constexpr int kCekatNaJinou_s = 60;    // for any other track
+constexpr int kUvolnitPo_s = 180;      // so long it waits before routes that nobody uses go out of its way
+constexpr int kVstup_min = 4;          // so long ahead entry tracks are kept free
+constexpr int kObjetiCestou_min = 12;  // a stop in which a locomotive may run round its train
 constexpr std::size_t kNejvicKroku = 40;
 
 std::vector<Jizda> jizdy;
@@ -65,6 +68,7 @@ std::vector<std::uint8_t> bez_tras;                           // routes that do 
 std::int32_t posledni_krok_s = 0;
 std::int32_t dalsi_vyluky_s = 0;
 std::array<std::int32_t, uzel::kKonceTrati.size()> dalsi_souhlas_s{};
+std::int32_t dalsi_uvolneni_s = 0;
 std::int32_t slibeno_s = kZadny; // when the promises were made last
 
 const planovani::Sit& sit() {
@@ -822,6 +826,45 @@ void cekej(int v, Jizda& j, TextPohled proc) {
     vypravci::rekni_cekani(j.receno, veta_cekani(v, proc));
 }
 
+// A train, or a shunting movement that stands before it, is to run over the route.
+bool ma_uzivatele(const Cesta& c) {
+    for (std::size_t w = 0; w < vlaky.size(); ++w) {
+        const Vlak& vlak = vlaky[w];
+        if (vlak.cislo < 1 || vlak.prvky.empty())
+            continue;
+        if (c.VC ? !vlak.posun && vede_pres(static_cast<int>(w), c)
+                 : vlak.posun && drzi_prvek(vlak, prvni_prvek(c)))
+            return true;
+    }
+    return false;
+}
+
+// A route that somebody has left standing or waiting, and that nobody runs over, keeps a train from going on:
+// it goes back. Only where the whole desk is his.
+void uvolni_z_cesty(const ZaznamCesty& z) {
+    if (!stav_vypravciho.vse || ted_s() < dalsi_uvolneni_s)
+        return;
+    for (const Cesta& c : cesty) {
+        const bool stara = c.cas_stavby >= 0 && ted_s() - c.cas_stavby > kNepotrebna_s;
+        if (c.zacatek < 0 || c.Umazat != 0 || c.Vlak != kZadny || c.cas_ruseni >= 0 || !stara ||
+            ma_uzivatele(c))
+            continue;
+        const bool prekazi = std::any_of(c.prvky.begin() + 1, c.prvky.end(), [&](const PrvekCesty& p) {
+            return std::any_of(z.prvky.begin() + 1, z.prvky.end(),
+                               [&](const PrvekCesty& q) { return p.druh == q.druh && p.prvek == q.prvek; });
+        });
+        if (!prekazi)
+            continue;
+        dalsi_uvolneni_s = ted_s() + kPohledNaCekani_s * 2;
+        Text veta("Cesta "_cz);
+        veta += popis_cesty(c);
+        veta += " stojí v cestě a nikdo po ní nepojede, ruší se."_cz;
+        if (c.prehozena ? povel_navestidla(c.zacatek, "miRC") : odeber_cestu(c.zacatek, c.konec))
+            vypravci::rekni(0, std::move(veta));
+        return;
+    }
+}
+
 // The platform that it is planned on: how long until the one who stands there goes, at least.
 int uvolni_se_za_s(int e) {
     const int w = kdo_drzi(e);
@@ -866,12 +909,13 @@ bool zkus(int v) {
     if (p.co == Verdikt::lze)
         if (const int w = ma_prednost(v, j); w >= 0)
             p = {Verdikt::zatim_ne, Text("dává přednost vlaku "_cz) + jmeno_vlaku(vlak_c(w))};
-    const bool dlouho = j.ceka_od_s >= 0 && ted - j.ceka_od_s > 60;
-    if (p.co == Verdikt::kolej || p.co == Verdikt::neni || (p.co == Verdikt::zatim_ne && dlouho)) {
-        const int e = j.cesta.front().prvek;
-        const bool vlastni = uzel::je_kolej_hlavniho(e) && planovana_kolej(vlak) == e;
+    const int ceka = j.ceka_od_s >= 0 ? ted - j.ceka_od_s : 0;
+    const int e = j.cesta.front().prvek;
+    const bool vlastni = uzel::je_kolej_hlavniho(e) && planovana_kolej(vlak) == e;
+    const int trpelivost = vlastni ? kCekatNaVlastni_s : kCekatNaJinou_s;
+    if (p.co == Verdikt::kolej || p.co == Verdikt::neni || (p.co == Verdikt::zatim_ne && ceka > trpelivost)) {
         const bool pocka =
-            p.co == Verdikt::kolej && vlastni && uvolni_se_za_s(e) < kCekatNaKolej_s && !dlouho;
+            p.co == Verdikt::kolej && vlastni && ceka <= trpelivost && uvolni_se_za_s(e) < kCekatNaKolej_s;
         if (!pocka)
             if (const auto n = jina_kolej(v, j)) {
                 vezmi_nahradu(j, *n);
@@ -886,8 +930,11 @@ bool zkus(int v) {
         j.podivat_s = ted + 10;
         return false;
     }
-    if (p.co != Verdikt::cizi)
+    if (p.co != Verdikt::cizi) {
         cekej(v, j, p.proc);
+        if (ceka > kUvolnitPo_s)
+            uvolni_z_cesty(trasa_c(j.cesta.front().trasa).zaznam);
+    }
     if ((p.co == Verdikt::neni || (j.ceka_od_s >= 0 && ted - j.ceka_od_s > 120)) && ted >= j.hledat_s) {
         najdi_cestu_vlaku(v, j, true);
         j.hledat_s = ted + kHledani_s;
@@ -975,6 +1022,7 @@ void zacni_jizdy() {
     posledni_krok_s = 0;
     dalsi_vyluky_s = 0;
     dalsi_souhlas_s = {};
+    dalsi_uvolneni_s = 0;
     slibeno_s = kZadny;
     objednane.clear();
 }
@@ -986,6 +1034,7 @@ void krok_jizd() {
             j.podivat_s = j.hledat_s = 0;
         dalsi_vyluky_s = 0;
         dalsi_souhlas_s = {};
+        dalsi_uvolneni_s = 0;
     }
     posledni_krok_s = ted;
     if (jizdy.size() < vlaky.size())
