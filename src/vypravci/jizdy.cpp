@@ -24,6 +24,7 @@
 #include "uzel/prejezdy.h"
 #include "uzel/rychlosti.h"
 #include "uzel/trate.h"
+#include "uzel/vozidla.h"
 #include "uzel/vstupy.h"
 #include "vypravci/banker.h"
 #include "vypravci/pohled.h"
@@ -80,14 +81,18 @@ const planovani::Trasa& trasa_c(std::size_t i) {
 
 // --- what a train is
 
-// It can set off the other way as it stands: a cab or a locomotive at both ends.
-bool je_vratny(const Vlak& v) {
+// It turns by itself for its first route.
+bool otoci_se_sam(const Vlak& v) {
     if (v.vozy.empty())
         return false;
     const Text& celo = v.vozy.front().rada;
-    return v.druh == druh_vlaku::lv || je_ridici_vuz(celo) || je_loko(celo)
-               ? posledni_je_loko(v) || v.vozy.size() == 1
-               : false;
+    return je_ridici_vuz(celo) || celo == uzel::kVuzJednotky || v.druh == druh_vlaku::lv ||
+           je_loko(v.vozy.back().rada);
+}
+
+// It can be driven from either end: it turns, or the operator turns it.
+bool je_vratny(const Vlak& v) {
+    return otoci_se_sam(v) || (v.vozy.size() > 1 && posledni_je_loko(v));
 }
 
 bool jede_vlakem(const Vlak& v) {
@@ -331,8 +336,11 @@ void najdi_cestu_vlaku(int v, Jizda& j, bool obsazene) {
     ukol.body = j.body;
     ukol.delka = vlak.delka;
     ukol.druh = vlak.druh;
+    // At Hrabov the start of the service may have put a train down the wrong way round, whatever draws it.
+    const bool stoji = j.stoji && cely_na_koleji(vlak) && kolej_cela(vlak) == j.hranice.prvek;
+    const bool v_hrabove = planovani::stanice_elementu(j.hranice.prvek) == dopravna::vysni_hrabov;
     ukol.pocatek = planovani::Pocatek{j.hranice.prvek, j.hranice.smer, j.hranice.bodu,
-                                      j.stoji && je_vratny(vlak) && cely_na_koleji(vlak)};
+                                      stoji && (je_vratny(vlak) || v_hrabove)};
     udelej_prirazky(vlak, obsazene, v);
     ukol.prirazky = prirazky;
     ukol.bez_tras = bez_tras;
@@ -876,6 +884,12 @@ int uvolni_se_za_s(int e) {
     return do_odjezdu_s(vlak_c(w));
 }
 
+// It stands the other way round than it goes, and does not turn by itself.
+bool ma_se_otocit(const Vlak& vlak, const Jizda& j) {
+    return j.stoji && cely_na_koleji(vlak) && kolej_cela(vlak) == j.hranice.prvek &&
+           trasa_c(j.cesta.front().trasa).smer != vlak.smer && !otoci_se_sam(vlak);
+}
+
 // The next route of the train, when its time has come. True when one was ordered.
 bool zkus(int v) {
     Jizda& j = jizdy[static_cast<std::size_t>(v)];
@@ -921,6 +935,15 @@ bool zkus(int v) {
                 vezmi_nahradu(j, *n);
                 p = {};
             }
+    }
+    if (p.co == Verdikt::lze && ma_se_otocit(vlak, j)) {
+        if (povel_vlaku(kolej_cela(vlak), v, "miOtoc")) {
+            vypravci::rekni(zobrazene_cislo(vlak),
+                            jmeno_vlaku(vlak) + Text(" se otáčí: odjíždí na druhou stranu."_cz));
+            return true;
+        }
+        j.podivat_s = ted + 10;
+        return false;
     }
     if (p.co == Verdikt::lze) {
         if (objednej(v, j.cesta.front().trasa)) {
