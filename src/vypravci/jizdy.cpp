@@ -593,7 +593,7 @@ Text veta_prekazky(const Prekazka& p) {
     case DruhPrekazky::bocni_vyhybka:
         if (const Cesta* c = drzitel(druh_prvku::vyhybka, p.prvek); c != nullptr)
             return Text("v cestě je "_cz) + popis_cesty(*c);
-        return Text("výhybka "_cz) + text_cisla(p.prvek) + Text(" je pod závěrem"_cz);
+        return Text("zhlaví ještě není volné"_cz);
     default: return Text("zhlaví ještě není volné"_cz);
     }
 }
@@ -802,6 +802,8 @@ std::optional<Nahrada> jina_kolej(int v, const Jizda& j) {
         if (delka_koleje(n.prvek) < vlak.delka)
             continue;
         if (hlavni && ceka_na_kolej(n.prvek, v) >= 0)
+            continue;
+        if (const int w = slibena(n.prvek); w >= 0 && w != v)
             continue;
         if (dalsi != kBezTrasy && bez_tras[n.dalsi] != 0)
             continue;

@@ -13,7 +13,6 @@
 #include "obsluha/makra.h"
 #include "obsluha/menu_koleje.h"
 #include "obsluha/povely.h"
-#include "obsluha/volba.h"
 #include "obsluha/vstup.h"
 #include "obsluha/vyber.h"
 #include "prvky/souhlasy.h"
@@ -63,14 +62,14 @@ int polozka_vlaku(int v) {
     return -1;
 }
 
-// The panel of the desk that is open; the page of a train takes its place for a while.
-std::optional<Panel> otevreny_panel() {
+// The button of the panel that is open; the page of a train takes its place for a while.
+std::optional<Druh> tlacitko_panelu() {
     if (relief.lstZpravy.viditelny)
-        return Panel::zpravy;
+        return Druh::cmdZpravy;
     if (relief.lstDenik.viditelny)
-        return Panel::denik;
+        return Druh::cmDenik;
     if (relief.lblTabulka_vlaku.je(0) && relief.lblTabulka_vlaku[0].viditelny())
-        return Panel::tabulka;
+        return Druh::cmdTABULKA;
     return std::nullopt;
 }
 
@@ -117,7 +116,7 @@ bool zvol_cestu(int zacatek, int konec, int druh) {
         return false;
     }
     if (!klikni_konec(konec) || vyber.volba_konec < 0) {
-        zrus_volbu();
+        klavesa({KodKlavesy::esc});
         klik_na_plochu();
         return false;
     }
@@ -186,7 +185,7 @@ bool spoj_na_koleji(int e, int v, int w) {
 }
 
 bool odves_vuz(int e, int v, int i) {
-    const auto panel = otevreny_panel();
+    const auto panel = tlacitko_panelu();
     if (!povel_vlaku(e, v, "miInfo"))
         return false;
     const bool lze =
@@ -197,7 +196,7 @@ bool odves_vuz(int e, int v, int i) {
         spocti_povel();
     }
     if (panel)
-        prepni_panel(*panel);
+        klik(*panel, 0, Tlacitko::leve, false);
     return lze && vlak_c(v).vozy.size() < vozu;
 }
 
