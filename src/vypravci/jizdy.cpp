@@ -79,6 +79,14 @@ const planovani::Trasa& trasa_c(std::size_t i) {
     return sit().trasy[i];
 }
 
+// A route that he has ordered, and for whom. Whoever takes the desk over finds it by what is set.
+struct Objednana {
+    std::int16_t zacatek = kZadny, konec = kZadny;
+    std::int32_t vlak = 0; // number of the record
+    std::int32_t cas_s = 0;
+};
+std::vector<Objednana> objednane;
+
 // --- what a train is
 
 // It turns by itself for its first route.
@@ -195,6 +203,22 @@ const Cesta* cesta_pod_vlakem(int v) {
     return nullptr;
 }
 
+// The route was ordered for another train, or another one stands before its signal.
+bool je_pro_jineho(const Cesta& c, int v) {
+    if (c.Vlak == v)
+        return false;
+    for (const Objednana& o : objednane)
+        if (o.zacatek == c.zacatek && o.konec == c.konec)
+            return o.vlak != vlak_c(v).cislo;
+    const int e = prvni_prvek(c);
+    if (kolej_cela(vlak_c(v)) == e)
+        return false;
+    return std::any_of(vlaky.begin(), vlaky.end(), [e](const Vlak& w) {
+        return w.cislo > 0 && !w.posun && !w.prvky.empty() && w.prvky.back().prvek == e &&
+               w.prvky.back().druh == druh_prvku::kolej;
+    });
+}
+
 // A train route that is queued or stands, from the track on in that sense, and nobody has entered it.
 const Cesta* dalsi_cesta(int prvek, bool smer, int v) {
     for (const Cesta& c : cesty) {
@@ -202,7 +226,7 @@ const Cesta* dalsi_cesta(int prvek, bool smer, int v) {
             c.prvky.front().prvek != prvek || (c.Vlak >= 0 && c.Vlak != v))
             continue;
         const planovani::Trasa* t = trasa_cesty(c);
-        if (t == nullptr || t->smer == smer)
+        if ((t == nullptr || t->smer == smer) && !je_pro_jineho(c, v))
             return &c;
     }
     return nullptr;
@@ -632,14 +656,22 @@ int predstih_s(std::size_t trasa, bool stoji) {
     return s;
 }
 
-// Another train has its head on the track before the signal: the route would be its own.
+// Another train is before it at the track where the route begins: it would take the route.
 int jiny_na_zacatku(const planovani::Trasa& t, int v) {
     const int e = t.zaznam.prvky.front().prvek;
-    for (std::size_t w = 0; w < vlaky.size(); ++w)
-        if (static_cast<int>(w) != v && vlaky[w].cislo > 0 && !vlaky[w].posun && !vlaky[w].prvky.empty() &&
-            vlaky[w].prvky.back().prvek == e && vlaky[w].prvky.back().druh == druh_prvku::kolej &&
-            kolej_cela(vlak_c(v)) != e)
+    if (kolej_cela(vlak_c(v)) == e)
+        return kZadny;
+    const Jizda& moje = jizdy[static_cast<std::size_t>(v)];
+    for (std::size_t w = 0; w < vlaky.size(); ++w) {
+        const Vlak& vlak = vlaky[w];
+        if (static_cast<int>(w) == v || vlak.cislo < 1 || vlak.posun || vlak.prvky.empty())
+            continue;
+        const bool stoji_tam = vlak.prvky.back().prvek == e && vlak.prvky.back().druh == druh_prvku::kolej;
+        const Jizda& j = jizdy[w];
+        if (stoji_tam || (j.jede && !j.doma && j.hranice.prvek == e && j.hranice.smer == moje.hranice.smer &&
+                          j.do_hranice_s < moje.do_hranice_s))
             return static_cast<int>(w);
+    }
     return kZadny;
 }
 
@@ -733,13 +765,6 @@ int ma_prednost(int v, const Jizda& j) {
 }
 
 // --- routes that were ordered, and are of no use any more
-
-struct Objednana {
-    std::int16_t zacatek = kZadny, konec = kZadny;
-    std::int32_t vlak = 0; // number of the record
-    std::int32_t cas_s = 0;
-};
-std::vector<Objednana> objednane;
 
 // The train for which the route was set does not come, or not soon: it goes back, as it stands in the way.
 void zrus_nepotrebne() {
