@@ -696,7 +696,7 @@ Posudek posud(int v, std::size_t trasa, std::span<const KrokTrasy> zbytek) {
         return {Verdikt::zatim_ne, jmeno_vlaku(vlak_c(w)) + Text(" je před ním"_cz)};
     if (bez_tras[trasa] != 0)
         return {Verdikt::neni, Text("cesta je vyloučena"_cz)};
-    if (const Prekazka p = prekazka_cesty(t.zaznam, true)) {
+    if (const Prekazka p = prekazka_cesty(t, true)) {
         const bool konec =
             p.druh == DruhPrekazky::konec || (p.druh == DruhPrekazky::usek && p.prvek == t.konec);
         return {konec ? Verdikt::kolej : Verdikt::zatim_ne, veta_prekazky(p)};

@@ -120,14 +120,26 @@ bool je_vyloucena(const ZaznamCesty& z) {
                        [](const PrvekCesty& p) { return p.druh == druh_prvku::kolej && ma_vyluku(p.prvek); });
 }
 
-Prekazka prekazka_cesty(const ZaznamCesty& z, bool vlakova_cesta) {
+namespace {
+
+Prekazka prekazka_prvku(const ZaznamCesty& z, std::size_t prvku, bool vlakova_cesta) {
     static Cesta c;
     c.zacatek = z.zacatek;
     c.konec = z.konec;
-    c.prvky.assign(z.prvky.begin(), z.prvky.end());
+    c.prvky.assign(z.prvky.begin(), z.prvky.begin() + static_cast<std::ptrdiff_t>(prvku));
     c.VC = vlakova_cesta;
     c.prejezd = kBezPrejezdu;
     return prekazka_staveni(c);
+}
+
+} // namespace
+
+Prekazka prekazka_cesty(const planovani::Trasa& t, bool vlakova_cesta) {
+    return prekazka_prvku(t.zaznam, t.tabulkovych, vlakova_cesta);
+}
+
+Prekazka prekazka_cesty(const ZaznamCesty& z, bool vlakova_cesta) {
+    return prekazka_prvku(z, z.prvky.size(), vlakova_cesta);
 }
 
 int cesta_v_zasobniku(int zacatek, int konec) {

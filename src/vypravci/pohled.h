@@ -40,7 +40,9 @@ int kdo_drzi(int e);
 bool ma_vyluku(int e);
 // The route of the table leads over a possession, or from a blocked signal: it does not exist for him.
 bool je_vyloucena(const ZaznamCesty& z);
-// What would keep the route from being set now.
+// What would keep the route from being set now. Only the elements of the table are asked for: the further
+// sections of a line may have a train on them that runs ahead.
+Prekazka prekazka_cesty(const planovani::Trasa& t, bool vlakova);
 Prekazka prekazka_cesty(const ZaznamCesty& z, bool vlakova);
 // The route that is queued, set, or run by a train, from start to end; kZadny none.
 int cesta_v_zasobniku(int zacatek, int konec);

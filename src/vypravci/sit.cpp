@@ -488,8 +488,10 @@ Sit sestav_sit(const Bajty& top, const Bajty& zat) {
     for (ZaznamCesty& z : cti_cesty(zat)) {
         if (z.prvky.empty())
             continue;
-        Trasa t{std::move(z), false, 0};
+        Trasa t;
+        t.zaznam = std::move(z);
         t.smer = smer_navestidla(t.zaznam.zacatek);
+        t.tabulkovych = t.zaznam.prvky.size();
         // To Kamenec the sense turns on the way: the route leads on as the train runs before it.
         pridej_useky(sit, t.zaznam, t.smer);
         for (std::size_t i = 0; i < t.zaznam.prvky.size(); ++i)

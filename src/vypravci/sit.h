@@ -21,6 +21,7 @@ namespace planovani {
 struct Trasa {
     ZaznamCesty zaznam;
     bool smer = false;
+    std::size_t tabulkovych = 0;      // elements that the table names; the sections behind them follow
     std::size_t posledni_vyhybka = 0; // index behind which its speed limit ends; 0 none
     int konec = 0;                    // its last track,
     bool konec_smer = false;          // and the sense of a train on it
