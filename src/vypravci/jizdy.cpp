@@ -522,6 +522,11 @@ std::span<const int> vstupni_koleje(int prvek, int& stanice) {
             stanice = s.stanice;
             return s.koleje;
         }
+    static constexpr std::array kDepoVh = {uzel::kBranaVh.kolej};
+    if (ma(kDepoVh)) {
+        stanice = dopravna::dkv_vh;
+        return kDepoVh;
+    }
     return {};
 }
 
