@@ -739,7 +739,6 @@ int ma_prednost(int v, const Jizda& j) {
     const KrokTrasy& k = j.cesta.front();
     if (!planovani::je_tratovy(k.prvek) || (j.ceka_od_s >= 0 && ted_s() - j.ceka_od_s > kNejdelePrednost_s))
         return kZadny;
-    obnov_sliby_jizd();
     const int misto = misto_prvku(k.prvek);
     if (j.useky.empty() || j.useky.front().misto != misto)
         return kZadny;
@@ -951,6 +950,9 @@ bool zkus(int v) {
         j.podivat_s = ted + 10;
         return false;
     }
+    obnov_sliby_jizd(); // before the way is looked at: it makes ways anew that are wanting
+    if (j.cesta.empty() || j.cesta.front().trasa != trasa)
+        return false;
     Posudek p = posud(v, trasa, std::span(j.cesta).subspan(1));
     if (p.co == Verdikt::lze)
         if (const int w = ma_prednost(v, j); w >= 0)
