@@ -58,6 +58,7 @@ constexpr int kHledani_s = 60;         // between two searches for another way
 constexpr int kCekatNaKolej_s = 150;   // a train waits for its own platform that is free so soon,
 constexpr int kCekatNaVlastni_s = 240; // and no longer than this;
 constexpr int kCekatNaJinou_s = 60;    // for any other track
+constexpr int kJinaKolejPo_s = 16;     // between two looks for another track
 constexpr int kUvolnitPo_s = 180;      // so long it waits before routes that nobody uses go out of its way
 constexpr int kVstup_min = 4;          // so long ahead entry tracks are kept free
 constexpr int kObjetiCestou_min = 12;  // a stop in which a locomotive may run round its train
@@ -368,9 +369,10 @@ void najdi_cestu_vlaku(int v, Jizda& j, bool obsazene) {
     udelej_prirazky(vlak, obsazene, v);
     ukol.prirazky = prirazky;
     ukol.bez_tras = bez_tras;
-    j.cesta.clear();
-    if (auto cesta = najdi_trasy(sit(), ukol))
-        j.cesta = std::move(*cesta);
+    auto cesta = najdi_trasy(sit(), ukol);
+    if (!cesta && obsazene)
+        return; // the way that there is stays
+    j.cesta = cesta ? std::move(*cesta) : std::vector<KrokTrasy>{};
     j.cesta_od = j.hranice;
 }
 
@@ -950,13 +952,18 @@ bool zkus(int v) {
         j.podivat_s = ted + 10;
         return false;
     }
-    obnov_sliby_jizd(); // before the way is looked at: it makes ways anew that are wanting
-    if (j.cesta.empty() || j.cesta.front().trasa != trasa)
-        return false;
+    // Promises are worked out where they are asked for; that makes ways anew that are wanting.
+    const auto se_sliby = [&] {
+        obnov_sliby_jizd();
+        return !j.cesta.empty() && j.cesta.front().trasa == trasa;
+    };
     Posudek p = posud(v, trasa, std::span(j.cesta).subspan(1));
-    if (p.co == Verdikt::lze)
+    if (p.co == Verdikt::lze && planovani::je_tratovy(j.cesta.front().prvek)) {
+        if (!se_sliby())
+            return false;
         if (const int w = ma_prednost(v, j); w >= 0)
             p = {Verdikt::zatim_ne, Text("dává přednost vlaku "_cz) + jmeno_vlaku(vlak_c(w))};
+    }
     const int ceka = j.ceka_od_s >= 0 ? ted - j.ceka_od_s : 0;
     const int e = j.cesta.front().prvek;
     const bool vlastni = uzel::je_kolej_hlavniho(e) && planovana_kolej(vlak) == e;
@@ -964,11 +971,15 @@ bool zkus(int v) {
     if (p.co == Verdikt::kolej || p.co == Verdikt::neni || (p.co == Verdikt::zatim_ne && ceka > trpelivost)) {
         const bool pocka =
             p.co == Verdikt::kolej && vlastni && ceka <= trpelivost && uvolni_se_za_s(e) < kCekatNaKolej_s;
-        if (!pocka)
+        if (!pocka && ted >= j.nahrada_s) {
+            j.nahrada_s = ted + kJinaKolejPo_s;
+            if (!se_sliby())
+                return false;
             if (const auto n = jina_kolej(v, j)) {
                 vezmi_nahradu(j, *n);
                 p = {};
             }
+        }
     }
     if (p.co == Verdikt::lze && ma_se_otocit(vlak, j)) {
         if (povel_vlaku(kolej_cela(vlak), v, "miOtoc")) {

@@ -41,6 +41,7 @@ struct Jizda {
     Hranice cesta_od;                        // the frontier of that way
     std::vector<Usek> useky;                 // its next hops, as they were when promises were made last
     std::int32_t podivat_s = 0;              // looked at not before
+    std::int32_t nahrada_s = 0;              // no other track before
     std::int32_t hledat_s = 0;               // no other way is looked for before
     std::int32_t ceka_od_s = kZadny;         // since it waits
 };
