@@ -6,6 +6,7 @@
 #include "prvky/jmena.h"
 #include "uzel/dopravny.h"
 #include "vypravci/jizdy.h"
+#include "vypravci/posun.h"
 #include "vypravci/rezervace.h"
 #include "vypravci/ruce.h"
 
@@ -21,6 +22,7 @@ void zacni() {
     stav_vypravciho.cekani.clear();
     zapomen_rezervace();
     zacni_jizdy();
+    zacni_posun();
 }
 
 auto misto_cekani(std::int32_t vlak) {
@@ -116,6 +118,7 @@ void krok() {
     if (!stav_vypravciho.zapnut || simulace.pauza || !lze_jednat())
         return;
     odpovez_na_zpravy();
+    krok_posunu();
     krok_jizd();
 }
 

@@ -1,0 +1,928 @@
+// vypravci/posun.cpp - what each shunting movement, and each train that waits for one, does next.
+//
+// There is no plan that could go wrong: every few seconds all of them are looked at anew, and each that
+// stands gets the single next act that its place and its timetable ask for.
+#include "vypravci/posun.h"
+
+#include "app/cas.h"
+#include "cesty/cesta.h"
+#include "cesty/dotazy.h"
+#include "cesty/nova_cesta.h"
+#include "gvd/druhy_vlaku.h"
+#include "gvd/gvd.h"
+#include "jizda/na_koleji.h"
+#include "jizda/poslusnost.h"
+#include "jizda/souprava.h"
+#include "jizda/zastavky.h"
+#include "prvky/souhlasy.h"
+#include "prvky/volnost.h"
+#include "relief/relief.h"
+#include "uzel/dopravny.h"
+#include "uzel/posun.h"
+#include "uzel/vozidla.h"
+#include "vypravci/pohled.h"
+#include "vypravci/posun_sit.h"
+#include "vypravci/rezervace.h"
+#include "vypravci/ruce.h"
+#include "vypravci/vypravci.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+#include <limits>
+#include <optional>
+#include <span>
+
+namespace {
+
+constexpr int kObhlidka_s = 2;     // between two looks
+constexpr int kNastup_s = 15 * 60; // before its departure a set goes to its platform; earlier trains have it
+constexpr int kNajdiJinou_s = 7 * 60; // before its departure a set takes another platform for the one taken
+constexpr int kVystup_s = 90;         // the passengers of a train that ends get off,
+constexpr int kVykladka_s = 10 * 60;  // and the bags out of a van
+constexpr int kNaleha_s = 8 * 60;     // who has waited so long goes before trains that are only expected
+constexpr int kVyckavani_s = 4 * 60;  // before its departure a train gives up waiting for another locomotive
+constexpr int kStrojDrzen_min = 120;  // before the departure of its next train a locomotive stays for it
+constexpr int kOdjezdPovelem_s = 60;  // before its time a train is given the order to leave
+constexpr int kPretah_s =
+    4 * 60; // for which a section before the station is free for a set that changes there
+constexpr double kPosun_ms = 7.0;      // metres a second
+constexpr double kUrcena_m = 8000;     // metres by which the locomotive that goes already is preferred,
+constexpr double kBezCesty_m = 50'000; // and by which one is avoided whose way is blocked
+constexpr int kPriprava_s = 15;        // until the signal of a shunt route clears
+
+constexpr TextPohled kZaloha = "ZAL";
+
+// What is kept of a record between two looks: reasons and clocks only.
+struct Pamet {
+    std::int32_t cislo = 0;   // of the record, else it is another one
+    std::int32_t od_s = 0;    // since when it stands with nothing done
+    std::int32_t zadatel = 0; // number of the train for which the locomotive goes
+    bool veden = false;       // it was given a route of ours
+};
+std::vector<Pamet> pamet;
+std::int32_t dalsi_obhlidka_s = 0;
+
+Pamet& pamet_c(int v) {
+    if (pamet.size() < vlaky.size())
+        pamet.resize(vlaky.size());
+    Pamet& p = pamet[static_cast<std::size_t>(v)];
+    if (p.cislo != vlak_c(v).cislo)
+        p = {vlak_c(v).cislo, ted_s(), 0, false};
+    return p;
+}
+
+// A train that needs a locomotive at one of its ends.
+struct Zadost {
+    int vlak = kZadny;
+    int kolej = 0;
+    Strana strana = Strana::libovolna;
+    int rada = 0;         // wanted series
+    bool dvojice = false; // two of them
+    int odjezd_s = 0;     // until its departure by the timetable; negative: late
+    int stroj = kZadny;   // record that comes
+};
+std::vector<Zadost> zadosti;
+
+// --- places
+
+int poradi_na_koleji(int v, int e, std::size_t& vlaku) {
+    const int zaznam = zaznam_koleje(e);
+    vlaku = 0;
+    if (zaznam < 0)
+        return -1;
+    const auto& seznam = kolej_vlaky_c(zaznam).vlaky;
+    if (seznam.front() < 0)
+        return -1;
+    vlaku = seznam.size();
+    const auto misto = std::find(seznam.begin(), seznam.end(), static_cast<std::int16_t>(v));
+    return misto == seznam.end() ? -1 : static_cast<int>(misto - seznam.begin());
+}
+
+// The record next to v on track e, on that side; kZadny none.
+int soused(int v, int e, Strana strana) {
+    std::size_t vlaku = 0;
+    const int i = poradi_na_koleji(v, e, vlaku);
+    if (i < 0)
+        return kZadny;
+    const int j = strana == Strana::leva ? i - 1 : i + 1;
+    return j < 0 || static_cast<std::size_t>(j) >= vlaku
+               ? kZadny
+               : kolej_vlaky_c(zaznam_koleje(e)).vlaky[static_cast<std::size_t>(j)];
+}
+
+// A route stands or is queued for the record, or it runs on one.
+bool ma_cestu(int v) {
+    const int e = kolej_cela(vlak_c(v));
+    for (const Cesta& c : cesty) {
+        if (c.zacatek < 0)
+            continue;
+        // A movement has its route until its head comes to the end of the last track; a train that stops
+        // there keeps it.
+        if (c.Vlak == v && c.VC != vlak_c(v).posun && (!c.VC || c.Umazat < posledni_index(c)))
+            return true;
+        if (c.Umazat == 0 && prvni_prvek(c) == e && c.VC != vlak_c(v).posun && c.cas_ruseni < 0 &&
+            (c.Vlak < 0 || c.Vlak == v)) {
+            const Strana kam = smer_cesty(c) ? Strana::prava : Strana::leva;
+            if (soused(v, e, kam) == kZadny)
+                return true;
+        }
+    }
+    return false;
+}
+
+bool stoji(int v) {
+    const Vlak& t = vlak_c(v);
+    return t.cislo > 0 && !t.prvky.empty() && t.prvky.back().druh == druh_prvku::kolej && !ma_cestu(v);
+}
+
+bool je_obsazena(int e) {
+    return vlak_na_koleji(e) || (je_kolej(e) && relief.kolej[e].barva == barvy::cervena);
+}
+
+// --- consists
+
+double rada_cela(const Vlak& v) {
+    return v.vozy.empty() ? 0 : rada_vozu(v.vozy.front().rada);
+}
+
+bool ma_vozy(const Vlak& v) {
+    return std::any_of(v.vozy.begin(), v.vozy.end(), [](const Vuz& vuz) { return !je_loko(vuz.rada); });
+}
+
+bool jsou_zalohy(const Vlak& v) {
+    return std::all_of(v.vozy.begin(), v.vozy.end(), [](const Vuz& vuz) { return vuz.urceni == kZaloha; });
+}
+
+// The train from which the locomotive came off: the record of the same number that has none at its head.
+int vlastni_vlak(int v) {
+    for (std::size_t i = 0; i < vlaky.size(); ++i)
+        if (static_cast<int>(i) != v && vlaky[i].cislo == vlak_c(v).cislo && !jen_loko(vlaky[i]))
+            return static_cast<int>(i);
+    return kZadny;
+}
+
+// A locomotive by itself. A railcar is one only while coaches of its train wait for it.
+bool je_stroj(int v) {
+    const Vlak& t = vlak_c(v);
+    if (!jen_loko(t))
+        return false;
+    return rada_cela(t) < kPrvniMotorovyVuz || vlastni_vlak(v) != kZadny;
+}
+
+std::int32_t urceni_cisla(const Vlak& v) {
+    const auto cislo = v.vozy.empty() ? std::nullopt : ciselny_text(v.vozy.front().urceni);
+    return cislo && *cislo > 0 && *cislo < 1e6 ? static_cast<std::int32_t>(*cislo) : 0;
+}
+
+const GvdVlak* radek_vlaku(std::int32_t cislo) {
+    const auto radky = gvd_vlaky.s_cislem(cislo);
+    return radky.empty() ? nullptr : &radek_gvd(radky.front().radek);
+}
+
+// Minutes from now until the train of the number leaves the main station, today or in the night behind
+// midnight; a large number when it does not come there any more.
+int do_odjezdu_vlaku_min(std::int32_t cislo) {
+    constexpr int kNikdy = std::numeric_limits<int>::max() / 2;
+    const GvdVlak* r = radek_vlaku(cislo);
+    if (r == nullptr)
+        return kNikdy;
+    for (const ZastavkaGvd& z : r->zastavky)
+        if (z.stanice == dopravna::tesk && z.odjezd >= 0)
+            return (z.odjezd - minuta_dne(cas_hodin()) + kDen_min) % kDen_min;
+    return kNikdy;
+}
+
+Text jmeno_posunu(int v) {
+    const Vlak& t = vlak_c(v);
+    if (je_stroj(v)) {
+        Text jmeno("Lokomotiva "_cz);
+        jmeno += t.vozy.front().rada;
+        return jmeno;
+    }
+    Text jmeno("Souprava "_cz);
+    jmeno += jmeno_vlaku(t);
+    return jmeno;
+}
+
+// "koleje 5 (Tesk hl. n.)", behind a preposition.
+Text koleje(int e) {
+    constexpr std::size_t kSlovo = 5; // of "kolej"
+    Text t("koleje"_cz);
+    t += jmeno_koleje(e).substr(kSlovo);
+    return t;
+}
+
+// --- movements
+
+enum class Posun : std::uint8_t { jede, na_miste, ceka, bez_cesty };
+
+// The movement goes on to the track `kam`; `ke` stands there already and is to be met. It starts only when it
+// can run up to where it turns, or to its end, in one go.
+Posun posun_na(int v, int kam, Strana strana, int ke, bool naleha) {
+    const Vlak& t = vlak_c(v);
+    const int e = kolej_cela(t);
+    if (e == kam && strana == Strana::libovolna)
+        return Posun::na_miste;
+    UkolPosunu ukol{e, t.delka, true, true, kam, strana};
+    if (cely_na_koleji(t)) {
+        ukol.smi_vlevo = soused(v, e, Strana::leva) == kZadny;
+        ukol.smi_vpravo = soused(v, e, Strana::prava) == kZadny;
+    } else {
+        (t.smer ? ukol.smi_vlevo : ukol.smi_vpravo) = false;
+    }
+    const auto cesta = najdi_posun(ukol);
+    if (!cesta)
+        return Posun::bez_cesty;
+    const std::size_t useku = bez_obratu(*cesta, 0);
+    static std::vector<PrvekCesty> prvky;
+    prvky.clear();
+    double delka_m = t.delka;
+    for (std::size_t i = 0; i < useku; ++i) {
+        const ZaznamCesty& z = sit_posunu().trasy[cesta->trasy[i]].zaznam;
+        const int konec = z.prvky.back().prvek;
+        if (prekazka_cesty(z, false) || ((konec != kam || ke == kZadny) && je_obsazena(konec)))
+            return Posun::ceka;
+        for (auto p = z.prvky.begin() + 1; p != z.prvky.end(); ++p) {
+            prvky.push_back(*p);
+            delka_m +=
+                p->druh == druh_prvku::kolej ? sit_posunu().delky[static_cast<std::size_t>(p->prvek)] : 20;
+        }
+    }
+    const int cil = prvky.back().prvek;
+    if (const int komu = slibena(cil); komu != kZadny && komu != v && komu != ke)
+        return Posun::ceka;
+    const int trva_s = kPriprava_s * static_cast<int>(useku) + static_cast<int>(delka_m / kPosun_ms);
+    if (!naleha && !volno_pro_posun(prvky, 0, trva_s))
+        return Posun::ceka;
+    for (std::size_t i = 0; i < useku; ++i) {
+        const ZaznamCesty& z = sit_posunu().trasy[cesta->trasy[i]].zaznam;
+        if (!zvol_cestu(z.zacatek, z.konec, druh_volby::posun))
+            return i == 0 ? Posun::ceka : Posun::jede;
+    }
+    slib_posunu(v, kam, prvky, trva_s);
+    pamet_c(v).od_s = ted_s();
+    pamet_c(v).veden = true;
+    Text veta = jmeno_posunu(v);
+    veta += " posunuje z "_cz;
+    veta += koleje(e);
+    veta += " na "_cz;
+    veta += jmeno_koleje(cil);
+    veta += "."_cz;
+    vypravci::rekni(t.cislo, std::move(veta));
+    return Posun::jede;
+}
+
+// --- locomotives for trains
+
+int odjezd_za_s(const Vlak& t) {
+    const auto i = static_cast<std::size_t>(std::max<int>(t.stanice_index, 0));
+    if (i >= t.zastavky.size() || t.zastavky[i].odjezd < 0)
+        return std::numeric_limits<int>::max() / 2;
+    return (t.zastavky[i].odjezd - cas_min()) * 60 - cas_hodin() % 60;
+}
+
+int stanice_stani(const Vlak& t) {
+    const auto i = static_cast<std::size_t>(std::max<int>(t.stanice_index, 0));
+    return i < t.zastavky.size() ? t.zastavky[i].stanice : dopravna::zadna;
+}
+
+bool ceka_na_povel(const Vlak& t) {
+    const auto i = static_cast<std::size_t>(std::max<int>(t.stanice_index, 0));
+    return i < t.zastavky.size() && t.zastavky[i].odjezd_realny == kNaPovel;
+}
+
+// The head can draw it, or has a cab.
+bool ma_celo(const Vlak& t) {
+    return !t.vozy.empty() && (je_loko(t.vozy.front().rada) || je_ridici_vuz(t.vozy.front().rada));
+}
+
+bool stoji_vlak(int v) {
+    const Vlak& t = vlak_c(v);
+    return t.cislo > 0 && !t.posun && !t.muze_jet && cely_na_koleji(t);
+}
+
+void pozadej(int v) {
+    const Vlak& t = vlak_c(v);
+    const int e = kolej_cela(t), stanice = stanice_stani(t);
+    if (!je_v(stanice, {dopravna::tesk, dopravna::hajovice, dopravna::dolni}) ||
+        stanice_prvku(e) != stanice || t.vozy.empty() || stoji_na_posledni(t) ||
+        (ma_loko(t) && !ceka_na_povel(t)))
+        return;
+    const Strana celo = t.smer ? Strana::prava : Strana::leva, konec = t.smer ? Strana::leva : Strana::prava;
+    const bool vymena = t.loko_rada2 > 0 && stanice != dopravna::dolni;
+    const int rada = vymena ? t.loko_rada2 : t.loko_rada;
+    const bool druhe = vymena && (t.priznaky & priznak_vlaku::druhe_loko) != 0;
+    const int odjezd = odjezd_za_s(t);
+    if (!ma_celo(t) || (druhe && !druhy_je_loko(t)))
+        zadosti.push_back({v, e, celo, rada, druhe && !ma_celo(t), odjezd, kZadny});
+    if (stanice != dopravna::dolni && (t.priznaky & priznak_vlaku::pripraz) != 0 && !posledni_je_loko(t))
+        zadosti.push_back({v, e, konec, vymena ? t.loko_rada2 : t.loko_rada, false, odjezd, kZadny});
+}
+
+// How badly the locomotive suits; -1 not at all.
+int vhodnost(int stroj, const Zadost& z) {
+    const Vlak& s = vlak_c(stroj);
+    const Vlak& t = vlak_c(z.vlak);
+    const int rada = static_cast<int>(rada_cela(s));
+    const std::int32_t pro = urceni_cisla(s);
+    int cena = s.vozy.front().urceni == kZaloha ? 3000 : 0;
+    if (s.cislo == t.cislo &&
+        s.druh == t.druh) // it came off this train: it runs round, or another one takes over
+        return rada == z.rada || z.rada == t.loko_rada ? 0 : -1;
+    if (pro == t.cislo)
+        return 0;
+    if (pro != 0 && do_odjezdu_vlaku_min(pro) < kStrojDrzen_min)
+        return -1;
+    if (rada >= kPrvniMotorovyVuz)
+        return -1;
+    if (rada != z.rada)
+        cena += uzel::zastoupi(rada, z.rada) ? 1500 : 1'000'000;
+    if (cena >= 1'000'000)
+        return -1;
+    if (z.dvojice != (s.vozy.size() > 1))
+        cena += 600;
+    return cena + 300;
+}
+
+// The locomotive stands at that end of the train.
+bool je_u_vlaku(int stroj, const Zadost& z) {
+    return kolej_cela(vlak_c(stroj)) == z.kolej && cely_na_koleji(vlak_c(stroj)) &&
+           soused(z.vlak, z.kolej, z.strana) == stroj;
+}
+
+UkolPosunu ukol_stroje(int stroj, const Zadost& z) {
+    const Vlak& s = vlak_c(stroj);
+    const int e = kolej_cela(s);
+    UkolPosunu u{e, s.delka, true, true, z.kolej, z.strana};
+    if (cely_na_koleji(s)) {
+        u.smi_vlevo = soused(stroj, e, Strana::leva) == kZadny;
+        u.smi_vpravo = soused(stroj, e, Strana::prava) == kZadny;
+    } else {
+        (s.smer ? u.smi_vlevo : u.smi_vpravo) = false;
+    }
+    return u;
+}
+
+// A shunting movement with a train that stops here on its way: its set was taken off the platform, because
+// no shunt route leads to the end where the other locomotive has to come.
+bool je_na_pretahu(const Vlak& t) {
+    return t.posun && ma_vozy(t) && t.loko_rada2 > 0 && t.stanice_index > 0 && !stoji_na_posledni(t) &&
+           stanice_stani(t) == dopravna::tesk;
+}
+
+// The end of the set at which the train will have its head: its way leads to the right.
+int stroj_vpravo(const Vlak& t) {
+    const Vuz& vuz = t.smer ? t.vozy.front() : t.vozy.back();
+    return je_loko(vuz.rada) ? static_cast<int>(rada_vozu(vuz.rada)) : 0;
+}
+
+void pozadej_na_pretahu(int v) {
+    const Vlak& t = vlak_c(v);
+    const int e = kolej_cela(t);
+    if (je_na_pretahu(t) && cely_na_koleji(t) && !uzel::je_kolej_hlavniho(e) && !ma_loko(t) && !ma_cestu(v))
+        zadosti.push_back({v, e, Strana::prava, t.loko_rada2, false, odjezd_za_s(t), kZadny});
+}
+
+void prirad_stroje() {
+    std::stable_sort(zadosti.begin(), zadosti.end(),
+                     [](const Zadost& a, const Zadost& b) { return a.odjezd_s < b.odjezd_s; });
+    for (std::size_t k = 0; k < zadosti.size(); ++k) {
+        Zadost& z = zadosti[k];
+        double nejlepsi = std::numeric_limits<double>::max();
+        for (std::size_t i = 0; i < vlaky.size(); ++i) {
+            const int s = static_cast<int>(i);
+            if (vlaky[i].cislo < 1 || !vlaky[i].posun || vlaky[i].vozy.empty() || !je_stroj(s) ||
+                std::any_of(zadosti.begin(), zadosti.begin() + static_cast<std::ptrdiff_t>(k),
+                            [s](const Zadost& d) { return d.stroj == s; }))
+                continue;
+            double cena = vhodnost(s, z);
+            if (cena < 0)
+                continue;
+            const bool jede = pamet_c(s).zadatel == vlak_c(z.vlak).cislo;
+            if (je_u_vlaku(s, z)) {
+                cena = 0;
+            } else if (ma_cestu(s)) {
+                if (!jede)
+                    continue;
+            } else {
+                const auto cesta = najdi_posun(ukol_stroje(s, z));
+                if (!cesta && !jede)
+                    continue;
+                cena += (cesta ? cesta->cena_m : kBezCesty_m) - (jede ? kUrcena_m : 0);
+            }
+            if (cena < nejlepsi) {
+                nejlepsi = cena;
+                z.stroj = s;
+            }
+        }
+        if (z.stroj != kZadny)
+            pamet_c(z.stroj).zadatel = vlak_c(z.vlak).cislo;
+    }
+}
+
+// A locomotive of that series, or one that does its work, is called out of the depot of Hajovice.
+bool zavolej(const Zadost& z) {
+    const uzel::Brana& brana = uzel::jsou_hajovice_vychod(z.kolej) ? uzel::kBranaVychod : uzel::kBranaZapad;
+    if (je_obsazena(brana.kolej) || !je_volna(brana.kolej) || !cil_volny(brana.kolej))
+        return false;
+    if (!najdi_posun({brana.kolej, 36, true, true, z.kolej, z.strana}))
+        return false;
+    Text rada;
+    if (z.dvojice && z.rada == 230)
+        rada = uzel::kDvojice;
+    for (const TextPohled r : uzel::kRadyDepa)
+        if (rada.empty() && rada_vozu(r) == z.rada)
+            rada = r;
+    for (auto r = uzel::kRadyDepa.rbegin(); r != uzel::kRadyDepa.rend(); ++r)
+        if (rada.empty() && uzel::zastoupi(static_cast<int>(rada_vozu(*r)), z.rada))
+            rada = *r;
+    if (rada.empty() || !zavolej_lokomotivu(brana.popis, rada))
+        return false;
+    for (std::size_t i = 0; i < vlaky.size(); ++i)
+        if (vlaky[i].cislo > 0 && vlaky[i].posun && kolej_cela(vlaky[i]) == brana.kolej)
+            pamet_c(static_cast<int>(i)).zadatel = vlak_c(z.vlak).cislo;
+    Text veta("Pro "_cz);
+    veta += jmeno_vlaku(vlak_c(z.vlak));
+    veta += " volá z depa lokomotivu "_cz;
+    veta += rada;
+    veta += "."_cz;
+    vypravci::rekni(vlak_c(z.vlak).cislo, std::move(veta));
+    return true;
+}
+
+// The locomotive that came off stands still at the end where another one is wanted.
+int puvodni_stroj(const Zadost& z) {
+    const int s = soused(z.vlak, z.kolej, z.strana);
+    return s != kZadny && vlak_c(s).posun && jen_loko(vlak_c(s)) && cely_na_koleji(vlak_c(s)) && !ma_cestu(s)
+               ? s
+               : kZadny;
+}
+
+bool pripoj(const Zadost& z, int stroj, TextPohled proc) {
+    const Vlak& t = vlak_c(z.vlak);
+    Text veta = jmeno_vlaku(t);
+    const Text rada = vlak_c(stroj).vozy.front().rada;
+    if (!spoj_na_koleji(z.kolej, z.vlak, stroj))
+        return false;
+    zrus_slib(stroj);
+    vypravci::neceka(t.cislo);
+    veta += proc;
+    veta += rada;
+    veta += "."_cz;
+    vypravci::rekni(t.cislo, std::move(veta));
+    return true;
+}
+
+// No shunt route comes to the right end of a platform of the main station. With a locomotive of the yard for
+// it the set goes back to one of the sections before the station, changes there, and comes again.
+bool zacni_pretah(const Zadost& z) {
+    if (z.strana != Strana::prava || !uzel::je_kolej_hlavniho(z.kolej) || vlak_c(z.vlak).loko_rada2 <= 0 ||
+        z.odjezd_s < -kVyckavani_s)
+        return false;
+    const int puvodni = puvodni_stroj(z);
+    if (puvodni == kZadny || soused(z.vlak, z.kolej, Strana::leva) != kZadny)
+        return false;
+    const Vlak& t = vlak_c(z.vlak);
+    const bool je_stroj_po_ruce = [&] {
+        for (std::size_t i = 0; i < vlaky.size(); ++i) {
+            const int s = static_cast<int>(i);
+            if (vlaky[i].cislo > 0 && vlaky[i].posun && !vlaky[i].vozy.empty() && s != puvodni &&
+                je_stroj(s) && !ma_cestu(s) && vhodnost(s, z) >= 0 &&
+                std::none_of(zadosti.begin(), zadosti.end(), [s](const Zadost& d) { return d.stroj == s; }))
+                for (const int k : uzel::kPretah)
+                    if (najdi_posun(ukol_stroje(s, {z.vlak, k, Strana::prava, z.rada, false, 0, kZadny})))
+                        return true;
+        }
+        return false;
+    }();
+    const bool je_kam = std::any_of(uzel::kPretah.begin(), uzel::kPretah.end(), [&](int k) {
+        return !je_obsazena(k) && slibena(k) == kZadny && volna_jeste_s(k, z.vlak) > kPretah_s &&
+               sit_posunu().delky[static_cast<std::size_t>(k)] >= t.delka;
+    });
+    if (!je_stroj_po_ruce || !je_kam)
+        return false;
+    if (!pripoj(z, puvodni, " na výměnu potáhne dosavadní lokomotiva "_cz))
+        return false;
+    povel_vlaku(z.kolej, z.vlak, "miPosun");
+    return true;
+}
+
+void obsluz_zadost(const Zadost& z) {
+    const Vlak& t = vlak_c(z.vlak);
+    if (t.cislo < 1)
+        return;
+    if (z.stroj != kZadny) {
+        if (je_u_vlaku(z.stroj, z)) {
+            pripoj(z, z.stroj, " dostává lokomotivu "_cz);
+            return;
+        }
+        // Its place at the train has to be free: what came off goes first.
+        const int prekazi = soused(z.vlak, z.kolej, z.strana);
+        if (prekazi == kZadny && !ma_cestu(z.stroj) && stoji(z.stroj))
+            posun_na(z.stroj, z.kolej, z.strana, z.vlak, ted_s() - pamet_c(z.stroj).od_s > kNaleha_s / 2);
+    }
+    const int puvodni = puvodni_stroj(z);
+    const bool v_hajovicich = stanice_stani(t) == dopravna::hajovice;
+    if (z.stroj == kZadny && v_hajovicich && zavolej(z))
+        return;
+    if (z.stroj == kZadny && zacni_pretah(z))
+        return;
+    if (z.stroj == kZadny && puvodni != kZadny && z.odjezd_s < kVyckavani_s &&
+        pripoj(z, puvodni, " pokračuje s původní lokomotivou "_cz))
+        return;
+    Text veta = jmeno_vlaku(t);
+    veta += " čeká na lokomotivu "_cz;
+    veta += text_cisla(z.rada);
+    if (z.stroj != kZadny) {
+        veta += ": "_cz;
+        veta += jmeno_koleje(kolej_cela(vlak_c(z.stroj)));
+    } else {
+        veta += ", která je na cestě jinde"_cz;
+    }
+    veta += "."_cz;
+    vypravci::rekni_cekani(t.cislo, std::move(veta));
+}
+
+// --- platforms
+
+Text jmeno_nastupiste(int e) {
+    return je_cislo_koleje(e) ? Text(orez(relief.cislo_koleje[e].popis())) : Text{};
+}
+
+// A train of today's timetable has the platform between now and that many minutes.
+bool ma_ji_jiny(int e, std::int32_t cislo, int do_min) {
+    const Text jmeno = jmeno_nastupiste(e);
+    const int ted = minuta_dne(cas_hodin());
+    for (const GvdVlak& r : gvd_vlaky) {
+        if (r.kolej != jmeno || r.cislo == cislo || !aktivni_dnes(r))
+            continue;
+        for (const ZastavkaGvd& z : r.zastavky) {
+            if (z.stanice != dopravna::tesk)
+                continue;
+            const int od = z.prijezd >= 0 ? z.prijezd : z.odjezd - 12;
+            const int po = z.odjezd >= 0 ? z.odjezd : z.prijezd + 8;
+            if (od - 1 < ted + do_min && ted < po)
+                return true;
+        }
+    }
+    return false;
+}
+
+// The set fits there, and trains leave from there the way that it goes.
+bool hodi_se_nastupiste(const Vlak& t, int e) {
+    if (!je_kolej(e) || sit_posunu().delky[static_cast<std::size_t>(e)] < t.delka)
+        return false;
+    const int druha = t.zastavky.size() > 1 ? t.zastavky[1].stanice : dopravna::zadna;
+    const bool doprava =
+        je_v(druha, {dopravna::rybnice, dopravna::hajovice, dopravna::dkv, dopravna::hajovice_sn});
+    return !doprava || e <= 31;
+}
+
+bool je_volne_nastupiste(int e, int v) {
+    const int komu = slibena(e);
+    return !je_obsazena(e) && je_volna(e) && cil_volny(e) && (komu == kZadny || komu == v);
+}
+
+// Platform for a set; kZadny: it has to wait.
+int vyber_nastupiste(int v, int odjezd_s, bool tlaci) {
+    const Vlak& t = vlak_c(v);
+    const int planovana = planovana_kolej(t), do_min = std::max(odjezd_s / 60, 0);
+    if (planovana != kZadny && je_volne_nastupiste(planovana, v) && volna_jeste_s(planovana, v) > odjezd_s &&
+        (odjezd_s < kNastup_s || tlaci || !ma_ji_jiny(planovana, t.cislo, do_min)))
+        return planovana;
+    if (planovana != kZadny && odjezd_s > kNajdiJinou_s)
+        return kZadny;
+    for (const bool i_planovane : {false, true})
+        for (const int e : je_v(t.zastavky.front().stanice, {dopravna::posta, dopravna::dkv_vh})
+                               ? uzel::kNastupisteZprava
+                               : uzel::kNastupiste)
+            if (hodi_se_nastupiste(t, e) && je_volne_nastupiste(e, v) &&
+                volna_jeste_s(e, v) > odjezd_s + 120 &&
+                (i_planovane || !ma_ji_jiny(e, t.cislo, std::max(do_min, 6))))
+                return e;
+    return planovana != kZadny && je_volne_nastupiste(planovana, v) ? planovana : kZadny;
+}
+
+// A set that a train of the timetable is made of, on its way to the platform.
+bool je_k_nastupu(int v) {
+    const Vlak& t = vlak_c(v);
+    if (t.zastavky.size() < 2 || t.stanice_index > 0 || radek_vlaku(t.cislo) == nullptr || jsou_zalohy(t) ||
+        !je_v(t.zastavky.front().stanice, {dopravna::tesk, dopravna::posta, dopravna::dkv_vh}))
+        return false;
+    if (!t.pokyn.empty() || ma_vozy(t))
+        return true;
+    return t.stanice_index < 0; // an engine of the timetable without a platform
+}
+
+// Its train stands at a platform or has left already: the yard has sent a second set.
+bool je_navic(int v) {
+    for (std::size_t i = 0; i < vlaky.size(); ++i)
+        if (static_cast<int>(i) != v && vlaky[i].cislo == vlak_c(v).cislo && !vlaky[i].posun &&
+            ma_vozy(vlaky[i]) == ma_vozy(vlak_c(v)))
+            return true;
+    return false;
+}
+
+// --- where a movement goes that has nothing to do
+
+bool veze_postu(const Vlak& t) {
+    return std::any_of(t.vozy.begin(), t.vozy.end(), [](const Vuz& v) { return v.rada == "Post"; });
+}
+
+Posun odejdi(int v) {
+    const Vlak& t = vlak_c(v);
+    const int e = kolej_cela(t);
+    const bool naleha = ted_s() - pamet_c(v).od_s > kNaleha_s;
+    static constexpr std::array kPosta = {uzel::kKusaKolej};
+    std::span<const int> kam = uzel::kOdchodyTesk;
+    if (uzel::jsou_hajovice_vychod(e))
+        kam = uzel::kOdchodyVychod;
+    else if (uzel::stanice_posunu(e) == dopravna::hajovice)
+        kam = uzel::kOdchodyZapad;
+    else if (veze_postu(t))
+        kam = kPosta;
+    Posun nejlepsi = Posun::bez_cesty;
+    for (const int k : kam) {
+        if (je_obsazena(k)) {
+            nejlepsi = Posun::ceka;
+            continue;
+        }
+        const Posun p = posun_na(v, k, Strana::libovolna, kZadny, naleha);
+        if (p == Posun::jede)
+            return p;
+        if (p != Posun::bez_cesty)
+            nejlepsi = p;
+    }
+    return nejlepsi;
+}
+
+// A free track of the yard where a locomotive waits for its next train; one of them stays free.
+int odstavna() {
+    int volnych = 0, prvni = kZadny;
+    for (const int k : uzel::kOdstavneKoleje)
+        if (!je_obsazena(k) && je_volna(k) && slibena(k) == kZadny) {
+            ++volnych;
+            if (prvni == kZadny)
+                prvni = k;
+        }
+    return volnych > 1 ? prvni : kZadny;
+}
+
+void ved_stroj(int v) {
+    const Vlak& t = vlak_c(v);
+    const int e = kolej_cela(t);
+    const std::int32_t pro = urceni_cisla(t);
+    pamet_c(v).zadatel = 0;
+    // It may be needed here again.
+    for (const Zadost& z : zadosti)
+        if (z.kolej == e && z.stroj == kZadny && soused(z.vlak, e, z.strana) == v)
+            return;
+    if (uzel::je_odstavna_kolej(e)) {
+        const bool ceka =
+            t.vozy.front().urceni == kZaloha || (pro != 0 && do_odjezdu_vlaku_min(pro) < kStrojDrzen_min);
+        if (ceka)
+            return;
+        int obsazeno = 0;
+        for (const int k : uzel::kOdstavneKoleje)
+            obsazeno += je_obsazena(k) ? 1 : 0;
+        if (obsazeno > 3 || pro != 0)
+            odejdi(v);
+        return;
+    }
+    const bool v_tesku = uzel::stanice_posunu(e) == dopravna::tesk;
+    const bool ma_praci = pro != 0 && do_odjezdu_vlaku_min(pro) < kStrojDrzen_min;
+    const bool cerstva_zaloha = t.vozy.front().urceni == kZaloha && rada_cela(t) != uzel::kRadaPosunovaci;
+    if (v_tesku && (ma_praci || cerstva_zaloha))
+        if (const int k = odstavna(); k != kZadny) {
+            posun_na(v, k, Strana::libovolna, kZadny, ted_s() - pamet_c(v).od_s > kNaleha_s);
+            return;
+        }
+    if (uzel::stanice_posunu(e) == dopravna::dolni)
+        return; // it runs round its train, or waits for it
+    odejdi(v);
+}
+
+// --- an engine of the timetable whose locomotive is here already
+
+// The locomotive is to go as a light engine of the timetable: at a platform it takes that number.
+bool ved_lokomotivni(int v) {
+    const Vlak& t = vlak_c(v);
+    const std::int32_t pro = urceni_cisla(t);
+    const GvdVlak* r = pro == 0 ? nullptr : radek_vlaku(pro);
+    if (r == nullptr || r->zastavky.front().stanice != dopravna::tesk || r->druh != druh_vlaku::lv)
+        return false;
+    const int za_min = do_odjezdu_vlaku_min(pro), e = kolej_cela(t);
+    if (za_min > 14 && za_min < kDen_min - 30)
+        return false;
+    if (uzel::je_kolej_hlavniho(e) && cely_na_koleji(t)) {
+        if (t.cislo != pro) {
+            zmen_cislo_vlaku(e, v, pro);
+            return true;
+        }
+        povel_vlaku(e, v, "miPosun");
+        return true;
+    }
+    const int kam = vyber_nastupiste(v, za_min * 60, true);
+    if (kam != kZadny)
+        posun_na(v, kam, Strana::libovolna, kZadny, false);
+    return true;
+}
+
+// --- sets
+
+void ved_k_nastupu(int v) {
+    const Vlak& t = vlak_c(v);
+    const int e = kolej_cela(t);
+    const int odjezd_s = t.zastavky.front().stanice == dopravna::tesk
+                             ? (t.zastavky.front().odjezd - cas_min()) * 60 - cas_hodin() % 60
+                             : 0;
+    if (uzel::je_kolej_hlavniho(e)) {
+        if (!cely_na_koleji(t))
+            return;
+        if (povel_vlaku(e, v, "miPosun")) {
+            zrus_slib(v);
+            Text veta = jmeno_posunu(v);
+            veta += " je přistavena na "_cz;
+            veta += jmeno_koleje(e);
+            veta += "."_cz;
+            vypravci::rekni(t.cislo, std::move(veta));
+        }
+        return;
+    }
+    if (uzel::je_pristaveni(e) && je_navic(v)) {
+        odejdi(v);
+        return;
+    }
+    bool tlaci = e == 25 || e == uzel::kKusaKolej;
+    for (const std::int32_t cislo : souhlasy.cekajici_vlaky)
+        if (const GvdVlak* r = radek_vlaku(cislo);
+            r != nullptr && r->zastavky.front().stanice == dopravna::tesk)
+            tlaci = tlaci || uzel::je_pristaveni(e);
+    const int kam = vyber_nastupiste(v, odjezd_s, tlaci);
+    Posun p = Posun::ceka;
+    if (kam != kZadny)
+        p = posun_na(v, kam, Strana::libovolna, kZadny, odjezd_s < kNajdiJinou_s);
+    if (p == Posun::jede) {
+        vypravci::neceka(t.cislo);
+        return;
+    }
+    if (odjezd_s > kNastup_s)
+        return;
+    Text veta = jmeno_posunu(v);
+    veta += kam == kZadny ? " čeká, až bude volné nástupiště."_cz : " čeká na volné zhlaví k přistavení."_cz;
+    vypravci::rekni_cekani(t.cislo, std::move(veta));
+}
+
+// The set of a through train that is away from its platform for a change of locomotives.
+void ved_pretah(int v) {
+    const Vlak& t = vlak_c(v);
+    const int e = kolej_cela(t);
+    if (!cely_na_koleji(t))
+        return;
+    const int vpravo = stroj_vpravo(t);
+    const bool vymeneno = vpravo != 0 && (vpravo == t.loko_rada2 || vpravo != t.loko_rada);
+    const bool zpet = vymeneno || odjezd_za_s(t) < -kVyckavani_s;
+    const bool naleha = ted_s() - pamet_c(v).od_s > kNaleha_s / 4;
+    if (!zpet && uzel::je_kolej_hlavniho(e)) {
+        for (const int k : uzel::kPretah)
+            if (!je_obsazena(k) && slibena(k) == kZadny && volna_jeste_s(k, v) > kPretah_s &&
+                posun_na(v, k, Strana::libovolna, kZadny, naleha) == Posun::jede)
+                return;
+        return;
+    }
+    if (!zpet) {
+        if (vpravo != 0) // what has brought it here
+            odves_vuz(e, v, t.smer ? 0 : static_cast<int>(t.vozy.size()) - 1);
+        return;
+    }
+    if (vpravo == 0)
+        return;
+    if (uzel::je_kolej_hlavniho(e)) {
+        povel_vlaku(e, v, "miPosun");
+        zrus_slib(v);
+        return;
+    }
+    const int kam = vyber_nastupiste(v, std::max(odjezd_za_s(t), 0), true);
+    if (kam != kZadny)
+        posun_na(v, kam, Strana::libovolna, kZadny, naleha);
+}
+
+void ved_posun(int v) {
+    const Vlak& t = vlak_c(v);
+    if (t.vozy.empty() || !vypravci::ma_stanici(uzel::stanice_posunu(kolej_cela(t))) || !stoji(v))
+        return;
+    if (je_na_pretahu(t)) {
+        ved_pretah(v);
+        return;
+    }
+    const std::int32_t pro = pamet_c(v).zadatel;
+    if (std::any_of(zadosti.begin(), zadosti.end(), [=](const Zadost& z) {
+            return z.stroj == v || (z.stroj == kZadny && pro != 0 && vlak_c(z.vlak).cislo == pro);
+        }))
+        return;
+    if (je_stroj(v) && !(je_k_nastupu(v) && vlastni_vlak(v) == kZadny)) {
+        if (!ved_lokomotivni(v))
+            ved_stroj(v);
+        return;
+    }
+    if (je_k_nastupu(v)) {
+        ved_k_nastupu(v);
+        return;
+    }
+    if (ma_loko(t) && !t.zastavky.empty() && t.zastavky.back().stanice == dopravna::tesk)
+        odejdi(v);
+}
+
+// --- trains
+
+// The yard's locomotive that brought the set comes off where the hand made the set a train.
+bool odves_zalohu(int v) {
+    const Vlak& t = vlak_c(v);
+    const int e = kolej_cela(t);
+    if (t.vozy.size() < 2 || !uzel::je_kolej_hlavniho(e) || t.zastavky.front().stanice != dopravna::tesk)
+        return false;
+    if (t.vozy.front().urceni == kZaloha)
+        return odves_vuz(e, v, 0);
+    if (t.vozy.back().urceni == kZaloha)
+        return odves_vuz(e, v, static_cast<int>(t.vozy.size()) - 1);
+    return false;
+}
+
+void ved_konec(int v) {
+    const Vlak& t = vlak_c(v);
+    const int e = kolej_cela(t);
+    const int ceka_s = veze_postu(t) ? kVykladka_s : kVystup_s;
+    if (ted_s() - pamet_c(v).od_s < ceka_s || ma_cestu(v))
+        return;
+    Text veta = jmeno_vlaku(t);
+    veta += " skončil, odstavuje se z "_cz;
+    veta += koleje(e);
+    veta += "."_cz;
+    const std::int32_t cislo = t.cislo;
+    if (povel_vlaku(e, v, "miPosun")) {
+        zrus_slib(v);
+        vypravci::neceka(cislo);
+        vypravci::rekni(cislo, std::move(veta));
+    }
+}
+
+void ved_vlak(int v) {
+    const Vlak& t = vlak_c(v);
+    if (!stoji_vlak(v) || t.zastavky.empty() || t.vozy.empty() ||
+        !vypravci::ma_stanici(uzel::stanice_posunu(kolej_cela(t)))) {
+        pamet_c(v).od_s = ted_s();
+        return;
+    }
+    const int e = kolej_cela(t);
+    if (odves_zalohu(v))
+        return;
+    if (uzel::je_kolej_hlavniho(e) && stoji_na_posledni(t) && t.zastavky.back().stanice == dopravna::tesk) {
+        ved_konec(v);
+        return;
+    }
+    if (ceka_na_povel(t) && ma_celo(t) && odjezd_za_s(t) < kOdjezdPovelem_s &&
+        je_v(stanice_prvku(e), {dopravna::tesk, dopravna::hajovice, dopravna::dolni}) &&
+        std::none_of(zadosti.begin(), zadosti.end(),
+                     [&](const Zadost& z) { return z.vlak == v && z.stroj != kZadny; })) {
+        Text veta = jmeno_vlaku(t);
+        veta += " dostává povel k odjezdu."_cz;
+        const std::int32_t cislo = t.cislo;
+        if (povel_vlaku(e, v, "miOdjezd"))
+            vypravci::rekni(cislo, std::move(veta));
+    }
+}
+
+} // namespace
+
+void zacni_posun() {
+    nacti_posunovou_sit();
+    pamet.clear();
+    dalsi_obhlidka_s = 0;
+}
+
+void krok_posunu() {
+    if (ted_s() < dalsi_obhlidka_s && dalsi_obhlidka_s - ted_s() <= kObhlidka_s)
+        return;
+    dalsi_obhlidka_s = ted_s() + kObhlidka_s;
+    zadosti.clear();
+    for (std::size_t i = 0; i < vlaky.size(); ++i)
+        if (stoji_vlak(static_cast<int>(i)))
+            pozadej(static_cast<int>(i));
+        else if (vlaky[i].cislo > 0 && vlaky[i].posun && vlaky[i].stanice_index > 0)
+            pozadej_na_pretahu(static_cast<int>(i));
+    prirad_stroje();
+    for (std::size_t k = 0; k < zadosti.size(); ++k)
+        obsluz_zadost(zadosti[k]);
+    // Who stands in the neck of the yard goes first.
+    for (const bool na_zhlavi : {true, false})
+        for (std::size_t i = 0; i < vlaky.size(); ++i) {
+            const int v = static_cast<int>(i);
+            if (vlaky[i].cislo > 0 && vlaky[i].posun &&
+                (kolej_cela(vlaky[i]) == 145 || uzel::je_prujezdna_posunu(kolej_cela(vlaky[i]))) == na_zhlavi)
+                ved_posun(v);
+        }
+    for (std::size_t i = 0; i < vlaky.size(); ++i)
+        if (vlaky[i].cislo > 0 && !vlaky[i].posun)
+            ved_vlak(static_cast<int>(i));
+}
