@@ -422,6 +422,7 @@ void sleduj_provoz() {
         for (const int radek : gvd_vlaky.v_minute(static_cast<int>(m % kDen_min)))
             splatni(radek, m);
     sledovani.minuta = ted;
+    sledovani.s_vypravcim = sledovani.s_vypravcim || vypravci::zapnut();
     for (std::size_t v = 0; v < vlaky.size(); ++v)
         if (sledovani.stopy[v].cislo > 0 && sledovani.stopy[v].cislo == vlaky[v].cislo)
             pohlidej_stani(static_cast<int>(v));

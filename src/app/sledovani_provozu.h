@@ -74,6 +74,7 @@ struct StopaVlaku {
 
 struct SledovaniProvozu {
     bool bezi = false;
+    bool s_vypravcim = false;                // the automatic dispatcher has had the desk, or a part of it
     bool licha = false;                      // which half of the records the next step looks at
     std::int32_t od_s = 0;                   // first look, absolute seconds
     std::int32_t minuta = 0;                 // running minute of the last look

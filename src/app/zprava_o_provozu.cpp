@@ -3,6 +3,7 @@
 
 #include "app/cas.h"
 #include "app/pocty_provozu.h"
+#include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/duvod.h"
 #include "desk/hlaseni.h"
@@ -13,6 +14,9 @@
 #include "relief/relief.h"
 #include "uzel/dopravny.h"
 #include "uzel/trate.h"
+#include "zaklad/chyba.h"
+#include "zaklad/cisla.h"
+#include "zaklad/platforma.h"
 #include "zaklad/soubory.h"
 
 #include <algorithm>
@@ -289,4 +293,17 @@ Text text_zpravy_o_provozu() {
 void zapis_zpravu_o_provozu(TextPohled soubor) {
     const Text text = text_zpravy_o_provozu();
     zapis_soubor(soubor, Bajty(text.begin(), text.end()));
+}
+
+void zapis_zpravu_sluzby() {
+    if (!sledovani.s_vypravcim)
+        return;
+    const NastennyCas ted = platforma.nastenny_cas();
+    const Text slozka = simulace.cesta_aplikace + "GTN\\";
+    zaloz_slozku(slozka);
+    try {
+        zapis_zpravu_o_provozu(slozeny({slozka, text_cisla_mist(ted.rok % 100, 2),
+                                        text_cisla_mist(ted.mesic, 2), text_cisla_mist(ted.den, 2), ".txt"}));
+    } catch (const BehovaChyba&) { // the report is an extra, the end of the program is not
+    }
 }

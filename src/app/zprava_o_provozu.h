@@ -58,7 +58,13 @@ Text text_zpravy_o_provozu();
 // Name of the place of an element: "THN 5", or what its end is called.
 Text jmeno_mista(int prvek);
 
-// --- on command, and at the end of a service
+// --- on command
 
 // Writes that text. Run-time error 61, 70 or 76 on a fault.
 void zapis_zpravu_o_provozu(TextPohled soubor);
+
+// --- at the end of a service, by the host
+
+// The report of a service that the automatic dispatcher had a part in lies beside the log, under the wall
+// clock's day: GTN\yymmdd.txt. Other services leave none. A disk that does not take it stops nobody.
+void zapis_zpravu_sluzby();

@@ -6,6 +6,7 @@
 #include "app/kontrola_majitelu.h"
 #include "app/nova_simulace.h"
 #include "app/simulace.h"
+#include "app/zprava_o_provozu.h"
 #include "davka/planovac.h"
 #include "davka/prikazy.h"
 #include "davka/skript.h"
@@ -184,6 +185,7 @@ int spust_davku(const VolbyDavky& volby, std::istream& skript, std::ostream& vys
         kod = navrat::chyba_skriptu;
         chyba_na_radku(chyba.proc);
     }
+    zapis_zpravu_sluzby();
     gtn_zavri();
     vystup.flush();
     return kod != navrat::v_poradku ? kod : beh.over_selhal ? navrat::over_selhal : navrat::v_poradku;

@@ -6,6 +6,7 @@
 #include "app/casovace.h"
 #include "app/kontrola_majitelu.h"
 #include "app/simulace.h"
+#include "app/zprava_o_provozu.h"
 #include "cesty/cesta.h"
 #include "cesty/zasobnik.h"
 #include "davka/obrazovka_startu.h"
@@ -17,9 +18,11 @@
 #include "davka/skript.h"
 #include "davka/virtualni_svet.h"
 #include "davka/vypisy.h"
+#include "desk/hlaseni.h"
 #include "desk/info_o_vlaku.h"
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
+#include "gvd/gvd.h"
 #include "jizda/vlak.h"
 #include "obsluha/vyber.h"
 #include "prvky/souhlasy.h"
@@ -211,6 +214,10 @@ void prikaz_over(BehSkriptu& beh, Slova slova) {
     }
 }
 
+void prikaz_zprava(BehSkriptu&, Slova slova) {
+    zapis_zpravu_o_provozu(text_slova(slova[0]));
+}
+
 // --- setting by hand
 
 // The codes of a caption: "229,32".
@@ -291,7 +298,23 @@ void nastav_zaznam(std::vector<Zaznam>& tabulka, std::string_view slovo, std::in
     nastav_seznamy(zaznam, prirazeni);
 }
 
+// "nastav zpozdeni 14705=30": the train will come so much later, told as the traffic tells it.
+void nastav_zpozdeni(Slova slova) {
+    for (const std::string& slovo : slova) {
+        const Prirazeni p = prirazeni(slovo);
+        const auto cislo = static_cast<std::int32_t>(cislo_slova(p.pole, 1, 99'999, "číslo vlaku"));
+        const auto minut = static_cast<std::int16_t>(cislo_slova(p.hodnota, 1, 90, "zpoždění"));
+        if (gvd_vlaky.s_cislem(cislo).empty())
+            chyba_skriptu("vlak " + std::string(p.pole) + " v jízdním řádu není");
+        pridej_zpozdeni(cislo, minut);
+    }
+}
+
 void prikaz_nastav(BehSkriptu&, Slova slova) {
+    if (slova[0] == "zpozdeni") {
+        nastav_zpozdeni(slova.subspan(1));
+        return;
+    }
     const Cil cil = precti_cil(slova);
     if (slova.size() == cil.slov)
         chyba_skriptu("nastav: chybí POLE=HODNOTA");
@@ -369,6 +392,7 @@ constexpr std::array kPrikazy = {
                  prikaz_vypravci},
     PopisPrikazu{"vypis", 1, 2, Kdy::kdykoli, true, "vypis DRUH CISLO | vypis TABULKA [RADEK]", prikaz_vypis},
     PopisPrikazu{"over", 2, kMnoho, Kdy::kdykoli, true, "over CO [CISLO] POLE=HODNOTA ...", prikaz_over},
+    PopisPrikazu{"zprava_o_provozu", 1, 1, Kdy::po_startu, true, "zprava_o_provozu SOUBOR", prikaz_zprava},
     PopisPrikazu{"nastav", 2, kMnoho, Kdy::kdykoli, false, "nastav CO [CISLO] POLE=HODNOTA ...",
                  prikaz_nastav},
 };

@@ -3,6 +3,7 @@
 #include "app/parametry.h"
 #include "app/simulace.h"
 #include "app/start.h"
+#include "app/zprava_o_provozu.h"
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
 #include "ui/parametry.h"
@@ -155,6 +156,7 @@ int main(int pocet, char** slova) {
         QTimer::singleShot(0, formular.get(), [] { formular->nabidni(); });
     }
     const int kod = je_konec() ? navratovy_kod() : QApplication::exec();
+    zapis_zpravu_sluzby();
     hlavni_okno.reset();
     uvod.reset();
     formular.reset();

@@ -8,6 +8,8 @@
 #include "jizda/poslusnost.h"
 #include "jizda/svet_vlaku.h"
 #include "uzel/dopravny.h"
+#include "vypravci/vypravci.h"
+#include "zaklad/soubory.h"
 
 namespace {
 
@@ -323,6 +325,21 @@ TEST_F(ZpravaProvozu, NewSimulationForgetsTheRun) {
     nova_simulace();
     EXPECT_EQ(zprava().melo_jet, 0);
     EXPECT_FALSE(sledovani.bezi);
+}
+
+TEST_F(ZpravaProvozu, ServiceOfTheDispatcherLeavesItsReportBesideTheLogAndNoOtherOne) {
+    const Text soubor = simulace.cesta_aplikace + "GTN\\260105.txt";
+    pohledni();
+    cas(8, 1);
+    zapis_zpravu_sluzby();
+    EXPECT_FALSE(soubor_existuje(soubor));
+    vypravci::predej();
+    cas(8, 2);
+    vypravci::vezmi();
+    zapis_zpravu_sluzby();
+    ASSERT_TRUE(soubor_existuje(soubor));
+    const Bajty text = nacti_soubor(soubor);
+    EXPECT_EQ(Text(text.begin(), text.end()), text_zpravy_o_provozu());
 }
 
 TEST_F(ZpravaProvozu, PlacesHaveTheirStationsName) {

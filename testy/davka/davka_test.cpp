@@ -450,6 +450,7 @@ TEST_F(Davka, ListsOfOneLengthAreSetInOneCommand) {
 }
 
 TEST_F(Davka, SettingRefusesWhatDoesNotFit) {
+    EXPECT_TRUE(obsahuje(duvod(kStart + "nastav zpozdeni 4711=30\n"), "v jízdním řádu není"));
     EXPECT_TRUE(obsahuje(duvod(kStart + "nastav kolej 999 barva=0\n"), "neexistuje"));
     EXPECT_TRUE(obsahuje(duvod(kStart + "nastav kolej 62 barva=cervena\n"), "čeká se barva"));
     EXPECT_TRUE(obsahuje(duvod(kStart + "nastav kolej 62 sirka=5\n"), "nemá pole"));
