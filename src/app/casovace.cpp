@@ -23,6 +23,7 @@
 #include "vypravci/vypravci.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
+#include "zaklad/odpovedi.h"
 #include "zaklad/platforma.h"
 
 #include <algorithm>
@@ -94,10 +95,10 @@ void vyprazdni_denik() {
 // The clock stands at the last minute that there is; an operator who ends the pause gets no further.
 void ukonci_sluzbu() {
     zastav_hodiny();
-    if (!platforma.otazka("KPS RVZ TESK"_cz,
-                          "Služba dosáhla nejdelší doby, po kterou čas simulace běží, a hodiny stojí. "
-                          "Chcete stav simulace uložit?"_cz,
-                          true))
+    if (!zeptej_se("KPS RVZ TESK"_cz,
+                   "Služba dosáhla nejdelší doby, po kterou čas simulace běží, a hodiny stojí. "
+                   "Chcete stav simulace uložit?"_cz,
+                   true))
         return;
     uloz_dialog();
     zastav_hodiny(); // the end of a save starts the clock
@@ -108,7 +109,7 @@ constexpr std::array kCasovace = {
     Casovac{"tmrJizdy", "jizdy", 1000, &krok_jizdy},
     Casovac{"tmrVolby", "volby", 1100, &krok_volby},
     Casovac{"tmrBlikani", "blikani", 500, &krok_blikani},
-    Casovac{"tmrVypravci", "vypravci", 1000, &vypravci::krok},
+    Casovac{"tmrVypravci", "vypravci", 1000, &vypravci::krok, true},
 };
 
 } // namespace

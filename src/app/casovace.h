@@ -17,6 +17,7 @@ struct Casovac {
     std::string_view krok;  // as the headless runner calls it
     int perioda_ms;
     void (*telo)();
+    bool obsluha = false; // works the desk as an operator does, when all else of its moment is done
 };
 
 // The clock step: adds the simulated seconds that have passed, and runs the minute step.

@@ -5,6 +5,7 @@
 #include "app/simulace.h"
 #include "save/gtn.h"
 #include "zaklad/chyba.h"
+#include "zaklad/odpovedi.h"
 #include "zaklad/platforma.h"
 
 namespace {
@@ -19,7 +20,7 @@ void vrat_rezim_obsluhy() {
 } // namespace
 
 void konec_programu(bool ptat_se) {
-    if (ptat_se && !platforma.otazka("KPS RVZ TESK"_cz, "Opravdu chcete ukončit simulaci?"_cz, false))
+    if (ptat_se && !zeptej_se("KPS RVZ TESK"_cz, "Opravdu chcete ukončit simulaci?"_cz, false))
         return;
     ukaz_listu();
     gtn_zavri();

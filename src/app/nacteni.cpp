@@ -35,6 +35,15 @@ void over_stav() {
 
 // --- the load
 
+std::optional<Bajty> vlozena_hra; // in place of the file
+Bajty hra;                        // as read last
+
+const Bajty& cti_hru(TextPohled soubor) {
+    hra = vlozena_hra ? std::move(*vlozena_hra) : nacti_soubor(soubor);
+    vlozena_hra.reset();
+    return hra;
+}
+
 void varuj_pred_verzi(const Zaznam& z) {
     if (z.verze_major == kVerzeMajor && z.verze_minor == kVerzeMinor && z.verze_revize == kVerzeRevize)
         return;
@@ -96,10 +105,10 @@ bool da_se_nacist(std::span<const std::uint8_t> bajty) {
 bool nacti_simulaci(TextPohled jmeno) {
     const Text soubor(jmeno); // the name may stand in the very state that the file replaces
     if (je_ladeni()) {
-        nacti_simulaci_z(nacti_soubor(soubor)); // a fault stops the program at its place
+        nacti_simulaci_z(cti_hru(soubor)); // a fault stops the program at its place
     } else {
         try {
-            nacti_simulaci_z(nacti_soubor(soubor));
+            nacti_simulaci_z(cti_hru(soubor));
         } catch (const BehovaChyba& chyba) {
             return ukonci_nenactene(soubor, chyba);
         } catch (const std::bad_alloc&) {
@@ -111,6 +120,11 @@ bool nacti_simulaci(TextPohled jmeno) {
     text += "!";
     platforma.okno("KPS RVZ TESK", text);
     return true;
+}
+
+const Bajty& nactena_hra() {
+    static const Bajty zadna;
+    return simulace.nacitani_zaznamu ? hra : zadna;
 }
 
 void obnov_souhlasy() {
@@ -131,7 +145,8 @@ void obnov_souhlasy() {
     }
 }
 
-void priprav_nacteni(TextPohled soubor, const MoznostiStartu& moznosti) {
+void priprav_nacteni(TextPohled soubor, const MoznostiStartu& moznosti, std::optional<Bajty> obsah) {
+    vlozena_hra = std::move(obsah);
     uloz_volby(moznosti);
     simulace.nacitani_zaznamu = true;
     simulace.soubor_zaznamu = Text(soubor);

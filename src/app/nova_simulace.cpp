@@ -2,6 +2,7 @@
 #include "app/nova_simulace.h"
 
 #include "app/nouzove.h"
+#include "app/smena.h"
 #include "app/stav_simulace.h"
 #include "save/gtn.h"
 
@@ -20,8 +21,13 @@ std::uint64_t poradi = 0;
 void nova_simulace() {
     ++poradi;
     gtn_zavri();
+    zapomen_smenu();
     vrat_stav(StavSimulace{});
     zapomen_nouzovy_stav();
+}
+
+void stav_byl_vymenen() {
+    ++poradi;
 }
 
 std::uint64_t poradi_simulace() {

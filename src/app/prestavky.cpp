@@ -2,9 +2,12 @@
 #include "app/prestavky.h"
 
 #include "app/cas.h"
+#include "app/planovac.h"
 #include "app/simulace.h"
+#include "obsluha/ukony.h"
 #include "relief/relief.h"
 #include "zaklad/cisla.h"
+#include "zaklad/virtualni_hodiny.h"
 
 #include <algorithm>
 #include <utility>
@@ -41,21 +44,34 @@ bool zacni_okno() {
 }
 
 void ukonci_okno(bool bezel_cas) {
-    if (bezel_cas)
-        spust_hodiny();
+    if (!bezel_cas)
+        return;
+    simulace.pauza = false; // the host's clock stood as well: the marks of time are as they were
+    relief.lblPauza[0].viditelny = false;
 }
 
-void udalost_casovace(ZnackyCasovacu& znacky, std::size_t casovac, std::int64_t ted_ms) {
-    std::int64_t prestavka = 0; // the first timer after the stall speaks for those that come later
-    for (const std::int64_t posledni : znacky.posledni)
-        if (posledni >= 0)
-            prestavka = std::max(prestavka, ted_ms - posledni);
-    znacky.posledni[casovac] = ted_ms;
-    if (prestavka <= kNejdelsiZpozdeni_ms)
+void dozen_hodiny(ChodHostitele& chod, std::int64_t ted_ms) {
+    const std::int64_t chybi = ted_ms - chod.nula_ms - virtualni_hodiny.cas_ms;
+    const bool stal = std::exchange(chod.stal, false);
+    if (chybi <= 0)
         return;
-    std::fill(znacky.posledni.begin(), znacky.posledni.end(), ted_ms);
+    if (planovac.bezi && (stal || chybi > kNejdelsiZpozdeni_ms))
+        prestavka(chybi, !stal);
+    else
+        plyn_do(virtualni_hodiny.cas_ms + chybi);
+}
+
+void prestavka(std::int64_t ms, bool pocitac) {
+    const ZapisUkonu zapis({.co = pocitac ? DruhUkonu::pocitac_stal : DruhUkonu::okno_stalo, .n = ms});
+    preskoc(ms);
     if (simulace.pauza)
         return; // there was no time to lose
-    spust_hodiny();
-    pis_do_deniku(prestavka);
+    if (pocitac) {
+        spust_hodiny();
+        pis_do_deniku(ms);
+        return;
+    }
+    for (std::int32_t* znacka : {&simulace.tick_hodin, &simulace.tick_jizdy})
+        *znacka =
+            static_cast<std::int32_t>(static_cast<std::uint32_t>(*znacka) + static_cast<std::uint32_t>(ms));
 }

@@ -7,6 +7,7 @@
 #include "app/nastaveni.h"
 #include "app/rezim.h"
 #include "app/simulace.h"
+#include "app/smena.h"
 #include "cesty/cesta.h"
 #include "cesty/nova_cesta.h"
 #include "desk/stitky.h"
@@ -57,7 +58,9 @@ void skryj_listu_plochy() {
 }
 
 void zasej() {
-    zasej_nahodu(platforma.semeno());
+    const std::uint64_t semeno = platforma.semeno();
+    zacatek_smeny(semeno);
+    zasej_nahodu(semeno);
 }
 
 // The operator's own mode is kept from the first start until a clean exit deletes it.

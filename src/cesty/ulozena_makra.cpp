@@ -14,18 +14,26 @@ Text soubor_maker() {
     return simulace.cesta_aplikace + "data\\tesk.mak";
 }
 
+std::optional<Bajty> podlozena;
+
+void zapis_makra(const Bajty& obsah) {
+    if (podlozena)
+        podlozena = obsah;
+    else
+        zapis_soubor(soubor_maker(), obsah);
+}
+
 } // namespace
 
 std::vector<ZaznamMakra> ulozena_makra() {
-    return cti_makra(nacti_soubor(soubor_maker()));
+    return cti_makra(podlozena ? *podlozena : nacti_soubor(soubor_maker()));
 }
 
 void pridej_ulozene_makro(const ZaznamMakra& makro) {
     Zapisovac soubor;
-    if (soubor_existuje(soubor_maker()))
-        soubor.bajty = nacti_soubor(soubor_maker());
+    soubor.bajty = obsah_maker();
     popis_zaznamu_makra(soubor, makro);
-    zapis_soubor(soubor_maker(), soubor.bajty);
+    zapis_makra(soubor.bajty);
 }
 
 void smaz_makro(TextPohled pismeno) {
@@ -33,7 +41,7 @@ void smaz_makro(TextPohled pismeno) {
     for (const ZaznamMakra& makro : ulozena_makra())
         if (makro.pismeno != pismeno)
             popis_zaznamu_makra(soubor, makro);
-    zapis_soubor(soubor_maker(), soubor.bajty);
+    zapis_makra(soubor.bajty);
 }
 
 SeznamMaker nacti_makra() {
@@ -51,4 +59,19 @@ SeznamMaker nacti_makra() {
         seznam.radky.push_back(std::move(radek));
     }
     return seznam;
+}
+
+void podloz_makra(std::optional<Bajty> obsah) {
+    podlozena = std::move(obsah);
+}
+
+Bajty obsah_maker() {
+    if (podlozena)
+        return *podlozena;
+    return soubor_existuje(soubor_maker()) ? nacti_soubor(soubor_maker()) : Bajty{};
+}
+
+void obnov_makra(const Bajty& obsah) {
+    if (obsah_maker() != obsah)
+        zapis_makra(obsah);
 }

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "cesty/tabulky.h"
+#include "zaklad/balik.h"
 #include "zaklad/text.h"
 
+#include <optional>
 #include <vector>
 
 // What the maintenance screen shows of the macros.
@@ -26,3 +28,12 @@ SeznamMaker nacti_makra();
 void pridej_ulozene_makro(const ZaznamMakra& makro);
 // Delete in the list: the file without the records of that name.
 void smaz_makro(TextPohled pismeno);
+
+// --- when a shift is played again, or time is turned back
+
+// The macros stand in these bytes instead of the file until podloz_makra() is called without any.
+void podloz_makra(std::optional<Bajty> obsah);
+// What the file holds, or those bytes; nothing when there is no file.
+Bajty obsah_maker();
+// The file holds these bytes; nothing happens when it does already.
+void obnov_makra(const Bajty& obsah);

@@ -2,8 +2,10 @@
 #pragma once
 
 #include "davka/json.h"
+#include "zaklad/balik.h"
 
 #include <functional>
+#include <optional>
 #include <span>
 #include <string>
 #include <string_view>
@@ -14,6 +16,8 @@ struct BehSkriptu {
     int radek = 0;                          // line of the script, from 1
     bool spusteno = false;                  // the start screen has been left
     bool over_selhal = false;               // a check has failed
+    bool prehrava = false;                  // the script is the record of a shift
+    std::optional<Bajty> makra, hra;        // that it brings: stored macros, the game from which it starts
 };
 
 // The words of a line behind its command.

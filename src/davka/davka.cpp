@@ -5,12 +5,15 @@
 #include "app/kontrola.h"
 #include "app/kontrola_majitelu.h"
 #include "app/nova_simulace.h"
+#include "app/planovac.h"
 #include "app/simulace.h"
+#include "app/smena.h"
+#include "cesty/ulozena_makra.h"
 #include "app/zprava_o_provozu.h"
-#include "davka/planovac.h"
 #include "davka/prikazy.h"
 #include "davka/skript.h"
 #include "davka/virtualni_svet.h"
+#include "obsluha/ukony.h"
 #include "save/gtn.h"
 #include "zaklad/chyba.h"
 #include "zaklad/nahoda.h"
@@ -34,11 +37,14 @@ void zkontroluj_stav() {
 
 void nova_davka(const VolbyDavky& volby) {
     svet = VirtualniSvet{};
+    virtualni_hodiny = VirtualniHodiny{};
     svet.semeno = volby.semeno;
     planovac = Planovac{};
     if (volby.kontrola)
         planovac.po_kroku = zkontroluj_stav;
     platforma = virtualni_platforma();
+    pise_se_na_disk(true);
+    podloz_makra(std::nullopt);
     // Scripts share a folder with scripts, as the tests of one installation do, but never with a desk.
     platforma.bezi_jina_instance = [] { return !zamkni_slozku(simulace.cesta_aplikace, Zamek::s_jinymi); };
     nova_simulace();
@@ -176,7 +182,7 @@ int spust_davku(const VolbyDavky& volby, std::istream& skript, std::ostream& vys
             } catch (const ChybaStavu& stav) {
                 kod = navrat::chyba_stavu;
                 chyba_na_radku("kontrola stavu v " + na_utf8(text_hodin()) + " (" +
-                               std::to_string(svet.cas_ms) + " ms): " + stav.co);
+                               std::to_string(virtualni_hodiny.cas_ms) + " ms): " + stav.co);
             }
             if (volby.po_radcich)
                 vystup.flush();
@@ -186,7 +192,11 @@ int spust_davku(const VolbyDavky& volby, std::istream& skript, std::ostream& vys
         chyba_na_radku(chyba.proc);
     }
     zapis_zpravu_sluzby();
+    zapomen_smenu();
     gtn_zavri();
+    pise_se_na_disk(true);
+    podloz_makra(std::nullopt);
+    ukony_smeny.proved_radek = nullptr;
     vystup.flush();
     return kod != navrat::v_poradku ? kod : beh.over_selhal ? navrat::over_selhal : navrat::v_poradku;
 }

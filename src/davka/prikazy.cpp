@@ -5,15 +5,16 @@
 #include "app/cas.h"
 #include "app/casovace.h"
 #include "app/kontrola_majitelu.h"
+#include "app/planovac.h"
 #include "app/simulace.h"
 #include "app/zprava_o_provozu.h"
 #include "cesty/cesta.h"
 #include "cesty/zasobnik.h"
 #include "davka/obrazovka_startu.h"
-#include "davka/planovac.h"
 #include "davka/popisy.h"
 #include "davka/porovnani.h"
 #include "davka/prikazy_rukou.h"
+#include "davka/prikazy_smeny.h"
 #include "davka/prikazy_startu.h"
 #include "davka/skript.h"
 #include "davka/virtualni_svet.h"
@@ -24,6 +25,7 @@
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
 #include "jizda/vlak.h"
+#include "obsluha/ukony.h"
 #include "obsluha/vyber.h"
 #include "prvky/souhlasy.h"
 #include "vypravci/vypravci.h"
@@ -71,7 +73,7 @@ void prikaz_pc(BehSkriptu&, Slova slova) {
              .ok())
         chyba_skriptu("datum se píše jako 2026-01-05, ne " + v_uvozovkach(datum));
     const std::int32_t cas = cas_slova(slova[1]);
-    NastennyCas& pc = svet.pocatek;
+    NastennyCas& pc = virtualni_hodiny.pocatek;
     pc.rok = static_cast<int>(*rok);
     pc.mesic = static_cast<int>(*mesic);
     pc.den = static_cast<int>(*den);
@@ -95,7 +97,7 @@ void prikaz_ladeni(BehSkriptu&, Slova slova) {
 // --- time
 
 void prikaz_cekej(BehSkriptu&, Slova slova) {
-    plyn_do(svet.cas_ms + doba_slova(slova[0]));
+    plyn_do(virtualni_hodiny.cas_ms + doba_slova(slova[0]));
 }
 
 void prikaz_cekej_do(BehSkriptu&, Slova slova) {
@@ -112,7 +114,7 @@ void prikaz_cekej_do(BehSkriptu&, Slova slova) {
     while (zbyva > 0) {
         if (stoji())
             chyba_skriptu("cekej_do: hodiny simulace stojí na " + na_utf8(text_hodin()));
-        plyn_do(svet.cas_ms + kDen_s * 1000LL, dost);
+        plyn_do(virtualni_hodiny.cas_ms + kDen_s * 1000LL, dost);
     }
 }
 
@@ -366,6 +368,9 @@ constexpr std::array kPrikazy = {
     PopisPrikazu{"pc", 2, 2, Kdy::priprava, false, "pc RRRR-MM-DD HH:MM:SS", prikaz_pc},
     PopisPrikazu{"nastaveni", 3, 3, Kdy::priprava, false, "nastaveni SEKCE KLIC HODNOTA", prikaz_nastaveni},
     PopisPrikazu{"ladeni", 1, 1, Kdy::priprava, false, "ladeni ano", prikaz_ladeni},
+    PopisPrikazu{"smena", 1, 1, Kdy::priprava, false, "smena VERZE", prikaz_smena},
+    PopisPrikazu{"makra", 1, 1, Kdy::priprava, false, "makra BASE64", prikaz_makra},
+    PopisPrikazu{"hra", 1, 1, Kdy::priprava, false, "hra BASE64", prikaz_hra},
     PopisPrikazu{"spust", 0, kMnoho, Kdy::pred_startem, false,
                  "spust [cas=H:MM] [den=0..6] [rychlost=1..8] [gvd=JMENO] [pp=0/1] [zpozdeni=0/1] "
                  "[zvuk=0/1] [dual=0/1] [autosave=0/1] [autosaved=N] [noresize=0/1]",
@@ -390,12 +395,23 @@ constexpr std::array kPrikazy = {
                  prikaz_krok},
     PopisPrikazu{"vypravci", 1, kMnoho, Kdy::po_startu, false, "vypravci ano [STANICE ...] | vypravci ne",
                  prikaz_vypravci},
+    PopisPrikazu{"pohyb", 0, 0, Kdy::po_startu, false, "pohyb", prikaz_pohyb},
+    PopisPrikazu{"zahod_menu", 0, 0, Kdy::po_startu, false, "zahod_menu", prikaz_zahod_menu},
+    PopisPrikazu{"okno", 1, 1, Kdy::po_startu, false, "okno dolu|nahoru|stoji|bezi|zavri", prikaz_okno},
+    PopisPrikazu{"prestavka", 1, 2, Kdy::po_startu, false, "prestavka 30s [pocitac]", prikaz_prestavka},
+    PopisPrikazu{"zaznam", 1, 1, Kdy::po_startu, true, "zaznam SOUBOR", prikaz_zaznam},
+    PopisPrikazu{"zpet", 1, 1, Kdy::po_startu, false, "zpet 5min", prikaz_zpet},
+    PopisPrikazu{"zpet_na", 1, 1, Kdy::po_startu, false, "zpet_na H:MM:SS", prikaz_zpet_na},
+    PopisPrikazu{"zpet_zrus", 0, 0, Kdy::po_startu, false, "zpet_zrus", prikaz_zpet_zrus},
     PopisPrikazu{"vypis", 1, 2, Kdy::kdykoli, true, "vypis DRUH CISLO | vypis TABULKA [RADEK]", prikaz_vypis},
     PopisPrikazu{"over", 2, kMnoho, Kdy::kdykoli, true, "over CO [CISLO] POLE=HODNOTA ...", prikaz_over},
     PopisPrikazu{"zprava_o_provozu", 1, 1, Kdy::po_startu, true, "zprava_o_provozu SOUBOR", prikaz_zprava},
     PopisPrikazu{"nastav", 2, kMnoho, Kdy::kdykoli, false, "nastav CO [CISLO] POLE=HODNOTA ...",
                  prikaz_nastav},
 };
+
+// What a script does and no hand can: the record of the shift holds the line as it is.
+constexpr std::array<std::string_view, 3> kZaznamenane = {"krok", "nastav", "uloz"};
 
 constexpr auto kJmena = [] {
     std::array<std::string_view, kPrikazy.size()> jmena{};
@@ -449,5 +465,11 @@ void proved_radek(BehSkriptu& beh, std::string_view radek, bool jen_pohled) {
         chyba_pred_startem(slova[0]);
     if (prikaz->kdy == Kdy::priprava)
         zavri_obrazovku_startu();
-    bezpecne([&] { prikaz->proved(beh, zbytek); });
+    bezpecne([&] {
+        std::optional<ZapisUkonu> zapis;
+        if (beh.spusteno &&
+            std::find(kZaznamenane.begin(), kZaznamenane.end(), slova[0]) != kZaznamenane.end())
+            zapis.emplace(Ukon{.co = DruhUkonu::radek_skriptu, .text = z_utf8(radek)});
+        prikaz->proved(beh, zbytek);
+    });
 }

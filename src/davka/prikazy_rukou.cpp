@@ -8,6 +8,7 @@
 #include "davka/vypisy.h"
 #include "desk/menu.h"
 #include "obsluha/klavesy.h"
+#include "obsluha/ukony.h"
 #include "obsluha/vstup.h"
 #include "technologie/technologie.h"
 
@@ -28,18 +29,6 @@ CilRuky prvek_ruky(Slova slova) {
     if (!tabulka(*cil.druh).je(cil.cislo))
         chyba_skriptu("prvek " + cil.slovo + " " + std::to_string(cil.cislo) + " neexistuje");
     return {*cil.druh, cil.cislo};
-}
-
-Seznam* seznam_desky(std::string_view slovo) {
-    if (slovo == "lstZpravy")
-        return &relief.lstZpravy;
-    if (slovo == "lstDenik")
-        return &relief.lstDenik;
-    for (std::size_t i = 0; i < kTechnologie.size(); ++i)
-        for (const SeznamTechnologie& s : seznamy_technologie(static_cast<Technologie>(i)))
-            if (s.jmeno == slovo)
-                return s.seznam;
-    return nullptr;
 }
 
 // --- left clicks
@@ -90,7 +79,7 @@ void prikaz_klik(BehSkriptu& beh, Slova slova) {
         klik_na_plochu();
     } else if (const auto zalozka = technologie_podle_jmena(slova[0])) {
         klik_zalozky(slova, *zalozka);
-    } else if (Seznam* seznam = seznam_desky(slova[0])) {
+    } else if (Seznam* seznam = seznam_podle_jmena(slova[0])) {
         klik_radku(slova, *seznam);
     } else {
         klik_prvku(slova);

@@ -3,10 +3,11 @@
 
 #include "app/nacteni.h"
 #include "app/parametry.h"
+#include "app/planovac.h"
 #include "app/simulace.h"
 #include "app/start.h"
 #include "davka/obrazovka_startu.h"
-#include "davka/planovac.h"
+#include "davka/prikazy_smeny.h"
 #include "davka/skript.h"
 #include "davka/virtualni_svet.h"
 #include "desk/menu.h"
@@ -22,8 +23,11 @@ namespace {
 void dokonci_start(BehSkriptu& beh) {
     beh.spusteno = true;
     spust_planovac();
-    plyn_do(svet.cas_ms + kUvodniObrazovka_ms);
+    plyn_do(virtualni_hodiny.cas_ms + kUvodniObrazovka_ms);
     start_simulace();
+    zacni_smenu_skriptu(beh);
+    if (beh.prehrava)
+        pise_se_na_disk(false); // the log aside, nothing of a shift that was is written again
 }
 
 // A save by its name: one without a folder lies in the folder of saves, as in the dialogue; a path counts
@@ -62,7 +66,10 @@ void prikaz_nacti(BehSkriptu& beh, Slova slova) {
     otevri_obrazovku_startu();
     vypln_obrazovku_startu(slova.subspan(1));
     zahod_menu();
-    priprav_nacteni(nalezeny_zaznam(slova[0]), moznosti_startu());
+    if (beh.hra)
+        priprav_nacteni(text_slova(slova[0]), moznosti_startu(), beh.hra);
+    else
+        priprav_nacteni(nalezeny_zaznam(slova[0]), moznosti_startu());
     dokonci_start(beh);
 }
 

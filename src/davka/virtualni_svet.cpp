@@ -4,7 +4,6 @@
 #include "zaklad/chyba.h"
 
 #include <algorithm>
-#include <chrono>
 
 VirtualniSvet svet;
 
@@ -57,34 +56,13 @@ std::optional<Text> soubor(TextPohled slozka, TextPohled vzor) {
 
 } // namespace
 
-NastennyCas posun_cas(const NastennyCas& od, std::int64_t ms) {
-    using namespace std::chrono;
-    constexpr std::int64_t kDen_ms = 24LL * 3600 * 1000;
-    const std::int64_t celkem = od.sekundy_dne() * 1000LL + od.milisekunda + ms;
-    const std::int64_t v_dni = ((celkem % kDen_ms) + kDen_ms) % kDen_ms;
-    const sys_days prvni = year_month_day(year(od.rok), month(static_cast<unsigned>(od.mesic)),
-                                          day(static_cast<unsigned>(od.den)));
-    const year_month_day datum = prvni + days((celkem - v_dni) / kDen_ms);
-
-    NastennyCas cas;
-    cas.rok = static_cast<int>(datum.year());
-    cas.mesic = static_cast<int>(static_cast<unsigned>(datum.month()));
-    cas.den = static_cast<int>(static_cast<unsigned>(datum.day()));
-    cas.hodina = static_cast<int>(v_dni / 3'600'000);
-    cas.minuta = static_cast<int>(v_dni / 60'000 % 60);
-    cas.sekunda = static_cast<int>(v_dni / 1000 % 60);
-    cas.milisekunda = static_cast<int>(v_dni % 1000);
-    return cas;
-}
-
 Platforma virtualni_platforma() {
     Platforma p = prazdna_platforma();
-    // the counter wraps after 24 days as the real one does
-    p.tik_ms = [] { return static_cast<std::int32_t>(static_cast<std::uint32_t>(svet.cas_ms)); };
-    p.nastenny_cas = [] { return posun_cas(svet.pocatek, svet.cas_ms); };
+    p.tik_ms = tik_virtualnich_hodin;
+    p.nastenny_cas = cas_virtualnich_hodin;
     p.semeno = [] { return svet.semeno; };
     p.ladeni = [] { return svet.ladeni; };
-    p.pipni = [](int hz, int ms) { svet.pipnuti.push_back({hz, ms, svet.cas_ms}); };
+    p.pipni = [](int hz, int ms) { svet.pipnuti.push_back({hz, ms, virtualni_hodiny.cas_ms}); };
 
     p.okno = [](TextPohled titul, TextPohled text) { svet.okna.push_back({Text(titul), Text(text), {}}); };
     p.otazka = otazka;

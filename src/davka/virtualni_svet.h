@@ -1,12 +1,13 @@
 // davka/virtualni_svet.h - the world outside as the headless runner plays it.
 //
-// A clock that moves only when told, settings in memory, dialogues answered from a queue, beeps and
-// message boxes collected in lists. Nothing here depends on the machine, so that the same script and
-// the same seed give the same simulation, byte for byte.
+// A clock that moves only when told (zaklad/virtualni_hodiny.h), settings in memory, dialogues answered from
+// a queue, beeps and message boxes collected in lists. Nothing here depends on the machine, so that the same
+// script and the same seed give the same simulation, byte for byte.
 #pragma once
 
 #include "zaklad/platforma.h"
 #include "zaklad/text.h"
+#include "zaklad/virtualni_hodiny.h"
 
 #include <cstdint>
 #include <deque>
@@ -28,8 +29,6 @@ struct ZaznamNastaveni {
 };
 
 struct VirtualniSvet {
-    std::int64_t cas_ms = 0;                // virtual milliseconds since the start of the runner
-    NastennyCas pocatek;                    // wall clock at virtual millisecond 0
     std::uint64_t semeno = 1;               // of the random source
     bool ladeni = false;                    // as if the marker of debug mode were there
     std::vector<ZaznamNastaveni> nastaveni; // in the order in which the keys were first written
@@ -44,6 +43,3 @@ extern VirtualniSvet svet;
 
 // The platform that works on `svet`. Its `ukonci` notes the end and throws KonecProgramu.
 Platforma virtualni_platforma();
-
-// The wall clock `ms` milliseconds after a moment, the calendar included.
-NastennyCas posun_cas(const NastennyCas& od, std::int64_t ms);

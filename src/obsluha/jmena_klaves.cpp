@@ -104,3 +104,13 @@ Klavesa klavesa_podle_jmena(TextPohled jmeno) {
     k.pismeno = velka[0];
     return k;
 }
+
+Text jmeno_klavesy(const Klavesa& k) {
+    Text jmeno = Text(k.ctrl ? "Ctrl+" : "") + (k.alt ? "Alt+" : "") + (k.shift ? "Shift+" : "");
+    if (k.kod == KodKlavesy::pismeno)
+        return jmeno + k.pismeno;
+    for (const JmenoKlavesy& znama : kJmenaKlaves)
+        if (znama.kod == k.kod)
+            return jmeno + Text(znama.jmeno);
+    return {};
+}

@@ -14,6 +14,7 @@
 #include "obsluha/menu_koleje.h"
 #include "obsluha/menu_prvku.h"
 #include "obsluha/povely.h"
+#include "obsluha/ukony.h"
 #include "obsluha/volba.h"
 #include "obsluha/vstup.h"
 #include "obsluha/zadani.h"
@@ -251,7 +252,10 @@ bool klavesa_technologie(const Klavesa& k) {
 } // namespace
 
 bool klavesa(const Klavesa& k) {
+    if (k.kod == KodKlavesy::zadna || k.kod == KodKlavesy::jina)
+        return false;
     ++pocty_provozu.povelu;
+    const ZapisUkonu zapis({.co = DruhUkonu::klavesa, .klavesa = k});
     // Ctrl+Alt+F10 is taken by most X servers for themselves; Ctrl+Shift+F10 comes everywhere.
     const bool konec = k.kod == KodKlavesy::f10 && k.ctrl && (k.alt || k.shift);
     if (prihlaseni_bezi() && !konec && !bere_klavesu(k.kod))
@@ -288,5 +292,6 @@ void pis_do_pole(TextPohled text) {
     if (!vstup_otevren())
         return;
     ++pocty_provozu.povelu;
+    const ZapisUkonu zapis({.co = DruhUkonu::psani, .text = Text(text)});
     relief.txtZadav_pole[0].text = text;
 }

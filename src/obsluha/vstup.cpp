@@ -15,6 +15,7 @@
 #include "obsluha/menu_tabulky.h"
 #include "obsluha/povely.h"
 #include "obsluha/stanoviste.h"
+#include "obsluha/ukony.h"
 #include "obsluha/volba.h"
 #include "obsluha/vyber.h"
 #include "save/debug_vypis.h"
@@ -115,6 +116,7 @@ void klik_na_desku(Druh druh) {
 void klik(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
     if (!tabulka(druh).je(n) || technologie_kryje_stul() || !bere_klik(druh, tlacitko))
         return;
+    const ZapisUkonu zapis({.co = DruhUkonu::klik, .druh = druh, .n = n, .tlacitko = tlacitko, .ctrl = ctrl});
     if (druh != Druh::lblPrikaz && druh != Druh::lblVolba) // on the command line it is the key Enter
         ++pocty_provozu.povelu;
     zavri_pohled_sekvence();
@@ -130,6 +132,7 @@ void klik(Druh druh, int n, Tlacitko tlacitko, bool ctrl) {
 void dvojklik(Druh druh, int n) {
     if (!tabulka(druh).je(n) || technologie_kryje_stul() || prihlaseni_bezi())
         return;
+    const ZapisUkonu zapis({.co = DruhUkonu::dvojklik, .druh = druh, .n = n});
     ++pocty_provozu.povelu;
     zavri_menu();
     if (druh == Druh::cislo_koleje)
@@ -137,9 +140,12 @@ void dvojklik(Druh druh, int n) {
 }
 
 void najeti(Druh druh, int n) {
-    pohyb_mysi();
-    if (!tabulka(druh).je(n))
+    if (!tabulka(druh).je(n)) {
+        pohyb_mysi();
         return;
+    }
+    const ZapisUkonu zapis({.co = DruhUkonu::najeti, .druh = druh, .n = n});
+    pohyb_mysi();
     vyber.mys_nad_prvkem = true;
     vyber.mys_druh = druh;
     vyber.mys_prvek = n;
@@ -149,6 +155,7 @@ void najeti(Druh druh, int n) {
 }
 
 void odjeti() {
+    const ZapisUkonu zapis({.co = DruhUkonu::odjeti});
     pohyb_mysi();
     vyber.mys_nad_prvkem = false;
     vyber.mys_prvek = kZadny;
@@ -156,12 +163,17 @@ void odjeti() {
 }
 
 void pohyb_mysi() {
-    simulace.posledni_pohyb = platforma.nastenny_cas().sekundy_dne();
+    const std::int32_t ted = platforma.nastenny_cas().sekundy_dne();
+    if (simulace.posledni_pohyb == ted)
+        return;
+    const ZapisUkonu zapis({.co = DruhUkonu::pohyb});
+    simulace.posledni_pohyb = ted;
 }
 
 void klik_na_plochu() {
     if (technologie_kryje_stul())
         return;
+    const ZapisUkonu zapis({.co = DruhUkonu::plocha});
     ++pocty_provozu.povelu;
     zavri_pohled_sekvence();
     zavri_menu();
@@ -169,11 +181,14 @@ void klik_na_plochu() {
 }
 
 void klik_na_zalozku(Technologie ktera) {
-    if (technologie_kryje_stul())
-        otevri_technologii(ktera);
+    if (!technologie_kryje_stul())
+        return;
+    const ZapisUkonu zapis({.co = DruhUkonu::zalozka, .n = static_cast<std::int32_t>(ktera)});
+    otevri_technologii(ktera);
 }
 
 void klik_na_radek(Seznam& seznam, int radek) {
+    const ZapisUkonu zapis({.co = DruhUkonu::radek, .n = radek, .text = jmeno_seznamu(seznam)});
     ++pocty_provozu.povelu;
     const bool je = radek >= 0 && static_cast<std::size_t>(radek) < seznam.radky.size();
     seznam.vybrany = je ? radek : -1;
@@ -190,6 +205,7 @@ bool zvol_v_menu(TextPohled jmeno) {
     });
     if (polozka == menu.polozky.end() || !polozka->povolena)
         return false;
+    const ZapisUkonu zapis({.co = DruhUkonu::polozka_menu, .text = Text(jmeno)});
     ++pocty_provozu.povelu;
     const PolozkaMenu zvolena = *polozka;
     zavri_menu();
@@ -203,5 +219,35 @@ bool zvol_v_menu(TextPohled jmeno) {
 }
 
 void zahod_menu() {
+    if (menu.jmeno.empty())
+        return;
+    const ZapisUkonu zapis({.co = DruhUkonu::zahozeni_menu});
     zavri_menu();
+}
+
+void okno_zmizelo() {
+    if (simulace.minimalizovano)
+        return;
+    const ZapisUkonu zapis({.co = DruhUkonu::okno_dolu});
+    minimalizuj();
+}
+
+void okno_se_vratilo() {
+    const ZapisUkonu zapis({.co = DruhUkonu::okno_nahoru});
+    obnov_okno();
+}
+
+void zastav_sluzbu() {
+    const ZapisUkonu zapis({.co = DruhUkonu::sluzba_stoji});
+    zastav_hodiny();
+}
+
+void spust_sluzbu() {
+    const ZapisUkonu zapis({.co = DruhUkonu::sluzba_bezi});
+    spust_hodiny();
+}
+
+void zavri_okno() {
+    const ZapisUkonu zapis({.co = DruhUkonu::okno_zavrit});
+    konec_programu(true);
 }

@@ -36,3 +36,14 @@ void klik_na_zalozku(Technologie ktera);
 bool zvol_v_menu(TextPohled jmeno);
 // The open menu goes without a choice.
 void zahod_menu();
+
+// --- when the window system says so
+
+// The window of the desk went away, and came back.
+void okno_zmizelo();
+void okno_se_vratilo();
+// A window that is no box, as the manual, stops the service while it is open, and lets it run on.
+void zastav_sluzbu();
+void spust_sluzbu();
+// The window is to be closed: asks whether the simulation is to end.
+void zavri_okno();

@@ -128,3 +128,32 @@ std::optional<KodChyby> gtn_vyprazdni() {
 void gtn_zavri() {
     denik.zavri();
 }
+
+std::int64_t gtn_delka() {
+    return denik.otevreny() ? denik.soubor.delka + static_cast<std::int64_t>(denik.cekajici.bajty.size()) : 0;
+}
+
+Bajty gtn_odrizni(std::int64_t delka) {
+    if (!denik.otevreny() || delka >= gtn_delka())
+        return {};
+    Bajty konec;
+    Bajty& ceka = denik.cekajici.bajty;
+    if (delka < denik.soubor.delka) {
+        std::optional<Bajty> z_disku = odrizni(denik.soubor, delka);
+        if (!z_disku) // a disk that does not let go keeps what it has
+            return {};
+        konec = std::move(*z_disku);
+        konec.insert(konec.end(), ceka.begin(), ceka.end());
+        ceka.clear();
+    } else {
+        const auto od = ceka.begin() + (delka - denik.soubor.delka);
+        konec.assign(od, ceka.end());
+        ceka.erase(od, ceka.end());
+    }
+    return konec;
+}
+
+void gtn_pripoj(const Bajty& konec) {
+    if (denik.otevreny())
+        denik.cekajici.bajty.insert(denik.cekajici.bajty.end(), konec.begin(), konec.end());
+}

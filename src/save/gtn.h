@@ -1,9 +1,11 @@
 // save/gtn.h - the train-number log: every change of the interlocking's state, in order of time.
 //
 // GTN\yymmdd.gtn in the program's folder; a file of the same day is deleted first. The log stays open
-// until the process ends and is only ever written.
+// until the process ends and is only ever written; when the operator turns time back, it ends where it did
+// then, so that it is the log of the shift that counts.
 #pragma once
 
+#include "zaklad/balik.h"
 #include "zaklad/chyba.h"
 
 #include <cstdint>
@@ -46,3 +48,12 @@ void gtn_zapis(int prvek, std::uint8_t kod, std::int32_t hodnota);
 // operator to be told; a log that cannot be written stops no service.
 std::optional<KodChyby> gtn_vyprazdni();
 void gtn_zavri();
+
+// --- when time is turned back
+
+// Bytes of the log so far, those that are held back included; 0 when none is open.
+std::int64_t gtn_delka();
+// The log ends at that length again. Answers with what it held behind it.
+Bajty gtn_odrizni(std::int64_t delka);
+// Puts back what was cut off.
+void gtn_pripoj(const Bajty& konec);

@@ -8,6 +8,7 @@
 #include "save/zaznam.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
+#include "zaklad/odpovedi.h"
 #include "zaklad/platforma.h"
 #include "zaklad/soubory.h"
 
@@ -121,11 +122,12 @@ void uloz_dialog(std::optional<Rozbeh> rozbeh) {
     for (;;) {
         const auto odpoved = platforma.soubor_k_ulozeni(slozka, "*.sim", navrzene_jmeno());
         const Text soubor = odpoved ? jmeno_z_dialogu(*odpoved) : Text{};
+        const bool prepise = !soubor.empty() && pise_se_na_disk() && delka_souboru(soubor).value_or(0) > 0;
+        if (prepise && !platforma.otazka("Uložit záznam"_cz, "Soubor již existuje. Přepsat?"_cz, false))
+            continue;
+        zapis_odpoved_dialogu(soubor); // what counts of the dialogue is how it ended
         if (soubor.empty())
             return;
-        if (delka_souboru(soubor).value_or(0) > 0 &&
-            !platforma.otazka("Uložit záznam"_cz, "Soubor již existuje. Přepsat?"_cz, false))
-            continue;
         uloz_simulaci(soubor, false, rozbeh);
         return;
     }

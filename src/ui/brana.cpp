@@ -2,6 +2,7 @@
 #include "ui/brana.h"
 
 #include "app/bezpecne.h"
+#include "ui/hodiny_stolu.h"
 #include "zaklad/chyba.h"
 
 #include <QCoreApplication>
@@ -23,6 +24,7 @@ bool v_jadre(const std::function<void()>& telo) {
     try {
         bezpecne([&] {
             try {
+                dozen_hodiny_stolu();
                 telo();
             } catch (const std::bad_alloc&) {
                 chyba(KodChyby::malo_pameti);

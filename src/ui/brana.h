@@ -1,9 +1,9 @@
 // ui/brana.h - the gate between the window system and the core.
 //
-// Every timer, key, click and choice enters the core through v_jadre(). A run-time error that comes out
-// is shown in a box and ends the process; so does the end of the program. While the core runs, a box or
-// a dialogue of its own may turn the event loop: what comes in then waits outside, so that two bodies
-// never overlap.
+// Every key, click and choice enters the core through v_jadre(), once the timers that are due by then have
+// run. A run-time error that comes out is shown in a box and ends the process; so does the end of the
+// program. While the core runs, a box or a dialogue of its own may turn the event loop: what comes in then
+// waits outside, so that two bodies never overlap.
 #pragma once
 
 #include <functional>

@@ -1,11 +1,14 @@
 // ui/hlavni.cpp - the desk's program: start screen, splash screen, main screen.
 #include "app/nova_simulace.h"
 #include "app/parametry.h"
+#include "app/planovac.h"
 #include "app/simulace.h"
+#include "app/smena.h"
 #include "app/start.h"
 #include "app/zprava_o_provozu.h"
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
+#include "ui/hodiny_stolu.h"
 #include "ui/parametry.h"
 #include "ui/platforma_qt.h"
 #include "ui/prirucka.h"
@@ -14,6 +17,7 @@
 #include "ui/vzhled.h"
 #include "ui/zvuk.h"
 #include "zaklad/platforma.h"
+#include "zaklad/virtualni_hodiny.h"
 
 #include <QApplication>
 #include <QLibraryInfo>
@@ -72,7 +76,12 @@ void ukaz_hlavni_obrazovku() {
         hlavni_okno->showFullScreen();
     }
     hlavni_okno->setFocus();
-    v_jadre(start_simulace);
+    v_jadre([] {
+        plyn_do(virtualni_hodiny.cas_ms + kUvodniObrazovka_ms);
+        start_simulace();
+        zacni_smenu(true);
+    });
+    pust_hodiny_stolu();
     uvod.reset();
     if (!je_konec()) {
         hlavni_okno->activateWindow();
@@ -118,6 +127,8 @@ void nech_bezet_ui() {
 void zacni_start() {
     if (!formular)
         return;
+    drz_hodiny_stolu();
+    v_jadre(spust_planovac);
     formular->hide();
     formular.release()->deleteLater();
     QTimer::singleShot(kUvodniObrazovka_ms, [] {
@@ -157,6 +168,7 @@ int main(int pocet, char** slova) {
     }
     const int kod = je_konec() ? navratovy_kod() : QApplication::exec();
     zapis_zpravu_sluzby();
+    dopis_smenu();
     hlavni_okno.reset();
     uvod.reset();
     formular.reset();

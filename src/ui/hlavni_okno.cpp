@@ -1,13 +1,10 @@
 // ui/hlavni_okno.cpp - the main screen: the desk in a window, its timers, its keys and its pointer.
 #include "ui/hlavni_okno.h"
 
-#include "app/casovace.h"
-#include "app/konec.h"
 #include "app/simulace.h"
 #include "cesty/duvod.h"
 #include "desk/menu.h"
 #include "obsluha/vstup.h"
-#include "prvky/panel.h"
 #include "technologie/technologie.h"
 #include "ui/brana.h"
 #include "ui/nabidka.h"
@@ -30,7 +27,6 @@
 #include <QWindow>
 
 #include <cmath>
-#include <ctime>
 #include <utility>
 
 namespace {
@@ -50,13 +46,6 @@ constexpr const char* kVzhledSeznamu =
     "QScrollBar::handle:vertical { background: #505b68; min-height: 20px; }"
     "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }";
 HlavniOkno* jedine = nullptr;
-
-// Milliseconds of a clock that nobody sets and that counts the sleep of the computer too.
-std::int64_t ms_od_zapnuti() {
-    timespec t{};
-    clock_gettime(CLOCK_BOOTTIME, &t);
-    return std::int64_t{t.tv_sec} * 1000 + t.tv_nsec / 1'000'000;
-}
 
 Tlacitko tlacitko_mysi(Qt::MouseButton tlacitko) {
     return tlacitko == Qt::RightButton    ? Tlacitko::prave
@@ -208,30 +197,16 @@ HlavniOkno::HlavniOkno() {
     okno_technologie = new ObrazovkaTechnologie(
         this, [this](QKeyEvent* udalost) { return stisk(udalost); }, [this] { obnov(); });
 
-    for (std::size_t i = 0; i < casovace.size(); ++i) {
-        auto* okna = new QTimer(this);
-        okna->setTimerType(Qt::PreciseTimer);
-        connect(okna, &QTimer::timeout, this, [this, i] { udalost_hodin(i); });
-        okna->start(casovace[i].perioda_ms);
-    }
-    connect(&blikani_diag, &QTimer::timeout, this, [] { v_jadre(krok_blikani_diag); });
-    connect(&prekreslovani, &QTimer::timeout, this, [this] { obnov(); });
+    connect(&prekreslovani, &QTimer::timeout, this, [this] {
+        v_jadre([] {}); // the timers of the desk that are due
+        obnov();
+    });
+    prekreslovani.setTimerType(Qt::PreciseTimer);
     prekreslovani.start(kPrekreslovani_ms);
 }
 
 HlavniOkno::~HlavniOkno() {
     jedine = nullptr;
-}
-
-// While a box is open the core takes no event, but the timers go on: that is no stall.
-void HlavniOkno::udalost_hodin(std::size_t casovac) {
-    const std::int64_t ted = ms_od_zapnuti();
-    const bool v_behu = v_jadre([&] {
-        udalost_casovace(znacky, casovac, ted);
-        casovace[casovac].telo();
-    });
-    if (!v_behu)
-        znacky.posledni[casovac] = ted;
 }
 
 HlavniOkno* HlavniOkno::otevrene() {
@@ -340,10 +315,6 @@ void HlavniOkno::obnov() {
     obnov_nabidku();
     obnov_ohnisko();
     okno_technologie->obnov();
-    if (const int perioda = perioda_blikani_diag(); perioda == 0)
-        blikani_diag.stop();
-    else if (!blikani_diag.isActive() || blikani_diag.interval() != perioda)
-        blikani_diag.start(perioda);
 }
 
 void HlavniOkno::obnov_seznam(ZobrazenySeznam& s) {
@@ -628,9 +599,9 @@ void HlavniOkno::zmenit_viditelnost_okna() {
         return;
     if (v_jadre([this] {
             if (isMinimized())
-                ::minimalizuj();
+                okno_zmizelo();
             else
-                obnov_okno();
+                okno_se_vratilo();
         }))
         minimalizovane = isMinimized();
     obnov();
@@ -648,7 +619,7 @@ void HlavniOkno::changeEvent(QEvent* udalost) {
 }
 
 void HlavniOkno::closeEvent(QCloseEvent* udalost) {
-    v_jadre([] { konec_programu(true); });
+    v_jadre(zavri_okno);
     udalost->setAccepted(je_konec());
 }
 

@@ -1,7 +1,6 @@
 // ui/hlavni_okno.h - the main screen: the desk in a window, its timers, its keys and its pointer.
 #pragma once
 
-#include "app/prestavky.h"
 #include "obsluha/volba.h"
 #include "obsluha/vstup.h"
 #include "relief/relief.h"
@@ -80,13 +79,11 @@ private:
     void obnov_nabidku();
     bool stisk_za_mys(const QKeyEvent& udalost);
     bool stisk(QKeyEvent* udalost);
-    void udalost_hodin(std::size_t casovac);
     void zmenit_viditelnost_okna();
 
     Platno platno;
     bool natreny_stul = false; // the picture is shown
-    QTimer prekreslovani, blikani_diag;
-    ZnackyCasovacu znacky;
+    QTimer prekreslovani;      // and the running of time
     QLineEdit* pole = nullptr;
     std::array<ZobrazenySeznam, 2> seznamy;
     QMenu* nabidka = nullptr;

@@ -5,6 +5,7 @@
 #include "app/simulace.h"
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
+#include "ui/hodiny_stolu.h"
 #include "ui/napoveda.h"
 #include "ui/okna_x11.h"
 #include "ui/pismo.h"
@@ -13,13 +14,13 @@
 #include "zaklad/chyba.h"
 #include "zaklad/platforma.h"
 #include "zaklad/soubory.h"
+#include "zaklad/virtualni_hodiny.h"
 
 #include <QApplication>
 #include <QCursor>
 #include <QDateTime>
 #include <QDesktopServices>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QEventLoop>
 #include <QFile>
 #include <QFileDialog>
@@ -46,8 +47,6 @@
 #include <vector>
 
 namespace {
-
-QElapsedTimer hodiny_procesu;
 
 QString slozka_uzivatele() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation) +
@@ -113,6 +112,7 @@ public:
     Otevrene(const Otevrene&) = delete;
     Otevrene& operator=(const Otevrene&) = delete;
     ~Otevrene() {
+        okno_stolu_stalo();
         ukonci_okno(bezel_cas);
         if (pod_nim != nullptr && pod_nim->isVisible() && QGuiApplication::focusWindow() == nullptr)
             pod_nim->activateWindow();
@@ -283,14 +283,10 @@ bool bezi_jina() {
 } // namespace
 
 void zapln_platformu() {
-    hodiny_procesu.start();
+    zapni_hodiny_stolu();
     Platforma p = prazdna_platforma();
-    p.tik_ms = [] { return static_cast<std::int32_t>(hodiny_procesu.elapsed()); };
-    p.nastenny_cas = [] {
-        const QDateTime t = QDateTime::currentDateTime();
-        return NastennyCas{t.date().year(),   t.date().month(),  t.date().day(), t.time().hour(),
-                           t.time().minute(), t.time().second(), t.time().msec()};
-    };
+    p.tik_ms = tik_virtualnich_hodin;
+    p.nastenny_cas = cas_virtualnich_hodin;
     p.semeno = [] { return static_cast<std::uint64_t>(QDateTime::currentMSecsSinceEpoch()); };
     p.nech_bezet_ui = [] { QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents); };
     p.cekej = cekej;

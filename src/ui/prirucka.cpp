@@ -1,9 +1,8 @@
 // ui/prirucka.cpp - the manual in a window of the program.
 #include "ui/prirucka.h"
 
-#include "app/prestavky.h"
 #include "app/simulace.h"
-#include "desk/menu.h"
+#include "obsluha/vstup.h"
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
 #include "ui/napoveda.h"
@@ -178,12 +177,16 @@ void Prirucka::closeEvent(QCloseEvent* udalost) {
 void Prirucka::zastav_cas() {
     if (HlavniOkno::otevrene() == nullptr)
         return; // before the service there is no time to hold
-    v_jadre([this] { drzi_cas = zacni_okno(); });
+    v_jadre([this] {
+        drzi_cas = !simulace.pauza;
+        if (drzi_cas)
+            zastav_sluzbu();
+    });
 }
 
 void Prirucka::vrat_cas() {
     if (drzi_cas && simulace.pauza)
-        v_jadre([] { ukonci_okno(true); });
+        v_jadre(spust_sluzbu);
     drzi_cas = false;
     if (HlavniOkno* stul = HlavniOkno::otevrene()) {
         stul->obnov();
@@ -203,7 +206,7 @@ protected:
             return QObject::eventFilter(cil, udalost);
         const int kapitola = kapitola_tady();
         if (QApplication::activePopupWidget() != nullptr)
-            v_jadre(zavri_menu);
+            v_jadre(zahod_menu);
         while (QWidget* nabidka = QApplication::activePopupWidget())
             if (!nabidka->close())
                 break;

@@ -249,12 +249,6 @@ ObrazovkaTechnologie::ObrazovkaTechnologie(QWidget* rodic, std::function<bool(QK
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
-    for (const auto& [casovac, telo] :
-         {std::pair{&datum, &tik_technologie}, std::pair{&znacky, &tik_driveru}})
-        connect(casovac, &QTimer::timeout, this, [this, telo = telo] {
-            v_jadre(telo);
-            obnov();
-        });
 }
 
 // --- from the core to the screen
@@ -272,13 +266,6 @@ void ObrazovkaTechnologie::obnov() {
             if (hasFocus())
                 parentWidget()->setFocus();
         }
-    }
-    for (const auto& [casovac, perioda] :
-         {std::pair{&datum, perioda_technologie()}, std::pair{&znacky, perioda_driveru()}}) {
-        if (perioda == 0)
-            casovac->stop();
-        else if (!casovac->isActive())
-            casovac->start(perioda);
     }
     if (!ktera)
         return;

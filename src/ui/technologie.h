@@ -13,7 +13,6 @@
 #include "technologie/technologie.h"
 #include "ui/kresba.h"
 
-#include <QTimer>
 #include <QWidget>
 
 #include <array>
@@ -76,7 +75,6 @@ private:
 
     std::function<bool(QKeyEvent*)> stisk;
     std::function<void()> po_vstupu;
-    QTimer datum, znacky;
     Obsah zobrazeny;
     std::array<int, 4> prvni_radek{};  // of each list, when it is longer than its window
     std::array<int, 4> minuly_vyber{}; // selected line of each list, as last shown

@@ -18,6 +18,8 @@ namespace fs = std::filesystem;
 
 namespace {
 
+bool pise_se = true;
+
 constexpr std::int64_t kNejdelsiSoubor = 64 * 1024 * 1024;
 
 // A name on disk is UTF-8, a name of the core code page 1250; a host may also hand over the folder of the
@@ -274,7 +276,7 @@ void zapis_vedle(TextPohled cesta, const std::string& jmeno, const Bajty& obsah,
 // one goes on with what he has: two files never mix. One that cannot be removed is emptied.
 int otevri_novy(const std::string& jmeno) {
     constexpr int kPokusu = 10;
-    constexpr int kVolby = O_WRONLY | O_CREAT | O_CLOEXEC | O_NONBLOCK;
+    constexpr int kVolby = O_RDWR | O_CREAT | O_CLOEXEC | O_NONBLOCK;
     for (int pokus = 0; pokus < kPokusu; ++pokus) {
         const int soubor = ::open(jmeno.c_str(), kVolby | O_EXCL, 0644);
         if (soubor >= 0 || errno != EEXIST)
@@ -353,12 +355,24 @@ Bajty nacti_soubor(TextPohled cesta) {
     return obsah;
 }
 
+bool pise_se_na_disk(bool ano) {
+    return std::exchange(pise_se, ano);
+}
+
+bool pise_se_na_disk() {
+    return pise_se;
+}
+
 void zapis_soubor(TextPohled cesta, const Bajty& obsah) {
+    if (!pise_se)
+        return;
     const auto stary = udaje(cesta);
     zapis_vedle(cesta, cesta_k_zapisu(cesta), obsah, -1, stary ? stary->st_mode & 07777u : 0u);
 }
 
 void prepis_zacatek_souboru(TextPohled cesta, const Bajty& obsah) {
+    if (!pise_se)
+        return;
     const std::string cil = cesta_k_zapisu(cesta);
     const int stary = ::open(cil.c_str(), O_RDWR | O_CLOEXEC | O_NONBLOCK);
     if (stary < 0 && errno != ENOENT)
@@ -395,6 +409,25 @@ std::optional<KodChyby> pripis(RostouciSoubor& soubor, const Bajty& obsah) {
     return vraceno ? kod_zapisu(duvod) : KodChyby::chyba_zarizeni;
 }
 
+std::optional<Bajty> odrizni(RostouciSoubor& soubor, std::int64_t delka) {
+    Bajty konec(static_cast<std::size_t>(soubor.delka - delka));
+    std::size_t precteno = 0;
+    while (precteno < konec.size()) {
+        const ssize_t kus = ::pread(soubor.popisovac, konec.data() + precteno, konec.size() - precteno,
+                                    static_cast<off_t>(delka) + static_cast<off_t>(precteno));
+        if (kus < 0 && errno == EINTR)
+            continue;
+        if (kus <= 0)
+            return std::nullopt;
+        precteno += static_cast<std::size_t>(kus);
+    }
+    const auto kam = static_cast<off_t>(delka);
+    if (::ftruncate(soubor.popisovac, kam) != 0 || ::lseek(soubor.popisovac, kam, SEEK_SET) != kam)
+        return std::nullopt;
+    soubor.delka = delka;
+    return konec;
+}
+
 void zavri_rostouci(RostouciSoubor& soubor) {
     if (soubor.popisovac >= 0)
         ::close(soubor.popisovac);
@@ -402,6 +435,8 @@ void zavri_rostouci(RostouciSoubor& soubor) {
 }
 
 bool presun_soubor(TextPohled odkud, TextPohled kam) {
+    if (!pise_se)
+        return false;
     ++zmeny;
     const auto nalezeny = najdi_soubor(odkud);
     return nalezeny && ::rename(nalezeny->c_str(), cesta_k_zapisu(kam).c_str()) == 0;
@@ -423,6 +458,8 @@ bool zamkni_slozku(TextPohled slozka, Zamek zamek) {
 }
 
 bool zaloz_slozku(TextPohled cesta) {
+    if (!pise_se)
+        return true;
     std::string slozka = cesta_k_zapisu(cesta);
     while (slozka.size() > 1 && slozka.back() == '/')
         slozka.pop_back();
@@ -432,6 +469,8 @@ bool zaloz_slozku(TextPohled cesta) {
 }
 
 bool smaz_soubor(TextPohled cesta) {
+    if (!pise_se)
+        return false;
     ++zmeny;
     const auto nalezena = najdi_soubor(cesta);
     return nalezena && ::unlink(nalezena->c_str()) == 0;

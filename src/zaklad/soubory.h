@@ -44,7 +44,15 @@ struct RostouciSoubor {
 void zaloz_rostouci(RostouciSoubor& soubor, TextPohled cesta);
 // Appends all or nothing: after a fault the file ends where it did.
 std::optional<KodChyby> pripis(RostouciSoubor& soubor, const Bajty& obsah);
+// Makes it shorter and answers with what was cut off; nothing when it cannot be read or cut.
+std::optional<Bajty> odrizni(RostouciSoubor& soubor, std::int64_t delka);
 void zavri_rostouci(RostouciSoubor& soubor);
+
+// Whether files are written, named anew and removed at all; a file that only grows is not meant. No: whatever
+// would be written counts as written. A shift that is played again writes no saves over those of the
+// operator. Answers with what held before.
+bool pise_se_na_disk(bool ano);
+bool pise_se_na_disk();
 
 // Makes the folder; false on a fault (an existing folder is no fault).
 bool zaloz_slozku(TextPohled cesta);

@@ -1,8 +1,8 @@
-// testy/davka/planovac_test.cpp - the timers in virtual time.
+// testy/app/planovac_test.cpp - the timers in virtual time.
 #include "app/casovace.h"
 #include "app/nova_simulace.h"
+#include "app/planovac.h"
 #include "app/simulace.h"
-#include "davka/planovac.h"
 #include "davka/virtualni_svet.h"
 #include "prvky/panel.h"
 
@@ -16,11 +16,12 @@ namespace {
 struct PlanovacCasu : ::testing::Test {
     PlanovacCasu() {
         svet = VirtualniSvet{};
+        virtualni_hodiny = VirtualniHodiny{};
         planovac = Planovac{};
         platforma = virtualni_platforma();
         nova_simulace();
         panel_navestidla = PanelNavestidla{};
-        planovac.po_kroku = [this] { kroky.push_back(svet.cas_ms); };
+        planovac.po_kroku = [this] { kroky.push_back(virtualni_hodiny.cas_ms); };
     }
     ~PlanovacCasu() override {
         panel_navestidla = PanelNavestidla{};
@@ -45,7 +46,7 @@ struct PlanovacCasu : ::testing::Test {
 
 TEST_F(PlanovacCasu, NothingRunsBeforeTheMainScreen) {
     EXPECT_FALSE(plyn_do(60'000));
-    EXPECT_EQ(svet.cas_ms, 60'000);
+    EXPECT_EQ(virtualni_hodiny.cas_ms, 60'000);
     EXPECT_TRUE(kroky.empty());
 }
 
@@ -53,14 +54,14 @@ TEST_F(PlanovacCasu, EachTimerRunsAtTheMultiplesOfItsPeriod) {
     spust_planovac();
     plyn_do(30'000);
     EXPECT_EQ(kroky, nasobky(0, 30'000));
-    EXPECT_EQ(svet.cas_ms, 30'000);
+    EXPECT_EQ(virtualni_hodiny.cas_ms, 30'000);
 }
 
 TEST_F(PlanovacCasu, PiecesOfTimeGiveTheSameStepsAsTheWhole) {
     spust_planovac();
     for (int i = 0; i < 300; ++i)
-        plyn_do(svet.cas_ms + 7 + i % 13);
-    EXPECT_EQ(kroky, nasobky(0, svet.cas_ms));
+        plyn_do(virtualni_hodiny.cas_ms + 7 + i % 13);
+    EXPECT_EQ(kroky, nasobky(0, virtualni_hodiny.cas_ms));
 }
 
 TEST_F(PlanovacCasu, TimersOfALaterStartKeepTheSameRaster) {
@@ -75,14 +76,14 @@ TEST_F(PlanovacCasu, TimeDoesNotGoBack) {
     plyn_do(2'000);
     const std::size_t dosud = kroky.size();
     plyn_do(1'000);
-    EXPECT_EQ(svet.cas_ms, 2'000);
+    EXPECT_EQ(virtualni_hodiny.cas_ms, 2'000);
     EXPECT_EQ(kroky.size(), dosud);
 }
 
 TEST_F(PlanovacCasu, EnoughIsAskedWhenAllOfAMomentHasRun) {
     spust_planovac();
-    EXPECT_TRUE(plyn_do(60'000, [] { return svet.cas_ms >= 1'500; }));
-    EXPECT_EQ(svet.cas_ms, 1'500);
+    EXPECT_TRUE(plyn_do(60'000, [] { return virtualni_hodiny.cas_ms >= 1'500; }));
+    EXPECT_EQ(virtualni_hodiny.cas_ms, 1'500);
     EXPECT_EQ(kroky, nasobky(0, 1'500)) << "the clock and the blinking are both due at 1500";
     EXPECT_FALSE(plyn_do(3'000, [] { return false; }));
     EXPECT_EQ(kroky, nasobky(0, 3'000));

@@ -1,10 +1,10 @@
-// davka/planovac.cpp - the virtual scheduler.
-#include "davka/planovac.h"
+// app/planovac.cpp - the timers by the host's clock.
+#include "app/planovac.h"
 
 #include "app/casovace.h"
-#include "davka/virtualni_svet.h"
 #include "prvky/panel.h"
 #include "technologie/technologie.h"
+#include "zaklad/virtualni_hodiny.h"
 
 #include <algorithm>
 #include <array>
@@ -43,7 +43,7 @@ void sleduj_promenne() {
         if (perioda == planovac.periody_promennych[i])
             continue;
         planovac.periody_promennych[i] = perioda;
-        planovac.splatno_promennych[i] = svet.cas_ms + perioda;
+        planovac.splatno_promennych[i] = virtualni_hodiny.cas_ms + perioda;
     }
 }
 
@@ -55,18 +55,27 @@ std::int64_t nejblizsi() {
     return cas;
 }
 
-void proved_splatne() {
+void proved_casovace(bool obsluha) {
     for (std::size_t i = 0; i < casovace.size(); ++i)
-        if (planovac.splatno[i] <= svet.cas_ms) {
-            planovac.splatno[i] = dalsi_nasobek(svet.cas_ms, casovace[i].perioda_ms);
-            proved(casovace[i].telo);
+        if (casovace[i].obsluha == obsluha && planovac.splatno[i] <= virtualni_hodiny.cas_ms) {
+            planovac.splatno[i] = dalsi_nasobek(virtualni_hodiny.cas_ms, casovace[i].perioda_ms);
+            if (!obsluha || !planovac.bez_obsluhy)
+                proved(casovace[i].telo);
         }
+}
+
+void proved_splatne() {
+    proved_casovace(false);
     for (std::size_t i = 0; i < kPromenne.size(); ++i)
-        if (planovac.periody_promennych[i] > 0 && planovac.splatno_promennych[i] <= svet.cas_ms) {
+        if (planovac.periody_promennych[i] > 0 && planovac.splatno_promennych[i] <= virtualni_hodiny.cas_ms) {
             planovac.splatno_promennych[i] += planovac.periody_promennych[i];
             proved(kPromenne[i].telo);
         }
     sleduj_promenne();
+    proved_casovace(true);
+    sleduj_promenne();
+    if (planovac.po_okamziku)
+        planovac.po_okamziku();
 }
 
 } // namespace
@@ -75,7 +84,7 @@ void spust_planovac() {
     planovac.bezi = true;
     planovac.splatno.clear();
     for (const Casovac& casovac : casovace)
-        planovac.splatno.push_back(dalsi_nasobek(svet.cas_ms, casovac.perioda_ms));
+        planovac.splatno.push_back(dalsi_nasobek(virtualni_hodiny.cas_ms, casovac.perioda_ms));
     sleduj_promenne();
 }
 
@@ -83,14 +92,23 @@ bool plyn_do(std::int64_t do_ms, const std::function<bool()>& dost) {
     if (planovac.bezi) {
         sleduj_promenne(); // the operator's command may have changed it
         for (std::int64_t cas = nejblizsi(); cas <= do_ms; cas = nejblizsi()) {
-            svet.cas_ms = cas;
+            virtualni_hodiny.cas_ms = cas;
             proved_splatne();
             if (dost && dost())
                 return true;
         }
     }
-    svet.cas_ms = std::max(svet.cas_ms, do_ms);
+    virtualni_hodiny.cas_ms = std::max(virtualni_hodiny.cas_ms, do_ms);
     return false;
+}
+
+void preskoc(std::int64_t ms) {
+    virtualni_hodiny.cas_ms += ms;
+    for (std::size_t i = 0; i < planovac.splatno.size(); ++i)
+        if (planovac.splatno[i] <= virtualni_hodiny.cas_ms)
+            planovac.splatno[i] = dalsi_nasobek(virtualni_hodiny.cas_ms, casovace[i].perioda_ms);
+    for (std::int64_t& splatno : planovac.splatno_promennych)
+        splatno += ms;
 }
 
 void proved_krok(std::size_t poradi) {

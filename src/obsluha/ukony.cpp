@@ -1,0 +1,145 @@
+// obsluha/ukony.cpp - acts are written down, done again, and told as lines of a script.
+#include "obsluha/ukony.h"
+
+#include "app/cas.h"
+#include "obsluha/vstup.h"
+#include "zaklad/odpovedi.h"
+#include "zaklad/virtualni_hodiny.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+
+UkonySmeny ukony_smeny;
+
+namespace {
+
+struct SeznamPanelu {
+    TextPohled jmeno;
+    Seznam Relief::*seznam;
+};
+constexpr std::array kSeznamyPanelu = {SeznamPanelu{"lstZpravy", &Relief::lstZpravy},
+                                       SeznamPanelu{"lstDenik", &Relief::lstDenik}};
+
+// A word of a script: between quotes when it is more than a plain word.
+std::string slovo(std::string text) {
+    const bool holy = !text.empty() && text.find_first_of(" \t\r\"#") == std::string::npos;
+    if (holy)
+        return text;
+    for (std::size_t i = text.find('"'); i != std::string::npos; i = text.find('"', i + 2))
+        text.insert(i, 1, '"');
+    return '"' + text + '"';
+}
+
+std::string prvek(const Ukon& u) {
+    return " " + std::string(jmeno_druhu(u.druh)) + " " + std::to_string(u.n);
+}
+
+std::string radek_kliku(const Ukon& u) {
+    switch (u.tlacitko) {
+    case Tlacitko::leve: return "klik" + prvek(u) + (u.ctrl ? " ctrl" : "");
+    case Tlacitko::prave: return "pravy" + prvek(u);
+    case Tlacitko::prostredni: return "prostredni" + prvek(u);
+    }
+    return {};
+}
+
+} // namespace
+
+ZapisUkonu::ZapisUkonu(Ukon ukon) {
+    if (ukony_smeny.uvnitr++ > 0)
+        return;
+    ukon.cas_ms = virtualni_hodiny.cas_ms;
+    ukon.cas = cas_hodin();
+    ukony_smeny.ukony.push_back(std::move(ukon));
+    kde = ukony_smeny.ukony.size();
+}
+
+ZapisUkonu::~ZapisUkonu() {
+    --ukony_smeny.uvnitr;
+    if (kde > 0 && kde <= ukony_smeny.ukony.size())
+        ukony_smeny.ukony[kde - 1].odpovedi = odpovedi_obsluhy.size();
+}
+
+bool proved_ukon(const Ukon& u) {
+    const int n = static_cast<int>(u.n);
+    switch (u.co) {
+    case DruhUkonu::klik: klik(u.druh, n, u.tlacitko, u.ctrl); return true;
+    case DruhUkonu::dvojklik: dvojklik(u.druh, n); return true;
+    case DruhUkonu::najeti: najeti(u.druh, n); return true;
+    case DruhUkonu::odjeti: odjeti(); return true;
+    case DruhUkonu::pohyb: pohyb_mysi(); return true;
+    case DruhUkonu::plocha: klik_na_plochu(); return true;
+    case DruhUkonu::radek:
+        if (Seznam* seznam = seznam_podle_jmena(u.text))
+            klik_na_radek(*seznam, n);
+        return true;
+    case DruhUkonu::zalozka: klik_na_zalozku(static_cast<Technologie>(n)); return true;
+    case DruhUkonu::polozka_menu: zvol_v_menu(u.text); return true;
+    case DruhUkonu::zahozeni_menu: zahod_menu(); return true;
+    case DruhUkonu::klavesa: klavesa(u.klavesa); return true;
+    case DruhUkonu::psani: pis_do_pole(u.text); return true;
+    case DruhUkonu::okno_dolu: okno_zmizelo(); return true;
+    case DruhUkonu::okno_nahoru: okno_se_vratilo(); return true;
+    case DruhUkonu::okno_zavrit: zavri_okno(); return true;
+    case DruhUkonu::sluzba_stoji: zastav_sluzbu(); return true;
+    case DruhUkonu::sluzba_bezi: spust_sluzbu(); return true;
+    case DruhUkonu::okno_stalo:
+    case DruhUkonu::pocitac_stal:
+    case DruhUkonu::radek_skriptu: return false;
+    }
+    return false;
+}
+
+std::string radek_ukonu(const Ukon& u) {
+    switch (u.co) {
+    case DruhUkonu::klik: return radek_kliku(u);
+    case DruhUkonu::dvojklik: return "dvojklik" + prvek(u);
+    case DruhUkonu::najeti: return "najed" + prvek(u);
+    case DruhUkonu::odjeti: return "najed plocha";
+    case DruhUkonu::pohyb: return "pohyb";
+    case DruhUkonu::plocha: return "klik plocha";
+    case DruhUkonu::radek: return "klik " + na_utf8(u.text) + " " + std::to_string(u.n);
+    case DruhUkonu::zalozka:
+        return "klik " + na_utf8(kTechnologie.at(static_cast<std::size_t>(u.n)).formular);
+    case DruhUkonu::polozka_menu: return "menu " + slovo(na_utf8(u.text));
+    case DruhUkonu::zahozeni_menu: return "zahod_menu";
+    case DruhUkonu::klavesa: return "klavesa " + slovo(na_utf8(jmeno_klavesy(u.klavesa)));
+    case DruhUkonu::psani: return "pis " + slovo(na_utf8(u.text));
+    case DruhUkonu::okno_dolu: return "okno dolu";
+    case DruhUkonu::okno_nahoru: return "okno nahoru";
+    case DruhUkonu::okno_zavrit: return "okno zavri";
+    case DruhUkonu::sluzba_stoji: return "okno stoji";
+    case DruhUkonu::sluzba_bezi: return "okno bezi";
+    case DruhUkonu::okno_stalo: return "prestavka " + std::to_string(u.n) + "ms";
+    case DruhUkonu::pocitac_stal: return "prestavka " + std::to_string(u.n) + "ms pocitac";
+    case DruhUkonu::radek_skriptu: return na_utf8(u.text);
+    }
+    return {};
+}
+
+bool je_pohyb_ukazatele(const Ukon& u) {
+    return u.co == DruhUkonu::najeti || u.co == DruhUkonu::odjeti || u.co == DruhUkonu::pohyb;
+}
+
+Seznam* seznam_podle_jmena(TextPohled jmeno) {
+    for (const SeznamPanelu& s : kSeznamyPanelu)
+        if (s.jmeno == jmeno)
+            return &(relief.*s.seznam);
+    for (std::size_t i = 0; i < kTechnologie.size(); ++i)
+        for (const SeznamTechnologie& s : seznamy_technologie(static_cast<Technologie>(i)))
+            if (s.jmeno == jmeno)
+                return s.seznam;
+    return nullptr;
+}
+
+Text jmeno_seznamu(const Seznam& seznam) {
+    for (const SeznamPanelu& s : kSeznamyPanelu)
+        if (&(relief.*s.seznam) == &seznam)
+            return Text(s.jmeno);
+    for (std::size_t i = 0; i < kTechnologie.size(); ++i)
+        for (const SeznamTechnologie& s : seznamy_technologie(static_cast<Technologie>(i)))
+            if (s.seznam == &seznam)
+                return Text(s.jmeno);
+    return {};
+}
