@@ -19,6 +19,7 @@ import tempfile
 from collections import Counter, defaultdict, namedtuple
 from xml.sax.saxutils import escape
 
+import koridory
 from datove_soubory import (CISLO_KOLEJE, Ctecka, Konec, cti_delku, cti_hlavicku_gvd, cti_prvek, cti_vlak, najdi)
 from nakres import (OKRAJ_DOLE, OKRAJ_NAHORE, OKRAJ_VLEVO, OKRAJ_VPRAVO, PAPIR, cislo_na_care, legenda, mrizka_casu,
                     osa_stanic, zacatek)
@@ -30,21 +31,12 @@ DEN = 1440
 HLAVNI = 9
 KOLEJE_HLAVNIHO = range(26, 36)
 
+KORIDORY = koridory.nacti()
 # stations and points by the codes of the timetable: name, abbreviation of the sources
-STANICE = {
-    1: ("Lhotín", "LHO"), 2: ("Borovec", "BOR"), 3: ("Javořín", "JAV"), 4: ("Dubnice", "DUB"), 5: ("Vrbice", "VRB"),
-    6: ("Rokytno", "ROK"), 7: ("Rybnice", "TRY"), 8: ("Vyšní Hrabov", "TVH"), 9: ("Tesk hl. n.", "THN"),
-    10: ("Kamenec", "KAM"), 11: ("Mokřina", "TMK"), 12: ("Hájovice", "THJ"), 13: ("Knížecí Luka", "TKL"),
-    14: ("Olšany", "OLS"), 15: ("dolní n.", "TDN"), 16: ("PVS", "PVS"), 17: ("ONA", "ONA"), 18: ("ONB", "ONB"),
-    19: ("Pol. Lhota", "PLH"), 20: ("Hvozdy", "HVO"), 21: ("Zlatá", "ZLA"), 22: ("Jívová/Bystrou", "JIV"),
-    23: ("Javorná/Bystrou", "JRN"), 24: ("Podolí", "POD"), 27: ("Hájovice s.n.", "THS"), 28: ("DKV", "DKV"),
-    30: ("DKV", "DKV"), 31: ("Hájovice s.n.", "THS"), 32: ("Javořín dolní", "JVD"), 33: ("Pošta", "PST"),
-    34: ("DKV VH", "DVH"), 35: ("Tesk Lipina", "LIP"), 36: ("Veselá", "VES"), 37: ("Skalka", "SKA"),
-    38: ("Ořechov", "ORE"),
-}
-JEN_JMENA = {36, 37, 38}  # names without a track, which only turn a train that the start puts down
-ZASTAVKY = {10, 14, 21, 22, 23, 24, 32, 35}  # stops on the open line
-JEDNO_MISTO = {31: 27, 30: 28}  # two ends of one yard, of one depot
+STANICE = {kod: (m.nazev, m.zkratka) for m in KORIDORY.mista.values() for kod in m.kody}
+JEN_JMENA = {kod for m in KORIDORY.mista.values() if m.jen_jmeno for kod in m.kody}  # names without a track
+ZASTAVKY = {kod for m in KORIDORY.mista.values() if m.zastavka for kod in m.kody}  # stops on the open line
+JEDNO_MISTO = {kod: m.kody[0] for m in KORIDORY.mista.values() for kod in m.kody[1:]}  # two ends of one yard
 DRUHY = ("", "EC", "IC", "SC", "Ex", "R", "Sp", "Os", "Zvl", "", "Nex", "Rn", "Sv", "Vn", "Pn", "Mn", "Lv", "Slu", "Vle")
 
 # groups of categories: name, colour, attributes of their lines, categories
@@ -59,57 +51,12 @@ SKUPINY = (
 )
 SKUPINA_DRUHU = {druh: skupina for skupina in SKUPINY for druh in skupina[3]}
 
-# sections between neighbouring points, with the part of each that lies between them: a stop on the open line
-# lies in the middle of the section where trains stop, or where its platform stands
-USEKY = {
-    (1, 8): ((600, 1), (650, 1)),
-    (8, 9): ((19, 1),),
-    (19, 3): ((212, 1), (84, 1)),
-    (20, 3): ((213, 1), (85, 1)),
-    (3, 32): ((604, 0.1),),
-    (32, 24): ((604, 0.9), (654, 0.05)),
-    (24, 8): ((654, 0.95), (419, 1), (97, 1), (427, 1)),
-    (5, 9): ((219, 1), (117, 1)),
-    (9, 10): ((118, 0.87),),
-    (10, 11): ((118, 0.13), (303, 1)),
-    (11, 4): ((120, 1),),
-    (9, 7): ((608, 1), (350, 1), (614, 1), (664, 1)),
-    (9, 15): ((608, 1), (350, 1)),
-    (8, 15): ((137, 1), (234, 1)),
-    (15, 7): ((360, 1), (614, 1), (664, 1)),
-    (7, 11): ((489, 1), (116, 1), (113, 1), (668, 1), (618, 1)),
-    (7, 35): ((638, 1), (688, 1), (738, 1), (620, 1), (670, 1), (720, 0.5)),
-    (35, 13): ((720, 0.5), (770, 1)),
-    (13, 14): ((624, 1), (674, 0.5)),
-    (14, 21): ((674, 0.5), (724, 1), (774, 1), (824, 0.5)),
-    (21, 6): ((824, 0.5), (874, 1)),
-    (7, 22): ((638, 1), (688, 1), (738, 1), (630, 1), (680, 1), (730, 0.5)),
-    (22, 23): ((730, 0.5), (780, 1), (830, 1), (880, 1), (930, 0.5)),
-    (23, 2): ((930, 0.5), (980, 1)),
-    (7, 12): ((45, 1), (76, 1)),
-    (12, 27): ((53, 1), (55, 1)),
-    (12, 35): ((57, 1), (620, 1), (670, 1), (720, 0.5)),
-    (12, 22): ((57, 1), (630, 1), (680, 1), (730, 0.5)),
-}
+KOD = {m.zkratka: m.kody[0] for m in KORIDORY.mista.values()}
+# sections between neighbouring points, with the part of each that lies between them
+USEKY = {(KOD[a], KOD[b]): tuple((prvky[0], cast) for prvky, cast in dily) for (a, b), dily in KORIDORY.useky.items()}
 # lines: the points from the top down; two in one row lie at the same height, as two ends of a branch do
-TRATE = {
-    "lho-thn": ("Lhotín – Tesk hl. n.", (1, 8, 9)),
-    "lho-rok": ("Lhotín – Tesk hl. n. – Rokytno", (1, 8, 9, 7, 35, 13, 14, 21, 6)),
-    "lho-bor": ("Lhotín – Tesk hl. n. – Borovec", (1, 8, 9, 7, 22, 23, 2)),
-    "jav": ("Polní Lhota, Hvozdy – Javořín – Tesk hl. n.", ((19, 20), 3, 32, 24, 8, 9)),
-    "vrb": ("Vrbice – Tesk hl. n.", (5, 9)),
-    "dub": ("Tesk hl. n. – Mokřina – Dubnice", (9, 10, 11, 4)),
-    "thn-try": ("Tesk hl. n. – Rybnice", (9, 7)),
-    "tvh-tdn-try": ("Vyšní Hrabov – dolní n. – Rybnice", (8, 15, 7)),
-    "try-dub": ("Rybnice – Mokřina – Dubnice", (7, 11, 4)),
-    "try-rok": ("Rybnice – Knížecí Luka – Rokytno", (7, 35, 13, 14, 21, 6)),
-    "try-bor": ("Rybnice – Borovec", (7, 22, 23, 2)),
-    "thn-thj": ("Tesk hl. n. – Rybnice – Hájovice", (9, 7, 12, 27)),
-    "tdn-thj": ("dolní n. – Rybnice – Hájovice", (15, 7, 12, 27)),
-    "dub-thj": ("Dubnice – Mokřina – Hájovice", (4, 11, 7, 12, 27)),
-    "thj-rok": ("Hájovice – Knížecí Luka – Rokytno", (12, 35, 13, 14, 21, 6)),
-    "thj-bor": ("Hájovice – Borovec", (12, 22, 23, 2)),
-}
+TRATE = {jmeno: (nadpis, tuple(tuple(KOD[z] for z in rada) if len(rada) > 1 else KOD[rada[0]] for rada in rady))
+         for jmeno, (nadpis, rady) in KORIDORY.trate.items()}
 
 Bod = namedtuple("Bod", "stanice prijezd odjezd stavi druh cislo")  # times -1: none
 Rad = namedtuple("Rad", "jmeno popis vlaky")

@@ -33,7 +33,7 @@ PATRA = (
     ("desk/info_o_vlaku", "desk/predvidane_vlaky"),
     # saves; the window and the end of the program, which the operator's hands command too
     ("save", "app/rezim", "app/nastaveni", "app/konec"),
-    ("technologie",),
+    ("technologie", "nakres"),
     # the operator's hands
     ("obsluha",),
     # the automatic dispatcher, who works through them

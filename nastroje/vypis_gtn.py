@@ -5,6 +5,7 @@
 #   vypis_gtn.py LOG.gtn --hodiny --kolejiste DIR      clock times and names of the elements
 #   vypis_gtn.py LOG.gtn --json --kod 73,75 --prvek 287 --od 8:00 --do 8:30
 #   vypis_gtn.py LOG.gtn --nakres jizdy.svg    the trains as lines over time and distance
+#   vypis_gtn.py LOG.gtn --nakres jizdy.svg --trat lho-rok      on a line of kolejiste/koridory.txt
 #
 # docs/gtn.md tells it all. Colours are 0x00BBGGRR; a cut last record is told and left out.
 import argparse
@@ -16,6 +17,7 @@ import re
 import sys
 from xml.sax.saxutils import escape
 
+import koridory
 from datove_soubory import Konec, cti_log
 from nakres import (OKRAJ_DOLE, OKRAJ_NAHORE, OKRAJ_VLEVO, OKRAJ_VPRAVO, cislo_na_care, hodiny_minuty, legenda,
                     mrizka_casu, osa_stanic, zacatek)
@@ -230,16 +232,35 @@ class Jizda:
         return self.cislo >= 70000
 
 
-def jizdy_vlaku(zaznamy, kolejiste):
-    """The runs of the log, by their arrivals on station tracks and departures from them.
+PUL_DNE = 43200
+
+
+def vrat_cas(jizdy, posledni, kam):
+    """At the midnight of a service that began two seconds before it the seconds fall by a day: what was before falls
+    with them. Seconds that fall by less say that the service was turned back: what lies later has not happened."""
+    for jizda in jizdy:
+        if posledni - kam > PUL_DNE:
+            jizda.body = [(cas - 2 * PUL_DNE, misto) for cas, misto in jizda.body]
+        else:
+            while jizda.body and jizda.body[-1][0] > kam:
+                jizda.body.pop()
+
+
+def jizdy_vlaku(zaznamy, stanice):
+    """The runs of the log, by their arrivals on station tracks and departures from them: {track: station}.
 
     A train that leaves a track under a number that never came there is the one that came last and is still
-    there: it has got its next number, and a run of that number begins where the old one ended.
+    there: it has got its next number, and a run of that number begins where the old one ended. The desk keeps
+    the same rule (src/nakres/jizdy.h); testy/nakres/jizdy.txt holds both to it.
     """
-    stanice = {k: kod for kod, koleje in kolejiste.stanicni.items() for k in koleje}
-    jizdy, podle_cisla, na_koleji = [], {}, {}
+    jizdy, podle_cisla, na_koleji, posledni = [], {}, {}, None
     for z in zaznamy:
-        if z.kod not in (NA_KOLEJ, Z_KOLEJE) or z.hodnota <= 0 or z.prvek not in stanice:
+        if z.kod not in (NA_KOLEJ, Z_KOLEJE):
+            continue
+        if posledni is not None and z.cas < posledni:
+            vrat_cas(jizdy, posledni, z.cas)
+        posledni = z.cas
+        if z.hodnota <= 0 or z.prvek not in stanice:
             continue
         stoji = na_koleji.setdefault(z.prvek, [])
         jizda = podle_cisla.get(z.hodnota)
@@ -258,6 +279,32 @@ def jizdy_vlaku(zaznamy, kolejiste):
         elif jizda in stoji:
             stoji.remove(jizda)
     return jizdy
+
+
+def osa_trati(trat, kolejiste, tabulka):
+    """[([places of a row], metres from the first row)] of a line of koridory.txt, by the lengths of the sources."""
+    osa, metry = [], 0
+    for rada in tabulka.trate[trat][1]:
+        if osa:
+            a, b = osa[-1][0][0], rada[0]
+            dily = tabulka.useky.get((a, b)) or tabulka.useky.get((b, a), ())
+            metry += sum(kolejiste.koleje.get(prvky[0], ("", 60, ""))[1] * cast for prvky, cast in dily)
+        osa.append((rada, metry))
+    return osa
+
+
+def cary_po_trati(jizdy, metry):
+    """[(run, [(second, metres)])]: a train leaves the line where it calls at a place off it."""
+    cary = []
+    for jizda in jizdy:
+        kus = []
+        for cas, misto in jizda.body + [(0, None)]:
+            if misto in metry:
+                kus.append((cas, metry[misto]))
+            else:
+                cary.append((jizda, kus))
+                kus = []
+    return cary
 
 
 def osa_nakresu(jizdy, kolejiste, kody=None):
@@ -293,18 +340,23 @@ def osa_nakresu(jizdy, kolejiste, kody=None):
 # --- the diagram
 
 
-def nakres(hlavicka, zaznamy, kolejiste, kody=None):
+def nakres(hlavicka, zaznamy, kolejiste, kody=None, trat=None):
     """The trains of the log as SVG text: time from left to right, stations from the top down."""
-    jizdy = jizdy_vlaku(zaznamy, kolejiste)
-    osa = osa_nakresu(jizdy, kolejiste, kody)
+    if trat is None:
+        jizdy = jizdy_vlaku(zaznamy, {k: kod for kod, koleje in kolejiste.stanicni.items() for k in koleje})
+        osa = [(kolejiste.stanice[kod], kod, m) for kod, m in osa_nakresu(jizdy, kolejiste, kody)]
+        metry = {kod: m for _, kod, m in osa}
+        cary = [(jizda, [(cas, metry[kod]) for cas, kod in jizda.body if kod in metry]) for jizda in jizdy]
+    else:
+        tabulka = koridory.nacti()
+        if trat not in tabulka.trate:
+            raise Chyba("trať %s není; jsou tu %s" % (trat, ", ".join(tabulka.trate)))
+        rady = osa_trati(trat, kolejiste, tabulka)
+        osa = [(", ".join(tabulka.mista[z].nazev for z in rada), ", ".join(rada), m) for rada, m in rady]
+        cary = cary_po_trati(jizdy_vlaku(zaznamy, tabulka.misto_koleje()), {z: m for rada, m in rady for z in rada})
     if len(osa) < 2:
         raise Chyba("v záznamu není vlak, který by jel mezi dvěma stanicemi")
-    metry = dict(osa)
-    vlaky = []  # (run, [(second, metres)])
-    for jizda in jizdy:
-        body = [(cas, metry[kod]) for cas, kod in jizda.body if kod in metry]
-        if len({m for _, m in body}) >= 2:
-            vlaky.append((jizda, body))
+    vlaky = [(jizda, body) for jizda, body in cary if len({m for _, m in body}) >= 2]  # (run, [(second, metres)])
     if not vlaky:
         raise Chyba("v záznamu není vlak, který by jel mezi dvěma stanicemi")
 
@@ -314,7 +366,7 @@ def nakres(hlavicka, zaznamy, kolejiste, kody=None):
     do = max(-(-(max(casy) + 60) // 600) * 600, od + 1800)
     minut = (do - od) // 60
     na_minutu = min(14.0, max(2.0, 1100 / minut))
-    delka_osy = osa[-1][1] or 1
+    delka_osy = osa[-1][2] or 1
     vyska_osy = min(960, max(400, 150 * (len(osa) - 1)))
     sirka = OKRAJ_VLEVO + minut * na_minutu + OKRAJ_VPRAVO
     vyska = OKRAJ_NAHORE + vyska_osy + OKRAJ_DOLE
@@ -330,7 +382,7 @@ def nakres(hlavicka, zaznamy, kolejiste, kody=None):
                   "%s, záznam z %s, %s, %s až %s" % (hlavicka.nazev, hlavicka.datum, DNY[hlavicka.den % 7],
                                                      hodiny_minuty(od), hodiny_minuty(do)))
     svg += mrizka_casu(x, od, do, OKRAJ_NAHORE, dole, na_minutu)
-    svg += osa_stanic([(kolejiste.stanice[kod], kod, m) for kod, m in osa], y, OKRAJ_VLEVO, x(do))
+    svg += osa_stanic(osa, y, OKRAJ_VLEVO, x(do))
 
     # trains: down in one colour, up in the other; locomotives and shunting broken
     popisy = []
@@ -346,8 +398,8 @@ def nakres(hlavicka, zaznamy, kolejiste, kody=None):
         popisy.append(cislo_na_care(*max(useky, key=lambda u: math.dist(*u)), jizda.cislo, barva))
     svg += popisy
 
-    polozky = [("#b3261e", "", "směr " + kolejiste.stanice[osa[-1][0]]),
-               ("#1d4f91", "", "směr " + kolejiste.stanice[osa[0][0]])]
+    polozky = [("#b3261e", "", "směr " + osa[-1][0]),
+               ("#1d4f91", "", "směr " + osa[0][0])]
     if any(jizda.posun for jizda, _ in vlaky):
         polozky.append(("#7a7a7a", ' stroke-dasharray="6 4"', "lokomotivy a posun"))
     svg += legenda(polozky, dole + 40)
@@ -399,6 +451,7 @@ def volby_programu(argumenty):
     p.add_argument("--kolejiste", metavar="SLOŽKA", help="zdroje kolejiště (*.tk): k prvkům jména")
     p.add_argument("--nakres", metavar="SOUBOR.svg", help="nakreslí splněný grafikon (- na standardní výstup)")
     p.add_argument("--osa", metavar="KÓDY", help="stanice na ose nákresu (LHO,TVH,THN)")
+    p.add_argument("--trat", metavar="TRAŤ", help="trať na ose nákresu (kolejiste/koridory.txt)")
     return p.parse_args(argumenty)
 
 
@@ -417,7 +470,7 @@ def hlavni(argumenty, vystup):
         slozka = pathlib.Path(__file__).resolve().parent.parent / "kolejiste"
     kolejiste = Kolejiste(slozka) if slozka is not None else None
     if volby.nakres:
-        svg = nakres(hlavicka, vybrane, kolejiste, volby.osa.split(",") if volby.osa else None)
+        svg = nakres(hlavicka, vybrane, kolejiste, volby.osa.split(",") if volby.osa else None, volby.trat)
         if volby.nakres == "-":
             vystup.write(svg)
         else:

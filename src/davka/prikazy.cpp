@@ -385,6 +385,7 @@ constexpr std::array kPrikazy = {
     PopisPrikazu{"prostredni", 1, 2, Kdy::po_startu, false, "prostredni DRUH CISLO", prikaz_prostredni},
     PopisPrikazu{"dvojklik", 1, 2, Kdy::po_startu, false, "dvojklik DRUH CISLO", prikaz_dvojklik},
     PopisPrikazu{"najed", 1, 2, Kdy::po_startu, false, "najed DRUH CISLO | najed plocha", prikaz_najed},
+    PopisPrikazu{"ukaz_vlak", 1, 1, Kdy::po_startu, false, "ukaz_vlak CISLO", prikaz_ukaz_vlak},
     PopisPrikazu{"menu", 1, 1, Kdy::kdykoli, false, "menu POLOZKA", prikaz_menu},
     PopisPrikazu{"klavesa", 1, 1, Kdy::kdykoli, false, "klavesa NAZEV", prikaz_klavesa},
     PopisPrikazu{"pis", 1, 1, Kdy::kdykoli, false, "pis TEXT", prikaz_pis},

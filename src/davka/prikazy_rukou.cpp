@@ -12,6 +12,8 @@
 #include "obsluha/vstup.h"
 #include "technologie/technologie.h"
 
+#include <limits>
+
 namespace {
 
 struct CilRuky {
@@ -110,6 +112,11 @@ void prikaz_najed(BehSkriptu&, Slova slova) {
     const CilRuky cil = prvek_ruky(slova);
     pohyb_mysi();
     najeti(cil.druh, cil.cislo);
+}
+
+void prikaz_ukaz_vlak(BehSkriptu&, Slova slova) {
+    ukaz_vlak(static_cast<std::int32_t>(
+        cislo_slova(slova[0], 1, std::numeric_limits<std::int32_t>::max(), "číslo vlaku")));
 }
 
 void prikaz_menu(BehSkriptu&, Slova slova) {

@@ -4,6 +4,7 @@
 #include "davka/beh.h"
 
 void prikaz_klik(BehSkriptu& beh, Slova slova);
+void prikaz_ukaz_vlak(BehSkriptu& beh, Slova slova);
 void prikaz_pravy(BehSkriptu& beh, Slova slova);
 void prikaz_prostredni(BehSkriptu& beh, Slova slova);
 void prikaz_dvojklik(BehSkriptu& beh, Slova slova);

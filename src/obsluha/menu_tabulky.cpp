@@ -21,8 +21,7 @@ void smaz_radek(int radek) {
 
 } // namespace
 
-void hledej_radek(int radek) {
-    const std::int32_t cislo = cislo_radku(radek);
+void hledej_cislo(std::int32_t cislo) {
     if (cislo <= 0)
         return;
     for (int n = 0; n <= relief.cislo_koleje.nejvyssi(); ++n) {
@@ -39,6 +38,10 @@ void hledej_radek(int radek) {
         blikani.ramecek_hledani = kKrokuHledani;
         return;
     }
+}
+
+void hledej_radek(int radek) {
+    hledej_cislo(cislo_radku(radek));
 }
 
 void menu_tabulky(int radek) {

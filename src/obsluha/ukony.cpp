@@ -70,6 +70,7 @@ bool proved_ukon(const Ukon& u) {
     case DruhUkonu::odjeti: odjeti(); return true;
     case DruhUkonu::pohyb: pohyb_mysi(); return true;
     case DruhUkonu::plocha: klik_na_plochu(); return true;
+    case DruhUkonu::ukazani: ukaz_vlak(n); return true;
     case DruhUkonu::radek:
         if (Seznam* seznam = seznam_podle_jmena(u.text))
             klik_na_radek(*seznam, n);
@@ -99,6 +100,7 @@ std::string radek_ukonu(const Ukon& u) {
     case DruhUkonu::odjeti: return "najed plocha";
     case DruhUkonu::pohyb: return "pohyb";
     case DruhUkonu::plocha: return "klik plocha";
+    case DruhUkonu::ukazani: return "ukaz_vlak " + std::to_string(u.n);
     case DruhUkonu::radek: return "klik " + na_utf8(u.text) + " " + std::to_string(u.n);
     case DruhUkonu::zalozka:
         return "klik " + na_utf8(kTechnologie.at(static_cast<std::size_t>(u.n)).formular);

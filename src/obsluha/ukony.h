@@ -24,6 +24,7 @@ enum class DruhUkonu : std::uint8_t {
     odjeti,
     pohyb, // of the pointer, over what it rested on
     plocha,
+    ukazani, // of the train with the number `n`, away from the desk
     radek,
     zalozka,
     polozka_menu,

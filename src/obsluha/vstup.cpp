@@ -9,6 +9,7 @@
 #include "desk/menu.h"
 #include "desk/zprava.h"
 #include "jizda/spojovani.h"
+#include "jizda/vlak.h"
 #include "obsluha/lokomotivy.h"
 #include "obsluha/menu_koleje.h"
 #include "obsluha/menu_prvku.h"
@@ -178,6 +179,21 @@ void klik_na_plochu() {
     zavri_pohled_sekvence();
     zavri_menu();
     klik_plocha();
+}
+
+void ukaz_vlak(std::int32_t cislo) {
+    if (cislo <= 0 || technologie_kryje_stul() || prihlaseni_bezi())
+        return;
+    const ZapisUkonu zapis({.co = DruhUkonu::ukazani, .n = cislo});
+    ++pocty_provozu.povelu;
+    hledej_cislo(cislo);
+    const auto v = std::find_if(vlaky.begin(), vlaky.end(), [cislo](const Vlak& vlak) {
+        return vlak.cislo >= 1 && zobrazene_cislo(vlak) == cislo;
+    });
+    if (v != vlaky.end())
+        info_o_vlaku({}, static_cast<int>(v - vlaky.begin()));
+    else
+        info_podle_gvd(cislo);
 }
 
 void klik_na_zalozku(Technologie ktera) {

@@ -28,6 +28,10 @@ void klik_na_plochu();
 // Click on a line of a list.
 void klik_na_radek(Seznam& seznam, int radek);
 
+// A train picked by its number beside the desk: the search for its label, and its page on the bottom panel,
+// by the timetable when it is not here.
+void ukaz_vlak(std::int32_t cislo);
+
 // Click on a tab of an open maintenance screen.
 void klik_na_zalozku(Technologie ktera);
 

@@ -8,7 +8,9 @@
 #include "zaklad/platforma.h"
 #include "zaklad/soubory.h"
 
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -90,11 +92,32 @@ struct Denik {
     }
 };
 Denik denik;
+std::vector<PohybVlaku> pohyby; // of the trains, since the log was opened
+
+std::optional<PohybVlaku> pohyb(const Zaznam& z) {
+    if (z.kod != gtn::vlak_na_kolej && z.kod != gtn::vlak_z_koleje)
+        return std::nullopt;
+    return PohybVlaku{z.cas, z.prvek, z.hodnota, z.kod == gtn::vlak_na_kolej};
+}
+
+// The movements among whole records of the log.
+std::vector<PohybVlaku> pohyby_zaznamu(const Bajty& zaznamy) {
+    std::vector<PohybVlaku> nalezene;
+    Ctenar ctenar{zaznamy};
+    for (std::size_t i = 0; i + kZaznam <= zaznamy.size(); i += kZaznam) {
+        Zaznam z;
+        popis_zaznamu(ctenar, z);
+        if (const auto p = pohyb(z))
+            nalezene.push_back(*p);
+    }
+    return nalezene;
+}
 
 } // namespace
 
 void gtn_otevri() {
     denik.zavri();
+    pohyby.clear();
     const NastennyCas ted = platforma.nastenny_cas();
     const Text slozka = simulace.cesta_aplikace + "GTN\\";
     const Text cesta = slozka + text_cisla_mist(ted.rok % 100, 2) + text_cisla_mist(ted.mesic, 2) +
@@ -111,10 +134,12 @@ void gtn_otevri() {
 }
 
 void gtn_zapis(int prvek, std::uint8_t kod, std::int32_t hodnota) {
+    const Zaznam zaznam{ted_s(), kod, na_integer(prvek), hodnota};
+    if (const auto p = pohyb(zaznam))
+        pohyby.push_back(*p);
     Bajty& ceka = denik.cekajici.bajty;
     if (!denik.otevreny() || ceka.size() + kZaznam > kNejviceCeka)
         return;
-    const Zaznam zaznam{ted_s(), kod, na_integer(prvek), hodnota};
     popis_zaznamu(denik.cekajici, zaznam);
     if (ceka.size() % kVyrovnavaci + kZaznam > kVyrovnavaci)
         denik.vyprazdni();
@@ -150,10 +175,18 @@ Bajty gtn_odrizni(std::int64_t delka) {
         konec.assign(od, ceka.end());
         ceka.erase(od, ceka.end());
     }
+    pohyby.resize(pohyby.size() - std::min(pohyby.size(), pohyby_zaznamu(konec).size()));
     return konec;
 }
 
 void gtn_pripoj(const Bajty& konec) {
-    if (denik.otevreny())
-        denik.cekajici.bajty.insert(denik.cekajici.bajty.end(), konec.begin(), konec.end());
+    if (!denik.otevreny())
+        return;
+    denik.cekajici.bajty.insert(denik.cekajici.bajty.end(), konec.begin(), konec.end());
+    const std::vector<PohybVlaku> vracene = pohyby_zaznamu(konec);
+    pohyby.insert(pohyby.end(), vracene.begin(), vracene.end());
+}
+
+std::span<const PohybVlaku> gtn_pohyby() {
+    return pohyby;
 }

@@ -10,6 +10,16 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
+
+// A train came onto a track or left it, by the number that the operator sees.
+struct PohybVlaku {
+    std::int32_t cas = 0; // absolute simulated second
+    std::int16_t prvek = 0;
+    std::int32_t cislo = 0;
+    bool na_kolej = false;
+    bool operator==(const PohybVlaku&) const = default;
+};
 
 namespace gtn {
 // Codes of the events. The value is what each line says.
@@ -57,3 +67,8 @@ std::int64_t gtn_delka();
 Bajty gtn_odrizni(std::int64_t delka);
 // Puts back what was cut off.
 void gtn_pripoj(const Bajty& konec);
+
+// --- at any time, without change
+
+// The movements of trains since the log was opened, as they were written and though no disk has taken them.
+std::span<const PohybVlaku> gtn_pohyby();

@@ -4,10 +4,12 @@
 #include "app/simulace.h"
 #include "cesty/duvod.h"
 #include "desk/menu.h"
+#include "obsluha/povely.h"
 #include "obsluha/vstup.h"
 #include "technologie/technologie.h"
 #include "ui/brana.h"
 #include "ui/nabidka.h"
+#include "ui/nakres.h"
 #include "ui/napoveda.h"
 #include "ui/pismo.h"
 #include "ui/technologie.h"
@@ -500,8 +502,24 @@ bool HlavniOkno::stisk_za_mys(const QKeyEvent& udalost) {
     return true;
 }
 
+// A window beside the desk opens or closes under a key of its own. Before the login has ended, and under a
+// maintenance screen, it does not.
+bool HlavniOkno::otevri_vedlejsi_okno(const std::function<void()>& prepni) {
+    bool smi = false;
+    v_jadre([&] {
+        smi = !technologie_kryje_stul() && !prihlaseni_bezi();
+        if (smi)
+            pipni_klavesou();
+    });
+    if (smi)
+        prepni();
+    return smi;
+}
+
 bool HlavniOkno::stisk(QKeyEvent* udalost) {
     const QScopedValueRollback po_klavese(z_klavesy, true);
+    if (udalost->key() == Qt::Key_F7 && otevri_vedlejsi_okno([this] { prepni_nakres(this); }))
+        return true;
     if (!technologie_kryje_stul() && stisk_za_mys(*udalost))
         return true;
     const Klavesa k = klavesa_qt(*udalost);

@@ -14,6 +14,7 @@
 #include <QWidget>
 
 #include <array>
+#include <functional>
 #include <optional>
 
 class ObrazovkaTechnologie;
@@ -78,6 +79,7 @@ private:
     void obnov_pole();
     void obnov_nabidku();
     bool stisk_za_mys(const QKeyEvent& udalost);
+    bool otevri_vedlejsi_okno(const std::function<void()>& prepni);
     bool stisk(QKeyEvent* udalost);
     void zmenit_viditelnost_okna();
 

@@ -5,6 +5,7 @@
 #include "obsluha/vstup.h"
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
+#include "ui/nakres.h"
 #include "ui/napoveda.h"
 #include "ui/pismo.h"
 #include "ui/text_prirucky.h"
@@ -217,7 +218,9 @@ protected:
 private:
     static int kapitola_tady() {
         if (qobject_cast<QFileDialog*>(QApplication::activeModalWidget()) != nullptr)
-            return kapitoly::hodiny; // it tells of saves
+            return nakres_ma_klavesy() ? kapitoly::nakres : kapitoly::hodiny; // it tells of saves
+        if (nakres_ma_klavesy())
+            return kapitoly::nakres;
         if (const HlavniOkno* stul = HlavniOkno::otevrene())
             return stul->kapitola_pod_kurzorem();
         return kapitoly::spusteni;

@@ -368,7 +368,7 @@ class Zdroj(Zaklad):
     def test_lines_that_the_document_names_are_those_that_there_are(self):
         dokument = (ZDROJE / "docs/jizdni-rad.md").read_text(encoding="utf-8")
         veta = dokument[dokument.index("The lines are "):]
-        self.assertEqual(re.findall("`([a-z-]+)`", veta[:veta.index(": the table")]), list(g.TRATE))
+        self.assertEqual(re.findall("`([a-z-]+)`", veta[:veta.index(": the rows")]), list(g.TRATE))
 
     def test_faults_of_the_source_are_those_of_the_compiler(self):
         zdroj = self.soubor(self.ZDROJ.replace("LHO", "XYZ").encode("utf-8"), "muj.gvd")

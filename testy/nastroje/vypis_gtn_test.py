@@ -11,6 +11,8 @@ import unittest
 import xml.dom.minidom
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "nastroje"))
+import koridory  # noqa: E402
+from datove_soubory import ZaznamLogu  # noqa: E402
 import vypis_gtn as v  # noqa: E402
 
 KOLEJISTE = """
@@ -41,10 +43,10 @@ def log(*zaznamy, datum="5.1.2026", den=0):
 UDALOSTI = ((21600, 73, 600, 0x0000FF), (21605, 75, 287, 0x00FF00), (21610, 31, 287, 11), (21660, 74, 7, 206),
             (21700, 131, 1, 7305), (21760, 90, 1, 7305), (86400 + 65, 76, 0, 1), (86400 + 70, 200, 5, -3))
 # one train from AAA over BBB to CCC, which becomes another there, and one the other way; a light engine too
-JIZDY = ((21600, 131, 1, 7305), (21900, 132, 1, 7305), (22200, 131, 11, 7305), (22320, 132, 11, 7305),
-         (22600, 131, 31, 7305), (24000, 132, 31, 7306), (24300, 131, 11, 7306), (24360, 132, 11, 7306),
-         (24700, 131, 2, 7306), (22000, 131, 31, 74000), (22010, 132, 31, 74000), (22500, 131, 11, 74000),
-         (23000, 131, 41, 9999))
+JIZDY = ((21600, 131, 1, 7305), (21900, 132, 1, 7305), (22000, 131, 31, 74000), (22010, 132, 31, 74000),
+         (22200, 131, 11, 7305), (22320, 132, 11, 7305), (22500, 131, 11, 74000), (22600, 131, 31, 7305),
+         (23000, 131, 41, 9999), (24000, 132, 31, 7306), (24300, 131, 11, 7306), (24360, 132, 11, 7306),
+         (24700, 131, 2, 7306))
 
 
 class Zaklad(unittest.TestCase):
@@ -170,7 +172,7 @@ class Nakres(Zaklad):
     def test_has_a_line_and_a_number_for_each_train(self):
         svg = self.svg()
         nazvy = [c.getElementsByTagName("title")[0].firstChild.data for c in svg.getElementsByTagName("polyline")]
-        self.assertEqual(nazvy, ["vlak 7305", "vlak 7306", "vlak 74000"], "who stayed in one station has none")
+        self.assertEqual(nazvy, ["vlak 7305", "vlak 74000", "vlak 7306"], "who stayed in one station has none")
         for cislo in ("7305", "7306", "74000"):
             self.assertIn(cislo, self.texty(svg))
 
@@ -188,9 +190,9 @@ class Nakres(Zaklad):
                 for c in svg.getElementsByTagName("polyline")]
         for cara in cary:
             self.assertEqual([x for x, _ in cara], sorted(x for x, _ in cara))
-        self.assertEqual(cary[0][-1], cary[1][0])
+        self.assertEqual(cary[0][-1], cary[2][0])
         self.assertLess(cary[0][0][1], cary[0][-1][1], "down the axis")
-        self.assertGreater(cary[1][0][1], cary[1][-1][1], "and back")
+        self.assertGreater(cary[2][0][1], cary[2][-1][1], "and back")
 
     def test_axis_and_filters_can_be_chosen(self):
         texty = self.texty(self.svg("--osa", "AAA,BBB"))
@@ -215,6 +217,24 @@ class Nakres(Zaklad):
         self.assertTrue(radky[0].startswith("<svg "))
         self.assertEqual(radky[-1], "</svg>")
 
+    def test_a_line_of_the_project_can_be_the_axis(self):
+        soubor = self.slozka / "skutecny.gtn"
+        # the second train leaves the line at the lower station: no line leads over it
+        soubor.write_bytes(log((21600, 131, 87, 7305), (21600, 131, 88, 9), (21700, 132, 88, 9), (21900, 131, 11, 9),
+                               (21900, 132, 87, 7305), (22000, 131, 78, 9), (22200, 131, 12, 7305),
+                               (22300, 132, 12, 7305), (22500, 131, 93, 9), (22600, 131, 26, 7305)))
+        ven = io.StringIO()
+        v.hlavni([str(soubor), "--nakres", "-", "--trat", "lho-rok"], ven)
+        svg = xml.dom.minidom.parseString(ven.getvalue())
+        texty = self.texty(svg)
+        for co in ("Lhotín", "Olšany", "Rokytno", "LHO · 0,0 km", "TVH · 3,8 km"):
+            self.assertIn(co, texty)
+        nazvy = [c.getElementsByTagName("title")[0].firstChild.data for c in svg.getElementsByTagName("polyline")]
+        self.assertEqual(nazvy, ["vlak 7305", "vlak 9"])
+        self.assertEqual(len(svg.getElementsByTagName("polyline")[1].getAttribute("points").split()), 3)
+        with self.assertRaises(v.Chyba):
+            v.hlavni([str(soubor), "--nakres", "-", "--trat", "nikam"], io.StringIO())
+
     def test_the_layout_of_the_project_is_the_default(self):
         ven = io.StringIO()
         soubor = self.slozka / "skutecny.gtn"
@@ -222,6 +242,26 @@ class Nakres(Zaklad):
         v.hlavni([str(soubor), "--nakres", "-"], ven)
         self.assertIn("Lhotín", ven.getvalue())
         self.assertIn("Vyšní Hrabov", ven.getvalue())
+
+
+class Jizdy(unittest.TestCase):
+    def test_movements_of_a_log_become_the_runs_of_the_example(self):
+        stanice = koridory.nacti().misto_koleje()
+        pohyby, cekane, pocet = [], [], 0
+        text = (pathlib.Path(__file__).resolve().parents[1] / "nakres" / "jizdy.txt").read_text(encoding="utf-8")
+        for radek in text.splitlines() + [""]:
+            slova = radek.split("#")[0].split()
+            if not slova and cekane:
+                jizdy = [" ".join([str(j.cislo)] + ["%s@%d" % (m, c) for c, m in j.body])
+                         for j in v.jizdy_vlaku(pohyby, stanice)]
+                self.assertEqual(jizdy, [c for c in cekane if c])
+                pohyby, cekane, pocet = [], [], pocet + 1
+            elif slova and slova[0] == "=":
+                cekane.append(" ".join(slova[1:]))
+            elif slova:
+                cas, smer, kolej, cislo = slova
+                pohyby.append(ZaznamLogu(int(cas), 131 if smer == "+" else 132, int(kolej), int(cislo)))
+        self.assertEqual(pocet, 6)
 
 
 if __name__ == "__main__":

@@ -1,0 +1,58 @@
+# nastroje/koridory.py - reads kolejiste/koridory.txt: the places, sections and lines of time-distance diagrams.
+#
+# vypis_gtn.py and grafikon.py take them from here; the desk reads the same text (src/nakres/koridory.h).
+import pathlib
+import re
+from collections import namedtuple
+
+Misto = namedtuple("Misto", "zkratka kody nazev zastavka jen_jmeno koleje")
+SOUBOR = pathlib.Path(__file__).resolve().parent.parent / "kolejiste" / "koridory.txt"
+
+
+def cisla(slovo):
+    """"12", "9-18", "22-24,26"."""
+    vysledek = []
+    for cast in slovo.split(","):
+        od, _, po = cast.partition("-")
+        vysledek += range(int(od), int(po or od) + 1)
+    return vysledek
+
+
+class Koridory:
+    """A fault of the text is a ValueError that names the line."""
+
+    def __init__(self, text):
+        self.mista = {}  # abbreviation: Misto
+        self.useky = {}  # (A, B): [(elements beside each other, part)]
+        self.trate = {}  # name: (heading, [[abbreviations of a row]])
+        for cislo, radek in enumerate(text.splitlines(), 1):
+            slova = []
+            for slovo in re.findall(r'"[^"]*"|[^\s"]+', radek):
+                if slovo.startswith("#"):
+                    break
+                slova.append(slovo.strip('"'))
+            if not slova:
+                continue
+            try:
+                {"misto": self._misto, "usek": self._usek, "trat": self._trat}[slova[0]](*slova[1:])
+            except (KeyError, TypeError, ValueError, IndexError) as vada:
+                raise ValueError("řádek %d: %s" % (cislo, vada)) from None
+
+    def _misto(self, zkratka, kody, nazev, *dale):
+        koleje = cisla(dale[dale.index("koleje") + 1]) if "koleje" in dale else []
+        self.mista[zkratka] = Misto(zkratka, cisla(kody), nazev, "zastavka" in dale, "jen_jmeno" in dale, koleje)
+
+    def _usek(self, a, b, *dily):
+        self.useky[self.mista[a].zkratka, self.mista[b].zkratka] = [
+            (cisla(prvky), float(cast or 1)) for prvky, _, cast in (d.partition("*") for d in dily)]
+
+    def _trat(self, jmeno, nadpis, *mista):
+        self.trate[jmeno] = (nadpis, [[self.mista[z].zkratka for z in rada.split("+")] for rada in mista])
+
+    def misto_koleje(self):
+        """{track: abbreviation} of the tracks on which a train stands in a station."""
+        return {k: m.zkratka for m in self.mista.values() for k in m.koleje}
+
+
+def nacti(cesta=None):
+    return Koridory(pathlib.Path(cesta or SOUBOR).read_text(encoding="utf-8"))

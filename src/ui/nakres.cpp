@@ -1,0 +1,664 @@
+// ui/nakres.cpp - the time-distance diagram in a window of its own.
+#include "ui/nakres.h"
+
+#include "app/cas.h"
+#include "app/nastaveni.h"
+#include "app/simulace.h"
+#include "desk/info_o_vlaku.h"
+#include "obsluha/vstup.h"
+#include "relief/relief.h"
+#include "ui/brana.h"
+#include "ui/hlavni_okno.h"
+#include "ui/pismo.h"
+#include "ui/vzhled.h"
+#include "zaklad/platforma.h"
+
+#include <QAbstractItemView>
+#include <QCheckBox>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QFileDialog>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QHelpEvent>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QMessageBox>
+#include <QMouseEvent>
+#include <QPageLayout>
+#include <QPainter>
+#include <QPdfWriter>
+#include <QPointer>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QPushButton>
+#include <QScreen>
+#include <QTimer>
+#include <QToolTip>
+#include <QVBoxLayout>
+#include <QWheelEvent>
+
+#include <algorithm>
+#include <cmath>
+
+namespace {
+
+constexpr TextPohled kNastaveni = "Nakres";
+constexpr int kObnova_ms = 200;
+constexpr double kNejmensiOkno_s = 20 * 60, kNejvetsiOkno_s = 30 * 3600; // of time in sight
+constexpr double kBoduNaMinutu = 5;                                      // at first, pixels of the desk
+constexpr double kTedOdLeva = 0.62; // where the present stands while it is followed
+constexpr double kKrokLupy = 1.25, kKrokPosunu = 0.125;
+constexpr int kTahBodu = 4;                               // a press that moves farther is no click
+constexpr double kOkoliBodu = 7;                          // of a line that is picked
+constexpr double kSirkaStrany = 1123, kVyskaStrany = 794; // A4 across, 96 points to the inch
+
+constexpr const char* kVzhled = "QWidget#nakres { background: #12161b; }"
+                                "QComboBox { padding: 3px 8px; }"
+                                "QPushButton { padding: 4px 9px; }";
+
+class OknoNakresu;
+
+// The picture itself: paints, and turns the mouse into the window's commands.
+class PlatnoNakresu : public QWidget {
+public:
+    explicit PlatnoNakresu(OknoNakresu* vlastnik);
+
+protected:
+    void paintEvent(QPaintEvent*) override;
+    void resizeEvent(QResizeEvent*) override;
+    void mousePressEvent(QMouseEvent* udalost) override;
+    void mouseMoveEvent(QMouseEvent* udalost) override;
+    void mouseReleaseEvent(QMouseEvent* udalost) override;
+    void mouseDoubleClickEvent(QMouseEvent* udalost) override;
+    void wheelEvent(QWheelEvent* udalost) override;
+    bool event(QEvent* udalost) override;
+
+private:
+    OknoNakresu* okno;
+    QPointF stisk;
+    double od_stisku = 0, m_stisku = 0;
+    bool drzi = false, tahne = false;
+};
+
+class OknoNakresu : public QWidget {
+public:
+    explicit OknoNakresu(QWidget* stul);
+
+    // --- by the picture
+    const ObrazNakresu& obraz() const { return nakresleny; }
+    const PohledNakresu& pohled() const { return co; }
+    double m_od() const { return co.m_po > co.m_od ? co.m_od : 0; }
+    double m_po() const { return co.m_po > co.m_od ? co.m_po : osa.delka(); }
+    void posun_na(double od, double m);
+    void lupa_casu(double krat, double kolem_s);
+    void lupa_drahy(double krat, double kolem_m);
+    void posun_cas(double dil);
+    void posun_drahu(double dil);
+    void vyber(std::int32_t cislo, bool na_stul);
+    void prekresli();
+
+protected:
+    void keyPressEvent(QKeyEvent* udalost) override;
+    void closeEvent(QCloseEvent* udalost) override;
+
+private:
+    void umisti();
+    void nacti_trate();
+    void zvol_trat(int index);
+    void na_ted();
+    void cely_den();
+    void obnov();
+    bool spocitej(bool vse);
+    ObrazNakresu na_papir(double sirka, double vyska) const;
+    void uloz();
+    void tiskni();
+
+    QWidget* stul;
+    QComboBox* trate;
+    QCheckBox* s_planem;
+    QCheckBox* s_jizdami;
+    PlatnoNakresu* platno;
+    QTimer obnova;
+
+    Koridory k;
+    OsaKoridoru osa;
+    std::optional<SkladJizd> sklad;
+    std::size_t zpracovano = 0; // movements of the log
+    std::vector<CaraVlaku> plan;
+    std::int32_t plan_od = 1, plan_po = 0, plan_den = 0; // for which the plan was asked
+    PohledNakresu co;
+    bool sleduje = true; // the present stays in sight
+    bool zmena = true;   // what is looked at has changed
+    double ted_x = -1;   // pixel of the present as drawn
+    ObrazNakresu nakresleny;
+};
+
+QPointer<OknoNakresu> otevreny;
+
+QColor barva(RoleNakresu role, bool papir, double kryti = 1) {
+    QColor c = QColor::fromRgb(barva_role(role, papir));
+    c.setAlphaF(static_cast<float>(kryti));
+    return c;
+}
+
+// --- the picture
+
+PlatnoNakresu::PlatnoNakresu(OknoNakresu* vlastnik) : QWidget(vlastnik), okno(vlastnik) {
+    setAttribute(Qt::WA_OpaquePaintEvent);
+    setFocusPolicy(Qt::StrongFocus);
+    setMouseTracking(true);
+    setMinimumSize(320, 200);
+}
+
+void PlatnoNakresu::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    if (okno->obraz().tvary.empty())
+        p.fillRect(rect(), barva(RoleNakresu::papir, false));
+    else
+        nakresli_obraz(p, okno->obraz(), false);
+}
+
+void PlatnoNakresu::resizeEvent(QResizeEvent*) {
+    okno->prekresli();
+}
+
+void PlatnoNakresu::mousePressEvent(QMouseEvent* udalost) {
+    if (udalost->button() != Qt::LeftButton)
+        return;
+    drzi = true;
+    tahne = false;
+    stisk = udalost->position();
+    od_stisku = okno->pohled().od;
+    m_stisku = okno->m_od();
+}
+
+void PlatnoNakresu::mouseMoveEvent(QMouseEvent* udalost) {
+    const QPointF tah = udalost->position() - stisk;
+    if (drzi && (tahne || tah.manhattanLength() > kTahBodu)) {
+        tahne = true;
+        setCursor(Qt::ClosedHandCursor);
+        const PlochaNakresu& a = okno->obraz().plocha;
+        const PohledNakresu& p = okno->pohled();
+        okno->posun_na(od_stisku - tah.x() / a.sirka() * (p.po - p.od),
+                       m_stisku - tah.y() / a.vyska() * (okno->m_po() - okno->m_od()));
+    } else if (!drzi) {
+        const bool nad_vlakem =
+            vlak_v_nakresu(okno->obraz(), {udalost->position().x(), udalost->position().y()}, kOkoliBodu) !=
+            0;
+        setCursor(nad_vlakem ? Qt::PointingHandCursor : Qt::ArrowCursor);
+    }
+}
+
+void PlatnoNakresu::mouseReleaseEvent(QMouseEvent* udalost) {
+    if (udalost->button() != Qt::LeftButton || !drzi)
+        return;
+    drzi = false;
+    setCursor(Qt::ArrowCursor);
+    if (!tahne)
+        okno->vyber(vlak_v_nakresu(okno->obraz(), {stisk.x(), stisk.y()}, kOkoliBodu), false);
+}
+
+void PlatnoNakresu::mouseDoubleClickEvent(QMouseEvent* udalost) {
+    const QPointF kde = udalost->position();
+    okno->vyber(vlak_v_nakresu(okno->obraz(), {kde.x(), kde.y()}, kOkoliBodu), true);
+}
+
+void PlatnoNakresu::wheelEvent(QWheelEvent* udalost) {
+    const double kroku = udalost->angleDelta().y() / 120.0;
+    const PlochaNakresu& a = okno->obraz().plocha;
+    const PohledNakresu& p = okno->pohled();
+    if (kroku == 0 || a.sirka() <= 0)
+        return;
+    const double krat = std::pow(kKrokLupy, kroku);
+    if (udalost->modifiers().testFlag(Qt::ControlModifier))
+        okno->lupa_drahy(krat, okno->m_od() + (udalost->position().y() - a.nahore) / a.vyska() *
+                                                  (okno->m_po() - okno->m_od()));
+    else if (udalost->modifiers().testFlag(Qt::ShiftModifier))
+        okno->posun_cas(-kroku * kKrokPosunu);
+    else
+        okno->lupa_casu(krat, p.od + (udalost->position().x() - a.vlevo) / a.sirka() * (p.po - p.od));
+}
+
+bool PlatnoNakresu::event(QEvent* udalost) {
+    if (udalost->type() != QEvent::ToolTip)
+        return QWidget::event(udalost);
+    const auto* kde = static_cast<QHelpEvent*>(udalost);
+    const std::int32_t cislo = vlak_v_nakresu(
+        okno->obraz(), {static_cast<double>(kde->pos().x()), static_cast<double>(kde->pos().y())},
+        kOkoliBodu);
+    QString text;
+    if (cislo != 0)
+        v_jadre([&] { text = na_qstring(souhrn_cisla(text_cisla(cislo))); });
+    if (cislo != 0 && text.isEmpty())
+        text = QStringLiteral("%1").arg(cislo);
+    if (text.isEmpty())
+        QToolTip::hideText();
+    else
+        QToolTip::showText(kde->globalPos(),
+                           QStringLiteral("<div style='white-space:pre'>%1</div>").arg(text.toHtmlEscaped()),
+                           this);
+    return true;
+}
+
+// --- the window
+
+OknoNakresu::OknoNakresu(QWidget* rodic) : QWidget(rodic, Qt::Window), stul(rodic) {
+    setObjectName(QStringLiteral("nakres"));
+    setWindowTitle(QStringLiteral("KPS RVZ TESK: nákresný jízdní řád"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    setStyleSheet(QString::fromUtf8(kVzhled));
+
+    trate = new QComboBox;
+    trate->setToolTip(QStringLiteral("Trať na ose (Page Up, Page Down)"));
+    s_planem = new QCheckBox(QStringLiteral("jízdní ř&ád"));
+    s_jizdami = new QCheckBox(QStringLiteral("&skutečnost"));
+    const auto tlacitko = [](const char* text, const char* napoveda) {
+        auto* b = new QPushButton(QString::fromUtf8(text));
+        b->setToolTip(QString::fromUtf8(napoveda));
+        return b;
+    };
+    auto* nyni = tlacitko("&Nyní", "K současnosti a za ní (Home)");
+    auto* den = tlacitko("Celý &den", "Celý den do šířky okna (D)");
+    auto* ulozit = tlacitko("&Uložit…", "Obraz do souboru SVG nebo PDF (Ctrl+E)");
+    auto* tisk = tlacitko("&Tisk…", "Obraz na tiskárnu (Ctrl+P)");
+    auto* zavrit = tlacitko("&Zavřít [F7]", "Zavře nákres; simulace běží dál");
+    auto* lista = new QHBoxLayout;
+    lista->addWidget(trate, 1);
+    for (QWidget* w : std::initializer_list<QWidget*>{s_planem, s_jizdami, nyni, den, ulozit, tisk, zavrit})
+        lista->addWidget(w);
+    platno = new PlatnoNakresu(this);
+    auto* cele = new QVBoxLayout(this);
+    cele->setContentsMargins(8, 6, 8, 8);
+    cele->addLayout(lista);
+    cele->addWidget(platno, 1);
+
+    const auto zapnuto = [](TextPohled klic) { return nastaveni_cislo(kNastaveni, klic, 1) != 0; };
+    s_planem->setChecked(zapnuto("Plan"));
+    s_jizdami->setChecked(zapnuto("Jizdy"));
+    umisti();
+    co.po = (width() - 200) / (kBoduNaMinutu * meritko_obrazovky()) * 60;
+    nacti_trate();
+    connect(trate, &QComboBox::currentIndexChanged, this, &OknoNakresu::zvol_trat);
+    for (QCheckBox* p : {s_planem, s_jizdami})
+        connect(p, &QCheckBox::toggled, this, &OknoNakresu::prekresli);
+    connect(nyni, &QPushButton::clicked, this, &OknoNakresu::na_ted);
+    connect(den, &QPushButton::clicked, this, &OknoNakresu::cely_den);
+    connect(ulozit, &QPushButton::clicked, this, &OknoNakresu::uloz);
+    connect(tisk, &QPushButton::clicked, this, &OknoNakresu::tiskni);
+    connect(zavrit, &QPushButton::clicked, this, &QWidget::close);
+    connect(&obnova, &QTimer::timeout, this, &OknoNakresu::obnov);
+    obnova.start(kObnova_ms);
+    show();
+    raise();
+    activateWindow();
+    platno->setFocus();
+}
+
+// On a monitor that the desk leaves free it takes all of it; else it lies over the relief and leaves the
+// bottom panel, where a picked train tells of itself, in sight.
+void OknoNakresu::umisti() {
+    const QScreen* obrazovka = stul->screen();
+    const QList<QScreen*> vsechny = QGuiApplication::screens();
+    for (const QScreen* jina : vsechny)
+        if (!simulace.dva_monitory && jina != obrazovka &&
+            !jina->geometry().intersects(obrazovka->geometry())) {
+            setGeometry(jina->availableGeometry().adjusted(8, 36, -8, -8));
+            return;
+        }
+    const QRect deska = stul->geometry();
+    const int sirka = simulace.dva_monitory ? deska.width() / 2 : deska.width();
+    const int okraj = deska.height() / 60;
+    resize(sirka - 2 * okraj, qRound(deska.height() * 0.755));
+    move(deska.left() + deska.width() - sirka + okraj, deska.top() + deska.height() / 30);
+}
+
+void OknoNakresu::nacti_trate() {
+    v_jadre([this] { k = koridory(); });
+    for (const Koridor& t : k.trate)
+        trate->addItem(na_qstring(t.nadpis), na_qstring(t.jmeno));
+    if (k.trate.empty())
+        trate->addItem(QStringLiteral("v instalaci chybí data/tesk.kor"));
+    const auto posledni = platforma.nastaveni_cti(kNastaveni, "Trat");
+    const int index = posledni ? trate->findData(na_qstring(*posledni)) : 1;
+    trate->setCurrentIndex(std::clamp(index, 0, trate->count() - 1));
+    sklad.emplace(k);
+    zvol_trat(trate->currentIndex());
+}
+
+void OknoNakresu::zvol_trat(int index) {
+    osa = {};
+    if (index >= 0 && static_cast<std::size_t>(index) < k.trate.size())
+        v_jadre([&] { osa = osa_koridoru(k, k.trate[static_cast<std::size_t>(index)]); });
+    co.m_od = co.m_po = 0;
+    plan_po = plan_od - 1;
+    prekresli();
+}
+
+void OknoNakresu::prekresli() {
+    zmena = true;
+    obnov();
+}
+
+void OknoNakresu::posun_na(double od, double m) {
+    const double sirka = co.po - co.od, vyska = m_po() - m_od();
+    sleduje = sleduje && od == co.od;
+    co.od = od;
+    co.po = od + sirka;
+    if (co.m_po > co.m_od) {
+        co.m_od = std::clamp(m, 0.0, std::max(0.0, osa.delka() - vyska));
+        co.m_po = co.m_od + vyska;
+    }
+    prekresli();
+}
+
+void OknoNakresu::lupa_casu(double krat, double kolem_s) {
+    const double sirka = std::clamp((co.po - co.od) / krat, kNejmensiOkno_s, kNejvetsiOkno_s);
+    const double dil = (kolem_s - co.od) / (co.po - co.od);
+    co.od = kolem_s - dil * sirka;
+    co.po = co.od + sirka;
+    prekresli(); // the present is followed at the new scale
+}
+
+void OknoNakresu::lupa_drahy(double krat, double kolem_m) {
+    const double cela = osa.delka(), vyska = std::max((m_po() - m_od()) / krat, cela / 20);
+    if (vyska >= cela) {
+        co.m_od = co.m_po = 0;
+    } else {
+        const double dil = (kolem_m - m_od()) / (m_po() - m_od());
+        co.m_od = std::clamp(kolem_m - dil * vyska, 0.0, cela - vyska);
+        co.m_po = co.m_od + vyska;
+    }
+    prekresli();
+}
+
+void OknoNakresu::posun_cas(double dil) {
+    posun_na(co.od + dil * (co.po - co.od), m_od());
+}
+
+void OknoNakresu::posun_drahu(double dil) {
+    posun_na(co.od, m_od() + dil * (m_po() - m_od()));
+}
+
+void OknoNakresu::na_ted() {
+    sleduje = true;
+    prekresli();
+}
+
+void OknoNakresu::cely_den() {
+    sleduje = false;
+    v_jadre([this] { co.od = ted_s() / kDen_s * kDen_s; });
+    co.po = co.od + kDen_s;
+    prekresli();
+}
+
+// A picked train stands out here and is searched on the desk; `na_stul` gives the desk back at once.
+void OknoNakresu::vyber(std::int32_t cislo, bool na_stul) {
+    co.vybrany = cislo;
+    if (cislo != 0)
+        v_jadre([&] { ukaz_vlak(cislo); });
+    prekresli();
+    if (HlavniOkno* deska = HlavniOkno::otevrene())
+        deska->obnov();
+    if (na_stul && cislo != 0)
+        close();
+}
+
+bool OknoNakresu::spocitej(bool vse) {
+    return v_jadre([&] {
+        const std::int32_t ted = ted_s();
+        const auto pohyby = gtn_pohyby();
+        if (pohyby.size() < zpracovano) { // a new log
+            sklad.emplace(k);
+            zpracovano = 0;
+        }
+        const bool novy = zpracovano < pohyby.size();
+        for (; zpracovano < pohyby.size(); ++zpracovano)
+            sklad->pridej(pohyby[zpracovano]);
+        if (sleduje) { // in whole minutes: the picture stands still while the present moves
+            const double sirka = co.po - co.od;
+            co.od = std::floor((ted - kTedOdLeva * sirka) / 60) * 60;
+            co.po = co.od + sirka;
+        }
+        co.sirka = platno->width();
+        co.vyska = platno->height();
+        co.pismo = 12 * std::max(1.0, fontInfo().pixelSize() / 13.0);
+        co.ted = ted;
+        co.plan = s_planem->isChecked();
+        co.jizdy = s_jizdami->isChecked();
+        const PlochaNakresu a = plocha_nakresu(co);
+        const double kde = std::round(2 * devicePixelRatioF() * (ted - co.od) / (co.po - co.od) * a.sirka());
+        if (!vse && !novy && kde == ted_x)
+            return;
+        ted_x = kde;
+        const auto od = static_cast<std::int32_t>(co.od), po = static_cast<std::int32_t>(co.po);
+        if (od < plan_od || po > plan_po || plan_den != simulace.den) { // some hours more than are seen
+            plan_od = od - 4 * 3600;
+            plan_po = po + 4 * 3600;
+            plan_den = simulace.den;
+            plan = planovane_cary(k, osa, plan_od, plan_po);
+        }
+        std::vector<CaraVlaku> cary = jete_cary(k, osa, sklad->jizdy(), ted);
+        cary.insert(cary.end(), plan.begin(), plan.end());
+        nakresleny = nakresli_nakres(co, k, osa, cary);
+        platno->update();
+    });
+}
+
+void OknoNakresu::obnov() {
+    if (osa.rady.empty() || platno == nullptr || platno->width() <= 0)
+        return;
+    if (spocitej(zmena))
+        zmena = false;
+}
+
+// --- paper
+
+ObrazNakresu OknoNakresu::na_papir(double sirka, double vyska) const {
+    PohledNakresu p = co;
+    p.sirka = sirka;
+    p.vyska = vyska;
+    p.pismo = sirka / 100;
+    p.vybrany = 0;
+    p.nadpis = osa.nadpis;
+    p.podnadpis = Text("Jízdní řád "_cz) + Text(orez(relief.lblGVD[0].text())) + ", " +
+                  Text(orez(relief.lblDEN[0].text())) + ", " +
+                  popis_casu(static_cast<std::int32_t>(co.od), true) + Text(" až "_cz) +
+                  popis_casu(static_cast<std::int32_t>(co.po), true) + Text("; stav v "_cz) + text_hodin();
+    std::vector<CaraVlaku> cary = jete_cary(k, osa, sklad->jizdy(), static_cast<std::int32_t>(co.ted));
+    cary.insert(cary.end(), plan.begin(), plan.end());
+    return nakresli_nakres(p, k, osa, cary);
+}
+
+void OknoNakresu::uloz() {
+    if (osa.rady.empty())
+        return;
+    QFileDialog dialog(this, QStringLiteral("Uložit nákresný jízdní řád"), QDir::homePath(),
+                       QStringLiteral("Obraz SVG (*.svg);;Dokument PDF (*.pdf)"));
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.setDefaultSuffix(QStringLiteral("svg"));
+    dialog.selectFile(QStringLiteral("nakres-%1.svg").arg(na_qstring(osa.jmeno)));
+    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
+        return;
+    const QString cesta = dialog.selectedFiles().front();
+    bool hotovo = false;
+    ObrazNakresu obraz;
+    v_jadre([&] { obraz = na_papir(kSirkaStrany, kVyskaStrany); });
+    if (cesta.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive)) {
+        QPdfWriter pdf(cesta);
+        pdf.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape, QMarginsF()));
+        pdf.setTitle(na_qstring(osa.nadpis));
+        QPainter p;
+        if (p.begin(&pdf)) {
+            p.scale(pdf.width() / kSirkaStrany, pdf.width() / kSirkaStrany);
+            nakresli_obraz(p, obraz, true);
+            hotovo = p.end();
+        }
+    } else {
+        QFile soubor(cesta);
+        const std::string svg = svg_nakresu(obraz, osa.nadpis);
+        const auto delka = static_cast<qint64>(svg.size());
+        hotovo = soubor.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
+                 soubor.write(svg.data(), delka) == delka && soubor.flush();
+    }
+    if (!hotovo)
+        QMessageBox::warning(this, QStringLiteral("KPS RVZ TESK"),
+                             QStringLiteral("Soubor %1 nelze zapsat.").arg(QDir::toNativeSeparators(cesta)));
+}
+
+void OknoNakresu::tiskni() {
+    if (osa.rady.empty())
+        return;
+    QPrinter tiskarna(QPrinter::HighResolution);
+    tiskarna.setPageOrientation(QPageLayout::Landscape);
+    tiskarna.setDocName(na_qstring(osa.nadpis));
+    QPrintDialog dialog(&tiskarna, this);
+    dialog.setWindowTitle(QStringLiteral("Tisk nákresného jízdního řádu"));
+    if (dialog.exec() != QDialog::Accepted)
+        return;
+    const QRectF strana = tiskarna.pageRect(QPrinter::DevicePixel);
+    ObrazNakresu obraz;
+    v_jadre([&] {
+        obraz = na_papir(kSirkaStrany, kSirkaStrany * strana.height() / std::max(1.0, strana.width()));
+    });
+    QPainter p;
+    if (p.begin(&tiskarna)) {
+        p.scale(strana.width() / kSirkaStrany, strana.width() / kSirkaStrany);
+        nakresli_obraz(p, obraz, true);
+        p.end();
+    }
+}
+
+// --- keys
+
+void OknoNakresu::keyPressEvent(QKeyEvent* udalost) {
+    const bool ctrl = udalost->modifiers().testFlag(Qt::ControlModifier);
+    const double stred_s = (co.od + co.po) / 2, stred_m = (m_od() + m_po()) / 2;
+    const auto lupa = [&](double krat) {
+        ctrl ? lupa_drahy(krat, stred_m) : lupa_casu(krat, sleduje ? co.ted : stred_s);
+    };
+    switch (udalost->key()) {
+    case Qt::Key_F7:
+    case Qt::Key_Escape: close(); break;
+    case Qt::Key_F10:
+        if (HlavniOkno::otevrene() != nullptr)
+            QCoreApplication::sendEvent(HlavniOkno::otevrene(), udalost);
+        break;
+    case Qt::Key_Left: posun_cas(-kKrokPosunu); break;
+    case Qt::Key_Right: posun_cas(kKrokPosunu); break;
+    case Qt::Key_Up: posun_drahu(-kKrokPosunu); break;
+    case Qt::Key_Down: posun_drahu(kKrokPosunu); break;
+    case Qt::Key_Plus:
+    case Qt::Key_Equal: lupa(kKrokLupy); break;
+    case Qt::Key_Minus: lupa(1 / kKrokLupy); break;
+    case Qt::Key_Home: na_ted(); break;
+    case Qt::Key_D: cely_den(); break;
+    case Qt::Key_PageUp: trate->setCurrentIndex(std::max(0, trate->currentIndex() - 1)); break;
+    case Qt::Key_PageDown:
+        trate->setCurrentIndex(std::min(trate->count() - 1, trate->currentIndex() + 1));
+        break;
+    case Qt::Key_E: ctrl ? uloz() : QWidget::keyPressEvent(udalost); break;
+    case Qt::Key_P: ctrl ? tiskni() : QWidget::keyPressEvent(udalost); break;
+    default: QWidget::keyPressEvent(udalost);
+    }
+}
+
+void OknoNakresu::closeEvent(QCloseEvent* udalost) {
+    v_jadre([this] {
+        platforma.nastaveni_pis(kNastaveni, "Trat", z_qstring(trate->currentData().toString()));
+        platforma.nastaveni_pis(kNastaveni, "Plan", s_planem->isChecked() ? "1" : "0");
+        platforma.nastaveni_pis(kNastaveni, "Jizdy", s_jizdami->isChecked() ? "1" : "0");
+    });
+    QWidget::closeEvent(udalost);
+    stul->activateWindow(); // where no window manager gives the keys back
+}
+
+void nakresli_text(QPainter& p, const TvarNakresu& t, bool papir) {
+    QFont pismo = p.font();
+    pismo.setPixelSize(std::max(1, qRound(t.tloustka)));
+    pismo.setBold(t.tucne);
+    p.setFont(pismo);
+    const QString text = na_qstring(t.text);
+    const QFontMetricsF metriky(pismo, p.device());
+    const double sirka = metriky.horizontalAdvance(text);
+    const double vlevo = t.zarovnani == Zarovnani::vlevo    ? 0
+                         : t.zarovnani == Zarovnani::vpravo ? -sirka
+                                                            : -sirka / 2;
+    p.save();
+    p.translate(t.body.front().x, t.body.front().y);
+    if (t.uhel != 0)
+        p.rotate(t.uhel);
+    if (t.podklad)
+        p.fillRect(QRectF(vlevo - 1.5, -0.52 * t.tloustka, sirka + 3, 1.04 * t.tloustka),
+                   barva(RoleNakresu::papir, papir, 0.85));
+    if (sleduj_radek != nullptr && t.uhel == 0)
+        sleduj_radek(p, QRectF(vlevo, -t.tloustka / 2, sirka, t.tloustka), t.text);
+    p.setPen(barva(t.role, papir, t.kryti));
+    p.drawText(QPointF(vlevo, 0.36 * t.tloustka), text);
+    p.restore();
+}
+
+void nakresli_caru(QPainter& p, const TvarNakresu& t, bool papir) {
+    QPen pero(barva(t.role, papir, t.kryti), t.tloustka);
+    pero.setJoinStyle(Qt::RoundJoin);
+    pero.setCapStyle(Qt::FlatCap);
+    if (t.styl != StylCary::plna)
+        pero.setDashPattern(t.styl == StylCary::carkovana ? QList<qreal>{5, 3} : QList<qreal>{1.5, 2.5});
+    p.setPen(pero);
+    QPolygonF body;
+    body.reserve(static_cast<qsizetype>(t.body.size()));
+    for (const BodObrazu& b : t.body)
+        body.append(QPointF(b.x, b.y));
+    // lines of the grid lie on whole pixels
+    const bool rovna =
+        t.body.size() == 2 && (t.body[0].x == t.body[1].x || t.body[0].y == t.body[1].y) && t.cislo == 0;
+    p.setRenderHint(QPainter::Antialiasing, !rovna || papir);
+    p.drawPolyline(body);
+}
+
+} // namespace
+
+void nakresli_obraz(QPainter& p, const ObrazNakresu& obraz, bool papir) {
+    const PlochaNakresu& a = obraz.plocha;
+    const QRectF plocha(a.vlevo, a.nahore, a.sirka(), a.vyska());
+    bool orez = false;
+    for (const TvarNakresu& t : obraz.tvary) {
+        if (t.v_plose != orez) {
+            orez = t.v_plose;
+            if (orez)
+                p.setClipRect(plocha);
+            p.setClipping(orez);
+        }
+        switch (t.druh) {
+        case DruhTvaru::cara: nakresli_caru(p, t, papir); break;
+        case DruhTvaru::plocha:
+            p.fillRect(QRectF(QPointF(t.body[0].x, t.body[0].y), QPointF(t.body[1].x, t.body[1].y)),
+                       barva(t.role, papir, t.kryti));
+            break;
+        case DruhTvaru::kruh:
+            p.setRenderHint(QPainter::Antialiasing, true);
+            p.setPen(QPen(barva(RoleNakresu::papir, papir), 1));
+            p.setBrush(barva(t.role, papir));
+            p.drawEllipse(QPointF(t.body.front().x, t.body.front().y), t.tloustka, t.tloustka);
+            p.setBrush(Qt::NoBrush);
+            break;
+        case DruhTvaru::text: nakresli_text(p, t, papir); break;
+        }
+    }
+    p.setClipping(false);
+}
+
+void prepni_nakres(QWidget* stul) {
+    if (otevreny)
+        otevreny->close();
+    else
+        otevreny = new OknoNakresu(stul);
+}
+
+bool nakres_ma_klavesy() {
+    return otevreny && otevreny->isActiveWindow();
+}

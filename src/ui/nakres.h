@@ -1,0 +1,21 @@
+// ui/nakres.h - the time-distance diagram in a window of its own: on the other monitor, or over the desk.
+//
+// The core computes the picture (nakres/obraz.h); this window says what is looked at, paints it, and hands a
+// picked train to the desk. The simulation goes on while it is open.
+#pragma once
+
+#include "nakres/obraz.h"
+
+#include <QWidget>
+
+// --- on the operator's command
+
+// Opens the diagram beside the desk, or closes it.
+void prepni_nakres(QWidget* stul);
+
+// --- at any time, without change
+
+// The diagram is the window that has the keys.
+bool nakres_ma_klavesy();
+// Paints a picture; its pixels are the painter's units.
+void nakresli_obraz(QPainter& p, const ObrazNakresu& obraz, bool papir);
