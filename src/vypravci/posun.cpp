@@ -193,6 +193,13 @@ int do_odjezdu_vlaku_min(std::int32_t cislo) {
     return kNikdy;
 }
 
+// A train of that number has still to leave the main station.
+bool je_na_stole(std::int32_t cislo) {
+    return std::any_of(vlaky.begin(), vlaky.end(), [cislo](const Vlak& v) {
+        return v.cislo == cislo && !jen_loko(v) && zastavka_ve_stanici(v, dopravna::tesk) != v.zastavky.end();
+    });
+}
+
 Text jmeno_posunu(int v) {
     const Vlak& t = vlak_c(v);
     if (je_stroj(v)) {
@@ -508,10 +515,23 @@ bool zacni_pretah(const Zadost& z) {
     return true;
 }
 
+// A train route from the track of a train without a locomotive holds the switches over which one has to come.
+bool zrus_odjezd(const Zadost& z) {
+    for (const Cesta& c : cesty)
+        if (c.zacatek >= 0 && c.VC && !c.PN && c.Umazat == 0 && c.cas_ruseni < 0 && c.prehozena &&
+            prvni_prvek(c) == z.kolej && (c.Vlak < 0 || c.Vlak == z.vlak)) {
+            const int zacatek = c.zacatek;
+            return povel_navestidla(zacatek, "miRC");
+        }
+    return false;
+}
+
 void obsluz_zadost(const Zadost& z) {
     const Vlak& t = vlak_c(z.vlak);
     if (t.cislo < 1)
         return;
+    if (!ma_loko(t))
+        zrus_odjezd(z);
     if (z.stroj != kZadny) {
         if (je_u_vlaku(z.stroj, z)) {
             pripoj(z, z.stroj, " dostává lokomotivu "_cz);
@@ -679,8 +699,8 @@ void ved_stroj(int v) {
         if (z.kolej == e && z.stroj == kZadny && soused(z.vlak, e, z.strana) == v)
             return;
     if (uzel::je_odstavna_kolej(e)) {
-        const bool ceka =
-            t.vozy.front().urceni == kZaloha || (pro != 0 && do_odjezdu_vlaku_min(pro) < kStrojDrzen_min);
+        const bool ceka = t.vozy.front().urceni == kZaloha ||
+                          (pro != 0 && (do_odjezdu_vlaku_min(pro) < kStrojDrzen_min || je_na_stole(pro)));
         if (ceka)
             return;
         int obsazeno = 0;
@@ -691,7 +711,7 @@ void ved_stroj(int v) {
         return;
     }
     const bool v_tesku = uzel::stanice_posunu(e) == dopravna::tesk;
-    const bool ma_praci = pro != 0 && do_odjezdu_vlaku_min(pro) < kStrojDrzen_min;
+    const bool ma_praci = pro != 0 && (do_odjezdu_vlaku_min(pro) < kStrojDrzen_min || je_na_stole(pro));
     const bool cerstva_zaloha = t.vozy.front().urceni == kZaloha && rada_cela(t) != uzel::kRadaPosunovaci;
     if (v_tesku && (ma_praci || cerstva_zaloha))
         if (const int k = odstavna(); k != kZadny) {

@@ -195,6 +195,7 @@ TEST_F(PosunVypravciho, TrainToTheRightChangesItsLocomotiveOnASectionBeforeTheSt
                           {stop(5, -3, minuta(-5)), stop(9, minuta(0), minuta(14)), stop(7, minuta(20), -3)},
                           1, {"754", "Bp", "Bp"}, 754, 362, 100);
     ASSERT_EQ(vozy(v), (std::vector<std::string>{"Bp", "Bp"}));
+    vlak_c(v).pokyn = "3";
     const int stroj = prijede(558, false, 840, {stop(2, -3, minuta(-90)), stop(9, minuta(-80), -3)}, 1,
                               {"362"}, 362, 0, 18);
     vlak_c(stroj).posun = true;
