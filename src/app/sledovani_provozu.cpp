@@ -26,7 +26,7 @@ namespace {
 
 constexpr int kPulDne_min = kDen_min / 2;
 constexpr std::int32_t kStani_s = 60;        // a shorter stand is none
-constexpr std::int32_t kDlouheStani_s = 300; // from then on the dispatcher's sentence is kept
+constexpr std::int32_t kDlouheStani_s = 120; // from then on the dispatcher's sentence is kept
 constexpr int kNejvicMinut = 60;        // minutes that one step may leap over and still be seen one by one
 constexpr std::size_t kJizdNaden = 512; // room that is taken at once
 
@@ -398,6 +398,9 @@ void zacni() {
 } // namespace
 
 void sleduj_provoz() {
+    const std::int32_t ted = ted_min();
+    if (sledovani.bezi && ted < sledovani.minuta) // the clock was turned back: these are other trains
+        sledovani = {};
     if (!sledovani.bezi) {
         zacni();
         return;
@@ -415,7 +418,6 @@ void sleduj_provoz() {
                              vlak.posun != s.posun)))
             zmena_zaznamu(static_cast<int>(v));
     }
-    const std::int32_t ted = ted_min();
     if (ted == sledovani.minuta)
         return;
     for (std::int32_t m = std::max(sledovani.minuta, ted - kNejvicMinut) + 1; m <= ted; ++m)

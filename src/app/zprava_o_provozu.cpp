@@ -63,21 +63,6 @@ bool ma_jet(const JizdaVlaku& j, std::int32_t ted_min) {
     return j.mela_jet && (j.objevena || ted_min >= j.cas + zpozdeni_vlaku(radek_gvd(j.radek).cislo));
 }
 
-Text duvod_stani(const Stani& s) {
-    if (!s.veta.empty())
-        return s.veta;
-    switch (s.duvod) {
-    case DuvodStani::zadny: return {};
-    case DuvodStani::bez_cesty: return Text("nemá postavenou cestu"_cz);
-    case DuvodStani::ceka_cesta: return Text("jeho cesta čeká v zásobníku"_cz);
-    case DuvodStani::stoji_cesta: return Text("cesta stojí, kolej před ním je obsazená"_cz);
-    case DuvodStani::na_povel: return Text("čeká na povel k odjezdu nebo na výměnu lokomotivy"_cz);
-    case DuvodStani::bez_lokomotivy: return Text("nemá lokomotivu"_cz);
-    case DuvodStani::posun: return Text("stojí jako posunový díl bez cesty"_cz);
-    }
-    return {};
-}
-
 // Why it waits at this moment: the dispatcher says so, or the route that waits for it, in their own words.
 Text duvod_ted(std::int32_t cislo, const Stani& s) {
     if (const TextPohled veta = veta_vypravciho(cislo); !veta.empty())
@@ -192,6 +177,21 @@ TextPohled jmeno_druhu(std::uint8_t druh) {
 }
 
 } // namespace
+
+Text duvod_stani(const Stani& stani) {
+    if (!stani.veta.empty())
+        return stani.veta;
+    switch (stani.duvod) {
+    case DuvodStani::zadny: return {};
+    case DuvodStani::bez_cesty: return Text("nemá postavenou cestu"_cz);
+    case DuvodStani::ceka_cesta: return Text("jeho cesta čeká v zásobníku"_cz);
+    case DuvodStani::stoji_cesta: return Text("cesta stojí, kolej před ním je obsazená"_cz);
+    case DuvodStani::na_povel: return Text("čeká na povel k odjezdu nebo na výměnu lokomotivy"_cz);
+    case DuvodStani::bez_lokomotivy: return Text("nemá lokomotivu"_cz);
+    case DuvodStani::posun: return Text("stojí jako posunový díl bez cesty"_cz);
+    }
+    return {};
+}
 
 Text jmeno_mista(int prvek) {
     if (prvek < 0)

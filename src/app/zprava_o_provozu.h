@@ -55,6 +55,8 @@ struct ZpravaOProvozu {
 ZpravaOProvozu zprava_o_provozu();
 // The same to be read: lines of Czech text, parted by CR LF.
 Text text_zpravy_o_provozu();
+// Why a train stood, or stands: what the dispatcher said of it, else what was seen.
+Text duvod_stani(const Stani& stani);
 // Name of the place of an element: "THN 5", or what its end is called.
 Text jmeno_mista(int prvek);
 

@@ -357,6 +357,35 @@ void vypis_zpravu_o_provozu(ZaznamJsonu& z) {
     pridej(z, "cekani", Json(std::move(cekani)));
 }
 
+TextPohled slovo_stavu(const JizdaVlaku& j) {
+    switch (j.stav) {
+    case StavJizdy::doma: return j.spravny_vystup ? TextPohled("doma") : TextPohled("jiny_vyjezd");
+    case StavJizdy::ztracena: return "ztraceno";
+    case StavJizdy::jede: break;
+    }
+    return j.objevena ? TextPohled("na_ceste") : TextPohled("nevyjelo");
+}
+
+// Every run that the report counts, or will count, in the order in which they came.
+void vypis_jizdy_vlaku(ZaznamJsonu& z) {
+    pridej_radky(z, sledovani.jizdy, [](ZaznamJsonu& radek, const JizdaVlaku& j) {
+        const GvdVlak& r = radek_gvd(j.radek);
+        pridej(radek, "cislo", r.cislo);
+        pridej(radek, "druh", json_text(zkratka_druhu(r.druh)));
+        pridej(radek, "vstup", j.cas * 60);
+        pridej(radek, "mela_jet", j.mela_jet);
+        pridej(radek, "stav", json_text(slovo_stavu(j)));
+        pridej(radek, "konec", j.stav == StavJizdy::jede ? Json() : Json(j.konec_s));
+        pridej(radek, "zpozdeni_vstup", j.zpozdeni_vstup);
+        pridej(radek, "zpozdeni_konec", j.stav == StavJizdy::jede ? Json() : Json(j.zpozdeni_konec));
+        pridej(radek, "jina_kolej", j.jina_kolej);
+        pridej(radek, "kde", json_text(jmeno_mista(j.prvek)));
+        pridej(radek, "cekal", j.nejdelsi.trva_s);
+        pridej(radek, "cekal_kde", json_text(jmeno_mista(j.nejdelsi.prvek)));
+        pridej(radek, "cekal_proc", json_text(duvod_stani(j.nejdelsi)));
+    });
+}
+
 struct Vypis {
     std::string_view slovo;
     std::string_view zaznam; // the word for one of its rows: `nastav vlak 3`, `over cesta 0`
@@ -389,6 +418,7 @@ constexpr std::array kVypisy = {
     Vypis{"nastaveni", "", vypis_nastaveni},
     Vypis{"vypravci", "", vypis_vypravci},
     Vypis{"zprava_o_provozu", "", vypis_zpravu_o_provozu},
+    Vypis{"jizdy_vlaku", "", vypis_jizdy_vlaku},
 };
 
 const Vypis* najdi_vypis(std::string_view slovo) {

@@ -316,6 +316,21 @@ TEST_F(ZpravaProvozu, CountsAreThoseSinceTheFirstLook) {
     EXPECT_EQ(zprava().cest, 2);
 }
 
+TEST_F(ZpravaProvozu, ClockThatIsTurnedBackBeginsTheRunAnew) {
+    const GvdVlak r = pres(11, dopravna::lhotin, dopravna::borovec, 482);
+    jizdni_rad({r});
+    pohledni();
+    cas(8, 20);
+    ASSERT_EQ(zprava().nevyjelo, 1);
+    simulace.minuty_simulace -= 10;
+    nastav_cas(8 * 3600 + 10 * 60);
+    jede(62, true, r);
+    pohledni();
+    EXPECT_EQ(zprava().od_s, 8 * 3600 + 10 * 60);
+    EXPECT_EQ(zprava().nevyjelo, 0);
+    EXPECT_EQ(zprava().na_ceste, 1);
+}
+
 TEST_F(ZpravaProvozu, NewSimulationForgetsTheRun) {
     const GvdVlak r = pres(11, dopravna::lhotin, dopravna::borovec, 470);
     jizdni_rad({r});

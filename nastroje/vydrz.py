@@ -1,0 +1,113 @@
+#!/usr/bin/env python3
+# nastroje/vydrz.py - the soak: whole weeks of every timetable with many seeds, under the state check.
+#
+#   vydrz.py --davka CESTA/tesk-davka --vystup SLOZKA
+#   vydrz.py --davka CESTA/tesk-davka --vystup SLOZKA --gvd GVD_plny --semen 3 --hodin 24
+#
+# Each run is one of hlidac_provozu.py, on all processors. A run that has ended is not run again when the soak is
+# started anew with the same words. Status 1 when a limit does not hold in any of them.
+import argparse
+import concurrent.futures
+import json
+import os
+import pathlib
+import subprocess
+import sys
+
+HLIDAC = pathlib.Path(__file__).resolve().parent / "hlidac_provozu.py"
+TYDEN_H = 7 * 24
+VSE = ("GVD_plny", "GVD_cvicny", "GVD_tichy")
+
+
+def beh(volby, gvd, semeno):
+    """(judgement, status, what it said) of one run."""
+    soubor = volby.vystup / ("%s-%d.json" % (gvd, semeno))
+    zadani = {"gvd": gvd, "semeno": semeno, "hodin": volby.hodin, "den": volby.den, "cas": volby.cas,
+              "krok": volby.krok, "kontrola": volby.kontrola, "dalsi": volby.dalsi, "program": otisk(volby.davka)}
+    if soubor.exists():
+        hotovy = json.loads(soubor.read_text(encoding="utf-8"))
+        if hotovy["zadani"] == zadani:
+            return hotovy["soud"], hotovy["stav"], hotovy["text"]
+    docasny = soubor.with_suffix(".soud")
+    slova = [sys.executable, "-B", str(HLIDAC), "--davka", str(volby.davka), "--gvd", gvd, "--semeno", str(semeno),
+             "--hodin", str(volby.hodin), "--den", str(volby.den), "--cas", volby.cas, "--krok", str(volby.krok),
+             "--ticho", "--json", str(docasny), *(["--kontrola"] if volby.kontrola else []), *volby.dalsi]
+    v = subprocess.run(slova, capture_output=True, encoding="utf-8")
+    soud = json.loads(docasny.read_text(encoding="utf-8")) if docasny.exists() else None
+    docasny.unlink(missing_ok=True)
+    text = (v.stdout + v.stderr).strip()
+    novy = soubor.with_suffix(".novy")
+    novy.write_text(json.dumps({"zadani": zadani, "soud": soud, "stav": v.returncode, "text": text},
+                               ensure_ascii=False), encoding="utf-8")
+    novy.replace(soubor)
+    return soud, v.returncode, text
+
+
+def otisk(program):
+    """Another program is another soak."""
+    s = program.stat()
+    return [s.st_size, s.st_mtime_ns]
+
+
+HLAVA = "%-11s %6s %6s %6s %7s %6s %6s %6s %5s %5s %6s  %s" % (
+    "řád", "semeno", "vlaků", "doma", "z ukon.", "nevyj.", "uvázlo", "ztrac.", "med.", "p95", "čekal", "")
+
+
+def radek(gvd, semeno, soud, stav):
+    if soud is None:
+        return "%-11s %6d  SELHALO (%d)" % (gvd, semeno, stav)
+    cekal = max([c["trva"] // 60 for c in soud["cekani"]], default=0)
+    domu = 100.0 * soud["hotovych_doma"] / soud["hotovych"] if soud["hotovych"] else 100.0
+    return "%-11s %6d %6d %6d %6.1f%% %6d %6d %6d %5d %5d %6s  %s" % (
+        gvd, semeno, soud["vlaku_melo_jet"], soud["spravnym_vyjezdem"], domu, soud["nevyjelo"], soud["uvazlo"],
+        soud["ztraceno"], soud["zpozdeni_pridane"]["median"], soud["zpozdeni_pridane"]["p95"],
+        cekal or "-", "" if stav == 0 else "NEPLATÍ" if stav == 1 else "LIŠÍ SE" if stav == 5 else "SELHALO (%d)" % stav)
+
+
+def argumenty(slova=None):
+    a = argparse.ArgumentParser(description="Celé týdny všech jízdních řádů s mnoha semeny, pod kontrolou stavu.",
+                                epilog="Další volby za -- se předají hlídači.")
+    a.add_argument("--davka", required=True, type=pathlib.Path, help="program tesk-davka")
+    a.add_argument("--vystup", required=True, type=pathlib.Path, help="složka výsledků")
+    a.add_argument("--gvd", nargs="+", default=list(VSE))
+    a.add_argument("--semen", type=int, default=10, help="kolik semen")
+    a.add_argument("--hodin", type=float, default=float(TYDEN_H))
+    a.add_argument("--den", type=int, default=0, choices=range(7))
+    a.add_argument("--cas", default="0:00")
+    a.add_argument("--krok", type=int, default=10)
+    a.add_argument("--soubezne", type=int, default=os.cpu_count() or 1)
+    a.add_argument("--bez-kontroly", dest="kontrola", action="store_false", help="bez kontroly stavu")
+    a.add_argument("dalsi", nargs="*", help=argparse.SUPPRESS)
+    volby = a.parse_args(slova)
+    if volby.semen < 1 or volby.hodin <= 0 or volby.soubezne < 1:
+        a.error("semen, hodin i souběžných je aspoň něco")
+    return volby
+
+
+def hlavni(slova=None):
+    volby = argumenty(slova)
+    if not volby.davka.is_file():
+        print("vydrz: program %s není" % volby.davka, file=sys.stderr)
+        return 2
+    volby.davka = volby.davka.resolve()
+    volby.vystup.mkdir(parents=True, exist_ok=True)
+    zadani = [(g, s) for s in range(1, volby.semen + 1) for g in volby.gvd]
+    print(HLAVA, flush=True)
+    nejhorsi, vety = 0, []
+    with concurrent.futures.ThreadPoolExecutor(volby.soubezne) as behy:
+        bezi = {behy.submit(beh, volby, *z): z for z in zadani}
+        for hotovy in concurrent.futures.as_completed(bezi):
+            (gvd, semeno), (soud, stav, text) = bezi[hotovy], hotovy.result()
+            print(radek(gvd, semeno, soud, stav), flush=True)
+            if stav:
+                nejhorsi = 1
+                vety += ["%s, semeno %d: %s" % (gvd, semeno, v) for v in
+                         ([text] if soud is None else soud["poruseno"] + soud["rozdily"])]
+    for veta in sorted(vety):
+        print(veta)
+    print("V pořádku." if not nejhorsi else "Některá mez neplatí; podrobnosti jsou ve složce %s." % volby.vystup)
+    return nejhorsi
+
+
+if __name__ == "__main__":
+    sys.exit(hlavni())
