@@ -2,6 +2,7 @@
 #include "app/nova_simulace.h"
 
 #include "app/nouzove.h"
+#include "app/prehravani.h"
 #include "app/smena.h"
 #include "app/stav_simulace.h"
 #include "save/gtn.h"
@@ -22,6 +23,7 @@ void nova_simulace() {
     ++poradi;
     gtn_zavri();
     zapomen_smenu();
+    zapomen_prehravani();
     vrat_stav(StavSimulace{});
     zapomen_nouzovy_stav();
 }

@@ -13,6 +13,7 @@
 #include "zaklad/cisla.h"
 #include "zaklad/odpovedi.h"
 #include "zaklad/platforma.h"
+#include "zaklad/slova.h"
 #include "zaklad/soubory.h"
 #include "zaklad/virtualni_hodiny.h"
 
@@ -57,11 +58,8 @@ Smena smena;
 
 // --- words of the script
 
-std::string v_uvozovkach_skriptu(TextPohled text) {
-    std::string slovo = na_utf8(text);
-    for (std::size_t i = slovo.find('"'); i != std::string::npos; i = slovo.find('"', i + 2))
-        slovo.insert(i, 1, '"');
-    return '"' + slovo + '"';
+std::string slovo(TextPohled text) {
+    return jako_slovo(na_utf8(text));
 }
 
 void radky_bajtu(std::string& text, std::string_view prikaz, const Bajty& bajty) {
@@ -91,7 +89,7 @@ void pis_cekani(std::string& text, Napsano& kam, std::int64_t do_ms) {
 // Questions come in the midst of what is done or waited for: their answers stand before it.
 void pis_odpovedi(std::string& text, Napsano& kam, std::size_t kolik) {
     for (; kam.odpovedi < std::min(kolik, odpovedi_obsluhy.size()); ++kam.odpovedi)
-        text += "odpovez " + v_uvozovkach_skriptu(odpovedi_obsluhy[kam.odpovedi]) + "\n";
+        text += "odpovez " + slovo(odpovedi_obsluhy[kam.odpovedi]) + "\n";
 }
 
 bool hybe_hodinami(const Ukon& u) {
@@ -127,12 +125,12 @@ std::string volby_startu() {
 
 std::string radek_startu() {
     if (simulace.nacitani_zaznamu)
-        return "nacti " + v_uvozovkach_skriptu(simulace.soubor_zaznamu) + smena.volby;
+        return "nacti " + slovo(simulace.soubor_zaznamu) + smena.volby;
     const int minuta = simulace.cas_zacatku + 1;
     return "spust cas=" + std::to_string(minuta / 60) + ":" + dve(minuta % 60) +
-           " rychlost=" + std::to_string(simulace.rychlost) +
-           " gvd=" + v_uvozovkach_skriptu(relief.lblGVD[0].text()) + priznak("pp", simulace.pp_povoleno) +
-           priznak("zpozdeni", simulace.zpozdeni_povoleno) + smena.volby;
+           " rychlost=" + std::to_string(simulace.rychlost) + " gvd=" + slovo(relief.lblGVD[0].text()) +
+           priznak("pp", simulace.pp_povoleno) + priznak("zpozdeni", simulace.zpozdeni_povoleno) +
+           smena.volby;
 }
 
 std::string hlavicka() {
@@ -145,8 +143,7 @@ std::string hlavicka() {
     if (smena.ladeni)
         text += "ladeni ano\n";
     for (const auto& [klic, hodnota] : smena.nastaveni)
-        text += "nastaveni " + na_utf8(kNastaveni) + " " + v_uvozovkach_skriptu(klic) + " " +
-                v_uvozovkach_skriptu(hodnota) + "\n";
+        text += "nastaveni " + na_utf8(kNastaveni) + " " + slovo(klic) + " " + slovo(hodnota) + "\n";
     radky_bajtu(text, "makra", smena.makra);
     radky_bajtu(text, "hra", nactena_hra());
     if (smena.start_ms > 0)
@@ -256,8 +253,11 @@ void zacni_smenu(bool do_souboru) {
     smena.vetev = vetev_historie();
     smena.na_disku = zacatek_textu();
     smena.minuta = minuta_dne(cas_hodin());
-    if (!do_souboru)
-        return;
+    if (do_souboru)
+        zaloz_soubor_smeny();
+}
+
+void zaloz_soubor_smeny() {
     zaloz_soubor();
     pis_soubor();
     planovac.po_okamziku = [dal = planovac.po_okamziku] {

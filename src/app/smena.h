@@ -31,6 +31,8 @@ void zacatek_smeny(std::uint64_t semeno);
 
 // The record begins, and with it the history. `do_souboru`: it is kept on the disk too.
 void zacni_smenu(bool do_souboru);
+// A record that began without one gets its file, with all that is in it already.
+void zaloz_soubor_smeny();
 // What is not on the disk yet; at the end of the program.
 void dopis_smenu();
 

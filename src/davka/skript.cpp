@@ -1,6 +1,7 @@
 // davka/skript.cpp - takes a line of a script apart.
 #include "davka/skript.h"
 
+#include "zaklad/slova.h"
 #include "zaklad/text.h"
 
 #include <algorithm>
@@ -18,43 +19,10 @@ std::string v_uvozovkach(std::string_view text) {
 }
 
 std::vector<std::string> slova_radku(std::string_view radek) {
-    constexpr std::string_view kBom = "\xEF\xBB\xBF";
-    if (radek.starts_with(kBom))
-        radek.remove_prefix(kBom.size());
-
-    std::vector<std::string> slova;
-    bool ve_slove = false, uvnitr_uvozovek = false;
-    for (std::size_t i = 0; i < radek.size(); ++i) {
-        const char znak = radek[i];
-        if (uvnitr_uvozovek) {
-            if (znak != '"') {
-                slova.back() += znak;
-            } else if (i + 1 < radek.size() && radek[i + 1] == '"') {
-                slova.back() += '"';
-                ++i;
-            } else {
-                uvnitr_uvozovek = false;
-            }
-            continue;
-        }
-        if (znak == '#')
-            break;
-        if (znak == ' ' || znak == '\t' || znak == '\r') {
-            ve_slove = false;
-            continue;
-        }
-        if (!ve_slove) {
-            slova.emplace_back();
-            ve_slove = true;
-        }
-        if (znak == '"')
-            uvnitr_uvozovek = true;
-        else
-            slova.back() += znak;
-    }
-    if (uvnitr_uvozovek)
+    std::optional<std::vector<std::string>> slova = rozdel_na_slova(radek);
+    if (!slova)
         chyba_skriptu("text v uvozovkách nemá konec");
-    return slova;
+    return std::move(*slova);
 }
 
 std::optional<std::int64_t> cele_cislo(std::string_view text, std::int64_t nejmene, std::int64_t nejvice) {

@@ -1,7 +1,6 @@
 // davka/skript.h - one line of an operator's script: its words.
 //
-// Words are separated by blanks and tabs, "..." holds a text with blanks (two quotes inside it stand
-// for one), `#` outside quotes starts a comment. A quoted text may be a part of a word: text=" VC ".
+// zaklad/slova.h tells how it is parted.
 #pragma once
 
 #include <cstdint>
@@ -19,8 +18,7 @@ struct ChybaSkriptu {
 // A text as such a message quotes it.
 std::string v_uvozovkach(std::string_view text);
 
-// The words of a line, UTF-8. A text without its closing quote is an error of the script. A byte order
-// mark at the start of a line and a carriage return at its end are left out.
+// The words of a line, UTF-8. A text without its closing quote is an error of the script.
 std::vector<std::string> slova_radku(std::string_view radek);
 
 // A whole decimal number, an optional sign before it: nothing else in the text. Nothing when it is

@@ -4,10 +4,12 @@
 #include "app/cas.h"
 #include "obsluha/vstup.h"
 #include "zaklad/odpovedi.h"
+#include "zaklad/slova.h"
 #include "zaklad/virtualni_hodiny.h"
 
 #include <algorithm>
 #include <array>
+#include <charconv>
 #include <utility>
 
 UkonySmeny ukony_smeny;
@@ -20,16 +22,6 @@ struct SeznamPanelu {
 };
 constexpr std::array kSeznamyPanelu = {SeznamPanelu{"lstZpravy", &Relief::lstZpravy},
                                        SeznamPanelu{"lstDenik", &Relief::lstDenik}};
-
-// A word of a script: between quotes when it is more than a plain word.
-std::string slovo(std::string text) {
-    const bool holy = !text.empty() && text.find_first_of(" \t\r\"#") == std::string::npos;
-    if (holy)
-        return text;
-    for (std::size_t i = text.find('"'); i != std::string::npos; i = text.find('"', i + 2))
-        text.insert(i, 1, '"');
-    return '"' + text + '"';
-}
 
 std::string prvek(const Ukon& u) {
     return " " + std::string(jmeno_druhu(u.druh)) + " " + std::to_string(u.n);
@@ -104,10 +96,10 @@ std::string radek_ukonu(const Ukon& u) {
     case DruhUkonu::radek: return "klik " + na_utf8(u.text) + " " + std::to_string(u.n);
     case DruhUkonu::zalozka:
         return "klik " + na_utf8(kTechnologie.at(static_cast<std::size_t>(u.n)).formular);
-    case DruhUkonu::polozka_menu: return "menu " + slovo(na_utf8(u.text));
+    case DruhUkonu::polozka_menu: return "menu " + jako_slovo(na_utf8(u.text));
     case DruhUkonu::zahozeni_menu: return "zahod_menu";
-    case DruhUkonu::klavesa: return "klavesa " + slovo(na_utf8(jmeno_klavesy(u.klavesa)));
-    case DruhUkonu::psani: return "pis " + slovo(na_utf8(u.text));
+    case DruhUkonu::klavesa: return "klavesa " + jako_slovo(na_utf8(jmeno_klavesy(u.klavesa)));
+    case DruhUkonu::psani: return "pis " + jako_slovo(na_utf8(u.text));
     case DruhUkonu::okno_dolu: return "okno dolu";
     case DruhUkonu::okno_nahoru: return "okno nahoru";
     case DruhUkonu::okno_zavrit: return "okno zavri";
@@ -144,4 +136,99 @@ Text jmeno_seznamu(const Seznam& seznam) {
             if (s.seznam == &seznam)
                 return Text(s.jmeno);
     return {};
+}
+
+namespace {
+
+std::optional<std::int64_t> cislo(const std::string& slovo) {
+    std::int64_t x = 0;
+    const auto konec = std::from_chars(slovo.data(), slovo.data() + slovo.size(), x);
+    if (konec.ec != std::errc{} || konec.ptr != slovo.data() + slovo.size())
+        return std::nullopt;
+    return x;
+}
+
+// "klik", "pravy", "najed" and the like with an element behind them.
+std::optional<Ukon> ukon_na_prvku(Ukon ukon, std::span<const std::string> slova) {
+    const auto druh = druh_podle_jmena(slova[1]);
+    const auto n = slova.size() > 2 ? cislo(slova[2]) : std::nullopt;
+    if (!druh || !n)
+        return std::nullopt;
+    ukon.druh = *druh;
+    ukon.n = *n;
+    ukon.ctrl = slova.size() > 3 && slova[3] == "ctrl";
+    return ukon;
+}
+
+std::optional<Ukon> ukon_kliku(std::span<const std::string> slova) {
+    if (slova[1] == "plocha")
+        return Ukon{.co = DruhUkonu::plocha};
+    const Text jmeno = z_utf8(slova[1]);
+    for (std::size_t i = 0; i < kTechnologie.size(); ++i)
+        if (kTechnologie[i].formular == jmeno)
+            return Ukon{.co = DruhUkonu::zalozka, .n = static_cast<std::int64_t>(i)};
+    if (seznam_podle_jmena(jmeno) != nullptr) {
+        const auto radek = slova.size() > 2 ? cislo(slova[2]) : std::nullopt;
+        return radek ? std::optional(Ukon{.co = DruhUkonu::radek, .n = *radek, .text = jmeno}) : std::nullopt;
+    }
+    return ukon_na_prvku({.co = DruhUkonu::klik}, slova);
+}
+
+std::optional<Ukon> ukon_okna(const std::string& co) {
+    constexpr std::array<std::pair<std::string_view, DruhUkonu>, 5> kOkna = {
+        {{"dolu", DruhUkonu::okno_dolu},
+         {"nahoru", DruhUkonu::okno_nahoru},
+         {"zavri", DruhUkonu::okno_zavrit},
+         {"stoji", DruhUkonu::sluzba_stoji},
+         {"bezi", DruhUkonu::sluzba_bezi}}};
+    for (const auto& [slovo, druh] : kOkna)
+        if (slovo == co)
+            return Ukon{.co = druh};
+    return std::nullopt;
+}
+
+std::optional<Ukon> ukon_prestavky(std::span<const std::string> slova) {
+    constexpr std::string_view kMs = "ms";
+    if (!slova[1].ends_with(kMs))
+        return std::nullopt;
+    const auto ms = cislo(slova[1].substr(0, slova[1].size() - kMs.size()));
+    if (!ms)
+        return std::nullopt;
+    return Ukon{.co = slova.size() > 2 ? DruhUkonu::pocitac_stal : DruhUkonu::okno_stalo, .n = *ms};
+}
+
+} // namespace
+
+std::optional<Ukon> ukon_ze_slov(std::span<const std::string> slova) {
+    if (slova.empty())
+        return std::nullopt;
+    const std::string& prikaz = slova[0];
+    if (prikaz == "pohyb")
+        return Ukon{.co = DruhUkonu::pohyb};
+    if (prikaz == "zahod_menu")
+        return Ukon{.co = DruhUkonu::zahozeni_menu};
+    if (slova.size() < 2)
+        return std::nullopt;
+    if (prikaz == "klik")
+        return ukon_kliku(slova);
+    if (prikaz == "pravy")
+        return ukon_na_prvku({.co = DruhUkonu::klik, .tlacitko = Tlacitko::prave}, slova);
+    if (prikaz == "prostredni")
+        return ukon_na_prvku({.co = DruhUkonu::klik, .tlacitko = Tlacitko::prostredni}, slova);
+    if (prikaz == "dvojklik")
+        return ukon_na_prvku({.co = DruhUkonu::dvojklik}, slova);
+    if (prikaz == "najed")
+        return slova[1] == "plocha" ? std::optional(Ukon{.co = DruhUkonu::odjeti})
+                                    : ukon_na_prvku({.co = DruhUkonu::najeti}, slova);
+    if (prikaz == "menu")
+        return Ukon{.co = DruhUkonu::polozka_menu, .text = z_utf8(slova[1])};
+    if (prikaz == "klavesa")
+        return Ukon{.co = DruhUkonu::klavesa, .klavesa = klavesa_podle_jmena(z_utf8(slova[1]))};
+    if (prikaz == "pis")
+        return Ukon{.co = DruhUkonu::psani, .text = z_utf8(slova[1])};
+    if (prikaz == "okno")
+        return ukon_okna(slova[1]);
+    if (prikaz == "prestavka")
+        return ukon_prestavky(slova);
+    return std::nullopt;
 }

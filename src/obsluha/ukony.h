@@ -14,6 +14,8 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -94,6 +96,8 @@ bool proved_ukon(const Ukon& ukon);
 
 // The act as a line of the runner's language, UTF-8.
 std::string radek_ukonu(const Ukon& ukon);
+// The act that the words of such a line tell of; nothing when they tell of none.
+std::optional<Ukon> ukon_ze_slov(std::span<const std::string> slova);
 // It only moves the pointer: nothing of the service hangs on it.
 bool je_pohyb_ukazatele(const Ukon& ukon);
 // A list on which a line can be clicked; none of that name: nullptr.

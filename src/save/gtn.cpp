@@ -113,7 +113,13 @@ std::vector<PohybVlaku> pohyby_zaznamu(const Bajty& zaznamy) {
     return nalezene;
 }
 
+Text pripona; // of the name of the file
+
 } // namespace
+
+void gtn_pripona(TextPohled nova) {
+    pripona = nova;
+}
 
 void gtn_otevri() {
     denik.zavri();
@@ -121,7 +127,7 @@ void gtn_otevri() {
     const NastennyCas ted = platforma.nastenny_cas();
     const Text slozka = simulace.cesta_aplikace + "GTN\\";
     const Text cesta = slozka + text_cisla_mist(ted.rok % 100, 2) + text_cisla_mist(ted.mesic, 2) +
-                       text_cisla_mist(ted.den, 2) + ".gtn";
+                       text_cisla_mist(ted.den, 2) + pripona + ".gtn";
     zaloz_slozku(slozka);
     smaz_soubor(cesta);
     zaloz_rostouci(denik.soubor, cesta);

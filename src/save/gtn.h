@@ -7,6 +7,7 @@
 
 #include "zaklad/balik.h"
 #include "zaklad/chyba.h"
+#include "zaklad/text.h"
 
 #include <cstdint>
 #include <optional>
@@ -51,6 +52,8 @@ inline constexpr std::uint8_t vlak_z_koleje = 132;
 // file are tried and may fail; a file that cannot be opened is the run-time error 70 or 76, and nothing
 // is logged then.
 void gtn_otevri();
+// What stands in the name of the next log behind its date: a shift that is only watched has a log of its own.
+void gtn_pripona(TextPohled pripona);
 // Appends one event at the clock's time. No test of any kind.
 void gtn_zapis(int prvek, std::uint8_t kod, std::int32_t hodnota);
 // Writes out what is still held back; at the end of the process and before a file is looked at. What a disk

@@ -1,6 +1,5 @@
 // testy/app/historie_test.cpp - time is turned back and forth, and the state is the one that was there.
 #include "app/historie.h"
-#include "app/prestavky.h"
 #include "pomocne/semena.h"
 #include "pomocne/smena_ruky.h"
 

@@ -1,5 +1,4 @@
 // testy/app/smena_test.cpp - the record of the shift plays it again, to the byte of its log.
-#include "app/prestavky.h"
 #include "pomocne/semena.h"
 #include "pomocne/smena_ruky.h"
 

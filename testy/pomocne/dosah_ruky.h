@@ -138,6 +138,11 @@ inline constexpr DosahOperace kOperaceRuky[] = {
     {"klik_na_zalozku", "tab", Dosah::maly},
     {"zvol_v_menu", "miVC", Dosah::maly},
     {"zahod_menu", "menu thrown away", Dosah::maly},
+    {"okno_zmizelo", "window", Dosah::maly},
+    {"okno_se_vratilo", "window", Dosah::maly},
+    {"zavri_okno", "window closed", Dosah::maly},
+    {"zastav_sluzbu", "manual", Dosah::maly},
+    {"spust_sluzbu", "manual", Dosah::maly},
     {"otevri_stitek", "miNVL", Dosah::maly},
     {"otevri_hledani", "key F2", Dosah::maly},
     {"zahod_zadani", "text dropped", Dosah::maly},
@@ -145,10 +150,12 @@ inline constexpr DosahOperace kOperaceRuky[] = {
     {"pridej_prvek_podle_jmena", "search", Dosah::maly},
 };
 // Asked by others, or called by what the hand has done: no command of their own.
-inline constexpr std::array<std::string_view, 11> kBezPovelu = {
-    "klavesa_podle_jmena", "makro_se_zaznamenava", "krok_makra",       "prvek_popisku",
-    "prihlaseni_bezi",     "pipni_klavesou",       "vyzva_mimo_radek", "najdi_cestu",
-    "hlidej_cas_volby",    "obnov_stitek",         "kod_stanice_prvku"};
+inline constexpr std::array<std::string_view, 17> kBezPovelu = {
+    "ukon_ze_slov",     "proved_ukon",   "radek_ukonu",         "je_pohyb_ukazatele",
+    "jmeno_seznamu",    "jmeno_klavesy", "klavesa_podle_jmena", "makro_se_zaznamenava",
+    "krok_makra",       "prvek_popisku", "prihlaseni_bezi",     "pipni_klavesou",
+    "vyzva_mimo_radek", "najdi_cestu",   "hlidej_cas_volby",    "obnov_stitek",
+    "kod_stanice_prvku"};
 // Keys and pictures of the desk that no operation stands for alone.
 inline constexpr std::array<std::string_view, 27> kKlavesyAObrazky = {
     "key F3",         "key F8",

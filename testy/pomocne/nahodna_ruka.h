@@ -36,16 +36,19 @@ public:
     // One act, with what belongs to it: an end to a start, a text to an open field. The clock runs
     // afterwards.
     void ukon() {
-        constexpr std::array kUkony = {
-            &NahodnaRuka::menu_navestidla, &NahodnaRuka::menu_navestidla, &NahodnaRuka::menu_navestidla,
-            &NahodnaRuka::menu_navestidla, &NahodnaRuka::menu_vyhybky_,   &NahodnaRuka::menu_vyhybky_,
-            &NahodnaRuka::menu_vlaku,      &NahodnaRuka::menu_vlaku,      &NahodnaRuka::menu_koleje_,
-            &NahodnaRuka::menu_ostatni,    &NahodnaRuka::volba_cesty,     &NahodnaRuka::volba_cesty,
-            &NahodnaRuka::volba_cesty,     &NahodnaRuka::makro,           &NahodnaRuka::zasobnik,
-            &NahodnaRuka::tlacitko,        &NahodnaRuka::tlacitko,        &NahodnaRuka::klavesa_,
-            &NahodnaRuka::klavesa_,        &NahodnaRuka::klavesa_,        &NahodnaRuka::stranka_vlaku,
-            &NahodnaRuka::udrzba,          &NahodnaRuka::hledani,         &NahodnaRuka::otazka_souseda,
-            &NahodnaRuka::radek_tabulky};
+        constexpr std::array kUkony = {&NahodnaRuka::menu_navestidla, &NahodnaRuka::menu_navestidla,
+                                       &NahodnaRuka::menu_navestidla, &NahodnaRuka::menu_navestidla,
+                                       &NahodnaRuka::menu_vyhybky_,   &NahodnaRuka::menu_vyhybky_,
+                                       &NahodnaRuka::menu_vlaku,      &NahodnaRuka::menu_vlaku,
+                                       &NahodnaRuka::menu_koleje_,    &NahodnaRuka::menu_ostatni,
+                                       &NahodnaRuka::volba_cesty,     &NahodnaRuka::volba_cesty,
+                                       &NahodnaRuka::volba_cesty,     &NahodnaRuka::makro,
+                                       &NahodnaRuka::zasobnik,        &NahodnaRuka::tlacitko,
+                                       &NahodnaRuka::tlacitko,        &NahodnaRuka::klavesa_,
+                                       &NahodnaRuka::klavesa_,        &NahodnaRuka::klavesa_,
+                                       &NahodnaRuka::stranka_vlaku,   &NahodnaRuka::udrzba,
+                                       &NahodnaRuka::hledani,         &NahodnaRuka::otazka_souseda,
+                                       &NahodnaRuka::radek_tabulky,   &NahodnaRuka::okna};
         (this->*kUkony[z_kolika(kUkony.size())])();
         dokonci();
     }
@@ -324,6 +327,24 @@ private:
         zapis("lamp " + std::to_string(k));
         ++pouzito_["lamp"];
         klik(Druh::lblSouhlas, k, Tlacitko::leve, false);
+    }
+    // What the window system does for the operator. The window that is to be closed asks, and stays.
+    void okna() {
+        if (nahodou(400)) {
+            zapis("window away and back");
+            ++pouzito_["window"];
+            okno_zmizelo();
+            okno_se_vratilo();
+        } else if (nahodou(500)) {
+            zapis("window closed");
+            ++pouzito_["window closed"];
+            zavri_okno();
+        } else {
+            zapis("manual");
+            ++pouzito_["manual"];
+            zastav_sluzbu();
+            spust_sluzbu();
+        }
     }
     void radek_tabulky() {
         const int radek =

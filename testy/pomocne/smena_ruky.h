@@ -8,6 +8,7 @@
 #include "app/kontrola_majitelu.h"
 #include "app/nova_simulace.h"
 #include "app/planovac.h"
+#include "app/prestavky.h"
 #include "app/smena.h"
 #include "app/stav_simulace.h"
 #include "cesty/ulozena_makra.h"
