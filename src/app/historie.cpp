@@ -162,6 +162,8 @@ void sleduj_cas() {
 }
 
 void po_okamziku() {
+    if (cas_hodin() == historie.posledni_cas && historie.videno_ukonu == ukony_smeny.ukony.size())
+        return; // as nearly always
     sleduj_cas();
     hlidej_odlozene();
     const Snimek& posledni = historie.snimky.back();

@@ -15,10 +15,10 @@
 #include <cstddef>
 #include <cstdint>
 
-// Simulated seconds between two kept states; a pause of that many real seconds twelve times over keeps one
-// too.
-inline constexpr std::int64_t kSnimekPo_s = 15 * 60;
-inline constexpr std::int64_t kSnimekPo_ms = 12 * 15 * 60 * 1000;
+// Simulated seconds between two kept states: an hour of busy traffic is played again in some hundredths of a
+// second. An act after so many milliseconds of a pause keeps one too.
+inline constexpr std::int64_t kSnimekPo_s = 3600;
+inline constexpr std::int64_t kSnimekPo_ms = 4 * 3600 * 1000;
 // Time that can be gone back, and how many bytes the kept states take at most: with more, the oldest goes.
 inline constexpr std::int64_t kPametHistorie_s = 6 * 3600;
 inline constexpr std::size_t kPametHistorie_B = 64'000'000;

@@ -220,6 +220,10 @@ std::optional<Ukon> ukon_ze_slov(std::span<const std::string> slova) {
     if (prikaz == "najed")
         return slova[1] == "plocha" ? std::optional(Ukon{.co = DruhUkonu::odjeti})
                                     : ukon_na_prvku({.co = DruhUkonu::najeti}, slova);
+    if (prikaz == "ukaz_vlak") {
+        const auto n = cislo(slova[1]);
+        return n ? std::optional(Ukon{.co = DruhUkonu::ukazani, .n = *n}) : std::nullopt;
+    }
     if (prikaz == "menu")
         return Ukon{.co = DruhUkonu::polozka_menu, .text = z_utf8(slova[1])};
     if (prikaz == "klavesa")

@@ -2,6 +2,7 @@
 #include "ui/brana.h"
 
 #include "app/bezpecne.h"
+#include "app/prehravani.h"
 #include "ui/hodiny_stolu.h"
 #include "zaklad/chyba.h"
 
@@ -35,6 +36,10 @@ bool v_jadre(const std::function<void()>& telo) {
     }
     bezi = false;
     return true;
+}
+
+bool rukou(const std::function<void()>& telo) {
+    return !prehrava_se() && v_jadre(telo);
 }
 
 void ukonci_zvenci(const std::function<void()>& telo) {

@@ -10,6 +10,8 @@
 
 // Runs the body and answers true; false, and nothing is run, while the core runs or after its end.
 bool v_jadre(const std::function<void()>& telo);
+// The same for a hand at the desk, which does nothing while a recorded shift is watched.
+bool rukou(const std::function<void()>& telo);
 // The same for an end that comes from outside, and may come while the core waits behind a box: the body runs
 // at once, and the box goes with the program.
 void ukonci_zvenci(const std::function<void()>& telo);

@@ -2,6 +2,7 @@
 #include "app/nova_simulace.h"
 #include "app/parametry.h"
 #include "app/planovac.h"
+#include "app/prehravani.h"
 #include "app/simulace.h"
 #include "app/smena.h"
 #include "app/start.h"
@@ -9,6 +10,7 @@
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
 #include "ui/hodiny_stolu.h"
+#include "ui/okno_smeny.h"
 #include "ui/parametry.h"
 #include "ui/platforma_qt.h"
 #include "ui/prirucka.h"
@@ -20,6 +22,7 @@
 #include "zaklad/virtualni_hodiny.h"
 
 #include <QApplication>
+#include <QFile>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QScreen>
@@ -30,6 +33,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <cstring>
+#include <functional>
 #include <memory>
 
 namespace {
@@ -58,7 +62,8 @@ void hlaseni_startu(QtMsgType druh, const QMessageLogContext&, const QString& te
         std::fprintf(stderr, "%s\n", qPrintable(text));
 }
 
-void ukaz_hlavni_obrazovku() {
+// `start` brings the simulation to its login.
+void ukaz_hlavni_obrazovku(const std::function<void()>& start) {
     hlavni_okno = std::make_unique<HlavniOkno>();
     const QScreen* obrazovka = QGuiApplication::primaryScreen();
     const bool pres_monitory = simulace.dva_monitory && obrazovka != nullptr &&
@@ -76,11 +81,7 @@ void ukaz_hlavni_obrazovku() {
         hlavni_okno->showFullScreen();
     }
     hlavni_okno->setFocus();
-    v_jadre([] {
-        plyn_do(virtualni_hodiny.cas_ms + kUvodniObrazovka_ms);
-        start_simulace();
-        zacni_smenu(true);
-    });
+    v_jadre(start);
     pust_hodiny_stolu();
     uvod.reset();
     if (!je_konec()) {
@@ -133,8 +134,51 @@ void zacni_start() {
     formular.release()->deleteLater();
     QTimer::singleShot(kUvodniObrazovka_ms, [] {
         if (!je_konec())
-            ukaz_hlavni_obrazovku();
+            ukaz_hlavni_obrazovku([] {
+                plyn_do(virtualni_hodiny.cas_ms + kUvodniObrazovka_ms);
+                start_simulace();
+                zacni_smenu(true);
+            });
     });
+}
+
+// A recorded shift is watched: its own ten seconds of the splash screen are over. False when the file is
+// none, after the box that says so.
+bool prehraj_smenu(const QString& cesta) {
+    QFile soubor(cesta);
+    const bool otevren = soubor.open(QIODevice::ReadOnly);
+    const QByteArray zaznam = soubor.readAll();
+    bool lze = false;
+    v_jadre([&] {
+        const std::optional<Text> vada =
+            otevren ? cti_smenu({zaznam.constData(), static_cast<std::size_t>(zaznam.size())})
+                    : std::optional<Text>("Soubor se záznamem směny nelze otevřít."_cz);
+        if (vada)
+            platforma.okno("KPS RVZ TESK"_cz, *vada);
+        lze = !vada;
+    });
+    if (!lze || je_konec())
+        return false;
+    drz_hodiny_stolu();
+    if (formular) {
+        formular->hide();
+        formular.release()->deleteLater();
+    }
+    v_jadre(spust_prehravani);
+    if (je_konec())
+        return true;
+    ukaz_hlavni_obrazovku([] {});
+    navaz_hodiny_stolu();
+    if (hlavni_okno)
+        ukaz_okno_smeny(*hlavni_okno);
+    return true;
+}
+
+// The word behind the option that names a recorded shift.
+QString smena_z_prikazove_radky() {
+    const QStringList slova = QCoreApplication::arguments();
+    const auto volba = slova.indexOf(QStringLiteral("--smena"));
+    return volba >= 0 && volba + 1 < slova.size() ? slova[volba + 1] : QString();
 }
 
 } // namespace
@@ -160,8 +204,9 @@ int main(int pocet, char** slova) {
 
     bool pripravena = false;
     v_jadre([&] { pripravena = nacti_start(slozka_programu()); });
-    if (pripravena && !je_konec()) {
-        formular = std::make_unique<OknoParametru>(zacni_start);
+    const QString smena = smena_z_prikazove_radky();
+    if (pripravena && !je_konec() && (smena.isEmpty() || !prehraj_smenu(smena)) && !je_konec()) {
+        formular = std::make_unique<OknoParametru>(zacni_start, prehraj_smenu);
         formular->show();
         formular->activateWindow();
         QTimer::singleShot(0, formular.get(), [] { formular->nabidni(); });

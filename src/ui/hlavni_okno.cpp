@@ -1,16 +1,20 @@
 // ui/hlavni_okno.cpp - the main screen: the desk in a window, its timers, its keys and its pointer.
 #include "ui/hlavni_okno.h"
 
+#include "app/konec.h"
+#include "app/prehravani.h"
 #include "app/simulace.h"
 #include "cesty/duvod.h"
 #include "desk/menu.h"
 #include "obsluha/povely.h"
 #include "obsluha/vstup.h"
+#include "obsluha/vyber.h"
 #include "technologie/technologie.h"
 #include "ui/brana.h"
 #include "ui/nabidka.h"
 #include "ui/nakres.h"
 #include "ui/napoveda.h"
+#include "ui/okno_smeny.h"
 #include "ui/pismo.h"
 #include "ui/technologie.h"
 #include "ui/vzhled.h"
@@ -177,7 +181,7 @@ HlavniOkno::HlavniOkno() {
         QStringLiteral("QLineEdit { background: #fff; color: #000; border: 0; padding: 0; }"));
     pole->installEventFilter(this);
     connect(pole, &QLineEdit::textEdited, this, [this](const QString& text) {
-        v_jadre([&] { pis_do_pole(z_qstring(text)); });
+        rukou([&] { pis_do_pole(z_qstring(text)); });
         obnov();
     });
 
@@ -191,7 +195,7 @@ HlavniOkno::HlavniOkno() {
         connect(s.okno, &QListWidget::currentRowChanged, this, [this, &s](int radek) {
             if (radek < 0)
                 return;
-            v_jadre([&] { klik_na_radek(relief.*s.zdroj, radek); });
+            rukou([&] { klik_na_radek(relief.*s.zdroj, radek); });
             obnov();
         });
     }
@@ -314,9 +318,13 @@ void HlavniOkno::obnov() {
     for (ZobrazenySeznam& s : seznamy)
         obnov_seznam(s);
     obnov_pole();
-    obnov_nabidku();
+    if (prehrava_se())
+        ukaz_ruku_zaznamu();
+    else
+        obnov_nabidku();
     obnov_ohnisko();
     okno_technologie->obnov();
+    obnov_okno_smeny();
 }
 
 void HlavniOkno::obnov_seznam(ZobrazenySeznam& s) {
@@ -385,14 +393,14 @@ void HlavniOkno::obnov_nabidku() {
     if (menu.jmeno.empty())
         return;
     nabidka = postav_nabidku(this, menu, pismo_stolu(), meritko_v_okne(), [this](const Text& jmeno) {
-        v_jadre([&] { zvol_v_menu(jmeno); });
+        rukou([&] { zvol_v_menu(jmeno); });
         obnov();
     });
     // The choice is told after the menu has gone; what is closed without one is closed in the core too.
     connect(nabidka, &QMenu::aboutToHide, this, [this] {
         QTimer::singleShot(0, this, [this, ukazovala = nabidka_ukazuje] {
             if (otisk_nabidky() == ukazovala && (nabidka == nullptr || !nabidka->isVisible()))
-                v_jadre(zahod_menu);
+                rukou(zahod_menu);
             obnov();
         });
     });
@@ -403,13 +411,25 @@ void HlavniOkno::obnov_nabidku() {
         vyber_prvni(*nabidka);
 }
 
+// What lay under the pointer of the one whose shift is watched.
+void HlavniOkno::ukaz_ruku_zaznamu() {
+    const std::optional<Nalezeny> kde =
+        vyber.mys_nad_prvkem ? std::optional(Nalezeny{vyber.mys_druh, vyber.mys_prvek}) : std::nullopt;
+    if (kde == najety)
+        return;
+    for (const std::optional<Nalezeny>& co : {najety, kde})
+        if (co && tabulka(co->druh).je(co->n))
+            update(v_okne(misto_vstupu(co->druh, tabulka(co->druh)[co->n])).adjusted(-2, -2, 2, 2));
+    najety = kde;
+}
+
 // --- from the operator to the core
 
 void HlavniOkno::najed(QPointF misto) {
     const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(misto));
     if (kde == najety)
         return;
-    const bool hotovo = v_jadre([&] {
+    const bool hotovo = rukou([&] {
         if (kde)
             najeti(kde->druh, kde->n);
         else
@@ -425,7 +445,7 @@ void HlavniOkno::najed(QPointF misto) {
 
 void HlavniOkno::klepni(QPointF misto, Tlacitko tlacitko, bool ctrl) {
     const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(misto));
-    v_jadre([&] {
+    rukou([&] {
         if (kde)
             klik(kde->druh, kde->n, tlacitko, ctrl);
         else
@@ -456,12 +476,12 @@ void HlavniOkno::mouseDoubleClickEvent(QMouseEvent* udalost) {
 }
 
 void HlavniOkno::poklepej(const Nalezeny& kde) {
-    v_jadre([&] { dvojklik(kde.druh, kde.n); });
+    rukou([&] { dvojklik(kde.druh, kde.n); });
     obnov();
 }
 
 void HlavniOkno::mouseMoveEvent(QMouseEvent* udalost) {
-    v_jadre(pohyb_mysi);
+    rukou(pohyb_mysi);
     najed(udalost->position());
 }
 
@@ -486,7 +506,7 @@ bool HlavniOkno::stisk_za_mys(const QKeyEvent& udalost) {
         return true;
     }
     if (klavesa == Qt::Key_Space && ohnisko) {
-        v_jadre([&] { klik(*ohnisko, 0, Tlacitko::leve, false); });
+        rukou([&] { klik(*ohnisko, 0, Tlacitko::leve, false); });
         obnov();
         return true;
     }
@@ -517,6 +537,14 @@ bool HlavniOkno::otevri_vedlejsi_okno(const std::function<void()>& prepni) {
 }
 
 bool HlavniOkno::stisk(QKeyEvent* udalost) {
+    if (udalost->key() == Qt::Key_F4 && udalost->modifiers() == Qt::NoModifier) {
+        ukaz_okno_smeny(*this);
+        return true;
+    }
+    if (udalost->key() == Qt::Key_F10 && prehrava_se()) {
+        prepni_prehravani();
+        return true;
+    }
     const QScopedValueRollback po_klavese(z_klavesy, true);
     if (udalost->key() == Qt::Key_F7 && otevri_vedlejsi_okno([this] { prepni_nakres(this); }))
         return true;
@@ -526,7 +554,7 @@ bool HlavniOkno::stisk(QKeyEvent* udalost) {
     if (k.kod == KodKlavesy::zadna)
         return false;
     bool znama = false;
-    v_jadre([&] { znama = klavesa(k); });
+    rukou([&] { znama = klavesa(k); });
     obnov();
     return znama;
 }
@@ -615,7 +643,7 @@ bool HlavniOkno::eventFilter(QObject* cil, QEvent* udalost) {
 void HlavniOkno::zmenit_viditelnost_okna() {
     if (minimalizovane == isMinimized())
         return;
-    if (v_jadre([this] {
+    if (rukou([this] {
             if (isMinimized())
                 okno_zmizelo();
             else
@@ -637,7 +665,10 @@ void HlavniOkno::changeEvent(QEvent* udalost) {
 }
 
 void HlavniOkno::closeEvent(QCloseEvent* udalost) {
-    v_jadre(zavri_okno);
+    if (prehrava_se())
+        v_jadre(konec_ihned);
+    else
+        v_jadre(zavri_okno);
     udalost->setAccepted(je_konec());
 }
 

@@ -69,6 +69,7 @@ private:
     QRect v_okne(const QRect& twipy) const;
     double meritko_v_okne() const; // pixels of the window to a pixel of the desk
     QFont pismo_stolu() const;
+    void ukaz_ruku_zaznamu();
     void najed(QPointF misto);
     void klepni(QPointF misto, Tlacitko tlacitko, bool ctrl);
     void poklepej(const Nalezeny& kde);

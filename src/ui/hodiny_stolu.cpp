@@ -1,11 +1,13 @@
 // ui/hodiny_stolu.cpp - the host's clock of the desk, moved after the clock of the computer.
 #include "ui/hodiny_stolu.h"
 
+#include "app/prehravani.h"
 #include "app/prestavky.h"
 #include "zaklad/virtualni_hodiny.h"
 
 #include <QDateTime>
 
+#include <algorithm>
 #include <cstdint>
 #include <ctime>
 
@@ -13,12 +15,24 @@ namespace {
 
 ChodHostitele chod;
 bool drzi = false;
+int krat_prehravani = 1;
+std::int64_t videno_ms = 0; // of the computer's clock, when a watched shift was moved last
 
 // Milliseconds of a clock that nobody sets and that counts the sleep of the computer too.
 std::int64_t ms_od_zapnuti() {
     timespec t{};
     clock_gettime(CLOCK_BOOTTIME, &t);
     return std::int64_t{t.tv_sec} * 1000 + t.tv_nsec / 1'000'000;
+}
+
+// A stall of the machine is no part of what is watched.
+void dozen_prehravani() {
+    constexpr std::int64_t kNejdelsiKrok_ms = 1000;
+    const std::int64_t ted = ms_od_zapnuti();
+    const std::int64_t ubehlo = std::min(ted - videno_ms, kNejdelsiKrok_ms);
+    videno_ms = ted;
+    if (krat_prehravani > 0)
+        prehravej_do(virtualni_hodiny.cas_ms + ubehlo * krat_prehravani);
 }
 
 } // namespace
@@ -37,7 +51,11 @@ void zapni_hodiny_stolu() {
 }
 
 void dozen_hodiny_stolu() {
-    if (!drzi)
+    if (drzi)
+        return;
+    if (prehrava_se())
+        dozen_prehravani();
+    else
         dozen_hodiny(chod, ms_od_zapnuti());
 }
 
@@ -55,5 +73,10 @@ void okno_stolu_stalo() {
 }
 
 void navaz_hodiny_stolu() {
-    chod.nula_ms = ms_od_zapnuti() - virtualni_hodiny.cas_ms;
+    videno_ms = ms_od_zapnuti();
+    chod.nula_ms = videno_ms - virtualni_hodiny.cas_ms;
+}
+
+void rychlost_prehravani(int krat) {
+    krat_prehravani = krat;
 }

@@ -22,3 +22,8 @@ void pust_hodiny_stolu();
 void okno_stolu_stalo();
 // The host's clock was set: from here it goes on.
 void navaz_hodiny_stolu();
+
+// --- while a shift is watched
+
+// How many times faster than the computer's clock it runs; 0: it stands.
+void rychlost_prehravani(int krat);

@@ -9,8 +9,10 @@
 #include "ui/pismo.h"
 #include "ui/uvod.h"
 #include "ui/vzhled.h"
+#include "zaklad/soubory.h"
 
 #include <QCloseEvent>
+#include <QFileDialog>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QGuiApplication>
@@ -237,7 +239,8 @@ QLineEdit* OknoParametru::pole(PoleStartu ktere) {
     return p;
 }
 
-OknoParametru::OknoParametru(std::function<void()> co) : spusteno(std::move(co)) {
+OknoParametru::OknoParametru(std::function<void()> co, std::function<bool(const QString&)> prehraj_)
+    : spusteno(std::move(co)), prehraj(std::move(prehraj_)) {
     meritko = meritko_obrazovky();
     setWindowTitle(QStringLiteral("KPS RVZ TESK"));
     setObjectName(QStringLiteral("plocha"));
@@ -435,6 +438,9 @@ QWidget* OknoParametru::stranka_moznosti() {
     vse->setSpacing(px(12));
     vse->addWidget(skupina);
     vse->addWidget(provoz);
+    QPushButton* smena = tlacitko(QStringLiteral("&Přehrát záznam směny…"), [this] { prehraj_smenu(); });
+    smena->setToolTip(QStringLiteral("F4"));
+    vse->addWidget(smena, 0, Qt::AlignLeft);
     vse->addStretch();
     return stranka;
 }
@@ -627,6 +633,14 @@ void OknoParametru::nabidni() {
     predej(nabidni_nouzovy);
 }
 
+void OknoParametru::prehraj_smenu() {
+    const QString slozka = QString::fromStdString(cesta_k_zapisu(simulace.cesta_aplikace + "smeny"));
+    const QString soubor = QFileDialog::getOpenFileName(this, QStringLiteral("Přehrát záznam směny"), slozka,
+                                                        QStringLiteral("Záznamy směn (*.tesk)"));
+    if (!soubor.isEmpty())
+        prehraj(soubor);
+}
+
 // Keys that were pressed before the screen had gone come here late: the core refuses a second start.
 void OknoParametru::predej(bool (*prikaz_startu)()) {
     bool pripravena = false;
@@ -644,6 +658,7 @@ void OknoParametru::keyPressEvent(QKeyEvent* udalost) {
     case Qt::Key_Return:
     case Qt::Key_Enter: start(); return;
     case Qt::Key_Escape: vyber_stranku(parametry.stranka); return;
+    case Qt::Key_F4: prehraj_smenu(); return;
     case Qt::Key_O:
         if (ctrl) {
             otevri();

@@ -17,8 +17,9 @@
 
 class OknoParametru : public QWidget {
 public:
-    // `spusteno` is called once, when the simulation has been prepared.
-    explicit OknoParametru(std::function<void()> spusteno);
+    // `spusteno` is called once, when the simulation has been prepared. `prehraj` watches the recorded shift
+    // of that file, or says why not: false.
+    OknoParametru(std::function<void()> spusteno, std::function<bool(const QString&)> prehraj);
 
     // Once the screen is seen: the game that a run-time error has ended.
     void nabidni();
@@ -48,8 +49,10 @@ private:
     void start();
     void otevri();
     void predej(bool (*prikaz_startu)());
+    void prehraj_smenu();
 
     std::function<void()> spusteno;
+    std::function<bool(const QString&)> prehraj;
     double meritko = 1;
     QLineEdit *txtHodiny = nullptr, *txtMinuty = nullptr, *txtAutosave = nullptr;
     QComboBox *cboDen = nullptr, *cboRychlost = nullptr;

@@ -178,7 +178,7 @@ void Prirucka::closeEvent(QCloseEvent* udalost) {
 void Prirucka::zastav_cas() {
     if (HlavniOkno::otevrene() == nullptr)
         return; // before the service there is no time to hold
-    v_jadre([this] {
+    rukou([this] {
         drzi_cas = !simulace.pauza;
         if (drzi_cas)
             zastav_sluzbu();

@@ -370,7 +370,7 @@ void ObrazovkaTechnologie::mousePressEvent(QMouseEvent* udalost) {
         return;
     const auto ktera = otevrena_technologie();
     const Misto m = misto_pod(udalost->position());
-    v_jadre([&] {
+    rukou([&] {
         if (m.tlacitko >= 0)
             klavesa(klavesa_podle_jmena(kTlacitka[static_cast<std::size_t>(m.tlacitko)].klavesa));
         else if (m.zalozka >= 0)

@@ -1,0 +1,263 @@
+// ui/okno_smeny.cpp - the window of the shift.
+#include "ui/okno_smeny.h"
+
+#include "app/cas.h"
+#include "app/historie.h"
+#include "app/konec.h"
+#include "app/prehravani.h"
+#include "app/smena.h"
+#include "ui/brana.h"
+#include "ui/hlavni_okno.h"
+#include "ui/hodiny_stolu.h"
+#include "ui/pismo.h"
+
+#include <QComboBox>
+#include <QCoreApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace {
+
+constexpr std::array kRychlosti = {1, 2, 5, 10, 30, 60};
+constexpr std::array kKroky_min = {-15, -5, -1, 1, 5, 15};
+constexpr int kMinuta_s = 60;
+
+QString cas(std::int32_t sekundy) {
+    return na_qstring(text_casu(sekundy));
+}
+
+// "1:05:09" of a length of time.
+QString delka(std::int64_t sekund) {
+    return QStringLiteral("%1:%2:%3")
+        .arg(sekund / 3600)
+        .arg(sekund / 60 % 60, 2, 10, QLatin1Char('0'))
+        .arg(sekund % 60, 2, 10, QLatin1Char('0'));
+}
+
+QString jmeno_souboru(const Text& cesta) {
+    const QString cela = na_qstring(cesta);
+    return cela.mid(cela.lastIndexOf(u'\\') + 1);
+}
+
+class OknoSmeny : public QWidget {
+public:
+    explicit OknoSmeny(HlavniOkno& stul);
+    void obnov();
+    void prepni();
+
+protected:
+    void keyPressEvent(QKeyEvent* udalost) override;
+    void closeEvent(QCloseEvent* udalost) override;
+
+private:
+    void o_minut(int minut);
+    void na_cas();
+    void zrus();
+    void prevezmi();
+    void proved(const std::function<Navrat()>& co);
+    void nastav_rychlost();
+
+    HlavniOkno& stul;
+    QLabel *nadpis = nullptr, *prubeh = nullptr, *vzkaz = nullptr;
+    std::array<QPushButton*, kKroky_min.size()> kroky{};
+    QLineEdit* pole = nullptr;
+    QPushButton *jdi = nullptr, *zpet = nullptr, *hraj = nullptr, *prevzit = nullptr, *konec = nullptr;
+    QComboBox* rychlost = nullptr;
+    bool stoji = false; // the watching
+};
+
+QPointer<OknoSmeny> otevrene;
+
+OknoSmeny::OknoSmeny(HlavniOkno& stul_) : QWidget(&stul_, Qt::Tool), stul(stul_) {
+    setWindowTitle(QStringLiteral("Záznam směny"));
+    setAttribute(Qt::WA_DeleteOnClose);
+    nadpis = new QLabel;
+    prubeh = new QLabel;
+    vzkaz = new QLabel;
+    vzkaz->setWordWrap(true);
+    auto* minuty = new QHBoxLayout;
+    for (std::size_t i = 0; i < kroky.size(); ++i) {
+        const int m = kKroky_min[i];
+        kroky[i] =
+            new QPushButton(m < 0 ? QStringLiteral("−%1 min").arg(-m) : QStringLiteral("+%1 min").arg(m));
+        connect(kroky[i], &QPushButton::clicked, this, [this, m] { o_minut(m); });
+        minuty->addWidget(kroky[i]);
+    }
+    pole = new QLineEdit;
+    pole->setPlaceholderText(QStringLiteral("8:05:00"));
+    pole->setMaxLength(8);
+    jdi = new QPushButton(QStringLiteral("&Jdi"));
+    auto* popis = new QLabel(QStringLiteral("Na č&as"));
+    popis->setBuddy(pole);
+    connect(jdi, &QPushButton::clicked, this, [this] { na_cas(); });
+    connect(pole, &QLineEdit::returnPressed, this, [this] { na_cas(); });
+    auto* cilovy = new QHBoxLayout;
+    cilovy->addWidget(popis);
+    cilovy->addWidget(pole, 1);
+    cilovy->addWidget(jdi);
+    zpet = new QPushButton;
+    connect(zpet, &QPushButton::clicked, this, [this] { zrus(); });
+
+    hraj = new QPushButton;
+    connect(hraj, &QPushButton::clicked, this, [this] { prepni(); });
+    rychlost = new QComboBox;
+    for (const int krat : kRychlosti)
+        rychlost->addItem(QStringLiteral("%1×").arg(krat), krat);
+    connect(rychlost, &QComboBox::currentIndexChanged, this, [this] { nastav_rychlost(); });
+    prevzit = new QPushButton(QStringLiteral("&Převzít směnu"));
+    connect(prevzit, &QPushButton::clicked, this, [this] { prevezmi(); });
+    konec = new QPushButton(QStringLiteral("&Konec"));
+    connect(konec, &QPushButton::clicked, this, [] { v_jadre(konec_ihned); });
+    auto* prehravani = new QHBoxLayout;
+    prehravani->addWidget(hraj);
+    prehravani->addWidget(rychlost);
+    prehravani->addWidget(prevzit, 1);
+    prehravani->addWidget(konec);
+
+    auto* cele = new QVBoxLayout(this);
+    cele->addWidget(nadpis);
+    cele->addWidget(prubeh);
+    cele->addLayout(prehravani);
+    cele->addLayout(minuty);
+    cele->addLayout(cilovy);
+    cele->addWidget(zpet);
+    cele->addWidget(vzkaz);
+    obnov();
+    adjustSize();
+    const QRect kde = stul.geometry(); // in the middle, where the panel and the bar stay in sight
+    move(kde.center().x() - width() / 2, kde.y() + kde.height() / 2 - height() / 2);
+}
+
+void OknoSmeny::obnov() {
+    const bool prehrava = prehrava_se();
+    if (prehrava) {
+        nadpis->setText(QStringLiteral("Přehrává se zaznamenaná směna, %1").arg(cas(cas_hodin())));
+        prubeh->setText(QStringLiteral("%1 z %2%3")
+                            .arg(delka(prehrano_ms() / 1000), delka(delka_zaznamu_ms() / 1000),
+                                 prehravani_skoncilo() ? QStringLiteral(", konec záznamu") : QString()));
+    } else {
+        const Text& soubor = soubor_smeny();
+        nadpis->setText(soubor.empty()
+                            ? QStringLiteral("Směna se na disk nezaznamenává.")
+                            : QStringLiteral("Zaznamenává se do smeny/%1").arg(jmeno_souboru(soubor)));
+        prubeh->setText(QStringLiteral("Zpět lze až na %1").arg(cas(zacatek_pameti())));
+    }
+    for (std::size_t i = 0; i < kroky.size(); ++i)
+        kroky[i]->setVisible(prehrava || kKroky_min[i] < 0);
+    for (QWidget* co : std::initializer_list<QWidget*>{hraj, rychlost, prevzit, konec})
+        co->setVisible(prehrava);
+    hraj->setText(stoji ? QStringLiteral("P&okračovat") : QStringLiteral("S&tát"));
+    const bool lze_zrusit = !prehrava && je_co_vratit();
+    zpet->setVisible(!prehrava);
+    zpet->setEnabled(lze_zrusit);
+    zpet->setText(lze_zrusit ? QStringLiteral("&Zrušit návrat, zpátky na %1").arg(cas(konec_pameti()))
+                             : QStringLiteral("Zrušit návrat"));
+}
+
+void OknoSmeny::proved(const std::function<Navrat()>& co) {
+    Navrat navrat = Navrat::hotovo;
+    const bool slo = v_jadre([&] {
+        navrat = co();
+        navaz_hodiny_stolu();
+    });
+    if (!slo || je_konec())
+        return;
+    switch (navrat) {
+    case Navrat::hotovo: vzkaz->clear(); break;
+    case Navrat::pred_pameti:
+        vzkaz->setText(
+            prehrava_se() ? QStringLiteral("Tam záznam nebo paměť nesahá.")
+                          : QStringLiteral("Tak daleko paměť nesahá, jen do %1.").arg(cas(zacatek_pameti())));
+        break;
+    case Navrat::neni_kam: vzkaz->setText(QStringLiteral("Není kam se vrátit.")); break;
+    case Navrat::selhal: vzkaz->setText(QStringLiteral("Směnu nelze přehrát, čas zůstal, kde byl.")); break;
+    }
+    stul.obnov();
+    obnov();
+}
+
+void OknoSmeny::o_minut(int minut) {
+    proved([minut] {
+        if (prehrava_se())
+            return prehraj_o(minut * kMinuta_s) ? Navrat::hotovo : Navrat::pred_pameti;
+        return vrat_o(-minut * kMinuta_s);
+    });
+}
+
+void OknoSmeny::na_cas() {
+    Text text = z_qstring(pole->text().trimmed());
+    if (text.size() >= 4 && text[text.size() - 3] == ':' && text.find(':') == text.size() - 3)
+        text += ":00"; // hours and minutes
+    if (!je_text_casu(text)) {
+        vzkaz->setText(QStringLiteral("Čas se píše jako 8:05 nebo 8:05:30."));
+        return;
+    }
+    proved([cil = sekundy_textu(text)] {
+        if (prehrava_se())
+            return prehraj_na(cil) ? Navrat::hotovo : Navrat::pred_pameti;
+        return vrat_na(cil);
+    });
+}
+
+void OknoSmeny::zrus() {
+    proved(zrus_navrat);
+}
+
+void OknoSmeny::prevezmi() {
+    proved([] {
+        prevezmi_smenu();
+        return Navrat::hotovo;
+    });
+    adjustSize();
+}
+
+void OknoSmeny::nastav_rychlost() {
+    rychlost_prehravani(stoji ? 0 : rychlost->currentData().toInt());
+}
+
+void OknoSmeny::prepni() {
+    stoji = !stoji;
+    nastav_rychlost();
+    obnov();
+}
+
+void OknoSmeny::keyPressEvent(QKeyEvent* udalost) {
+    if (udalost->key() == Qt::Key_Escape || udalost->key() == Qt::Key_F4)
+        close();
+    else if (udalost->key() >= Qt::Key_F1 && udalost->key() <= Qt::Key_F12)
+        QCoreApplication::sendEvent(&stul, udalost);
+    else
+        QWidget::keyPressEvent(udalost);
+}
+
+void OknoSmeny::closeEvent(QCloseEvent* udalost) {
+    QWidget::closeEvent(udalost);
+    stul.activateWindow(); // where no window manager gives the keys back
+}
+
+} // namespace
+
+void ukaz_okno_smeny(HlavniOkno& stul) {
+    if (!otevrene)
+        otevrene = new OknoSmeny(stul);
+    otevrene->show();
+    otevrene->raise();
+    otevrene->activateWindow();
+}
+
+void obnov_okno_smeny() {
+    if (otevrene)
+        otevrene->obnov();
+}
+
+void prepni_prehravani() {
+    if (otevrene)
+        otevrene->prepni();
+}
