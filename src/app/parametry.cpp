@@ -150,6 +150,7 @@ void prevezmi_nastaveni() {
     parametry.chkDualMonitor = volba("Dual", 0);
     nastav_zvuk(volba("Zvuk", 0));
     parametry.chkAutosave = volba("Autosave", 0);
+    parametry.chkVypravci = volba("Vypravci", 0);
     // the field shows the text that is stored, which must be a number all the same
     nastaveni_cislo(kNastaveni, "Autosaved", 60);
     parametry.txtAutosave = platforma.nastaveni_cti(kNastaveni, "Autosaved").value_or("60");
@@ -436,6 +437,7 @@ MoznostiStartu moznosti_startu() {
     m.zvuk_vypnut = parametry.chkZvuk;
     m.autosave = parametry.chkAutosave;
     m.autosaved = parametry.txtAutosave;
+    m.vypravci = parametry.chkVypravci;
     m.den = na_byte(parametry.cboDen);
     return m;
 }

@@ -31,6 +31,7 @@ struct Parametry {
     bool chkZpozdeni = true, chkPP = true;            // trains may be late; category PP runs
     bool chkZvuk = false;                             // no sound
     bool chkAutosave = false;                         // periodic save, every txtAutosave played minutes
+    bool chkVypravci = false;                         // the automatic dispatcher has the desk
     bool chkNoresize = false, chkDualMonitor = false; // leave the display alone; no second monitor
     Text lblMonitor;
     int vlevo = kZadny; // left edge of the screen in twips; kZadny: centred
@@ -84,8 +85,8 @@ void vyber_oblibeny(int index);
 // The lists of days (0 Monday) and of speeds (0 is the speed 1). An index that is none: nothing.
 void vyber_den(int den);
 void vyber_rychlost(int index);
-// A box of the screen that only counts with the start: chkZpozdeni, chkPP, chkAutosave, chkNoresize,
-// chkDualMonitor.
+// A box of the screen that only counts with the start: chkZpozdeni, chkPP, chkAutosave, chkVypravci,
+// chkNoresize, chkDualMonitor.
 void zaskrtni(bool Parametry::*policko, bool zapnuto);
 // The box "Zvuk vypnut": it counts at once.
 void nastav_zvuk(bool vypnut);

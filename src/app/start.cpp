@@ -324,6 +324,7 @@ void uloz_volby(const MoznostiStartu& m) {
     pis("Dual", m.bez_dvou_monitoru);
     pis("Autosave", m.autosave);
     pis("Zvuk", m.zvuk_vypnut);
+    pis("Vypravci", m.vypravci);
     simulace.autosave = m.autosave;
     simulace.zvuk_vypnut = m.zvuk_vypnut;
     if (je_ciselny(m.autosaved))

@@ -25,6 +25,7 @@ struct MoznostiStartu {
     bool zvuk_vypnut = false;
     bool autosave = false;
     Text autosaved = "60"; // period of the periodic save in played minutes, as typed
+    bool vypravci = false; // the automatic dispatcher has the desk from the start: the host hands it over
     std::uint8_t den = 0;  // day chosen in the list, 0 Monday: the log is filed under it
 };
 

@@ -1,4 +1,5 @@
 // ui/hlavni.cpp - the desk's program: start screen, splash screen, main screen.
+#include "app/nastaveni.h"
 #include "app/nova_simulace.h"
 #include "app/parametry.h"
 #include "app/planovac.h"
@@ -18,6 +19,7 @@
 #include "ui/uvod.h"
 #include "ui/vzhled.h"
 #include "ui/zvuk.h"
+#include "vypravci/vypravci.h"
 #include "zaklad/platforma.h"
 #include "zaklad/virtualni_hodiny.h"
 
@@ -138,6 +140,8 @@ void zacni_start() {
                 plyn_do(virtualni_hodiny.cas_ms + kUvodniObrazovka_ms);
                 start_simulace();
                 zacni_smenu(true);
+                if (nastaveni_cislo("Nastaveni", "Vypravci", 0) != 0)
+                    vypravci::predej(); // he waits for the end of the login
             });
     });
 }

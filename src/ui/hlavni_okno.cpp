@@ -4,6 +4,7 @@
 #include "app/konec.h"
 #include "app/prehravani.h"
 #include "app/simulace.h"
+#include "app/sledovani_provozu.h"
 #include "cesty/duvod.h"
 #include "desk/menu.h"
 #include "obsluha/povely.h"
@@ -17,6 +18,7 @@
 #include "ui/okno_smeny.h"
 #include "ui/pismo.h"
 #include "ui/technologie.h"
+#include "ui/vypravci.h"
 #include "ui/vzhled.h"
 #include "zaklad/cisla.h"
 
@@ -143,12 +145,15 @@ Text otisk_nabidky() {
     return menu.jmeno + ' ' + text_cisla(static_cast<int>(menu.druh)) + ' ' + text_cisla(menu.prvek);
 }
 
-// What the waiting line of the stack, or a start signal, has to say to "why not?".
+// What the waiting line of the stack, a start signal, or a train that the automatic dispatcher has, says to
+// "why not?".
 Text duvod_prvku(const Nalezeny& kde) {
     switch (kde.druh) {
     case Druh::lblZasobnik_blokv: return duvod_zasobniku();
     case Druh::navestidlo:
     case Druh::navestidlo_ser: return duvod_u_navestidla(kde.n);
+    case Druh::cislo_koleje:
+        return Text(veta_vypravciho(cele_z_textu(orez(relief.cislo_koleje[kde.n].text()))));
     default: return {};
     }
 }
@@ -315,6 +320,7 @@ void HlavniOkno::obnov() {
         vyzva = std::move(nova);
         update(v_okne(kMistoVyzvy));
     }
+    obnov_napisy_vypravciho();
     for (ZobrazenySeznam& s : seznamy)
         obnov_seznam(s);
     obnov_pole();
@@ -356,6 +362,22 @@ void HlavniOkno::obnov_seznam(ZobrazenySeznam& s) {
             setFocus();
     }
     s.zobrazeny = novy;
+}
+
+void HlavniOkno::obnov_napisy_vypravciho() {
+    const std::array<Prvek, 2> nove = {znacka_vypravciho(), radek_cekani_na_panelu()};
+    for (std::size_t i = 0; i < nove.size(); ++i) {
+        if (nove[i] == napisy_vypravciho[i])
+            continue;
+        for (const Prvek& n : {napisy_vypravciho[i], nove[i]})
+            update(v_okne(QRect(n.vlevo, n.nahore, n.sirka, n.vyska)).adjusted(-3, -3, 3, 3));
+        napisy_vypravciho[i] = nove[i];
+    }
+}
+
+bool HlavniOkno::je_nad_znackou_vypravciho(QPointF misto) const {
+    const Prvek& z = napisy_vypravciho.front();
+    return z.viditelny && QRect(z.vlevo, z.nahore, z.sirka, z.vyska).contains(na_twipy(misto));
 }
 
 void HlavniOkno::obnov_pole() {
@@ -458,6 +480,8 @@ void HlavniOkno::mousePressEvent(QMouseEvent* udalost) {
     const QPointF misto = udalost->position();
     najed(misto);
     zaostri({});
+    if (je_nad_znackou_vypravciho(misto) && otevri_vedlejsi_okno([this] { prepni_okno_vypravciho(this); }))
+        return;
     const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(misto));
     if (!kde && udalost->button() == Qt::LeftButton && !isFullScreen() && windowHandle() != nullptr &&
         na_twipy(misto).y() < kVyskaListy && windowHandle()->startSystemMove())
@@ -546,6 +570,11 @@ bool HlavniOkno::stisk(QKeyEvent* udalost) {
         return true;
     }
     const QScopedValueRollback po_klavese(z_klavesy, true);
+    if (udalost->key() == Qt::Key_F6) {
+        const bool okno = udalost->modifiers().testFlag(Qt::ShiftModifier);
+        if (otevri_vedlejsi_okno([&] { okno ? prepni_okno_vypravciho(this) : prepni_vypravciho(); }))
+            return true;
+    }
     if (udalost->key() == Qt::Key_F7 && otevri_vedlejsi_okno([this] { prepni_nakres(this); }))
         return true;
     if (!technologie_kryje_stul() && stisk_za_mys(*udalost))
@@ -692,6 +721,11 @@ bool HlavniOkno::event(QEvent* udalost) {
         QString text;
         QRect misto(napoveda->pos(), QSize(1, 1));
         v_jadre([&] {
+            if (je_nad_znackou_vypravciho(napoveda->pos())) {
+                text =
+                    QStringLiteral("Stůl má automatický výpravčí: F6 ho vezme zpět, klepnutí ukáže, co dělá");
+                return;
+            }
             if (!kde) {
                 text = napoveda_popisku(twipy);
                 return;
@@ -729,6 +763,9 @@ void HlavniOkno::paintEvent(QPaintEvent* udalost) {
     }
     if (vyzva)
         nakresli_prvek(p, platno.meritko(), Druh::lblVolba, 0, stitek_vyzvy(*vyzva));
+    for (const Prvek& napis : napisy_vypravciho)
+        if (napis.viditelny)
+            nakresli_prvek(p, platno.meritko(), Druh::lblVolba, 0, napis);
     if (najety && zvyraznuje_se(*najety)) {
         const QRect cil = platno.v_bodech(misto_vstupu(najety->druh, tabulka(najety->druh)[najety->n]));
         nakresli_obrys(p, cil, platno.meritko().bodu(1), QColor::fromRgb(kNajetiPrvku));

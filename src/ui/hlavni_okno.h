@@ -78,6 +78,8 @@ private:
     void obnov_ohnisko();
     void obnov_seznam(ZobrazenySeznam& s);
     void obnov_pole();
+    void obnov_napisy_vypravciho();
+    bool je_nad_znackou_vypravciho(QPointF misto) const;
     void obnov_nabidku();
     bool stisk_za_mys(const QKeyEvent& udalost);
     bool otevri_vedlejsi_okno(const std::function<void()>& prepni);
@@ -93,9 +95,10 @@ private:
     ObrazovkaTechnologie* okno_technologie = nullptr;
     Text nabidka_ukazuje;
     std::optional<Nalezeny> najety;
-    std::optional<Vyzva> vyzva;  // shown beside the message that holds the command line
-    std::optional<Druh> ohnisko; // the panel's button that the space bar presses
-    bool z_klavesy = false;      // what happens now comes from a key
+    std::optional<Vyzva> vyzva;             // shown beside the message that holds the command line
+    std::array<Prvek, 2> napisy_vypravciho; // the dispatcher's sign, and why the shown train waits
+    std::optional<Druh> ohnisko;            // the panel's button that the space bar presses
+    bool z_klavesy = false;                 // what happens now comes from a key
     bool zpravy_zelene = false;
     std::size_t zprav = 0;
     bool minimalizovane = false;

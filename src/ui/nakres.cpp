@@ -128,6 +128,7 @@ private:
     OsaKoridoru osa;
     std::optional<SkladJizd> sklad;
     std::size_t zpracovano = 0; // movements of the log
+    PohybVlaku posledni_pohyb;  // of those
     std::vector<CaraVlaku> plan;
     std::int32_t plan_od = 1, plan_po = 0, plan_den = 0; // for which the plan was asked
     PohledNakresu co;
@@ -411,13 +412,16 @@ bool OknoNakresu::spocitej(bool vse) {
     return v_jadre([&] {
         const std::int32_t ted = ted_s();
         const auto pohyby = gtn_pohyby();
-        if (pohyby.size() < zpracovano) { // a new log
+        // a new log, or another course of time since it was turned back
+        if (pohyby.size() < zpracovano || (zpracovano > 0 && pohyby[zpracovano - 1] != posledni_pohyb)) {
             sklad.emplace(k);
             zpracovano = 0;
         }
         const bool novy = zpracovano < pohyby.size();
         for (; zpracovano < pohyby.size(); ++zpracovano)
             sklad->pridej(pohyby[zpracovano]);
+        if (novy)
+            posledni_pohyb = pohyby.back();
         if (sleduje) { // in whole minutes: the picture stands still while the present moves
             const double sirka = co.po - co.od;
             co.od = std::floor((ted - kTedOdLeva * sirka) / 60) * 60;

@@ -402,6 +402,8 @@ QWidget* OknoParametru::stranka_moznosti() {
                              [](bool z) { zaskrtni(&Parametry::chkDualMonitor, z); });
     chkAutosave = policko(QStringLiteral("Ukládat &samočinně po"),
                           [](bool z) { zaskrtni(&Parametry::chkAutosave, z); });
+    chkVypravci = policko(QStringLiteral("&Ukázkový provoz (automatický výpravčí)"),
+                          [](bool z) { zaskrtni(&Parametry::chkVypravci, z); });
     txtAutosave = pole(PoleStartu::txtAutosave);
     txtAutosave->setFixedWidth(px(64));
     txtAutosave->setAccessibleName(QStringLiteral("Perioda ukládání v odehraných minutách"));
@@ -418,6 +420,7 @@ QWidget* OknoParametru::stranka_moznosti() {
     sloupec->setSpacing(px(7));
     sloupec->addWidget(chkZvuk);
     sloupec->addLayout(ukladani);
+    sloupec->addWidget(chkVypravci);
     sloupec->addWidget(chkNoresize);
     sloupec->addWidget(chkDualMonitor);
     sloupec->addWidget(lblMonitor);
@@ -552,6 +555,7 @@ void OknoParametru::ukaz() {
     zapnuto(chkPP, parametry.chkPP);
     zapnuto(chkZvuk, parametry.chkZvuk);
     zapnuto(chkAutosave, parametry.chkAutosave);
+    zapnuto(chkVypravci, parametry.chkVypravci);
     zapnuto(chkNoresize, parametry.chkNoresize);
     zapnuto(chkDualMonitor, parametry.chkDualMonitor);
     lblMonitor->setText(na_qstring(parametry.lblMonitor));

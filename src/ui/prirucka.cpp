@@ -9,6 +9,7 @@
 #include "ui/napoveda.h"
 #include "ui/pismo.h"
 #include "ui/text_prirucky.h"
+#include "ui/vypravci.h"
 #include "zaklad/soubory.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -221,6 +222,8 @@ private:
             return nakres_ma_klavesy() ? kapitoly::nakres : kapitoly::hodiny; // it tells of saves
         if (nakres_ma_klavesy())
             return kapitoly::nakres;
+        if (vypravci_ma_klavesy())
+            return kapitoly::vypravci;
         if (const HlavniOkno* stul = HlavniOkno::otevrene())
             return stul->kapitola_pod_kurzorem();
         return kapitoly::spusteni;

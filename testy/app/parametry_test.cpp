@@ -251,6 +251,7 @@ TEST_F(StartovniObrazovka, EmptyStoreGivesTheDefaults) {
     EXPECT_FALSE(parametry.chkDualMonitor);
     EXPECT_FALSE(parametry.chkZvuk);
     EXPECT_FALSE(parametry.chkAutosave);
+    EXPECT_FALSE(parametry.chkVypravci);
     EXPECT_EQ(parametry.txtAutosave, "60");
     EXPECT_EQ(parametry.stranka, 0);
 }
@@ -263,6 +264,7 @@ TEST_F(StartovniObrazovka, StoredSettingsFillTheControls) {
                                         {"Dual", "1"},
                                         {"Zvuk", "1"},
                                         {"Autosave", "1"},
+                                        {"Vypravci", "1"},
                                         {"Autosaved", "7.5"}})
         svet.nastaveni_pis("Nastaveni", klic, hodnota);
     ASSERT_TRUE(nacti());
@@ -272,6 +274,7 @@ TEST_F(StartovniObrazovka, StoredSettingsFillTheControls) {
     EXPECT_TRUE(parametry.chkNoresize);
     EXPECT_TRUE(parametry.chkDualMonitor);
     EXPECT_TRUE(parametry.chkAutosave);
+    EXPECT_TRUE(parametry.chkVypravci);
     EXPECT_EQ(parametry.txtAutosave, "7.5");
     EXPECT_TRUE(parametry.chkZvuk);
     EXPECT_TRUE(simulace.zvuk_vypnut) << "the box counts at once, also when a setting ticks it";

@@ -1,0 +1,23 @@
+// ui/vypravci.h - the automatic dispatcher at the desk: the key that hands over and takes over, his sign, and
+// the window that tells what he does and what waits.
+#pragma once
+
+#include "relief/prvek.h"
+
+#include <QWidget>
+
+// --- on the operator's command
+
+// Hands over what the window's boxes say, at first the whole desk; takes it back when he has it.
+void prepni_vypravciho();
+// Opens the window "Automatický výpravčí", or closes it.
+void prepni_okno_vypravciho(QWidget* stul);
+
+// --- at any time, without change
+
+// His sign in the top bar, while he has the desk or a part of it; hidden otherwise.
+Prvek znacka_vypravciho();
+// Why the train on the bottom panel waits, when he has it; hidden otherwise.
+Prvek radek_cekani_na_panelu();
+// The window is the one that has the keys.
+bool vypravci_ma_klavesy();
