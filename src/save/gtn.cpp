@@ -92,26 +92,34 @@ struct Denik {
     }
 };
 Denik denik;
-std::vector<PohybVlaku> pohyby; // of the trains, since the log was opened
 
-std::optional<PohybVlaku> pohyb(const Zaznam& z) {
-    if (z.kod != gtn::vlak_na_kolej && z.kod != gtn::vlak_z_koleje)
-        return std::nullopt;
-    return PohybVlaku{z.cas, z.prvek, z.hodnota, z.kod == gtn::vlak_na_kolej};
-}
+// What is asked for while the log is written, since it was opened.
+struct Pamet {
+    std::vector<PohybVlaku> pohyby;
+    std::vector<ZmenaPrejezdu> prejezdy;
 
-// The movements among whole records of the log.
-std::vector<PohybVlaku> pohyby_zaznamu(const Bajty& zaznamy) {
-    std::vector<PohybVlaku> nalezene;
-    Ctenar ctenar{zaznamy};
-    for (std::size_t i = 0; i + kZaznam <= zaznamy.size(); i += kZaznam) {
-        Zaznam z;
-        popis_zaznamu(ctenar, z);
-        if (const auto p = pohyb(z))
-            nalezene.push_back(*p);
+    void pridej(const Zaznam& z) {
+        if (z.kod == gtn::vlak_na_kolej || z.kod == gtn::vlak_z_koleje)
+            pohyby.push_back({z.cas, z.prvek, z.hodnota, z.kod == gtn::vlak_na_kolej});
+        else if (z.kod == gtn::prejezd)
+            prejezdy.push_back({z.cas, z.prvek, z.hodnota != 0});
     }
-    return nalezene;
-}
+    // Whole records of the log.
+    void pridej(const Bajty& zaznamy) {
+        Ctenar ctenar{zaznamy};
+        for (std::size_t i = 0; i + kZaznam <= zaznamy.size(); i += kZaznam) {
+            Zaznam z;
+            popis_zaznamu(ctenar, z);
+            pridej(z);
+        }
+    }
+    // The last of each kind go, as many as the other one has.
+    void uber(const Pamet& konec) {
+        pohyby.resize(pohyby.size() - std::min(pohyby.size(), konec.pohyby.size()));
+        prejezdy.resize(prejezdy.size() - std::min(prejezdy.size(), konec.prejezdy.size()));
+    }
+};
+Pamet pamet;
 
 Text pripona; // of the name of the file
 
@@ -123,7 +131,7 @@ void gtn_pripona(TextPohled nova) {
 
 void gtn_otevri() {
     denik.zavri();
-    pohyby.clear();
+    pamet = {};
     const NastennyCas ted = platforma.nastenny_cas();
     const Text slozka = simulace.cesta_aplikace + "GTN\\";
     const Text cesta = slozka + text_cisla_mist(ted.rok % 100, 2) + text_cisla_mist(ted.mesic, 2) +
@@ -141,8 +149,7 @@ void gtn_otevri() {
 
 void gtn_zapis(int prvek, std::uint8_t kod, std::int32_t hodnota) {
     const Zaznam zaznam{ted_s(), kod, na_integer(prvek), hodnota};
-    if (const auto p = pohyb(zaznam))
-        pohyby.push_back(*p);
+    pamet.pridej(zaznam);
     Bajty& ceka = denik.cekajici.bajty;
     if (!denik.otevreny() || ceka.size() + kZaznam > kNejviceCeka)
         return;
@@ -181,7 +188,9 @@ Bajty gtn_odrizni(std::int64_t delka) {
         konec.assign(od, ceka.end());
         ceka.erase(od, ceka.end());
     }
-    pohyby.resize(pohyby.size() - std::min(pohyby.size(), pohyby_zaznamu(konec).size()));
+    Pamet odriznute;
+    odriznute.pridej(konec);
+    pamet.uber(odriznute);
     return konec;
 }
 
@@ -189,10 +198,13 @@ void gtn_pripoj(const Bajty& konec) {
     if (!denik.otevreny())
         return;
     denik.cekajici.bajty.insert(denik.cekajici.bajty.end(), konec.begin(), konec.end());
-    const std::vector<PohybVlaku> vracene = pohyby_zaznamu(konec);
-    pohyby.insert(pohyby.end(), vracene.begin(), vracene.end());
+    pamet.pridej(konec);
 }
 
 std::span<const PohybVlaku> gtn_pohyby() {
-    return pohyby;
+    return pamet.pohyby;
+}
+
+std::span<const ZmenaPrejezdu> gtn_prejezdy() {
+    return pamet.prejezdy;
 }

@@ -22,6 +22,14 @@ struct PohybVlaku {
     bool operator==(const PohybVlaku&) const = default;
 };
 
+// A station crossing closed for the road, or opened to it.
+struct ZmenaPrejezdu {
+    std::int32_t cas = 0;
+    std::int16_t prejezd = 0;
+    bool zavren = false;
+    bool operator==(const ZmenaPrejezdu&) const = default;
+};
+
 namespace gtn {
 // Codes of the events. The value is what each line says.
 inline constexpr std::uint8_t ab = 0;           // automatic mode switched
@@ -75,3 +83,5 @@ void gtn_pripoj(const Bajty& konec);
 
 // The movements of trains since the log was opened, as they were written and though no disk has taken them.
 std::span<const PohybVlaku> gtn_pohyby();
+// Likewise the changes of the station crossings.
+std::span<const ZmenaPrejezdu> gtn_prejezdy();

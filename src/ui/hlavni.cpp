@@ -11,6 +11,7 @@
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
 #include "ui/hodiny_stolu.h"
+#include "ui/hodnoceni.h"
 #include "ui/okno_smeny.h"
 #include "ui/parametry.h"
 #include "ui/platforma_qt.h"
@@ -217,6 +218,7 @@ int main(int pocet, char** slova) {
     }
     const int kod = je_konec() ? navratovy_kod() : QApplication::exec();
     zapis_zpravu_sluzby();
+    zapis_hodnoceni_na_konci();
     dopis_smenu();
     hlavni_okno.reset();
     uvod.reset();

@@ -9,6 +9,7 @@
 #include "relief/relief.h"
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
+#include "ui/hodnoceni.h"
 #include "ui/pismo.h"
 #include "ui/vzhled.h"
 #include "zaklad/platforma.h"
@@ -264,12 +265,14 @@ OknoNakresu::OknoNakresu(QWidget* rodic) : QWidget(rodic, Qt::Window), stul(rodi
     };
     auto* nyni = tlacitko("&Nyní", "K současnosti a za ní (Home)");
     auto* den = tlacitko("Celý &den", "Celý den do šířky okna (D)");
+    auto* hodnoceni = tlacitko("&Hodnocení…", "Jak služba zatím dopadla (H)");
     auto* ulozit = tlacitko("&Uložit…", "Obraz do souboru SVG nebo PDF (Ctrl+E)");
     auto* tisk = tlacitko("&Tisk…", "Obraz na tiskárnu (Ctrl+P)");
     auto* zavrit = tlacitko("&Zavřít [F7]", "Zavře nákres; simulace běží dál");
     auto* lista = new QHBoxLayout;
     lista->addWidget(trate, 1);
-    for (QWidget* w : std::initializer_list<QWidget*>{s_planem, s_jizdami, nyni, den, ulozit, tisk, zavrit})
+    for (QWidget* w :
+         std::initializer_list<QWidget*>{s_planem, s_jizdami, nyni, den, hodnoceni, ulozit, tisk, zavrit})
         lista->addWidget(w);
     platno = new PlatnoNakresu(this);
     auto* cele = new QVBoxLayout(this);
@@ -288,6 +291,7 @@ OknoNakresu::OknoNakresu(QWidget* rodic) : QWidget(rodic, Qt::Window), stul(rodi
         connect(p, &QCheckBox::toggled, this, &OknoNakresu::prekresli);
     connect(nyni, &QPushButton::clicked, this, &OknoNakresu::na_ted);
     connect(den, &QPushButton::clicked, this, &OknoNakresu::cely_den);
+    connect(hodnoceni, &QPushButton::clicked, this, [this] { ukaz_hodnoceni(stul); });
     connect(ulozit, &QPushButton::clicked, this, &OknoNakresu::uloz);
     connect(tisk, &QPushButton::clicked, this, &OknoNakresu::tiskni);
     connect(zavrit, &QPushButton::clicked, this, &QWidget::close);
@@ -561,6 +565,7 @@ void OknoNakresu::keyPressEvent(QKeyEvent* udalost) {
     case Qt::Key_Minus: lupa(1 / kKrokLupy); break;
     case Qt::Key_Home: na_ted(); break;
     case Qt::Key_D: cely_den(); break;
+    case Qt::Key_H: ukaz_hodnoceni(stul); break;
     case Qt::Key_PageUp: trate->setCurrentIndex(std::max(0, trate->currentIndex() - 1)); break;
     case Qt::Key_PageDown:
         trate->setCurrentIndex(std::min(trate->count() - 1, trate->currentIndex() + 1));

@@ -5,6 +5,7 @@
 #include "obsluha/vstup.h"
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
+#include "ui/hodnoceni.h"
 #include "ui/nakres.h"
 #include "ui/napoveda.h"
 #include "ui/pismo.h"
@@ -222,6 +223,8 @@ private:
             return nakres_ma_klavesy() ? kapitoly::nakres : kapitoly::hodiny; // it tells of saves
         if (nakres_ma_klavesy())
             return kapitoly::nakres;
+        if (hodnoceni_ma_klavesy())
+            return kapitoly::hodnoceni;
         if (vypravci_ma_klavesy())
             return kapitoly::vypravci;
         if (const HlavniOkno* stul = HlavniOkno::otevrene())

@@ -11,6 +11,7 @@
 #include "relief/relief.h"
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
+#include "ui/hodnoceni.h"
 #include "ui/pismo.h"
 #include "vypravci/vypravci.h"
 
@@ -114,12 +115,18 @@ OknoVypravciho::OknoVypravciho(QWidget* rodic) : QWidget(rodic, Qt::Window), stu
     zprava = new QPlainTextEdit;
     zprava->setReadOnly(true);
     zprava->setLineWrapMode(QPlainTextEdit::WidgetWidth);
+    auto* hodnoceni = new QPushButton(QStringLiteral("&Hodnocení služby…"));
+    connect(hodnoceni, &QPushButton::clicked, this, [this] { ukaz_hodnoceni(stul); });
     auto* ulozit = new QPushButton(QStringLiteral("&Uložit zprávu…"));
     connect(ulozit, &QPushButton::clicked, this, &OknoVypravciho::uloz_zpravu);
     auto* se_zpravou = new QWidget;
     auto* rozvrzeni_zpravy = new QVBoxLayout(se_zpravou);
     rozvrzeni_zpravy->addWidget(zprava, 1);
-    rozvrzeni_zpravy->addWidget(ulozit, 0, Qt::AlignRight);
+    auto* pod_zpravou = new QHBoxLayout;
+    pod_zpravou->addStretch(1);
+    pod_zpravou->addWidget(hodnoceni);
+    pod_zpravou->addWidget(ulozit);
+    rozvrzeni_zpravy->addLayout(pod_zpravou);
     listy = new QTabWidget;
     listy->addTab(cekani, {});
     listy->addTab(rozhodnuti, QStringLiteral("&Rozhodnutí"));

@@ -1,0 +1,407 @@
+// app/hodnoceni.cpp - the assessment of the shift.
+#include "app/hodnoceni.h"
+
+#include "app/cas.h"
+#include "gvd/gvd.h"
+#include "nakres/jizdy.h"
+#include "nakres/koridory.h"
+#include "nakres/obraz.h"
+#include "obsluha/ukony.h"
+#include "relief/relief.h"
+#include "uzel/prejezdy.h"
+
+#include <algorithm>
+#include <array>
+#include <map>
+#include <optional>
+#include <set>
+#include <utility>
+
+namespace {
+
+constexpr int kVcas_min = 5;
+// Seconds between the moment at which a train starts and that at which its tail has left the track.
+constexpr std::int32_t kRozjezd_s = 60;
+constexpr std::size_t kNejvicVlaku = 40, kNejvicUseku = 25;
+
+// Entries of menus that are used when the ordinary way does not do.
+struct UkonNavic {
+    TextPohled polozka, nazev;
+};
+constexpr std::array<UkonNavic, 8> kUkonyNavic = {{
+    {"miRC", "zrušené cesty (RC)"_cz},
+    {"miPN", "přivolávací návěsti (PN)"_cz},
+    {"miRNZ", "uvolnění závěru (RNZ)"_cz},
+    {"miVyh_nouz", "nouzové přestavení výhybky (NOUZ)"_cz},
+    {"miNOT", "nouzové otevření přejezdu (NOT)"_cz},
+    {"miOtocN", "nouzové otočení vlaku (OTOC NOUZOVE)"_cz},
+    {"miZkratit", "zkrácení vlaku (ZKRATIT)"_cz},
+    {"miZAM", "zablokovaná návěstidla (ZAM)"_cz},
+}};
+
+// --- where delay arose
+
+struct BodJizdnihoRadu {
+    int misto = kZadny;
+    std::int32_t cas = 0; // second of the day, may lie beyond it
+    bool odjezd = false;  // else the arrival at the end
+};
+
+// Departures of a row by places, and its last arrival.
+std::vector<BodJizdnihoRadu> body_radku(const Koridory& k, const GvdVlak& r) {
+    std::vector<BodJizdnihoRadu> body;
+    for (std::size_t i = 0; i < r.zastavky.size(); ++i) {
+        const ZastavkaGvd& z = r.zastavky[i];
+        const int misto = misto_stanice(k, z.stanice);
+        if (misto == kZadny)
+            continue;
+        if (z.odjezd >= 0)
+            body.push_back({misto, z.odjezd * 60, true});
+        else if (i + 1 == r.zastavky.size() && z.prijezd >= 0)
+            body.push_back({misto, z.prijezd * 60, false});
+    }
+    return body;
+}
+
+// When a run was at a place, as the log has it: it came first and left last, before it was elsewhere.
+struct Pobyt {
+    int misto = kZadny;
+    std::int32_t prisel = 0, odesel = 0;
+};
+std::vector<Pobyt> pobyty(const Jizda& j) {
+    std::vector<Pobyt> vse;
+    for (const BodJizdy& b : j.body) {
+        if (vse.empty() || vse.back().misto != b.misto)
+            vse.push_back({b.misto, b.cas, b.cas});
+        vse.back().odesel = b.cas;
+    }
+    return vse;
+}
+
+// Row of a number, by whichever of its two it runs; nullptr none.
+const GvdVlak* radek_vlaku(std::int32_t cislo) {
+    const GvdVlak* nalezeny = nullptr;
+    for (const auto& zapis : gvd_vlaky.s_cislem(cislo))
+        if (nalezeny == nullptr || aktivni_dnes(radek_gvd(zapis.radek)))
+            nalezeny = &radek_gvd(zapis.radek);
+    return nalezeny;
+}
+
+// Minutes late, of a time of the timetable on the day that lies nearest.
+int zpozdeni(std::int32_t skutecny, std::int32_t planovany) {
+    std::int32_t rozdil = (skutecny - planovany) % kDen_s;
+    if (rozdil < -kDen_s / 2)
+        rozdil += kDen_s;
+    else if (rozdil >= kDen_s / 2)
+        rozdil -= kDen_s;
+    return std::max(rozdil / 60, 0);
+}
+
+struct Soucty {
+    std::map<std::pair<int, int>, UsekZpozdeni> useky;
+    std::map<std::int32_t, VlakSmeny> vlaky;
+    std::map<std::int32_t, int> nejvic; // minutes that a train lost at its worst place
+};
+
+void zapocti(Soucty& s, const Koridory& k, std::int32_t cislo, int odkud, int kam, int rozdil) {
+    if (rozdil == 0)
+        return;
+    const auto jmeno = [&](int misto) { return k.mista[static_cast<std::size_t>(misto)].nazev; };
+    UsekZpozdeni& u = s.useky[{odkud, kam}];
+    u.odkud = jmeno(odkud);
+    u.kam = jmeno(kam);
+    ++u.vlaku;
+    VlakSmeny& v = s.vlaky[cislo];
+    if (rozdil < 0) {
+        u.nahnano -= rozdil;
+        v.nahnal -= rozdil;
+        return;
+    }
+    u.pridano += rozdil;
+    v.pridal += rozdil;
+    if (rozdil > s.nejvic[cislo]) {
+        s.nejvic[cislo] = rozdil;
+        v.kde = odkud == kam ? u.kam : u.odkud + Text(" – "_cz) + u.kam;
+    }
+}
+
+void zapocti_jizdu(Soucty& s, const Koridory& k, const Jizda& j, int prevzal) {
+    const GvdVlak* radek = radek_vlaku(j.cislo);
+    if (radek == nullptr)
+        return;
+    const std::vector<BodJizdnihoRadu> plan = body_radku(k, *radek);
+    int minule = prevzal, odkud = kZadny;
+    std::size_t od = 0;
+    const std::vector<Pobyt> kudy = pobyty(j);
+    for (std::size_t i = 0; i < kudy.size(); ++i) {
+        const auto bod = std::find_if(plan.begin() + static_cast<std::ptrdiff_t>(od), plan.end(),
+                                      [&](const BodJizdnihoRadu& b) { return b.misto == kudy[i].misto; });
+        if (bod == plan.end() || (bod->odjezd && i + 1 == kudy.size()))
+            continue; // it has not left there yet
+        od = static_cast<std::size_t>(bod - plan.begin()) + 1;
+        const std::int32_t skutecny = bod->odjezd ? kudy[i].odesel - kRozjezd_s : kudy[i].prisel;
+        const int ted = zpozdeni(skutecny, bod->cas);
+        zapocti(s, k, j.cislo, odkud == kZadny ? bod->misto : odkud, bod->misto, ted - minule);
+        minule = ted;
+        odkud = bod->misto;
+    }
+}
+
+void zpozdeni_po_trati(HodnoceniSmeny& h) {
+    const Koridory& k = koridory();
+    SkladJizd sklad(k);
+    for (const PohybVlaku& p : gtn_pohyby())
+        sklad.pridej(p);
+    std::map<std::int32_t, int> prevzali;
+    for (const JizdaVlaku& j : sledovani.jizdy)
+        if (j.objevena)
+            prevzali[radek_gvd(j.radek).cislo] = j.zpozdeni_vstup;
+    Soucty s;
+    for (const Jizda& j : sklad.jizdy())
+        if (const auto vstup = prevzali.find(j.cislo); vstup != prevzali.end())
+            zapocti_jizdu(s, k, j, vstup->second);
+    for (const auto& [misto, u] : s.useky) {
+        h.pridano += u.pridano;
+        h.nahnano += u.nahnano;
+        h.useky.push_back(u);
+    }
+    std::stable_sort(h.useky.begin(), h.useky.end(),
+                     [](const UsekZpozdeni& a, const UsekZpozdeni& b) { return a.pridano > b.pridano; });
+    for (auto& [cislo, v] : s.vlaky) {
+        const GvdVlak* radek = radek_vlaku(cislo);
+        v.cislo = cislo;
+        v.druh = radek != nullptr ? radek->druh : std::uint8_t{0};
+        v.prevzal = prevzali[cislo];
+        if (v.pridal > 0)
+            h.vlaky.push_back(v);
+    }
+    std::stable_sort(h.vlaky.begin(), h.vlaky.end(),
+                     [](const VlakSmeny& a, const VlakSmeny& b) { return a.pridal > b.pridal; });
+}
+
+// --- the page
+
+std::string u8(TextPohled text) {
+    return na_utf8(nahrad_v_textu(nahrad_v_textu(Text(text), "&", "&amp;"), "<", "&lt;"));
+}
+
+// A table: its heading, the captions of its columns, the rows.
+class Tabulka {
+public:
+    Tabulka(std::string& kam, TextPohled nadpis, std::initializer_list<TextPohled> sloupce) : html(kam) {
+        html += "<h2>" + u8(nadpis) + "</h2>\n<table border=\"1\" cellspacing=\"0\" cellpadding=\"4\">\n<tr>";
+        for (const TextPohled s : sloupce)
+            html += "<th align=\"left\">" + u8(s) + "</th>";
+        html += "</tr>\n";
+    }
+    Tabulka(const Tabulka&) = delete;
+    Tabulka& operator=(const Tabulka&) = delete;
+    ~Tabulka() { html += "</table>\n"; }
+    void radek(std::initializer_list<Text> bunky) {
+        html += "<tr>";
+        for (const Text& b : bunky)
+            html += "<td>" + u8(b) + "</td>";
+        html += "</tr>\n";
+    }
+
+private:
+    std::string& html;
+};
+
+Text min(int minut) {
+    return text_cisla(minut) + " min";
+}
+Text z_kolika(int kolik, int z) {
+    const int procent = z > 0 ? (200 * kolik + z) / (2 * z) : 0;
+    return text_cisla(kolik) + " z " + text_cisla(z) + " (" + text_cisla(procent) + " %)";
+}
+Text doba(std::int32_t s) {
+    return text_cisla(s / 60) + " min " + text_cisla(s % 60) + " s";
+}
+Text druh_a_cislo(std::uint8_t druh, std::int32_t cislo) {
+    const TextPohled zkratka = zkratka_druhu(druh);
+    return (zkratka.empty() ? Text{} : Text(zkratka) + " ") + text_cisla(cislo);
+}
+
+void souhrn(std::string& html, const HodnoceniSmeny& h) {
+    const ZpravaOProvozu& z = h.zprava;
+    Tabulka t(html, "Dochvilnost"_cz, {});
+    t.radek({Text("vlaků dojelo"_cz), z_kolika(z.dojelo, z.melo_jet)});
+    t.radek({Text("nejvýš pět minut zpožděných"_cz), z_kolika(h.vcas, z.dojelo)});
+    t.radek({Text("správným výjezdem"_cz), z_kolika(z.spravnym_vyjezdem, z.dojelo)});
+    t.radek({Text("správnou kolejí hlavního nádraží"_cz), z_kolika(z.spravnou_koleji, z.dojelo)});
+    t.radek({Text("zpoždění převzaté od sousedů"_cz), min(h.prevzato)});
+    t.radek({Text("zpoždění, které vzniklo zde"_cz), min(h.pridano)});
+    t.radek({Text("zpoždění, které se dohnalo"_cz), min(h.nahnano)});
+    t.radek({Text("vlaků ještě na cestě, nevyjelo, ztraceno, uvázlo"_cz),
+             text_cisla(z.na_ceste) + ", " + text_cisla(z.nevyjelo) + ", " + text_cisla(z.ztraceno) + ", " +
+                 text_cisla(z.uvazlo)});
+    t.radek({Text("cest postaveno, povelů dáno"_cz), text_cisla(z.cest) + ", " + text_cisla(z.povelu)});
+}
+
+void podle_druhu(std::string& html, const HodnoceniSmeny& h) {
+    Tabulka t(html, "Podle druhu vlaku"_cz,
+              {"druh"_cz, "dojelo"_cz, "převzaté (medián)"_cz, "na konci (medián)"_cz,
+               "přidané (medián, nejvíc)"_cz});
+    for (const KategorieZpravy& k : h.zprava.kategorie)
+        t.radek({Text(zkratka_druhu(k.druh)), z_kolika(k.dojelo, k.melo_jet), min(k.vstup.median),
+                 min(k.konec.median), min(k.pridane.median) + ", " + min(k.pridane.nejvic)});
+}
+
+void kde_vzniklo(std::string& html, const HodnoceniSmeny& h) {
+    {
+        Tabulka t(html, "Kde zpoždění vzniklo"_cz,
+                  {"od odjezdu z"_cz, "po odjezd z"_cz, "vlaků"_cz, "přidáno"_cz, "dohnáno"_cz});
+        for (std::size_t i = 0; i < std::min(h.useky.size(), kNejvicUseku); ++i) {
+            const UsekZpozdeni& u = h.useky[i];
+            t.radek({u.odkud == u.kam ? Text("vstupu"_cz) : u.odkud, u.kam, text_cisla(u.vlaku),
+                     min(u.pridano), min(u.nahnano)});
+        }
+    }
+    Tabulka t(html, "Vlaky, které ztratily nejvíc"_cz,
+              {"vlak"_cz, "převzal"_cz, "přidalo se"_cz, "dohnal"_cz, "nejvíc kde"_cz});
+    for (std::size_t i = 0; i < std::min(h.vlaky.size(), kNejvicVlaku); ++i) {
+        const VlakSmeny& v = h.vlaky[i];
+        t.radek({druh_a_cislo(v.druh, v.cislo), min(v.prevzal), min(v.pridal), min(v.nahnal), v.kde});
+    }
+}
+
+void cekani_a_jine(std::string& html, const HodnoceniSmeny& h) {
+    {
+        Tabulka t(html, "Nejdelší čekání u návěstidel a proč"_cz,
+                  {"vlak"_cz, "kde"_cz, "od"_cz, "jak dlouho"_cz, "proč"_cz});
+        for (const CekaniZpravy& c : h.zprava.cekani)
+            t.radek({text_cisla(c.cislo), c.kde, text_casu(c.od_s), doba(c.trva_s), c.duvod});
+    }
+    if (!h.zprava.radky.empty()) {
+        Tabulka t(html, "Vlaky jinde, než měly být"_cz, {"vlak"_cz, "stav"_cz, "kde"_cz, "od"_cz, "proč"_cz});
+        for (const RadekZpravy& r : h.zprava.radky)
+            t.radek({druh_a_cislo(r.druh, r.cislo), Text(r.stav), r.kde, text_casu(r.od_s), r.duvod});
+    }
+    {
+        Tabulka t(html, "Mimořádné úkony"_cz, {"úkon"_cz, "kolikrát"_cz});
+        for (const PocetUkonu& u : h.ukony)
+            t.radek({Text(u.nazev), text_cisla(u.kolik)});
+    }
+    Tabulka t(html, "Staniční přejezdy zavřené pro silnici"_cz,
+              {"přejezd"_cz, "kolikrát"_cz, "celkem"_cz, "nejdéle"_cz, "od"_cz});
+    for (const PrejezdSmeny& p : h.prejezdy)
+        t.radek({"km " + Text(p.jmeno), text_cisla(p.zavreni), doba(p.celkem_s), doba(p.nejdele_s),
+                 p.zavreni > 0 ? text_casu(p.nejdele_od_s) : Text("–"_cz)});
+}
+
+// The lines on which something ran, each with the hours of the shift; a line that is a part of another one in
+// the page is left out.
+void nakresy(std::string& html, const HodnoceniSmeny& h) {
+    const Koridory& k = koridory();
+    SkladJizd sklad(k);
+    for (const PohybVlaku& p : gtn_pohyby())
+        sklad.pridej(p);
+    std::set<std::pair<int, int>> nakreslene; // neighbours that stand on a line of the page
+    std::vector<const Koridor*> poradi;
+    for (const Koridor& t : k.trate)
+        poradi.push_back(&t);
+    std::stable_sort(poradi.begin(), poradi.end(),
+                     [](const Koridor* a, const Koridor* b) { return a->rady.size() > b->rady.size(); });
+    for (const Koridor* t : poradi) {
+        bool nove = false;
+        for (std::size_t i = 0; i + 1 < t->rady.size(); ++i)
+            nove = nakreslene
+                       .emplace(std::min(t->rady[i].front(), t->rady[i + 1].front()),
+                                std::max(t->rady[i].front(), t->rady[i + 1].front()))
+                       .second ||
+                   nove;
+        if (!nove)
+            continue;
+        const OsaKoridoru osa = osa_koridoru(k, *t);
+        PohledNakresu p;
+        p.od = h.zprava.od_s / 600 * 600;
+        p.po = std::max<double>(p.od + 3600, (h.zprava.do_s + 599) / 600 * 600);
+        p.sirka = std::max(900.0, (p.po - p.od) / 60 * 4 + 200);
+        p.vyska = 160 + 60.0 * static_cast<double>(osa.rady.size());
+        p.pismo = 11;
+        p.nadpis = osa.nadpis;
+        p.podnadpis = text_casu(h.zprava.od_s) + Text(" až "_cz) + text_casu(h.zprava.do_s);
+        std::vector<CaraVlaku> cary = jete_cary(k, osa, sklad.jizdy(), h.zprava.do_s);
+        if (std::none_of(cary.begin(), cary.end(), [](const CaraVlaku& c) { return c.body.size() > 1; }))
+            continue;
+        const std::vector<CaraVlaku> plan = planovane_cary(k, osa, h.zprava.od_s, h.zprava.do_s);
+        cary.insert(cary.end(), plan.begin(), plan.end());
+        html += svg_nakresu(nakresli_nakres(p, k, osa, cary), osa.nadpis);
+    }
+}
+
+} // namespace
+
+std::vector<PrejezdSmeny> zavreni_prejezdu(std::span<const ZmenaPrejezdu> zmeny, std::int32_t ted) {
+    std::vector<PrejezdSmeny> vse;
+    for (std::size_t n = 0; n < uzel::kPrejezdyStanic.size(); ++n) {
+        PrejezdSmeny p;
+        p.jmeno = uzel::kPrejezdyStanic[n].kilometr;
+        std::optional<std::int32_t> od;
+        const auto otevri = [&](std::int32_t kdy) {
+            const std::int32_t trva = std::max(kdy - *od, 0);
+            p.celkem_s += trva;
+            if (trva > p.nejdele_s) {
+                p.nejdele_s = trva;
+                p.nejdele_od_s = *od;
+            }
+            od.reset();
+        };
+        for (const ZmenaPrejezdu& z : zmeny) {
+            if (z.prejezd != static_cast<int>(n))
+                continue;
+            if (z.zavren && !od) {
+                od = z.cas;
+                ++p.zavreni;
+            } else if (!z.zavren && od) {
+                otevri(z.cas);
+            }
+        }
+        if (od)
+            otevri(ted);
+        vse.push_back(p);
+    }
+    return vse;
+}
+
+HodnoceniSmeny hodnoceni_smeny() {
+    HodnoceniSmeny h;
+    h.zprava = zprava_o_provozu();
+    for (const JizdaVlaku& j : sledovani.jizdy) {
+        if (j.mela_jet && j.objevena)
+            h.prevzato += j.zpozdeni_vstup;
+        if (j.mela_jet && j.stav == StavJizdy::doma && j.zpozdeni_konec <= kVcas_min)
+            ++h.vcas;
+    }
+    zpozdeni_po_trati(h);
+    for (const UkonNavic& u : kUkonyNavic) {
+        const auto kolik =
+            std::count_if(ukony_smeny.ukony.begin(), ukony_smeny.ukony.end(), [&](const Ukon& ukon) {
+                return ukon.co == DruhUkonu::polozka_menu && stejne_bez_velikosti(ukon.text, u.polozka);
+            });
+        h.ukony.push_back({u.nazev, static_cast<int>(kolik)});
+    }
+    h.prejezdy = zavreni_prejezdu(gtn_prejezdy(), h.zprava.do_s);
+    return h;
+}
+
+std::string html_hodnoceni(const HodnoceniSmeny& h, bool s_nakresy) {
+    std::string html =
+        "<!DOCTYPE html>\n<html lang=\"cs\"><head><meta charset=\"utf-8\"><title>" +
+        u8("Hodnocení služby"_cz) +
+        "</title>\n<style>body { font-family: 'DejaVu Sans', 'Noto Sans', sans-serif; margin: 24px; }"
+        " table { border-collapse: collapse; } td, th { padding: 3px 8px; } svg { display: block; "
+        "margin: 24px 0; }</style></head><body>\n<h1>" +
+        u8("Hodnocení služby"_cz) + "</h1>\n<p>" +
+        u8(Text(orez(relief.lblDEN[0].text())) + ", " + text_casu(h.zprava.od_s) + Text(" až "_cz) +
+           text_casu(h.zprava.do_s) + Text(", jízdní řád "_cz) + Text(orez(relief.lblGVD[0].text()))) +
+        "</p>\n";
+    souhrn(html, h);
+    podle_druhu(html, h);
+    kde_vzniklo(html, h);
+    cekani_a_jine(html, h);
+    if (s_nakresy)
+        nakresy(html, h);
+    return html + "</body></html>\n";
+}

@@ -1,0 +1,167 @@
+// testy/app/hodnoceni_test.cpp - the assessment of the shift: where delay is counted, what is counted
+// besides.
+#include "app/cas.h"
+#include "app/hodnoceni.h"
+#include "gvd/gvd.h"
+#include "obsluha/ukony.h"
+#include "pomocne/instalace.h"
+
+namespace {
+
+class Hodnoceni : public SPlatformou {
+protected:
+    void SetUp() override {
+        zapis_instalaci(svet);
+        gtn_otevri();
+        simulace.den = 1;
+        simulace.cas_zacatku = 0;
+        ukony_smeny.ukony.clear();
+        // a train from Lhotín over Vyšní Hrabov to the main station
+        GvdVlak v;
+        v.cislo = kVlak;
+        v.druh = 7;
+        v.dny = 127;
+        v.zastavky = {{1, -1, 480}, {8, 484, 486}, {9, 490, -1}};
+        gvd_vlaky = TabulkaGvd({v});
+        sledovani.bezi = true;
+        JizdaVlaku j;
+        j.mela_jet = j.objevena = true;
+        sledovani.jizdy = {j};
+        sledovani.od_s = 470 * 60;
+        nastav_cas("8:30:00");
+    }
+    // The train comes to a track and leaves it, minutes of the day.
+    static void pobyt(int kolej, int prisel, int odesel) {
+        nastav_cas(prisel * 60);
+        gtn_zapis(kolej, gtn::vlak_na_kolej, kVlak);
+        if (odesel < 0)
+            return;
+        nastav_cas(odesel * 60 + 60); // its tail a minute after it has started
+        gtn_zapis(kolej, gtn::vlak_z_koleje, kVlak);
+    }
+    static HodnoceniSmeny hodnot() {
+        nastav_cas("8:30:00");
+        return hodnoceni_smeny();
+    }
+    static constexpr std::int32_t kVlak = 14707;
+    static constexpr int kLhotin = 87, kHrabov = 12, kHlavni = 26;
+};
+
+TEST_F(Hodnoceni, TrainThatRunsByItsTimetableLosesNothing) {
+    pobyt(kLhotin, 475, 480);
+    pobyt(kHrabov, 484, 486);
+    pobyt(kHlavni, 490, -1);
+    const HodnoceniSmeny h = hodnot();
+    EXPECT_EQ(h.pridano, 0);
+    EXPECT_EQ(h.nahnano, 0);
+    EXPECT_TRUE(h.useky.empty());
+    EXPECT_TRUE(h.vlaky.empty());
+}
+
+TEST_F(Hodnoceni, DelayIsCountedBetweenTheDeparturesWhereItArose) {
+    pobyt(kLhotin, 475, 480);
+    pobyt(kHrabov, 484, 493); // held for seven minutes
+    pobyt(kHlavni, 497, -1);
+    const HodnoceniSmeny h = hodnot();
+    ASSERT_EQ(h.useky.size(), 1u);
+    EXPECT_EQ(h.useky[0].odkud, "Lhotín"_cz);
+    EXPECT_EQ(h.useky[0].kam, "Vyšní Hrabov"_cz);
+    EXPECT_EQ(h.useky[0].pridano, 7);
+    EXPECT_EQ(h.pridano, 7);
+    ASSERT_EQ(h.vlaky.size(), 1u);
+    EXPECT_EQ(h.vlaky[0].cislo, kVlak);
+    EXPECT_EQ(h.vlaky[0].pridal, 7);
+    EXPECT_EQ(h.vlaky[0].kde, "Lhotín – Vyšní Hrabov"_cz);
+}
+
+TEST_F(Hodnoceni, DelayThatATrainBroughtIsNobodysHereAndMakingItUpCounts) {
+    sledovani.jizdy[0].zpozdeni_vstup = 10;
+    pobyt(kLhotin, 485, 490);
+    pobyt(kHrabov, 494, 494); // of a dwell of two minutes none is taken
+    pobyt(kHlavni, 498, -1);
+    const HodnoceniSmeny h = hodnot();
+    EXPECT_EQ(h.prevzato, 10);
+    EXPECT_EQ(h.pridano, 0);
+    EXPECT_EQ(h.nahnano, 2);
+    EXPECT_TRUE(h.vlaky.empty());
+}
+
+TEST_F(Hodnoceni, TimeBeforeTheTimetableMakesNothingGood) {
+    pobyt(kLhotin, 470, 475); // five minutes early
+    pobyt(kHrabov, 479, 486);
+    pobyt(kHlavni, 490, -1);
+    const HodnoceniSmeny h = hodnot();
+    EXPECT_EQ(h.pridano, 0);
+    EXPECT_EQ(h.nahnano, 0);
+}
+
+TEST_F(Hodnoceni, TrainThatStandsStillHasNotLeftYet) {
+    pobyt(kLhotin, 475, 480);
+    pobyt(kHrabov, 484, -1);
+    EXPECT_EQ(hodnot().pridano, 0);
+}
+
+TEST_F(Hodnoceni, ActsBeyondTheOrdinaryAreCountedFromTheShift) {
+    for (const char* polozka : {"miRC", "mirc", "miPN", "miInfo"})
+        ukony_smeny.ukony.push_back({.co = DruhUkonu::polozka_menu, .text = polozka});
+    ukony_smeny.ukony.push_back({.co = DruhUkonu::psani, .text = "miRC"});
+    const HodnoceniSmeny h = hodnot();
+    const auto kolik = [&](TextPohled nazev) {
+        for (const PocetUkonu& u : h.ukony)
+            if (u.nazev == nazev)
+                return u.kolik;
+        return -1;
+    };
+    EXPECT_EQ(kolik("zrušené cesty (RC)"_cz), 2);
+    EXPECT_EQ(kolik("přivolávací návěsti (PN)"_cz), 1);
+    EXPECT_EQ(kolik("uvolnění závěru (RNZ)"_cz), 0);
+}
+
+TEST_F(Hodnoceni, ClosingsOfACrossingAreMeasuredUpToNow) {
+    const std::vector<ZmenaPrejezdu> zmeny = {{100, 0, true}, {130, 0, true}, {220, 0, false},
+                                              {300, 1, true}, {400, 0, true}, {430, 0, false},
+                                              {500, 0, false}};
+    const std::vector<PrejezdSmeny> p = zavreni_prejezdu(zmeny, 1000);
+    ASSERT_EQ(p.size(), 2u);
+    EXPECT_EQ(p[0].zavreni, 2);
+    EXPECT_EQ(p[0].celkem_s, 150);
+    EXPECT_EQ(p[0].nejdele_s, 120);
+    EXPECT_EQ(p[0].nejdele_od_s, 100);
+    EXPECT_EQ(p[1].zavreni, 1);
+    EXPECT_EQ(p[1].nejdele_s, 700) << "it is closed still";
+}
+
+TEST_F(Hodnoceni, CrossingsAreKeptAsTheLogHasThem) {
+    gtn_zapis(1, gtn::prejezd, 1);
+    ASSERT_EQ(gtn_prejezdy().size(), 1u);
+    EXPECT_EQ(gtn_prejezdy()[0], (ZmenaPrejezdu{ted_s(), 1, true}));
+    const std::int64_t delka = gtn_delka();
+    gtn_zapis(1, gtn::prejezd, 0);
+    const Bajty konec = gtn_odrizni(delka);
+    EXPECT_EQ(gtn_prejezdy().size(), 1u);
+    gtn_pripoj(konec);
+    ASSERT_EQ(gtn_prejezdy().size(), 2u);
+    EXPECT_FALSE(gtn_prejezdy()[1].zavren);
+}
+
+TEST_F(Hodnoceni, PageTellsTheTrainsAndHasTheDiagramsWhenAsked) {
+    pobyt(kLhotin, 475, 480);
+    pobyt(kHrabov, 484, 493);
+    pobyt(kHlavni, 497, -1);
+    const HodnoceniSmeny h = hodnot();
+    const std::string bez = html_hodnoceni(h, false), s_nakresy = html_hodnoceni(h, true);
+    for (const char* co :
+         {"Hodnocení služby", "Dochvilnost", "Os 14707", "Lhotín – Vyšní Hrabov", "km 140,310"})
+        EXPECT_NE(bez.find(co), std::string::npos) << co;
+    EXPECT_EQ(bez.find("<svg"), std::string::npos);
+    EXPECT_NE(s_nakresy.find("<svg"), std::string::npos);
+    EXPECT_NE(s_nakresy.find("vlak 14707"), std::string::npos);
+    std::size_t tabulek = 0, koncu = 0;
+    for (std::size_t i = 0; (i = bez.find("<table", i)) != std::string::npos; ++i)
+        ++tabulek;
+    for (std::size_t i = 0; (i = bez.find("</table>", i)) != std::string::npos; ++i)
+        ++koncu;
+    EXPECT_EQ(tabulek, koncu);
+}
+
+} // namespace
