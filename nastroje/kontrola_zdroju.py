@@ -30,7 +30,8 @@ UZEL = "uzel"
 BEZ_CISEL = {"relief", "cesty", "prvky", "jizda", "gvd", "obsluha", "desk", "save", "technologie", "nakres", "app"}
 # Tables of other numbers: positions of switches, glyphs, places on the screen.
 JINE_TABULKY = {"kPlus", "kMinus", "kPlusB", "kMinusB", "kZnakyAB", "kSloupce", "kTridy", "kRychlosti",
-                "kKrokyPripravy", "kKrokyMrizky", "kCasovace", "kMista", "kSeznamy", "kTvary"}
+                "kKrokyPripravy", "kKrokyMrizky", "kCasovace", "kMista", "kSeznamyDohled",
+                "kSeznamyPenet", "kSeznamyProvoz1", "kSeznamyProvoz2", "kSeznamySekvence", "kTvary"}
 # How a variable is called that holds the number of an element, alone or as a field.
 PRVEK = (r"\b(?:\w+(?:\(\w*\))?(?:\.|->))*(?:n|e|s|x|kolej|koleje|konec|zacatek|prvek|element|usek|stitek|popisek|popis"
          r"|vyhybka|vykolejka|navestidlo|signal|prvni|posledni|predposledni|odkud|kam|zaklad|soused|cislo"

@@ -70,21 +70,21 @@ Relief plny_relief() {
     return r;
 }
 
-struct Stul {
+struct StulNaPlatne {
     Platno platno;
-    explicit Stul(QSize velikost) {
+    explicit StulNaPlatne(QSize velikost) {
         zaloz_aplikaci();
         relief = plny_relief();
         platno.nastav_velikost(velikost, kSirkaStolu);
         platno.obnov();
     }
-    Stul(const Stul&) = delete;
-    Stul& operator=(const Stul&) = delete;
-    ~Stul() { relief = Relief{}; }
+    StulNaPlatne(const StulNaPlatne&) = delete;
+    StulNaPlatne& operator=(const StulNaPlatne&) = delete;
+    ~StulNaPlatne() { relief = Relief{}; }
 };
 
 void cely_stul(benchmark::State& stav) {
-    Stul stul(QSize(static_cast<int>(stav.range(0)), static_cast<int>(stav.range(1))));
+    StulNaPlatne stul(QSize(static_cast<int>(stav.range(0)), static_cast<int>(stav.range(1))));
     for (auto _ : stav)
         stul.platno.prekresli();
 }
@@ -150,7 +150,7 @@ Relief plny_panel() {
 
 // Both monitors: there all the 40 vehicles are seen.
 void plny_stul(benchmark::State& stav) {
-    Stul stul(QSize(2048, 768));
+    StulNaPlatne stul(QSize(2048, 768));
     simulace.cesta_aplikace = TESK_INSTALACE;
     relief = plny_panel();
     stul.platno.nastav_velikost(QSize(2048, 768), 2 * kSirkaStolu);
@@ -179,7 +179,7 @@ void plny_seznam(benchmark::State& stav) {
 BENCHMARK(plny_seznam)->Unit(benchmark::kMillisecond)->Name("repaint of a list of 200 messages");
 
 void jedna_zmena(benchmark::State& stav) {
-    Stul stul(QSize(1024, 768));
+    StulNaPlatne stul(QSize(1024, 768));
     int k = 0;
     for (auto _ : stav) {
         relief.kolej[500].barva = ++k % 2 == 0 ? barvy::cervena : barvy::zelena;
@@ -189,7 +189,7 @@ void jedna_zmena(benchmark::State& stav) {
 BENCHMARK(jedna_zmena)->Unit(benchmark::kMicrosecond)->Name("repaint after one track has changed");
 
 void zadna_zmena(benchmark::State& stav) {
-    Stul stul(QSize(1024, 768));
+    StulNaPlatne stul(QSize(1024, 768));
     for (auto _ : stav)
         benchmark::DoNotOptimize(stul.platno.obnov());
 }

@@ -13,7 +13,7 @@ namespace planovani {
 
 namespace {
 
-constexpr int kObjetiSoupravy = 12;   // minutes in which a locomotive runs round a train that goes back
+constexpr int kMinutObjeti = 12;      // minutes in which a locomotive runs round a train that goes back
 constexpr int kVymenaLoko = 8;        // change of locomotives
 constexpr int kObjetiCestou = 20;     // a stop in which a train may be turned on its way
 constexpr int kNejdelePoPulnoci = 30; // sets for the first trains behind midnight are not looked for
@@ -228,7 +228,7 @@ struct Radky : Plan {
             const std::size_t dalsi = j.pruchod.kroky[krok + 1].trasa;
             const bool obraci = dalsi != kBezTrasy && j.pruchod.kroky[krok + 1].zacatek &&
                                 sit.trasy[dalsi].smer != j.pruchod.kroky[krok].smer;
-            if (obraci && !je_vratna(r.vozy) && !meni_loko(r, k) && pobyt < kObjetiSoupravy)
+            if (obraci && !je_vratna(r.vozy) && !meni_loko(r, k) && pobyt < kMinutObjeti)
                 hlas(i, "na objetí soupravy ve stanici " + jmeno_stanice(r.zastavky[k].stanice) + " má jen " +
                             std::to_string(pobyt) + " min");
         }

@@ -19,10 +19,6 @@ namespace {
 
 constexpr std::size_t kNejvicPrvku = 256; // a train counts the elements of its route in a byte
 
-std::string s(int n) {
-    return std::to_string(n);
-}
-
 // --- what the running and the locking do by number
 
 // A train on the first element of a route may not have entered the line of a neighbour, nor turned.
@@ -83,10 +79,10 @@ struct Projeta { // a route as far as it could be followed
     Konec vystup; // out of its last element
 };
 
-class Kontrola {
+class KontrolaTras {
 public:
-    Kontrola(const Plan& plan_, const Graf& graf_, const std::vector<Trasa>& trasy_,
-             std::vector<Zavada>& zavady_)
+    KontrolaTras(const Plan& plan_, const Graf& graf_, const std::vector<Trasa>& trasy_,
+                 std::vector<Zavada>& zavady_)
         : plan(plan_), graf(graf_), trasy(trasy_), zavady(zavady_) {
         for (const Kolej& k : plan.koleje)
             if (!k.vzor)
@@ -142,7 +138,7 @@ private:
 };
 
 // Every element is there once and exists.
-bool Kontrola::tvar_zaznamu(const Trasa& t) {
+bool KontrolaTras::tvar_zaznamu(const Trasa& t) {
     const ZaznamCesty& z = t.zaznam;
     if (z.prvky.size() < 2) {
         zavada(t, "nemá ani dva prvky");
@@ -178,7 +174,7 @@ bool Kontrola::tvar_zaznamu(const Trasa& t) {
     return true;
 }
 
-Projeta Kontrola::projed(const Trasa& t) {
+Projeta KontrolaTras::projed(const Trasa& t) {
     const ZaznamCesty& z = t.zaznam;
     const auto od = navestidla.find(z.zacatek);
     if (od == navestidla.end()) {
@@ -235,7 +231,7 @@ Projeta Kontrola::projed(const Trasa& t) {
     return {true, vystup};
 }
 
-void Kontrola::konec(const Trasa& t) {
+void KontrolaTras::konec(const Trasa& t) {
     const ZaznamCesty& z = t.zaznam;
     const auto cil = koleje.find(z.konec);
     if (cil == koleje.end() || !cil->second->cil)
@@ -254,7 +250,7 @@ void Kontrola::konec(const Trasa& t) {
 
 // The direction that a route lays in a line follows from the picture; the locking appends the sections
 // behind the one that stands in the route.
-void Kontrola::trat(const Trasa& t) {
+void KontrolaTras::trat(const Trasa& t) {
     const ZaznamCesty& z = t.zaznam;
     const int posledni = z.prvky.back().prvek;
     if (posledni < kPrvniTrat)
@@ -281,7 +277,7 @@ void Kontrola::trat(const Trasa& t) {
     }
 }
 
-void Kontrola::zvlastni_koleje(const Trasa& t) {
+void KontrolaTras::zvlastni_koleje(const Trasa& t) {
     const ZaznamCesty& z = t.zaznam;
     const auto je_tu_kolej = [&](std::size_t k) {
         return z.prvky[k].druh == static_cast<std::uint8_t>(DruhPrvku::kolej);
@@ -308,7 +304,7 @@ void Kontrola::zvlastni_koleje(const Trasa& t) {
 }
 
 // The counter of a crossing rises once and falls once, or the road stays closed.
-void Kontrola::prejezdy(const Trasa& t) {
+void KontrolaTras::prejezdy(const Trasa& t) {
     const ZaznamCesty& z = t.zaznam;
     const auto pocet = [&](const auto& cisla) {
         return std::count_if(cisla.begin(), cisla.end(), [&](int n) { return ma_kolej(z, n, 1); });
@@ -329,7 +325,7 @@ void Kontrola::prejezdy(const Trasa& t) {
 
 // A train keeps its sense along the route but for the folds. So every signal that it comes to behind the
 // route must be for that sense, and it leaves the area only where the running lets it go.
-void Kontrola::smysl(const Trasa& t, const Projeta& p) {
+void KontrolaTras::smysl(const Trasa& t, const Projeta& p) {
     const ZaznamCesty& z = t.zaznam;
     bool vpravo = navestidla.at(z.zacatek)->strana == Strana::vpravo;
     for (std::size_t k = 1; k < z.prvky.size(); ++k)
@@ -348,7 +344,7 @@ void Kontrola::smysl(const Trasa& t, const Projeta& p) {
         zavada(t, "vlak by na koleji " + s(posledni) + " oblast neopustil: jede opačným smyslem");
 }
 
-Naroky Kontrola::naroky(const ZaznamCesty& z) const {
+Naroky KontrolaTras::naroky(const ZaznamCesty& z) const {
     Naroky n;
     for (std::size_t k = 1; k < z.prvky.size(); ++k) {
         if (z.prvky[k].druh != static_cast<std::uint8_t>(DruhPrvku::vyhybka))
@@ -374,7 +370,7 @@ Naroky Kontrola::naroky(const ZaznamCesty& z) const {
     return n;
 }
 
-Zamcene Kontrola::zamcene(const Trasa& t) const {
+Zamcene KontrolaTras::zamcene(const Trasa& t) const {
     Zamcene d;
     const ZaznamCesty& z = t.zaznam;
     for (std::size_t k = 1; k < z.prvky.size(); ++k) {
@@ -392,7 +388,7 @@ std::string popis_konce(std::size_t i) {
     return "výhybka " + s(static_cast<int>(i / 2)) + (i % 2 ? " koncem B" : "");
 }
 
-void Kontrola::dvojice() {
+void KontrolaTras::dvojice() {
     std::vector<Naroky> chteji;
     std::vector<Zamcene> drzi;
     for (const Trasa& t : trasy) {
@@ -419,7 +415,7 @@ void Kontrola::dvojice() {
 // Flank: between two switches that follow each other on neighbouring rows the locking asks for the one at
 // the fourth corner of their rectangle, but only at its own setting. So whoever runs over that one must
 // exclude the route anyway.
-void Kontrola::boky() {
+void KontrolaTras::boky() {
     std::vector<Zamcene> drzi;
     for (const Trasa& t : trasy)
         drzi.push_back(zamcene(t));
@@ -455,7 +451,7 @@ void Kontrola::boky() {
 }
 
 // What the program asks for: pairs that must be in the table or may not, lines that it runs trains on.
-void Kontrola::podle_cisel() {
+void KontrolaTras::podle_cisel() {
     const PravidlaTras& p = plan.pravidla_tras;
     std::map<std::pair<int, int>, const Trasa*> vlakove;
     std::set<int> vlakove_od; // tracks
@@ -500,7 +496,7 @@ void Kontrola::podle_cisel() {
     }
 }
 
-void Kontrola::odjezdy() {
+void KontrolaTras::odjezdy() {
     std::set<std::tuple<int, Strana, DruhTrasy>> vedou;
     for (const Trasa& t : trasy)
         if (const auto od = navestidla.find(t.zaznam.zacatek); od != navestidla.end())
@@ -515,7 +511,7 @@ void Kontrola::odjezdy() {
                                       (o.strana == Strana::vpravo ? "vpravo" : "vlevo")});
 }
 
-void Kontrola::vse() {
+void KontrolaTras::vse() {
     std::set<std::tuple<DruhTrasy, int, int>> dvojice_cest;
     bool uplne = true;
     for (const Trasa& t : trasy) {
@@ -546,7 +542,7 @@ void Kontrola::vse() {
 
 void zkontroluj_trasy(const Plan& plan, const Graf& graf, const std::vector<Trasa>& trasy,
                       std::vector<Zavada>& zavady) {
-    Kontrola(plan, graf, trasy, zavady).vse();
+    KontrolaTras(plan, graf, trasy, zavady).vse();
 }
 
 int cekajici_povinne(const Plan& plan, const std::vector<Trasa>& trasy) {

@@ -16,10 +16,6 @@ namespace kolejiste {
 
 namespace {
 
-std::string s(int n) {
-    return std::to_string(n);
-}
-
 // Name of the kind that a record makes; empty for painted texts.
 std::string druh_zaznamu(std::uint8_t typ) {
     switch (static_cast<TypReliefu>(typ)) {

@@ -37,6 +37,10 @@ struct Zavada {
     std::string text;
 };
 std::string veta(const Zavada& zavada);
+// The number of an element as it stands in the text of a fault.
+inline std::string s(int n) {
+    return std::to_string(n);
+}
 
 enum class Obraz : std::uint8_t { jeden, dva }; // the picture of one monitor and of two
 inline constexpr std::array kObrazy = {Obraz::jeden, Obraz::dva};

@@ -14,10 +14,6 @@ namespace kolejiste {
 
 namespace {
 
-std::string s(int n) {
-    return std::to_string(n);
-}
-
 bool je_posunova(int kolej) {
     return kolej > kPrvniOdstavna && kolej < kPrvniTrat;
 }

@@ -115,7 +115,7 @@ void cti_caru(Veta& v) {
     pridej_kresbu(v, std::move(k));
 }
 
-constexpr Druh kVety[] = {
+constexpr Druh kVetyKresby[] = {
     {"popis", &cti_popis},
     {"nastupiste", &cti_nastupiste},
     {"stanoviste", &cti_stanoviste},
@@ -130,7 +130,7 @@ constexpr Druh kVety[] = {
 } // namespace
 
 std::span<const Druh> vety_kresby() {
-    return kVety;
+    return kVetyKresby;
 }
 
 } // namespace kolejiste

@@ -265,7 +265,7 @@ void cti_prejezd(Veta& v) {
     v.plan.prejezdy.push_back(std::move(p));
 }
 
-constexpr Druh kVety[] = {
+constexpr Druh kVetyPrvku[] = {
     {"stanice", &cti_blok},    {"trat", &cti_blok},         {"jeden", &cti_jeden},
     {"dva", &cti_dva},         {"vsun", &cti_vsun},         {"kolej", &cti_kolej},
     {"obraz", &cti_obraz},     {"navestidlo", &cti_hlavni}, {"posunove", &cti_posunove},
@@ -277,7 +277,7 @@ constexpr Druh kVety[] = {
 } // namespace
 
 std::span<const Druh> vety_prvku() {
-    return kVety;
+    return kVetyPrvku;
 }
 
 } // namespace kolejiste

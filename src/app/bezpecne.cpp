@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr TextPohled kTitul = "KPS RVZ TESK";
+constexpr TextPohled kTitulChyby = "KPS RVZ TESK";
 
 bool ukonci_chybou(const BehovaChyba& chyba) {
     Text text =
@@ -22,9 +22,9 @@ bool ukonci_chybou(const BehovaChyba& chyba) {
         text += " (" + chyba.co + ")";
     const NouzoveUlozeni nouzove = uloz_nouzove(); // before the box, which may stand there for long
     gtn_zavri();
-    platforma.okno(kTitul, text);
+    platforma.okno(kTitulChyby, text);
     if (nouzove == NouzoveUlozeni::selhalo)
-        platforma.okno(kTitul, "Rozehranou simulaci se nepodařilo nouzově uložit!"_cz);
+        platforma.okno(kTitulChyby, "Rozehranou simulaci se nepodařilo nouzově uložit!"_cz);
     platforma.ukonci(1);
     return false;
 }

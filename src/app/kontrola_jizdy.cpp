@@ -70,17 +70,18 @@ struct Videno {
 };
 Videno videno;
 
-Text veta(std::initializer_list<TextPohled> kusy) {
+Text veta_jizdy(std::initializer_list<TextPohled> kusy) {
     Text text;
     for (const TextPohled kus : kusy)
         text += kus;
     return text;
 }
 Text vlak_textem(std::size_t v, TextPohled co) {
-    return veta({"vlaky ", text_cisla(static_cast<std::int64_t>(v)), ": ", co});
+    return veta_jizdy({"vlaky ", text_cisla(static_cast<std::int64_t>(v)), ": ", co});
 }
 Text cesta_textem(const Cesta& c, TextPohled co) {
-    return veta({"cesta od návěstidla "_cz, text_cisla(c.zacatek), " k "_cz, text_cisla(c.konec), ": ", co});
+    return veta_jizdy(
+        {"cesta od návěstidla "_cz, text_cisla(c.zacatek), " k "_cz, text_cisla(c.konec), ": ", co});
 }
 
 bool jede(const Vlak& v) {
@@ -137,7 +138,7 @@ Nalez vjezdy() {
         const int n = vlaky[i].prvky.back().prvek;
         const Cesta* cesta = cesta_vjezdu(i);
         if (cesta == nullptr)
-            return vlak_textem(i, veta({"na kolej "_cz, text_cisla(n), " nevede jeho cesta"_cz}));
+            return vlak_textem(i, veta_jizdy({"na kolej "_cz, text_cisla(n), " nevede jeho cesta"_cz}));
         if (je_volny_vjezd(*cesta))
             continue;
         for (std::size_t k = 0; k < vlaky.size(); ++k) {
@@ -146,8 +147,9 @@ Nalez vjezdy() {
             const VidenyVlak* druhy = videny(k);
             if (druhy == nullptr || je_mezi(druhy->volne, n))
                 continue;
-            return vlak_textem(i, veta({"vlakovou cestou vjel na kolej "_cz, text_cisla(n),
-                                        ", kterou drží vlak "_cz, text_cisla(static_cast<std::int64_t>(k))}));
+            return vlak_textem(
+                i, veta_jizdy({"vlakovou cestou vjel na kolej "_cz, text_cisla(n), ", kterou drží vlak "_cz,
+                               text_cisla(static_cast<std::int64_t>(k))}));
         }
     }
     return std::nullopt;
@@ -163,7 +165,7 @@ Nalez vyhybky_pod_vlaky() {
         for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j < v.prvky.size(); ++j) {
             const int n = v.prvky[j].prvek;
             if (v.prvky[j].druh == druh_prvku::vyhybka && vyhybka_v_pohybu(n))
-                return vlak_textem(i, veta({"pod vlakem se přestavuje výhybka "_cz, text_cisla(n)}));
+                return vlak_textem(i, veta_jizdy({"pod vlakem se přestavuje výhybka "_cz, text_cisla(n)}));
         }
     }
     return std::nullopt;
@@ -263,8 +265,9 @@ Nalez souvislost() {
             return std::nullopt; // an installation without tables
         for (std::size_t j = static_cast<std::size_t>(v.prvek_konec); j + 1 < v.prvky.size(); ++j)
             if (!jsou_sousedi(v.prvky[j].prvek, v.prvky[j].druh, v.prvky[j + 1].prvek, v.prvky[j + 1].druh))
-                return vlak_textem(i, veta({"drží prvky "_cz, text_cisla(v.prvky[j].prvek), " a "_cz,
-                                            text_cisla(v.prvky[j + 1].prvek), ", které spolu nesousedí"_cz}));
+                return vlak_textem(
+                    i, veta_jizdy({"drží prvky "_cz, text_cisla(v.prvky[j].prvek), " a "_cz,
+                                   text_cisla(v.prvky[j + 1].prvek), ", které spolu nesousedí"_cz}));
     }
     return std::nullopt;
 }
@@ -324,13 +327,14 @@ Nalez delky() {
             continue;
         const bool na_vice_prvcich = static_cast<std::size_t>(v.prvek_konec) + 1 < v.prvky.size();
         if (v.prvek_konec > drive->konec && na_vice_prvcich && drzena_delka(v) < v.delka)
-            return vlak_textem(i, veta({"drží "_cz, text_cisla(drzena_delka(v)), " m, ale je dlouhý "_cz,
-                                        text_cisla(v.delka), " m"_cz}));
+            return vlak_textem(i, veta_jizdy({"drží "_cz, text_cisla(drzena_delka(v)),
+                                              " m, ale je dlouhý "_cz, text_cisla(v.delka), " m"_cz}));
         if (jelo_se && drive->prebyva && drive->konec == v.prvek_konec && drive->prvku == v.prvky.size() &&
             prebyva_konec(v))
-            return vlak_textem(
-                i, veta({"drží prvek "_cz, text_cisla(v.prvky[static_cast<std::size_t>(v.prvek_konec)].prvek),
-                         ", který už celý opustil"_cz}));
+            return vlak_textem(i,
+                               veta_jizdy({"drží prvek "_cz,
+                                           text_cisla(v.prvky[static_cast<std::size_t>(v.prvek_konec)].prvek),
+                                           ", který už celý opustil"_cz}));
     }
     return std::nullopt;
 }
@@ -450,7 +454,8 @@ Nalez smery_trati() {
             const Prvek& sipka = relief.lblSouhlas2[drive.cislo];
             if (sipka.barva == barvy::azurova && !orez(sipka.text()).empty() &&
                 orez(sipka.text()) != TextPohled(drive.smer))
-                return veta({"lblSouhlas2 ", text_cisla(drive.cislo), ": směr se obrátil pod vlakem"_cz});
+                return veta_jizdy(
+                    {"lblSouhlas2 ", text_cisla(drive.cislo), ": směr se obrátil pod vlakem"_cz});
         }
     return std::nullopt;
 }

@@ -37,7 +37,7 @@
 
 namespace {
 
-constexpr TextPohled kNastaveni = "Nastaveni";
+constexpr TextPohled kSkupinaNastaveni = "Nastaveni";
 
 // Calls `co(prvek, n)` for every element of a kind, by rising number.
 template <class Co> void kazdy(TabulkaPrvku& prvky, Co co) {
@@ -105,7 +105,7 @@ void zrus_vyber() {
     stav_vyhybek.prehoz_vyhybka = kZadny;
     stav_vyhybek.prehoz_cas = kZadny;
     stanicni_prejezdy = {};
-    simulace.autosave_minut = na_integer(nastaveni_cislo(kNastaveni, "Autosaved", 60));
+    simulace.autosave_minut = na_integer(nastaveni_cislo(kSkupinaNastaveni, "Autosaved", 60));
 }
 
 // The element n on the second monitor: a copy of element 0, one monitor further right.
@@ -317,7 +317,7 @@ void pockej_na_vykresleni() {
 
 void uloz_volby(const MoznostiStartu& m) {
     const auto pis = [](TextPohled klic, bool hodnota) {
-        platforma.nastaveni_pis(kNastaveni, klic, hodnota ? "1" : "0");
+        platforma.nastaveni_pis(kSkupinaNastaveni, klic, hodnota ? "1" : "0");
     };
     simulace.noresize = m.noresize;
     pis("Noresize", m.noresize);
@@ -328,7 +328,7 @@ void uloz_volby(const MoznostiStartu& m) {
     simulace.autosave = m.autosave;
     simulace.zvuk_vypnut = m.zvuk_vypnut;
     if (je_ciselny(m.autosaved))
-        platforma.nastaveni_pis(kNastaveni, "Autosaved", m.autosaved);
+        platforma.nastaveni_pis(kSkupinaNastaveni, "Autosaved", m.autosaved);
     if (m.bez_dvou_monitoru)
         simulace.dva_monitory = false;
     simulace.den_startu = m.den;
@@ -342,10 +342,10 @@ void prevezmi_volby(const VolbyStartu& v) {
     simulace.cas_zacatku = na_integer(v.hodina * 60 + v.minuta - 1);
     simulace.rychlost = v.rychlost;
     simulace.soubor_gvd = simulace.cesta_aplikace + "GVD\\" + v.gvd + ".dat";
-    platforma.nastaveni_pis(kNastaveni, "GVD", v.gvd + ".dat");
-    platforma.nastaveni_pis(kNastaveni, "Rychlost", text_cisla(v.rychlost - 1));
-    platforma.nastaveni_pis(kNastaveni, "PP", v.pp ? "1" : "0");
-    platforma.nastaveni_pis(kNastaveni, "Zpozdeni", v.zpozdeni ? "1" : "0");
+    platforma.nastaveni_pis(kSkupinaNastaveni, "GVD", v.gvd + ".dat");
+    platforma.nastaveni_pis(kSkupinaNastaveni, "Rychlost", text_cisla(v.rychlost - 1));
+    platforma.nastaveni_pis(kSkupinaNastaveni, "PP", v.pp ? "1" : "0");
+    platforma.nastaveni_pis(kSkupinaNastaveni, "Zpozdeni", v.zpozdeni ? "1" : "0");
 }
 
 void nastav_hodiny(const VolbyStartu& v) {

@@ -428,7 +428,7 @@ const Vypis* najdi_vypis(std::string_view slovo) {
     return nalezeny == kVypisy.end() ? nullptr : nalezeny;
 }
 
-constexpr auto kSlova = [] {
+constexpr auto kSlovaVypisu = [] {
     std::array<std::string_view, kVypisy.size() + kDruhy.size()> slova{};
     for (std::size_t i = 0; i < kVypisy.size(); ++i)
         slova[i] = kVypisy[i].slovo;
@@ -519,7 +519,8 @@ Cil precti_cil(std::span<const std::string> slova) {
     cil.slov = 1;
     cil.druh = druh_podle_jmena(cil.slovo);
     if (!cil.druh && najdi_vypis(cil.slovo) == nullptr)
-        chyba_skriptu(v_uvozovkach(cil.slovo) + " není druh prvku ani tabulka" + napoveda(cil.slovo, kSlova));
+        chyba_skriptu(v_uvozovkach(cil.slovo) + " není druh prvku ani tabulka" +
+                      napoveda(cil.slovo, kSlovaVypisu));
     const bool dalsi = slova.size() > 1 && slova[1].find('=') == std::string::npos;
     if (!cil.druh) {
         if (dalsi) {
@@ -595,5 +596,5 @@ void zapomen_vypsane(const Cil& cil) {
 }
 
 std::span<const std::string_view> slova_vypisu() {
-    return kSlova;
+    return kSlovaVypisu;
 }

@@ -9,7 +9,7 @@
 
 namespace {
 
-constexpr std::size_t kSirkaRadku = 41;
+constexpr std::size_t kSirkaTabulky = 41;
 constexpr std::size_t kSloupecCisla = 5; // the category stands before it
 constexpr std::size_t kSloupecUdaju = 12;
 constexpr std::size_t kSirkaDruhu = kSloupecCisla - 2; // then a blank
@@ -54,7 +54,7 @@ Text radek_vlaku(const Vlak& v) {
     if (!v.zastavky.empty())
         udaje += kod_stanice(v.zastavky.back().stanice);
     udaje += ", " + text_cisla(v.max_rychlost) + "km/h";
-    Text radek(kSirkaRadku, ' ');
+    Text radek(kSirkaTabulky, ' ');
     pis_druh_a_cislo(radek, v);
     vloz_do(radek, kSloupecUdaju, udaje);
     return radek;

@@ -12,11 +12,11 @@
 
 namespace {
 
-constexpr int kSirkaRadku = 14700; // width of the command line, twips; behind it stands the macro letter
+constexpr int kSirkaPrikazu = 14700; // width of the command line, twips; behind it stands the macro letter
 constexpr int kOdstupVpravo = 5;
 
 constexpr Barva kPozadiTlacitka = 0xE0E0E0;
-constexpr Barva kStisknuteTlacitko = 0x800000;
+constexpr Barva kStisknutePozadi = 0x800000;
 
 // By kind; what only tells something has no word of its own.
 constexpr std::array kSlova = {TextPohled(),        " INIT "_cz,      " TPC "_cz,          " ARCHIV "_cz,
@@ -65,7 +65,7 @@ void vypis_radek(const SlovoZpravy& slovo, TextPohled text) {
     volba.text = text;
     volba.viditelny = true;
     volba.vlevo = prikaz.vlevo() + prikaz.sirka();
-    volba.sirka = kSirkaRadku - volba.vlevo() - kOdstupVpravo;
+    volba.sirka = kSirkaPrikazu - volba.vlevo() - kOdstupVpravo;
     dvojce(relief.lblPrikaz);
     dvojce(relief.lblVolba);
     prikaz_radek.obsazen = true;
@@ -113,7 +113,7 @@ void stiskni_tlacitko(Panel panel) {
         if (!stisknute && t.panel == Panel::zpravy && t.prvek.pozadi == barvy::zelena)
             continue;
         t.prvek.barva = stisknute ? barvy::bila : barvy::cerna;
-        t.prvek.pozadi = stisknute ? kStisknuteTlacitko : kPozadiTlacitka;
+        t.prvek.pozadi = stisknute ? kStisknutePozadi : kPozadiTlacitka;
     }
 }
 

@@ -37,7 +37,7 @@ namespace {
 constexpr int kVarovat_m = 700;    // before the end of a long section
 constexpr int kMinutNaRozjezd = 5; // so long after the start the trains already under way are not told of
 
-int prvek_c(const Cesta& cesta, int i) {
+int prvek_v_ceste(const Cesta& cesta, int i) {
     return cesta.prvky[static_cast<std::size_t>(i)].prvek;
 }
 // --- warnings
@@ -52,7 +52,7 @@ int navestidlo_konce(const Cesta& cesta, bool smer) {
         return navestidlo_oddilu(cesta.konec, smer);
     return cesta.konec + kDruhyStitek;
 }
-Text jmeno_konce(const Cesta& cesta, bool smer) {
+Text jmeno_konce_cesty(const Cesta& cesta, bool smer) {
     const int s = navestidlo_konce(cesta, smer);
     return relief.navestidlo.je(s) ? jmeno_navestidla(s) : jmeno_navestidla(cesta.zacatek);
 }
@@ -96,7 +96,7 @@ void varuj_na_konci_useku(const Cesta& cesta, int e, int v) {
             varuj(veta_projel(v, " projel na ", "TK THN-MOK"));
         return;
     }
-    const Text kde = jmeno_konce(cesta, smer);
+    const Text kde = jmeno_konce_cesty(cesta, smer);
     // Two blanks behind "na" here, one in the other warnings, as in the texts of the real desk.
     if (!uz_receno(kde + " okolo navesti VYSTRAHA!"))
         varuj(veta_projel(v, " projel na  ", kde));
@@ -187,7 +187,7 @@ bool srovnej_smer(int cesta, int i, int v) {
 
 void kontrola_vstupu(int cesta, int i, int v) {
     const Cesta& c = cesta_c(cesta);
-    const int n = prvek_c(c, i + 1);
+    const int n = prvek_v_ceste(c, i + 1);
     const bool smer = vlak_c(v).smer;
     const bool posledni = static_cast<std::size_t>(i) + 2 == c.prvky.size();
     if (posledni && je_usek_trati(n) && !je_v(n, uzel::kTratPodoli)) {
@@ -196,7 +196,7 @@ void kontrola_vstupu(int cesta, int i, int v) {
             varuj(veta_projel(v, " projel na ", jmeno_navestidla(s)));
     }
     if (i == 0 && uzel::je_usek_konce(n) && !je_nastaveno_z(n))
-        varuj(veta_projel(v, " projel na ", jmeno_konce(c, smer)));
+        varuj(veta_projel(v, " projel na ", jmeno_konce_cesty(c, smer)));
 }
 
 void uvnitr_prvku(int cesta, int i, int v) {
@@ -207,7 +207,7 @@ void uvnitr_prvku(int cesta, int i, int v) {
     varuj_na_konci_useku(cesta_c(cesta), e, v);
     if (e == uzel::kKamenec && i > 0) {
         const double celo = metry(e);
-        const bool od_mokriny = prvek_c(cesta_c(cesta), i - 1) == uzel::kKeKamenciOdMokriny;
+        const bool od_mokriny = prvek_v_ceste(cesta_c(cesta), i - 1) == uzel::kKeKamenciOdMokriny;
         const uzel::Nastupiste& n = od_mokriny ? uzel::kKamenecOdMokriny : uzel::kKamenecOdTesku;
         if (celo > n.od_m && celo < n.po_m)
             vlak_v_cili(e, v);

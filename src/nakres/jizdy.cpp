@@ -124,12 +124,12 @@ SkladJizd::SkladJizd(const Koridory& k) {
 
 void SkladJizd::vrat_cas(std::int32_t kam) {
     if (posledni_cas - kam > kPulDne_s) {
-        for (Jizda& j : vsechny)
+        for (JizdaNakresu& j : vsechny)
             for (BodJizdy& b : j.body)
                 b.cas -= kDen_s;
         return;
     }
-    for (Jizda& j : vsechny)
+    for (JizdaNakresu& j : vsechny)
         while (!j.body.empty() && j.body.back().cas > kam)
             j.body.pop_back();
 }
@@ -151,8 +151,8 @@ void SkladJizd::pridej(const PohybVlaku& p) {
     std::size_t jizda = znama != podle_cisla.end() ? znama->second : vsechny.size();
     if (!p.na_kolej && !tady && !stoji.empty()) {
         jizda = vsechny.size();
-        const Jizda& predesla = vsechny[stoji.back()];
-        Jizda dalsi{p.cislo, {}};
+        const JizdaNakresu& predesla = vsechny[stoji.back()];
+        JizdaNakresu dalsi{p.cislo, {}};
         if (!predesla.body.empty())
             dalsi.body.push_back(predesla.body.back());
         stoji.pop_back();
@@ -181,7 +181,7 @@ std::vector<CaraVlaku> planovane_cary(const Koridory& k, const OsaKoridoru& osa,
     return cary;
 }
 
-std::vector<CaraVlaku> jete_cary(const Koridory& k, const OsaKoridoru& osa, const std::vector<Jizda>& jizdy,
+std::vector<CaraVlaku> jete_cary(const Koridory& k, const OsaKoridoru& osa, const std::vector<JizdaNakresu>& jizdy,
                                  std::int32_t ted) {
     // where each number is that is on the desk
     std::map<std::int32_t, std::optional<double>> na_stole;
@@ -195,7 +195,7 @@ std::vector<CaraVlaku> jete_cary(const Koridory& k, const OsaKoridoru& osa, cons
 
     std::vector<CaraVlaku> cary;
     for (std::size_t i = 0; i < jizdy.size(); ++i) {
-        const Jizda& j = jizdy[i];
+        const JizdaNakresu& j = jizdy[i];
         CaraVlaku cara{j.cislo, druh_cisla(j.cislo), false, false, false, {}};
         const auto uzavri = [&] {
             if (cara.na_stole || ma_vic_mist(cara.body))

@@ -19,10 +19,10 @@ struct BodJizdy {
     bool operator==(const BodJizdy&) const = default;
 };
 // One number through the log, in order of time.
-struct Jizda {
+struct JizdaNakresu {
     std::int32_t cislo = 0;
     std::vector<BodJizdy> body;
-    bool operator==(const Jizda&) const = default;
+    bool operator==(const JizdaNakresu&) const = default;
 };
 
 // The runs so far. An arrival is the head that comes onto a track of a station, a departure the tail that
@@ -37,13 +37,13 @@ public:
     explicit SkladJizd(const Koridory& k);
     // The next movement of the log.
     void pridej(const PohybVlaku& pohyb);
-    const std::vector<Jizda>& jizdy() const { return vsechny; }
+    const std::vector<JizdaNakresu>& jizdy() const { return vsechny; }
 
 private:
     void vrat_cas(std::int32_t kam);
 
     std::array<int, 1000> mista{}; // of each track; kZadny is none
-    std::vector<Jizda> vsechny;
+    std::vector<JizdaNakresu> vsechny;
     std::unordered_map<std::int32_t, std::size_t> podle_cisla;
     std::array<std::vector<std::size_t>, 1000> na_koleji;
     std::int32_t posledni_cas = 0;
@@ -73,5 +73,5 @@ struct CaraVlaku {
 std::vector<CaraVlaku> planovane_cary(const Koridory& k, const OsaKoridoru& osa, std::int32_t od,
                                       std::int32_t po);
 // As they ran: the runs of the log, and those who are on the desk up to where they are at the second `ted`.
-std::vector<CaraVlaku> jete_cary(const Koridory& k, const OsaKoridoru& osa, const std::vector<Jizda>& jizdy,
+std::vector<CaraVlaku> jete_cary(const Koridory& k, const OsaKoridoru& osa, const std::vector<JizdaNakresu>& jizdy,
                                  std::int32_t ted);

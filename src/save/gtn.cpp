@@ -19,7 +19,7 @@ constexpr std::size_t kVyrovnavaci = 64 * 1024; // bytes held back between two w
 constexpr std::size_t kNejviceCeka = 4 * 1024 * 1024;
 constexpr std::size_t kZaznam = 11;
 
-struct Zaznam {
+struct ZaznamGtn {
     std::int32_t cas = 0;
     std::uint8_t kod = 0;
     std::int16_t prvek = 0;
@@ -35,7 +35,7 @@ template <class A, class Z> constexpr void popis_zaznamu(A& a, Z& z) {
 
 constexpr std::size_t velikost_zaznamu() {
     Miric miric;
-    const Zaznam zaznam;
+    const ZaznamGtn zaznam;
     popis_zaznamu(miric, zaznam);
     return miric.misto;
 }
@@ -98,7 +98,7 @@ struct Pamet {
     std::vector<PohybVlaku> pohyby;
     std::vector<ZmenaPrejezdu> prejezdy;
 
-    void pridej(const Zaznam& z) {
+    void pridej(const ZaznamGtn& z) {
         if (z.kod == gtn::vlak_na_kolej || z.kod == gtn::vlak_z_koleje)
             pohyby.push_back({z.cas, z.prvek, z.hodnota, z.kod == gtn::vlak_na_kolej});
         else if (z.kod == gtn::prejezd)
@@ -108,7 +108,7 @@ struct Pamet {
     void pridej(const Bajty& zaznamy) {
         Ctenar ctenar{zaznamy};
         for (std::size_t i = 0; i + kZaznam <= zaznamy.size(); i += kZaznam) {
-            Zaznam z;
+            ZaznamGtn z;
             popis_zaznamu(ctenar, z);
             pridej(z);
         }
@@ -148,7 +148,7 @@ void gtn_otevri() {
 }
 
 void gtn_zapis(int prvek, std::uint8_t kod, std::int32_t hodnota) {
-    const Zaznam zaznam{ted_s(), kod, na_integer(prvek), hodnota};
+    const ZaznamGtn zaznam{ted_s(), kod, na_integer(prvek), hodnota};
     pamet.pridej(zaznam);
     Bajty& ceka = denik.cekajici.bajty;
     if (!denik.otevreny() || ceka.size() + kZaznam > kNejviceCeka)

@@ -15,7 +15,7 @@
 
 namespace {
 
-constexpr std::array<SeznamTechnologie, 2> kSeznamy = {{
+constexpr std::array<SeznamTechnologie, 2> kSeznamyDohled = {{
     {"lstJC", "Jízdní cesty"_cz, &dohled.lstJC, 23},
     {"lblStav_prejezdu", kHlavaPrejezdu, &dohled.lblStav_prejezdu, 2},
 }};
@@ -110,5 +110,5 @@ void zapomen_dohled() {
 }
 
 std::span<const SeznamTechnologie> seznamy_dohledu() {
-    return kSeznamy;
+    return kSeznamyDohled;
 }

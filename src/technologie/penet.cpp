@@ -14,7 +14,7 @@ constexpr std::array<TextPohled, 19> kIndikace = {"IN2", "DFL", "DFH", "B1L", "B
                                                   "I2",  "I3",  "I4",  "I5",  "I6"};
 constexpr int kCitacu = 6; // counters a row
 
-constexpr std::array<SeznamTechnologie, 2> kSeznamy = {{
+constexpr std::array<SeznamTechnologie, 2> kSeznamyPenet = {{
     {"lstIndikace", "Indikace st: 31", &penet.lstIndikace, 19},
     {"lstStav_PP", "Stav PP podle SS", &penet.lstStav_PP, 13},
 }};
@@ -72,7 +72,7 @@ void zapomen_penet() {
 }
 
 std::span<const SeznamTechnologie> seznamy_penetu() {
-    return kSeznamy;
+    return kSeznamyPenet;
 }
 
 void prekresli_penet() {

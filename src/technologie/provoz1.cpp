@@ -23,7 +23,7 @@ constexpr std::size_t kSirkaDriveru = 16; // a line of the panel, the mark behin
 // Drivers of the panel itself, for the look of the real one.
 constexpr std::array<TextPohled, 3> kPevneDrivery = {"PN  |L1", "VC  |L1", "S+  |13"};
 
-constexpr std::array<SeznamTechnologie, 4> kSeznamy = {{
+constexpr std::array<SeznamTechnologie, 4> kSeznamyProvoz1 = {{
     {"lstporuchy_volby", "Poruchy volby", &provoz1.lstporuchy_volby, 12},
     {"lblDrivery", "Drivery", &provoz1.lblDrivery, 74},
     {"lstporuchy", "Poruchy technologie", &provoz1.lstporuchy, 12},
@@ -136,7 +136,7 @@ void zapomen_provoz1() {
 }
 
 std::span<const SeznamTechnologie> seznamy_provozu1() {
-    return kSeznamy;
+    return kSeznamyProvoz1;
 }
 
 void pootoc_znacky() {

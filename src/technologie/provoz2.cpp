@@ -24,7 +24,7 @@ constexpr std::array kPocitace = {
     "ZPC 2   zadávací 2"_cz,        "ARCHIV  záznam událostí"_cz,   "GTN     čísla vlaků"_cz,
 };
 
-constexpr std::array<SeznamTechnologie, 4> kSeznamy = {{
+constexpr std::array<SeznamTechnologie, 4> kSeznamyProvoz2 = {{
     {"lstZasobnik", "Zásobník jízdních cest"_cz, &provoz2.lstZasobnik, 20},
     {"lstVYL_UPO", "VYL+UPO", &provoz2.lstVYL_UPO, 10},
     {"lstmakra", "Seznam maker", &provoz2.lstmakra, 12},
@@ -128,7 +128,7 @@ void zapomen_provoz2() {
 }
 
 std::span<const SeznamTechnologie> seznamy_provozu2() {
-    return kSeznamy;
+    return kSeznamyProvoz2;
 }
 
 void vybran_v_provozu2() {

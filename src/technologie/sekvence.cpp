@@ -19,7 +19,7 @@ constexpr int kRadku = 99;
 constexpr int kSloupcu = 5; // S F P1 P2 P3
 constexpr std::size_t kSirkaPodminky = 44;
 
-constexpr std::array<SeznamTechnologie, 2> kSeznamy = {{
+constexpr std::array<SeznamTechnologie, 2> kSeznamySekvence = {{
     {"List1", kHlavaSekvence, &sekvence.List1, 99},
     {"lstPodminky", "KONTROLOVANÉ PODMÍNKY"_cz, &sekvence.lstPodminky, 8},
 }};
@@ -107,5 +107,5 @@ void zapomen_sekvenci() {
 }
 
 std::span<const SeznamTechnologie> seznamy_sekvence() {
-    return kSeznamy;
+    return kSeznamySekvence;
 }

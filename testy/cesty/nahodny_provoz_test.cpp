@@ -541,12 +541,14 @@ INSTANTIATE_TEST_SUITE_P(Semena, NahodnyProvoz, semena(1, 4));
 TEST(NahodnyProvozDosah, EveryCommandThereIsOnTheSmallWorldIsDrawn) {
     std::array<int, static_cast<std::size_t>(Co::pocet)> ukonu{};
     Souhrn vse;
-    for (unsigned semeno = 5; semeno < 29; ++semeno) {
+    for (unsigned semeno = 5; semeno < 5 + dil_zkousek(24); ++semeno) {
         const std::vector<Ukon> skript = nahodny_skript(semeno);
         for (const Ukon& u : skript)
             ++ukonu[static_cast<std::size_t>(u.co)];
         EXPECT_EQ(zkus(skript, nullptr, &vse), "") << "seed " << semeno;
     }
+    if (TESK_DIL_ZKOUSEK > 1) // a few hands do not draw everything
+        return;
     EXPECT_GT(vse.postavene, 120u);
     EXPECT_GT(vse.posunove, 20u);
     EXPECT_GT(vse.privolavaci, 20u);

@@ -10,7 +10,7 @@ namespace {
 
 using namespace kolejiste;
 
-const CelyPreklad& tesk() {
+const CelyPreklad& cely_tesk() {
     static const CelyPreklad preklad(zdroje_tesku());
     return preklad;
 }
@@ -26,7 +26,7 @@ struct Makra {
 
     explicit Makra(const std::string& text) {
         precti_makra(text, "vychozi.tk", makra, zavady);
-        zkontroluj_makra(makra, tesk().trasy, zavady);
+        zkontroluj_makra(makra, cely_tesk().trasy, zavady);
     }
     std::string vsechny() const {
         std::string s;

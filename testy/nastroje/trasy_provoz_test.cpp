@@ -8,6 +8,7 @@
 #include "kolejiste/trasy.h"
 #include "obsluha/volba.h"
 #include "pomocne/cele_kolejiste.h"
+#include "pomocne/semena.h"
 #include "prvky/stanicni_prejezdy.h"
 #include "prvky/stav_vyhybek.h"
 #include "prvky/vyhybky.h"
@@ -143,8 +144,9 @@ TEST_F(ProvozTras, EveryTrainRouteCanBeRunOnTheCallingOnSignal) {
 
 // With a train before the signal, whose number runs ahead and has to come back.
 TEST_F(ProvozTras, TrainRouteThatIsTakenBackLeavesNothingBehind) {
+    unsigned kolikata = 0;
     for (const kolejiste::Trasa& t : data_kolejiste().trasy) {
-        if (!je_vlak(t))
+        if (!je_vlak(t) || kolikata++ % TESK_DIL_ZKOUSEK != 0)
             continue;
         for (const bool pn : {false, true}) {
             do_klidu();

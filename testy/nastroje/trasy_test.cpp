@@ -13,17 +13,17 @@ using namespace kolejiste;
 
 namespace {
 
-struct Preklad {
+struct PrekladTras {
     Plan plan;
     std::vector<Zavada> zavady;
     Graf graf;
     std::vector<Trasa> trasy;
 
-    explicit Preklad(const std::string& zdroj) {
+    explicit PrekladTras(const std::string& zdroj) {
         precti(zdroj, "zkouska.tk", plan, zavady);
         dokonci();
     }
-    Preklad() = default;
+    PrekladTras() = default;
     void dokonci() {
         graf = sestav_graf(plan, zavady);
         const auto jeden = nakresli(plan, Obraz::jeden, zavady), dva = nakresli(plan, Obraz::dva, zavady);
@@ -110,14 +110,14 @@ navestidlo  74 L4 vlevo
 posunove   703 Se1 vpravo
 )";
 
-std::string s_radkem(const std::string& radek) {
+std::string vyhybna_s_radkem(const std::string& radek) {
     return kVyhybna + radek + "\n";
 }
 
 // The junction itself.
-const Preklad& tesk() {
-    static const Preklad preklad = [] {
-        Preklad p;
+const PrekladTras& trasy_tesku() {
+    static const PrekladTras preklad = [] {
+        PrekladTras p;
         precti_kolejiste(p.plan, p.zavady);
         p.dokonci();
         return p;
@@ -132,7 +132,7 @@ const Preklad& tesk() {
 // --- derivation
 
 TEST(OdvozeniTras, LoopHasARouteFromEverySignalToEveryEnd) {
-    const Preklad p(kVyhybna);
+    const PrekladTras p(kVyhybna);
     ASSERT_EQ(p.vsechny(), "");
     using S = std::set<int>;
     EXPECT_EQ(p.konce(DruhTrasy::vlak, 271), (S{11, 12, 13}));
@@ -147,7 +147,7 @@ TEST(OdvozeniTras, LoopHasARouteFromEverySignalToEveryEnd) {
 }
 
 TEST(OdvozeniTras, RouteRunsFromTheTrackBeforeTheSignal) {
-    const Preklad p(kVyhybna);
+    const PrekladTras p(kVyhybna);
     EXPECT_EQ(p.vlak(271, 11), "71 v1+ 401 v3++ 11");
     EXPECT_EQ(p.vlak(272, 12), "72 v2+ v4- v3-- v5- 12");
     EXPECT_EQ(p.vlak(11, 72), "11 v3-+ v4- v2+ 72");
@@ -160,7 +160,7 @@ TEST(OdvozeniTras, RouteRunsFromTheTrackBeforeTheSignal) {
 }
 
 TEST(OdvozeniTras, OfTwoWaysTheStraightestIsTaken) {
-    const Preklad p(kVyhybna);
+    const PrekladTras p(kVyhybna);
     // over both crossovers one would come to 11 as well, with four ends in minus
     EXPECT_EQ(p.vlak(271, 11), "71 v1+ 401 v3++ 11");
     EXPECT_EQ(p.vlak(271, 12), "71 v1+ 401 v3+- v5- 12");
@@ -171,7 +171,7 @@ TEST(OdvozeniTras, OfTwoWaysTheStraightestIsTaken) {
 }
 
 TEST(OdvozeniTras, RoutesOfAStartAreInTheOrderOfTheirBranches) {
-    const Preklad p(kVyhybna);
+    const PrekladTras p(kVyhybna);
     std::vector<int> konce;
     for (const Trasa& t : p.trasy)
         if (t.druh == DruhTrasy::vlak && t.zaznam.zacatek == 271)
@@ -180,7 +180,7 @@ TEST(OdvozeniTras, RoutesOfAStartAreInTheOrderOfTheirBranches) {
 }
 
 TEST(OdvozeniTras, ShuntingGoesOntoTheStubOverTheDerailer) {
-    const Preklad p(kVyhybna);
+    const PrekladTras p(kVyhybna);
     EXPECT_EQ(p.posun(12, 503), "12 v5+ d0 503");
     EXPECT_EQ(p.posun(703, 12), "503 d0 v5+ 12");
     const Trasa* t = p.najdi(DruhTrasy::posun, 12, 503);
@@ -190,7 +190,8 @@ TEST(OdvozeniTras, ShuntingGoesOntoTheStubOverTheDerailer) {
 }
 
 TEST(OdvozeniTras, BranchCostsSpeed) {
-    const Preklad p(s_radkem("rychlost 2 4 3 5 \"štíhlé výhybky\"\nrychlost 0 6 \"odbočka bez omezení\""));
+    const PrekladTras p(
+        vyhybna_s_radkem("rychlost 2 4 3 5 \"štíhlé výhybky\"\nrychlost 0 6 \"odbočka bez omezení\""));
     ASSERT_EQ(p.vsechny(), "");
     EXPECT_EQ(p.najdi(DruhTrasy::vlak, 271, 11)->zaznam.rychlost, 0);
     EXPECT_EQ(p.najdi(DruhTrasy::vlak, 271, 13)->zaznam.rychlost, 1) << "40 km/h unless the source says more";
@@ -199,12 +200,12 @@ TEST(OdvozeniTras, BranchCostsSpeed) {
 }
 
 TEST(OdvozeniTras, SlowestBranchCounts) {
-    const Preklad p(s_radkem("rychlost 3 2 \"štíhlá výhybka\""));
+    const PrekladTras p(vyhybna_s_radkem("rychlost 3 2 \"štíhlá výhybka\""));
     EXPECT_EQ(p.najdi(DruhTrasy::vlak, 271, 13)->zaznam.rychlost, 1);
 }
 
 TEST(OdvozeniTras, SignalOfTheOtherFacingEndsNothing) {
-    const Preklad p(kVyhybna);
+    const PrekladTras p(kVyhybna);
     // a train to the right passes the left-facing signal 11 and stops before 211
     EXPECT_EQ(p.vlak(271, 74), "");
     EXPECT_EQ(p.najdi(DruhTrasy::vlak, 271, 11)->zaznam.prvky.back().prvek, 11);
@@ -213,11 +214,11 @@ TEST(OdvozeniTras, SignalOfTheOtherFacingEndsNothing) {
 TEST(OdvozeniTras, TargetWithoutASignalStopsTrainsUnlessTheyRunThrough) {
     std::string bez = kVyhybna;
     bez.erase(bez.find("navestidlo 211 S3 vpravo\n"), 25);
-    const Preklad p(bez);
+    const PrekladTras p(bez);
     EXPECT_EQ(p.vlak(271, 11), "") << "nothing tells the train to stop there";
     EXPECT_EQ(p.vlak(271, 74), "");
     EXPECT_EQ(p.posun(271, 11), "71 v1+ 401 v3++ 11");
-    const Preklad skrz(bez + "prujezdna 11 \"nemá odjezdové návěstidlo\"\n");
+    const PrekladTras skrz(bez + "prujezdna 11 \"nemá odjezdové návěstidlo\"\n");
     EXPECT_EQ(skrz.vsechny(), "");
     EXPECT_EQ(skrz.vlak(271, 74), "71 v1+ 401 v3++ 11 v6+ 74");
     EXPECT_EQ(skrz.posun(271, 74), "71 v1+ 401 v3++ 11 v6+ 74");
@@ -227,7 +228,7 @@ TEST(OdvozeniTras, TargetWithoutASignalStopsTrainsUnlessTheyRunThrough) {
 }
 
 TEST(OdvozeniTras, TrackOfTrainsOnlyHasNoShunting) {
-    const Preklad p(s_radkem("jen_vlak 71 72 74 \"za vjezdovým návěstidlem\""));
+    const PrekladTras p(vyhybna_s_radkem("jen_vlak 71 72 74 \"za vjezdovým návěstidlem\""));
     ASSERT_EQ(p.vsechny(), "");
     EXPECT_EQ(p.konce(DruhTrasy::posun, 271), (std::set<int>{}));
     EXPECT_EQ(p.konce(DruhTrasy::posun, 12), (std::set<int>{503}));
@@ -237,13 +238,14 @@ TEST(OdvozeniTras, TrackOfTrainsOnlyHasNoShunting) {
 TEST(OdvozeniTras, SignalOnATrackThatIsNoTargetIsAFault) {
     std::string bez = kVyhybna;
     bez.replace(bez.find("500m stitek 1 cil"), 17, "500m stitek 1    ");
-    HLASI(Preklad(bez).vsechny(), "kolej 11: cesty k návěstidlu na jejím konci by nebylo kam zadat");
+    HLASI(PrekladTras(bez).vsechny(), "kolej 11: cesty k návěstidlu na jejím konci by nebylo kam zadat");
 }
 
 // --- rules by hand
 
 TEST(PravidlaTras, ForbiddenRouteIsNotThere) {
-    const Preklad p(s_radkem("nechci vlak od 272 do 12 \"zkouška\"\nnechci cesty od 13 \"zkouška\""));
+    const PrekladTras p(
+        vyhybna_s_radkem("nechci vlak od 272 do 12 \"zkouška\"\nnechci cesty od 13 \"zkouška\""));
     ASSERT_EQ(p.vsechny(), "");
     EXPECT_EQ(p.vlak(272, 12), "");
     EXPECT_NE(p.posun(272, 12), "");
@@ -252,7 +254,7 @@ TEST(PravidlaTras, ForbiddenRouteIsNotThere) {
 }
 
 TEST(PravidlaTras, WayByHandWins) {
-    const Preklad p(s_radkem("trasa vlak 271 11 pres v2 v4 \"zkouška\""));
+    const PrekladTras p(vyhybna_s_radkem("trasa vlak 271 11 pres v2 v4 \"zkouška\""));
     ASSERT_EQ(p.vsechny(), "");
     EXPECT_EQ(p.vlak(271, 11), "71 v1- v2- v4- v3-+ 11");
     EXPECT_EQ(p.najdi(DruhTrasy::vlak, 271, 11)->misto.radek, p.plan.pravidla_tras.rucni[0].misto.radek)
@@ -261,55 +263,59 @@ TEST(PravidlaTras, WayByHandWins) {
 }
 
 TEST(PravidlaTras, RouteCanBeAddedPastASignal) {
-    const Preklad p(s_radkem("trasa vlak 271 74 kolem 211 pres 11 \"zkouška\""));
+    const PrekladTras p(vyhybna_s_radkem("trasa vlak 271 74 kolem 211 pres 11 \"zkouška\""));
     EXPECT_EQ(p.vlak(271, 74), "") << "11 is a target all the same";
-    const Preklad q(s_radkem("prujezdna 11 \"zkouška\"\ntrasa vlak 271 74 kolem 211 pres 11 \"zkouška\""));
+    const PrekladTras q(
+        vyhybna_s_radkem("prujezdna 11 \"zkouška\"\ntrasa vlak 271 74 kolem 211 pres 11 \"zkouška\""));
     ASSERT_EQ(q.vsechny(), "");
     EXPECT_EQ(q.vlak(271, 74), "71 v1+ 401 v3++ 11 v6+ 74");
     EXPECT_EQ(q.vlak(271, 11), "71 v1+ 401 v3++ 11");
 }
 
 TEST(PravidlaTras, RuleThatChangesNothingIsAFault) {
-    HLASI(Preklad(s_radkem("nechci vlak od 271 do 74 \"zkouška\"")).vsechny(),
+    HLASI(PrekladTras(vyhybna_s_radkem("nechci vlak od 271 do 74 \"zkouška\"")).vsechny(),
           "žádná taková cesta by nebyla");
-    HLASI(Preklad(s_radkem("trasa vlak 271 11 pres 401 \"zkouška\"")).vsechny(),
+    HLASI(PrekladTras(vyhybna_s_radkem("trasa vlak 271 11 pres 401 \"zkouška\"")).vsechny(),
           "trasa 271 11: tudy vede i bez tohoto pravidla");
-    HLASI(Preklad(s_radkem("trasa vlak 271 11 pres v6 \"zkouška\"")).vsechny(),
+    HLASI(PrekladTras(vyhybna_s_radkem("trasa vlak 271 11 pres v6 \"zkouška\"")).vsechny(),
           "trasa 271 11: takovou cestu nelze projet");
-    HLASI(Preklad(s_radkem("trasa vlak 703 12 \"zkouška\"")).vsechny(), "nezačíná vlaková cesta");
-    HLASI(Preklad(s_radkem("rychlost 1 4 \"zkouška\"")).vsechny(), "40 km/h platí i bez tohoto pravidla");
+    HLASI(PrekladTras(vyhybna_s_radkem("trasa vlak 703 12 \"zkouška\"")).vsechny(), "nezačíná vlaková cesta");
+    HLASI(PrekladTras(vyhybna_s_radkem("rychlost 1 4 \"zkouška\"")).vsechny(),
+          "40 km/h platí i bez tohoto pravidla");
 }
 
 TEST(PravidlaTras, RuleAboutWhatIsNotDrawnWaits) {
-    const Preklad p(s_radkem("nechci vlak od 245 do 46 \"zkouška\"\ntrasa vlak 245 46 \"zkouška\"\n"
-                             "povinna 245 46 \"zkouška\"\nodjezdy vlak vlevo 46 \"zkouška\"\n"
-                             "programova 245 46 46 \"zkouška\""));
+    const PrekladTras p(
+        vyhybna_s_radkem("nechci vlak od 245 do 46 \"zkouška\"\ntrasa vlak 245 46 \"zkouška\"\n"
+                         "povinna 245 46 \"zkouška\"\nodjezdy vlak vlevo 46 \"zkouška\"\n"
+                         "programova 245 46 46 \"zkouška\""));
     EXPECT_EQ(p.vsechny(), "");
     EXPECT_EQ(cekajici_povinne(p.plan, p.trasy), 1);
 }
 
 TEST(PravidlaTras, EveryRuleSaysWhy) {
-    HLASI(Preklad(s_radkem("nechci vlak od 271 do 11")).vsechny(), "chybí důvod v uvozovkách");
-    HLASI(Preklad(s_radkem("trasa vlak 271 11 pres v2")).vsechny(), "chybí důvod v uvozovkách");
-    HLASI(Preklad(s_radkem("jen_vlak 71")).vsechny(), "chybí důvod v uvozovkách");
-    HLASI(Preklad(s_radkem("rychlost 4 1 \"x\"")).vsechny(), "třídy rychlosti jsou 0 až 3");
-    HLASI(Preklad(s_radkem("trasa 271 11 \"x\"")).vsechny(), "chybí druh cesty");
-    HLASI(Preklad(s_radkem("nechci vlak \"x\"")).vsechny(), "chybí od nebo do");
-    HLASI(Preklad(s_radkem("trasa vlak 271 11 pres v2 \"x\"\ntrasa vlak 271 11 \"x\"")).vsechny(),
+    HLASI(PrekladTras(vyhybna_s_radkem("nechci vlak od 271 do 11")).vsechny(), "chybí důvod v uvozovkách");
+    HLASI(PrekladTras(vyhybna_s_radkem("trasa vlak 271 11 pres v2")).vsechny(), "chybí důvod v uvozovkách");
+    HLASI(PrekladTras(vyhybna_s_radkem("jen_vlak 71")).vsechny(), "chybí důvod v uvozovkách");
+    HLASI(PrekladTras(vyhybna_s_radkem("rychlost 4 1 \"x\"")).vsechny(), "třídy rychlosti jsou 0 až 3");
+    HLASI(PrekladTras(vyhybna_s_radkem("trasa 271 11 \"x\"")).vsechny(), "chybí druh cesty");
+    HLASI(PrekladTras(vyhybna_s_radkem("nechci vlak \"x\"")).vsechny(), "chybí od nebo do");
+    HLASI(PrekladTras(vyhybna_s_radkem("trasa vlak 271 11 pres v2 \"x\"\ntrasa vlak 271 11 \"x\"")).vsechny(),
           "už stojí v");
 }
 
 TEST(PravidlaTras, WhatTheProgramAsksForMustBeThere) {
-    const Preklad dobre(
-        s_radkem("povinna 271 11 pres 401 jedna_z 9 11 \"x\"\nodjezdy vlak vpravo 11 12 \"x\"\n"
-                 "programova 271 11 71 401 11 \"x\"\nnesmi 271 74 \"x\""));
+    const PrekladTras dobre(
+        vyhybna_s_radkem("povinna 271 11 pres 401 jedna_z 9 11 \"x\"\nodjezdy vlak vpravo 11 12 \"x\"\n"
+                         "programova 271 11 71 401 11 \"x\"\nnesmi 271 74 \"x\""));
     EXPECT_EQ(dobre.vsechny(), "");
-    HLASI(Preklad(s_radkem("povinna 271 74 \"x\"")).vsechny(), "cesta 271 74: program ji potřebuje");
-    HLASI(Preklad(s_radkem("povinna 271 11 pres 403 \"x\"")).vsechny(), "má vést přes kolej 403");
-    HLASI(Preklad(s_radkem("nesmi 271 11 \"x\"")).vsechny(), "cesta 271 11: v tabulce nesmí být");
-    HLASI(Preklad(s_radkem("odjezdy vlak vpravo 13 \"x\"")).vsechny(),
+    HLASI(PrekladTras(vyhybna_s_radkem("povinna 271 74 \"x\"")).vsechny(),
+          "cesta 271 74: program ji potřebuje");
+    HLASI(PrekladTras(vyhybna_s_radkem("povinna 271 11 pres 403 \"x\"")).vsechny(), "má vést přes kolej 403");
+    HLASI(PrekladTras(vyhybna_s_radkem("nesmi 271 11 \"x\"")).vsechny(), "cesta 271 11: v tabulce nesmí být");
+    HLASI(PrekladTras(vyhybna_s_radkem("odjezdy vlak vpravo 13 \"x\"")).vsechny(),
           "kolej 13: nevede z ní žádná cesta vpravo");
-    HLASI(Preklad(s_radkem("programova 271 13 71 403 \"x\"")).vsechny(),
+    HLASI(PrekladTras(vyhybna_s_radkem("programova 271 13 71 403 \"x\"")).vsechny(),
           "z koleje 403 nevede žádná cesta dál");
 }
 
@@ -317,17 +323,17 @@ TEST(PravidlaTras, WayToTheEdgeOfTheDrawingExcusesAMissingRoute) {
     std::string bez = kVyhybna; // 74 is no target: what lies behind it is not drawn
     bez.replace(bez.find("400m stitek K4 cil"), 18, "400m              ");
     bez.erase(bez.find("navestidlo  74 L4 vlevo\n"), 24);
-    const Preklad p(bez + "odjezdy vlak vpravo 11 \"x\"\npovinna 211 72 \"x\"\n");
+    const PrekladTras p(bez + "odjezdy vlak vpravo 11 \"x\"\npovinna 211 72 \"x\"\n");
     EXPECT_EQ(p.vsechny(), "");
     EXPECT_EQ(p.konce(DruhTrasy::vlak, 211), (std::set<int>{}));
-    const Preklad natrvalo(bez + "slepa 74 \"dál nic nepovede\"\nodjezdy vlak vpravo 11 \"x\"\n");
+    const PrekladTras natrvalo(bez + "slepa 74 \"dál nic nepovede\"\nodjezdy vlak vpravo 11 \"x\"\n");
     HLASI(natrvalo.vsechny(), "kolej 11: nevede z ní žádná cesta vpravo");
 }
 
 // --- the proof
 
 TEST(KontrolaTras, BrokenRecordIsFound) {
-    const Preklad p(kVyhybna);
+    const PrekladTras p(kVyhybna);
     const auto po = [&](auto zmena) { return p.po_zmene(DruhTrasy::vlak, 271, 12, zmena); };
     EXPECT_EQ(po([](Trasa&) {}), "");
     HLASI(po([](Trasa& t) { t.zaznam.prvky[2].prvek = 403; }), "prvek 403 nenavazuje na v1+");
@@ -350,13 +356,13 @@ TEST(KontrolaTras, BrokenRecordIsFound) {
 }
 
 TEST(KontrolaTras, TrainRouteFromAShuntingSignalIsFound) {
-    const Preklad p(kVyhybna);
+    const PrekladTras p(kVyhybna);
     HLASI(p.po_zmene(DruhTrasy::posun, 703, 12, [](Trasa& t) { t.druh = DruhTrasy::vlak; }),
           "vlaková cesta nezačíná u posunového návěstidla");
 }
 
 TEST(KontrolaTras, RoutePastASignalIsFound) {
-    const Preklad p(kVyhybna);
+    const PrekladTras p(kVyhybna);
     const auto text = p.po_zmene(DruhTrasy::vlak, 271, 11, [](Trasa& t) {
         for (const auto& [n, druh, poloha] : {std::tuple{6, 2, 12}, {74, 1, 2}}) {
             t.zaznam.prvky.push_back({static_cast<std::int16_t>(n), static_cast<std::uint8_t>(druh),
@@ -372,7 +378,7 @@ TEST(KontrolaTras, CoupledSwitchesOfARouteMustAgree) {
     std::string jinak = kVyhybna; // 1 drags 6, which is passed in plus by nobody who needs 1 in minus
     jinak.replace(jinak.find("hrot vlevo dole    spojka 2\n"), 28, "hrot vlevo dole    spojka 2 6\n");
     jinak.replace(jinak.find("29,1 hrot vpravo nahore\n"), 24, "29,1 hrot vpravo nahore spojka 1\n");
-    const std::string text = Preklad(jinak).vsechny();
+    const std::string text = PrekladTras(jinak).vsechny();
     // 71 to 13 throws 1 to minus and so 6; from 11 to 74 needs 6 in plus, and both could stand together
     HLASI(text, "cesta 271 13: může stát zároveň s cesta 211 74, která má ležet výhybka 1 opačně");
     HLASI(text, "cesta 271 13: může stát zároveň s cesta 211 74, která má ležet výhybka 6 opačně");
@@ -384,7 +390,7 @@ TEST(KontrolaTras, RouteAgainstItsOwnCouplingIsFound) {
     std::string jinak = kVyhybna; // 2 and 4 follow each other, coupled they could not be passed differently
     jinak.replace(jinak.find("hrot vpravo nahore spojka 1\n"), 28, "hrot vpravo nahore spojka 1 4\n");
     jinak.replace(jinak.find("hrot vlevo nahore  spojka 3\n"), 28, "hrot vlevo nahore  spojka 3 2\n");
-    const std::string text = Preklad(jinak).vsechny();
+    const std::string text = PrekladTras(jinak).vsechny();
     HLASI(text, "cesta 271 13: potřebuje, aby výhybka 4 ležela v plusu i v mínusu");
     HLASI(text, "cesta 272 12: potřebuje, aby výhybka 2 ležela v plusu i v mínusu");
     EXPECT_EQ(text.find("cesta 272 13: potřebuje"), std::string::npos);
@@ -394,7 +400,7 @@ TEST(KontrolaTras, EndOfASlipFollowsTheCoupledSwitchOnItsSide) {
     std::string jinak = kVyhybna; // 6 stands right of the slip and drags its end B
     jinak.replace(jinak.find("spojka 4 5\n"), 11, "spojka 4 5 6\n");
     jinak.replace(jinak.find("29,1 hrot vpravo nahore\n"), 24, "29,1 hrot vpravo nahore spojka 3\n");
-    const std::string text = Preklad(jinak).vsechny();
+    const std::string text = PrekladTras(jinak).vsechny();
     HLASI(text, "cesta 211 74: může stát zároveň s cesta 12 72, která má ležet výhybka 3 koncem B opačně");
     EXPECT_EQ(text.find("cesta 211 74: může stát zároveň s cesta 11 72"), std::string::npos)
         << "from 11 to 72 only the end A lies in minus";
@@ -406,11 +412,12 @@ TEST(KontrolaTras, SwitchAtTheSideOfARouteMustBeExcludedByIt) {
     jinak.replace(jinak.find("kolej  13  10,2  28,2 300m"), 26, "kolej  13  12,2  28,2 300m");
     jinak += "vyhybka 7 10,2 hrot vpravo dole\nkolej 505 5,4 9,4 100m stitek 505 cil\nzarazedlo 505:vlevo\n"
              "kolej 410 9,4 10,3^ 60m\nposunove 705 Se2 vpravo\n";
-    HLASI(Preklad(jinak).vsechny(), "výhybka 7 ji chrání z boku, ale posun 705 13 po ní může stát zároveň");
+    HLASI(PrekladTras(jinak).vsechny(),
+          "výhybka 7 ji chrání z boku, ale posun 705 13 po ní může stát zároveň");
 }
 
 TEST(KontrolaTras, LineIsEnteredByItsNearestSection) {
-    const Preklad& p = tesk();
+    const PrekladTras& p = trasy_tesku();
     ASSERT_TRUE(p.najdi(DruhTrasy::vlak, 12, 600));
     HLASI(p.po_zmene(DruhTrasy::vlak, 12, 600,
                      [](Trasa& t) {
@@ -429,7 +436,7 @@ TEST(KontrolaTras, LineIsEnteredByItsNearestSection) {
 }
 
 TEST(KontrolaTras, CrossingThatIsClosedIsOpenedAgain) {
-    const Preklad& p = tesk();
+    const PrekladTras& p = trasy_tesku();
     HLASI(p.po_zmene(DruhTrasy::vlak, 601, 12,
                      [](Trasa& t) {
                          for (PrvekCesty& prvek : t.zaznam.prvky)
@@ -440,7 +447,7 @@ TEST(KontrolaTras, CrossingThatIsClosedIsOpenedAgain) {
 }
 
 TEST(KontrolaTras, TrackOfANeighbourStandsNeverBehindTheSignal) {
-    const Preklad& p = tesk();
+    const PrekladTras& p = trasy_tesku();
     HLASI(p.po_zmene(DruhTrasy::vlak, 26, 117,
                      [](Trasa& t) {
                          const auto posledni = t.zaznam.prvky.size() - 2;
@@ -465,12 +472,12 @@ okraj 600:vpravo
 navestidlo 600 L vlevo
 navestidlo 601 S vpravo
 )";
-    const std::string text = Preklad(zdroj).vsechny();
+    const std::string text = PrekladTras(zdroj).vsechny();
     HLASI(text, "cesta 287 600: směr trati by podle obrazu vyšel opačně (jeden monitor)");
     HLASI(text, "cesta 287 600: směr trati by podle obrazu vyšel opačně (dva monitory)");
     std::string dobry = zdroj;
     dobry.replace(dobry.find("40,1  50,1"), 10, "-9,1  -1,1");
-    EXPECT_EQ(Preklad(dobry).vsechny().find("směr trati"), std::string::npos);
+    EXPECT_EQ(PrekladTras(dobry).vsechny().find("směr trati"), std::string::npos);
 }
 
 // The drawing is folded where two left ends meet: who comes from the left goes on to the right.
@@ -492,7 +499,7 @@ okraj N:vpravo
         for (std::size_t i; (i = text.find(" N:")) != std::string::npos;)
             text.replace(i, 3, " " + n + ":");
         text.replace(text.find("kolej N  "), 9, "kolej " + n);
-        return Preklad(text + dalsi).vsechny();
+        return PrekladTras(text + dalsi).vsechny();
     };
     HLASI(s_koleji("72", "navestidlo 272 S2 vpravo\n"),
           "cesta 71 72: přijíždí k návěstidlu 272, které platí pro opačný smysl");
@@ -505,9 +512,10 @@ okraj N:vpravo
 
 TEST(KontrolaTras, LongTrackToMokrinaIsReachedOverItsOwnSections) {
     const auto s_pred = [](const std::string& pred) {
-        return Preklad("stanice BOR \"Borovec\"\njeden 10,5\ndva 10,5\n"
-                       "kolej 71 20,1 30,1 400m stitek K1 cil\nokraj 71:vpravo\nnavestidlo 71 L1 vlevo\n" +
-                       pred + "kolej 118 -9,1 9,1 6050m stitek K2 cil\nokraj 118:vlevo\n")
+        return PrekladTras(
+                   "stanice BOR \"Borovec\"\njeden 10,5\ndva 10,5\n"
+                   "kolej 71 20,1 30,1 400m stitek K1 cil\nokraj 71:vpravo\nnavestidlo 71 L1 vlevo\n" +
+                   pred + "kolej 118 -9,1 9,1 6050m stitek K2 cil\nokraj 118:vlevo\n")
             .vsechny();
     };
     EXPECT_EQ(s_pred("kolej 303 9,1 20,1 90m\n").find("cesta 71 118"), std::string::npos);
@@ -518,13 +526,13 @@ TEST(KontrolaTras, LongTrackToMokrinaIsReachedOverItsOwnSections) {
 TEST(KontrolaTras, TwoTracksThatCrossAreNotInOneRoute) {
     std::string jinak = kVyhybna;
     jinak.replace(jinak.find("kolej 401   6,1  10,1"), 21, "kolej 106 6,1 8,1\nkolej 543 8,1 10,1");
-    HLASI(Preklad(jinak).vsechny(), "cesta 271 11: koleje 106 a 543 se kříží");
+    HLASI(PrekladTras(jinak).vsechny(), "cesta 271 11: koleje 106 a 543 se kříží");
 }
 
 TEST(KontrolaTras, FoldBehindASwitchDoesNotTurnTheSense) {
     std::string jinak = kVyhybna;
     jinak.replace(jinak.find("kolej 401   6,1"), 15, "kolej 115   6,1");
-    HLASI(Preklad(jinak).vsechny(), "na kolej 115 se vjíždí z výhybky, smysl jízdy by se neobrátil");
+    HLASI(PrekladTras(jinak).vsechny(), "na kolej 115 se vjíždí z výhybky, smysl jízdy by se neobrátil");
 }
 
 TEST(KontrolaTras, TrainCannotCountBeyondAByte) {
@@ -535,8 +543,8 @@ TEST(KontrolaTras, TrainCannotCountBeyondAByte) {
         for (int i = 0; i < kolik; ++i)
             zdroj += "kolej " + std::to_string(i < 198 ? 301 + i : 501 + i - 198) + " " + std::to_string(i) +
                      ",1 " + std::to_string(i + 1) + ",1 60m\n";
-        return Preklad(zdroj + "kolej 72 " + std::to_string(kolik) + ",1 " + std::to_string(kolik + 9) +
-                       ",1 400m stitek K2 cil\nokraj 72:vpravo\n")
+        return PrekladTras(zdroj + "kolej 72 " + std::to_string(kolik) + ",1 " + std::to_string(kolik + 9) +
+                           ",1 400m stitek K2 cil\nokraj 72:vpravo\n")
             .vsechny();
     };
     EXPECT_EQ(rada(254).find("256 prvků"), std::string::npos);
@@ -546,7 +554,7 @@ TEST(KontrolaTras, TrainCannotCountBeyondAByte) {
 // --- the tables
 
 TEST(TabulkyTras, FileHoldsTheRoutesOfItsKind) {
-    const Preklad p(kVyhybna);
+    const PrekladTras p(kVyhybna);
     const std::vector<ZaznamCesty> zat = cti_cesty(soubor_tras(p.trasy, DruhTrasy::vlak));
     const std::vector<ZaznamCesty> zpc = cti_cesty(soubor_tras(p.trasy, DruhTrasy::posun));
     ASSERT_EQ(zat.size() + zpc.size(), p.trasy.size());
@@ -561,7 +569,7 @@ TEST(TabulkyTras, FileHoldsTheRoutesOfItsKind) {
 }
 
 TEST(TabulkyTras, LineOfTheRoutesOfTheProgramStaysEmpty) {
-    std::vector<Trasa> mnoho(1500, *Preklad(kVyhybna).najdi(DruhTrasy::vlak, 271, 11));
+    std::vector<Trasa> mnoho(1500, *PrekladTras(kVyhybna).najdi(DruhTrasy::vlak, 271, 11));
     const std::vector<ZaznamCesty> zat = cti_cesty(soubor_tras(mnoho, DruhTrasy::vlak));
     ASSERT_EQ(zat.size(), 1501u);
     EXPECT_EQ(zat[997].zacatek, 271);
@@ -570,7 +578,7 @@ TEST(TabulkyTras, LineOfTheRoutesOfTheProgramStaysEmpty) {
 }
 
 TEST(TabulkyTras, TableShowsElementsAndConflicts) {
-    const Preklad p(kVyhybna);
+    const PrekladTras p(kVyhybna);
     const std::string text = tabulka_tras(p.plan, p.trasy);
     HLASI(text, "BOR Borovec: 16 vlakových cest, nejvýš 6 prvků");
     HLASI(text, "71 v1+ 401 v3+- v5- 12");
@@ -580,11 +588,11 @@ TEST(TabulkyTras, TableShowsElementsAndConflicts) {
 // --- the junction
 
 TEST(TrasyTesku, JunctionHasNoFault) {
-    EXPECT_EQ(tesk().vsechny(), "");
+    EXPECT_EQ(trasy_tesku().vsechny(), "");
 }
 
 TEST(TrasyTesku, LinesAreEnteredAndLeft) {
-    const Preklad& p = tesk();
+    const PrekladTras& p = trasy_tesku();
     EXPECT_EQ(p.vlak(287, 600), "87 v33+ 404 v36+ v37+ 600");
     EXPECT_EQ(p.najdi(DruhTrasy::vlak, 601, 12)->zaznam.prvky[0].prvek, 650);
     EXPECT_EQ(p.najdi(DruhTrasy::vlak, 12, 600)->zaznam.prvky.back().prvek, 650);
@@ -598,7 +606,7 @@ TEST(TrasyTesku, LinesAreEnteredAndLeft) {
 
 TEST(TrasyTesku, NumberStaysOnALineUntilItsLastSection) {
     const auto znacka_konce = [](int od, int kam) {
-        return tesk().najdi(DruhTrasy::vlak, od, kam)->zaznam.prvky.back().poloha;
+        return trasy_tesku().najdi(DruhTrasy::vlak, od, kam)->zaznam.prvky.back().poloha;
     };
     for (const auto& [od, kam] : {std::pair{287, 600}, {202, 604}, {12, 600}, {10, 606}})
         EXPECT_EQ(znacka_konce(od, kam), 0) << od << " - " << kam << ": the locking marks the last section";
@@ -607,14 +615,15 @@ TEST(TrasyTesku, NumberStaysOnALineUntilItsLastSection) {
 }
 
 TEST(TrasyTesku, RouteToVrbiceRunsOnToTheEdge) {
-    const Trasa* t = tesk().najdi(DruhTrasy::vlak, 26, 117);
+    const Trasa* t = trasy_tesku().najdi(DruhTrasy::vlak, 26, 117);
     ASSERT_TRUE(t);
     EXPECT_EQ(t->zaznam.prvky.back().prvek, 219);
     EXPECT_EQ(t->zaznam.prvky[t->zaznam.prvky.size() - 2].prvek, 117);
-    EXPECT_FALSE(tesk().najdi(DruhTrasy::posun, 26, 117)) << "no shunting onto the line of a neighbour";
+    EXPECT_FALSE(trasy_tesku().najdi(DruhTrasy::posun, 26, 117))
+        << "no shunting onto the line of a neighbour";
 }
 
 TEST(TrasyTesku, FailedLampStartsNothing) {
-    EXPECT_TRUE(tesk().konce(DruhTrasy::vlak, 305).empty());
-    EXPECT_TRUE(tesk().konce(DruhTrasy::posun, 305).empty());
+    EXPECT_TRUE(trasy_tesku().konce(DruhTrasy::vlak, 305).empty());
+    EXPECT_TRUE(trasy_tesku().konce(DruhTrasy::posun, 305).empty());
 }

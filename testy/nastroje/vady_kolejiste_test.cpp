@@ -73,7 +73,7 @@ struct Kopie {
 
 // --- a small station, one line more or less
 
-constexpr const char* kMale = R"(stanice BOR "Borovec"
+constexpr const char* kMalaDopravna = R"(stanice BOR "Borovec"
 jeden 10,5
 dva   20,5
 vsun  14 10
@@ -95,9 +95,9 @@ struct Pripad {
 };
 
 void zkus(const std::vector<Pripad>& pripady) {
-    ASSERT_EQ(CelyPreklad({{"z.tk", std::string(kMale)}}).vsechny(), "");
+    ASSERT_EQ(CelyPreklad({{"z.tk", std::string(kMalaDopravna)}}).vsechny(), "");
     for (const Pripad& x : pripady) {
-        const CelyPreklad p({{"z.tk", std::string(kMale) + x.radky + "\n"}});
+        const CelyPreklad p({{"z.tk", std::string(kMalaDopravna) + x.radky + "\n"}});
         EXPECT_TRUE(p.hlasi(x.vada)) << x.radky << "\nmisses: " << x.vada << "\n" << p.vsechny();
         for (const kolejiste::Zavada& z : p.zavady)
             EXPECT_TRUE(z.misto.soubor == "z.tk" && z.misto.radek > 0 && !z.text.empty()) << veta(z);
@@ -252,7 +252,7 @@ TEST(VadyKolejiste, WholeJunctionLacksNothing) {
         {"programova 249 50 50 \"x\"\nuplne", "z.tk:15: cesta 249 50 programu: kolej 50 není nakreslena"},
         {"odjezdy vlak vlevo 50 \"x\"\nuplne", "z.tk:15: kolej 50: nevede z ní žádná cesta vlevo"},
     });
-    EXPECT_EQ(CelyPreklad({{"z.tk", std::string(kMale) + "povinne kolej 60\n"}}).vsechny(), "");
+    EXPECT_EQ(CelyPreklad({{"z.tk", std::string(kMalaDopravna) + "povinne kolej 60\n"}}).vsechny(), "");
 }
 
 // --- the pictures
@@ -303,13 +303,14 @@ TEST(VadyKresby, TargetsAreForOneTrackOnly) {
 TEST(VadyKresby, LineThatBreaksOffSaysWhereItGoes) {
     const std::string obraz = "obrazy 45 70\nobraz 70 vzor 45 40,8 44,8\n";
     zkus({{obraz.c_str(), "obraz 70 vlevo: čára tu končí a žádný nápis neříká, kam vede"}});
-    EXPECT_EQ(CelyPreklad({{"z.tk", std::string(kMale) + obraz + "popis \"A\" 37,8\npopis \"B\" 45,8\n"}})
-                  .vsechny(),
-              "");
+    EXPECT_EQ(
+        CelyPreklad({{"z.tk", std::string(kMalaDopravna) + obraz + "popis \"A\" 37,8\npopis \"B\" 45,8\n"}})
+            .vsechny(),
+        "");
     // at the edge of the desk it is plain
-    EXPECT_EQ(CelyPreklad(
-                  {{"z.tk", std::string(kMale) + "obrazy 45 70\nobraz 70 vzor 45 -10,8 -6,8 dva -20,8 -6,8\n"
-                                                 "popis \"A\" -5,8\n"}})
+    EXPECT_EQ(CelyPreklad({{"z.tk", std::string(kMalaDopravna) +
+                                        "obrazy 45 70\nobraz 70 vzor 45 -10,8 -6,8 dva -20,8 -6,8\n"
+                                        "popis \"A\" -5,8\n"}})
                   .vsechny(),
               "");
 }

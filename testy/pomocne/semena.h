@@ -9,6 +9,8 @@
 
 #include <cstdio>
 #include <cstdlib>
+#include <type_traits>
+#include <vector>
 
 #ifndef TESK_DIL_ZKOUSEK
 #define TESK_DIL_ZKOUSEK 1
@@ -17,6 +19,13 @@
 // So many of the tries of a random test are made in this build, at least one.
 constexpr unsigned dil_zkousek(unsigned kolik) {
     return kolik < TESK_DIL_ZKOUSEK ? 1 : kolik / TESK_DIL_ZKOUSEK;
+}
+
+// Of the cases of a long test the first ones only, by the same measure.
+template <class... Hodnoty> auto dil_pripadu(Hodnoty... hodnoty) {
+    std::vector<std::common_type_t<Hodnoty...>> pripady{hodnoty...};
+    pripady.resize(dil_zkousek(static_cast<unsigned>(pripady.size())));
+    return testing::ValuesIn(pripady);
 }
 
 inline auto semena(unsigned od, unsigned po) {

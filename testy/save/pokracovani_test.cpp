@@ -29,6 +29,7 @@
 #include "obsluha/vyber.h"
 #include "pomocne/instalace.h"
 #include "pomocne/pult.h"
+#include "pomocne/semena.h"
 #include "prvky/jmena.h"
 #include "prvky/navestidla.h"
 #include "prvky/panel.h"
@@ -465,4 +466,4 @@ TEST_P(Pokracovani, SaveAtAnyMomentEqualsNeverHavingSaved) {
     EXPECT_LT(vynechane, kUlozeni / 3);
 }
 
-INSTANTIATE_TEST_SUITE_P(Hodiny, Pokracovani, testing::Values(6, 8, 10, 17));
+INSTANTIATE_TEST_SUITE_P(Hodiny, Pokracovani, dil_pripadu(8, 6, 10, 17));

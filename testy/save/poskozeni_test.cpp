@@ -228,4 +228,4 @@ TEST_P(Poskozeni, SaveIsRefusedOrRunsOnWithoutAFault) {
     EXPECT_GT(odmitnuto, kPoskozeni / 2);
 }
 
-INSTANTIATE_TEST_SUITE_P(Hodiny, Poskozeni, testing::Values(7, 15));
+INSTANTIATE_TEST_SUITE_P(Hodiny, Poskozeni, dil_pripadu(7, 15));

@@ -1,10 +1,10 @@
-# Runs one operator script twice, from its file and through a pipe, each time in a fresh installation:
+# Runs one operator script BEHU times, from its file and through a pipe, each time in a fresh installation:
 # both give the expected output, and both write the same train-number log, byte for byte; and the events
 # that the log must hold.
 file(REMOVE_RECURSE ${SLOZKA})
 get_filename_component(jmeno ${SCENAR} NAME_WE)
 
-foreach(beh 1 2)
+foreach(beh RANGE 1 ${BEHU})
   set(program ${SLOZKA}/${beh}/program)
   file(MAKE_DIRECTORY ${program})
   if(jmeno MATCHES "^maly_")
@@ -41,15 +41,17 @@ function(porovnej prvni druhy co)
   endif()
 endfunction()
 
-porovnej(${SLOZKA}/1/vystup ${SLOZKA}/2/vystup "the second run gives another output")
-file(GLOB logy RELATIVE ${SLOZKA}/1/program/GTN ${SLOZKA}/1/program/GTN/*)
-file(GLOB logy2 RELATIVE ${SLOZKA}/2/program/GTN ${SLOZKA}/2/program/GTN/*)
-if(NOT logy STREQUAL logy2)
-  message(FATAL_ERROR "${jmeno}: the runs write other logs: ${logy} and ${logy2}")
+if(BEHU EQUAL 2)
+  porovnej(${SLOZKA}/1/vystup ${SLOZKA}/2/vystup "the second run gives another output")
+  file(GLOB logy RELATIVE ${SLOZKA}/1/program/GTN ${SLOZKA}/1/program/GTN/*)
+  file(GLOB logy2 RELATIVE ${SLOZKA}/2/program/GTN ${SLOZKA}/2/program/GTN/*)
+  if(NOT logy STREQUAL logy2)
+    message(FATAL_ERROR "${jmeno}: the runs write other logs: ${logy} and ${logy2}")
+  endif()
+  foreach(log ${logy})
+    porovnej(${SLOZKA}/1/program/GTN/${log} ${SLOZKA}/2/program/GTN/${log} "the logs differ")
+  endforeach()
 endif()
-foreach(log ${logy})
-  porovnej(${SLOZKA}/1/program/GTN/${log} ${SLOZKA}/2/program/GTN/${log} "the logs differ")
-endforeach()
 
 # Where the script has a file *.udalosti, the events of its log are compared one by one.
 string(REGEX REPLACE "\\.tesk$" ".udalosti" udalosti ${SCENAR})

@@ -5,7 +5,7 @@
 
 namespace {
 
-struct Zaznam {
+struct VzorovyZaznam {
     std::uint8_t b = 0x7F;
     std::int16_t i = -3;
     std::int32_t l = 0x12345678;
@@ -16,7 +16,7 @@ struct Zaznam {
     std::vector<std::int16_t> cisla{-1};
     std::vector<std::int32_t> dlouha;
     std::vector<Text> texty{"a", ""};
-    bool operator==(const Zaznam&) const = default;
+    bool operator==(const VzorovyZaznam&) const = default;
 };
 
 template <class A, class Z> void popis(A& a, Z& z) {
@@ -32,7 +32,7 @@ template <class A, class Z> void popis(A& a, Z& z) {
     a.preskoc(2);
 }
 
-Bajty zapsany(const Zaznam& z) {
+Bajty zapsany(const VzorovyZaznam& z) {
     Zapisovac zapisovac;
     popis(zapisovac, z);
     return zapisovac.bajty;
@@ -46,29 +46,29 @@ const Bajty kVzor = {0x7F, 0xFD, 0xFF, 0x78, 0x56, 0x34, 0x12, 0xFF, 0xFF, 3, 0,
                      0,    0};
 
 TEST(Balik, RecordIsLittleEndianAndPacked) {
-    EXPECT_EQ(zapsany(Zaznam{}), kVzor);
+    EXPECT_EQ(zapsany(VzorovyZaznam{}), kVzor);
 }
 
 TEST(Balik, MeasureAgreesWithWhatIsWritten) {
     Miric m;
-    const Zaznam z;
+    const VzorovyZaznam z;
     popis(m, z);
     EXPECT_EQ(m.misto, kVzor.size());
 }
 
 TEST(Balik, ReadsBackWhatItWrote) {
-    Zaznam jiny{0, 0, 0, false, "", {}, {}, {5}, {}};
+    VzorovyZaznam jiny{0, 0, 0, false, "", {}, {}, {5}, {}};
     Ctenar c{kVzor};
     popis(c, jiny);
     EXPECT_TRUE(c.ok);
     EXPECT_TRUE(c.na_konci());
-    EXPECT_EQ(jiny, Zaznam{});
+    EXPECT_EQ(jiny, VzorovyZaznam{});
 }
 
 TEST(Balik, RecordCutAtAnyByteIsNotComplete) {
     for (std::size_t delka = 0; delka < kVzor.size(); ++delka) {
         const Bajty kratke(kVzor.begin(), kVzor.begin() + static_cast<std::ptrdiff_t>(delka));
-        Zaznam z;
+        VzorovyZaznam z;
         Ctenar c{kratke};
         popis(c, z);
         ASSERT_FALSE(c.ok) << delka;

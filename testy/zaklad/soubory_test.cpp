@@ -1,5 +1,6 @@
 // testy/zaklad/soubory_test.cpp - files by the system's names.
 #include "pomocne/male_kolejiste.h"
+#include "pomocne/semena.h"
 #include "zaklad/chyba.h"
 #include "zaklad/soubory.h"
 
@@ -252,7 +253,7 @@ TEST_F(Soubory, TwoProcessesThatWriteOneNameAndAreKilledLeaveOneWholeFile) {
     constexpr std::size_t kDelka = 400'000;
     const Text cil = slozka.cesta + "hra.sim";
     zapis_soubor(cil, Bajty(kDelka, 'z'));
-    for (int pokus = 0; pokus < 150; ++pokus) {
+    for (unsigned pokus = 0; pokus < dil_zkousek(150); ++pokus) {
         std::vector<pid_t> deti;
         for (const std::uint8_t znak : {std::uint8_t{'a'}, std::uint8_t{'b'}}) {
             const pid_t dite = fork();
