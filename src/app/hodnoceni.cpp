@@ -68,7 +68,7 @@ struct Pobyt {
     int misto = kZadny;
     std::int32_t prisel = 0, odesel = 0;
 };
-std::vector<Pobyt> pobyty(const Jizda& j) {
+std::vector<Pobyt> pobyty(const JizdaNakresu& j) {
     std::vector<Pobyt> vse;
     for (const BodJizdy& b : j.body) {
         if (vse.empty() || vse.back().misto != b.misto)
@@ -125,7 +125,7 @@ void zapocti(Soucty& s, const Koridory& k, std::int32_t cislo, int odkud, int ka
     }
 }
 
-void zapocti_jizdu(Soucty& s, const Koridory& k, const Jizda& j, int prevzal) {
+void zapocti_jizdu(Soucty& s, const Koridory& k, const JizdaNakresu& j, int prevzal) {
     const GvdVlak* radek = radek_vlaku(j.cislo);
     if (radek == nullptr)
         return;
@@ -157,7 +157,7 @@ void zpozdeni_po_trati(HodnoceniSmeny& h) {
         if (j.objevena)
             prevzali[radek_gvd(j.radek).cislo] = j.zpozdeni_vstup;
     Soucty s;
-    for (const Jizda& j : sklad.jizdy())
+    for (const JizdaNakresu& j : sklad.jizdy())
         if (const auto vstup = prevzali.find(j.cislo); vstup != prevzali.end())
             zapocti_jizdu(s, k, j, vstup->second);
     for (const auto& [misto, u] : s.useky) {

@@ -181,8 +181,8 @@ std::vector<CaraVlaku> planovane_cary(const Koridory& k, const OsaKoridoru& osa,
     return cary;
 }
 
-std::vector<CaraVlaku> jete_cary(const Koridory& k, const OsaKoridoru& osa, const std::vector<JizdaNakresu>& jizdy,
-                                 std::int32_t ted) {
+std::vector<CaraVlaku> jete_cary(const Koridory& k, const OsaKoridoru& osa,
+                                 const std::vector<JizdaNakresu>& jizdy, std::int32_t ted) {
     // where each number is that is on the desk
     std::map<std::int32_t, std::optional<double>> na_stole;
     for (const Vlak& v : vlaky)

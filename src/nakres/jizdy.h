@@ -73,5 +73,5 @@ struct CaraVlaku {
 std::vector<CaraVlaku> planovane_cary(const Koridory& k, const OsaKoridoru& osa, std::int32_t od,
                                       std::int32_t po);
 // As they ran: the runs of the log, and those who are on the desk up to where they are at the second `ted`.
-std::vector<CaraVlaku> jete_cary(const Koridory& k, const OsaKoridoru& osa, const std::vector<JizdaNakresu>& jizdy,
-                                 std::int32_t ted);
+std::vector<CaraVlaku> jete_cary(const Koridory& k, const OsaKoridoru& osa,
+                                 const std::vector<JizdaNakresu>& jizdy, std::int32_t ted);

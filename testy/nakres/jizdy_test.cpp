@@ -56,7 +56,7 @@ TEST_F(JizdyLogu, MovementsBecomeTheRunsOfTheExampleThatTheReaderOfTheLogKeepsTo
         for (const PohybVlaku& p : pohyby)
             sklad.pridej(p);
         std::vector<std::string> jizdy;
-        for (const Jizda& j : sklad.jizdy()) {
+        for (const JizdaNakresu& j : sklad.jizdy()) {
             std::string text = text_cisla(j.cislo);
             for (const BodJizdy& b : j.body)
                 text += " " + k.mista[static_cast<std::size_t>(b.misto)].zkratka + "@" + text_cisla(b.cas);
@@ -140,12 +140,12 @@ TEST_F(CaryVlaku, TrainInAThroatIsWhereItEnteredItAndOneOnAnotherLineIsNowhere) 
 }
 
 TEST_F(CaryVlaku, RunLeavesTheLineAtAPlaceOffIt) {
-    const Jizda pres_dolni{7,
-                           {{0, misto("LHO")},
-                            {100, misto("TVH")},
-                            {200, misto("TDN")},
-                            {300, misto("TRY")},
-                            {400, misto("TKL")}}};
+    const JizdaNakresu pres_dolni{7,
+                                  {{0, misto("LHO")},
+                                   {100, misto("TVH")},
+                                   {200, misto("TDN")},
+                                   {300, misto("TRY")},
+                                   {400, misto("TKL")}}};
     const std::vector<CaraVlaku> cary = jete_cary(k, osa("lho-rok"), {pres_dolni}, 1000);
     ASSERT_EQ(cary.size(), 2u);
     EXPECT_EQ(cary[0].body.back().s, 100);

@@ -134,6 +134,7 @@ inline constexpr DosahOperace kOperaceRuky[] = {
     {"odjeti", "pointer away", Dosah::maly},
     {"pohyb_mysi", "pointer over", Dosah::maly},
     {"klik_na_plochu", "desk", Dosah::maly},
+    {"ukaz_vlak", "train shown", Dosah::maly},
     {"klik_na_radek", "line of a list", Dosah::maly},
     {"klik_na_zalozku", "tab", Dosah::maly},
     {"zvol_v_menu", "miVC", Dosah::maly},
@@ -150,12 +151,12 @@ inline constexpr DosahOperace kOperaceRuky[] = {
     {"pridej_prvek_podle_jmena", "search", Dosah::maly},
 };
 // Asked by others, or called by what the hand has done: no command of their own.
-inline constexpr std::array<std::string_view, 17> kBezPovelu = {
-    "ukon_ze_slov",     "proved_ukon",   "radek_ukonu",         "je_pohyb_ukazatele",
-    "jmeno_seznamu",    "jmeno_klavesy", "klavesa_podle_jmena", "makro_se_zaznamenava",
-    "krok_makra",       "prvek_popisku", "prihlaseni_bezi",     "pipni_klavesou",
-    "vyzva_mimo_radek", "najdi_cestu",   "hlidej_cas_volby",    "obnov_stitek",
-    "kod_stanice_prvku"};
+inline constexpr std::array<std::string_view, 18> kBezPovelu = {
+    "hledej_cislo",         "ukon_ze_slov",     "proved_ukon",   "radek_ukonu",
+    "je_pohyb_ukazatele",   "jmeno_seznamu",    "jmeno_klavesy", "klavesa_podle_jmena",
+    "makro_se_zaznamenava", "krok_makra",       "prvek_popisku", "prihlaseni_bezi",
+    "pipni_klavesou",       "vyzva_mimo_radek", "najdi_cestu",   "hlidej_cas_volby",
+    "obnov_stitek",         "kod_stanice_prvku"};
 // Keys and pictures of the desk that no operation stands for alone.
 inline constexpr std::array<std::string_view, 27> kKlavesyAObrazky = {
     "key F3",         "key F8",

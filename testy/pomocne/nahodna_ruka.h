@@ -292,6 +292,10 @@ private:
         }
         ++pouzito_["desk"];
         klik_na_plochu();
+        if (!vlaky.empty()) {
+            ++pouzito_["train shown"];
+            ukaz_vlak(zobrazene_cislo(vlaky[z_kolika(vlaky.size())]));
+        }
     }
     // The maintenance screens, their tabs and lists.
     void udrzba() {
