@@ -1,10 +1,8 @@
 // ui/nakres.h - the time-distance diagram in a window of its own: on the other monitor, or over the desk.
 //
-// The core computes the picture (nakres/obraz.h); this window says what is looked at, paints it, and hands a
-// picked train to the desk. The simulation goes on while it is open.
+// The core computes the picture (nakres/obraz.h); this window says what is looked at and hands a picked train
+// to the desk. The simulation goes on while it is open.
 #pragma once
-
-#include "nakres/obraz.h"
 
 #include <QWidget>
 
@@ -17,5 +15,3 @@ void prepni_nakres(QWidget* stul);
 
 // The diagram is the window that has the keys.
 bool nakres_ma_klavesy();
-// Paints a picture; its pixels are the painter's units.
-void nakresli_obraz(QPainter& p, const ObrazNakresu& obraz, bool papir);

@@ -1,0 +1,89 @@
+// vykon/nakres_vykon.cpp - the time-distance diagram with a whole day of the full week: its shapes, and
+// painting them.
+#ifdef TESK_S_KRESBOU
+#include "app/cas.h"
+#include "app/nova_simulace.h"
+#include "app/simulace.h"
+#include "gvd/gvd.h"
+#include "nakres/obraz.h"
+#include "ui/kresba_nakresu.h"
+#include "zaklad/soubory.h"
+
+#include <QApplication>
+#include <QImage>
+#include <benchmark/benchmark.h>
+
+namespace {
+
+// Every train of a Monday on the longest line, as it shall run and, some minutes later, as it ran.
+struct CelyDen {
+    Koridory k;
+    OsaKoridoru osa;
+    std::vector<CaraVlaku> cary;
+    PohledNakresu pohled;
+
+    explicit CelyDen(benchmark::State& stav) {
+        static int pocet = 1;
+        static char jmeno[] = "tesk-vykon";
+        static char* slova[] = {jmeno, nullptr};
+        if (QCoreApplication::instance() == nullptr) {
+            qputenv("QT_QPA_PLATFORM", "offscreen");
+            new QApplication(pocet, slova); // lives as long as the process
+        }
+        nova_simulace();
+        simulace.cesta_aplikace = TESK_INSTALACE;
+        simulace.soubor_gvd = simulace.cesta_aplikace + "gvd\\GVD_plny.dat";
+        if (!soubor_existuje(simulace.soubor_gvd) || koridory().trate.empty()) {
+            stav.SkipWithError("the installation is not staged");
+            return;
+        }
+        nacti_gvd();
+        k = koridory();
+        osa = osa_koridoru(k, k.trate.at(1));
+        cary = planovane_cary(k, osa, 0, kDen_s - 1);
+        const std::vector<CaraVlaku> plan = cary;
+        for (CaraVlaku c : plan) {
+            c.plan = false;
+            for (BodCary& b : c.body)
+                b.s += 180;
+            cary.push_back(c);
+        }
+        pohled.sirka = static_cast<double>(stav.range(0));
+        pohled.vyska = static_cast<double>(stav.range(1));
+        pohled.po = kDen_s;
+        pohled.ted = kDen_s / 2;
+    }
+    CelyDen(const CelyDen&) = delete;
+    CelyDen& operator=(const CelyDen&) = delete;
+    ~CelyDen() { nova_simulace(); }
+};
+
+void tvary_dne(benchmark::State& stav) {
+    const CelyDen den(stav);
+    for (auto _ : stav)
+        benchmark::DoNotOptimize(nakresli_nakres(den.pohled, den.k, den.osa, den.cary));
+    stav.SetItemsProcessed(stav.iterations() * static_cast<std::int64_t>(den.cary.size()));
+}
+BENCHMARK(tvary_dne)
+    ->Unit(benchmark::kMillisecond)
+    ->Name("shapes of a diagram of a whole day")
+    ->Args({1024, 560})
+    ->Args({1920, 1080});
+
+void obraz_dne(benchmark::State& stav) {
+    const CelyDen den(stav);
+    const ObrazNakresu obraz = nakresli_nakres(den.pohled, den.k, den.osa, den.cary);
+    QImage plocha(static_cast<int>(stav.range(0)), static_cast<int>(stav.range(1)), QImage::Format_RGB32);
+    for (auto _ : stav) {
+        QPainter p(&plocha);
+        nakresli_obraz(p, obraz, false);
+    }
+}
+BENCHMARK(obraz_dne)
+    ->Unit(benchmark::kMillisecond)
+    ->Name("painting a diagram of a whole day")
+    ->Args({1024, 560})
+    ->Args({1920, 1080});
+
+} // namespace
+#endif
