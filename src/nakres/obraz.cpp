@@ -476,14 +476,14 @@ PlochaNakresu plocha_nakresu(const PohledNakresu& p) {
             std::max(p.vyska - 3.6 * p.pismo, nahore + p.pismo)};
 }
 
+TextPohled den_casu(std::int32_t s) {
+    const std::int32_t den = (s - ((s % kDen_s) + kDen_s) % kDen_s) / kDen_s - ted_s() / kDen_s;
+    return nazev_dne((std::countr_zero(simulace.den) + den % 7 + 7) % 7);
+}
+
 Text popis_casu(std::int32_t s, bool s_dnem) {
-    const std::int32_t v_dni = (s % kDen_s + kDen_s) % kDen_s;
-    const Text hodiny = text_minuty(v_dni / 60);
-    if (!s_dnem)
-        return hodiny;
-    const std::int32_t od_dneska = (s - v_dni) / kDen_s - ted_s() / kDen_s;
-    const int den = (std::countr_zero(simulace.den) + od_dneska % 7 + 7) % 7;
-    return Text(nazev_dne(den).substr(0, 2)) + " " + hodiny;
+    const Text hodiny = text_minuty(((s % kDen_s) + kDen_s) % kDen_s / 60);
+    return s_dnem ? Text(den_casu(s).substr(0, 2)) + " " + hodiny : hodiny;
 }
 
 ObrazNakresu nakresli_nakres(const PohledNakresu& pohled, const Koridory& k, const OsaKoridoru& osa,

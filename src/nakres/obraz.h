@@ -97,6 +97,8 @@ struct ObrazNakresu {
 
 // Where the area of the lines lies in a picture.
 PlochaNakresu plocha_nakresu(const PohledNakresu& pohled);
+// Name of the day of the week of an absolute second.
+TextPohled den_casu(std::int32_t s);
 // "8:05" of an absolute second; with the day of the week "út 0:05".
 Text popis_casu(std::int32_t s, bool s_dnem);
 

@@ -467,10 +467,11 @@ ObrazNakresu OknoNakresu::na_papir(double sirka, double vyska) const {
     p.pismo = sirka / 100;
     p.vybrany = 0;
     p.nadpis = osa.nadpis;
-    p.podnadpis = Text("Jízdní řád "_cz) + Text(orez(relief.lblGVD[0].text())) + ", " +
-                  Text(orez(relief.lblDEN[0].text())) + ", " +
-                  popis_casu(static_cast<std::int32_t>(co.od), true) + Text(" až "_cz) +
-                  popis_casu(static_cast<std::int32_t>(co.po), true) + Text("; stav v "_cz) + text_hodin();
+    const auto od = static_cast<std::int32_t>(co.od), po = static_cast<std::int32_t>(co.po);
+    p.podnadpis = Text("Jízdní řád "_cz) + Text(orez(relief.lblGVD[0].text())) + ", " + Text(den_casu(od)) +
+                  " " + popis_casu(od, false) + Text(" až "_cz) +
+                  (den_casu(po) == den_casu(od) ? Text{} : Text(den_casu(po)) + " ") + popis_casu(po, false) +
+                  Text("; stav v "_cz) + text_hodin();
     std::vector<CaraVlaku> cary = jete_cary(k, osa, sklad->jizdy(), static_cast<std::int32_t>(co.ted));
     cary.insert(cary.end(), plan.begin(), plan.end());
     return nakresli_nakres(p, k, osa, cary);

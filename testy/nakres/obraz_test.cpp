@@ -184,6 +184,8 @@ TEST_F(ObrazTrati, TimesTellTheirDayWhenAsked) {
     EXPECT_EQ(popis_casu(0, true), "po 0:00");
     EXPECT_EQ(popis_casu(kDen_s, true), "út 0:00"_cz);
     EXPECT_EQ(popis_casu(-60, true), "ne 23:59");
+    EXPECT_EQ(den_casu(kDen_s - 1), "pondělí"_cz);
+    EXPECT_EQ(den_casu(8 * kDen_s), "úterý"_cz);
 }
 
 TEST_F(ObrazTrati, FileOfLinesHoldsTheSameTrainsAndSparesItsSigns) {
