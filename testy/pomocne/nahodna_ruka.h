@@ -292,9 +292,9 @@ private:
         }
         ++pouzito_["desk"];
         klik_na_plochu();
-        if (!vlaky.empty()) {
-            ++pouzito_["train shown"];
-            ukaz_vlak(zobrazene_cislo(vlaky[z_kolika(vlaky.size())]));
+        if (!vlaky.empty()) { // one after another
+            const auto kolikaty = static_cast<std::size_t>(pouzito_["train shown"]++);
+            ukaz_vlak(zobrazene_cislo(vlaky[kolikaty % vlaky.size()]));
         }
     }
     // The maintenance screens, their tabs and lists.
