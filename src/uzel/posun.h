@@ -75,7 +75,7 @@ constexpr bool je_odstavna_kolej(int n) {
 // Series that do the same work, each group under wire or without: where the one that is planned is not to be
 // had, another of its group goes.
 inline constexpr std::array<std::array<int, 9>, 2> kZastupitelne = {
-    {{162, 163, 230, 240, 242, 350, 362, 363, 0}, {210, 731, 740, 742, 751, 754, 0, 0, 0}}};
+    {{162, 163, 230, 240, 242, 350, 362, 363, 0}, {210, 731, 740, 742, 751, 754, 842, 850, 0}}};
 constexpr bool zastoupi(int rada, int jinou) {
     for (const auto& skupina : kZastupitelne) {
         bool jedna = false, druha = false;

@@ -35,40 +35,46 @@
 
 namespace {
 
+constexpr int kZnovu_s = 6;        // before a way that is blocked is looked for again
+constexpr int kUrcena_s = 15 * 60; // so long a locomotive stays chosen for its train
 constexpr int kObhlidka_s = 2;     // between two looks
 constexpr int kNastup_s = 15 * 60; // before its departure a set goes to its platform; earlier trains have it
-constexpr int kNajdiJinou_s = 7 * 60; // before its departure a set takes another platform for the one taken
-constexpr int kVystup_s = 90;         // the passengers of a train that ends get off,
-constexpr int kVykladka_s = 10 * 60;  // and the bags out of a van
-constexpr int kNaleha_s = 8 * 60;     // who has waited so long goes before trains that are only expected
-constexpr int kVyckavani_s = 4 * 60;  // before its departure a train gives up waiting for another locomotive
-constexpr int kStrojDrzen_min = 120;  // before the departure of its next train a locomotive stays for it
-constexpr int kOdjezdPovelem_s = 60;  // before its time a train is given the order to leave
+constexpr int kNajdiJinou_s = 7 * 60;  // before its departure a set takes another platform for the one taken
+constexpr int kVystup_s = 90;          // the passengers of a train that ends get off,
+constexpr int kVykladka_s = 10 * 60;   // and the bags out of a van
+constexpr int kNaleha_s = 8 * 60;      // who has waited so long goes before trains that are only expected
+constexpr int kVyckavani_s = 4 * 60;   // before its departure a train gives up waiting for another locomotive
+constexpr int kNedorazila_s = 12 * 60; // and behind it one that another locomotive was to reach
+constexpr int kStrojDrzen_min = 120;   // before the departure of its next train a locomotive stays for it
+constexpr int kStrojuVOdstavu = 3;     // locomotives without a train may stand in the yard
+constexpr int kOdjezdPovelem_s = 60;   // before its time a train is given the order to leave
+constexpr int kPretahPozde_s =
+    10 * 60; // a train later than that keeps its locomotive where the change takes long,
+constexpr int kPretahKonec_s = 25 * 60; // and gives up a change that was begun
 constexpr int kPretah_s =
     4 * 60; // for which a section before the station is free for a set that changes there
-constexpr double kPosun_ms = 7.0;      // metres a second
-constexpr double kUrcena_m = 8000;     // metres by which the locomotive that goes already is preferred,
-constexpr double kBezCesty_m = 50'000; // and by which one is avoided whose way is blocked
-constexpr int kPriprava_s = 15;        // until the signal of a shunt route clears
+constexpr double kPosun_ms = 7.0; // metres a second
+constexpr int kPriprava_s = 15;   // until the signal of a shunt route clears
 
 constexpr TextPohled kZaloha = "ZAL";
 
 // What is kept of a record between two looks: reasons and clocks only.
 struct Pamet {
-    std::int32_t cislo = 0;   // of the record, else it is another one
-    std::int32_t od_s = 0;    // since when it stands with nothing done
-    std::int32_t zadatel = 0; // number of the train for which the locomotive goes
-    bool veden = false;       // it was given a route of ours
+    std::int32_t cislo = 0;      // of the record, else it is another one
+    std::int32_t od_s = 0;       // since when it stands with nothing done
+    std::int32_t zadatel = 0;    // number of the train for which the locomotive goes
+    std::int32_t znovu_s = 0;    // a way is not looked for before that second
+    std::int32_t prirazen_s = 0; // when the locomotive was chosen for that train
 };
 std::vector<Pamet> pamet;
-std::int32_t dalsi_obhlidka_s = 0;
+std::int32_t dalsi_obhlidka_s = 0, hledani_znovu_s = 0; // when it is looked, and looked for locomotives, next
 
 Pamet& pamet_c(int v) {
     if (pamet.size() < vlaky.size())
         pamet.resize(vlaky.size());
     Pamet& p = pamet[static_cast<std::size_t>(v)];
     if (p.cislo != vlak_c(v).cislo)
-        p = {vlak_c(v).cislo, ted_s(), 0, false};
+        p = {vlak_c(v).cislo, ted_s(), 0, 0, 0};
     return p;
 }
 
@@ -154,6 +160,11 @@ bool jsou_zalohy(const Vlak& v) {
     return std::all_of(v.vozy.begin(), v.vozy.end(), [](const Vuz& vuz) { return vuz.urceni == kZaloha; });
 }
 
+bool je_jednotka(const Vlak& v) {
+    return std::any_of(v.vozy.begin(), v.vozy.end(),
+                       [](const Vuz& vuz) { return vuz.rada == uzel::kVuzJednotky; });
+}
+
 // The train from which the locomotive came off: the record of the same number that has none at its head.
 int vlastni_vlak(int v) {
     for (std::size_t i = 0; i < vlaky.size(); ++i)
@@ -162,12 +173,9 @@ int vlastni_vlak(int v) {
     return kZadny;
 }
 
-// A locomotive by itself. A railcar is one only while coaches of its train wait for it.
+// A locomotive by itself, or a railcar that may draw coaches.
 bool je_stroj(int v) {
-    const Vlak& t = vlak_c(v);
-    if (!jen_loko(t))
-        return false;
-    return rada_cela(t) < kPrvniMotorovyVuz || vlastni_vlak(v) != kZadny;
+    return jen_loko(vlak_c(v)) && !je_jednotka(vlak_c(v));
 }
 
 std::int32_t urceni_cisla(const Vlak& v) {
@@ -269,7 +277,6 @@ Posun posun_na(int v, int kam, Strana strana, int ke, bool naleha) {
     }
     slib_posunu(v, kam, prvky, trva_s);
     pamet_c(v).od_s = ted_s();
-    pamet_c(v).veden = true;
     Text veta = jmeno_posunu(v);
     veta += " posunuje z "_cz;
     veta += koleje(e);
@@ -312,9 +319,11 @@ bool stoji_vlak(int v) {
 void pozadej(int v) {
     const Vlak& t = vlak_c(v);
     const int e = kolej_cela(t), stanice = stanice_stani(t);
+    // Without a locomotive at its head it goes nowhere, though an assisting one has been coupled already.
+    const bool zmena = t.loko_rada2 > 0 && je_v(stanice, {dopravna::tesk, dopravna::hajovice}) && !ma_celo(t);
     if (!je_v(stanice, {dopravna::tesk, dopravna::hajovice, dopravna::dolni}) ||
-        stanice_prvku(e) != stanice || t.vozy.empty() || stoji_na_posledni(t) ||
-        (ma_loko(t) && !ceka_na_povel(t)))
+        !vypravci::ma_stanici(stanice) || stanice_prvku(e) != stanice || t.vozy.empty() ||
+        stoji_na_posledni(t) || (ma_loko(t) && !ceka_na_povel(t) && !zmena))
         return;
     const Strana celo = t.smer ? Strana::prava : Strana::leva, konec = t.smer ? Strana::leva : Strana::prava;
     const bool vymena = t.loko_rada2 > 0 && stanice != dopravna::dolni;
@@ -323,7 +332,8 @@ void pozadej(int v) {
     const int odjezd = odjezd_za_s(t);
     if (!ma_celo(t) || (druhe && !druhy_je_loko(t)))
         zadosti.push_back({v, e, celo, rada, druhe && !ma_celo(t), odjezd, kZadny});
-    if (stanice != dopravna::dolni && (t.priznaky & priznak_vlaku::pripraz) != 0 && !posledni_je_loko(t))
+    if (ma_celo(t) && stanice != dopravna::dolni && (t.priznaky & priznak_vlaku::pripraz) != 0 &&
+        !posledni_je_loko(t))
         zadosti.push_back({v, e, konec, vymena ? t.loko_rada2 : t.loko_rada, false, odjezd, kZadny});
 }
 
@@ -341,8 +351,9 @@ int vhodnost(int stroj, const Zadost& z) {
         return 0;
     if (pro != 0 && do_odjezdu_vlaku_min(pro) < kStrojDrzen_min)
         return -1;
-    if (rada >= kPrvniMotorovyVuz)
-        return -1;
+    if (rada != z.rada &&
+        (rada >= kPrvniMotorovyVuz || (z.rada >= kPrvniMotorovyVuz && z.odjezd_s > kVyckavani_s)))
+        return -1; // another railcar will come, if there is time
     if (rada != z.rada)
         cena += uzel::zastoupi(rada, z.rada) ? 1500 : 1'000'000;
     if (cena >= 1'000'000)
@@ -406,26 +417,35 @@ void prirad_stroje() {
             double cena = vhodnost(s, z);
             if (cena < 0)
                 continue;
-            const bool jede = pamet_c(s).zadatel == vlak_c(z.vlak).cislo;
+            const Pamet& p = pamet_c(s);
+            const bool jede =
+                p.zadatel == vlak_c(z.vlak).cislo && (ted_s() - p.prirazen_s < kUrcena_s || ma_cestu(s));
             if (je_u_vlaku(s, z)) {
                 cena = 0;
-            } else if (ma_cestu(s)) {
-                if (!jede)
-                    continue;
+            } else if (jede) {
+                cena = 1; // whoever goes already
+            } else if (ma_cestu(s) || ted_s() < hledani_znovu_s) {
+                continue;
             } else {
                 const auto cesta = najdi_posun(ukol_stroje(s, z));
-                if (!cesta && !jede)
+                if (!cesta)
                     continue;
-                cena += (cesta ? cesta->cena_m : kBezCesty_m) - (jede ? kUrcena_m : 0);
+                cena += cesta->cena_m;
             }
             if (cena < nejlepsi) {
                 nejlepsi = cena;
                 z.stroj = s;
             }
         }
-        if (z.stroj != kZadny)
-            pamet_c(z.stroj).zadatel = vlak_c(z.vlak).cislo;
+        if (z.stroj == kZadny)
+            continue;
+        Pamet& p = pamet_c(z.stroj);
+        if (p.zadatel != vlak_c(z.vlak).cislo || ted_s() - p.prirazen_s >= kUrcena_s)
+            p.prirazen_s = ted_s();
+        p.zadatel = vlak_c(z.vlak).cislo;
     }
+    if (ted_s() >= hledani_znovu_s)
+        hledani_znovu_s = ted_s() + kZnovu_s;
 }
 
 // A locomotive of that series, or one that does its work, is called out of the depot of Hajovice.
@@ -447,8 +467,10 @@ bool zavolej(const Zadost& z) {
     if (rada.empty() || !zavolej_lokomotivu(brana.popis, rada))
         return false;
     for (std::size_t i = 0; i < vlaky.size(); ++i)
-        if (vlaky[i].cislo > 0 && vlaky[i].posun && kolej_cela(vlaky[i]) == brana.kolej)
+        if (vlaky[i].cislo > 0 && vlaky[i].posun && kolej_cela(vlaky[i]) == brana.kolej) {
             pamet_c(static_cast<int>(i)).zadatel = vlak_c(z.vlak).cislo;
+            pamet_c(static_cast<int>(i)).prirazen_s = ted_s();
+        }
     Text veta("Pro "_cz);
     veta += jmeno_vlaku(vlak_c(z.vlak));
     veta += " volá z depa lokomotivu "_cz;
@@ -458,9 +480,30 @@ bool zavolej(const Zadost& z) {
     return true;
 }
 
+// The small depot gives railcars, which come to the station as trains; one on its way is enough.
+bool zavolej_motorovy(const Zadost& z) {
+    const auto rada = std::find_if(uzel::kRadyDepaVh.begin(), uzel::kRadyDepaVh.end(),
+                                   [&z](TextPohled r) { return rada_vozu(r) == z.rada; });
+    const int brana = uzel::kBranaVh.kolej;
+    if (rada == uzel::kRadyDepaVh.end() || je_obsazena(brana) || !je_volna(brana) || !cil_volny(brana) ||
+        std::any_of(vlaky.begin(), vlaky.end(), [&z](const Vlak& v) {
+            return v.cislo > 0 && v.druh == druh_vlaku::lv && jen_loko(v) && rada_cela(v) == z.rada;
+        }))
+        return false;
+    if (!zavolej_lokomotivu(uzel::kBranaVh.popis, *rada))
+        return false;
+    Text veta("Pro "_cz);
+    veta += jmeno_vlaku(vlak_c(z.vlak));
+    veta += " volá z depa motorový vůz "_cz;
+    veta += *rada;
+    veta += "."_cz;
+    vypravci::rekni(vlak_c(z.vlak).cislo, std::move(veta));
+    return true;
+}
+
 // The locomotive that came off stands still at the end where another one is wanted.
-int puvodni_stroj(const Zadost& z) {
-    const int s = soused(z.vlak, z.kolej, z.strana);
+int puvodni_stroj(const Zadost& z, Strana strana) {
+    const int s = soused(z.vlak, z.kolej, strana);
     return s != kZadny && vlak_c(s).posun && jen_loko(vlak_c(s)) && cely_na_koleji(vlak_c(s)) && !ma_cestu(s)
                ? s
                : kZadny;
@@ -485,9 +528,9 @@ bool pripoj(const Zadost& z, int stroj, TextPohled proc) {
 // it the set goes back to one of the sections before the station, changes there, and comes again.
 bool zacni_pretah(const Zadost& z) {
     if (z.strana != Strana::prava || !uzel::je_kolej_hlavniho(z.kolej) || vlak_c(z.vlak).loko_rada2 <= 0 ||
-        z.odjezd_s < -kVyckavani_s)
+        z.odjezd_s < -kPretahPozde_s)
         return false;
-    const int puvodni = puvodni_stroj(z);
+    const int puvodni = puvodni_stroj(z, z.strana);
     if (puvodni == kZadny || soused(z.vlak, z.kolej, Strana::leva) != kZadny)
         return false;
     const Vlak& t = vlak_c(z.vlak);
@@ -539,18 +582,27 @@ void obsluz_zadost(const Zadost& z) {
         }
         // Its place at the train has to be free: what came off goes first.
         const int prekazi = soused(z.vlak, z.kolej, z.strana);
-        if (prekazi == kZadny && !ma_cestu(z.stroj) && stoji(z.stroj))
-            posun_na(z.stroj, z.kolej, z.strana, z.vlak, ted_s() - pamet_c(z.stroj).od_s > kNaleha_s / 2);
+        if (prekazi == kZadny && ted_s() >= pamet_c(z.stroj).znovu_s && stoji(z.stroj) &&
+            posun_na(z.stroj, z.kolej, z.strana, z.vlak, ted_s() - pamet_c(z.stroj).od_s > kNaleha_s / 2) !=
+                Posun::jede)
+            pamet_c(z.stroj).znovu_s = ted_s() + kZnovu_s;
     }
-    const int puvodni = puvodni_stroj(z);
+    const int puvodni = puvodni_stroj(z, z.strana);
     const bool v_hajovicich = stanice_stani(t) == dopravna::hajovice;
     if (z.stroj == kZadny && v_hajovicich && zavolej(z))
         return;
+    if (z.stroj == kZadny && stanice_stani(t) == dopravna::tesk && zavolej_motorovy(z))
+        return;
     if (z.stroj == kZadny && zacni_pretah(z))
         return;
-    if (z.stroj == kZadny && puvodni != kZadny && z.odjezd_s < kVyckavani_s &&
+    if (puvodni != kZadny && z.odjezd_s < (z.stroj == kZadny ? kVyckavani_s : -kNedorazila_s) &&
         pripoj(z, puvodni, " pokračuje s původní lokomotivou "_cz))
         return;
+    // Better slowly, pushed from behind, than not at all.
+    if (z.odjezd_s < -kNedorazila_s && !ma_loko(t))
+        if (const int tlaci = puvodni_stroj(z, z.strana == Strana::leva ? Strana::prava : Strana::leva);
+            tlaci != kZadny && tlaci != z.stroj && pripoj(z, tlaci, " odjede tlačen lokomotivou "_cz))
+            return;
     Text veta = jmeno_vlaku(t);
     veta += " čeká na lokomotivu "_cz;
     veta += text_cisla(z.rada);
@@ -635,13 +687,39 @@ bool je_k_nastupu(int v) {
     return t.stanice_index < 0; // an engine of the timetable without a platform
 }
 
-// Its train stands at a platform or has left already: the yard has sent a second set.
-bool je_navic(int v) {
-    for (std::size_t i = 0; i < vlaky.size(); ++i)
-        if (static_cast<int>(i) != v && vlaky[i].cislo == vlak_c(v).cislo && !vlaky[i].posun &&
-            ma_vozy(vlaky[i]) == ma_vozy(vlak_c(v)))
+// The journal tells that the train of the number has left the main station in the last hours.
+bool odjel_z_tesku(std::int32_t cislo) {
+    constexpr int kZpet_min = 6 * 60;
+    constexpr TextPohled kVlak = "Vlak ";
+    Text zacatek(kVlak);
+    zacatek += text_cisla(cislo);
+    zacatek += " odjel z Teska hl. n."_cz;
+    int zpet_min = 0, pozdeji = minuta_dne(cas_hodin());
+    const auto& radky = relief.lstDenik.radky;
+    for (auto r = radky.rbegin(); r != radky.rend(); ++r) {
+        const auto mezera = r->find_last_of(' ');
+        if (mezera == Text::npos || r->compare(0, kVlak.size(), kVlak) != 0)
+            continue; // what else is told there has no time
+        const int minuta = sekundy_textu(TextPohled(*r).substr(mezera + 1)) / 60;
+        zpet_min += (pozdeji - minuta + kDen_min) % kDen_min;
+        pozdeji = minuta;
+        if (zpet_min > kZpet_min)
+            return false;
+        if (r->compare(0, zacatek.size(), zacatek) == 0)
             return true;
+    }
     return false;
+}
+
+// Its train stands at a platform or has left already: the yard has sent a second set, because the first one
+// came late.
+bool je_navic(int v) {
+    const Vlak& t = vlak_c(v);
+    for (std::size_t i = 0; i < vlaky.size(); ++i)
+        if (static_cast<int>(i) != v && vlaky[i].cislo == t.cislo && !vlaky[i].posun &&
+            ma_vozy(vlaky[i]) == ma_vozy(t) && (t.posun || vlaky[i].muze_jet || vlaky[i].stanice_index > 0))
+            return true;
+    return odjezd_za_s(t) < 0 && odjel_z_tesku(t.cislo);
 }
 
 // --- where a movement goes that has nothing to do
@@ -699,14 +777,13 @@ void ved_stroj(int v) {
         if (z.kolej == e && z.stroj == kZadny && soused(z.vlak, e, z.strana) == v)
             return;
     if (uzel::je_odstavna_kolej(e)) {
-        const bool ceka = t.vozy.front().urceni == kZaloha ||
-                          (pro != 0 && (do_odjezdu_vlaku_min(pro) < kStrojDrzen_min || je_na_stole(pro)));
-        if (ceka)
-            return;
         int obsazeno = 0;
         for (const int k : uzel::kOdstavneKoleje)
             obsazeno += je_obsazena(k) ? 1 : 0;
-        if (obsazeno > 3 || pro != 0)
+        const bool ma_misto = obsazeno <= kStrojuVOdstavu || rada_cela(t) == uzel::kRadaZalohy;
+        const bool zaloha = t.vozy.front().urceni == kZaloha && ma_misto;
+        const bool pro_vlak = pro != 0 && (do_odjezdu_vlaku_min(pro) < kStrojDrzen_min || je_na_stole(pro));
+        if (!zaloha && !pro_vlak && (!ma_misto || pro != 0))
             odejdi(v);
         return;
     }
@@ -757,6 +834,10 @@ void ved_k_nastupu(int v) {
     const int odjezd_s = t.zastavky.front().stanice == dopravna::tesk
                              ? (t.zastavky.front().odjezd - cas_min()) * 60 - cas_hodin() % 60
                              : 0;
+    if (t.zastavky.front().stanice == dopravna::tesk && je_navic(v)) {
+        odejdi(v);
+        return;
+    }
     if (uzel::je_kolej_hlavniho(e)) {
         if (!cely_na_koleji(t))
             return;
@@ -768,10 +849,6 @@ void ved_k_nastupu(int v) {
             veta += "."_cz;
             vypravci::rekni(t.cislo, std::move(veta));
         }
-        return;
-    }
-    if (uzel::je_pristaveni(e) && je_navic(v)) {
-        odejdi(v);
         return;
     }
     bool tlaci = e == 25 || e == uzel::kKusaKolej;
@@ -802,7 +879,7 @@ void ved_pretah(int v) {
         return;
     const int vpravo = stroj_vpravo(t);
     const bool vymeneno = vpravo != 0 && (vpravo == t.loko_rada2 || vpravo != t.loko_rada);
-    const bool zpet = vymeneno || odjezd_za_s(t) < -kVyckavani_s;
+    const bool zpet = vymeneno || odjezd_za_s(t) < -kPretahKonec_s;
     const bool naleha = ted_s() - pamet_c(v).od_s > kNaleha_s / 4;
     if (!zpet && uzel::je_kolej_hlavniho(e)) {
         for (const int k : uzel::kPretah)
@@ -830,8 +907,10 @@ void ved_pretah(int v) {
 
 void ved_posun(int v) {
     const Vlak& t = vlak_c(v);
-    if (t.vozy.empty() || !vypravci::ma_stanici(uzel::stanice_posunu(kolej_cela(t))) || !stoji(v))
+    if (t.vozy.empty() || ted_s() < pamet_c(v).znovu_s ||
+        !vypravci::ma_stanici(uzel::stanice_posunu(kolej_cela(t))) || !stoji(v))
         return;
+    pamet_c(v).znovu_s = ted_s() + kZnovu_s;
     if (je_na_pretahu(t)) {
         ved_pretah(v);
         return;
@@ -872,7 +951,7 @@ bool odves_zalohu(int v) {
 void ved_konec(int v) {
     const Vlak& t = vlak_c(v);
     const int e = kolej_cela(t);
-    const int ceka_s = veze_postu(t) ? kVykladka_s : kVystup_s;
+    const int ceka_s = veze_postu(t) ? kVykladka_s : je_stroj(v) ? 0 : kVystup_s;
     if (ted_s() - pamet_c(v).od_s < ceka_s || ma_cestu(v))
         return;
     Text veta = jmeno_vlaku(t);
@@ -897,6 +976,11 @@ void ved_vlak(int v) {
     const int e = kolej_cela(t);
     if (odves_zalohu(v))
         return;
+    if (uzel::je_kolej_hlavniho(e) && t.zastavky.front().stanice == dopravna::tesk && t.stanice_index <= 0 &&
+        odjezd_za_s(t) < 0 && je_navic(v)) {
+        ved_konec(v);
+        return;
+    }
     if (uzel::je_kolej_hlavniho(e) && stoji_na_posledni(t) && t.zastavky.back().stanice == dopravna::tesk) {
         ved_konec(v);
         return;
@@ -918,7 +1002,7 @@ void ved_vlak(int v) {
 void zacni_posun() {
     nacti_posunovou_sit();
     pamet.clear();
-    dalsi_obhlidka_s = 0;
+    dalsi_obhlidka_s = hledani_znovu_s = 0;
 }
 
 void krok_posunu() {
