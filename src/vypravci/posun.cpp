@@ -268,7 +268,7 @@ Posun posun_na(int v, int kam, Strana strana, int ke, bool naleha) {
     if (const int komu = slibena(cil); komu != kZadny && komu != v && komu != ke)
         return Posun::ceka;
     const int trva_s = kPriprava_s * static_cast<int>(useku) + static_cast<int>(delka_m / kPosun_ms);
-    if (!naleha && !volno_pro_posun(prvky, 0, trva_s))
+    if (!naleha && !volno_pro_posun(prvky, trva_s, e, kam))
         return Posun::ceka;
     for (std::size_t i = 0; i < useku; ++i) {
         const ZaznamCesty& z = sit_posunu().trasy[cesta->trasy[i]].zaznam;

@@ -73,11 +73,12 @@ bool volno_v_case(std::span<const PrvekCesty> prvky, int za_s, int trva_s, int v
     });
 }
 
-bool volno_pro_posun(std::span<const PrvekCesty> prvky, int za_s, int trva_s) {
+bool volno_pro_posun(std::span<const PrvekCesty> prvky, int trva_s, int odkud, int kam) {
     obnov_sliby_jizd();
-    const std::int32_t od = ted_s() + za_s;
+    const std::int32_t od = ted_s();
     return std::none_of(vsechny.begin(), vsechny.end(), [&](const Slib& s) {
-        return !s.posun && plati(s) && potrebuje(s, prvky, od, od + trva_s);
+        return !s.posun && plati(s) && !drzi_prvek(vlak_c(s.vlak), odkud) &&
+               !drzi_prvek(vlak_c(s.vlak), kam) && potrebuje(s, prvky, od, od + trva_s);
     });
 }
 

@@ -45,8 +45,9 @@ void zrus_slib(int v);
 
 // No other than v needs one of the elements from `za_s` seconds on for `trva_s` seconds.
 bool volno_v_case(std::span<const PrvekCesty> prvky, int za_s, int trva_s, int v);
-// The same for a shunting movement: no train is in its way meanwhile.
-bool volno_pro_posun(std::span<const PrvekCesty> prvky, int za_s, int trva_s);
+// The same for a shunting movement from now on: no train comes over the elements meanwhile. A train that stands
+// where the movement begins or ends is the one for which it goes, and waits.
+bool volno_pro_posun(std::span<const PrvekCesty> prvky, int trva_s, int odkud, int kam);
 // To whom the track is promised: index of a train or shunting movement, kZadny nobody.
 int slibena(int kolej);
 // Seconds until the first train other than v needs the track; a large number when none does.
