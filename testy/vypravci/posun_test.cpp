@@ -281,6 +281,69 @@ TEST_F(PosunVypravciho, TrainThatEndsIsTakenToTheYard) {
         EXPECT_EQ(relief.kolej[kolej].barva, barvy::seda) << kolej;
 }
 
+TEST_F(PosunVypravciho, SetOfTheYardGoesBackWhenTheOneThatWasLateHasCome) {
+    zacni(kZOdstavu);
+    vypravci::predej();
+    nech_bezet_min(2);
+    const int z_odstavu = s_cislem(13301);
+    ASSERT_EQ(vlak_c(z_odstavu).prvky.back().prvek, 538);
+    const int v = prijede(31, false, 13301,
+                          {stop(9, -3, minuta(31)), stop(7, minuta(37), minuta(38)), stop(2, minuta(52), -3)},
+                          0, {"560", "060", "060", "560"}, 560, 0, 96);
+    nech_bezet_min(8);
+    EXPECT_EQ(vlak_c(z_odstavu).cislo, kZadny);
+    EXPECT_EQ(vlak_c(v).cislo, 13301);
+    EXPECT_EQ(vlak_c(v).prvky.back().prvek, 31);
+}
+
+TEST_F(PosunVypravciho, RailcarOfTheSmallDepotTakesTheCoachesWhoseOwnIsShutIn) {
+    zacni();
+    const int v = prijede(27, true, 17802,
+                          {stop(9, -3, minuta(40)), stop(8, minuta(46), minuta(47)), stop(1, minuta(53), -3)},
+                          0, {"842", "Bdtn"}, 842, 0, 42);
+    ASSERT_FALSE(vlak_c(v).smer); // it goes back the way that it came
+    ASSERT_EQ(vozy(v), (std::vector<std::string>{"Bdtn", "842"}));
+    const int zavreny = odvesit(v, 1, false);
+    ASSERT_NE(zavreny, kZadny);
+    vypravci::predej();
+    nech_bezet_min(20);
+    EXPECT_EQ(vozy(v), (std::vector<std::string>{"842", "Bdtn"}));
+    EXPECT_TRUE(rekl("volá z depa motorový vůz 842"));
+    EXPECT_EQ(vlak_c(zavreny).prvky.back().prvek, 27);
+}
+
+TEST_F(PosunVypravciho, TrainWithoutAnyOtherLocomotiveIsPushedByTheOneThatIsShutIn) {
+    zacni();
+    const int v = prijede(27, true, 17802,
+                          {stop(9, -3, minuta(2)), stop(8, minuta(8), minuta(9)), stop(1, minuta(15), -3)}, 0,
+                          {"854", "Bdtn"}, 854, 0, 42);
+    ASSERT_NE(odvesit(v, 1, false), kZadny);
+    const std::array<std::uint8_t, 1> stanice{dopravna::tesk};
+    vypravci::predej(stanice);
+    nech_bezet_min(13);
+    EXPECT_EQ(vozy(v).size(), 1u);
+    nech_bezet_min(4);
+    EXPECT_EQ(vozy(v), (std::vector<std::string>{"Bdtn", "854"}));
+    EXPECT_TRUE(rekl("odjede tlačen lokomotivou 854"));
+}
+
+TEST_F(PosunVypravciho, AssistingLocomotiveComesBehindWhenTheHeadHasItsOwn) {
+    zacni();
+    const int v = prijede(27, true, 65501,
+                          {stop(5, -3, minuta(-6)), stop(9, minuta(0), minuta(12)), stop(27, minuta(25), -3)},
+                          1, {"751", "Eas", "Eas"}, 751, 363, 100);
+    vlak_c(v).priznaky = priznak_vlaku::pripraz;
+    const int stroj =
+        prijede(558, false, 9, {stop(28, -3, minuta(-90)), stop(9, minuta(-80), -3)}, 1, {"362"}, 362, 0, 18);
+    vlak_c(stroj).posun = true;
+    vlak_c(stroj).muze_jet = true;
+    vypravci::predej();
+    nech_bezet_min(30);
+    // by its platform, or on its way: with a locomotive at its head
+    ASSERT_EQ(vlak_c(v).cislo, 65501);
+    EXPECT_TRUE(je_loko(vlak_c(v).vozy.front().rada));
+}
+
 TEST_F(PosunVypravciho, NothingIsShuntedInAStationThatWasNotHandedOver) {
     zacni();
     const int v = prijede(30, false, 13642, {stop(6, -3, minuta(-25)), stop(9, minuta(0), -3)}, 1,
