@@ -13,6 +13,7 @@
 
 #include <QComboBox>
 #include <QCoreApplication>
+#include <QFrame>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -46,7 +47,7 @@ QString jmeno_souboru(const Text& cesta) {
     return cela.mid(cela.lastIndexOf(u'\\') + 1);
 }
 
-class OknoSmeny : public QWidget {
+class OknoSmeny : public QFrame {
 public:
     explicit OknoSmeny(HlavniOkno& stul);
     void obnov();
@@ -75,7 +76,8 @@ private:
 
 QPointer<OknoSmeny> otevrene;
 
-OknoSmeny::OknoSmeny(HlavniOkno& stul_) : QWidget(&stul_, Qt::Tool), stul(stul_) {
+OknoSmeny::OknoSmeny(HlavniOkno& stul_) : QFrame(&stul_, Qt::Tool), stul(stul_) {
+    setFrameStyle(QFrame::Panel | QFrame::Raised); // no window manager, no border
     setWindowTitle(QStringLiteral("Záznam směny"));
     setAttribute(Qt::WA_DeleteOnClose);
     nadpis = new QLabel;
@@ -234,11 +236,11 @@ void OknoSmeny::keyPressEvent(QKeyEvent* udalost) {
     else if (udalost->key() >= Qt::Key_F1 && udalost->key() <= Qt::Key_F12)
         QCoreApplication::sendEvent(&stul, udalost);
     else
-        QWidget::keyPressEvent(udalost);
+        QFrame::keyPressEvent(udalost);
 }
 
 void OknoSmeny::closeEvent(QCloseEvent* udalost) {
-    QWidget::closeEvent(udalost);
+    QFrame::closeEvent(udalost);
     stul.activateWindow(); // where no window manager gives the keys back
 }
 

@@ -40,9 +40,16 @@ def otevri_okno(stul):
 stul = s.Stul(program, slozka)
 s.prihlas(stul, rychle=True)
 cekej_stav(stul)
+stul.cekej("vlak", lambda: stul.stav("vlak"))
 mapa = stul.mapa()
-stul.cekej("vlak", lambda: stul.stav("vlak") and stul.cas_s() > 43200 + 70)
-stul.klikni(*mapa["navestidlo", 287])
+for _ in range(100):  # the first map may be of a window that has not its whole size yet
+    mapa = stul.mapa()
+    stul.klikni(*mapa["navestidlo", 287])
+    konec = time.monotonic() + 2
+    while time.monotonic() < konec and stul.obraz().bodu(*s.RADEK_PRIKAZU, s.ZELENA) < 100:
+        time.sleep(s.KROK)
+    if time.monotonic() < konec:
+        break
 stul.klikni(*s.stred(73, 8))
 stul.cekej("dvě minuty služby", lambda: stul.cas_s() > 43200 + 150)
 stul.klavesa("F10")
@@ -73,7 +80,8 @@ stul.program.wait()
 puvodni = gtn("*.gtn")
 subprocess.run([davka, zaznam], cwd=slozka, check=True)
 prehrany = gtn("*.gtn")
-assert len(prehrany) > 100 and puvodni.startswith(prehrany), "přehraný záznam je jiný"
+delka = min(len(prehrany), len(puvodni))  # what follows in the very moment of the minute only one of them may have
+assert delka > 150 and puvodni[:delka] == prehrany[:delka], "přehraný záznam je jiný"
 with open(zaznam, encoding="utf-8") as f:
     assert any(radek.startswith("klik navestidlo 287") for radek in f), "záznam nemá volbu cesty"
 stul.konec()
@@ -102,8 +110,9 @@ stul.klikni(*mapa["navestidlo", 287])  # the watcher's hand does nothing
 time.sleep(0.5)
 stul.obraz("na_case")
 stul.bez_vad()
-stul.klavesa("alt+p")
-stul.cekej("záznam převzaté směny", lambda: len(zaznamy()) == 2)
+stul.klavesa("F4")  # the click has brought the keys to the desk
+time.sleep(0.5)
+stul.tiskni("alt+p", "záznam převzaté směny", lambda: len(zaznamy()) == 2)
 stul.obraz("prevzato")
 stul.klavesa("Escape")
 stul.cekej("hodiny převzaté směny", lambda: stul.cas_s() > 43200 + 130)
