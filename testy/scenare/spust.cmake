@@ -53,6 +53,23 @@ if(BEHU EQUAL 2)
   endforeach()
 endif()
 
+# The record of the shift is a script of its own that plays to the same log.
+if(logy AND kod EQUAL 0)
+  foreach(beh 3 4)
+    file(COPY ${SLOZKA}/1/program/ DESTINATION ${SLOZKA}/${beh}/program PATTERN "GTN" EXCLUDE PATTERN "save" EXCLUDE)
+  endforeach()
+  file(READ ${SCENAR} skript)
+  file(WRITE ${SLOZKA}/se_zaznamem.tesk "${skript}\nzaznam ${SLOZKA}/zaznam.tesk\n")
+  execute_process(COMMAND ${DAVKA} --slozka ${SLOZKA}/3/program ${SLOZKA}/se_zaznamem.tesk OUTPUT_QUIET)
+  execute_process(COMMAND ${DAVKA} --slozka ${SLOZKA}/4/program ${SLOZKA}/zaznam.tesk RESULT_VARIABLE kod_zaznamu)
+  if(kod_zaznamu)
+    message(FATAL_ERROR "${jmeno}: the record of the shift ends with ${kod_zaznamu}")
+  endif()
+  foreach(log ${logy})
+    porovnej(${SLOZKA}/3/program/GTN/${log} ${SLOZKA}/4/program/GTN/${log} "the record plays to another log")
+  endforeach()
+endif()
+
 # Where the script has a file *.udalosti, the events of its log are compared one by one.
 string(REGEX REPLACE "\\.tesk$" ".udalosti" udalosti ${SCENAR})
 if(EXISTS ${udalosti})
