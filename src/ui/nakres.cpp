@@ -399,7 +399,7 @@ void OknoNakresu::cely_den() {
 void OknoNakresu::vyber(std::int32_t cislo, bool na_stul) {
     co.vybrany = cislo;
     if (cislo != 0)
-        v_jadre([&] { ukaz_vlak(cislo); });
+        rukou([&] { ukaz_vlak(cislo); });
     prekresli();
     if (HlavniOkno* deska = HlavniOkno::otevrene())
         deska->obnov();

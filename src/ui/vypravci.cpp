@@ -194,7 +194,7 @@ QListWidget* OknoVypravciho::seznam_vet() {
     s->setToolTip(QStringLiteral("Klepnutí na řádek vlak vyhledá na stole"));
     connect(s, &QListWidget::itemClicked, this, [](const QListWidgetItem* radek) {
         const std::int32_t vlak = radek->data(Qt::UserRole).toInt();
-        v_jadre([&] { ukaz_vlak(vlak); });
+        rukou([&] { ukaz_vlak(vlak); });
         if (HlavniOkno* deska = HlavniOkno::otevrene())
             deska->obnov();
     });
@@ -210,7 +210,7 @@ void OknoVypravciho::zmen_rozsah() {
         if (p->isChecked())
             rozsah.stanice.insert(kod);
     }
-    v_jadre([] {
+    rukou([] {
         if (!vypravci::zapnut())
             return;
         if (rozsah.vse || !rozsah.stanice.empty())
@@ -315,7 +315,7 @@ Prvek napis(int vlevo, int nahore, Text text, Barva popredi) {
 } // namespace
 
 void prepni_vypravciho() {
-    v_jadre([] {
+    rukou([] {
         if (vypravci::zapnut())
             vypravci::vezmi();
         else if (rozsah.vse || !rozsah.stanice.empty())
