@@ -150,6 +150,15 @@ with open(os.path.join(slozka, "n.svg"), encoding="utf-8") as f:
 assert "Lhotín – Borovec" in svg and "<title>vlak 4711</title>" in svg, svg[:400]
 assert len(re.findall("<title>vlak 4711</title>", svg)) == 2, "čára podle jízdního řádu a jetá"
 
+# --- the assessment of the shift so far, on a page over it
+oken = stul.okna()
+stul.tiskni("h", "hodnocení služby", lambda: stul.okna() > oken)
+stul.cekej_na_nalez("okno KPS RVZ TESK: hodnocení služby")
+time.sleep(1.2)
+stul.bez_vad()
+stul.obraz("hodnoceni")
+stul.tiskni("Escape", "zavřené hodnocení", lambda: stul.okna() == oken)
+
 # --- a double click shows the train and gives the desk back; its keys work
 obraz = stul.cekej_na("vybraná čára", lambda o: cara(o) > 300)
 misto = next((x, y) for y in range(stul.vyska // 4, stul.vyska // 2) for x in range(stul.sirka // 8, stul.sirka - 60)
@@ -163,6 +172,12 @@ time.sleep(1)
 stul.bez_vad()
 stul.tiskni("Escape", "zavřený nákres", lambda: not otevreny(stul.obraz()))
 stul.tiskni("ctrl+shift+F10", "konec programu", lambda: stul.program.poll() is not None)
+smeny = os.path.join(slozka, "smeny")
+stranky = [j for j in os.listdir(smeny) if j.endswith(".html")]
+assert len(stranky) == 1 and stranky[0][:-5] + ".tesk" in os.listdir(smeny), os.listdir(smeny)
+with open(os.path.join(smeny, stranky[0]), encoding="utf-8") as f:
+    stranka = f.read()
+assert "Hodnocení služby" in stranka and "<svg" in stranka and "vlak 4711" in stranka, stranka[:300]
 with open(os.path.join(slozka, "nastaveni", "KPS TESK", "nastaveni.ini"), encoding="utf-8") as f:
     assert "Trat=lho-bor" in f.read(), "trať se nezapamatovala"
 print("v pořádku")
