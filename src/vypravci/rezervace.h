@@ -45,8 +45,8 @@ void zrus_slib(int v);
 
 // No other than v needs one of the elements from `za_s` seconds on for `trva_s` seconds.
 bool volno_v_case(std::span<const PrvekCesty> prvky, int za_s, int trva_s, int v);
-// The same for a shunting movement from now on: no train comes over the elements meanwhile. A train that stands
-// where the movement begins or ends is the one for which it goes, and waits.
+// The same for a shunting movement from now on: no train comes over the elements meanwhile. A train that
+// stands where the movement begins or ends is the one for which it goes, and waits.
 bool volno_pro_posun(std::span<const PrvekCesty> prvky, int trva_s, int odkud, int kam);
 // To whom the track is promised: index of a train or shunting movement, kZadny nobody.
 int slibena(int kolej);
