@@ -283,13 +283,13 @@ TEST_F(PosunVypravciho, TrainThatEndsIsTakenToTheYard) {
 
 TEST_F(PosunVypravciho, SetOfTheYardGoesBackWhenTheOneThatWasLateHasCome) {
     zacni(kZOdstavu);
-    vypravci::predej();
     nech_bezet_min(2);
     const int z_odstavu = s_cislem(13301);
     ASSERT_EQ(vlak_c(z_odstavu).prvky.back().prvek, 538);
     const int v = prijede(31, false, 13301,
                           {stop(9, -3, minuta(31)), stop(7, minuta(37), minuta(38)), stop(2, minuta(52), -3)},
                           0, {"560", "060", "060", "560"}, 560, 0, 96);
+    vypravci::predej();
     nech_bezet_min(8);
     EXPECT_EQ(vlak_c(z_odstavu).cislo, kZadny);
     EXPECT_EQ(vlak_c(v).cislo, 13301);
