@@ -3,6 +3,7 @@
 #include "davka/davka.h"
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/semena.h"
+#include "vypravci/vypravci.h"
 
 #include <gtest/gtest.h>
 
@@ -705,4 +706,21 @@ TEST_F(Davka, SaveThatCannotBeReadEndsTheSimulation) {
     EXPECT_EQ(v.kod, navrat::konec_simulace);
     EXPECT_TRUE(obsahuje(v.vystup, "Stav simulace ze soboru")) << v.vystup;
     EXPECT_TRUE(obsahuje(duvod("uloz hra.sim\n"), "potřebuje spuštěnou simulaci"));
+}
+
+// --- the automatic dispatcher
+
+TEST_F(Davka, DeskOrSingleStationsAreHandedToTheDispatcherAndTakenBack) {
+    vypis(kStart + "over vypravci zapnut=ne povelu=0 pocet=0\n"
+                   "vypravci ano LHO TVH\nover vypravci zapnut=ano stanice=TVH,LHO\n"
+                   "vypravci ano\nover vypravci zapnut=ano stanice=\n"
+                   "krok vypravci\ncekej 10s\nvypravci ne\nover vypravci zapnut=ne\n");
+}
+
+TEST_F(Davka, UnknownStationIsNotHandedOver) {
+    EXPECT_TRUE(obsahuje(duvod(kStart + "vypravci ano TVX\n"), "řádek 3: stanice „TVX“ není; nemělo to být"));
+    EXPECT_TRUE(obsahuje(duvod(kStart + "vypravci ne TVH\n"), "píše se vypravci ano, vypravci ne"));
+    EXPECT_TRUE(obsahuje(duvod(kStart + "vypravci snad\n"), "píše se vypravci ano, vypravci ne"));
+    EXPECT_TRUE(obsahuje(duvod("vypravci ano\n"), "potřebuje spuštěnou simulaci"));
+    EXPECT_FALSE(vypravci::zapnut());
 }

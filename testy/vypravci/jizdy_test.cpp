@@ -1,0 +1,200 @@
+// testy/vypravci/jizdy_test.cpp - what the automatic dispatcher does with trains.
+#include "cesty/navest.h"
+#include "desk/stitky.h"
+#include "obsluha/vyber.h"
+#include "relief/relief.h"
+#include "uzel/trate.h"
+#include "vypravci/jizdy.h"
+#include "vypravci/svet_vypravciho.h"
+
+namespace {
+
+using namespace dopravna;
+
+class VypravciJizdy : public SVypravcim {
+protected:
+    // From Lhotín to Rokytno through the main station.
+    GvdVlak& z_lhotina(std::int32_t cislo, std::int16_t m) {
+        const auto t = [m](int za) { return static_cast<std::int16_t>(m + za); };
+        GvdVlak& r = motorak(cislo, {lhotin, vysni_hrabov, tesk, rybnice, knizeci_luka, rokytno},
+                             {-1, t(6), t(13), t(25), t(32), t(42)}, {t(0), t(7), t(17), t(26), t(33), -1});
+        r.kolej = "2";
+        return r;
+    }
+};
+
+} // namespace
+
+TEST_F(VypravciJizdy, TrainRunsThroughTheJunctionWithoutAnotherHandAndWithoutDelay) {
+    z_lhotina(101, 485);
+    zacni(8, 0);
+    vypravci::predej();
+    int nejvic = 0;
+    bool byl = false;
+    sekund(55 * 60, [&] {
+        if (const Vlak* v = najdi(101)) {
+            byl = true;
+            nejvic = std::max<int>(nejvic, v->zpozdeni);
+        }
+    });
+    EXPECT_TRUE(byl);
+    EXPECT_EQ(najdi(101), nullptr);
+    EXPECT_LE(nejvic, 1);
+    EXPECT_TRUE(std::any_of(relief.lstDenik.radky.begin(), relief.lstDenik.radky.end(),
+                            [](const Text& t) { return t.find("Vlak 101 odjel z Teska Kn") != Text::npos; }));
+    EXPECT_GT(stav_vypravciho.vety.size(), 5u);
+}
+
+TEST_F(VypravciJizdy, NobodyMovesWhileTheDeskIsTheOperators) {
+    z_lhotina(101, 485);
+    zacni(8, 0);
+    sekund(10 * 60);
+    ASSERT_NE(najdi(101), nullptr);
+    EXPECT_EQ(cesty.front().zacatek, -3);
+    EXPECT_TRUE(stav_vypravciho.vety.empty());
+}
+
+TEST_F(VypravciJizdy, DepartureRouteIsOrderedJustBeforeItIsNeeded) {
+    z_lhotina(101, 485);
+    zacni(8, 0);
+    vypravci::predej();
+    int prvni = 0;
+    sekund(6 * 60, [&] {
+        if (prvni == 0 && cesty.front().zacatek >= 0)
+            prvni = cas_hodin();
+    });
+    EXPECT_GE(prvni, 8 * 3600 + 5 * 60 - 75);
+    EXPECT_LT(prvni, 8 * 3600 + 5 * 60);
+    EXPECT_TRUE(najdi(101)->muze_jet);
+}
+
+TEST_F(VypravciJizdy, OfTwoTrainsAgainstEachOtherOnASingleLineOneWaitsWhereItCanBePassed) {
+    GvdVlak& ven = motorak(201, {vrbice, tesk, kamenec, mokrina, dubnice}, {-1, 488, 500, 505, 512},
+                           {480, 492, 501, 506, -1});
+    ven.kolej = "3";
+    GvdVlak& domu = motorak(202, {dubnice, mokrina, kamenec, tesk, vrbice}, {-1, 493, 499, 508, 518},
+                            {488, 494, 500, 512, -1});
+    domu.kolej = "4";
+    zacni(7, 55);
+    vypravci::predej();
+    bool cekal = false, na_trati = false;
+    sekund(75 * 60, [&] {
+        const Vlak *a = najdi(201), *b = najdi(202);
+        const bool a118 = a != nullptr && drzi_prvek(*a, uzel::kKamenec);
+        const bool b118 = b != nullptr && drzi_prvek(*b, uzel::kKamenec);
+        ASSERT_FALSE(a118 && b118);
+        na_trati = na_trati || a118 || b118;
+        for (const std::int32_t cislo : {201, 202})
+            cekal = cekal || ceka(cislo).find("Kamenec") != std::string::npos;
+    });
+    EXPECT_TRUE(na_trati);
+    EXPECT_TRUE(cekal);
+    EXPECT_EQ(najdi(201), nullptr);
+    EXPECT_EQ(najdi(202), nullptr);
+}
+
+TEST_F(VypravciJizdy, TrackUnderAPossessionIsNoTrackForATrain) {
+    z_lhotina(101, 485);
+    zacni(8, 0);
+    stitky.push_back({27, {}, {}, "výluka"});
+    vypravci::predej();
+    bool na_vyluce = false, na_jine = false;
+    sekund(55 * 60, [&] {
+        const Vlak* v = najdi(101);
+        na_vyluce = na_vyluce || (v != nullptr && drzi_prvek(*v, 27));
+        for (int e = 26; e <= 31; ++e)
+            na_jine = na_jine || (e != 27 && v != nullptr && drzi_prvek(*v, e));
+    });
+    EXPECT_FALSE(na_vyluce);
+    EXPECT_TRUE(na_jine);
+    EXPECT_EQ(najdi(101), nullptr);
+}
+
+TEST_F(VypravciJizdy, TrainBeforeABlockedSignalWaitsAndGoesOnWhenItIsGivenBack) {
+    z_lhotina(101, 485);
+    zacni(8, 0);
+    for (const int s : {287, 288, 286, 290, 289})
+        relief.navestidlo[s].barva = barvy::cervena;
+    vypravci::predej();
+    sekund(15 * 60);
+    ASSERT_NE(najdi(101), nullptr);
+    EXPECT_NE(ceka(101), "");
+    for (const int s : {287, 288, 286, 290, 289})
+        relief.navestidlo[s].barva = barvy::seda;
+    sekund(50 * 60);
+    EXPECT_EQ(najdi(101), nullptr);
+}
+
+TEST_F(VypravciJizdy, RoutesOfAStationThatIsNotHandedOverAreLeftToTheOperator) {
+    z_lhotina(101, 485);
+    zacni(8, 0);
+    const std::vector<std::uint8_t> jen{vysni_hrabov};
+    vypravci::predej(jen);
+    sekund(10 * 60);
+    ASSERT_NE(najdi(101), nullptr);
+    EXPECT_EQ(cesty.front().zacatek, -3);
+    // The operator sets the way out of Lhotín: the rest up to the main station is the dispatcher's.
+    const int kolej = najdi(101)->prvky.back().prvek;
+    klik(Druh::navestidlo, kolej + 200, Tlacitko::leve, false);
+    klik(Druh::cislo_koleje, 600, Tlacitko::leve, false);
+    bool v_hrabove = false, v_tesku = false;
+    sekund(20 * 60, [&] {
+        for (int e = 9; e <= 18; ++e)
+            v_hrabove = v_hrabove || drzi_prvek(*najdi(101), e);
+        for (int e = 26; e <= 35; ++e)
+            v_tesku = v_tesku || drzi_prvek(*najdi(101), e);
+    });
+    EXPECT_TRUE(v_hrabove);
+    EXPECT_FALSE(v_tesku);
+}
+
+TEST_F(VypravciJizdy, SelectionThatAnOperatorHasBegunIsLeftToHim) {
+    z_lhotina(101, 485);
+    zacni(8, 4);
+    sekund(5);
+    vypravci::predej();
+    klik(Druh::navestidlo, 264, Tlacitko::leve, false);
+    const Vyber vyber_pred = vyber;
+    sekund(5);
+    EXPECT_EQ(vyber.volba_zacatek, vyber_pred.volba_zacatek);
+    EXPECT_EQ(cesty.front().zacatek, -3);
+}
+
+TEST_F(VypravciJizdy, DeskThatIsTakenBackGetsNoMoreRoutes) {
+    z_lhotina(101, 485);
+    zacni(8, 0);
+    vypravci::predej();
+    sekund(8 * 60);
+    vypravci::vezmi();
+    const auto povelu = stav_vypravciho.povelu;
+    EXPECT_GT(povelu, 0);
+    sekund(10 * 60);
+    EXPECT_EQ(stav_vypravciho.povelu, povelu);
+    EXPECT_FALSE(vypravci::zapnut());
+}
+
+TEST_F(VypravciJizdy, TrainThatAsksForConsentGetsIt) {
+    motorak(301, {vrbice, tesk}, {-1, 490}, {482, -1}).kolej = "3";
+    zacni(7, 55);
+    vypravci::predej();
+    sekund(20 * 60);
+    ASSERT_NE(najdi(301), nullptr);
+    EXPECT_TRUE(drzi_prvek(*najdi(301), 28));
+}
+
+TEST_F(VypravciJizdy, RouteOfATrainThatIsNotLetGoIsTakenBack) {
+    z_lhotina(101, 485);
+    zacni(8, 0);
+    vypravci::predej();
+    sekund(4 * 60 + 50);
+    ASSERT_GE(cesty.front().zacatek, 0);
+    for (Vlak& v : vlaky)
+        if (v.cislo == 101)
+            v.zastavky.front().odjezd = static_cast<std::int16_t>(v.zastavky.front().odjezd + 60);
+    sekund(12 * 60, [] {
+        for (Vlak& v : vlaky)
+            if (v.cislo == 101)
+                v.muze_jet = false;
+    });
+    EXPECT_EQ(cesty.front().zacatek, -3);
+}

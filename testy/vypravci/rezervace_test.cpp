@@ -1,0 +1,43 @@
+// testy/vypravci/rezervace_test.cpp - promises of tracks and throats.
+#include "vypravci/rezervace.h"
+#include "vypravci/svet_vypravciho.h"
+
+namespace {
+
+class Rezervace : public SVypravcim {};
+
+} // namespace
+
+TEST_F(Rezervace, TrainNeedsItsPlatformAtItsTimeAndNotBefore) {
+    motorak(101, {dopravna::lhotin, dopravna::vysni_hrabov, dopravna::tesk}, {-1, 491, 499}, {485, 492, -1})
+        .kolej = "3";
+    zacni(8, 0);
+    vypravci::predej();
+    sekund(6 * 60);
+    ASSERT_NE(najdi(101), nullptr);
+    const std::vector<PrvekCesty> kolej3{{28, druh_prvku::kolej, 0}};
+    EXPECT_TRUE(volno_pro_posun(kolej3, 0, 120));
+    EXPECT_FALSE(volno_pro_posun(kolej3, 0, 15 * 60));
+    EXPECT_GT(volna_jeste_s(28, kZadny), 120);
+    EXPECT_LT(volna_jeste_s(28, kZadny), 15 * 60);
+    EXPECT_EQ(slibena(28), kZadny); // it stops at Hrabov first
+}
+
+TEST_F(Rezervace, PromiseOfAShuntingMovementEndsWithItsTimeAndWithItsRecord) {
+    motorak(101, {dopravna::lhotin, dopravna::tesk}, {-1, 499}, {485, -1});
+    zacni(8, 0);
+    vypravci::predej();
+    sekund(5 * 60);
+    const Vlak* v = najdi(101);
+    ASSERT_NE(v, nullptr);
+    const int i = static_cast<int>(v - vlaky.data());
+    const std::vector<PrvekCesty> prvky{{530, druh_prvku::kolej, 0}};
+    slib_posunu(i, 530, prvky, 60);
+    EXPECT_EQ(slibena(530), i);
+    EXPECT_FALSE(volno_v_case(prvky, 0, 10, kZadny));
+    EXPECT_TRUE(volno_v_case(prvky, 61, 10, kZadny));
+    EXPECT_TRUE(volno_v_case(prvky, 0, 10, i));
+    vlaky[static_cast<std::size_t>(i)].cislo = 0;
+    EXPECT_EQ(slibena(530), kZadny);
+    uklid_rezervace();
+}
