@@ -58,6 +58,7 @@ constexpr int kHledani_s = 60;         // between two searches for another way
 constexpr int kCekatNaKolej_s = 150;   // a train waits for its own platform that is free so soon,
 constexpr int kCekatNaVlastni_s = 240; // and no longer than this;
 constexpr int kCekatNaJinou_s = 60;    // for any other track
+constexpr int kCerstvaCesta_s = 30;    // a route that nothing hinders is commanded by then
 constexpr int kJinaKolejPo_s = 16;     // between two looks for another track
 constexpr int kUvolnitPo_s = 180;      // so long it waits before routes that nobody uses go out of its way
 constexpr int kVstup_min = 4;          // so long ahead entry tracks are kept free
@@ -682,10 +683,11 @@ int jiny_na_zacatku(const planovani::Trasa& t, int v) {
     return kZadny;
 }
 
-// A route that is ordered and not commanded yet holds nothing that can be seen, and will all the same.
+// A route that has just been ordered holds nothing that can be seen, and will all the same. One that has
+// waited for long waits for something else, perhaps for this very train.
 const Cesta* ceka_pred_ni(const ZaznamCesty& z) {
     for (const Cesta& c : cesty)
-        if (c.zacatek >= 0 && !c.prehozena)
+        if (c.zacatek >= 0 && !c.prehozena && ted_s() - c.cas_stavby < kCerstvaCesta_s)
             for (std::size_t k = 1; k < c.prvky.size(); ++k)
                 if (std::find_if(z.prvky.begin() + 1, z.prvky.end(), [&](const PrvekCesty& p) {
                         return p.druh == c.prvky[k].druh && p.prvek == c.prvky[k].prvek;
