@@ -6,8 +6,10 @@
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
 #include "cesty/drzeni.h"
+#include "cesty/navest.h"
 #include "cesty/nova_cesta.h"
 #include "desk/hlaseni.h"
+#include "desk/stitky.h"
 #include "gvd/casy.h"
 #include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
@@ -1076,8 +1078,12 @@ void rozhodni_souhlas(int k) {
 
 void obnov_vyluky() {
     bez_tras.assign(sit().trasy.size(), 0);
-    for (std::size_t i = 0; i < bez_tras.size(); ++i)
-        bez_tras[i] = je_vyloucena(trasa_c(i).zaznam) ? 1 : 0;
+    const bool vyluky =
+        std::any_of(stitky.begin(), stitky.end(), [](const StitekPrvku& s) { return !s.vyluka.empty(); });
+    for (std::size_t i = 0; i < bez_tras.size(); ++i) {
+        const ZaznamCesty& z = trasa_c(i).zaznam;
+        bez_tras[i] = (vyluky ? je_vyloucena(z) : je_zablokovano(z.zacatek)) ? 1 : 0;
+    }
 }
 
 } // namespace
