@@ -35,10 +35,11 @@
 
 namespace {
 
-constexpr int kZnovu_s = 6;        // before a way that is blocked is looked for again
-constexpr int kUrcena_s = 15 * 60; // so long a locomotive stays chosen for its train
-constexpr int kObhlidka_s = 2;     // between two looks
-constexpr int kNastup_s = 15 * 60; // before its departure a set goes to its platform; earlier trains have it
+constexpr int kZnovu_s = 6;         // before a way that is blocked is looked for again
+constexpr int kUrcena_s = 15 * 60;  // so long a locomotive stays chosen for its train
+constexpr int kOpustena_s = 4 * 60; // a route that its movement has not taken until then is called off
+constexpr int kObhlidka_s = 2;      // between two looks
+constexpr int kNastup_s = 15 * 60;  // before its departure a set goes to its platform; earlier trains have it
 constexpr int kNajdiJinou_s = 7 * 60;  // before its departure a set takes another platform for the one taken
 constexpr int kVystup_s = 90;          // the passengers of a train that ends get off,
 constexpr int kVykladka_s = 10 * 60;   // and the bags out of a van
@@ -228,6 +229,44 @@ Text koleje(int e) {
     return t;
 }
 
+// --- routes that nobody takes
+
+// A shunt route that was ordered for a movement.
+struct NaseCesta {
+    std::int16_t zacatek = kZadny, konec = kZadny;
+    std::int32_t od_s = 0;
+};
+std::vector<NaseCesta> nase_cesty;
+
+// A route of ours whose movement has gone another way would hold the throat for ever.
+void zrus_opustene_cesty() {
+    std::erase_if(nase_cesty, [](const NaseCesta& n) { return cesta_v_zasobniku(n.zacatek, n.konec) < 0; });
+    for (NaseCesta& n : nase_cesty) {
+        const int i = cesta_v_zasobniku(n.zacatek, n.konec);
+        if (ted_s() - n.od_s < kOpustena_s || i < 0 || cesta_c(i).VC || cesta_c(i).cas_ruseni >= 0)
+            continue;
+        n.od_s = ted_s();
+        povel_navestidla(n.zacatek, "miRC");
+    }
+}
+
+// A movement stands between a train and its signal: the route of the train waits until it has gone.
+void pust_posun_pred_vlakem(int v) {
+    const int e = kolej_cela(vlak_c(v));
+    for (const Cesta& c : cesty) {
+        if (c.zacatek < 0 || !c.VC || c.PN || c.Umazat != 0 || c.cas_ruseni >= 0 || !c.prehozena ||
+            prvni_prvek(c) != e)
+            continue;
+        const bool vpravo = smer_cesty(c);
+        if (soused(v, e, vpravo ? Strana::prava : Strana::leva) != kZadny ||
+            soused(v, e, vpravo ? Strana::leva : Strana::prava) == kZadny)
+            continue;
+        const int zacatek = c.zacatek;
+        povel_navestidla(zacatek, "miRC");
+        return;
+    }
+}
+
 // --- movements
 
 enum class Posun : std::uint8_t { jede, na_miste, ceka, bez_cesty };
@@ -274,6 +313,10 @@ Posun posun_na(int v, int kam, Strana strana, int ke, bool naleha) {
         const ZaznamCesty& z = sit_posunu().trasy[cesta->trasy[i]].zaznam;
         if (!zvol_cestu(z.zacatek, z.konec, druh_volby::posun))
             return i == 0 ? Posun::ceka : Posun::jede;
+    }
+    for (std::size_t i = 0; i < useku; ++i) {
+        const ZaznamCesty& z = sit_posunu().trasy[cesta->trasy[i]].zaznam;
+        nase_cesty.push_back({z.zacatek, z.konec, ted_s()});
     }
     slib_posunu(v, kam, prvky, trva_s);
     pamet_c(v).od_s = ted_s();
@@ -911,6 +954,7 @@ void ved_posun(int v) {
         !vypravci::ma_stanici(uzel::stanice_posunu(kolej_cela(t))) || !stoji(v))
         return;
     pamet_c(v).znovu_s = ted_s() + kZnovu_s;
+    pust_posun_pred_vlakem(v);
     if (je_na_pretahu(t)) {
         ved_pretah(v);
         return;
@@ -1002,6 +1046,7 @@ void ved_vlak(int v) {
 void zacni_posun() {
     nacti_posunovou_sit();
     pamet.clear();
+    nase_cesty.clear();
     dalsi_obhlidka_s = hledani_znovu_s = 0;
 }
 
@@ -1009,6 +1054,7 @@ void krok_posunu() {
     if (ted_s() < dalsi_obhlidka_s && dalsi_obhlidka_s - ted_s() <= kObhlidka_s)
         return;
     dalsi_obhlidka_s = ted_s() + kObhlidka_s;
+    zrus_opustene_cesty();
     zadosti.clear();
     for (std::size_t i = 0; i < vlaky.size(); ++i)
         if (stoji_vlak(static_cast<int>(i)))
