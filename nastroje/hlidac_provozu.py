@@ -30,7 +30,6 @@ KOLEJE_THN = dict(zip(NASTUPISTE, ("1", "2", "3", "4", "5", "6", "5k", "9k", "11
 TESK, DKV_VYCHOD = 9, 30
 SOUSEDE_SE_SOUHLASEM = {5, 19, 20}  # counted by their departure although they come from a line
 TRATE = 600                         # sections of lines from here on
-JEN_VOZIDLA = range(70000, 80000)   # made-up numbers of locomotives
 BEZ_ZPOZDENI = {TESK, 28, 30, 33, 34}
 
 STOJI_MIN, UVAZL_MIN = 30, 60
@@ -265,7 +264,8 @@ class Hlidac:
             j.misto, j.stoji_od = stani, ted_s
         self.cekani(j, v, kolej, ted_s)
         j.vlak = v
-        if not v["posun"] and je_konec_uvnitr(j.radek) and v["stanice_index"] == len(v["stanice"]) - 1 \
+        # it came there as a train, though it may be shunted away at once
+        if je_konec_uvnitr(j.radek) and v["stanice_index"] == len(v["stanice"]) - 1 \
                 and kolej in NASTUPISTE:
             self.nastupiste(j, kolej)
             self.konec(j, "doma", ted_s)
@@ -302,7 +302,8 @@ class Hlidac:
     def prevzal(self, j, vsechny, ted_s):
         """Its record goes on under another number, at the platform where its timetable ends."""
         v = next((x for x in vsechny if x["i"] == j.vlak["i"] and x["cislo"] not in (j.cislo, 0, BEZ)), None)
-        if v is None or j.vlak["posun"] or not je_konec_uvnitr(j.radek) or kolej_cela(v) not in NASTUPISTE:
+        if v is None or not je_konec_uvnitr(j.radek) or kolej_cela(v) not in NASTUPISTE or \
+                len(v["prvky"]) < len(j.vlak["prvky"]) or (j.vlak["posun"] and v["cislo"] not in self.podle_cisel):
             return False
         self.nastupiste(j, kolej_cela(v))
         self.konec(j, "doma", ted_s)

@@ -200,23 +200,31 @@ bool je_na_konci(const JizdaVlaku& j, int kolej) {
     return kolej >= 0 && !je_vystupem(cil) && stanice_prvku(kolej) == cil;
 }
 
+// Record v has gone, and another train has got it since: that one begins on its first track.
+bool je_znovu_pouzit(const Vlak& vlak, const StopaVlaku& s) {
+    return vlak.prvky.size() < s.prvku ||
+           (s.prvku == 1 && vlak.prvky.size() == 1 && vlak.prvky.front().prvek != s.kolej);
+}
+
 // Record v no longer has the number under which it ran in run j.
 void ukonci_zaznam(int v, const StopaVlaku& s) {
     JizdaVlaku& j = jizda_c(s.jizda);
     if (j.stav != StavJizdy::jede)
         return;
     const Vlak& vlak = vlak_c(v);
-    const bool zanikl = vlak.cislo < 1;
+    const bool zanikl = vlak.cislo < 1 || je_znovu_pouzit(vlak, s);
+    const int vystup = zanikl ? stanice_vystupu(s.kolej, s.smer) : 0;
     if (zanikl) {
-        const int stanice = stanice_vystupu(s.kolej, vlak.smer);
-        const bool spravne = stanice > 0 && spravny_smer(radek_jizdy(j), stanice);
-        if (stanice > 0 && (spravne || !s.posun)) {
-            dojel(j, stanice, spravne);
+        const bool spravne = vystup > 0 && spravny_smer(radek_jizdy(j), vystup);
+        if (vystup > 0 && (spravne || !s.posun)) {
+            dojel(j, vystup, spravne);
             return;
         }
     } else {
+        // Sets of the branch depot come to the platform as shunting movements; a part of a train that is
+        // split off is none when it becomes a locomotive of its own.
         const int kolej = vlak.prvky.empty() ? kZadny : vlak.prvky.back().prvek;
-        if (!s.posun && je_na_konci(j, kolej)) {
+        if (je_na_konci(j, kolej) && (!s.posun || !gvd_vlaky.s_cislem(vlak.cislo).empty())) {
             j.prvek = kolej;
             j.jina_kolej = j.jina_kolej || je_jina_kolej(radek_jizdy(j), kolej);
             dojel(j, radek_jizdy(j).zastavky.back().stanice, true);
@@ -231,7 +239,7 @@ void ukonci_zaznam(int v, const StopaVlaku& s) {
     j.konec_s = ted_s();
     j.zpozdeni_konec = static_cast<int>(ted_min() - j.posledni_min);
     j.prevzal = zanikl ? 0 : vlak.cislo;
-    j.posunem = zanikl && stanice_vystupu(s.kolej, vlak.smer) > 0;
+    j.posunem = vystup > 0;
     j.nyni = {};
 }
 
@@ -273,6 +281,7 @@ void zmena_zaznamu(int v) {
     s.prvku = vlak.prvky.size();
     s.stanice_index = vlak.stanice_index;
     s.posun = vlak.posun;
+    s.smer = vlak.smer;
     s.pohyb_s = ted_s();
     const bool na_koleji = !vlak.prvky.empty() && vlak.prvky.back().druh == druh_prvku::kolej;
     const int kolej = na_koleji ? vlak.prvky.back().prvek : s.kolej;
@@ -284,11 +293,12 @@ void zmena_zaznamu(int v) {
     if (j.stav == StavJizdy::jede) {
         if (!vlak.posun && j.vlak >= 0 && j.vlak != v && vlak_c(j.vlak).posun)
             j.vlak = v;
-        if (!vlak.posun && kolej != s.kolej)
+        if (!vlak.posun && j.vlak == v && kolej != s.kolej)
             opustil_kolej(j, s.kolej, kolej);
         if (j.vlak == v)
             j.prvek = kolej;
-        if (!vlak.posun && stoji_na_posledni(vlak) && je_na_konci(j, kolej)) {
+        // It came there as a train, though it may be shunted away at once.
+        if (stoji_na_posledni(vlak) && je_na_konci(j, kolej)) {
             j.jina_kolej = j.jina_kolej || je_jina_kolej(radek_jizdy(j), kolej);
             dojel(j, radek_jizdy(j).zastavky.back().stanice, true);
         }

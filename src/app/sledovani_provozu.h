@@ -66,6 +66,7 @@ struct StopaVlaku {
     std::size_t prvku = 0;  // entries that it had
     int stanice_index = kZadny;
     bool posun = false;
+    bool smer = false;
     int kolej = kZadny; // the last track that its head has reached
     double metry = 0;   // of the head there
     std::int32_t pohyb_s = 0;

@@ -191,6 +191,52 @@ TEST_F(ZpravaProvozu, TrainThatTakesAnotherNumberOnTheWayIsLost) {
     EXPECT_NE(zprava().radky.at(0).duvod.find("70123"), Text::npos);
 }
 
+TEST_F(ZpravaProvozu, TrainThatIsShuntedAwayAsSoonAsItHasComeIsHome) {
+    const GvdVlak r = pres(11, dopravna::lhotin, dopravna::tesk, 480, 5);
+    jizdni_rad({r});
+    const int i = jede(90, true, r);
+    pohledni();
+    popojed(i, kNastupiste);
+    vlak(i).stanice_index = 1;
+    vlak(i).posun = true;
+    pohledni();
+    EXPECT_EQ(zprava().spravnym_vyjezdem, 1);
+    zrus_vlak(i);
+    pohledni();
+    EXPECT_EQ(zprava().ztraceno, 0);
+}
+
+TEST_F(ZpravaProvozu, SetOfTheBranchDepotIsHomeWhenItBecomesItsTrainAtThePlatform) {
+    const GvdVlak r = pres(9790, dopravna::dkv_vh, dopravna::tesk, 480, 5),
+                  dalsi = pres(14790, dopravna::tesk, dopravna::lhotin, 500);
+    jizdni_rad({r, dalsi});
+    const int i = jede(213, false, r);
+    vlak(i).posun = true;
+    pohledni();
+    popojed(i, kNastupiste);
+    vlak(i).cislo = 14790;
+    vlak(i).posun = false;
+    pohledni();
+    EXPECT_EQ(zprava().spravnym_vyjezdem, 1);
+    EXPECT_EQ(zprava().ztraceno, 0);
+}
+
+TEST_F(ZpravaProvozu, RecordThatAnotherTrainGetsAtOnceHasLeftByItsExit) {
+    const GvdVlak r = pres(11, dopravna::borovec, dopravna::lhotin, 482),
+                  jiny = pres(12, dopravna::borovec, dopravna::lhotin, 485);
+    jizdni_rad({r, jiny});
+    const int i = jede(213, false, r);
+    pohledni();
+    popojed(i, 90);
+    pohledni();
+    vlak_opustil(i, dopravna::lhotin);
+    ASSERT_EQ(jede(62, true, jiny), i);
+    pohledni();
+    EXPECT_EQ(zprava().spravnym_vyjezdem, 1);
+    EXPECT_EQ(zprava().na_ceste, 1);
+    EXPECT_EQ(zprava().ztraceno, 0);
+}
+
 TEST_F(ZpravaProvozu, LocomotiveThatComesOffDoesNotEndItsTrain) {
     const GvdVlak r = pres(11, dopravna::lhotin, dopravna::borovec, 482);
     jizdni_rad({r});
