@@ -415,8 +415,13 @@ QWidget* OknoParametru::stranka_moznosti() {
     ukladani->addWidget(txtAutosave);
     ukladani->addWidget(new QLabel(QStringLiteral("odehraných minutách")));
     ukladani->addStretch();
-    auto* sloupec = new QVBoxLayout(skupina);
-    sloupec->setContentsMargins(0, 0, 0, 0);
+    QPushButton* smena = tlacitko(QStringLiteral("Přehrát záznam směn&y…"), [this] { prehraj_smenu(); });
+    smena->setToolTip(QStringLiteral("F4"));
+    auto* vedle = new QHBoxLayout(skupina); // beside the boxes, where it takes no height
+    vedle->setContentsMargins(0, 0, 0, 0);
+    auto* sloupec = new QVBoxLayout;
+    vedle->addLayout(sloupec, 1);
+    vedle->addWidget(smena, 0, Qt::AlignBottom);
     sloupec->setSpacing(px(7));
     sloupec->addWidget(chkZvuk);
     sloupec->addLayout(ukladani);
@@ -441,9 +446,6 @@ QWidget* OknoParametru::stranka_moznosti() {
     vse->setSpacing(px(12));
     vse->addWidget(skupina);
     vse->addWidget(provoz);
-    QPushButton* smena = tlacitko(QStringLiteral("&Přehrát záznam směny…"), [this] { prehraj_smenu(); });
-    smena->setToolTip(QStringLiteral("F4"));
-    vse->addWidget(smena, 0, Qt::AlignLeft);
     vse->addStretch();
     return stranka;
 }
