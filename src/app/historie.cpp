@@ -95,6 +95,8 @@ std::size_t bajtu_stavu(const StavSimulace& s) {
     bajtu += s.vlaky.capacity() * (sizeof(Vlak) + kPoliVlaku);
     constexpr std::size_t kPoliCesty = 500;
     bajtu += s.cesty.capacity() * (sizeof(Cesta) + kPoliCesty);
+    bajtu += s.sledovani.jizdy.capacity() * sizeof(JizdaVlaku);
+    bajtu += s.sledovani.stopy.capacity() * sizeof(StopaVlaku);
     return bajtu;
 }
 
