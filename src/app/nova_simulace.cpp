@@ -15,12 +15,12 @@ TABULKY_SIMULACE(TABULKA)
 
 namespace {
 
-std::uint64_t poradi = 0;
+std::uint64_t kolikata = 0;
 
 } // namespace
 
 void nova_simulace() {
-    ++poradi;
+    ++kolikata;
     gtn_zavri();
     zapomen_smenu();
     zapomen_prehravani();
@@ -29,11 +29,11 @@ void nova_simulace() {
 }
 
 void stav_byl_vymenen() {
-    ++poradi;
+    ++kolikata;
 }
 
 std::uint64_t poradi_simulace() {
-    return poradi;
+    return kolikata;
 }
 
 StavSimulace stav_simulace() {

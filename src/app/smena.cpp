@@ -24,7 +24,7 @@
 
 namespace {
 
-constexpr TextPohled kNastaveni = "Nastaveni";
+constexpr TextPohled kNastaveniSmeny = "Nastaveni";
 constexpr std::size_t kPismenNaRadek = 3000; // of bytes as letters
 
 // How far the script has been written.
@@ -143,7 +143,7 @@ std::string hlavicka() {
     if (smena.ladeni)
         text += "ladeni ano\n";
     for (const auto& [klic, hodnota] : smena.nastaveni)
-        text += "nastaveni " + na_utf8(kNastaveni) + " " + slovo(klic) + " " + slovo(hodnota) + "\n";
+        text += "nastaveni " + na_utf8(kNastaveniSmeny) + " " + slovo(klic) + " " + slovo(hodnota) + "\n";
     radky_bajtu(text, "makra", smena.makra);
     radky_bajtu(text, "hra", nactena_hra());
     if (smena.start_ms > 0)
@@ -237,8 +237,8 @@ void zacatek_smeny(std::uint64_t semeno) {
     smena.semeno = semeno;
     smena.ladeni = je_ladeni();
     smena.volby = volby_startu();
-    for (const Text& klic : platforma.nastaveni_klice(kNastaveni))
-        smena.nastaveni.emplace_back(klic, platforma.nastaveni_cti(kNastaveni, klic).value_or(Text{}));
+    for (const Text& klic : platforma.nastaveni_klice(kNastaveniSmeny))
+        smena.nastaveni.emplace_back(klic, platforma.nastaveni_cti(kNastaveniSmeny, klic).value_or(Text{}));
     try {
         smena.makra = obsah_maker();
     } catch (const BehovaChyba&) { // a file that cannot be read is one without macros

@@ -203,7 +203,7 @@ int do_odjezdu_vlaku_min(std::int32_t cislo) {
 }
 
 // A train of that number has still to leave the main station.
-bool je_na_stole(std::int32_t cislo) {
+bool je_uz_na_stole(std::int32_t cislo) {
     return std::any_of(vlaky.begin(), vlaky.end(), [cislo](const Vlak& v) {
         return v.cislo == cislo && !jen_loko(v) && zastavka_ve_stanici(v, dopravna::tesk) != v.zastavky.end();
     });
@@ -825,13 +825,14 @@ void ved_stroj(int v) {
             obsazeno += je_obsazena(k) ? 1 : 0;
         const bool ma_misto = obsazeno <= kStrojuVOdstavu || rada_cela(t) == uzel::kRadaZalohy;
         const bool zaloha = t.vozy.front().urceni == kZaloha && ma_misto;
-        const bool pro_vlak = pro != 0 && (do_odjezdu_vlaku_min(pro) < kStrojDrzen_min || je_na_stole(pro));
+        const bool pro_vlak =
+            pro != 0 && (do_odjezdu_vlaku_min(pro) < kStrojDrzen_min || je_uz_na_stole(pro));
         if (!zaloha && !pro_vlak && (!ma_misto || pro != 0))
             odejdi(v);
         return;
     }
     const bool v_tesku = uzel::stanice_posunu(e) == dopravna::tesk;
-    const bool ma_praci = pro != 0 && (do_odjezdu_vlaku_min(pro) < kStrojDrzen_min || je_na_stole(pro));
+    const bool ma_praci = pro != 0 && (do_odjezdu_vlaku_min(pro) < kStrojDrzen_min || je_uz_na_stole(pro));
     const bool cerstva_zaloha = t.vozy.front().urceni == kZaloha && rada_cela(t) != uzel::kRadaPosunovaci;
     if (v_tesku && (ma_praci || cerstva_zaloha))
         if (const int k = odstavna(); k != kZadny) {
