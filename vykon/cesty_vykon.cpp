@@ -70,22 +70,36 @@ struct Stul {
 
 void tik_stojicich(benchmark::State& stav) {
     const Stul stul;
-    Stul::zarad(60, true);
+    Stul::zarad(static_cast<int>(stav.range(0)), true);
     for (auto _ : stav)
         tik_volby();
+    stav.SetComplexityN(stav.range(0));
 }
-BENCHMARK(tik_stojicich)->Unit(benchmark::kMicrosecond)->Name("tick over 60 standing routes");
+BENCHMARK(tik_stojicich)
+    ->Arg(15)
+    ->Arg(30)
+    ->Arg(60)
+    ->Unit(benchmark::kMicrosecond)
+    ->Complexity(benchmark::oN)
+    ->Name("tick over standing routes");
 
 void tik_cekajicich(benchmark::State& stav) {
     const Stul stul;
-    Stul::zarad(60, false);
+    Stul::zarad(static_cast<int>(stav.range(0)), false);
     prepni_pv_vz(false);
     for (int n = 61; n <= 120; ++n)
         relief.kolej[n].barva = barvy::cervena; // every end is occupied
     for (auto _ : stav)
         tik_volby();
+    stav.SetComplexityN(stav.range(0));
 }
-BENCHMARK(tik_cekajicich)->Unit(benchmark::kMicrosecond)->Name("tick over 60 blocked routes");
+BENCHMARK(tik_cekajicich)
+    ->Arg(15)
+    ->Arg(30)
+    ->Arg(60)
+    ->Unit(benchmark::kMicrosecond)
+    ->Complexity(benchmark::oN)
+    ->Name("tick over blocked routes");
 
 void hledani_cesty(benchmark::State& stav) {
     const Stul stul(4000);

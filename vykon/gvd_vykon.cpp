@@ -48,13 +48,14 @@ void krok(benchmark::State& stav) {
         nastav_cas(minuta++ % 1440 * 60);
         krok_provozu();
     }
-    stav.SetItemsProcessed(stav.iterations() * stav.range(0));
+    stav.SetComplexityN(stav.range(0));
     nova_simulace();
 }
 BENCHMARK(krok)
     ->Arg(1000)
     ->Arg(10'000)
     ->Arg(100'000)
+    ->Complexity(benchmark::oN)
     ->Unit(benchmark::kMicrosecond)
     ->Name("traffic step of rows");
 
@@ -68,8 +69,15 @@ void zaplneni(benchmark::State& stav) {
         zaplneni_kolejiste(480);
     }
     nova_simulace();
+    stav.SetComplexityN(stav.range(0));
 }
-BENCHMARK(zaplneni)->Arg(1000)->Arg(10'000)->Unit(benchmark::kMillisecond)->Name("fill from rows");
+BENCHMARK(zaplneni)
+    ->Arg(1000)
+    ->Arg(10'000)
+    ->Arg(100'000)
+    ->Complexity(benchmark::oNLogN)
+    ->Unit(benchmark::kMillisecond)
+    ->Name("fill from rows");
 
 // The whole junction at rest.
 void cele_kolejiste() {
@@ -98,11 +106,13 @@ void start(benchmark::State& stav) {
         zaplneni_kolejiste(480);
     }
     nova_simulace();
+    stav.SetComplexityN(stav.range(0));
 }
 BENCHMARK(start)
     ->Arg(1000)
     ->Arg(10'000)
     ->Arg(100'000)
+    ->Complexity(benchmark::oNLogN)
     ->Unit(benchmark::kMillisecond)
     ->Name("start with rows");
 
@@ -122,11 +132,13 @@ void pul_hodiny(benchmark::State& stav) {
         }
     }
     nova_simulace();
+    stav.SetComplexityN(stav.range(0));
 }
 BENCHMARK(pul_hodiny)
     ->Arg(1000)
     ->Arg(10'000)
     ->Arg(100'000)
+    ->Complexity(benchmark::oN)
     ->Unit(benchmark::kMillisecond)
     ->Name("half an hour of traffic with rows");
 

@@ -5,6 +5,7 @@
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "davka/davka.h"
+#include "davka/virtualni_svet.h"
 #include "jizda/krok_jizdy.h"
 #include "jizda/metry.h"
 #include "jizda/na_koleji.h"
@@ -13,11 +14,13 @@
 #include "jizda/zastavky.h"
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/zastavky.h"
+#include "save/gtn.h"
 #include "zaklad/platforma.h"
 
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
+#include <chrono>
 #include <sstream>
 
 namespace {
@@ -182,6 +185,72 @@ void den_plneho_tydne(benchmark::State& stav) {
                  "prihlas\ncekej_do 23:59:00\n");
 }
 BENCHMARK(den_plneho_tydne)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+// All seven days, every second of them.
+void tyden_plneho_tydne(benchmark::State& stav) {
+    sehraj(stav, "semeno 3\npc 2026-01-05 08:00:00\n"
+                 "spust cas=0:15 den=0 rychlost=1 gvd=GVD_plny zpozdeni=1\n"
+                 "prihlas\ncekej 10065min\n");
+}
+BENCHMARK(tyden_plneho_tydne)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+// The same with the automatic dispatcher at the desk.
+void tyden_s_vypravcim(benchmark::State& stav) {
+    sehraj(stav, "semeno 3\npc 2026-01-05 08:00:00\n"
+                 "spust cas=0:15 den=0 rychlost=1 gvd=GVD_plny zpozdeni=1\n"
+                 "prihlas\nvypravci ano\ncekej 10065min\n");
+}
+BENCHMARK(tyden_s_vypravcim)->Unit(benchmark::kMillisecond)->Iterations(1);
+
+// The cost of a tick of each timer, the dispatcher at work: all of them run through an hour of the morning,
+// and one is measured.
+void tik_casovace(benchmark::State& stav, std::size_t ktery) {
+    using Hodiny = std::chrono::steady_clock;
+    std::istringstream skript("semeno 3\npc 2026-01-05 08:00:00\n"
+                              "spust cas=6:00 den=0 rychlost=1 gvd=GVD_plny zpozdeni=1\n"
+                              "prihlas\nvypravci ano\ncekej 30min\n");
+    std::ostringstream vystup, chyby;
+    if (spust_davku({.slozka = TESK_INSTALACE}, skript, vystup, chyby) != navrat::v_poradku)
+        stav.SkipWithError(chyby.str().c_str());
+    constexpr std::int64_t kHodina_ms = 3'600'000;
+    for (auto _ : stav) {
+        Hodiny::duration celkem{}, nejdelsi{};
+        std::int64_t tiku = 0;
+        const std::int64_t konec = virtualni_hodiny.cas_ms + kHodina_ms;
+        while (virtualni_hodiny.cas_ms < konec) {
+            virtualni_hodiny.cas_ms += 50; // every period is a multiple
+            for (std::size_t k = 0; k < casovace.size(); ++k) {
+                if (virtualni_hodiny.cas_ms % casovace[k].perioda_ms != 0)
+                    continue;
+                const auto zacatek = Hodiny::now();
+                casovace[k].telo();
+                if (k != ktery)
+                    continue;
+                const auto trvalo = Hodiny::now() - zacatek;
+                celkem += trvalo;
+                nejdelsi = std::max(nejdelsi, trvalo);
+                ++tiku;
+            }
+        }
+        using Sekundy = std::chrono::duration<double>;
+        stav.SetIterationTime(Sekundy(celkem).count());
+        stav.counters["tick"] =
+            Sekundy(celkem).count() / static_cast<double>(std::max<std::int64_t>(tiku, 1));
+        stav.counters["longest"] = Sekundy(nejdelsi).count();
+    }
+    gtn_zavri();
+    nova_simulace();
+    platforma = prazdna_platforma();
+}
+[[maybe_unused]] const bool casovace_zapsany = [] {
+    for (std::size_t k = 0; k < casovace.size(); ++k)
+        benchmark::RegisterBenchmark(("an hour of " + std::string(casovace[k].jmeno)).c_str(),
+                                     [k](benchmark::State& stav) { tik_casovace(stav, k); })
+            ->Unit(benchmark::kMillisecond)
+            ->Iterations(1)
+            ->UseManualTime();
+    return true;
+}();
 
 // Every train waits at a stop: the pass of each simulated minute.
 void cekajici_vlaky(benchmark::State& stav) {
