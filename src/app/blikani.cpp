@@ -84,33 +84,27 @@ void zavri_prejezd_vcas(std::size_t k) {
 }
 
 // Ten glyphs; 16 is a lit lamp, 13 a piece of the barrier line.
-Text lampy_zavreno() {
-    return znak(16) + Text(8, '\x0D') + znak(16);
-}
-Text lampy_stridave(int prvni, int druhy) {
-    Text text;
-    for (int i = 0; i < 5; ++i)
-        text += znak(prvni) + znak(druhy);
-    return text;
-}
+constexpr TextPohled kLampyZavreno = "\x10\x0D\x0D\x0D\x0D\x0D\x0D\x0D\x0D\x10",
+                     kLampyStridave = "\x0D\x10\x0D\x10\x0D\x10\x0D\x10\x0D\x10",
+                     kLampyObracene = "\x10\x0D\x10\x0D\x10\x0D\x10\x0D\x10\x0D";
 
 void ukaz_prejezd(int k) {
     if (!relief.lblPrejezd.je(k))
         return;
     const StanicniPrejezd& prejezd = stanicni_prejezdy[static_cast<std::size_t>(k)];
     Prvek& lampy = relief.lblPrejezd[k];
-    const auto nastav = [&](bool ramecek, const Text& text) {
+    const auto nastav = [&](bool ramecek, TextPohled text) {
         lampy.ramecek = ramecek;
         nastav_text(lampy, text);
     };
     if (prejezd.pocet != kBezVlaku || prejezd.uzavren)
-        nastav(false, lampy_zavreno());
+        nastav(false, kLampyZavreno);
     else if (prejezd.cas <= -1)
-        nastav(true, lampy_stridave(13, 16));
+        nastav(true, kLampyStridave);
     else if (lampy.text->size() > 2 && lampy.text()[2] == '\x0D') // warning: the two pictures take turns
-        nastav(false, lampy_stridave(16, 13));
+        nastav(false, kLampyObracene);
     else
-        nastav(true, lampy_zavreno());
+        nastav(true, kLampyZavreno);
 }
 
 void ukaz_skupinu(const uzel::SkupinaPrejezdu& s) {

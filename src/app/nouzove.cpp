@@ -10,11 +10,13 @@
 #include "zaklad/chyba.h"
 #include "zaklad/soubory.h"
 
+#include <utility>
 #include <vector>
 
 namespace {
 
 std::optional<Zaznam> zapamatovany;
+Zaznam zapamatovavany; // the one before: its room is taken again
 
 Text slozka_zaznamu() {
     return simulace.cesta_aplikace + "save\\";
@@ -63,7 +65,10 @@ bool zapis_zapamatovany() {
 
 void zapamatuj_stav() {
     try {
-        zapamatovany = zaznam_simulace();
+        zaznamenej(zapamatovavany);
+        if (!zapamatovany)
+            zapamatovany.emplace();
+        std::swap(*zapamatovany, zapamatovavany);
     } catch (const BehovaChyba&) { // a state that no file can hold: the one before is kept
     }
 }

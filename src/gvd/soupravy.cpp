@@ -30,12 +30,6 @@ namespace {
 
 constexpr TextPohled kZaloha = "ZAL";
 
-// The text is the number of a train.
-bool je_cislo_vlaku(const Text& text, std::int32_t cislo) {
-    const auto hodnota = ciselny_text(text);
-    return hodnota && *hodnota == cislo;
-}
-
 // At least one vehicle is no locomotive.
 bool ma_vozy(const Vlak& v) {
     return std::any_of(v.vozy.begin(), v.vozy.end(), [](const Vuz& vuz) { return !je_loko(vuz.rada); });
@@ -132,12 +126,12 @@ std::int16_t kontrola_soupravy(std::int32_t cislo, bool& jsou_vozy) {
         if (v.cislo < 1)
             continue;
         if (v.cislo == cislo && ma_vozy(v)) {
-            if (je_cislo_vlaku(v.vozy.front().rada, v.loko_rada2 > 0 ? v.loko_rada2 : v.loko_rada))
+            if (je_cislo(v.vozy.front().rada, v.loko_rada2 > 0 ? v.loko_rada2 : v.loko_rada))
                 jsou_vozy = true;
             return -1;
         }
         for (const Vuz& vuz : v.vozy) {
-            if (!je_cislo_vlaku(vuz.urceni, cislo))
+            if (!je_cislo(vuz.urceni, cislo))
                 continue;
             if (je_loko(vuz.rada))
                 return -1;

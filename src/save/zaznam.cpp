@@ -34,12 +34,14 @@ template <std::size_t N> std::uint8_t poradi_barvy(const std::array<Barva, N>& b
 }
 
 // `co(prvek)` for each number from `od` to `po`; elements that do not exist leave the value that means none.
-template <class T, class Co> std::vector<T> podle_cisla(const TabulkaPrvku& prvky, int od, int po, Co co) {
-    std::vector<T> pole(static_cast<std::size_t>(std::max(po - od + 1, 0)));
+template <class T, class Co>
+void podle_cisla(std::vector<T>& pole, const TabulkaPrvku& prvky, int od, int po, Co co) {
+    pole.resize(static_cast<std::size_t>(std::max(po - od + 1, 0)));
     for (int n = od; n <= po; ++n)
         if (prvky.je(n))
             pole[static_cast<std::size_t>(n - od)] = co(prvky[n]);
-    return pole;
+        else
+            pole[static_cast<std::size_t>(n - od)] = T{};
 }
 
 int nejnizsi(const TabulkaPrvku& prvky) {
@@ -63,18 +65,18 @@ std::uint8_t kod_navestidla(const Prvek& p) {
 
 void zapis_koleje(Zaznam& z) {
     constexpr int kPosledni = kNejvyssiPrvek;
-    z.koleje_barva = podle_cisla<std::uint8_t>(relief.kolej, 0, kPosledni,
-                                               [](const Prvek& p) { return kod_barvy(p.barva); });
-    z.koleje_poloha = podle_cisla<std::int16_t>(relief.kolej, 0, kPosledni,
-                                                [](const Prvek& p) { return na_integer(p.stav.cislo()); });
-    z.koleje_popis =
-        podle_cisla<Text>(relief.cislo_koleje, 0, kPosledni, [](const Prvek& p) { return p.text(); });
+    podle_cisla(z.koleje_barva, relief.kolej, 0, kPosledni,
+                [](const Prvek& p) { return kod_barvy(p.barva); });
+    podle_cisla(z.koleje_poloha, relief.kolej, 0, kPosledni,
+                [](const Prvek& p) { return na_integer(p.stav.cislo()); });
+    podle_cisla(z.koleje_popis, relief.cislo_koleje, 0, kPosledni,
+                [](const Prvek& p) -> const Text& { return p.text(); });
 }
 
 void zapis_navestidla(Zaznam& z) {
     const int nejvyssi = relief.navestidlo.nejvyssi();
-    z.navestidla_barva.resize(static_cast<std::size_t>(nejvyssi + 1));
-    z.navestidla_pozadi.resize(z.navestidla_barva.size());
+    z.navestidla_barva.assign(static_cast<std::size_t>(nejvyssi + 1), 0);
+    z.navestidla_pozadi.assign(z.navestidla_barva.size(), 0);
     for (int n = 0; n <= nejvyssi; ++n) {
         const TabulkaPrvku& druh = navestidla(n);
         if (!druh.je(n))
@@ -89,6 +91,8 @@ void zapis_souhlasy(Zaznam& z) {
     for (int k = 0; k < 3; ++k) {
         const auto i = static_cast<std::size_t>(k);
         z.souhlas_barva[i] = 1;
+        for (Text* text : {&z.souhlas_text[i], &z.souhlas_tag[i], &z.predvidany_odjezd[i]})
+            text->clear();
         if (relief.lblSouhlas.je(k)) {
             const Prvek& lampa = relief.lblSouhlas[k];
             z.souhlas_text[i] = lampa.text;
@@ -99,25 +103,20 @@ void zapis_souhlasy(Zaznam& z) {
             z.predvidany_odjezd[i] = relief.lblPredvidany_odjezd[k].text;
     }
     const TabulkaPrvku& sipky = relief.lblSouhlas2;
-    z.souhlas2_smer = podle_cisla<std::int16_t>(sipky, nejnizsi(sipky), sipky.nejvyssi(), [](const Prvek& p) {
-        return priznak(p.text == TextPohled(">>"));
-    });
-    z.souhlas2_barva =
-        podle_cisla<std::uint8_t>(sipky, nejnizsi(sipky), sipky.nejvyssi(), [](const Prvek& p) {
-            return static_cast<std::uint8_t>(p.barva == barvy::azurova);
-        });
+    podle_cisla(z.souhlas2_smer, sipky, nejnizsi(sipky), sipky.nejvyssi(),
+                [](const Prvek& p) { return priznak(p.text() == ">>"); });
+    podle_cisla(z.souhlas2_barva, sipky, nejnizsi(sipky), sipky.nejvyssi(),
+                [](const Prvek& p) { return static_cast<std::uint8_t>(p.barva == barvy::azurova); });
 }
 
 void zapis_vyhybky(Zaznam& z) {
-    z.vyhybky = podle_cisla<std::uint8_t>(relief.imgVyhybka, 0, relief.imgVyhybka.nejvyssi(),
-                                          [](const Prvek& p) { return na_byte(p.stav.cislo()); });
+    podle_cisla(z.vyhybky, relief.imgVyhybka, 0, relief.imgVyhybka.nejvyssi(),
+                [](const Prvek& p) { return na_byte(p.stav.cislo()); });
     const TabulkaPrvku& vykolejky = relief.lblVykolejka;
-    z.vykolejky_znak = podle_cisla<std::uint8_t>(vykolejky, 0, vykolejky.nejvyssi(), [](const Prvek& p) {
-        return static_cast<std::uint8_t>(kod_znaku(orez(p.text())));
-    });
-    z.vykolejky_barva = podle_cisla<std::uint8_t>(vykolejky, 0, vykolejky.nejvyssi(), [](const Prvek& p) {
-        return poradi_barvy(kBarvyVykolejek, p.barva);
-    });
+    podle_cisla(z.vykolejky_znak, vykolejky, 0, vykolejky.nejvyssi(),
+                [](const Prvek& p) { return static_cast<std::uint8_t>(kod_znaku(orez(p.text()))); });
+    podle_cisla(z.vykolejky_barva, vykolejky, 0, vykolejky.nejvyssi(),
+                [](const Prvek& p) { return poradi_barvy(kBarvyVykolejek, p.barva); });
 }
 
 } // namespace
@@ -144,8 +143,7 @@ Barva barva_vykolejky_kodu(std::uint8_t kod) {
     return kBarvyVykolejek[kod];
 }
 
-Zaznam zaznam_simulace() {
-    Zaznam z;
+void zaznamenej(Zaznam& z) {
     z.verze_major = kVerzeMajor;
     z.verze_minor = kVerzeMinor;
     z.verze_revize = kVerzeRevize;
@@ -175,10 +173,17 @@ Zaznam zaznam_simulace() {
     zapis_vyhybky(z);
     zapis_navestidla(z);
     const TabulkaPrvku& radky = relief.lblTabulka_vlaku;
-    z.tabulka = podle_cisla<Text>(radky, 0, radky.nejvyssi(), [](const Prvek& p) { return p.text(); });
-    std::transform(blikani.blikani_radku.begin(), blikani.blikani_radku.end(),
-                   std::back_inserter(z.tabulka_blikani), priznak);
+    podle_cisla(z.tabulka, radky, 0, radky.nejvyssi(),
+                [](const Prvek& p) -> const Text& { return p.text(); });
+    z.tabulka_blikani.resize(blikani.blikani_radku.size());
+    std::transform(blikani.blikani_radku.begin(), blikani.blikani_radku.end(), z.tabulka_blikani.begin(),
+                   priznak);
     z.zpravy = texty_hlaseni();
+}
+
+Zaznam zaznam_simulace() {
+    Zaznam z;
+    zaznamenej(z);
     return z;
 }
 

@@ -161,6 +161,8 @@ Barva barva_vykolejky_kodu(std::uint8_t kod);
 
 // The whole state of the simulation as a record. A metre text beyond 16 bits is the run-time error 6.
 Zaznam zaznam_simulace();
+// The same into a record that was used before: it keeps its room, so that nothing is taken each minute.
+void zaznamenej(Zaznam& zaznam);
 // The record's bytes, as they stand in the file.
 Bajty bajty_zaznamu(const Zaznam& zaznam);
 // The record at the start of the bytes; whatever follows it is left. Run-time error 62 when they end before

@@ -135,6 +135,19 @@ std::optional<double> ciselny_text(TextPohled text) {
     return hodnota_textu(text);
 }
 
+bool je_cislo(TextPohled text, std::int32_t cislo) {
+    constexpr std::size_t kCislicVeSlove = 9;
+    std::int32_t hodnota = 0;
+    bool jen_cislice = text.size() <= kCislicVeSlove;
+    for (std::size_t i = 0; i < text.size() && jen_cislice; ++i) {
+        jen_cislice = je_cislice(text[i]);
+        hodnota = hodnota * 10 + (text[i] - '0');
+    }
+    if (!jen_cislice)
+        return ciselny_text(text) == static_cast<double>(cislo);
+    return hodnota == cislo && !text.empty();
+}
+
 Text text_cisla(std::int64_t hodnota) {
     return std::to_string(hodnota);
 }

@@ -47,6 +47,8 @@ std::optional<double> ciselny_text(TextPohled text);
 inline bool je_ciselny(TextPohled text) {
     return ciselny_text(text).has_value();
 }
+// The text is this whole number, read as strictly.
+bool je_cislo(TextPohled text, std::int32_t cislo);
 
 // Decimal text of a whole number.
 Text text_cisla(std::int64_t hodnota);

@@ -5,10 +5,12 @@
 #include "gvd/provoz.h"
 #include "gvd/stav_provozu.h"
 #include "jizda/svet_vlaku.h"
+#include "pomocne/cele_kolejiste.h"
 #include "pomocne/zastavky.h"
 
 #include <cstdlib>
 #include <new>
+#include <vector>
 
 namespace {
 
@@ -82,6 +84,34 @@ TEST_F(Klid, TrafficStepWithoutATrainThatIsDueTakesNothing) {
     stav_provozu.zaloha_731_jede = true;
     EXPECT_EQ(alokaci_kroku(krok_provozu, 5), 0u);
     gvd_vlaky = {};
+}
+
+// Minutes and their record of the state among them. The first ones make room and bring the standby
+// locomotive.
+TEST(KlidCelehoKolejiste, TimersTakeNothingWhileNobodyComes) {
+    VirtualniPlatforma svet;
+    spust_cele_kolejiste(svet, Bajty(6, 0), {});
+    ASSERT_FALSE(simulace.pauza);
+    std::vector<std::size_t> vzato(casovace.size());
+    const auto bez = [&](int sekund) {
+        std::fill(vzato.begin(), vzato.end(), 0u);
+        for (int ms = 50; ms <= sekund * 1000; ms += 50) {
+            svet.posun_ms(50);
+            for (std::size_t k = 0; k < casovace.size(); ++k) {
+                if (ms % casovace[k].perioda_ms != 0)
+                    continue;
+                const std::size_t pred = alokaci;
+                casovace[k].telo();
+                vzato[k] += alokaci - pred;
+            }
+        }
+    };
+    bez(300);
+    const int minut = simulace.minuty_simulace;
+    bez(600);
+    EXPECT_GE(simulace.minuty_simulace, minut + 9);
+    for (std::size_t k = 0; k < casovace.size(); ++k)
+        EXPECT_EQ(vzato[k], 0u) << casovace[k].jmeno;
 }
 
 } // namespace

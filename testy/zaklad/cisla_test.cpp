@@ -121,6 +121,13 @@ TEST(CiselnyText, IsTheWholeTextOrNothing) {
     EXPECT_EQ(ciselny_text("-3"), -3);
     EXPECT_EQ(ciselny_text("+943"), 943);
     EXPECT_EQ(ciselny_text("560p"), std::nullopt);
+    for (const char* text : {"847", " 847 ", "+847", "0847", "847.0", "000000000847"})
+        EXPECT_TRUE(je_cislo(text, 847)) << text;
+    for (const char* text : {"", " ", "-847", "8470", "847p", "ZAL", "84", "847.5"})
+        EXPECT_FALSE(je_cislo(text, 847)) << text;
+    EXPECT_FALSE(je_cislo("", 0));
+    EXPECT_FALSE(je_cislo("ZAL", 0));
+    EXPECT_TRUE(je_cislo("-3", -3));
 }
 
 TEST(TextCisla, IsShortestAndHasAPoint) {
