@@ -189,7 +189,10 @@ std::string u8(TextPohled text) {
 class Tabulka {
 public:
     Tabulka(std::string& kam, TextPohled nadpis, std::initializer_list<TextPohled> sloupce) : html(kam) {
-        html += "<h2>" + u8(nadpis) + "</h2>\n<table border=\"1\" cellspacing=\"0\" cellpadding=\"4\">\n<tr>";
+        html += "<h2>" + u8(nadpis) + "</h2>\n<table border=\"1\" cellspacing=\"0\" cellpadding=\"4\">\n";
+        if (sloupce.size() == 0)
+            return;
+        html += "<tr>";
         for (const TextPohled s : sloupce)
             html += "<th align=\"left\">" + u8(s) + "</th>";
         html += "</tr>\n";
@@ -212,8 +215,10 @@ Text min(int minut) {
     return text_cisla(minut) + " min";
 }
 Text z_kolika(int kolik, int z) {
-    const int procent = z > 0 ? (200 * kolik + z) / (2 * z) : 0;
-    return text_cisla(kolik) + " z " + text_cisla(z) + " (" + text_cisla(procent) + " %)";
+    Text text = text_cisla(kolik) + " z " + text_cisla(z);
+    if (z > 0)
+        text += " (" + text_cisla((200 * kolik + z) / (2 * z)) + " %)";
+    return text;
 }
 Text doba(std::int32_t s) {
     return text_cisla(s / 60) + " min " + text_cisla(s % 60) + " s";

@@ -8,6 +8,7 @@
 #include <array>
 #include <bit>
 #include <cmath>
+#include <map>
 #include <numbers>
 #include <optional>
 #include <set>
@@ -244,14 +245,18 @@ struct Kreslic {
     // before those that shall; a number stands once.
     void cisla() {
         Obsazeno obsazeno(p.pismo);
-        std::set<std::pair<std::int32_t, bool>> psana; // with the half of the day, for a train of two days
+        constexpr double kJinaJizda_s = 6 * 3600;  // of the same number on another day
+        std::multimap<std::int32_t, double> psana; // with the begin of its line
         for (const bool vybrany : {true, false})
             for (const bool plan : {false, true})
                 for (const CaraVlaku& c : cary) {
-                    const std::pair klic(c.cislo, std::fmod(c.body.front().s, kDen_s) < kDen_s / 2);
-                    if (c.plan == plan && (c.cislo == p.vybrany) == vybrany && viditelna(c) &&
-                        !psana.contains(klic) && pis_cislo(c, obsazeno, vybrany))
-                        psana.insert(klic);
+                    const double zacatek = c.body.front().s;
+                    const auto [od, po] = psana.equal_range(c.cislo);
+                    const bool stoji = std::any_of(
+                        od, po, [&](const auto& j) { return std::abs(j.second - zacatek) < kJinaJizda_s; });
+                    if (c.plan == plan && (c.cislo == p.vybrany) == vybrany && viditelna(c) && !stoji &&
+                        pis_cislo(c, obsazeno, vybrany))
+                        psana.emplace(c.cislo, zacatek);
                 }
     }
 

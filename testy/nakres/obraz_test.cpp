@@ -102,8 +102,10 @@ TEST_F(ObrazTrati, PresentIsALineThatMovesWithTheClock) {
 }
 
 TEST_F(ObrazTrati, NumberStandsOnceAndOnTheLineThatTheTrainRan) {
-    pridej(100, true, 8.5 * 3600, 9.5 * 3600);
-    pridej(100, false, 8.6 * 3600, 9.6 * 3600);
+    pohled.od += 4 * 3600; // about noon
+    pohled.po += 4 * 3600;
+    pridej(100, true, 12.5 * 3600, 13.5 * 3600);
+    pridej(100, false, 11.9 * 3600, 13.6 * 3600);
     const auto cisla = tvary(nakresli(), 100, DruhTvaru::text);
     ASSERT_EQ(cisla.size(), 1u);
     EXPECT_FALSE(cisla[0].plan);
