@@ -1,7 +1,8 @@
 // nastroje/vozy/hlavni.cpp - `tesk-vozy FOLDER LIST SOURCE...`: draws the pictures of vehicles.
 //
 // LIST keeps the names of what was drawn: a picture that is drawn no more is removed by the next run,
-// what others put in the folder stays.
+// what others put in the folder stays. Beside the pictures lies obrysy.txt, all of them as polygons.
+#include "vozy/obrysy.h"
 #include "vozy/prekladac.h"
 #include "vozy/rastr.h"
 #include "zaklad/chyba.h"
@@ -31,18 +32,22 @@ std::set<Text> drivejsi(TextPohled seznam) {
 void zapis(const Text& slozka, const Text& seznam, const std::vector<vozy::Obrazek>& obrazky) {
     std::set<Text> zbyle = drivejsi(seznam);
     Bajty novy;
+    std::string obrysy;
     for (const vozy::Obrazek& o : obrazky) {
         std::vector<vozy::Rastr> rastry;
         for (const int zvetseni : kZvetseni)
             rastry.push_back(vozy::nakresli(o, zvetseni));
         const Text jmeno = z_utf8(o.jmeno);
-        zapis_soubor(slozka + "/" + jmeno, vozy::ikona(rastry));
+        const Bajty ikona = vozy::ikona(rastry);
+        zapis_soubor(slozka + "/" + jmeno, ikona);
+        obrysy += vozy::obrysy(o, ikona);
         zbyle.erase(jmeno);
         novy.insert(novy.end(), jmeno.begin(), jmeno.end());
         novy.push_back('\n');
     }
     for (const Text& jmeno : zbyle)
         smaz_soubor(slozka + "/" + jmeno);
+    zapis_soubor(slozka + "/obrysy.txt", Bajty(obrysy.begin(), obrysy.end()));
     zapis_soubor(seznam, novy);
 }
 

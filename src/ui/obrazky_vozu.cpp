@@ -2,13 +2,17 @@
 #include "ui/obrazky_vozu.h"
 
 #include "app/simulace.h"
+#include "ui/pismo.h"
 #include "zaklad/chyba.h"
+#include "zaklad/otisk.h"
 #include "zaklad/soubory.h"
 
 #include <QBuffer>
 #include <QByteArray>
 #include <QHash>
 #include <QImageReader>
+#include <QPainter>
+#include <QPolygonF>
 
 #include <algorithm>
 #include <cmath>
@@ -21,8 +25,25 @@ constexpr int kNejviceVelikosti = 16;            // of one icon
 constexpr int kNejvetsiStrana = 256;             // no icon has more
 constexpr qreal kNejvetsiMeritko = 64;
 
+constexpr std::int64_t kNejdelsiObrysy = 1 << 24; // bytes
+constexpr double kNejdelsiVuz = 256;              // pixels of the desk
+constexpr int kJemneji = 4;                       // the grid on which polygons are filled, times finer
+
+// A picture as its drawing tells it: polygons in pixels of the desk, y up.
+struct Obrys {
+    quint32 otisk = 0; // of the file that shows the same
+    double delka = 0;
+    QList<std::pair<QRgb, QPolygonF>> plochy;
+};
+struct Ikona {
+    quint32 otisk = 0;
+    QList<QImage> velikosti;
+};
+
 // Never destroyed: pictures must not be given back after the application object has gone.
-QHash<QByteArray, QList<QImage>>& ikony = *new QHash<QByteArray, QList<QImage>>;
+QHash<QByteArray, Ikona>& ikony = *new QHash<QByteArray, Ikona>;
+QHash<QByteArray, Obrys>& obrysy = *new QHash<QByteArray, Obrys>;
+bool obrysy_nactene = false;
 QHash<std::pair<QByteArray, int>, QPixmap>& hotove = *new QHash<std::pair<QByteArray, int>, QPixmap>;
 
 // A name comes from a saved file too: it must not lead out of the folder.
@@ -54,14 +75,16 @@ bool je_ikona(const Bajty& b) {
 }
 
 // All the sizes that the file holds. What Qt cannot read is left out.
-QList<QImage> nacti_ikonu(TextPohled jmeno) {
+Ikona nacti_ikonu(TextPohled jmeno) {
     const Text cesta = simulace.cesta_aplikace + "DATA\\VOZY\\" + Text(jmeno);
     const auto delka = delka_souboru(cesta);
     if (!delka || *delka > kNejdelsiIkona)
         return {};
     QByteArray bajty;
+    Ikona vysledek;
     try {
         const Bajty obsah = nacti_soubor(cesta);
+        vysledek.otisk = otisk_bajtu(obsah);
         if (!je_ikona(obsah))
             return {};
         bajty = QByteArray(reinterpret_cast<const char*>(obsah.data()), static_cast<qsizetype>(obsah.size()));
@@ -70,19 +93,72 @@ QList<QImage> nacti_ikonu(TextPohled jmeno) {
     }
     QBuffer zdroj(&bajty);
     QImageReader ctecka(&zdroj, "ico");
-    QList<QImage> velikosti;
     const int pocet = std::min<int>(ctecka.imageCount(), kNejviceVelikosti);
     for (int i = 0; i < pocet; ++i) {
         if (!ctecka.jumpToImage(i))
             break;
         const QImage o = ctecka.read();
         if (!o.isNull() && o.width() <= kNejvetsiStrana && o.height() <= kNejvetsiStrana)
-            velikosti.push_back(o.convertToFormat(QImage::Format_ARGB32_Premultiplied));
+            vysledek.velikosti.push_back(o.convertToFormat(QImage::Format_ARGB32_Premultiplied));
     }
-    return velikosti;
+    return vysledek;
 }
 
-const QList<QImage>& ikona(const QByteArray& klic, TextPohled jmeno) {
+// Lines "obrazek HASH LENGTH NAME", and behind each its polygons "RRGGBB x y x y ...". What is no such line
+// is left out.
+void nacti_obrysy() {
+    obrysy_nactene = true;
+    const Text cesta = simulace.cesta_aplikace + "DATA\\VOZY\\obrysy.txt";
+    const auto delka = delka_souboru(cesta);
+    if (!delka || *delka > kNejdelsiObrysy)
+        return;
+    QByteArray text;
+    try {
+        const Bajty obsah = nacti_soubor(cesta);
+        text = QByteArray(reinterpret_cast<const char*>(obsah.data()), static_cast<qsizetype>(obsah.size()));
+    } catch (const BehovaChyba&) {
+        return;
+    }
+    Obrys* obrys = nullptr;
+    for (const QByteArray& radek : text.split('\n')) {
+        const QList<QByteArray> slova = radek.split(' ');
+        if (slova[0] == "obrazek" && slova.size() >= 4) {
+            const QString jmeno = QString::fromUtf8(slova.mid(3).join(' '));
+            const Text klic = z_qstring(jmeno);
+            obrys = &obrysy[QByteArray(klic.data(), static_cast<qsizetype>(klic.size()))];
+            *obrys = {slova[1].toUInt(nullptr, 16), slova[2].toDouble(), {}};
+            continue;
+        }
+        QPolygonF plocha;
+        for (qsizetype i = 1; i + 1 < slova.size(); i += 2) {
+            const QPointF bod(slova[i].toDouble(), slova[i + 1].toDouble());
+            if (std::abs(bod.x()) <= kNejdelsiVuz && std::abs(bod.y()) <= kNejdelsiVuz)
+                plocha << bod;
+        }
+        if (obrys != nullptr && plocha.size() >= 3)
+            obrys->plochy.emplace_back(slova[0].toUInt(nullptr, 16) | 0xFF000000, plocha);
+    }
+}
+
+// First painted on a fine grid without smoothing and only then averaged: two polygons that share an edge
+// leave no seam between them.
+QImage nakresli(const Obrys& obrys, QSize rozmer) {
+    QImage jemny(rozmer * kJemneji, QImage::Format_ARGB32_Premultiplied);
+    jemny.fill(Qt::transparent);
+    QPainter p(&jemny);
+    const double sirka = std::ceil(obrys.delka - 1e-6); // of the picture, the vehicle in its middle
+    p.scale(jemny.width() / sirka, -jemny.height() / double(kVyskaObrazkuVozu));
+    p.translate((sirka - obrys.delka) / 2, -kVyskaObrazkuVozu);
+    p.setPen(Qt::NoPen);
+    for (const auto& [barva, plocha] : obrys.plochy) {
+        p.setBrush(QColor::fromRgb(barva));
+        p.drawPolygon(plocha, Qt::OddEvenFill);
+    }
+    p.end();
+    return jemny.scaled(rozmer, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
+const Ikona& ikona(const QByteArray& klic, TextPohled jmeno) {
     auto kde = ikony.constFind(klic);
     if (kde == ikony.constEnd()) {
         if (ikony.size() >= kNejviceObrazku)
@@ -125,7 +201,8 @@ const QPixmap& obrazek(TextPohled jmeno, qreal meritko) {
     if (!je_jmeno_souboru(jmeno) || !(meritko > 0) || meritko > kNejvetsiMeritko)
         return zadny;
     const QByteArray klic(jmeno.data(), static_cast<qsizetype>(jmeno.size()));
-    const QImage* zdroj = nejblizsi(ikona(klic, jmeno), meritko);
+    const Ikona& soubor = ikona(klic, jmeno);
+    const QImage* zdroj = nejblizsi(soubor.velikosti, meritko);
     if (!zdroj)
         return zadny;
     const QSize rozmer = velikost(*zdroj, meritko);
@@ -135,6 +212,14 @@ const QPixmap& obrazek(TextPohled jmeno, qreal meritko) {
         return *kde;
     if (hotove.size() >= kNejviceObrazku)
         hotove.clear(); // a window that is being resized passes through many sizes
+    if (!obrysy_nactene)
+        nacti_obrysy();
+    // Between the sizes of the file the drawing itself is sharper; another picture of the name goes before
+    // it.
+    if (const auto obrys = obrysy.constFind(klic); zdroj->size() != rozmer && obrys != obrysy.constEnd() &&
+                                                   obrys->otisk == soubor.otisk && obrys->delka > 0 &&
+                                                   obrys->delka <= kNejdelsiVuz)
+        return *hotove.insert(klic_rozmeru, QPixmap::fromImage(nakresli(*obrys, rozmer)));
     return *hotove.insert(klic_rozmeru, QPixmap::fromImage(zdroj->size() == rozmer
                                                                ? *zdroj
                                                                : zdroj->scaled(rozmer, Qt::IgnoreAspectRatio,
@@ -144,4 +229,6 @@ const QPixmap& obrazek(TextPohled jmeno, qreal meritko) {
 void zapomen_obrazky() {
     ikony.clear();
     hotove.clear();
+    obrysy.clear();
+    obrysy_nactene = false;
 }

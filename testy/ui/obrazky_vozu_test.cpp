@@ -2,10 +2,12 @@
 #include "pomocne/virtualni_platforma.h"
 #include "ui/obrazky_vozu.h"
 #include "ui/platno.h"
+#include "vozy/obrysy.h"
 #include "vozy/rastr.h"
 
 #include <gtest/gtest.h>
 
+#include <cstring>
 #include <filesystem>
 #include <fstream>
 #include <random>
@@ -50,6 +52,57 @@ TEST_F(ObrazkyNaStole, SmallestSizeThatNeedNotBeEnlargedIsTaken) {
     EXPECT_EQ(barva(obrazek("B.ico", 1.1)), QColor(Qt::green));
     EXPECT_EQ(barva(obrazek("B.ico", 3)), QColor(Qt::red));
     EXPECT_EQ(barva(obrazek("B.ico", 5)), QColor(Qt::red));
+}
+
+// A red body of 40 by 20 pixels of the desk, in the middle of its picture a blue window.
+TEST_F(ObrazkyNaStole, VehicleIsDrawnFromItsDescriptionAsSharpAsTheScreenIs) {
+    vozy::Obrazek vuz;
+    vuz.jmeno = "B.ico";
+    vuz.delka = 50;
+    vuz.plochy = {{0xFF0000, {{5, 0}, {45, 0}, {45, 20}, {5, 20}}},
+                  {0x0000FF, {{20, 8}, {30, 8}, {30, 16}, {20, 16}}}};
+    const Bajty ikona = vozy::ikona({vozy::nakresli(vuz, 3), vozy::nakresli(vuz, 2), vozy::nakresli(vuz, 1)});
+    const std::string obrysy = vozy::obrysy(vuz, ikona);
+    const auto mezi_barvami = [](const QPixmap& o) { // pixels of the middle row that are neither of them
+        int kolik = 0;
+        const QImage obraz = o.toImage();
+        for (int x = 0; x < obraz.width(); ++x) {
+            const QColor c = obraz.pixelColor(x, obraz.height() * 5 / 8);
+            kolik += c.alpha() > 0 && c != QColor(Qt::red) && c != QColor(Qt::blue);
+        }
+        return kolik;
+    };
+    soubor("B.ico", ikona);
+    const int zvetseny = mezi_barvami(obrazek("B.ico", 3.8));
+    soubor("obrysy.txt", Bajty(obrysy.begin(), obrysy.end()));
+    zapomen_obrazky();
+    const QPixmap& kresleny = obrazek("B.ico", 3.8);
+    EXPECT_EQ(kresleny.size(), QSize(190, 122));
+    EXPECT_EQ(barva(kresleny), QColor(Qt::blue));
+    EXPECT_LE(mezi_barvami(kresleny), 4) << "one pixel at each edge";
+    EXPECT_LT(mezi_barvami(kresleny), zvetseny);
+}
+
+TEST_F(ObrazkyNaStole, PictureThatSomebodyElsePutThereGoesBeforeTheDrawing) {
+    vozy::Obrazek vuz;
+    vuz.jmeno = "B.ico";
+    vuz.delka = 50;
+    vuz.plochy = {{0xFF0000, {{0, 0}, {50, 0}, {50, 32}, {0, 32}}}};
+    const std::string obrysy = vozy::obrysy(vuz, vozy::ikona({vozy::nakresli(vuz, 1)}));
+    soubor("obrysy.txt", Bajty(obrysy.begin(), obrysy.end()));
+    soubor("B.ico", vozy::ikona({jednobarevny(50, 32, 0xFF00FF00)}));
+    EXPECT_EQ(barva(obrazek("B.ico", 1.4)), QColor(Qt::green));
+}
+
+TEST_F(ObrazkyNaStole, DamagedDrawingsAreAPictureAllTheSame) {
+    soubor("B.ico", tri_velikosti());
+    for (const char* text :
+         {"obrazek", "obrazek 1 2", "ff0000 1 2 3", "obrazek x y B.ico\nff0000 1 2 3 4 5 6",
+          "obrazek 00000000 1e300 B.ico\nff0000 nan 1e300 -1e300 inf 5 6\n", "\n\n \n"}) {
+        zapomen_obrazky();
+        soubor("obrysy.txt", Bajty(text, text + std::strlen(text)));
+        EXPECT_EQ(obrazek("B.ico", 1.4).height(), 45);
+    }
 }
 
 TEST_F(ObrazkyNaStole, ForeignSquareIconIsFittedIn) {
