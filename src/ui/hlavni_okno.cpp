@@ -17,6 +17,7 @@
 #include "ui/napoveda.h"
 #include "ui/okno_smeny.h"
 #include "ui/pismo.h"
+#include "ui/pohled.h"
 #include "ui/technologie.h"
 #include "ui/vypravci.h"
 #include "ui/vzhled.h"
@@ -32,6 +33,7 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QToolTip>
+#include <QWheelEvent>
 #include <QWindow>
 
 #include <cmath>
@@ -40,12 +42,12 @@
 namespace {
 
 constexpr int kPrekreslovani_ms = 40;
-// Where the lists of the bottom panel stand, pixels of the desk.
-constexpr QRect kMistoSeznamu(4, 640, 1016, 126);
 constexpr int kVyskaListy = 20 * kTwipu; // of the top bar
 // Of the prompt that has no room on the command line, twips.
 constexpr QRect kMistoVyzvy(600 * kTwipu, 22 * kTwipu, 380 * kTwipu, 19 * kTwipu);
 constexpr QRgb kNajetiPrvku = 0xFF5A6A7C;
+constexpr double kKrokLupy = 1.25;
+constexpr int kPosunLupy = 80; // of what is enlarged by one step, pixels of the desk
 
 constexpr const char* kVzhledSeznamu =
     "QListWidget { background: #000; color: #dcdcdc; border: 1px solid #3c4550; outline: 0; }"
@@ -115,6 +117,15 @@ bool je_sipka(int klavesa) {
     return klavesa >= Qt::Key_Left && klavesa <= Qt::Key_Down;
 }
 
+QPoint smer_sipky(int klavesa) {
+    return {klavesa == Qt::Key_Left    ? -1
+            : klavesa == Qt::Key_Right ? 1
+                                       : 0,
+            klavesa == Qt::Key_Up     ? -1
+            : klavesa == Qt::Key_Down ? 1
+                                      : 0};
+}
+
 // The element is outlined under the pointer. Empty rows of the train table and the command line are not.
 bool zvyraznuje_se(const Nalezeny& kde) {
     if (!tabulka(kde.druh).je(kde.n) || kde.druh == Druh::lblPrikaz || kde.druh == Druh::lblVolba)
@@ -123,8 +134,9 @@ bool zvyraznuje_se(const Nalezeny& kde) {
     return p.viditelny && (kde.druh != Druh::lblTabulka_vlaku || !orez(p.text()).empty());
 }
 
-// The prompt at the right end of the command line, over the message that stands there.
-Prvek stitek_vyzvy(const Vyzva& vyzva) {
+// The prompt at the right end of the command line, over the message that stands there; `posun`: how much
+// further right that end is, twips.
+Prvek stitek_vyzvy(const Vyzva& vyzva, int posun) {
     Prvek p;
     p.viditelny = true;
     p.text = Text(vyzva.slovo.text()) + vyzva.text + " ";
@@ -134,6 +146,20 @@ Prvek stitek_vyzvy(const Vyzva& vyzva) {
     p.sirka = static_cast<int>(p.text->size()) * kSirkaZnaku;
     p.vlevo = kMistoVyzvy.x() + kMistoVyzvy.width() - p.sirka();
     p.nahore = relief.lblPrikaz[0].nahore();
+    p.vyska = kVyskaZnaku;
+    p.vlevo = p.vlevo + posun;
+    return p;
+}
+
+// How many times the tracks are enlarged, left of the icons of the bar.
+Prvek stitek_lupy(double krat, const Prvek& vpravo) {
+    Prvek p;
+    p.viditelny = true;
+    p.text = text_cisla(static_cast<int>(std::lround(krat * 100))) + "%";
+    p.barva = barvy::azurova;
+    p.sirka = static_cast<int>(p.text->size()) * kSirkaZnaku;
+    p.vlevo = vpravo.vlevo - p.sirka - 3 * kTwipu;
+    p.nahore = vpravo.nahore + kTwipu;
     p.vyska = kVyskaZnaku;
     return p;
 }
@@ -249,16 +275,39 @@ QFont HlavniOkno::pismo_stolu() const {
     return pismo_poli(kVyskaBunky * meritko_v_okne());
 }
 
+QPointF HlavniOkno::misto_kurzoru() const {
+    return QPointF(mapFromGlobal(QCursor::pos())) + QPointF(0.5, 0.5);
+}
+
+QRect HlavniOkno::misto_prvku(const Nalezeny& kde) const {
+    return v_okne(platno.misto(kde.druh, kde.n));
+}
+
 Bod HlavniOkno::kurzor_na_stole() const {
-    const QPoint t = na_twipy(QPointF(mapFromGlobal(QCursor::pos())) + QPointF(0.5, 0.5));
-    return {t.x() / kTwipu, t.y() / kTwipu};
+    const QPoint obraz = na_twipy(misto_kurzoru());
+    const QPoint t = platno.na_stul(obraz);
+    const Bod kde{t.x() / kTwipu, t.y() / kTwipu};
+    cteni_kurzoru = Cteni{kde, obraz};
+    return kde;
 }
 
 void HlavniOkno::nastav_kurzor_na_stole(Bod kam) {
     // the middle of the desk's pixel, cut to a pixel of the screen: reading the place back gives it again
-    const Meritko& m = platno.meritko();
-    const QPointF body(m.x0 + (kam.x + 0.5) * m.bod(), m.y0 + (kam.y + 0.5) * m.bod());
-    const QPointF logicke = body / devicePixelRatioF();
+    QPoint obraz(kam.x * kTwipu + kTwipu / 2, kam.y * kTwipu + kTwipu / 2);
+    if (!platno.je_beze_zmeny()) {
+        const auto odkud = std::exchange(cteni_kurzoru, std::nullopt);
+        obraz = odkud ? odkud->obraz + QPoint(kam.x - odkud->stul.x, kam.y - odkud->stul.y) * kTwipu
+                      : platno.ze_stolu(obraz);
+    }
+    kurzor_na(obraz);
+}
+
+void HlavniOkno::kurzor_na(QPoint obraz) {
+    if (platno.ukaz(obraz))
+        prekresli();
+    const Meritko& m = platno.meritko_mista(obraz);
+    const QPointF logicke =
+        QPointF(m.x0 + (obraz.x() + 0.5) * m.k, m.y0 + (obraz.y() + 0.5) * m.k) / devicePixelRatioF();
     const QPoint misto(static_cast<int>(std::floor(logicke.x())), static_cast<int>(std::floor(logicke.y())));
     QCursor::setPos(mapToGlobal(misto));
     najed(misto);
@@ -280,15 +329,16 @@ int HlavniOkno::kapitola_pod_kurzorem() const {
     for (const ZobrazenySeznam& s : seznamy)
         if (!s.okno->isHidden() && s.okno->geometry().contains(misto))
             return kapitoly::panel;
-    const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(QPointF(misto) + QPointF(0.5, 0.5)));
+    const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(misto_kurzoru()));
     return kde ? kapitola_prvku(kde->druh) : kapitoly::prvnich_deset_minut;
 }
 
 void HlavniOkno::umisti() {
     sirka_pri_umisteni = sirka_stolu();
-    platno.nastav_velikost((QSizeF(size()) * devicePixelRatioF()).toSize(), sirka_pri_umisteni);
+    platno.nastav_velikost((QSizeF(size()) * devicePixelRatioF()).toSize(), sirka_pri_umisteni,
+                           !je_verny_pomer());
     for (ZobrazenySeznam& s : seznamy) {
-        s.okno->setGeometry(v_okne(QRect(kMistoSeznamu.topLeft() * kTwipu, kMistoSeznamu.size() * kTwipu)));
+        s.okno->setGeometry(v_okne(platno.misto_seznamu()));
         s.okno->setStyleSheet(zvetseny_styl(kVzhledSeznamu, meritko_v_okne()));
         s.okno->setFont(pismo_stolu());
     }
@@ -318,9 +368,10 @@ void HlavniOkno::obnov() {
         update(QRectF(r.x() / pomer, r.y() / pomer, r.width() / pomer, r.height() / pomer).toAlignedRect());
     if (std::optional<Vyzva> nova = vyzva_mimo_radek(); nova != vyzva) {
         vyzva = std::move(nova);
-        update(v_okne(kMistoVyzvy));
+        update(v_okne(kMistoVyzvy.translated(platno.posun_praveho_okraje(), 0)));
     }
     obnov_napisy_vypravciho();
+    ukaz_hledane();
     for (ZobrazenySeznam& s : seznamy)
         obnov_seznam(s);
     obnov_pole();
@@ -365,7 +416,10 @@ void HlavniOkno::obnov_seznam(ZobrazenySeznam& s) {
 }
 
 void HlavniOkno::obnov_napisy_vypravciho() {
-    const std::array<Prvek, 2> nove = {znacka_vypravciho(), radek_cekani_na_panelu()};
+    std::array<Prvek, 2> nove = {znacka_vypravciho(), radek_cekani_na_panelu()};
+    if (nove.front().viditelny) // beside the version, wherever a wide display has it
+        nove.front().vlevo =
+            nove.front().vlevo + platno.prvek(Druh::lblVerze, 0).vlevo - relief.lblVerze[0].vlevo();
     for (std::size_t i = 0; i < nove.size(); ++i) {
         if (nove[i] == napisy_vypravciho[i])
             continue;
@@ -426,8 +480,7 @@ void HlavniOkno::obnov_nabidku() {
             obnov();
         });
     });
-    const QPoint u_prvku = menu.misto ? v_okne(QRect(menu.misto->vlevo, menu.misto->nahore, 1, 1)).topLeft()
-                                      : mapFromGlobal(QCursor::pos());
+    const QPoint u_prvku = menu.misto ? misto_nabidky() : mapFromGlobal(QCursor::pos());
     nabidka->popup(mapToGlobal(u_prvku)); // it keeps within the screen by itself
     if (z_klavesy)
         vyber_prvni(*nabidka);
@@ -441,8 +494,82 @@ void HlavniOkno::ukaz_ruku_zaznamu() {
         return;
     for (const std::optional<Nalezeny>& co : {najety, kde})
         if (co && tabulka(co->druh).je(co->n))
-            update(v_okne(misto_vstupu(co->druh, tabulka(co->druh)[co->n])).adjusted(-2, -2, 2, 2));
+            update(misto_prvku(*co).adjusted(-2, -2, 2, 2));
     najety = kde;
+}
+
+// The core tells the place on its desk: in the picture the menu stands as near to its element.
+QPoint HlavniOkno::misto_nabidky() const {
+    QPoint kde(menu.misto->vlevo, menu.misto->nahore);
+    if (tabulka(menu.druh).je(menu.prvek)) {
+        const Prvek& stul = tabulka(menu.druh)[menu.prvek];
+        const Prvek& obraz = platno.prvek(menu.druh, menu.prvek);
+        kde += QPoint(obraz.vlevo - stul.vlevo, obraz.nahore - stul.nahore);
+    }
+    return v_okne(QRect(kde, QSize(kTwipu, kTwipu))).topLeft();
+}
+
+// What was found comes into sight when it is first framed.
+void HlavniOkno::ukaz_hledane() {
+    const Prvek& ramec = relief.shpVyhledavani[0];
+    if (hleda_se == ramec.viditelny)
+        return;
+    hleda_se = ramec.viditelny;
+    if (hleda_se &&
+        platno.ukaz(QRect(platno.prvek(Druh::shpVyhledavani, 0).vlevo, ramec.nahore, ramec.sirka, ramec.vyska)
+                        .center()))
+        prekresli();
+}
+
+// --- the magnifying glass
+
+void HlavniOkno::prekresli() {
+    platno.prekresli();
+    update();
+}
+
+void HlavniOkno::zvetsi(double krat, QPointF misto) {
+    platno.nastav_lupu(krat, misto * devicePixelRatioF());
+    prekresli();
+    najed(misto);
+}
+
+void HlavniOkno::posun_lupu(QPoint o_kolik) {
+    platno.posun_lupu(o_kolik);
+    prekresli();
+    najed(misto_kurzoru());
+}
+
+bool HlavniOkno::stisk_lupy(const QKeyEvent& udalost) {
+    if (!udalost.modifiers().testFlag(Qt::ControlModifier) || udalost.modifiers().testFlag(Qt::AltModifier))
+        return false;
+    if (je_sipka(udalost.key()) && udalost.modifiers().testFlag(Qt::ShiftModifier) && platno.lupa() > 1) {
+        posun_lupu(-smer_sipky(udalost.key()) * platno.meritko().bodu(kPosunLupy));
+        return true;
+    }
+    switch (udalost.key()) {
+    case Qt::Key_Plus:
+    case Qt::Key_Equal: zvetsi(platno.lupa() * kKrokLupy, misto_kurzoru()); return true;
+    case Qt::Key_Minus: zvetsi(platno.lupa() / kKrokLupy, misto_kurzoru()); return true;
+    case Qt::Key_0: zvetsi(1, misto_kurzoru()); return true;
+    default: return false;
+    }
+}
+
+// With Ctrl the wheel enlarges; alone, with Shift sideways, it moves what is enlarged.
+void HlavniOkno::wheelEvent(QWheelEvent* udalost) {
+    const QPoint o_kolik = udalost->angleDelta();
+    if (technologie_kryje_stul() || o_kolik.isNull())
+        return;
+    udalost->accept();
+    if (udalost->modifiers().testFlag(Qt::ControlModifier)) {
+        zvetsi(platno.lupa() * std::pow(kKrokLupy, o_kolik.y() / double(QWheelEvent::DefaultDeltasPerStep)),
+               udalost->position());
+    } else if (platno.lupa() > 1) {
+        const double bodu = platno.meritko().bodu(kPosunLupy) / double(QWheelEvent::DefaultDeltasPerStep);
+        const QPoint posun = (QPointF(o_kolik) * bodu).toPoint();
+        posun_lupu(udalost->modifiers().testFlag(Qt::ShiftModifier) ? QPoint(posun.y(), posun.x()) : posun);
+    }
 }
 
 // --- from the operator to the core
@@ -461,7 +588,7 @@ void HlavniOkno::najed(QPointF misto) {
         return;
     for (const std::optional<Nalezeny>& co : {najety, kde})
         if (co && tabulka(co->druh).je(co->n))
-            update(v_okne(misto_vstupu(co->druh, tabulka(co->druh)[co->n])).adjusted(-2, -2, 2, 2));
+            update(misto_prvku(*co).adjusted(-2, -2, 2, 2));
     najety = kde;
 }
 
@@ -517,16 +644,12 @@ void HlavniOkno::leaveEvent(QEvent*) {
 bool HlavniOkno::stisk_za_mys(const QKeyEvent& udalost) {
     const bool ctrl = udalost.modifiers().testFlag(Qt::ControlModifier);
     const int klavesa = udalost.key();
-    const QPointF misto = QPointF(mapFromGlobal(QCursor::pos())) + QPointF(0.5, 0.5);
+    const QPointF misto = misto_kurzoru();
+    if (stisk_lupy(udalost))
+        return true;
     if (ctrl && je_sipka(klavesa)) {
-        const QPoint smer(klavesa == Qt::Key_Left    ? -1
-                          : klavesa == Qt::Key_Right ? 1
-                                                     : 0,
-                          klavesa == Qt::Key_Up     ? -1
-                          : klavesa == Qt::Key_Down ? 1
-                                                    : 0);
-        if (const std::optional<QPoint> kam = platno.soused(na_twipy(misto), smer))
-            nastav_kurzor_na_stole({kam->x() / kTwipu, kam->y() / kTwipu});
+        if (const std::optional<QPoint> kam = platno.soused(na_twipy(misto), smer_sipky(klavesa)))
+            kurzor_na({kam->x() / kTwipu * kTwipu + kTwipu / 2, kam->y() / kTwipu * kTwipu + kTwipu / 2});
         return true;
     }
     if (klavesa == Qt::Key_Space && ohnisko) {
@@ -595,7 +718,7 @@ void HlavniOkno::zaostri(std::optional<Druh> tlacitko) {
         return;
     for (const std::optional<Druh>& co : {ohnisko, tlacitko})
         if (co)
-            update(v_okne(misto_vstupu(*co, tabulka(*co)[0])));
+            update(misto_prvku({*co, 0}));
     ohnisko = tlacitko;
 }
 
@@ -716,8 +839,8 @@ bool HlavniOkno::event(QEvent* udalost) {
         }
     if (udalost->type() == QEvent::ToolTip) {
         const auto* napoveda = static_cast<QHelpEvent*>(udalost);
-        const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(napoveda->pos()));
         const QPoint twipy = na_twipy(napoveda->pos());
+        const std::optional<Nalezeny> kde = platno.prvek_pod(twipy);
         QString text;
         QRect misto(napoveda->pos(), QSize(1, 1));
         v_jadre([&] {
@@ -733,7 +856,7 @@ bool HlavniOkno::event(QEvent* udalost) {
             text = napoveda_prvku(*kde);
             if (const Text duvod = duvod_prvku(*kde); !duvod.empty())
                 text += (text.isEmpty() ? QString() : QStringLiteral("\n")) + na_qstring(duvod);
-            misto = v_okne(misto_vstupu(kde->druh, tabulka(kde->druh)[kde->n]));
+            misto = misto_prvku(*kde);
         });
         if (text.isEmpty())
             QToolTip::hideText();
@@ -762,17 +885,21 @@ void HlavniOkno::paintEvent(QPaintEvent* udalost) {
         p.drawImage(body.topLeft(), platno.obraz(), body);
     }
     if (vyzva)
-        nakresli_prvek(p, platno.meritko(), Druh::lblVolba, 0, stitek_vyzvy(*vyzva));
+        nakresli_prvek(p, platno.meritko(), Druh::lblVolba, 0,
+                       stitek_vyzvy(*vyzva, platno.posun_praveho_okraje()));
     for (const Prvek& napis : napisy_vypravciho)
         if (napis.viditelny)
             nakresli_prvek(p, platno.meritko(), Druh::lblVolba, 0, napis);
     if (najety && zvyraznuje_se(*najety)) {
-        const QRect cil = platno.v_bodech(misto_vstupu(najety->druh, tabulka(najety->druh)[najety->n]));
+        const QRect cil = platno.v_bodech(platno.misto(najety->druh, najety->n));
         nakresli_obrys(p, cil, platno.meritko().bodu(1), QColor::fromRgb(kNajetiPrvku));
     }
+    if (platno.lupa() > 1)
+        nakresli_prvek(p, platno.meritko(), Druh::lblPrava, 0,
+                       stitek_lupy(platno.lupa(), platno.prvek(Druh::imgSound, 0)));
     if (ohnisko && tabulka(*ohnisko).je(0)) {
         const int okraj = platno.meritko().bodu(2);
-        const QRect cil = platno.v_bodech(misto_vstupu(*ohnisko, tabulka(*ohnisko)[0]));
+        const QRect cil = platno.v_bodech(platno.misto(*ohnisko, 0));
         p.setPen(QPen(barva_qt(tabulka(*ohnisko)[0].barva), platno.meritko().bodu(1), Qt::DotLine));
         p.drawRect(cil.adjusted(okraj, okraj, -okraj - 1, -okraj - 1));
     }

@@ -34,6 +34,8 @@ public:
     // Chapter of the manual for what is under the pointer: the picked entry of an open menu, what is being
     // written, a maintenance screen, an element.
     int kapitola_pod_kurzorem() const;
+    // Its picture.
+    const Platno& obraz() const { return platno; }
 
     // The simulation has been started or loaded: from now on its picture is shown. Before, the elements are
     // magenta, which means nothing yet.
@@ -48,6 +50,7 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* udalost) override;
     void mouseMoveEvent(QMouseEvent* udalost) override;
     void leaveEvent(QEvent* udalost) override;
+    void wheelEvent(QWheelEvent* udalost) override;
     void keyPressEvent(QKeyEvent* udalost) override;
     void changeEvent(QEvent* udalost) override;
     void closeEvent(QCloseEvent* udalost) override;
@@ -70,7 +73,16 @@ private:
     double meritko_v_okne() const; // pixels of the window to a pixel of the desk
     QFont pismo_stolu() const;
     void ukaz_ruku_zaznamu();
+    QPointF misto_kurzoru() const; // in the window, pixels
+    QRect misto_prvku(const Nalezeny& kde) const;
     void najed(QPointF misto);
+    void zvetsi(double krat, QPointF misto);
+    void posun_lupu(QPoint o_kolik);
+    bool stisk_lupy(const QKeyEvent& udalost);
+    void ukaz_hledane();
+    void kurzor_na(QPoint obraz); // twips of the picture
+    QPoint misto_nabidky() const;
+    void prekresli();
     void klepni(QPointF misto, Tlacitko tlacitko, bool ctrl);
     void poklepej(const Nalezeny& kde);
     void zaostri(std::optional<Druh> tlacitko);
@@ -103,4 +115,11 @@ private:
     std::size_t zprav = 0;
     bool minimalizovane = false;
     int sirka_pri_umisteni = 0;
+    bool hleda_se = false; // the frame of the search is shown
+    // The place that was read last, on the desk and in the picture: a step from it is a step on the screen.
+    struct Cteni {
+        Bod stul;
+        QPoint obraz;
+    };
+    mutable std::optional<Cteni> cteni_kurzoru;
 };

@@ -504,15 +504,15 @@ void nakresli_ikonu(QPainter& p, const Meritko& m, Druh druh, const Prvek& prvek
 
 // Left edge of the sign of a note within its target, twips: where the labels of the track leave room for
 // it, beside a train's number if there is so much, else beside their names.
-int misto_znacky(int n, const Prvek& cil, int sirka) {
+int misto_znacky(const std::array<const Prvek*, 2>& popisky, const Prvek& cil, int sirka) {
     constexpr int kMezera = 2 * kTwipu, kCisloVlaku = 5;
     for (const int nejmene : {kCisloVlaku, 0}) {
         std::array<std::pair<int, int>, 2> obsazeno{}; // by the labels, from the left
         std::size_t pocet = 0;
-        for (const int popisek : {n, n + kDruhyStitek}) {
-            if (!relief.cislo_koleje.je(popisek))
+        for (const Prvek* popisek : popisky) {
+            if (popisek == nullptr)
                 continue;
-            const Prvek& p = relief.cislo_koleje[popisek];
+            const Prvek& p = *popisek;
             const int znaku = std::max(nejmene, static_cast<int>(p.popis->size()));
             if (p.nahore < cil.nahore + cil.vyska && p.nahore + kVyskaZnaku > cil.nahore)
                 obsazeno[pocet++] = {p.vlevo - kMezera, p.vlevo + znaku * kSirkaZnaku + kMezera};
@@ -535,7 +535,7 @@ int misto_znacky(int n, const Prvek& cil, int sirka) {
 }
 
 // Target of a track's end: nothing at rest, else the sign of the note on the track.
-void nakresli_cil(QPainter& p, const Meritko& m, int n, const Prvek& prvek) {
+void nakresli_cil(QPainter& p, const Meritko& m, const Prvek& prvek, const OkoliCary& okoli) {
     constexpr int kSirkaZnacky = 10 * kTwipu;
     const QRect plocha = v_bodech(m, prvek);
     struct Stitek {
@@ -547,7 +547,7 @@ void nakresli_cil(QPainter& p, const Meritko& m, int n, const Prvek& prvek) {
     for (const Stitek& s : kStitky)
         if (prvek.obrazek == s.obrazek) {
             QRect deska(0, 0, m.bodu(10), m.bodu(13));
-            deska.moveTo(m.x(misto_znacky(n, prvek, kSirkaZnacky)),
+            deska.moveTo(m.x(misto_znacky(okoli.popisky, prvek, kSirkaZnacky)),
                          plocha.y() + (plocha.height() - deska.height()) / 2);
             p.fillRect(deska, odstin(s.barva));
             kresli_radek(p, deska.x() + m.bod(), deska.y(), kSirkaBunky * m.bod(), kVyskaBunky * m.bod(),
@@ -603,7 +603,8 @@ void nakresli_ramec(QPainter& p, const Meritko& m, const Prvek& prvek) {
 // A vehicle stands in the middle of its place on a rail that runs on to the next one. The state names the
 // picture; without it the place stays empty, as for a train that is not drawn.
 void nakresli_vuz(QPainter& p, const Meritko& m, const Prvek& prvek) {
-    const QPixmap& o = obrazek(prvek.stav(), m.bod());
+    const QPixmap& o =
+        obrazek(prvek.stav(), m.bod() * (prvek.sirka / static_cast<double>(kSirkaObrazkuVozu * kTwipu)));
     if (o.isNull())
         return;
     const QRect r = v_bodech(m, prvek);
@@ -620,44 +621,6 @@ void nakresli_sberac(QPainter& p, const Meritko& m, const Prvek& prvek) {
     Ikona i(p, v_bodech(m, prvek), kIkona);
     i.cara({{1, 4}, {15, 4}});
     i.cara({{8, 4}, {3.5, 9}, {8, 14}, {12.5, 9}, {8, 4}});
-}
-
-// The casing of the signal panel: a mast of its height on its foot, with the sockets of the lamps that it
-// carries. A dwarf stands on the ground.
-void nakresli_panel(QPainter& p, const Meritko& m) {
-    if (!relief.lblnavestidlo.je(0) || !relief.lblnavestidlo[0].viditelny ||
-        relief.lblnavestidlo[0].text->empty())
-        return;
-    const PopisPanelu& popis = popis_panelu(panel_navestidla.tvar);
-    QRect telo;
-    for (int n = 0; n < static_cast<int>(popis.svetla.size()); ++n)
-        if (popis.svetla[static_cast<std::size_t>(n)] && relief.svetlo.je(n))
-            telo |= v_bodech(m, relief.svetlo[n]);
-    for (int n = 0; n < static_cast<int>(popis.pruhy.size()); ++n)
-        if (popis.pruhy[static_cast<std::size_t>(n)] && relief.pruh.je(n))
-            telo |= v_bodech(m, relief.pruh[n]);
-    if (telo.isEmpty())
-        return;
-    const int okraj = m.bodu(3), stozar = m.bodu(4), pata = m.bodu(2), sirka_paty = m.bodu(18);
-    const int dole = telo.bottom() + okraj + m.bodu(kStupenStozaru) * popis.vyska + pata;
-    const QColor barva_stozaru = odstin(0xFF8A939C);
-    p.fillRect(telo.center().x() - stozar / 2, telo.bottom(), stozar, dole - telo.bottom(), barva_stozaru);
-    p.fillRect(telo.center().x() - sirka_paty / 2, dole - pata, sirka_paty, pata, barva_stozaru);
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setPen(QPen(odstin(0xFF8A939C), std::max(1.0, m.bod())));
-    p.setBrush(odstin(0xFF0B0D10));
-    p.drawRoundedRect(QRectF(telo.adjusted(-okraj, -okraj, okraj, okraj)), okraj, okraj);
-    p.setPen(QPen(odstin(kLinka), std::max(1.0, m.bod())));
-    p.setBrush(odstin(0xFF1A1F25));
-    for (int n = 0; n < static_cast<int>(popis.svetla.size()); ++n)
-        if (popis.svetla[static_cast<std::size_t>(n)] && relief.svetlo.je(n))
-            p.drawEllipse(
-                QRectF(v_bodech(m, relief.svetlo[n])).adjusted(m.bod(), m.bod(), -m.bod(), -m.bod()));
-    for (int n = 0; n < static_cast<int>(popis.pruhy.size()); ++n)
-        if (popis.pruhy[static_cast<std::size_t>(n)] && relief.pruh.je(n))
-            p.drawRect(QRectF(v_bodech(m, relief.pruh[n])));
-    p.setBrush(Qt::NoBrush);
-    p.setRenderHint(QPainter::Antialiasing, false);
 }
 
 } // namespace
@@ -739,6 +702,10 @@ QRect misto_vstupu(Druh druh, const Prvek& prvek) {
     return r;
 }
 
+int radku_popisu(const Prvek& prvek) {
+    return static_cast<int>(radky_popisu(prvek).size());
+}
+
 QRect misto_textu(const Meritko& m, Druh druh, const Prvek& prvek) {
     const Styl& s = styl(druh);
     if (!s.kryje || !prvek.viditelny)
@@ -781,7 +748,7 @@ void nakresli_prvek(QPainter& p, const Meritko& m, Druh druh, int n, const Prvek
     case Zpusob::vyhybka:
         nakresli_vyhybku(p, m, prvek.vlevo, prvek.nahore, stav_vyhybky(prvek), okoli);
         return;
-    case Zpusob::cil: nakresli_cil(p, m, n, prvek); return;
+    case Zpusob::cil: nakresli_cil(p, m, prvek, okoli); return;
     case Zpusob::lampa: nakresli_lampu(p, m, n, prvek); return;
     case Zpusob::znacka: p.fillRect(v_bodech(m, prvek), barva_qt(prvek.barva)); return;
     case Zpusob::stanoviste: nakresli_stanoviste(p, m, prvek); return;
@@ -818,7 +785,47 @@ void nakresli_podklad(QPainter& p, const Meritko& m, const QRect& plocha) {
     pas(597, 615);
     linka(597);
     linka(615);
-    nakresli_panel(p, m);
+}
+
+// The casing of the signal panel: a mast of its height on its foot, with the sockets of the lamps that it
+// carries. A dwarf stands on the ground.
+void nakresli_panel(QPainter& p, const Meritko& m, int posun) {
+    if (!relief.lblnavestidlo.je(0) || !relief.lblnavestidlo[0].viditelny ||
+        relief.lblnavestidlo[0].text->empty())
+        return;
+    const PopisPanelu& popis = popis_panelu(panel_navestidla.tvar);
+    const auto misto = [&](const Prvek& prvek) {
+        return QRect(QPoint(m.x(prvek.vlevo + posun), m.y(prvek.nahore)),
+                     QPoint(m.x(prvek.vlevo + prvek.sirka + posun) - 1, m.y(prvek.nahore + prvek.vyska) - 1));
+    };
+    QRect telo;
+    for (int n = 0; n < static_cast<int>(popis.svetla.size()); ++n)
+        if (popis.svetla[static_cast<std::size_t>(n)] && relief.svetlo.je(n))
+            telo |= misto(relief.svetlo[n]);
+    for (int n = 0; n < static_cast<int>(popis.pruhy.size()); ++n)
+        if (popis.pruhy[static_cast<std::size_t>(n)] && relief.pruh.je(n))
+            telo |= misto(relief.pruh[n]);
+    if (telo.isEmpty())
+        return;
+    const int okraj = m.bodu(3), stozar = m.bodu(4), pata = m.bodu(2), sirka_paty = m.bodu(18);
+    const int dole = telo.bottom() + okraj + m.bodu(kStupenStozaru) * popis.vyska + pata;
+    const QColor barva_stozaru = odstin(0xFF8A939C);
+    p.fillRect(telo.center().x() - stozar / 2, telo.bottom(), stozar, dole - telo.bottom(), barva_stozaru);
+    p.fillRect(telo.center().x() - sirka_paty / 2, dole - pata, sirka_paty, pata, barva_stozaru);
+    p.setRenderHint(QPainter::Antialiasing);
+    p.setPen(QPen(odstin(0xFF8A939C), std::max(1.0, m.bod())));
+    p.setBrush(odstin(0xFF0B0D10));
+    p.drawRoundedRect(QRectF(telo.adjusted(-okraj, -okraj, okraj, okraj)), okraj, okraj);
+    p.setPen(QPen(odstin(kLinka), std::max(1.0, m.bod())));
+    p.setBrush(odstin(0xFF1A1F25));
+    for (int n = 0; n < static_cast<int>(popis.svetla.size()); ++n)
+        if (popis.svetla[static_cast<std::size_t>(n)] && relief.svetlo.je(n))
+            p.drawEllipse(QRectF(misto(relief.svetlo[n])).adjusted(m.bod(), m.bod(), -m.bod(), -m.bod()));
+    for (int n = 0; n < static_cast<int>(popis.pruhy.size()); ++n)
+        if (popis.pruhy[static_cast<std::size_t>(n)] && relief.pruh.je(n))
+            p.drawRect(QRectF(misto(relief.pruh[n])));
+    p.setBrush(Qt::NoBrush);
+    p.setRenderHint(QPainter::Antialiasing, false);
 }
 
 void nakresli_vyhybku(QPainter& p, const Meritko& m, int x, int y, int stav, const OkoliCary& okoli) {

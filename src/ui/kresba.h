@@ -10,6 +10,7 @@
 #include <QRect>
 #include <QRegion>
 
+#include <array>
 #include <cstdint>
 
 inline constexpr int kTwipu = 15;                 // twips to a pixel of the desk
@@ -42,12 +43,16 @@ QRect misto_kresby(Druh druh, int n, const Prvek& prvek);
 // Rectangle in twips that the pointer hits.
 QRect misto_vstupu(Druh druh, const Prvek& prvek);
 
+// Lines that the caption under a vehicle takes.
+int radku_popisu(const Prvek& prvek);
+
 // What surrounds a line: the places of the texts that stand on it, which level lines leave free, and whether
 // it goes on into a switch or a bend past its first and its second end. Sections that lie in one line part by
 // a small gap; a way over switches and bends is one stroke.
 struct OkoliCary {
     QRegion texty; // device pixels
     bool dal_od = false, dal_po = false;
+    std::array<const Prvek*, 2> popisky{}; // of a target: the labels of its track, where there are such
 };
 // Place that the text of a sign or label takes from the lines under it, device pixels; empty for other kinds
 // and for blank texts.
@@ -66,6 +71,8 @@ inline constexpr QRect kMistoPanelu(928 * kTwipu, 46 * kTwipu, 92 * kTwipu, 156 
 bool je_v_panelu(Druh druh);
 // Ground of the desk, on black: the bars and panels that no element stands for.
 void nakresli_podklad(QPainter& p, const Meritko& m, const QRect& plocha);
+// The casing of the signal panel, so far right of its place; twips.
+void nakresli_panel(QPainter& p, const Meritko& m, int posun);
 // Outline within the rectangle, `tl` device pixels thick.
 void nakresli_obrys(QPainter& p, const QRect& kde, int tl, const QColor& barva);
 // A picture of a switch alone, its cell's corner at (x, y) twips: for the manual and for tests.

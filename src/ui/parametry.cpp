@@ -7,6 +7,7 @@
 #include "ui/brana.h"
 #include "ui/kresba.h"
 #include "ui/pismo.h"
+#include "ui/pohled.h"
 #include "ui/uvod.h"
 #include "ui/vzhled.h"
 #include "zaklad/soubory.h"
@@ -400,6 +401,7 @@ QWidget* OknoParametru::stranka_moznosti() {
                           [](bool z) { zaskrtni(&Parametry::chkNoresize, z); });
     chkDualMonitor = policko(QStringLiteral("Zakázat podporu &dvou monitorů"),
                              [](bool z) { zaskrtni(&Parametry::chkDualMonitor, z); });
+    chkPomer = policko(QStringLiteral("Stůl v poměru &4 : 3 (zbytek obrazovky černý)"), nastav_verny_pomer);
     chkAutosave = policko(QStringLiteral("Ukládat &samočinně po"),
                           [](bool z) { zaskrtni(&Parametry::chkAutosave, z); });
     chkVypravci = policko(QStringLiteral("&Ukázkový provoz (automatický výpravčí)"),
@@ -427,6 +429,7 @@ QWidget* OknoParametru::stranka_moznosti() {
     sloupec->addLayout(ukladani);
     sloupec->addWidget(chkVypravci);
     sloupec->addWidget(chkNoresize);
+    sloupec->addWidget(chkPomer);
     sloupec->addWidget(chkDualMonitor);
     sloupec->addWidget(lblMonitor);
 
@@ -560,6 +563,7 @@ void OknoParametru::ukaz() {
     zapnuto(chkVypravci, parametry.chkVypravci);
     zapnuto(chkNoresize, parametry.chkNoresize);
     zapnuto(chkDualMonitor, parametry.chkDualMonitor);
+    zapnuto(chkPomer, je_verny_pomer());
     lblMonitor->setText(na_qstring(parametry.lblMonitor));
     stranky->setCurrentIndex(parametry.stranka);
     for (std::size_t i = 0; i < imgStranka.size(); ++i)

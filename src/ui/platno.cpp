@@ -2,10 +2,12 @@
 #include "ui/platno.h"
 
 #include "relief/tvary_vyhybek.h"
+#include "ui/doplnek_tabulky.h"
 
 #include <QPainter>
 
 #include <algorithm>
+#include <cmath>
 #include <cstdlib>
 #include <tuple>
 
@@ -15,26 +17,283 @@ const TabulkaPrvku& tabulka_druhu(std::size_t d) {
     return relief.*kDruhy[d].tabulka;
 }
 
+// The band of the tracks between the bars, twips.
+constexpr int kPasReliefu_od = 43 * kTwipu, kPasReliefu_do = 597 * kTwipu;
+constexpr double kNejvetsiLupa = 4;
+// Where the lists of the bottom panel stand on the desk as it was drawn, pixels of the desk.
+constexpr QRect kSeznam(4, 640, 1016, 126);
+constexpr int kRadkuSloupce = 8, kSloupcuTabulky = 3; // of the train table
+constexpr std::size_t kSloupcuRadku = 33;             // characters of its lines on the desk as it was drawn
+constexpr double kNejvetsiVuz = 1.5;
+
+// Where a line of the train table may go on: in a column of its own, or behind a text that reaches into it.
+std::size_t sloupec_doplnku(TextPohled radek) {
+    const std::size_t posledni = radek.find_last_not_of(' ');
+    return posledni == TextPohled::npos ? kSloupcuRadku : std::max(kSloupcuRadku, posledni + 2);
+}
+
+bool je_v_pasu_reliefu(int y) {
+    return y >= kPasReliefu_od && y < kPasReliefu_do;
+}
+
 } // namespace
 
-void Platno::nastav_velikost(QSize velikost, int sirka) {
+void Platno::nastav_velikost(QSize velikost, int sirka, bool roztahnout) {
+    const bool jina_sirka = sirka_stolu != sirka;
     sirka_stolu = sirka;
     platno = QImage(velikost, QImage::Format_RGB32);
     const double k = std::min(velikost.width() / static_cast<double>(sirka_stolu),
                               velikost.height() / static_cast<double>(kVyskaStolu));
     m.k = k;
-    m.x0 = static_cast<int>((velikost.width() - sirka_stolu * k) / 2);
-    m.y0 = static_cast<int>((velikost.height() - kVyskaStolu * k) / 2);
+    if (roztahnout) {
+        m.x0 = m.y0 = 0;
+        sirsi = std::max(0, static_cast<int>(velikost.width() / k) - sirka_stolu);
+        vyssi = std::max(0, static_cast<int>(velikost.height() / k) - kVyskaStolu);
+    } else {
+        m.x0 = static_cast<int>((velikost.width() - sirka_stolu * k) / 2);
+        m.y0 = static_cast<int>((velikost.height() - kVyskaStolu * k) / 2);
+        sirsi = vyssi = 0;
+    }
+    if (jina_sirka)
+        roztazeni.spocti(nakreslene, nakreslene_napisy, sirka_stolu);
+    umisti_vse();
+    nastav_lupu(zvetseni, plocha_lupy().center());
     vse = true;
 }
 
 QPoint Platno::na_twipy(QPointF bod) const {
-    return QPoint(static_cast<int>((bod.x() - m.x0) / m.k), static_cast<int>((bod.y() - m.y0) / m.k));
+    const bool v_lupe = zvetseni > 1 && plocha_lupy().contains(bod.toPoint());
+    if (v_lupe && plocha_panelu().contains(bod.toPoint()))
+        return {-kSirkaStolu, -kVyskaStolu}; // what lies under the panel cannot be reached
+    const Meritko& kde = v_lupe ? lupy : m;
+    return QPoint(static_cast<int>(std::floor((bod.x() - kde.x0) / kde.k)),
+                  static_cast<int>(std::floor((bod.y() - kde.y0) / kde.k)));
+}
+
+const Meritko& Platno::meritko_mista(QPoint twipy) const {
+    return meritko(je_v_pasu_reliefu(twipy.y()) ? Druh::kolej : Druh::lblPrikaz);
 }
 
 QRect Platno::v_bodech(const QRect& twipy) const {
-    return QRect(QPoint(m.x(twipy.x()), m.y(twipy.y())),
-                 QPoint(m.x(twipy.x() + twipy.width()) - 1, m.y(twipy.y() + twipy.height()) - 1));
+    return v_bodech(je_v_pasu_reliefu(twipy.center().y()) ? Druh::kolej : Druh::lblPrikaz, twipy);
+}
+
+QRect Platno::v_bodech(Druh druh, const QRect& twipy) const {
+    const Meritko& kde = meritko(druh);
+    const QRect body(QPoint(kde.x(twipy.x()), kde.y(twipy.y())),
+                     QPoint(kde.x(twipy.x() + twipy.width()) - 1, kde.y(twipy.y() + twipy.height()) - 1));
+    return zvetseny(druh) ? body & plocha_lupy() : body;
+}
+
+QPoint Platno::na_stul(QPoint obraz) const {
+    if (sirsi == 0 || !je_v_pasu_reliefu(obraz.y()))
+        return obraz;
+    return {roztazeni.na_stul(obraz.x(), obraz.y(), static_cast<double>(sirsi) / sirka_stolu), obraz.y()};
+}
+
+QPoint Platno::ze_stolu(QPoint stul) const {
+    if (sirsi == 0 || !je_v_pasu_reliefu(stul.y()))
+        return stul;
+    return {roztazeni.na_obraz(stul.x(), stul.y(), static_cast<double>(sirsi) / sirka_stolu), stul.y()};
+}
+
+// --- the magnifying glass
+
+// Between the command line and the status strip.
+QRect Platno::plocha_lupy() const {
+    return QRect(QPoint(0, m.y(kPasReliefu_od)), QPoint(platno.width() - 1, m.y(kPasReliefu_do) - 1));
+}
+
+// The corner of the desk lies at `roh`, as near as the edges of the drawing allow: nothing is seen beyond.
+void Platno::spocti_lupu(QPointF roh) {
+    const QRect plocha = plocha_lupy();
+    lupy.k = m.k * zvetseni;
+    const double sirka = (sirka_stolu + sirsi) * lupy.k;
+    const double od = kPasReliefu_od * lupy.k, po = kPasReliefu_do * lupy.k;
+    lupy.x0 = sirka <= plocha.width()
+                  ? static_cast<int>((platno.width() - sirka) / 2)
+                  : static_cast<int>(std::clamp<double>(roh.x(), plocha.right() + 1 - sirka, plocha.left()));
+    lupy.y0 = static_cast<int>(std::clamp<double>(roh.y(), plocha.bottom() + 1 - po, plocha.top() - od));
+    vse = true;
+}
+
+void Platno::nastav_lupu(double krat, QPointF bod) {
+    const Meritko& pred = zvetseni > 1 ? lupy : m;
+    const QPointF misto((bod.x() - pred.x0) / pred.k, (bod.y() - pred.y0) / pred.k);
+    zvetseni = std::clamp(krat, 1.0, kNejvetsiLupa);
+    spocti_lupu(bod - misto * (m.k * zvetseni));
+}
+
+void Platno::posun_lupu(QPoint o_kolik) {
+    spocti_lupu(QPointF(lupy.x0, lupy.y0) + o_kolik);
+}
+
+bool Platno::ukaz(QPoint twipy) {
+    if (zvetseni <= 1 || !je_v_pasu_reliefu(twipy.y()))
+        return false;
+    const QRect plocha = plocha_lupy();
+    const int okraj = std::min(lupy.bodu(40), plocha.height() / 4); // room for what stands around
+    const QRect videt = plocha.adjusted(okraj, okraj, -okraj, -okraj);
+    const QPoint kde(lupy.x(twipy.x()), lupy.y(twipy.y()));
+    const QPoint predtim(lupy.x0, lupy.y0);
+    if (!videt.contains(kde))
+        posun_lupu(QPoint(std::clamp(kde.x(), videt.left(), videt.right()),
+                          std::clamp(kde.y(), videt.top(), videt.bottom())) -
+                   kde);
+    return predtim != QPoint(lupy.x0, lupy.y0);
+}
+
+// --- elements in the picture
+
+// On one monitor it stands in the right upper corner, on two in a gap between the tracks.
+int Platno::posun_panelu() const {
+    const double stred = kMistoPanelu.center().x();
+    return monitoru() == 1 ? sirsi : static_cast<int>(std::lround(sirsi * stred / sirka_stolu));
+}
+
+QRect Platno::plocha_panelu() const {
+    return v_bodech(Druh::svetlo, kMistoPanelu.translated(posun_panelu(), 0));
+}
+
+QRect Platno::misto_seznamu() const {
+    return {kSeznam.x() * kTwipu, kSeznam.y() * kTwipu, kSeznam.width() * kTwipu + posun_praveho_okraje(),
+            kSeznam.height() * kTwipu + vyssi};
+}
+
+Prvek Platno::umisti(Druh druh, int n) const {
+    Prvek p = nakreslene[static_cast<std::size_t>(druh)][static_cast<std::size_t>(n)];
+    const int pravy = posun_praveho_okraje(); // of the monitor
+    if (sirsi == 0 && vyssi == 0)
+        return p;
+    if (je_v_reliefu(druh)) {
+        const double navic = static_cast<double>(sirsi) / sirka_stolu;
+        const auto posun = [navic](double podil) { return static_cast<int>(std::lround(navic * podil)); };
+        if (druh == Druh::shpVyhledavani) { // it stands round the middle of a label
+            const auto stred = [](const Prvek& co) {
+                return QPoint(co.vlevo + co.sirka / 2, co.nahore + co.vyska / 2);
+            };
+            const std::vector<Prvek>& popisky = nakreslene[static_cast<std::size_t>(Druh::cislo_koleje)];
+            const auto nalezeny = std::find_if(popisky.begin(), popisky.end(), [&](const Prvek& popisek) {
+                return popisek.existuje && (stred(popisek) - stred(p)).manhattanLength() <= 2 * kTwipu;
+            });
+            if (nalezeny != popisky.end())
+                p.vlevo =
+                    p.vlevo +
+                    posun(roztazeni.podil(Druh::cislo_koleje, static_cast<int>(nalezeny - popisky.begin()))
+                              .zacatek);
+            return p;
+        }
+        const bool odjezd = druh == Druh::lblPredvidany_odjezd; // beside the lamp of the consent
+        const Roztazeni::Podil podil = roztazeni.podil(odjezd ? Druh::lblSouhlas : druh, n);
+        const int od = posun(podil.zacatek), po = posun(podil.konec);
+        p.x1 = p.x1 + od;
+        p.x2 = p.x2 + po;
+        p.vlevo = p.vlevo + od;
+        p.sirka = p.sirka + po - od;
+        return p;
+    }
+    if (je_v_panelu(druh)) {
+        p.vlevo = p.vlevo + posun_panelu();
+        return p;
+    }
+    if (monitoru() == 2 && p.vlevo >= kSirkaStolu)
+        p.vlevo = p.vlevo + pravy;
+    switch (druh) {
+    case Druh::imgSound:
+    case Druh::imgUloz:
+    case Druh::imgDEBUG:
+    case Druh::imgPauza:
+    case Druh::imgMinimalizuj:
+    case Druh::imgKONEC:
+    case Druh::lblMakro_pismeno:
+    case Druh::lblPokracuje:
+    case Druh::lblPN: p.vlevo = p.vlevo + pravy; break;
+    case Druh::lblVolba:
+    case Druh::lblIinfo_o_vlaku: p.sirka = p.sirka + pravy; break;
+    case Druh::lblTabulka_vlaku:
+    case Druh::shpblikacka: {
+        const int sloupec = n % kRadkuTabulky / kRadkuSloupce;
+        p.vlevo = p.vlevo + sloupec * pravy / kSloupcuTabulky;
+        if (druh == Druh::shpblikacka)
+            break;
+        p.sirka = p.sirka + pravy / kSloupcuTabulky;
+        if (const Text& doplnek = doplnky[static_cast<std::size_t>(n)]; !doplnek.empty()) {
+            Text radek(p.text().substr(0, sloupec_doplnku(p.text())));
+            radek.resize(sloupec_doplnku(p.text()), ' ');
+            p.text = radek + doplnek;
+        }
+        break;
+    }
+    case Druh::imgObrzaek_vlaku:
+    case Druh::lblPopis_vozu:
+    case Druh::imgSberac: {
+        const double stred = p.vlevo + p.sirka / 2.0;
+        const double krat = druh == Druh::imgSberac ? 1 : vozy.krat;
+        p.sirka = static_cast<int>(std::lround(p.sirka * krat));
+        p.vlevo = static_cast<int>(
+            std::lround(kSeznam.x() * kTwipu + (stred - kSeznam.x() * kTwipu) * vozy.krat - p.sirka / 2.0));
+        p.nahore = p.nahore + (druh == Druh::lblPopis_vozu ? vozy.dolu : -vozy.nahoru);
+        p.vyska = p.vyska + (druh == Druh::imgObrzaek_vlaku ? vozy.nahoru + vozy.dolu : 0);
+        break;
+    }
+    default: break;
+    }
+    return p;
+}
+
+// A train is drawn as large as the breadth of the panel and the lines above and below it allow.
+Platno::Vozy Platno::spocti_vozy() const {
+    const double do_sirky = 1 + static_cast<double>(sirsi) / sirka_stolu;
+    if (monitoru() == 2 || do_sirky <= 1)
+        return {};
+    constexpr int kVyskaMista = 40 * kTwipu, kRezerva = 3 * kTwipu, kRadkuPopisu = 3;
+    constexpr double kKrokVozu = 0.02;
+    const auto prvky = [this](Druh druh) -> const std::vector<Prvek>& {
+        return nakreslene[static_cast<std::size_t>(druh)];
+    };
+    const bool jeden_radek = prvky(Druh::lblIinfo_o_vlaku).empty() ||
+                             static_cast<int>(prvky(Druh::lblIinfo_o_vlaku)[0].text->size()) * kSirkaZnaku <
+                                 misto_seznamu().width();
+    const int nahore = (jeden_radek ? kVyskaZnaku : 0) + kRezerva;
+    for (double krat = std::min(do_sirky, kNejvetsiVuz); krat > 1; krat -= kKrokVozu) {
+        int radku = 1;
+        for (Prvek popis : prvky(Druh::lblPopis_vozu))
+            if (popis.viditelny) {
+                popis.sirka = static_cast<int>(popis.sirka * krat);
+                radku = std::max(radku, radku_popisu(popis));
+            }
+        const int dole = std::max(0, kRadkuPopisu - radku) * kVyskaZnaku + vyssi;
+        const int potreba = static_cast<int>((krat - 1) * kVyskaMista);
+        if (potreba <= nahore + dole)
+            return {krat, std::min(nahore, potreba), potreba - std::min(nahore, potreba)};
+    }
+    return {};
+}
+
+// Of the lines of the train table, as far as the breadth of a column goes.
+std::array<Text, kRadkuTabulky> Platno::spocti_doplnky() const {
+    std::array<Text, kRadkuTabulky> nove;
+    const std::size_t sloupcu =
+        kSloupcuRadku + static_cast<std::size_t>(posun_praveho_okraje() / kSloupcuTabulky / kSirkaZnaku);
+    for (std::size_t n = 0; n < nove.size() && sloupcu > kSloupcuRadku; ++n)
+        if (const Prvek& radek = relief.lblTabulka_vlaku[static_cast<int>(n)]; radek.viditelny)
+            if (const std::size_t od = sloupec_doplnku(radek.text()); od < sloupcu)
+                nove[n] = doplnek_radku(static_cast<int>(n), sloupcu - od);
+    return nove;
+}
+
+void Platno::umisti_vse() {
+    for (std::size_t d = 0; d < kDruhy.size(); ++d) {
+        umistene[d].resize(nakreslene[d].size());
+        for (std::size_t n = 0; n < nakreslene[d].size(); ++n)
+            umistene[d][n] = umisti(static_cast<Druh>(d), static_cast<int>(n));
+    }
+    umistene_napisy = nakreslene_napisy;
+    for (std::size_t n = 0; n < umistene_napisy.size(); ++n)
+        umistene_napisy[n].vlevo += static_cast<int>(
+            std::lround(static_cast<double>(sirsi) / sirka_stolu * roztazeni.podil_napisu(n)));
+    serad();
+    najdi_spoje();
 }
 
 void Platno::serad() {
@@ -44,7 +303,7 @@ void Platno::serad() {
             if (nakreslene[d][n].existuje) {
                 const Druh druh = static_cast<Druh>(d);
                 const int cislo = static_cast<int>(n);
-                poradi.push_back({druh, cislo, misto_kresby(druh, cislo, nakreslene[d][n])});
+                poradi.push_back({druh, cislo, misto_kresby(druh, cislo, umistene[d][n])});
             }
     const auto klic = [&](const Polozka& p) {
         return std::tuple(
@@ -58,8 +317,7 @@ void Platno::serad() {
 void Platno::najdi_spoje() {
     spoje.clear();
     for (const Polozka& polozka : poradi) {
-        const Prvek& p =
-            nakreslene[static_cast<std::size_t>(polozka.druh)][static_cast<std::size_t>(polozka.n)];
+        const Prvek& p = prvek(polozka.druh, polozka.n);
         if (!p.viditelny)
             continue;
         if (polozka.druh == Druh::kolej && p.x1 != p.x2 && p.y1 != p.y2) {
@@ -78,60 +336,92 @@ QRegion Platno::obnov() {
         return {};
     if (!vse && nakreslena_revize == revize_reliefu && nakresleny_panel == panel_navestidla)
         return {};
-    nakreslena_revize = revize_reliefu;
 
     QRegion zmenene;
-    bool preradit = false, posunout = false;
+    bool preradit = false, posunout = false, pribyly = false;
+    const auto misto = [this](Druh druh, int n) {
+        return v_bodech(druh, misto_kresby(druh, n, prvek(druh, n)));
+    };
     for (std::size_t d = 0; d < kDruhy.size(); ++d) {
         const TabulkaPrvku& t = tabulka_druhu(d);
+        const Druh druh = static_cast<Druh>(d);
         std::vector<Prvek>& stare = nakreslene[d];
         const auto pocet = static_cast<std::size_t>(t.nejvyssi() + 1);
         if (stare.size() != pocet) {
             stare.resize(pocet);
+            umistene[d].resize(pocet);
             preradit = true;
+            pribyly |= je_v_reliefu(druh);
         }
         for (std::size_t n = 0; n < pocet; ++n) {
             const int cislo = static_cast<int>(n);
             Prvek& stary = stare[n];
             if (!t.je(cislo)) {
                 if (stary.existuje) {
-                    zmenene += v_bodech(misto_kresby(static_cast<Druh>(d), cislo, stary));
-                    stary = Prvek{};
+                    zmenene += misto(druh, cislo);
+                    umistene[d][n] = stary = Prvek{};
                     preradit = true;
+                    pribyly |= je_v_reliefu(druh);
                 }
                 continue;
             }
             const Prvek& novy = t[cislo];
             if (stary == novy)
                 continue;
-            const Druh druh = static_cast<Druh>(d);
             preradit |= !stary.existuje || stary.poradi != novy.poradi;
+            pribyly |= !stary.existuje && je_v_reliefu(druh);
             if (stary.existuje && stary.viditelny)
-                zmenene += v_bodech(misto_kresby(druh, cislo, stary));
-            if (novy.viditelny)
-                zmenene += v_bodech(misto_kresby(druh, cislo, novy));
-            if (je_v_panelu(druh))
-                zmenene += v_bodech(kMistoPanelu);
-            posunout = true;
+                zmenene += misto(druh, cislo);
             stary = novy;
+            umistene[d][n] = umisti(druh, cislo);
+            if (novy.viditelny)
+                zmenene += misto(druh, cislo);
+            if (je_v_panelu(druh))
+                zmenene += plocha_panelu();
+            posunout = true;
         }
     }
     if (nakresleny_panel != panel_navestidla) {
         nakresleny_panel = panel_navestidla;
-        zmenene += v_bodech(kMistoPanelu);
+        zmenene += plocha_panelu();
     }
     if (nakreslene_napisy != relief.napisy) {
         nakreslene_napisy = relief.napisy;
-        vse = true;
+        pribyly = true;
     }
-    if (preradit)
+    if (const Vozy nove = spocti_vozy(); vozy != nove) {
+        vozy = nove;
+        for (const Druh druh : {Druh::imgObrzaek_vlaku, Druh::lblPopis_vozu, Druh::imgSberac})
+            for (std::size_t n = 0; n < umistene[static_cast<std::size_t>(druh)].size(); ++n)
+                umistene[static_cast<std::size_t>(druh)][n] = umisti(druh, static_cast<int>(n));
+        zmenene += v_bodech(Druh::lblPopis_vozu, misto_seznamu());
+        posunout = true;
+    }
+    if (std::array<Text, kRadkuTabulky> nove = spocti_doplnky(); doplnky != nove) {
+        doplnky.swap(nove);
+        for (std::size_t n = 0; n < doplnky.size(); ++n)
+            if (doplnky[n] != nove[n]) {
+                const int radek = static_cast<int>(n);
+                zmenene += misto(Druh::lblTabulka_vlaku, radek);
+                umistene[static_cast<std::size_t>(Druh::lblTabulka_vlaku)][n] =
+                    umisti(Druh::lblTabulka_vlaku, radek);
+                zmenene += misto(Druh::lblTabulka_vlaku, radek);
+            }
+        posunout = true;
+    }
+    if (pribyly) {
+        roztazeni.spocti(nakreslene, nakreslene_napisy, sirka_stolu);
+        umisti_vse();
+        vse = true;
+    } else if (preradit) {
         serad();
-    else if (posunout)
-        for (Polozka& p : poradi)
-            p.misto = misto_kresby(
-                p.druh, p.n, nakreslene[static_cast<std::size_t>(p.druh)][static_cast<std::size_t>(p.n)]);
-    if (preradit || posunout)
         najdi_spoje();
+    } else if (posunout) {
+        for (Polozka& p : poradi)
+            p.misto = misto_kresby(p.druh, p.n, prvek(p.druh, p.n));
+        najdi_spoje();
+    }
+    nakreslena_revize = revize_reliefu; // the copies have raised it themselves
     if (vse)
         zmenene = platno.rect();
     vse = false;
@@ -152,45 +442,71 @@ void Platno::prekresli() {
 
 void Platno::kresli(QPainter& p, const QRegion& kde) const {
     p.fillRect(kde.boundingRect(), Qt::black);
-    const QRect stul = v_bodech(QRect(0, 0, sirka_stolu, kVyskaStolu));
-    nakresli_podklad(p, m, stul & kde.boundingRect());
-    const auto prvek_polozky = [&](const Polozka& polozka) -> const Prvek& {
-        return nakreslene[static_cast<std::size_t>(polozka.druh)][static_cast<std::size_t>(polozka.n)];
-    };
+    const QRect stul(QPoint(m.x(0), m.y(0)),
+                     QPoint(m.x(sirka_stolu + sirsi) - 1, m.y(kVyskaStolu + vyssi) - 1));
+    const QRect okraje = sirsi > 0 || vyssi > 0 ? platno.rect() : stul; // a rounded pixel is part of the desk
+    nakresli_podklad(p, m, okraje & kde.boundingRect());
+    if (zvetseni <= 1) {
+        nakresli_panel(p, m, posun_panelu());
+        kresli_prvky(p, kde, [](Druh) { return true; });
+        return;
+    }
+    const QRegion pod_lupou = kde & plocha_lupy();
+    p.save();
+    p.setClipRegion(pod_lupou);
+    kresli_prvky(p, pod_lupou, je_v_reliefu);
+    p.restore();
+    p.fillRect(plocha_panelu(), Qt::black); // it stays where it is, over the tracks
+    nakresli_panel(p, m, posun_panelu());
+    kresli_prvky(p, kde, [](Druh druh) { return !je_v_reliefu(druh); });
+}
+
+// The elements whose kind answers to `ktere`, from the lowest to the topmost.
+template <class Ktere> void Platno::kresli_prvky(QPainter& p, const QRegion& kde, Ktere ktere) const {
     OkoliCary okoli;
     for (const Polozka& polozka : poradi)
-        if (prvek_polozky(polozka).viditelny && kde.intersects(v_bodech(polozka.misto))) {
-            okoli.texty += misto_textu(m, polozka.druh, prvek_polozky(polozka));
-            nakresli_pozadi_textu(p, m, polozka.druh, prvek_polozky(polozka));
+        if (ktere(polozka.druh) && prvek(polozka.druh, polozka.n).viditelny &&
+            kde.intersects(v_bodech(polozka))) {
+            const Meritko& meritko_druhu = meritko(polozka.druh);
+            okoli.texty += misto_textu(meritko_druhu, polozka.druh, prvek(polozka.druh, polozka.n));
+            nakresli_pozadi_textu(p, meritko_druhu, polozka.druh, prvek(polozka.druh, polozka.n));
         }
-    p.save();
-    p.setClipRegion(kde.subtracted(okoli.texty));
-    for (const NapisPozadi& napis : nakreslene_napisy)
-        nakresli_napis_pozadi(p, m, napis);
-    p.restore();
-    const auto nakresli = [&](Druh druh, int n, const QRect& misto) {
-        const Prvek& prvek = nakreslene[static_cast<std::size_t>(druh)][static_cast<std::size_t>(n)];
-        if (!prvek.viditelny || !kde.intersects(v_bodech(misto)))
-            return;
-        okoli.dal_od = druh == Druh::kolej && navazuje(prvek.x1, prvek.y1);
-        okoli.dal_po = druh == Druh::kolej && navazuje(prvek.x2, prvek.y2);
-        nakresli_prvek(p, m, druh, n, prvek, okoli);
-    };
-    const auto je = [&](Druh druh, int n) {
-        const std::vector<Prvek>& prvky = nakreslene[static_cast<std::size_t>(druh)];
+    if (ktere(Druh::kolej)) {
+        p.save();
+        p.setClipRegion(kde.subtracted(okoli.texty));
+        for (const NapisPozadi& napis : umistene_napisy)
+            nakresli_napis_pozadi(p, meritko(Druh::kolej), napis);
+        p.restore();
+    }
+    const auto je = [this](Druh druh, int n) {
+        const std::vector<Prvek>& prvky = umistene[static_cast<std::size_t>(druh)];
         return static_cast<std::size_t>(n) < prvky.size() && prvky[static_cast<std::size_t>(n)].existuje;
     };
+    const auto nakresli = [&](Druh druh, int n, const QRect& misto) {
+        const Prvek& co = prvek(druh, n);
+        if (!co.viditelny || !kde.intersects(v_bodech(druh, misto)))
+            return;
+        okoli.dal_od = druh == Druh::kolej && navazuje(co.x1, co.y1);
+        okoli.dal_po = druh == Druh::kolej && navazuje(co.x2, co.y2);
+        okoli.popisky = {};
+        if (druh == Druh::Image1)
+            for (const std::size_t i : {0, 1})
+                if (const int popisek = n + static_cast<int>(i) * kDruhyStitek;
+                    je(Druh::cislo_koleje, popisek))
+                    okoli.popisky[i] = &prvek(Druh::cislo_koleje, popisek);
+        nakresli_prvek(p, meritko(druh), druh, n, co, okoli);
+    };
     for (const Polozka& polozka : poradi) {
+        if (!ktere(polozka.druh))
+            continue;
         // Targets lie at the bottom, where they are in nobody's way; but the sign of a note on one is
         // drawn with its track, over the line.
         if (polozka.druh == Druh::Image1 && je(Druh::kolej, polozka.n))
             continue;
         nakresli(polozka.druh, polozka.n, polozka.misto);
-        if (polozka.druh == Druh::kolej && je(Druh::Image1, polozka.n)) {
-            const auto n = static_cast<std::size_t>(polozka.n);
-            const Prvek& cil = nakreslene[static_cast<std::size_t>(Druh::Image1)][n];
-            nakresli(Druh::Image1, polozka.n, misto_kresby(Druh::Image1, polozka.n, cil));
-        }
+        if (polozka.druh == Druh::kolej && je(Druh::Image1, polozka.n))
+            nakresli(Druh::Image1, polozka.n,
+                     misto_kresby(Druh::Image1, polozka.n, prvek(Druh::Image1, polozka.n)));
     }
 }
 
@@ -203,16 +519,15 @@ std::optional<Nalezeny> Platno::prvek_pod(QPoint twipy) const {
     for (const Polozka& polozka : poradi) {
         if (!bere_vstup(polozka.druh))
             continue;
-        const Prvek& prvek =
-            nakreslene[static_cast<std::size_t>(polozka.druh)][static_cast<std::size_t>(polozka.n)];
-        if (!prvek.viditelny)
+        const Prvek& co = prvek(polozka.druh, polozka.n);
+        if (!co.viditelny)
             continue;
-        const QRect cil = misto_vstupu(polozka.druh, prvek);
+        const QRect cil = misto_vstupu(polozka.druh, co);
         if (!cil.contains(twipy))
             continue;
         const QPoint od = cil.center() - twipy;
         const int daleko = od.x() * od.x() + od.y() * od.y();
-        if (QRect(prvek.vlevo, prvek.nahore, prvek.sirka, prvek.vyska).contains(twipy))
+        if (QRect(co.vlevo, co.nahore, co.sirka, co.vyska).contains(twipy))
             presny = &polozka;
         else if (blizky == nullptr || daleko < vzdalenost) {
             blizky = &polozka;
@@ -230,12 +545,11 @@ std::optional<QPoint> Platno::soused(QPoint odkud, QPoint smer) const {
     std::optional<QPoint> nejblizsi;
     int nejmene = 0;
     for (const Polozka& polozka : poradi) {
-        const Prvek& prvek =
-            nakreslene[static_cast<std::size_t>(polozka.druh)][static_cast<std::size_t>(polozka.n)];
-        if (!bere_vstup(polozka.druh) || !prvek.viditelny ||
-            (polozka.druh == Druh::lblTabulka_vlaku && prvek.text().find_first_not_of(' ') == Text::npos))
+        const Prvek& co = prvek(polozka.druh, polozka.n);
+        if (!bere_vstup(polozka.druh) || !co.viditelny ||
+            (polozka.druh == Druh::lblTabulka_vlaku && co.text().find_first_not_of(' ') == Text::npos))
             continue;
-        const QPoint stred = misto_vstupu(polozka.druh, prvek).center();
+        const QPoint stred = misto_vstupu(polozka.druh, co).center();
         const QPoint cesta = stred - odkud;
         const int vpred = QPoint::dotProduct(cesta, smer);
         const int stranou = std::abs(cesta.x() * smer.y()) + std::abs(cesta.y() * smer.x());

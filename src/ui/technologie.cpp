@@ -7,6 +7,7 @@
 #include "obsluha/vstup.h"
 #include "ui/brana.h"
 #include "ui/pismo.h"
+#include "ui/pohled.h"
 
 #include <QHelpEvent>
 #include <QKeyEvent>
@@ -312,8 +313,10 @@ Meritko ObrazovkaTechnologie::meritko() const {
     const QSizeF velikost = QSizeF(parentWidget()->size()) * pomer;
     Meritko m;
     m.k = std::min(velikost.width() / kSirkaStolu, velikost.height() / kVyskaStolu);
-    m.x0 = static_cast<int>((velikost.width() - kSirkaStolu * m.k) / 2 - x() * pomer);
-    m.y0 = static_cast<int>((velikost.height() - kVyskaStolu * m.k) / 2 - y() * pomer);
+    // a screen stands in the middle; what shows only a corner of the desk keeps to that corner
+    const double podil = technologie.jen_pohled && !je_verny_pomer() ? 1 : 0.5;
+    m.x0 = static_cast<int>((velikost.width() - kSirkaStolu * m.k) * podil - x() * pomer);
+    m.y0 = static_cast<int>((velikost.height() - kVyskaStolu * m.k) * podil - y() * pomer);
     return m;
 }
 

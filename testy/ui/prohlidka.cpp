@@ -289,7 +289,9 @@ bool je_pismeny(Druh druh) {
     return druh >= Druh::lblPredvidany_odjezd && druh != Druh::shpblikacka;
 }
 
-void zmer_prvek(const Meritko& m, Druh druh, int n, const Prvek& prvek) {
+void zmer_prvek(const Platno& platno, Druh druh, int n) {
+    const Meritko& m = platno.meritko(druh);
+    const Prvek& prvek = platno.prvek(druh, n);
     if (prvek.sirka <= 0 || prvek.text->empty())
         return;
     QImage nic(1, 1, QImage::Format_RGB32);
@@ -318,7 +320,7 @@ void zapis_mapu(const HlavniOkno& okno, const Platno& platno) {
         for (int n = 0; n <= tabulka(druh).nejvyssi(); ++n) {
             if (!tabulka(druh).je(n) || !tabulka(druh)[n].viditelny)
                 continue;
-            const QRect misto = misto_vstupu(druh, tabulka(druh)[n]);
+            const QRect misto = platno.misto(druh, n);
             const std::optional<Nalezeny> nahore = platno.prvek_pod(misto.center());
             if (!nahore || nahore->druh != druh || nahore->n != n)
                 continue; // another one lies over its middle
@@ -345,17 +347,16 @@ void zapis_stav() {
 
 void prohledni_stul(const HlavniOkno& okno) {
     kde = QStringLiteral("stůl");
-    Platno platno;
-    platno.nastav_velikost((QSizeF(okno.size()) * okno.devicePixelRatioF()).toSize(),
-                           simulace.dva_monitory ? 2 * kSirkaStolu : kSirkaStolu);
-    const std::vector<Radek> radky = sleduj([&] { platno.obnov(); });
+    Platno platno = okno.obraz(); // with its size and its magnifying glass
+    platno.obnov();
+    const std::vector<Radek> radky = sleduj([&] { platno.prekresli(); });
     const QRectF obraz = platno.obraz().rect();
     std::vector<Radek> listy; // what stands above and below the relief
     for (const Radek& r : radky) {
-        if (!uvnitr(r.kde, obraz))
+        if (platno.lupa() <= 1 && !uvnitr(r.kde, obraz))
             vada(QStringLiteral("mimo stůl"), r.text);
         const int y = platno.na_twipy(r.kde.center()).y();
-        if (y < kPodListou || y > kNadPanelem)
+        if (platno.lupa() <= 1 && (y < kPodListou || y > kNadPanelem))
             listy.push_back(r);
     }
     zmer_prekryti(listy);
@@ -363,7 +364,7 @@ void prohledni_stul(const HlavniOkno& okno) {
         const Druh druh = static_cast<Druh>(d);
         for (int n = 0; je_pismeny(druh) && n <= tabulka(druh).nejvyssi(); ++n)
             if (tabulka(druh).je(n) && tabulka(druh)[n].viditelny)
-                zmer_prvek(platno.meritko(), druh, n, tabulka(druh)[n]);
+                zmer_prvek(platno, druh, n);
     }
     if (const auto ktera = otevrena_technologie()) {
         const TextPohled zalozka = kTechnologie[static_cast<std::size_t>(*ktera)].zalozka;

@@ -1,0 +1,7 @@
+// ui/pohled.h - how the desk is shown: what the operator chooses for his eyes and no simulation knows.
+#pragma once
+
+// The desk keeps the proportions of a display of 1024 by 768 and leaves the rest of the screen black;
+// otherwise it fills the screen. Kept in the settings, off at first.
+bool je_verny_pomer();
+void nastav_verny_pomer(bool ano);
