@@ -6,13 +6,18 @@
 
 #include <algorithm>
 #include <array>
-#include <map>
+#include <deque>
 
 namespace {
 
 constexpr int kMistTrati = 1000; // lines are numbered from here
 
-std::map<std::pair<std::size_t, std::size_t>, std::vector<Nahrada>> znama;
+// By route: for each that followed it so far.
+struct ZnameNahrady {
+    std::size_t dalsi = 0;
+    std::vector<Nahrada> nalezene;
+};
+std::vector<std::deque<ZnameNahrady>> znama; // who has an answer keeps it while others come
 
 double delka_trasy(const planovani::Sit& sit, const planovani::Trasa& t) {
     double m = 0;
@@ -94,10 +99,13 @@ int misto_prvku(int prvek) {
 }
 
 const std::vector<Nahrada>& nahrady(const planovani::Sit& sit, std::size_t trasa, std::size_t dalsi) {
-    const auto [misto, novy] = znama.try_emplace({trasa, dalsi});
-    if (novy)
-        misto->second = najdi_nahrady(sit, trasa, dalsi);
-    return misto->second;
+    if (znama.size() < sit.trasy.size())
+        znama.resize(sit.trasy.size());
+    std::deque<ZnameNahrady>& teto = znama[trasa];
+    for (const ZnameNahrady& z : teto)
+        if (z.dalsi == dalsi)
+            return z.nalezene;
+    return teto.emplace_back(ZnameNahrady{dalsi, najdi_nahrady(sit, trasa, dalsi)}).nalezene;
 }
 
 void zapomen_nahrady() {

@@ -54,17 +54,19 @@ constexpr int kNejdelePrednost_s = 420; // so long a train lets others go first
 constexpr int kZaSebou_s = 60;          // between two trains on a line
 constexpr int kNepotrebna_s = 90;       // a route without a use goes back so long after its order
 constexpr int kPostaveni_s = 30;        // a route is locked so long before the train comes to it
+constexpr int kPlatnostSlibu_s = 6;     // promises are as exact as this
 constexpr int kObzorSlibu_s = 900;      // so far ahead promises are made
-constexpr int kPohledNaCekani_s = 4;
-constexpr int kHledani_s = 60;         // between two searches for another way
-constexpr int kCekatNaKolej_s = 150;   // a train waits for its own platform that is free so soon,
-constexpr int kCekatNaVlastni_s = 240; // and no longer than this;
-constexpr int kCekatNaJinou_s = 60;    // for any other track
-constexpr int kCerstvaCesta_s = 30;    // a route that nothing hinders is commanded by then
-constexpr int kJinaKolejPo_s = 16;     // between two looks for another track
-constexpr int kUvolnitPo_s = 180;      // so long it waits before routes that nobody uses go out of its way
-constexpr int kVstup_min = 4;          // so long ahead entry tracks are kept free
-constexpr int kObjetiCestou_min = 12;  // a stop in which a locomotive may run round its train
+constexpr int kPohledBankere_s = 10;    // between two looks at a train that waits for others,
+constexpr int kPohledNaCekani_s = 4;    // and at one that waits for its way
+constexpr int kHledani_s = 60;          // between two searches for another way
+constexpr int kCekatNaKolej_s = 150;    // a train waits for its own platform that is free so soon,
+constexpr int kCekatNaVlastni_s = 240;  // and no longer than this;
+constexpr int kCekatNaJinou_s = 60;     // for any other track
+constexpr int kCerstvaCesta_s = 30;     // a route that nothing hinders is commanded by then
+constexpr int kJinaKolejPo_s = 16;      // between two looks for another track
+constexpr int kUvolnitPo_s = 180;       // so long it waits before routes that nobody uses go out of its way
+constexpr int kVstup_min = 4;           // so long ahead entry tracks are kept free
+constexpr int kObjetiCestou_min = 12;   // a stop in which a locomotive may run round its train
 constexpr std::size_t kNejvicKroku = 40;
 
 std::vector<Jizda> jizdy;
@@ -74,6 +76,8 @@ std::int32_t posledni_krok_s = 0;
 std::int32_t dalsi_vyluky_s = 0;
 std::array<std::int32_t, uzel::kKonceTrati.size()> dalsi_souhlas_s{};
 std::int32_t dalsi_uvolneni_s = 0;
+std::int32_t prehled_s = kZadny; // when all trains were looked at last
+bool banker_plati = false;       // who is stuck as the desk stands is known
 std::int32_t slibeno_s = kZadny; // when the promises were made last
 
 const planovani::Sit& sit() {
@@ -375,6 +379,7 @@ void najdi_cestu_vlaku(int v, Jizda& j, bool obsazene) {
     auto cesta = najdi_trasy(sit(), ukol);
     if (!cesta && obsazene)
         return; // the way that there is stays
+    banker_plati = false;
     j.cesta = cesta ? std::move(*cesta) : std::vector<KrokTrasy>{};
     j.cesta_od = j.hranice;
 }
@@ -401,6 +406,7 @@ void prestan_cekat(Jizda& j) {
 }
 
 void obnov_jizdu(int v) {
+    banker_plati = false;
     if (jizdy.size() < vlaky.size())
         jizdy.resize(vlaky.size());
     Jizda& j = jizdy[static_cast<std::size_t>(v)];
@@ -430,6 +436,15 @@ void obnov_jizdu(int v) {
         najdi_cestu_vlaku(v, j, false);
         j.hledat_s = ted_s() + kHledani_s;
     }
+}
+
+// All trains as they are in this second.
+void obnov_vsechny() {
+    if (prehled_s == ted_s())
+        return;
+    prehled_s = ted_s();
+    for (std::size_t v = 0; v < vlaky.size(); ++v)
+        obnov_jizdu(static_cast<int>(v));
 }
 
 // What the train will need within the next minutes, and where it will stand first.
@@ -491,24 +506,40 @@ void priprav_bankere() {
     }
 }
 
+// Who is stuck as the desk stands.
+void posud_stul() {
+    if (banker_plati)
+        return;
+    priprav_bankere();
+    uvazli(sit(), ucastnici, obsazena, bez_tras, uvazli_pred);
+    banker_plati = true;
+}
+
+// Nobody is stuck with the participants as they are now who is not stuck without what is asked.
+bool nikdo_dalsi_neuvazne() {
+    uvazli(sit(), ucastnici, obsazena, bez_tras, uvazli_po);
+    for (std::size_t k = 0; k < uvazli_po.size(); ++k)
+        if (uvazli_po[k] != 0 && (k >= uvazli_pred.size() || uvazli_pred[k] == 0))
+            return false;
+    return true;
+}
+
 // The train may take the first route of its way, to the track `prvek`: nobody is stuck by it who was not
 // before.
 bool je_bezpecne(int v, int prvek, std::span<const KrokTrasy> zbytek) {
-    priprav_bankere();
-    uvazli(sit(), ucastnici, obsazena, bez_tras, uvazli_pred);
+    posud_stul();
     const auto i = static_cast<std::size_t>(std::find(ucastnik_vlaku.begin(), ucastnik_vlaku.end(), v) -
                                             ucastnik_vlaku.begin());
     if (i >= ucastnici.size())
         return true;
+    const UcastnikBankere pred = ucastnici[i];
     ucastnici[i].misto = misto_prvku(prvek);
     ucastnici[i].poradi += 100'000; // behind those that are there
     ucastnici[i].cesta = zbytek;
-    uvazli(sit(), ucastnici, obsazena, bez_tras, uvazli_po);
-    for (std::size_t k = 0; k < ucastnici.size(); ++k)
-        if (uvazli_po[k] != 0 && uvazli_pred[k] == 0)
-            return false;
     // One that would not get to its end in any case stays off the lines.
-    return uvazli_po[i] == 0 || !planovani::je_tratovy(prvek);
+    const bool lze = nikdo_dalsi_neuvazne() && (uvazli_po[i] == 0 || !planovani::je_tratovy(prvek));
+    ucastnici[i] = pred;
+    return lze;
 }
 
 // --- entries are kept free
@@ -649,7 +680,7 @@ Text veta_cekani(int v, TextPohled proc) {
 
 // --- one route
 
-enum class Verdikt : std::uint8_t { lze, cizi, neni, zatim_ne, kolej };
+enum class Verdikt : std::uint8_t { lze, cizi, neni, zatim_ne, nebezpecne, kolej };
 struct Posudek {
     Verdikt co = Verdikt::lze;
     Text proc;
@@ -719,7 +750,7 @@ Posudek posud(int v, std::size_t trasa, std::span<const KrokTrasy> zbytek) {
         return {Verdikt::kolej, Text("kolej se drží volná pro vlak, který má vjet do uzlu"_cz)};
     // A single line is entered only when the station behind it can take the train.
     if (!je_bezpecne(v, t.konec, zbytek))
-        return {Verdikt::zatim_ne, Text("jinak by se vlaky navzájem zablokovaly"_cz)};
+        return {Verdikt::nebezpecne, Text("jinak by se vlaky navzájem zablokovaly"_cz)};
     return {};
 }
 
@@ -951,6 +982,9 @@ bool zkus(int v) {
         j.podivat_s = ted + std::min(nejdele, std::max(1, j.do_hranice_s - predstih));
         return false;
     }
+    obnov_vsechny();
+    if (j.cesta.empty() || j.cesta.front().trasa != trasa)
+        return false;
     const Vlak& vlak = vlak_c(v);
     if (!muze_tahnout(v) && j.stoji) {
         j.podivat_s = ted + 10;
@@ -972,7 +1006,8 @@ bool zkus(int v) {
     const int e = j.cesta.front().prvek;
     const bool vlastni = uzel::je_kolej_hlavniho(e) && planovana_kolej(vlak) == e;
     const int trpelivost = vlastni ? kCekatNaVlastni_s : kCekatNaJinou_s;
-    if (p.co == Verdikt::kolej || p.co == Verdikt::neni || (p.co == Verdikt::zatim_ne && ceka > trpelivost)) {
+    if (p.co == Verdikt::kolej || p.co == Verdikt::neni ||
+        ((p.co == Verdikt::zatim_ne || p.co == Verdikt::nebezpecne) && ceka > trpelivost)) {
         const bool pocka =
             p.co == Verdikt::kolej && vlastni && ceka <= trpelivost && uvolni_se_za_s(e) < kCekatNaKolej_s;
         if (!pocka && ted >= j.nahrada_s) {
@@ -1011,7 +1046,8 @@ bool zkus(int v) {
         najdi_cestu_vlaku(v, j, true);
         j.hledat_s = ted + kHledani_s;
     }
-    j.podivat_s = ted + std::max<int>(kPohledNaCekani_s, simulace.rychlost);
+    j.podivat_s = ted + std::max<int>(p.co == Verdikt::nebezpecne ? kPohledBankere_s : kPohledNaCekani_s,
+                                      simulace.rychlost);
     return false;
 }
 
@@ -1035,19 +1071,17 @@ bool je_bezpecny_vjezd(int k, std::int32_t cislo) {
     const auto cesta = najdi_trasy(sit(), ukol);
     if (!cesta)
         return true; // it comes, whatever becomes of it then
-    priprav_bankere();
-    uvazli(sit(), ucastnici, obsazena, bez_tras, uvazli_pred);
+    obnov_vsechny();
+    posud_stul();
     UcastnikBankere u;
     u.misto = misto_prvku(konec.usek);
     u.poradi = kNikdy_s;
     u.cesta = *cesta;
     u.konci = true;
     ucastnici.push_back(u);
-    uvazli(sit(), ucastnici, obsazena, bez_tras, uvazli_po);
-    for (std::size_t i = 0; i < uvazli_po.size(); ++i)
-        if (uvazli_po[i] != 0 && (i >= uvazli_pred.size() || uvazli_pred[i] == 0))
-            return false;
-    return true;
+    const bool lze = nikdo_dalsi_neuvazne();
+    ucastnici.pop_back();
+    return lze;
 }
 
 void rozhodni_souhlas(int k) {
@@ -1099,7 +1133,8 @@ void zacni_jizdy() {
     dalsi_vyluky_s = 0;
     dalsi_souhlas_s = {};
     dalsi_uvolneni_s = 0;
-    slibeno_s = kZadny;
+    slibeno_s = prehled_s = kZadny;
+    banker_plati = false;
     objednane.clear();
 }
 
@@ -1111,6 +1146,7 @@ void krok_jizd() {
         dalsi_vyluky_s = 0;
         dalsi_souhlas_s = {};
         dalsi_uvolneni_s = 0;
+        slibeno_s = prehled_s = kZadny;
     }
     posledni_krok_s = ted;
     if (jizdy.size() < vlaky.size())
@@ -1131,8 +1167,6 @@ void krok_jizd() {
         dalsi_vyluky_s = ted + 30;
     }
     zapni_pv();
-    for (std::size_t v = 0; v < vlaky.size(); ++v)
-        obnov_jizdu(static_cast<int>(v));
     for (std::size_t k = 0; k < souhlasy.zada.size(); ++k)
         if (souhlasy.zada[k] && dalsi_souhlas_s[k] <= ted)
             rozhodni_souhlas(static_cast<int>(k));
@@ -1140,9 +1174,13 @@ void krok_jizd() {
         zrus_nepotrebne();
     static std::vector<int> poradi;
     poradi.clear();
-    for (std::size_t v = 0; v < vlaky.size(); ++v)
+    for (std::size_t v = 0; v < vlaky.size(); ++v) {
+        if (jizdy[v].cislo != 0 || vlaky[v].cislo > 0)
+            if (jizdy[v].podivat_s <= ted || jizdy[v].cislo != vlaky[v].cislo)
+                obnov_jizdu(static_cast<int>(v));
         if (jizdy[v].jede && jizdy[v].podivat_s <= ted)
             poradi.push_back(static_cast<int>(v));
+    }
     std::stable_sort(poradi.begin(), poradi.end(), [](int a, int b) {
         const Jizda &x = jizdy[static_cast<std::size_t>(a)], &y = jizdy[static_cast<std::size_t>(b)];
         return x.do_hranice_s != y.do_hranice_s ? x.do_hranice_s < y.do_hranice_s
@@ -1154,14 +1192,14 @@ void krok_jizd() {
 }
 
 void obnov_sliby_jizd() {
-    if (slibeno_s == ted_s())
+    const std::int32_t ted = ted_s();
+    if (slibeno_s >= 0 && ted >= slibeno_s && ted - slibeno_s < kPlatnostSlibu_s)
         return;
-    slibeno_s = ted_s();
-    for (std::size_t v = 0; v < vlaky.size(); ++v) {
-        obnov_jizdu(static_cast<int>(v));
+    slibeno_s = ted;
+    obnov_vsechny();
+    for (std::size_t v = 0; v < vlaky.size(); ++v)
         if (jizdy[v].jede)
             slib_jizdy(static_cast<int>(v));
-    }
 }
 
 const std::vector<Jizda>& jizdy_vlaku() {

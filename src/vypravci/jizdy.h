@@ -56,7 +56,7 @@ void krok_jizd();
 
 // --- by the promises
 
-// What each train will need as the desk stands, once a second at most.
+// What each train will need as the desk stands, some seconds ago at most.
 void obnov_sliby_jizd();
 
 // --- at any time, without change
