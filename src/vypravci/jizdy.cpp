@@ -986,7 +986,7 @@ bool zkus(int v) {
     if (j.cesta.empty() || j.cesta.front().trasa != trasa)
         return false;
     const Vlak& vlak = vlak_c(v);
-    if (!muze_tahnout(v) && j.stoji) {
+    if (!muze_tahnout(v) && j.stoji && !vlak.muze_jet) { // an order lets it go without
         j.podivat_s = ted + 10;
         return false;
     }

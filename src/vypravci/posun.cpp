@@ -688,9 +688,10 @@ bool ma_ji_jiny(int e, std::int32_t cislo, int do_min) {
 bool hodi_se_nastupiste(const Vlak& t, int e) {
     if (!je_kolej(e) || sit_posunu().delky[static_cast<std::size_t>(e)] < t.delka)
         return false;
-    const int druha = t.zastavky.size() > 1 ? t.zastavky[1].stanice : dopravna::zadna;
+    const auto dal = static_cast<std::size_t>(std::max<int>(t.stanice_index, 0)) + 1;
+    const int kam = dal < t.zastavky.size() ? t.zastavky[dal].stanice : dopravna::zadna;
     const bool doprava =
-        je_v(druha, {dopravna::rybnice, dopravna::hajovice, dopravna::dkv, dopravna::hajovice_sn});
+        je_v(kam, {dopravna::rybnice, dopravna::hajovice, dopravna::dkv, dopravna::hajovice_sn});
     return !doprava || e <= 31;
 }
 
@@ -928,8 +929,10 @@ void ved_pretah(int v) {
     if (!zpet && uzel::je_kolej_hlavniho(e)) {
         for (const int k : uzel::kPretah)
             if (!je_obsazena(k) && slibena(k) == kZadny && volna_jeste_s(k, v) > kPretah_s &&
-                posun_na(v, k, Strana::libovolna, kZadny, naleha) == Posun::jede)
+                posun_na(v, k, Strana::libovolna, kZadny, naleha) == Posun::jede) {
+                slib_posunu(v, e, {}, 0); // its platform is kept for it
                 return;
+            }
         return;
     }
     if (!zpet) {
@@ -999,6 +1002,13 @@ void ved_konec(int v) {
     const int ceka_s = veze_postu(t) ? kVykladka_s : je_stroj(v) ? 0 : kVystup_s;
     if (ted_s() - pamet_c(v).od_s < ceka_s || ma_cestu(v))
         return;
+    // The set that came to another platform than planned has not taken its next number by itself.
+    const std::int32_t dalsi = urceni_cisla(t);
+    const GvdVlak* r = dalsi == t.cislo ? nullptr : radek_vlaku(dalsi);
+    if (r != nullptr && !je_stroj(v) && r->zastavky.front().stanice == dopravna::tesk) {
+        zmen_cislo_vlaku(e, v, dalsi);
+        return;
+    }
     Text veta = jmeno_vlaku(t);
     veta += " skončil, odstavuje se z "_cz;
     veta += koleje(e);
