@@ -419,15 +419,18 @@ QWidget* OknoParametru::stranka_moznosti() {
     ukladani->addStretch();
     QPushButton* smena = tlacitko(QStringLiteral("Přehrát záznam směn&y…"), [this] { prehraj_smenu(); });
     smena->setToolTip(QStringLiteral("F4"));
-    auto* vedle = new QHBoxLayout(skupina); // beside the boxes, where it takes no height
+    auto* vedle = new QHBoxLayout(skupina); // two columns: the page is no higher than the main one
     vedle->setContentsMargins(0, 0, 0, 0);
     auto* sloupec = new QVBoxLayout;
+    auto* pravy = new QVBoxLayout;
     vedle->addLayout(sloupec, 1);
-    vedle->addWidget(smena, 0, Qt::AlignBottom);
+    vedle->addLayout(pravy);
+    pravy->addWidget(chkVypravci);
+    pravy->addStretch();
+    pravy->addWidget(smena, 0, Qt::AlignRight);
     sloupec->setSpacing(px(7));
     sloupec->addWidget(chkZvuk);
     sloupec->addLayout(ukladani);
-    sloupec->addWidget(chkVypravci);
     sloupec->addWidget(chkNoresize);
     sloupec->addWidget(chkPomer);
     sloupec->addWidget(chkDualMonitor);
