@@ -338,7 +338,7 @@ struct Kreslic {
             t.kryti = kryti;
             pis(RoleNakresu::slabe_pismo, {vlevo + 2.2 * p.pismo, kde}, 0.9 * p.pismo, Text(nazev),
                 Zarovnani::vlevo);
-            vlevo += 3.2 * p.pismo + sirka_textu(nazev, 0.9 * p.pismo);
+            vlevo += 2.9 * p.pismo + 0.95 * sirka_textu(nazev, 0.9 * p.pismo);
         };
         for (const Skupina& s : kSkupiny)
             if (role.contains(s.role))
