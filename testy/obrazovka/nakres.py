@@ -14,6 +14,7 @@ s.kolejiste_jednoho_vlaku(slozka, 3000, 100)
 with open(os.path.join(slozka, "data", "tesk.kor"), "w", encoding="utf-8") as f:
     f.write("misto LHO 1 \"Lhotín\" koleje 87\nmisto BOR 2 \"Borovec\" koleje 63\nusek LHO BOR 440\n"
             "trat nikam \"Borovec – Lhotín\" BOR LHO\ntrat lho-bor \"Lhotín – Borovec\" LHO BOR\n")
+s.drz_pomer(slozka)
 stul = s.Stul(program, slozka, sys.argv[4])
 krat = min(stul.sirka / 1024, stul.vyska / 768)
 vlevo, nahore = (stul.sirka - 1024 * krat) / 2, (stul.vyska - 768 * krat) / 2

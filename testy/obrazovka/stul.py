@@ -353,6 +353,13 @@ RADEK_PRIKAZU = (0, 23, 60, 16)
 HODINY = (22, 3, 72, 14)
 
 
+def drz_pomer(slozka):
+    """The desk keeps the proportions of its own display, in the middle of whatever one there is."""
+    os.makedirs(os.path.join(slozka, "nastaveni", "KPS TESK"))
+    with open(os.path.join(slozka, "nastaveni", "KPS TESK", "nastaveni.ini"), "w", encoding="utf-8") as f:
+        f.write("[Pohled]\nVernyPomer=1\n")
+
+
 def je_prihlaseni(obraz, krat=1):
     """A green code stands on the command line; `krat` is the scale of the desk."""
     return obraz.bodu(*(krat * x for x in RADEK_PRIKAZU), ZELENA) > 100

@@ -11,6 +11,7 @@ import stul as s
 program, slozka = s.priprav(sys.argv[1:4])
 NASTAVENI = os.path.join(slozka, "nastaveni", "KPS TESK", "nastaveni.ini")
 s.kolejiste_jednoho_vlaku(slozka, 3000, 100)
+s.drz_pomer(slozka)
 stul = s.Stul(program, slozka, sys.argv[4], int(sys.argv[5]))
 krat = min(stul.sirka / 1024, stul.vyska / 768)
 vlevo, nahore = (stul.sirka - 1024 * krat) / 2, (stul.vyska - 768 * krat) / 2
