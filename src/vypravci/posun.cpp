@@ -243,7 +243,8 @@ void zrus_opustene_cesty() {
     std::erase_if(nase_cesty, [](const NaseCesta& n) { return cesta_v_zasobniku(n.zacatek, n.konec) < 0; });
     for (NaseCesta& n : nase_cesty) {
         const int i = cesta_v_zasobniku(n.zacatek, n.konec);
-        if (ted_s() - n.od_s < kOpustena_s || i < 0 || cesta_c(i).VC || cesta_c(i).cas_ruseni >= 0)
+        if (ted_s() - n.od_s < kOpustena_s || i < 0 || cesta_c(i).VC || cesta_c(i).cas_ruseni >= 0 ||
+            !cesta_c(i).Provedena)
             continue;
         n.od_s = ted_s();
         povel_navestidla(n.zacatek, "miRC");
@@ -254,7 +255,7 @@ void zrus_opustene_cesty() {
 void pust_posun_pred_vlakem(int v) {
     const int e = kolej_cela(vlak_c(v));
     for (const Cesta& c : cesty) {
-        if (c.zacatek < 0 || !c.VC || c.PN || c.Umazat != 0 || c.cas_ruseni >= 0 || !c.prehozena ||
+        if (c.zacatek < 0 || !c.VC || c.PN || c.Umazat != 0 || c.cas_ruseni >= 0 || !c.Provedena ||
             prvni_prvek(c) != e)
             continue;
         const bool vpravo = smer_cesty(c);
@@ -604,7 +605,7 @@ bool zacni_pretah(const Zadost& z) {
 // A train route from the track of a train without a locomotive holds the switches over which one has to come.
 bool zrus_odjezd(const Zadost& z) {
     for (const Cesta& c : cesty)
-        if (c.zacatek >= 0 && c.VC && !c.PN && c.Umazat == 0 && c.cas_ruseni < 0 && c.prehozena &&
+        if (c.zacatek >= 0 && c.VC && !c.PN && c.Umazat == 0 && c.cas_ruseni < 0 && c.Provedena &&
             prvni_prvek(c) == z.kolej && (c.Vlak < 0 || c.Vlak == z.vlak)) {
             const int zacatek = c.zacatek;
             return povel_navestidla(zacatek, "miRC");
