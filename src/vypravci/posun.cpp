@@ -858,7 +858,9 @@ bool ved_lokomotivni(int v) {
     const int za_min = do_odjezdu_vlaku_min(pro), e = kolej_cela(t);
     if (za_min > 14 && za_min < kDen_min - 30)
         return false;
-    if (uzel::je_kolej_hlavniho(e) && cely_na_koleji(t)) {
+    // Not beside the train from which it came off: that one waits for another locomotive at this end.
+    if (uzel::je_kolej_hlavniho(e) && cely_na_koleji(t) && soused(v, e, Strana::leva) == kZadny &&
+        soused(v, e, Strana::prava) == kZadny) {
         if (t.cislo != pro) {
             zmen_cislo_vlaku(e, v, pro);
             return true;
