@@ -78,10 +78,11 @@ klavesy("Down", "Return")
 
 # the pages: there by the image, back by Esc; the sound is switched off on the first one
 formular = stul.obraz()
-x0, y0 = formular.sirka // 2, formular.vyska // 2
-na_stranku(x0 - 300, y0 + 226, "moznosti")
+x0 = formular.sirka // 2
+dole = max(y for y in range(formular.vyska) if formular.bod(x0 - 405, y) == s.BARVA_FORMULARE)  # edge of the form
+na_stranku(x0 - 300, dole - 55, "moznosti")
 klavesy("alt+z", "Escape")
-na_stranku(x0 - 300, y0 + 254, "o_aplikaci")
+na_stranku(x0 - 300, dole - 27, "o_aplikaci")
 klavesy("Escape")
 
 # an hour that is none: the box, and nothing is stored

@@ -324,7 +324,10 @@ void zapis_mapu(const HlavniOkno& okno, const Platno& platno) {
             const std::optional<Nalezeny> nahore = platno.prvek_pod(misto.center());
             if (!nahore || nahore->druh != druh || nahore->n != n)
                 continue; // another one lies over its middle
-            const QPoint stred = platno.v_bodech(misto).center() + roh;
+            const QRect body = platno.v_bodech(misto);
+            if (body.isEmpty())
+                continue; // beyond the edge of what the magnifying glass shows
+            const QPoint stred = body.center() + roh;
             mapa << na_qstring(jmeno_druhu(druh)) << ' ' << n << ' ' << stred.x() << ' ' << stred.y() << '\n';
         }
     }
