@@ -72,21 +72,11 @@ constexpr bool je_odstavna_kolej(int n) {
     return false;
 }
 
-// Series that do the same work, each group under wire or without: where the one that is planned is not to be
-// had, another of its group goes.
-inline constexpr std::array<std::array<int, 9>, 2> kZastupitelne = {
-    {{162, 163, 230, 240, 242, 350, 362, 363, 0}, {210, 731, 740, 742, 751, 754, 842, 850, 0}}};
-constexpr bool zastoupi(int rada, int jinou) {
-    for (const auto& skupina : kZastupitelne) {
-        bool jedna = false, druha = false;
-        for (const int r : skupina) {
-            jedna = jedna || (r != 0 && r == rada);
-            druha = druha || (r != 0 && r == jinou);
-        }
-        if (jedna && druha)
-            return true;
-    }
-    return false;
+// Series that need the wire. Where the one that is planned is not to be had, another of them goes, or one
+// that needs none; under no wire only the others.
+inline constexpr std::array kPodDratem = {162, 163, 230, 240, 242, 350, 362, 363};
+constexpr bool zastoupi(int rada, int planovanou) {
+    return !je_v(rada, kPodDratem) || je_v(planovanou, kPodDratem);
 }
 
 } // namespace uzel

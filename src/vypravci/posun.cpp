@@ -45,6 +45,7 @@ constexpr int kVystup_s = 90;          // the passengers of a train that ends ge
 constexpr int kVykladka_s = 10 * 60;   // and the bags out of a van
 constexpr int kNaleha_s = 8 * 60;      // who has waited so long goes before trains that are only expected
 constexpr int kVyckavani_s = 4 * 60;   // before its departure a train gives up waiting for another locomotive
+constexpr int kNahrada_s = 9 * 60;     // so long it waits for the series that is planned
 constexpr int kNedorazila_s = 12 * 60; // and behind it one that another locomotive was to reach
 constexpr int kStrojDrzen_min = 120;   // before the departure of its next train a locomotive stays for it
 constexpr int kStrojuVOdstavu = 3;     // locomotives without a train may stand in the yard
@@ -398,10 +399,11 @@ int vhodnost(int stroj, const Zadost& z) {
     if (rada != z.rada &&
         (rada >= kPrvniMotorovyVuz || (z.rada >= kPrvniMotorovyVuz && z.odjezd_s > kVyckavani_s)))
         return -1; // another railcar will come, if there is time
-    if (rada != z.rada)
-        cena += uzel::zastoupi(rada, z.rada) ? 1500 : 1'000'000;
-    if (cena >= 1'000'000)
-        return -1;
+    if (rada != z.rada) {
+        if (z.odjezd_s > kNahrada_s || !uzel::zastoupi(rada, z.rada))
+            return -1;
+        cena += 1500;
+    }
     if (z.dvojice != (s.vozy.size() > 1))
         cena += 600;
     return cena + 300;
@@ -990,7 +992,10 @@ void ved_posun(int v) {
 bool odves_zalohu(int v) {
     const Vlak& t = vlak_c(v);
     const int e = kolej_cela(t);
-    if (t.vozy.size() < 2 || !uzel::je_kolej_hlavniho(e) || t.zastavky.front().stanice != dopravna::tesk)
+    // A train that has no other locomotive keeps it.
+    if (t.vozy.size() < 2 || !uzel::je_kolej_hlavniho(e) || t.zastavky.front().stanice != dopravna::tesk ||
+        std::none_of(t.vozy.begin(), t.vozy.end(),
+                     [](const Vuz& vuz) { return je_loko(vuz.rada) && vuz.urceni != kZaloha; }))
         return false;
     if (t.vozy.front().urceni == kZaloha)
         return odves_vuz(e, v, 0);
@@ -1002,7 +1007,7 @@ bool odves_zalohu(int v) {
 void ved_konec(int v) {
     const Vlak& t = vlak_c(v);
     const int e = kolej_cela(t);
-    const int ceka_s = veze_postu(t) ? kVykladka_s : je_stroj(v) ? 0 : kVystup_s;
+    const int ceka_s = veze_postu(t) ? kVykladka_s : kVystup_s;
     if (ted_s() - pamet_c(v).od_s < ceka_s || ma_cestu(v))
         return;
     // The set that came to another platform than planned has not taken its next number by itself.
