@@ -177,24 +177,10 @@ TEST_F(VypravciJizdy, TrainThatAsksForConsentGetsIt) {
     motorak(301, {vrbice, tesk}, {-1, 490}, {482, -1}).kolej = "3";
     zacni(7, 55);
     vypravci::predej();
-    sekund(20 * 60);
-    ASSERT_NE(najdi(301), nullptr);
-    EXPECT_TRUE(drzi_prvek(*najdi(301), 28));
-}
-
-TEST_F(VypravciJizdy, RouteOfATrainThatIsNotLetGoIsTakenBack) {
-    z_lhotina(101, 485);
-    zacni(8, 0);
-    vypravci::predej();
-    sekund(4 * 60 + 50);
-    ASSERT_GE(cesty.front().zacatek, 0);
-    for (Vlak& v : vlaky)
-        if (v.cislo == 101)
-            v.zastavky.front().odjezd = static_cast<std::int16_t>(v.zastavky.front().odjezd + 60);
-    sekund(12 * 60, [] {
-        for (Vlak& v : vlaky)
-            if (v.cislo == 101)
-                v.muze_jet = false;
+    bool na_koleji = false;
+    sekund(20 * 60, [&] {
+        const Vlak* v = najdi(301);
+        na_koleji = na_koleji || (v != nullptr && drzi_prvek(*v, 28));
     });
-    EXPECT_EQ(cesty.front().zacatek, -3);
+    EXPECT_TRUE(na_koleji);
 }

@@ -31,6 +31,10 @@ TEST_F(Rezervace, PromiseOfAShuntingMovementEndsWithItsTimeAndWithItsRecord) {
     const Vlak* v = najdi(101);
     ASSERT_NE(v, nullptr);
     const int i = static_cast<int>(v - vlaky.data());
+    vypravci::vezmi();
+    vlaky[static_cast<std::size_t>(i)].posun = true;
+    sekund(8);
+    ASSERT_EQ(slibena(530), kZadny); // what it was promised as a train is gone
     const std::vector<PrvekCesty> prvky{{530, druh_prvku::kolej, 0}};
     slib_posunu(i, 530, prvky, 60);
     EXPECT_EQ(slibena(530), i);
