@@ -16,8 +16,8 @@ TEST_F(Rezervace, TrainNeedsItsPlatformAtItsTimeAndNotBefore) {
     sekund(6 * 60);
     ASSERT_NE(najdi(101), nullptr);
     const std::vector<PrvekCesty> kolej3{{28, druh_prvku::kolej, 0}};
-    EXPECT_TRUE(volno_pro_posun(kolej3, 0, 120, kZadny));
-    EXPECT_FALSE(volno_pro_posun(kolej3, 0, 15 * 60, kZadny));
+    EXPECT_TRUE(volno_pro_posun(kolej3, 120, kZadny, kZadny));
+    EXPECT_FALSE(volno_pro_posun(kolej3, 15 * 60, kZadny, kZadny));
     EXPECT_GT(volna_jeste_s(28, kZadny), 120);
     EXPECT_LT(volna_jeste_s(28, kZadny), 15 * 60);
     EXPECT_EQ(slibena(28), kZadny); // it stops at Hrabov first
