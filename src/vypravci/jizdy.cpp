@@ -1120,6 +1120,25 @@ void obnov_vyluky() {
     }
 }
 
+// A train that a delay has brought over midnight carries the times of the next day. It is told to leave
+// when its own time has come, else it would keep its track for a day.
+void vyprav_pulnocni() {
+    constexpr int kPul_dne_s = 12 * 3600, kDva_dny_s = 4 * kPul_dne_s;
+    for (std::size_t i = 0; i < vlaky.size(); ++i) {
+        const Vlak& v = vlaky[i];
+        if (v.cislo <= 0 || v.posun || v.muze_jet || v.stanice_index < 0 || !cely_na_koleji(v))
+            continue;
+        const int ceka_s = do_odjezdu_s(v), e = kolej_cela(v);
+        const Zastavka& z = v.zastavky.at(static_cast<std::size_t>(v.stanice_index));
+        if (ceka_s < kPul_dne_s || ceka_s > kDva_dny_s || z.odjezd - kDen_min > cas_min() ||
+            !ma_menu_koleje(e) || !vypravci::ma_stanici(z.stanice))
+            continue;
+        if (povel_vlaku(e, static_cast<int>(i), "miOdjezd"))
+            vypravci::rekni(zobrazene_cislo(v),
+                            jmeno_vlaku(v) + Text(" dostává povel k odjezdu: má časy až zítřejší."_cz));
+    }
+}
+
 } // namespace
 
 void zacni_jizdy() {
@@ -1170,8 +1189,10 @@ void krok_jizd() {
     for (std::size_t k = 0; k < souhlasy.zada.size(); ++k)
         if (souhlasy.zada[k] && dalsi_souhlas_s[k] <= ted)
             rozhodni_souhlas(static_cast<int>(k));
-    if (uklid)
+    if (uklid) {
         zrus_nepotrebne();
+        vyprav_pulnocni();
+    }
     static std::vector<int> poradi;
     poradi.clear();
     for (std::size_t v = 0; v < vlaky.size(); ++v) {
