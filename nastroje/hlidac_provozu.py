@@ -183,6 +183,8 @@ class Hlidac:
         self.minuta = None
         self.minule = {}          # by number: the records of the last look
         self.dva = {}             # section: the numbers seen there together
+        self.vyluky = {}          # track under possession: the numbers that stood there when it began
+        self.na_vyluce = {}       # track: the numbers that came onto it meanwhile
         self.ohlasena = {}        # delays of trains that have not come
 
     def otevri(self, r, vstup_s):
@@ -235,6 +237,10 @@ class Hlidac:
             if j.otevrena:
                 self.jizda(j, podle_cisel.get(j.cislo, []), zaznamy, ted_s)
         self.dva_na_trati(zaznamy)
+        for kolej, tam in self.vyluky.items():
+            nove = {v["cislo"] for v in zaznamy if v["cislo"] > 0 and kolej in drzi(v)} - tam
+            if nove:
+                self.na_vyluce.setdefault(kolej, set()).update(nove)
         self.minule = podle_cisel
 
     def jizda(self, j, vlaky, vsechny, ted_s):
@@ -324,6 +330,13 @@ class Hlidac:
             if len(cisla) > 1:
                 self.dva.setdefault(prvek, set()).update(cisla)
 
+    def vyluka(self, kolej, plati, zaznamy):
+        """A possession of the track begins or ends."""
+        if plati:
+            self.vyluky[kolej] = {v["cislo"] for v in zaznamy if v["cislo"] > 0 and kolej in drzi(v)}
+        else:
+            self.vyluky.pop(kolej, None)
+
     # --- the judgement
 
     def mely_jet(self, ted_s):
@@ -353,6 +366,7 @@ class Hlidac:
             "vady": [{"cislo": j.cislo, "druh": j.radek["druh"], "stav": "uvazlo" if j in uvazle else j.stav,
                       "vstup": j.vstup_s, "kolej": kolej_cela(j.vlak) if j.vlak else None}
                      for j in mely if j in uvazle or j.stav in ("nevyjelo", "ztraceno", "jiny_vyjezd")],
+            "na_vyluce": [{"kolej": k, "vlaky": sorted(c)} for k, c in sorted(self.na_vyluce.items())],
             "dva_na_useku": [{"usek": p, "vlaky": sorted(c)} for p, c in sorted(self.dva.items())],
         }
 
@@ -382,6 +396,8 @@ def poruseno(s, meze):
         vety.append("ztracených vlaků: %d" % s["ztraceno"])
     if s["dva_na_useku"]:
         vety.append("dva vlaky na jednom úseku tratě: %s" % ", ".join(str(d["usek"]) for d in s["dva_na_useku"]))
+    for v in s["na_vyluce"]:
+        vety.append("na vyloučenou kolej %d přijely vlaky %s" % (v["kolej"], ", ".join(str(c) for c in v["vlaky"])))
     return vety
 
 
@@ -391,10 +407,11 @@ POROVNAVANE = ("vlaku_melo_jet", "dojelo", "spravnym_vyjezdem", "spravnou_koleji
 
 def rozdily(s, zprava):
     """Where the program's own report tells otherwise: more than one train in a hundred, or a minute. Since when a
-    train stands, the two see at different seconds: of those on their way a few are stuck to one of them alone."""
+    train stands, the two see at different seconds, and of two records with one number each may follow another: of
+    the counts that hang on that a few may differ."""
     vety = []
     for pole in POROVNAVANE:
-        dovoleno = max(1, s["vlaku_melo_jet"] // 100) if pole not in ("na_ceste", "uvazlo") else \
+        dovoleno = max(1, s["vlaku_melo_jet"] // 100) if pole not in ("na_ceste", "uvazlo", "spravnou_koleji") else \
             max(3, s["vlaku_melo_jet"] // 50)
         if abs(s[pole] - zprava[pole]) > dovoleno:
             vety.append("%s: hlídač %d, zpráva %d" % (pole, s[pole], zprava[pole]))
@@ -421,12 +438,16 @@ class Porucha:
         self.plati, self.konec_s = False, None
 
     def krok(self, davka, ted_s):
+        """Whether it has begun or ended now."""
         if not self.plati and self.konec_s is None and (self.od_s is None or ted_s >= self.od_s):
-            if self.zmen(davka, "výluka"):
-                self.plati = True
+            self.plati = self.zmen(davka, "výluka")
+            if self.plati:
                 self.konec_s = ted_s + self.trva_s if self.trva_s else DEN_S * 1000
-        elif self.plati and ted_s >= self.konec_s:
+            return self.plati
+        if self.plati and ted_s >= self.konec_s:
             self.plati = not self.zmen(davka, "")
+            return not self.plati
+        return False
 
     def zmen(self, davka, text):
         """Whether the desk took it: a signal that shows an aspect just now cannot be blocked."""
@@ -538,7 +559,8 @@ def behej(davka, volby, rekni):
         nova = minuta != minule_min
         hlidac.sleduj(ted_s, zaznamy, ohlasene(davka) if nova else None)
         for p in volby.porucha:
-            p.krok(davka, ted_s)
+            if p.krok(davka, ted_s) and p.druh == "vyl":
+                hlidac.vyluka(p.prvek, p.plati, zaznamy)
         if nova and volby.zpozdit:
             zpozdi(davka, radky, volby.den, volby.pp == 1, minuta, volby.zpozdit, hotove)
             if minuta % DEN_MIN == 0:
@@ -570,7 +592,7 @@ def text_soudu(s):
                      % (s["hotovych_doma"], s["hotovych"], 100.0 * s["hotovych_doma"] / s["hotovych"]))
     for v in s["vady"]:
         radky.append("  vlak %d: %s, vstup %s, kolej %s" % (v["cislo"], v["stav"], hodiny(v["vstup"]), v["kolej"]))
-    duvody = {r["cislo"]: r["duvod"] for r in s["zprava"]["cekani"] + s["zprava"]["radky"]}
+    duvody = {r["cislo"]: r["duvod"] for r in s["zprava"]["radky"] + s["zprava"]["cekani"]}
     for c in s["cekani"]:
         radky.append("  vlak %d čekal %d minut od %s na koleji %s: %s"
                      % (c["cislo"], c["trva"] // 60, hodiny(c["od"]), c["kolej"], duvody.get(c["cislo"], "")))

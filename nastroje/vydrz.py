@@ -24,7 +24,7 @@ def beh(volby, gvd, semeno):
     soubor = volby.vystup / ("%s-%d.json" % (gvd, semeno))
     zadani = {"gvd": gvd, "semeno": semeno, "hodin": volby.hodin, "den": volby.den, "cas": volby.cas,
               "krok": volby.krok, "kontrola": volby.kontrola, "dalsi": volby.dalsi, "program": otisk(volby.davka)}
-    if soubor.exists():
+    if soubor.exists() and not volby.znovu:
         hotovy = json.loads(soubor.read_text(encoding="utf-8"))
         if hotovy["zadani"] == zadani:
             return hotovy["soud"], hotovy["stav"], hotovy["text"]
@@ -76,6 +76,7 @@ def argumenty(slova=None):
     a.add_argument("--cas", default="0:00")
     a.add_argument("--krok", type=int, default=10)
     a.add_argument("--soubezne", type=int, default=os.cpu_count() or 1)
+    a.add_argument("--znovu", action="store_true", help="hotové běhy neplatí")
     a.add_argument("--bez-kontroly", dest="kontrola", action="store_false", help="bez kontroly stavu")
     a.add_argument("dalsi", nargs="*", help=argparse.SUPPRESS)
     volby = a.parse_args(slova)

@@ -215,8 +215,10 @@ void ukonci_zaznam(int v, const StopaVlaku& s) {
     const bool zanikl = vlak.cislo < 1 || je_znovu_pouzit(vlak, s);
     const int vystup = zanikl ? stanice_vystupu(s.kolej, s.smer) : 0;
     if (zanikl) {
+        // A locomotive that has come off its train may go where the train goes later.
+        const int jiny = s.posun ? jiny_s_cislem(s.cislo, v) : kZadny;
         const bool spravne = vystup > 0 && spravny_smer(radek_jizdy(j), vystup);
-        if (vystup > 0 && (spravne || !s.posun)) {
+        if (vystup > 0 && (!s.posun || (spravne && jiny < 0))) {
             dojel(j, vystup, spravne);
             return;
         }

@@ -223,7 +223,7 @@ TEST_F(ZpravaProvozu, SetOfTheBranchDepotIsHomeWhenItBecomesItsTrainAtThePlatfor
 
 TEST_F(ZpravaProvozu, RecordThatAnotherTrainGetsAtOnceHasLeftByItsExit) {
     const GvdVlak r = pres(11, dopravna::borovec, dopravna::lhotin, 482),
-                  jiny = pres(12, dopravna::borovec, dopravna::lhotin, 482);
+                  jiny = pres(12, dopravna::borovec, dopravna::lhotin, 479);
     jizdni_rad({r, jiny});
     const int i = jede(213, false, r);
     pohledni();
@@ -231,7 +231,7 @@ TEST_F(ZpravaProvozu, RecordThatAnotherTrainGetsAtOnceHasLeftByItsExit) {
     pohledni();
     vlak_opustil(i, dopravna::lhotin);
     ASSERT_EQ(jede(62, true, jiny), i);
-    cas(8, 2); // the minute of both
+    pohledni();
     EXPECT_EQ(zprava().spravnym_vyjezdem, 1);
     EXPECT_EQ(zprava().na_ceste, 1);
     EXPECT_EQ(zprava().ztraceno, 0);
@@ -251,6 +251,21 @@ TEST_F(ZpravaProvozu, LocomotiveThatComesOffDoesNotEndItsTrain) {
     vlak_opustil(i, dopravna::borovec);
     pohledni();
     EXPECT_EQ(zprava().spravnym_vyjezdem, 1);
+}
+
+TEST_F(ZpravaProvozu, LocomotiveThatLeavesWhereItsTrainWillLeaveIsNotTheTrain) {
+    const GvdVlak r = pres(11, dopravna::borovec, dopravna::lhotin, 482);
+    jizdni_rad({r});
+    const int loko = jede(90, false, r), i = jede(kNastupiste, false, r);
+    vlak(loko).posun = true;
+    pohledni();
+    vlak_opustil(loko, dopravna::lhotin);
+    pohledni();
+    EXPECT_EQ(zprava().dojelo, 0);
+    EXPECT_EQ(zprava().na_ceste, 1);
+    zrus_vlak(i);
+    pohledni();
+    EXPECT_EQ(zprava().ztraceno, 1);
 }
 
 TEST_F(ZpravaProvozu, LocomotiveThatStaysBehindIsNoTrainOfTheNextDay) {

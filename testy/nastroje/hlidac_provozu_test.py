@@ -133,6 +133,19 @@ class Provoz(unittest.TestCase):
         self.assertEqual(s["dva_na_useku"], [{"usek": 614, "vlaky": [11, 18]}])
         self.assertTrue(any("614" in veta for veta in h.poruseno(s, h.MEZE)))
 
+    def test_train_that_comes_onto_a_track_under_possession_is_seen(self):
+        stal = radek(18, (1, -1, 480), (2, 500, -1))
+        self.zacni(DO_BOROVCE, stal)
+        tam = zaznam(1, stal, [29])
+        self.stav(1, tam)
+        self.hlidac.vyluka(29, True, [tam])
+        self.assertEqual(self.stav(2, tam)["na_vyluce"], [], "it was there before")
+        s = self.stav(3, tam, zaznam(0, DO_BOROVCE, [29]))
+        self.assertEqual(s["na_vyluce"], [{"kolej": 29, "vlaky": [11]}])
+        self.assertTrue(any("29" in veta for veta in h.poruseno(s, h.MEZE)))
+        self.hlidac.vyluka(29, False, [])
+        self.assertEqual(self.stav(4, zaznam(2, radek(19, (1, -1, 480), (2, 500, -1)), [29]))["na_vyluce"][0]["vlaky"], [11])
+
     def test_every_due_train_is_in_one_count(self):
         self.zacni(DO_BOROVCE, DO_TESKU, radek(14, (1, -1, 482), (2, 500, -1)))
         self.stav(1, zaznam(0, DO_BOROVCE, [614]), zaznam(1, DO_TESKU, [614]))
