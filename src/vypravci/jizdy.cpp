@@ -53,6 +53,7 @@ constexpr int kPrejezd_s = 50;          // a crossing that has to close before t
 constexpr int kNejdelePrednost_s = 420; // so long a train lets others go first
 constexpr int kZaSebou_s = 60;          // between two trains on a line
 constexpr int kNepotrebna_s = 90;       // a route without a use goes back so long after its order
+constexpr int kNehybe_s = 600;          // who may go over his route and does not for so long cannot
 constexpr int kPostaveni_s = 30;        // a route is locked so long before the train comes to it
 constexpr int kPlatnostSlibu_s = 6;     // promises are as exact as this
 constexpr int kObzorSlibu_s = 900;      // so far ahead promises are made
@@ -830,7 +831,11 @@ void zrus_nepotrebne() {
         const auto i = static_cast<std::size_t>(w - vlaky.begin());
         const bool prijede = w != vlaky.end() && i < jizdy.size() && jizdy[i].jede &&
                              vede_pres(static_cast<int>(i), c) && (w->muze_jet || do_odjezdu_s(*w) < 300);
-        if (prijede)
+        // It may go, stands before the signal and does not go: another movement stands between them, and may
+        // be waiting for this very route to be gone.
+        const bool nemuze = prijede && w->muze_jet && w->rychlost == 0 && ted_s() - o.cas_s > kNehybe_s &&
+                            kolej_cela(*w) == prvni_prvek(c);
+        if (prijede && !nemuze)
             continue;
         if (povel_navestidla(o.zacatek, "miRC")) {
             Text veta("Ruší se cesta od návěstidla "_cz);
