@@ -1,5 +1,6 @@
 // vykon/kresba_vykon.cpp - drawing of the desk: everything anew, one change, nothing.
 #ifdef TESK_S_KRESBOU
+#include "aplikace_vykon.h"
 #include "app/simulace.h"
 #include "prvky/panel.h"
 #include "relief/nacti_relief.h"
@@ -10,22 +11,14 @@
 #include "zaklad/cisla.h"
 #include "zaklad/soubory.h"
 
-#include <QApplication>
 #include <QListWidget>
 #include <benchmark/benchmark.h>
 
 namespace {
 
-// Fonts need an application object, though no window is ever opened.
-void zaloz_aplikaci() {
-    static int pocet = 1;
-    static char jmeno[] = "tesk-vykon";
-    static char* slova[] = {jmeno, nullptr};
-    if (QCoreApplication::instance() == nullptr) {
-        qputenv("QT_QPA_PLATFORM", "offscreen");
-        new QApplication(pocet, slova); // lives as long as the process
-        nacti_pismo(QStringLiteral(TESK_INSTALACE "data/kps.fon"));
-    }
+void zaloz_pismo() {
+    zaloz_aplikaci();
+    [[maybe_unused]] static const bool pismo = nacti_pismo(QStringLiteral(TESK_INSTALACE "data/kps.fon"));
 }
 
 // 3000 elements over the relief of one monitor: 1000 tracks in all colours, 1000 labels with a train number
@@ -73,7 +66,7 @@ Relief plny_relief() {
 struct StulNaPlatne {
     Platno platno;
     explicit StulNaPlatne(QSize velikost) {
-        zaloz_aplikaci();
+        zaloz_pismo();
         relief = plny_relief();
         platno.nastav_velikost(velikost, kSirkaStolu);
         platno.obnov();
@@ -97,7 +90,7 @@ BENCHMARK(cely_stul)
 
 // The whole junction as it fills the commonest display: to stay below 8 ms.
 void cele_kolejiste(benchmark::State& stav) {
-    zaloz_aplikaci();
+    zaloz_pismo();
     simulace.cesta_aplikace = TESK_INSTALACE;
     if (!soubor_existuje(simulace.cesta_aplikace + "data\\tesk.rea")) {
         stav.SkipWithError("the installation is not staged");
@@ -164,7 +157,7 @@ BENCHMARK(plny_stul)
 
 // The list as the window shows it: 200 messages, of which a dozen are seen.
 void plny_seznam(benchmark::State& stav) {
-    zaloz_aplikaci();
+    zaloz_pismo();
     QListWidget seznam;
     seznam.setUniformItemSizes(true);
     seznam.setFont(pismo_poli(kVyskaBunky));

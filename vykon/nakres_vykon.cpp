@@ -1,6 +1,7 @@
 // vykon/nakres_vykon.cpp - the time-distance diagram with a whole day of the full week: its shapes, and
 // painting them.
 #ifdef TESK_S_KRESBOU
+#include "aplikace_vykon.h"
 #include "app/cas.h"
 #include "app/nova_simulace.h"
 #include "app/simulace.h"
@@ -9,7 +10,6 @@
 #include "ui/kresba_nakresu.h"
 #include "zaklad/soubory.h"
 
-#include <QApplication>
 #include <QImage>
 #include <benchmark/benchmark.h>
 
@@ -23,13 +23,7 @@ struct CelyDen {
     PohledNakresu pohled;
 
     explicit CelyDen(benchmark::State& stav) {
-        static int pocet = 1;
-        static char jmeno[] = "tesk-vykon";
-        static char* slova[] = {jmeno, nullptr};
-        if (QCoreApplication::instance() == nullptr) {
-            qputenv("QT_QPA_PLATFORM", "offscreen");
-            new QApplication(pocet, slova); // lives as long as the process
-        }
+        zaloz_aplikaci();
         nova_simulace();
         simulace.cesta_aplikace = TESK_INSTALACE;
         simulace.soubor_gvd = simulace.cesta_aplikace + "gvd\\GVD_plny.dat";

@@ -135,10 +135,7 @@ TEST_F(Historie, TakesBackMacrosThatWereStoredSince) {
     const Bajty pred = obsah_maker();
     skript("cekej 2min");
     const std::int64_t tehdy = ubehlo_s();
-    skript("klavesa Alt+Shift+A");
-    skript("klik navestidlo 287");
-    skript("klik Image1 600");
-    skript("klavesa Enter");
+    nahraj_makro();
     const Bajty makra = obsah_maker();
     ASSERT_NE(makra, pred);
     skript("cekej 2min");

@@ -88,10 +88,7 @@ TEST_F(ZaznamSmeny, BringsTheSavedGameFromWhichTheShiftBegan) {
 TEST_F(ZaznamSmeny, BringsTheMacrosAndLeavesThoseOfTheOperatorAlone) {
     zacni(6);
     const Bajty pred = obsah_maker();
-    skript("klavesa Alt+Shift+A");
-    skript("klik navestidlo 287");
-    skript("klik Image1 600");
-    skript("klavesa Enter");
+    nahraj_makro();
     const Bajty makra = obsah_maker();
     ASSERT_NE(makra, pred);
     const std::string prvni = zaznam_smeny();

@@ -47,7 +47,7 @@ TEST(CteniKoridoru, SaysPlacesSectionsAndLines) {
 
 TEST(CteniKoridoru, LinesThatCannotBeUnderstoodAreLeftOutAndTold) {
     const Koridory k = precti(
-        "misto AAA 1 \"Alfa\"\nmisto BBB x \"Béta\"\nmisto\nnesmysl\nusek AAA XXX 5\nusek AAA AAA 5*2\n"
+        "misto AAA 1 \"Alfa\"\nmisto BBB x \"Béta\"\nmisto\nnesmysl\nusek AAA NIC 5\nusek AAA AAA 5*2\n"
         "trat a \"A\" AAA\nmisto CCC 5000 \"C\"\nmisto DDD 4 \"D\" koleje",
         8);
     EXPECT_EQ(k.mista.size(), 1u);

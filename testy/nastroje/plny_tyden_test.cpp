@@ -1,7 +1,6 @@
 // testy/nastroje/plny_tyden_test.cpp - the full week on the whole junction: a start at any minute puts its
 // trains where they belong.
 #include "app/cas.h"
-#include "app/casovace.h"
 #include "app/kontrola.h"
 #include "app/kontrola_majitelu.h"
 #include "cesty/zasobnik.h"
@@ -33,16 +32,6 @@ const JizdniRad& plny() {
         return r;
     }();
     return rad;
-}
-
-// The timers for one second.
-void sekunda(VirtualniPlatforma& svet) {
-    for (int ms = 50; ms <= 1000; ms += 50) {
-        svet.posun_ms(50);
-        for (const Casovac& casovac : casovace)
-            if (svet.tik % casovac.perioda_ms == 0)
-                casovac.telo();
-    }
 }
 
 // One day of the week, a start at every quarter of an hour.

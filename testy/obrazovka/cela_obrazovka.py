@@ -40,17 +40,7 @@ def spust():
         stul.xdotool("type", hodnota)
     stul.tiskni("Return", "začátek simulace", lambda: "okno úvod" in stul.nalezy())
     stul.cekej_na_nalez("okno stůl")
-    stul.cekej("pracovní stůl", lambda: os.path.exists(os.path.join(slozka, "stav.txt")))
-
-    def bez_pauzy():
-        if stul.stav("pauza") == ["0"]:
-            return True
-        stul.klavesa("Return")
-        time.sleep(0.3)
-        return False
-
-    stul.cekej("konec přihlášení", bez_pauzy)
-    stul.oken_v_klidu = stul.okna()
+    s.doprihlas(stul, slozka)
 
 
 def rozpeti():

@@ -92,15 +92,7 @@ class Zkouska(s.Stul):
 
     def prihlas(self):
         """From the login to the running clock."""
-        def bezi():
-            if os.path.exists(os.path.join(slozka, "stav.txt")) and self.stav("pauza") == ["0"]:
-                return True
-            self.klavesa("Return")
-            time.sleep(0.3)
-            return False
-
-        self.cekej("konec přihlášení", bezi)
-        self.oken_v_klidu = self.okna()
+        s.doprihlas(self, slozka)
 
     def skonci(self, klavesa="Return"):
         """The box that ends the program."""

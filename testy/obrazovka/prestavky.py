@@ -26,15 +26,7 @@ def vlak():
 
 # the train comes into the long section, and the clock goes back to its own pace
 stul.cekej("čas odjezdu z Lhotína", lambda: vlak() == 87 and 43201 < stul.cas_s() < 43260)
-for _ in range(100):  # the first map may be of a window that has not its whole size yet
-    mapa = stul.mapa()
-    stul.klikni(*mapa["navestidlo", 287])
-    konec = time.monotonic() + 2
-    while time.monotonic() < konec and stul.obraz().bodu(*s.RADEK_PRIKAZU, s.ZELENA) < 100:
-        time.sleep(s.KROK)
-    if time.monotonic() < konec:
-        break
-stul.klikni(*s.stred(73, 8))
+mapa = s.zvol_na_trat(stul)
 stul.cekej("vlak na trati", lambda: vlak() == 440)
 for _ in range(3):
     stul.klikni(*mapa["lblrychlost_simulace", 0], 3)

@@ -76,20 +76,7 @@ stiskni_az("Return", "okno úvod")
 
 # --- the login and the desk with its trains
 stul.cekej_na_nalez("okno stůl")
-stul.cekej("pracovní stůl", lambda: os.path.exists(os.path.join(slozka, "stav.txt")))
-stul.oken_v_klidu = stul.okna()
-
-
-def bez_pauzy():
-    if stul.stav("pauza") == ["0"]:
-        return True
-    stul.klavesa("Return")
-    time.sleep(0.3)
-    return False
-
-
-stul.cekej("konec přihlášení", bez_pauzy)
-stul.oken_v_klidu = stul.okna()
+s.doprihlas(stul, slozka)
 assert 26990 <= stul.cas_s() < 27300, "stůl nezačal v 7:30, ale v " + stul.stav("cas")[0]
 mapa = stul.mapa()
 

@@ -41,16 +41,7 @@ stul = s.Stul(program, slozka)
 s.prihlas(stul, rychle=True)
 cekej_stav(stul)
 stul.cekej("vlak", lambda: stul.stav("vlak"))
-mapa = stul.mapa()
-for _ in range(100):  # the first map may be of a window that has not its whole size yet
-    mapa = stul.mapa()
-    stul.klikni(*mapa["navestidlo", 287])
-    konec = time.monotonic() + 2
-    while time.monotonic() < konec and stul.obraz().bodu(*s.RADEK_PRIKAZU, s.ZELENA) < 100:
-        time.sleep(s.KROK)
-    if time.monotonic() < konec:
-        break
-stul.klikni(*s.stred(73, 8))
+mapa = s.zvol_na_trat(stul)
 stul.cekej("dvě minuty služby", lambda: stul.cas_s() > 43200 + 150)
 stul.klavesa("F10")
 stul.cekej("pauza", lambda: stul.stav("pauza") == ["1"])

@@ -482,6 +482,33 @@ def potvrd_prihlaseni(stul, krat=1):
     return obraz
 
 
+def doprihlas(stul, slozka):
+    """From the splash screen, by what the program writes of its state, to the running clock."""
+    def bezi():
+        if os.path.exists(os.path.join(slozka, "stav.txt")) and stul.stav("pauza") == ["0"]:
+            return True
+        stul.klavesa("Return")
+        time.sleep(0.3)
+        return False
+
+    stul.cekej("konec přihlášení", bezi)
+    stul.oken_v_klidu = stul.okna()
+
+
+def zvol_na_trat(stul):
+    """The route of the one train onto its line; answers with the map of the desk."""
+    for _ in range(100):  # the first map may be of a window that has not its whole size yet
+        mapa = stul.mapa()
+        stul.klikni(*mapa["navestidlo", 287])
+        konec = time.monotonic() + 2
+        while time.monotonic() < konec and stul.obraz().bodu(*RADEK_PRIKAZU, ZELENA) < 100:
+            time.sleep(KROK)
+        if time.monotonic() < konec:
+            break
+    stul.klikni(*stred(73, 8))
+    return mapa
+
+
 def ukonci(stul):
     """By the end image and the question behind it: No keeps the desk, Yes ends the program."""
     def otazka():

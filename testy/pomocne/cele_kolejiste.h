@@ -1,6 +1,7 @@
 // testy/pomocne/cele_kolejiste.h - the whole junction, compiled from its source, as an installation.
 #pragma once
 
+#include "app/casovace.h"
 #include "app/start.h"
 #include "kolejiste/kontroly.h"
 #include "kolejiste/kresba.h"
@@ -34,6 +35,16 @@ inline const DataKolejiste& data_kolejiste() {
         return d;
     }();
     return data;
+}
+
+// The timers for one second.
+inline void sekunda(VirtualniPlatforma& svet) {
+    for (int ms = 50; ms <= 1000; ms += 50) {
+        svet.posun_ms(50);
+        for (const Casovac& casovac : casovace)
+            if (svet.tik % casovac.perioda_ms == 0)
+                casovac.telo();
+    }
 }
 
 // Writes the installation, with one timetable, and runs the start up to the first tick.

@@ -95,6 +95,12 @@ protected:
         nastav_slozku(koren.string());
     }
     void skript(const std::string& radek) { proved_radek(beh, radek, false); }
+    // A route from Lhotín onto the line becomes macro A.
+    void nahraj_makro() {
+        for (const char* radek :
+             {"klavesa Alt+Shift+A", "klik navestidlo 287", "klik Image1 600", "klavesa Enter"})
+            skript(radek);
+    }
 
     // The hand works and time passes, for so many ms at most.
     void pracuj(std::int64_t ms) {

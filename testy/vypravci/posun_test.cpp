@@ -1,6 +1,5 @@
 // testy/vypravci/posun_test.cpp - what the dispatcher shunts on the whole junction.
 #include "app/cas.h"
-#include "app/casovace.h"
 #include "app/kontrola.h"
 #include "app/kontrola_majitelu.h"
 #include "cesty/cesta.h"
@@ -51,12 +50,7 @@ protected:
     }
     void nech_bezet_min(int minut) {
         for (int s = 0; s < minut * 60; ++s) {
-            for (int ms = 50; ms <= 1000; ms += 50) {
-                svet.posun_ms(50);
-                for (const Casovac& casovac : casovace)
-                    if (svet.tik % casovac.perioda_ms == 0)
-                        casovac.telo();
-            }
+            sekunda(svet);
             const auto nalez = kontrola_stavu();
             ASSERT_FALSE(nalez.has_value()) << na_utf8(nalez.value_or(Text{}));
             const auto majitel = kontrola_majitelu();

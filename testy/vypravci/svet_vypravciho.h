@@ -3,7 +3,6 @@
 #pragma once
 
 #include "app/cas.h"
-#include "app/casovace.h"
 #include "app/kontrola.h"
 #include "app/kontrola_majitelu.h"
 #include "gvd/prekladac.h"
@@ -50,12 +49,7 @@ protected:
     // The timers for so many seconds; after each of them `po`.
     template <class Po> void sekund(int kolik, Po po) {
         for (int s = 0; s < kolik; ++s) {
-            for (int ms = 50; ms <= 1000; ms += 50) {
-                svet.posun_ms(50);
-                for (const Casovac& casovac : casovace)
-                    if (svet.tik % casovac.perioda_ms == 0)
-                        casovac.telo();
-            }
+            sekunda(svet);
             const auto nalez = kontrola_stavu();
             ASSERT_FALSE(nalez) << na_utf8(text_hodin()) << " " << na_utf8(nalez.value_or(""));
             po();
