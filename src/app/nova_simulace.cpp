@@ -6,6 +6,7 @@
 #include "app/smena.h"
 #include "app/stav_simulace.h"
 #include "save/gtn.h"
+#include "vypravci/vypravci.h"
 
 #include <utility>
 
@@ -20,7 +21,7 @@ std::uint64_t kolikata = 0;
 } // namespace
 
 void nova_simulace() {
-    ++kolikata;
+    stav_byl_vymenen();
     gtn_zavri();
     zapomen_smenu();
     zapomen_prehravani();
@@ -30,6 +31,7 @@ void nova_simulace() {
 
 void stav_byl_vymenen() {
     ++kolikata;
+    vypravci::zapomen();
 }
 
 std::uint64_t poradi_simulace() {

@@ -73,7 +73,6 @@ constexpr std::size_t kNejvicKroku = 40;
 std::vector<Jizda> jizdy;
 std::map<std::pair<int, int>, std::size_t> trasa_podle_koncu; // start signal and end
 std::vector<std::uint8_t> bez_tras;                           // routes that do not exist now
-std::int32_t posledni_krok_s = 0;
 std::int32_t dalsi_vyluky_s = 0;
 std::array<std::int32_t, uzel::kKonceTrati.size()> dalsi_souhlas_s{};
 std::int32_t dalsi_uvolneni_s = 0;
@@ -1153,7 +1152,6 @@ void zacni_jizdy() {
     trasa_podle_koncu.clear();
     for (std::size_t i = 0; i < sit().trasy.size(); ++i)
         trasa_podle_koncu.emplace(std::pair{trasa_c(i).zaznam.zacatek, trasa_c(i).zaznam.konec}, i);
-    posledni_krok_s = 0;
     dalsi_vyluky_s = 0;
     dalsi_souhlas_s = {};
     dalsi_uvolneni_s = 0;
@@ -1164,15 +1162,6 @@ void zacni_jizdy() {
 
 void krok_jizd() {
     const std::int32_t ted = ted_s();
-    if (ted < posledni_krok_s) { // the first midnight of a service that began at it
-        for (Jizda& j : jizdy)
-            j.podivat_s = j.hledat_s = 0;
-        dalsi_vyluky_s = 0;
-        dalsi_souhlas_s = {};
-        dalsi_uvolneni_s = 0;
-        slibeno_s = prehled_s = kZadny;
-    }
-    posledni_krok_s = ted;
     if (jizdy.size() < vlaky.size())
         jizdy.resize(vlaky.size());
     bool neco = false;

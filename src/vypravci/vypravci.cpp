@@ -17,12 +17,18 @@ namespace vypravci {
 
 namespace {
 
+bool pamatuje = false;            // what he remembers is of the state that stands
+std::int32_t posledni_krok_s = 0; // ted_s() of his last step
+
+// Everything that he remembers holds seconds and records of the state that it was seen in.
 void zacni() {
-    stav_vypravciho.zapnut = true;
     stav_vypravciho.cekani.clear();
     zapomen_rezervace();
     zacni_jizdy();
     zacni_posun();
+    pamatuje = true;
+    posledni_krok_s = ted_s();
+    stav_vypravciho.zapnut = true;
 }
 
 auto misto_cekani(std::int32_t vlak) {
@@ -93,6 +99,10 @@ void vezmi() {
     stav_vypravciho.cekani.clear();
 }
 
+void zapomen() {
+    pamatuje = false;
+}
+
 void rekni(std::int32_t vlak, Text text) {
     auto& vety = stav_vypravciho.vety;
     if (vety.size() >= 2 * kVetVypravciho) // seldom, and then many at once
@@ -117,6 +127,10 @@ void neceka(std::int32_t vlak) {
 void krok() {
     if (!stav_vypravciho.zapnut || simulace.pauza || !lze_jednat())
         return;
+    // time was turned back, or a service that began at midnight has met it
+    if (!pamatuje || ted_s() < posledni_krok_s)
+        zacni();
+    posledni_krok_s = ted_s();
     odpovez_na_zpravy();
     krok_posunu();
     krok_jizd();

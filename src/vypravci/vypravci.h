@@ -61,6 +61,12 @@ void predej(std::span<const std::uint8_t> stanice);
 // Takes the desk back; what stands goes on standing.
 void vezmi();
 
+// --- when the tables are not what followed from his last step
+
+// He keeps the desk if he has it, and looks at everything anew: routes, waits and promises of his memory hold
+// seconds and records of another state.
+void zapomen();
+
 // --- by the dispatcher
 
 // A decision is told.
