@@ -1,4 +1,5 @@
 // nastroje/gvd/radky_planu.cpp - what each row of a plan has to keep by itself, and the run of its train.
+#include "app/cas.h"
 #include "gvd/plan_dukazu.h"
 #include "uzel/dopravny.h"
 #include "uzel/umisteni.h"
@@ -34,6 +35,7 @@ struct Radky : Plan {
             const bool lze = zacatek_a_konec(i);
             kolej_hlavni(i);
             hrabov(i);
+            zastavky_po_pulnoci(i);
             if (lze)
                 jizda(i);
         }
@@ -111,6 +113,16 @@ struct Radky : Plan {
         } else if (v_tesku && !je_loko_vlak(r) && !je_posun(r)) {
             hlas(i, "nemá na hlavním nádraží kolej");
         }
+    }
+
+    // A service that begins at midnight puts the train down with the times of the day behind it. In a station
+    // it is told to leave; at a halt on the line nobody can tell it, and it would keep the line for a day.
+    void zastavky_po_pulnoci(std::size_t i) {
+        for (const ZastavkaGvd& z : radek(i).zastavky)
+            if (z.prijezd >= 0 && z.odjezd >= kDen_min &&
+                std::none_of(uzel::kKolejeStanic.begin(), uzel::kKolejeStanic.end(),
+                             [&](const uzel::KolejeStanice& k) { return k.stanice == z.stanice; }))
+                hlas(i, "po půlnoci nesmí zastavovat na trati (" + jmeno_stanice(z.stanice) + ")");
     }
 
     void hrabov(std::size_t i) {

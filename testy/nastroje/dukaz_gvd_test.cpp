@@ -238,6 +238,17 @@ TEST(DukazGvd, TrainBeginsAndEndsWhereTheJunctionLetsIt) {
           "by před půlnocí z depa nevyjela");
 }
 
+TEST(DukazGvd, TrainDoesNotStopOnTheLineBehindMidnight) {
+    const std::string nocni =
+        "vlak Os 7\npodle jednotka\nkolej \"5\"\nstavi THN - 23:47\nstavi LIP 23:58 23:58\n"
+        "stavi TKL 0:01 0:02\nstavi OLS 0:05 0:05\nstavi ROK 0:11 -\n";
+    const std::string nalezy = vse(dokaz_zdroj(kPlan + nocni));
+    EXPECT_NE(nalezy.find("vlak 7: po půlnoci nesmí zastavovat na trati (Olšany)"), std::string::npos)
+        << nalezy;
+    EXPECT_EQ(nalezy.find("na trati (Tesk Lipina)"), std::string::npos);  // a halt before midnight
+    EXPECT_EQ(nalezy.find("na trati (Knížecí Luka)"), std::string::npos); // a station
+}
+
 TEST(DukazGvd, EasternGateOfTheDepotSendsNobodyAndTheYardIsEnteredWithoutAStop) {
     const std::string lv = "vlak Lv 7\ndny So\nrychlost 90\ndelka 18\nloko 362\nvozy 362\n";
     najde(kPlan + lv + "stavi 30 - 6:00\nstavi THN 6:20 -\n",
