@@ -1,4 +1,4 @@
-// obraz/obraz.cpp - tesk-obraz, the junction as a picture.
+// nastroje/obraz/obraz.cpp - tesk-obraz, the junction as a picture.
 //
 //   tesk-obraz INSTALACE SOUBOR.png|SOUBOR.svg [--dva] [--krat X] [--stul]
 //

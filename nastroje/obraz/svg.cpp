@@ -1,4 +1,4 @@
-// obraz/svg.cpp - a device that Qt paints on and that keeps all as the text of an SVG file.
+// nastroje/obraz/svg.cpp - a device that Qt paints on and that keeps all as the text of an SVG file.
 #include "obraz/svg.h"
 
 #include <QBuffer>

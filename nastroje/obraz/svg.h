@@ -1,4 +1,4 @@
-// obraz/svg.h - a device that Qt paints on and that keeps all as the text of an SVG file.
+// nastroje/obraz/svg.h - a device that Qt paints on and that keeps all as the text of an SVG file.
 #pragma once
 
 #include <QPaintDevice>
