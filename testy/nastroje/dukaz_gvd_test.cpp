@@ -241,7 +241,7 @@ TEST(DukazGvd, TrainBeginsAndEndsWhereTheJunctionLetsIt) {
 TEST(DukazGvd, TrainDoesNotStopOnTheLineBehindMidnight) {
     const std::string nocni =
         "vlak Os 7\npodle jednotka\nkolej \"5\"\nstavi THN - 23:47\nstavi LIP 23:58 23:58\n"
-        "stavi TKL 0:01 0:02\nstavi OLS 0:05 0:05\nstavi ROK 0:11 -\n";
+        "stavi TKL 24:01 24:02\nstavi OLS 24:05 24:05\nstavi ROK 24:11 -\n";
     const std::string nalezy = vse(dokaz_zdroj(kPlan + nocni));
     EXPECT_NE(nalezy.find("vlak 7: po půlnoci nesmí zastavovat na trati (Olšany)"), std::string::npos)
         << nalezy;

@@ -162,7 +162,7 @@ class Beh(Slozka):
         stav, _, chyby = self.program(s, "--davka", DAVKA, "--vystup", self.slozka / "st", "--gvd", "GVD_neni",
                                       "--semen", "1", "--bez-prubehu")
         self.assertEqual(stav, 1)
-        self.assertIn("1 běhů selhalo", chyby)
+        self.assertIn("běhů selhalo: 1", chyby)
 
     def test_log_of_a_run_stays_with_it(self):
         deniky = lambda: {d: d.stat().st_mtime_ns for d in (DAVKA.parent / "GTN").glob("*.gtn")}
