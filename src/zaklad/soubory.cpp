@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <ctime>
+#include <dirent.h>
 #include <fcntl.h>
 #include <filesystem>
 #include <string_view>
@@ -24,8 +25,17 @@ constexpr std::int64_t kNejdelsiSoubor = 64 * 1024 * 1024;
 
 // A name on disk is UTF-8, a name of the core code page 1250; a host may also hand over the folder of the
 // program just as the disk calls it.
-bool stejne_jmeno(const std::string& na_disku, TextPohled jmeno) {
-    return na_disku == jmeno || stejne_bez_velikosti(z_utf8(na_disku), jmeno);
+bool stejne_jmeno(TextPohled na_disku, TextPohled jmeno) {
+    if (na_disku == jmeno)
+        return true;
+    // Most names in a folder differ in their first letter: those are told apart before anything is converted.
+    const auto ascii = [](TextPohled text) {
+        return !text.empty() && static_cast<unsigned char>(text[0]) < 0x80;
+    };
+    if (ascii(na_disku) && ascii(jmeno) &&
+        !stejne_bez_velikosti(na_disku.substr(0, 1), jmeno.substr(0, 1)))
+        return false;
+    return stejne_bez_velikosti(z_utf8(na_disku), jmeno);
 }
 
 bool je_na_disku(const std::string& cesta) {
@@ -33,15 +43,23 @@ bool je_na_disku(const std::string& cesta) {
     return ::stat(cesta.c_str(), &st) == 0;
 }
 
+// A folder that is being read; closed at the end of the block.
+struct Vypis {
+    DIR* slozka;
+    ~Vypis() {
+        if (slozka != nullptr)
+            ::closedir(slozka);
+    }
+};
+
 // Names in `slozka` (empty or ending with "/") equal to `jmeno` but for case, by byte order.
 std::vector<std::string> jmena_ve_slozce(const std::string& slozka, TextPohled jmeno) {
-    std::error_code kod;
     std::vector<std::string> jmena;
-    for (fs::directory_iterator it(slozka.empty() ? "." : slozka, kod), konec; !kod && it != konec;
-         it.increment(kod)) {
-        std::string nalezene = it->path().filename().string();
-        if (stejne_jmeno(nalezene, jmeno))
-            jmena.push_back(std::move(nalezene));
+    const Vypis vypis{::opendir(slozka.empty() ? "." : slozka.c_str())};
+    while (const dirent* const polozka = vypis.slozka == nullptr ? nullptr : ::readdir(vypis.slozka)) {
+        const TextPohled nalezene = polozka->d_name;
+        if (nalezene != "." && nalezene != ".." && stejne_jmeno(nalezene, jmeno))
+            jmena.emplace_back(nalezene);
     }
     std::sort(jmena.begin(), jmena.end());
     return jmena;

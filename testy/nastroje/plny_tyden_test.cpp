@@ -76,6 +76,7 @@ protected:
 
 TEST_P(PlnyTyden, StartAtAnyQuarterPutsEveryTrainInItsPlaceAndRunsOn) {
     const int startu = static_cast<int>(dil_zkousek(24 * 4));
+    const auto jizdni_rad = zapis_jizdni_rad(plny());
     std::size_t umisteno = 0;
     for (int minuta = 0; minuta < 24 * 60; minuta += 24 * 60 / startu) {
         const std::string kdy = std::to_string(minuta / 60) + ":" + std::to_string(minuta % 60);
@@ -84,7 +85,7 @@ TEST_P(PlnyTyden, StartAtAnyQuarterPutsEveryTrainInItsPlaceAndRunsOn) {
         volby.hodina = static_cast<std::uint8_t>(minuta / 60);
         volby.minuta = static_cast<std::uint8_t>(minuta % 60);
         volby.den = static_cast<std::uint8_t>(GetParam());
-        spust_cele_kolejiste(svet, zapis_jizdni_rad(plny()), volby);
+        spust_cele_kolejiste(svet, jizdni_rad, volby);
         ASSERT_FALSE(simulace.pauza) << kdy;
         EXPECT_TRUE(svet.okna.empty()) << kdy;
         simulace.rychlost = 8;
