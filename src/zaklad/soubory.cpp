@@ -32,8 +32,7 @@ bool stejne_jmeno(TextPohled na_disku, TextPohled jmeno) {
     const auto ascii = [](TextPohled text) {
         return !text.empty() && static_cast<unsigned char>(text[0]) < 0x80;
     };
-    if (ascii(na_disku) && ascii(jmeno) &&
-        !stejne_bez_velikosti(na_disku.substr(0, 1), jmeno.substr(0, 1)))
+    if (ascii(na_disku) && ascii(jmeno) && !stejne_bez_velikosti(na_disku.substr(0, 1), jmeno.substr(0, 1)))
         return false;
     return stejne_bez_velikosti(z_utf8(na_disku), jmeno);
 }
