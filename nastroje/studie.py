@@ -154,12 +154,13 @@ def proved_ulohy(volby, rekni):
         slova += ["--jobs", str(volby.soubezne)]
     if volby.hosti:
         slova += ["--sshlogin", volby.hosti]
-    if volby.prubeh:
+    prubeh = volby.prubeh and sys.stderr.isatty()  # it draws one line over and over
+    if prubeh:
         slova.append("--eta")
     slova.append("python3 -B %s --davka %s --uloha {}" % (shlex.quote(str(pathlib.Path(__file__).resolve())),
                                                          shlex.quote(str(volby.davka.resolve()))))
     rekni("Běhů: %d" % len(radky))
-    v = subprocess.run(slova, stdout=subprocess.DEVNULL, stderr=None if volby.prubeh else subprocess.PIPE,
+    v = subprocess.run(slova, stdout=subprocess.DEVNULL, stderr=None if prubeh else subprocess.PIPE,
                        encoding="utf-8")
     if v.returncode:
         chyby = sorted({s.read_text(encoding="utf-8").strip() for s in (volby.vystup / "behy").glob("*.err")} - {""})

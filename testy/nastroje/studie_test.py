@@ -6,11 +6,13 @@ import contextlib
 import csv
 import io
 import json
+import os
 import pathlib
 import shutil
 import sys
 import tempfile
 import unittest
+import unittest.mock
 import xml.dom.minidom
 from collections import namedtuple
 
@@ -151,6 +153,22 @@ class Beh(Slozka):
         self.assertEqual(self.studie("--semen", "2", "--zpozdeni", "0", "+5")[:2], (0, text))
         self.assertEqual([b.stat().st_mtime_ns == casy[b] for b in behy], [True, True, False, True])
         self.assertEqual(self.studie("--semen", "2", "--zpozdeni", "0", "+5", "--jen-souhrn")[:2], (0, text))
+
+    def test_runs_go_to_the_machines_that_are_named(self):
+        ssh = self.slozka / "bin" / "ssh"  # every host is this machine, and the call is written down
+        ssh.parent.mkdir()
+        ssh.write_text('#!/bin/sh\nwhile [ "${1#-}" != "$1" ]; do shift; done\necho "$1" >> "%s"\n'
+                       'shift\n[ "$1" = -- ] && shift\nexec sh -c "$*"\n' % (self.slozka / "hosti"), encoding="utf-8")
+        ssh.chmod(0o755)
+        with unittest.mock.patch.dict(os.environ, {"PATH": "%s:%s" % (ssh.parent, os.environ["PATH"])}):
+            stav, text, chyby = self.studie("--semen", "3", "--hosti", "1/prvni,1/druhy")
+        self.assertEqual(stav, 0, chyby)
+        self.assertIn("(3 běhů)", text)
+        volani = (self.slozka / "hosti").read_text(encoding="utf-8").split()
+        self.assertEqual({*volani}, {"prvni", "druhy"})
+        prubeh = (self.slozka / "st" / "prubeh.log").read_text(encoding="utf-8").splitlines()[1:]
+        self.assertEqual({r.split("\t")[1] for r in prubeh}, {"prvni", "druhy"})
+        self.assertEqual(len(prubeh), 3)
 
     def test_other_study_does_not_go_into_the_same_folder(self):
         self.assertEqual(self.studie("--semen", "1")[0], 0)
