@@ -269,7 +269,7 @@ std::optional<Text> kontrola_stavu() {
         zapomen_kontrolu_jizdy();
         return std::nullopt;
     }
-    constexpr std::array kKontroly = {
+    constexpr std::array<Nalez (*)(), 12> kKontroly = {
         hodiny, koleje,         vyhybky,           zaznamy_cest,  vyhybky_pod_navestmi, volba,
         pult,   souhlasy_trati, vlaky_na_kolejich, zaznamy_vlaku, drzene_koleje,        kontrola_jizdy};
     for (const auto kontrola : kKontroly)
