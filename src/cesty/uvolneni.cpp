@@ -135,6 +135,36 @@ void uvolni_prvky(const Cesta& c) {
         uvolni_prvek(c.konec);
 }
 
+// Another route that is being set runs switch n: its own, or one that goes over with one of its own.
+bool bezi_pro_jinou(const Cesta& c, int n) {
+    return std::any_of(cesty.begin(), cesty.end(), [&c, n](const Cesta& x) {
+        if (&x == &c || x.zacatek < 0 || !x.prehozena || x.Provedena)
+            return false;
+        bool bezi = false;
+        for (std::size_t k = 1; k < x.prvky.size(); ++k)
+            if (druh_na(x, k) == druh_prvku::vyhybka && drzi(x, k)) {
+                bezi = bezi || x.prvky[k].prvek == n;
+                projdi_partnery(x.prvky[k].prvek, [&](int b) { bezi = bezi || b == n; });
+            }
+        return bezi;
+    });
+}
+
+// Of a route that was not locked yet nothing goes on running: neither a switch that it has lost, nor one that
+// goes over with a switch of it. Its locking would have brought them all to rest.
+void zastav_rozjete(const Cesta& c) {
+    const auto zastav = [&c](int n) {
+        const int stav = stav_vyhybky_cislo(n);
+        if (stav < stav_vyhybky::vlak && vyhybka_v_pohybu(n) && !hazi_se_rukou(n) && !bezi_pro_jinou(c, n))
+            vyhybka_stav(n, stav, false, false);
+    };
+    for (std::size_t k = 1; k < c.prvky.size(); ++k)
+        if (druh_na(c, k) == druh_prvku::vyhybka) {
+            zastav(c.prvky[k].prvek);
+            projdi_partnery(c.prvky[k].prvek, zastav);
+        }
+}
+
 // The head stands at the end of the route's list, and the whole train too.
 bool vlak_stoji_v_cili(const Cesta& c) {
     if (c.Vlak < 0 || static_cast<std::size_t>(c.Vlak) >= vlaky.size())
@@ -245,6 +275,8 @@ void proved_zruseni(int i) {
         navestidla(c.zacatek)[c.zacatek].barva = barvy::seda;
     gtn_zapis(c.zacatek, gtn::zrusena, 0);
     uvolni_prvky(c);
+    if (!c.Provedena)
+        zastav_rozjete(c);
     vymaz_cislo(i, false, {});
     // Called off only when nobody else waits for it: that one's signal would clear over an open road.
     if (c.prejezd < stanicni_prejezdy.size() && c.prejezd_zaver && !stanicni_prejezdy[c.prejezd].UZ &&

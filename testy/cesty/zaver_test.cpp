@@ -500,3 +500,52 @@ TEST_F(Zaver, SwitchThatRunsForARouteIsThrownByNoHand) {
     EXPECT_TRUE(lze_hodit(5));
     EXPECT_TRUE(lze_hodit(6));
 }
+
+// --- RC while the switches run
+
+TEST_F(Zaver, SwitchThatRunsWithOneOfACancelledRouteArrivesWithIt) {
+    svet.zapis("data/tesk.stg", bajty_vazeb({{5, {6}, "5"}, {6, {5}, "6"}, {7, {255}, "7a/7b"}}));
+    zarad(240, 42);
+    cekej(3);
+    ASSERT_TRUE(vyhybka_v_pohybu(5));
+    ASSERT_TRUE(vyhybka_v_pohybu(6));
+    zrus_cestu(240);
+    cekej(1);
+    ASSERT_LT(cesty[0].zacatek, 0);
+    EXPECT_FALSE(vyhybka_v_pohybu(5));
+    EXPECT_FALSE(vyhybka_v_pohybu(6));
+    EXPECT_EQ(stav(6), 6) << "the pair lies alike";
+    EXPECT_EQ(relief.imgVyhybka[6].obrazek, 106);
+    postav(604, 41); // over switch 6 in its other end
+    EXPECT_EQ(stav(6), 55);
+}
+
+TEST_F(Zaver, CancellingLeavesASwitchThatRunsForAnotherRoute) {
+    svet.zapis("data/tesk.stg", bajty_vazeb({{5, {6}, "5"}, {6, {5}, "6"}, {7, {255}, "7a/7b"}}));
+    relief.imgVyhybka[5].stav = TextPohled("3");
+    relief.imgVyhybka[6].stav = TextPohled("5");
+    zarad(240, 42); // switch 5 lies right and does not run
+    zarad(242, 604);
+    cekej(3);
+    ASSERT_TRUE(cesty[0].prehozena && cesty[1].prehozena);
+    ASSERT_TRUE(vyhybka_v_pohybu(6));
+    zrus_cestu(240);
+    cekej(1);
+    ASSERT_EQ(cesty[0].zacatek, 242);
+    EXPECT_TRUE(vyhybka_v_pohybu(6));
+    cekej(5);
+    EXPECT_EQ(stav(6), 56);
+    EXPECT_EQ(navestni(242), barvy::zelena);
+}
+
+TEST_F(Zaver, SwitchLeftByASecondThrowByHandRunsOnWhenAnotherRouteIsCancelled) {
+    svet.zapis("data/tesk.stg", bajty_vazeb({{5, {255}, "5"}, {6, {255}, "6"}, {7, {255}, "7a/7b"}}));
+    hod_vyhybku(6, PovelVyhybky::plus);
+    hod_vyhybku(7, PovelVyhybky::minus);
+    zarad(240, 42);
+    cekej(3);
+    zrus_cestu(240);
+    cekej(20);
+    EXPECT_FALSE(vyhybka_v_pohybu(7));
+    EXPECT_TRUE(vyhybka_v_pohybu(6)) << "until NOUZ";
+}
