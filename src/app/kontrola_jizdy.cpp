@@ -98,6 +98,37 @@ bool je_mezi(const std::vector<std::int16_t>& seznam, int n) {
 
 // --- a train enters a track
 
+// The trains on each track, gathered once a look.
+struct NaKoleji {
+    std::int16_t prvni = kZadny; // index of a train that holds it
+    bool vice = false;           // another one holds it too
+};
+std::array<NaKoleji, kNejvyssiPrvek + 1> na_kolejich;
+
+void seber_vlaky_na_kolejich() {
+    na_kolejich.fill({});
+    for (std::size_t i = 0; i < vlaky.size(); ++i) {
+        const Vlak& v = vlaky[i];
+        if (v.cislo < 1)
+            continue;
+        for (std::size_t j = static_cast<std::size_t>(std::max<int>(v.prvek_konec, 0)); j < v.prvky.size();
+             ++j) {
+            const int n = v.prvky[j].prvek;
+            if (v.prvky[j].druh != druh_prvku::kolej || n < 0 || n > kNejvyssiPrvek)
+                continue;
+            NaKoleji& k = na_kolejich[static_cast<std::size_t>(n)];
+            k.vice = k.vice || (k.prvni != kZadny && k.prvni != static_cast<std::int16_t>(i));
+            k.prvni = static_cast<std::int16_t>(i);
+        }
+    }
+}
+bool je_na_ni_jiny(int n, std::size_t i) {
+    if (n < 0 || n > kNejvyssiPrvek)
+        return false;
+    const NaKoleji& k = na_kolejich[static_cast<std::size_t>(n)];
+    return k.vice || (k.prvni != kZadny && k.prvni != static_cast<std::int16_t>(i));
+}
+
 // It has gone on by one entry, and that is a track.
 bool vjel(std::size_t i) {
     const Vlak& v = vlaky[i];
@@ -288,7 +319,7 @@ std::vector<std::int16_t> sdilene_koleje(std::size_t i) {
             continue;
         const bool sdilela =
             drive != nullptr ? je_mezi(drive->sdilene, n) : pred_jinou && metry(n) != delka_koleje(n);
-        if (sdilela || drzi_jiny(n, static_cast<int>(i)))
+        if (sdilela || je_na_ni_jiny(n, i))
             sdilene.push_back(n);
         pred_jinou = true;
     }
@@ -528,6 +559,7 @@ std::optional<Text> kontrola_jizdy() {
         videno.simulace = poradi_simulace();
     }
     prijmi_zkracene();
+    seber_vlaky_na_kolejich();
     constexpr std::array kKontroly = {vjezdy, vyhybky_pod_vlaky, souvislost, delky, navesti, smery_trati};
     Nalez nalez;
     for (const auto kontrola : kKontroly)
