@@ -5,7 +5,7 @@
 #   vydrz.py --davka CESTA/tesk-davka --vystup SLOZKA --gvd GVD_plny --semen 3 --hodin 24
 #
 # Each run is one of hlidac_provozu.py, on all processors. A run that has ended is not run again when the soak is
-# started anew with the same words. Status 1 when a limit does not hold in any of them.
+# started anew with the same words. Status 1 when a limit does not hold in any of them, 130 when it was broken off.
 import argparse
 import concurrent.futures
 import json
@@ -13,13 +13,41 @@ import os
 import pathlib
 import subprocess
 import sys
+import threading
 
 HLIDAC = pathlib.Path(__file__).resolve().parent / "hlidac_provozu.py"
 TYDEN_H = 7 * 24
 VSE = ("GVD_plny", "GVD_cvicny", "GVD_tichy")
+PRERUSENO = 130               # status of a program that Ctrl-C has ended
+SKONCIL = (0, 1, 3, 4, 5)     # statuses of a watcher that has judged; what has another one has to run again
 
 
-def beh(volby, gvd, semeno):
+class Hlidaci:
+    """The watchers that run, so that none of them outlives the soak."""
+
+    def __init__(self):
+        self.zamek, self.bezi, self.konec = threading.Lock(), set(), False
+
+    def proved(self, slova):
+        """(status, what it said); status -1 when the soak has been broken off."""
+        with self.zamek:
+            if self.konec:
+                return -1, ""
+            proces = subprocess.Popen(slova, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, encoding="utf-8")
+            self.bezi.add(proces)
+        text, _ = proces.communicate()
+        with self.zamek:
+            self.bezi.discard(proces)
+        return proces.returncode, text.strip()
+
+    def zastav(self):
+        with self.zamek:
+            self.konec = True
+            for proces in self.bezi:
+                proces.terminate()
+
+
+def beh(hlidaci, volby, gvd, semeno):
     """(judgement, status, what it said) of one run."""
     soubor = volby.vystup / ("%s-%d.json" % (gvd, semeno))
     zadani = {"gvd": gvd, "semeno": semeno, "hodin": volby.hodin, "den": volby.den, "cas": volby.cas,
@@ -32,15 +60,16 @@ def beh(volby, gvd, semeno):
     slova = [sys.executable, "-B", str(HLIDAC), "--davka", str(volby.davka), "--gvd", gvd, "--semeno", str(semeno),
              "--hodin", str(volby.hodin), "--den", str(volby.den), "--cas", volby.cas, "--krok", str(volby.krok),
              "--ticho", "--json", str(docasny), *(["--kontrola"] if volby.kontrola else []), *volby.dalsi]
-    v = subprocess.run(slova, capture_output=True, encoding="utf-8")
+    stav, text = hlidaci.proved(slova)
     soud = json.loads(docasny.read_text(encoding="utf-8")) if docasny.exists() else None
     docasny.unlink(missing_ok=True)
-    text = (v.stdout + v.stderr).strip()
+    if stav not in SKONCIL:
+        return soud, stav, text
     novy = soubor.with_suffix(".novy")
-    novy.write_text(json.dumps({"zadani": zadani, "soud": soud, "stav": v.returncode, "text": text},
+    novy.write_text(json.dumps({"zadani": zadani, "soud": soud, "stav": stav, "text": text},
                                ensure_ascii=False), encoding="utf-8")
     novy.replace(soubor)
-    return soud, v.returncode, text
+    return soud, stav, text
 
 
 def otisk(program):
@@ -93,10 +122,11 @@ def hlavni(slova=None):
     volby.davka = volby.davka.resolve()
     volby.vystup.mkdir(parents=True, exist_ok=True)
     zadani = [(g, s) for s in range(1, volby.semen + 1) for g in volby.gvd]
-    print(HLAVA, flush=True)
-    nejhorsi, vety = 0, []
-    with concurrent.futures.ThreadPoolExecutor(volby.soubezne) as behy:
-        bezi = {behy.submit(beh, volby, *z): z for z in zadani}
+    nejhorsi, vety, hlidaci = 0, [], Hlidaci()
+    behy = concurrent.futures.ThreadPoolExecutor(volby.soubezne)
+    try:
+        print(HLAVA, flush=True)
+        bezi = {behy.submit(beh, hlidaci, volby, *z): z for z in zadani}
         for hotovy in concurrent.futures.as_completed(bezi):
             (gvd, semeno), (soud, stav, text) = bezi[hotovy], hotovy.result()
             print(radek(gvd, semeno, soud, stav), flush=True)
@@ -104,6 +134,12 @@ def hlavni(slova=None):
                 nejhorsi = 1
                 vety += ["%s, semeno %d: %s" % (gvd, semeno, v) for v in
                          ([text] if soud is None else soud["poruseno"] + soud["rozdily"])]
+    except KeyboardInterrupt:
+        hlidaci.zastav()
+        print("Přerušeno; týž příkaz pokračuje.", file=sys.stderr)
+        return PRERUSENO
+    finally:
+        behy.shutdown(cancel_futures=True)
     for veta in sorted(vety):
         print(veta)
     print("V pořádku." if not nejhorsi else "Některá mez neplatí; podrobnosti jsou ve složce %s." % volby.vystup)

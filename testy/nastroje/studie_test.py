@@ -9,6 +9,8 @@ import json
 import os
 import pathlib
 import shutil
+import signal
+import subprocess
 import sys
 import tempfile
 import unittest
@@ -206,6 +208,17 @@ class Vydrz(Slozka):
         self.assertEqual(soubor.stat().st_mtime_ns, cas)
         self.assertEqual(self.vydrz("--gvd", "GVD_tichy", "--semen", "1", "--krok", "20")[0], 0)
         self.assertNotEqual(soubor.stat().st_mtime_ns, cas, "other words are another soak")
+
+    def test_soak_that_is_broken_off_leaves_nothing_behind_and_runs_again(self):
+        slova = ["--davka", DAVKA, "--vystup", self.slozka / "v", "--gvd", "GVD_tichy", "--semen", "1"]
+        program = subprocess.Popen([sys.executable, "-B", KOREN / "nastroje" / "vydrz.py", *slova], encoding="utf-8",
+                                   stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+        self.assertIn("semeno", program.stdout.readline())
+        program.send_signal(signal.SIGINT)
+        _, chyby = program.communicate()
+        self.assertEqual(program.returncode, 130)
+        self.assertIn("týž příkaz pokračuje", chyby)
+        self.assertEqual(list((self.slozka / "v").glob("*.json")), [])
 
     def test_soak_fails_where_a_limit_does_not_hold(self):
         stav, text, _ = self.vydrz("--gvd", "GVD_plny", "--semen", "1", "--cas", "6:00", "--hodin", "1", "--",
