@@ -247,12 +247,29 @@ const std::vector<PrvekCesty>& prvky_cesty(const Cesta& c) {
 
 // --- the frontier
 
+// Points of its timetable that the train has behind it: up to the stop that it made last, and those that it
+// has passed since without a stop. Of these its record tells nothing; the elements that it ran over do.
+std::size_t projete_body(const Vlak& vlak, const Jizda& j) {
+    const auto obslouzeno = static_cast<std::size_t>(std::max<int>(vlak.stanice_index, 0));
+    std::size_t bodu = planovani::preskoc_jmena(j.body, std::min(obslouzeno + 1, j.body.size()));
+    if (bodu >= j.body.size() || j.body[bodu].stavi)
+        return bodu;
+    std::size_t k = vlak.prvky.size();
+    while (k > 0 && !(vlak.prvky[k - 1].druh == druh_prvku::kolej &&
+                      planovani::slouzi(j.body[obslouzeno], vlak.prvky[k - 1].prvek, true)))
+        --k;
+    for (; k < vlak.prvky.size(); ++k)
+        while (vlak.prvky[k].druh == druh_prvku::kolej && bodu < j.body.size() && !j.body[bodu].stavi &&
+               planovani::slouzi(j.body[bodu], vlak.prvky[k].prvek, false))
+            bodu = planovani::preskoc_jmena(j.body, bodu + 1);
+    return bodu;
+}
+
 // The train as it stands or runs, and over what is set for it: to its frontier.
 Postup postup_na_hranici(int v, Jizda& j, std::vector<Potreba>* potreby) {
     const Vlak& vlak = vlak_c(v);
-    const auto obslouzeno = static_cast<std::size_t>(std::max<int>(vlak.stanice_index, 0)) + 1;
     Postup p{vlak, j, {kolej_cela(vlak), vlak.smer, 0}, 0, 0};
-    p.h.bodu = planovani::preskoc_jmena(j.body, std::min(obslouzeno, j.body.size()));
+    p.h.bodu = projete_body(vlak, j);
     p.rychlost = std::max<int>(vlak.rychlost_trati, 40);
     p.potreby = potreby;
     const Cesta* c = cesta_pod_vlakem(v);
@@ -1114,7 +1131,23 @@ void rozhodni_souhlas(int k) {
     }
 }
 
+// Tracks under possession when the routes were looked at last.
+std::vector<std::int16_t> vyloucene_prvky;
+
+// A possession has come or gone since.
+bool vyluky_se_zmenily() {
+    std::size_t k = 0;
+    for (const StitekPrvku& s : stitky)
+        if (!s.vyluka.empty() && (k >= vyloucene_prvky.size() || vyloucene_prvky[k++] != s.prvek))
+            return true;
+    return k != vyloucene_prvky.size();
+}
+
 void obnov_vyluky() {
+    vyloucene_prvky.clear();
+    for (const StitekPrvku& s : stitky)
+        if (!s.vyluka.empty())
+            vyloucene_prvky.push_back(s.prvek);
     bez_tras.assign(sit().trasy.size(), 0);
     const bool vyluky =
         std::any_of(stitky.begin(), stitky.end(), [](const StitekPrvku& s) { return !s.vyluka.empty(); });
@@ -1124,8 +1157,15 @@ void obnov_vyluky() {
     }
 }
 
+// It will stop where nobody can tell it to leave, and by the times of the next day there.
+bool zustal_by_na_trati(const Vlak& v) {
+    return std::any_of(v.zastavky.begin() + v.stanice_index + 1, v.zastavky.end(),
+                       [](const Zastavka& z) { return z.prijezd >= 0 && je_zastavka_na_trati(z.stanice); });
+}
+
 // A train that a delay has brought over midnight carries the times of the next day. It is told to leave
-// when its own time has come, else it would keep its track for a day.
+// when its own time has come, else it would keep its track for a day. But a line is not to be kept either:
+// better a track.
 void vyprav_pulnocni() {
     constexpr int kPul_dne_s = 12 * 3600, kDva_dny_s = 4 * kPul_dne_s;
     for (std::size_t i = 0; i < vlaky.size(); ++i) {
@@ -1135,7 +1175,7 @@ void vyprav_pulnocni() {
         const int ceka_s = do_odjezdu_s(v), e = kolej_cela(v);
         const Zastavka& z = v.zastavky.at(static_cast<std::size_t>(v.stanice_index));
         if (ceka_s < kPul_dne_s || ceka_s > kDva_dny_s || z.odjezd - kDen_min > cas_min() ||
-            !ma_menu_koleje(e) || !vypravci::ma_stanici(z.stanice))
+            !ma_menu_koleje(e) || !vypravci::ma_stanici(z.stanice) || zustal_by_na_trati(v))
             continue;
         if (povel_vlaku(e, static_cast<int>(i), "miOdjezd"))
             vypravci::rekni(zobrazene_cislo(v),
@@ -1173,7 +1213,7 @@ void krok_jizd() {
     if (!neco)
         return;
     bool uklid = false;
-    if (ted >= dalsi_vyluky_s) {
+    if (ted >= dalsi_vyluky_s || vyluky_se_zmenily()) {
         obnov_vyluky();
         uklid_rezervace();
         uklid = true;

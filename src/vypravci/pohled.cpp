@@ -11,6 +11,8 @@
 #include "prvky/navestidla.h"
 #include "relief/relief.h"
 #include "uzel/dopravny.h"
+#include "uzel/trate.h"
+#include "uzel/zastavky.h"
 #include "zaklad/soubory.h"
 
 #include <algorithm>
@@ -74,6 +76,12 @@ int planovana_kolej(const Vlak& v) {
         if (uzel::je_kolej_hlavniho(e) && je_cislo_koleje(e) && orez(relief.cislo_koleje[e].popis()) == pokyn)
             return e;
     return kZadny;
+}
+
+bool je_zastavka_na_trati(int stanice) {
+    return std::any_of(uzel::kMistaStopu.begin(), uzel::kMistaStopu.end(), [=](const uzel::MistoStopu& m) {
+        return m.stanice == stanice && je_usek_trati(m.od) && m.od != uzel::kT2;
+    });
 }
 
 int kdo_drzi(int e) {

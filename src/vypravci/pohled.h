@@ -31,6 +31,9 @@ Text jmeno_vlaku(const Vlak& v);
 // "kolej 5 (Tesk hl. n.)": a track as an operator names it.
 Text jmeno_koleje(int e);
 
+// A stop of that station is out on a line: no menu opens there, so nobody can tell a train to leave it.
+bool je_zastavka_na_trati(int stanice);
+
 // The train or shunting movement that stands on the track, or has a route to it; kZadny nobody.
 int kdo_drzi(int e);
 

@@ -700,13 +700,14 @@ bool hodi_se_nastupiste(const Vlak& t, int e) {
 
 bool je_volne_nastupiste(int e, int v) {
     const int komu = slibena(e);
-    return !je_obsazena(e) && je_volna(e) && cil_volny(e) && (komu == kZadny || komu == v);
+    return !je_obsazena(e) && je_volna(e) && cil_volny(e) && !ma_vyluku(e) && (komu == kZadny || komu == v);
 }
 
 // Platform for a set; kZadny: it has to wait.
 int vyber_nastupiste(int v, int odjezd_s, bool tlaci) {
     const Vlak& t = vlak_c(v);
-    const int planovana = planovana_kolej(t), do_min = std::max(odjezd_s / 60, 0);
+    const int podle_radu = planovana_kolej(t), do_min = std::max(odjezd_s / 60, 0);
+    const int planovana = podle_radu != kZadny && ma_vyluku(podle_radu) ? kZadny : podle_radu;
     if (planovana != kZadny && je_volne_nastupiste(planovana, v) && volna_jeste_s(planovana, v) > odjezd_s &&
         (odjezd_s < kNastup_s || tlaci || !ma_ji_jiny(planovana, t.cislo, do_min)))
         return planovana;

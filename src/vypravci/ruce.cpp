@@ -68,7 +68,9 @@ std::optional<Druh> tlacitko_panelu() {
         return Druh::cmdZpravy;
     if (relief.lstDenik.viditelny)
         return Druh::cmDenik;
-    if (relief.lblTabulka_vlaku.je(0) && relief.lblTabulka_vlaku[0].viditelny())
+    // an empty table has no row to be seen by, and at the start no button is pressed
+    if (relief.cmdTABULKA[0].barva == barvy::bila ||
+        (relief.lblTabulka_vlaku.je(0) && relief.lblTabulka_vlaku[0].viditelny()))
         return Druh::cmdTABULKA;
     return std::nullopt;
 }
@@ -224,6 +226,25 @@ bool dej_souhlas(int k) {
         return false;
     klik(Druh::lblSouhlas, k, Tlacitko::prave, false);
     return zvol("miUS");
+}
+
+bool smaz_radek_zpozdeni(int radek) {
+    const std::vector<Text>& radky = relief.lstZpravy.radky;
+    if (!lze_jednat() || radek < 0 || static_cast<std::size_t>(radek) >= radky.size())
+        return false;
+    const std::size_t radku = radky.size();
+    const auto panel = tlacitko_panelu();
+    if (panel != Druh::cmdZpravy)
+        klik(Druh::cmdZpravy, 0, Tlacitko::leve, false);
+    const int vybrany = relief.lstZpravy.vybrany;
+    klik_na_radek(relief.lstZpravy, radek);
+    klavesa({KodKlavesy::delete_});
+    spocti_povel();
+    if (panel != Druh::cmdZpravy)
+        klik(panel.value_or(Druh::cmdVLAK), 0, Tlacitko::leve, false);
+    else if (vybrany != radek && vybrany >= 0) // the operator's own choice stays on its line
+        klik_na_radek(relief.lstZpravy, vybrany - (vybrany > radek ? 1 : 0));
+    return radky.size() < radku;
 }
 
 void zapni_pv() {

@@ -45,6 +45,9 @@ bool zmen_cislo_vlaku(int e, int v, std::int32_t cislo);
 bool zavolej_lokomotivu(int misto, TextPohled rada);
 // US: the train that asks at line end k may come.
 bool dej_souhlas(int k);
+// Delete on that line of the message list, counted from 0: its train is not late any more. The panel that was
+// open comes back.
+bool smaz_radek_zpozdeni(int radek);
 // Each route is tried by itself.
 void zapni_pv();
 // Messages that only tell something are taken note of, and warnings of routes confirmed. Questions of the

@@ -9,6 +9,8 @@
 #include "vypravci/posun.h"
 #include "vypravci/rezervace.h"
 #include "vypravci/ruce.h"
+#include "vypravci/smery.h"
+#include "vypravci/zpozdeni.h"
 
 #include <algorithm>
 #include <utility>
@@ -26,6 +28,8 @@ void zacni() {
     zapomen_rezervace();
     zacni_jizdy();
     zacni_posun();
+    zacni_zpozdeni();
+    zacni_smery();
     pamatuje = true;
     posledni_krok_s = ted_s();
     stav_vypravciho.zapnut = true;
@@ -132,8 +136,10 @@ void krok() {
         zacni();
     posledni_krok_s = ted_s();
     odpovez_na_zpravy();
+    uklid_zpozdeni();
     krok_posunu();
     krok_jizd();
+    uvolni_smery();
 }
 
 } // namespace vypravci
