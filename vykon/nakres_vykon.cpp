@@ -79,5 +79,45 @@ BENCHMARK(obraz_dne)
     ->Args({1024, 560})
     ->Args({1920, 1080});
 
+// The window's repaint while the service runs: the shapes anew, and what has changed of them.
+void zivy_den(benchmark::State& stav) {
+    const CelyDen den(stav);
+    PohledNakresu pohled = den.pohled;
+    constexpr int kKroku = 60, kKrok_s = 20;
+    std::vector<std::vector<CaraVlaku>> okamziky;
+    for (int i = 0; i < kKroku; ++i) {
+        const double ted = pohled.ted + i * kKrok_s;
+        std::vector<CaraVlaku> cary;
+        for (CaraVlaku c : den.cary) {
+            if (!c.plan) { // up to the present, and then on the desk
+                const std::size_t bodu = c.body.size();
+                std::erase_if(c.body, [&](const BodCary& b) { return b.s > ted; });
+                if (c.body.empty())
+                    continue;
+                if (c.body.size() < bodu) {
+                    c.na_stole = true;
+                    c.body.push_back({ted, c.body.back().m});
+                }
+            }
+            cary.push_back(std::move(c));
+        }
+        okamziky.push_back(std::move(cary));
+    }
+    PlatnoObrazu platno;
+    platno.obnov(nakresli_nakres(pohled, den.k, den.osa, okamziky[0]), 1);
+    std::size_t i = 0;
+    for (auto _ : stav) {
+        i = (i + 1) % okamziky.size();
+        pohled.ted = den.pohled.ted + static_cast<double>(i) * kKrok_s;
+        benchmark::DoNotOptimize(platno.obnov(nakresli_nakres(pohled, den.k, den.osa, okamziky[i]), 1));
+    }
+}
+BENCHMARK(zivy_den)
+    ->Unit(benchmark::kMillisecond)
+    ->Name("repaint of a diagram of a whole day while trains run")
+    ->Args({1024, 560})
+    ->Args({1920, 1080})
+    ->Args({3840, 2160});
+
 } // namespace
 #endif

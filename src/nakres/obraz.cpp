@@ -68,27 +68,35 @@ double sirka_textu(TextPohled text, double pismo) {
 // Where numbers stand already: a raster of cells half a letter high.
 class Obsazeno {
 public:
-    explicit Obsazeno(double pismo) : bunka(pismo / 2) {}
-    // Takes the room of a text along a line; false, and nothing is taken, when something stands there.
+    Obsazeno(double sirka, double vyska, double pismo)
+        : bunka(pismo / 2), na_radek(static_cast<std::size_t>(sirka / bunka) + 1),
+          bunky(na_radek * (static_cast<std::size_t>(vyska / bunka) + 1)) {}
+    // Takes the room of a text along a line; false, and nothing is taken, when something stands there or it
+    // would lie beyond the picture.
     bool zaber(BodObrazu stred, double delka, double vyska, double uhel) {
         const double c = std::cos(uhel * std::numbers::pi / 180), s = std::sin(uhel * std::numbers::pi / 180);
-        std::vector<std::pair<int, int>> mista;
+        mista.clear();
         for (double podel = -delka / 2; podel <= delka / 2; podel += bunka)
             for (const double napric : {-vyska / 2, 0.0, vyska / 2}) {
-                const double x = stred.x + podel * c - napric * s, y = stred.y + podel * s + napric * c;
-                const std::pair klic(static_cast<int>(std::floor(x / bunka)),
-                                     static_cast<int>(std::floor(y / bunka)));
-                if (bunky.contains(klic))
+                const double x = (stred.x + podel * c - napric * s) / bunka;
+                const double y = (stred.y + podel * s + napric * c) / bunka;
+                if (x < 0 || y < 0 || x >= static_cast<double>(na_radek))
                     return false;
-                mista.push_back(klic);
+                const std::size_t kde = static_cast<std::size_t>(y) * na_radek + static_cast<std::size_t>(x);
+                if (kde >= bunky.size() || bunky[kde])
+                    return false;
+                mista.push_back(kde);
             }
-        bunky.insert(mista.begin(), mista.end());
+        for (const std::size_t kde : mista)
+            bunky[kde] = true;
         return true;
     }
 
 private:
     double bunka;
-    std::set<std::pair<int, int>> bunky;
+    std::size_t na_radek;
+    std::vector<bool> bunky;
+    std::vector<std::size_t> mista;
 };
 
 struct Kreslic {
@@ -244,7 +252,7 @@ struct Kreslic {
     // A number lies along its line, where it has room beside those that stand already. Trains that run go
     // before those that shall; a number stands once.
     void cisla() {
-        Obsazeno obsazeno(p.pismo);
+        Obsazeno obsazeno(p.sirka, p.vyska, p.pismo);
         constexpr double kJinaJizda_s = 6 * 3600;  // of the same number on another day
         std::multimap<std::int32_t, double> psana; // with the begin of its line
         for (const bool vybrany : {true, false})

@@ -52,7 +52,8 @@ constexpr TextPohled kNastaveni = "Nakres";
 constexpr int kObnova_ms = 200;
 constexpr double kNejmensiOkno_s = 20 * 60, kNejvetsiOkno_s = 30 * 3600; // of time in sight
 constexpr double kBoduNaMinutu = 5;                                      // at first, pixels of the desk
-constexpr double kTedOdLeva = 0.62; // where the present stands while it is followed
+constexpr double kTedOdLeva = 0.62; // where the present stands while it is followed,
+constexpr int kBoduPosunu = 8;      // and by how many pixels the picture goes on then
 constexpr double kKrokLupy = 1.25, kKrokPosunu = 0.125;
 constexpr int kTahBodu = 4;                               // a press that moves farther is no click
 constexpr double kOkoliBodu = 7;                          // of a line that is picked
@@ -70,7 +71,7 @@ public:
     explicit PlatnoNakresu(OknoNakresu* vlastnik);
 
 protected:
-    void paintEvent(QPaintEvent*) override;
+    void paintEvent(QPaintEvent* udalost) override;
     void resizeEvent(QResizeEvent*) override;
     void mousePressEvent(QMouseEvent* udalost) override;
     void mouseMoveEvent(QMouseEvent* udalost) override;
@@ -82,6 +83,7 @@ protected:
 private:
     OknoNakresu* okno;
     QPointF stisk;
+    std::int32_t pod_stiskem = 0; // number of the train
     double od_stisku = 0, m_stisku = 0;
     bool drzi = false, tahne = false;
 };
@@ -91,7 +93,8 @@ public:
     explicit OknoNakresu(QWidget* stul);
 
     // --- by the picture
-    const ObrazNakresu& obraz() const { return nakresleny; }
+    const ObrazNakresu& obraz() const { return nakresleny.obraz(); }
+    const QImage& plocha() const { return nakresleny.plocha(); }
     const PohledNakresu& pohled() const { return co; }
     double m_od() const { return co.m_po > co.m_od ? co.m_od : 0; }
     double m_po() const { return co.m_po > co.m_od ? co.m_po : osa.delka(); }
@@ -137,7 +140,7 @@ private:
     bool sleduje = true; // the present stays in sight
     bool zmena = true;   // what is looked at has changed
     double ted_x = -1;   // pixel of the present as drawn
-    ObrazNakresu nakresleny;
+    PlatnoObrazu nakresleny;
 };
 
 QPointer<OknoNakresu> otevreny;
@@ -151,12 +154,19 @@ PlatnoNakresu::PlatnoNakresu(OknoNakresu* vlastnik) : QWidget(vlastnik), okno(vl
     setMinimumSize(320, 200);
 }
 
-void PlatnoNakresu::paintEvent(QPaintEvent*) {
+void PlatnoNakresu::paintEvent(QPaintEvent* udalost) {
     QPainter p(this);
-    if (okno->obraz().tvary.empty())
+    if (okno->plocha().isNull()) {
         p.fillRect(rect(), QColor::fromRgb(barva_role(RoleNakresu::papir, false)));
-    else
-        nakresli_obraz(p, okno->obraz(), false);
+        return;
+    }
+    const double pomer = devicePixelRatioF();
+    p.scale(1 / pomer, 1 / pomer);
+    for (const QRect& r : udalost->region()) {
+        const QRect body =
+            QRectF(r.x() * pomer, r.y() * pomer, r.width() * pomer, r.height() * pomer).toAlignedRect();
+        p.drawImage(body.topLeft(), okno->plocha(), body.intersected(okno->plocha().rect()));
+    }
 }
 
 void PlatnoNakresu::resizeEvent(QResizeEvent*) {
@@ -169,6 +179,7 @@ void PlatnoNakresu::mousePressEvent(QMouseEvent* udalost) {
     drzi = true;
     tahne = false;
     stisk = udalost->position();
+    pod_stiskem = vlak_v_nakresu(okno->obraz(), {stisk.x(), stisk.y()}, kOkoliBodu);
     od_stisku = okno->pohled().od;
     m_stisku = okno->m_od();
 }
@@ -196,7 +207,7 @@ void PlatnoNakresu::mouseReleaseEvent(QMouseEvent* udalost) {
     drzi = false;
     setCursor(Qt::ArrowCursor);
     if (!tahne)
-        okno->vyber(vlak_v_nakresu(okno->obraz(), {stisk.x(), stisk.y()}, kOkoliBodu), false);
+        okno->vyber(pod_stiskem, false); // the picture may have moved since
 }
 
 void PlatnoNakresu::mouseDoubleClickEvent(QMouseEvent* udalost) {
@@ -421,15 +432,16 @@ bool OknoNakresu::spocitej(bool vse) {
             sklad->pridej(pohyby[zpracovano]);
         if (novy)
             posledni_pohyb = pohyby.back();
-        if (sleduje) { // in whole minutes: the picture stands still while the present moves
-            const double sirka = co.po - co.od;
-            co.od = std::floor((ted - kTedOdLeva * sirka) / 60) * 60;
-            co.po = co.od + sirka;
-        }
         co.sirka = platno->width();
         co.vyska = platno->height();
         co.pismo = 12 * std::max(1.0, fontInfo().pixelSize() / 13.0);
         co.ted = ted;
+        if (sleduje) { // by whole pixels: the picture stands still while the present moves, and then is moved
+            const double sirka = co.po - co.od;
+            const double krok = kBoduPosunu * sirka / std::max(plocha_nakresu(co).sirka(), 1.0);
+            co.od = std::floor((ted - kTedOdLeva * sirka) / krok) * krok;
+            co.po = co.od + sirka;
+        }
         co.plan = s_planem->isChecked();
         co.jizdy = s_jizdami->isChecked();
         const PlochaNakresu a = plocha_nakresu(co);
@@ -446,8 +458,10 @@ bool OknoNakresu::spocitej(bool vse) {
         }
         std::vector<CaraVlaku> cary = jete_cary(k, osa, sklad->jizdy(), ted);
         cary.insert(cary.end(), plan.begin(), plan.end());
-        nakresleny = nakresli_nakres(co, k, osa, cary);
-        platno->update();
+        const double pomer = platno->devicePixelRatioF();
+        for (const QRect& r : nakresleny.obnov(nakresli_nakres(co, k, osa, cary), pomer))
+            platno->update(
+                QRectF(r.x() / pomer, r.y() / pomer, r.width() / pomer, r.height() / pomer).toAlignedRect());
     });
 }
 

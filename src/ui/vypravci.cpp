@@ -22,6 +22,7 @@
 #include <QFileDialog>
 #include <QFontDatabase>
 #include <QGroupBox>
+#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -242,6 +243,8 @@ void OknoVypravciho::obnov_vety(QListWidget& okno, std::vector<Veta>& ukazane, s
                                 bool nejnovejsi_nahore) {
     if (nove == ukazane && okno.count() == static_cast<int>(nove.size()))
         return;
+    if (okno.viewport()->underMouse() && QGuiApplication::mouseButtons() != Qt::NoButton)
+        return; // a row that is being clicked stays under the pointer
     ukazane = std::move(nove);
     const int posun = okno.verticalScrollBar()->value();
     okno.clear();
