@@ -21,11 +21,10 @@ from xml.sax.saxutils import escape
 
 import koridory
 from datove_soubory import (CISLO_KOLEJE, Ctecka, Konec, cti_delku, cti_hlavicku_gvd, cti_prvek, cti_vlak, najdi)
-from nakres import (OKRAJ_DOLE, OKRAJ_NAHORE, OKRAJ_VLEVO, OKRAJ_VPRAVO, PAPIR, cislo_na_care, legenda, mrizka_casu,
+from nakres import (DNY_SLOVY, OKRAJ_DOLE, OKRAJ_NAHORE, OKRAJ_VLEVO, OKRAJ_VPRAVO, PAPIR, cislo_na_care, legenda, mrizka_casu,
                     osa_stanic, zacatek)
 
 DNY = ("Po", "Út", "St", "Čt", "Pá", "So", "Ne")
-DNY_SLOVY = ("pondělí", "úterý", "středa", "čtvrtek", "pátek", "sobota", "neděle")
 VSECHNY_DNY, POTREBA = 0x7F, 0x80  # the eighth bit: trains of need
 DEN = 1440
 HLAVNI = 9
@@ -52,8 +51,6 @@ SKUPINY = (
 SKUPINA_DRUHU = {druh: skupina for skupina in SKUPINY for druh in skupina[3]}
 
 KOD = {m.zkratka: m.kody[0] for m in KORIDORY.mista.values()}
-# sections between neighbouring points, with the part of each that lies between them
-USEKY = {(KOD[a], KOD[b]): tuple((prvky[0], cast) for prvky, cast in dily) for (a, b), dily in KORIDORY.useky.items()}
 # lines: the points from the top down; two in one row lie at the same height, as two ends of a branch do
 TRATE = {jmeno: (nadpis, tuple(tuple(KOD[z] for z in rada) if len(rada) > 1 else KOD[rada[0]] for rada in rady))
          for jmeno, (nadpis, rady) in KORIDORY.trate.items()}
@@ -403,23 +400,9 @@ def tabule_html(rad, tabule_stanic, den):
 # --- the time-distance diagram
 
 
-def vzdalenost(a, b, delky):
-    useky = USEKY.get((a, b)) or USEKY.get((b, a))
-    if useky is None:
-        raise Chyba("mezi %s a %s nejsou úseky trati" % (nazev(a), nazev(b)))
-    return sum(delky.get(usek, 60) * dil for usek, dil in useky)
-
-
 def osa_trati(trat, delky):
     """[(codes in one row, metres from the first row)] from the top down."""
-    osa, metry, predchozi = [], 0.0, None
-    for radek in TRATE[trat][1]:
-        kody = radek if isinstance(radek, tuple) else (radek,)
-        if predchozi is not None:
-            metry += vzdalenost(predchozi, kody[0], delky)
-        osa.append((kody, metry))
-        predchozi = kody[0]
-    return osa
+    return [(tuple(KOD[z] for z in rada), metry) for rada, metry in KORIDORY.osa(trat, delky)]
 
 
 def jizdy_po_trati(v, kde):

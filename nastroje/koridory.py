@@ -49,6 +49,19 @@ class Koridory:
     def _trat(self, jmeno, nadpis, *mista):
         self.trate[jmeno] = (nadpis, [[self.mista[z].zkratka for z in rada.split("+")] for rada in mista])
 
+    def osa(self, trat, delky):
+        """[([abbreviations of a row], metres from the first row)] of a line from the top down; `delky`: {track: metres}."""
+        osa, metry = [], 0.0
+        for rada in self.trate[trat][1]:
+            if osa:
+                a, b = osa[-1][0][0], rada[0]
+                dily = self.useky.get((a, b)) or self.useky.get((b, a))
+                if dily is None:
+                    raise ValueError("mezi %s a %s nejsou úseky trati" % (self.mista[a].nazev, self.mista[b].nazev))
+                metry += sum(delky.get(prvky[0], 60) * cast for prvky, cast in dily)
+            osa.append((rada, metry))
+        return osa
+
     def misto_koleje(self):
         """{track: abbreviation} of the tracks on which a train stands in a station."""
         return {k: m.zkratka for m in self.mista.values() for k in m.koleje}

@@ -7,6 +7,7 @@ from xml.sax.saxutils import escape
 OKRAJ_VLEVO, OKRAJ_VPRAVO, OKRAJ_NAHORE, OKRAJ_DOLE = 160, 36, 92, 54
 PISMO = "font-family=\"'DejaVu Sans', 'Noto Sans', sans-serif\""
 PAPIR = "#fffdf7"
+DNY_SLOVY = ("pondělí", "úterý", "středa", "čtvrtek", "pátek", "sobota", "neděle")
 
 
 def hodiny_minuty(cas):

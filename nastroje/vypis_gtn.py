@@ -19,7 +19,7 @@ from xml.sax.saxutils import escape
 
 import koridory
 from datove_soubory import Konec, cti_log
-from nakres import (OKRAJ_DOLE, OKRAJ_NAHORE, OKRAJ_VLEVO, OKRAJ_VPRAVO, cislo_na_care, hodiny_minuty, legenda,
+from nakres import (DNY_SLOVY, OKRAJ_DOLE, OKRAJ_NAHORE, OKRAJ_VLEVO, OKRAJ_VPRAVO, cislo_na_care, hodiny_minuty, legenda,
                     mrizka_casu, osa_stanic, zacatek)
 
 UDALOSTI = {
@@ -36,7 +36,6 @@ S_VLAKEM = {90, NA_KOLEJ, Z_KOLEJE}  # the value is a train number
 # what the element of each code is
 KOLEJ, NAVESTIDLO, VYHYBKA, JINE = "kolej", "navestidlo", "vyhybka", ""
 DRUH_PRVKU = {73: KOLEJ, 90: KOLEJ, 131: KOLEJ, 132: KOLEJ, 74: VYHYBKA, 76: JINE, 103: JINE}
-DNY = ("pondělí", "úterý", "středa", "čtvrtek", "pátek", "sobota", "neděle")
 
 
 class Chyba(Exception):
@@ -281,18 +280,6 @@ def jizdy_vlaku(zaznamy, stanice):
     return jizdy
 
 
-def osa_trati(trat, kolejiste, tabulka):
-    """[([places of a row], metres from the first row)] of a line of koridory.txt, by the lengths of the sources."""
-    osa, metry = [], 0
-    for rada in tabulka.trate[trat][1]:
-        if osa:
-            a, b = osa[-1][0][0], rada[0]
-            dily = tabulka.useky.get((a, b)) or tabulka.useky.get((b, a), ())
-            metry += sum(kolejiste.koleje.get(prvky[0], ("", 60, ""))[1] * cast for prvky, cast in dily)
-        osa.append((rada, metry))
-    return osa
-
-
 def cary_po_trati(jizdy, metry):
     """[(run, [(second, metres)])]: a train leaves the line where it calls at a place off it."""
     cary = []
@@ -351,7 +338,7 @@ def nakres(hlavicka, zaznamy, kolejiste, kody=None, trat=None):
         tabulka = koridory.nacti()
         if trat not in tabulka.trate:
             raise Chyba("trať %s není; jsou tu %s" % (trat, ", ".join(tabulka.trate)))
-        rady = osa_trati(trat, kolejiste, tabulka)
+        rady = tabulka.osa(trat, {kolej: popis[1] for kolej, popis in kolejiste.koleje.items()})
         osa = [(", ".join(tabulka.mista[z].nazev for z in rada), ", ".join(rada), m) for rada, m in rady]
         cary = cary_po_trati(jizdy_vlaku(zaznamy, tabulka.misto_koleje()), {z: m for rada, m in rady for z in rada})
     if len(osa) < 2:
@@ -379,7 +366,7 @@ def nakres(hlavicka, zaznamy, kolejiste, kody=None, trat=None):
 
     dole = OKRAJ_NAHORE + vyska_osy
     svg = zacatek(sirka, vyska, "Nákresný jízdní řád podle záznamu %s" % hlavicka.datum, "Splněný grafikon",
-                  "%s, záznam z %s, %s, %s až %s" % (hlavicka.nazev, hlavicka.datum, DNY[hlavicka.den % 7],
+                  "%s, záznam z %s, %s, %s až %s" % (hlavicka.nazev, hlavicka.datum, DNY_SLOVY[hlavicka.den % 7],
                                                      hodiny_minuty(od), hodiny_minuty(do)))
     svg += mrizka_casu(x, od, do, OKRAJ_NAHORE, dole, na_minutu)
     svg += osa_stanic(osa, y, OKRAJ_VLEVO, x(do))

@@ -209,15 +209,15 @@ class Nakres(Zaklad):
         for trat in g.TRATE:
             metry = [m for _, m in g.osa_trati(trat, delky)]
             self.assertEqual(metry, sorted(set(metry)))
-        self.assertTrue(all(u in delky for useky in g.USEKY.values() for u, _ in useky))
+        self.assertTrue(all(p[0] in delky for dily in g.KORIDORY.useky.values() for p, _ in dily))
 
     def test_parts_of_a_section_that_a_stop_divides_make_the_whole(self):
         for trat in ("jav", "dub", "try-rok", "try-bor"):
             dily = {}
-            radky = [r[0] if isinstance(r, tuple) else r for r in g.TRATE[trat][1]]
-            for par in zip(radky, radky[1:]):
-                for usek, dil in g.USEKY.get(par) or g.USEKY[par[::-1]]:
-                    dily[usek] = dily.get(usek, 0) + dil
+            rady = [rada[0] for rada in g.KORIDORY.trate[trat][1]]
+            for par in zip(rady, rady[1:]):
+                for prvky, dil in g.KORIDORY.useky.get(par) or g.KORIDORY.useky[par[::-1]]:
+                    dily[prvky[0]] = dily.get(prvky[0], 0) + dil
             for usek, dil in dily.items():
                 self.assertAlmostEqual(dil, 1, msg="section %d" % usek)
 
