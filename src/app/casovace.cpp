@@ -13,6 +13,7 @@
 #include "gvd/provoz.h"
 #include "jizda/krok_jizdy.h"
 #include "jizda/zastavky.h"
+#include "obsluha/povely.h"
 #include "obsluha/volba.h"
 #include "prvky/panel.h"
 #include "prvky/stanicni_prejezdy.h"
@@ -86,10 +87,7 @@ void vrat_lhuty_o_den() {
 // The log of the shift is lost as little as a disk allows; that it is, the operator is told once.
 void vyprazdni_denik() {
     if (const auto vada = gtn_vyprazdni())
-        zprava(" POZOR ",
-               Text("Deník událostí (GTN) nelze zapsat: "_cz) + Text(text_chyby(*vada)) +
-                   Text(". Simulace pokračuje."_cz),
-               barvy::bila, 0, false, barvy::bila, barvy::cervena);
+        ohlas_vadu_deniku(*vada);
 }
 
 // The clock stands at the last minute that there is; an operator who ends the pause gets no further.

@@ -35,7 +35,7 @@ struct Rozvrh {
 
 struct Snimek {
     std::int64_t cas_ms = 0, ubehlo_s = 0;
-    std::int64_t gtn = 0;                // bytes of the log
+    MistoGtn gtn;                        // how far the log had come
     std::size_t ukonu = 0, odpovedi = 0; // how many there had been
     Nahoda nahoda;
     Rozvrh rozvrh;
@@ -48,12 +48,13 @@ struct Snimek {
 struct Odlozene {
     Snimek pritomnost;
     std::int64_t od_s = 0, od_ms = 0; // the moment
+    std::int32_t od_casu = 0;         // what the clock showed then
     std::size_t od_ukonu = 0, od_odpovedi = 0;
-    std::int64_t od_gtn = 0;
+    MistoGtn od_gtn, konec_od; // the log at the moment, and where the end begins that was cut off
     std::vector<Ukon> ukony;
     std::vector<Text> odpovedi;
     std::vector<Snimek> snimky;
-    Bajty gtn;
+    KonecGtn gtn;
 };
 
 struct Historie {
@@ -62,6 +63,7 @@ struct Historie {
     std::int32_t posledni_cas = 0; // of the clock, at the last look
     std::deque<Snimek> snimky;
     std::optional<Odlozene> odlozene;
+    Bajty makra; // as they were read last
     std::size_t videno_ukonu = 0;
     std::uint64_t vetev = 0;
 };
@@ -96,25 +98,55 @@ std::size_t bajtu_stavu(const StavSimulace& s) {
     constexpr std::size_t kPoliCesty = 500;
     bajtu += s.cesty.capacity() * (sizeof(Cesta) + kPoliCesty);
     bajtu += s.sledovani.jizdy.capacity() * sizeof(JizdaVlaku);
+    for (const JizdaVlaku& j : s.sledovani.jizdy)
+        bajtu += v_hromade(j.nyni.veta) + v_hromade(j.nejdelsi.veta);
     bajtu += s.sledovani.stopy.capacity() * sizeof(StopaVlaku);
+    bajtu += s.sledovani.posledni.capacity() * sizeof(int);
+    for (const std::vector<Veta>* vety : {&s.stav_vypravciho.vety, &s.stav_vypravciho.cekani}) {
+        bajtu += vety->capacity() * sizeof(Veta);
+        for (const Veta& v : *vety)
+            bajtu += v_hromade(v.text);
+    }
     return bajtu;
 }
 
 // --- states
 
+// The timetable stays where it is while the tables are copied: nobody changes it while a shift runs.
+class BezJizdnihoRadu {
+public:
+    BezJizdnihoRadu() : odlozeny(std::move(gvd_vlaky)) {}
+    BezJizdnihoRadu(const BezJizdnihoRadu&) = delete;
+    BezJizdnihoRadu& operator=(const BezJizdnihoRadu&) = delete;
+    ~BezJizdnihoRadu() { gvd_vlaky = std::move(odlozeny); }
+
+private:
+    TabulkaGvd odlozeny;
+};
+
+// The stored macros; while their file cannot be read, as they were known last.
+const Bajty& znama_makra() {
+    try {
+        historie.makra = obsah_maker();
+    } catch (const BehovaChyba&) { // the maintenance screen tells that
+    }
+    return historie.makra;
+}
+
 Snimek porid_snimek() {
     Snimek s;
     s.cas_ms = virtualni_hodiny.cas_ms;
     s.ubehlo_s = historie.ubehlo_s;
-    s.gtn = gtn_delka();
+    s.gtn = gtn_misto();
     s.ukonu = ukony_smeny.ukony.size();
     s.odpovedi = odpovedi_obsluhy.size();
     s.nahoda = nahoda;
     s.rozvrh = {planovac.splatno, planovac.splatno_promennych, planovac.periody_promennych};
-    s.makra = obsah_maker();
-    TabulkaGvd jizdni_rad = std::move(gvd_vlaky); // nobody changes it while a shift runs
-    s.stav = stav_simulace();
-    gvd_vlaky = std::move(jizdni_rad);
+    s.makra = znama_makra();
+    {
+        const BezJizdnihoRadu bez;
+        s.stav = stav_simulace();
+    }
     s.bajtu = bajtu_stavu(s.stav);
     return s;
 }
@@ -126,9 +158,10 @@ void obnov_snimek(const Snimek& s) {
     planovac.splatno = s.rozvrh.splatno;
     planovac.splatno_promennych = s.rozvrh.splatno_promennych;
     planovac.periody_promennych = s.rozvrh.periody_promennych;
-    TabulkaGvd jizdni_rad = std::move(gvd_vlaky);
-    vrat_stav(s.stav);
-    gvd_vlaky = std::move(jizdni_rad);
+    {
+        const BezJizdnihoRadu bez;
+        vrat_stav(s.stav);
+    }
     historie.posledni_cas = cas_hodin();
 }
 
@@ -153,7 +186,7 @@ void hlidej_odlozene() {
     const std::size_t od = std::min(historie.videno_ukonu, ukony.size());
     historie.videno_ukonu = ukony.size();
     if (historie.odlozene &&
-        !std::all_of(ukony.begin() + static_cast<std::ptrdiff_t>(od), ukony.end(), je_pohyb_ukazatele))
+        std::any_of(ukony.begin() + static_cast<std::ptrdiff_t>(od), ukony.end(), je_cin))
         historie.odlozene.reset();
 }
 
@@ -206,12 +239,12 @@ public:
             return odpoved && *odpoved != "zrus" ? odpoved : std::nullopt;
         };
         planovac.bez_obsluhy = true;
-        podloz_makra(od.makra);
+        makra = podloz_makra(od.makra);
     }
     Potichu(const Potichu&) = delete;
     Potichu& operator=(const Potichu&) = delete;
     ~Potichu() {
-        podloz_makra(std::nullopt);
+        podloz_makra(std::move(makra));
         planovac.bez_obsluhy = false;
         pise_se_na_disk(psalo_se);
         planovac.po_okamziku = std::move(po_okamziku);
@@ -222,6 +255,7 @@ public:
 private:
     Platforma puvodni;
     std::function<void()> po_kroku, po_okamziku;
+    std::optional<Bajty> makra; // of a record that is watched
     bool psalo_se;
     BezZapisuUkonu bez_zapisu;
 };
@@ -277,19 +311,39 @@ std::size_t snimek_pred(std::int64_t s) {
 }
 
 void po_navratu(const Bajty& makra) {
-    obnov_makra(makra);
+    try {
+        obnov_makra(makra);
+    } catch (const BehovaChyba&) { // a disk that does not take them keeps those of now
+    }
     stav_byl_vymenen();
     zapamatuj_stav();
     historie.videno_ukonu = ukony_smeny.ukony.size();
     ++historie.vetev;
 }
 
+// Whoever has the desk now has it then: he was handed the desk, not a time. For as long as this lives.
+class DrziStul {
+public:
+    DrziStul() = default;
+    DrziStul(const DrziStul&) = delete;
+    DrziStul& operator=(const DrziStul&) = delete;
+    ~DrziStul() {
+        stav_vypravciho.zapnut = drzi.zapnut;
+        stav_vypravciho.vse = drzi.vse;
+        stav_vypravciho.stanice = drzi.stanice;
+    }
+
+private:
+    StavVypravciho drzi = stav_vypravciho;
+};
+
 // Everything that was laid aside stands in its place again, and so does the present.
 void vrat_odlozene() {
+    const DrziStul drzi;
     Odlozene o = std::move(*historie.odlozene);
     historie.odlozene.reset();
     gtn_odrizni(o.od_gtn);
-    gtn_pripoj(o.gtn);
+    gtn_pripoj(o.gtn, o.konec_od, o.od_gtn);
     ukony_smeny.ukony.resize(o.od_ukonu);
     std::move(o.ukony.begin(), o.ukony.end(), std::back_inserter(ukony_smeny.ukony));
     odpovedi_obsluhy.resize(o.od_odpovedi);
@@ -308,36 +362,47 @@ template <class T> std::vector<T> utrzeny_konec(std::vector<T>& seznam, std::siz
     return konec;
 }
 
+// "8:35:10 8:30:10"
+Text odkud_kam(std::int32_t odkud, std::int32_t kam) {
+    return text_casu(odkud) + " " + text_casu(kam);
+}
+
+// The record says that time was turned back. What the course that is dropped said of that goes on being said:
+// a shift that was put right twice has both notes.
+void poznamenej_navrat(const Odlozene& o, bool novy) {
+    for (const Ukon& u : o.ukony)
+        if (u.co == DruhUkonu::vraceno)
+            zapis_vraceni(u.text);
+    if (novy)
+        zapis_vraceni(odkud_kam(o.pritomnost.stav.stav_hodin.sekundy, o.od_casu));
+}
+
 // Goes back on the line that is there. `odloz`: what comes after is laid aside, else it is dropped.
 Navrat skoc(std::int64_t s, bool odloz) {
     const std::size_t i = snimek_pred(s);
-    const Snimek& od = historie.snimky[i];
-    if (od.ubehlo_s > s || (od.ubehlo_s == s && s > 0))
-        return Navrat::pred_pameti;
+    const DrziStul drzi;
     Odlozene o;
     o.pritomnost = porid_snimek();
     const std::vector<Text> dane = odpovedi_obsluhy;
-    o.gtn = gtn_odrizni(historie.snimky[i].gtn);
-    const StavVypravciho drzi = stav_vypravciho;
+    o.konec_od = historie.snimky[i].gtn;
+    o.gtn = gtn_odrizni(o.konec_od);
     Dosazeno kam;
     try {
         kam = prehraj(historie.snimky[i], ukony_smeny.ukony, dane, s, o.pritomnost.cas_ms);
     } catch (...) { // whatever it is: the present stands as it was
-        gtn_odrizni(historie.snimky[i].gtn);
-        gtn_pripoj(o.gtn);
+        gtn_odrizni(o.konec_od);
+        gtn_pripoj(o.gtn, o.konec_od, o.konec_od);
         odpovedi_obsluhy = dane;
         obnov_snimek(o.pritomnost);
         stav_byl_vymenen();
         return Navrat::selhal;
     }
-    // the part of the log up to the moment has been written anew
-    const auto znovu = static_cast<std::ptrdiff_t>(gtn_delka() - historie.snimky[i].gtn);
-    o.gtn.erase(o.gtn.begin(), o.gtn.begin() + std::min(znovu, std::ssize(o.gtn)));
     o.od_s = historie.ubehlo_s;
     o.od_ms = virtualni_hodiny.cas_ms;
+    o.od_casu = cas_hodin();
     o.od_ukonu = kam.ukonu;
     o.od_odpovedi = kam.odpovedi;
-    o.od_gtn = gtn_delka();
+    o.od_gtn = gtn_misto();
     o.ukony = utrzeny_konec(ukony_smeny.ukony, kam.ukonu);
     o.odpovedi.assign(dane.begin() + static_cast<std::ptrdiff_t>(std::min(kam.odpovedi, dane.size())),
                       dane.end());
@@ -345,12 +410,10 @@ Navrat skoc(std::int64_t s, bool odloz) {
                                              [&](const Snimek& snimek) { return snimek.cas_ms > o.od_ms; });
     o.snimky.assign(std::make_move_iterator(prvni_pozdejsi), std::make_move_iterator(historie.snimky.end()));
     historie.snimky.erase(prvni_pozdejsi, historie.snimky.end());
+    if (ukony_smeny.uvnitr == 0) // who watches a record goes back and forth in it and changes nothing
+        poznamenej_navrat(o, odloz);
     if (odloz)
         historie.odlozene = std::move(o);
-    // Whoever has the desk now has it then: he was handed the desk, not a time.
-    stav_vypravciho.zapnut = drzi.zapnut;
-    stav_vypravciho.vse = drzi.vse;
-    stav_vypravciho.stanice = drzi.stanice;
     po_navratu(kam.makra);
     return Navrat::hotovo;
 }
@@ -369,15 +432,22 @@ void zacni_historii() {
 
 namespace {
 
-// The second is one that has run.
+// The second is one that has run. What is refused has changed nothing.
 Navrat jdi_na(std::int64_t s) {
     hlidej_odlozene();
+    const Snimek& nejstarsi = historie.snimky.front();
+    if (nejstarsi.ubehlo_s > s || (nejstarsi.ubehlo_s == s && s > 0))
+        return Navrat::pred_pameti;
     if (!historie.odlozene)
         return skoc(s, true);
     if (s >= historie.odlozene->od_s && s <= historie.ubehlo_s)
         return skoc(s, false); // since time was turned back nothing was done: there is nothing to lay aside
+    const std::int64_t ted = historie.ubehlo_s;
     vrat_odlozene();
-    return skoc(s, true);
+    const Navrat navrat = skoc(s, true);
+    if (navrat != Navrat::hotovo)
+        skoc(ted, true); // where time had been turned back to
+    return navrat;
 }
 
 } // namespace
@@ -404,7 +474,10 @@ Navrat zrus_navrat() {
     hlidej_odlozene();
     if (!historie.odlozene)
         return Navrat::neni_kam;
+    const std::int32_t kam = historie.odlozene->od_casu;
     vrat_odlozene();
+    zapis_vraceni(odkud_kam(cas_hodin(), kam) + " zruseno");
+    historie.videno_ukonu = ukony_smeny.ukony.size();
     return Navrat::hotovo;
 }
 

@@ -7,7 +7,8 @@
 //
 // The present moves on the line of the shift. Going back lays aside what came after; until the operator's
 // next act it can be had again, and times that lie on it can be gone to. Moving the pointer is no act, and
-// time that passes by itself is none either.
+// time that passes by itself is none either. The acts that remain tell of it: a note stands where time was
+// turned back to, and one where that was undone.
 #pragma once
 
 #include "zaklad/text.h"

@@ -7,10 +7,14 @@
 
 #include "zaklad/text.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <functional>
 #include <optional>
 #include <string_view>
+
+// No shift makes a longer record; a longer file is none.
+inline constexpr std::size_t kNejdelsiZaznamSmeny_B = 64'000'000;
 
 // --- on the start screen
 

@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <array>
+#include <ctime>
 #include <utility>
 #include <vector>
 
@@ -52,7 +53,8 @@ struct Smena {
     Napsano na_disku;
     std::uint64_t vetev = 0;
     std::int16_t minuta = -1;
-    std::optional<KodChyby> vada;
+    std::optional<KodChyby> vada; // of the disk, not told yet
+    bool receno = false;          // a fault is told once
 };
 Smena smena;
 
@@ -157,17 +159,30 @@ Text slozka_smen() {
     return simulace.cesta_aplikace + "smeny\\";
 }
 
-// "260105_080000.tesk": the moment of the wall clock at which the shift began.
-Text jmeno_smeny() {
-    const NastennyCas ted = platforma.nastenny_cas();
-    const auto dvema = [](int cislo) { return text_cisla_mist(cislo, 2); };
-    return dvema(ted.rok % 100) + dvema(ted.mesic) + dvema(ted.den) + "_" + dvema(ted.hodina) +
-           dvema(ted.minuta) + dvema(ted.sekunda) + ".tesk";
+// "260105_080000.tesk": when the record began, by the clock of the computer, since a shift that is taken over
+// shows the one of its record. A record that is there is never written over: "260105_080000_2.tesk".
+Text nove_jmeno_smeny() {
+    const std::time_t ted = std::time(nullptr);
+    std::array<char, 32> cas{};
+    const std::size_t delka = std::strftime(cas.data(), cas.size(), "%y%m%d_%H%M%S", std::localtime(&ted));
+    const Text zaklad(cas.data(), delka);
+    Text jmeno = zaklad + ".tesk";
+    for (int i = 2; delka_souboru(slozka_smen() + jmeno); ++i)
+        jmeno = zaklad + "_" + text_cisla(i) + ".tesk";
+    return jmeno;
 }
 
-// Their names are times: the first one is the oldest.
+// The oldest by their last change go first. What a crash left beside them goes as well.
 void promaz_smeny() {
+    for (const Text& nedopsany : soubory_slozky(slozka_smen(), "*.tesk.nova"))
+        smaz_soubor(slozka_smen() + nedopsany);
     std::vector<Text> jmena = soubory_slozky(slozka_smen(), "*.tesk");
+    std::vector<std::pair<std::int64_t, Text>> podle_casu;
+    for (const Text& jmeno : jmena)
+        podle_casu.emplace_back(cas_zmeny(slozka_smen() + jmeno).value_or(0), jmeno);
+    std::sort(podle_casu.begin(), podle_casu.end());
+    std::transform(podle_casu.begin(), podle_casu.end(), jmena.begin(),
+                   [](const auto& j) { return j.second; });
     std::int64_t bajtu = 0;
     for (const Text& jmeno : jmena)
         bajtu += delka_souboru(slozka_smen() + jmeno).value_or(0);
@@ -176,6 +191,7 @@ void promaz_smeny() {
             return;
         bajtu -= delka_souboru(slozka_smen() + jmena[i]).value_or(0);
         smaz_soubor(slozka_smen() + jmena[i]);
+        smaz_soubor(slozka_smen() + jmena[i].substr(0, jmena[i].rfind('.')) + ".html"); // its assessment
     }
 }
 
@@ -183,41 +199,57 @@ Bajty bajty_textu(const std::string& text) {
     return Bajty(text.begin(), text.end());
 }
 
-void zaloz_soubor() {
-    try {
-        zaloz_slozku(slozka_smen());
-        promaz_smeny();
-        smena.soubor = slozka_smen() + jmeno_smeny();
-        zaloz_rostouci(smena.otevreny, smena.soubor);
-    } catch (const BehovaChyba& chyba) { // a folder that takes nothing stops no service
-        smena.soubor.clear();
-        smena.vada = chyba.kod;
-    }
-}
-
 Napsano zacatek_textu() {
     return {smena.od_ms, 0, 0};
 }
 
-// The next lines of the file; all of them anew when time was turned back meanwhile.
+// The lines since the last time, behind those that are in the file.
+std::optional<KodChyby> pripis_dalsi() {
+    Napsano kam = smena.na_disku;
+    const std::string text = pokracovani(kam);
+    const std::optional<KodChyby> vada = pripis(smena.otevreny, bajty_textu(text));
+    if (!vada)
+        smena.na_disku = kam;
+    return vada; // the lines stay for the next time
+}
+
+// The whole record, beside the file that is there and then in its place: on a full disk the old one stays.
+std::optional<KodChyby> napis_cely() {
+    const Text vedle = smena.soubor + ".nova";
+    RostouciSoubor novy;
+    try {
+        zaloz_slozku(slozka_smen());
+        zaloz_rostouci(novy, vedle);
+    } catch (const BehovaChyba& chyba) {
+        return chyba.kod;
+    }
+    Napsano kam = zacatek_textu();
+    std::optional<KodChyby> vada = pripis(novy, bajty_textu(smena.hlavicka + pokracovani(kam)));
+    if (!vada && !presun_soubor(vedle, smena.soubor))
+        vada = KodChyby::chyba_zarizeni;
+    if (vada) {
+        zavri_rostouci(novy);
+        smaz_soubor(vedle);
+        return vada;
+    }
+    zavri_rostouci(smena.otevreny);
+    smena.otevreny = novy;
+    smena.na_disku = kam;
+    smena.vetev = vetev_historie();
+    return std::nullopt;
+}
+
+// The next lines of the file; all of them anew when time was turned back meanwhile, and when the file is no
+// longer what was written: somebody has removed it or changed it.
 void pis_soubor() {
     if (smena.soubor.empty())
         return;
-    std::string text;
-    Napsano kam = smena.na_disku;
-    if (smena.vetev != vetev_historie() || smena.otevreny.delka == 0) {
-        if (smena.otevreny.delka > 0 && !odrizni(smena.otevreny, 0))
-            return;
-        kam = zacatek_textu();
-        text = smena.hlavicka;
+    const bool trva = smena.vetev == vetev_historie() && smena.otevreny.popisovac >= 0 &&
+                      delka_souboru(smena.soubor) == smena.otevreny.delka;
+    if (const auto vada = trva ? pripis_dalsi() : napis_cely(); vada && !smena.receno) {
+        smena.vada = vada;
+        smena.receno = true;
     }
-    text += pokracovani(kam);
-    if (const auto vada = pripis(smena.otevreny, bajty_textu(text))) {
-        smena.vada = vada; // the lines stay for the next time
-        return;
-    }
-    smena.na_disku = kam;
-    smena.vetev = vetev_historie();
 }
 
 void po_okamziku_smeny() {
@@ -258,7 +290,11 @@ void zacni_smenu(bool do_souboru) {
 }
 
 void zaloz_soubor_smeny() {
-    zaloz_soubor();
+    try {
+        promaz_smeny();
+    } catch (const BehovaChyba&) { // a folder that cannot be looked at loses nothing
+    }
+    smena.soubor = slozka_smen() + nove_jmeno_smeny();
     pis_soubor();
     planovac.po_okamziku = [dal = planovac.po_okamziku] {
         dal();
@@ -283,13 +319,31 @@ std::string zaznam_smeny() {
     return smena.bezi ? smena.hlavicka + pokracovani(kam) : std::string();
 }
 
-const Text& soubor_smeny() {
-    return smena.soubor;
+Text soubor_smeny() {
+    return smena.otevreny.popisovac >= 0 ? smena.soubor : Text{};
 }
 
 std::optional<Text> vada_smeny() {
     const std::optional<KodChyby> vada = std::exchange(smena.vada, std::nullopt);
-    return vada ? std::optional(Text(text_chyby(*vada))) : std::nullopt;
+    if (!vada)
+        return std::nullopt;
+    return Text("Záznam směny nelze zapsat na disk: "_cz) + Text(text_chyby(*vada)) +
+           Text(". Směna pokračuje a zápis se zkouší každou minutu znovu."_cz);
+}
+
+std::string_view zacatek_zaznamu(std::string_view zaznam) {
+    if (zaznam.find("smena ") == std::string_view::npos)
+        return {};
+    for (std::size_t od = 0; od < zaznam.size();) {
+        const std::size_t konec = zaznam.find('\n', od);
+        if (konec == std::string_view::npos)
+            break;
+        const std::string_view radek = zaznam.substr(od, konec - od);
+        if (radek.starts_with("spust ") || radek.starts_with("nacti "))
+            return zaznam.substr(0, konec + 1);
+        od = konec + 1;
+    }
+    return {};
 }
 
 namespace {

@@ -3,7 +3,7 @@
 // The script is whole by itself: seed, wall clock, settings, macros, the loaded save if there was one, the
 // start with its options, and every act of the hands at its millisecond. tesk-davka plays it to the same
 // train-number log, byte for byte. When time is turned back, the record ends there and goes on with what is
-// done then.
+// done then; a note in it says from which moment.
 //
 // The desk keeps a record of each shift in smeny\ beside the saves. It grows once a simulated minute, by
 // whole lines, so that a crash costs what was done in the last minute.
@@ -44,10 +44,14 @@ void zapomen_smenu();
 
 // The record so far, UTF-8, up to this very millisecond.
 std::string zaznam_smeny();
-// File of the record that is kept; empty for none.
-const Text& soubor_smeny();
-// The record cannot be written: why. Told once.
+// File of the record that is kept; empty for none, as while the disk takes none.
+Text soubor_smeny();
+// The record cannot be written: why, for a box. Answered once a shift: what the disk does not take waits, and
+// is tried again each minute.
 std::optional<Text> vada_smeny();
+
+// The beginning of a record, up to the start of its simulation; empty when there is none.
+std::string_view zacatek_zaznamu(std::string_view zaznam);
 
 // Bytes as letters of a script, and back; nothing when the text is none.
 std::string na_base64(const Bajty& bajty);

@@ -61,8 +61,8 @@ SeznamMaker nacti_makra() {
     return seznam;
 }
 
-void podloz_makra(std::optional<Bajty> obsah) {
-    podlozena = std::move(obsah);
+std::optional<Bajty> podloz_makra(std::optional<Bajty> obsah) {
+    return std::exchange(podlozena, std::move(obsah));
 }
 
 Bajty obsah_maker() {

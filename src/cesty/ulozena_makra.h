@@ -31,8 +31,9 @@ void smaz_makro(TextPohled pismeno);
 
 // --- when a shift is played again, or time is turned back
 
-// The macros stand in these bytes instead of the file until podloz_makra() is called without any.
-void podloz_makra(std::optional<Bajty> obsah);
+// The macros stand in these bytes instead of the file, until they stand in others or, without any, in the
+// file again. Answers with the bytes in which they stood before; nothing when that was the file.
+std::optional<Bajty> podloz_makra(std::optional<Bajty> obsah);
 // What the file holds, or those bytes; nothing when there is no file.
 Bajty obsah_maker();
 // The file holds these bytes; nothing happens when it does already.

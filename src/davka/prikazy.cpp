@@ -400,6 +400,8 @@ constexpr std::array kPrikazy = {
     PopisPrikazu{"zahod_menu", 0, 0, Kdy::po_startu, false, "zahod_menu", prikaz_zahod_menu},
     PopisPrikazu{"okno", 1, 1, Kdy::po_startu, false, "okno dolu|nahoru|stoji|bezi|zavri", prikaz_okno},
     PopisPrikazu{"prestavka", 1, 2, Kdy::po_startu, false, "prestavka 30s [pocitac]", prikaz_prestavka},
+    PopisPrikazu{"vada_deniku", 1, 1, Kdy::po_startu, false, "vada_deniku KOD", prikaz_vada_deniku},
+    PopisPrikazu{"vraceno", 2, 3, Kdy::po_startu, false, "vraceno H:MM:SS H:MM:SS [zruseno]", prikaz_vraceno},
     PopisPrikazu{"zaznam", 1, 1, Kdy::po_startu, true, "zaznam SOUBOR", prikaz_zaznam},
     PopisPrikazu{"zpet", 1, 1, Kdy::po_startu, false, "zpet 5min", prikaz_zpet},
     PopisPrikazu{"zpet_na", 1, 1, Kdy::po_startu, false, "zpet_na H:MM:SS", prikaz_zpet_na},

@@ -12,8 +12,10 @@
 #include "obsluha/vstup.h"
 #include "zaklad/soubory.h"
 
+#include <array>
 #include <fstream>
 #include <utility>
+#include <vector>
 
 namespace {
 
@@ -32,6 +34,15 @@ void pridej(std::optional<Bajty>& kam, const Bajty& bajty) {
 
 std::string cas_utf8(std::int32_t sekundy) {
     return na_utf8(text_casu(sekundy));
+}
+
+// A file that counts from where the runner was started.
+void zapis_vedle_skriptu(const std::string& jmeno, const std::string& obsah) {
+    std::ofstream soubor(jmeno, std::ios::binary | std::ios::trunc);
+    soubor << obsah;
+    soubor.close();
+    if (!soubor)
+        chyba_skriptu("do souboru " + v_uvozovkach(jmeno) + " nelze psát");
 }
 
 void vyhodnot(Navrat navrat, const std::string& prikaz) {
@@ -90,12 +101,25 @@ void prikaz_prestavka(BehSkriptu&, Slova slova) {
     prestavka(doba_slova(slova[0]), slova.size() > 1);
 }
 
+void prikaz_vada_deniku(BehSkriptu&, Slova slova) {
+    const std::array<std::string, 2> cele = {"vada_deniku", slova[0]};
+    const std::optional<Ukon> ukon = ukon_ze_slov(cele);
+    if (!ukon)
+        chyba_skriptu("píše se vada_deniku a kód chyby disku: 57, 61, 70 nebo 76");
+    proved_ukon(*ukon);
+}
+
+void prikaz_vraceno(BehSkriptu&, Slova slova) {
+    std::vector<std::string> cele = {"vraceno"};
+    cele.insert(cele.end(), slova.begin(), slova.end());
+    const std::optional<Ukon> ukon = ukon_ze_slov(cele);
+    if (!ukon)
+        chyba_skriptu("píše se vraceno H:MM:SS H:MM:SS, případně zruseno za tím");
+    proved_ukon(*ukon);
+}
+
 void prikaz_zaznam(BehSkriptu&, Slova slova) {
-    std::ofstream soubor(slova[0], std::ios::binary | std::ios::trunc);
-    soubor << zaznam_smeny();
-    soubor.close();
-    if (!soubor)
-        chyba_skriptu("do souboru " + v_uvozovkach(slova[0]) + " nelze psát");
+    zapis_vedle_skriptu(slova[0], zaznam_smeny());
 }
 
 void prikaz_zpet(BehSkriptu&, Slova slova) {

@@ -12,6 +12,9 @@ void prikaz_okno(BehSkriptu& beh, Slova slova);
 void prikaz_pohyb(BehSkriptu& beh, Slova slova);
 void prikaz_zahod_menu(BehSkriptu& beh, Slova slova);
 void prikaz_prestavka(BehSkriptu& beh, Slova slova);
+// Notes in a record: the train-number log could not be written; time was turned back.
+void prikaz_vada_deniku(BehSkriptu& beh, Slova slova);
+void prikaz_vraceno(BehSkriptu& beh, Slova slova);
 // The record so far, and time.
 void prikaz_zaznam(BehSkriptu& beh, Slova slova);
 void prikaz_zpet(BehSkriptu& beh, Slova slova);

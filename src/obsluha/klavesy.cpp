@@ -251,13 +251,17 @@ bool klavesa_technologie(const Klavesa& k) {
 
 } // namespace
 
+// Ctrl+Alt+F10 is taken by most X servers for themselves; Ctrl+Shift+F10 comes everywhere.
+bool je_klavesa_konce(const Klavesa& k) {
+    return k.kod == KodKlavesy::f10 && k.ctrl && (k.alt || k.shift);
+}
+
 bool klavesa(const Klavesa& k) {
     if (k.kod == KodKlavesy::zadna || k.kod == KodKlavesy::jina)
         return false;
     ++pocty_provozu.povelu;
     const ZapisUkonu zapis({.co = DruhUkonu::klavesa, .klavesa = k});
-    // Ctrl+Alt+F10 is taken by most X servers for themselves; Ctrl+Shift+F10 comes everywhere.
-    const bool konec = k.kod == KodKlavesy::f10 && k.ctrl && (k.alt || k.shift);
+    const bool konec = je_klavesa_konce(k);
     if (prihlaseni_bezi() && !konec && !bere_klavesu(k.kod))
         return ma_ucinek(k);
     if (technologie_kryje_stul() && !konec && k.kod != KodKlavesy::f11)

@@ -47,5 +47,7 @@ void pis_do_pole(TextPohled text);
 // Name of a key as the headless runner and the manual write it: "Enter", "F2", "Ctrl+S", "Num/",
 // "Alt+Shift+A"; kod jina for a key that the desk has no use for, zadna when no keyboard has it.
 Klavesa klavesa_podle_jmena(TextPohled jmeno);
+// The key that ends the program at once.
+bool je_klavesa_konce(const Klavesa& k);
 // The first of the names of a key; of one without a use on the desk any that has none.
 Text jmeno_klavesy(const Klavesa& k);

@@ -4,6 +4,7 @@
 #include "app/konec.h"
 #include "app/simulace.h"
 #include "desk/zprava.h"
+#include "obsluha/ukony.h"
 #include "relief/relief.h"
 #include "save/ulozeni.h"
 #include "technologie/technologie.h"
@@ -24,6 +25,14 @@ void nastav_rychlost(int rychlost) {
 
 bool prihlaseni_bezi() {
     return je_prihlaseni(prikaz_radek.slovo.druh());
+}
+
+void ohlas_vadu_deniku(KodChyby vada) {
+    const ZapisUkonu zapis({.co = DruhUkonu::vada_deniku, .n = static_cast<int>(vada)});
+    zprava(" POZOR ",
+           Text("Deník událostí (GTN) nelze zapsat: "_cz) + Text(text_chyby(vada)) +
+               Text(". Simulace pokračuje."_cz),
+           barvy::bila, 0, false, barvy::bila, barvy::cervena);
 }
 
 void pipni_klavesou() {

@@ -1,6 +1,8 @@
 // obsluha/povely.h - commands of the desk that a key and a picture of the bar give alike.
 #pragma once
 
+#include "zaklad/chyba.h"
+
 #include <cstdint>
 
 enum class Technologie : std::uint8_t; // technologie/technologie.h
@@ -9,6 +11,12 @@ enum class Technologie : std::uint8_t; // technologie/technologie.h
 
 // One of the three questions of the login stands on the command line: nobody has taken over yet.
 bool prihlaseni_bezi();
+
+// --- by the clock
+
+// The log of the train numbers cannot be written: a message says so. It is part of the shift like an act:
+// when the shift is played again, no disk may be full.
+void ohlas_vadu_deniku(KodChyby vada);
 
 // --- on the operator's command
 

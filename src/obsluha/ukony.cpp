@@ -2,7 +2,9 @@
 #include "obsluha/ukony.h"
 
 #include "app/cas.h"
+#include "obsluha/povely.h"
 #include "obsluha/vstup.h"
+#include "zaklad/chyba.h"
 #include "zaklad/odpovedi.h"
 #include "zaklad/slova.h"
 #include "zaklad/virtualni_hodiny.h"
@@ -22,6 +24,8 @@ struct SeznamPanelu {
 };
 constexpr std::array kSeznamyPanelu = {SeznamPanelu{"lstZpravy", &Relief::lstZpravy},
                                        SeznamPanelu{"lstDenik", &Relief::lstDenik}};
+
+constexpr std::string_view kZruseno = " zruseno"; // behind the two times of a going back
 
 std::string prvek(const Ukon& u) {
     return " " + std::string(jmeno_druhu(u.druh)) + " " + std::to_string(u.n);
@@ -53,6 +57,10 @@ ZapisUkonu::~ZapisUkonu() {
         ukony_smeny.ukony[kde - 1].odpovedi = odpovedi_obsluhy.size();
 }
 
+void zapis_vraceni(Text text) {
+    const ZapisUkonu zapis({.co = DruhUkonu::vraceno, .text = std::move(text)});
+}
+
 bool proved_ukon(const Ukon& u) {
     const int n = static_cast<int>(u.n);
     switch (u.co) {
@@ -77,6 +85,8 @@ bool proved_ukon(const Ukon& u) {
     case DruhUkonu::okno_zavrit: zavri_okno(); return true;
     case DruhUkonu::sluzba_stoji: zastav_sluzbu(); return true;
     case DruhUkonu::sluzba_bezi: spust_sluzbu(); return true;
+    case DruhUkonu::vada_deniku: ohlas_vadu_deniku(static_cast<KodChyby>(n)); return true;
+    case DruhUkonu::vraceno: zapis_vraceni(u.text); return true;
     case DruhUkonu::okno_stalo:
     case DruhUkonu::pocitac_stal:
     case DruhUkonu::radek_skriptu: return false;
@@ -108,12 +118,22 @@ std::string radek_ukonu(const Ukon& u) {
     case DruhUkonu::okno_stalo: return "prestavka " + std::to_string(u.n) + "ms";
     case DruhUkonu::pocitac_stal: return "prestavka " + std::to_string(u.n) + "ms pocitac";
     case DruhUkonu::radek_skriptu: return na_utf8(u.text);
+    case DruhUkonu::vada_deniku: return "vada_deniku " + std::to_string(u.n);
+    case DruhUkonu::vraceno: return "vraceno " + na_utf8(u.text);
     }
     return {};
 }
 
 bool je_pohyb_ukazatele(const Ukon& u) {
     return u.co == DruhUkonu::najeti || u.co == DruhUkonu::odjeti || u.co == DruhUkonu::pohyb;
+}
+
+bool je_cin(const Ukon& u) {
+    return !je_pohyb_ukazatele(u) && u.co != DruhUkonu::vraceno && u.co != DruhUkonu::vada_deniku;
+}
+
+bool je_platny_navrat(const Ukon& u) {
+    return u.co == DruhUkonu::vraceno && !u.text.ends_with(kZruseno);
 }
 
 Seznam* seznam_podle_jmena(TextPohled jmeno) {
@@ -152,7 +172,7 @@ std::optional<std::int64_t> cislo(const std::string& slovo) {
 std::optional<Ukon> ukon_na_prvku(Ukon ukon, std::span<const std::string> slova) {
     const auto druh = druh_podle_jmena(slova[1]);
     const auto n = slova.size() > 2 ? cislo(slova[2]) : std::nullopt;
-    if (!druh || !n)
+    if (!druh || !n || *n < 0 || *n > kNejvyssiPrvek)
         return std::nullopt;
     ukon.druh = *druh;
     ukon.n = *n;
@@ -169,7 +189,9 @@ std::optional<Ukon> ukon_kliku(std::span<const std::string> slova) {
             return Ukon{.co = DruhUkonu::zalozka, .n = static_cast<std::int64_t>(i)};
     if (seznam_podle_jmena(jmeno) != nullptr) {
         const auto radek = slova.size() > 2 ? cislo(slova[2]) : std::nullopt;
-        return radek ? std::optional(Ukon{.co = DruhUkonu::radek, .n = *radek, .text = jmeno}) : std::nullopt;
+        return radek && std::in_range<int>(*radek)
+                   ? std::optional(Ukon{.co = DruhUkonu::radek, .n = *radek, .text = jmeno})
+                   : std::nullopt;
     }
     return ukon_na_prvku({.co = DruhUkonu::klik}, slova);
 }
@@ -192,9 +214,28 @@ std::optional<Ukon> ukon_prestavky(std::span<const std::string> slova) {
     if (!slova[1].ends_with(kMs))
         return std::nullopt;
     const auto ms = cislo(slova[1].substr(0, slova[1].size() - kMs.size()));
-    if (!ms)
+    if (!ms || *ms < 0 || (slova.size() > 2 && slova[2] != "pocitac"))
         return std::nullopt;
     return Ukon{.co = slova.size() > 2 ? DruhUkonu::pocitac_stal : DruhUkonu::okno_stalo, .n = *ms};
+}
+
+// What writing a file may fail of.
+bool je_vada_disku(std::int64_t kod) {
+    constexpr std::array kVady = {KodChyby::chyba_zarizeni, KodChyby::disk_plny, KodChyby::pristup_odepren,
+                                  KodChyby::cesta_nenalezena};
+    return std::any_of(kVady.begin(), kVady.end(),
+                       [kod](KodChyby vada) { return static_cast<std::int64_t>(vada) == kod; });
+}
+
+// "vraceno 8:35:10 8:30:10", "vraceno 8:35:10 8:30:10 zruseno"
+std::optional<Ukon> ukon_vraceni(std::span<const std::string> slova) {
+    const bool zruseno = slova.size() == 4 && slova[3] == kZruseno.substr(1);
+    if ((slova.size() != 3 && !zruseno) || !je_text_casu(slova[1]) || !je_text_casu(slova[2]))
+        return std::nullopt;
+    Text text = slova[1] + " " + slova[2];
+    if (zruseno)
+        text += kZruseno;
+    return Ukon{.co = DruhUkonu::vraceno, .text = std::move(text)};
 }
 
 } // namespace
@@ -222,17 +263,28 @@ std::optional<Ukon> ukon_ze_slov(std::span<const std::string> slova) {
                                     : ukon_na_prvku({.co = DruhUkonu::najeti}, slova);
     if (prikaz == "ukaz_vlak") {
         const auto n = cislo(slova[1]);
-        return n ? std::optional(Ukon{.co = DruhUkonu::ukazani, .n = *n}) : std::nullopt;
+        return n && std::in_range<int>(*n) ? std::optional(Ukon{.co = DruhUkonu::ukazani, .n = *n})
+                                           : std::nullopt;
     }
     if (prikaz == "menu")
         return Ukon{.co = DruhUkonu::polozka_menu, .text = z_utf8(slova[1])};
-    if (prikaz == "klavesa")
-        return Ukon{.co = DruhUkonu::klavesa, .klavesa = klavesa_podle_jmena(z_utf8(slova[1]))};
+    if (prikaz == "klavesa") {
+        const Klavesa k = klavesa_podle_jmena(z_utf8(slova[1]));
+        return k.kod != KodKlavesy::zadna ? std::optional(Ukon{.co = DruhUkonu::klavesa, .klavesa = k})
+                                          : std::nullopt;
+    }
     if (prikaz == "pis")
         return Ukon{.co = DruhUkonu::psani, .text = z_utf8(slova[1])};
     if (prikaz == "okno")
         return ukon_okna(slova[1]);
     if (prikaz == "prestavka")
         return ukon_prestavky(slova);
+    if (prikaz == "vraceno")
+        return ukon_vraceni(slova);
+    if (prikaz == "vada_deniku") {
+        const auto kod = cislo(slova[1]);
+        return kod && je_vada_disku(*kod) ? std::optional(Ukon{.co = DruhUkonu::vada_deniku, .n = *kod})
+                                          : std::nullopt;
+    }
     return std::nullopt;
 }

@@ -2,9 +2,9 @@
 //
 // Whoever works the desk - a hand, a script, the automatic dispatcher - does it through the operations of
 // obsluha, and each of them writes itself down here. An act that another act brings about is not written: it
-// comes by itself when the first is done again. An act that changes nothing is not written either. What the
-// host does for the operator counts as an act too: the window goes away, a box holds the time, the computer
-// sleeps.
+// comes by itself when the first is done again. A click on what is not there
+// is none. What the host does for the operator counts as an act too: the window goes away, a box holds the
+// time, the computer sleeps.
 #pragma once
 
 #include "obsluha/klavesy.h"
@@ -41,6 +41,8 @@ enum class DruhUkonu : std::uint8_t {
     okno_stalo,    // a box was open: the host's clock goes on by `n` ms, the service does not
     pocitac_stal,  // likewise, and nobody knows why: the diary tells it
     radek_skriptu, // a command of a script that is no hand: `text`
+    vada_deniku,   // a disk did not take the train-number log: the fault `n` was told
+    vraceno, // time was turned back to here: `text`, "8:35:10 8:30:10", with " zruseno" behind it undone
 };
 
 struct Ukon {
@@ -77,6 +79,12 @@ private:
     std::size_t kde = 0; // of the act, from 1; 0: not written
 };
 
+// --- by the history
+
+// Notes that time was turned back to this moment, or that this was undone here. A note is no act: nothing
+// changes when it is done again. `text` as in Ukon.
+void zapis_vraceni(Text text);
+
 // --- when acts are done again
 
 // Nothing is written while one of these lives.
@@ -100,6 +108,10 @@ std::string radek_ukonu(const Ukon& ukon);
 std::optional<Ukon> ukon_ze_slov(std::span<const std::string> slova);
 // It only moves the pointer: nothing of the service hangs on it.
 bool je_pohyb_ukazatele(const Ukon& ukon);
+// The operator has done something: neither has the pointer moved, nor is it told what befell him.
+bool je_cin(const Ukon& ukon);
+// Time was turned back, and that was not undone.
+bool je_platny_navrat(const Ukon& ukon);
 // A list on which a line can be clicked; none of that name: nullptr.
 Seznam* seznam_podle_jmena(TextPohled jmeno);
 Text jmeno_seznamu(const Seznam& seznam);

@@ -104,24 +104,11 @@ struct Pamet {
         else if (z.kod == gtn::prejezd)
             prejezdy.push_back({z.cas, z.prvek, z.hodnota != 0});
     }
-    // Whole records of the log.
-    void pridej(const Bajty& zaznamy) {
-        Ctenar ctenar{zaznamy};
-        for (std::size_t i = 0; i + kZaznam <= zaznamy.size(); i += kZaznam) {
-            ZaznamGtn z;
-            popis_zaznamu(ctenar, z);
-            pridej(z);
-        }
-    }
-    // The last of each kind go, as many as the other one has.
-    void uber(const Pamet& konec) {
-        pohyby.resize(pohyby.size() - std::min(pohyby.size(), konec.pohyby.size()));
-        prejezdy.resize(prejezdy.size() - std::min(prejezdy.size(), konec.prejezdy.size()));
-    }
 };
 Pamet pamet;
 
 Text pripona; // of the name of the file
+bool do_souboru = true;
 
 } // namespace
 
@@ -129,9 +116,15 @@ void gtn_pripona(TextPohled nova) {
     pripona = nova;
 }
 
+void gtn_do_souboru(bool ano) {
+    do_souboru = ano;
+}
+
 void gtn_otevri() {
     denik.zavri();
     pamet = {};
+    if (!do_souboru)
+        return;
     const NastennyCas ted = platforma.nastenny_cas();
     const Text slozka = simulace.cesta_aplikace + "GTN\\";
     const Text cesta = slozka + text_cisla_mist(ted.rok % 100, 2) + text_cisla_mist(ted.mesic, 2) +
@@ -167,38 +160,53 @@ void gtn_zavri() {
     denik.zavri();
 }
 
-std::int64_t gtn_delka() {
-    return denik.otevreny() ? denik.soubor.delka + static_cast<std::int64_t>(denik.cekajici.bajty.size()) : 0;
+MistoGtn gtn_misto() {
+    const std::int64_t delka =
+        denik.otevreny() ? denik.soubor.delka + static_cast<std::int64_t>(denik.cekajici.bajty.size()) : 0;
+    return {delka, pamet.pohyby.size(), pamet.prejezdy.size()};
 }
 
-Bajty gtn_odrizni(std::int64_t delka) {
-    if (!denik.otevreny() || delka >= gtn_delka())
-        return {};
-    Bajty konec;
-    Bajty& ceka = denik.cekajici.bajty;
-    if (delka < denik.soubor.delka) {
-        std::optional<Bajty> z_disku = odrizni(denik.soubor, delka);
-        if (!z_disku) // a disk that does not let go keeps what it has
-            return {};
-        konec = std::move(*z_disku);
-        konec.insert(konec.end(), ceka.begin(), ceka.end());
-        ceka.clear();
-    } else {
-        const auto od = ceka.begin() + (delka - denik.soubor.delka);
-        konec.assign(od, ceka.end());
-        ceka.erase(od, ceka.end());
-    }
-    Pamet odriznute;
-    odriznute.pridej(konec);
-    pamet.uber(odriznute);
+namespace {
+
+template <class T> std::vector<T> utrzeny_konec(std::vector<T>& seznam, std::size_t od) {
+    const auto odkud = seznam.begin() + static_cast<std::ptrdiff_t>(std::min(od, seznam.size()));
+    std::vector<T> konec(odkud, seznam.end());
+    seznam.erase(odkud, seznam.end());
     return konec;
 }
 
-void gtn_pripoj(const Bajty& konec) {
-    if (!denik.otevreny())
-        return;
-    denik.cekajici.bajty.insert(denik.cekajici.bajty.end(), konec.begin(), konec.end());
-    pamet.pridej(konec);
+// What lies behind the first `preskoc` of them.
+template <class T> void pripoj_od(std::vector<T>& kam, const std::vector<T>& konec, std::int64_t preskoc) {
+    kam.insert(kam.end(), konec.begin() + std::min<std::ptrdiff_t>(preskoc, std::ssize(konec)), konec.end());
+}
+
+Bajty odrizni_bajty(std::int64_t delka) {
+    if (!denik.otevreny() || delka >= gtn_misto().delka)
+        return {};
+    Bajty& ceka = denik.cekajici.bajty;
+    if (delka >= denik.soubor.delka)
+        return utrzeny_konec(ceka, static_cast<std::size_t>(delka - denik.soubor.delka));
+    std::optional<Bajty> konec = odrizni(denik.soubor, delka);
+    if (!konec)
+        return {};
+    konec->insert(konec->end(), ceka.begin(), ceka.end());
+    ceka.clear();
+    return std::move(*konec);
+}
+
+} // namespace
+
+KonecGtn gtn_odrizni(const MistoGtn& kde) {
+    return {odrizni_bajty(kde.delka), utrzeny_konec(pamet.pohyby, kde.pohybu),
+            utrzeny_konec(pamet.prejezdy, kde.prejezdu)};
+}
+
+void gtn_pripoj(const KonecGtn& konec, const MistoGtn& zacatek_konce, const MistoGtn& odkud) {
+    if (denik.otevreny())
+        pripoj_od(denik.cekajici.bajty, konec.zaznamy, odkud.delka - zacatek_konce.delka);
+    pripoj_od(pamet.pohyby, konec.pohyby, static_cast<std::int64_t>(odkud.pohybu - zacatek_konce.pohybu));
+    pripoj_od(pamet.prejezdy, konec.prejezdy,
+              static_cast<std::int64_t>(odkud.prejezdu - zacatek_konce.prejezdu));
 }
 
 std::span<const PohybVlaku> gtn_pohyby() {

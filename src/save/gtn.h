@@ -9,9 +9,11 @@
 #include "zaklad/chyba.h"
 #include "zaklad/text.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
+#include <vector>
 
 // A train came onto a track or left it, by the number that the operator sees.
 struct PohybVlaku {
@@ -62,6 +64,9 @@ inline constexpr std::uint8_t vlak_z_koleje = 132;
 void gtn_otevri();
 // What stands in the name of the next log behind its date: a shift that is only watched has a log of its own.
 void gtn_pripona(TextPohled pripona);
+// Whether the next log has a file at all. Without one only what is asked for while it is written is kept: a
+// shift that is served for its figures alone leaves nothing on the disk.
+void gtn_do_souboru(bool ano);
 // Appends one event at the clock's time. No test of any kind.
 void gtn_zapis(int prvek, std::uint8_t kod, std::int32_t hodnota);
 // Writes out what is still held back; at the end of the process and before a file is looked at. What a disk
@@ -72,12 +77,22 @@ void gtn_zavri();
 
 // --- when time is turned back
 
-// Bytes of the log so far, those that are held back included; 0 when none is open.
-std::int64_t gtn_delka();
-// The log ends at that length again. Answers with what it held behind it.
-Bajty gtn_odrizni(std::int64_t delka);
-// Puts back what was cut off.
-void gtn_pripoj(const Bajty& konec);
+// How far the log has come, its file and what is kept of it in memory; without a file the memory alone.
+struct MistoGtn {
+    std::int64_t delka = 0; // bytes, those that are held back included
+    std::size_t pohybu = 0, prejezdu = 0;
+    bool operator==(const MistoGtn&) const = default;
+};
+struct KonecGtn {
+    Bajty zaznamy;
+    std::vector<PohybVlaku> pohyby;
+    std::vector<ZmenaPrejezdu> prejezdy;
+};
+MistoGtn gtn_misto();
+// The log ends there again. Answers with what it held behind it; a disk that does not let go keeps its bytes.
+KonecGtn gtn_odrizni(const MistoGtn& kde);
+// Puts back what was cut off, from that place on: what lies before it has been written anew.
+void gtn_pripoj(const KonecGtn& konec, const MistoGtn& zacatek_konce, const MistoGtn& odkud);
 
 // --- at any time, without change
 

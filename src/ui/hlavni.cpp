@@ -26,6 +26,7 @@
 
 #include <QApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QLibraryInfo>
 #include <QLocale>
 #include <QScreen>
@@ -38,6 +39,7 @@
 #include <cstring>
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace {
 
@@ -151,8 +153,8 @@ void zacni_start() {
 // none, after the box that says so.
 bool prehraj_smenu(const QString& cesta) {
     QFile soubor(cesta);
-    const bool otevren = soubor.open(QIODevice::ReadOnly);
-    const QByteArray zaznam = soubor.readAll();
+    const bool otevren = QFileInfo(cesta).isFile() && soubor.open(QIODevice::ReadOnly);
+    const QByteArray zaznam = otevren ? soubor.read(qint64{kNejdelsiZaznamSmeny_B} + 1) : QByteArray();
     bool lze = false;
     v_jadre([&] {
         const std::optional<Text> vada =
@@ -179,11 +181,12 @@ bool prehraj_smenu(const QString& cesta) {
     return true;
 }
 
-// The word behind the option that names a recorded shift.
-QString smena_z_prikazove_radky() {
+// The word behind the option that names a recorded shift, empty when there is none; nothing without the
+// option.
+std::optional<QString> smena_z_prikazove_radky() {
     const QStringList slova = QCoreApplication::arguments();
     const auto volba = slova.indexOf(QStringLiteral("--smena"));
-    return volba >= 0 && volba + 1 < slova.size() ? slova[volba + 1] : QString();
+    return volba < 0 ? std::nullopt : std::optional(slova.value(volba + 1));
 }
 
 } // namespace
@@ -209,8 +212,8 @@ int main(int pocet, char** slova) {
 
     bool pripravena = false;
     v_jadre([&] { pripravena = nacti_start(slozka_programu()); });
-    const QString smena = smena_z_prikazove_radky();
-    if (pripravena && !je_konec() && (smena.isEmpty() || !prehraj_smenu(smena)) && !je_konec()) {
+    const std::optional<QString> smena = smena_z_prikazove_radky();
+    if (pripravena && !je_konec() && (!smena || !prehraj_smenu(*smena)) && !je_konec()) {
         formular = std::make_unique<OknoParametru>(zacni_start, prehraj_smenu);
         formular->show();
         formular->activateWindow();

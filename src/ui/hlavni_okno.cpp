@@ -5,6 +5,7 @@
 #include "app/prehravani.h"
 #include "app/simulace.h"
 #include "app/sledovani_provozu.h"
+#include "app/smena.h"
 #include "cesty/duvod.h"
 #include "desk/menu.h"
 #include "obsluha/povely.h"
@@ -237,6 +238,7 @@ HlavniOkno::HlavniOkno() {
     connect(&prekreslovani, &QTimer::timeout, this, [this] {
         v_jadre([] {}); // the timers of the desk that are due
         obnov();
+        rekni_vadu_zaznamu();
     });
     prekreslovani.setTimerType(Qt::PreciseTimer);
     prekreslovani.start(kPrekreslovani_ms);
@@ -573,6 +575,16 @@ void HlavniOkno::wheelEvent(QWheelEvent* udalost) {
         const QPoint posun = (QPointF(o_kolik) * bodu).toPoint();
         posun_lupu(udalost->modifiers().testFlag(Qt::ShiftModifier) ? QPoint(posun.y(), posun.x()) : posun);
     }
+}
+
+// A disk that takes no record of the shift stops nobody; that there is none, the operator is told once.
+void HlavniOkno::rekni_vadu_zaznamu() {
+    if (prihlaseni_bezi())
+        return; // the box would lie over the login
+    v_jadre([] {
+        if (const std::optional<Text> vada = vada_smeny())
+            platforma.okno("KPS RVZ TESK"_cz, *vada);
+    });
 }
 
 // --- from the operator to the core

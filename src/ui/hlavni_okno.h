@@ -80,6 +80,7 @@ private:
     void posun_lupu(QPoint o_kolik);
     bool stisk_lupy(const QKeyEvent& udalost);
     void ukaz_hledane();
+    void rekni_vadu_zaznamu();
     void kurzor_na(QPoint obraz); // twips of the picture
     QPoint misto_nabidky() const;
     void prekresli();

@@ -145,7 +145,7 @@ void OknoSmeny::obnov() {
                             .arg(delka(prehrano_ms() / 1000), delka(delka_zaznamu_ms() / 1000),
                                  prehravani_skoncilo() ? QStringLiteral(", konec záznamu") : QString()));
     } else {
-        const Text& soubor = soubor_smeny();
+        const Text soubor = soubor_smeny();
         nadpis->setText(soubor.empty()
                             ? QStringLiteral("Směna se na disk nezaznamenává.")
                             : QStringLiteral("Zaznamenává se do smeny/%1").arg(jmeno_souboru(soubor)));

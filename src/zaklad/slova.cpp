@@ -42,10 +42,10 @@ std::optional<std::vector<std::string>> rozdel_na_slova(std::string_view radek) 
 }
 
 std::string jako_slovo(std::string_view text) {
-    if (!text.empty() && text.find_first_of(" \t\r\"#") == std::string_view::npos)
+    if (!text.empty() && text.find_first_of(" \t\r\n\"#") == std::string_view::npos)
         return std::string(text);
     std::string slovo = "\"";
     for (const char znak : text)
-        slovo += znak == '"' ? "\"\"" : std::string(1, znak);
+        slovo += znak == '"' ? "\"\"" : std::string(1, znak == '\n' || znak == '\r' ? ' ' : znak);
     return slovo + '"';
 }

@@ -14,5 +14,6 @@
 // The words of a line, UTF-8; nothing when a text has no closing quote. A byte order mark at the start of a
 // line and a carriage return at its end are left out.
 std::optional<std::vector<std::string>> rozdel_na_slova(std::string_view radek);
-// The text as one word: between quotes when it is more than a plain word.
+// The text as one word: between quotes when it is more than a plain word. A line break, which no line holds,
+// is a blank there.
 std::string jako_slovo(std::string_view text);

@@ -2,6 +2,7 @@
 #include "app/historie.h"
 #include "pomocne/semena.h"
 #include "pomocne/smena_ruky.h"
+#include "vypravci/vypravci.h"
 
 #include <cstdlib>
 #include <malloc.h>
@@ -34,14 +35,31 @@ protected:
         };
     }
     static Okamzik ted() {
-        return {ubehlo_s(), virtualni_hodiny.cas_ms, gtn_delka(), cas_hodin(), nahoda, stav_simulace()};
+        return {ubehlo_s(), virtualni_hodiny.cas_ms, gtn_misto().delka, cas_hodin(), nahoda, stav_simulace()};
     }
     static void over(const Okamzik& o) {
         EXPECT_EQ(rozdil(stav_simulace(), o.stav), "");
         EXPECT_EQ(nahoda, o.zdroj);
         EXPECT_EQ(virtualni_hodiny.cas_ms, o.cas_ms);
         EXPECT_EQ(ubehlo_s(), o.ubehlo);
-        EXPECT_EQ(gtn_delka(), o.gtn);
+        EXPECT_EQ(gtn_misto().delka, o.gtn);
+    }
+    // The record as it would be if time had never been turned back: the notes of that are left out, and waits
+    // that they part stand in one.
+    static std::string bez_poznamek(const std::string& zaznam) {
+        std::string text;
+        std::int64_t ceka = 0;
+        std::istringstream radky(zaznam);
+        for (std::string radek; std::getline(radky, radek);) {
+            if (radek.starts_with("vraceno "))
+                continue;
+            if (radek.starts_with("cekej ")) {
+                ceka += std::stoll(radek.substr(6));
+                continue;
+            }
+            text += std::to_string(std::exchange(ceka, 0)) + "\n" + radek + "\n";
+        }
+        return text + std::to_string(ceka);
     }
     void pracuj_minut(std::int64_t kolik) {
         while (ubehlo_s() < kolik * 60)
@@ -84,7 +102,7 @@ TEST_P(NahodnyNavrat, ComesToTheStateThatWasThereFieldByField) {
         zrus_navrat();
     over(konec);
     EXPECT_TRUE(denik() == log);
-    EXPECT_EQ(zaznam_smeny(), zaznam);
+    EXPECT_EQ(bez_poznamek(zaznam_smeny()), bez_poznamek(zaznam));
 }
 
 INSTANTIATE_TEST_SUITE_P(Semena, NahodnyNavrat, semena(21, 22));
@@ -101,6 +119,10 @@ TEST_F(Historie, KeepsSixHoursInItsMemory) {
     RecordProperty("kB_hromady", static_cast<int>((po - pred) / 1000));
     EXPECT_GE(delka_pameti_s(), kPametHistorie_s);
     EXPECT_LE(bajtu_historie(), kPametHistorie_B);
+    if (po > pred + 1'000'000) { // elsewhere nobody tells what the heap holds
+        EXPECT_LE(bajtu_historie(), 2 * (po - pred));
+        EXPECT_LE(po - pred, 2 * bajtu_historie()) << "the estimate is near what is taken";
+    }
     EXPECT_EQ(vrat_o(kPametHistorie_s), Navrat::hotovo);
     EXPECT_EQ(zrus_navrat(), Navrat::hotovo);
     EXPECT_EQ(vrat_o(delka_pameti_s() + 1), Navrat::pred_pameti);
@@ -157,6 +179,70 @@ TEST_F(Historie, DoesAgainWhatOnlyAScriptCan) {
     skript("cekej 1min");
     ASSERT_EQ(vrat_o(ubehlo_s() - o.ubehlo), Navrat::hotovo);
     over(o);
+}
+
+TEST_F(Historie, WhatIsRefusedChangesNothing) {
+    zacni(35);
+    skript("cekej 30min");
+    ASSERT_EQ(vrat_o(10 * 60), Navrat::hotovo);
+    const Okamzik o = ted();
+    const std::string zaznam = zaznam_smeny();
+    EXPECT_EQ(vrat_o(99 * 3600), Navrat::pred_pameti);
+    over(o);
+    EXPECT_TRUE(je_co_vratit());
+    EXPECT_EQ(zaznam_smeny(), zaznam);
+}
+
+TEST_F(Historie, WhoHasTheDeskNowHasItThen) {
+    zacni(36);
+    skript("cekej 5min");
+    ASSERT_EQ(vrat_o(60), Navrat::hotovo);
+    vypravci::predej();
+    ASSERT_EQ(zrus_navrat(), Navrat::hotovo);
+    EXPECT_TRUE(vypravci::zapnut());
+    ASSERT_EQ(vrat_o(60), Navrat::hotovo);
+    EXPECT_TRUE(vypravci::zapnut());
+    vypravci::vezmi();
+    ASSERT_EQ(zrus_navrat(), Navrat::hotovo);
+    EXPECT_FALSE(vypravci::zapnut());
+}
+
+TEST_F(Historie, GoesOnWithMacrosThatCannotBeRead) {
+    zacni(37);
+    nahraj_makro();
+    skript("cekej 5min");
+    std::filesystem::resize_file(koren / "data" / "tesk.mak", 70'000'000);
+    skript("cekej 65min"); // a state is kept
+    EXPECT_EQ(vrat_o(10 * 60), Navrat::hotovo);
+    EXPECT_EQ(zrus_navrat(), Navrat::hotovo);
+}
+
+// The dispatcher keeps what he has said himself, and with it the sentences in the report.
+void bez_vypravciho(StavSimulace& stav) {
+    stav.stav_vypravciho = {};
+    stav.sledovani.s_vypravcim = false;
+    for (JizdaVlaku& j : stav.sledovani.jizdy)
+        j.nyni.veta = j.nejdelsi.veta = Text{};
+}
+
+TEST_F(Historie, ComesToTheSameStateWhenTheDispatcherHadTheDesk) {
+    zacni(38);
+    vypravci::predej();
+    sleduj(90);
+    skript("cekej 25min");
+    ASSERT_GT(okamziky.size(), 8u);
+    kazdy_okamzik = 0;
+    for (int i = 0; i < 12 && !HasFailure(); ++i) {
+        Okamzik o = okamziky[los() % okamziky.size()];
+        ASSERT_EQ(vrat_na(o.cas), Navrat::hotovo);
+        StavSimulace stav = stav_simulace();
+        bez_vypravciho(stav);
+        bez_vypravciho(o.stav);
+        EXPECT_EQ(rozdil(stav, o.stav), "");
+        EXPECT_EQ(nahoda, o.zdroj);
+        EXPECT_EQ(gtn_misto().delka, o.gtn);
+        over_stav();
+    }
 }
 
 } // namespace

@@ -135,11 +135,11 @@ TEST_F(Hodnoceni, CrossingsAreKeptAsTheLogHasThem) {
     gtn_zapis(1, gtn::prejezd, 1);
     ASSERT_EQ(gtn_prejezdy().size(), 1u);
     EXPECT_EQ(gtn_prejezdy()[0], (ZmenaPrejezdu{ted_s(), 1, true}));
-    const std::int64_t delka = gtn_delka();
+    const MistoGtn misto = gtn_misto();
     gtn_zapis(1, gtn::prejezd, 0);
-    const Bajty konec = gtn_odrizni(delka);
+    const KonecGtn konec = gtn_odrizni(misto);
     EXPECT_EQ(gtn_prejezdy().size(), 1u);
-    gtn_pripoj(konec);
+    gtn_pripoj(konec, misto, misto);
     ASSERT_EQ(gtn_prejezdy().size(), 2u);
     EXPECT_FALSE(gtn_prejezdy()[1].zavren);
 }

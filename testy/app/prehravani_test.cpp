@@ -1,7 +1,9 @@
 // testy/app/prehravani_test.cpp - a recorded shift is watched at the desk, gone back and forth in, and taken
 // over.
+#include "app/historie.h"
 #include "app/parametry.h"
 #include "app/prehravani.h"
+#include "cesty/ulozena_makra.h"
 #include "pomocne/smena_ruky.h"
 
 namespace {
@@ -114,7 +116,11 @@ TEST_F(Prehravani, EndsWhereACrashHasEndedTheRecord) {
     const std::string zaznam = odslouzena_smena(45);
     novy_svet();
     ASSERT_TRUE(nacti_start(simulace.cesta_aplikace));
-    EXPECT_FALSE(cti_smenu(zaznam.substr(0, zaznam.size() - 3)));
+    ASSERT_FALSE(cti_smenu(zaznam));
+    const std::int64_t cely = delka_zaznamu_ms();
+    const std::size_t posledni = zaznam.rfind("cekej ");
+    ASSERT_FALSE(cti_smenu(zaznam.substr(0, zaznam.size() - 3)));
+    EXPECT_EQ(cely - delka_zaznamu_ms(), std::stoll(zaznam.substr(posledni + 6)));
 }
 
 TEST_F(Prehravani, RefusesWhatIsNoRecord) {
@@ -124,7 +130,96 @@ TEST_F(Prehravani, RefusesWhatIsNoRecord) {
     EXPECT_TRUE(cti_smenu("smena 2.0.1\nspust cas=5:00\nnastav kolej 73 barva=1\n"));
     EXPECT_TRUE(cti_smenu("smena 2.0.1\nspust cas=5:00\npis \"bez konce\n"));
     EXPECT_TRUE(cti_smenu("smena 2.0.1\nmakra nejsou*to\nspust cas=5:00\n"));
+    EXPECT_TRUE(cti_smenu("smena 2.0.1\npc 99999999-01-05 08:00:00\nspust cas=5:00\n"));
+    EXPECT_TRUE(cti_smenu("smena 2.0.1\nspust cas=5:00\nprestavka -5000ms\n")) << "time does not run back";
+    EXPECT_TRUE(cti_smenu("smena 2.0.1\nspust cas=5:00\nvraceno 8:00:00 brzo\n"));
+    EXPECT_TRUE(cti_smenu("smena 2.0.1\nspust cas=5:00 gvd=GVD_ktery_neni\n"));
+    std::string dlouhy = "smena 2.0.1\nspust cas=5:00\n";
+    for (int i = 0; i < 2000; ++i)
+        dlouhy += "cekej 9000000000000000ms\n";
+    EXPECT_TRUE(cti_smenu(dlouhy)) << "no shift lasts as long";
+    for (const char* radek : {"klavesa Nikde", "klik kolej 1000", "klik kolej -1", "klik kolej 99999999999",
+                              "prestavka 5ms jindy", "klik lstZpravy 99999999999", "ukaz_vlak 99999999999"})
+        EXPECT_TRUE(cti_smenu(std::string("smena 2.0.1\nspust cas=5:00\n") + radek + "\n")) << radek;
+    EXPECT_TRUE(cti_smenu("smena 2.0.1\npc 2026-02-31 08:00:00\nspust cas=5:00\n"));
+    EXPECT_TRUE(cti_smenu("smena 2.0.1\nspust cas=5:00 gvd=..\\..\\x\n"));
+    EXPECT_TRUE(cti_smenu("smena 2.0.1\nspust cas=5:00\npis " + std::string(20'000, 'a') + "\n"));
+    EXPECT_TRUE(cti_smenu(std::string(kNejdelsiZaznamSmeny_B + 1, 'a')));
     EXPECT_FALSE(cti_smenu("smena 2.0.1\npc 2026-01-05 08:00:00\nspust cas=5:00 den=0\n"));
+}
+
+TEST_F(Prehravani, EndsBeforeTheActThatEndedTheProgram) {
+    for (const char* konec : {"klik imgKONEC 0", "okno zavri", "klavesa Ctrl+Shift+F10"}) {
+        std::filesystem::remove(koren / "GTN" / "260105_prehrani.gtn"); // of the one before
+        const std::string zaznam = odslouzena_smena(46);
+        const std::string odpoved = std::string_view(konec).starts_with("klavesa") ? "" : "odpovez ano\n";
+        spust(zaznam + odpoved + konec + "\n");
+        EXPECT_NO_THROW(prehravej_do(konec_ms + 1000)) << konec;
+        over_konec();
+        EXPECT_TRUE(prehraj_o(-60)) << "from there it can be looked back";
+        zapomen_prehravani();
+    }
+}
+
+TEST_F(Prehravani, TellsWhyTheGameInARecordCannotBeLoaded) {
+    std::string zaznam = "smena 2.0.1\npc 2026-01-05 08:00:00\nsemeno 1\nhra " + na_base64({1, 2, 3, 4, 5}) +
+                         "\nnacti hra.sim den=0\n";
+    novy_svet();
+    ASSERT_TRUE(nacti_start(simulace.cesta_aplikace));
+    ASSERT_FALSE(cti_smenu(zaznam));
+    EXPECT_THROW(spust_prehravani(), KonecProgramu);
+    ASSERT_FALSE(svet.okna.empty());
+    EXPECT_NE(na_utf8(svet.okna.back().text).find("se nepodařilo načíst"), std::string::npos)
+        << na_utf8(svet.okna.back().text);
+}
+
+TEST_F(Prehravani, GoingBackWhileWatchingIsNoGoingBackOfTheShift) {
+    spust(odslouzena_smena(47));
+    ASSERT_TRUE(prehraj_o(5 * 60));
+    ASSERT_TRUE(prehraj_o(-60));
+    prehravej_do(konec_ms);
+    over_konec();
+    EXPECT_EQ(zaznam_smeny().find("vraceno"), std::string::npos);
+}
+
+TEST_F(Prehravani, HasTheMacrosOfItsShiftAndNotTheWatchers) {
+    zacni(48);
+    nahraj_makro();
+    zacni(48);
+    while (ubehlo_s() < 5 * 60)
+        pracuj(5000);
+    skript("klavesa Alt+A");
+    skript("cekej 3min");
+    log = denik();
+    stav = stav_simulace();
+    konec_ms = virtualni_hodiny.cas_ms;
+    zdroj = nahoda;
+    const std::string zaznam = zaznam_smeny();
+    const Bajty makra = obsah_maker();
+    obnov_makra({});
+    spust(zaznam);
+    ASSERT_TRUE(prehraj_o(4 * 60));
+    ASSERT_TRUE(prehraj_o(-2 * 60));
+    prehravej_do(konec_ms);
+    over_konec();
+    EXPECT_EQ(obsah_maker(), makra);
+    prevezmi_smenu();
+    ASSERT_EQ(vrat_o(60), Navrat::hotovo);
+    EXPECT_EQ(obsah_maker(), makra);
+    zapomen_prehravani();
+    EXPECT_TRUE(obsah_maker().empty()) << "the watcher's own";
+}
+
+TEST_F(Prehravani, TellsThatARecordIsOfAnotherVersion) {
+    std::string zaznam = odslouzena_smena(49);
+    spust(zaznam);
+    const std::size_t oken = svet.okna.size();
+    zapomen_prehravani();
+    const std::size_t verze = zaznam.find("smena ") + 6;
+    spust(zaznam.replace(verze, zaznam.find('\n', verze) - verze, "1.9.0"));
+    ASSERT_EQ(svet.okna.size(), oken + 1);
+    EXPECT_NE(na_utf8(svet.okna.back().text).find("1.9.0"), std::string::npos);
+    zapomen_prehravani();
 }
 
 } // namespace

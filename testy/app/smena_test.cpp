@@ -1,8 +1,18 @@
 // testy/app/smena_test.cpp - the record of the shift plays it again, to the byte of its log.
+#include "app/prestavky.h"
+#include "davka/skript.h"
+#include "obsluha/povely.h"
 #include "pomocne/semena.h"
 #include "pomocne/smena_ruky.h"
+#include "technologie/technologie.h"
+#include "vypravci/vypravci.h"
+#include "zaklad/slova.h"
 
+#include <algorithm>
+#include <csignal>
 #include <cstdlib>
+#include <set>
+#include <sys/resource.h>
 
 namespace {
 
@@ -15,6 +25,8 @@ std::int64_t minut() {
 class ZaznamSmeny : public SmenaRuky {
 protected:
     std::string soubor() const {
+        if (!std::filesystem::is_directory(koren / "smeny"))
+            return {};
         for (const auto& zaznam : std::filesystem::directory_iterator(koren / "smeny")) {
             std::ifstream proud(zaznam.path(), std::ios::binary);
             return std::string(std::istreambuf_iterator<char>(proud), {});
@@ -57,7 +69,7 @@ TEST_P(ZaznamNahodneSmeny, OnTheDiskHoldsAllUpToTheLastWholeMinuteAfterAKill) {
     planovac.po_okamziku = [&, dal = planovac.po_okamziku] {
         dal();
         if (std::exchange(minuta, simulace.minuty_simulace) != simulace.minuty_simulace)
-            delka_minuty = static_cast<std::size_t>(gtn_delka());
+            delka_minuty = static_cast<std::size_t>(gtn_misto().delka);
     };
     pracuj_minut(minut() / 2);
     const std::string zaznam = soubor();
@@ -149,14 +161,261 @@ TEST_F(ZaznamSmeny, EndsWhereTimeWasTurnedBackAndGoesOnWithWhatIsDoneThen) {
     over_prehrani(na_disku);
 }
 
+// The notes of a record that tell of time turned back.
+std::vector<std::string> navraty(const std::string& zaznam) {
+    std::vector<std::string> vse;
+    std::istringstream radky(zaznam);
+    for (std::string radek; std::getline(radky, radek);)
+        if (radek.starts_with("vraceno "))
+            vse.push_back(radek.substr(0, radek.find(" #")));
+    return vse;
+}
+
+TEST_F(ZaznamSmeny, TellsFromWhichMomentTimeWasTurnedBackAndThatThisWasUndone) {
+    zacni(14, true);
+    const auto hodin = [] { return na_utf8(text_casu(cas_hodin())); };
+    pracuj_minut(10);
+    const std::string odkud = hodin();
+    ASSERT_EQ(vrat_o(3 * 60), Navrat::hotovo);
+    const std::string kam = hodin();
+    EXPECT_EQ(navraty(zaznam_smeny()), std::vector{"vraceno " + odkud + " " + kam});
+    ASSERT_EQ(zrus_navrat(), Navrat::hotovo);
+    EXPECT_EQ(navraty(zaznam_smeny()), std::vector{"vraceno " + odkud + " " + kam + " zruseno"});
+    // two that hold, the second one to a time before the first: the course that is dropped had its note, too
+    pracuj_minut(12);
+    const std::string podruhe = hodin();
+    ASSERT_EQ(vrat_o(60), Navrat::hotovo);
+    const std::string o_minutu = hodin();
+    klik_na_plochu();
+    pracuj_minut(12);
+    const std::string potreti = hodin();
+    ASSERT_EQ(vrat_o(8 * 60), Navrat::hotovo);
+    const std::vector<std::string> vse = {"vraceno " + odkud + " " + kam + " zruseno",
+                                          "vraceno " + podruhe + " " + o_minutu,
+                                          "vraceno " + potreti + " " + hodin()};
+    EXPECT_EQ(navraty(zaznam_smeny()), vse);
+    klik_na_plochu();
+    los.seed(1000);
+    pracuj_minut(10);
+    dopis_smenu();
+    const std::string na_disku = soubor();
+    EXPECT_EQ(navraty(na_disku), vse);
+    over_prehrani(zaznam_smeny());
+    EXPECT_EQ(navraty(zaznam_smeny()), vse) << "a record of the record tells it as well";
+    over_prehrani(na_disku);
+}
+
+TEST_F(ZaznamSmeny, HasEveryKindOfActOfTheHands) {
+    zacni(15);
+    skript("cekej 2min");
+    ASSERT_EQ(vrat_o(30), Navrat::hotovo);
+    klik_na_plochu();
+    odjeti();
+    klavesa({KodKlavesy::f2}); // the search opens the field
+    pis_do_pole("LHO 1");
+    klavesa({KodKlavesy::esc});
+    int kolej = 0, navestidlo = 0;
+    while (!relief.cislo_koleje.je(kolej))
+        ++kolej;
+    while (!relief.navestidlo.je(navestidlo))
+        ++navestidlo;
+    najeti(Druh::cislo_koleje, kolej);
+    dvojklik(Druh::cislo_koleje, kolej);
+    skript("cekej 1500ms");
+    pohyb_mysi();
+    odjeti();
+    klik(Druh::navestidlo, navestidlo, Tlacitko::leve, true);
+    klavesa({KodKlavesy::esc});
+    klik(Druh::navestidlo, navestidlo, Tlacitko::prostredni, false);
+    klavesa({KodKlavesy::esc});
+    klik(Druh::navestidlo, 287, Tlacitko::leve, false);
+    klik(Druh::Image1, 600, Tlacitko::leve, false);
+    klavesa({KodKlavesy::enter});
+    skript("cekej 3s");
+    klik(Druh::navestidlo, 287, Tlacitko::prave, false);
+    ASSERT_FALSE(menu.jmeno.empty());
+    zahod_menu();
+    klik(Druh::navestidlo, 287, Tlacitko::prave, false);
+    const auto polozka = std::find_if(menu.polozky.begin(), menu.polozky.end(), [](const PolozkaMenu& p) {
+        return p.viditelna && p.povolena && p.akce != nullptr;
+    });
+    ASSERT_NE(polozka, menu.polozky.end());
+    ASSERT_TRUE(zvol_v_menu(Text(polozka->jmeno)));
+    klavesa({KodKlavesy::esc});
+    klavesa({KodKlavesy::esc});
+    ukaz_vlak(4711);
+    for (const Vlak& v : vlaky)
+        if (v.cislo > 0) {
+            ukaz_vlak(zobrazene_cislo(v));
+            break;
+        }
+    klik(Druh::imgObrzaek_vlaku, 0, Tlacitko::leve, false); // a vehicle of its page
+    klavesa({KodKlavesy::esc});
+    klik(Druh::lblrychlost_simulace, 0, Tlacitko::leve, false);
+    klik(Druh::lblrychlost_simulace, 0, Tlacitko::prave, false);
+    klik(Druh::imgPauza, 0, Tlacitko::leve, false);
+    klik(Druh::imgPauza, 0, Tlacitko::leve, false);
+    svet.odpovedi = {"kazdy.sim"};
+    klavesa(klavesa_podle_jmena("Ctrl+S"));
+    klik(Druh::cmdZpravy, 0, Tlacitko::leve, false);
+    klik_na_radek(relief.lstZpravy, 0);
+    klavesa({KodKlavesy::print_screen});
+    ASSERT_TRUE(technologie_kryje_stul());
+    klik_na_zalozku(Technologie::provoz2);
+    klavesa({KodKlavesy::esc});
+    okno_zmizelo();
+    okno_se_vratilo();
+    zastav_sluzbu();
+    spust_sluzbu();
+    zavri_okno(); // to the question whether to end he says no
+    prestavka(4000, false);
+    prestavka(70'000, true);
+    ohlas_vadu_deniku(KodChyby::disk_plny);
+    const auto lhotin = static_cast<std::uint8_t>(vypravci::stanice_kodu("LHO"));
+    vypravci::predej(std::span(&lhotin, 1));
+    skript("cekej 4min");
+    vypravci::vezmi();
+    skript("krok jizdy");
+    skript("cekej 2min");
+    std::set<DruhUkonu> druhy;
+    for (const Ukon& u : ukony_smeny.ukony)
+        druhy.insert(u.co);
+    for (int d = 0; d <= static_cast<int>(DruhUkonu::vraceno); ++d)
+        EXPECT_TRUE(druhy.contains(static_cast<DruhUkonu>(d))) << d;
+    ASSERT_FALSE(simulace.pauza);
+    const Bajty log = denik();
+    const std::string zaznam = zaznam_smeny();
+    const std::int32_t cas = cas_hodin();
+    const std::size_t ukonu = ukony_smeny.ukony.size();
+    try {
+        prehraj(zaznam);
+    } catch (const ChybaSkriptu& chyba) {
+        FAIL() << chyba.proc;
+    }
+    EXPECT_EQ(cas_hodin(), cas);
+    EXPECT_TRUE(denik() == log);
+    EXPECT_EQ(ukony_smeny.ukony.size(), ukonu) << "the record of the record";
+}
+
+TEST_F(ZaznamSmeny, PlaysToTheSameLogWhenTheDispatcherHadTheDeskAndTimeWasTurnedBack) {
+    zacni(19);
+    vypravci::predej();
+    skript("cekej 12min");
+    ASSERT_EQ(vrat_o(5 * 60), Navrat::hotovo);
+    skript("cekej 5min");
+    vypravci::vezmi();
+    klik_na_plochu();
+    skript("cekej 5min");
+    const Bajty log = denik();
+    const std::int64_t cas_ms = virtualni_hodiny.cas_ms;
+    const Nahoda zdroj = nahoda;
+    EXPECT_GT(log.size(), 500u);
+    prehraj(zaznam_smeny());
+    EXPECT_EQ(virtualni_hodiny.cas_ms, cas_ms);
+    EXPECT_EQ(nahoda, zdroj);
+    EXPECT_TRUE(denik() == log);
+}
+
+TEST_F(ZaznamSmeny, IsNeverWrittenOverAnotherOne) {
+    for (int i = 0; i < 3; ++i) { // within one second of the clock
+        zacni(20, true);
+        skript("cekej 1min");
+    }
+    const auto zaznamy = std::filesystem::directory_iterator(koren / "smeny");
+    EXPECT_EQ(std::distance(begin(zaznamy), end(zaznamy)), 3);
+}
+
+TEST(TextVZaznamu, WithALineBreakStandsInOneLine) {
+    EXPECT_EQ(jako_slovo("a\nb"), "\"a b\"");
+}
+
+// --- a disk that does not take it
+
+TEST_F(ZaznamSmeny, IsWrittenWholeAgainWhenItsFileHasVanished) {
+    zacni(16, true);
+    pracuj_minut(3);
+    ASSERT_FALSE(soubor().empty());
+    std::filesystem::remove_all(koren / "smeny");
+    pracuj_minut(5);
+    EXPECT_FALSE(vada_smeny()) << "nothing is lost";
+    const std::string cely = soubor();
+    EXPECT_TRUE(cely.starts_with("# Záznam směny"));
+    EXPECT_GT(cely.size(), 1000u);
+    std::ofstream(std::filesystem::directory_iterator(koren / "smeny")->path()) << "something else";
+    pracuj_minut(7);
+    dopis_smenu();
+    over_prehrani(soubor());
+}
+
+TEST_F(ZaznamSmeny, ThatTheDiskDoesNotTakeIsToldOnceAndTheShiftGoesOn) {
+    std::ofstream(koren / "smeny") << "no folder"; // where the folder would be
+    zacni(17, true);
+    const std::optional<Text> vada = vada_smeny();
+    ASSERT_TRUE(vada);
+    EXPECT_NE(na_utf8(*vada).find("Záznam směny nelze zapsat na disk"), std::string::npos) << na_utf8(*vada);
+    EXPECT_TRUE(soubor_smeny().empty());
+    pracuj_minut(4);
+    EXPECT_FALSE(vada_smeny());
+    EXPECT_GE(ubehlo_s(), 4 * 60);
+    std::filesystem::remove(koren / "smeny"); // there is room for it again
+    pracuj_minut(6);
+    EXPECT_FALSE(soubor_smeny().empty());
+    dopis_smenu();
+    over_prehrani(soubor());
+}
+
+TEST_F(ZaznamSmeny, OfAFullDiskIsWholeUpToItsLastLineAndGoesOnWhenThereIsRoom) {
+    zacni(18, true);
+    pracuj_minut(3);
+    const std::string pred = soubor();
+    rlimit puvodni{};
+    getrlimit(RLIMIT_FSIZE, &puvodni);
+    const auto obsluha = std::signal(SIGXFSZ, SIG_IGN);
+    const auto nejvic = [&](std::size_t bajtu) {
+        const rlimit mez{bajtu, puvodni.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &mez);
+    };
+    const auto do_minuty = [](std::int64_t kolika) {
+        while (ubehlo_s() < kolika * 60) {
+            plyn_do(virtualni_hodiny.cas_ms + 1000);
+            pohyb_mysi();
+        }
+    };
+    nejvic(pred.size() + 10);
+    do_minuty(5);
+    const std::string plny = soubor();
+    nejvic(pred.size() / 2);
+    const Navrat navrat = vrat_o(60); // nor can the record be written anew
+    klik_na_plochu();
+    do_minuty(6);
+    const std::string po_navratu = soubor();
+    setrlimit(RLIMIT_FSIZE, &puvodni);
+    std::signal(SIGXFSZ, obsluha);
+    EXPECT_EQ(navrat, Navrat::hotovo);
+    EXPECT_EQ(plny, pred);
+    EXPECT_EQ(po_navratu, pred) << "the record of what is no more is better than none";
+    EXPECT_TRUE(vada_smeny());
+    do_minuty(8);
+    EXPECT_FALSE(vada_smeny());
+    dopis_smenu();
+    const std::string na_disku = soubor();
+    EXPECT_EQ(navraty(na_disku).size(), 1u);
+    over_prehrani(na_disku);
+}
+
 TEST_F(ZaznamSmeny, KeepsNoMoreThanTheNewestRecords) {
     std::filesystem::create_directories(koren / "smeny");
     for (std::size_t i = 0; i < kNejviceSmen + 5; ++i)
         std::ofstream(koren / "smeny" / ("2501" + std::to_string(10 + i) + "_080000.tesk")) << "smena";
+    for (const char* stranka : {"250110_080000.html", "250164_080000.html", "moje.html"})
+        std::ofstream(koren / "smeny" / stranka) << "html";
     zacni(11, true);
+    EXPECT_FALSE(std::filesystem::exists(koren / "smeny" / "250110_080000.html")) << "with its record";
+    EXPECT_TRUE(std::filesystem::exists(koren / "smeny" / "250164_080000.html"));
+    EXPECT_TRUE(std::filesystem::exists(koren / "smeny" / "moje.html"));
     std::size_t zaznamu = 0;
     for (const auto& zaznam : std::filesystem::directory_iterator(koren / "smeny"))
-        zaznamu += zaznam.is_regular_file() ? 1 : 0;
+        zaznamu += zaznam.path().extension() == ".tesk" ? 1 : 0;
     EXPECT_EQ(zaznamu, kNejviceSmen + 1); // those of the past, and the present one
     EXPECT_FALSE(std::filesystem::exists(koren / "smeny" / "250110_080000.tesk"));
     EXPECT_TRUE(std::filesystem::exists(koren / "smeny" / "250164_080000.tesk"));

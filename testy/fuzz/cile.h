@@ -9,12 +9,14 @@
 #include "app/kontrola.h"
 #include "app/nacteni.h"
 #include "app/nova_simulace.h"
+#include "app/prehravani.h"
 #include "cesty/tabulky.h"
 #include "desk/hlaseni.h"
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
 #include "gvd/zaplneni.h"
 #include "jizda/vlak.h"
+#include "obsluha/ukony.h"
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/prvky_cesty.h"
 #include "pomocne/vozy_vlaku.h"
@@ -23,6 +25,7 @@
 #include "relief/topologie.h"
 #include "save/zaznam.h"
 #include "zaklad/chyba.h"
+#include "zaklad/slova.h"
 
 #include <array>
 #include <cstdio>
@@ -360,6 +363,37 @@ inline Bajty vzor_textu() {
                        "d\xECn\xED \xC5\xA1 99999999999");
 }
 
+// The record of a shift: refused with a sentence, or its acts are those that a record of them would tell.
+inline void zkus_smenu(Vstup vstup) {
+    const std::string_view text(reinterpret_cast<const char*>(vstup.data()), vstup.size());
+    const std::optional<Text> vada = cti_smenu(text);
+    musi(!vada || vada->ends_with('.'), "a refusal is a sentence");
+    musi(vada || delka_zaznamu_ms() >= 0, "no record ends before it begins");
+    for (std::size_t od = 0; od < text.size();) {
+        const std::size_t konec = std::min(text.find('\n', od), text.size());
+        const auto slova = rozdel_na_slova(text.substr(od, konec - od));
+        od = konec + 1;
+        const std::optional<Ukon> ukon = slova ? ukon_ze_slov(*slova) : std::nullopt;
+        if (!ukon)
+            continue;
+        const std::string radek = radek_ukonu(*ukon);
+        const auto znovu = rozdel_na_slova(radek);
+        const std::optional<Ukon> zpet = znovu ? ukon_ze_slov(*znovu) : std::nullopt;
+        musi(zpet && radek_ukonu(*zpet) == radek, "an act is written and read back");
+    }
+    zapomen_prehravani();
+}
+inline Bajty vzor_smeny() {
+    return bajty_textu("# shift\nsmena 2.0.1\npc 2026-01-05 08:00:00\nsemeno 7\nnastaveni Nastaveni PP 1\n"
+                       "makra YQ==\nhra YWJj\ncekej 120ms\nnacti hra.sim den=0 zvuk=1 autosave=0\n"
+                       "cekej 12ms\nklavesa Enter # 12:00:00\nnajed kolej 3\nklik navestidlo 1 ctrl\n"
+                       "klik Image1 3\npravy imgVyhybka 5\nmenu miVC\nzahod_menu\ndvojklik kolej 2\n"
+                       "klik lstZpravy 0\nklik frmTechnologie2\nklik plocha\nukaz_vlak 4701\npohyb\n"
+                       "odpovez \"a b.sim\"\nklavesa Ctrl+S\npis \"ab \"\"c\"\"\"\nokno dolu\nokno nahoru\n"
+                       "prestavka 3000ms\nprestavka 70000ms pocitac\nvraceno 12:05:00 12:01:00 zruseno\n"
+                       "cekej 9000ms\n");
+}
+
 struct Cil {
     std::string_view jmeno;
     void (*zkus)(Vstup);
@@ -371,6 +405,7 @@ inline constexpr std::array kCile = {
     Cil{"provoz", zkus_provoz, vzor_provozu},      Cil{"texty", zkus_texty, vzor_textu},
     Cil{"cesty", zkus_cesty, vzor_cest},           Cil{"vazby", zkus_vazby, vzor_vazeb},
     Cil{"makra", zkus_makra, vzor_maker},          Cil{"zaznam", zkus_zaznam, vzor_zaznamu},
+    Cil{"smena", zkus_smenu, vzor_smeny},
 };
 
 } // namespace fuzz

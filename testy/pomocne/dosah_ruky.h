@@ -151,12 +151,29 @@ inline constexpr DosahOperace kOperaceRuky[] = {
     {"pridej_prvek_podle_jmena", "search", Dosah::maly},
 };
 // Asked by others, or called by what the hand has done: no command of their own.
-inline constexpr std::array<std::string_view, 18> kBezPovelu = {
-    "hledej_cislo",         "ukon_ze_slov",     "proved_ukon",   "radek_ukonu",
-    "je_pohyb_ukazatele",   "jmeno_seznamu",    "jmeno_klavesy", "klavesa_podle_jmena",
-    "makro_se_zaznamenava", "krok_makra",       "prvek_popisku", "prihlaseni_bezi",
-    "pipni_klavesou",       "vyzva_mimo_radek", "najdi_cestu",   "hlidej_cas_volby",
-    "obnov_stitek",         "kod_stanice_prvku"};
+inline constexpr std::array<std::string_view, 23> kBezPovelu = {"je_cin",
+                                                                "ohlas_vadu_deniku",
+                                                                "zapis_vraceni",
+                                                                "je_platny_navrat",
+                                                                "je_klavesa_konce",
+                                                                "hledej_cislo",
+                                                                "ukon_ze_slov",
+                                                                "proved_ukon",
+                                                                "radek_ukonu",
+                                                                "je_pohyb_ukazatele",
+                                                                "jmeno_seznamu",
+                                                                "jmeno_klavesy",
+                                                                "klavesa_podle_jmena",
+                                                                "makro_se_zaznamenava",
+                                                                "krok_makra",
+                                                                "prvek_popisku",
+                                                                "prihlaseni_bezi",
+                                                                "pipni_klavesou",
+                                                                "vyzva_mimo_radek",
+                                                                "najdi_cestu",
+                                                                "hlidej_cas_volby",
+                                                                "obnov_stitek",
+                                                                "kod_stanice_prvku"};
 // Keys and pictures of the desk that no operation stands for alone.
 inline constexpr std::array<std::string_view, 27> kKlavesyAObrazky = {
     "key F3",         "key F8",

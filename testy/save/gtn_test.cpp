@@ -127,4 +127,24 @@ TEST_F(Denik, FullDiskIsToldOnceAndNothingIsLostWhenThereIsRoomAgain) {
     EXPECT_EQ(obsah().size(), zacatek.size() + 11u * 20'001u);
 }
 
+TEST_F(Denik, KeepsItsMovementsWhenTimeIsTurnedBackThoughItHasNoFile) {
+    gtn_do_souboru(false);
+    gtn_otevri();
+    gtn_do_souboru(true);
+    gtn_zapis(12, gtn::vlak_na_kolej, 4711);
+    const MistoGtn misto = gtn_misto();
+    gtn_zapis(12, gtn::vlak_z_koleje, 4711);
+    gtn_zapis(13, gtn::vlak_na_kolej, 4711);
+    gtn_zapis(1, gtn::prejezd, 1);
+    const KonecGtn konec = gtn_odrizni(misto);
+    EXPECT_EQ(gtn_pohyby().size(), 1u);
+    EXPECT_TRUE(gtn_prejezdy().empty());
+    gtn_zapis(12, gtn::vlak_z_koleje, 4711); // a part of it comes again as it was
+    gtn_pripoj(konec, misto, gtn_misto());
+    ASSERT_EQ(gtn_pohyby().size(), 3u);
+    EXPECT_EQ(gtn_pohyby()[2], (PohybVlaku{43'200, 13, 4711, true}));
+    EXPECT_EQ(gtn_prejezdy().size(), 1u);
+    EXPECT_TRUE(svet.precti("GTN/260105.gtn").empty()) << "and nothing is on the disk";
+}
+
 } // namespace
