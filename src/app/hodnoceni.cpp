@@ -12,6 +12,7 @@
 
 #include <algorithm>
 #include <array>
+#include <functional>
 #include <map>
 #include <optional>
 #include <set>
@@ -188,9 +189,9 @@ std::string u8(TextPohled text) {
 // A table: its heading, the captions of its columns, the rows.
 class Tabulka {
 public:
-    Tabulka(std::string& kam, TextPohled nadpis, std::initializer_list<TextPohled> sloupce) : html(kam) {
+    Tabulka(std::string& kam, TextPohled nadpis, const std::vector<TextPohled>& sloupce) : html(kam) {
         html += "<h2>" + u8(nadpis) + "</h2>\n<table border=\"1\" cellspacing=\"0\" cellpadding=\"4\">\n";
-        if (sloupce.size() == 0)
+        if (sloupce.empty())
             return;
         html += "<tr>";
         for (const TextPohled s : sloupce)
@@ -199,8 +200,9 @@ public:
     }
     Tabulka(const Tabulka&) = delete;
     Tabulka& operator=(const Tabulka&) = delete;
-    ~Tabulka() { html += "</table>\n"; }
-    void radek(std::initializer_list<Text> bunky) {
+    ~Tabulka() { html += prazdna ? "<tr><td>" + u8("žádné"_cz) + "</td></tr></table>\n" : "</table>\n"; }
+    void radek(const std::vector<Text>& bunky) {
+        prazdna = false;
         html += "<tr>";
         for (const Text& b : bunky)
             html += "<td>" + u8(b) + "</td>";
@@ -209,6 +211,7 @@ public:
 
 private:
     std::string& html;
+    bool prazdna = true;
 };
 
 Text min(int minut) {
@@ -228,39 +231,101 @@ Text druh_a_cislo(std::uint8_t druh, std::int32_t cislo) {
     return (zkratka.empty() ? Text{} : Text(zkratka) + " ") + text_cisla(cislo);
 }
 
-void souhrn(std::string& html, const HodnoceniSmeny& h) {
-    const ZpravaOProvozu& z = h.zprava;
-    Tabulka t(html, "Dochvilnost"_cz, {});
-    t.radek({Text("vlaků dojelo"_cz), z_kolika(z.dojelo, z.melo_jet)});
-    t.radek({Text("nejvýš pět minut zpožděných"_cz), z_kolika(h.vcas, z.dojelo)});
-    t.radek({Text("správným výjezdem"_cz), z_kolika(z.spravnym_vyjezdem, z.dojelo)});
-    t.radek({Text("správnou kolejí hlavního nádraží"_cz), z_kolika(z.spravnou_koleji, z.dojelo)});
-    t.radek({Text("zpoždění převzaté od sousedů"_cz), min(h.prevzato)});
-    t.radek({Text("zpoždění, které vzniklo zde"_cz), min(h.pridano)});
-    t.radek({Text("zpoždění, které se dohnalo"_cz), min(h.nahnano)});
-    t.radek({Text("vlaků ještě na cestě, nevyjelo, ztraceno, uvázlo"_cz),
-             text_cisla(z.na_ceste) + ", " + text_cisla(z.nevyjelo) + ", " + text_cisla(z.ztraceno) + ", " +
-                 text_cisla(z.uvazlo)});
-    t.radek({Text("cest postaveno, povelů dáno"_cz), text_cisla(z.cest) + ", " + text_cisla(z.povelu)});
+// What is told of the shift, and of the automatic dispatcher's beside it.
+using Hodnota = std::function<Text(const HodnoceniSmeny&)>;
+
+class Srovnani {
+public:
+    Srovnani(const HodnoceniSmeny& vase, const HodnoceniSmeny* vypravciho) : h(vase), v(vypravciho) {}
+    const HodnoceniSmeny& vase() const { return h; }
+    const HodnoceniSmeny* vypravciho() const { return v; }
+
+    void radek(Tabulka& t, Text co, const Hodnota& kolik) const {
+        if (v == nullptr)
+            t.radek({std::move(co), kolik(h)});
+        else
+            t.radek({std::move(co), kolik(h), kolik(*v)});
+    }
+    // Captions of a table that has a column of its own for each of the two.
+    std::vector<TextPohled> sloupce(TextPohled co, TextPohled kolik) const {
+        if (v == nullptr)
+            return {co, kolik};
+        return {co, "vaše služba"_cz, "automatický výpravčí"_cz};
+    }
+
+private:
+    const HodnoceniSmeny& h;
+    const HodnoceniSmeny* v;
+};
+
+void souhrn(std::string& html, const Srovnani& s) {
+    Tabulka t(html, "Dochvilnost"_cz,
+              s.vypravciho() != nullptr ? s.sloupce({}, {}) : std::vector<TextPohled>{});
+    const auto radek = [&](TextPohled co, const Hodnota& kolik) { s.radek(t, Text(co), kolik); };
+    using H = const HodnoceniSmeny&;
+    radek("vlaků dojelo"_cz, [](H h) { return z_kolika(h.zprava.dojelo, h.zprava.melo_jet); });
+    radek("nejvýš pět minut zpožděných"_cz, [](H h) { return z_kolika(h.vcas, h.zprava.dojelo); });
+    radek("správným výjezdem"_cz, [](H h) { return z_kolika(h.zprava.spravnym_vyjezdem, h.zprava.dojelo); });
+    radek("správnou kolejí hlavního nádraží"_cz,
+          [](H h) { return z_kolika(h.zprava.spravnou_koleji, h.zprava.dojelo); });
+    radek("zpoždění převzaté od sousedů"_cz, [](H h) { return min(h.prevzato); });
+    radek("zpoždění, které vzniklo zde"_cz, [](H h) { return min(h.pridano); });
+    radek("zpoždění, které se dohnalo"_cz, [](H h) { return min(h.nahnano); });
+    radek("čekání vlaků, které právě stojí"_cz, [](H h) { return min(h.ceka_dosud); });
+    radek("vlaků ještě na cestě"_cz, [](H h) { return text_cisla(h.zprava.na_ceste); });
+    radek("vlaků uvázlo"_cz, [](H h) { return text_cisla(h.zprava.uvazlo); });
+    radek("vlaků nevyjelo"_cz, [](H h) { return text_cisla(h.zprava.nevyjelo); });
+    radek("vlaků ztraceno"_cz, [](H h) { return text_cisla(h.zprava.ztraceno); });
+    radek("nejdelší čekání u návěstidla"_cz,
+          [](H h) { return h.zprava.cekani.empty() ? Text("–"_cz) : doba(h.zprava.cekani[0].trva_s); });
+    radek("cest postaveno"_cz, [](H h) { return text_cisla(h.zprava.cest); });
+    radek("povelů dáno"_cz, [](H h) { return text_cisla(h.zprava.povelu); });
 }
 
-void podle_druhu(std::string& html, const HodnoceniSmeny& h) {
-    Tabulka t(html, "Podle druhu vlaku"_cz,
-              {"druh"_cz, "dojelo"_cz, "převzaté (medián)"_cz, "na konci (medián)"_cz,
-               "přidané (medián, nejvíc)"_cz});
-    for (const KategorieZpravy& k : h.zprava.kategorie)
-        t.radek({Text(zkratka_druhu(k.druh)), z_kolika(k.dojelo, k.melo_jet), min(k.vstup.median),
-                 min(k.konec.median), min(k.pridane.median) + ", " + min(k.pridane.nejvic)});
+void podle_druhu(std::string& html, const Srovnani& s) {
+    std::vector<TextPohled> sloupce = {"druh"_cz, "dojelo"_cz, "převzaté (medián)"_cz, "na konci (medián)"_cz,
+                                       "přidané (medián, nejvíc)"_cz};
+    if (s.vypravciho() != nullptr)
+        sloupce.insert(sloupce.end(), {"výpravčí: dojelo"_cz, "výpravčí: přidané (medián, nejvíc)"_cz});
+    Tabulka t(html, "Podle druhu vlaku"_cz, sloupce);
+    const auto dojelo = [](const KategorieZpravy& k) { return z_kolika(k.dojelo, k.melo_jet); };
+    const auto pridane = [](const KategorieZpravy& k) {
+        return min(k.pridane.median) + ", " + min(k.pridane.nejvic);
+    };
+    for (const KategorieZpravy& k : s.vase().zprava.kategorie) {
+        std::vector<Text> bunky = {Text(zkratka_druhu(k.druh)), dojelo(k), min(k.vstup.median),
+                                   min(k.konec.median), pridane(k)};
+        if (s.vypravciho() != nullptr) {
+            const auto& jeho = s.vypravciho()->zprava.kategorie;
+            const auto v = std::find_if(jeho.begin(), jeho.end(),
+                                        [&](const KategorieZpravy& j) { return j.druh == k.druh; });
+            const bool ma = v != jeho.end();
+            bunky.insert(bunky.end(), {ma ? dojelo(*v) : Text("–"_cz), ma ? pridane(*v) : Text("–"_cz)});
+        }
+        t.radek(bunky);
+    }
 }
 
-void kde_vzniklo(std::string& html, const HodnoceniSmeny& h) {
+void kde_vzniklo(std::string& html, const Srovnani& s) {
+    const HodnoceniSmeny& h = s.vase();
     {
-        Tabulka t(html, "Kde zpoždění vzniklo"_cz,
-                  {"od odjezdu z"_cz, "po odjezd z"_cz, "vlaků"_cz, "přidáno"_cz, "dohnáno"_cz});
+        std::vector<TextPohled> sloupce = {"od odjezdu z"_cz, "po odjezd z"_cz, "vlaků"_cz, "přidáno"_cz,
+                                           "dohnáno"_cz};
+        if (s.vypravciho() != nullptr)
+            sloupce.push_back("výpravčí přidal"_cz);
+        Tabulka t(html, "Kde zpoždění vzniklo"_cz, sloupce);
         for (std::size_t i = 0; i < std::min(h.useky.size(), kNejvicUseku); ++i) {
             const UsekZpozdeni& u = h.useky[i];
-            t.radek({u.odkud == u.kam ? Text("vstupu"_cz) : u.odkud, u.kam, text_cisla(u.vlaku),
-                     min(u.pridano), min(u.nahnano)});
+            std::vector<Text> bunky = {u.odkud == u.kam ? Text("vstupu"_cz) : u.odkud, u.kam,
+                                       text_cisla(u.vlaku), min(u.pridano), min(u.nahnano)};
+            if (s.vypravciho() != nullptr) {
+                const auto& jeho = s.vypravciho()->useky;
+                const auto v = std::find_if(jeho.begin(), jeho.end(), [&](const UsekZpozdeni& j) {
+                    return j.odkud == u.odkud && j.kam == u.kam;
+                });
+                bunky.push_back(min(v != jeho.end() ? v->pridano : 0));
+            }
+            t.radek(bunky);
         }
     }
     Tabulka t(html, "Vlaky, které ztratily nejvíc"_cz,
@@ -271,7 +336,8 @@ void kde_vzniklo(std::string& html, const HodnoceniSmeny& h) {
     }
 }
 
-void cekani_a_jine(std::string& html, const HodnoceniSmeny& h) {
+void cekani_a_jine(std::string& html, const Srovnani& s) {
+    const HodnoceniSmeny& h = s.vase();
     {
         Tabulka t(html, "Nejdelší čekání u návěstidel a proč"_cz,
                   {"vlak"_cz, "kde"_cz, "od"_cz, "jak dlouho"_cz, "proč"_cz});
@@ -284,20 +350,35 @@ void cekani_a_jine(std::string& html, const HodnoceniSmeny& h) {
             t.radek({druh_a_cislo(r.druh, r.cislo), Text(r.stav), r.kde, text_casu(r.od_s), r.duvod});
     }
     {
-        Tabulka t(html, "Mimořádné úkony"_cz, {"úkon"_cz, "kolikrát"_cz});
-        for (const PocetUkonu& u : h.ukony)
-            t.radek({Text(u.nazev), text_cisla(u.kolik)});
+        Tabulka t(html, "Mimořádné úkony"_cz, s.sloupce("úkon"_cz, "kolikrát"_cz));
+        for (std::size_t i = 0; i < h.ukony.size(); ++i)
+            s.radek(t, Text(h.ukony[i].nazev),
+                    [i](const HodnoceniSmeny& z) { return text_cisla(z.ukony[i].kolik); });
     }
-    Tabulka t(html, "Staniční přejezdy zavřené pro silnici"_cz,
-              {"přejezd"_cz, "kolikrát"_cz, "celkem"_cz, "nejdéle"_cz, "od"_cz});
-    for (const PrejezdSmeny& p : h.prejezdy)
-        t.radek({"km " + Text(p.jmeno), text_cisla(p.zavreni), doba(p.celkem_s), doba(p.nejdele_s),
-                 p.zavreni > 0 ? text_casu(p.nejdele_od_s) : Text("–"_cz)});
+    std::vector<TextPohled> sloupce = {"přejezd"_cz, "kolikrát"_cz, "celkem"_cz, "nejdéle"_cz, "od"_cz};
+    if (s.vypravciho() != nullptr)
+        sloupce.insert(sloupce.end(), {"výpravčí: celkem"_cz, "výpravčí: nejdéle"_cz});
+    Tabulka t(html, "Staniční přejezdy zavřené pro silnici"_cz, sloupce);
+    for (std::size_t i = 0; i < h.prejezdy.size(); ++i) {
+        const PrejezdSmeny& p = h.prejezdy[i];
+        std::vector<Text> bunky = {"km " + Text(p.jmeno), text_cisla(p.zavreni), doba(p.celkem_s),
+                                   doba(p.nejdele_s),
+                                   p.zavreni > 0 ? text_casu(p.nejdele_od_s) : Text("–"_cz)};
+        if (s.vypravciho() != nullptr) {
+            const PrejezdSmeny& v = s.vypravciho()->prejezdy[i];
+            bunky.insert(bunky.end(), {doba(v.celkem_s), doba(v.nejdele_s)});
+        }
+        t.radek(bunky);
+    }
 }
 
-// The lines on which something ran, each with the hours of the shift; a line that is a part of another one in
-// the page is left out.
-void nakresy(std::string& html, const HodnoceniSmeny& h) {
+constexpr std::string_view kOdNakresu = "<!-- od -->", kDoNakresu = "<!-- do -->";
+
+} // namespace
+
+// Each line has the hours of the shift; one that is a part of another one in the page is left out.
+std::string nakresy_hodnoceni(const HodnoceniSmeny& h) {
+    std::string html;
     const Koridory& k = koridory();
     SkladJizd sklad(k);
     for (const PohybVlaku& p : gtn_pohyby())
@@ -334,9 +415,8 @@ void nakresy(std::string& html, const HodnoceniSmeny& h) {
         cary.insert(cary.end(), plan.begin(), plan.end());
         html += svg_nakresu(nakresli_nakres(p, k, osa, cary), osa.nadpis);
     }
+    return html;
 }
-
-} // namespace
 
 std::vector<PrejezdSmeny> zavreni_prejezdu(std::span<const ZmenaPrejezdu> zmeny, std::int32_t ted) {
     std::vector<PrejezdSmeny> vse;
@@ -372,12 +452,16 @@ std::vector<PrejezdSmeny> zavreni_prejezdu(std::span<const ZmenaPrejezdu> zmeny,
 
 HodnoceniSmeny hodnoceni_smeny() {
     HodnoceniSmeny h;
+    h.den = orez(relief.lblDEN[0].text());
+    h.gvd = orez(relief.lblGVD[0].text());
     h.zprava = zprava_o_provozu();
     for (const JizdaVlaku& j : sledovani.jizdy) {
         if (j.mela_jet && j.objevena)
             h.prevzato += j.zpozdeni_vstup;
         if (j.mela_jet && j.stav == StavJizdy::doma && j.zpozdeni_konec <= kVcas_min)
             ++h.vcas;
+        if (j.mela_jet && j.stav == StavJizdy::jede)
+            h.ceka_dosud += j.nyni.trva_s / 60;
     }
     zpozdeni_po_trati(h);
     for (const UkonNavic& u : kUkonyNavic) {
@@ -387,11 +471,16 @@ HodnoceniSmeny hodnoceni_smeny() {
             });
         h.ukony.push_back({u.nazev, static_cast<int>(kolik)});
     }
+    h.ukony.push_back({"návraty v čase (F4)"_cz,
+                       static_cast<int>(std::count_if(ukony_smeny.ukony.begin(), ukony_smeny.ukony.end(),
+                                                      je_platny_navrat))});
     h.prejezdy = zavreni_prejezdu(gtn_prejezdy(), h.zprava.do_s);
     return h;
 }
 
-std::string html_hodnoceni(const HodnoceniSmeny& h, bool s_nakresy) {
+std::string html_hodnoceni(const HodnoceniSmeny& h, const HodnoceniSmeny* vypravci,
+                           std::string_view nakresy) {
+    const Srovnani s(h, vypravci);
     std::string html =
         "<!DOCTYPE html>\n<html lang=\"cs\"><head><meta charset=\"utf-8\"><title>" +
         u8("Hodnocení služby"_cz) +
@@ -399,14 +488,28 @@ std::string html_hodnoceni(const HodnoceniSmeny& h, bool s_nakresy) {
         " table { border-collapse: collapse; } td, th { padding: 3px 8px; } svg { display: block; "
         "margin: 24px 0; }</style></head><body>\n<h1>" +
         u8("Hodnocení služby"_cz) + "</h1>\n<p>" +
-        u8(Text(orez(relief.lblDEN[0].text())) + ", " + text_casu(h.zprava.od_s) + Text(" až "_cz) +
-           text_casu(h.zprava.do_s) + Text(", jízdní řád "_cz) + Text(orez(relief.lblGVD[0].text()))) +
+        u8(h.den + ", " + text_casu(h.zprava.od_s) + Text(" až "_cz) + text_casu(h.zprava.do_s) +
+           Text(", jízdní řád "_cz) + h.gvd) +
         "</p>\n";
-    souhrn(html, h);
-    podle_druhu(html, h);
-    kde_vzniklo(html, h);
-    cekani_a_jine(html, h);
-    if (s_nakresy)
-        nakresy(html, h);
+    if (vypravci != nullptr)
+        html +=
+            "<p>" +
+            u8("Vedle vaší služby stojí, co z týchž hodin udělal automatický výpravčí: týž začátek, tytéž "
+               "možnosti, totéž semeno náhody."_cz) +
+            "</p>\n";
+    souhrn(html, s);
+    podle_druhu(html, s);
+    kde_vzniklo(html, s);
+    cekani_a_jine(html, s);
+    html += kOdNakresu;
+    html += nakresy;
+    html += kDoNakresu;
     return html + "</body></html>\n";
+}
+
+std::string bez_nakresu(std::string_view html) {
+    const std::size_t od = html.find(kOdNakresu), po = html.rfind(kDoNakresu);
+    if (od == std::string_view::npos || po == std::string_view::npos || po < od)
+        return std::string(html);
+    return std::string(html.substr(0, od + kOdNakresu.size())) + std::string(html.substr(po));
 }

@@ -16,6 +16,7 @@
 #include <cstdint>
 #include <span>
 #include <string>
+#include <string_view>
 #include <vector>
 
 // From the departure at one place to that at the next, or to the arrival where the train ends.
@@ -43,13 +44,15 @@ struct PocetUkonu {
 };
 
 struct HodnoceniSmeny {
+    Text den, gvd; // as the desk shows them
     ZpravaOProvozu zprava;
     int vcas = 0;                               // brought home at most five minutes late
     int prevzato = 0, pridano = 0, nahnano = 0; // minutes of all trains
-    std::vector<UsekZpozdeni> useky;            // where most arose first
-    std::vector<VlakSmeny> vlaky;               // that lost time, the most first
-    std::vector<PocetUkonu> ukony;              // what is done beyond the ordinary
-    std::vector<PrejezdSmeny> prejezdy;         // of the stations
+    int ceka_dosud = 0; // minutes that those who stand now have stood: no departure has made a delay of them
+    std::vector<UsekZpozdeni> useky;    // where most arose first
+    std::vector<VlakSmeny> vlaky;       // that lost time, the most first
+    std::vector<PocetUkonu> ukony;      // what is done beyond the ordinary
+    std::vector<PrejezdSmeny> prejezdy; // of the stations
 };
 
 // --- at any time, without change
@@ -57,5 +60,11 @@ struct HodnoceniSmeny {
 HodnoceniSmeny hodnoceni_smeny();
 // Closings of the station crossings by their changes, up to the second `ted`.
 std::vector<PrejezdSmeny> zavreni_prejezdu(std::span<const ZmenaPrejezdu> zmeny, std::int32_t ted);
-// A page of HTML, UTF-8; with the diagrams of the lines on which trains ran, for a browser.
-std::string html_hodnoceni(const HodnoceniSmeny& h, bool s_nakresy);
+// The diagrams of the lines on which trains ran, as a part of a page for a browser, UTF-8.
+std::string nakresy_hodnoceni(const HodnoceniSmeny& h);
+// A page of HTML, UTF-8. `vypravci`: what the automatic dispatcher made of the same hours, for a column
+// beside it; nullptr none. `nakresy`: diagrams to stand at its end.
+std::string html_hodnoceni(const HodnoceniSmeny& h, const HodnoceniSmeny* vypravci = nullptr,
+                           std::string_view nakresy = {});
+// A page without its diagrams.
+std::string bez_nakresu(std::string_view html);

@@ -10,6 +10,7 @@
 #include "app/smena.h"
 #include "app/zprava_o_provozu.h"
 #include "cesty/ulozena_makra.h"
+#include "davka/hodnoceni.h"
 #include "davka/prikazy.h"
 #include "davka/skript.h"
 #include "davka/virtualni_svet.h"
@@ -43,16 +44,20 @@ void nova_davka(const VolbyDavky& volby) {
     if (volby.kontrola)
         planovac.po_kroku = zkontroluj_stav;
     platforma = virtualni_platforma();
-    pise_se_na_disk(true);
+    pise_se_na_disk(!volby.jen_v_pameti);
+    gtn_do_souboru(!volby.jen_v_pameti);
     podloz_makra(std::nullopt);
     // Scripts share a folder with scripts, as the tests of one installation do, but never with a desk.
-    platforma.bezi_jina_instance = [] { return !zamkni_slozku(simulace.cesta_aplikace, Zamek::s_jinymi); };
+    platforma.bezi_jina_instance = [sama = volby.jen_v_pameti] {
+        return !sama && !zamkni_slozku(simulace.cesta_aplikace, Zamek::s_jinymi);
+    };
     nova_simulace();
     zasej_nahodu(svet.semeno);
 }
 
 void napoveda_programu(std::ostream& kam) {
     kam << "tesk-davka [--slozka SLOZKA] [--semeno N] [--kontrola] [--vystup SOUBOR] SKRIPT\n"
+           "tesk-davka [--slozka SLOZKA] [--vystup SOUBOR] --hodnoceni ZAZNAM\n"
            "\n"
            "Provede skript operátora bez obrazovky, ve virtuálním čase, a na každý výpis odpoví\n"
            "jedním řádkem JSON. SKRIPT je soubor, nebo - pro standardní vstup.\n"
@@ -61,6 +66,8 @@ void napoveda_programu(std::ostream& kam) {
            "  --semeno N        semeno náhody (bez volby 1)\n"
            "  --kontrola        po každém kroku časovače zkontroluje stav simulace\n"
            "  --vystup SOUBOR   výpisy do souboru místo na standardní výstup\n"
+           "  --hodnoceni ZAZNAM  přehraje záznam směny, nechá tytéž hodiny sloužit automatického\n"
+           "                    výpravčího a napíše stránku HTML, která obojí hodnotí vedle sebe\n"
            "\n"
            "Návratový kód: 0 v pořádku, 1 neplatí over, 2 chyba skriptu, 3 neplatí kontrola stavu,\n"
            "4 simulace skončila sama.\n"
@@ -73,13 +80,27 @@ void napoveda_programu(std::ostream& kam) {
 // What the words behind the program's name say.
 struct Argumenty {
     VolbyDavky volby;
-    std::optional<std::string> skript, vystup;
+    std::optional<std::string> skript, vystup, hodnoceni;
     bool pomoc = false;
 };
 
+// The next line of a script; false behind its end. No operator writes one as long as this.
+bool cti_radek(std::istream& skript, std::string& radek) {
+    constexpr std::size_t kNejdelsi_B = 1'000'000;
+    radek.clear();
+    for (int znak = skript.get(); znak != std::istream::traits_type::eof(); znak = skript.get()) {
+        if (znak == '\n')
+            return true;
+        if (radek.size() == kNejdelsi_B)
+            chyba_skriptu("další řádek je delší než milion bajtů: to není skript");
+        radek += static_cast<char>(znak);
+    }
+    return !radek.empty();
+}
+
 // The options that have a value.
 bool ma_hodnotu(std::string_view volba) {
-    return volba == "--slozka" || volba == "--vystup" || volba == "--semeno";
+    return volba == "--slozka" || volba == "--vystup" || volba == "--semeno" || volba == "--hodnoceni";
 }
 
 void nastav_volbu(Argumenty& a, std::string_view volba, const std::string& hodnota) {
@@ -87,6 +108,8 @@ void nastav_volbu(Argumenty& a, std::string_view volba, const std::string& hodno
         a.volby.slozka = hodnota;
     } else if (volba == "--vystup") {
         a.vystup = hodnota;
+    } else if (volba == "--hodnoceni") {
+        a.hodnoceni = hodnota;
     } else {
         const auto semeno = cele_cislo(hodnota, 0, std::numeric_limits<std::int64_t>::max());
         if (!semeno)
@@ -123,7 +146,11 @@ Argumenty precti_argumenty(const std::vector<std::string>& slova, const std::str
     return a;
 }
 
-int spust_skript(const VolbyDavky& volby, const std::string& skript, std::ostream& vystup) {
+int spust_skript(const Argumenty& a, std::ostream& vystup) {
+    if (a.hodnoceni)
+        return napis_hodnoceni(a.volby, *a.hodnoceni, vystup, std::cerr);
+    const VolbyDavky& volby = a.volby;
+    const std::string& skript = *a.skript;
     if (skript == "-") {
         VolbyDavky po_radcich = volby;
         po_radcich.po_radcich = true;
@@ -143,7 +170,7 @@ int spust_s_vystupem(const Argumenty& a) {
             chyba_skriptu("do souboru " + v_uvozovkach(*a.vystup) + " nelze psát");
     }
     std::ostream& vystup = a.vystup ? do_souboru : std::cout;
-    const int kod = spust_skript(a.volby, *a.skript, vystup);
+    const int kod = spust_skript(a, vystup);
     if (!vystup)
         chyba_skriptu("výstup nelze zapsat");
     return kod;
@@ -173,7 +200,7 @@ int spust_davku(const VolbyDavky& volby, std::istream& skript, std::ostream& vys
     try {
         nastav_slozku(volby.slozka);
         std::string radek;
-        while (kod != navrat::chyba_skriptu && std::getline(skript, radek)) {
+        while (kod != navrat::chyba_skriptu && cti_radek(skript, radek)) {
             try {
                 proved_radek(beh, radek, kod != navrat::v_poradku);
             } catch (const KonecProgramu& konec) {
@@ -191,10 +218,13 @@ int spust_davku(const VolbyDavky& volby, std::istream& skript, std::ostream& vys
         kod = navrat::chyba_skriptu;
         chyba_na_radku(chyba.proc);
     }
+    if (volby.na_konci)
+        volby.na_konci();
     zapis_zpravu_sluzby();
     zapomen_smenu();
     gtn_zavri();
     pise_se_na_disk(true);
+    gtn_do_souboru(true);
     podloz_makra(std::nullopt);
     ukony_smeny.proved_radek = nullptr;
     vystup.flush();
@@ -204,7 +234,9 @@ int spust_davku(const VolbyDavky& volby, std::istream& skript, std::ostream& vys
 int hlavni_davky(const std::vector<std::string>& argumenty, const std::string& vychozi_slozka) {
     try {
         const Argumenty a = precti_argumenty(argumenty, vychozi_slozka);
-        if (a.pomoc || !a.skript) {
+        if (a.skript && a.hodnoceni)
+            chyba_skriptu("s volbou --hodnoceni se skript nepíše, přebývá " + v_uvozovkach(*a.skript));
+        if (a.pomoc || (!a.skript && !a.hodnoceni)) {
             napoveda_programu(a.pomoc ? std::cout : std::cerr);
             return a.pomoc ? navrat::v_poradku : navrat::chyba_skriptu;
         }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <iosfwd>
 #include <string>
 #include <vector>
@@ -17,8 +18,10 @@ inline constexpr int konec_simulace = 4;
 struct VolbyDavky {
     std::string slozka; // the program's folder, UTF-8
     std::uint64_t semeno = 1;
-    bool kontrola = false;   // the check of the state after each tick
-    bool po_radcich = false; // the output is flushed after each line: another program reads it
+    bool kontrola = false;            // the check of the state after each tick
+    bool po_radcich = false;          // the output is flushed after each line: another program reads it
+    bool jen_v_pameti = false;        // nothing is left on the disk, and a desk may run in the folder
+    std::function<void()> na_konci{}; // when the script is over and its simulation still stands
 };
 
 // Runs a script in a fresh simulation and answers with the exit status. Objects go to `vystup`, what is

@@ -409,6 +409,7 @@ constexpr std::array kPrikazy = {
     PopisPrikazu{"vypis", 1, 2, Kdy::kdykoli, true, "vypis DRUH CISLO | vypis TABULKA [RADEK]", prikaz_vypis},
     PopisPrikazu{"over", 2, kMnoho, Kdy::kdykoli, true, "over CO [CISLO] POLE=HODNOTA ...", prikaz_over},
     PopisPrikazu{"zprava_o_provozu", 1, 1, Kdy::po_startu, true, "zprava_o_provozu SOUBOR", prikaz_zprava},
+    PopisPrikazu{"hodnoceni", 1, 1, Kdy::po_startu, true, "hodnoceni SOUBOR", prikaz_hodnoceni},
     PopisPrikazu{"nastav", 2, kMnoho, Kdy::kdykoli, false, "nastav CO [CISLO] POLE=HODNOTA ...",
                  prikaz_nastav},
 };

@@ -3,6 +3,7 @@
 
 #include "app/cas.h"
 #include "app/historie.h"
+#include "app/hodnoceni.h"
 #include "app/prestavky.h"
 #include "app/smena.h"
 #include "cesty/ulozena_makra.h"
@@ -120,6 +121,11 @@ void prikaz_vraceno(BehSkriptu&, Slova slova) {
 
 void prikaz_zaznam(BehSkriptu&, Slova slova) {
     zapis_vedle_skriptu(slova[0], zaznam_smeny());
+}
+
+void prikaz_hodnoceni(BehSkriptu&, Slova slova) {
+    const HodnoceniSmeny h = hodnoceni_smeny();
+    zapis_vedle_skriptu(slova[0], html_hodnoceni(h, nullptr, nakresy_hodnoceni(h)));
 }
 
 void prikaz_zpet(BehSkriptu&, Slova slova) {

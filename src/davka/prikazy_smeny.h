@@ -17,6 +17,7 @@ void prikaz_vada_deniku(BehSkriptu& beh, Slova slova);
 void prikaz_vraceno(BehSkriptu& beh, Slova slova);
 // The record so far, and time.
 void prikaz_zaznam(BehSkriptu& beh, Slova slova);
+void prikaz_hodnoceni(BehSkriptu& beh, Slova slova);
 void prikaz_zpet(BehSkriptu& beh, Slova slova);
 void prikaz_zpet_na(BehSkriptu& beh, Slova slova);
 void prikaz_zpet_zrus(BehSkriptu& beh, Slova slova);

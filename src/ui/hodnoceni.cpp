@@ -2,29 +2,37 @@
 #include "ui/hodnoceni.h"
 
 #include "app/hodnoceni.h"
+#include "app/simulace.h"
 #include "app/smena.h"
 #include "ui/brana.h"
 #include "ui/pismo.h"
 #include "zaklad/soubory.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileDialog>
+#include <QFileInfo>
 #include <QHBoxLayout>
 #include <QKeyEvent>
+#include <QLabel>
 #include <QMessageBox>
 #include <QPointer>
+#include <QProcess>
 #include <QPushButton>
+#include <QTemporaryDir>
 #include <QTextBrowser>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <memory>
 
 namespace {
 
 class StrankaHodnoceni : public QWidget {
 public:
     explicit StrankaHodnoceni(QWidget* stul);
+    ~StrankaHodnoceni() override;
     void obnov();
 
 protected:
@@ -33,9 +41,19 @@ protected:
 
 private:
     void uloz();
+    void srovnej();
+    void nech_srovnani();
+    void srovnano(int kod);
+    void ukaz_beh(const QString& vzkaz);
 
     QWidget* stul;
     QTextBrowser* text;
+    QLabel* stav;
+    QPushButton* srovnat;
+    // The dispatcher serves the same hours in a process of its own: the desk goes on meanwhile.
+    QProcess vypravci;
+    std::unique_ptr<QTemporaryDir> slozka;
+    std::string srovnani; // the page with both; empty while it shows the shift alone
 };
 
 QPointer<StrankaHodnoceni> otevrena;
@@ -45,15 +63,26 @@ StrankaHodnoceni::StrankaHodnoceni(QWidget* rodic) : QWidget(rodic, Qt::Window),
     setAttribute(Qt::WA_DeleteOnClose);
     text = new QTextBrowser;
     text->setOpenLinks(false);
+    stav = new QLabel;
+    stav->setWordWrap(true);
     auto* znovu = new QPushButton(QStringLiteral("&Obnovit [F5]"));
+    srovnat = new QPushButton;
+    srovnat->setToolTip(
+        QStringLiteral("Tytéž hodiny odslouží automatický výpravčí a jeho výsledek se ukáže vedle"));
     auto* ulozit = new QPushButton(QStringLiteral("&Uložit HTML s nákresy…"));
     auto* zavrit = new QPushButton(QStringLiteral("&Zavřít [Esc]"));
     connect(znovu, &QPushButton::clicked, this, &StrankaHodnoceni::obnov);
+    connect(srovnat, &QPushButton::clicked, this, &StrankaHodnoceni::srovnej);
     connect(ulozit, &QPushButton::clicked, this, &StrankaHodnoceni::uloz);
     connect(zavrit, &QPushButton::clicked, this, &QWidget::close);
+    connect(&vypravci, &QProcess::finished, this, &StrankaHodnoceni::srovnano);
+    connect(&vypravci, &QProcess::errorOccurred, this, [this](QProcess::ProcessError vada) {
+        if (vada == QProcess::FailedToStart) // no other fault comes without an end
+            srovnano(-1);
+    });
     auto* dole = new QHBoxLayout;
-    dole->addStretch(1);
-    for (QWidget* w : {znovu, ulozit, zavrit})
+    dole->addWidget(stav, 1);
+    for (QWidget* w : {znovu, srovnat, ulozit, zavrit})
         dole->addWidget(w);
     auto* cele = new QVBoxLayout(this);
     cele->addWidget(text, 1);
@@ -69,18 +98,88 @@ StrankaHodnoceni::StrankaHodnoceni(QWidget* rodic) : QWidget(rodic, Qt::Window),
     text->setFocus();
 }
 
-void StrankaHodnoceni::obnov() {
-    v_jadre([this] { text->setHtml(QString::fromStdString(html_hodnoceni(hodnoceni_smeny(), false))); });
+StrankaHodnoceni::~StrankaHodnoceni() {
+    nech_srovnani();
 }
 
+void StrankaHodnoceni::ukaz_beh(const QString& vzkaz) {
+    stav->setText(vzkaz);
+    srovnat->setText(vypravci.state() == QProcess::NotRunning ? QStringLiteral("&Srovnat s výpravčím")
+                                                              : QStringLiteral("Ne&srovnávat"));
+}
+
+void StrankaHodnoceni::obnov() {
+    nech_srovnani();
+    srovnani.clear();
+    ukaz_beh({});
+    v_jadre([this] { text->setHtml(QString::fromStdString(html_hodnoceni(hodnoceni_smeny()))); });
+}
+
+// Nobody waits for it any more.
+void StrankaHodnoceni::nech_srovnani() {
+    if (vypravci.state() == QProcess::NotRunning)
+        return;
+    const QSignalBlocker bez_ozveny(vypravci);
+    vypravci.kill();
+    vypravci.waitForFinished();
+}
+
+void StrankaHodnoceni::srovnej() {
+    if (vypravci.state() != QProcess::NotRunning) {
+        nech_srovnani();
+        ukaz_beh({});
+        return;
+    }
+    const QString program = QCoreApplication::applicationDirPath() + QStringLiteral("/tesk-davka");
+    if (!QFileInfo(program).isExecutable()) {
+        ukaz_beh(QStringLiteral("Srovnat nelze: v instalaci chybí tesk-davka."));
+        return;
+    }
+    slozka = std::make_unique<QTemporaryDir>();
+    std::string zaznam;
+    QString instalace;
+    v_jadre([&] {
+        zaznam = zaznam_smeny();
+        instalace = QString::fromStdString(cesta_k_zapisu(simulace.cesta_aplikace));
+    });
+    QFile soubor(slozka->filePath(QStringLiteral("smena.tesk")));
+    const QByteArray obsah = QByteArray::fromStdString(zaznam);
+    if (obsah.isEmpty() || !soubor.open(QIODevice::WriteOnly) || soubor.write(obsah) != obsah.size() ||
+        !soubor.flush()) {
+        ukaz_beh(QStringLiteral("Srovnat nelze: záznam směny nejde předat."));
+        return;
+    }
+    vypravci.start(program, {QStringLiteral("--slozka"), instalace, QStringLiteral("--vystup"),
+                             slozka->filePath(QStringLiteral("hodnoceni.html")),
+                             QStringLiteral("--hodnoceni"), soubor.fileName()});
+    ukaz_beh(QStringLiteral("Výpravčí slouží tytéž hodiny…"));
+}
+
+void StrankaHodnoceni::srovnano(int kod) {
+    QFile soubor(slozka->filePath(QStringLiteral("hodnoceni.html")));
+    if (kod == 0 && soubor.open(QIODevice::ReadOnly))
+        srovnani = soubor.readAll().toStdString();
+    const bool je = kod == 0 && !srovnani.empty();
+    const QString proc = QString::fromUtf8(vypravci.readAllStandardError()).trimmed().section(u'\n', 0, 0);
+    ukaz_beh(je ? QString() : QStringLiteral("Srovnání se nepodařilo. %1").arg(proc));
+    if (je)
+        text->setHtml(QString::fromStdString(bez_nakresu(srovnani)));
+    slozka.reset();
+}
+
+// What the page shows is what is saved.
 void StrankaHodnoceni::uloz() {
     const QString cesta = QFileDialog::getSaveFileName(this, QStringLiteral("Uložit hodnocení služby"),
                                                        QDir::homePath() + QStringLiteral("/hodnoceni.html"),
                                                        QStringLiteral("Stránka HTML (*.html)"));
     if (cesta.isEmpty())
         return;
-    std::string html;
-    v_jadre([&] { html = html_hodnoceni(hodnoceni_smeny(), true); });
+    std::string html = srovnani;
+    if (html.empty())
+        v_jadre([&] {
+            const HodnoceniSmeny h = hodnoceni_smeny();
+            html = html_hodnoceni(h, nullptr, nakresy_hodnoceni(h));
+        });
     QFile soubor(cesta);
     const auto delka = static_cast<qint64>(html.size());
     if (!soubor.open(QIODevice::WriteOnly | QIODevice::Truncate) ||
@@ -123,12 +222,9 @@ void zapis_hodnoceni_na_konci() {
     const std::size_t pripona = smena.rfind('.');
     if (!sledovani.bezi || smena.empty() || pripona == Text::npos)
         return;
-    const Text slozka = smena.substr(0, smena.rfind('\\') + 1);
-    for (const Text& stranka : soubory_slozky(slozka, "*.html")) // of shifts whose record has gone
-        if (!soubor_existuje(slozka + stranka.substr(0, stranka.rfind('.')) + smena.substr(pripona)))
-            smaz_soubor(slozka + stranka);
     try {
-        const std::string html = html_hodnoceni(hodnoceni_smeny(), true);
+        const HodnoceniSmeny h = hodnoceni_smeny();
+        const std::string html = html_hodnoceni(h, nullptr, nakresy_hodnoceni(h));
         zapis_soubor(smena.substr(0, pripona) + ".html", Bajty(html.begin(), html.end()));
     } catch (const BehovaChyba&) { // a disk that takes no page stops no end
     }

@@ -98,7 +98,40 @@ TEST_F(Hodnoceni, TimeBeforeTheTimetableMakesNothingGood) {
 TEST_F(Hodnoceni, TrainThatStandsStillHasNotLeftYet) {
     pobyt(kLhotin, 475, 480);
     pobyt(kHrabov, 484, -1);
+    sledovani.jizdy[0].nyni.trva_s = 44 * 60;
     EXPECT_EQ(hodnot().pridano, 0);
+    EXPECT_EQ(hodnot().ceka_dosud, 44) << "and yet it is not forgotten";
+}
+
+TEST_F(Hodnoceni, DispatcherStandsInAColumnBesideTheShift) {
+    pobyt(kLhotin, 475, 480);
+    pobyt(kHrabov, 484, 493);
+    const HodnoceniSmeny vase = hodnot();
+    HodnoceniSmeny jeho = vase;
+    jeho.pridano = 3;
+    jeho.useky[0].pridano = 3;
+    const std::string sama = html_hodnoceni(vase), obe = html_hodnoceni(vase, &jeho);
+    EXPECT_EQ(sama.find("výpravčí"), std::string::npos);
+    EXPECT_NE(obe.find("<td>zpoždění, které vzniklo zde</td><td>7 min</td><td>3 min</td>"), std::string::npos)
+        << obe;
+    EXPECT_NE(obe.find("<td>7 min</td><td>0 min</td><td>3 min</td></tr>"), std::string::npos) << "by places";
+    EXPECT_NE(sama.find("<tr><td>žádné</td></tr>"), std::string::npos) << "nobody waits";
+    const auto kolik = [](const std::string& html, const char* co) {
+        std::size_t n = 0;
+        for (std::size_t i = 0; (i = html.find(co, i)) != std::string::npos; ++i)
+            ++n;
+        return n;
+    };
+    EXPECT_EQ(kolik(obe, "<table"), kolik(obe, "</table>"));
+    EXPECT_EQ(kolik(obe, "<tr>"), kolik(obe, "</tr>"));
+}
+
+TEST_F(Hodnoceni, GoingBackInTimeIsCountedUnlessItWasUndone) {
+    for (const char* text : {"8:10:00 8:05:00", "8:12:00 8:11:00 zruseno", "8:20:00 8:00:00"})
+        ukony_smeny.ukony.push_back({.co = DruhUkonu::vraceno, .text = text});
+    const HodnoceniSmeny h = hodnot();
+    EXPECT_EQ(h.ukony.back().nazev, "návraty v čase (F4)"_cz);
+    EXPECT_EQ(h.ukony.back().kolik, 2);
 }
 
 TEST_F(Hodnoceni, ActsBeyondTheOrdinaryAreCountedFromTheShift) {
@@ -149,7 +182,9 @@ TEST_F(Hodnoceni, PageTellsTheTrainsAndHasTheDiagramsWhenAsked) {
     pobyt(kHrabov, 484, 493);
     pobyt(kHlavni, 497, -1);
     const HodnoceniSmeny h = hodnot();
-    const std::string bez = html_hodnoceni(h, false), s_nakresy = html_hodnoceni(h, true);
+    const std::string s_nakresy = html_hodnoceni(h, nullptr, nakresy_hodnoceni(h)),
+                      bez = bez_nakresu(s_nakresy);
+    EXPECT_EQ(bez, html_hodnoceni(h));
     for (const char* co :
          {"Hodnocení služby", "Dochvilnost", "Os 14707", "Lhotín – Vyšní Hrabov", "km 140,310"})
         EXPECT_NE(bez.find(co), std::string::npos) << co;

@@ -593,6 +593,12 @@ TEST_F(Davka, PipeIsAnsweredLineByLine) {
     EXPECT_GT(stav[2], stav[1]);
 }
 
+TEST_F(Davka, LineThatNobodyWritesIsNoScript) {
+    const Vysledek v = proved("vypis menu\n" + std::string(1'100'000, 'a') + "\n");
+    EXPECT_EQ(v.kod, navrat::chyba_skriptu);
+    EXPECT_NE(v.chyby.find("milion"), std::string::npos) << v.chyby;
+}
+
 // --- the program
 
 namespace {
