@@ -106,7 +106,7 @@ TEST_P(MutaceKolejiste, StatementsInAnotherOrder) {
 }
 
 TEST_P(MutaceKolejiste, NumberThatIsAnother) {
-    std::mt19937 nahoda(static_cast<unsigned>(GetParam()));
+    std::mt19937 los(static_cast<unsigned>(GetParam()));
     kazdou([&](std::vector<std::string>& radky, std::size_t i) {
         std::string& r = radky[i];
         std::vector<std::size_t> cislice;
@@ -114,26 +114,26 @@ TEST_P(MutaceKolejiste, NumberThatIsAnother) {
             if (r[k] >= '0' && r[k] <= '9')
                 cislice.push_back(k);
         if (!cislice.empty())
-            r[cislice[nahoda() % cislice.size()]] = static_cast<char>('0' + nahoda() % 10);
+            r[cislice[los() % cislice.size()]] = static_cast<char>('0' + los() % 10);
     });
 }
 
 TEST_P(MutaceKolejiste, NumberBeyondAllMeasure) {
     const char* const kolik[] = {"-1", "1000", "99999999999", "32768", "0"};
-    std::mt19937 nahoda(static_cast<unsigned>(GetParam()) + 1);
+    std::mt19937 los(static_cast<unsigned>(GetParam()) + 1);
     kazdou([&](std::vector<std::string>& radky, std::size_t i) {
         std::string& r = radky[i];
         const std::size_t od = r.find_first_of("0123456789");
         if (od != std::string::npos) {
             const std::size_t po = r.find_first_not_of("0123456789", od);
-            r.replace(od, (po == std::string::npos ? r.size() : po) - od, kolik[nahoda() % std::size(kolik)]);
+            r.replace(od, (po == std::string::npos ? r.size() : po) - od, kolik[los() % std::size(kolik)]);
         }
     });
 }
 
 // Reading alone is quick: every statement, several times.
 TEST_P(MutaceKolejiste, BytesThatAreOthers) {
-    std::mt19937 nahoda(static_cast<unsigned>(GetParam()) + 2);
+    std::mt19937 los(static_cast<unsigned>(GetParam()) + 2);
     const auto zkus = [&](std::string text) {
         std::vector<ZdrojKolejiste> jeden = {{zdroje.vse[GetParam()].first, std::move(text) + "\n"}};
         precti_sam(jeden);
@@ -144,9 +144,9 @@ TEST_P(MutaceKolejiste, BytesThatAreOthers) {
             continue;
         for (int krat = 0; krat < 4; ++krat) {
             std::string jiny = r;
-            jiny[nahoda() % jiny.size()] = static_cast<char>(nahoda() % 256);
+            jiny[los() % jiny.size()] = static_cast<char>(los() % 256);
             zkus("stanice ABC \"A\"\n" + jiny);
-            zkus(jiny.substr(0, nahoda() % (jiny.size() + 1))); // cut anywhere, and no station before it
+            zkus(jiny.substr(0, los() % (jiny.size() + 1))); // cut anywhere, and no station before it
         }
     }
 }
