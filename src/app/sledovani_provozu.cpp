@@ -233,6 +233,13 @@ void ukonci_zaznam(int v, const StopaVlaku& s) {
             return;
         }
     }
+    // A locomotive that had the number still is no more, perhaps in the very second in which its train has
+    // left: what becomes of the train is seen when its own record is looked at.
+    if (j.vlak >= 0 && j.vlak != v) {
+        const StopaVlaku& vlastni = sledovani.stopy[static_cast<std::size_t>(j.vlak)];
+        if (vlastni.jizda == s.jizda && vlastni.cislo == s.cislo)
+            return;
+    }
     if (const int jiny = jiny_s_cislem(s.cislo, v); jiny >= 0) {
         j.vlak = jiny;
         return;

@@ -227,11 +227,18 @@ bool je_pro_jineho(const Cesta& c, int v) {
     });
 }
 
+// Commanded, and a switch of it taken since, by NOUZ or a train. One that was locked is never cleared again:
+// it can only be cancelled.
+bool je_ztracena(const Cesta& c) {
+    return c.prehozena && !c.Postavena && c.Umazat == 0 && c.cas_ruseni < 0 && ted_s() > c.Kdy_prehoz &&
+           ztracena_vyhybka(c) != kZadny;
+}
+
 // A train route that is queued or stands, from the track on in that sense, and nobody has entered it.
 const Cesta* dalsi_cesta(int prvek, bool smer, int v) {
     for (const Cesta& c : cesty) {
         if (c.zacatek < 0 || !c.VC || c.Umazat != 0 || c.cas_ruseni >= 0 || c.prvky.size() < 2 ||
-            c.prvky.front().prvek != prvek || (c.Vlak >= 0 && c.Vlak != v))
+            c.prvky.front().prvek != prvek || (c.Vlak >= 0 && c.Vlak != v) || (c.Provedena && je_ztracena(c)))
             continue;
         const planovani::Trasa* t = trasa_cesty(c);
         if ((t == nullptr || t->smer == smer) && !je_pro_jineho(c, v))
@@ -851,7 +858,7 @@ void zrus_nepotrebne() {
         // be waiting for this very route to be gone.
         const bool nemuze = prijede && w->muze_jet && w->rychlost == 0 && ted_s() - o.cas_s > kNehybe_s &&
                             kolej_cela(*w) == prvni_prvek(c);
-        if (prijede && !nemuze)
+        if (prijede && !nemuze && !je_ztracena(c))
             continue;
         if (povel_navestidla(o.zacatek, "miRC")) {
             Text veta("Ruší se cesta od návěstidla "_cz);
@@ -944,7 +951,7 @@ void uvolni_z_cesty(const ZaznamCesty& z) {
     for (const Cesta& c : cesty) {
         const bool stara = c.cas_stavby >= 0 && ted_s() - c.cas_stavby > kNepotrebna_s;
         if (c.zacatek < 0 || c.Umazat != 0 || c.Vlak != kZadny || c.cas_ruseni >= 0 || !stara ||
-            ma_uzivatele(c))
+            (ma_uzivatele(c) && !je_ztracena(c)))
             continue;
         const bool prekazi = std::any_of(c.prvky.begin() + 1, c.prvky.end(), [&](const PrvekCesty& p) {
             return std::any_of(z.prvky.begin() + 1, z.prvky.end(),
@@ -1216,6 +1223,7 @@ void krok_jizd() {
     if (ted >= dalsi_vyluky_s || vyluky_se_zmenily()) {
         obnov_vyluky();
         uklid_rezervace();
+        vypravci::uklid_cekani();
         uklid = true;
         dalsi_vyluky_s = ted + 30;
     }

@@ -8,6 +8,7 @@
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
 #include "cesty/nova_cesta.h"
+#include "desk/hlaseni.h"
 #include "gvd/druhy_vlaku.h"
 #include "gvd/gvd.h"
 #include "jizda/na_koleji.h"
@@ -40,10 +41,11 @@ constexpr int kUrcena_s = 15 * 60;  // so long a locomotive stays chosen for its
 constexpr int kOpustena_s = 4 * 60; // a route that its movement has not taken until then is called off
 constexpr int kObhlidka_s = 2;      // between two looks
 constexpr int kNastup_s = 15 * 60;  // before its departure a set goes to its platform; earlier trains have it
-constexpr int kNajdiJinou_s = 7 * 60;  // before its departure a set takes another platform for the one taken
-constexpr int kVystup_s = 90;          // the passengers of a train that ends get off,
-constexpr int kVykladka_s = 10 * 60;   // and the bags out of a van
-constexpr int kNaleha_s = 8 * 60;      // who has waited so long goes before trains that are only expected
+constexpr int kPrijedePozde_s = 5 * 60; // a train waits so long for the set that is to become it
+constexpr int kNajdiJinou_s = 7 * 60;   // before its departure a set takes another platform for the one taken
+constexpr int kVystup_s = 90;           // the passengers of a train that ends get off,
+constexpr int kVykladka_s = 10 * 60;    // and the bags out of a van
+constexpr int kNaleha_s = 8 * 60;       // who has waited so long goes before trains that are only expected
 constexpr int kVyckavani_s = 4 * 60;   // before its departure a train gives up waiting for another locomotive
 constexpr int kNahrada_s = 9 * 60;     // so long it waits for the series that is planned
 constexpr int kNedorazila_s = 12 * 60; // and behind it one that another locomotive was to reach
@@ -52,7 +54,7 @@ constexpr int kStrojuVOdstavu = 3;     // locomotives without a train may stand 
 constexpr int kOdjezdPovelem_s = 60;   // before its time a train is given the order to leave
 constexpr int kPretahPozde_s =
     10 * 60; // a train later than that keeps its locomotive where the change takes long,
-constexpr int kPretahKonec_s = 25 * 60; // and gives up a change that was begun
+constexpr int kPretahKonec_s = 12 * 60; // and gives up a change that was begun
 constexpr int kPretah_s =
     4 * 60; // for which a section before the station is free for a set that changes there
 constexpr double kPosun_ms = 7.0; // metres a second
@@ -89,6 +91,7 @@ struct Zadost {
     bool dvojice = false; // two of them
     int odjezd_s = 0;     // until its departure by the timetable; negative: late
     int stroj = kZadny;   // record that comes
+    bool hledano = false; // one was looked for in this look, and not only among those that go already
 };
 std::vector<Zadost> zadosti;
 
@@ -280,7 +283,7 @@ Posun posun_na(int v, int kam, Strana strana, int ke, bool naleha) {
     const int e = kolej_cela(t);
     if (e == kam && strana == Strana::libovolna)
         return Posun::na_miste;
-    UkolPosunu ukol{e, t.delka, true, true, kam, strana};
+    UkolPosunu ukol{e, t.delka, true, true, kam, strana, v};
     if (cely_na_koleji(t)) {
         ukol.smi_vlevo = soused(v, e, Strana::leva) == kZadny;
         ukol.smi_vpravo = soused(v, e, Strana::prava) == kZadny;
@@ -334,11 +337,14 @@ Posun posun_na(int v, int kam, Strana strana, int ke, bool naleha) {
 
 // --- locomotives for trains
 
+// Until the departure by the timetable; negative: late. No train waits for half a day: one that a delay has
+// brought past its hours in the night carries the times of the next day, and is late.
 int odjezd_za_s(const Vlak& t) {
     const auto i = static_cast<std::size_t>(std::max<int>(t.stanice_index, 0));
     if (i >= t.zastavky.size() || t.zastavky[i].odjezd < 0)
         return std::numeric_limits<int>::max() / 2;
-    return (t.zastavky[i].odjezd - cas_min()) * 60 - cas_hodin() % 60;
+    const int za_min = t.zastavky[i].odjezd - cas_min();
+    return (za_min > kDen_min / 2 ? za_min - kDen_min : za_min) * 60 - cas_hodin() % 60;
 }
 
 int stanice_stani(const Vlak& t) {
@@ -359,6 +365,12 @@ bool ma_celo(const Vlak& t) {
 bool stoji_vlak(int v) {
     const Vlak& t = vlak_c(v);
     return t.cislo > 0 && !t.posun && !t.muze_jet && cely_na_koleji(t);
+}
+
+// Its departure is over, and nothing is there to draw it.
+bool stoji_bez_lokomotivy(int v) {
+    const Vlak& t = vlak_c(v);
+    return t.cislo > 0 && !t.posun && t.muze_jet && cely_na_koleji(t) && !ma_loko(t);
 }
 
 void pozadej(int v) {
@@ -418,7 +430,7 @@ bool je_u_vlaku(int stroj, const Zadost& z) {
 UkolPosunu ukol_stroje(int stroj, const Zadost& z) {
     const Vlak& s = vlak_c(stroj);
     const int e = kolej_cela(s);
-    UkolPosunu u{e, s.delka, true, true, z.kolej, z.strana};
+    UkolPosunu u{e, s.delka, true, true, z.kolej, z.strana, stroj};
     if (cely_na_koleji(s)) {
         u.smi_vlevo = soused(stroj, e, Strana::leva) == kZadny;
         u.smi_vpravo = soused(stroj, e, Strana::prava) == kZadny;
@@ -451,8 +463,10 @@ void pozadej_na_pretahu(int v) {
 void prirad_stroje() {
     std::stable_sort(zadosti.begin(), zadosti.end(),
                      [](const Zadost& a, const Zadost& b) { return a.odjezd_s < b.odjezd_s; });
+    const bool hleda = ted_s() >= hledani_znovu_s;
     for (std::size_t k = 0; k < zadosti.size(); ++k) {
         Zadost& z = zadosti[k];
+        z.hledano = hleda;
         double nejlepsi = std::numeric_limits<double>::max();
         for (std::size_t i = 0; i < vlaky.size(); ++i) {
             const int s = static_cast<int>(i);
@@ -470,7 +484,7 @@ void prirad_stroje() {
                 cena = 0;
             } else if (jede) {
                 cena = 1; // whoever goes already
-            } else if (ma_cestu(s) || ted_s() < hledani_znovu_s) {
+            } else if (ma_cestu(s) || !hleda) {
                 continue;
             } else {
                 const auto cesta = najdi_posun(ukol_stroje(s, z));
@@ -490,7 +504,7 @@ void prirad_stroje() {
             p.prirazen_s = ted_s();
         p.zadatel = vlak_c(z.vlak).cislo;
     }
-    if (ted_s() >= hledani_znovu_s)
+    if (hleda)
         hledani_znovu_s = ted_s() + kZnovu_s;
 }
 
@@ -633,6 +647,8 @@ void obsluz_zadost(const Zadost& z) {
                 Posun::jede)
             pamet_c(z.stroj).znovu_s = ted_s() + kZnovu_s;
     }
+    if (z.stroj == kZadny && !z.hledano)
+        return; // one may be at hand: nothing is called, and nothing given up, before it was looked for
     const int puvodni = puvodni_stroj(z, z.strana);
     const bool v_hajovicich = stanice_stani(t) == dopravna::hajovice;
     if (z.stroj == kZadny && v_hajovicich && zavolej(z))
@@ -641,7 +657,11 @@ void obsluz_zadost(const Zadost& z) {
         return;
     if (z.stroj == kZadny && zacni_pretah(z))
         return;
-    if (puvodni != kZadny && z.odjezd_s < (z.stroj == kZadny ? kVyckavani_s : -kNedorazila_s) &&
+    // A set that was taken off its platform for the change does not give it up so soon.
+    const int vzdani_s = je_na_pretahu(t)    ? -kPretahKonec_s
+                         : z.stroj == kZadny ? kVyckavani_s
+                                             : -kNedorazila_s;
+    if (puvodni != kZadny && z.odjezd_s < vzdani_s &&
         pripoj(z, puvodni, " pokračuje s původní lokomotivou "_cz))
         return;
     // Better slowly, pushed from behind, than not at all.
@@ -770,6 +790,39 @@ bool je_navic(int v) {
     return odjezd_za_s(t) < 0 && odjel_z_tesku(t.cislo);
 }
 
+bool ma_soupravu_pro(const Vlak& v, std::int32_t cislo) {
+    return std::any_of(v.vozy.begin(), v.vozy.end(), [cislo](const Vuz& vuz) {
+        const auto dalsi = ciselny_text(vuz.urceni);
+        return dalsi && *dalsi == cislo && (!je_loko(vuz.rada) || rada_vozu(vuz.rada) >= kPrvniMotorovyVuz);
+    });
+}
+
+// Minutes until the set comes to the main station that the timetable makes this train of: it is under way, or
+// announced as late. Nothing when no such train is known to come.
+std::optional<int> souprava_prijede_za_min(std::int32_t cislo) {
+    for (const Vlak& v : vlaky)
+        if (v.cislo > 0 && v.cislo != cislo && !v.posun && !v.zastavky.empty() &&
+            v.zastavky.back().stanice == dopravna::tesk && ma_soupravu_pro(v, cislo)) {
+            const int zpozdeni = v.stanice_index < 0 ? v.zpozdeni_vstup : v.zpozdeni;
+            return std::max(0, v.zastavky.back().prijezd + std::max(zpozdeni, 0) - cas_min());
+        }
+    const int ted = minuta_dne(cas_hodin());
+    for (const auto& [klic, n] : gvd_vlaky.s_predanou_soupravou(cislo)) {
+        const GvdVlak& r = radek_gvd(n);
+        for (const Hlaseni& h : hlaseni) {
+            if (!h.zpozdeni || h.cislo != r.cislo || !aktivni_dnes(r) ||
+                r.zastavky.back().stanice != dopravna::tesk)
+                continue;
+            const int za_min = ((cas_vstupu(r) + h.minut - ted) % kDen_min + kDen_min) % kDen_min;
+            const int jede_min =
+                ((r.zastavky.back().prijezd - cas_vstupu(r)) % kDen_min + kDen_min) % kDen_min;
+            if (za_min < kDen_min / 2) // else it has been here
+                return za_min + jede_min;
+        }
+    }
+    return std::nullopt;
+}
+
 // --- where a movement goes that has nothing to do
 
 bool veze_postu(const Vlak& t) {
@@ -879,6 +932,19 @@ bool ved_lokomotivni(int v) {
 
 // --- sets
 
+// The set of the yard stays in reserve: the one that the timetable makes the train of comes late, and comes
+// soon enough. Two sets for one train would take two platforms.
+bool ceka_na_prijezd(int v, int odjezd_s) {
+    const Vlak& t = vlak_c(v);
+    const auto za_min = souprava_prijede_za_min(t.cislo);
+    if (!za_min || *za_min * 60 > odjezd_s + kPrijedePozde_s)
+        return false;
+    Text veta = jmeno_posunu(v);
+    veta += " zůstává v odstavném nádraží: její vlak odjede soupravou, která ještě přijede."_cz;
+    vypravci::rekni_cekani(t.cislo, std::move(veta));
+    return true;
+}
+
 void ved_k_nastupu(int v) {
     const Vlak& t = vlak_c(v);
     const int e = kolej_cela(t);
@@ -886,10 +952,14 @@ void ved_k_nastupu(int v) {
                              ? (t.zastavky.front().odjezd - cas_min()) * 60 - cas_hodin() % 60
                              : 0;
     if (t.zastavky.front().stanice == dopravna::tesk && je_navic(v)) {
+        vypravci::neceka(t.cislo);
         odejdi(v);
         return;
     }
-    if (uzel::je_kolej_hlavniho(e)) {
+    // On a platform that it has only come to in order to turn it is not at its place.
+    const int planovana = planovana_kolej(t);
+    if (uzel::je_kolej_hlavniho(e) &&
+        (e == planovana || planovana == kZadny || (odjezd_s <= kNajdiJinou_s && hodi_se_nastupiste(t, e)))) {
         if (!cely_na_koleji(t))
             return;
         if (povel_vlaku(e, v, "miPosun")) {
@@ -907,6 +977,8 @@ void ved_k_nastupu(int v) {
         if (const GvdVlak* r = radek_vlaku(cislo);
             r != nullptr && r->zastavky.front().stanice == dopravna::tesk)
             tlaci = tlaci || uzel::je_pristaveni(e);
+    if (uzel::je_pristaveni(e) && !tlaci && ceka_na_prijezd(v, odjezd_s))
+        return; // else the yard has no place for the next set
     const int kam = vyber_nastupiste(v, odjezd_s, tlaci);
     Posun p = Posun::ceka;
     if (kam != kZadny)
@@ -1077,7 +1149,7 @@ void krok_posunu() {
     zrus_opustene_cesty();
     zadosti.clear();
     for (std::size_t i = 0; i < vlaky.size(); ++i)
-        if (stoji_vlak(static_cast<int>(i)))
+        if (stoji_vlak(static_cast<int>(i)) || stoji_bez_lokomotivy(static_cast<int>(i)))
             pozadej(static_cast<int>(i));
         else if (vlaky[i].cislo > 0 && vlaky[i].posun && vlaky[i].stanice_index > 0)
             pozadej_na_pretahu(static_cast<int>(i));

@@ -7,7 +7,9 @@
 #include "relief/relief.h"
 #include "uzel/posun.h"
 #include "uzel/zastavky.h"
+#include "vypravci/jizdy.h"
 #include "vypravci/pohled.h"
+#include "vypravci/rezervace.h"
 #include "vypravci/vypravci.h"
 
 #include <queue>
@@ -33,6 +35,7 @@ struct Uzel {
     bool hotovo = false;
 };
 std::vector<Uzel> uzly;
+std::array<std::uint8_t, uzel::kKolejiPosunu> slibene{};
 
 std::size_t stav(int kolej, bool smer) {
     return static_cast<std::size_t>(kolej) * 2 + (smer ? 1 : 0);
@@ -42,6 +45,15 @@ double cena_koleje(int kolej) {
     if (uzel::je_kolej_hlavniho(kolej))
         return kNastupiste_m;
     return uzel::je_prujezdna_posunu(kolej) ? kZhlavi_m : 0;
+}
+
+// Tracks that somebody else is promised: nobody turns there before he has come and gone.
+void najdi_slibene(int kdo) {
+    slibene.fill(0);
+    obnov_sliby_jizd();
+    for (const Slib& s : sliby())
+        if (s.vlak != kdo && uzel::je_kolej_posunu(s.kolej))
+            slibene[static_cast<std::size_t>(s.kolej)] = 1;
 }
 
 bool muze_obratit(int kolej, int delka_m) {
@@ -82,6 +94,7 @@ std::optional<CestaPosunu> najdi_posun(const UkolPosunu& ukol) {
     const auto& trasy = sit_posunu().trasy;
     if (!uzel::je_kolej_posunu(ukol.odkud) || !uzel::je_kolej_posunu(ukol.kam))
         return std::nullopt;
+    najdi_slibene(ukol.kdo);
     const auto pridej = [&](std::size_t kam, double cena, std::size_t trasa, std::size_t odkud) {
         if (uzly[kam].hotovo || (uzly[kam].cena >= 0 && uzly[kam].cena <= cena))
             return;
@@ -109,7 +122,8 @@ std::optional<CestaPosunu> najdi_posun(const UkolPosunu& ukol) {
                     dal += sit_posunu().delky[static_cast<std::size_t>(p.prvek)];
             if (prekazka_cesty(z, false))
                 dal += kPrekazka_m;
-            if (konec != ukol.kam && (vlak_na_koleji(konec) || !je_volna(konec)))
+            if (konec != ukol.kam &&
+                (vlak_na_koleji(konec) || !je_volna(konec) || slibene[static_cast<std::size_t>(konec)] != 0))
                 dal += kPrekazka_m; // what stands there may go
             pridej(stav(konec, smer), dal, i, odkud);
         }

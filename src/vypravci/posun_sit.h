@@ -5,6 +5,8 @@
 // never.
 #pragma once
 
+#include "zaklad/cisla.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -20,6 +22,7 @@ struct UkolPosunu {
     bool smi_vpravo = true;            // and to the right
     int kam = 0;                       // track
     Strana strana = Strana::libovolna; // of that track, when something stands there already
+    int kdo = kZadny;                  // index in `vlaky`: what it was promised itself is free for it
 };
 
 struct CestaPosunu {

@@ -298,7 +298,9 @@ struct Hledani {
             if (posledni)
                 dal.prvek = p.prvek;
         }
-        otoc(dal);
+        // Only the arrival at a stop turns the train: who has left it does not come back there for that.
+        if (dal.bodu > s.bodu)
+            otoc(dal);
         return dal;
     }
 
@@ -416,7 +418,7 @@ struct Hledani {
                 if (rychlost != 0 && stanice_elementu(kam->prvek) != 0 && !je_tratovy(kam->prvek))
                     dal += kVjezdOdbockou_m;
                 pridej(*kam, dal, s, i);
-                if (muze_objet(*kam))
+                if (kam->bodu > s.bodu && muze_objet(*kam))
                     pridej({kam->prvek, !kam->smer, kam->bodu}, dal + kObjeti_m, s, i);
             }
         }

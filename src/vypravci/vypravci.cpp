@@ -3,7 +3,9 @@
 
 #include "app/cas.h"
 #include "app/simulace.h"
+#include "jizda/vlak.h"
 #include "prvky/jmena.h"
+#include "prvky/souhlasy.h"
 #include "uzel/dopravny.h"
 #include "vypravci/jizdy.h"
 #include "vypravci/posun.h"
@@ -126,6 +128,15 @@ void neceka(std::int32_t vlak) {
     const auto misto = misto_cekani(vlak);
     if (misto != stav_vypravciho.cekani.end() && misto->vlak == vlak)
         stav_vypravciho.cekani.erase(misto);
+}
+
+void uklid_cekani() {
+    std::erase_if(stav_vypravciho.cekani, [](const Veta& veta) {
+        return std::find(souhlasy.zada.begin(), souhlasy.zada.end(), veta.vlak) == souhlasy.zada.end() &&
+               std::none_of(vlaky.begin(), vlaky.end(), [&veta](const Vlak& v) {
+                   return v.cislo == veta.vlak || zobrazene_cislo(v) == veta.vlak;
+               });
+    });
 }
 
 void krok() {

@@ -75,6 +75,8 @@ void rekni(std::int32_t vlak, Text text);
 void rekni_cekani(std::int32_t vlak, Text text);
 // It waits no more.
 void neceka(std::int32_t vlak);
+// Nor do those whose number is neither on the desk nor asks for consent.
+void uklid_cekani();
 
 // --- once a second of real time, behind the other timers
 

@@ -253,6 +253,24 @@ TEST_F(ZpravaProvozu, LocomotiveThatComesOffDoesNotEndItsTrain) {
     EXPECT_EQ(zprava().spravnym_vyjezdem, 1);
 }
 
+TEST_F(ZpravaProvozu, TrainIsHomeThoughALocomotiveWithItsNumberIsNoMoreInTheSameSecond) {
+    // One of the two records is looked at first; the second train has them the other way round.
+    const GvdVlak r = pres(11, dopravna::lhotin, dopravna::borovec, 482),
+                  s = pres(13, dopravna::lhotin, dopravna::borovec, 484);
+    jizdni_rad({r, s});
+    const int i = jede(62, true, r), loko = jede(kNastupiste, false, r);
+    const int loko2 = jede(kNastupiste, false, s), i2 = jede(62, true, s);
+    vlak(loko).posun = vlak(loko2).posun = true;
+    pohledni();
+    vlak_opustil(i, dopravna::borovec);
+    vlak_opustil(i2, dopravna::borovec);
+    zrus_vlak(loko);
+    zrus_vlak(loko2);
+    pohledni();
+    EXPECT_EQ(zprava().spravnym_vyjezdem, 2);
+    EXPECT_EQ(zprava().ztraceno, 0);
+}
+
 TEST_F(ZpravaProvozu, LocomotiveThatLeavesWhereItsTrainWillLeaveIsNotTheTrain) {
     const GvdVlak r = pres(11, dopravna::borovec, dopravna::lhotin, 482);
     jizdni_rad({r});

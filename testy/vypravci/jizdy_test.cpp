@@ -1,10 +1,13 @@
 // testy/vypravci/jizdy_test.cpp - what the automatic dispatcher does with trains.
+#include "cesty/cesta.h"
 #include "cesty/navest.h"
+#include "cesty/prehoz_rukou.h"
 #include "desk/stitky.h"
 #include "obsluha/vyber.h"
 #include "relief/relief.h"
 #include "uzel/trate.h"
 #include "vypravci/jizdy.h"
+#include "vypravci/pohled.h"
 #include "vypravci/svet_vypravciho.h"
 
 namespace {
@@ -171,6 +174,53 @@ TEST_F(VypravciJizdy, DeskThatIsTakenBackGetsNoMoreRoutes) {
     sekund(10 * 60);
     EXPECT_EQ(stav_vypravciho.povelu, povelu);
     EXPECT_FALSE(vypravci::zapnut());
+}
+
+TEST_F(VypravciJizdy, TrainThatHasLeftItsStopDoesNotComeBackToItInOrderToTurn) {
+    zacni(8, 0);
+    vypravci::predej();
+    const auto& trasy = sit_vlaku().trasy;
+    planovani::Ukol ukol;
+    ukol.body = {{.stanice = borovec, .stavi = true},
+                 {.stanice = tesk, .stavi = true, .muze_otocit = true},
+                 {.stanice = vrbice, .stavi = true}};
+    ukol.pocatek = planovani::Pocatek{28, false, 2, false};
+    std::vector<std::uint8_t> bez(trasy.size(), 0);
+    ukol.bez_tras = bez;
+    const auto primo = planovani::najdi_trasy(sit_vlaku(), ukol);
+    ASSERT_TRUE(primo);
+    ASSERT_EQ(primo->size(), 1u);
+    bez[primo->front().trasa] = 1;
+    const auto jinudy = planovani::najdi_trasy(sit_vlaku(), ukol);
+    EXPECT_TRUE(!jinudy || std::none_of(jinudy->begin(), jinudy->end(), [](const planovani::KrokTrasy& k) {
+        return k.prvek == uzel::kKamenec;
+    })) << "out to Kamenec, and back to the platforms";
+}
+
+TEST_F(VypravciJizdy, RouteThatHasLostASwitchIsTakenBackAndOrderedAgain) {
+    z_lhotina(101, 485);
+    zacni(8, 0);
+    vypravci::predej();
+    const auto cesta = [] { return cesta_v_zasobniku(287, 600); };
+    sekund(5 * 60 - 10);
+    ASSERT_GE(cesta(), 0);
+    ASSERT_TRUE(cesta_c(cesta()).Provedena);
+    vyhybka_nouz(36); // the route goes to stop and is never cleared again
+    ASSERT_FALSE(cesta_c(cesta()).Postavena);
+    sekund(10 * 60);
+    ASSERT_NE(najdi(101), nullptr);
+    EXPECT_NE(najdi(101)->prvky.back().prvek, 87);
+    EXPECT_LE(najdi(101)->zpozdeni, 5);
+}
+
+TEST_F(VypravciJizdy, NobodyWaitsWhoIsNotOnTheDesk) {
+    motorak(301, {vrbice, tesk}, {-1, 490}, {482, -1}).kolej = "3";
+    zacni(7, 55);
+    vypravci::predej();
+    sekund(60);
+    vypravci::rekni_cekani(999, Text("čeká"_cz));
+    sekund(8 * 60);
+    EXPECT_EQ(ceka(999), "");
 }
 
 TEST_F(VypravciJizdy, TrainThatAsksForConsentGetsIt) {

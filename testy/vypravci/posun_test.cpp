@@ -57,6 +57,17 @@ protected:
             ASSERT_FALSE(majitel.has_value()) << na_utf8(majitel.value_or(Text{}));
         }
     }
+    void nech_bezet_s(int sekund) {
+        for (int s = 0; s < sekund; ++s)
+            sekunda(svet);
+    }
+    // What is told of the wait of the train.
+    static std::string vypravci_ceka(std::int32_t cislo) {
+        for (const Veta& v : stav_vypravciho.cekani)
+            if (v.vlak == cislo)
+                return na_utf8(v.text);
+        return {};
+    }
     // A train that has just come to stand at the end of the track.
     int prijede(int kolej, bool smer, std::int32_t cislo, std::vector<Zastavka> zastavky, int index,
                 const std::vector<Text>& vozy, int loko, int loko2, int delka) {
@@ -169,6 +180,90 @@ TEST_F(PosunVypravciho, SetWaitsInTheYardWhileAnotherTrainHasItsPlatform) {
     EXPECT_FALSE(vlak_c(v).posun);
     EXPECT_GE(vlak_c(v).prvky.back().prvek, 26);
     EXPECT_LE(vlak_c(v).prvky.back().prvek, 30);
+}
+
+TEST_F(PosunVypravciho, SetThatOnlyTurnsAtAPlatformGoesOnToItsOwn) {
+    zacni(kZOdstavu);
+    const int v = prijede(32, true, 13301,
+                          {stop(9, -3, minuta(31)), stop(7, minuta(37), minuta(38)), stop(2, minuta(52), -3)},
+                          0, {"560", "060", "060", "560"}, 560, 0, 96);
+    vlak_c(v).pokyn = "6";
+    vlak_c(v).posun = vlak_c(v).muze_jet = true;
+    vypravci::predej();
+    nech_bezet_min(20);
+    EXPECT_FALSE(vlak_c(v).posun);
+    EXPECT_EQ(vlak_c(v).prvky.back().prvek, 31);
+}
+
+TEST_F(PosunVypravciho, SetOfTheYardStaysThereWhileTheOneOfTheTimetableIsUnderWay) {
+    zacni(kZOdstavu);
+    nech_bezet_min(2);
+    const int z_odstavu = s_cislem(13301);
+    ASSERT_EQ(vlak_c(z_odstavu).prvky.back().prvek, 538);
+    const int v = prijede(94, false, 13300,
+                          {stop(2, -3, minuta(-20)), stop(7, minuta(0), minuta(20)), stop(9, minuta(26), -3)},
+                          1, {"560", "060", "060", "560"}, 560, 0, 96);
+    for (Vuz& vuz : vlak_c(v).vozy)
+        vuz.urceni = "13301";
+    vlak_c(v).pokyn = "6";
+    vypravci::predej();
+    nech_bezet_min(22);
+    EXPECT_EQ(vlak_c(z_odstavu).prvky.back().prvek, 538);
+    EXPECT_FALSE(vypravci_ceka(13301).empty());
+    nech_bezet_min(8);
+    EXPECT_EQ(vlak_c(v).cislo, 13301);
+    EXPECT_EQ(vlak_c(v).prvky.back().prvek, 31);
+    EXPECT_EQ(vlak_c(v).zastavky[0].odjezd_realny, minuta(31));
+    EXPECT_EQ(vlak_c(z_odstavu).cislo, kZadny);
+    EXPECT_TRUE(vypravci_ceka(13301).empty());
+}
+
+TEST_F(PosunVypravciho, LateTrainGetsTheLocomotiveThatIsAtHandHoweverTheLooksFall) {
+    for (const int za_s : {0, 2}) {
+        zacni();
+        vypravci::predej();
+        nech_bezet_s(60 + za_s);
+        const int v = prijede(
+            28, false, 840, {stop(2, -3, minuta(-20)), stop(9, minuta(0), minuta(3)), stop(5, minuta(9), -3)},
+            1, {"362", "Bp", "Bp"}, 362, 754, 100);
+        const int stroj = prijede(558, false, 841, {stop(5, -3, minuta(-90)), stop(9, minuta(-80), -3)}, 1,
+                                  {"754"}, 754, 0, 18);
+        vlak_c(stroj).posun = true;
+        vlak_c(stroj).muze_jet = true;
+        vlak_c(stroj).vozy.front().urceni = "840";
+        nech_bezet_min(6);
+        EXPECT_EQ(vozy(v), (std::vector<std::string>{"754", "Bp", "Bp"})) << za_s;
+        vypravci::vezmi();
+    }
+}
+
+TEST_F(PosunVypravciho, TrainThatHasLeftItsLocomotiveBehindGetsOne) {
+    zacni();
+    const int v = prijede(28, false, 840,
+                          {stop(2, -3, minuta(-20)), stop(9, minuta(0), minuta(2)), stop(5, minuta(9), -3)},
+                          1, {"362", "Bp", "Bp"}, 362, 754, 100);
+    vlak_c(v).muze_jet = true; // its departure is over
+    const int stroj = prijede(558, false, 841, {stop(5, -3, minuta(-90)), stop(9, minuta(-80), -3)}, 1,
+                              {"754"}, 754, 0, 18);
+    vlak_c(stroj).posun = true;
+    vlak_c(stroj).muze_jet = true;
+    vypravci::predej();
+    nech_bezet_min(8);
+    EXPECT_EQ(vlak_c(v).vozy.size(), 3u);
+}
+
+TEST_F(PosunVypravciho, TrainWithTheTimesOfTheNextDayIsLateAndLeaves) {
+    constexpr int kDen = 24 * 60;
+    zacni();
+    const int v = prijede(59, false, 52601,
+                          {stop(6, -3, minuta(kDen - 16)), stop(12, minuta(kDen), minuta(kDen + 8)),
+                           stop(31, minuta(kDen + 16), -3)},
+                          1, {"363", "Zaes", "Zaes"}, 363, 742, 360);
+    ASSERT_EQ(vozy(v).size(), 2u);
+    vypravci::predej();
+    nech_bezet_min(14);
+    EXPECT_EQ(vozy(v), (std::vector<std::string>{"742", "Zaes", "Zaes"}));
+    EXPECT_TRUE(vlak_c(v).muze_jet);
 }
 
 TEST_F(PosunVypravciho, LocomotiveOfATrainToTheLeftIsChangedAtThePlatform) {
