@@ -473,6 +473,7 @@ QWidget* OknoParametru::stranka_o_aplikaci() {
             "<tr><td>Tab, Shift+Tab</td><td>další a předchozí pole</td></tr>"
             "<tr><td>Ctrl+O</td><td>otevře uloženou simulaci</td></tr>"
             "<tr><td>F1</td><td>návod</td></tr>"
+            "<tr><td>F4</td><td>přehraje záznam směny</td></tr>"
             "<tr><td>Esc</td><td>zpět na hlavní stránku</td></tr>"
             "</table>")
             .arg(na_qstring(parametry.lblVerze).trimmed()));

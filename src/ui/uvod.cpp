@@ -26,6 +26,7 @@ constexpr std::array kPrvniKroky = {
     "Cesta: klepněte na návěstidlo a potom na kolej, kam vede."_cz,
     "Pravé tlačítko otevře nabídku prvku, Esc ruší volbu."_cz,
     "Co je co, řekne ukazatel myši, když se na chvíli zastaví."_cz,
+    "Příručku otevře F1; F6 předá stůl automatickému výpravčímu."_cz,
 };
 
 } // namespace
@@ -152,8 +153,8 @@ void UvodniObrazovka::paintEvent(QPaintEvent*) {
     nakresli_zhlavi(p, m);
     linka(212);
     for (std::size_t i = 0; i < kPrvniKroky.size(); ++i)
-        radek(40, 224 + static_cast<int>(i) * 18, 1, kPrvniKroky[i], 0xD8D0C8);
-    linka(304);
+        radek(40, 219 + static_cast<int>(i) * 17, 1, kPrvniKroky[i], 0xD8D0C8);
+    linka(307);
     radek(40, 316, 1, z_qstring(popisek), barvy::azurova);
     radek(40, 336, 1, Text("verze "_cz) + text_verze(), barvy::seda);
 }
