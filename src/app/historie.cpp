@@ -331,6 +331,7 @@ public:
         stav_vypravciho.zapnut = drzi.zapnut;
         stav_vypravciho.vse = drzi.vse;
         stav_vypravciho.stanice = drzi.stanice;
+        stav_vypravciho.prepnul_pv = drzi.prepnul_pv;
     }
 
 private:

@@ -250,6 +250,7 @@ bool smaz_radek_zpozdeni(int radek) {
 void zapni_pv() {
     if (lze_jednat() && plati_vz()) {
         klik(Druh::lblZasobnik_PV, 0, Tlacitko::leve, false);
+        stav_vypravciho.prepnul_pv = true;
         spocti_povel();
     }
 }

@@ -101,7 +101,7 @@ void predej(std::span<const std::uint8_t> stanice) {
 }
 
 void vezmi() {
-    stav_vypravciho.zapnut = false;
+    stav_vypravciho.zapnut = stav_vypravciho.prepnul_pv = false;
     stav_vypravciho.cekani.clear();
 }
 

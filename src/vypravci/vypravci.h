@@ -31,6 +31,7 @@ struct StavVypravciho {
     bool vse = true;                    // the whole desk; else only `stanice`
     std::bitset<kKoduStanic> stanice{}; // by station code
     std::int64_t povelu = 0;            // commands that he has given
+    bool prepnul_pv = false;            // the stack stood at VZ when he took the desk
     std::vector<Veta> vety{};           // decisions, oldest first
     std::vector<Veta> cekani{};         // what waits now, one a train, by its number
     bool operator==(const StavVypravciho&) const = default;
