@@ -20,6 +20,7 @@
 #include "ui/pismo.h"
 #include "ui/pohled.h"
 #include "ui/technologie.h"
+#include "ui/vedlejsi_okno.h"
 #include "ui/vypravci.h"
 #include "ui/vzhled.h"
 #include "zaklad/cisla.h"
@@ -43,7 +44,8 @@
 namespace {
 
 constexpr int kPrekreslovani_ms = 40;
-constexpr int kVyskaListy = 20 * kTwipu; // of the top bar
+constexpr int kVyskaListy = 20 * kTwipu;                               // of the top bar
+constexpr int kPodRadkem = 43 * kTwipu, kNadZasobnikem = 597 * kTwipu; // the tracks stand between them
 // Of the prompt that has no room on the command line, twips.
 constexpr QRect kMistoVyzvy(600 * kTwipu, 22 * kTwipu, 380 * kTwipu, 19 * kTwipu);
 constexpr QRgb kNajetiPrvku = 0xFF5A6A7C;
@@ -327,12 +329,22 @@ int HlavniOkno::kapitola_pod_kurzorem() const {
     }
     if (!pole->isHidden())
         return kapitoly::prikazovy_radek;
+    if (je_nad_znackou_vypravciho(misto_kurzoru()))
+        return kapitoly::vypravci;
     const QPoint misto = mapFromGlobal(QCursor::pos());
     for (const ZobrazenySeznam& s : seznamy)
         if (!s.okno->isHidden() && s.okno->geometry().contains(misto))
             return kapitoly::panel;
     const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(misto_kurzoru()));
     return kde ? kapitola_prvku(kde->druh) : kapitoly::prvnich_deset_minut;
+}
+
+QRect HlavniOkno::plocha_kolejiste() const {
+    const Meritko& m = platno.meritko();
+    const double pomer = devicePixelRatioF();
+    const QPoint roh((QPointF(m.x0, m.y(kPodRadkem)) / pomer).toPoint());
+    const int dole = qRound(m.y(kNadZasobnikem) / pomer);
+    return {mapToGlobal(roh), QSize(width() - 2 * roh.x(), dole - roh.y())};
 }
 
 void HlavniOkno::umisti() {
@@ -684,12 +696,11 @@ bool HlavniOkno::stisk_za_mys(const QKeyEvent& udalost) {
     return true;
 }
 
-// A window beside the desk opens or closes under a key of its own. Before the login has ended, and under a
-// maintenance screen, it does not.
+// A window beside the desk opens or closes under a key of its own.
 bool HlavniOkno::otevri_vedlejsi_okno(const std::function<void()>& prepni) {
     bool smi = false;
     v_jadre([&] {
-        smi = !technologie_kryje_stul() && !prihlaseni_bezi();
+        smi = smi_vedle_stolu();
         if (smi)
             pipni_klavesou();
     });

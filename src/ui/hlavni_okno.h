@@ -34,6 +34,8 @@ public:
     // Chapter of the manual for what is under the pointer: the picked entry of an open menu, what is being
     // written, a maintenance screen, an element.
     int kapitola_pod_kurzorem() const;
+    // Where the tracks are shown: between the command line and the line of the stack. Pixels of the screen.
+    QRect plocha_kolejiste() const;
     // Its picture.
     const Platno& obraz() const { return platno; }
 

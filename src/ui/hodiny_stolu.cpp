@@ -16,6 +16,7 @@ namespace {
 ChodHostitele chod;
 bool drzi = false;
 int krat_prehravani = 1;
+bool stoji_prehravani = false;
 std::int64_t videno_ms = 0; // of the computer's clock, when a watched shift was moved last
 
 // Milliseconds of a clock that nobody sets and that counts the sleep of the computer too.
@@ -31,7 +32,7 @@ void dozen_prehravani() {
     const std::int64_t ted = ms_od_zapnuti();
     const std::int64_t ubehlo = std::min(ted - videno_ms, kNejdelsiKrok_ms);
     videno_ms = ted;
-    if (krat_prehravani > 0)
+    if (krat_prehravani > 0 && !stoji_prehravani)
         prehravej_do(virtualni_hodiny.cas_ms + ubehlo * krat_prehravani);
 }
 
@@ -79,4 +80,8 @@ void navaz_hodiny_stolu() {
 
 void rychlost_prehravani(int krat) {
     krat_prehravani = krat;
+}
+
+void podrz_prehravani(bool drzet) {
+    stoji_prehravani = drzet;
 }

@@ -27,3 +27,5 @@ void navaz_hodiny_stolu();
 
 // How many times faster than the computer's clock it runs; 0: it stands.
 void rychlost_prehravani(int krat);
+// It stands at any speed, and goes on.
+void podrz_prehravani(bool drzet);

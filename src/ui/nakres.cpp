@@ -11,24 +11,19 @@
 #include "ui/hlavni_okno.h"
 #include "ui/hodnoceni.h"
 #include "ui/kresba_nakresu.h"
+#include "ui/napoveda.h"
 #include "ui/pismo.h"
+#include "ui/platforma_qt.h"
+#include "ui/vedlejsi_okno.h"
 #include "ui/vzhled.h"
 #include "zaklad/platforma.h"
 
-#include <QAbstractItemView>
 #include <QCheckBox>
-#include <QCloseEvent>
 #include <QComboBox>
-#include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QFileDialog>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHelpEvent>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QMessageBox>
 #include <QMouseEvent>
 #include <QPageLayout>
 #include <QPainter>
@@ -88,7 +83,7 @@ private:
     bool drzi = false, tahne = false;
 };
 
-class OknoNakresu : public QWidget {
+class OknoNakresu : public VedlejsiOkno {
 public:
     explicit OknoNakresu(QWidget* stul);
 
@@ -99,7 +94,7 @@ public:
     double m_od() const { return co.m_po > co.m_od ? co.m_od : 0; }
     double m_po() const { return co.m_po > co.m_od ? co.m_po : osa.delka(); }
     void posun_na(double od, double m);
-    void lupa_casu(double krat, double kolem_s);
+    void lupa_casu(double krat, double kolem_s, bool za_ted);
     void lupa_drahy(double krat, double kolem_m);
     void posun_cas(double dil);
     void posun_drahu(double dil);
@@ -107,13 +102,13 @@ public:
     void prekresli();
 
 protected:
-    void keyPressEvent(QKeyEvent* udalost) override;
-    void closeEvent(QCloseEvent* udalost) override;
+    bool stisk(QKeyEvent& udalost) override;
 
 private:
     void umisti();
     void nacti_trate();
     void zvol_trat(int index);
+    void zapamatuj();
     void na_ted();
     void cely_den();
     void obnov();
@@ -122,7 +117,6 @@ private:
     void uloz();
     void tiskni();
 
-    QWidget* stul;
     QComboBox* trate;
     QCheckBox* s_planem;
     QCheckBox* s_jizdami;
@@ -228,7 +222,7 @@ void PlatnoNakresu::wheelEvent(QWheelEvent* udalost) {
     else if (udalost->modifiers().testFlag(Qt::ShiftModifier))
         okno->posun_cas(-kroku * kKrokPosunu);
     else
-        okno->lupa_casu(krat, p.od + (udalost->position().x() - a.vlevo) / a.sirka() * (p.po - p.od));
+        okno->lupa_casu(krat, p.od + (udalost->position().x() - a.vlevo) / a.sirka() * (p.po - p.od), false);
 }
 
 bool PlatnoNakresu::event(QEvent* udalost) {
@@ -254,19 +248,23 @@ bool PlatnoNakresu::event(QEvent* udalost) {
 
 // --- the window
 
-OknoNakresu::OknoNakresu(QWidget* rodic) : QWidget(rodic, Qt::Window), stul(rodic) {
+OknoNakresu::OknoNakresu(QWidget* rodic)
+    : VedlejsiOkno(rodic, QStringLiteral("KPS RVZ TESK: nákresný jízdní řád"), kapitoly::nakres) {
     setObjectName(QStringLiteral("nakres"));
-    setWindowTitle(QStringLiteral("KPS RVZ TESK: nákresný jízdní řád"));
-    setAttribute(Qt::WA_DeleteOnClose);
+    predavej_enter();
     setStyleSheet(QString::fromUtf8(kVzhled));
 
     trate = new QComboBox;
     trate->setToolTip(QStringLiteral("Trať na ose (Page Up, Page Down)"));
-    s_planem = new QCheckBox(QStringLiteral("jízdní ř&ád"));
+    s_planem = new QCheckBox(QStringLiteral("&jízdní řád"));
     s_jizdami = new QCheckBox(QStringLiteral("&skutečnost"));
+    pridej_vyber(*trate);
+    for (QCheckBox* p : {s_planem, s_jizdami})
+        p->setFocusPolicy(Qt::TabFocus);
     const auto tlacitko = [](const char* text, const char* napoveda) {
         auto* b = new QPushButton(QString::fromUtf8(text));
         b->setToolTip(QString::fromUtf8(napoveda));
+        b->setFocusPolicy(Qt::TabFocus); // a click leaves the keys to the picture
         return b;
     };
     auto* nyni = tlacitko("&Nyní", "K současnosti a za ní (Home)");
@@ -292,27 +290,30 @@ OknoNakresu::OknoNakresu(QWidget* rodic) : QWidget(rodic, Qt::Window), stul(rodi
     umisti();
     co.po = (width() - 200) / (kBoduNaMinutu * meritko_obrazovky()) * 60;
     nacti_trate();
-    connect(trate, &QComboBox::currentIndexChanged, this, &OknoNakresu::zvol_trat);
+    connect(trate, &QComboBox::currentIndexChanged, this, [this](int index) {
+        zvol_trat(index);
+        zapamatuj();
+    });
     for (QCheckBox* p : {s_planem, s_jizdami})
-        connect(p, &QCheckBox::toggled, this, &OknoNakresu::prekresli);
+        connect(p, &QCheckBox::toggled, this, [this] {
+            prekresli();
+            zapamatuj();
+        });
     connect(nyni, &QPushButton::clicked, this, &OknoNakresu::na_ted);
     connect(den, &QPushButton::clicked, this, &OknoNakresu::cely_den);
-    connect(hodnoceni, &QPushButton::clicked, this, [this] { ukaz_hodnoceni(stul); });
+    connect(hodnoceni, &QPushButton::clicked, this, [this] { ukaz_hodnoceni(stul()); });
     connect(ulozit, &QPushButton::clicked, this, &OknoNakresu::uloz);
     connect(tisk, &QPushButton::clicked, this, &OknoNakresu::tiskni);
     connect(zavrit, &QPushButton::clicked, this, &QWidget::close);
     connect(&obnova, &QTimer::timeout, this, &OknoNakresu::obnov);
     obnova.start(kObnova_ms);
-    show();
-    raise();
-    activateWindow();
+    ukaz();
     platno->setFocus();
 }
 
-// On a monitor that the desk leaves free it takes all of it; else it lies over the relief and leaves the
-// bottom panel, where a picked train tells of itself, in sight.
+// On a monitor that the desk leaves free it takes all of it; else it lies over the tracks.
 void OknoNakresu::umisti() {
-    const QScreen* obrazovka = stul->screen();
+    const QScreen* obrazovka = stul()->screen();
     const QList<QScreen*> vsechny = QGuiApplication::screens();
     for (const QScreen* jina : vsechny)
         if (!simulace.dva_monitory && jina != obrazovka &&
@@ -320,11 +321,9 @@ void OknoNakresu::umisti() {
             setGeometry(jina->availableGeometry().adjusted(8, 36, -8, -8));
             return;
         }
-    const QRect deska = stul->geometry();
-    const int sirka = simulace.dva_monitory ? deska.width() / 2 : deska.width();
-    const int okraj = deska.height() / 60;
-    resize(sirka - 2 * okraj, qRound(deska.height() * 0.755));
-    move(deska.left() + deska.width() - sirka + okraj, deska.top() + deska.height() / 30);
+    const QRect deska = plocha_u_stolu();
+    const int okraj = deska.height() / 45;
+    setGeometry(deska.adjusted(okraj, 0, -okraj, 0));
 }
 
 void OknoNakresu::nacti_trate() {
@@ -349,6 +348,15 @@ void OknoNakresu::zvol_trat(int index) {
     prekresli();
 }
 
+// What is looked at is there again next time, however the program ends.
+void OknoNakresu::zapamatuj() {
+    v_jadre([this] {
+        platforma.nastaveni_pis(kNastaveni, "Trat", z_qstring(trate->currentData().toString()));
+        platforma.nastaveni_pis(kNastaveni, "Plan", s_planem->isChecked() ? "1" : "0");
+        platforma.nastaveni_pis(kNastaveni, "Jizdy", s_jizdami->isChecked() ? "1" : "0");
+    });
+}
+
 void OknoNakresu::prekresli() {
     zmena = true;
     obnov();
@@ -366,12 +374,14 @@ void OknoNakresu::posun_na(double od, double m) {
     prekresli();
 }
 
-void OknoNakresu::lupa_casu(double krat, double kolem_s) {
+// `za_ted`: the present is followed at the new scale; else `kolem_s` stays where it is.
+void OknoNakresu::lupa_casu(double krat, double kolem_s, bool za_ted) {
+    sleduje = sleduje && za_ted;
     const double sirka = std::clamp((co.po - co.od) / krat, kNejmensiOkno_s, kNejvetsiOkno_s);
     const double dil = (kolem_s - co.od) / (co.po - co.od);
     co.od = kolem_s - dil * sirka;
     co.po = co.od + sirka;
-    prekresli(); // the present is followed at the new scale
+    prekresli();
 }
 
 void OknoNakresu::lupa_drahy(double krat, double kolem_m) {
@@ -414,8 +424,10 @@ void OknoNakresu::vyber(std::int32_t cislo, bool na_stul) {
     prekresli();
     if (HlavniOkno* deska = HlavniOkno::otevrene())
         deska->obnov();
-    if (na_stul && cislo != 0)
+    if (na_stul && cislo != 0) {
         close();
+        stul()->activateWindow();
+    }
 }
 
 bool OknoNakresu::spocitej(bool vse) {
@@ -494,38 +506,28 @@ ObrazNakresu OknoNakresu::na_papir(double sirka, double vyska) const {
 void OknoNakresu::uloz() {
     if (osa.rady.empty())
         return;
-    QFileDialog dialog(this, QStringLiteral("Uložit nákresný jízdní řád"), QDir::homePath(),
-                       QStringLiteral("Obraz SVG (*.svg);;Dokument PDF (*.pdf)"));
-    dialog.setAcceptMode(QFileDialog::AcceptSave);
-    dialog.setFileMode(QFileDialog::AnyFile);
-    dialog.setDefaultSuffix(QStringLiteral("svg"));
-    dialog.selectFile(QStringLiteral("nakres-%1.svg").arg(na_qstring(osa.jmeno)));
-    if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
-        return;
-    const QString cesta = dialog.selectedFiles().front();
-    bool hotovo = false;
-    ObrazNakresu obraz;
-    v_jadre([&] { obraz = na_papir(kSirkaStrany, kVyskaStrany); });
-    if (cesta.endsWith(QStringLiteral(".pdf"), Qt::CaseInsensitive)) {
-        QPdfWriter pdf(cesta);
-        pdf.setPageLayout(QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape, QMarginsF()));
-        pdf.setTitle(na_qstring(osa.nadpis));
-        QPainter p;
-        if (p.begin(&pdf)) {
-            p.scale(pdf.width() / kSirkaStrany, pdf.width() / kSirkaStrany);
-            nakresli_obraz(p, obraz, true);
-            hotovo = p.end();
-        }
-    } else {
-        QFile soubor(cesta);
-        const std::string svg = svg_nakresu(obraz, osa.nadpis);
-        const auto delka = static_cast<qint64>(svg.size());
-        hotovo = soubor.open(QIODevice::WriteOnly | QIODevice::Truncate) &&
-                 soubor.write(svg.data(), delka) == delka && soubor.flush();
-    }
-    if (!hotovo)
-        QMessageBox::warning(this, QStringLiteral("KPS RVZ TESK"),
-                             QStringLiteral("Soubor %1 nelze zapsat.").arg(QDir::toNativeSeparators(cesta)));
+    uloz_jako({QStringLiteral("Uložit nákresný jízdní řád"),
+               QStringLiteral("nakres-%1.svg").arg(na_qstring(osa.jmeno)),
+               QStringLiteral("Obraz SVG (*.svg);;Dokument PDF (*.pdf)")},
+              [this](QIODevice& soubor, const QString& pripona) {
+                  ObrazNakresu obraz;
+                  v_jadre([&] { obraz = na_papir(kSirkaStrany, kVyskaStrany); });
+                  if (pripona != QStringLiteral("pdf")) {
+                      const std::string svg = svg_nakresu(obraz, osa.nadpis);
+                      const auto delka = static_cast<qint64>(svg.size());
+                      return soubor.write(svg.data(), delka) == delka;
+                  }
+                  QPdfWriter pdf(&soubor);
+                  pdf.setPageLayout(
+                      QPageLayout(QPageSize(QPageSize::A4), QPageLayout::Landscape, QMarginsF()));
+                  pdf.setTitle(na_qstring(osa.nadpis));
+                  QPainter p;
+                  if (!p.begin(&pdf))
+                      return false;
+                  p.scale(pdf.width() / kSirkaStrany, pdf.width() / kSirkaStrany);
+                  nakresli_obraz(p, obraz, true);
+                  return p.end();
+              });
 }
 
 void OknoNakresu::tiskni() {
@@ -536,7 +538,7 @@ void OknoNakresu::tiskni() {
     tiskarna.setDocName(na_qstring(osa.nadpis));
     QPrintDialog dialog(&tiskarna, this);
     dialog.setWindowTitle(QStringLiteral("Tisk nákresného jízdního řádu"));
-    if (dialog.exec() != QDialog::Accepted)
+    if (!proved_dialog(dialog))
         return;
     const QRectF strana = tiskarna.pageRect(QPrinter::DevicePixel);
     ObrazNakresu obraz;
@@ -544,28 +546,26 @@ void OknoNakresu::tiskni() {
         obraz = na_papir(kSirkaStrany, kSirkaStrany * strana.height() / std::max(1.0, strana.width()));
     });
     QPainter p;
-    if (p.begin(&tiskarna)) {
+    bool hotovo = p.begin(&tiskarna);
+    if (hotovo) {
         p.scale(strana.width() / kSirkaStrany, strana.width() / kSirkaStrany);
         nakresli_obraz(p, obraz, true);
-        p.end();
+        hotovo = p.end() && tiskarna.printerState() != QPrinter::Error;
     }
+    if (!hotovo)
+        ukaz_zpravu(QStringLiteral("Nákres se nepodařilo vytisknout."));
 }
 
 // --- keys
 
-void OknoNakresu::keyPressEvent(QKeyEvent* udalost) {
-    const bool ctrl = udalost->modifiers().testFlag(Qt::ControlModifier);
+bool OknoNakresu::stisk(QKeyEvent& udalost) {
+    const bool ctrl = udalost.modifiers().testFlag(Qt::ControlModifier);
     const double stred_s = (co.od + co.po) / 2, stred_m = (m_od() + m_po()) / 2;
     const auto lupa = [&](double krat) {
-        ctrl ? lupa_drahy(krat, stred_m) : lupa_casu(krat, sleduje ? co.ted : stred_s);
+        ctrl ? lupa_drahy(krat, stred_m) : lupa_casu(krat, sleduje ? co.ted : stred_s, true);
     };
-    switch (udalost->key()) {
-    case Qt::Key_F7:
-    case Qt::Key_Escape: close(); break;
-    case Qt::Key_F10:
-        if (HlavniOkno::otevrene() != nullptr)
-            QCoreApplication::sendEvent(HlavniOkno::otevrene(), udalost);
-        break;
+    switch (udalost.key()) {
+    case Qt::Key_F7: close(); break;
     case Qt::Key_Left: posun_cas(-kKrokPosunu); break;
     case Qt::Key_Right: posun_cas(kKrokPosunu); break;
     case Qt::Key_Up: posun_drahu(-kKrokPosunu); break;
@@ -575,25 +575,24 @@ void OknoNakresu::keyPressEvent(QKeyEvent* udalost) {
     case Qt::Key_Minus: lupa(1 / kKrokLupy); break;
     case Qt::Key_Home: na_ted(); break;
     case Qt::Key_D: cely_den(); break;
-    case Qt::Key_H: ukaz_hodnoceni(stul); break;
+    case Qt::Key_H: ukaz_hodnoceni(stul()); break;
     case Qt::Key_PageUp: trate->setCurrentIndex(std::max(0, trate->currentIndex() - 1)); break;
     case Qt::Key_PageDown:
         trate->setCurrentIndex(std::min(trate->count() - 1, trate->currentIndex() + 1));
         break;
-    case Qt::Key_E: ctrl ? uloz() : QWidget::keyPressEvent(udalost); break;
-    case Qt::Key_P: ctrl ? tiskni() : QWidget::keyPressEvent(udalost); break;
-    default: QWidget::keyPressEvent(udalost);
+    case Qt::Key_E:
+        if (!ctrl)
+            return false;
+        uloz();
+        break;
+    case Qt::Key_P:
+        if (!ctrl)
+            return false;
+        tiskni();
+        break;
+    default: return false;
     }
-}
-
-void OknoNakresu::closeEvent(QCloseEvent* udalost) {
-    v_jadre([this] {
-        platforma.nastaveni_pis(kNastaveni, "Trat", z_qstring(trate->currentData().toString()));
-        platforma.nastaveni_pis(kNastaveni, "Plan", s_planem->isChecked() ? "1" : "0");
-        platforma.nastaveni_pis(kNastaveni, "Jizdy", s_jizdami->isChecked() ? "1" : "0");
-    });
-    QWidget::closeEvent(udalost);
-    stul->activateWindow(); // where no window manager gives the keys back
+    return true;
 }
 
 } // namespace
@@ -603,8 +602,4 @@ void prepni_nakres(QWidget* stul) {
         otevreny->close();
     else
         otevreny = new OknoNakresu(stul);
-}
-
-bool nakres_ma_klavesy() {
-    return otevreny && otevreny->isActiveWindow();
 }

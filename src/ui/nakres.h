@@ -10,8 +10,3 @@
 
 // Opens the diagram beside the desk, or closes it.
 void prepni_nakres(QWidget* stul);
-
-// --- at any time, without change
-
-// The diagram is the window that has the keys.
-bool nakres_ma_klavesy();

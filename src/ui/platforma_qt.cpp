@@ -32,6 +32,7 @@
 #include <QPointer>
 #include <QProcess>
 #include <QPushButton>
+#include <QSaveFile>
 #include <QScreen>
 #include <QSettings>
 #include <QSplitter>
@@ -44,6 +45,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <sys/file.h>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -124,11 +126,11 @@ private:
 };
 
 // A box holds the whole of its text: lines break at blanks, and a path also behind its folders.
-void uprav_zpravu(QMessageBox& box, TextPohled text) {
+void uprav_zpravu(QMessageBox& box, const QString& text) {
     constexpr int kDelkaSlova = 24; // what is longer may break anywhere
     QString zprava;
     int slovo = 0; // letters since the last place for a break
-    for (const QChar znak : na_qstring(text)) {
+    for (const QChar znak : text) {
         zprava += znak;
         slovo = znak.isSpace() ? 0 : slovo + 1;
         if (slovo == kDelkaSlova || znak == u'/' || znak == u'\\') {
@@ -144,12 +146,16 @@ void uprav_zpravu(QMessageBox& box, TextPohled text) {
     na_levy_monitor(box);
 }
 
-void okno(TextPohled titul, TextPohled text) {
+void okno_zpravy(const QString& titul, const QString& text) {
     const Otevrene cas_stoji;
-    QMessageBox box(QMessageBox::NoIcon, na_qstring(titul), {}, QMessageBox::NoButton, rodic());
+    QMessageBox box(QMessageBox::NoIcon, titul, {}, QMessageBox::NoButton, rodic());
     box.addButton(QStringLiteral("OK"), QMessageBox::AcceptRole);
     uprav_zpravu(box, text);
     box.exec();
+}
+
+void okno(TextPohled titul, TextPohled text) {
+    okno_zpravy(na_qstring(titul), na_qstring(text));
 }
 
 bool otazka(TextPohled titul, TextPohled text, bool vychozi) {
@@ -159,7 +165,7 @@ bool otazka(TextPohled titul, TextPohled text, bool vychozi) {
     QPushButton* ne = box.addButton(QStringLiteral("&Ne"), QMessageBox::NoRole);
     box.setDefaultButton(vychozi ? ano : ne);
     box.setEscapeButton(ne);
-    uprav_zpravu(box, text);
+    uprav_zpravu(box, na_qstring(text));
     box.exec();
     return box.clickedButton() == ano;
 }
@@ -167,10 +173,33 @@ bool otazka(TextPohled titul, TextPohled text, bool vychozi) {
 // The window system's icons under Czech names.
 class CeskeSoubory : public QFileIconProvider {
 public:
+    explicit CeskeSoubory(QString druh_souboru) : soubor_je(std::move(druh_souboru)) {}
     QString type(const QFileInfo& soubor) const override {
-        return soubor.isDir() ? QStringLiteral("Složka") : QStringLiteral("Záznam simulace");
+        return soubor.isDir() ? QStringLiteral("Složka") : soubor_je;
     }
+
+private:
+    QString soubor_je;
 };
+
+// What follows is for the dialogue of the window system's own library; a desktop brings its own. `kde`: the
+// folder that stands at its side beside the operator's own.
+void uprav_dialog(QFileDialog& dialog, CeskeSoubory& ikony, const QString& kde) {
+    dialog.setIconProvider(&ikony);
+    QList<QUrl> vedle = {QUrl::fromLocalFile(kde)};
+    if (kde != QDir::homePath())
+        vedle += QUrl::fromLocalFile(QDir::homePath());
+    dialog.setSidebarUrls(vedle);
+    const int pismo = dialog.fontMetrics().height();
+    dialog.resize(46 * pismo, 28 * pismo);
+    if (auto* pricka = dialog.findChild<QSplitter*>())
+        pricka->setSizes({9 * pismo, 37 * pismo});
+    if (auto* soubory = dialog.findChild<QTreeView*>()) {
+        soubory->header()->setStretchLastSection(false);
+        soubory->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
+        soubory->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    }
+}
 
 // `navrh`: the name that a dialogue for saving proposes; without one it is a dialogue for opening.
 std::optional<Text> soubor(TextPohled slozka, TextPohled vzor, std::optional<TextPohled> navrh) {
@@ -186,23 +215,36 @@ std::optional<Text> soubor(TextPohled slozka, TextPohled vzor, std::optional<Tex
     dialog.setOption(QFileDialog::DontConfirmOverwrite); // the core asks
     if (navrh)
         dialog.selectFile(na_qstring(*navrh));
-    // what follows is for the dialogue of the window system's own library; a desktop brings its own
-    CeskeSoubory ikony;
-    dialog.setIconProvider(&ikony);
-    dialog.setSidebarUrls({QUrl::fromLocalFile(kde), QUrl::fromLocalFile(QDir::homePath())});
-    const int pismo = dialog.fontMetrics().height();
-    dialog.resize(46 * pismo, 28 * pismo);
-    if (auto* pricka = dialog.findChild<QSplitter*>())
-        pricka->setSizes({9 * pismo, 37 * pismo});
-    if (auto* soubory = dialog.findChild<QTreeView*>()) {
-        soubory->header()->setStretchLastSection(false);
-        soubory->header()->setSectionResizeMode(QHeaderView::ResizeToContents);
-        soubory->header()->setSectionResizeMode(0, QHeaderView::Stretch);
-    }
+    CeskeSoubory ikony(QStringLiteral("Záznam simulace"));
+    uprav_dialog(dialog, ikony, kde);
     na_levy_monitor(dialog);
     if (dialog.exec() != QDialog::Accepted || dialog.selectedFiles().isEmpty())
         return std::nullopt;
     return z_qstring(dialog.selectedFiles().front());
+}
+
+// The ending of the first pattern of a kind of files: "svg" of "Obraz SVG (*.svg)".
+QString pripona_druhu(const QString& druh) {
+    const auto od = druh.indexOf(QStringLiteral("*.")) + 2;
+    return druh.mid(od, druh.indexOf(u')', od) - od);
+}
+
+// Where to, or nothing.
+QString kam_ulozit(const NavrhSouboru& navrh) {
+    QFileDialog dialog(rodic(), navrh.titul, QDir::homePath(), navrh.druhy);
+    dialog.setAcceptMode(QFileDialog::AcceptSave);
+    dialog.setFileMode(QFileDialog::AnyFile);
+    dialog.selectFile(navrh.jmeno);
+    const auto zvol_druh = [&dialog](const QString& druh) { // the name follows it
+        const QString jmeno = QFileInfo(dialog.selectedFiles().value(0)).completeBaseName();
+        dialog.setDefaultSuffix(pripona_druhu(druh));
+        dialog.selectFile(jmeno + u'.' + pripona_druhu(druh));
+    };
+    zvol_druh(dialog.selectedNameFilter());
+    QObject::connect(&dialog, &QFileDialog::filterSelected, &dialog, zvol_druh);
+    CeskeSoubory ikony(QStringLiteral("Soubor"));
+    uprav_dialog(dialog, ikony, QDir::homePath());
+    return proved_dialog(dialog) ? dialog.selectedFiles().value(0) : QString();
 }
 
 // --- programs and documents
@@ -352,6 +394,31 @@ void zapln_platformu() {
     p.bezi_jina_instance = bezi_jina;
     p.ukonci = [](int kod) { throw KonecProgramu{kod}; };
     platforma = p;
+}
+
+bool proved_dialog(QDialog& dialog) {
+    bool prijat = false;
+    v_jadre([&] {
+        const Otevrene cas_stoji;
+        na_levy_monitor(dialog);
+        prijat = dialog.exec() == QDialog::Accepted;
+    });
+    return prijat && !je_konec();
+}
+
+void ukaz_zpravu(const QString& text) {
+    v_jadre([&] { okno_zpravy(QStringLiteral("KPS RVZ TESK"), text); });
+}
+
+void uloz_jako(const NavrhSouboru& navrh,
+               const std::function<bool(QIODevice& soubor, const QString& pripona)>& zapis) {
+    const QString cesta = kam_ulozit(navrh);
+    if (cesta.isEmpty())
+        return;
+    QSaveFile soubor(cesta);
+    if (!soubor.open(QIODevice::WriteOnly) || !zapis(soubor, QFileInfo(cesta).suffix().toLower()) ||
+        !soubor.commit())
+        ukaz_zpravu(QStringLiteral("Soubor %1 nelze zapsat.").arg(QDir::toNativeSeparators(cesta)));
 }
 
 Text slozka_programu() {

@@ -3,6 +3,13 @@
 
 #include "zaklad/text.h"
 
+#include <QString>
+
+#include <functional>
+
+class QDialog;
+class QIODevice;
+
 // Fills `platforma`. Called once, when the application object stands.
 void zapln_platformu();
 
@@ -12,3 +19,21 @@ Text slozka_programu();
 
 // The display cannot be reached: what to do about it, in Czech, for the terminal.
 const char* rada_bez_obrazovky();
+
+// --- by the windows beside the desk, outside the core
+
+// Time stands while the dialogue is open. True when it was accepted.
+bool proved_dialog(QDialog& dialog);
+// A box with that text.
+void ukaz_zpravu(const QString& text);
+
+// How a dialogue for saving begins: its title, the name that it proposes, the kinds of files in the window
+// system's own way of writing them, the first one first.
+struct NavrhSouboru {
+    QString titul, jmeno, druhy;
+};
+// Asks where to and writes there with `zapis`, which is told the ending of the name in small letters and
+// answers whether it could. A file of that name is replaced by a whole new one or stays; a disk that does not
+// take it is told.
+void uloz_jako(const NavrhSouboru& navrh,
+               const std::function<bool(QIODevice& soubor, const QString& pripona)>& zapis);

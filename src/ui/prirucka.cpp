@@ -1,16 +1,17 @@
 // ui/prirucka.cpp - the manual in a window of the program.
 #include "ui/prirucka.h"
 
+#include "app/prehravani.h"
 #include "app/simulace.h"
 #include "obsluha/vstup.h"
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
+#include "ui/hodiny_stolu.h"
 #include "ui/hodnoceni.h"
-#include "ui/nakres.h"
 #include "ui/napoveda.h"
 #include "ui/pismo.h"
 #include "ui/text_prirucky.h"
-#include "ui/vypravci.h"
+#include "ui/vedlejsi_okno.h"
 #include "zaklad/soubory.h"
 
 #include <QAbstractTextDocumentLayout>
@@ -35,8 +36,10 @@ namespace {
 
 constexpr double kSirkaOkna = 0.66, kVyskaOkna = 0.86; // of the screen
 constexpr int kHlidani_ms = 100;
+constexpr int kSrovnani_ms = 120; // behind the last step of a change of size
+constexpr int kBezKapitoly = -1;
 
-class Prirucka : public QWidget {
+class Prirucka : public VedlejsiOkno {
 public:
     Prirucka(QWidget* rodic, const QString& soubor);
     ~Prirucka() override;
@@ -45,14 +48,15 @@ public:
     void zastav_cas();
 
 protected:
-    void resizeEvent(QResizeEvent* udalost) override;
-    void keyPressEvent(QKeyEvent* udalost) override;
+    bool stisk(QKeyEvent& udalost) override;
     void closeEvent(QCloseEvent* udalost) override;
+    bool eventFilter(QObject* cil, QEvent* udalost) override;
 
 private:
     void umisti();
-    void vejdi_obrazky();
+    void srovnej();
     void skoc(int nadpis);
+    void na_misto(int misto);
     void najdi();
     void vrat_cas();
 
@@ -60,17 +64,18 @@ private:
     QTextBrowser* text = nullptr;
     QListWidget* obsah = nullptr;
     QLineEdit* hledani = nullptr;
-    QTimer hlidani;
+    QTimer hlidani, srovnani;
     QList<NadpisPrirucky> nadpisy;
+    int cteno = 0;         // place in the text at the upper edge
     bool drzi_cas = false; // the pause is this window's own
+    bool drzi_prehravani = false;
 };
 
 QPointer<Prirucka> otevrena;
 
 Prirucka::Prirucka(QWidget* rodic, const QString& soubor)
-    : QWidget(rodic, Qt::Window), slozka(QFileInfo(soubor).absolutePath()) {
-    setWindowTitle(QStringLiteral("KPS RVZ TESK: příručka výpravčího"));
-    setAttribute(Qt::WA_DeleteOnClose);
+    : VedlejsiOkno(rodic, QStringLiteral("KPS RVZ TESK: příručka výpravčího"), kBezKapitoly),
+      slozka(QFileInfo(soubor).absolutePath()) {
     text = new QTextBrowser;
     text->setOpenLinks(false); // it leads nowhere but within itself
     text->setUndoRedoEnabled(false);
@@ -100,6 +105,9 @@ Prirucka::Prirucka(QWidget* rodic, const QString& soubor)
     // Who starts the clock while he reads has taken the pause over.
     connect(&hlidani, &QTimer::timeout, this, [this] { drzi_cas = drzi_cas && simulace.pauza; });
     hlidani.start(kHlidani_ms);
+    connect(&srovnani, &QTimer::timeout, this, &Prirucka::srovnej);
+    srovnani.setSingleShot(true);
+    text->installEventFilter(this);
     umisti();
 }
 
@@ -112,24 +120,30 @@ void Prirucka::umisti() {
     const QScreen* obrazovka = parentWidget() != nullptr ? parentWidget()->screen() : screen();
     if (obrazovka == nullptr)
         return;
-    const QRect plocha = obrazovka->availableGeometry();
-    const int sirka = std::min(plocha.width(), plocha.height() * 2); // two monitors may be one screen
-    resize(qRound(sirka * kSirkaOkna), qRound(plocha.height() * kVyskaOkna));
-    move(plocha.left() + sirka - width() - sirka / 50, plocha.top() + (plocha.height() - height()) / 2);
+    QRect plocha = obrazovka->availableGeometry();
+    if (simulace.dva_monitory && obrazovka->virtualSiblings().size() == 1) // both are one screen
+        plocha.setWidth(plocha.width() / 2);
+    resize(qRound(plocha.width() * kSirkaOkna), qRound(plocha.height() * kVyskaOkna));
+    move(plocha.right() + 1 - width() - plocha.width() / 50, plocha.center().y() - height() / 2);
 }
 
-void Prirucka::vejdi_obrazky() {
+// The pictures have the width of the text; what was read stays where it was.
+void Prirucka::srovnej() {
     const double okraj = 2 * text->document()->documentMargin() + 8;
     uprav_obrazky(*text->document(), slozka, std::max(100.0, text->viewport()->width() - okraj),
                   fontMetrics().height() / 26.0, devicePixelRatioF());
+    na_misto(cteno);
 }
 
-void Prirucka::resizeEvent(QResizeEvent* udalost) {
-    QWidget::resizeEvent(udalost);
-    QTimer::singleShot(0, this, [this] { // when the text has its own new size
-        vejdi_obrazky();
-        skoc(obsah->currentRow());
-    });
+// The text is laid out anew with each step of a change of size: before the first one it is still where it was
+// read.
+bool Prirucka::eventFilter(QObject* cil, QEvent* udalost) {
+    if (cil == text && udalost->type() == QEvent::Resize) {
+        if (!srovnani.isActive())
+            cteno = text->cursorForPosition({0, 0}).position();
+        srovnani.start(kSrovnani_ms);
+    }
+    return VedlejsiOkno::eventFilter(cil, udalost);
 }
 
 void Prirucka::ukaz(int kapitola) {
@@ -138,9 +152,10 @@ void Prirucka::ukaz(int kapitola) {
     for (int i = 0; i < nadpisy.size(); ++i)
         if (nadpisy[i].text.startsWith(zacatek))
             radek = i;
-    show();
-    raise();
-    activateWindow();
+    const bool nova = !isVisible();
+    VedlejsiOkno::ukaz();
+    if (nova)
+        srovnej();
     text->setFocus();
     obsah->setCurrentRow(radek);
     skoc(radek);
@@ -151,8 +166,16 @@ void Prirucka::skoc(int nadpis) {
         return;
     const QTextBlock blok = text->document()->findBlockByNumber(nadpisy[nadpis].blok);
     text->setTextCursor(QTextCursor(blok));
-    text->verticalScrollBar()->setValue(
-        static_cast<int>(text->document()->documentLayout()->blockBoundingRect(blok).top()));
+    na_misto(blok.position());
+}
+
+void Prirucka::na_misto(int misto) {
+    cteno = misto;
+    const QTextBlock blok = text->document()->findBlock(misto);
+    double y = text->document()->documentLayout()->blockBoundingRect(blok).top();
+    if (const QTextLine radek = blok.layout()->lineForTextPosition(misto - blok.position()); radek.isValid())
+        y += radek.y();
+    text->verticalScrollBar()->setValue(static_cast<int>(y));
 }
 
 // The next place of the words, from the top again behind the last one.
@@ -163,23 +186,25 @@ void Prirucka::najdi() {
     text->find(hledani->text());
 }
 
-void Prirucka::keyPressEvent(QKeyEvent* udalost) {
-    if (udalost->key() == Qt::Key_Escape)
-        close();
-    else if (udalost->key() == Qt::Key_F10 && HlavniOkno::otevrene() != nullptr)
-        QCoreApplication::sendEvent(HlavniOkno::otevrene(), udalost);
-    else
-        QWidget::keyPressEvent(udalost);
+// F10 lets a watched shift go on beside the manual, as it does the service.
+bool Prirucka::stisk(QKeyEvent& udalost) {
+    if (udalost.key() != Qt::Key_F10 || !drzi_prehravani)
+        return false;
+    drzi_prehravani = false;
+    podrz_prehravani(false);
+    return true;
 }
 
 void Prirucka::closeEvent(QCloseEvent* udalost) {
     vrat_cas();
-    QWidget::closeEvent(udalost);
+    VedlejsiOkno::closeEvent(udalost);
 }
 
 void Prirucka::zastav_cas() {
     if (HlavniOkno::otevrene() == nullptr)
         return; // before the service there is no time to hold
+    drzi_prehravani = prehrava_se();
+    podrz_prehravani(drzi_prehravani);
     rukou([this] {
         drzi_cas = !simulace.pauza;
         if (drzi_cas)
@@ -190,11 +215,11 @@ void Prirucka::zastav_cas() {
 void Prirucka::vrat_cas() {
     if (drzi_cas && simulace.pauza)
         v_jadre(spust_sluzbu);
-    drzi_cas = false;
-    if (HlavniOkno* stul = HlavniOkno::otevrene()) {
+    if (drzi_prehravani)
+        podrz_prehravani(false);
+    drzi_cas = drzi_prehravani = false;
+    if (HlavniOkno* stul = HlavniOkno::otevrene())
         stul->obnov();
-        stul->activateWindow(); // where no window manager gives the keys back
-    }
 }
 
 class KlavesaF1 : public QObject {
@@ -218,15 +243,19 @@ protected:
     }
 
 private:
+    // A box or dialogue over a window beside the desk belongs to that one; over the desk a dialogue is that
+    // of the saves.
     static int kapitola_tady() {
-        if (qobject_cast<QFileDialog*>(QApplication::activeModalWidget()) != nullptr)
-            return nakres_ma_klavesy() ? kapitoly::nakres : kapitoly::hodiny; // it tells of saves
-        if (nakres_ma_klavesy())
-            return kapitoly::nakres;
+        const QWidget* dialog = QApplication::activeModalWidget();
+        for (const QWidget* w = dialog != nullptr ? dialog : QApplication::activeWindow(); w != nullptr;
+             w = w->parentWidget())
+            if (const auto* okno = dynamic_cast<const VedlejsiOkno*>(w);
+                okno != nullptr && okno->kapitola() != kBezKapitoly)
+                return okno->kapitola();
         if (hodnoceni_ma_klavesy())
             return kapitoly::hodnoceni;
-        if (vypravci_ma_klavesy())
-            return kapitoly::vypravci;
+        if (qobject_cast<const QFileDialog*>(dialog) != nullptr)
+            return kapitoly::hodiny;
         if (const HlavniOkno* stul = HlavniOkno::otevrene())
             return stul->kapitola_pod_kurzorem();
         return kapitoly::spusteni;

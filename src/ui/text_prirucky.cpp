@@ -47,6 +47,17 @@ void uprav_odstavce(QTextDocument& text) {
     }
 }
 
+// Read once: the document keeps it as it was drawn beside what is shown of it.
+QImage nacteny_obrazek(QTextDocument& text, const QString& slozka, const QString& jmeno) {
+    const QUrl puvodni(QStringLiteral("puvodni:") + jmeno);
+    QImage obrazek = text.resource(QTextDocument::UserResource, puvodni).value<QImage>();
+    if (obrazek.isNull()) {
+        obrazek.load(slozka + u'/' + jmeno);
+        text.addResource(QTextDocument::UserResource, puvodni, obrazek);
+    }
+    return obrazek;
+}
+
 } // namespace
 
 bool nacti_prirucku(QTextDocument& text, const QString& soubor) {
@@ -72,12 +83,15 @@ QStringList uprav_obrazky(QTextDocument& text, const QString& slozka, double sir
     QStringList chybi;
     for (const QTextFragment& kus : obrazky) {
         QTextImageFormat f = kus.charFormat().toImageFormat();
-        const QImage obrazek(slozka + u'/' + f.name());
+        const QImage obrazek = nacteny_obrazek(text, slozka, f.name());
         if (obrazek.isNull()) {
             chybi += f.name();
             continue;
         }
-        f.setWidth(std::min(obrazek.width() * pomer, sirka));
+        const double nova = std::min(obrazek.width() * pomer, sirka);
+        if (f.width() == nova)
+            continue;
+        f.setWidth(nova);
         f.setHeight(f.width() * obrazek.height() / obrazek.width());
         text.addResource(QTextDocument::ImageResource, QUrl(f.name()),
                          bodu > 0 ? obrazek.scaled(QSizeF(f.width() * bodu, f.height() * bodu).toSize(),

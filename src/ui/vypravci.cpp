@@ -2,8 +2,10 @@
 #include "ui/vypravci.h"
 
 #include "app/cas.h"
+#include "app/prehravani.h"
 #include "app/sledovani_provozu.h"
 #include "app/zprava_o_provozu.h"
+#include "cesty/zasobnik.h"
 #include "desk/info_o_vlaku.h"
 #include "gvd/gvd.h"
 #include "jizda/vlak.h"
@@ -12,49 +14,61 @@
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
 #include "ui/hodnoceni.h"
+#include "ui/napoveda.h"
 #include "ui/pismo.h"
+#include "ui/platforma_qt.h"
+#include "ui/vedlejsi_okno.h"
 #include "vypravci/vypravci.h"
 
 #include <QCheckBox>
-#include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QFileDialog>
-#include <QFontDatabase>
 #include <QGroupBox>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
 #include <QListWidget>
-#include <QMessageBox>
 #include <QPlainTextEdit>
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QTabWidget>
+#include <QTextCursor>
 #include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <iterator>
 #include <set>
 #include <vector>
 
 namespace {
 
 constexpr int kObnova_ms = 500;
+constexpr int kObnovaZpravy = 4; // the report is told anew at every so manieth of those
+enum List : int { list_cekani, list_rozhodnuti, list_zpravy };
 // The sign stands so far right of the version of the program; the line of the panel at its lower edge. Twips.
 constexpr int kOdVerze = 184 * kTwipu, kZnackaNahore = 4 * kTwipu;
 constexpr int kRadekPanelu = 752 * kTwipu, kRadekVlevo = 8 * kTwipu;
 constexpr Barva kBarvaCekani = 0x30B0FF; // amber
 
-// What F6 hands over: the whole desk, or these stations.
+// What F6 hands over: the whole desk, or these stations. Empty while the boxes are being ticked anew; he then
+// keeps what he has.
 struct Rozsah {
     bool vse = true;
     std::set<std::uint8_t> stanice;
+
+    bool prazdny() const { return !vse && stanice.empty(); }
 };
 Rozsah rozsah;
+
+Rozsah jeho_rozsah() {
+    Rozsah r{stav_vypravciho.vse, {}};
+    for (std::size_t kod = 0; kod < kKoduStanic; ++kod)
+        if (stav_vypravciho.stanice[kod])
+            r.stanice.insert(static_cast<std::uint8_t>(kod));
+    return r;
+}
 
 void predej_rozsah() {
     if (rozsah.vse) {
@@ -65,59 +79,83 @@ void predej_rozsah() {
     }
 }
 
-class OknoVypravciho : public QWidget {
+// The stack works again as it did before he came: he needs each route to be tried by itself.
+void vezmi_stul() {
+    rozsah = jeho_rozsah();
+    const bool prepnul = stav_vypravciho.prepnul_pv;
+    vypravci::vezmi();
+    if (prepnul && !plati_vz())
+        klik(Druh::lblZasobnik_VZ, 0, Tlacitko::leve, false);
+}
+
+QString popis_stanic(const Rozsah& co) {
+    QStringList kody;
+    for (const TextPohled kod : vypravci::kody_stanic())
+        if (co.stanice.contains(static_cast<std::uint8_t>(vypravci::stanice_kodu(kod))))
+            kody += na_qstring(kod);
+    return kody.join(u' ');
+}
+
+class OknoVypravciho : public VedlejsiOkno {
 public:
     explicit OknoVypravciho(QWidget* stul);
+    void obnov();
 
 protected:
-    void keyPressEvent(QKeyEvent* udalost) override;
-    void closeEvent(QCloseEvent* udalost) override;
+    bool stisk(QKeyEvent& udalost) override;
 
 private:
+    // Sentences as a list shows them, from the top.
+    struct UkazaneVety {
+        QListWidget* okno;
+        std::vector<Veta> vety;
+    };
+
     void umisti();
     QWidget* stanice();
     QListWidget* seznam_vet();
     void zmen_rozsah();
-    void obnov();
-    void obnov_vety(QListWidget& okno, std::vector<Veta>& ukazane, std::vector<Veta> nove,
-                    bool nejnovejsi_nahore);
+    void obnov_policka(bool lze);
     void obnov_zpravu();
     void uloz_zpravu();
 
-    QWidget* stul;
     QLabel* stav;
     QPushButton* predat;
     QCheckBox* cely_stul;
     std::vector<std::pair<std::uint8_t, QCheckBox*>> policka;
     QTabWidget* listy;
-    QListWidget *cekani, *rozhodnuti;
+    UkazaneVety cekani{}, rozhodnuti{};
     QPlainTextEdit* zprava;
-    std::vector<Veta> ukazana_cekani, ukazana_rozhodnuti;
+    int do_zpravy = 0; // looks until it is told anew
     QTimer obnova;
+
+    template <class Vety> static void obnov_vety(UkazaneVety& kde, Vety od, Vety po);
 };
 
 QPointer<OknoVypravciho> otevrene;
 
-OknoVypravciho::OknoVypravciho(QWidget* rodic) : QWidget(rodic, Qt::Window), stul(rodic) {
-    setWindowTitle(QStringLiteral("KPS RVZ TESK: automatický výpravčí"));
-    setAttribute(Qt::WA_DeleteOnClose);
+OknoVypravciho::OknoVypravciho(QWidget* rodic)
+    : VedlejsiOkno(rodic, QStringLiteral("KPS RVZ TESK: automatický výpravčí"), kapitoly::vypravci) {
+    predavej_enter();
+    v_jadre([] {
+        if (vypravci::zapnut())
+            rozsah = jeho_rozsah();
+    });
     stav = new QLabel;
     stav->setWordWrap(true);
     predat = new QPushButton;
-    connect(predat, &QPushButton::clicked, this, [this] {
-        prepni_vypravciho();
-        obnov();
-    });
+    connect(predat, &QPushButton::clicked, this, prepni_vypravciho);
     auto* zavrit = new QPushButton(QStringLiteral("&Zavřít [Esc]"));
     connect(zavrit, &QPushButton::clicked, this, &QWidget::close);
 
-    cekani = seznam_vet();
-    rozhodnuti = seznam_vet();
+    cekani.okno = seznam_vet();
+    rozhodnuti.okno = seznam_vet();
     zprava = new QPlainTextEdit;
     zprava->setReadOnly(true);
+    zprava->setToolTip(QStringLiteral("Povely jsou tu všechna klepnutí a klávesy, vaše i jeho"));
     zprava->setLineWrapMode(QPlainTextEdit::WidgetWidth);
     auto* hodnoceni = new QPushButton(QStringLiteral("&Hodnocení služby…"));
-    connect(hodnoceni, &QPushButton::clicked, this, [this] { ukaz_hodnoceni(stul); });
+    connect(hodnoceni, &QPushButton::clicked, this, [this] { ukaz_hodnoceni(stul()); });
     auto* ulozit = new QPushButton(QStringLiteral("&Uložit zprávu…"));
     connect(ulozit, &QPushButton::clicked, this, &OknoVypravciho::uloz_zpravu);
     auto* se_zpravou = new QWidget;
@@ -129,10 +167,14 @@ OknoVypravciho::OknoVypravciho(QWidget* rodic) : QWidget(rodic, Qt::Window), stu
     pod_zpravou->addWidget(ulozit);
     rozvrzeni_zpravy->addLayout(pod_zpravou);
     listy = new QTabWidget;
-    listy->addTab(cekani, {});
-    listy->addTab(rozhodnuti, QStringLiteral("&Rozhodnutí"));
+    listy->setDocumentMode(true); // all pages on the ground of the window
+    listy->addTab(cekani.okno, {});
+    listy->addTab(rozhodnuti.okno, QStringLiteral("&Rozhodnutí"));
     listy->addTab(se_zpravou, QStringLiteral("Zpráva o &provozu"));
-    connect(listy, &QTabWidget::currentChanged, this, [this] { obnov_zpravu(); });
+    connect(listy, &QTabWidget::currentChanged, this, [this] {
+        do_zpravy = 0;
+        obnov();
+    });
 
     auto* dole = new QHBoxLayout;
     dole->addWidget(stav, 1);
@@ -148,18 +190,16 @@ OknoVypravciho::OknoVypravciho(QWidget* rodic) : QWidget(rodic, Qt::Window), stu
     obnov();
     connect(&obnova, &QTimer::timeout, this, &OknoVypravciho::obnov);
     obnova.start(kObnova_ms);
-    show();
-    raise();
-    activateWindow();
+    ukaz();
     predat->setFocus();
 }
 
-// At the right edge, with the top bar and the left half of the relief in sight.
+// At the right edge, with the left part of the tracks in sight.
 void OknoVypravciho::umisti() {
-    const QRect deska = stul->geometry();
-    const int sirka = deska.width() > 2 * deska.height() ? deska.width() / 2 : deska.width();
-    resize(std::max(qRound(sirka * 0.62), minimumSizeHint().width()), qRound(deska.height() * 0.76));
-    move(deska.right() - width() - sirka / 60, deska.top() + deska.height() / 24);
+    QRect kde = plocha_u_stolu();
+    kde.setLeft(kde.right() + 1 - std::max(qRound(kde.width() * 0.62), minimumSizeHint().width()));
+    const int okraj = kde.height() / 45;
+    setGeometry(kde.translated(-okraj, 0));
 }
 
 QWidget* OknoVypravciho::stanice() {
@@ -172,18 +212,17 @@ QWidget* OknoVypravciho::stanice() {
     v_jadre([&] {
         for (const TextPohled kod : vypravci::kody_stanic()) {
             const int cislo = vypravci::stanice_kodu(kod);
-            auto* p = new QCheckBox(na_qstring(Text(kod) + "  " + Text(nazev_stanice(cislo))));
+            const TextPohled nazev = nazev_stanice(cislo);
+            auto* p = new QCheckBox(na_qstring(nazev == kod ? Text(kod) : Text(kod) + "  " + Text(nazev)));
+            p->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Preferred); // many in a low window
+            p->setMinimumHeight(p->fontMetrics().height());
             policka.emplace_back(static_cast<std::uint8_t>(cislo), p);
             sloupec->addWidget(p);
         }
     });
     sloupec->addStretch(1);
-    cely_stul->setChecked(rozsah.vse);
-    for (const auto& [kod, p] : policka) {
-        p->setChecked(rozsah.stanice.contains(kod));
-        p->setEnabled(!rozsah.vse);
+    for (const auto& [kod, p] : policka)
         connect(p, &QCheckBox::toggled, this, &OknoVypravciho::zmen_rozsah);
-    }
     connect(cely_stul, &QCheckBox::toggled, this, &OknoVypravciho::zmen_rozsah);
     return skupina;
 }
@@ -202,104 +241,125 @@ QListWidget* OknoVypravciho::seznam_vet() {
     return s;
 }
 
-// What is ticked counts at once when he has the desk.
+// What is ticked counts at once when he has the desk. Without a tick he keeps what he has: on the way from
+// the whole desk to single stations there is a moment at which nothing is ticked.
 void OknoVypravciho::zmen_rozsah() {
     rozsah.vse = cely_stul->isChecked();
     rozsah.stanice.clear();
-    for (const auto& [kod, p] : policka) {
-        p->setEnabled(!rozsah.vse);
-        if (p->isChecked())
+    for (const auto& [kod, p] : policka)
+        if (p->isChecked() && !rozsah.vse)
             rozsah.stanice.insert(kod);
-    }
     rukou([] {
-        if (!vypravci::zapnut())
-            return;
-        if (rozsah.vse || !rozsah.stanice.empty())
+        if (smi_vedle_stolu() && vypravci::zapnut() && !rozsah.prazdny())
             predej_rozsah();
-        else
-            vypravci::vezmi();
     });
     obnov();
 }
 
+// While he has the desk, the boxes say what of it, whoever gave it to him.
+void OknoVypravciho::obnov_policka(bool lze) {
+    if (vypravci::zapnut() && !rozsah.prazdny())
+        rozsah = jeho_rozsah();
+    const auto nastav = [](QCheckBox& p, bool zaskrtnuto, bool lze_zmenit) {
+        const QSignalBlocker bez_ozveny(&p);
+        p.setChecked(zaskrtnuto);
+        p.setEnabled(lze_zmenit);
+    };
+    nastav(*cely_stul, rozsah.vse, lze);
+    for (const auto& [kod, p] : policka)
+        nastav(*p, rozsah.stanice.contains(kod), lze && !rozsah.vse);
+}
+
 void OknoVypravciho::obnov() {
     v_jadre([this] {
-        const bool ma = vypravci::zapnut();
-        const QString co = rozsah.vse ? QStringLiteral("celý stůl")
-                                      : QStringLiteral("stanic: %1").arg(rozsah.stanice.size());
-        stav->setText(ma ? QStringLiteral("Výpravčí má %1, povelů %2").arg(co).arg(stav_vypravciho.povelu)
-                         : QStringLiteral("Stůl máte vy"));
+        const bool ma = vypravci::zapnut(), lze = !prehrava_se() && smi_vedle_stolu();
+        obnov_policka(lze);
+        QString co = QStringLiteral("Stůl máte vy.");
+        if (ma) {
+            co = stav_vypravciho.vse
+                     ? QStringLiteral("Výpravčí má celý stůl")
+                     : QStringLiteral("Výpravčí má stanice %1").arg(popis_stanic(jeho_rozsah()));
+            co += QStringLiteral(", sám dal povelů: %1.").arg(stav_vypravciho.povelu);
+        }
+        if (rozsah.prazdny())
+            co += ma ? QStringLiteral(" Dokud nic nezaškrtnete, nemění se nic.")
+                     : QStringLiteral(" Zaškrtněte, co se má předat.");
+        stav->setText(co);
         predat->setText(ma ? QStringLiteral("Vzít zpět [F6]") : QStringLiteral("Předat [F6]"));
-        predat->setEnabled(ma || rozsah.vse || !rozsah.stanice.empty());
-        obnov_vety(*cekani, ukazana_cekani, stav_vypravciho.cekani, false);
-        const auto& vety = stav_vypravciho.vety;
-        const auto kolik = static_cast<std::ptrdiff_t>(std::min(vety.size(), kVetVypravciho));
-        obnov_vety(*rozhodnuti, ukazana_rozhodnuti, {vety.end() - kolik, vety.end()}, true);
-        listy->setTabText(0, QStringLiteral("Če&ká (%1)").arg(stav_vypravciho.cekani.size()));
+        predat->setEnabled(lze && (ma || !rozsah.prazdny()));
+        listy->setTabText(list_cekani, QStringLiteral("Če&ká (%1)").arg(stav_vypravciho.cekani.size()));
+        switch (listy->currentIndex()) {
+        case list_cekani:
+            obnov_vety(cekani, stav_vypravciho.cekani.begin(), stav_vypravciho.cekani.end());
+            break;
+        case list_rozhodnuti: // the newest on top
+            obnov_vety(rozhodnuti, stav_vypravciho.vety.rbegin(), stav_vypravciho.vety.rend());
+            break;
+        default: obnov_zpravu();
+        }
     });
 }
 
-void OknoVypravciho::obnov_vety(QListWidget& okno, std::vector<Veta>& ukazane, std::vector<Veta> nove,
-                                bool nejnovejsi_nahore) {
-    if (nove == ukazane && okno.count() == static_cast<int>(nove.size()))
+// What has not changed at the top and at the bottom stays: the line that is picked, and the place.
+template <class Vety> void OknoVypravciho::obnov_vety(UkazaneVety& kde, Vety od, Vety po) {
+    auto& [okno, ukazane] = kde;
+    if (okno->viewport()->underMouse() && QGuiApplication::mouseButtons() != Qt::NoButton)
+        return; // a line that is being clicked stays under the pointer
+    const auto bylo = std::ssize(ukazane), bude = static_cast<std::ptrdiff_t>(po - od);
+    const auto nahore = std::mismatch(ukazane.begin(), ukazane.end(), od, po).first - ukazane.begin();
+    if (nahore == bylo && nahore == bude)
         return;
-    if (okno.viewport()->underMouse() && QGuiApplication::mouseButtons() != Qt::NoButton)
-        return; // a row that is being clicked stays under the pointer
-    ukazane = std::move(nove);
-    const int posun = okno.verticalScrollBar()->value();
-    okno.clear();
-    for (const Veta& v : ukazane) {
+    std::ptrdiff_t dole = 0;
+    while (dole < std::min(bylo, bude) - nahore && *(ukazane.end() - 1 - dole) == *(po - 1 - dole))
+        ++dole;
+    const int vybrany = okno->currentRow(), posun = okno->verticalScrollBar()->value();
+    const bool zmizi = vybrany >= nahore && vybrany < bylo - dole;
+    const std::int32_t vlak = zmizi ? ukazane[static_cast<std::size_t>(vybrany)].vlak : 0;
+    for (auto i = bylo - dole; i > nahore; --i)
+        delete okno->takeItem(static_cast<int>(i - 1));
+    if (zmizi)
+        okno->setCurrentRow(-1);
+    for (auto i = nahore; i < bude - dole; ++i) {
+        const Veta& v = *(od + i);
         auto* radek = new QListWidgetItem(na_qstring(text_casu(v.cas_s) + "  " + v.text));
         radek->setData(Qt::UserRole, v.vlak);
-        okno.insertItem(nejnovejsi_nahore ? 0 : okno.count(), radek);
+        okno->insertItem(static_cast<int>(i), radek);
+        if (zmizi && v.vlak == vlak)
+            okno->setCurrentItem(radek); // the same train says something else
     }
-    okno.verticalScrollBar()->setValue(posun);
+    const bool pribylo_nad = posun > 0 && nahore == 0;
+    okno->verticalScrollBar()->setValue(pribylo_nad ? posun + static_cast<int>(bude - bylo) : posun);
+    ukazane.assign(od, po);
 }
 
-// As the run stands at the moment at which the page is opened; opening it again tells it anew.
+// The report follows the run, but not under the hands of one who reads or picks in it.
 void OknoVypravciho::obnov_zpravu() {
-    if (listy->currentIndex() == 2)
-        v_jadre([this] { zprava->setPlainText(na_qstring(text_zpravy_o_provozu()).remove(u'\r')); });
+    if (do_zpravy-- > 0)
+        return;
+    do_zpravy = kObnovaZpravy - 1;
+    const QString text = na_qstring(text_zpravy_o_provozu()).remove(u'\r');
+    if (text == zprava->toPlainText() || zprava->textCursor().hasSelection())
+        return;
+    const int posun = zprava->verticalScrollBar()->value();
+    zprava->setPlainText(text);
+    zprava->verticalScrollBar()->setValue(posun);
 }
 
 void OknoVypravciho::uloz_zpravu() {
-    const QString cesta = QFileDialog::getSaveFileName(this, QStringLiteral("Uložit zprávu o provozu"),
-                                                       QDir::homePath() + QStringLiteral("/zprava.txt"),
-                                                       QStringLiteral("Text (*.txt)"));
-    if (cesta.isEmpty())
-        return;
-    QFile soubor(cesta);
-    const QByteArray text = zprava->toPlainText().toUtf8() + '\n';
-    if (!soubor.open(QIODevice::WriteOnly | QIODevice::Truncate) || soubor.write(text) != text.size() ||
-        !soubor.flush())
-        QMessageBox::warning(this, QStringLiteral("KPS RVZ TESK"),
-                             QStringLiteral("Soubor %1 nelze zapsat.").arg(QDir::toNativeSeparators(cesta)));
+    uloz_jako({QStringLiteral("Uložit zprávu o provozu"), QStringLiteral("zprava.txt"),
+               QStringLiteral("Text (*.txt)")},
+              [](QIODevice& soubor, const QString&) {
+                  QByteArray text;
+                  v_jadre([&] { text = na_qstring(text_zpravy_o_provozu()).remove(u'\r').toUtf8(); });
+                  return soubor.write(text) == text.size();
+              });
 }
 
-void OknoVypravciho::keyPressEvent(QKeyEvent* udalost) {
-    const bool shift = udalost->modifiers().testFlag(Qt::ShiftModifier);
-    switch (udalost->key()) {
-    case Qt::Key_Escape: close(); break;
-    case Qt::Key_F6:
-        if (shift) {
-            close();
-        } else {
-            prepni_vypravciho();
-            obnov();
-        }
-        break;
-    case Qt::Key_F7:
-    case Qt::Key_F10:
-        if (HlavniOkno::otevrene() != nullptr)
-            QCoreApplication::sendEvent(HlavniOkno::otevrene(), udalost);
-        break;
-    default: QWidget::keyPressEvent(udalost);
-    }
-}
-
-void OknoVypravciho::closeEvent(QCloseEvent* udalost) {
-    QWidget::closeEvent(udalost);
-    stul->activateWindow(); // where no window manager gives the keys back
+bool OknoVypravciho::stisk(QKeyEvent& udalost) {
+    const bool zavira = udalost.key() == Qt::Key_F6 && udalost.modifiers().testFlag(Qt::ShiftModifier);
+    if (zavira)
+        close();
+    return zavira;
 }
 
 Prvek napis(int vlevo, int nahore, Text text, Barva popredi) {
@@ -318,14 +378,22 @@ Prvek napis(int vlevo, int nahore, Text text, Barva popredi) {
 } // namespace
 
 void prepni_vypravciho() {
+    HlavniOkno* deska = HlavniOkno::otevrene();
     rukou([] {
+        if (!smi_vedle_stolu())
+            return;
         if (vypravci::zapnut())
-            vypravci::vezmi();
-        else if (rozsah.vse || !rozsah.stanice.empty())
+            vezmi_stul();
+        else if (!rozsah.prazdny())
             predej_rozsah();
     });
-    if (HlavniOkno* deska = HlavniOkno::otevrene())
-        deska->obnov();
+    if (deska == nullptr)
+        return;
+    if (otevrene)
+        otevrene->obnov();
+    else if (rozsah.prazdny())
+        otevrene = new OknoVypravciho(deska);
+    deska->obnov();
 }
 
 void prepni_okno_vypravciho(QWidget* stul) {
@@ -350,8 +418,4 @@ Prvek radek_cekani_na_panelu() {
         return {};
     const TextPohled veta = veta_vypravciho(zobrazene_cislo(vlak_c(v)));
     return veta.empty() ? Prvek{} : napis(kRadekVlevo, kRadekPanelu, Text(veta), kBarvaCekani);
-}
-
-bool vypravci_ma_klavesy() {
-    return otevrene && otevrene->isActiveWindow();
 }

@@ -8,7 +8,8 @@
 
 // --- on the operator's command
 
-// Hands over what the window's boxes say, at first the whole desk; takes it back when he has it.
+// Hands over what he had last or the window's boxes say, at first the whole desk; takes it back when he has
+// it. When no box is ticked, the window is opened instead.
 void prepni_vypravciho();
 // Opens the window "Automatický výpravčí", or closes it.
 void prepni_okno_vypravciho(QWidget* stul);
@@ -19,5 +20,3 @@ void prepni_okno_vypravciho(QWidget* stul);
 Prvek znacka_vypravciho();
 // Why the train on the bottom panel waits, when he has it; hidden otherwise.
 Prvek radek_cekani_na_panelu();
-// The window is the one that has the keys.
-bool vypravci_ma_klavesy();
