@@ -6,6 +6,7 @@
 #include "app/nouzove.h"
 #include "app/simulace.h"
 #include "app/sledovani_provozu.h"
+#include "app/vystrahy.h"
 #include "cesty/cesta.h"
 #include "cesty/tik_volby.h"
 #include "desk/stav_blikani.h"
@@ -140,6 +141,7 @@ void krok_hodin() {
     if (minuta_dne(cas_hodin()) != minuta)
         krok_minuty();
     sleduj_provoz();
+    sleduj_vystrahy();
 }
 
 void krok_minuty() {

@@ -107,6 +107,7 @@ std::size_t bajtu_stavu(const StavSimulace& s) {
         for (const Veta& v : *vety)
             bajtu += v_hromade(v.text);
     }
+    bajtu += s.stav_vystrah.stopy.capacity() * sizeof(StopaZpozdeni);
     return bajtu;
 }
 

@@ -10,6 +10,7 @@
 #include "app/pocty_provozu.h"
 #include "app/simulace.h"
 #include "app/sledovani_provozu.h"
+#include "app/vystrahy.h"
 #include "cesty/cesta.h"
 #include "cesty/zasobnik.h"
 #include "desk/hlaseni.h"
@@ -76,6 +77,7 @@
     TABULKA(sekvence, {})                                                                                    \
     TABULKA(stav_vypravciho, {})                                                                             \
     TABULKA(sledovani, {})                                                                                   \
+    TABULKA(stav_vystrah, {})                                                                                \
     TABULKA(parametry, {})
 
 // The whole simulation as a value.

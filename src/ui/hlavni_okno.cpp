@@ -7,6 +7,7 @@
 #include "app/sledovani_provozu.h"
 #include "app/smena.h"
 #include "cesty/duvod.h"
+#include "desk/info_o_vlaku.h"
 #include "desk/menu.h"
 #include "obsluha/povely.h"
 #include "obsluha/vstup.h"
@@ -50,6 +51,12 @@ constexpr int kPodRadkem = 43 * kTwipu, kNadZasobnikem = 597 * kTwipu; // the tr
 constexpr QRect kMistoVyzvy(600 * kTwipu, 22 * kTwipu, 380 * kTwipu, 19 * kTwipu);
 constexpr QRgb kNajetiPrvku = 0xFF5A6A7C;
 constexpr double kKrokLupy = 1.25;
+// The row of alarms: right of the panel's buttons, pixels of the desk.
+constexpr QRect kMistoRady(338, 617, 682, 19);
+constexpr int kObnovaVystrah_ms = 500;
+constexpr int kUkazani_ms = 4000, kBliknuti_ms = 300, kTipPo_ms = 250; // of the place that an alarm leads to
+constexpr int kOkrajUkazani = 4; // of its frame from it, pixels of the desk
+constexpr QRgb kBarvaUkazani = 0xFFFFB030;
 constexpr int kPosunLupy = 80; // of what is enlarged by one step, pixels of the desk
 
 constexpr const char* kVzhledSeznamu =
@@ -187,6 +194,11 @@ Text duvod_prvku(const Nalezeny& kde) {
     }
 }
 
+// Of a tip: a note may hold signs that would be taken for a layout.
+QString bez_rozvrzeni(const QString& text) {
+    return QStringLiteral("<div style='white-space:pre'>%1</div>").arg(text.toHtmlEscaped());
+}
+
 // The colours of the relief have not been set yet.
 bool je_nenatreny() {
     for (const TabulkaPrvku* prvky : {&relief.kolej, &relief.navestidlo, &relief.navestidlo_ser})
@@ -242,6 +254,7 @@ HlavniOkno::HlavniOkno() {
         obnov();
         rekni_vadu_zaznamu();
     });
+    s_radou = je_rada_vystrah();
     prekreslovani.setTimerType(Qt::PreciseTimer);
     prekreslovani.start(kPrekreslovani_ms);
 }
@@ -385,6 +398,8 @@ void HlavniOkno::obnov() {
         update(v_okne(kMistoVyzvy.translated(platno.posun_praveho_okraje(), 0)));
     }
     obnov_napisy_vypravciho();
+    obnov_vystrahy();
+    obnov_ukazani();
     ukaz_hledane();
     for (ZobrazenySeznam& s : seznamy)
         obnov_seznam(s);
@@ -449,6 +464,106 @@ void HlavniOkno::obnov_napisy_vypravciho() {
 bool HlavniOkno::je_nad_znackou_vypravciho(QPointF misto) const {
     const Prvek& z = napisy_vypravciho.front();
     return z.viditelny && QRect(z.vlevo, z.nahore, z.sirka, z.vyska).contains(na_twipy(misto));
+}
+
+// --- the alarms: the view alone, no act of the hands
+
+QRect HlavniOkno::misto_rady() const {
+    return {kMistoRady.x() * kTwipu, kMistoRady.y() * kTwipu,
+            kMistoRady.width() * kTwipu + platno.posun_praveho_okraje(), kMistoRady.height() * kTwipu};
+}
+
+void HlavniOkno::obnov_vystrahy(bool hned) {
+    if (!hned && od_vystrah.isValid() && od_vystrah.elapsed() < kObnovaVystrah_ms)
+        return;
+    od_vystrah.start();
+    std::vector<Vystraha> vse;
+    if (s_radou)
+        v_jadre([&] { vse = vystrahy(); });
+    if (!rada.rozloz(std::move(vse), misto_rady()))
+        return;
+    update(v_okne(misto_rady()).adjusted(-3, -3, 3, 3));
+    QStringList vety;
+    for (const Vystraha& v : rada.vystrahy())
+        vety += na_qstring(v.text);
+    setAccessibleDescription(vety.join(QStringLiteral("; ")));
+}
+
+// Of a track without a label its line; twips of the picture.
+QRect HlavniOkno::misto_ukazani(const Nalezeny& kde) const {
+    if (kde.druh != Druh::kolej)
+        return platno.misto(kde.druh, kde.n);
+    const Prvek& cara = platno.prvek(kde.druh, kde.n);
+    return QRect(QPoint(cara.x1, cara.y1), QPoint(cara.x2, cara.y2))
+        .normalized()
+        .adjusted(0, -kTwipu, 0, kTwipu);
+}
+
+// With the frame around it.
+QRect HlavniOkno::okoli_ukazaneho() const {
+    const int okraj = static_cast<int>(std::ceil(kOkrajUkazani * meritko_v_okne())) + 2;
+    return v_okne(ukazani->misto).adjusted(-okraj, -okraj, okraj, okraj);
+}
+
+void HlavniOkno::obnov_ukazani() {
+    if (!ukazani)
+        return;
+    const qint64 ms = ukazani->od.elapsed();
+    const bool sviti = ms < kUkazani_ms && ms / kBliknuti_ms % 2 == 0;
+    if (sviti != ukazani->sviti)
+        update(okoli_ukazaneho());
+    ukazani->sviti = sviti;
+    if (ms >= kUkazani_ms)
+        ukazani.reset();
+}
+
+// The glass comes to the place, and it flashes for a moment.
+void HlavniOkno::ukaz_vystrahu(const Vystraha& v) {
+    if (!tabulka(v.prvek).je(v.n))
+        return;
+    const QRect kde = misto_ukazani({v.prvek, v.n});
+    if (ukazani)
+        update(okoli_ukazaneho());
+    if (platno.ukaz(kde.center()))
+        prekresli();
+    ukazani = Ukazani{kde, {}, true};
+    ukazani->od.start();
+    update(okoli_ukazaneho());
+    QString text = na_qstring(v.text);
+    v_jadre([&] {
+        if (const Text vlak = v.vlak > 0 ? souhrn_cisla(text_cisla(v.vlak)) : Text{}; !vlak.empty())
+            text += QStringLiteral("\n") + na_qstring(vlak);
+    });
+    QTimer::singleShot(kTipPo_ms, this, [this, text] { // the end of the click would take it away
+        if (ukazani)
+            QToolTip::showText(mapToGlobal(v_okne(ukazani->misto).center()), bez_rozvrzeni(text), this);
+    });
+}
+
+// What the keys reach of it: the alarms in a menu, and how the desk is shown.
+void HlavniOkno::otevri_nabidku_pohledu() {
+    if (nabidka != nullptr)
+        return;
+    QMenu* m = prazdna_nabidka(this, pismo_stolu(), meritko_v_okne());
+    m->setAttribute(Qt::WA_DeleteOnClose);
+    std::vector<Vystraha> vse;
+    v_jadre([&] { vse = vystrahy(); });
+    for (const Vystraha& v : vse)
+        connect(m->addAction(na_qstring(v.text)), &QAction::triggered, this, [this, v] { ukaz_vystrahu(v); });
+    if (vse.empty())
+        m->addAction(QStringLiteral("žádná výstraha"))->setEnabled(false);
+    m->addSeparator();
+    QAction* radek = m->addAction(QStringLiteral("řádek výstrah"));
+    radek->setCheckable(true);
+    radek->setChecked(s_radou);
+    connect(radek, &QAction::toggled, this, [this](bool ano) {
+        s_radou = ano;
+        nastav_radu_vystrah(ano);
+        obnov_vystrahy(true);
+    });
+    const QPoint roh = mapToGlobal(v_okne(misto_rady()).topLeft());
+    m->popup(roh - QPoint(0, m->sizeHint().height()));
+    vyber_prvni(*m);
 }
 
 void HlavniOkno::obnov_pole() {
@@ -636,6 +751,13 @@ void HlavniOkno::mousePressEvent(QMouseEvent* udalost) {
     zaostri({});
     if (je_nad_znackou_vypravciho(misto) && otevri_vedlejsi_okno([this] { prepni_okno_vypravciho(this); }))
         return;
+    if (const DilekVystrah* dilek = rada.na_miste(na_twipy(misto))) {
+        if (dilek->kolik == 1)
+            ukaz_vystrahu(rada.vystrahy()[dilek->prvni]);
+        else
+            otevri_nabidku_pohledu();
+        return;
+    }
     const std::optional<Nalezeny> kde = platno.prvek_pod(na_twipy(misto));
     if (!kde && udalost->button() == Qt::LeftButton && !isFullScreen() && windowHandle() != nullptr &&
         na_twipy(misto).y() < kVyskaListy && windowHandle()->startSystemMove())
@@ -724,6 +846,8 @@ bool HlavniOkno::stisk(QKeyEvent* udalost) {
         if (otevri_vedlejsi_okno([&] { okno ? prepni_okno_vypravciho(this) : prepni_vypravciho(); }))
             return true;
     }
+    if (udalost->key() == Qt::Key_F12 && otevri_vedlejsi_okno([this] { otevri_nabidku_pohledu(); }))
+        return true;
     if (udalost->key() == Qt::Key_F7 && otevri_vedlejsi_okno([this] { prepni_nakres(this); }))
         return true;
     if (!technologie_kryje_stul() && stisk_za_mys(*udalost))
@@ -875,6 +999,13 @@ bool HlavniOkno::event(QEvent* udalost) {
                     QStringLiteral("Stůl má automatický výpravčí: F6 ho vezme zpět, klepnutí ukáže, co dělá");
                 return;
             }
+            if (const DilekVystrah* dilek = rada.na_miste(twipy)) {
+                for (std::size_t i = dilek->prvni; i < dilek->prvni + dilek->kolik; ++i)
+                    text += na_qstring(rada.vystrahy()[i].text) + u'\n';
+                text += dilek->kolik == 1 ? QStringLiteral("Klepnutí ukáže, kde to je [F12]")
+                                          : QStringLiteral("Klepnutí je vypíše [F12]");
+                return;
+            }
             if (!kde) {
                 text = napoveda_popisku(twipy);
                 return;
@@ -887,10 +1018,7 @@ bool HlavniOkno::event(QEvent* udalost) {
         if (text.isEmpty())
             QToolTip::hideText();
         else
-            QToolTip::showText(
-                napoveda->globalPos(), // a note may hold signs that would be taken for a layout
-                QStringLiteral("<div style='white-space:pre'>%1</div>").arg(text.toHtmlEscaped()), this,
-                misto);
+            QToolTip::showText(napoveda->globalPos(), bez_rozvrzeni(text), this, misto);
         return true;
     }
     return QWidget::event(udalost);
@@ -916,6 +1044,15 @@ void HlavniOkno::paintEvent(QPaintEvent* udalost) {
     for (const Prvek& napis : napisy_vypravciho)
         if (napis.viditelny)
             nakresli_prvek(p, platno.meritko(), Druh::lblVolba, 0, napis);
+    for (const DilekVystrah& dilek : rada.dilky())
+        nakresli_prvek(p, platno.meritko(), Druh::lblVolba, 0, dilek.napis);
+    if (ukazani && ukazani->sviti) {
+        const int okraj = platno.meritko().bodu(kOkrajUkazani);
+        const QRect cil = platno.v_bodech(ukazani->misto);
+        if (!cil.isEmpty())
+            nakresli_obrys(p, cil.adjusted(-okraj, -okraj, okraj, okraj), platno.meritko().bodu(2),
+                           QColor::fromRgb(kBarvaUkazani));
+    }
     if (najety && zvyraznuje_se(*najety)) {
         const QRect cil = platno.v_bodech(platno.misto(najety->druh, najety->n));
         nakresli_obrys(p, cil, platno.meritko().bodu(1), QColor::fromRgb(kNajetiPrvku));

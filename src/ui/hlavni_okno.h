@@ -5,8 +5,10 @@
 #include "obsluha/vstup.h"
 #include "relief/relief.h"
 #include "ui/platno.h"
+#include "ui/rada_vystrah.h"
 #include "zaklad/platforma.h"
 
+#include <QElapsedTimer>
 #include <QLineEdit>
 #include <QListWidget>
 #include <QMenu>
@@ -95,6 +97,13 @@ private:
     void obnov_pole();
     void obnov_napisy_vypravciho();
     bool je_nad_znackou_vypravciho(QPointF misto) const;
+    QRect misto_rady() const; // of the alarms; twips of the picture
+    void obnov_vystrahy(bool hned = false);
+    QRect misto_ukazani(const Nalezeny& kde) const;
+    QRect okoli_ukazaneho() const;
+    void obnov_ukazani();
+    void ukaz_vystrahu(const Vystraha& v);
+    void otevri_nabidku_pohledu();
     void obnov_nabidku();
     bool stisk_za_mys(const QKeyEvent& udalost);
     bool otevri_vedlejsi_okno(const std::function<void()>& prepni);
@@ -112,8 +121,17 @@ private:
     std::optional<Nalezeny> najety;
     std::optional<Vyzva> vyzva;             // shown beside the message that holds the command line
     std::array<Prvek, 2> napisy_vypravciho; // the dispatcher's sign, and why the shown train waits
-    std::optional<Druh> ohnisko;            // the panel's button that the space bar presses
-    bool z_klavesy = false;                 // what happens now comes from a key
+    RadaVystrah rada;
+    bool s_radou = true;      // the alarms are shown
+    QElapsedTimer od_vystrah; // since they were looked at
+    struct Ukazani {          // the place of an alarm, flashed by the view
+        QRect misto;          // as it was when it was led to; twips of the picture
+        QElapsedTimer od;
+        bool sviti = true;
+    };
+    std::optional<Ukazani> ukazani;
+    std::optional<Druh> ohnisko; // the panel's button that the space bar presses
+    bool z_klavesy = false;      // what happens now comes from a key
     bool zpravy_zelene = false;
     std::size_t zprav = 0;
     bool minimalizovane = false;

@@ -77,10 +77,7 @@ bool je_udaj(const PolozkaMenu& polozka) {
 
 QMenu* postav_nabidku(QWidget* rodic, const Menu& co, const QFont& pismo, double meritko,
                       std::function<void(const Text& jmeno)> zvoleno) {
-    auto* nabidka = new SeSousednimiTipy(rodic);
-    nabidka->setStyleSheet(zvetseny_styl(kVzhledNabidky, meritko));
-    nabidka->setFont(pismo);
-    nabidka->setToolTipsVisible(true);
+    QMenu* nabidka = prazdna_nabidka(rodic, pismo, meritko);
     if (!co.hlava.empty())
         pridej_radek(*nabidka, co.hlava, zvetseny_styl(kVzhledHlavy, meritko));
 
@@ -116,6 +113,14 @@ QMenu* postav_nabidku(QWidget* rodic, const Menu& co, const QFont& pismo, double
         QObject::connect(akce, &QAction::triggered, nabidka,
                          [zvoleno, jmeno = polozka.jmeno] { zvoleno(jmeno); });
     }
+    return nabidka;
+}
+
+QMenu* prazdna_nabidka(QWidget* rodic, const QFont& pismo, double meritko) {
+    auto* nabidka = new SeSousednimiTipy(rodic);
+    nabidka->setStyleSheet(zvetseny_styl(kVzhledNabidky, meritko));
+    nabidka->setFont(pismo);
+    nabidka->setToolTipsVisible(true);
     return nabidka;
 }
 

@@ -13,5 +13,7 @@
 // desk stands on the screen; `zvoleno` gets the name of the chosen entry.
 QMenu* postav_nabidku(QWidget* rodic, const Menu& co, const QFont& pismo, double meritko,
                       std::function<void(const Text& jmeno)> zvoleno);
+// One without entries that looks the same, for what the view itself offers.
+QMenu* prazdna_nabidka(QWidget* rodic, const QFont& pismo, double meritko);
 // The first entry that can be chosen is picked, as for a hand on the keys.
 void vyber_prvni(QMenu& nabidka);

@@ -402,6 +402,7 @@ QWidget* OknoParametru::stranka_moznosti() {
     chkDualMonitor = policko(QStringLiteral("Zakázat podporu &dvou monitorů"),
                              [](bool z) { zaskrtni(&Parametry::chkDualMonitor, z); });
     chkPomer = policko(QStringLiteral("Stůl v poměru &4 : 3 (zbytek obrazovky černý)"), nastav_verny_pomer);
+    chkVystrahy = policko(QStringLiteral("Řádek &výstrah na stole"), nastav_radu_vystrah);
     chkAutosave = policko(QStringLiteral("Ukládat &samočinně po"),
                           [](bool z) { zaskrtni(&Parametry::chkAutosave, z); });
     chkVypravci = policko(QStringLiteral("&Ukázkový provoz (automatický výpravčí)"),
@@ -426,6 +427,7 @@ QWidget* OknoParametru::stranka_moznosti() {
     vedle->addLayout(sloupec, 1);
     vedle->addLayout(pravy);
     pravy->addWidget(chkVypravci);
+    pravy->addWidget(chkVystrahy);
     pravy->addStretch();
     pravy->addWidget(smena, 0, Qt::AlignRight);
     sloupec->setSpacing(px(7));
@@ -568,6 +570,7 @@ void OknoParametru::ukaz() {
     zapnuto(chkNoresize, parametry.chkNoresize);
     zapnuto(chkDualMonitor, parametry.chkDualMonitor);
     zapnuto(chkPomer, je_verny_pomer());
+    zapnuto(chkVystrahy, je_rada_vystrah());
     lblMonitor->setText(na_qstring(parametry.lblMonitor));
     stranky->setCurrentIndex(parametry.stranka);
     for (std::size_t i = 0; i < imgStranka.size(); ++i)

@@ -60,7 +60,8 @@ private:
     QLabel *lblGVD_popis_aktualni = nullptr, *lblMonitor = nullptr;
     QPlainTextEdit* lblInfo_verze = nullptr;
     QCheckBox *chkZpozdeni = nullptr, *chkPP = nullptr, *chkZvuk = nullptr, *chkAutosave = nullptr,
-              *chkVypravci = nullptr, *chkNoresize = nullptr, *chkDualMonitor = nullptr, *chkPomer = nullptr;
+              *chkVypravci = nullptr, *chkNoresize = nullptr, *chkDualMonitor = nullptr, *chkPomer = nullptr,
+              *chkVystrahy = nullptr;
     std::array<QPushButton*, 2> imgStranka{};
     QStackedWidget* stranky = nullptr;
 };

@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr TextPohled kSekce = "Pohled", kVernyPomer = "VernyPomer";
+constexpr TextPohled kSekce = "Pohled", kVernyPomer = "VernyPomer", kVystrahy = "Vystrahy";
 
 } // namespace
 
@@ -15,4 +15,12 @@ bool je_verny_pomer() {
 
 void nastav_verny_pomer(bool ano) {
     platforma.nastaveni_pis(kSekce, kVernyPomer, ano ? "1" : "0");
+}
+
+bool je_rada_vystrah() {
+    return platforma.nastaveni_cti(kSekce, kVystrahy) != "0";
+}
+
+void nastav_radu_vystrah(bool ano) {
+    platforma.nastaveni_pis(kSekce, kVystrahy, ano ? "1" : "0");
 }

@@ -5,3 +5,7 @@
 // otherwise it fills the screen. Kept in the settings, off at first.
 bool je_verny_pomer();
 void nastav_verny_pomer(bool ano);
+
+// The row of alarms is shown. Kept in the settings, on at first.
+bool je_rada_vystrah();
+void nastav_radu_vystrah(bool ano);

@@ -1,6 +1,7 @@
 // testy/app/klid_test.cpp - a tick in which nothing happens takes no memory.
 #include "app/casovace.h"
 #include "app/sledovani_provozu.h"
+#include "app/vystrahy.h"
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
 #include "gvd/stav_provozu.h"
@@ -42,7 +43,8 @@ protected:
         pridej_kolej(90);
         vlak_na(90, true, 12);
         cesta(radek(0));
-        sleduj_provoz(); // the first look makes room
+        sleduj_provoz(); // the first looks make room
+        sleduj_vystrahy();
     }
 
     // Takings of memory in `kolikrat` runs of the step, behind one that may warm up.
