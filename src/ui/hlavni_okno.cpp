@@ -47,6 +47,7 @@ namespace {
 constexpr int kPrekreslovani_ms = 40;
 constexpr int kVyskaListy = 20 * kTwipu;                               // of the top bar
 constexpr int kPodRadkem = 43 * kTwipu, kNadZasobnikem = 597 * kTwipu; // the tracks stand between them
+constexpr int kZnakuSloupce = 56; // of a list: no line of the messages and of the diary is longer
 // Of the prompt that has no room on the command line, twips.
 constexpr QRect kMistoVyzvy(600 * kTwipu, 22 * kTwipu, 380 * kTwipu, 19 * kTwipu);
 constexpr QRgb kNajetiPrvku = 0xFF5A6A7C;
@@ -64,7 +65,9 @@ constexpr const char* kVzhledSeznamu =
     "QListWidget::item:selected { background: #000080; color: #fff; }"
     "QScrollBar:vertical { background: #15191e; width: 14px; margin: 0; }"
     "QScrollBar::handle:vertical { background: #505b68; min-height: 20px; }"
-    "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }";
+    "QScrollBar:horizontal { background: #15191e; height: 14px; margin: 0; }"
+    "QScrollBar::handle:horizontal { background: #505b68; min-width: 20px; }"
+    "QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }";
 HlavniOkno* jedine = nullptr;
 
 Tlacitko tlacitko_mysi(Qt::MouseButton tlacitko) {
@@ -363,15 +366,29 @@ QRect HlavniOkno::plocha_kolejiste() const {
 void HlavniOkno::umisti() {
     sirka_pri_umisteni = sirka_stolu();
     platno.nastav_velikost((QSizeF(size()) * devicePixelRatioF()).toSize(), sirka_pri_umisteni,
-                           !je_verny_pomer());
+                           !je_verny_pomer(), QGuiApplication::screens().size() == 1);
     for (ZobrazenySeznam& s : seznamy) {
         s.okno->setGeometry(v_okne(platno.misto_seznamu()));
         s.okno->setStyleSheet(zvetseny_styl(kVzhledSeznamu, meritko_v_okne()));
         s.okno->setFont(pismo_stolu());
+        rozdel_do_sloupcu(*s.okno);
     }
     pole->setFont(pismo_stolu());
     nastav_meritko_oken(meritko_v_okne());
     update();
+}
+
+// A wide list is read column by column. One as broad as on the desk as it was drawn is a single one.
+void HlavniOkno::rozdel_do_sloupcu(QListWidget& okno) const {
+    const int sloupcu =
+        platno.navic_panelu() > 0
+            ? std::max(1, okno.width() / (kZnakuSloupce * QFontMetrics(okno.font()).averageCharWidth()))
+            : 1;
+    okno.setWrapping(sloupcu > 1);
+    okno.setResizeMode(sloupcu > 1 ? QListView::Adjust : QListView::Fixed);
+    okno.setGridSize(sloupcu > 1
+                         ? QSize(okno.contentsRect().width() / sloupcu, QFontMetrics(okno.font()).height())
+                         : QSize());
 }
 
 // --- from the core to the screen
@@ -419,7 +436,8 @@ void HlavniOkno::obnov_seznam(ZobrazenySeznam& s) {
         return;
     const QSignalBlocker bez_ozveny(s.okno);
     if (s.zobrazeny.radky != novy.radky) {
-        const QScrollBar* posuvnik = s.okno->verticalScrollBar();
+        const QScrollBar* posuvnik =
+            s.okno->isWrapping() ? s.okno->horizontalScrollBar() : s.okno->verticalScrollBar();
         const bool na_konci = posuvnik->value() >= posuvnik->maximum();
         // Lines are mostly added at the end: what stands before them is kept.
         std::size_t shodne = 0;
@@ -431,7 +449,7 @@ void HlavniOkno::obnov_seznam(ZobrazenySeznam& s) {
         for (std::size_t i = shodne; i < novy.radky.size(); ++i)
             s.okno->addItem(na_qstring(novy.radky[i]));
         if (na_konci)
-            s.okno->scrollToBottom();
+            s.okno->scrollToItem(s.okno->item(s.okno->count() - 1));
     }
     s.okno->setCurrentRow(novy.vybrany < s.okno->count() ? novy.vybrany : -1);
     if (s.zobrazeny.viditelny != novy.viditelny) {
@@ -470,7 +488,7 @@ bool HlavniOkno::je_nad_znackou_vypravciho(QPointF misto) const {
 
 QRect HlavniOkno::misto_rady() const {
     return {kMistoRady.x() * kTwipu, kMistoRady.y() * kTwipu,
-            kMistoRady.width() * kTwipu + platno.posun_praveho_okraje(), kMistoRady.height() * kTwipu};
+            kMistoRady.width() * kTwipu + platno.navic_panelu(), kMistoRady.height() * kTwipu};
 }
 
 void HlavniOkno::obnov_vystrahy(bool hned) {
@@ -934,6 +952,13 @@ bool HlavniOkno::eventFilter(QObject* cil, QEvent* udalost) {
             (k->key() >= Qt::Key_F1 && k->key() <= Qt::Key_F12) || k->key() == Qt::Key_Print ||
             (k->modifiers().testFlag(Qt::AltModifier) && klavesa_qt(*k).kod == KodKlavesy::pismeno);
         return pro_stul && stisk(k);
+    }
+    if (auto* seznam = qobject_cast<QListWidget*>(cil);
+        seznam != nullptr && seznam->isWrapping() && !s_modifikatorem &&
+        (k->key() == Qt::Key_Up || k->key() == Qt::Key_Down)) { // from column to column as well
+        const int dalsi = seznam->currentRow() + (k->key() == Qt::Key_Down ? 1 : -1);
+        seznam->setCurrentRow(std::clamp(dalsi, 0, seznam->count() - 1));
+        return true;
     }
     const bool pohyb = k->key() == Qt::Key_Up || k->key() == Qt::Key_Down || k->key() == Qt::Key_PageUp ||
                        k->key() == Qt::Key_PageDown || k->key() == Qt::Key_Home || k->key() == Qt::Key_End;

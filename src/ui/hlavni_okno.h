@@ -93,6 +93,7 @@ private:
     void zaostri(std::optional<Druh> tlacitko);
     void dalsi_ohnisko(bool dalsi);
     void obnov_ohnisko();
+    void rozdel_do_sloupcu(QListWidget& okno) const;
     void obnov_seznam(ZobrazenySeznam& s);
     void obnov_pole();
     void obnov_napisy_vypravciho();

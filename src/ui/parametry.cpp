@@ -401,7 +401,10 @@ QWidget* OknoParametru::stranka_moznosti() {
                           [](bool z) { zaskrtni(&Parametry::chkNoresize, z); });
     chkDualMonitor = policko(QStringLiteral("Zakázat podporu &dvou monitorů"),
                              [](bool z) { zaskrtni(&Parametry::chkDualMonitor, z); });
-    chkPomer = policko(QStringLiteral("Stůl v poměru &4 : 3 (zbytek obrazovky černý)"), nastav_verny_pomer);
+    chkPomer = policko(QStringLiteral("Stůl v poměru &4 : 3 (zbytek obrazovky černý)"), [](bool z) {
+        nastav_verny_pomer(z);
+        rozpoznej_monitory(); // which drawing a wide screen takes
+    });
     chkVystrahy = policko(QStringLiteral("Řádek &výstrah na stole"), nastav_radu_vystrah);
     chkAutosave = policko(QStringLiteral("Ukládat &samočinně po"),
                           [](bool z) { zaskrtni(&Parametry::chkAutosave, z); });

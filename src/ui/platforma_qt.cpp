@@ -9,6 +9,7 @@
 #include "ui/napoveda.h"
 #include "ui/okna_x11.h"
 #include "ui/pismo.h"
+#include "ui/pohled.h"
 #include "ui/prirucka.h"
 #include "ui/zvuk.h"
 #include "zaklad/chyba.h"
@@ -290,14 +291,24 @@ bool spust_program(TextPohled program) {
     return startuje_program;
 }
 
+// From twice as wide as high on, the drawing of two monitors fits one screen better than that of one, which
+// would be drawn out to twice its width. The core takes a display for two monitors by its proportions: such
+// a screen counts as only so high as that drawing is.
+RezimObrazovky jako_dva_monitory(RezimObrazovky r) {
+    constexpr int kSirkaDvou = 2048, kVyskaDvou = 768;
+    if (!je_verny_pomer() && r.sirka >= 2 * r.vyska && r.sirka >= kSirkaDvou)
+        r.vyska = std::min(r.vyska, r.sirka * kVyskaDvou / kSirkaDvou);
+    return r;
+}
+
 RezimObrazovky rezim() {
     const QScreen* obrazovka = QApplication::primaryScreen();
     if (obrazovka == nullptr)
         return {};
     // all monitors side by side are one display
     const QSizeF velikost = QSizeF(obrazovka->virtualSize()) * obrazovka->devicePixelRatio();
-    return {qRound(velikost.width()), qRound(velikost.height()), qRound(obrazovka->refreshRate()),
-            obrazovka->depth()};
+    return jako_dva_monitory({qRound(velikost.width()), qRound(velikost.height()),
+                              qRound(obrazovka->refreshRate()), obrazovka->depth()});
 }
 
 void cekej(double sekundy) {

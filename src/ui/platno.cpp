@@ -38,9 +38,10 @@ bool je_v_pasu_reliefu(int y) {
 
 } // namespace
 
-void Platno::nastav_velikost(QSize velikost, int sirka, bool roztahnout) {
+void Platno::nastav_velikost(QSize velikost, int sirka, bool roztahnout, bool jedina) {
     const bool jina_sirka = sirka_stolu != sirka;
     sirka_stolu = sirka;
+    pres_oba = roztahnout && jedina && sirka > kSirkaStolu;
     platno = QImage(velikost, QImage::Format_RGB32);
     const double k = std::min(velikost.width() / static_cast<double>(sirka_stolu),
                               velikost.height() / static_cast<double>(kVyskaStolu));
@@ -156,14 +157,15 @@ QRect Platno::plocha_panelu() const {
 }
 
 QRect Platno::misto_seznamu() const {
-    return {kSeznam.x() * kTwipu, kSeznam.y() * kTwipu, kSeznam.width() * kTwipu + posun_praveho_okraje(),
+    return {kSeznam.x() * kTwipu, kSeznam.y() * kTwipu, kSeznam.width() * kTwipu + navic_panelu(),
             kSeznam.height() * kTwipu + vyssi};
 }
 
 Prvek Platno::umisti(Druh druh, int n) const {
     Prvek p = nakreslene[static_cast<std::size_t>(druh)][static_cast<std::size_t>(n)];
     const int pravy = posun_praveho_okraje(); // of the monitor
-    if (sirsi == 0 && vyssi == 0)
+    const int navic_dole = navic_panelu();
+    if (sirsi == 0 && vyssi == 0 && navic_dole == 0)
         return p;
     if (je_v_reliefu(druh)) {
         const double navic = static_cast<double>(sirsi) / sirka_stolu;
@@ -206,17 +208,17 @@ Prvek Platno::umisti(Druh druh, int n) const {
     case Druh::imgMinimalizuj:
     case Druh::imgKONEC:
     case Druh::lblMakro_pismeno:
-    case Druh::lblPokracuje:
     case Druh::lblPN: p.vlevo = p.vlevo + pravy; break;
-    case Druh::lblVolba:
-    case Druh::lblIinfo_o_vlaku: p.sirka = p.sirka + pravy; break;
+    case Druh::lblPokracuje: p.vlevo = p.vlevo + navic_dole; break;
+    case Druh::lblVolba: p.sirka = p.sirka + pravy; break;
+    case Druh::lblIinfo_o_vlaku: p.sirka = p.sirka + navic_dole; break;
     case Druh::lblTabulka_vlaku:
     case Druh::shpblikacka: {
         const int sloupec = n % kRadkuTabulky / kRadkuSloupce;
-        p.vlevo = p.vlevo + sloupec * pravy / kSloupcuTabulky;
+        p.vlevo = p.vlevo + sloupec * navic_dole / kSloupcuTabulky;
         if (druh == Druh::shpblikacka)
             break;
-        p.sirka = p.sirka + pravy / kSloupcuTabulky;
+        p.sirka = p.sirka + navic_dole / kSloupcuTabulky;
         if (const Text& doplnek = doplnky[static_cast<std::size_t>(n)]; !doplnek.empty()) {
             Text radek(p.text().substr(0, sloupec_doplnku(p.text())));
             radek.resize(sloupec_doplnku(p.text()), ' ');
@@ -274,7 +276,7 @@ Platno::Vozy Platno::spocti_vozy() const {
 std::array<Text, kRadkuTabulky> Platno::spocti_doplnky() const {
     std::array<Text, kRadkuTabulky> nove;
     const std::size_t sloupcu =
-        kSloupcuRadku + static_cast<std::size_t>(posun_praveho_okraje() / kSloupcuTabulky / kSirkaZnaku);
+        kSloupcuRadku + static_cast<std::size_t>(navic_panelu() / kSloupcuTabulky / kSirkaZnaku);
     for (std::size_t n = 0; n < nove.size() && sloupcu > kSloupcuRadku; ++n)
         if (const Prvek& radek = relief.lblTabulka_vlaku[static_cast<int>(n)]; radek.viditelny)
             if (const std::size_t od = sloupec_doplnku(radek.text()); od < sloupcu)

@@ -34,9 +34,10 @@ struct Nalezeny {
 class Platno {
 public:
     // Size of the picture in device pixels and the width of the desk in twips. The desk keeps its proportions
-    // and stands in the middle; `roztahnout`: it fills the picture, tracks and spaces grow. Everything is
-    // drawn anew at the next obnov().
-    void nastav_velikost(QSize velikost, int sirka_stolu, bool roztahnout = false);
+    // and stands in the middle; `roztahnout`: it fills the picture, tracks and spaces grow. `jedina`: the
+    // drawing of two monitors stands on one screen, so that the bottom panel may take all of its width.
+    // Everything is drawn anew at the next obnov().
+    void nastav_velikost(QSize velikost, int sirka_stolu, bool roztahnout = false, bool jedina = false);
     // Draws what has changed; answers where, in device pixels.
     QRegion obnov();
     // Draws everything, changed or not.
@@ -75,6 +76,10 @@ public:
     // right the right end of the bars stands. Twips of the picture.
     QRect misto_seznamu() const;
     int posun_praveho_okraje() const { return sirsi / monitoru(); }
+    // How much broader the bottom panel is than on the desk as it was drawn.
+    int navic_panelu() const {
+        return posun_praveho_okraje() + (pres_oba ? sirka_stolu - kSirkaStolu + posun_praveho_okraje() : 0);
+    }
 
     // Element under the place in the picture that takes input: the topmost one that holds it, among elements
     // that overlap in one layer the nearest one.
@@ -117,6 +122,7 @@ private:
     QImage platno;
     Meritko m, lupy;
     int sirka_stolu = kSirkaStolu;
+    bool pres_oba = false;    // the bottom panel reaches over both halves of the drawing
     int sirsi = 0, vyssi = 0; // by which the picture is larger than the desk, twips
     double zvetseni = 1;
     Vozy vozy;

@@ -102,6 +102,23 @@ TEST_F(Stul, KeepsItsProportionsInAnyWindow) {
     EXPECT_EQ(platno.meritko().y0, 256);
 }
 
+TEST_F(Stul, BottomPanelOfTwoMonitorsTakesTheWholeWidthOfOneScreenAndOneHalfOfTwo) {
+    const QSize siroka(3440, 1440);
+    platno.nastav_velikost(siroka, 2 * kSirkaStolu, true, true);
+    platno.obnov();
+    const double okraj = 8 * platno.meritko().bod(); // of the list on both sides
+    EXPECT_NEAR(platno.v_bodech(platno.misto_seznamu()).width(), siroka.width() - okraj, 3);
+    const int posledni_sloupec = 2 * 8;
+    EXPECT_EQ(platno.prvek(Druh::lblTabulka_vlaku, posledni_sloupec).vlevo,
+              relief.lblTabulka_vlaku[posledni_sloupec].vlevo + 2 * platno.navic_panelu() / 3);
+    platno.nastav_velikost(siroka, 2 * kSirkaStolu, true, false);
+    platno.obnov();
+    EXPECT_NEAR(platno.v_bodech(platno.misto_seznamu()).width(), siroka.width() / 2 - okraj, 3);
+    platno.nastav_velikost(QSize(1024, 768), kSirkaStolu, true, true);
+    platno.obnov();
+    EXPECT_EQ(platno.navic_panelu(), 0);
+}
+
 TEST_F(Stul, WhateverAReliefFileHoldsIsDrawnSafely) {
     std::mt19937 g(7);
     const auto pod = [&](unsigned n) { return static_cast<int>(g() % n); };
