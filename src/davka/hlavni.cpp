@@ -1,4 +1,5 @@
 // davka/hlavni.cpp - the entry of tesk-davka.
+#include "app/slozky.h"
 #include "davka/davka.h"
 
 #include <csignal>
@@ -16,5 +17,7 @@ int main(int argc, char** argv) {
     std::filesystem::path program = std::filesystem::read_symlink("/proc/self/exe", kod);
     if (kod)
         program = std::filesystem::absolute(argv[0], kod);
-    return hlavni_davky(std::vector<std::string>(argv + 1, argv + argc), program.parent_path().string());
+    const Slozky slozky = urci_slozky(program.parent_path().string(), prostredi_slozek());
+    pouzij_slozky(slozky);
+    return hlavni_davky(std::vector<std::string>(argv + 1, argv + argc), slozky.obsluhy);
 }

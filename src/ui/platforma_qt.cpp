@@ -3,6 +3,7 @@
 
 #include "app/prestavky.h"
 #include "app/simulace.h"
+#include "app/slozky.h"
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
 #include "ui/hodiny_stolu.h"
@@ -433,12 +434,13 @@ void uloz_jako(const NavrhSouboru& navrh,
 }
 
 Text slozka_programu() {
-    const QString slozka = QCoreApplication::applicationDirPath();
-    const Text zapsana = z_qstring(slozka);
-    if (na_qstring(zapsana) == slozka)
-        return zapsana;
-    QDir::setCurrent(slozka);
-    return ".";
+    static const Text slozka = [] {
+        const Slozky slozky = urci_slozky(
+            QFile::encodeName(QCoreApplication::applicationDirPath()).toStdString(), prostredi_slozek());
+        pouzij_slozky(slozky);
+        return jmeno_slozky(slozky.obsluhy);
+    }();
+    return slozka;
 }
 
 const char* rada_bez_obrazovky() {

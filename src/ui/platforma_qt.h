@@ -13,8 +13,8 @@ class QIODevice;
 // Fills `platforma`. Called once, when the application object stands.
 void zapln_platformu();
 
-// The folder of the program in code page 1250. A folder whose name the page cannot hold becomes the working
-// folder, and is written ".".
+// The folder that the program writes into, as the core names it; what came with the program lies there or
+// behind it.
 Text slozka_programu();
 
 // The display cannot be reached: what to do about it, in Czech, for the terminal.

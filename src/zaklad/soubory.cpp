@@ -21,6 +21,12 @@ namespace {
 
 bool pise_se = true;
 
+// A folder and the one behind it, both ending with "/".
+struct Podlozena {
+    std::string horni, dolni;
+};
+Podlozena podlozena;
+
 constexpr std::int64_t kNejdelsiSoubor = 64 * 1024 * 1024;
 
 // A name on disk is UTF-8, a name of the core code page 1250; a host may also hand over the folder of the
@@ -118,6 +124,26 @@ std::string rozres(TextPohled cesta, bool& uplna) {
     std::string hotovo;
     uplna = rozres_od(prosta, 0, hotovo);
     return hotovo;
+}
+
+// The path in the folder as written, what lies behind it apart; nothing when it does not exist.
+std::optional<std::string> najdi_vlastni(TextPohled cesta) {
+    bool uplna = false;
+    std::string nalezena = rozres(cesta, uplna);
+    return uplna ? std::optional(std::move(nalezena)) : std::nullopt;
+}
+
+// The same path in the folder behind; nothing when none lies behind it.
+std::optional<std::string> cesta_vzadu(TextPohled cesta) {
+    const std::string prosta = s_lomitky(cesta);
+    if (podlozena.horni.empty() || !prosta.starts_with(podlozena.horni))
+        return std::nullopt;
+    return podlozena.dolni + prosta.substr(podlozena.horni.size());
+}
+
+std::optional<std::string> najdi_vzadu(TextPohled cesta) {
+    const auto vzadu = cesta_vzadu(cesta);
+    return vzadu ? najdi_vlastni(*vzadu) : std::nullopt;
 }
 
 // Closes a file at the end of the block, whatever way it is left.
@@ -306,6 +332,14 @@ int otevri_novy(const std::string& jmeno) {
     return ::open(jmeno.c_str(), kVolby | O_TRUNC, 0644);
 }
 
+// Path on disk for a new file. Its folder may stand only behind the operator's: then it is made in his.
+std::string cesta_noveho(TextPohled cesta) {
+    const TextPohled slozka = cesta.substr(0, cesta.find_last_of("/\\") + 1);
+    if (!slozka.empty() && !najdi_vlastni(slozka) && najdi_vzadu(slozka))
+        zaloz_slozku(slozka);
+    return cesta_k_zapisu(cesta);
+}
+
 // Both in lower case.
 bool odpovida(TextPohled jmeno, TextPohled vzor) {
     if (vzor.empty())
@@ -319,11 +353,8 @@ bool odpovida(TextPohled jmeno, TextPohled vzor) {
 } // namespace
 
 std::optional<std::string> najdi_soubor(TextPohled cesta) {
-    bool uplna = false;
-    std::string nalezena = rozres(cesta, uplna);
-    if (!uplna)
-        return std::nullopt;
-    return nalezena;
+    auto nalezena = najdi_vlastni(cesta);
+    return nalezena ? nalezena : najdi_vzadu(cesta);
 }
 
 std::string cesta_k_zapisu(TextPohled cesta) {
@@ -383,14 +414,16 @@ bool pise_se_na_disk() {
 void zapis_soubor(TextPohled cesta, const Bajty& obsah) {
     if (!pise_se)
         return;
-    const auto stary = udaje(cesta);
-    zapis_vedle(cesta, cesta_k_zapisu(cesta), obsah, -1, stary ? stary->st_mode & 07777u : 0u);
+    const std::string cil = cesta_noveho(cesta);
+    struct stat stary {};
+    const bool je = ::stat(cil.c_str(), &stary) == 0;
+    zapis_vedle(cesta, cil, obsah, -1, je ? stary.st_mode & 07777u : 0u);
 }
 
 void prepis_zacatek_souboru(TextPohled cesta, const Bajty& obsah) {
     if (!pise_se)
         return;
-    const std::string cil = cesta_k_zapisu(cesta);
+    const std::string cil = cesta_noveho(cesta);
     const int stary = ::open(cil.c_str(), O_RDWR | O_CLOEXEC | O_NONBLOCK);
     if (stary < 0 && errno != ENOENT)
         chyba_zapisu(cesta, errno);
@@ -408,7 +441,7 @@ void prepis_zacatek_souboru(TextPohled cesta, const Bajty& obsah) {
 void zaloz_rostouci(RostouciSoubor& soubor, TextPohled cesta) {
     zavri_rostouci(soubor);
     ++zmeny;
-    soubor.popisovac = otevri_novy(cesta_k_zapisu(cesta));
+    soubor.popisovac = otevri_novy(cesta_noveho(cesta));
     soubor.delka = 0;
     if (soubor.popisovac < 0)
         chyba_zapisu(cesta, errno);
@@ -455,8 +488,16 @@ bool presun_soubor(TextPohled odkud, TextPohled kam) {
     if (!pise_se)
         return false;
     ++zmeny;
-    const auto nalezeny = najdi_soubor(odkud);
-    return nalezeny && ::rename(nalezeny->c_str(), cesta_k_zapisu(kam).c_str()) == 0;
+    const auto nalezeny = najdi_vlastni(odkud);
+    return nalezeny && ::rename(nalezeny->c_str(), cesta_noveho(kam).c_str()) == 0;
+}
+
+void podloz_slozku(TextPohled horni, TextPohled dolni) {
+    const auto s_lomitkem = [](TextPohled slozka) {
+        std::string prosta = s_lomitky(slozka);
+        return prosta.empty() || prosta.ends_with('/') ? prosta : prosta + '/';
+    };
+    podlozena = {s_lomitkem(horni), s_lomitkem(dolni)};
 }
 
 // The folder itself carries the lock: no file is left behind in it, and one that cannot be written to has its
@@ -489,23 +530,29 @@ bool smaz_soubor(TextPohled cesta) {
     if (!pise_se)
         return false;
     ++zmeny;
-    const auto nalezena = najdi_soubor(cesta);
+    const auto nalezena = najdi_vlastni(cesta);
     return nalezena && ::unlink(nalezena->c_str()) == 0;
 }
 
 std::vector<Text> soubory_slozky(TextPohled slozka, TextPohled vzor) {
     std::vector<Text> jmena;
-    const auto nalezena = najdi_soubor(slozka);
-    if (!nalezena)
-        return jmena;
     const Text maly_vzor = mala_pismena(vzor);
-    std::error_code kod;
-    for (fs::directory_iterator it(*nalezena, kod), konec; !kod && it != konec; it.increment(kod)) {
-        std::error_code jiny;
-        Text jmeno = z_utf8(it->path().filename().string());
-        if (it->is_regular_file(jiny) && odpovida(mala_pismena(jmeno), maly_vzor))
-            jmena.push_back(std::move(jmeno));
-    }
+    const auto pridej = [&](const std::optional<std::string>& nalezena) {
+        const auto vlastnich = static_cast<std::ptrdiff_t>(jmena.size());
+        std::error_code kod;
+        if (nalezena)
+            for (fs::directory_iterator it(*nalezena, kod), konec; !kod && it != konec; it.increment(kod)) {
+                std::error_code jiny;
+                Text jmeno = z_utf8(it->path().filename().string());
+                const bool skryte = std::any_of(jmena.begin(), jmena.begin() + vlastnich, [&](const Text& j) {
+                    return stejne_bez_velikosti(j, jmeno);
+                });
+                if (!skryte && it->is_regular_file(jiny) && odpovida(mala_pismena(jmeno), maly_vzor))
+                    jmena.push_back(std::move(jmeno));
+            }
+    };
+    pridej(najdi_vlastni(slozka));
+    pridej(najdi_vzadu(slozka));
     std::sort(jmena.begin(), jmena.end(), [](const Text& a, const Text& b) {
         const Text x = mala_pismena(a), y = mala_pismena(b);
         return x != y ? x < y : a < b;

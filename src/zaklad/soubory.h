@@ -71,6 +71,13 @@ std::uint64_t otisk_souboru(TextPohled cesta);
 // and then.
 std::uint64_t vlastni_zmeny();
 
+// The files that came with a program which may not write where it lies are found behind the operator's own
+// folder: what `horni` does not hold is read, listed and found in `dolni`. A file of the operator hides the
+// one of the same name behind it. All is written into `horni`, where a folder that stands only behind it is
+// made first; nothing of `dolni` is ever written, renamed or removed. An empty `horni`: no folder has one
+// behind it.
+void podloz_slozku(TextPohled horni, TextPohled dolni);
+
 enum class Zamek : std::uint8_t {
     jen_ja,   // of one program alone
     s_jinymi, // of several that share
