@@ -1,6 +1,7 @@
 // app/bezpecne.cpp - the boundary of run-time errors.
 #include "app/bezpecne.h"
 
+#include "app/hlaseni_chyby.h"
 #include "app/nouzove.h"
 #include "save/gtn.h"
 #include "zaklad/chyba.h"
@@ -9,6 +10,7 @@
 
 #include <exception>
 #include <new>
+#include <optional>
 #include <stdexcept>
 
 namespace {
@@ -21,7 +23,12 @@ bool ukonci_chybou(const BehovaChyba& chyba) {
     if (!chyba.co.empty())
         text += " (" + chyba.co + ")";
     const NouzoveUlozeni nouzove = uloz_nouzove(); // before the box, which may stand there for long
+    const std::optional<Text> hlaseni = zapis_hlaseni(na_utf8(text), nouzove, Pad::receny);
     gtn_zavri();
+    if (hlaseni)
+        text += Text("\r\n\r\nPodrobnosti jsou v souboru "_cz) + *hlaseni + ".";
+    if (hlaseni && nouzove == NouzoveUlozeni::ulozeno)
+        text += " Rozehraná simulace je uložena, příští spuštění ji nabídne."_cz;
     platforma.okno(kTitulChyby, text);
     if (nouzove == NouzoveUlozeni::selhalo)
         platforma.okno(kTitulChyby, "Rozehranou simulaci se nepodařilo nouzově uložit!"_cz);

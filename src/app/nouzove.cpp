@@ -17,18 +17,16 @@ namespace {
 
 std::optional<Zaznam> zapamatovany;
 Zaznam zapamatovavany; // the one before: its room is taken again
+Text posledni;         // file that was written
 
 Text slozka_zaznamu() {
     return simulace.cesta_aplikace + "save\\";
 }
-Text slozka_nouzovych() {
-    return slozka_zaznamu() + "nouzove\\";
-}
-
-// Before its first minute there is nothing to lose that a new start would not bring.
+// Before its first minute there is nothing to lose that a new start would not bring, and a shift that is only
+// watched has its record.
 bool hra_bezi() {
     const bool na_pultu = relief.lblcas.je(0) && relief.lblcas[0].viditelny;
-    return na_pultu && simulace.minuty_simulace > 0;
+    return na_pultu && simulace.minuty_simulace > 0 && pise_se_na_disk();
 }
 
 // Sorted by name, that is by time.
@@ -41,7 +39,9 @@ bool zapis_zaznam(const Zaznam& zaznam) {
     const Bajty bajty = bajty_zaznamu(zaznam);
     if (!da_se_nacist(bajty))
         return false;
-    zapis_soubor(slozka_nouzovych() + "nouzove_" + jmeno_okamziku(), bajty);
+    const Text soubor = novy_nouzovy();
+    zapis_soubor(soubor, bajty);
+    posledni = soubor;
     return true;
 }
 
@@ -82,6 +82,23 @@ NouzoveUlozeni uloz_nouzove() noexcept {
     } catch (...) {
         return NouzoveUlozeni::selhalo;
     }
+}
+
+const Text& posledni_nouzovy() {
+    return posledni;
+}
+
+void nouzovy_zaznam(Bajty& bajty) {
+    if (hra_bezi() && zapamatovany)
+        bajty = bajty_zaznamu(*zapamatovany);
+}
+
+Text slozka_nouzovych() {
+    return slozka_zaznamu() + "nouzove\\";
+}
+
+Text novy_nouzovy() {
+    return slozka_nouzovych() + "nouzove_" + jmeno_okamziku();
 }
 
 void konec_od_systemu() {

@@ -5,6 +5,7 @@
 // offered it; then it moves among the operator's own saves.
 #pragma once
 
+#include "zaklad/balik.h"
 #include "zaklad/text.h"
 
 #include <cstdint>
@@ -22,12 +23,22 @@ void zapamatuj_stav();
 // Saves the game that runs, in silence; `neni_co` when none does. Never throws: the error may lie in the
 // save itself.
 NouzoveUlozeni uloz_nouzove() noexcept;
+// The file of the last one that was written.
+const Text& posledni_nouzovy();
 
 // --- when the system ends the process
 
 // The machine is switched off, or the program is told to end: nobody answers a question. The game is saved in
 // silence for the next start, and the program ends as by the end key.
 void konec_od_systemu();
+
+// --- at any time, without change
+
+// The state of the last minute that was whole, as the bytes of a save; stays empty when no game runs.
+void nouzovy_zaznam(Bajty& bajty);
+// The file that an emergency save of this moment gets, and its folder.
+Text novy_nouzovy();
+Text slozka_nouzovych();
 
 // --- on the start screen
 

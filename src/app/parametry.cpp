@@ -1,6 +1,7 @@
 // app/parametry.cpp - the start screen: what is to be simulated, and the start command.
 #include "app/parametry.h"
 
+#include "app/hlaseni_chyby.h"
 #include "app/nacteni.h"
 #include "app/nastaveni.h"
 #include "app/nouzove.h"
@@ -412,15 +413,28 @@ bool otevri_zaznam() {
     return nacti_dialog(moznosti_startu());
 }
 
+bool otevri_soubor(TextPohled soubor) {
+    if (!parametry.nactena || simulace.obrazovka != kObrazovkaStartu)
+        return false;
+    zavri_menu();
+    priprav_nacteni(soubor, moznosti_startu());
+    return true;
+}
+
 bool nabidni_nouzovy() {
     if (!parametry.nactena || simulace.obrazovka != kObrazovkaStartu)
         return false;
-    const std::optional<Text> cekajici = cekajici_nouzovy();
-    if (!cekajici)
+    const std::optional<Text> cekajici = cekajici_nouzovy(), pad = vezmi_nereceny_pad();
+    const Text hlaseni = pad ? Text("\r\n\r\nHlášení o chybě: "_cz) + *pad : Text();
+    if (!cekajici) {
+        if (pad)
+            platforma.okno(kTitul, Text("Program minule skončil chybou."_cz) + hlaseni);
         return false;
+    }
     const bool ano = platforma.otazka(kTitul,
-                                      "Minulá simulace skončila chybou a její stav byl nouzově uložen. "
-                                      "Chcete v ní pokračovat?"_cz,
+                                      Text("Minulá simulace skončila chybou a její stav byl nouzově uložen. "
+                                           "Chcete v ní pokračovat?"_cz) +
+                                          hlaseni,
                                       true);
     const Text soubor = odloz_nouzove(*cekajici); // one that cannot be loaded is not offered for ever
     if (!ano)

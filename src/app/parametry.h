@@ -102,8 +102,11 @@ void konec_startu();
 bool start_prikaz();
 // Open: asks for a saved simulation. True as above; false when the dialogue was cancelled.
 bool otevri_zaznam();
-// By the desk when its start screen is seen: asks whether the game that a run-time error ended is to go on
-// from its emergency save. Each one is offered once and stays among the saves. True as above.
+// The same with a file that is chosen already, as a click on it in the system's folders does. True as above.
+bool otevri_soubor(TextPohled soubor);
+// By the desk when its start screen is seen: asks whether the game that an error ended is to go on from its
+// emergency save, and tells of the report of an end of which nobody could be told. Each game is offered once
+// and stays among the saves. True as above.
 bool nabidni_nouzovy();
 
 // --- at any time, without change

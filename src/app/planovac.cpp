@@ -2,12 +2,14 @@
 #include "app/planovac.h"
 
 #include "app/casovace.h"
+#include "app/hlidac_tiku.h"
 #include "prvky/panel.h"
 #include "technologie/technologie.h"
 #include "zaklad/virtualni_hodiny.h"
 
 #include <algorithm>
 #include <array>
+#include <string_view>
 
 Planovac planovac;
 
@@ -17,21 +19,22 @@ std::int64_t dalsi_nasobek(std::int64_t cas_ms, int perioda) {
     return (cas_ms / perioda + 1) * perioda;
 }
 
-void proved(void (*telo)()) {
-    telo();
+void proved(std::string_view jmeno, void (*telo)()) {
+    proved_tik(jmeno, telo);
     if (planovac.po_kroku)
         planovac.po_kroku();
 }
 
 // Timers without a period of their own: they start, stop and change by what they serve.
 struct PromennyCasovac {
+    std::string_view jmeno;
     int (*perioda)();
     void (*telo)();
 };
 constexpr std::array kPromenne = {
-    PromennyCasovac{perioda_blikani_diag, krok_blikani_diag},
-    PromennyCasovac{perioda_technologie, tik_technologie},
-    PromennyCasovac{perioda_driveru, tik_driveru},
+    PromennyCasovac{"panel", perioda_blikani_diag, krok_blikani_diag},
+    PromennyCasovac{"technologie", perioda_technologie, tik_technologie},
+    PromennyCasovac{"driver", perioda_driveru, tik_driveru},
 };
 
 // A new period counts from now.
@@ -60,7 +63,7 @@ void proved_casovace(bool obsluha) {
         if (casovace[i].obsluha == obsluha && planovac.splatno[i] <= virtualni_hodiny.cas_ms) {
             planovac.splatno[i] = dalsi_nasobek(virtualni_hodiny.cas_ms, casovace[i].perioda_ms);
             if (!obsluha || !planovac.bez_obsluhy)
-                proved(casovace[i].telo);
+                proved(casovace[i].krok, casovace[i].telo);
         }
 }
 
@@ -69,7 +72,7 @@ void proved_splatne() {
     for (std::size_t i = 0; i < kPromenne.size(); ++i)
         if (planovac.periody_promennych[i] > 0 && planovac.splatno_promennych[i] <= virtualni_hodiny.cas_ms) {
             planovac.splatno_promennych[i] += planovac.periody_promennych[i];
-            proved(kPromenne[i].telo);
+            proved(kPromenne[i].jmeno, kPromenne[i].telo);
         }
     sleduj_promenne();
     proved_casovace(true);
@@ -112,5 +115,5 @@ void preskoc(std::int64_t ms) {
 }
 
 void proved_krok(std::size_t poradi) {
-    proved(casovace[poradi].telo);
+    proved(casovace[poradi].krok, casovace[poradi].telo);
 }

@@ -2,6 +2,7 @@
 #include "app/prestavky.h"
 
 #include "app/cas.h"
+#include "app/hlidac_tiku.h"
 #include "app/planovac.h"
 #include "app/simulace.h"
 #include "obsluha/ukony.h"
@@ -37,6 +38,7 @@ void pis_do_deniku(std::int64_t ms) {
 } // namespace
 
 bool zacni_okno() {
+    tik_ceka();
     if (simulace.pauza)
         return false;
     zastav_hodiny();

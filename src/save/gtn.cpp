@@ -9,6 +9,7 @@
 #include "zaklad/soubory.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 #include <vector>
 
@@ -19,13 +20,6 @@ constexpr std::size_t kVyrovnavaci = 64 * 1024; // bytes held back between two w
 constexpr std::size_t kNejviceCeka = 4 * 1024 * 1024;
 constexpr std::size_t kZaznam = 11;
 
-struct ZaznamGtn {
-    std::int32_t cas = 0;
-    std::uint8_t kod = 0;
-    std::int16_t prvek = 0;
-    std::int32_t hodnota = 0;
-};
-
 template <class A, class Z> constexpr void popis_zaznamu(A& a, Z& z) {
     a.l(z.cas);
     a.b(z.kod);
@@ -35,7 +29,7 @@ template <class A, class Z> constexpr void popis_zaznamu(A& a, Z& z) {
 
 constexpr std::size_t velikost_zaznamu() {
     Miric miric;
-    const ZaznamGtn zaznam;
+    const UdalostDeniku zaznam;
     popis_zaznamu(miric, zaznam);
     return miric.misto;
 }
@@ -98,7 +92,7 @@ struct Pamet {
     std::vector<PohybVlaku> pohyby;
     std::vector<ZmenaPrejezdu> prejezdy;
 
-    void pridej(const ZaznamGtn& z) {
+    void pridej(const UdalostDeniku& z) {
         if (z.kod == gtn::vlak_na_kolej || z.kod == gtn::vlak_z_koleje)
             pohyby.push_back({z.cas, z.prvek, z.hodnota, z.kod == gtn::vlak_na_kolej});
         else if (z.kod == gtn::prejezd)
@@ -106,6 +100,15 @@ struct Pamet {
     }
 };
 Pamet pamet;
+
+// The last events, in a ring.
+struct Posledni {
+    std::array<UdalostDeniku, kPoslednichUdalosti> udalosti{};
+    std::size_t pocet = 0; // since the log was opened or cut
+
+    void pridej(const UdalostDeniku& u) { udalosti[pocet++ % udalosti.size()] = u; }
+};
+Posledni posledni;
 
 Text pripona; // of the name of the file
 bool do_souboru = true;
@@ -123,6 +126,7 @@ void gtn_do_souboru(bool ano) {
 void gtn_otevri() {
     denik.zavri();
     pamet = {};
+    posledni = {};
     if (!do_souboru)
         return;
     const NastennyCas ted = platforma.nastenny_cas();
@@ -141,8 +145,9 @@ void gtn_otevri() {
 }
 
 void gtn_zapis(int prvek, std::uint8_t kod, std::int32_t hodnota) {
-    const ZaznamGtn zaznam{ted_s(), kod, na_integer(prvek), hodnota};
+    const UdalostDeniku zaznam{ted_s(), kod, na_integer(prvek), hodnota};
     pamet.pridej(zaznam);
+    posledni.pridej(zaznam);
     Bajty& ceka = denik.cekajici.bajty;
     if (!denik.otevreny() || ceka.size() + kZaznam > kNejviceCeka)
         return;
@@ -197,6 +202,7 @@ Bajty odrizni_bajty(std::int64_t delka) {
 } // namespace
 
 KonecGtn gtn_odrizni(const MistoGtn& kde) {
+    posledni = {};
     return {odrizni_bajty(kde.delka), utrzeny_konec(pamet.pohyby, kde.pohybu),
             utrzeny_konec(pamet.prejezdy, kde.prejezdu)};
 }
@@ -215,4 +221,12 @@ std::span<const PohybVlaku> gtn_pohyby() {
 
 std::span<const ZmenaPrejezdu> gtn_prejezdy() {
     return pamet.prejezdy;
+}
+
+std::vector<UdalostDeniku> gtn_posledni() {
+    const std::size_t n = std::min(posledni.pocet, posledni.udalosti.size());
+    std::vector<UdalostDeniku> udalosti;
+    for (std::size_t i = posledni.pocet - n; i < posledni.pocet; ++i)
+        udalosti.push_back(posledni.udalosti[i % posledni.udalosti.size()]);
+    return udalosti;
 }

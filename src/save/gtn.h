@@ -32,6 +32,16 @@ struct ZmenaPrejezdu {
     bool operator==(const ZmenaPrejezdu&) const = default;
 };
 
+// One event of the log.
+struct UdalostDeniku {
+    std::int32_t cas = 0; // absolute simulated second
+    std::uint8_t kod = 0;
+    std::int16_t prvek = 0;
+    std::int32_t hodnota = 0;
+    bool operator==(const UdalostDeniku&) const = default;
+};
+inline constexpr std::size_t kPoslednichUdalosti = 64;
+
 namespace gtn {
 // Codes of the events. The value is what each line says.
 inline constexpr std::uint8_t ab = 0;           // automatic mode switched
@@ -100,3 +110,5 @@ void gtn_pripoj(const KonecGtn& konec, const MistoGtn& zacatek_konce, const Mist
 std::span<const PohybVlaku> gtn_pohyby();
 // Likewise the changes of the station crossings.
 std::span<const ZmenaPrejezdu> gtn_prejezdy();
+// The last events, the oldest first; none of those that going back in time took away.
+std::vector<UdalostDeniku> gtn_posledni();

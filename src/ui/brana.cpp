@@ -2,6 +2,7 @@
 #include "ui/brana.h"
 
 #include "app/bezpecne.h"
+#include "app/pad.h"
 #include "app/prehravani.h"
 #include "ui/hodiny_stolu.h"
 #include "zaklad/chyba.h"
@@ -34,6 +35,8 @@ bool v_jadre(const std::function<void()>& telo) {
     } catch (const KonecProgramu& k) {
         skonci(k.navratovy_kod);
     }
+    if (!konec)
+        priprav_na_pad();
     bezi = false;
     return true;
 }

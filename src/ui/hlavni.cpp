@@ -1,10 +1,14 @@
 // ui/hlavni.cpp - the desk's program: start screen, splash screen, main screen.
+#include "app/hlaseni_chyby.h"
+#include "app/hlidac_tiku.h"
 #include "app/nastaveni.h"
 #include "app/nova_simulace.h"
+#include "app/pad.h"
 #include "app/parametry.h"
 #include "app/planovac.h"
 #include "app/prehravani.h"
 #include "app/simulace.h"
+#include "app/slozky.h"
 #include "app/smena.h"
 #include "app/start.h"
 #include "app/zprava_o_provozu.h"
@@ -33,6 +37,7 @@
 #include <QTimer>
 #include <QTranslator>
 
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -103,7 +108,8 @@ public:
         try {
             return QApplication::notify(komu, udalost);
         } catch (...) {
-            v_jadre([] { throw; });
+            if (!v_jadre([] { throw; }) && !je_konec()) // behind a box: what it was drawn for goes on
+                pis_do_logu("chyba při obsluze okna, které čeká na odpověď");
         }
         return true;
     }
@@ -181,12 +187,58 @@ bool prehraj_smenu(const QString& cesta) {
     return true;
 }
 
-// The word behind the option that names a recorded shift, empty when there is none; nothing without the
-// option.
-std::optional<QString> smena_z_prikazove_radky() {
+// What the command line names: a recorded shift to be watched, or a save to go on from. The system names a
+// file without an option when it was chosen in a folder.
+struct SouborPrikazoveRadky {
+    std::optional<QString> smena; // empty when the option stands without a file
+    QString zaznam;
+};
+SouborPrikazoveRadky soubor_prikazove_radky() {
     const QStringList slova = QCoreApplication::arguments();
-    const auto volba = slova.indexOf(QStringLiteral("--smena"));
-    return volba < 0 ? std::nullopt : std::optional(slova.value(volba + 1));
+    SouborPrikazoveRadky soubor;
+    for (qsizetype i = 1; i < slova.size(); ++i)
+        if (slova[i] == QStringLiteral("--smena"))
+            soubor.smena = slova.value(++i);
+        else if (slova[i].endsWith(QStringLiteral(".tesk"), Qt::CaseInsensitive))
+            soubor.smena = slova[i];
+        else if (!slova[i].startsWith(u'-'))
+            soubor.zaznam = QFileInfo(slova[i]).absoluteFilePath();
+    return soubor;
+}
+
+void spust_formular(const QString& zaznam) {
+    formular = std::make_unique<OknoParametru>(zacni_start, prehraj_smenu);
+    formular->show();
+    formular->activateWindow();
+    QTimer::singleShot(0, formular.get(), [zaznam] {
+        if (zaznam.isEmpty())
+            formular->nabidni();
+        else
+            formular->otevri_soubor(jmeno_slozky(QFile::encodeName(zaznam).toStdString()));
+    });
+}
+
+// From now on the folder is this program's: what it has to say of itself lies there.
+void zacni_hlidat() {
+    pis_hlaseni_chyb(true);
+    pis_do_logu("start, verze " + na_utf8(text_verze()));
+    hlidej_tiky([] {
+        using namespace std::chrono;
+        return std::int64_t{duration_cast<milliseconds>(steady_clock::now().time_since_epoch()).count()};
+    });
+    hlidej_pad();
+    // The window system ends the process when its screen has gone, windows and all.
+    std::atexit([] {
+        if (konec_bez_rozlouceni("Program ukončila ztráta obrazovky"))
+            std::_Exit(1);
+    });
+}
+
+void prestan_hlidat(int kod) {
+    nehlidej_pad();
+    if (const std::string souhrn = souhrn_tiku(); !souhrn.empty())
+        pis_do_logu(souhrn);
+    pis_do_logu("konec, kód " + std::to_string(kod));
 }
 
 } // namespace
@@ -212,17 +264,16 @@ int main(int pocet, char** slova) {
 
     bool pripravena = false;
     v_jadre([&] { pripravena = nacti_start(slozka_programu()); });
-    const std::optional<QString> smena = smena_z_prikazove_radky();
-    if (pripravena && !je_konec() && (!smena || !prehraj_smenu(*smena)) && !je_konec()) {
-        formular = std::make_unique<OknoParametru>(zacni_start, prehraj_smenu);
-        formular->show();
-        formular->activateWindow();
-        QTimer::singleShot(0, formular.get(), [] { formular->nabidni(); });
-    }
+    if (pripravena && !je_konec())
+        zacni_hlidat();
+    const SouborPrikazoveRadky soubor = soubor_prikazove_radky();
+    if (pripravena && !je_konec() && (!soubor.smena || !prehraj_smenu(*soubor.smena)) && !je_konec())
+        spust_formular(soubor.zaznam);
     const int kod = je_konec() ? navratovy_kod() : QApplication::exec();
     zapis_zpravu_sluzby();
     zapis_hodnoceni_na_konci();
     dopis_smenu();
+    prestan_hlidat(kod);
     hlavni_okno.reset();
     uvod.reset();
     formular.reset();

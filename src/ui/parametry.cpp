@@ -653,6 +653,10 @@ void OknoParametru::nabidni() {
     predej(nabidni_nouzovy);
 }
 
+void OknoParametru::otevri_soubor(const Text& soubor) {
+    predej([&] { return ::otevri_soubor(soubor); });
+}
+
 void OknoParametru::prehraj_smenu() {
     const QString slozka = QString::fromStdString(cesta_k_zapisu(simulace.cesta_aplikace + "smeny"));
     const QString soubor = QFileDialog::getOpenFileName(this, QStringLiteral("Přehrát záznam směny"), slozka,
@@ -662,7 +666,7 @@ void OknoParametru::prehraj_smenu() {
 }
 
 // Keys that were pressed before the screen had gone come here late: the core refuses a second start.
-void OknoParametru::predej(bool (*prikaz_startu)()) {
+void OknoParametru::predej(const std::function<bool()>& prikaz_startu) {
     bool pripravena = false;
     v_jadre([&] { pripravena = prikaz_startu(); });
     if (je_konec())

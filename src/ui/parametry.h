@@ -23,6 +23,8 @@ public:
 
     // Once the screen is seen: the game that a run-time error has ended.
     void nabidni();
+    // A save that was named when the program was started.
+    void otevri_soubor(const Text& soubor);
 
 protected:
     void keyPressEvent(QKeyEvent* udalost) override;
@@ -48,7 +50,7 @@ private:
     void vyber_stranku(int stranka);
     void start();
     void otevri();
-    void predej(bool (*prikaz_startu)());
+    void predej(const std::function<bool()>& prikaz_startu);
     void prehraj_smenu();
 
     std::function<void()> spusteno;

@@ -1,6 +1,7 @@
 // ui/platforma_qt.cpp - the world outside, as the window system gives it.
 #include "ui/platforma_qt.h"
 
+#include "app/hlidac_tiku.h"
 #include "app/prestavky.h"
 #include "app/simulace.h"
 #include "app/slozky.h"
@@ -313,6 +314,7 @@ RezimObrazovky rezim() {
 }
 
 void cekej(double sekundy) {
+    tik_ceka();
     QEventLoop smycka;
     QTimer::singleShot(static_cast<int>(sekundy * 1000), &smycka, &QEventLoop::quit);
     smycka.exec();

@@ -4,8 +4,10 @@
 #include "app/blikani.h"
 #include "app/cas.h"
 #include "app/casovace.h"
+#include "app/hlaseni_chyby.h"
 #include "app/nouzove.h"
 #include "app/nova_simulace.h"
+#include "app/pad.h"
 #include "app/parametry.h"
 #include "app/start.h"
 #include "cesty/cesta.h"
@@ -17,14 +19,18 @@
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/virtualni_platforma.h"
 #include "relief/relief.h"
+#include "save/gtn.h"
 #include "save/ulozeni.h"
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 
 #include <csignal>
+#include <cstdio>
 #include <new>
 #include <stdexcept>
 #include <sys/resource.h>
+#include <sys/wait.h>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -260,4 +266,172 @@ TEST_F(Nouzove, WithoutAnEmergencyNothingIsAsked) {
     start_formulare();
     EXPECT_FALSE(nabidni_nouzovy());
     EXPECT_TRUE(svet.otazky.empty());
+}
+
+// --- the report
+
+namespace {
+
+class HlaseniChyb : public Nouzove {
+protected:
+    void SetUp() override {
+        Nouzove::SetUp();
+        pis_hlaseni_chyb(true);
+    }
+    void TearDown() override { pis_hlaseni_chyb(false); }
+
+    std::vector<Text> hlaseni_v(Pad pad) const { return soubory_slozky(slozka_hlaseni(pad), "chyba_*.txt"); }
+    std::string text_hlaseni_v(Pad pad) const {
+        const std::vector<Text> jmena = hlaseni_v(pad);
+        if (jmena.size() != 1)
+            return std::to_string(jmena.size()) + " souborů";
+        const Bajty bajty = nacti_soubor(slozka_hlaseni(pad) + jmena[0]);
+        return std::string(bajty.begin(), bajty.end());
+    }
+    static void ma(const std::string& text, const std::string& cast) {
+        EXPECT_NE(text.find(cast), std::string::npos) << cast << " není v:\n" << text;
+    }
+    // Falls in a process of its own; answers with the signal that ended it, and what it said.
+    struct Konec {
+        int signal = 0;
+        std::string receno;
+    };
+    static Konec spadni(const std::function<void()>& jak) {
+        std::FILE* chyby = std::tmpfile();
+        const pid_t dite = ::fork();
+        if (dite == 0) {
+            ::dup2(::fileno(chyby), STDERR_FILENO);
+            const rlimit bez_jadra{0, 0};
+            setrlimit(RLIMIT_CORE, &bez_jadra);
+            hlidej_pad();
+            jak();
+            ::_exit(0);
+        }
+        int stav = 0;
+        ::waitpid(dite, &stav, 0);
+        Konec konec{WIFSIGNALED(stav) ? WTERMSIG(stav) : 0, {}};
+        std::rewind(chyby);
+        for (int znak = std::fgetc(chyby); znak != EOF; znak = std::fgetc(chyby))
+            konec.receno += static_cast<char>(znak);
+        std::fclose(chyby);
+        return konec;
+    }
+};
+
+} // namespace
+
+TEST_F(HlaseniChyb, ErrorIsReportedWithAllThatHelpsToFindIt) {
+    hraj();
+    klavesa({KodKlavesy::f3});
+    gtn_zapis(63, gtn::barva_koleje, 255);
+    EXPECT_FALSE(bezpecne([] { hod(2); }));
+    over_konec_s_ulozenim(9);
+    const std::string text = text_hlaseni_v(Pad::receny);
+    ma(text, "Chyba č. 9: ");
+    ma(text, "KPS RVZ TESK " + na_utf8(text_verze()));
+    ma(text, "Čas simulace:     12:02:58, pondělí, odehráno minut 3");
+    ma(text, na_utf8(posledni_nouzovy()));
+    ma(text, "12:02:58  73 63 255\n");
+    ma(na_utf8(svet.okna[0].text), na_utf8(slozka_hlaseni(Pad::receny)) + "chyba_");
+    ma(na_utf8(svet.okna[0].text), "příští spuštění ji nabídne");
+}
+
+TEST_F(HlaseniChyb, ErrorThatWasToldIsNotToldAgain) {
+    hraj();
+    bezpecne([] { hod(2); });
+    start_formulare();
+    EXPECT_TRUE(nabidni_nouzovy());
+    EXPECT_TRUE(svet.okna.empty());
+    EXPECT_EQ(svet.otazky.at(0).find("Hlášení"_cz), Text::npos);
+}
+
+TEST_F(HlaseniChyb, HostThatKeepsNoneWritesNone) {
+    pis_hlaseni_chyb(false);
+    hraj();
+    bezpecne([] { hod(0); });
+    EXPECT_EQ(svet.okna.back().text, "Chyba č. 6: Přetečení"_cz);
+    EXPECT_FALSE(soubor_existuje(svet.cesta() + "hlaseni"));
+}
+
+TEST_F(HlaseniChyb, WatchedShiftLeavesAReportAndNoGame) {
+    hraj();
+    pise_se_na_disk(false);
+    EXPECT_FALSE(bezpecne([] { hod(2); }));
+    EXPECT_FALSE(pise_se_na_disk(true));
+    EXPECT_TRUE(cekajici().empty());
+    ma(text_hlaseni_v(Pad::receny), "nic nebylo rozehráno");
+    ASSERT_EQ(svet.okna.size(), 1u);
+    EXPECT_EQ(svet.okna[0].text.find("nabídne"_cz), Text::npos);
+}
+
+TEST_F(HlaseniChyb, OldReportsMakeRoom) {
+    for (std::size_t i = 0; i < kNejviceHlaseni + 5; ++i) {
+        svet.posun_ms(1000);
+        ASSERT_TRUE(zapis_hlaseni("chyba", NouzoveUlozeni::neni_co, Pad::receny));
+    }
+    EXPECT_EQ(hlaseni_v(Pad::receny).size(), kNejviceHlaseni);
+}
+
+TEST_F(HlaseniChyb, FallOfTheProcessLeavesTheGameOfTheLastMinuteAndAReport) {
+    hraj();
+    const Konec konec = spadni([] {
+        nastav_cas("12:03:40");
+        ::raise(SIGSEGV);
+    });
+    EXPECT_EQ(konec.signal, SIGSEGV);
+    ma(konec.receno, "Program ukončil signál SIGSEGV");
+    ma(konec.receno, "příští spuštění ji nabídne");
+    ASSERT_EQ(cekajici().size(), 1u);
+    const std::string text = text_hlaseni_v(Pad::nereceny);
+    ma(text, "Program ukončil signál SIGSEGV.");
+    ma(text, na_utf8(cekajici()[0]));
+    over_pokracovani("12:02:58");
+    ma(na_utf8(svet.otazky[0]), "Hlášení o chybě: " + na_utf8(slozka_hlaseni(Pad::receny)) + "chyba_");
+    EXPECT_TRUE(hlaseni_v(Pad::nereceny).empty()) << "it is told once";
+    EXPECT_EQ(hlaseni_v(Pad::receny).size(), 1u) << "and kept";
+}
+
+TEST_F(HlaseniChyb, ExceptionThatNobodyCaughtLeavesThePresentGameAndAReport) {
+    hraj();
+    const Konec konec = spadni([] {
+        nastav_cas("12:03:40");
+        []() noexcept { hod(3); }();
+    });
+    EXPECT_EQ(konec.signal, SIGABRT);
+    ma(text_hlaseni_v(Pad::nereceny), "nezachycená výjimka: resize");
+    ASSERT_EQ(cekajici().size(), 1u);
+    over_pokracovani("12:03:40");
+}
+
+TEST_F(HlaseniChyb, FallBeforeTheGameIsToldByTheNextStart) {
+    const Konec konec = spadni([] { ::raise(SIGABRT); });
+    EXPECT_EQ(konec.signal, SIGABRT);
+    EXPECT_TRUE(cekajici().empty());
+    start_formulare();
+    EXPECT_FALSE(nabidni_nouzovy());
+    ASSERT_EQ(svet.okna.size(), 1u);
+    ma(na_utf8(svet.okna[0].text), "Program minule skončil chybou.");
+    svet.okna.clear();
+    EXPECT_FALSE(nabidni_nouzovy());
+    EXPECT_TRUE(svet.okna.empty());
+}
+
+TEST_F(HlaseniChyb, WhatFallsAfterTheOrderlyEndIsNoLoss) {
+    hraj();
+    const Konec konec = spadni([] {
+        nehlidej_pad();
+        if (konec_bez_rozlouceni("obrazovka"))
+            ::_exit(1);
+        ::raise(SIGSEGV);
+    });
+    EXPECT_EQ(konec.signal, SIGSEGV);
+    EXPECT_TRUE(cekajici().empty());
+    EXPECT_TRUE(hlaseni_v(Pad::nereceny).empty());
+}
+
+TEST_F(HlaseniChyb, LostScreenLeavesTheGameAndAReport) {
+    hraj();
+    spadni([] { EXPECT_TRUE(konec_bez_rozlouceni("Program ukončila ztráta obrazovky")); });
+    ma(text_hlaseni_v(Pad::nereceny), "Program ukončila ztráta obrazovky.\n");
+    over_pokracovani("12:02:58");
 }

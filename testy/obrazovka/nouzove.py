@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 # testy/obrazovka/nouzove.py - a run-time error ends the desk, and the next start offers the game.
 import os
+import resource
 import signal
 import sys
 import time
@@ -99,6 +100,23 @@ for cislo, pod_otazkou in ((signal.SIGTERM, False), (signal.SIGINT, False), (sig
     zaznamy = soubory("save", "nouzove")
     assert len(zaznamy) == 1, "po signálu %d zůstalo záznamů: %d" % (cislo, len(zaznamy))
     os.remove(os.path.join(slozka, "save", "nouzove", zaznamy[0]))
+    stul.konec()
+
+# --- the processor ends it, or its screen goes: nobody can be told, so the game and a report wait for the next start
+resource.setrlimit(resource.RLIMIT_CORE, (0, 0))
+for spadni in (lambda stul: stul.program.send_signal(signal.SIGSEGV), lambda stul: stul.xvfb.kill()):
+    stul = s.Stul(program, slozka)
+    stul.cekej_na("úvodní formulář", s.je_formular)
+    s.prihlas(stul, rychle=True)
+    hraj(stul)
+    spadni(stul)
+    stul.cekej("konec programu", lambda: stul.program.poll() is not None)
+    assert stul.program.poll() in (-signal.SIGSEGV, 1), "program skončil s %s" % stul.program.poll()
+    zaznamy = soubory("save", "nouzove")
+    hlaseni = os.listdir(os.path.join(slozka, "hlaseni", "nove"))
+    assert len(zaznamy) == len(hlaseni) == 1, "zůstalo záznamů %d, hlášení %d" % (len(zaznamy), len(hlaseni))
+    os.remove(os.path.join(slozka, "save", "nouzove", zaznamy[0]))
+    os.remove(os.path.join(slozka, "hlaseni", "nove", hlaseni[0]))
     stul.konec()
 
 # --- of a desk that nobody has begun to work nothing is left
