@@ -306,10 +306,9 @@ def sestav(slozka):
     stavitel.setupHorizontalHeader(ascent=nad, descent=-pod, lineGap=0)
     stavitel.setupNameTable({"familyName": RODINA, "styleName": "Regular", "uniqueFontIdentifier": RODINA,
                              "fullName": RODINA, "psName": "KPSCoreFont-Regular", "version": "Version 1.0"})
-    stavitel.setupOS2(sTypoAscender=nad, sTypoDescender=-pod, sTypoLineGap=0, usWinAscent=nad,
-                      usWinDescent=pod, xAvgCharWidth=SIRKA * BOD, sxHeight=6 * BOD, sCapHeight=8 * BOD,
-                      fsSelection=0x40, usWeightClass=400,
-                      panose=PANOSE)
+    stavitel.setupOS2(fsType=0, sTypoAscender=nad, sTypoDescender=-pod, sTypoLineGap=0,
+                      usWinAscent=nad, usWinDescent=pod, xAvgCharWidth=SIRKA * BOD, sxHeight=6 * BOD,
+                      sCapHeight=8 * BOD, fsSelection=0x40, usWeightClass=400, panose=PANOSE)
     stavitel.setupPost(isFixedPitch=1, underlinePosition=-BOD, underlineThickness=BOD)
     vyhlazeni = newTable("gasp")  # smooth, never fitted to a grid: the drawing fits by itself
     vyhlazeni.version, vyhlazeni.gaspRange = 1, {0xFFFF: 0x000A}
