@@ -53,14 +53,14 @@ TEST_F(Denik, RecordIsElevenBytes) {
 TEST_F(Denik, TellsItsLastEventsUntilTimeIsTurnedBack) {
     gtn_otevri();
     EXPECT_TRUE(gtn_posledni().empty());
-    const std::int64_t delka = gtn_delka();
+    const MistoGtn misto = gtn_misto();
     for (int i = 0; i < 100; ++i)
         gtn_zapis(i, gtn::barva_koleje, 7);
     const std::vector<UdalostDeniku> posledni = gtn_posledni();
     ASSERT_EQ(posledni.size(), kPoslednichUdalosti);
     EXPECT_EQ(posledni.front(), (UdalostDeniku{12 * 3600, gtn::barva_koleje, 36, 7}));
     EXPECT_EQ(posledni.back().prvek, 99);
-    gtn_odrizni(delka);
+    gtn_odrizni(misto);
     EXPECT_TRUE(gtn_posledni().empty());
     gtn_zapis(5, gtn::zrusena, 0);
     EXPECT_EQ(gtn_posledni().size(), 1u);
