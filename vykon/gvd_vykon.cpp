@@ -1,15 +1,11 @@
 // vykon/gvd_vykon.cpp - the traffic step over timetables of the expected size and far beyond.
 #include "app/cas.h"
-#include "app/nova_simulace.h"
-#include "app/simulace.h"
 #include "desk/hlaseni.h"
 #include "gvd/gvd.h"
 #include "gvd/provoz.h"
 #include "gvd/zaplneni.h"
+#include "instalace_vykon.h"
 #include "pomocne/zastavky.h"
-#include "relief/nacti_relief.h"
-#include "relief/prejezdy.h"
-#include "relief/relief.h"
 #include "zaklad/cisla.h"
 
 #include <benchmark/benchmark.h>
@@ -78,17 +74,6 @@ BENCHMARK(zaplneni)
     ->Complexity(benchmark::oNLogN)
     ->Unit(benchmark::kMillisecond)
     ->Name("fill from rows");
-
-// The whole junction at rest.
-void cele_kolejiste() {
-    nova_simulace();
-    simulace.cesta_aplikace = TESK_INSTALACE;
-    nacti_relief();
-    nacti_prejezdy();
-    for (int n = 0; n <= kNejvyssiPrvek; ++n)
-        if (je_kolej(n))
-            relief.kolej[n].barva = barvy::seda;
-}
 
 // From the bytes of the timetable to the last train placed: what the operator waits for.
 void start(benchmark::State& stav) {

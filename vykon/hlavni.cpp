@@ -1,5 +1,5 @@
-// vykon/hlavni.cpp - runs the benchmarks, holds those that have a limit against it, and says how much memory
-// the process needed at most.
+// vykon/hlavni.cpp - runs the benchmarks, holds those that have a limit against it, says how the cost grows
+// with what there is to do, and how much memory the process needed at most.
 #include <benchmark/benchmark.h>
 
 #include <algorithm>
@@ -35,6 +35,29 @@ const std::vector<Mez>& meze() {
     return vse;
 }
 
+// How much longer something takes when there is more of it.
+struct Rust {
+    std::string mensi, vetsi; // names of benchmarks
+    double kolikrat;          // more of it
+    const char* co;
+};
+const std::vector<Rust>& rust() {
+    static const std::vector<Rust> vse = {
+        {"krok_vlaku/10", "krok_vlaku/100", 10, "krok jízdy, vlaky 10 a 100"},
+        {"krok_vlaku/100", "krok_vlaku/1000", 10, "krok jízdy, vlaky 100 a 1000"},
+        {"tick over standing routes/15", "tick over standing routes/60", 4,
+         "automat cest, stojící cesty 15 a 60"},
+        {"tick over blocked routes/15", "tick over blocked routes/60", 4,
+         "automat cest, čekající cesty 15 a 60"},
+        {"traffic step of rows/1000", "traffic step of rows/100000", 100,
+         "krok provozu, řádky 1000 a 100 000"},
+        {"half an hour of traffic with rows/1000", "half an hour of traffic with rows/100000", 100,
+         "půl hodiny provozu, řádky 1000 a 100 000"},
+        {"start with rows/1000", "start with rows/100000", 100, "start, řádky 1000 a 100 000"},
+    };
+    return vse;
+}
+
 // The usual table, and what it said.
 class Tabulka : public benchmark::ConsoleReporter {
 public:
@@ -58,6 +81,14 @@ public:
         }
     }
 
+    void vypis_rust() const {
+        std::printf("\nRůst nákladů            více práce   déle trvá\n");
+        for (const Rust& r : rust())
+            if (casy_ms.contains(r.mensi) && casy_ms.contains(r.vetsi)) // run, by the choice of the caller
+                std::printf("%28.0fkrát %8.1fkrát  %s\n", r.kolikrat,
+                            casy_ms.at(r.vetsi) / std::max(casy_ms.at(r.mensi), 1e-9), r.co);
+    }
+
 private:
     std::map<std::string, double> casy_ms;
 };
@@ -72,6 +103,7 @@ int main(int pocet, char** slova) {
     benchmark::RunSpecifiedBenchmarks(&tabulka);
     benchmark::Shutdown();
     tabulka.vypis_meze();
+    tabulka.vypis_rust();
     std::ifstream stav("/proc/self/status");
     for (std::string radek; std::getline(stav, radek);)
         if (radek.starts_with("VmHWM:"))

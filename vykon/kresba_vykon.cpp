@@ -1,15 +1,12 @@
 // vykon/kresba_vykon.cpp - drawing of the desk: everything anew, one change, nothing.
 #ifdef TESK_S_KRESBOU
 #include "aplikace_vykon.h"
-#include "app/simulace.h"
+#include "instalace_vykon.h"
 #include "prvky/panel.h"
-#include "relief/nacti_relief.h"
-#include "relief/relief.h"
 #include "relief/tvary_vyhybek.h"
 #include "ui/pismo.h"
 #include "ui/platno.h"
 #include "zaklad/cisla.h"
-#include "zaklad/soubory.h"
 
 #include <QListWidget>
 #include <benchmark/benchmark.h>
@@ -89,16 +86,11 @@ BENCHMARK(cely_stul)
     ->Args({3840, 2160});
 
 // The whole junction as it fills the commonest display: to stay below 8 ms.
-void cele_kolejiste(benchmark::State& stav) {
+void kolejiste_na_displeji(benchmark::State& stav) {
     zaloz_pismo();
-    simulace.cesta_aplikace = TESK_INSTALACE;
-    if (!soubor_existuje(simulace.cesta_aplikace + "data\\tesk.rea")) {
-        stav.SkipWithError("the installation is not staged");
-        simulace = Simulace{};
+    if (!je_v_instalaci(stav, "data\\tesk.rea"))
         return;
-    }
-    relief = novy_relief();
-    nacti_relief();
+    cele_kolejiste();
     Platno platno;
     platno.nastav_velikost(QSize(1920, 1080), kSirkaStolu, true);
     platno.obnov();
@@ -107,7 +99,9 @@ void cele_kolejiste(benchmark::State& stav) {
     simulace = Simulace{};
     relief = Relief{};
 }
-BENCHMARK(cele_kolejiste)->Unit(benchmark::kMillisecond)->Name("full repaint of the junction, 1920 by 1080");
+BENCHMARK(kolejiste_na_displeji)
+    ->Unit(benchmark::kMillisecond)
+    ->Name("full repaint of the junction, 1920 by 1080");
 
 // The bottom panel as full as it can be: 24 rows of the table with their marks, a train of 40 vehicles with
 // captions of three lines, four pantographs, and a line about the train that wraps.

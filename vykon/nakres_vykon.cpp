@@ -3,12 +3,10 @@
 #ifdef TESK_S_KRESBOU
 #include "aplikace_vykon.h"
 #include "app/cas.h"
-#include "app/nova_simulace.h"
-#include "app/simulace.h"
 #include "gvd/gvd.h"
+#include "instalace_vykon.h"
 #include "nakres/obraz.h"
 #include "ui/kresba_nakresu.h"
-#include "zaklad/soubory.h"
 
 #include <QImage>
 #include <benchmark/benchmark.h>
@@ -27,10 +25,8 @@ struct CelyDen {
         nova_simulace();
         simulace.cesta_aplikace = TESK_INSTALACE;
         simulace.soubor_gvd = simulace.cesta_aplikace + "gvd\\GVD_plny.dat";
-        if (!soubor_existuje(simulace.soubor_gvd) || koridory().trate.empty()) {
-            stav.SkipWithError("the installation is not staged");
+        if (!je_v_instalaci(stav, "gvd\\GVD_plny.dat") || !je_v_instalaci(stav, "data\\tesk.kor"))
             return;
-        }
         nacti_gvd();
         k = koridory();
         osa = osa_koridoru(k, k.trate.at(1));

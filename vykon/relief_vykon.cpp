@@ -1,5 +1,6 @@
 // vykon/relief_vykon.cpp - loading of the layout and the queries that the running of trains makes.
 #include "gvd/gvd.h"
+#include "instalace_vykon.h"
 #include "pomocne/male_kolejiste.h"
 #include "relief/topologie.h"
 
@@ -59,14 +60,11 @@ BENCHMARK(barvy_prvku)->Unit(benchmark::kMicrosecond)->Name("1000 tracks painted
 
 // Everything that the start reads, from the staged installation: to stay below 50 ms.
 void soubory_startu(benchmark::State& stav) {
-    simulace.cesta_aplikace = TESK_INSTALACE;
-    const std::vector<Text> rady = soubory_slozky(simulace.cesta_aplikace + "gvd", "*.dat");
-    if (!soubor_existuje(simulace.cesta_aplikace + "data\\tesk.rea") || rady.empty()) {
-        stav.SkipWithError("the installation is not staged");
-        simulace = Simulace{};
+    constexpr const char* kJizdniRad = "gvd\\GVD_plny.dat";
+    if (!je_v_instalaci(stav, "data\\tesk.rea") || !je_v_instalaci(stav, kJizdniRad))
         return;
-    }
-    simulace.soubor_gvd = simulace.cesta_aplikace + "gvd\\" + rady.front();
+    simulace.cesta_aplikace = TESK_INSTALACE;
+    simulace.soubor_gvd = simulace.cesta_aplikace + kJizdniRad;
     for (auto _ : stav) {
         relief = novy_relief();
         nacti_relief();

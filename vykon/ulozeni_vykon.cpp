@@ -1,17 +1,12 @@
 // vykon/ulozeni_vykon.cpp - saving and starting from a save, with a hundred trains on the whole junction.
 #include "app/cas.h"
 #include "app/nacteni.h"
-#include "app/nova_simulace.h"
-#include "app/simulace.h"
+#include "instalace_vykon.h"
 #include "jizda/spojovani.h"
 #include "jizda/vlak.h"
-#include "relief/nacti_relief.h"
-#include "relief/prejezdy.h"
-#include "relief/relief.h"
 #include "save/ulozeni.h"
 #include "save/zaznam.h"
 #include "zaklad/platforma.h"
-#include "zaklad/soubory.h"
 
 #include <benchmark/benchmark.h>
 
@@ -30,16 +25,8 @@ struct Kolejiste {
             std::abort();
         slozka = vzor;
         platforma = prazdna_platforma();
-        nova_simulace();
-        simulace.cesta_aplikace = TESK_INSTALACE;
-        nacti_relief();
-        nacti_prejezdy();
+        cele_kolejiste();
         simulace.cesta_aplikace = vzor + "/";
-        for (int n = 0; n <= kNejvyssiPrvek; ++n)
-            if (je_kolej(n)) {
-                relief.kolej[n].barva = barvy::seda;
-                relief.kolej[n].stav = TextPohled("0");
-            }
         nastav_cas("11:59:58");
         simulace.cas_zacatku = 719;
         for (int i = 0, kolej = 0; i < 100; ++i) {

@@ -61,11 +61,14 @@ std::size_t konec_cisla(TextPohled text, std::size_t od, int& cislic) {
 // The value of digits alone, as nearly all numbers in texts are; so many of them a real number holds exactly.
 std::optional<double> hodnota_cislic(TextPohled text) {
     constexpr std::size_t kPresnychCislic = 15;
-    if (text.size() > kPresnychCislic || !std::all_of(text.begin(), text.end(), je_cislice))
+    if (text.empty() || text.size() > kPresnychCislic)
         return std::nullopt;
     std::int64_t hodnota = 0;
-    for (const char c : text)
+    for (const char c : text) {
+        if (!je_cislice(c))
+            return std::nullopt;
         hodnota = hodnota * 10 + (c - '0');
+    }
     return static_cast<double>(hodnota);
 }
 
@@ -127,6 +130,8 @@ std::int32_t cele_z_textu(TextPohled text) {
 }
 
 std::optional<double> ciselny_text(TextPohled text) {
+    if (const auto hodnota = hodnota_cislic(text))
+        return hodnota;
     text = orez(text);
     int cislic = 0;
     const std::size_t konec = konec_cisla(text, 0, cislic);
