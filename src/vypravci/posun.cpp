@@ -233,6 +233,14 @@ Text koleje(int e) {
     return t;
 }
 
+// A train runs to the track on a train route, or is about to.
+bool jede_tam_vlak(int e) {
+    return std::any_of(cesty.begin(), cesty.end(), [e](const Cesta& c) {
+        return c.zacatek >= 0 && c.VC && !c.PN && c.prehozena && c.Umazat < posledni_index(c) &&
+               posledni_prvek(c) == e;
+    });
+}
+
 // --- routes that nobody takes
 
 // A shunt route that was ordered for a movement.
@@ -247,6 +255,11 @@ void zrus_opustene_cesty() {
     std::erase_if(nase_cesty, [](const NaseCesta& n) { return cesta_v_zasobniku(n.zacatek, n.konec) < 0; });
     for (NaseCesta& n : nase_cesty) {
         const int i = cesta_v_zasobniku(n.zacatek, n.konec);
+        // It waits since before the train was let in, and would be set once that has entered its route.
+        if (i >= 0 && !cesta_c(i).VC && !cesta_c(i).prehozena && jede_tam_vlak(posledni_prvek(cesta_c(i)))) {
+            odeber_cestu(n.zacatek, n.konec);
+            continue;
+        }
         if (ted_s() - n.od_s < kOpustena_s || i < 0 || cesta_c(i).VC || cesta_c(i).cas_ruseni >= 0 ||
             !cesta_c(i).Provedena)
             continue;
