@@ -1014,6 +1014,10 @@ bool zkus(int v) {
     if (j.cesta.empty() || j.cesta.front().trasa != trasa)
         return false;
     const Vlak& vlak = vlak_c(v);
+    if (j.stoji && je_zdvojen(v)) { // it goes to the yard
+        j.podivat_s = ted + 10;
+        return false;
+    }
     if (!muze_tahnout(v) && j.stoji && !vlak.muze_jet) { // an order lets it go without
         j.podivat_s = ted + 10;
         return false;

@@ -6,6 +6,7 @@
 #include "cesty/navest.h"
 #include "desk/stitky.h"
 #include "gvd/gvd.h"
+#include "jizda/souprava.h"
 #include "jizda/zastavky.h"
 #include "prvky/jmena.h"
 #include "prvky/navestidla.h"
@@ -82,6 +83,25 @@ bool je_zastavka_na_trati(int stanice) {
     return std::any_of(uzel::kMistaStopu.begin(), uzel::kMistaStopu.end(), [=](const uzel::MistoStopu& m) {
         return m.stanice == stanice && je_usek_trati(m.od) && m.od != uzel::kT2;
     });
+}
+
+bool je_zdvojen(int v) {
+    const Vlak& t = vlak_c(v);
+    const auto u_nastupiste = [](const Vlak& x) { return uzel::je_kolej_hlavniho(kolej_cela(x)); };
+    const auto poradi = [](const Vlak& x) { return kolej_cela(x) == planovana_kolej(x) ? 0 : 1; };
+    if (t.cislo < 1 || t.posun || t.prvky.empty() || t.stanice_index > 0 || jen_loko(t) ||
+        t.zastavky.empty() || t.zastavky.front().stanice != dopravna::tesk || !u_nastupiste(t))
+        return false;
+    for (std::size_t i = 0; i < vlaky.size(); ++i) {
+        const Vlak& jiny = vlaky[i];
+        if (static_cast<int>(i) == v || jiny.cislo != t.cislo || jiny.posun || jiny.prvky.empty() ||
+            jen_loko(jiny))
+            continue;
+        if (!u_nastupiste(jiny) || poradi(jiny) < poradi(t) ||
+            (poradi(jiny) == poradi(t) && static_cast<int>(i) < v))
+            return true;
+    }
+    return false;
 }
 
 int kdo_drzi(int e) {

@@ -24,6 +24,9 @@ bool cely_na_koleji(const Vlak& v);
 // Seconds until the working departure from the present stop; 0 when it is over or when there is none, a large
 // number when it goes only by order.
 int do_odjezdu_s(const Vlak& v);
+// Two sets stand at the main station for one train, or one of them has left: this one is not needed. The one
+// on the planned track stays.
+bool je_zdvojen(int v);
 // Element of the main station's track that the record plans for the train; kZadny none.
 int planovana_kolej(const Vlak& v);
 // "Os 14707".

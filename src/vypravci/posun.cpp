@@ -151,6 +151,12 @@ bool je_obsazena(int e) {
     return vlak_na_koleji(e) || (je_kolej(e) && relief.kolej[e].barva == barvy::cervena);
 }
 
+// In the neck of the yard, where all movements of the main station turn or run through.
+bool stoji_na_zhlavi(int v) {
+    const int e = kolej_cela(vlak_c(v));
+    return e == 145 || uzel::je_prujezdna_posunu(e);
+}
+
 // --- consists
 
 double rada_cela(const Vlak& v) {
@@ -990,12 +996,21 @@ void ved_k_nastupu(int v) {
         if (const GvdVlak* r = radek_vlaku(cislo);
             r != nullptr && r->zastavky.front().stanice == dopravna::tesk)
             tlaci = tlaci || uzel::je_pristaveni(e);
-    if (uzel::je_pristaveni(e) && !tlaci && ceka_na_prijezd(v, odjezd_s))
-        return; // else the yard has no place for the next set
+    if ((uzel::je_pristaveni(e) || uzel::je_odstavna_kolej(e)) && ceka_na_prijezd(v, odjezd_s)) {
+        const int stranou = tlaci ? odstavna() : kZadny; // it makes room for the next set
+        if (!tlaci ||
+            (stranou != kZadny && posun_na(v, stranou, Strana::libovolna, kZadny, false) != Posun::bez_cesty))
+            return;
+    }
     const int kam = vyber_nastupiste(v, odjezd_s, tlaci);
     Posun p = Posun::ceka;
     if (kam != kZadny)
-        p = posun_na(v, kam, Strana::libovolna, kZadny, odjezd_s < kNajdiJinou_s);
+        p = posun_na(v, kam, Strana::libovolna, kZadny, odjezd_s < kNajdiJinou_s || stoji_na_zhlavi(v));
+    // Nobody waits for his platform in the neck of the yard: who has lost it goes back.
+    if (p != Posun::jede && stoji_na_zhlavi(v))
+        for (const int k : {uzel::kPristaveniA, uzel::kPristaveniB})
+            if (p != Posun::jede && !je_obsazena(k))
+                p = posun_na(v, k, Strana::libovolna, kZadny, true);
     if (p == Posun::jede) {
         vypravci::neceka(t.cislo);
         return;
@@ -1090,6 +1105,21 @@ bool odves_zalohu(int v) {
     return false;
 }
 
+// The set at the platform becomes a shunting movement, and goes to the yard.
+void odstav(int v, TextPohled proc) {
+    const int e = kolej_cela(vlak_c(v));
+    const std::int32_t cislo = vlak_c(v).cislo;
+    Text veta = jmeno_vlaku(vlak_c(v));
+    veta += proc;
+    veta += koleje(e);
+    veta += "."_cz;
+    if (povel_vlaku(e, v, "miPosun")) {
+        zrus_slib(v);
+        vypravci::neceka(cislo);
+        vypravci::rekni(cislo, std::move(veta));
+    }
+}
+
 void ved_konec(int v) {
     const Vlak& t = vlak_c(v);
     const int e = kolej_cela(t);
@@ -1103,20 +1133,17 @@ void ved_konec(int v) {
         zmen_cislo_vlaku(e, v, dalsi);
         return;
     }
-    Text veta = jmeno_vlaku(t);
-    veta += " skončil, odstavuje se z "_cz;
-    veta += koleje(e);
-    veta += "."_cz;
-    const std::int32_t cislo = t.cislo;
-    if (povel_vlaku(e, v, "miPosun")) {
-        zrus_slib(v);
-        vypravci::neceka(cislo);
-        vypravci::rekni(cislo, std::move(veta));
-    }
+    odstav(v, " skončil, odstavuje se z "_cz);
 }
 
 void ved_vlak(int v) {
     const Vlak& t = vlak_c(v);
+    if (t.rychlost == 0 && cely_na_koleji(t) && je_zdvojen(v) &&
+        vypravci::ma_stanici(uzel::stanice_posunu(kolej_cela(t)))) {
+        if (!zrus_odjezd({v, kolej_cela(t)}) && !ma_cestu(v))
+            odstav(v, " má na nástupišti druhou soupravu, tato se odstavuje z "_cz);
+        return;
+    }
     if (!stoji_vlak(v) || t.zastavky.empty() || t.vozy.empty() ||
         !vypravci::ma_stanici(uzel::stanice_posunu(kolej_cela(t)))) {
         pamet_c(v).od_s = ted_s();
@@ -1173,8 +1200,7 @@ void krok_posunu() {
     for (const bool na_zhlavi : {true, false})
         for (std::size_t i = 0; i < vlaky.size(); ++i) {
             const int v = static_cast<int>(i);
-            if (vlaky[i].cislo > 0 && vlaky[i].posun &&
-                (kolej_cela(vlaky[i]) == 145 || uzel::je_prujezdna_posunu(kolej_cela(vlaky[i]))) == na_zhlavi)
+            if (vlaky[i].cislo > 0 && vlaky[i].posun && stoji_na_zhlavi(v) == na_zhlavi)
                 ved_posun(v);
         }
     for (std::size_t i = 0; i < vlaky.size(); ++i)

@@ -218,6 +218,22 @@ TEST_F(PosunVypravciho, SetOfTheYardStaysThereWhileTheOneOfTheTimetableIsUnderWa
     EXPECT_TRUE(vypravci_ceka(13301).empty());
 }
 
+TEST_F(PosunVypravciho, OfTwoSetsOfOneTrainTheOneAwayFromItsPlatformGoesToTheYardAndDoesNotLeave) {
+    zacni(kZOdstavu);
+    const std::vector<Zastavka> zastavky{stop(9, -3, minuta(12)), stop(7, minuta(18), minuta(19)),
+                                         stop(2, minuta(33), -3)};
+    const int jina = prijede(30, true, 13301, zastavky, 0, {"560", "060", "060", "560"}, 560, 0, 96);
+    const int planovana = prijede(31, true, 13301, zastavky, 0, {"560", "060", "060", "560"}, 560, 0, 96);
+    vlak_c(jina).pokyn = vlak_c(planovana).pokyn = "6";
+    vypravci::predej();
+    nech_bezet_min(11);
+    EXPECT_NE(vlak_c(jina).cislo, 13301);
+    EXPECT_EQ(vlak_c(planovana).cislo, 13301);
+    EXPECT_EQ(vlak_c(planovana).prvky.back().prvek, 31);
+    nech_bezet_min(3);
+    EXPECT_NE(vlak_c(planovana).prvky.back().prvek, 31); // it has left
+}
+
 TEST_F(PosunVypravciho, LateTrainGetsTheLocomotiveThatIsAtHandHoweverTheLooksFall) {
     for (const int za_s : {0, 2}) {
         zacni();
