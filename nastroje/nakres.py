@@ -27,12 +27,13 @@ def zacatek(sirka, vyska, titul, nadpis, podnadpis):
 
 
 def mrizka_casu(x, od, do, nahore, dole, na_minutu, popis=hodiny_minuty):
-    """Hours strong, ten minutes thin, the clock above and below in the words of `popis`."""
+    """Midnights and hours strong, ten minutes thin, the clock above and below in the words of `popis`."""
     svg = []
     for cas in range(od, do + 1, 600):
         hodina, pul = cas % 3600 == 0, cas % 1800 == 0
+        barva, tloustka = ("#4a463c", 2) if cas % 86400 == 0 else ("#9a9484", 1.2) if hodina else ("#ddd6c4", 0.6)
         svg.append('<line x1="%.1f" y1="%.1f" x2="%.1f" y2="%.1f" stroke="%s" stroke-width="%s"/>'
-                   % (x(cas), nahore, x(cas), dole, "#9a9484" if hodina else "#ddd6c4", 1.2 if hodina else 0.6))
+                   % (x(cas), nahore, x(cas), dole, barva, tloustka))
         if hodina or (pul and na_minutu >= 2.5) or na_minutu >= 5:
             for misto in (nahore - 10, dole + 20):
                 svg.append('<text x="%.1f" y="%.1f" font-size="%d" text-anchor="middle" fill="#444"%s>%s</text>'

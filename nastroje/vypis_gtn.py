@@ -224,6 +224,7 @@ class Jizda:
     def __init__(self, cislo):
         self.cislo = cislo
         self.body = []  # (second, station code)
+        self.pohyb = 0  # second of its last movement, on whichever track
 
     @property
     def posun(self):
@@ -240,6 +241,7 @@ def vrat_cas(jizdy, posledni, kam):
     for jizda in jizdy:
         if posledni - kam > PUL_DNE:
             jizda.body = [(cas - 2 * PUL_DNE, misto) for cas, misto in jizda.body]
+            jizda.pohyb -= 2 * PUL_DNE
         else:
             while jizda.body and jizda.body[-1][0] > kam:
                 jizda.body.pop()
@@ -249,8 +251,11 @@ def jizdy_vlaku(zaznamy, stanice):
     """The runs of the log, by their arrivals on station tracks and departures from them: {track: station}.
 
     A train that leaves a track under a number that never came there is the one that came last and is still
-    there: it has got its next number, and a run of that number begins where the old one ended. The desk keeps
-    the same rule (src/nakres/jizdy.h); testy/nakres/jizdy.txt holds both to it.
+    there: it has got its next number, and a run of that number begins where the old one ended.
+
+    A number runs once a day: one that has been on the move nowhere for half a day begins a run anew, unless it
+    leaves the track on which it stands. The desk keeps the same rules (src/nakres/jizdy.h);
+    testy/nakres/jizdy.txt holds both to them.
     """
     jizdy, podle_cisla, na_koleji, posledni = [], {}, {}, None
     for z in zaznamy:
@@ -259,19 +264,26 @@ def jizdy_vlaku(zaznamy, stanice):
         if posledni is not None and z.cas < posledni:
             vrat_cas(jizdy, posledni, z.cas)
         posledni = z.cas
-        if z.hodnota <= 0 or z.prvek not in stanice:
+        if z.hodnota <= 0:
             continue
-        stoji = na_koleji.setdefault(z.prvek, [])
         jizda = podle_cisla.get(z.hodnota)
-        if z.kod == Z_KOLEJE and jizda not in stoji and stoji:
-            predesla = stoji.pop()
+        if jizda is not None and z.cas - jizda.pohyb > PUL_DNE:
+            jizda = None
+            del podle_cisla[z.hodnota]
+        elif jizda is not None:
+            jizda.pohyb = z.cas
+        if z.prvek not in stanice:
+            continue
+        stoji, predesla = na_koleji.setdefault(z.prvek, []), None
+        if z.kod == Z_KOLEJE and stoji:
+            jizda = next((j for j in stoji if j.cislo == z.hodnota), None)
+            predesla = stoji.pop() if jizda is None else None
+        if jizda is None:
             jizda = Jizda(z.hodnota)
-            jizda.body = predesla.body[-1:]
-            jizdy.append(jizda)
-        elif jizda is None:
-            jizda = Jizda(z.hodnota)
+            jizda.body = predesla.body[-1:] if predesla else []
             jizdy.append(jizda)
         podle_cisla[z.hodnota] = jizda
+        jizda.pohyb = z.cas
         jizda.body.append((z.cas, stanice[z.prvek]))
         if z.kod == NA_KOLEJ:
             stoji.append(jizda)
@@ -368,7 +380,11 @@ def nakres(hlavicka, zaznamy, kolejiste, kody=None, trat=None):
     svg = zacatek(sirka, vyska, "Nákresný jízdní řád podle záznamu %s" % hlavicka.datum, "Splněný grafikon",
                   "%s, záznam z %s, %s, %s až %s" % (hlavicka.nazev, hlavicka.datum, DNY_SLOVY[hlavicka.den % 7],
                                                      hodiny_minuty(od), hodiny_minuty(do)))
-    svg += mrizka_casu(x, od, do, OKRAJ_NAHORE, dole, na_minutu)
+
+    def popis(cas):  # at midnight the day that begins
+        return hodiny_minuty(cas) if cas % 86400 else DNY[(hlavicka.den + cas // 86400) % 7]
+
+    svg += mrizka_casu(x, od, do, OKRAJ_NAHORE, dole, na_minutu, popis)
     svg += osa_stanic(osa, y, OKRAJ_VLEVO, x(do))
 
     # trains: down in one colour, up in the other; locomotives and shunting broken

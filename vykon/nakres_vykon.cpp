@@ -11,6 +11,9 @@
 #include <QImage>
 #include <benchmark/benchmark.h>
 
+#include <algorithm>
+#include <vector>
+
 namespace {
 
 // Every train of a Monday on the longest line, as it shall run and, some minutes later, as it ran.
@@ -47,6 +50,48 @@ struct CelyDen {
     CelyDen& operator=(const CelyDen&) = delete;
     ~CelyDen() { nova_simulace(); }
 };
+
+// The movements of 22 days, the longest game that the clock can count: each train of the full week as it
+// calls.
+std::vector<PohybVlaku> pohyby_hry(const Koridory& k) {
+    std::vector<PohybVlaku> pohyby;
+    for (std::int32_t den = 0; den < 22; ++den)
+        for (const GvdVlak& r : gvd_vlaky)
+            for (const ZastavkaGvd& z : r.zastavky)
+                if (const int misto = misto_stanice(k, z.stanice);
+                    misto != kZadny && !k.mista[static_cast<std::size_t>(misto)].koleje.empty()) {
+                    const auto kolej =
+                        static_cast<std::int16_t>(k.mista[static_cast<std::size_t>(misto)].koleje.front());
+                    const std::int32_t cas = den * kDen_s + std::max(z.prijezd, z.odjezd) * 60;
+                    pohyby.push_back({cas, kolej, r.cislo, true});
+                    pohyby.push_back({cas + 30, kolej, r.cislo, false});
+                }
+    std::stable_sort(pohyby.begin(), pohyby.end(),
+                     [](const PohybVlaku& a, const PohybVlaku& b) { return a.cas < b.cas; });
+    return pohyby;
+}
+
+// What the open diagram does five times a second when the game has run that long; MB: movements and runs.
+void cary_dlouhe_hry(benchmark::State& stav) {
+    const CelyDen den(stav);
+    const std::vector<PohybVlaku> pohyby = pohyby_hry(den.k);
+    SkladJizd sklad(den.k);
+    for (const PohybVlaku& p : pohyby)
+        sklad.pridej(p);
+    std::size_t bajtu = pohyby.size() * sizeof(PohybVlaku);
+    for (const JizdaNakresu& j : sklad.jizdy())
+        bajtu += sizeof j + j.body.capacity() * sizeof(BodJizdy);
+    const std::int32_t ted = 21 * kDen_s + kDen_s / 2;
+    for (auto _ : stav)
+        benchmark::DoNotOptimize(
+            jete_cary(den.k, den.osa, sklad.jizdy(), ted, ted - 8 * 3600, ted + 4 * 3600));
+    stav.counters["MB"] = static_cast<double>(bajtu) / 1e6;
+    stav.counters["runs"] = static_cast<double>(sklad.jizdy().size());
+}
+BENCHMARK(cary_dlouhe_hry)
+    ->Unit(benchmark::kMillisecond)
+    ->Name("lines of half a day after a game of 22 days")
+    ->Args({1920, 1080});
 
 void tvary_dne(benchmark::State& stav) {
     const CelyDen den(stav);

@@ -127,6 +127,8 @@ void SkladJizd::vrat_cas(std::int32_t kam) {
         for (JizdaNakresu& j : vsechny)
             for (BodJizdy& b : j.body)
                 b.cas -= kDen_s;
+        for (auto& [cislo, p] : podle_cisla)
+            p.cas -= kDen_s;
         return;
     }
     for (JizdaNakresu& j : vsechny)
@@ -141,31 +143,44 @@ void SkladJizd::pridej(const PohybVlaku& p) {
     neco = true;
     if (p.cislo <= 0 || p.prvek < 0 || static_cast<std::size_t>(p.prvek) >= mista.size())
         return;
+    const auto znama = podle_cisla.find(p.cislo);
+    if (znama != podle_cisla.end() && p.cas - znama->second.cas > kPulDne_s) {
+        vsechny[znama->second.jizda].skoncila = true;
+        podle_cisla.erase(znama);
+    } else if (znama != podle_cisla.end()) {
+        znama->second.cas = p.cas;
+    }
     const auto kolej = static_cast<std::size_t>(p.prvek);
     if (mista[kolej] == kZadny)
         return;
-    std::vector<std::size_t>& stoji = na_koleji[kolej];
-    const auto znama = podle_cisla.find(p.cislo);
-    const bool tady =
-        znama != podle_cisla.end() && std::find(stoji.begin(), stoji.end(), znama->second) != stoji.end();
-    std::size_t jizda = znama != podle_cisla.end() ? znama->second : vsechny.size();
-    if (!p.na_kolej && !tady && !stoji.empty()) {
-        jizda = vsechny.size();
-        const JizdaNakresu& predesla = vsechny[stoji.back()];
-        JizdaNakresu dalsi{p.cislo, {}};
-        if (!predesla.body.empty())
-            dalsi.body.push_back(predesla.body.back());
-        stoji.pop_back();
-        vsechny.push_back(std::move(dalsi));
-    } else if (jizda == vsechny.size()) {
-        vsechny.push_back({p.cislo, {}});
-    }
-    podle_cisla[p.cislo] = jizda;
+    const std::size_t jizda = jizda_pohybu(p);
+    podle_cisla[p.cislo] = {jizda, p.cas};
+    vsechny[jizda].skoncila = false;
     vsechny[jizda].body.push_back({p.cas, mista[kolej]});
+    std::vector<std::size_t>& stoji = na_koleji[kolej];
     if (p.na_kolej)
         stoji.push_back(jizda);
     else if (const auto kde = std::find(stoji.begin(), stoji.end(), jizda); kde != stoji.end())
         stoji.erase(kde);
+}
+
+// The run to which a movement on a track of a station belongs; a new one when no run goes on with it.
+std::size_t SkladJizd::jizda_pohybu(const PohybVlaku& p) {
+    std::vector<std::size_t>& stoji = na_koleji[static_cast<std::size_t>(p.prvek)];
+    JizdaNakresu nova{p.cislo, {}};
+    if (!p.na_kolej && !stoji.empty()) {
+        const auto tady = std::find_if(stoji.begin(), stoji.end(),
+                                       [&](std::size_t i) { return vsechny[i].cislo == p.cislo; });
+        if (tady != stoji.end())
+            return *tady;
+        if (const JizdaNakresu& predesla = vsechny[stoji.back()]; !predesla.body.empty())
+            nova.body.push_back(predesla.body.back());
+        stoji.pop_back();
+    } else if (const auto znama = podle_cisla.find(p.cislo); znama != podle_cisla.end()) {
+        return znama->second.jizda;
+    }
+    vsechny.push_back(std::move(nova));
+    return vsechny.size() - 1;
 }
 
 std::vector<CaraVlaku> planovane_cary(const Koridory& k, const OsaKoridoru& osa, std::int32_t od,
@@ -182,7 +197,8 @@ std::vector<CaraVlaku> planovane_cary(const Koridory& k, const OsaKoridoru& osa,
 }
 
 std::vector<CaraVlaku> jete_cary(const Koridory& k, const OsaKoridoru& osa,
-                                 const std::vector<JizdaNakresu>& jizdy, std::int32_t ted) {
+                                 const std::vector<JizdaNakresu>& jizdy, std::int32_t ted, std::int32_t od,
+                                 std::int32_t po) {
     // where each number is that is on the desk
     std::map<std::int32_t, std::optional<double>> na_stole;
     for (const Vlak& v : vlaky)
@@ -191,11 +207,18 @@ std::vector<CaraVlaku> jete_cary(const Koridory& k, const OsaKoridoru& osa,
     // a number that runs a second time goes on with its last run
     std::unordered_map<std::int32_t, std::size_t> posledni;
     for (std::size_t i = 0; i < jizdy.size(); ++i)
-        posledni[jizdy[i].cislo] = i;
+        if (!jizdy[i].body.empty())
+            posledni[jizdy[i].cislo] = i;
 
     std::vector<CaraVlaku> cary;
     for (std::size_t i = 0; i < jizdy.size(); ++i) {
         const JizdaNakresu& j = jizdy[i];
+        if (j.body.empty())
+            continue;
+        const auto ted_je = na_stole.find(j.cislo);
+        const bool jede = posledni[j.cislo] == i && !j.skoncila && ted_je != na_stole.end() && ted_je->second;
+        if (j.body.front().cas > po || (j.body.back().cas < od && !jede))
+            continue;
         CaraVlaku cara{j.cislo, druh_cisla(j.cislo), false, false, false, {}};
         const auto uzavri = [&] {
             if (cara.na_stole || ma_vic_mist(cara.body))
@@ -209,8 +232,7 @@ std::vector<CaraVlaku> jete_cary(const Koridory& k, const OsaKoridoru& osa,
             else
                 uzavri();
         }
-        const auto ted_je = na_stole.find(j.cislo);
-        if (posledni[j.cislo] == i && ted_je != na_stole.end() && ted_je->second && !j.body.empty()) {
+        if (jede) {
             cara.na_stole = true;
             cara.body.push_back({static_cast<double>(ted), *ted_je->second});
             na_stole.erase(ted_je);

@@ -19,9 +19,10 @@ namespace {
 struct BarvyRole {
     std::uint32_t stul, papir;
 };
-constexpr std::array<BarvyRole, 18> kBarvy = {{
+constexpr std::array<BarvyRole, 19> kBarvy = {{
     {0x0B0F14, 0xFFFDF7}, // papir
     {0x5A6A7C, 0x6B6658}, // ramec
+    {0x93A5B8, 0x4A463C}, // pulnoc
     {0x46525F, 0x9A9484}, // hodina
     {0x2A333D, 0xC6BFAE}, // delsi_cas
     {0x1B2229, 0xE6E0D0}, // kratsi_cas
@@ -164,12 +165,14 @@ struct Kreslic {
         const PlochaNakresu& a = obraz.plocha;
         const std::int32_t jemny = krok(0.7 * p.pismo) * 60, popisovany = krok(4.6 * p.pismo) * 60;
         for (auto s = static_cast<std::int32_t>(std::ceil(p.od / jemny) * jemny); s <= p.po; s += jemny) {
-            const bool hodina = s % 3600 == 0;
-            const RoleNakresu role = hodina          ? RoleNakresu::hodina
+            const RoleNakresu role = s % kDen_s == 0 ? RoleNakresu::pulnoc
+                                     : s % 3600 == 0 ? RoleNakresu::hodina
                                      : s % 1800 == 0 ? RoleNakresu::delsi_cas
                                                      : RoleNakresu::kratsi_cas;
-            pridej(DruhTvaru::cara, role, {{x(s), a.nahore}, {x(s), a.dole}}, 1);
+            pridej(DruhTvaru::cara, role, {{x(s), a.nahore}, {x(s), a.dole}},
+                   role == RoleNakresu::pulnoc ? p.pismo / 6 : 1);
         }
+        bool prvni = true; // tells the day of those up to midnight
         for (auto s = static_cast<std::int32_t>(std::ceil(p.od / popisovany) * popisovany); s <= p.po;
              s += popisovany) {
             const bool hodina = s % 3600 == 0;
@@ -178,10 +181,13 @@ struct Kreslic {
             for (const double kde : {a.nahore - 0.9 * p.pismo, a.dole + 0.9 * p.pismo}) {
                 if (pod_tedkem && kde < a.nahore)
                     continue; // the present says its time there
+                const bool pulnoc = s % kDen_s == 0;
                 pis(hodina ? RoleNakresu::pismo : RoleNakresu::slabe_pismo, {x(s), kde}, p.pismo,
-                    popis_casu(s, s % kDen_s == 0), Zarovnani::na_stred)
+                    pulnoc && kde < a.nahore ? Text(den_casu(s)) : popis_casu(s, prvni || pulnoc),
+                    Zarovnani::na_stred)
                     .tucne = hodina;
             }
+            prvni = false;
         }
     }
 

@@ -16,6 +16,7 @@
 enum class RoleNakresu : std::uint8_t {
     papir,
     ramec,
+    pulnoc,
     hodina,
     delsi_cas,  // half hours
     kratsi_cas, // five or ten minutes

@@ -468,7 +468,7 @@ bool OknoNakresu::spocitej(bool vse) {
             plan_den = simulace.den;
             plan = planovane_cary(k, osa, plan_od, plan_po);
         }
-        std::vector<CaraVlaku> cary = jete_cary(k, osa, sklad->jizdy(), ted);
+        std::vector<CaraVlaku> cary = jete_cary(k, osa, sklad->jizdy(), ted, od, po);
         cary.insert(cary.end(), plan.begin(), plan.end());
         const double pomer = platno->devicePixelRatioF();
         for (const QRect& r : nakresleny.obnov(nakresli_nakres(co, k, osa, cary), pomer))
@@ -498,7 +498,8 @@ ObrazNakresu OknoNakresu::na_papir(double sirka, double vyska) const {
                   " " + popis_casu(od, false) + Text(" až "_cz) +
                   (den_casu(po) == den_casu(od) ? Text{} : Text(den_casu(po)) + " ") + popis_casu(po, false) +
                   Text("; stav v "_cz) + text_hodin();
-    std::vector<CaraVlaku> cary = jete_cary(k, osa, sklad->jizdy(), static_cast<std::int32_t>(co.ted));
+    std::vector<CaraVlaku> cary =
+        jete_cary(k, osa, sklad->jizdy(), static_cast<std::int32_t>(co.ted), od, po);
     cary.insert(cary.end(), plan.begin(), plan.end());
     return nakresli_nakres(p, k, osa, cary);
 }

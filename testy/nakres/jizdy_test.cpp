@@ -93,7 +93,7 @@ TEST_F(JizdyLogu, MovementsBecomeTheRunsOfTheExampleThatTheReaderOfTheLogKeepsTo
             pohyby.push_back(p);
         }
     }
-    EXPECT_EQ(prikladu, 6);
+    EXPECT_EQ(prikladu, 9);
 }
 
 TEST_F(JizdyLogu, MovementsOfTrainsAreKeptAsTheLogHasThemUntilTheNextLogIsOpened) {
@@ -137,6 +137,37 @@ TEST_F(CaryVlaku, TrainInAThroatIsWhereItEnteredItAndOneOnAnotherLineIsNowhere) 
     ASSERT_EQ(cary.size(), 1u);
     EXPECT_EQ(cary[0].cislo, 102);
     EXPECT_EQ(cary[0].body.back().m, 3800);
+}
+
+TEST_F(CaryVlaku, TrainOfTodayDoesNotGoOnWithYesterdaysRun) {
+    SkladJizd sklad(k);
+    for (const PohybVlaku& p :
+         {PohybVlaku{21600, 87, 104, true}, PohybVlaku{21700, 87, 104, false},
+          PohybVlaku{21900, 12, 104, true}, PohybVlaku{21960, 12, 104, false},
+          PohybVlaku{kDen_s + 22000, 20, 104, true}}) // it is seen on the open line first
+        sklad.pridej(p);
+    postav_vlak(104, {20, 26}, 10);
+    const OsaKoridoru o = osa("lho-rok");
+    const std::vector<CaraVlaku> cary = jete_cary(k, o, sklad.jizdy(), kDen_s + 22100);
+    ASSERT_EQ(cary.size(), 2u);
+    EXPECT_FALSE(cary[0].na_stole);
+    EXPECT_EQ(cary[0].body.back().s, 21960);
+    EXPECT_TRUE(cary[1].na_stole);
+    EXPECT_EQ(cary[1].body.size(), 1u);
+}
+
+TEST_F(CaryVlaku, RunsOfOtherHoursAreLeftOutUnlessTheTrainIsOnTheDesk) {
+    const auto jizda = [&](std::int32_t cislo, std::int32_t od) {
+        return JizdaNakresu{cislo, {{od, misto("LHO")}, {od + 300, misto("TVH")}}};
+    };
+    postav_vlak(3, {12}, 10);
+    const std::vector<CaraVlaku> cary =
+        jete_cary(k, osa("lho-rok"), {jizda(1, 1000), jizda(2, 7000), jizda(3, 1000), jizda(4, 9000)}, 8000,
+                  6000, 8500);
+    ASSERT_EQ(cary.size(), 2u);
+    EXPECT_EQ(cary[0].cislo, 2);
+    EXPECT_EQ(cary[1].cislo, 3);
+    EXPECT_EQ(cary[1].body.back().s, 8000) << "it has stood there since";
 }
 
 TEST_F(CaryVlaku, RunLeavesTheLineAtAPlaceOffIt) {

@@ -101,6 +101,32 @@ TEST_F(ObrazTrati, PresentIsALineThatMovesWithTheClock) {
     EXPECT_EQ(kde(nakresli()), -1);
 }
 
+TEST_F(ObrazTrati, MidnightPartsTheDaysAndTheyHaveTheirNames) {
+    const auto pulnoci = [](const ObrazNakresu& o) {
+        std::vector<TvarNakresu> v;
+        for (const TvarNakresu& t : o.tvary)
+            if (t.role == RoleNakresu::pulnoc)
+                v.push_back(t);
+        return v;
+    };
+    simulace.den = 1; // Monday
+    EXPECT_TRUE(pulnoci(nakresli()).empty());
+    EXPECT_NE(text(nakresli(), "po 8:00"), nullptr) << "the day of what is seen from the left";
+    pohled.od = 22 * 3600;
+    pohled.po = 50 * 3600;
+    const ObrazNakresu o = nakresli();
+    const auto cary_pulnoci = pulnoci(o);
+    ASSERT_EQ(cary_pulnoci.size(), 2u);
+    EXPECT_NEAR(cary_pulnoci[0].body[0].x, o.plocha.vlevo + o.plocha.sirka() / 14, 0.01);
+    EXPECT_GT(cary_pulnoci[0].tloustka, 1);
+    for (const TextPohled den : {"úterý"_cz, "středa"_cz}) {
+        ASSERT_NE(text(o, den), nullptr) << den;
+        EXPECT_TRUE(text(o, den)->tucne);
+    }
+    EXPECT_EQ(text(o, "úterý"_cz)->body[0].x, cary_pulnoci[0].body[0].x);
+    EXPECT_NE(text(o, "st 0:00"), nullptr) << "below, with the hour";
+}
+
 TEST_F(ObrazTrati, NumberStandsOnceAndOnTheLineThatTheTrainRan) {
     pohled.od += 4 * 3600; // about noon
     pohled.po += 4 * 3600;

@@ -194,6 +194,18 @@ class Nakres(Zaklad):
         self.assertLess(cary[0][0][1], cary[0][-1][1], "down the axis")
         self.assertGreater(cary[2][0][1], cary[2][-1][1], "and back")
 
+    def test_number_has_a_line_each_day_and_midnight_has_its_name(self):
+        svg = self.svg(jizdy=JIZDY[:2] + JIZDY[4:6] + tuple((cas + 86400, *zbytek) for cas, *zbytek in
+                                                            JIZDY[:2] + JIZDY[4:6]))
+        cary = [[float(b.split(",")[0]) for b in c.getAttribute("points").split()]
+                for c in svg.getElementsByTagName("polyline")]
+        self.assertEqual(len(cary), 2)
+        self.assertLess(cary[0][-1], cary[1][0])
+        self.assertLess(max(cara[-1] - cara[0] for cara in cary), 0.02 * float(svg.documentElement.getAttribute("width")))
+        self.assertEqual([t for t in self.texty(svg) if t in v.DNY], ["úterý", "úterý"], "above and below")
+        pulnoc = [c for c in svg.getElementsByTagName("line") if c.getAttribute("stroke-width") == "2"]
+        self.assertEqual(len(pulnoc), 1)
+
     def test_axis_and_filters_can_be_chosen(self):
         texty = self.texty(self.svg("--osa", "AAA,BBB"))
         self.assertNotIn("Gama", texty)
@@ -261,7 +273,7 @@ class Jizdy(unittest.TestCase):
             elif slova:
                 cas, smer, kolej, cislo = slova
                 pohyby.append(ZaznamLogu(int(cas), 131 if smer == "+" else 132, int(kolej), int(cislo)))
-        self.assertEqual(pocet, 6)
+        self.assertEqual(pocet, 9)
 
 
 if __name__ == "__main__":
