@@ -9,12 +9,17 @@ Misto = namedtuple("Misto", "zkratka kody nazev zastavka jen_jmeno koleje")
 SOUBOR = pathlib.Path(__file__).resolve().parent.parent / "kolejiste" / "koridory.txt"
 
 
-def cisla(slovo):
-    """"12", "9-18", "22-24,26"."""
+def cisla(slovo, nejvyssi=999):
+    """"12", "9-18", "22-24,26": each number once, a range from the smaller to the larger."""
     vysledek = []
     for cast in slovo.split(","):
-        od, _, po = cast.partition("-")
-        vysledek += range(int(od), int(po or od) + 1)
+        meze = cast.split("-")
+        od, po = int(meze[0]), int(meze[-1])
+        if len(meze) > 2 or not 0 <= od <= po <= nejvyssi:
+            raise ValueError("není číslo ani rozsah: %s" % cast)
+        vysledek += range(od, po + 1)
+    if len(set(vysledek)) < len(vysledek):
+        raise ValueError("číslo je tu dvakrát: %s" % slovo)
     return vysledek
 
 
@@ -40,7 +45,7 @@ class Koridory:
 
     def _misto(self, zkratka, kody, nazev, *dale):
         koleje = cisla(dale[dale.index("koleje") + 1]) if "koleje" in dale else []
-        self.mista[zkratka] = Misto(zkratka, cisla(kody), nazev, "zastavka" in dale, "jen_jmeno" in dale, koleje)
+        self.mista[zkratka] = Misto(zkratka, cisla(kody, 255), nazev, "zastavka" in dale, "jen_jmeno" in dale, koleje)
 
     def _usek(self, a, b, *dily):
         self.useky[self.mista[a].zkratka, self.mista[b].zkratka] = [

@@ -8,6 +8,8 @@
 #include "zaklad/soubory.h"
 
 #include <algorithm>
+#include <bitset>
+#include <limits>
 #include <string_view>
 
 namespace {
@@ -48,23 +50,36 @@ struct Vada {
     Text text;
 };
 
-int prvek_ze_slova(TextPohled slovo) {
+int cislo_ze_slova(TextPohled slovo, int nejvyssi) {
     const auto cislo = ciselny_text(slovo);
-    if (!cislo || *cislo < 0 || *cislo > kNejvyssiPrvek || *cislo != dolu(*cislo))
-        throw Vada{Text("není číslo prvku: "_cz) + Text(slovo)};
+    if (!cislo || *cislo < 0 || *cislo > nejvyssi || *cislo != dolu(*cislo))
+        throw Vada{Text("není číslo od 0 do "_cz) + text_cisla(nejvyssi) + ": " + Text(slovo)};
     return static_cast<int>(*cislo);
 }
 
-// "12", "9-18", "22-24,26"
-std::vector<int> cisla(TextPohled slovo) {
+// Numbers that stand once; a second one is a fault.
+using Videna = std::bitset<kNejvyssiPrvek + 1>;
+
+// "12", "9-18", "22-24,26"; never empty.
+std::vector<int> cisla(TextPohled slovo, int nejvyssi, Videna& videna) {
     std::vector<int> vysledek;
     for (const TextPohled cast : rozdel(slovo, ',')) {
         const auto meze = rozdel(cast, '-');
-        const int od = prvek_ze_slova(meze.front()), po = prvek_ze_slova(meze.back());
-        for (int n = od; n <= po; ++n)
+        const int od = cislo_ze_slova(meze.front(), nejvyssi), po = cislo_ze_slova(meze.back(), nejvyssi);
+        if (meze.size() > 2 || od > po)
+            throw Vada{Text("není rozsah od menšího k většímu: "_cz) + Text(cast)};
+        for (int n = od; n <= po; ++n) {
+            if (videna.test(static_cast<std::size_t>(n)))
+                throw Vada{Text("číslo je tu dvakrát: "_cz) + text_cisla(n)};
+            videna.set(static_cast<std::size_t>(n));
             vysledek.push_back(n);
+        }
     }
     return vysledek;
+}
+std::vector<int> cisla(TextPohled slovo, int nejvyssi) {
+    Videna videna;
+    return cisla(slovo, nejvyssi, videna);
 }
 
 struct Cteni {
@@ -81,15 +96,15 @@ struct Cteni {
         if (s.size() < 4)
             throw Vada{Text("misto ZKRATKA KÓDY \"JMÉNO\" ..."_cz)};
         MistoNakresu m{s[1], s[3], {}, false, false, {}};
-        for (const int kod : cisla(s[2]))
-            m.kody.push_back(na_byte(kod));
+        for (const int kod : cisla(s[2], std::numeric_limits<std::uint8_t>::max()))
+            m.kody.push_back(static_cast<std::uint8_t>(kod));
         for (std::size_t i = 4; i < s.size(); ++i) {
             if (s[i] == "zastavka")
                 m.zastavka = true;
             else if (s[i] == "jen_jmeno")
                 m.jen_jmeno = true;
             else if (s[i] == "koleje" && i + 1 < s.size())
-                m.koleje = cisla(s[++i]);
+                m.koleje = cisla(s[++i], kNejvyssiPrvek);
             else
                 throw Vada{Text("neznámé slovo "_cz) + s[i]};
         }
@@ -100,12 +115,13 @@ struct Cteni {
         if (s.size() < 4)
             throw Vada{Text("usek ODKUD KAM PRVKY ..."_cz)};
         UsekNakresu u{misto(s[1]), misto(s[2]), {}};
+        Videna videna;
         for (std::size_t i = 3; i < s.size(); ++i) {
             const auto casti = rozdel(s[i], '*');
-            DilUseku dil{cisla(casti.front()), 1};
+            DilUseku dil{cisla(casti.front(), kNejvyssiPrvek, videna), 1};
             if (casti.size() > 1) {
                 const auto cast = ciselny_text(casti[1]);
-                if (!cast || *cast <= 0 || *cast > 1)
+                if (casti.size() > 2 || !cast || *cast <= 0 || *cast > 1)
                     throw Vada{Text("není část úseku: "_cz) + s[i]};
                 dil.cast = *cast;
             }
@@ -118,10 +134,15 @@ struct Cteni {
         if (s.size() < 5)
             throw Vada{Text("trat JMÉNO \"NADPIS\" MÍSTO MÍSTO ..."_cz)};
         Koridor t{s[1], s[2], {}};
+        std::vector<bool> videna(k.mista.size());
         for (std::size_t i = 3; i < s.size(); ++i) {
             std::vector<int> rada;
-            for (const TextPohled zkratka : rozdel(s[i], '+'))
+            for (const TextPohled zkratka : rozdel(s[i], '+')) {
                 rada.push_back(misto(zkratka));
+                if (videna[static_cast<std::size_t>(rada.back())])
+                    throw Vada{Text("místo je na trati dvakrát: "_cz) + Text(zkratka)};
+                videna[static_cast<std::size_t>(rada.back())] = true;
+            }
             t.rady.push_back(std::move(rada));
         }
         k.trate.push_back(std::move(t));
@@ -168,6 +189,10 @@ void pridej_dil(OsaKoridoru& osa, const DilUseku& dil, double od, double po, std
 } // namespace
 
 Koridory precti_koridory(std::span<const std::uint8_t> bajty, std::vector<Text>& zavady) {
+    if (bajty.size() > kNejvetsiKoridory) {
+        zavady.emplace_back("soubor je větší než 256 KiB"_cz);
+        return {};
+    }
     const Text text = z_utf8({reinterpret_cast<const char*>(bajty.data()), bajty.size()});
     Cteni cteni;
     std::size_t cislo = 0;

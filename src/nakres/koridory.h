@@ -7,6 +7,7 @@
 #include "zaklad/cisla.h"
 #include "zaklad/text.h"
 
+#include <cstddef>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -22,8 +23,8 @@ struct MistoNakresu {
     bool operator==(const MistoNakresu&) const = default;
 };
 
-// Tracks beside each other, and how much of them lies between the two places: a stop divides its section. The
-// length of the first one counts.
+// Tracks beside each other, one at least, and how much of them lies between the two places: a stop divides
+// its section. The length of the first one counts.
 struct DilUseku {
     std::vector<int> prvky;
     double cast = 1;
@@ -70,7 +71,11 @@ struct OsaKoridoru {
 
 // --- at any time, without change
 
-// The text of the file. What cannot be understood is left out and told in `zavady`, a line each.
+// A file of more bytes is none of ours: what a line of it says takes more room than the line.
+inline constexpr std::size_t kNejvetsiKoridory = 256 * 1024;
+
+// The text of the file. A line that cannot be understood is left out and told in `zavady`; so is the whole of
+// a file that is too large.
 Koridory precti_koridory(std::span<const std::uint8_t> bajty, std::vector<Text>& zavady);
 // Those of the installation; none when it has no file.
 const Koridory& koridory();

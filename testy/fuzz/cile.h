@@ -16,6 +16,7 @@
 #include "gvd/provoz.h"
 #include "gvd/zaplneni.h"
 #include "jizda/vlak.h"
+#include "nakres/koridory.h"
 #include "obsluha/ukony.h"
 #include "pomocne/male_kolejiste.h"
 #include "pomocne/prvky_cesty.h"
@@ -92,6 +93,47 @@ inline void zkus_prejezdy(Vstup vstup) {
     for (const Prejezd& prejezd : prejezdy)
         musi(!prejezd.zona && !prejezd.vyluka && !prejezd.uvolnen, "no crossing has a train at the start");
 }
+// A program's folder that knows how long the tracks are.
+inline const Text& slozka_s_delkami() {
+    static const DocasnaSlozka slozka;
+    if (!soubor_existuje(slozka.cesta + "data\\tesk.top")) {
+        zaloz_slozku(slozka.cesta + "data");
+        zapis_soubor(slozka.cesta + "data\\tesk.top", soubor_topologie(kMaleDelky));
+    }
+    return slozka.cesta;
+}
+
+// The lines of the diagrams: what is left of any text can be measured.
+inline void zkus_koridory(Vstup vstup) {
+    simulace.cesta_aplikace = slozka_s_delkami();
+    std::vector<Text> zavady;
+    const Koridory k = precti_koridory(vstup, zavady);
+    const auto je_misto = [&](int m) { return m >= 0 && static_cast<std::size_t>(m) < k.mista.size(); };
+    for (const MistoNakresu& m : k.mista)
+        musi(!m.kody.empty() && m.koleje.size() <= kNejvyssiPrvek + 1,
+             "a place has a code, and each track once");
+    for (const UsekNakresu& u : k.useky) {
+        musi(je_misto(u.a) && je_misto(u.b) && !u.dily.empty(), "a section lies between two places");
+        for (const DilUseku& d : u.dily)
+            musi(!d.prvky.empty() && d.cast > 0 && d.cast <= 1, "a piece of a section is a part of a track");
+    }
+    for (const Koridor& t : k.trate) {
+        const OsaKoridoru osa = osa_koridoru(k, t);
+        musi(osa.rady.size() == t.rady.size() && osa.rady.size() >= 2, "a line has its rows");
+        for (std::size_t i = 1; i < osa.rady.size(); ++i)
+            musi(osa.rady[i].metry >= osa.rady[i - 1].metry, "a line goes down");
+        for (const PrvekOsy& p : osa.prvky)
+            musi(p.od <= osa.delka() && p.po <= osa.delka(), "no piece lies beyond its line");
+    }
+}
+inline Bajty vzor_koridoru() {
+    return bajty_textu(
+        "misto AAA 1 \"Alfa\" koleje 5-7,9 # a station\nmisto BBB 2,30 \"B\xC3\xA9ta\" zastavka\n"
+        "misto CCC 3 \"Gama\" jen_jmeno\nusek AAA BBB 600,602*0.25 21\n"
+        "usek BBB CCC 600,602*0.75 107\ntrat a-c \"Alfa - Gama\" AAA BBB CCC\n"
+        "trat c-a \"Gama - Alfa\" CCC+BBB AAA\n");
+}
+
 inline Bajty vzor_prejezdu() {
     return soubor_prejezdu({{0, "BOR 1", 640, 500}, {1, "", 690, -1}, {2, "pole", 640, 900}});
 }
@@ -102,13 +144,8 @@ inline void zkus_gvd(Vstup vstup) {
 
 // Every element that the traffic knows, free.
 inline void postav_pro_provoz() {
-    static const DocasnaSlozka slozka;
     nova_simulace();
-    simulace.cesta_aplikace = slozka.cesta;
-    if (!soubor_existuje(slozka.cesta + "data\\tesk.top")) {
-        zaloz_slozku(slozka.cesta + "data");
-        zapis_soubor(slozka.cesta + "data\\tesk.top", soubor_topologie(kMaleDelky));
-    }
+    simulace.cesta_aplikace = slozka_s_delkami();
     simulace.den = 1;
     simulace.cas_zacatku = 599;
     for (int n = 1; n <= kNejvyssiPrvek; ++n) {
@@ -404,8 +441,8 @@ inline constexpr std::array kCile = {
     Cil{"prejezdy", zkus_prejezdy, vzor_prejezdu}, Cil{"gvd", zkus_gvd, vzor_gvd},
     Cil{"provoz", zkus_provoz, vzor_provozu},      Cil{"texty", zkus_texty, vzor_textu},
     Cil{"cesty", zkus_cesty, vzor_cest},           Cil{"vazby", zkus_vazby, vzor_vazeb},
-    Cil{"makra", zkus_makra, vzor_maker},          Cil{"zaznam", zkus_zaznam, vzor_zaznamu},
-    Cil{"smena", zkus_smenu, vzor_smeny},
+    Cil{"makra", zkus_makra, vzor_maker},          Cil{"koridory", zkus_koridory, vzor_koridoru},
+    Cil{"zaznam", zkus_zaznam, vzor_zaznamu},      Cil{"smena", zkus_smenu, vzor_smeny},
 };
 
 } // namespace fuzz

@@ -55,6 +55,48 @@ TEST(CteniKoridoru, LinesThatCannotBeUnderstoodAreLeftOutAndTold) {
     EXPECT_TRUE(k.trate.empty());
 }
 
+TEST(CteniKoridoru, RangeThatEndsBeforeItBeginsIsNone) {
+    const Koridory k = precti("misto AAA 1 \"Alfa\" koleje 5\nmisto BBB 2 \"Béta\" koleje 18-9\n"
+                              "misto CCC 3 \"Gama\"\nusek AAA CCC 18-9\ntrat a-c \"A\" AAA CCC\n",
+                              2);
+    ASSERT_EQ(k.mista.size(), 2u);
+    EXPECT_TRUE(k.useky.empty());
+    EXPECT_EQ(osa_koridoru(k, k.trate.at(0)).delka(), 0);
+}
+
+TEST(CteniKoridoru, RangeHasTwoBoundsAndAListEachNumberOnce) {
+    const Koridory k = precti("misto AAA 1 \"Alfa\" koleje 1-2-3\nmisto BBB 2 \"Béta\" koleje 4-4,6\n"
+                              "misto CCC 3 \"Gama\" koleje 4-7,6\nmisto DDD 4 \"Delta\" koleje -3\n",
+                              3);
+    ASSERT_EQ(k.mista.size(), 1u);
+    EXPECT_EQ(k.mista[0].koleje, (std::vector{4, 6}));
+}
+
+TEST(CteniKoridoru, CodeBeyondThoseOfATimetableLosesItsLineAlone) {
+    const Koridory k = precti("misto AAA 1 \"Alfa\"\nmisto BBB 256 \"Béta\"\nmisto CCC 250-260 \"Gama\"\n"
+                              "misto DDD 255 \"Delta\"\n",
+                              2);
+    ASSERT_EQ(k.mista.size(), 2u);
+    EXPECT_EQ(k.mista[1].kody, (std::vector<std::uint8_t>{255}));
+}
+
+TEST(CteniKoridoru, SectionHasEachElementOnceAndALineEachPlace) {
+    const Koridory k = precti("misto AAA 1 \"Alfa\"\nmisto BBB 2 \"Béta\"\n"
+                              "usek AAA BBB 5,6 6\nusek AAA BBB 5*0.5*0.5\nusek AAA BBB 5*0.5 6\n"
+                              "trat a \"A\" AAA BBB+AAA\ntrat b \"B\" AAA BBB\n",
+                              3);
+    ASSERT_EQ(k.useky.size(), 1u);
+    EXPECT_EQ(k.useky[0].dily.size(), 2u);
+    ASSERT_EQ(k.trate.size(), 1u);
+    EXPECT_EQ(k.trate[0].jmeno, "b");
+}
+
+TEST(CteniKoridoru, FileThatIsNoTableOfLinesIsLeftOutWhole) {
+    std::string text = "misto AAA 1 \"Alfa\"\n";
+    text.append(kNejvetsiKoridory, '#');
+    EXPECT_TRUE(precti(text, 1).mista.empty());
+}
+
 TEST_F(KoridoryInstalace, WithoutTheFileThereAreNone) {
     smaz_soubor(simulace.cesta_aplikace + "data\\tesk.kor");
     EXPECT_TRUE(koridory().trate.empty());
