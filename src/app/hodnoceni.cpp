@@ -3,7 +3,6 @@
 
 #include "app/cas.h"
 #include "gvd/gvd.h"
-#include "nakres/jizdy.h"
 #include "nakres/koridory.h"
 #include "nakres/obraz.h"
 #include "obsluha/ukony.h"
@@ -12,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdlib>
 #include <functional>
 #include <map>
 #include <optional>
@@ -44,12 +44,17 @@ constexpr std::array<UkonNavic, 8> kUkonyNavic = {{
 
 struct BodJizdnihoRadu {
     int misto = kZadny;
-    std::int32_t cas = 0; // second of the day, may lie beyond it
+    std::int32_t cas = 0; // absolute second
     bool odjezd = false;  // else the arrival at the end
 };
 
-// Departures of a row by places, and its last arrival.
-std::vector<BodJizdnihoRadu> body_radku(const Koridory& k, const GvdVlak& r) {
+// Departures of a run by places, and its last arrival. A time that lies before that of its entry is one of
+// the next morning.
+std::vector<BodJizdnihoRadu> body_jizdy(const Koridory& k, const JizdaVlaku& j) {
+    const GvdVlak& r = radek_gvd(j.radek);
+    const auto cas = [&](int minuta) {
+        return (j.cas + ((minuta - cas_vstupu(r)) % kDen_min + kDen_min) % kDen_min) * 60;
+    };
     std::vector<BodJizdnihoRadu> body;
     for (std::size_t i = 0; i < r.zastavky.size(); ++i) {
         const ZastavkaGvd& z = r.zastavky[i];
@@ -57,9 +62,9 @@ std::vector<BodJizdnihoRadu> body_radku(const Koridory& k, const GvdVlak& r) {
         if (misto == kZadny)
             continue;
         if (z.odjezd >= 0)
-            body.push_back({misto, z.odjezd * 60, true});
+            body.push_back({misto, cas(z.odjezd), true});
         else if (i + 1 == r.zastavky.size() && z.prijezd >= 0)
-            body.push_back({misto, z.prijezd * 60, false});
+            body.push_back({misto, cas(z.prijezd), false});
     }
     return body;
 }
@@ -69,9 +74,9 @@ struct Pobyt {
     int misto = kZadny;
     std::int32_t prisel = 0, odesel = 0;
 };
-std::vector<Pobyt> pobyty(const JizdaNakresu& j) {
+std::vector<Pobyt> pobyty(const std::vector<BodJizdy>& body) {
     std::vector<Pobyt> vse;
-    for (const BodJizdy& b : j.body) {
+    for (const BodJizdy& b : body) {
         if (vse.empty() || vse.back().misto != b.misto)
             vse.push_back({b.misto, b.cas, b.cas});
         vse.back().odesel = b.cas;
@@ -79,32 +84,38 @@ std::vector<Pobyt> pobyty(const JizdaNakresu& j) {
     return vse;
 }
 
-// Row of a number, by whichever of its two it runs; nullptr none.
-const GvdVlak* radek_vlaku(std::int32_t cislo) {
-    const GvdVlak* nalezeny = nullptr;
-    for (const auto& zapis : gvd_vlaky.s_cislem(cislo))
-        if (nalezeny == nullptr || aktivni_dnes(radek_gvd(zapis.radek)))
-            nalezeny = &radek_gvd(zapis.radek);
-    return nalezeny;
-}
+// The runs of the log by their numbers. Of those of one number that one is meant which begins nearest to a
+// second, half a day away at most: the others are of other days.
+class JizdyCisel {
+public:
+    explicit JizdyCisel(const std::vector<JizdaNakresu>& jizdy) {
+        for (const JizdaNakresu& j : jizdy)
+            if (!j.body.empty())
+                podle_cisla.emplace(j.cislo, &j);
+    }
+    void pridej_body(std::vector<BodJizdy>& kam, std::int32_t cislo, std::int32_t kdy) const {
+        const JizdaNakresu* nejblizsi = nullptr;
+        std::int32_t nejmene = kDen_s / 2;
+        const auto [od, po] = podle_cisla.equal_range(cislo);
+        for (auto j = od; j != po; ++j)
+            if (const std::int32_t d = std::abs(j->second->body.front().cas - kdy); d < nejmene) {
+                nejmene = d;
+                nejblizsi = j->second;
+            }
+        if (nejblizsi != nullptr)
+            kam.insert(kam.end(), nejblizsi->body.begin(), nejblizsi->body.end());
+    }
 
-// Minutes late, of a time of the timetable on the day that lies nearest.
-int zpozdeni(std::int32_t skutecny, std::int32_t planovany) {
-    std::int32_t rozdil = (skutecny - planovany) % kDen_s;
-    if (rozdil < -kDen_s / 2)
-        rozdil += kDen_s;
-    else if (rozdil >= kDen_s / 2)
-        rozdil -= kDen_s;
-    return std::max(rozdil / 60, 0);
-}
+private:
+    std::multimap<std::int32_t, const JizdaNakresu*> podle_cisla;
+};
 
 struct Soucty {
     std::map<std::pair<int, int>, UsekZpozdeni> useky;
-    std::map<std::int32_t, VlakSmeny> vlaky;
-    std::map<std::int32_t, int> nejvic; // minutes that a train lost at its worst place
+    int nejvic = 0; // minutes that the train lost at its worst place
 };
 
-void zapocti(Soucty& s, const Koridory& k, std::int32_t cislo, int odkud, int kam, int rozdil) {
+void zapocti(Soucty& s, VlakSmeny& v, const Koridory& k, int odkud, int kam, int rozdil) {
     if (rozdil == 0)
         return;
     const auto jmeno = [&](int misto) { return k.mista[static_cast<std::size_t>(misto)].nazev; };
@@ -112,7 +123,6 @@ void zapocti(Soucty& s, const Koridory& k, std::int32_t cislo, int odkud, int ka
     u.odkud = jmeno(odkud);
     u.kam = jmeno(kam);
     ++u.vlaku;
-    VlakSmeny& v = s.vlaky[cislo];
     if (rozdil < 0) {
         u.nahnano -= rozdil;
         v.nahnal -= rozdil;
@@ -120,32 +130,42 @@ void zapocti(Soucty& s, const Koridory& k, std::int32_t cislo, int odkud, int ka
     }
     u.pridano += rozdil;
     v.pridal += rozdil;
-    if (rozdil > s.nejvic[cislo]) {
-        s.nejvic[cislo] = rozdil;
+    if (rozdil > s.nejvic) {
+        s.nejvic = rozdil;
         v.kde = odkud == kam ? u.kam : u.odkud + Text(" – "_cz) + u.kam;
     }
 }
 
-void zapocti_jizdu(Soucty& s, const Koridory& k, const JizdaNakresu& j, int prevzal) {
-    const GvdVlak* radek = radek_vlaku(j.cislo);
-    if (radek == nullptr)
-        return;
-    const std::vector<BodJizdnihoRadu> plan = body_radku(k, *radek);
-    int minule = prevzal, odkud = kZadny;
-    std::size_t od = 0;
-    const std::vector<Pobyt> kudy = pobyty(j);
+// What a train of the timetable lost and gained on its day. Under way it may have got its second number.
+VlakSmeny zapocti_jizdu(Soucty& s, const Koridory& k, const JizdyCisel& zaznam, const JizdaVlaku& j) {
+    const GvdVlak& radek = radek_gvd(j.radek);
+    VlakSmeny vlak;
+    vlak.cislo = radek.cislo;
+    vlak.druh = radek.druh;
+    vlak.vstup_s = j.cas * 60;
+    vlak.prevzal = j.zpozdeni_vstup;
+    s.nejvic = 0;
+    std::vector<BodJizdy> jel;
+    zaznam.pridej_body(jel, radek.cislo, vlak.vstup_s + j.zpozdeni_vstup * 60);
+    if (radek.cislo2 > 0)
+        zaznam.pridej_body(jel, radek.cislo2, jel.empty() ? vlak.vstup_s : jel.back().cas);
+    const std::vector<BodJizdnihoRadu> plan = body_jizdy(k, j);
+    int minule = j.zpozdeni_vstup, odkud = kZadny;
+    auto od = plan.begin();
+    const std::vector<Pobyt> kudy = pobyty(jel);
     for (std::size_t i = 0; i < kudy.size(); ++i) {
-        const auto bod = std::find_if(plan.begin() + static_cast<std::ptrdiff_t>(od), plan.end(),
-                                      [&](const BodJizdnihoRadu& b) { return b.misto == kudy[i].misto; });
+        const auto bod =
+            std::find_if(od, plan.end(), [&](const BodJizdnihoRadu& b) { return b.misto == kudy[i].misto; });
         if (bod == plan.end() || (bod->odjezd && i + 1 == kudy.size()))
             continue; // it has not left there yet
-        od = static_cast<std::size_t>(bod - plan.begin()) + 1;
+        od = bod + 1;
         const std::int32_t skutecny = bod->odjezd ? kudy[i].odesel - kRozjezd_s : kudy[i].prisel;
-        const int ted = zpozdeni(skutecny, bod->cas);
-        zapocti(s, k, j.cislo, odkud == kZadny ? bod->misto : odkud, bod->misto, ted - minule);
+        const int ted = std::max((skutecny - bod->cas) / 60, 0);
+        zapocti(s, vlak, k, odkud == kZadny ? bod->misto : odkud, bod->misto, ted - minule);
         minule = ted;
         odkud = bod->misto;
     }
+    return vlak;
 }
 
 void zpozdeni_po_trati(HodnoceniSmeny& h) {
@@ -153,14 +173,13 @@ void zpozdeni_po_trati(HodnoceniSmeny& h) {
     SkladJizd sklad(k);
     for (const PohybVlaku& p : gtn_pohyby())
         sklad.pridej(p);
-    std::map<std::int32_t, int> prevzali;
+    h.jizdy = sklad.jizdy();
+    const JizdyCisel zaznam(h.jizdy);
+    Soucty s;
     for (const JizdaVlaku& j : sledovani.jizdy)
         if (j.objevena)
-            prevzali[radek_gvd(j.radek).cislo] = j.zpozdeni_vstup;
-    Soucty s;
-    for (const JizdaNakresu& j : sklad.jizdy())
-        if (const auto vstup = prevzali.find(j.cislo); vstup != prevzali.end())
-            zapocti_jizdu(s, k, j, vstup->second);
+            if (VlakSmeny v = zapocti_jizdu(s, k, zaznam, j); v.pridal > 0)
+                h.vlaky.push_back(std::move(v));
     for (const auto& [misto, u] : s.useky) {
         h.pridano += u.pridano;
         h.nahnano += u.nahnano;
@@ -168,14 +187,6 @@ void zpozdeni_po_trati(HodnoceniSmeny& h) {
     }
     std::stable_sort(h.useky.begin(), h.useky.end(),
                      [](const UsekZpozdeni& a, const UsekZpozdeni& b) { return a.pridano > b.pridano; });
-    for (auto& [cislo, v] : s.vlaky) {
-        const GvdVlak* radek = radek_vlaku(cislo);
-        v.cislo = cislo;
-        v.druh = radek != nullptr ? radek->druh : std::uint8_t{0};
-        v.prevzal = prevzali[cislo];
-        if (v.pridal > 0)
-            h.vlaky.push_back(v);
-    }
     std::stable_sort(h.vlaky.begin(), h.vlaky.end(),
                      [](const VlakSmeny& a, const VlakSmeny& b) { return a.pridal > b.pridal; });
 }
@@ -226,9 +237,10 @@ Text z_kolika(int kolik, int z) {
 Text doba(std::int32_t s) {
     return text_cisla(s / 60) + " min " + text_cisla(s % 60) + " s";
 }
-Text druh_a_cislo(std::uint8_t druh, std::int32_t cislo) {
-    const TextPohled zkratka = zkratka_druhu(druh);
-    return (zkratka.empty() ? Text{} : Text(zkratka) + " ") + text_cisla(cislo);
+// The train, with its day when the shift has more than one.
+Text jmeno_vlaku(const HodnoceniSmeny& h, const VlakSmeny& v) {
+    const bool vic_dni = h.zprava.od_s / kDen_s != h.zprava.do_s / kDen_s;
+    return druh_a_cislo(v.druh, v.cislo) + (vic_dni ? " (" + Text(den_casu(v.vstup_s)) + ")" : Text{});
 }
 
 // What is told of the shift, and of the automatic dispatcher's beside it.
@@ -332,7 +344,7 @@ void kde_vzniklo(std::string& html, const Srovnani& s) {
               {"vlak"_cz, "převzal"_cz, "přidalo se"_cz, "dohnal"_cz, "nejvíc kde"_cz});
     for (std::size_t i = 0; i < std::min(h.vlaky.size(), kNejvicVlaku); ++i) {
         const VlakSmeny& v = h.vlaky[i];
-        t.radek({druh_a_cislo(v.druh, v.cislo), min(v.prevzal), min(v.pridal), min(v.nahnal), v.kde});
+        t.radek({jmeno_vlaku(h, v), min(v.prevzal), min(v.pridal), min(v.nahnal), v.kde});
     }
 }
 
@@ -380,9 +392,6 @@ constexpr std::string_view kOdNakresu = "<!-- od -->", kDoNakresu = "<!-- do -->
 std::string nakresy_hodnoceni(const HodnoceniSmeny& h) {
     std::string html;
     const Koridory& k = koridory();
-    SkladJizd sklad(k);
-    for (const PohybVlaku& p : gtn_pohyby())
-        sklad.pridej(p);
     std::set<std::pair<int, int>> nakreslene; // neighbours that stand on a line of the page
     std::vector<const Koridor*> poradi;
     for (const Koridor& t : k.trate)
@@ -408,7 +417,7 @@ std::string nakresy_hodnoceni(const HodnoceniSmeny& h) {
         p.pismo = 11;
         p.nadpis = osa.nadpis;
         p.podnadpis = text_casu(h.zprava.od_s) + Text(" až "_cz) + text_casu(h.zprava.do_s);
-        std::vector<CaraVlaku> cary = jete_cary(k, osa, sklad.jizdy(), h.zprava.do_s);
+        std::vector<CaraVlaku> cary = jete_cary(k, osa, h.jizdy, h.zprava.do_s);
         if (std::none_of(cary.begin(), cary.end(), [](const CaraVlaku& c) { return c.body.size() > 1; }))
             continue;
         const std::vector<CaraVlaku> plan = planovane_cary(k, osa, h.zprava.od_s, h.zprava.do_s);

@@ -10,6 +10,7 @@
 #pragma once
 
 #include "app/zprava_o_provozu.h"
+#include "nakres/jizdy.h"
 #include "save/gtn.h"
 #include "zaklad/text.h"
 
@@ -26,9 +27,11 @@ struct UsekZpozdeni {
     int pridano = 0, nahnano = 0; // minutes
     bool operator==(const UsekZpozdeni&) const = default;
 };
+// A train on one day.
 struct VlakSmeny {
     std::int32_t cislo = 0;
     std::uint8_t druh = 0;
+    std::int32_t vstup_s = 0;                // of its entry by the timetable, absolute second
     int prevzal = 0, pridal = 0, nahnal = 0; // minutes
     Text kde;                                // where it lost most; empty: nowhere
     bool operator==(const VlakSmeny&) const = default;
@@ -51,6 +54,7 @@ struct HodnoceniSmeny {
     int ceka_dosud = 0; // minutes that those who stand now have stood: no departure has made a delay of them
     std::vector<UsekZpozdeni> useky;    // where most arose first
     std::vector<VlakSmeny> vlaky;       // that lost time, the most first
+    std::vector<JizdaNakresu> jizdy;    // as the log has them, for the diagrams
     std::vector<PocetUkonu> ukony;      // what is done beyond the ordinary
     std::vector<PrejezdSmeny> prejezdy; // of the stations
 };

@@ -280,8 +280,8 @@ Text text_zpravy_o_provozu() {
     if (!z.radky.empty())
         t += "\r\nVlaky, které nejsou jen na cestě nebo v cíli:\r\n"_cz;
     for (const RadekZpravy& r : z.radky)
-        t += slozeny({"  ", zkratka_druhu(r.druh), " ", text_cisla(r.cislo), " (", r.stav,
-                      r.kde.empty() ? ")" : ") ", r.kde, " od ", text_casu(r.od_s), ": ", r.duvod, "\r\n"});
+        t += slozeny({"  ", druh_a_cislo(r.druh, r.cislo), " (", r.stav, r.kde.empty() ? ")" : ") ", r.kde,
+                      " od ", text_casu(r.od_s), ": ", r.duvod, "\r\n"});
     if (!z.cekani.empty())
         t += "\r\nNejdelší čekání:\r\n"_cz;
     for (const CekaniZpravy& c : z.cekani)

@@ -159,3 +159,8 @@ TextPohled zkratka_druhu(int druh) {
                ? kDruhyVlaku[static_cast<std::size_t>(druh)]
                : TextPohled{};
 }
+
+Text druh_a_cislo(int druh, std::int32_t cislo) {
+    const TextPohled zkratka = zkratka_druhu(druh);
+    return (zkratka.empty() ? Text{} : Text(zkratka) + " ") + text_cisla(cislo);
+}

@@ -150,3 +150,5 @@ TextPohled nazev_stanice(int kod);
 TextPohled kod_stanice(int kod);
 // Short form of a train category; empty for 9 and for unknown ones.
 TextPohled zkratka_druhu(int druh);
+// "R 851"; the number alone when the category has no short form.
+Text druh_a_cislo(int druh, std::int32_t cislo);

@@ -115,12 +115,7 @@ int kdo_drzi(int e) {
 }
 
 Text jmeno_vlaku(const Vlak& v) {
-    const TextPohled druh = zkratka_druhu(v.cislo2_platne ? v.druh2 : v.druh);
-    Text t(druh);
-    if (!t.empty())
-        t += " ";
-    t += text_cisla(zobrazene_cislo(v));
-    return t;
+    return druh_a_cislo(v.cislo2_platne ? v.druh2 : v.druh, zobrazene_cislo(v));
 }
 
 Text jmeno_koleje(int e) {

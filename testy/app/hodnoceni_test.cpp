@@ -24,23 +24,37 @@ protected:
         v.zastavky = {{1, -1, 480}, {8, 484, 486}, {9, 490, -1}};
         gvd_vlaky = TabulkaGvd({v});
         sledovani.bezi = true;
-        JizdaVlaku j;
-        j.mela_jet = j.objevena = true;
-        sledovani.jizdy = {j};
+        sledovani.jizdy = {jizda(0, 0)};
         sledovani.od_s = 470 * 60;
         nastav_cas("8:30:00");
     }
-    // The train comes to a track and leaves it, minutes of the day.
-    static void pobyt(int kolej, int prisel, int odesel) {
-        nastav_cas(prisel * 60);
-        gtn_zapis(kolej, gtn::vlak_na_kolej, kVlak);
+    static void jdi(int minuta) {
+        simulace.minuty_simulace = minuta / kDen_min * kDen_min;
+        simulace.den = static_cast<std::uint8_t>(1 << minuta / kDen_min);
+        nastav_cas(minuta % kDen_min * 60);
+    }
+    // The train comes to a track and leaves it, minutes from the midnight of the first day on; there it may
+    // have got another number.
+    static void pobyt(int kolej, int prisel, int odesel, std::int32_t cislo = kVlak,
+                      std::int32_t odjel_jako = kVlak) {
+        jdi(prisel);
+        gtn_zapis(kolej, gtn::vlak_na_kolej, cislo);
         if (odesel < 0)
             return;
-        nastav_cas(odesel * 60 + 60); // its tail a minute after it has started
-        gtn_zapis(kolej, gtn::vlak_z_koleje, kVlak);
+        jdi(odesel + 1); // its tail a minute after it has started
+        gtn_zapis(kolej, gtn::vlak_z_koleje, odjel_jako);
     }
-    static HodnoceniSmeny hodnot() {
-        nastav_cas("8:30:00");
+    // The train's run on a day, as the observer has it.
+    static JizdaVlaku jizda(int den, int prevzal, int radek = 0) {
+        JizdaVlaku j;
+        j.radek = radek;
+        j.cas = den * kDen_min + cas_vstupu(radek_gvd(radek));
+        j.mela_jet = j.objevena = true;
+        j.zpozdeni_vstup = prevzal;
+        return j;
+    }
+    static HodnoceniSmeny hodnot(int minuta = 8 * 60 + 30) {
+        jdi(minuta);
         return hodnoceni_smeny();
     }
     static constexpr std::int32_t kVlak = 14707;
@@ -132,6 +146,94 @@ TEST_F(Hodnoceni, GoingBackInTimeIsCountedUnlessItWasUndone) {
     const HodnoceniSmeny h = hodnot();
     EXPECT_EQ(h.ukony.back().nazev, "návraty v čase (F4)"_cz);
     EXPECT_EQ(h.ukony.back().kolik, 2);
+}
+
+TEST_F(Hodnoceni, EachDayIsMeasuredByTheDelayThatItsOwnTrainBrought) {
+    sledovani.jizdy = {jizda(0, 10), jizda(1, 0)};
+    pobyt(kLhotin, 485, 490); // late from the neighbour, and as late at the end
+    pobyt(kHrabov, 494, 496);
+    pobyt(kHlavni, 500, 505);
+    pobyt(kLhotin, kDen_min + 475, kDen_min + 480);
+    pobyt(kHrabov, kDen_min + 484, kDen_min + 493); // held for seven minutes
+    pobyt(kHlavni, kDen_min + 497, -1);
+    const HodnoceniSmeny h = hodnot(kDen_min + 510);
+    EXPECT_EQ(h.prevzato, 10);
+    EXPECT_EQ(h.pridano, 7);
+    EXPECT_EQ(h.nahnano, 0);
+    ASSERT_EQ(h.vlaky.size(), 1u);
+    EXPECT_EQ(h.vlaky[0].prevzal, 0);
+    EXPECT_EQ(h.vlaky[0].pridal, 7);
+    EXPECT_EQ(h.vlaky[0].vstup_s, kDen_s + 480 * 60);
+    EXPECT_NE(html_hodnoceni(h, false).find("Os 14707 (úterý)"), std::string::npos);
+}
+
+TEST_F(Hodnoceni, DelayOfEveryDayCounts) {
+    sledovani.jizdy = {jizda(0, 0), jizda(1, 0), jizda(2, 0)};
+    for (int den = 0; den < 3; ++den) {
+        const int od = den * kDen_min;
+        pobyt(kLhotin, od + 475, od + 480);
+        pobyt(kHrabov, od + 484, od + 488 + den); // two, three and four minutes
+        pobyt(kHlavni, od + 492 + den, od + 500);
+    }
+    const HodnoceniSmeny h = hodnot(2 * kDen_min + 510);
+    EXPECT_EQ(h.pridano, 9);
+    ASSERT_EQ(h.useky.size(), 1u);
+    EXPECT_EQ(h.useky[0].vlaku, 3);
+    ASSERT_EQ(h.vlaky.size(), 3u);
+    EXPECT_EQ(h.vlaky[0].pridal, 4);
+    EXPECT_EQ(h.vlaky[0].vstup_s, 2 * kDen_s + 480 * 60);
+}
+
+TEST_F(Hodnoceni, TrainIsMeasuredByTheTimetableOfItsDay) {
+    GvdVlak pondelni = radek_gvd(0), uterni = radek_gvd(0);
+    pondelni.dny = 1;
+    uterni.dny = 2;
+    for (ZastavkaGvd& z : uterni.zastavky) { // an hour later
+        z.prijezd = z.prijezd < 0 ? z.prijezd : static_cast<std::int16_t>(z.prijezd + 60);
+        z.odjezd = z.odjezd < 0 ? z.odjezd : static_cast<std::int16_t>(z.odjezd + 60);
+    }
+    gvd_vlaky = TabulkaGvd({pondelni, uterni});
+    sledovani.jizdy = {jizda(0, 0, 0), jizda(1, 0, 1)};
+    for (const int od : {0, kDen_min + 60}) {
+        pobyt(kLhotin, od + 475, od + 480);
+        pobyt(kHrabov, od + 484, od + 486);
+        pobyt(kHlavni, od + 490, od + 495);
+    }
+    const HodnoceniSmeny h = hodnot(kDen_min + 600);
+    EXPECT_EQ(h.pridano, 0);
+    EXPECT_TRUE(h.useky.empty());
+}
+
+TEST_F(Hodnoceni, TrainThatRunsOverMidnightIsOfTheDayOfItsEntry) {
+    GvdVlak v = radek_gvd(0);
+    v.zastavky = {{1, -1, 1435}, {8, 1439, 1441}, {9, 1445, -1}};
+    gvd_vlaky = TabulkaGvd({v});
+    sledovani.jizdy = {jizda(0, 0)};
+    pobyt(kLhotin, 1430, 1435);
+    pobyt(kHrabov, 1439, 1446); // held for five minutes
+    pobyt(kHlavni, 1450, -1);
+    const HodnoceniSmeny h = hodnot(1460);
+    EXPECT_EQ(h.pridano, 5);
+    ASSERT_EQ(h.vlaky.size(), 1u);
+    EXPECT_EQ(h.vlaky[0].vstup_s, 1435 * 60);
+}
+
+TEST_F(Hodnoceni, TrainThatGetsItsSecondNumberIsTheSameTrain) {
+    GvdVlak v = radek_gvd(0);
+    v.cislo2 = kVlak + 1;
+    v.druh2 = 7;
+    v.stanice_zmeny = 8;
+    gvd_vlaky = TabulkaGvd({v});
+    pobyt(kLhotin, 475, 480);
+    pobyt(kHrabov, 484, 493, kVlak, kVlak + 1); // held for seven minutes
+    pobyt(kHlavni, 499, -1, kVlak + 1);         // and two more
+    const HodnoceniSmeny h = hodnot();
+    EXPECT_EQ(h.pridano, 9);
+    ASSERT_EQ(h.useky.size(), 2u);
+    EXPECT_EQ(h.useky[1].kam, "Tesk hl. n."_cz);
+    EXPECT_EQ(h.useky[1].pridano, 2);
+    ASSERT_EQ(h.vlaky.size(), 1u);
+    EXPECT_EQ(h.vlaky[0].cislo, kVlak);
 }
 
 TEST_F(Hodnoceni, ActsBeyondTheOrdinaryAreCountedFromTheShift) {
