@@ -259,9 +259,10 @@ OsaKoridoru osa_koridoru(const Koridory& k, const Koridor& trat) {
                         continue;
                     const bool prvni = a == osa.rady.back().mista.front() && b == rada.front();
                     double kde = odkud;
+                    const auto na_ose = [&](double m) { return prvni ? m : std::min(m, metry); };
                     const auto dil = [&](const DilUseku& d) {
                         const double po = kde + delka_koleje(d.prvky.front()) * d.cast;
-                        pridej_dil(osa, d, kde, prvni ? po : std::min(po, metry), predchozi_dil);
+                        pridej_dil(osa, d, na_ose(kde), na_ose(po), predchozi_dil);
                         kde = po;
                     };
                     if (usek->a == a)

@@ -140,6 +140,18 @@ TEST_F(KoridoryInstalace, NeighboursOnALineLieApartAndItsPiecesFillTheWay) {
     }
 }
 
+TEST_F(KoridoryInstalace, BranchThatIsLongerThanTheLineBesideItEndsWithIt) {
+    const Koridory k = precti("misto AAA 1 \"Alfa\"\nmisto BBB 2 \"Béta\"\nmisto CCC 3 \"Gama\"\n"
+                              "usek AAA CCC 87\nusek BBB CCC 600 602 650\ntrat a \"A\" AAA+BBB CCC\n");
+    const OsaKoridoru osa = osa_koridoru(k, k.trate.at(0));
+    EXPECT_EQ(osa.delka(), delka_koleje(87));
+    ASSERT_EQ(osa.prvky.size(), 4u);
+    for (const PrvekOsy& p : osa.prvky) {
+        EXPECT_LE(p.od, p.po) << p.prvek;
+        EXPECT_LE(p.po, osa.delka()) << p.prvek;
+    }
+}
+
 TEST_F(KoridoryInstalace, SectionThatAStopDividesIsOnePieceOfTheLine) {
     const Koridory& k = koridory();
     for (const Koridor& t : k.trate)
