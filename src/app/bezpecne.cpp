@@ -23,11 +23,11 @@ bool ukonci_chybou(const BehovaChyba& chyba) {
     if (!chyba.co.empty())
         text += " (" + chyba.co + ")";
     const NouzoveUlozeni nouzove = uloz_nouzove(); // before the box, which may stand there for long
-    const std::optional<Text> hlaseni = zapis_hlaseni(na_utf8(text), nouzove, Pad::receny);
+    const std::optional<Text> kam = zapis_hlaseni(na_utf8(text), nouzove, Pad::receny);
     gtn_zavri();
-    if (hlaseni)
-        text += Text("\r\n\r\nPodrobnosti jsou v souboru "_cz) + *hlaseni + ".";
-    if (hlaseni && nouzove == NouzoveUlozeni::ulozeno)
+    if (kam)
+        text += Text("\r\n\r\nPodrobnosti jsou v souboru "_cz) + *kam + ".";
+    if (kam && nouzove == NouzoveUlozeni::ulozeno)
         text += " Rozehraná simulace je uložena, příští spuštění ji nabídne."_cz;
     platforma.okno(kTitulChyby, text);
     if (nouzove == NouzoveUlozeni::selhalo)

@@ -38,37 +38,37 @@ Text soubor_logu() {
     return slozka_hlaseni(Pad::receny) + "program.log";
 }
 
-std::string dve(int cislo) {
+std::string dvojmistne(int cislo) {
     return (cislo < 10 ? "0" : "") + std::to_string(cislo);
 }
 
 // "2026-01-05 08:00:00"
 std::string ted_na_pocitaci() {
     const NastennyCas ted = platforma.nastenny_cas();
-    return std::to_string(ted.rok) + "-" + dve(ted.mesic) + "-" + dve(ted.den) + " " + dve(ted.hodina) + ":" +
-           dve(ted.minuta) + ":" + dve(ted.sekunda);
+    return std::to_string(ted.rok) + "-" + dvojmistne(ted.mesic) + "-" + dvojmistne(ted.den) + " " +
+           dvojmistne(ted.hodina) + ":" + dvojmistne(ted.minuta) + ":" + dvojmistne(ted.sekunda);
 }
 
-std::string u8(TextPohled text) {
+std::string v_utf8(TextPohled text) {
     return na_utf8(text);
 }
-std::string cas_u8(std::int32_t sekundy) {
+std::string cas_v_utf8(std::int32_t sekundy) {
     return na_utf8(text_casu(sekundy));
 }
 
 void pis_beh(std::string& text) {
-    text += "Program:          KPS RVZ TESK " + u8(text_verze()) + "\n";
+    text += "Program:          KPS RVZ TESK " + v_utf8(text_verze()) + "\n";
     text += "Na počítači je:   " + ted_na_pocitaci() + "\n";
-    text += "Složka:           " + u8(simulace.cesta_aplikace) + "\n";
-    text += "Obrazovka:        " + u8(simulace.obrazovka) + "\n";
-    text += "Čas simulace:     " + u8(text_hodin());
+    text += "Složka:           " + v_utf8(simulace.cesta_aplikace) + "\n";
+    text += "Obrazovka:        " + v_utf8(simulace.obrazovka) + "\n";
+    text += "Čas simulace:     " + v_utf8(text_hodin());
     if (std::has_single_bit(simulace.den))
-        text += ", " + u8(nazev_dne(std::countr_zero(simulace.den)));
+        text += ", " + v_utf8(nazev_dne(std::countr_zero(simulace.den)));
     text += ", odehráno minut " + std::to_string(simulace.minuty_simulace) + ", rychlost " +
             std::to_string(simulace.rychlost) + (simulace.pauza ? ", pauza" : "") + "\n";
-    text += "Jízdní řád:       " + u8(simulace.soubor_gvd) + "\n";
+    text += "Jízdní řád:       " + v_utf8(simulace.soubor_gvd) + "\n";
     if (relief.lblPrikaz.je(0))
-        text += "Příkazový řádek:  " + u8(relief.lblPrikaz[0].text()) + "\n";
+        text += "Příkazový řádek:  " + v_utf8(relief.lblPrikaz[0].text()) + "\n";
 }
 
 void pis_tiky(std::string& text) {
@@ -83,14 +83,14 @@ void pis_ukony(std::string& text) {
     const std::vector<Ukon>& ukony = ukony_smeny.ukony;
     text += "\nPoslední úkony obsluhy (čas simulace a řádek jazyka skriptů):\n";
     for (std::size_t i = ukony.size() - std::min(ukony.size(), kUkonu); i < ukony.size(); ++i)
-        text += cas_u8(ukony[i].cas) + "  " + radek_ukonu(ukony[i]) + "\n";
+        text += cas_v_utf8(ukony[i].cas) + "  " + radek_ukonu(ukony[i]) + "\n";
 }
 
 // docs/gtn.md tells the codes.
 void pis_denik(std::string& text) {
     text += "\nPoslední záznamy deníku (čas simulace, kód, prvek, hodnota):\n";
     for (const UdalostDeniku& u : gtn_posledni())
-        text += cas_u8(u.cas) + "  " + std::to_string(u.kod) + " " + std::to_string(u.prvek) + " " +
+        text += cas_v_utf8(u.cas) + "  " + std::to_string(u.kod) + " " + std::to_string(u.prvek) + " " +
                 std::to_string(u.hodnota) + "\n";
 }
 
@@ -111,7 +111,7 @@ void dokonci_zaznam_smeny() {
 std::string ulozeni_slovy(NouzoveUlozeni nouzove) {
     switch (nouzove) {
     case NouzoveUlozeni::neni_co: return "nic nebylo rozehráno";
-    case NouzoveUlozeni::ulozeno: return u8(posledni_nouzovy());
+    case NouzoveUlozeni::ulozeno: return v_utf8(posledni_nouzovy());
     case NouzoveUlozeni::selhalo: return "nepodařilo se uložit";
     }
     return {};
@@ -140,7 +140,7 @@ std::string text_hlaseni(std::string_view ulozeny_stav) {
     std::string text;
     pis_beh(text);
     text += "Nouzový záznam:   " + std::string(ulozeny_stav) + "\n";
-    text += "Záznam směny:     " + (soubor_smeny().empty() ? "není" : u8(soubor_smeny())) + "\n";
+    text += "Záznam směny:     " + (soubor_smeny().empty() ? "není" : v_utf8(soubor_smeny())) + "\n";
     pis_tiky(text);
     pis_ukony(text);
     pis_denik(text);

@@ -17,7 +17,7 @@ namespace {
 
 std::optional<Zaznam> zapamatovany;
 Zaznam zapamatovavany; // the one before: its room is taken again
-Text posledni;         // file that was written
+Text zapsany_naposled; // file that was written
 
 Text slozka_zaznamu() {
     return simulace.cesta_aplikace + "save\\";
@@ -41,7 +41,7 @@ bool zapis_zaznam(const Zaznam& zaznam) {
         return false;
     const Text soubor = novy_nouzovy();
     zapis_soubor(soubor, bajty);
-    posledni = soubor;
+    zapsany_naposled = soubor;
     return true;
 }
 
@@ -85,7 +85,7 @@ NouzoveUlozeni uloz_nouzove() noexcept {
 }
 
 const Text& posledni_nouzovy() {
-    return posledni;
+    return zapsany_naposled;
 }
 
 void nouzovy_zaznam(Bajty& bajty) {

@@ -36,7 +36,7 @@ struct Pripraveno {
 std::array<Pripraveno, 2> priprava; // one is made ready while the other one stands
 std::atomic<const Pripraveno*> pripraveno = nullptr;
 std::atomic<bool> hlida = false;
-std::atomic<bool> hotovo = false; // the report is written already
+std::atomic<bool> pad_zapsan = false; // the report is written already
 
 struct Kdy {
     std::int16_t minuta = -1;
@@ -89,7 +89,7 @@ bool zapis_pripraveny_zaznam(const Pripraveno& p) {
 // "Program ukončil signál SIGSEGV" in two parts.
 void zapis_pripravene(std::string_view co, std::string_view cim) {
     const Pripraveno* p = pripraveno;
-    if (!hlida || p == nullptr || hotovo.exchange(true))
+    if (!hlida || p == nullptr || pad_zapsan.exchange(true))
         return;
     for (const std::string& slozka : p->slozky)
         ::mkdir(slozka.c_str(), 0777);
@@ -134,7 +134,7 @@ std::string popis_vyjimky() {
 }
 
 [[noreturn]] void pri_nezachycene() {
-    if (hlida && !hotovo.exchange(true))
+    if (hlida && !pad_zapsan.exchange(true))
         zapis_hlaseni("Program ukončila nezachycená výjimka: " + popis_vyjimky(), uloz_nouzove(),
                       Pad::nereceny);
     std::abort();

@@ -425,16 +425,16 @@ bool nabidni_nouzovy() {
     if (!parametry.nactena || simulace.obrazovka != kObrazovkaStartu)
         return false;
     const std::optional<Text> cekajici = cekajici_nouzovy(), pad = vezmi_nereceny_pad();
-    const Text hlaseni = pad ? Text("\r\n\r\nHlášení o chybě: "_cz) + *pad : Text();
+    const Text o_hlaseni = pad ? Text("\r\n\r\nHlášení o chybě: "_cz) + *pad : Text();
     if (!cekajici) {
         if (pad)
-            platforma.okno(kTitul, Text("Program minule skončil chybou."_cz) + hlaseni);
+            platforma.okno(kTitul, Text("Program minule skončil chybou."_cz) + o_hlaseni);
         return false;
     }
     const bool ano = platforma.otazka(kTitul,
                                       Text("Minulá simulace skončila chybou a její stav byl nouzově uložen. "
                                            "Chcete v ní pokračovat?"_cz) +
-                                          hlaseni,
+                                          o_hlaseni,
                                       true);
     const Text soubor = odloz_nouzove(*cekajici); // one that cannot be loaded is not offered for ever
     if (!ano)

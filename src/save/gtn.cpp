@@ -108,7 +108,7 @@ struct Posledni {
 
     void pridej(const UdalostDeniku& u) { udalosti[pocet++ % udalosti.size()] = u; }
 };
-Posledni posledni;
+Posledni posledni_udalosti;
 
 Text pripona; // of the name of the file
 bool do_souboru = true;
@@ -126,7 +126,7 @@ void gtn_do_souboru(bool ano) {
 void gtn_otevri() {
     denik.zavri();
     pamet = {};
-    posledni = {};
+    posledni_udalosti = {};
     if (!do_souboru)
         return;
     const NastennyCas ted = platforma.nastenny_cas();
@@ -147,7 +147,7 @@ void gtn_otevri() {
 void gtn_zapis(int prvek, std::uint8_t kod, std::int32_t hodnota) {
     const UdalostDeniku zaznam{ted_s(), kod, na_integer(prvek), hodnota};
     pamet.pridej(zaznam);
-    posledni.pridej(zaznam);
+    posledni_udalosti.pridej(zaznam);
     Bajty& ceka = denik.cekajici.bajty;
     if (!denik.otevreny() || ceka.size() + kZaznam > kNejviceCeka)
         return;
@@ -202,7 +202,7 @@ Bajty odrizni_bajty(std::int64_t delka) {
 } // namespace
 
 KonecGtn gtn_odrizni(const MistoGtn& kde) {
-    posledni = {};
+    posledni_udalosti = {};
     return {odrizni_bajty(kde.delka), utrzeny_konec(pamet.pohyby, kde.pohybu),
             utrzeny_konec(pamet.prejezdy, kde.prejezdu)};
 }
@@ -224,9 +224,9 @@ std::span<const ZmenaPrejezdu> gtn_prejezdy() {
 }
 
 std::vector<UdalostDeniku> gtn_posledni() {
-    const std::size_t n = std::min(posledni.pocet, posledni.udalosti.size());
+    const std::size_t n = std::min(posledni_udalosti.pocet, posledni_udalosti.udalosti.size());
     std::vector<UdalostDeniku> udalosti;
-    for (std::size_t i = posledni.pocet - n; i < posledni.pocet; ++i)
-        udalosti.push_back(posledni.udalosti[i % posledni.udalosti.size()]);
+    for (std::size_t i = posledni_udalosti.pocet - n; i < posledni_udalosti.pocet; ++i)
+        udalosti.push_back(posledni_udalosti.udalosti[i % posledni_udalosti.udalosti.size()]);
     return udalosti;
 }

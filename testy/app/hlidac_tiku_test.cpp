@@ -8,13 +8,13 @@
 
 namespace {
 
-std::int64_t hodiny = 0, bude_trvat = 0;
+std::int64_t hodiny_hlidace = 0, bude_trvat = 0;
 
-void telo() {
-    hodiny += bude_trvat;
+void telo_tiku() {
+    hodiny_hlidace += bude_trvat;
 }
-void telo_s_oknem() {
-    telo();
+void tik_s_oknem() {
+    telo_tiku();
     ukonci_okno(zacni_okno());
 }
 
@@ -22,7 +22,7 @@ class HlidaniTiku : public SPlatformou {
 protected:
     void SetUp() override {
         pis_hlaseni_chyb(true);
-        hlidej_tiky([] { return hodiny; });
+        hlidej_tiky([] { return hodiny_hlidace; });
     }
     void TearDown() override {
         hlidej_tiky({});
@@ -32,7 +32,7 @@ protected:
         const Bajty bajty = svet.precti("hlaseni/program.log");
         return std::string(bajty.begin(), bajty.end());
     }
-    static void tik(std::int64_t ms, void (*co)() = telo) {
+    static void tik(std::int64_t ms, void (*co)() = telo_tiku) {
         bude_trvat = ms;
         proved_tik("jizdy", co);
     }
@@ -53,7 +53,7 @@ TEST_F(HlidaniTiku, TickOverTheLimitIsCountedAndTold) {
 }
 
 TEST_F(HlidaniTiku, TickThatWaitedForTheOperatorIsNotLong) {
-    tik(60'000, telo_s_oknem);
+    tik(60'000, tik_s_oknem);
     EXPECT_EQ(hlidac_tiku.tiku, 0);
     tik(1); // and the next one is watched again
     EXPECT_EQ(hlidac_tiku.tiku, 1);
