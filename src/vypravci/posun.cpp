@@ -1048,7 +1048,7 @@ void ved_pretah(int v) {
     }
     if (vpravo == 0)
         return;
-    if (uzel::je_kolej_hlavniho(e)) {
+    if (uzel::je_kolej_hlavniho(e) && hodi_se_nastupiste(t, e)) { // else it only turns there
         povel_vlaku(e, v, "miPosun");
         zrus_slib(v);
         return;
