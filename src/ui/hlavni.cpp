@@ -19,6 +19,7 @@
 #include "ui/okno_smeny.h"
 #include "ui/parametry.h"
 #include "ui/platforma_qt.h"
+#include "ui/pohled.h"
 #include "ui/prirucka.h"
 #include "ui/signaly.h"
 #include "ui/uvod.h"
@@ -254,10 +255,12 @@ int main(int pocet, char** slova) {
     QApplication::setApplicationName(QStringLiteral("KPS RVZ TESK"));
     QApplication::setQuitOnLastWindowClosed(false);
     nastav_jazyk(aplikace);
-    nastav_vzhled(aplikace);
     zapni_f1(aplikace);
     nova_simulace();
     zapln_platformu();
+    nastav_paletu(ulozena_paleta());
+    nastav_meritko_oken(meritko_obrazovky());
+    nastav_vzhled();
     platforma.nech_bezet_ui = nech_bezet_ui;
     zapni_zvuk();
     hlidej_signaly(&aplikace);

@@ -26,6 +26,7 @@
 #include "ui/vzhled.h"
 #include "zaklad/cisla.h"
 
+#include <QActionGroup>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QCursor>
@@ -61,8 +62,9 @@ constexpr QRgb kBarvaUkazani = 0xFFFFB030;
 constexpr int kPosunLupy = 80; // of what is enlarged by one step, pixels of the desk
 
 constexpr const char* kVzhledSeznamu =
-    "QListWidget { background: #000; color: #dcdcdc; border: 1px solid #3c4550; outline: 0; }"
-    "QListWidget::item:selected { background: #000080; color: #fff; }"
+    "QListWidget { background: @pole; color: @text; border: 1px solid @cara; outline: 0; }"
+    "QListWidget:focus { border-color: @nadpis; }"
+    "QListWidget::item:selected { background: @vyber; color: @text_vyberu; }"
     "QScrollBar:vertical { background: #15191e; width: 14px; margin: 0; }"
     "QScrollBar::handle:vertical { background: #505b68; min-height: 20px; }"
     "QScrollBar:horizontal { background: #15191e; height: 14px; margin: 0; }"
@@ -216,6 +218,7 @@ bool je_nenatreny() {
 HlavniOkno::HlavniOkno() {
     jedine = this;
     setWindowTitle(QStringLiteral("KPS RVZ TESK"));
+    setAccessibleName(QStringLiteral("Stůl výpravčího"));
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
     setMouseTracking(true);
@@ -223,6 +226,7 @@ HlavniOkno::HlavniOkno() {
     resize(sirka_stolu() / kTwipu, kVyskaStolu / kTwipu);
 
     pole = new QLineEdit(this);
+    pole->setAccessibleName(QStringLiteral("Příkazový řádek"));
     pole->hide();
     pole->setFrame(false);
     pole->setContextMenuPolicy(Qt::NoContextMenu);
@@ -238,6 +242,8 @@ HlavniOkno::HlavniOkno() {
     seznamy[1].zdroj = &Relief::lstDenik;
     for (ZobrazenySeznam& s : seznamy) {
         s.okno = new QListWidget(this);
+        s.okno->setAccessibleName(s.zdroj == &Relief::lstZpravy ? QStringLiteral("Zprávy")
+                                                                : QStringLiteral("Deník"));
         s.okno->hide();
         s.okno->setUniformItemSizes(true);
         s.okno->installEventFilter(this);
@@ -579,6 +585,20 @@ void HlavniOkno::otevri_nabidku_pohledu() {
         nastav_radu_vystrah(ano);
         obnov_vystrahy(true);
     });
+    m->addSeparator();
+    auto* palety = new QActionGroup(m);
+    for (std::size_t i = 0; i < kPalet; ++i) {
+        const auto ktera = static_cast<Paleta>(i);
+        QAction* barvy = m->addAction(jmeno_palety(ktera));
+        barvy->setCheckable(true);
+        barvy->setChecked(ktera == paleta());
+        palety->addAction(barvy);
+        connect(barvy, &QAction::triggered, this, [this, ktera] {
+            zvol_paletu(ktera);
+            umisti();
+            prekresli();
+        });
+    }
     const QPoint roh = mapToGlobal(v_okne(misto_rady()).topLeft());
     m->popup(roh - QPoint(0, m->sizeHint().height()));
     vyber_prvni(*m);

@@ -63,6 +63,7 @@ StrankaHodnoceni::StrankaHodnoceni(QWidget* rodic) : QWidget(rodic, Qt::Window),
     setAttribute(Qt::WA_DeleteOnClose);
     text = new QTextBrowser;
     text->setOpenLinks(false);
+    text->setAccessibleName(QStringLiteral("Hodnocení služby"));
     stav = new QLabel;
     stav->setWordWrap(true);
     auto* znovu = new QPushButton(QStringLiteral("&Obnovit [F5]"));

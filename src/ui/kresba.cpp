@@ -191,6 +191,23 @@ void nakresli_ohyb(QPainter& p, QPointF kde, int tl, const QColor& barva) {
     p.setRenderHint(QPainter::Antialiasing, false);
 }
 
+// How a line is broken: drawn for `cara`, left out for `mezera`, device pixels; whole without a gap.
+struct VzorCary {
+    int cara = 0, mezera = 0;
+};
+// For an eye that does not tell the colours, a track that is locked for shunting is dashed, one whose route
+// is being set is dotted.
+VzorCary vzor_stavu(const Meritko& m, Barva stav) {
+    if (paleta() != Paleta::bez_barev || (stav != barvy::bila && stav != barvy::azurova))
+        return {};
+    return stav == barvy::bila ? VzorCary{m.bodu(9), m.bodu(4)} : VzorCary{m.bodu(3), m.bodu(3)};
+}
+// And an occupied one is thick.
+int tloustka_stavu(const Meritko& m, Barva stav) {
+    const bool silna = paleta() == Paleta::bez_barev && stav == barvy::cervena;
+    return tloustka(m, silna ? kTloustkaKoleje + 2 : kTloustkaKoleje);
+}
+
 void nakresli_sikmou(QPainter& p, const Meritko& m, const Prvek& c, const QColor& barva, int tl) {
     const auto konec = [&](int x, int y) {
         return QPointF(m.x0 + x * m.k, je_na_ose(y) ? osa(y, m.y0, m.k, tl) : m.y0 + y * m.k);
@@ -209,13 +226,16 @@ void nakresli_sikmou(QPainter& p, const Meritko& m, const Prvek& c, const QColor
 }
 
 void nakresli_caru(QPainter& p, const Meritko& m, const Prvek& c, const QColor& barva, int tl, int mezera,
-                   const OkoliCary& okoli) {
+                   const OkoliCary& okoli, VzorCary vzor = {}) {
     if (c.y1 == c.y2) {
         const bool zleva = c.x1 <= c.x2;
         const int a = m.x(zleva ? c.x1 : c.x2) + ((zleva ? okoli.dal_od : okoli.dal_po) ? 0 : mezera);
         const int b = m.x(zleva ? c.x2 : c.x1) - ((zleva ? okoli.dal_po : okoli.dal_od) ? 0 : mezera);
         const int y = static_cast<int>(osa(c.y1, m.y0, m.k, tl) - tl / 2.0);
-        vypln(p, QRect(a, y, std::max(1, b - a), tl), barva, okoli.texty);
+        if (vzor.mezera == 0)
+            vypln(p, QRect(a, y, std::max(1, b - a), tl), barva, okoli.texty);
+        for (int x = a; vzor.mezera > 0 && x < b; x += vzor.cara + vzor.mezera)
+            vypln(p, QRect(x, y, std::min(vzor.cara, b - x), tl), barva, okoli.texty);
     } else if (c.x1 == c.x2) {
         const int x = static_cast<int>(osa(c.x1, m.x0, m.k, tl) - tl / 2.0);
         const int a = m.y(std::min<int>(c.y1, c.y2)), b = m.y(std::max<int>(c.y1, c.y2));
@@ -281,7 +301,7 @@ int nasobek(const Styl& s, const Prvek& prvek) { // station names grow with thei
     return s.druh == Druh::popis_stanice ? std::clamp(prvek.vyska / kVyskaZnaku, 1, 3) : 1;
 }
 
-// How far the light of two colours stands apart: 1 for the same, 21 for black and white.
+// Of two colours of the core, roughly: whether letters on a ground need a shadow.
 double kontrast(Barva a, Barva b) {
     const auto jas = [](Barva barva) {
         const QColor c = barva_qt(barva);
@@ -326,25 +346,49 @@ QRect ramec_textu(const Meritko& m, const Styl& s, const Prvek& prvek) {
     return plocha;
 }
 
+// What a signal says, for an eye that does not tell its colours: a train may go with a bar above the sign, a
+// shunting movement with one below, and a blocked signal is struck through.
+void oznac_navest(QPainter& p, const Meritko& m, const MistoRadku& r, Barva barva) {
+    const int tl = m.bodu(2);
+    const QRect bunka(qRound(r.x), qRound(r.y), qRound(r.sirka), qRound(r.vyska));
+    if (barva == barvy::zelena) {
+        p.fillRect(bunka.x(), bunka.y(), bunka.width(), tl, barva_qt(barva));
+    } else if (barva == barvy::bila) {
+        p.fillRect(bunka.x(), bunka.bottom() - tl + 1, bunka.width(), tl, barva_qt(barva));
+    } else if (barva == barvy::cervena || barva == barvy::modra) {
+        p.setRenderHint(QPainter::Antialiasing);
+        p.setPen(QPen(Qt::white, m.bodu(1)));
+        p.drawLine(QPointF(bunka.left(), bunka.bottom()), QPointF(bunka.right(), bunka.top()));
+        p.setRenderHint(QPainter::Antialiasing, false);
+    }
+}
+
 void nakresli_napis(QPainter& p, const Meritko& m, const Styl& s, const Prvek& prvek) {
     const MistoRadku r = misto_radku(m, s, prvek);
     if (prvek.ramecek && !s.kryje)
-        p.fillRect(ramec_textu(m, s, prvek), barva_qt(prvek.pozadi));
+        p.fillRect(ramec_textu(m, s, prvek), podklad_qt(prvek.pozadi));
     // black on the dark bar: a light ground makes it readable
     if (!s.kryje && !prvek.ramecek && prvek.barva == barvy::cerna)
         p.fillRect(ramec_textu(m, s, prvek), barva_qt(barvy::seda));
     // The colours are given; where they are too near to each other, a shadow parts the letters from the
     // ground. The number of a track on the ground of its note is white: grey drowns in it even so.
     Barva pismo = prvek.barva;
-    if (prvek.ramecek && prvek.barva != prvek.pozadi &&
-        kontrast(prvek.barva, prvek.pozadi) < kNejmensiKontrast) {
+    if (paleta() != Paleta::obvykla) {
+        if (prvek.ramecek && prvek.barva != prvek.pozadi)
+            pismo = barva_pisma(prvek.barva, prvek.pozadi);
+    } else if (prvek.ramecek && prvek.barva != prvek.pozadi &&
+               kontrast(prvek.barva, prvek.pozadi) < kNejmensiKontrast) {
         if (s.druh == Druh::cislo_koleje && kontrast(barvy::bila, prvek.pozadi) >= kNejmensiKontrast)
             pismo = barvy::bila;
         else
             kresli_radek(p, r.x + m.bodu(1), r.y + m.bodu(1), r.sirka, r.vyska, prvek.text(), barvy::cerna,
                          s.znaky);
     }
-    kresli_radek(p, r.x, r.y, r.sirka, r.vyska, prvek.text(), pismo, s.znaky);
+    const bool jmeno = s.druh == Druh::popis_stanice && !prvek.ramecek;
+    kresli_radek(p, r.x, r.y, r.sirka, r.vyska, prvek.text(), jmeno ? barva_jmena(pismo) : barva_qt(pismo),
+                 s.znaky);
+    if (paleta() == Paleta::bez_barev && (s.druh == Druh::navestidlo || s.druh == Druh::navestidlo_ser))
+        oznac_navest(p, m, r, prvek.barva);
 }
 
 // Lines of a text: at character 13, and with `sirka` columns at the blank before the line would be full.
@@ -373,13 +417,14 @@ std::size_t sloupcu_odstavce(const Prvek& prvek, bool zalamovat) {
 
 void nakresli_odstavec(QPainter& p, const Meritko& m, const Prvek& prvek, bool zalamovat) {
     if (prvek.ramecek)
-        p.fillRect(v_bodech(m, prvek), barva_qt(prvek.pozadi));
+        p.fillRect(v_bodech(m, prvek), podklad_qt(prvek.pozadi));
+    const Barva pismo = prvek.ramecek ? barva_pisma(prvek.barva, prvek.pozadi) : prvek.barva();
     const double sirka = kSirkaBunky * m.bod(), vyska = kVyskaBunky * m.bod();
     const std::size_t sloupcu = sloupcu_odstavce(prvek, zalamovat);
     double y = m.y(prvek.nahore);
     for (const TextPohled radek : radky_textu(prvek.text(), sloupcu)) {
         const double x = zacatek_radku(m, prvek, sirka * static_cast<double>(radek.size()));
-        kresli_radek(p, x, y, sirka, vyska, radek, prvek.barva, Znaky::pismena);
+        kresli_radek(p, x, y, sirka, vyska, radek, pismo, Znaky::pismena);
         y += vyska;
     }
 }
@@ -414,7 +459,7 @@ void nakresli_nastupiste(QPainter& p, const Meritko& m, const Prvek& prvek, cons
         return;
     const QRect plocha = v_bodech(m, prvek);
     vypln(p, QRect(plocha.x(), m.y(prvek.nahore + kOdshora * kTwipu), plocha.width(), m.bodu(kTloustkaHrany)),
-          barva_qt(prvek.barva), okoli.texty);
+          barva_nastupiste(prvek.barva), okoli.texty);
 }
 
 // --- pictures
@@ -727,7 +772,7 @@ QRect misto_textu(const Meritko& m, Druh druh, const Prvek& prvek) {
 
 void nakresli_pozadi_textu(QPainter& p, const Meritko& m, Druh druh, const Prvek& prvek) {
     if (styl(druh).kryje && prvek.viditelny && prvek.ramecek)
-        p.fillRect(ramec_textu(m, styl(druh), prvek), barva_qt(prvek.pozadi));
+        p.fillRect(ramec_textu(m, styl(druh), prvek), podklad_qt(prvek.pozadi));
 }
 
 void nakresli_prvek(QPainter& p, const Meritko& m, Druh druh, int n, const Prvek& prvek,
@@ -738,7 +783,8 @@ void nakresli_prvek(QPainter& p, const Meritko& m, Druh druh, int n, const Prvek
     switch (s.zpusob) {
     case Zpusob::nic: return;
     case Zpusob::kolej:
-        nakresli_caru(p, m, prvek, barva_qt(prvek.barva), tloustka(m), m.bodu(kMezeraUseku), okoli);
+        nakresli_caru(p, m, prvek, barva_qt(prvek.barva), tloustka_stavu(m, prvek.barva),
+                      m.bodu(kMezeraUseku), okoli, vzor_stavu(m, prvek.barva));
         return;
     case Zpusob::most: nakresli_most(p, m, prvek, okoli); return;
     case Zpusob::napis: nakresli_napis(p, m, s, prvek); return;
@@ -750,7 +796,7 @@ void nakresli_prvek(QPainter& p, const Meritko& m, Druh druh, int n, const Prvek
         return;
     case Zpusob::cil: nakresli_cil(p, m, prvek, okoli); return;
     case Zpusob::lampa: nakresli_lampu(p, m, n, prvek); return;
-    case Zpusob::znacka: p.fillRect(v_bodech(m, prvek), barva_qt(prvek.barva)); return;
+    case Zpusob::znacka: p.fillRect(v_bodech(m, prvek), podklad_qt(prvek.barva)); return;
     case Zpusob::stanoviste: nakresli_stanoviste(p, m, prvek); return;
     case Zpusob::ikona: nakresli_ikonu(p, m, druh, prvek); return;
     case Zpusob::tlacitko: nakresli_tlacitko(p, m, s, prvek); return;
@@ -774,7 +820,7 @@ void nakresli_podklad(QPainter& p, const Meritko& m, const QRect& plocha) {
     const int tl = m.bodu(1);
     const auto pas = [&](int od, int po) {
         const int a = m.y(od * kTwipu), b = m.y(po * kTwipu);
-        p.fillRect(QRect(plocha.x(), a, plocha.width(), b - a) & plocha, odstin(kTmavaPlocha));
+        p.fillRect(QRect(plocha.x(), a, plocha.width(), b - a) & plocha, plocha_qt(kTmavaPlocha));
     };
     const auto linka = [&](int kde) {
         p.fillRect(QRect(plocha.x(), m.y(kde * kTwipu), plocha.width(), tl) & plocha, odstin(kLinka));
@@ -832,8 +878,9 @@ void nakresli_vyhybku(QPainter& p, const Meritko& m, int x, int y, int stav, con
     const TvarVyhybky& tvar = tvar_vyhybky(stav);
     const QColor seda = barva_qt(barvy::seda);
     const auto trida = static_cast<std::size_t>(std::max(0, stav) / 50);
-    const QColor barva = barva_qt(kBarvyTrid[std::min(trida, kBarvyTrid.size() - 1)]);
-    const int tl = tloustka(m);
+    const Barva stav_cesty = kBarvyTrid[std::min(trida, kBarvyTrid.size() - 1)];
+    const QColor barva = barva_qt(stav_cesty);
+    const int tl = tloustka_stavu(m, stav_cesty);
     const QPointF stred = bod_portu(m, x, y, Port::zadny, tl);
     const auto noha = [&](Port port, double od, const QColor& cim) {
         nakresli_rameno(p, stred, bod_portu(m, x, y, port, tl), od, cim, tl, okoli);

@@ -17,14 +17,14 @@
 namespace {
 
 constexpr const char* kVzhledNabidky =
-    "QMenu { background: #c8ccd0; color: #000; border: 1px solid #fff; padding: 1px; }"
+    "QMenu { background: @nabidka; color: @text; border: 1px solid @cara; padding: 1px; }"
     "QMenu::item { padding: 2px 22px 2px 14px; min-width: 70px; }"
-    "QMenu::item:selected { background: #000080; color: #fff; }"
-    "QMenu::item:disabled { color: #7c838b; background: transparent; }"
-    "QMenu::separator { height: 1px; background: #8a9098; margin: 2px 4px; }"
+    "QMenu::item:selected { background: @vyber; color: @text_vyberu; }"
+    "QMenu::item:disabled { color: @nelze; background: transparent; }"
+    "QMenu::separator { height: 1px; background: @cara; margin: 2px 4px; }"
     "QMenu::right-arrow { width: 0; height: 0; }"; // an arrow of the style would not grow with the desk
-constexpr const char* kVzhledHlavy = "background: #000080; color: #fff; padding: 2px 14px;";
-constexpr const char* kVzhledUdaje = "background: #dfe2e5; color: #20262c; padding: 1px 14px;";
+constexpr const char* kVzhledHlavy = "background: @vyber; color: @text_vyberu; padding: 2px 14px;";
+constexpr const char* kVzhledUdaje = "background: @udaj; color: @text; padding: 1px 14px;";
 
 // The tip of an entry stands beside its menu: below the pointer it would cover the next entry.
 class SeSousednimiTipy : public QMenu {

@@ -40,6 +40,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <iterator>
+#include <set>
 
 namespace {
 
@@ -54,7 +56,7 @@ constexpr int kTahBodu = 4;                               // a press that moves 
 constexpr double kOkoliBodu = 7;                          // of a line that is picked
 constexpr double kSirkaStrany = 1123, kVyskaStrany = 794; // A4 across, 96 points to the inch
 
-constexpr const char* kVzhled = "QWidget#nakres { background: #12161b; }"
+constexpr const char* kVzhled = "QWidget#nakres { background: @plocha; }"
                                 "QComboBox { padding: 3px 8px; }"
                                 "QPushButton { padding: 4px 9px; }";
 
@@ -99,6 +101,7 @@ public:
     void posun_cas(double dil);
     void posun_drahu(double dil);
     void vyber(std::int32_t cislo, bool na_stul);
+    void vyber_dalsi(bool dalsi);
     void prekresli();
 
 protected:
@@ -252,9 +255,10 @@ OknoNakresu::OknoNakresu(QWidget* rodic)
     : VedlejsiOkno(rodic, QStringLiteral("KPS RVZ TESK: nákresný jízdní řád"), kapitoly::nakres) {
     setObjectName(QStringLiteral("nakres"));
     predavej_enter();
-    setStyleSheet(QString::fromUtf8(kVzhled));
+    setStyleSheet(zvetseny_styl(kVzhled, 1));
 
     trate = new QComboBox;
+    trate->setAccessibleName(QStringLiteral("Trať"));
     trate->setToolTip(QStringLiteral("Trať na ose (Page Up, Page Down)"));
     s_planem = new QCheckBox(QStringLiteral("&jízdní řád"));
     s_jizdami = new QCheckBox(QStringLiteral("&skutečnost"));
@@ -279,6 +283,7 @@ OknoNakresu::OknoNakresu(QWidget* rodic)
          std::initializer_list<QWidget*>{s_planem, s_jizdami, nyni, den, hodnoceni, ulozit, tisk, zavrit})
         lista->addWidget(w);
     platno = new PlatnoNakresu(this);
+    platno->setAccessibleName(QStringLiteral("Nákresný jízdní řád"));
     auto* cele = new QVBoxLayout(this);
     cele->setContentsMargins(8, 6, 8, 8);
     cele->addLayout(lista);
@@ -430,6 +435,22 @@ void OknoNakresu::vyber(std::int32_t cislo, bool na_stul) {
     }
 }
 
+// The next train in sight by its number, or the one before it; round and round.
+void OknoNakresu::vyber_dalsi(bool dalsi) {
+    std::set<std::int32_t> vlaky;
+    for (const TvarNakresu& t : nakresleny.tvary)
+        if (t.cislo > 0)
+            vlaky.insert(t.cislo);
+    if (vlaky.empty())
+        return;
+    auto kde = dalsi ? vlaky.upper_bound(co.vybrany) : vlaky.lower_bound(co.vybrany);
+    if (dalsi && kde == vlaky.end())
+        kde = vlaky.begin();
+    else if (!dalsi)
+        kde = std::prev(kde == vlaky.begin() ? vlaky.end() : kde);
+    vyber(*kde, false);
+}
+
 bool OknoNakresu::spocitej(bool vse) {
     return v_jadre([&] {
         const std::int32_t ted = ted_s();
@@ -575,6 +596,14 @@ bool OknoNakresu::stisk(QKeyEvent& udalost) {
     case Qt::Key_Equal: lupa(kKrokLupy); break;
     case Qt::Key_Minus: lupa(1 / kKrokLupy); break;
     case Qt::Key_Home: na_ted(); break;
+    case Qt::Key_Period: vyber_dalsi(true); break;
+    case Qt::Key_Comma: vyber_dalsi(false); break;
+    case Qt::Key_Return:
+    case Qt::Key_Enter: // alone it answers the desk's messages
+        if (!ctrl)
+            return false;
+        vyber(co.vybrany, true);
+        break;
     case Qt::Key_D: cely_den(); break;
     case Qt::Key_H: ukaz_hodnoceni(stul()); break;
     case Qt::Key_PageUp: trate->setCurrentIndex(std::max(0, trate->currentIndex() - 1)); break;

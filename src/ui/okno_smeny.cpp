@@ -110,6 +110,7 @@ OknoSmeny::OknoSmeny(HlavniOkno& stul_) : QFrame(&stul_, Qt::Tool), stul(stul_) 
     hraj = new QPushButton;
     connect(hraj, &QPushButton::clicked, this, [this] { prepni(); });
     rychlost = new QComboBox;
+    rychlost->setAccessibleName(QStringLiteral("Rychlost přehrávání"));
     for (const int krat : kRychlosti)
         rychlost->addItem(QStringLiteral("%1×").arg(krat), krat);
     connect(rychlost, &QComboBox::currentIndexChanged, this, [this] { nastav_rychlost(); });

@@ -6,6 +6,7 @@
 #include "obsluha/vstup.h"
 #include "ui/brana.h"
 #include "ui/kresba.h"
+#include "ui/paleta.h"
 #include "ui/pismo.h"
 #include "ui/pohled.h"
 #include "ui/uvod.h"
@@ -33,51 +34,50 @@
 
 namespace {
 
-constexpr QColor kAzur(0, 229, 229), kPismo(213, 219, 225), kTlumene(138, 148, 158), kCara(52, 61, 71);
-
 // Lengths are of the screen's own measure and are scaled with it.
 constexpr const char* kVzhled =
-    "OknoParametru, QWidget#plocha { background: #12161b; }"
-    "QWidget { color: #d5dbe1; font-size: 13px; }"
+    "OknoParametru, QWidget#plocha { background: @plocha; }"
+    "QWidget { color: @text; font-size: 13px; }"
     "QWidget#hlava { background: #000; }"
-    "QLabel#tlumeny { color: #8a949e; }"
-    "QGroupBox { border: 1px solid #343d47; border-radius: 3px; margin-top: 9px; padding: 14px 10px 8px "
+    "QLabel#tlumeny { color: @tlumeny; }"
+    "QGroupBox { border: 1px solid @cara; border-radius: 3px; margin-top: 9px; padding: 14px 10px 8px "
     "10px; }"
-    "QGroupBox::title { subcontrol-origin: margin; left: 9px; padding: 0 5px; color: #00e5e5; }"
-    "QLineEdit, QComboBox, QPlainTextEdit { background: #05070a; border: 1px solid #4a5560;"
-    " border-radius: 2px; color: #fff; selection-background-color: #2050c0; selection-color: #fff; }"
+    "QGroupBox::title { subcontrol-origin: margin; left: 9px; padding: 0 5px; color: @nadpis; }"
+    "QLineEdit, QComboBox, QPlainTextEdit { background: @pole; border: 1px solid @cara;"
+    " border-radius: 2px; color: @text_vyberu; selection-background-color: @vyber; selection-color: "
+    "@text_vyberu; }"
     "QLineEdit, QComboBox { padding: 4px 6px; }"
-    "QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus { border-color: #00e5e5; }"
+    "QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus { border-color: @nadpis; }"
     "QLineEdit#cas { font-size: 26px; padding: 3px 4px; }"
     "QLabel#cas { font-size: 26px; }"
     "QComboBox::drop-down { border: none; width: 22px; }"
     "QComboBox::down-arrow { width: 0; height: 0; }"
-    "QComboBox QAbstractItemView { background: #05070a; color: #fff; border: 1px solid #4a5560;"
-    " selection-background-color: #000080; outline: 0; }"
-    "QPushButton { background: #232a32; border: 1px solid #4a5560; border-radius: 2px; padding: 5px 11px; }"
-    "QPushButton:hover { background: #2d3640; }"
-    "QPushButton:focus { border-color: #00e5e5; }"
+    "QComboBox QAbstractItemView { background: @pole; color: @text_vyberu; border: 1px solid @cara;"
+    " selection-background-color: @vyber; outline: 0; }"
+    "QPushButton { background: @tlacitko; border: 1px solid @cara; border-radius: 2px; padding: 5px 11px; }"
+    "QPushButton:hover { background: @udaj; }"
+    "QPushButton:focus { border-color: @nadpis; }"
     "QPushButton:pressed { background: #0b3f40; }"
-    "QPushButton#rad { background: #05070a; color: #fff; text-align: left; padding: 6px 8px; }"
+    "QPushButton#rad { background: @pole; color: @text_vyberu; text-align: left; padding: 6px 8px; }"
     "QPushButton#stranka { background: transparent; border: 1px solid transparent; padding: 4px 8px;"
     " text-align: left; }"
     "QPushButton#stranka:hover { background: #1d242b; }"
-    "QPushButton#stranka:focus { border-color: #00e5e5; }"
-    "QPushButton#stranka:checked { background: #0b2f30; border-color: #0e6b6c; color: #fff; }"
-    "QPushButton#start { background: #0a6b1f; border-color: #14a035; color: #fff; padding: 9px 26px; }"
-    "QPushButton#start:hover { background: #0d8a29; }"
-    "QPushButton#start:focus { border-color: #fff; }"
+    "QPushButton#stranka:focus { border-color: @nadpis; }"
+    "QPushButton#stranka:checked { background: #0b2f30; border-color: #0e6b6c; color: @text_vyberu; }"
+    "QPushButton#start { background: @start; border-color: #14a035; color: @text_vyberu; padding: 9px 26px; }"
+    "QPushButton#start:hover { background: #0b7a24; }"
+    "QPushButton#start:focus { border-color: @text_vyberu; }"
     "QCheckBox { spacing: 8px; padding: 3px 2px; }"
-    "QCheckBox::indicator { width: 13px; height: 13px; border: 1px solid #6b7782; border-radius: 2px;"
-    " background: #05070a; }"
-    "QCheckBox::indicator:checked { background: #19e64b; border: 3px solid #05070a; }"
-    "QCheckBox::indicator:checked:focus, QCheckBox::indicator:focus { border-color: #00e5e5; }"
-    "QCheckBox:focus { color: #00e5e5; }"
-    "QCheckBox:disabled { color: #5d6771; }"
-    "QCheckBox::indicator:disabled { border-color: #3a444e; background: #12161b; }"
-    "QMenu { background: #1a2027; border: 1px solid #4a5560; padding: 2px; }"
-    "QMenu::item { padding: 5px 22px 5px 12px; color: #fff; }"
-    "QMenu::item:selected { background: #000080; }"
+    "QCheckBox::indicator { width: 13px; height: 13px; border: 1px solid @cara; border-radius: 2px;"
+    " background: @pole; }"
+    "QCheckBox::indicator:checked { background: #19e64b; border: 3px solid @pole; }"
+    "QCheckBox::indicator:checked:focus, QCheckBox::indicator:focus { border-color: @nadpis; }"
+    "QCheckBox:focus { color: @nadpis; }"
+    "QCheckBox:disabled { color: @nelze; }"
+    "QCheckBox::indicator:disabled { border-color: @cara; background: @plocha; }"
+    "QMenu { background: @nabidka; border: 1px solid @cara; padding: 2px; }"
+    "QMenu::item { padding: 5px 22px 5px 12px; color: @text_vyberu; }"
+    "QMenu::item:selected { background: @vyber; }"
     "QScrollBar:vertical { background: #0b0e12; width: 12px; margin: 0; }"
     "QScrollBar::handle:vertical { background: #3c4753; min-height: 20px; border-radius: 2px; }"
     "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }";
@@ -165,7 +165,8 @@ protected:
         radek(24, 18, 2.5, "KPS RVZ TESK", barvy::bila);
         radek(25, 60, 1, "verze "_cz, barvy::seda);
         radek(25 + 6 * kSirkaBunky, 60, 1, text_verze(), barvy::seda);
-        p.fillRect(0, vyska - std::max(1, qRound(k)), sirka, std::max(1, qRound(k)), kCara);
+        p.fillRect(0, vyska - std::max(1, qRound(k)), sirka, std::max(1, qRound(k)),
+                   barva_okna(BarvaOkna::cara));
     }
 
 private:
@@ -176,7 +177,7 @@ private:
 void nakresli_sipku(QPainter& p, const QRect& kde, double krat) {
     p.setRenderHint(QPainter::Antialiasing);
     p.setPen(Qt::NoPen);
-    p.setBrush(kTlumene);
+    p.setBrush(barva_okna(BarvaOkna::tlumeny));
     const QPointF stred(kde.right() - 12 * krat, kde.center().y() + 0.5);
     p.drawPolygon(QPolygonF{stred + QPointF(-4, -2) * krat, stred + QPointF(4, -2) * krat,
                             stred + QPointF(0, 3) * krat});
@@ -406,7 +407,17 @@ QWidget* OknoParametru::stranka_moznosti() {
         rozpoznej_monitory(); // which drawing a wide screen takes
     });
     chkVystrahy = policko(QStringLiteral("Řádek &výstrah na stole"), nastav_radu_vystrah);
-    chkAutosave = policko(QStringLiteral("Ukládat &samočinně po"),
+    cboPaleta = new VyberZeSeznamu(meritko);
+    for (std::size_t i = 0; i < kPalet; ++i)
+        cboPaleta->addItem(jmeno_palety(static_cast<Paleta>(i)));
+    cboPaleta->setCurrentIndex(static_cast<int>(paleta()));
+    auto* popis_palety = new QLabel(QStringLiteral("&Barvy"));
+    popis_palety->setBuddy(cboPaleta);
+    connect(cboPaleta, &QComboBox::currentIndexChanged, this, [this](int i) {
+        zvol_paletu(static_cast<Paleta>(i));
+        setStyleSheet(zvetseny_styl(kVzhled, meritko));
+    });
+    chkAutosave = policko(QStringLiteral("Uk&ládat samočinně po"),
                           [](bool z) { zaskrtni(&Parametry::chkAutosave, z); });
     chkVypravci = policko(QStringLiteral("&Ukázkový provoz (automatický výpravčí)"),
                           [](bool z) { zaskrtni(&Parametry::chkVypravci, z); });
@@ -431,6 +442,11 @@ QWidget* OknoParametru::stranka_moznosti() {
     vedle->addLayout(pravy);
     pravy->addWidget(chkVypravci);
     pravy->addWidget(chkVystrahy);
+    auto* barvy = new QHBoxLayout;
+    barvy->setSpacing(px(8));
+    barvy->addWidget(popis_palety);
+    barvy->addWidget(cboPaleta, 1);
+    pravy->addLayout(barvy);
     pravy->addStretch();
     pravy->addWidget(smena, 0, Qt::AlignRight);
     sloupec->setSpacing(px(7));
@@ -465,7 +481,7 @@ QWidget* OknoParametru::stranka_o_aplikaci() {
     auto* skupina = new QGroupBox(na_qstring(kStrankyStartu[2]));
     auto* text = new QLabel(
         QStringLiteral(
-            "<p style='color:#fff'>%1</p>"
+            "<p><b>%1</b></p>"
             "<p>Simulátor pracoviště dispečera, který z jednoho stolu řídí provoz v uzlu Tesk: hlavní "
             "nádraží, sousední stanice a tratě mezi nimi.</p>"
             "<p>Vlaky jedou podle týdenního jízdního řádu, ale jen po cestách, které jim postavíte. "
@@ -509,7 +525,8 @@ QWidget* OknoParametru::pata() {
         imgStranka[i] = tlacitko(text, [this, stranka] { vyber_stranku(stranka); });
         imgStranka[i]->setObjectName(QStringLiteral("stranka"));
         imgStranka[i]->setCheckable(true);
-        s_obrazkem(imgStranka[i], i == 0 ? Obrazek::moznosti : Obrazek::o_aplikaci, kAzur);
+        s_obrazkem(imgStranka[i], i == 0 ? Obrazek::moznosti : Obrazek::o_aplikaci,
+                   barva_okna(BarvaOkna::nadpis));
     }
     QPushButton* navod = tlacitko(QStringLiteral("Návod"), [this] { prikaz([] { otevri_navod(); }); });
     QPushButton* konec = tlacitko(QStringLiteral("&Konec"), [this] { close(); });
@@ -519,9 +536,9 @@ QWidget* OknoParametru::pata() {
     spustit->setToolTip(QStringLiteral("Enter"));
     otevrit->setToolTip(QStringLiteral("Ctrl+O"));
     navod->setToolTip(QStringLiteral("F1"));
-    s_obrazkem(navod, Obrazek::navod, kPismo);
+    s_obrazkem(navod, Obrazek::navod, barva_okna(BarvaOkna::text));
     s_obrazkem(konec, Obrazek::konec, QColor(255, 96, 80));
-    s_obrazkem(otevrit, Obrazek::slozka, kPismo);
+    s_obrazkem(otevrit, Obrazek::slozka, barva_okna(BarvaOkna::text));
     s_obrazkem(spustit, Obrazek::start, Qt::white);
 
     auto* pata = new QWidget;
@@ -583,7 +600,7 @@ void OknoParametru::ukaz() {
         QTextCharFormat format;
         for (const Text& radek : parametry.lblInfo_verze) {
             const bool nadpis = radek.ends_with(':');
-            format.setForeground(nadpis ? kAzur : kPismo);
+            format.setForeground(barva_okna(nadpis ? BarvaOkna::nadpis : BarvaOkna::text));
             if (!kam.atStart())
                 kam.insertBlock();
             kam.insertText((nadpis ? QString() : QStringLiteral("  ")) + na_qstring(radek), format);

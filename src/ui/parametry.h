@@ -57,7 +57,7 @@ private:
     std::function<bool(const QString&)> prehraj;
     double meritko = 1;
     QLineEdit *txtHodiny = nullptr, *txtMinuty = nullptr, *txtAutosave = nullptr;
-    QComboBox *cboDen = nullptr, *cboRychlost = nullptr;
+    QComboBox *cboDen = nullptr, *cboRychlost = nullptr, *cboPaleta = nullptr;
     QPushButton *miGVD = nullptr, *miOblibena = nullptr;
     QLabel *lblGVD_popis_aktualni = nullptr, *lblMonitor = nullptr;
     QPlainTextEdit* lblInfo_verze = nullptr;

@@ -131,10 +131,6 @@ Text z_qstring(const QString& text) {
     return z_utf8(text.toStdString());
 }
 
-QColor barva_qt(Barva barva) {
-    return QColor(barva & 0xFF, barva >> 8 & 0xFF, barva >> 16 & 0xFF);
-}
-
 QFont pismo_poli(double vyska) {
     zajisti_nahradu();
     QFont f(pismo.rodina);
@@ -145,13 +141,18 @@ QFont pismo_poli(double vyska) {
 
 void kresli_radek(QPainter& p, double x, double y, double sirka, double vyska, TextPohled text, Barva barva,
                   Znaky znaky) {
+    kresli_radek(p, x, y, sirka, vyska, text, barva_qt(barva), znaky);
+}
+
+void kresli_radek(QPainter& p, double x, double y, double sirka, double vyska, TextPohled text,
+                  const QColor& barva, Znaky znaky) {
     zajisti_nahradu();
     if (const std::size_t prvni = text.find_first_not_of(' ');
         sleduj_radek != nullptr && prvni != TextPohled::npos) {
         const double znaku = static_cast<double>(text.find_last_not_of(' ') + 1 - prvni);
         sleduj_radek(p, {x + static_cast<double>(prvni) * sirka, y, znaku * sirka, vyska}, text);
     }
-    const QRgb odstin = barva_qt(barva).rgb();
+    const QRgb odstin = barva.rgb();
     const int radek = static_cast<int>(std::lround(y));
     // a screen gets ready-made images, a file of lines the outlines themselves
     const bool obrysy = p.paintEngine()->type() != QPaintEngine::Raster;

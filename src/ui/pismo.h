@@ -9,6 +9,7 @@
 #pragma once
 
 #include "relief/prvek.h"
+#include "ui/paleta.h"
 #include "zaklad/text.h"
 
 #include <QColor>
@@ -37,12 +38,14 @@ extern void (*sleduj_radek)(const QPainter& p, const QRectF& kde, TextPohled tex
 
 QString na_qstring(TextPohled text);
 Text z_qstring(const QString& text);
-QColor barva_qt(Barva barva);
 
 // Font for fields and lists, `vyska` device pixels high.
 QFont pismo_poli(double vyska);
 
 // Draws one line, the cell at (x, y) and each next `sirka` further; `vyska` is the height of the cell.
 // All in pixels of the painter, which may be fractions: cells are put on whole pixels.
+void kresli_radek(QPainter& p, double x, double y, double sirka, double vyska, TextPohled text,
+                  const QColor& barva, Znaky znaky);
+// The same in a colour of the core, as the palette shows it.
 void kresli_radek(QPainter& p, double x, double y, double sirka, double vyska, TextPohled text, Barva barva,
                   Znaky znaky);

@@ -79,9 +79,12 @@ Prirucka::Prirucka(QWidget* rodic, const QString& soubor)
     text = new QTextBrowser;
     text->setOpenLinks(false); // it leads nowhere but within itself
     text->setUndoRedoEnabled(false);
+    text->setAccessibleName(QStringLiteral("Text příručky"));
     obsah = new QListWidget;
     obsah->setWordWrap(true);
+    obsah->setAccessibleName(QStringLiteral("Kapitoly"));
     hledani = new QLineEdit;
+    hledani->setAccessibleName(QStringLiteral("Hledat v příručce"));
     hledani->setPlaceholderText(QStringLiteral("hledat (Enter: další)"));
     auto* zavrit = new QPushButton(QStringLiteral("&Zavřít [Esc]"));
 

@@ -31,7 +31,7 @@ struct Pero {
         const auto y = [&](int v) { return m.y(v * kTwipu); };
         return {QPoint(x(r.x()), y(r.y())), QPoint(x(r.x() + r.width()) - 1, y(r.y() + r.height()) - 1)};
     }
-    void plocha(const QRect& r, QRgb barva) const { p.fillRect(v_bodech(r), QColor::fromRgba(barva)); }
+    void plocha(const QRect& r, QRgb barva) const { p.fillRect(v_bodech(r), plocha_qt(barva)); }
     void obrys(const QRect& r, QRgb barva) const {
         nakresli_obrys(p, v_bodech(r), m.bodu(1), QColor::fromRgba(barva));
     }
@@ -249,6 +249,7 @@ ObrazovkaTechnologie::ObrazovkaTechnologie(QWidget* rodic, std::function<bool(QK
     hide();
     setAttribute(Qt::WA_OpaquePaintEvent);
     setFocusPolicy(Qt::StrongFocus);
+    setAccessibleName(QStringLiteral("Obrazovka technologie"));
     setMouseTracking(true);
 }
 
@@ -451,7 +452,7 @@ void ObrazovkaTechnologie::paintEvent(QPaintEvent*) {
     QPainter p(this);
     const double pomer = devicePixelRatioF();
     p.scale(1 / pomer, 1 / pomer);
-    p.fillRect(QRectF(QPointF(0, 0), QSizeF(size()) * pomer), QColor::fromRgba(kPozadi));
+    p.fillRect(QRectF(QPointF(0, 0), QSizeF(size()) * pomer), plocha_qt(kPozadi));
     if (!ktera)
         return;
     const Meritko m = meritko();

@@ -31,7 +31,9 @@
 #include <QPointer>
 #include <QPushButton>
 #include <QScrollBar>
+#include <QShortcut>
 #include <QSignalBlocker>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTextCursor>
 #include <QTimer>
@@ -150,8 +152,11 @@ OknoVypravciho::OknoVypravciho(QWidget* rodic)
 
     cekani.okno = seznam_vet();
     rozhodnuti.okno = seznam_vet();
+    cekani.okno->setAccessibleName(QStringLiteral("Vlaky, které čekají"));
+    rozhodnuti.okno->setAccessibleName(QStringLiteral("Rozhodnutí výpravčího"));
     zprava = new QPlainTextEdit;
     zprava->setReadOnly(true);
+    zprava->setAccessibleName(QStringLiteral("Zpráva o provozu"));
     zprava->setToolTip(QStringLiteral("Povely jsou tu všechna klepnutí a klávesy, vaše i jeho"));
     zprava->setLineWrapMode(QPlainTextEdit::WidgetWidth);
     auto* hodnoceni = new QPushButton(QStringLiteral("&Hodnocení služby…"));
@@ -168,6 +173,8 @@ OknoVypravciho::OknoVypravciho(QWidget* rodic)
     rozvrzeni_zpravy->addLayout(pod_zpravou);
     listy = new QTabWidget;
     listy->setDocumentMode(true); // all pages on the ground of the window
+    listy->setAccessibleName(QStringLiteral("Co výpravčí dělá"));
+    listy->tabBar()->setAccessibleName(QStringLiteral("Listy"));
     listy->addTab(cekani.okno, {});
     listy->addTab(rozhodnuti.okno, QStringLiteral("&Rozhodnutí"));
     listy->addTab(se_zpravou, QStringLiteral("Zpráva o &provozu"));
@@ -231,12 +238,18 @@ QListWidget* OknoVypravciho::seznam_vet() {
     auto* s = new QListWidget;
     s->setWordWrap(true);
     s->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    s->setToolTip(QStringLiteral("Klepnutí na řádek vlak vyhledá na stole"));
-    connect(s, &QListWidget::itemClicked, this, [](const QListWidgetItem* radek) {
+    s->setToolTip(QStringLiteral("Klepnutí na řádek nebo Enter vlak vyhledá na stole"));
+    const auto vyhledej = [](const QListWidgetItem* radek) {
         const std::int32_t vlak = radek->data(Qt::UserRole).toInt();
         rukou([&] { ukaz_vlak(vlak); });
         if (HlavniOkno* deska = HlavniOkno::otevrene())
             deska->obnov();
+    };
+    connect(s, &QListWidget::itemClicked, this, vyhledej);
+    auto* enter = new QShortcut(QKeySequence(Qt::Key_Return), s, nullptr, nullptr, Qt::WidgetShortcut);
+    connect(enter, &QShortcut::activated, this, [s, vyhledej] {
+        if (s->currentItem() != nullptr)
+            vyhledej(s->currentItem());
     });
     return s;
 }

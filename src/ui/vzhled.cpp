@@ -1,6 +1,8 @@
 // ui/vzhled.cpp - the look of the windows beside the desk.
 #include "ui/vzhled.h"
 
+#include "ui/paleta.h"
+
 #include <QColor>
 #include <QFont>
 #include <QGuiApplication>
@@ -16,8 +18,18 @@ namespace {
 
 constexpr int kVyskaPisma = 13; // of boxes, dialogues and tips, pixels of the desk
 
+double meritko_oken = 1; // as it was set last
+int posledni_vyska = 0;  // of the letters
+
 constexpr const char* kStylOken =
-    "QMessageBox { border: 1px solid #6b7782; }"
+    "QMenu { background: @nabidka; color: @text; border: 1px solid @cara; padding: 1px; }"
+    "QMenu::item { padding: 2px 22px 2px 14px; }"
+    "QMenu::item:selected { background: @vyber; color: @text_vyberu; }"
+    "QMenu::item:disabled { color: @nelze; background: transparent; }"
+    "QToolTip { background: @tip; color: @text_tipu; border: 1px solid @cara; }"
+    "QPushButton:focus, QCheckBox:focus, QComboBox:focus, QLineEdit:focus, QListView:focus, QTextEdit:focus,"
+    "QPlainTextEdit:focus { outline: 1px solid @nadpis; }"
+    "QMessageBox { border: 1px solid @cara; }"
     "QMessageBox QPushButton { min-width: 62px; padding: 4px 8px; }"
     "QFileDialog QTreeView, QFileDialog QListView, QFileDialog QPushButton { icon-size: 16px; }"
     "QFileDialog QPushButton { padding: 4px 8px; }"
@@ -26,28 +38,31 @@ constexpr const char* kStylOken =
 
 } // namespace
 
-void nastav_vzhled(QApplication&) {
+void nastav_vzhled() {
     QApplication::setStyle(QStringLiteral("Fusion"));
-    const QColor plocha(18, 22, 27), pole(5, 7, 10), tlacitko(42, 50, 59), text(213, 219, 225),
-        vyber(32, 80, 192);
-    QPalette paleta(text, tlacitko, QColor(74, 85, 96), QColor(5, 7, 10), QColor(60, 69, 80), text, Qt::white,
-                    pole, plocha);
-    paleta.setColor(QPalette::Highlight, vyber);
-    paleta.setColor(QPalette::HighlightedText, Qt::white);
-    paleta.setColor(QPalette::ToolTipBase, QColor(255, 255, 220));
-    paleta.setColor(QPalette::ToolTipText, Qt::black);
-    paleta.setColor(QPalette::Disabled, QPalette::WindowText, QColor(107, 119, 130));
-    paleta.setColor(QPalette::Disabled, QPalette::ButtonText, QColor(107, 119, 130));
-    QApplication::setPalette(paleta);
-    nastav_meritko_oken(meritko_obrazovky());
+    const QColor plocha = barva_okna(BarvaOkna::plocha), pole = barva_okna(BarvaOkna::pole),
+                 tlacitko = barva_okna(BarvaOkna::tlacitko), text = barva_okna(BarvaOkna::text),
+                 nelze = barva_okna(BarvaOkna::nelze);
+    QPalette p(text, tlacitko, barva_okna(BarvaOkna::cara), QColor(5, 7, 10), QColor(60, 69, 80), text,
+               Qt::white, pole, plocha);
+    p.setColor(QPalette::Highlight, barva_okna(BarvaOkna::vybrane));
+    p.setColor(QPalette::HighlightedText, barva_okna(BarvaOkna::text_vyberu));
+    p.setColor(QPalette::ToolTipBase, barva_okna(BarvaOkna::tip));
+    p.setColor(QPalette::ToolTipText, barva_okna(BarvaOkna::text_tipu));
+    p.setColor(QPalette::PlaceholderText, nelze);
+    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+        p.setColor(QPalette::Disabled, role, nelze);
+    QApplication::setPalette(p);
+    posledni_vyska = 0;
+    nastav_meritko_oken(meritko_oken);
 }
 
 void nastav_meritko_oken(double krat) {
-    static int posledni = 0;
+    meritko_oken = krat;
     const int vyska = qRound(kVyskaPisma * std::max(1.0, krat));
-    if (vyska == posledni)
+    if (vyska == posledni_vyska)
         return; // every window would be laid out anew
-    posledni = vyska;
+    posledni_vyska = vyska;
     QFont pismo = QApplication::font();
     pismo.setPixelSize(vyska);
     QApplication::setFont(pismo);
@@ -76,5 +91,5 @@ QString zvetseny_styl(const char* styl, double krat) {
         novy += QString::number(bodu <= 1 ? bodu : qRound(bodu * krat)) + QStringLiteral("px");
         konec = nalez.capturedEnd();
     }
-    return novy + puvodni.mid(konec);
+    return obarveny_styl(novy + puvodni.mid(konec));
 }

@@ -8,10 +8,10 @@
 #include <QApplication>
 #include <QString>
 
-// --- at start
+// --- at start, and when another palette is chosen
 
-// Colours and style of all windows; letters in the measure of the screen.
-void nastav_vzhled(QApplication& aplikace);
+// Colours and style of all windows.
+void nastav_vzhled();
 
 // --- when the desk has got another size
 
@@ -22,5 +22,5 @@ void nastav_meritko_oken(double krat);
 
 // How many times larger than on the desk's own screen a window may be: 1, 1.5, 2, ...
 double meritko_obrazovky();
-// A style sheet with all its lengths but hair lines multiplied.
+// A style sheet with all its lengths but hair lines multiplied, and its colours from the palette.
 QString zvetseny_styl(const char* styl, double krat);

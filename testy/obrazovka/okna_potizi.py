@@ -51,10 +51,11 @@ class Zkouska(s.Stul):
         okna = self.okna()
         self.tiskni("F1", "příručka: " + co, lambda: self.okna() == okna + 1)
         time.sleep(0.6)
-        self.bez_vad()
-        obraz = self.obraz("prirucka_" + co)
         obsah = int(self.sirka * 0.33)  # from there on lies the list of the chapters
-        vybrane = [y for y in range(self.vyska) if obraz.bodu(obsah, y, 150, 1, VYBRANA_KAPITOLA) > 60]
+        radky = lambda o: [y for y in range(self.vyska) if o.bodu(obsah, y, 150, 1, VYBRANA_KAPITOLA) > 60]
+        self.cekej_na("vybraná kapitola", radky)
+        self.bez_vad()
+        vybrane = radky(self.obraz("prirucka_" + co))
         nahore = int(subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "příručka výpravčího",
                                      "getwindowgeometry", "--shell"], env=self.prostredi, check=True,
                                     capture_output=True, text=True).stdout.split("Y=")[1].split()[0])

@@ -348,7 +348,7 @@ def priprav_celou(argumenty):
 
 # What tells the screens from one another, in pixels of the 1024 by 768 desk.
 BARVA_FORMULARE = (18, 22, 27)
-BARVA_NABIDKY = (200, 204, 208)
+BARVA_NABIDKY = (26, 32, 39)
 RADEK_PRIKAZU = (0, 23, 60, 16)
 HODINY = (22, 3, 72, 14)
 

@@ -81,6 +81,24 @@ for ano in ("0", "1"):
     with open(NASTAVENI, encoding="utf-8") as f:
         assert "Vystrahy=" + ano in f.read()
 
+# the same menu changes the palette, at once and for the next time; nothing else changes on the desk
+KOLEJE = (0, int(140 * krat), int(500 * krat), int(40 * krat))
+assert stul.obraz().bodu(*KOLEJE, s.SEDA) > 100
+cas = stul.cas_s()
+for slovo, nahoru in (("kontrast", 2), ("bez_barev", 1), ("obvykla", 3)):
+    stul.tiskni("F12", "nabídka barev", lambda: stul.okna() > stul.oken_v_klidu)
+    time.sleep(0.3)
+    for _ in range(nahoru):
+        stul.klavesa("Up")
+    stul.klavesa("Return")
+    stul.cekej_na("barvy " + slovo, lambda o: (o.bodu(*KOLEJE, s.SEDA) > 100) == (slovo == "obvykla"))
+    stul.obraz("barvy_" + slovo)
+    stul.cekej("stůl bez nabídky", lambda: stul.okna() == stul.oken_v_klidu)
+    with open(NASTAVENI, encoding="utf-8") as f:
+        assert "Paleta=" + slovo in f.read()
+    stul.bez_vad()
+assert stul.cas_s() >= cas and stoji(stul.obraz())
+
 # the consent is given: nothing waits for the operator any more
 stul.klikni(*lampa)
 stul.cekej_na("dotaz na souhlas", lambda o: o.vyrez(*radek) != predtim)

@@ -20,6 +20,7 @@
 #include "ui/pismo.h"
 #include "ui/platno.h"
 
+#include <QAccessible>
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
@@ -27,6 +28,7 @@
 #include <QFile>
 #include <QGroupBox>
 #include <QHeaderView>
+#include <QKeySequence>
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
@@ -37,9 +39,11 @@
 #include <QScrollBar>
 #include <QStyleOptionComboBox>
 #include <QStyleOptionGroupBox>
+#include <QTabBar>
 #include <QTextDocument>
 #include <QTextStream>
 #include <QTimer>
+#include <QToolButton>
 
 #include <cstdio>
 #include <set>
@@ -216,6 +220,43 @@ void zmer_ovladac(const QWidget& w) {
     }
 }
 
+// What takes keys has a name that is read out, and a key leads to it; no letter stands for two.
+void zmer_klavesy(const QWidget& okno) {
+    if (qobject_cast<const QDialog*>(&okno) != nullptr || okno.windowType() == Qt::Popup)
+        return; // those of the window system
+    std::set<QString> pismena;
+    const auto pismeno = [&](const QString& text) {
+        const QString klavesa = QKeySequence::mnemonic(text).toString();
+        if (!klavesa.isEmpty() && !pismena.insert(klavesa).second)
+            vada(QStringLiteral("dvakrát %1").arg(klavesa), text);
+    };
+    for (const QWidget* w : okno.findChildren<QWidget*>()) {
+        if (!w->isVisible() || w->window() != &okno)
+            continue;
+        const auto* tlacitko = qobject_cast<const QAbstractButton*>(w);
+        const auto* popisek = qobject_cast<const QLabel*>(w);
+        const auto* skupina = qobject_cast<const QGroupBox*>(w);
+        if (tlacitko != nullptr && tlacitko->isEnabled())
+            pismeno(tlacitko->text());
+        if (popisek != nullptr && popisek->buddy() != nullptr)
+            pismeno(popisek->text());
+        if (skupina != nullptr)
+            pismeno(skupina->title());
+        if (const auto* listy = qobject_cast<const QTabBar*>(w))
+            for (int i = 0; i < listy->count(); ++i)
+                pismeno(listy->tabText(i));
+        const bool vnitrni = qobject_cast<const QToolButton*>(w) != nullptr; // arrows of a row of tabs
+        if (tlacitko != nullptr && !vnitrni && (w->focusPolicy() & Qt::TabFocus) == 0)
+            vada(QStringLiteral("bez klávesy"), tlacitko->text());
+        if (w->focusPolicy() == Qt::NoFocus || vnitrni)
+            continue;
+        const QAccessibleInterface* ctene = QAccessible::queryAccessibleInterface(const_cast<QWidget*>(w));
+        if (ctene == nullptr || ctene->text(QAccessible::Name).trimmed().isEmpty())
+            vada(QStringLiteral("beze jména"),
+                 QString::fromLatin1(w->metaObject()->className()) + u' ' + w->objectName());
+    }
+}
+
 // --- windows
 
 // The file appears whole.
@@ -275,6 +316,7 @@ void prohledni_okno(QWidget& okno) {
             vada(QStringLiteral("uříznutá nabídka"), {});
     }
     zmer_ovladac(okno);
+    zmer_klavesy(okno);
     for (const QWidget* w : okno.findChildren<QWidget*>())
         if (w->isVisible() && w->window() == &okno)
             zmer_ovladac(*w);
