@@ -257,8 +257,6 @@ TEST_F(ZaznamSmeny, HasEveryKindOfActOfTheHands) {
     klik(Druh::imgPauza, 0, Tlacitko::leve, false);
     svet.odpovedi = {"kazdy.sim"};
     klavesa(klavesa_podle_jmena("Ctrl+S"));
-    klik(Druh::cmdZpravy, 0, Tlacitko::leve, false);
-    klik_na_radek(relief.lstZpravy, 0);
     klavesa({KodKlavesy::print_screen});
     ASSERT_TRUE(technologie_kryje_stul());
     klik_na_zalozku(Technologie::provoz2);
@@ -270,6 +268,8 @@ TEST_F(ZaznamSmeny, HasEveryKindOfActOfTheHands) {
     zavri_okno(); // to the question whether to end he says no
     prestavka(4000, false);
     prestavka(70'000, true);
+    klik(Druh::cmdDenik, 0, Tlacitko::leve, false); // where that stands now
+    klik_na_radek(relief.lstDenik, 0);
     ohlas_vadu_deniku(KodChyby::disk_plny);
     const auto lhotin = static_cast<std::uint8_t>(vypravci::stanice_kodu("LHO"));
     vypravci::predej(std::span(&lhotin, 1));
