@@ -120,7 +120,9 @@ TEST_F(Hodnoceni, TrainThatStandsStillHasNotLeftYet) {
 TEST_F(Hodnoceni, DispatcherStandsInAColumnBesideTheShift) {
     pobyt(kLhotin, 475, 480);
     pobyt(kHrabov, 484, 493);
+    pobyt(kHlavni, 497, -1);
     const HodnoceniSmeny vase = hodnot();
+    ASSERT_EQ(vase.useky.size(), 1u);
     HodnoceniSmeny jeho = vase;
     jeho.pridano = 3;
     jeho.useky[0].pridano = 3;
