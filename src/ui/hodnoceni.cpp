@@ -5,18 +5,18 @@
 #include "app/simulace.h"
 #include "app/smena.h"
 #include "ui/brana.h"
+#include "ui/napoveda.h"
 #include "ui/pismo.h"
+#include "ui/platforma_qt.h"
+#include "ui/vedlejsi_okno.h"
 #include "zaklad/soubory.h"
 
 #include <QCoreApplication>
-#include <QDir>
 #include <QFile>
-#include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QMessageBox>
 #include <QPointer>
 #include <QProcess>
 #include <QPushButton>
@@ -29,15 +29,14 @@
 
 namespace {
 
-class StrankaHodnoceni : public QWidget {
+class StrankaHodnoceni : public VedlejsiOkno {
 public:
     explicit StrankaHodnoceni(QWidget* stul);
     ~StrankaHodnoceni() override;
     void obnov();
 
 protected:
-    void keyPressEvent(QKeyEvent* udalost) override;
-    void closeEvent(QCloseEvent* udalost) override;
+    bool stisk(QKeyEvent& udalost) override;
 
 private:
     void uloz();
@@ -46,7 +45,6 @@ private:
     void srovnano(int kod);
     void ukaz_beh(const QString& vzkaz);
 
-    QWidget* stul;
     QTextBrowser* text;
     QLabel* stav;
     QPushButton* srovnat;
@@ -58,9 +56,9 @@ private:
 
 QPointer<StrankaHodnoceni> otevrena;
 
-StrankaHodnoceni::StrankaHodnoceni(QWidget* rodic) : QWidget(rodic, Qt::Window), stul(rodic) {
-    setWindowTitle(QStringLiteral("KPS RVZ TESK: hodnocení služby"));
-    setAttribute(Qt::WA_DeleteOnClose);
+StrankaHodnoceni::StrankaHodnoceni(QWidget* rodic)
+    : VedlejsiOkno(rodic, QStringLiteral("KPS RVZ TESK: hodnocení služby"), kapitoly::hodnoceni) {
+    predavej_enter();
     text = new QTextBrowser;
     text->setOpenLinks(false);
     text->setAccessibleName(QStringLiteral("Hodnocení služby"));
@@ -88,14 +86,11 @@ StrankaHodnoceni::StrankaHodnoceni(QWidget* rodic) : QWidget(rodic, Qt::Window),
     auto* cele = new QVBoxLayout(this);
     cele->addWidget(text, 1);
     cele->addLayout(dole);
-    const QRect deska = stul->geometry();
-    const int sirka = deska.width() > 2 * deska.height() ? deska.width() / 2 : deska.width();
-    resize(qRound(sirka * 0.8), qRound(deska.height() * 0.85));
-    move(deska.left() + deska.width() - width() - sirka / 60, deska.top() + deska.height() / 20);
+    QRect kde = plocha_u_stolu();
+    const int okraj = kde.height() / 45;
+    kde.setLeft(kde.right() + 1 - qRound(kde.width() * 0.8));
+    setGeometry(kde.translated(-okraj, 0));
     obnov();
-    show();
-    raise();
-    activateWindow();
     text->setFocus();
 }
 
@@ -170,52 +165,35 @@ void StrankaHodnoceni::srovnano(int kod) {
 
 // What the page shows is what is saved.
 void StrankaHodnoceni::uloz() {
-    const QString cesta = QFileDialog::getSaveFileName(this, QStringLiteral("Uložit hodnocení služby"),
-                                                       QDir::homePath() + QStringLiteral("/hodnoceni.html"),
-                                                       QStringLiteral("Stránka HTML (*.html)"));
-    if (cesta.isEmpty())
-        return;
-    std::string html = srovnani;
-    if (html.empty())
-        v_jadre([&] {
-            const HodnoceniSmeny h = hodnoceni_smeny();
-            html = html_hodnoceni(h, nullptr, nakresy_hodnoceni(h));
-        });
-    QFile soubor(cesta);
-    const auto delka = static_cast<qint64>(html.size());
-    if (!soubor.open(QIODevice::WriteOnly | QIODevice::Truncate) ||
-        soubor.write(html.data(), delka) != delka || !soubor.flush())
-        QMessageBox::warning(this, QStringLiteral("KPS RVZ TESK"),
-                             QStringLiteral("Soubor %1 nelze zapsat.").arg(QDir::toNativeSeparators(cesta)));
+    uloz_jako({QStringLiteral("Uložit hodnocení služby"), QStringLiteral("hodnoceni.html"),
+               QStringLiteral("Stránka HTML (*.html)")},
+              [this](QIODevice& soubor, const QString&) {
+                  std::string html = srovnani;
+                  if (html.empty())
+                      v_jadre([&] {
+                          const HodnoceniSmeny h = hodnoceni_smeny();
+                          html = html_hodnoceni(h, nullptr, nakresy_hodnoceni(h));
+                      });
+                  const auto delka = static_cast<qint64>(html.size());
+                  return soubor.write(html.data(), delka) == delka;
+              });
 }
 
-void StrankaHodnoceni::keyPressEvent(QKeyEvent* udalost) {
-    switch (udalost->key()) {
-    case Qt::Key_Escape: close(); break;
-    case Qt::Key_F5: obnov(); break;
-    default: QWidget::keyPressEvent(udalost);
-    }
-}
-
-void StrankaHodnoceni::closeEvent(QCloseEvent* udalost) {
-    QWidget::closeEvent(udalost);
-    stul->activateWindow(); // where no window manager gives the keys back
+bool StrankaHodnoceni::stisk(QKeyEvent& udalost) {
+    const bool znovu = udalost.key() == Qt::Key_F5;
+    if (znovu)
+        obnov();
+    return znovu;
 }
 
 } // namespace
 
 void ukaz_hodnoceni(QWidget* stul) {
-    if (otevrena) {
+    if (otevrena)
         otevrena->obnov();
-        otevrena->raise();
-        otevrena->activateWindow();
-        return;
-    }
-    otevrena = new StrankaHodnoceni(stul);
-}
-
-bool hodnoceni_ma_klavesy() {
-    return otevrena && otevrena->isActiveWindow();
+    else
+        otevrena = new StrankaHodnoceni(stul);
+    otevrena->ukaz();
 }
 
 void zapis_hodnoceni_na_konci() {

@@ -8,11 +8,6 @@
 // Opens the page beside the desk, with the shift as it stands at this moment.
 void ukaz_hodnoceni(QWidget* stul);
 
-// --- at any time, without change
-
-// The page is the window that has the keys.
-bool hodnoceni_ma_klavesy();
-
 // --- at the end of the program
 
 // Writes the page, with the diagrams, beside the record of the shift; nothing when there was no shift.

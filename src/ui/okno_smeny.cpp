@@ -9,11 +9,11 @@
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
 #include "ui/hodiny_stolu.h"
+#include "ui/napoveda.h"
 #include "ui/pismo.h"
+#include "ui/vedlejsi_okno.h"
 
 #include <QComboBox>
-#include <QCoreApplication>
-#include <QFrame>
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QLabel>
@@ -47,15 +47,14 @@ QString jmeno_souboru(const Text& cesta) {
     return cela.mid(cela.lastIndexOf(u'\\') + 1);
 }
 
-class OknoSmeny : public QFrame {
+class OknoSmeny : public VedlejsiOkno {
 public:
     explicit OknoSmeny(HlavniOkno& stul);
     void obnov();
     void prepni();
 
 protected:
-    void keyPressEvent(QKeyEvent* udalost) override;
-    void closeEvent(QCloseEvent* udalost) override;
+    bool stisk(QKeyEvent& udalost) override;
 
 private:
     void o_minut(int minut);
@@ -76,10 +75,9 @@ private:
 
 QPointer<OknoSmeny> otevrene;
 
-OknoSmeny::OknoSmeny(HlavniOkno& stul_) : QFrame(&stul_, Qt::Tool), stul(stul_) {
+OknoSmeny::OknoSmeny(HlavniOkno& stul_)
+    : VedlejsiOkno(&stul_, QStringLiteral("Záznam směny"), kapitoly::smena, Qt::Tool), stul(stul_) {
     setFrameStyle(QFrame::Panel | QFrame::Raised); // no window manager, no border
-    setWindowTitle(QStringLiteral("Záznam směny"));
-    setAttribute(Qt::WA_DeleteOnClose);
     nadpis = new QLabel;
     prubeh = new QLabel;
     vzkaz = new QLabel;
@@ -111,6 +109,7 @@ OknoSmeny::OknoSmeny(HlavniOkno& stul_) : QFrame(&stul_, Qt::Tool), stul(stul_) 
     connect(hraj, &QPushButton::clicked, this, [this] { prepni(); });
     rychlost = new QComboBox;
     rychlost->setAccessibleName(QStringLiteral("Rychlost přehrávání"));
+    pridej_vyber(*rychlost);
     for (const int krat : kRychlosti)
         rychlost->addItem(QStringLiteral("%1×").arg(krat), krat);
     connect(rychlost, &QComboBox::currentIndexChanged, this, [this] { nastav_rychlost(); });
@@ -134,8 +133,7 @@ OknoSmeny::OknoSmeny(HlavniOkno& stul_) : QFrame(&stul_, Qt::Tool), stul(stul_) 
     cele->addWidget(vzkaz);
     obnov();
     adjustSize();
-    const QRect kde = stul.geometry(); // in the middle, where the panel and the bar stay in sight
-    move(kde.center().x() - width() / 2, kde.y() + kde.height() / 2 - height() / 2);
+    move(plocha_u_stolu().center() - rect().center()); // where the panel and the bar stay in sight
 }
 
 void OknoSmeny::obnov() {
@@ -231,18 +229,11 @@ void OknoSmeny::prepni() {
     obnov();
 }
 
-void OknoSmeny::keyPressEvent(QKeyEvent* udalost) {
-    if (udalost->key() == Qt::Key_Escape || udalost->key() == Qt::Key_F4)
+bool OknoSmeny::stisk(QKeyEvent& udalost) {
+    const bool zavira = udalost.key() == Qt::Key_F4;
+    if (zavira)
         close();
-    else if (udalost->key() >= Qt::Key_F1 && udalost->key() <= Qt::Key_F12)
-        QCoreApplication::sendEvent(&stul, udalost);
-    else
-        QFrame::keyPressEvent(udalost);
-}
-
-void OknoSmeny::closeEvent(QCloseEvent* udalost) {
-    QFrame::closeEvent(udalost);
-    stul.activateWindow(); // where no window manager gives the keys back
+    return zavira;
 }
 
 } // namespace
@@ -250,9 +241,7 @@ void OknoSmeny::closeEvent(QCloseEvent* udalost) {
 void ukaz_okno_smeny(HlavniOkno& stul) {
     if (!otevrene)
         otevrene = new OknoSmeny(stul);
-    otevrene->show();
-    otevrene->raise();
-    otevrene->activateWindow();
+    otevrene->ukaz();
 }
 
 void obnov_okno_smeny() {

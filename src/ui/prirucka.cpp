@@ -7,7 +7,6 @@
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
 #include "ui/hodiny_stolu.h"
-#include "ui/hodnoceni.h"
 #include "ui/napoveda.h"
 #include "ui/pismo.h"
 #include "ui/text_prirucky.h"
@@ -255,8 +254,6 @@ private:
             if (const auto* okno = dynamic_cast<const VedlejsiOkno*>(w);
                 okno != nullptr && okno->kapitola() != kBezKapitoly)
                 return okno->kapitola();
-        if (hodnoceni_ma_klavesy())
-            return kapitoly::hodnoceni;
         if (qobject_cast<const QFileDialog*>(dialog) != nullptr)
             return kapitoly::hodiny;
         if (const HlavniOkno* stul = HlavniOkno::otevrene())

@@ -30,6 +30,9 @@ def plocha(x, y, sirka, vyska):
     return (*na_stole(x, y), int(sirka * krat), int(vyska * krat))
 
 
+PAUZA = plocha(376, 3, 56, 14)
+
+
 def otevreny(o):
     return o.bodu(0, 0, stul.sirka, stul.vyska, PAPIR) > 0.2 * stul.sirka * stul.vyska
 
@@ -75,11 +78,37 @@ prepni(True)
 prepni(False)
 assert stul.okna() == klid
 stul.ukaz(stul.sirka // 2, stul.vyska - 2)
+bez_nakresu = stul.obraz()
 prepni(True)
+assert s.rozdil(bez_nakresu, stul.obraz(), plocha(0, 598, 1024, 15)) == 0, "nákres zakryl řádek zásobníku"
+assert stul.obraz().bodu(*plocha(0, 21, 1024, 21), s.BARVA_FORMULARE) == 0, "nákres zakryl příkazový řádek"
+
+# --- a line chosen by the mouse leaves the keys to the picture, and is remembered at once
+NASTAVENI = os.path.join(slozka, "nastaveni", "KPS TESK", "nastaveni.ini")
+obrazek = plocha(20, 75, 980, 500)
+
+
+def zmeni_obraz(klavesa):
+    predtim = stul.obraz()
+    stul.klavesa(klavesa)
+    stul.cekej_na("obraz po klávese " + klavesa, lambda o: s.rozdil(predtim, o, obrazek) > 1000)
+
+
+oken = stul.okna()
+stul.klikni(*na_stole(80, 60))
+stul.cekej("seznam tratí", lambda: stul.okna() > oken)
+for klavesa in ("Home", "Return"):
+    stul.klavesa(klavesa)
+stul.cekej("zavřený seznam tratí", lambda: stul.okna() == oken)
+stul.cekej("zapamatovaná trať", lambda: "Trat=nikam" in open(NASTAVENI, encoding="utf-8").read())
+stul.ukaz(stul.sirka // 2, stul.vyska - 2)
+zmeni_obraz("d")
+stul.klavesa("Home")
 stul.klavesa("Next")  # the other line, with Lhotín above
 
 # --- the clock goes on, and the present with it, at a scale at which it is seen to move
-for _ in range(9):
+stul.cekej_na("současnost", sloupec_ted)
+for _ in range(15):
     stul.klavesa("plus")
 HODINY = plocha(*s.HODINY)
 obraz = stul.cekej_na("čára současnosti", sloupec_ted)
@@ -94,12 +123,9 @@ stul.cekej_na("čára vlaku", lambda o: cara(o) > 15)
 stul.obraz("vlak")
 
 # --- time and distance by the keys and the mouse: the picture changes, Home brings the present back
-obrazek = plocha(20, 70, 980, 500)
 ted = sloupec_ted(stul.obraz())
 for klavesa in ("Left", "minus", "d"):
-    predtim = stul.obraz()
-    stul.klavesa(klavesa)
-    stul.cekej_na("obraz po klávese " + klavesa, lambda o: s.rozdil(predtim, o, obrazek) > 1000)
+    zmeni_obraz(klavesa)
 stul.obraz("den")
 for _ in range(8):
     stul.klavesa("plus")
@@ -111,10 +137,12 @@ stul.cekej_na("současnost zpátky", sloupec_ted)
 stred = stul.sirka // 2, stul.vyska // 3
 stul.ukaz(*stred)
 time.sleep(0.3)
-for tlacitko, co in ((4, "přiblížení"), (5, "oddálení")):
+sledovana = sloupec_ted(stul.obraz())
+for tlacitko, co in ((4, "přiblížení"), (4, "přiblížení"), (5, "oddálení")):
     predtim = stul.obraz()
     stul.xdotool("click", tlacitko)
     stul.cekej_na(co + " kolečkem", lambda o: s.rozdil(predtim, o, obrazek) > 1000)
+stul.cekej_na("přiblížení pod ukazatelem", lambda o: abs((sloupec_ted(o) or 0) - sledovana) > stul.sirka // 100)
 predtim = stul.obraz()
 stul.xdotool("mousedown", 1)
 for i in range(1, 6):
@@ -139,6 +167,7 @@ for jmeno, zacatek in (("n.svg", b"<svg "), ("n.pdf", b"%PDF")):
     cesta = os.path.join(slozka, jmeno)
     otevrene_nakres = stul.okna()
     stul.tiskni("ctrl+e", "dialog uložení", lambda: stul.okna() > otevrene_nakres)
+    stul.cekej_na("čas nad dialogem stojí", lambda o: o.bodu(*PAUZA, CERVENA) > 50)
     for _ in range(10):
         stul.klavesa("ctrl+a")
         stul.xdotool("type", "--delay", 2, cesta)
@@ -149,6 +178,7 @@ for jmeno, zacatek in (("n.svg", b"<svg "), ("n.pdf", b"%PDF")):
             time.sleep(s.KROK)
         if stul.okna() == otevrene_nakres:
             break
+    stul.cekej_na("čas po uložení běží", lambda o: o.bodu(*PAUZA, CERVENA) == 0)
     stul.cekej("soubor " + jmeno, lambda: os.path.exists(cesta) and os.path.getsize(cesta) > 1000)
     with open(cesta, "rb") as f:
         obsah = f.read()
@@ -166,13 +196,23 @@ time.sleep(1.2)
 stul.bez_vad()
 stul.obraz("hodnoceni")
 stul.tiskni("Escape", "zavřené hodnocení", lambda: stul.okna() == oken)
+zmeni_obraz("Left")  # the keys are the diagram's again
+stul.klavesa("Home")
+stul.cekej_na("současnost po hodnocení", sloupec_ted)
+
+# --- the desk's own keys work from here, and a window that they open gives the keys back
+stul.tiskni("F4", "okno směny", lambda: stul.okna() > oken)
+stul.tiskni("Escape", "zavřené okno směny", lambda: stul.okna() == oken)
+zmeni_obraz("Left")
+stul.klavesa("Home")
+stul.cekej_na("současnost po okně směny", sloupec_ted)
 
 # --- a double click shows the train and gives the desk back; its keys work
 obraz = stul.cekej_na("vybraná čára", lambda o: cara(o) > 15)
 misto = bod_vlaku(obraz)
 stul.poklepej(*misto)
 stul.cekej_na("zavřený nákres", lambda o: not otevreny(o))
-stul.tiskni("F10", "pauza", lambda: stul.obraz().bodu(*plocha(376, 3, 56, 14), CERVENA) > 50)
+stul.tiskni("F10", "pauza", lambda: stul.obraz().bodu(*PAUZA, CERVENA) > 50)
 prepni(True)  # in a pause too
 stul.cekej_na_nalez("okno KPS RVZ TESK: nákresný jízdní řád")
 time.sleep(1)

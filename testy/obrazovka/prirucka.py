@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 # testy/obrazovka/prirucka.py - the manual under F1 from everywhere, the timetable viewer under F9, the tips of a
 # menu, and what is seen before and at the end: the start screen on two monitors, the desk that comes up painted.
+import glob
 import os
 import shutil
 import signal
@@ -13,7 +14,7 @@ program, slozka = s.priprav(sys.argv[1:])
 shutil.copytree(os.path.join(sys.argv[2], "navod"), os.path.join(slozka, "navod"))
 VYBRANA_KAPITOLA = (32, 80, 192)
 PURPUROVA = (255, 0, 255)
-PAUZA = (376, 3, 56, 14)
+PAUZA, ZNACKA = (376, 3, 56, 14), (752, 2, 130, 17)
 
 # --- two monitors: the start screen stands in the middle of the left one
 stul = s.Stul(program, slozka, "2048x768")
@@ -58,6 +59,7 @@ def prihlaseni_bez_purpurove(o):
 
 stul.cekej_na("přihlášení INIT", prihlaseni_bez_purpurove, 600)
 s.potvrd_prihlaseni(stul)
+time.sleep(5)  # of a clock that runs, for who watches the record of this shift
 
 
 def stoji(o):
@@ -77,6 +79,31 @@ for co, (x, y) in (("návěstidlo", NAVESTIDLO), ("výhybka", VYHYBKA), ("čísl
     zavri_prirucku()
     stul.cekej_na("čas zase běží", lambda o: not stoji(o))
 assert prvni < kapitoly["návěstidlo"] < kapitoly["výhybka"] < kapitoly["číslo koleje"], kapitoly
+
+# --- from the windows beside the desk: their own chapters, also over what they ask; the keys go back to them
+def kapitola_okna(co, zpatky):
+    stul.klavesa("F1")
+    jeji = kapitola(co)
+    stul.tiskni("Escape", "zavřená příručka", lambda: stul.okna() == zpatky)
+    return jeji
+
+
+stul.tiskni("F7", "nákres", lambda: stul.okna() == stul.oken_v_klidu + 1)
+kapitoly["nákres"] = kapitola_okna("nákres", stul.oken_v_klidu + 1)
+assert kapitoly["nákres"] > kapitoly["číslo koleje"], kapitoly
+stul.tiskni("ctrl+e", "dialog nákresu", lambda: stul.okna() == stul.oken_v_klidu + 2)
+assert kapitola_okna("dialog nákresu", stul.oken_v_klidu + 2) == kapitoly["nákres"]
+stul.tiskni("Escape", "nákres bez dialogu", lambda: stul.okna() == stul.oken_v_klidu + 1)
+stul.tiskni("Escape", "stůl bez nákresu", lambda: stul.okna() == stul.oken_v_klidu)
+stul.tiskni("F4", "okno směny", lambda: stul.okna() == stul.oken_v_klidu + 1)
+assert kapitola_okna("okno směny", stul.oken_v_klidu + 1) > kapitoly["číslo koleje"]
+stul.tiskni("Escape", "stůl bez okna směny", lambda: stul.okna() == stul.oken_v_klidu)
+bez_znacky = stul.obraz().vyrez(*ZNACKA)
+stul.tiskni("F6", "značka výpravčího", lambda: stul.obraz().vyrez(*ZNACKA) != bez_znacky)
+stul.ukaz(790, 10)
+time.sleep(0.2)
+assert kapitola_okna("značka výpravčího", stul.oken_v_klidu) > kapitoly["nákres"]
+stul.tiskni("F6", "stůl vzat", lambda: stul.obraz().vyrez(*ZNACKA) == bez_znacky)
 
 # --- from an open menu: the chapter of the entry that is picked; the tip of an entry leaves the next one free
 stul.klikni(*NAVESTIDLO, 3)
@@ -147,4 +174,33 @@ stul.cekej_na("stůl bez prohlížeče", lambda o: o.bodu(300, 400, 200, 150, PR
 stul.klikni(700, 480)
 stul.tiskni("ctrl+shift+F10", "konec programu", lambda: stul.program.poll() is not None)
 assert stul.program.wait() == 0, "program neskončil v pořádku"
+stul.konec()
+
+# --- the record of this shift is watched: it stands while the manual is read, F10 lets it go on
+(zaznam,) = glob.glob(os.path.join(slozka, "smeny", "*.tesk"))
+with open(os.path.join(slozka, "prehraj"), "w", encoding="utf-8") as f:
+    f.write('#!/bin/sh\nexec "%s" --smena "%s"\n' % (program, zaznam))
+os.chmod(f.name, 0o755)
+stul = s.Stul(f.name, slozka)
+hodiny = lambda: stul.obraz().vyrez(*s.HODINY)
+
+
+def cekej_na_vterinu(co):
+    predtim = hodiny()
+    stul.cekej(co, lambda: hodiny() != predtim)
+
+
+stul.cekej_na("přihlášení v záznamu", s.je_prihlaseni)
+stul.cekej_na("přehrávaná služba", lambda o: not s.je_prihlaseni(o))
+cekej_na_vterinu("běžící záznam")
+oken = stul.okna()
+stul.tiskni("F1", "příručka při přehrávání", lambda: stul.okna() > oken)
+kapitola("přehrávání")
+predtim = hodiny()
+time.sleep(2.5)
+assert hodiny() == predtim, "záznam pod příručkou běží"
+stul.klavesa("F10")
+cekej_na_vterinu("záznam puštěný klávesou F10")
+zavri_prirucku()
+stul.konec()
 print("v pořádku")
