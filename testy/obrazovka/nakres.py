@@ -195,14 +195,14 @@ stul.cekej_na_nalez("okno KPS RVZ TESK: hodnocení služby")
 time.sleep(1.2)
 stul.bez_vad()
 stul.obraz("hodnoceni")
-stul.tiskni("Escape", "zavřené hodnocení", lambda: stul.okna() == oken)
+stul.tiskni("Escape", "zavřené hodnocení", lambda: stul.okna() == oken, 10)
 zmeni_obraz("Left")  # the keys are the diagram's again
 stul.klavesa("Home")
 stul.cekej_na("současnost po hodnocení", sloupec_ted)
 
 # --- the desk's own keys work from here, and a window that they open gives the keys back
 stul.tiskni("F4", "okno směny", lambda: stul.okna() > oken)
-stul.tiskni("Escape", "zavřené okno směny", lambda: stul.okna() == oken)
+stul.tiskni("Escape", "zavřené okno směny", lambda: stul.okna() == oken, 10)
 zmeni_obraz("Left")
 stul.klavesa("Home")
 stul.cekej_na("současnost po okně směny", sloupec_ted)

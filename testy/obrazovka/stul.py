@@ -127,11 +127,12 @@ class Stul:
     def klavesa(self, jmeno):
         self.xdotool("key", jmeno)
 
-    def tiskni(self, jmeno, co, podminka):
-        """The key until it has its effect: one that comes before the window has the focus is lost."""
+    def tiskni(self, jmeno, co, podminka, po=1.5):
+        """The key until it has its effect: one that comes before the window has the focus is lost. `po`: seconds
+        until it is pressed again; long where a second one would do more than the first."""
         for _ in range(100):
             self.klavesa(jmeno)
-            konec = time.monotonic() + 1.5
+            konec = time.monotonic() + po
             while time.monotonic() < konec:
                 if podminka():
                     return

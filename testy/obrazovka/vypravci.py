@@ -88,8 +88,8 @@ stul.tiskni("F6", "stůl předán z okna", lambda: sviti(stul.obraz()))
 
 # --- the diagram opened from here gives the keys back here, and not to the desk, which would play a macro
 oken = stul.okna()
-stul.tiskni("F7", "nákres z okna", lambda: stul.okna() > oken)
-stul.tiskni("Escape", "zavřený nákres", lambda: stul.okna() == oken)
+stul.tiskni("F7", "nákres z okna", lambda: stul.okna() > oken, 10)
+stul.tiskni("Escape", "zavřený nákres", lambda: stul.okna() == oken, 10)
 predtim = stul.obraz()
 stul.klavesa("alt+r")
 stul.cekej_na("list po návratu z nákresu", lambda o: s.rozdil(predtim, o, plocha(420, 60, 560, 500)) > 2000, 30)
