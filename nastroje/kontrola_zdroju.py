@@ -91,7 +91,8 @@ def zkontroluj(soubor, graf):
             continue
         znak, jmeno = nalezene.groups()
         ma_qt = odkud == "ui" or soubor.parent.name in ("navod", "obraz") or \
-            soubor.name in ("aplikace_vykon.h", "kresba_vykon.cpp", "nakres_vykon.cpp", "platno_test.cpp", "prohlidka.cpp")
+            soubor.name in ("aplikace_vykon.h", "kresba_vykon.cpp", "nakres_vykon.cpp", "platno_test.cpp", "prohlidka.cpp",
+                            "text_prirucky_test.cpp")
         if QT.match(jmeno) and not ma_qt:
             chyba(soubor, cislo, f"{jmeno}: Qt belongs to src/ui, its benchmark, its tests, the manual and the picture of the junction only")
         if znak == "<":
