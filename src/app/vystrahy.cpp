@@ -13,20 +13,13 @@
 #include "uzel/prejezdy.h"
 #include "uzel/trate.h"
 #include "vypravci/pohled.h"
+#include "zaklad/slozeni.h"
 
 #include <algorithm>
-#include <initializer_list>
 
 namespace {
 
 static_assert(std::tuple_size_v<decltype(StavVystrah::zavreno_od_s)> == uzel::kPrejezdyStanic.size());
-
-Text slozeny(std::initializer_list<TextPohled> casti) {
-    Text text;
-    for (const TextPohled cast : casti)
-        text += cast;
-    return text;
-}
 
 Text minut(std::int32_t kolik) {
     return text_cisla(kolik) + " min";
@@ -85,7 +78,7 @@ void pridej_hlaseni(std::vector<Vystraha>& vse) {
     if (fronta.size() < 2) // the spare
         return;
     Vystraha v;
-    v.druh = DruhVystrahy::hlaseni;
+    v.druh = DruhVystrahy::fronta;
     v.prvek = Druh::lblPrikaz;
     v.n = 0;
     v.text = slozeny({"za hlášením čekají další: "_cz, text_cisla(static_cast<int>(fronta.size()) - 1)});

@@ -20,7 +20,7 @@
 // In the order in which they are told: what waits for the operator alone comes first.
 enum class DruhVystrahy : std::uint8_t {
     souhlas,        // a neighbour asks to send a train
-    hlaseni,        // behind the message on the command line others wait
+    fronta,         // behind the message on the command line others wait
     vlak_stoji,     // a train could go and is held
     bez_lokomotivy, // the same, and nothing could draw it
     prejezd,        // a station crossing is closed for long

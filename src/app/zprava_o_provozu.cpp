@@ -17,10 +17,10 @@
 #include "zaklad/chyba.h"
 #include "zaklad/cisla.h"
 #include "zaklad/platforma.h"
+#include "zaklad/slozeni.h"
 #include "zaklad/soubory.h"
 
 #include <algorithm>
-#include <initializer_list>
 #include <utility>
 
 namespace {
@@ -29,13 +29,6 @@ constexpr std::int32_t kUvazl_s = 3600;       // a train that stands for longer 
 constexpr std::int32_t kDlouheCekani_s = 300; // a shorter wait is not told
 constexpr std::size_t kNejdelsich = 20;       // waits that are told
 constexpr std::int32_t kStoji_s = 1800;       // a train that waits for longer has a line of its own
-
-Text slozeny(std::initializer_list<TextPohled> casti) {
-    Text text;
-    for (const TextPohled cast : casti)
-        text += cast;
-    return text;
-}
 
 // Nearest rank: the value that stands at that part of the sorted ones.
 Rozdeleni rozdeleni(std::vector<int>& hodnoty) {

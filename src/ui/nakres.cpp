@@ -438,7 +438,7 @@ void OknoNakresu::vyber(std::int32_t cislo, bool na_stul) {
 // The next train in sight by its number, or the one before it; round and round.
 void OknoNakresu::vyber_dalsi(bool dalsi) {
     std::set<std::int32_t> vlaky;
-    for (const TvarNakresu& t : nakresleny.tvary)
+    for (const TvarNakresu& t : nakresleny.obraz().tvary)
         if (t.cislo > 0)
             vlaky.insert(t.cislo);
     if (vlaky.empty())

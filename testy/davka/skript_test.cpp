@@ -4,26 +4,26 @@
 
 #include <gtest/gtest.h>
 
-using Slova = std::vector<std::string>;
+using SlovaRadku = std::vector<std::string>;
 
 TEST(Skript, PartsALineIntoWords) {
-    EXPECT_EQ(slova_radku("klik navestidlo\t205   ctrl"), (Slova{"klik", "navestidlo", "205", "ctrl"}));
-    EXPECT_EQ(slova_radku("   "), Slova{});
-    EXPECT_EQ(slova_radku("prihlas\r"), Slova{"prihlas"});
-    EXPECT_EQ(slova_radku("\xEF\xBB\xBFprihlas"), Slova{"prihlas"});
+    EXPECT_EQ(slova_radku("klik navestidlo\t205   ctrl"), (SlovaRadku{"klik", "navestidlo", "205", "ctrl"}));
+    EXPECT_EQ(slova_radku("   "), SlovaRadku{});
+    EXPECT_EQ(slova_radku("prihlas\r"), SlovaRadku{"prihlas"});
+    EXPECT_EQ(slova_radku("\xEF\xBB\xBFprihlas"), SlovaRadku{"prihlas"});
 }
 
 TEST(Skript, LeavesCommentsOut) {
-    EXPECT_EQ(slova_radku("# jen poznamka"), Slova{});
-    EXPECT_EQ(slova_radku("cekej 30s # pul minuty"), (Slova{"cekej", "30s"}));
-    EXPECT_EQ(slova_radku("pis \"kolej #3\""), (Slova{"pis", "kolej #3"}));
+    EXPECT_EQ(slova_radku("# jen poznamka"), SlovaRadku{});
+    EXPECT_EQ(slova_radku("cekej 30s # pul minuty"), (SlovaRadku{"cekej", "30s"}));
+    EXPECT_EQ(slova_radku("pis \"kolej #3\""), (SlovaRadku{"pis", "kolej #3"}));
 }
 
 TEST(Skript, KeepsBlanksOfQuotedTexts) {
     EXPECT_EQ(slova_radku("over prikaz prikaz=\" VC \" volba=\"\""),
-              (Slova{"over", "prikaz", "prikaz= VC ", "volba="}));
-    EXPECT_EQ(slova_radku("pis \"a \"\"b\"\" c\""), (Slova{"pis", "a \"b\" c"}));
-    EXPECT_EQ(slova_radku("pis \"\""), (Slova{"pis", ""}));
+              (SlovaRadku{"over", "prikaz", "prikaz= VC ", "volba="}));
+    EXPECT_EQ(slova_radku("pis \"a \"\"b\"\" c\""), (SlovaRadku{"pis", "a \"b\" c"}));
+    EXPECT_EQ(slova_radku("pis \"\""), (SlovaRadku{"pis", ""}));
 }
 
 TEST(Skript, RefusesATextWithoutItsEnd) {
