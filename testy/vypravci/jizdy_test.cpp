@@ -2,6 +2,7 @@
 #include "cesty/cesta.h"
 #include "cesty/navest.h"
 #include "cesty/prehoz_rukou.h"
+#include "cesty/zasobnik.h"
 #include "desk/stitky.h"
 #include "obsluha/vyber.h"
 #include "relief/relief.h"
@@ -46,6 +47,22 @@ TEST_F(VypravciJizdy, TrainRunsThroughTheJunctionWithoutAnotherHandAndWithoutDel
     EXPECT_TRUE(std::any_of(relief.lstDenik.radky.begin(), relief.lstDenik.radky.end(),
                             [](const Text& t) { return t.find("Vlak 101 odjel z Teska Kn") != Text::npos; }));
     EXPECT_GT(stav_vypravciho.vety.size(), 5u);
+}
+
+TEST_F(VypravciJizdy, StackThatHeTurnedToPvIsRemembered) {
+    z_lhotina(101, 485);
+    zacni(8, 0);
+    ASSERT_TRUE(plati_vz());
+    vypravci::predej();
+    sekund(10 * 60);
+    EXPECT_FALSE(plati_vz());
+    EXPECT_TRUE(stav_vypravciho.prepnul_pv);
+    vypravci::vezmi();
+    EXPECT_FALSE(plati_vz());
+    EXPECT_FALSE(stav_vypravciho.prepnul_pv);
+    vypravci::predej();
+    sekund(60);
+    EXPECT_FALSE(stav_vypravciho.prepnul_pv) << "it stood at PV when he came";
 }
 
 TEST_F(VypravciJizdy, NobodyMovesWhileTheDeskIsTheOperators) {
