@@ -268,7 +268,7 @@ TEST_F(ZaznamSmeny, HasEveryKindOfActOfTheHands) {
     zavri_okno(); // to the question whether to end he says no
     prestavka(4000, false);
     prestavka(70'000, true);
-    klik(Druh::cmdDenik, 0, Tlacitko::leve, false); // where that stands now
+    klik(Druh::cmDenik, 0, Tlacitko::leve, false); // where that stands now
     klik_na_radek(relief.lstDenik, 0);
     ohlas_vadu_deniku(KodChyby::disk_plny);
     const auto lhotin = static_cast<std::uint8_t>(vypravci::stanice_kodu("LHO"));
