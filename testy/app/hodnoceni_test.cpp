@@ -166,7 +166,7 @@ TEST_F(Hodnoceni, EachDayIsMeasuredByTheDelayThatItsOwnTrainBrought) {
     EXPECT_EQ(h.vlaky[0].prevzal, 0);
     EXPECT_EQ(h.vlaky[0].pridal, 7);
     EXPECT_EQ(h.vlaky[0].vstup_s, kDen_s + 480 * 60);
-    EXPECT_NE(html_hodnoceni(h, false).find("Os 14707 (úterý)"), std::string::npos);
+    EXPECT_NE(html_hodnoceni(h).find("Os 14707 (úterý)"), std::string::npos);
 }
 
 TEST_F(Hodnoceni, DelayOfEveryDayCounts) {
