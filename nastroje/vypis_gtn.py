@@ -382,7 +382,7 @@ def nakres(hlavicka, zaznamy, kolejiste, kody=None, trat=None):
                                                      hodiny_minuty(od), hodiny_minuty(do)))
 
     def popis(cas):  # at midnight the day that begins
-        return hodiny_minuty(cas) if cas % 86400 else DNY[(hlavicka.den + cas // 86400) % 7]
+        return hodiny_minuty(cas) if cas % 86400 else DNY_SLOVY[(hlavicka.den + cas // 86400) % 7]
 
     svg += mrizka_casu(x, od, do, OKRAJ_NAHORE, dole, na_minutu, popis)
     svg += osa_stanic(osa, y, OKRAJ_VLEVO, x(do))
