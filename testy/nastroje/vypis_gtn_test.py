@@ -202,7 +202,7 @@ class Nakres(Zaklad):
         self.assertEqual(len(cary), 2)
         self.assertLess(cary[0][-1], cary[1][0])
         self.assertLess(max(cara[-1] - cara[0] for cara in cary), 0.02 * float(svg.documentElement.getAttribute("width")))
-        self.assertEqual([t for t in self.texty(svg) if t in v.DNY], ["úterý", "úterý"], "above and below")
+        self.assertEqual([t for t in self.texty(svg) if t in v.DNY_SLOVY], ["úterý", "úterý"], "above and below")
         pulnoc = [c for c in svg.getElementsByTagName("line") if c.getAttribute("stroke-width") == "2"]
         self.assertEqual(len(pulnoc), 1)
 
