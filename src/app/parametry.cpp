@@ -425,17 +425,19 @@ bool nabidni_nouzovy() {
     if (!parametry.nactena || simulace.obrazovka != kObrazovkaStartu)
         return false;
     const std::optional<Text> cekajici = cekajici_nouzovy(), pad = vezmi_nereceny_pad();
-    const Text o_hlaseni = pad ? Text("\r\n\r\nHlášení o chybě: "_cz) + *pad : Text();
+    Text veta(cekajici ? "Minulá simulace skončila chybou a její stav byl nouzově uložen. "
+                         "Chcete v ní pokračovat?"_cz
+                       : "Program minule skončil chybou."_cz);
+    if (pad) {
+        veta += "\r\n\r\nHlášení o chybě: "_cz;
+        veta += *pad;
+    }
     if (!cekajici) {
         if (pad)
-            platforma.okno(kTitul, Text("Program minule skončil chybou."_cz) + o_hlaseni);
+            platforma.okno(kTitul, veta);
         return false;
     }
-    const bool ano = platforma.otazka(kTitul,
-                                      Text("Minulá simulace skončila chybou a její stav byl nouzově uložen. "
-                                           "Chcete v ní pokračovat?"_cz) +
-                                          o_hlaseni,
-                                      true);
+    const bool ano = platforma.otazka(kTitul, veta, true);
     const Text soubor = odloz_nouzove(*cekajici); // one that cannot be loaded is not offered for ever
     if (!ano)
         return false;

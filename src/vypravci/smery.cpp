@@ -17,8 +17,8 @@
 
 namespace {
 
-constexpr std::int32_t kPohled_s = 20;   // between two looks
-constexpr std::int32_t kOpustena_s = 90; // an arrow without a train or a route is nobody's
+constexpr std::int32_t kPohled_s = 20;     // between two looks
+constexpr std::int32_t kNicijeSmer_s = 90; // an arrow without a train or a route is nobody's
 
 struct Uvolneni { // the route that is set to be cancelled
     int zacatek = kZadny, konec = kZadny;
@@ -100,7 +100,7 @@ void uvolni_smery() {
         }
         if (od < 0 || od > ted)
             od = ted;
-        if (ted - od >= kOpustena_s && uvolni_cestou(n)) {
+        if (ted - od >= kNicijeSmer_s && uvolni_cestou(n)) {
             od = kZadny;
             return;
         }
