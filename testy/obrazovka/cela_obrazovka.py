@@ -109,7 +109,7 @@ stul.cekej("zavřená nabídka", lambda: stul.okna() == stul.oken_v_klidu)
 
 # the keys lead from element to element, and by steps over the screen
 stul.klavesa("ctrl+Left")
-assert stul.kurzor()[0] < cil[0], "ukazatel nepřeskočil na další prvek"
+stul.cekej("skok na další prvek", lambda: stul.kurzor()[0] < cil[0])
 odkud = stul.kurzor()
 stul.klavesa("Right")
 stul.cekej("krok doprava", lambda: stul.kurzor()[0] > odkud[0])
