@@ -182,7 +182,7 @@ bool prehraj_smenu(const QString& cesta) {
     if (je_konec())
         return true;
     ukaz_hlavni_obrazovku([] {});
-    navaz_hodiny_stolu();
+    zacni_prehravani();
     if (hlavni_okno)
         ukaz_okno_smeny(*hlavni_okno);
     return true;

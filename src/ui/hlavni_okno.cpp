@@ -871,7 +871,7 @@ bool HlavniOkno::otevri_vedlejsi_okno(const std::function<void()>& prepni) {
 
 bool HlavniOkno::stisk(QKeyEvent* udalost) {
     if (udalost->key() == Qt::Key_F4 && udalost->modifiers() == Qt::NoModifier) {
-        ukaz_okno_smeny(*this);
+        prepni_okno_smeny(*this);
         return true;
     }
     if (udalost->key() == Qt::Key_F10 && prehrava_se()) {

@@ -16,8 +16,8 @@ namespace {
 ChodHostitele chod;
 bool drzi = false;
 int krat_prehravani = 1;
-bool stoji_prehravani = false;
-std::int64_t videno_ms = 0; // of the computer's clock, when a watched shift was moved last
+bool zastaveno = false, podrzeno = false; // the watching: by the operator, by a window that he reads
+std::int64_t videno_ms = 0;               // of the computer's clock, when a watched shift was moved last
 
 // Milliseconds of a clock that nobody sets and that counts the sleep of the computer too.
 std::int64_t ms_od_zapnuti() {
@@ -32,7 +32,7 @@ void dozen_prehravani() {
     const std::int64_t ted = ms_od_zapnuti();
     const std::int64_t ubehlo = std::min(ted - videno_ms, kNejdelsiKrok_ms);
     videno_ms = ted;
-    if (krat_prehravani > 0 && !stoji_prehravani)
+    if (!zastaveno && !podrzeno)
         prehravej_do(virtualni_hodiny.cas_ms + ubehlo * krat_prehravani);
 }
 
@@ -78,10 +78,28 @@ void navaz_hodiny_stolu() {
     chod.nula_ms = videno_ms - virtualni_hodiny.cas_ms;
 }
 
+void zacni_prehravani() {
+    krat_prehravani = 1;
+    zastaveno = podrzeno = false;
+    navaz_hodiny_stolu();
+}
+
 void rychlost_prehravani(int krat) {
     krat_prehravani = krat;
 }
 
+int rychlost_prehravani() {
+    return krat_prehravani;
+}
+
+void zastav_prehravani(bool zastavit) {
+    zastaveno = zastavit;
+}
+
+bool prehravani_zastaveno() {
+    return zastaveno;
+}
+
 void podrz_prehravani(bool drzet) {
-    stoji_prehravani = drzet;
+    podrzeno = drzet;
 }

@@ -25,7 +25,13 @@ void navaz_hodiny_stolu();
 
 // --- while a shift is watched
 
-// How many times faster than the computer's clock it runs; 0: it stands.
+// From its beginning, as fast as it was served.
+void zacni_prehravani();
+// How many times faster than the computer's clock it runs, from 1.
 void rychlost_prehravani(int krat);
+int rychlost_prehravani();
+// The operator stops it, and lets it go on; the speed stays.
+void zastav_prehravani(bool zastavit);
+bool prehravani_zastaveno();
 // It stands at any speed, and goes on.
 void podrz_prehravani(bool drzet);

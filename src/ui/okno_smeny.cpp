@@ -51,7 +51,6 @@ class OknoSmeny : public VedlejsiOkno {
 public:
     explicit OknoSmeny(HlavniOkno& stul);
     void obnov();
-    void prepni();
 
 protected:
     bool stisk(QKeyEvent& udalost) override;
@@ -62,7 +61,6 @@ private:
     void zrus();
     void prevezmi();
     void proved(const std::function<Navrat()>& co);
-    void nastav_rychlost();
 
     HlavniOkno& stul;
     QLabel *nadpis = nullptr, *prubeh = nullptr, *vzkaz = nullptr;
@@ -70,7 +68,6 @@ private:
     QLineEdit* pole = nullptr;
     QPushButton *jdi = nullptr, *zpet = nullptr, *hraj = nullptr, *prevzit = nullptr, *konec = nullptr;
     QComboBox* rychlost = nullptr;
-    bool stoji = false; // the watching
 };
 
 QPointer<OknoSmeny> otevrene;
@@ -106,13 +103,15 @@ OknoSmeny::OknoSmeny(HlavniOkno& stul_)
     connect(zpet, &QPushButton::clicked, this, [this] { zrus(); });
 
     hraj = new QPushButton;
-    connect(hraj, &QPushButton::clicked, this, [this] { prepni(); });
+    connect(hraj, &QPushButton::clicked, this, prepni_prehravani);
     rychlost = new QComboBox;
     rychlost->setAccessibleName(QStringLiteral("Rychlost přehrávání"));
     pridej_vyber(*rychlost);
     for (const int krat : kRychlosti)
         rychlost->addItem(QStringLiteral("%1×").arg(krat), krat);
-    connect(rychlost, &QComboBox::currentIndexChanged, this, [this] { nastav_rychlost(); });
+    rychlost->setCurrentIndex(rychlost->findData(rychlost_prehravani()));
+    connect(rychlost, &QComboBox::currentIndexChanged, this,
+            [this] { rychlost_prehravani(rychlost->currentData().toInt()); });
     prevzit = new QPushButton(QStringLiteral("&Převzít směnu"));
     connect(prevzit, &QPushButton::clicked, this, [this] { prevezmi(); });
     konec = new QPushButton(QStringLiteral("&Konec"));
@@ -130,7 +129,12 @@ OknoSmeny::OknoSmeny(HlavniOkno& stul_)
     cele->addLayout(minuty);
     cele->addLayout(cilovy);
     cele->addWidget(zpet);
-    cele->addWidget(vzkaz);
+    auto* zavrit = new QPushButton(QStringLiteral("Za&vřít [Esc]"));
+    connect(zavrit, &QPushButton::clicked, this, &QWidget::close);
+    auto* dole = new QHBoxLayout;
+    dole->addWidget(vzkaz, 1);
+    dole->addWidget(zavrit);
+    cele->addLayout(dole);
     obnov();
     adjustSize();
     move(plocha_u_stolu().center() - rect().center()); // where the panel and the bar stay in sight
@@ -154,7 +158,7 @@ void OknoSmeny::obnov() {
         kroky[i]->setVisible(prehrava || kKroky_min[i] < 0);
     for (QWidget* co : std::initializer_list<QWidget*>{hraj, rychlost, prevzit, konec})
         co->setVisible(prehrava);
-    hraj->setText(stoji ? QStringLiteral("P&okračovat") : QStringLiteral("S&tát"));
+    hraj->setText(prehravani_zastaveno() ? QStringLiteral("P&okračovat") : QStringLiteral("S&tát"));
     const bool lze_zrusit = !prehrava && je_co_vratit();
     zpet->setVisible(!prehrava);
     zpet->setEnabled(lze_zrusit);
@@ -219,16 +223,6 @@ void OknoSmeny::prevezmi() {
     adjustSize();
 }
 
-void OknoSmeny::nastav_rychlost() {
-    rychlost_prehravani(stoji ? 0 : rychlost->currentData().toInt());
-}
-
-void OknoSmeny::prepni() {
-    stoji = !stoji;
-    nastav_rychlost();
-    obnov();
-}
-
 bool OknoSmeny::stisk(QKeyEvent& udalost) {
     const bool zavira = udalost.key() == Qt::Key_F4;
     if (zavira)
@@ -244,12 +238,19 @@ void ukaz_okno_smeny(HlavniOkno& stul) {
     otevrene->ukaz();
 }
 
+void prepni_okno_smeny(HlavniOkno& stul) {
+    if (otevrene)
+        otevrene->close();
+    else
+        ukaz_okno_smeny(stul);
+}
+
 void obnov_okno_smeny() {
     if (otevrene)
         otevrene->obnov();
 }
 
 void prepni_prehravani() {
-    if (otevrene)
-        otevrene->prepni();
+    zastav_prehravani(!prehravani_zastaveno());
+    obnov_okno_smeny();
 }

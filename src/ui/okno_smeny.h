@@ -7,6 +7,8 @@ class HlavniOkno;
 
 // Opens the window over the desk, or brings it forward. It stops nothing.
 void ukaz_okno_smeny(HlavniOkno& stul);
+// Likewise; one that is open is closed.
+void prepni_okno_smeny(HlavniOkno& stul);
 
 // --- with each picture of the desk
 
@@ -15,5 +17,5 @@ void obnov_okno_smeny();
 
 // --- while a shift is watched
 
-// F10: the watching stops and goes on.
+// F10: the watching stops and goes on, with the window or without.
 void prepni_prehravani();

@@ -107,8 +107,17 @@ stul.klikni(*mapa["navestidlo", 287])  # the watcher's hand does nothing
 time.sleep(0.5)
 stul.obraz("na_case")
 stul.bez_vad()
-stul.klavesa("F4")  # the click has brought the keys to the desk
-time.sleep(0.5)
+# F4 closes the window and the watching stands on; F10 is the desk's, with the window or without
+oken = stul.okna()
+stul.tiskni("F4", "zavřené okno směny", lambda: stul.okna() < oken)
+assert stoji(), "bez okna se přehrává dál"
+cas = stul.cas_s()
+stul.klavesa("F10")
+stul.cekej("přehrávání bez okna", lambda: stul.cas_s() > cas + 1)
+stul.klavesa("F10")
+stul.cekej("přehrávání bez okna stojí", stoji)
+otevri_okno(stul)
+assert stoji(), "otevřením okna se přehrávání rozběhlo"
 stul.tiskni("alt+p", "záznam převzaté směny", lambda: len(zaznamy()) == 2)
 stul.obraz("prevzato")
 stul.klavesa("Escape")
