@@ -302,6 +302,7 @@ Posun posun_na(int v, int kam, Strana strana, int ke, bool naleha) {
     const int e = kolej_cela(t);
     if (e == kam && strana == Strana::libovolna)
         return Posun::na_miste;
+    uvolni_jinou_kolej(v, kam); // who waits for a way elsewhere would keep others from it for ever
     UkolPosunu ukol{e, t.delka, true, true, kam, strana, v};
     if (cely_na_koleji(t)) {
         ukol.smi_vlevo = soused(v, e, Strana::leva) == kZadny;

@@ -61,6 +61,10 @@ void slib_posunu(int v, int kolej, std::span<const PrvekCesty> prvky, int trva_s
         s.potreby.push_back({p.prvek, p.druh, ted_s(), ted_s() + trva_s});
 }
 
+void uvolni_jinou_kolej(int v, int kam) {
+    std::erase_if(vsechny, [=](const Slib& s) { return s.vlak == v && s.posun && s.kolej != kam; });
+}
+
 void zrus_slib(int v) {
     std::erase_if(vsechny, [v](const Slib& s) { return s.vlak == v; });
 }

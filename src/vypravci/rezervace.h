@@ -37,6 +37,8 @@ void uklid_rezervace();
 void slib_jizde(int v, int kolej, std::vector<Potreba> potreby);
 // The same of a shunting movement: it uses the elements from now for `trva_s` seconds.
 void slib_posunu(int v, int kolej, std::span<const PrvekCesty> prvky, int trva_s);
+// Movement v is bound for `kam`: another track that was kept for it is free for others.
+void uvolni_jinou_kolej(int v, int kam);
 // Record v needs nothing any more.
 void zrus_slib(int v);
 

@@ -17,6 +17,7 @@
 #include "uzel/dopravny.h"
 #include "vypravci/pohled.h"
 #include "vypravci/posun_sit.h"
+#include "vypravci/rezervace.h"
 #include "vypravci/vypravci.h"
 
 namespace {
@@ -96,13 +97,17 @@ protected:
         vlak_v_cili(kolej, v);
         return v;
     }
-    // The standby locomotive of the yard is out.
-    static void bez_zalohy() {
+    // A locomotive of the series that stands there alone is out of the game.
+    static void bez_lokomotivy(int kolej, const char* rada) {
         for (std::size_t i = 0; i < vlaky.size(); ++i)
-            if (vlaky[i].cislo > 0 && vlaky[i].vozy.front().rada == "731") {
-                uber_z_koleje(509, static_cast<int>(i));
+            if (const Vlak& t = vlaky[i]; t.cislo > 0 && t.prvky.back().prvek == kolej &&
+                                          t.vozy.size() == 1 && t.vozy.front().rada == rada) {
+                uber_z_koleje(kolej, static_cast<int>(i));
                 zrus_vlak(static_cast<int>(i));
-                barvi_prvek(509, barvy::seda);
+                if (std::none_of(vlaky.begin(), vlaky.end(), [kolej](const Vlak& jiny) {
+                        return jiny.cislo > 0 && jiny.prvky.back().prvek == kolej;
+                    }))
+                    barvi_prvek(kolej, barvy::seda);
             }
     }
     static Zastavka stop(int stanice, int prijezd, int odjezd) {
@@ -266,6 +271,28 @@ TEST_F(PosunVypravciho, TrainThatHasLeftItsLocomotiveBehindGetsOne) {
     vypravci::predej();
     nech_bezet_min(8);
     EXPECT_EQ(vlak_c(v).vozy.size(), 3u);
+}
+
+TEST_F(PosunVypravciho, LocomotiveThatGoesElsewhereKeepsNobodyFromTheTrackItWasBoundFor) {
+    zacni();
+    const int v = prijede(32, false, 840,
+                          {stop(2, -3, minuta(-20)), stop(9, minuta(0), minuta(20)), stop(5, minuta(25), -3)},
+                          1, {"362", "Bp", "Bp"}, 362, 842, 60);
+    ASSERT_EQ(vozy(v), (std::vector<std::string>{"Bp", "Bp"}));
+    const auto stroj = [this](int kolej, std::int32_t cislo, int rada) {
+        const int i = prijede(kolej, false, cislo, {stop(5, -3, minuta(-90)), stop(9, minuta(-80), -3)}, 1,
+                              {text_cisla(rada)}, rada, 0, 18);
+        vlak_c(i).posun = true;
+        vlak_c(i).muze_jet = true;
+        return i;
+    };
+    bez_lokomotivy(32, "362"); // what has brought the set is away already
+    const int na_33 = stroj(33, 842, 362);
+    stroj(145, 841, 842); // in the way of the one that wants to the yard
+    vypravci::predej();
+    slib_posunu(na_33, 32, {}, 0); // it was to meet the set
+    nech_bezet_min(10);
+    EXPECT_EQ(vozy(v), (std::vector<std::string>{"842", "Bp", "Bp"}));
 }
 
 TEST_F(PosunVypravciho, TrainWithTheTimesOfTheNextDayIsLateAndLeaves) {
@@ -432,7 +459,7 @@ TEST_F(PosunVypravciho, TrainWithoutAnyOtherLocomotiveIsPushedByTheOneThatIsShut
                           {stop(9, -3, minuta(2)), stop(8, minuta(8), minuta(9)), stop(1, minuta(15), -3)}, 0,
                           {"854", "Bdtn"}, 854, 0, 42);
     ASSERT_NE(odvesit(v, 1, false), kZadny);
-    bez_zalohy();
+    bez_lokomotivy(509, "731"); // the standby locomotive of the yard
     const std::array<std::uint8_t, 1> stanice{dopravna::tesk};
     vypravci::predej(stanice);
     nech_bezet_min(13);
