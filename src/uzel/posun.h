@@ -11,6 +11,8 @@
 namespace uzel {
 
 inline constexpr std::size_t kKolejiPosunu = 600; // tracks with a lower number only
+// The neck of the main station's yard, where its movements turn or run through.
+inline constexpr int kZhlaviOdstavu = 145;
 
 // Tracks between which movements shunt, ranges with both ends, and whose hands work there: the main station
 // with its yard, depot and post; the lower station with its head tracks; both parts of Hajovice with their
@@ -20,7 +22,7 @@ struct RozsahPosunu {
     int stanice;
 };
 inline constexpr std::array kKolejePosunu = {
-    RozsahPosunu{22, 35, dopravna::tesk},       RozsahPosunu{145, 145, dopravna::tesk},
+    RozsahPosunu{22, 35, dopravna::tesk},       RozsahPosunu{kZhlaviOdstavu, kZhlaviOdstavu, dopravna::tesk},
     RozsahPosunu{503, 503, dopravna::tesk},     RozsahPosunu{509, 510, dopravna::tesk},
     RozsahPosunu{538, 538, dopravna::tesk},     RozsahPosunu{557, 560, dopravna::tesk},
     RozsahPosunu{569, 569, dopravna::tesk},     RozsahPosunu{574, 574, dopravna::tesk},

@@ -137,6 +137,22 @@ constexpr bool je_stanicni(int n) {
     return n < kDruhyStitek || (n > 2 * kDruhyStitek && n < kPrvniTrat) || n == kT2;
 }
 
+// --- the fold of the line from Mokřina to Rybnice
+
+// Its two tracks are drawn in two pieces each, whose numbers are those of two tracks: {piece, first piece}.
+struct KusTrati {
+    int kus, prvni;
+};
+inline constexpr std::array<KusTrati, 2> kOhybMokriny = {{{114, 113}, {116, 115}}};
+
+// --- the usual direction
+
+// Lines whose usual direction is to the left; the others run to the right. Their numbers are those of the
+// first section.
+inline constexpr std::array kTrateVlevo = {602, 606, 610, 614, 618, 622, 626, 630, 634, 636, 120, 19};
+// Lines without a usual direction: single tracks, and what both directions share.
+inline constexpr std::array kTrateObousmerne = {kKamenec, 84, 85, 117, 76, 77, 113, 115};
+
 // --- labels of lines
 
 // Labels that only repeat another one, at a second drawing or a second end of its line.

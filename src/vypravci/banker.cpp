@@ -119,11 +119,11 @@ void uvazli(const planovani::Sit& sit, std::span<const UcastnikBankere> vsichni,
     for (std::size_t m = 0; m < kMist && m < obsazena.size(); ++m)
         stul.drzi[m] = obsazena[m];
     for (const UcastnikBankere& u : vsichni)
-        if (!u.konci || u.od < u.cesta.size())
+        if (u.od < u.cesta.size())
             ++stul.drzi[static_cast<std::size_t>(u.misto)];
     vysledek.assign(vsichni.size(), 1);
     for (std::size_t i = 0; i < vsichni.size(); ++i)
-        if (vsichni[i].od >= vsichni[i].cesta.size() || vsichni[i].zustava)
+        if (vsichni[i].od >= vsichni[i].cesta.size())
             vysledek[i] = 0;
     for (bool pokrok = true; pokrok;) {
         pokrok = false;
@@ -145,8 +145,6 @@ void uvazli(const planovani::Sit& sit, std::span<const UcastnikBankere> vsichni,
             if (!dojede)
                 continue;
             --stul.drzi[static_cast<std::size_t>(u.misto)];
-            if (!u.konci)
-                ++stul.drzi[static_cast<std::size_t>(misto_prvku(u.cesta.back().prvek))];
             vysledek[i] = 0;
             pokrok = true;
         }

@@ -33,12 +33,11 @@ struct UcastnikBankere {
     int misto = 0;           // where it stands, or its last set route ends
     std::int32_t poradi = 0; // of several on one place the one with the lowest goes first
     std::span<const planovani::KrokTrasy> cesta;
-    std::uint8_t od = 0;  // first step of the way that is still before it
-    bool konci = false;   // it leaves the junction, or frees its last place soon
-    bool zustava = false; // it goes nowhere by itself
+    std::uint8_t od = 0; // first step of the way that is still before it
 };
 
-// Which of them cannot reach their ends: one flag each. `obsazena`: places that something else keeps.
+// Which of them cannot reach their ends, where each leaves the junction or frees its place soon: one flag
+// each. `obsazena`: places that something else keeps.
 // `bez_tras`: routes that do not exist now.
 void uvazli(const planovani::Sit& sit, std::span<const UcastnikBankere> vsichni,
             const std::vector<std::uint8_t>& obsazena, std::span<const std::uint8_t> bez_tras,

@@ -8,7 +8,6 @@
 #include "cesty/drzeni.h"
 #include "cesty/navest.h"
 #include "cesty/nova_cesta.h"
-#include "desk/hlaseni.h"
 #include "desk/stitky.h"
 #include "gvd/casy.h"
 #include "gvd/druhy_vlaku.h"
@@ -498,8 +497,8 @@ std::vector<std::uint8_t> obsazena, uvazli_pred, uvazli_po;
 
 // An exit: who comes there leaves the junction, or is taken over by a neighbour.
 bool je_konecna(int prvek) {
-    return je_vstupni(prvek) || prvek == 25 || prvek == 119 || misto_prvku(prvek) == 84 ||
-           misto_prvku(prvek) == 85 || misto_prvku(prvek) == 117;
+    return je_vstupni(prvek) || je_v(prvek, {uzel::kBranaVh.kolej, uzel::kBranaVychod.kolej}) ||
+           uzel::konec_trati(prvek) >= 0;
 }
 
 void priprav_bankere() {
@@ -524,7 +523,6 @@ void priprav_bankere() {
         u.misto = misto_prvku(j.hranice.prvek);
         u.poradi = j.do_hranice_s;
         u.cesta = j.cesta;
-        u.konci = true;
         ucastnici.push_back(u);
         ucastnik_vlaku.push_back(static_cast<int>(w));
     }
@@ -588,40 +586,6 @@ std::span<const int> vstupni_koleje(int prvek, int& stanice) {
         return kDepoVh;
     }
     return {};
-}
-
-std::int16_t ohlasene_zpozdeni(std::int32_t cislo) {
-    for (const Hlaseni& h : hlaseni)
-        if (h.zpozdeni && h.cislo == cislo)
-            return h.minut;
-    return 0;
-}
-
-bool je_na_stole(std::int32_t cislo) {
-    return std::any_of(vlaky.begin(), vlaky.end(), [cislo](const Vlak& v) { return v.cislo == cislo; });
-}
-
-// Trains that will come in at the station within the next minutes and are not here yet.
-int prijde_vlaku(int stanice, int minut) {
-    int pocet = 0;
-    const int ted = minuta_dne(cas_hodin());
-    for (int m = ted; m <= ted + minut; ++m)
-        for (const int n : gvd_vlaky.v_minute(m % kDen_min)) {
-            const GvdVlak& r = radek_gvd(n);
-            pocet += r.zastavky.front().stanice == stanice && aktivni_dnes(r) &&
-                             ohlasene_zpozdeni(r.cislo) == 0 && !je_na_stole(r.cislo)
-                         ? 1
-                         : 0;
-        }
-    for (const Hlaseni& h : hlaseni)
-        if (h.zpozdeni)
-            for (const auto& [klic, n] : gvd_vlaky.s_cislem(h.cislo)) {
-                const GvdVlak& r = radek_gvd(n);
-                const int za = ((cas_vstupu(r) + h.minut - ted) % kDen_min + kDen_min) % kDen_min;
-                pocet +=
-                    r.zastavky.front().stanice == stanice && za <= minut && !je_na_stole(h.cislo) ? 1 : 0;
-            }
-    return pocet;
 }
 
 // A train that ends there would take the last track on which one is due to come in.
@@ -1109,7 +1073,6 @@ bool je_bezpecny_vjezd(int k, std::int32_t cislo) {
     u.misto = misto_prvku(konec.usek);
     u.poradi = kNikdy_s;
     u.cesta = *cesta;
-    u.konci = true;
     ucastnici.push_back(u);
     const bool lze = nikdo_dalsi_neuvazne();
     ucastnici.pop_back();
@@ -1267,8 +1230,4 @@ void obnov_sliby_jizd() {
     for (std::size_t v = 0; v < vlaky.size(); ++v)
         if (jizdy[v].jede)
             slib_jizdy(static_cast<int>(v));
-}
-
-const std::vector<Jizda>& jizdy_vlaku() {
-    return jizdy;
 }

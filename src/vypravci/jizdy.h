@@ -35,8 +35,7 @@ struct Jizda {
     Hranice hranice;
     std::int32_t do_hranice_s = 0; // at least so long until it may go on from there
     std::vector<planovani::Bod> body;
-    std::size_t zastavek = 0; // of which the points are made
-    std::int32_t prvni_cislo = 0;
+    std::size_t zastavek = 0;                // of which the points are made
     std::vector<planovani::KrokTrasy> cesta; // from the frontier to the end
     Hranice cesta_od;                        // the frontier of that way
     std::vector<Usek> useky;                 // its next hops, as they were when promises were made last
@@ -58,8 +57,3 @@ void krok_jizd();
 
 // What each train will need as the desk stands, some seconds ago at most.
 void obnov_sliby_jizd();
-
-// --- at any time, without change
-
-// By the index in `vlaky`; shorter where nothing has been thought of yet.
-const std::vector<Jizda>& jizdy_vlaku();

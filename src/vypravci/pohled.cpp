@@ -4,6 +4,7 @@
 #include "app/cas.h"
 #include "app/simulace.h"
 #include "cesty/navest.h"
+#include "desk/hlaseni.h"
 #include "desk/stitky.h"
 #include "gvd/gvd.h"
 #include "jizda/souprava.h"
@@ -22,6 +23,10 @@
 namespace {
 
 planovani::Sit vlakova, posunova;
+
+bool je_na_stole(std::int32_t cislo) {
+    return std::any_of(vlaky.begin(), vlaky.end(), [cislo](const Vlak& v) { return v.cislo == cislo; });
+}
 
 } // namespace
 
@@ -112,6 +117,28 @@ int kdo_drzi(int e) {
         if (c.zacatek >= 0 && c.Vlak >= 0 && posledni_prvek(c) == e)
             return c.Vlak;
     return kZadny;
+}
+
+int prijde_vlaku(int stanice, int minut) {
+    int pocet = 0;
+    const int ted = minuta_dne(cas_hodin());
+    for (int m = ted; m <= ted + minut; ++m)
+        for (const int n : gvd_vlaky.v_minute(m % kDen_min)) {
+            const GvdVlak& r = radek_gvd(n);
+            pocet += r.zastavky.front().stanice == stanice && aktivni_dnes(r) &&
+                             zpozdeni_vlaku(r.cislo) == 0 && !je_na_stole(r.cislo)
+                         ? 1
+                         : 0;
+        }
+    for (const Hlaseni& h : hlaseni)
+        if (h.zpozdeni)
+            for (const auto& [klic, n] : gvd_vlaky.s_cislem(h.cislo)) {
+                const GvdVlak& r = radek_gvd(n);
+                const int za = ((cas_vstupu(r) + h.minut - ted) % kDen_min + kDen_min) % kDen_min;
+                pocet +=
+                    r.zastavky.front().stanice == stanice && za <= minut && !je_na_stole(h.cislo) ? 1 : 0;
+            }
+    return pocet;
 }
 
 Text jmeno_vlaku(const Vlak& v) {

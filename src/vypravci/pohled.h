@@ -29,6 +29,9 @@ int do_odjezdu_s(const Vlak& v);
 bool je_zdvojen(int v);
 // Element of the main station's track that the record plans for the train; kZadny none.
 int planovana_kolej(const Vlak& v);
+// Trains of the timetable that begin at the station within the next minutes, with their delays, and are not
+// here yet.
+int prijde_vlaku(int stanice, int minut);
 // "Os 14707".
 Text jmeno_vlaku(const Vlak& v);
 // "kolej 5 (Tesk hl. n.)": a track as an operator names it.

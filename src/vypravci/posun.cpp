@@ -52,12 +52,16 @@ constexpr int kNedorazila_s = 12 * 60; // and behind it one that another locomot
 constexpr int kStrojDrzen_min = 120;   // before the departure of its next train a locomotive stays for it
 constexpr int kStrojuVOdstavu = 3;     // locomotives without a train may stand in the yard
 constexpr int kOdjezdPovelem_s = 60;   // before its time a train is given the order to leave
+// A train of the timetable that finds the gate of its depot taken does not run that day: so many minutes
+// before it no other locomotive is called out there, since it may wait long for a way on.
+constexpr int kPredVyjezdem_min = 20;
 constexpr int kPretahPozde_s =
     10 * 60; // a train later than that keeps its locomotive where the change takes long,
 constexpr int kPretahKonec_s = 12 * 60; // and gives up a change that was begun
 constexpr int kPretah_s =
     4 * 60; // for which a section before the station is free for a set that changes there
 constexpr double kPosun_ms = 7.0; // metres a second
+constexpr int kStroj_m = 36;      // two locomotives together; a single one is shorter
 constexpr int kPriprava_s = 15;   // until the signal of a shunt route clears
 
 constexpr TextPohled kZaloha = "ZAL";
@@ -154,7 +158,7 @@ bool je_obsazena(int e) {
 // In the neck of the yard, where all movements of the main station turn or run through.
 bool stoji_na_zhlavi(int v) {
     const int e = kolej_cela(vlak_c(v));
-    return e == 145 || uzel::je_prujezdna_posunu(e);
+    return e == uzel::kZhlaviOdstavu || uzel::je_prujezdna_posunu(e);
 }
 
 // --- consists
@@ -343,7 +347,7 @@ Posun posun_na(int v, int kam, Strana strana, int ke, bool naleha) {
         const ZaznamCesty& z = sit_posunu().trasy[cesta->trasy[i]].zaznam;
         nase_cesty.push_back({z.zacatek, z.konec, ted_s()});
     }
-    slib_posunu(v, kam, prvky, trva_s);
+    slib_posunu(v, kam);
     pamet_c(v).od_s = ted_s();
     Text veta = jmeno_posunu(v);
     veta += " posunuje z "_cz;
@@ -531,9 +535,10 @@ void prirad_stroje() {
 // A locomotive of that series, or one that does its work, is called out of the depot of Hajovice.
 bool zavolej(const Zadost& z) {
     const uzel::Brana& brana = uzel::jsou_hajovice_vychod(z.kolej) ? uzel::kBranaVychod : uzel::kBranaZapad;
-    if (je_obsazena(brana.kolej) || !je_volna(brana.kolej) || !cil_volny(brana.kolej))
+    if (je_obsazena(brana.kolej) || !je_volna(brana.kolej) || !cil_volny(brana.kolej) ||
+        prijde_vlaku(brana.popis, kPredVyjezdem_min) > 0)
         return false;
-    if (!najdi_posun({brana.kolej, 36, true, true, z.kolej, z.strana}))
+    if (!najdi_posun({brana.kolej, kStroj_m, true, true, z.kolej, z.strana}))
         return false;
     Text rada;
     if (z.dvojice && z.rada == 230)
@@ -566,6 +571,7 @@ bool zavolej_motorovy(const Zadost& z) {
                                    [&z](TextPohled r) { return rada_vozu(r) == z.rada; });
     const int brana = uzel::kBranaVh.kolej;
     if (rada == uzel::kRadyDepaVh.end() || je_obsazena(brana) || !je_volna(brana) || !cil_volny(brana) ||
+        prijde_vlaku(uzel::kBranaVh.popis, kPredVyjezdem_min) > 0 ||
         std::any_of(vlaky.begin(), vlaky.end(), [&z](const Vlak& v) {
             return v.cislo > 0 && v.druh == druh_vlaku::lv && jen_loko(v) && rada_cela(v) == z.rada;
         }))
@@ -992,7 +998,7 @@ void ved_k_nastupu(int v) {
         }
         return;
     }
-    bool tlaci = e == 25 || e == uzel::kKusaKolej;
+    bool tlaci = e == uzel::kBranaVh.kolej || e == uzel::kKusaKolej;
     for (const std::int32_t cislo : souhlasy.cekajici_vlaky)
         if (const GvdVlak* r = radek_vlaku(cislo);
             r != nullptr && r->zastavky.front().stanice == dopravna::tesk)
@@ -1037,7 +1043,7 @@ void ved_pretah(int v) {
         for (const int k : uzel::kPretah)
             if (!je_obsazena(k) && slibena(k) == kZadny && volna_jeste_s(k, v) > kPretah_s &&
                 posun_na(v, k, Strana::libovolna, kZadny, naleha) == Posun::jede) {
-                slib_posunu(v, e, {}, 0); // its platform is kept for it
+                slib_posunu(v, e); // its platform is kept for it
                 return;
             }
         return;

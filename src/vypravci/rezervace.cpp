@@ -52,13 +52,11 @@ void slib_jizde(int v, int kolej, std::vector<Potreba> potreby) {
     s.potreby = std::move(potreby);
 }
 
-void slib_posunu(int v, int kolej, std::span<const PrvekCesty> prvky, int trva_s) {
+void slib_posunu(int v, int kolej) {
     Slib& s = slib_pro(v);
     s.kolej = kolej;
     s.posun = true;
     s.potreby.clear();
-    for (const PrvekCesty& p : prvky)
-        s.potreby.push_back({p.prvek, p.druh, ted_s(), ted_s() + trva_s});
 }
 
 void uvolni_jinou_kolej(int v, int kam) {
@@ -67,14 +65,6 @@ void uvolni_jinou_kolej(int v, int kam) {
 
 void zrus_slib(int v) {
     std::erase_if(vsechny, [v](const Slib& s) { return s.vlak == v; });
-}
-
-bool volno_v_case(std::span<const PrvekCesty> prvky, int za_s, int trva_s, int v) {
-    obnov_sliby_jizd();
-    const std::int32_t od = ted_s() + za_s;
-    return std::none_of(vsechny.begin(), vsechny.end(), [&](const Slib& s) {
-        return s.vlak != v && plati(s) && potrebuje(s, prvky, od, od + trva_s);
-    });
 }
 
 bool volno_pro_posun(std::span<const PrvekCesty> prvky, int trva_s, int odkud, int kam) {

@@ -35,8 +35,8 @@ void zapomen_rezervace();
 void uklid_rezervace();
 // Train v will need these elements, and stand on `kolej`; in place of what it was promised before.
 void slib_jizde(int v, int kolej, std::vector<Potreba> potreby);
-// The same of a shunting movement: it uses the elements from now for `trva_s` seconds.
-void slib_posunu(int v, int kolej, std::span<const PrvekCesty> prvky, int trva_s);
+// The same of a shunting movement. What it runs over is the business of its route alone.
+void slib_posunu(int v, int kolej);
 // Movement v is bound for `kam`: another track that was kept for it is free for others.
 void uvolni_jinou_kolej(int v, int kam);
 // Record v needs nothing any more.
@@ -45,10 +45,8 @@ void zrus_slib(int v);
 // --- at any time
 // What the trains need is worked out anew when somebody asks.
 
-// No other than v needs one of the elements from `za_s` seconds on for `trva_s` seconds.
-bool volno_v_case(std::span<const PrvekCesty> prvky, int za_s, int trva_s, int v);
-// The same for a shunting movement from now on: no train comes over the elements meanwhile. A train that
-// stands where the movement begins or ends is the one for which it goes, and waits.
+// For a shunting movement over the elements from now on: no train comes over them for `trva_s` seconds. One
+// that stands where the movement begins or ends is the one for which it goes, and waits.
 bool volno_pro_posun(std::span<const PrvekCesty> prvky, int trva_s, int odkud, int kam);
 // To whom the track is promised: index of a train or shunting movement, kZadny nobody.
 int slibena(int kolej);

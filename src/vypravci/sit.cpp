@@ -4,6 +4,7 @@
 #include "gvd/druhy_vlaku.h"
 #include "jizda/zastavky.h"
 #include "uzel/cislovani.h"
+#include "uzel/navestidla.h"
 #include "uzel/rychlosti.h"
 #include "uzel/trate.h"
 #include "uzel/umisteni.h"
@@ -35,19 +36,13 @@ constexpr int kObjeti_m = 5'000;     // what a run of the locomotive round its t
 constexpr int kKratka_m = 2'000'000; // what a track that is too short is avoided by
 constexpr int kNejvyssi = 1000;      // switches are numbered from here where kinds are mixed
 
-// Lines whose usual direction is to the left; the others run to the right. Their numbers are those of the
-// first section.
-constexpr std::array kVlevo = {602, 606, 610, 614, 618, 622, 626, 630, 634, 636, 120, 19};
-// Lines without a usual direction.
-constexpr std::array kObousmerne = {118, 84, 85, 117, 76, 77, 113, 115};
-
 bool je_rodina(int prvek) {
     return prvek >= kPrvniTrat && prvek <= kNejvyssiPrvek;
 }
 
 // The sense in which a route leads, by the number of its start signal.
 bool smer_navestidla(int s) {
-    if (s == 115 || s == 116 || s == 998)
+    if (je_v(s, uzel::kVpravoProtiCislu) || s == uzel::kObrazKamence)
         return true;
     if (je_na_ser(s))
         return s >= kPrvniTrat;
@@ -68,23 +63,15 @@ void pridej_useky(const Sit& sit, ZaznamCesty& z, bool smer) {
 namespace {
 
 int najdi_stanici(int prvek) {
-    switch (prvek) {
-    case 84:
-    case 212: return dopravna::polska_lhota;
-    case 85:
-    case 213: return dopravna::hvozdy;
-    case 117:
-    case 219: return dopravna::vrbice;
-    case 25: return dopravna::dkv_vh;
-    case 55:
-    case 56: return dopravna::hajovice_sn;
-    case 91:
-    case 92: return dopravna::hajovice_sn_2;
-    case 112: return dopravna::dkv;
-    case 119: return dopravna::dkv_2;
-    case 574: return dopravna::posta;
-    default: return stanice_prvku(prvek);
-    }
+    if (const int k = uzel::konec_trati(prvek); k >= 0)
+        return uzel::kKonceTrati[static_cast<std::size_t>(k)].stanice;
+    for (const uzel::VstupZeStanice& v : uzel::kVstupy)
+        if (prvek > 0 && je_v(prvek, v.koleje))
+            return v.stanice;
+    for (const uzel::Brana& b : {uzel::kBranaZapad, uzel::kBranaVychod, uzel::kBranaVh})
+        if (prvek == b.kolej)
+            return b.popis;
+    return prvek == uzel::kKusaKolej ? dopravna::posta : stanice_prvku(prvek);
 }
 
 } // namespace
@@ -102,23 +89,20 @@ int stanice_elementu(int prvek) {
 int trat_elementu(int prvek) {
     if (je_rodina(prvek))
         return kPrvniTrat + prvek % kKrokTrati;
-    switch (prvek) {
-    case 212: return 84;
-    case 213: return 85;
-    case 219: return 117;
-    case 93: return 634;
-    case 94: return 636;
-    case 96: return 632;
-    case 114: return 113;
-    case 116: return 115;
-    default: return prvek;
-    }
+    if (const int usek = uzel::usek_za_vstupem(prvek); usek >= 0)
+        return usek;
+    if (const uzel::KolejPredTrati* k = uzel::kolej_pred_trati(prvek))
+        return k->usek;
+    for (const uzel::KusTrati& k : uzel::kOhybMokriny)
+        if (prvek == k.kus)
+            return k.prvni;
+    return prvek;
 }
 
 bool je_tratovy(int prvek) {
     const int t = trat_elementu(prvek);
     return je_rodina(t) || (t >= 19 && t <= 21) || t == uzel::kKamenec || uzel::je_trat_dubnice(t) ||
-           std::find(kObousmerne.begin(), kObousmerne.end(), t) != kObousmerne.end();
+           je_v(t, uzel::kTrateObousmerne);
 }
 
 namespace {
@@ -127,10 +111,7 @@ bool urci_protismer(int prvek, bool smer) {
     if (!je_tratovy(prvek))
         return false;
     const int t = trat_elementu(prvek);
-    if (std::find(kObousmerne.begin(), kObousmerne.end(), t) != kObousmerne.end())
-        return false;
-    const bool vlevo = std::find(kVlevo.begin(), kVlevo.end(), t) != kVlevo.end();
-    return smer == vlevo;
+    return !je_v(t, uzel::kTrateObousmerne) && smer == je_v(t, uzel::kTrateVlevo);
 }
 
 bool je_protismer(int prvek, bool smer) {

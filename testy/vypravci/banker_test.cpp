@@ -45,7 +45,6 @@ protected:
         u.misto = misto;
         u.cesta = cesta;
         u.poradi = poradi;
-        u.konci = true;
         return u;
     }
     std::vector<std::uint8_t> posud(const std::vector<UcastnikBankere>& vsichni,
@@ -99,14 +98,6 @@ TEST_F(BankerDveKoleje, TrainBehindAnotherOnALineWaitsForIt) {
     const auto proti = cesta({20, 12, 88}, false);
     EXPECT_EQ(posud({vlak(20, proti, 60), vlak(20, proti, 10)}), (std::vector<std::uint8_t>{0, 0}));
     EXPECT_EQ(posud({vlak(20, proti, 60), vlak(20, proti, 10)}, {88}), (std::vector<std::uint8_t>{1, 1}));
-}
-
-TEST_F(BankerDveKoleje, WhatStandsForGoodIsNotStuckAndKeepsItsPlace) {
-    const auto proti = cesta({20, 12, 88}, false);
-    UcastnikBankere souprava = vlak(88, {});
-    souprava.konci = false;
-    souprava.zustava = true;
-    EXPECT_EQ(posud({souprava, vlak(20, proti)}), (std::vector<std::uint8_t>{0, 1}));
 }
 
 TEST(MistaBankere, AllSectionsOfALineAreOnePlaceAndT2IsItsOwn) {

@@ -151,6 +151,18 @@ vlak Os 13301
   stavi BOR 10:52 -
 )";
 
+const char* const kZDepa = R"(popis "z malého depa"
+vlak Sv 9790
+  dny denně
+  rychlost 60
+  delka 21
+  loko 854
+  vozy 854
+  kolej "9k"
+  stavi DVH -     10:18
+  stavi THN 10:28 -
+)";
+
 } // namespace
 
 TEST_F(PosunVypravciho, SetOfTheYardStandsAtItsPlatformBeforeItsDepartureAndTheYardLocomotiveGoesHome) {
@@ -290,7 +302,7 @@ TEST_F(PosunVypravciho, LocomotiveThatGoesElsewhereKeepsNobodyFromTheTrackItWasB
     const int na_33 = stroj(33, 842, 362);
     stroj(145, 841, 842); // in the way of the one that wants to the yard
     vypravci::predej();
-    slib_posunu(na_33, 32, {}, 0); // it was to meet the set
+    slib_posunu(na_33, 32); // it was to meet the set
     nech_bezet_min(10);
     EXPECT_EQ(vozy(v), (std::vector<std::string>{"842", "Bp", "Bp"}));
 }
@@ -451,6 +463,20 @@ TEST_F(PosunVypravciho, RailcarOfTheSmallDepotTakesTheCoachesWhoseOwnIsShutIn) {
     EXPECT_EQ(vozy(v), (std::vector<std::string>{"842", "Bdtn"}));
     EXPECT_TRUE(rekl("volá z depa motorový vůz 842"));
     EXPECT_EQ(vlak_c(zavreny).prvky.back().prvek, 27);
+}
+
+TEST_F(PosunVypravciho, GateOfTheDepotIsLeftToATrainOfTheTimetableThatComesOutThereSoon) {
+    zacni(kZDepa);
+    const int v = prijede(27, true, 17802,
+                          {stop(9, -3, minuta(60)), stop(8, minuta(66), minuta(67)), stop(1, minuta(73), -3)},
+                          0, {"842", "Bdtn"}, 842, 0, 42);
+    ASSERT_NE(odvesit(v, 1, false), kZadny);
+    vypravci::predej();
+    nech_bezet_min(15);
+    EXPECT_FALSE(rekl("volá z depa motorový vůz 842"));
+    nech_bezet_min(12);
+    EXPECT_TRUE(rekl("Lokomotiva 854 posunuje z koleje 25"));
+    EXPECT_TRUE(rekl("volá z depa motorový vůz 842"));
 }
 
 TEST_F(PosunVypravciho, TrainWithoutAnyOtherLocomotiveIsPushedByTheOneThatIsShutIn) {

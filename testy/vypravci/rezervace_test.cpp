@@ -23,7 +23,7 @@ TEST_F(Rezervace, TrainNeedsItsPlatformAtItsTimeAndNotBefore) {
     EXPECT_EQ(slibena(28), kZadny); // it stops at Hrabov first
 }
 
-TEST_F(Rezervace, PromiseOfAShuntingMovementEndsWithItsTimeAndWithItsRecord) {
+TEST_F(Rezervace, PromiseOfAShuntingMovementEndsWithItsRecord) {
     motorak(101, {dopravna::lhotin, dopravna::tesk}, {-1, 499}, {485, -1});
     zacni(8, 0);
     vypravci::predej();
@@ -35,13 +35,25 @@ TEST_F(Rezervace, PromiseOfAShuntingMovementEndsWithItsTimeAndWithItsRecord) {
     vlaky[static_cast<std::size_t>(i)].posun = true;
     sekund(8);
     ASSERT_EQ(slibena(530), kZadny); // what it was promised as a train is gone
-    const std::vector<PrvekCesty> prvky{{530, druh_prvku::kolej, 0}};
-    slib_posunu(i, 530, prvky, 60);
+    slib_posunu(i, 530);
     EXPECT_EQ(slibena(530), i);
-    EXPECT_FALSE(volno_v_case(prvky, 0, 10, kZadny));
-    EXPECT_TRUE(volno_v_case(prvky, 61, 10, kZadny));
-    EXPECT_TRUE(volno_v_case(prvky, 0, 10, i));
+    uvolni_jinou_kolej(i, 530);
+    EXPECT_EQ(slibena(530), i);
     vlaky[static_cast<std::size_t>(i)].cislo = 0;
     EXPECT_EQ(slibena(530), kZadny);
     uklid_rezervace();
+}
+
+TEST_F(Rezervace, ShuntingMovementThatGoesElsewhereFreesTheTrackKeptForIt) {
+    motorak(101, {dopravna::lhotin, dopravna::tesk}, {-1, 499}, {485, -1});
+    zacni(8, 0);
+    vypravci::predej();
+    sekund(5 * 60);
+    const Vlak* v = najdi(101);
+    ASSERT_NE(v, nullptr);
+    const int i = static_cast<int>(v - vlaky.data());
+    vypravci::vezmi();
+    slib_posunu(i, 530);
+    uvolni_jinou_kolej(i, 28);
+    EXPECT_EQ(slibena(530), kZadny);
 }
