@@ -2,10 +2,14 @@
 // couplings and splits, locomotives that run round, number changes of engines.
 #pragma once
 
+namespace posunovani {
+
 // --- when the desk is handed over
 
-void zacni_posun();
+void zacni();
 
 // --- once a step, before the train movements
 
-void krok_posunu();
+void krok();
+
+} // namespace posunovani

@@ -29,7 +29,7 @@ void zacni() {
     stav_vypravciho.cekani.clear();
     zapomen_rezervace();
     zacni_jizdy();
-    zacni_posun();
+    posunovani::zacni();
     zacni_zpozdeni();
     zacni_smery();
     pamatuje = true;
@@ -148,7 +148,7 @@ void krok() {
     posledni_krok_s = ted_s();
     odpovez_na_zpravy();
     uklid_zpozdeni();
-    krok_posunu();
+    posunovani::krok();
     krok_jizd();
     uvolni_smery();
 }
