@@ -7,7 +7,7 @@
 #include "relief/relief.h"
 #include "uzel/posun.h"
 #include "uzel/zastavky.h"
-#include "vypravci/jizdy.h"
+#include "vypravci/cesta_vlaku.h"
 #include "vypravci/pohled.h"
 #include "vypravci/rezervace.h"
 #include "vypravci/vypravci.h"
@@ -50,7 +50,7 @@ double cena_koleje(int kolej) {
 // Tracks that somebody else is promised: nobody turns there before he has come and gone.
 void najdi_slibene(int kdo) {
     slibene.fill(0);
-    obnov_sliby_jizd();
+    vypravovani::obnov_sliby_jizd();
     for (const Slib& s : sliby())
         if (s.vlak != kdo && uzel::je_kolej_posunu(s.kolej))
             slibene[static_cast<std::size_t>(s.kolej)] = 1;

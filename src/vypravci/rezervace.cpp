@@ -3,7 +3,7 @@
 
 #include "app/cas.h"
 #include "jizda/vlak.h"
-#include "vypravci/jizdy.h"
+#include "vypravci/cesta_vlaku.h"
 
 #include <algorithm>
 #include <limits>
@@ -68,7 +68,7 @@ void zrus_slib(int v) {
 }
 
 bool volno_pro_posun(std::span<const PrvekCesty> prvky, int trva_s, int odkud, int kam) {
-    obnov_sliby_jizd();
+    vypravovani::obnov_sliby_jizd();
     const std::int32_t od = ted_s();
     return std::none_of(vsechny.begin(), vsechny.end(), [&](const Slib& s) {
         return !s.posun && plati(s) && !drzi_prvek(vlak_c(s.vlak), odkud) &&
@@ -77,7 +77,7 @@ bool volno_pro_posun(std::span<const PrvekCesty> prvky, int trva_s, int odkud, i
 }
 
 int slibena(int kolej) {
-    obnov_sliby_jizd();
+    vypravovani::obnov_sliby_jizd();
     for (const Slib& s : vsechny)
         if (s.kolej == kolej && plati(s))
             return s.vlak;
@@ -85,7 +85,7 @@ int slibena(int kolej) {
 }
 
 int volna_jeste_s(int kolej, int v) {
-    obnov_sliby_jizd();
+    vypravovani::obnov_sliby_jizd();
     int nejdriv = std::numeric_limits<int>::max();
     for (const Slib& s : vsechny)
         if (s.vlak != v && !s.posun && plati(s))

@@ -28,7 +28,7 @@ std::int32_t posledni_krok_s = 0; // ted_s() of his last step
 void zacni() {
     stav_vypravciho.cekani.clear();
     zapomen_rezervace();
-    zacni_jizdy();
+    vypravovani::zacni();
     posunovani::zacni();
     zacni_zpozdeni();
     zacni_smery();
@@ -149,7 +149,7 @@ void krok() {
     odpovez_na_zpravy();
     uklid_zpozdeni();
     posunovani::krok();
-    krok_jizd();
+    vypravovani::krok();
     uvolni_smery();
 }
 
