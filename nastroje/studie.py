@@ -11,6 +11,7 @@ import argparse
 import csv
 import json
 import math
+import os
 import pathlib
 import re
 import shlex
@@ -142,14 +143,17 @@ def proved_ulohy(volby, rekni):
     """GNU parallel runs what has not run yet; its job log says what has."""
     if shutil.which("parallel") is None:
         raise Chyba("chybí GNU parallel (balík parallel)")
-    seznam = volby.vystup / "ulohy.txt"
-    radky = [json.dumps(u, ensure_ascii=True, separators=(",", ":")) for u in ulohy(volby)]
+    seznam, behy, denik = volby.vystup / "ulohy.txt", volby.vystup / "behy", volby.vystup / "prubeh.log"
+    zadani = ulohy(volby)
+    radky = [json.dumps(u, ensure_ascii=True, separators=(",", ":")) for u in zadani]
     if seznam.exists() and seznam.read_text(encoding="utf-8").splitlines() != radky:
         raise Chyba("ve složce %s je jiná studie; zvolte jinou složku" % volby.vystup)
-    (volby.vystup / "behy").mkdir(parents=True, exist_ok=True)
+    behy.mkdir(parents=True, exist_ok=True)
     seznam.write_text("\n".join(radky) + "\n", encoding="utf-8")
-    slova = ["parallel", "--will-cite", "--joblog", str(volby.vystup / "prubeh.log"), "--resume-failed",
-             "--results", str(volby.vystup / "behy") + "/{#}.vysledek", "-a", str(seznam)]
+    zapomen_nehotove(denik, behy)
+    # --plain: words of the user's own for parallel would change what the results look like
+    slova = ["parallel", "--plain", "--will-cite", "--joblog", str(denik), "--resume-failed",
+             "--results", str(behy) + "/{#}.vysledek", "-a", str(seznam)]
     if volby.soubezne:
         slova += ["--jobs", str(volby.soubezne)]
     if volby.hosti:
@@ -160,27 +164,61 @@ def proved_ulohy(volby, rekni):
     slova.append("python3 -B %s --davka %s --uloha {}" % (shlex.quote(str(pathlib.Path(__file__).resolve())),
                                                          shlex.quote(str(volby.davka.resolve()))))
     rekni("Běhů: %d" % len(radky))
-    v = subprocess.run(slova, stdout=subprocess.DEVNULL, stderr=None if prubeh else subprocess.PIPE,
-                       encoding="utf-8")
+    # Without PARALLEL_SHELL a job on another machine is given to the $SHELL of that login. Where there is none (a service,
+    # a container), parallel runs nothing there, says nothing and takes the job for done.
+    v = subprocess.run(slova, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, encoding="utf-8", errors="replace",
+                       stderr=None if prubeh else subprocess.PIPE, env=dict(os.environ, PARALLEL_SHELL="/bin/sh"))
     if v.returncode:
-        chyby = sorted({s.read_text(encoding="utf-8").strip() for s in (volby.vystup / "behy").glob("*.err")} - {""})
         # parallel counts failed runs up to 100; above that it tells only that there are more, or another fault
-        kolik = "běhů selhalo: %d" % v.returncode if v.returncode <= 100 else "běhy selhaly"
-        raise Chyba("%s; týž příkaz je zkusí znovu.\n%s" % (kolik, "\n".join(chyby[:5])), 1)
+        kolik = "běhů selhalo: %d" % v.returncode if 0 < v.returncode <= 100 else "běhy selhaly"
+        raise Chyba("\n".join(["%s; týž příkaz je zkusí znovu." % kolik, *proc_selhaly(behy, v.stderr)]), 1)
+    chybi = [n for n in range(1, len(radky) + 1) if cti_vysledek(behy / ("%d.vysledek" % n)) is None]
+    if chybi:
+        kde = {r[0]: r[1] for r in zaznamy_deniku(denik)[1:]}
+        ktere = ["  %s, počítač %s" % (jmeno_behu(zadani[n - 1]), kde.get(str(n), "neznámý")) for n in chybi[:5]]
+        raise Chyba("\n".join(["běhů, které skončily bez výsledku: %d z %d; týž příkaz je zkusí znovu."
+                               % (len(chybi), len(radky)), *ktere, *proc_selhaly(behy, v.stderr)]), 1)
+
+
+def proc_selhaly(behy, vypis):
+    """The reasons, as the runs and parallel itself told them."""
+    chyby = sorted({s.read_text(encoding="utf-8", errors="replace").strip() for s in behy.glob("*.err")} - {""})
+    rekly = {r for text in chyby for r in text.splitlines()}
+    sam = dict.fromkeys(r for r in (vypis or "").splitlines() if r.strip() and r not in rekly)
+    return chyby[:5] + list(sam)[:10]
+
+
+def zaznamy_deniku(denik):
+    """The rows of parallel's job log, the head first: number of the job, machine, ..."""
+    return [r.split("\t") for r in denik.read_text(encoding="utf-8").splitlines()] if denik.exists() else []
+
+
+def zapomen_nehotove(denik, behy):
+    """A run whose result is not whole has to run again, even if parallel has noted it as done."""
+    zaznamy = zaznamy_deniku(denik)
+    zbyde = zaznamy[:1] + [r for r in zaznamy[1:] if cti_vysledek(behy / (r[0] + ".vysledek")) is not None]
+    if len(zbyde) != len(zaznamy):
+        denik.write_text("".join("\t".join(r) + "\n" for r in zbyde), encoding="utf-8")
+
+
+def cti_vysledek(soubor):
+    """What a run came to; None when it has not come to an end."""
+    try:
+        return json.loads(soubor.read_text(encoding="utf-8"))
+    except (OSError, ValueError):
+        return None
 
 
 def nacti_behy(vystup):
     behy = []
     for soubor in sorted((vystup / "behy").glob("*.vysledek"), key=lambda s: int(s.stem)):
-        text = soubor.read_text(encoding="utf-8")
-        if not text.strip():
-            continue
-        try:
-            behy.append(json.loads(text))
-        except ValueError: # broken off while it was written; the next start runs it again
+        vysledek = cti_vysledek(soubor)
+        if vysledek is not None:
+            behy.append(vysledek)
+        elif soubor.stat().st_size: # broken off while it was written; the next start runs it again
             print("Výsledek %s není celý, nepočítá se." % soubor.name, file=sys.stderr)
     if not behy:
-        raise Chyba("ve složce %s není žádný běh" % vystup)
+        raise Chyba("\n".join(["ve složce %s není žádný hotový běh" % vystup, *proc_selhaly(vystup / "behy", "")]))
     return behy
 
 

@@ -11,6 +11,7 @@ import concurrent.futures
 import json
 import os
 import pathlib
+import signal
 import subprocess
 import sys
 import threading
@@ -45,6 +46,29 @@ class Hlidaci:
             self.konec = True
             for proces in self.bezi:
                 proces.terminate()
+
+
+class Preruseni:
+    """Ctrl-C as a note. Python's own exception for it may come while a lock is held, or wait as long as the main thread
+    waits; the soak looks for the note several times a second. Where the signal is ignored (nohup) it stays so."""
+
+    def __init__(self):
+        self.prislo, self.puvodni = False, signal.getsignal(signal.SIGINT)
+        if self.puvodni is not signal.SIG_IGN:
+            signal.signal(signal.SIGINT, self._zapis)
+
+    def _zapis(self, *_):
+        self.prislo = True
+
+    def dokud_neprijde(self, bezi):
+        """The runs as they end, until all have or the note has come."""
+        zbyva = set(bezi)
+        while zbyva and not self.prislo:
+            hotove, zbyva = concurrent.futures.wait(zbyva, 0.2, concurrent.futures.FIRST_COMPLETED)
+            yield from hotove
+
+    def zpatky(self):
+        signal.signal(signal.SIGINT, self.puvodni)
 
 
 def beh(hlidaci, volby, gvd, semeno):
@@ -122,24 +146,26 @@ def hlavni(slova=None):
     volby.davka = volby.davka.resolve()
     volby.vystup.mkdir(parents=True, exist_ok=True)
     zadani = [(g, s) for s in range(1, volby.semen + 1) for g in volby.gvd]
-    nejhorsi, vety, hlidaci = 0, [], Hlidaci()
+    nejhorsi, vety, hlidaci, preruseni = 0, [], Hlidaci(), Preruseni()
     behy = concurrent.futures.ThreadPoolExecutor(volby.soubezne)
     try:
         print(HLAVA, flush=True)
         bezi = {behy.submit(beh, hlidaci, volby, *z): z for z in zadani}
-        for hotovy in concurrent.futures.as_completed(bezi):
+        for hotovy in preruseni.dokud_neprijde(bezi):
             (gvd, semeno), (soud, stav, text) = bezi[hotovy], hotovy.result()
             print(radek(gvd, semeno, soud, stav), flush=True)
             if stav:
                 nejhorsi = 1
                 vety += ["%s, semeno %d: %s" % (gvd, semeno, v) for v in
                          ([text] if soud is None else soud["poruseno"] + soud["rozdily"])]
-    except KeyboardInterrupt:
-        hlidaci.zastav()
+    finally:
+        if preruseni.prislo:
+            hlidaci.zastav()
+        behy.shutdown(cancel_futures=True)
+        preruseni.zpatky()
+    if preruseni.prislo:
         print("Přerušeno; týž příkaz pokračuje.", file=sys.stderr)
         return PRERUSENO
-    finally:
-        behy.shutdown(cancel_futures=True)
     for veta in sorted(vety):
         print(veta)
     print("V pořádku." if not nejhorsi else "Některá mez neplatí; podrobnosti jsou ve složce %s." % volby.vystup)

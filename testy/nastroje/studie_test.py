@@ -156,14 +156,28 @@ class Beh(Slozka):
         self.assertEqual([b.stat().st_mtime_ns == casy[b] for b in behy], [True, True, False, True])
         self.assertEqual(self.studie("--semen", "2", "--zpozdeni", "0", "+5", "--jen-souhrn")[:2], (0, text))
 
+    def nahradni_program(self, jmeno, telo):
+        """A program of that name that comes before the real one, as long as the test runs; $* are its words."""
+        program = self.slozka / "bin" / jmeno
+        program.parent.mkdir(exist_ok=True)
+        program.write_text("#!/bin/sh\n" + telo, encoding="utf-8")
+        program.chmod(0o755)
+        prostredi = {jm: hodnota for jm, hodnota in os.environ.items() if not jm.startswith("PARALLEL")}
+        if not prostredi["PATH"].startswith(str(program.parent)):
+            prostredi["PATH"] = "%s:%s" % (program.parent, prostredi["PATH"])
+        zmena = unittest.mock.patch.dict(os.environ, prostredi, clear=True)
+        zmena.start()
+        self.addCleanup(zmena.stop)
+
+    def ssh(self, prikaz='exec sh -c "$*"'):
+        """Every host is this machine, and the call is written down."""
+        self.nahradni_program("ssh", 'while [ "${1#-}" != "$1" ]; do shift; done\necho "$1" >> "%s"\n'
+                              'shift\n[ "$1" = -- ] && shift\n%s\n' % (self.slozka / "hosti", prikaz))
+
     def test_runs_go_to_the_machines_that_are_named(self):
-        ssh = self.slozka / "bin" / "ssh"  # every host is this machine, and the call is written down
-        ssh.parent.mkdir()
-        ssh.write_text('#!/bin/sh\nwhile [ "${1#-}" != "$1" ]; do shift; done\necho "$1" >> "%s"\n'
-                       'shift\n[ "$1" = -- ] && shift\nexec sh -c "$*"\n' % (self.slozka / "hosti"), encoding="utf-8")
-        ssh.chmod(0o755)
-        with unittest.mock.patch.dict(os.environ, {"PATH": "%s:%s" % (ssh.parent, os.environ["PATH"])}):
-            stav, text, chyby = self.studie("--semen", "3", "--hosti", "1/prvni,1/druhy")
+        self.ssh()
+        os.environ.pop("SHELL", None)  # a machine whose login names no shell
+        stav, text, chyby = self.studie("--semen", "3", "--hosti", "1/prvni,1/druhy")
         self.assertEqual(stav, 0, chyby)
         self.assertIn("(3 běhů)", text)
         volani = (self.slozka / "hosti").read_text(encoding="utf-8").split()
@@ -171,6 +185,31 @@ class Beh(Slozka):
         prubeh = (self.slozka / "st" / "prubeh.log").read_text(encoding="utf-8").splitlines()[1:]
         self.assertEqual({r.split("\t")[1] for r in prubeh}, {"prvni", "druhy"})
         self.assertEqual(len(prubeh), 3)
+
+    def test_run_that_ends_without_a_result_is_told_and_tried_again(self):
+        self.ssh("echo zavřeno >&2; exit 0")
+        stav, _, chyby = self.studie("--semen", "1", "--hosti", "1/prvni")
+        self.assertEqual(stav, 1, chyby)
+        self.assertIn("skončily bez výsledku: 1 z 1", chyby)
+        self.assertIn("GVD_cvicny 5:10 zpoždění 1 semeno 1, počítač prvni", chyby)
+        self.assertEqual(chyby.count("zavřeno"), 1, chyby)
+        stav, _, chyby = self.program(s, "--vystup", self.slozka / "st", "--jen-souhrn")
+        self.assertEqual(stav, 2)
+        self.assertIn("zavřeno", chyby, "the sum alone tells why there is nothing to sum")
+        self.ssh()
+        self.assertEqual(self.studie("--semen", "1", "--hosti", "1/prvni")[0], 0)
+
+    def test_what_parallel_says_of_itself_reaches_the_user(self):
+        self.nahradni_program("parallel", 'echo "parallel: Error: no place" >&2\nexit 255\n')
+        stav, _, chyby = self.studie("--semen", "1")
+        self.assertEqual(stav, 1)
+        self.assertIn("běhy selhaly", chyby)
+        self.assertIn("parallel: Error: no place", chyby)
+
+    def test_words_of_the_user_for_parallel_leave_the_study_as_it_is(self):
+        with unittest.mock.patch.dict(os.environ, {"PARALLEL": "--dry-run"}):
+            stav, _, chyby = self.studie("--semen", "1")
+        self.assertEqual(stav, 0, chyby)
 
     def test_other_study_does_not_go_into_the_same_folder(self):
         self.assertEqual(self.studie("--semen", "1")[0], 0)
@@ -212,7 +251,9 @@ class Vydrz(Slozka):
     def test_soak_that_is_broken_off_leaves_nothing_behind_and_runs_again(self):
         slova = ["--davka", DAVKA, "--vystup", self.slozka / "v", "--gvd", "GVD_tichy", "--semen", "1"]
         program = subprocess.Popen([sys.executable, "-B", KOREN / "nastroje" / "vydrz.py", *slova], encoding="utf-8",
-                                   stdout=subprocess.PIPE, stderr=subprocess.PIPE)
+                                   stdout=subprocess.PIPE, stderr=subprocess.PIPE,
+                                   # a job in the background of a script is started with Ctrl-C ignored
+                                   preexec_fn=lambda: signal.signal(signal.SIGINT, signal.SIG_DFL))
         self.assertIn("semeno", program.stdout.readline())
         program.send_signal(signal.SIGINT)
         _, chyby = program.communicate()
