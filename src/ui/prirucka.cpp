@@ -8,12 +8,14 @@
 #include "ui/hlavni_okno.h"
 #include "ui/hodiny_stolu.h"
 #include "ui/napoveda.h"
+#include "ui/paleta.h"
 #include "ui/pismo.h"
 #include "ui/text_prirucky.h"
 #include "ui/vedlejsi_okno.h"
 #include "zaklad/soubory.h"
 
 #include <QAbstractTextDocumentLayout>
+#include <QFile>
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QHBoxLayout>
@@ -24,9 +26,11 @@
 #include <QPushButton>
 #include <QScreen>
 #include <QScrollBar>
+#include <QSignalBlocker>
 #include <QTextBlock>
 #include <QTextBrowser>
 #include <QTimer>
+#include <QUrl>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -37,6 +41,15 @@ constexpr double kSirkaOkna = 0.66, kVyskaOkna = 0.86; // of the screen
 constexpr int kHlidani_ms = 100;
 constexpr int kSrovnani_ms = 120; // behind the last step of a change of size
 constexpr int kBezKapitoly = -1;
+
+// A language that the manual can be read in: its file beside the others, and what its parts are called.
+struct Jazyk {
+    const char* soubor;
+    const char* prepnout; // the button that leads here
+    const char* hledat;
+};
+constexpr Jazyk kJazyky[] = {{"prirucka.md", "če&sky", "hledat (Enter: další)"},
+                             {"manual-en.md", "&English", "find (Enter: next)"}};
 
 class Prirucka : public VedlejsiOkno {
 public:
@@ -53,9 +66,12 @@ protected:
 
 private:
     void umisti();
+    void otevri(std::size_t ktery);
     void srovnej();
     void skoc(int nadpis);
     void na_misto(int misto);
+    void na_odkaz(const QString& odkaz);
+    void zpet();
     void najdi();
     void vrat_cas();
 
@@ -63,6 +79,9 @@ private:
     QTextBrowser* text = nullptr;
     QListWidget* obsah = nullptr;
     QLineEdit* hledani = nullptr;
+    QPushButton* prepnout = nullptr;
+    std::size_t jazyk = 0;
+    QList<int> odkud; // places that links were followed from
     QTimer hlidani, srovnani;
     QList<NadpisPrirucky> nadpisy;
     int cteno = 0;         // place in the text at the upper edge
@@ -84,26 +103,29 @@ Prirucka::Prirucka(QWidget* rodic, const QString& soubor)
     obsah->setAccessibleName(QStringLiteral("Kapitoly"));
     hledani = new QLineEdit;
     hledani->setAccessibleName(QStringLiteral("Hledat v příručce"));
-    hledani->setPlaceholderText(QStringLiteral("hledat (Enter: další)"));
+    prepnout = new QPushButton;
     auto* zavrit = new QPushButton(QStringLiteral("&Zavřít [Esc]"));
 
     auto* vlevo = new QVBoxLayout;
     vlevo->addWidget(obsah);
     vlevo->addWidget(hledani);
+    vlevo->addWidget(prepnout);
     vlevo->addWidget(zavrit);
     auto* cele = new QHBoxLayout(this);
     cele->addLayout(vlevo, 2);
     cele->addWidget(text, 5);
 
-    if (nacti_prirucku(*text->document(), soubor)) {
-        uprav_tabulky(*text->document(), palette().color(QPalette::Mid));
-        nadpisy = nadpisy_prirucky(*text->document());
-    }
-    for (const NadpisPrirucky& n : nadpisy)
-        obsah->addItem(n.text);
+    otevri(0);
     connect(obsah, &QListWidget::currentRowChanged, this, &Prirucka::skoc);
     connect(hledani, &QLineEdit::returnPressed, this, &Prirucka::najdi);
     connect(zavrit, &QPushButton::clicked, this, &QWidget::close);
+    connect(text, &QTextBrowser::anchorClicked, this, [this](const QUrl& url) { na_odkaz(url.toString()); });
+    connect(prepnout, &QPushButton::clicked, this, [this] {
+        otevri(1 - jazyk);
+        srovnej();
+        obsah->setCurrentRow(0);
+        text->setFocus();
+    });
     // Who starts the clock while he reads has taken the pause over.
     connect(&hlidani, &QTimer::timeout, this, [this] { drzi_cas = drzi_cas && simulace.pauza; });
     hlidani.start(kHlidani_ms);
@@ -115,6 +137,26 @@ Prirucka::Prirucka(QWidget* rodic, const QString& soubor)
 
 Prirucka::~Prirucka() {
     vrat_cas(); // a box that it was opened over takes it away without closing it
+}
+
+// Reads the manual in that language; where it is missing, the one that is open stays.
+void Prirucka::otevri(std::size_t ktery) {
+    const Jazyk& j = kJazyky[ktery];
+    if (!nacti_prirucku(*text->document(), slozka + u'/' + QLatin1String(j.soubor)))
+        return;
+    jazyk = ktery;
+    cteno = 0;
+    odkud.clear();
+    uprav_tabulky(*text->document(), palette().color(QPalette::Mid));
+    odkazy_na_kapitoly(*text->document(), barva_okna(BarvaOkna::nadpis));
+    nadpisy = nadpisy_prirucky(*text->document());
+    const QSignalBlocker ticho(obsah);
+    obsah->clear();
+    for (const NadpisPrirucky& n : nadpisy)
+        obsah->addItem(n.text);
+    hledani->setPlaceholderText(QString::fromUtf8(j.hledat));
+    prepnout->setText(QString::fromUtf8(kJazyky[1 - ktery].prepnout));
+    prepnout->setVisible(QFile::exists(slozka + u'/' + QLatin1String(kJazyky[1 - ktery].soubor)));
 }
 
 // At the right edge: what the desk has at the left, the station and the command line, stays in sight.
@@ -145,19 +187,22 @@ bool Prirucka::eventFilter(QObject* cil, QEvent* udalost) {
             cteno = text->cursorForPosition({0, 0}).position();
         srovnani.start(kSrovnani_ms);
     }
+    if (cil == text && udalost->type() == QEvent::KeyPress) // its own way back knows whole documents alone
+        if (auto* k = static_cast<QKeyEvent*>(udalost); k->modifiers() == Qt::AltModifier && stisk(*k))
+            return true;
     return VedlejsiOkno::eventFilter(cil, udalost);
 }
 
 void Prirucka::ukaz(int kapitola) {
+    if (jazyk != 0) // the chapters of the desk are those of the whole manual
+        otevri(0);
     const QString zacatek = QString::number(kapitola) + u'.';
     int radek = kapitola == 0 ? std::min<int>(1, static_cast<int>(nadpisy.size()) - 1) : 0;
     for (int i = 0; i < nadpisy.size(); ++i)
         if (nadpisy[i].text.startsWith(zacatek))
             radek = i;
-    const bool nova = !isVisible();
     VedlejsiOkno::ukaz();
-    if (nova)
-        srovnej();
+    srovnej();
     text->setFocus();
     obsah->setCurrentRow(radek);
     skoc(radek);
@@ -180,6 +225,24 @@ void Prirucka::na_misto(int misto) {
     text->verticalScrollBar()->setValue(static_cast<int>(y));
 }
 
+void Prirucka::na_odkaz(const QString& odkaz) {
+    const int kapitola = kapitola_odkazu(odkaz);
+    for (int i = 0; i < nadpisy.size(); ++i)
+        if (kapitola > 0 && nadpisy[i].text.startsWith(QString::number(kapitola) + u'.')) {
+            odkud.push_back(text->cursorForPosition({0, 0}).position());
+            obsah->setCurrentRow(i);
+            skoc(i);
+            return;
+        }
+}
+
+// To where the last link was followed from.
+void Prirucka::zpet() {
+    if (odkud.isEmpty())
+        return;
+    na_misto(odkud.takeLast());
+}
+
 // The next place of the words, from the top again behind the last one.
 void Prirucka::najdi() {
     if (hledani->text().isEmpty() || text->find(hledani->text()))
@@ -188,8 +251,21 @@ void Prirucka::najdi() {
     text->find(hledani->text());
 }
 
-// F10 lets a watched shift go on beside the manual, as it does the service.
+// Keys of the reader; F10 lets a watched shift go on beside the manual, as it does the service.
 bool Prirucka::stisk(QKeyEvent& udalost) {
+    if (udalost.key() == Qt::Key_F && udalost.modifiers() == Qt::ControlModifier) {
+        hledani->setFocus();
+        hledani->selectAll();
+        return true;
+    }
+    if (udalost.key() == Qt::Key_F3) {
+        najdi();
+        return true;
+    }
+    if (udalost.key() == Qt::Key_Left && udalost.modifiers() == Qt::AltModifier) {
+        zpet();
+        return true;
+    }
     if (udalost.key() != Qt::Key_F10 || !drzi_prehravani)
         return false;
     drzi_prehravani = false;

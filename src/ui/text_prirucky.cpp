@@ -5,15 +5,40 @@
 #include <QFile>
 #include <QFontMetricsF>
 #include <QImage>
+#include <QRegularExpression>
 #include <QTextBlock>
 #include <QTextCursor>
 #include <QTextTable>
 #include <QUrl>
 
 #include <algorithm>
+#include <numeric>
 #include <vector>
 
 namespace {
+
+const QString kOdkaz = QStringLiteral("kapitola:");
+
+constexpr qsizetype kNejmensiVaha = 9, kNejvetsiVaha = 70; // of a column, characters
+
+// Columns share the width by their longest texts; where pictures stand, the toolkit has to see how broad they
+// are.
+QList<QTextLength> sirky_sloupcu(const QTextTable& tabulka) {
+    QList<qsizetype> vahy(tabulka.columns(), kNejmensiVaha);
+    for (int radek = 0; radek < tabulka.rows(); ++radek)
+        for (int sloupec = 0; sloupec < tabulka.columns(); ++sloupec) {
+            const QTextBlock blok = tabulka.cellAt(radek, sloupec).firstCursorPosition().block();
+            if (blok.text().contains(QChar::ObjectReplacementCharacter))
+                return {};
+            vahy[sloupec] = std::max(vahy[sloupec], std::min(blok.text().size(), kNejvetsiVaha));
+        }
+    const qsizetype soucet = std::accumulate(vahy.begin(), vahy.end(), qsizetype(0));
+    QList<QTextLength> sirky;
+    for (const qsizetype vaha : vahy)
+        sirky.push_back(QTextLength(QTextLength::PercentageLength,
+                                    100.0 * static_cast<double>(vaha) / static_cast<double>(soucet)));
+    return sirky;
+}
 
 void uprav_ramec(const QTextFrame& ramec, const QColor& cara) {
     for (QTextFrame* dite : ramec.childFrames()) {
@@ -26,6 +51,8 @@ void uprav_ramec(const QTextFrame& ramec, const QColor& cara) {
             f.setBorderBrush(cara);
             f.setCellPadding(4);
             f.setWidth(QTextLength(QTextLength::PercentageLength, 100));
+            if (const QList<QTextLength> sirky = sirky_sloupcu(*t); !sirky.isEmpty())
+                f.setColumnWidthConstraints(sirky);
             t->setFormat(f);
         }
         uprav_ramec(*dite, cara);
@@ -64,9 +91,15 @@ bool nacti_prirucku(QTextDocument& text, const QString& soubor) {
     QFile zdroj(soubor);
     if (!zdroj.open(QIODevice::ReadOnly))
         return false;
-    text.setMarkdown(QString::fromUtf8(zdroj.readAll()), QTextDocument::MarkdownDialectGitHub);
-    uprav_odstavce(text);
+    rozloz_prirucku(text, QString::fromUtf8(zdroj.readAll()));
     return true;
+}
+
+void rozloz_prirucku(QTextDocument& text, QString markdown) {
+    // the toolkit passes over a picture that has no words of its own
+    markdown.replace(QStringLiteral("![]("), QStringLiteral("![obraz]("));
+    text.setMarkdown(markdown, QTextDocument::MarkdownDialectGitHub);
+    uprav_odstavce(text);
 }
 
 void uprav_tabulky(QTextDocument& text, const QColor& cara) {
@@ -88,7 +121,8 @@ QStringList uprav_obrazky(QTextDocument& text, const QString& slozka, double sir
             chybi += f.name();
             continue;
         }
-        const double nova = std::min(obrazek.width() * pomer, sirka);
+        const double hustota = std::max(1.0, obrazek.text(QLatin1String(kHustotaObrazku)).toDouble());
+        const double nova = std::min(obrazek.width() * pomer / hustota, sirka);
         if (f.width() == nova)
             continue;
         f.setWidth(nova);
@@ -111,4 +145,22 @@ QList<NadpisPrirucky> nadpisy_prirucky(const QTextDocument& text) {
         if (const int uroven = b.blockFormat().headingLevel(); uroven == 1 || uroven == 2)
             nadpisy.push_back({b.text(), b.blockNumber()});
     return nadpisy;
+}
+
+void odkazy_na_kapitoly(QTextDocument& text, const QColor& barva) {
+    static const QRegularExpression kZminka(QStringLiteral("(?:kapitol\\w*|chapter) (\\d+)"));
+    for (QTextCursor kde = text.find(kZminka); !kde.isNull(); kde = text.find(kZminka, kde)) {
+        QTextCharFormat f;
+        f.setAnchor(true);
+        f.setAnchorHref(kOdkaz + kZminka.match(kde.selectedText()).captured(1));
+        f.setForeground(barva);
+        f.setFontUnderline(true);
+        kde.mergeCharFormat(f);
+    }
+}
+
+int kapitola_odkazu(const QString& odkaz) {
+    bool cislo = false;
+    const int kapitola = odkaz.startsWith(kOdkaz) ? odkaz.mid(kOdkaz.size()).toInt(&cislo) : -1;
+    return cislo ? kapitola : -1;
 }
