@@ -6,6 +6,7 @@
 #include "ui/kresba.h"
 #include "ui/pismo.h"
 #include "ui/platno.h"
+#include "ui/text_prirucky.h"
 
 #include <QFile>
 #include <QImage>
@@ -16,16 +17,23 @@
 #include <cstdio>
 #include <iostream>
 #include <istream>
+#include <map>
 #include <optional>
 #include <sstream>
 #include <streambuf>
+#include <utility>
 #include <vector>
 
 namespace {
 
 constexpr QRgb kZnaceni = 0xFFFFD21E; // of what is drawn over the desk: a colour that no element has
 constexpr int kPolomerCisla = 9;      // pixels of the desk
-constexpr int kOdstupZnacky = 2;      // around a sign that stands alone
+// A detail is drawn so many times larger than on the desk, and shown smaller by the density it is marked
+// with: crisp on every screen and in print.
+constexpr double kKratDetailu = 6;
+constexpr double kHustotaDetailu = 1.5;
+constexpr int kPredelFilmu = 6; // between the frames of a strip, pixels of the picture
+constexpr QRgb kOkrajFilmu = 0xFF3C4550;
 
 struct Cislo {
     std::string cislo;
@@ -35,7 +43,8 @@ struct Cislo {
 struct Vyrez {
     std::string jmeno;
     QRect misto; // pixels of the desk
-    double krat = 1;
+    double krat = 1, hustota = 1;
+    bool do_filmu = false; // a further frame of the strip of that name
     std::vector<Cislo> cisla;
 };
 
@@ -43,7 +52,7 @@ struct Vyrez {
 // is drawn when the runner asks for the line behind it, so that all lines before have been carried out.
 class Skript : public std::streambuf {
 public:
-    Skript(std::istream& odkud, const QString& kam) : zdroj(odkud), slozka(kam) {}
+    Skript(std::istream& odkud, const ObrazekHotov& kam) : zdroj(odkud), hotov(kam) {}
     bool v_poradku() const { return chyba.empty(); }
     const std::string& proc() const { return chyba; }
 
@@ -65,22 +74,29 @@ protected:
             return traits_type::to_int_type(radek.front());
         }
         dokresli();
+        for (const auto& [jmeno, okenka] : filmy)
+            uloz(slep_film(okenka), jmeno);
+        filmy.clear();
         return traits_type::eof();
     }
 
 private:
     bool proved(const std::vector<std::string>& slova);
     void dokresli();
+    Platno& platno(double krat);
+    static QImage slep_film(const std::vector<QImage>& okenka);
     void uloz(const QImage& obraz, const std::string& jmeno) {
-        const QString soubor = slozka + u'/' + QString::fromStdString(jmeno) + QStringLiteral(".png");
-        if (!obraz.save(soubor) && chyba.empty())
-            chyba = soubor.toStdString() + " nejde zapsat";
+        const std::string vada = hotov(QString::fromStdString(jmeno), obraz);
+        if (chyba.empty())
+            chyba = vada;
     }
 
     std::istream& zdroj;
-    QString slozka;
+    const ObrazekHotov& hotov;
     std::string radek, chyba;
     std::optional<Vyrez> rozdelany;
+    std::map<double, Platno> platna; // by their scale: what has not changed since is not drawn again
+    std::map<std::string, std::vector<QImage>> filmy;
 };
 
 int cele(const std::string& slovo) {
@@ -93,17 +109,13 @@ Druh druh_jmena(const std::string& jmeno) {
     chyba_skriptu("neznámý druh prvku " + v_uvozovkach(jmeno));
 }
 
-// Glyphs alone, on the ground of the desk.
-QImage nakresli_znacku(const Text& znaky, Barva barva) {
-    constexpr int kKrat = 2;
-    const int sirka = static_cast<int>(znaky.size()) * kSirkaBunky;
-    QImage obraz((sirka + 2 * kOdstupZnacky) * kKrat, (kVyskaBunky + 2 * kOdstupZnacky) * kKrat,
-                 QImage::Format_RGB32);
-    obraz.fill(Qt::black);
-    QPainter p(&obraz);
-    kresli_radek(p, kOdstupZnacky * kKrat, kOdstupZnacky * kKrat, kSirkaBunky * kKrat, kVyskaBunky * kKrat,
-                 znaky, barva, Znaky::znacky);
-    return obraz;
+// Place of an element on the desk, twips: of a line from end to end.
+QRect misto_kresby_prvku(const Nalezeny& co) {
+    const Prvek& p = tabulka(co.druh)[co.n];
+    if (co.druh != Druh::kolej)
+        return misto_vstupu(co.druh, p);
+    return QRect(QPoint(std::min<int>(p.x1, p.x2), std::min<int>(p.y1, p.y2)),
+                 QPoint(std::max<int>(p.x1, p.x2), std::max<int>(p.y1, p.y2)));
 }
 
 bool Skript::proved(const std::vector<std::string>& slova) {
@@ -113,15 +125,35 @@ bool Skript::proved(const std::vector<std::string>& slova) {
         if (slova.size() != kolik)
             chyba_skriptu("jiný počet slov, než má být");
     };
-    if (slova[0] == "obraz") {
+    if (slova[0] == "obraz" || slova[0] == "okenko") {
         pocet(7);
         dokresli();
         rozdelany = Vyrez{slova[1],
                           QRect(cele(slova[2]), cele(slova[3]), cele(slova[4]), cele(slova[5])),
                           QString::fromStdString(slova[6]).toDouble(),
+                          1,
+                          slova[0] == "okenko",
                           {}};
         if (rozdelany->misto.isEmpty() || rozdelany->krat <= 0)
             chyba_skriptu("prázdný výřez");
+        return true;
+    }
+    if (slova[0] == "detail") {
+        pocet(6);
+        dokresli();
+        const Nalezeny co{druh_jmena(slova[2]), cele(slova[3])};
+        if (!tabulka(co.druh).je(co.n))
+            chyba_skriptu("takový prvek není");
+        const QRect twipy = misto_kresby_prvku(co);
+        const int x = cele(slova[4]), y = cele(slova[5]);
+        rozdelany = Vyrez{
+            slova[1],
+            QRect(twipy.x() / kTwipu, twipy.y() / kTwipu, twipy.width() / kTwipu, twipy.height() / kTwipu)
+                .adjusted(-x, -y, x, y),
+            kKratDetailu,
+            kHustotaDetailu,
+            false,
+            {}};
         return true;
     }
     if (slova[0] == "cislo") {
@@ -132,18 +164,6 @@ bool Skript::proved(const std::vector<std::string>& slova) {
         if (!tabulka(prvek.druh).je(prvek.n))
             chyba_skriptu("takový prvek není");
         rozdelany->cisla.push_back({slova[1], prvek, QPoint(cele(slova[4]), cele(slova[5]))});
-        return true;
-    }
-    if (slova[0] == "znacka") {
-        if (slova.size() < 4)
-            chyba_skriptu("značka bez kódu nebo barvy");
-        const auto barva = barva_textu(slova.back());
-        if (!barva)
-            chyba_skriptu("neznámá barva " + v_uvozovkach(slova.back()));
-        Text znaky;
-        for (std::size_t i = 2; i + 1 < slova.size(); ++i)
-            znaky += znak(cele(slova[i]));
-        uloz(nakresli_znacku(znaky, *barva), slova[1]);
         return true;
     }
     return false;
@@ -189,27 +209,57 @@ void nakresli_cislo(QPainter& p, const Cislo& c, const Meritko& m) {
                      stred.y() - vyska / 2, sirka, vyska, text, barvy::cerna, Znaky::pismena);
 }
 
+Platno& Skript::platno(double krat) {
+    const auto [kde, nove] = platna.try_emplace(krat);
+    if (nove)
+        kde->second.nastav_velikost((QSizeF(1024, 768) * krat).toSize(), kSirkaStolu);
+    kde->second.obnov();
+    return kde->second;
+}
+
+// One frame under the other, like the pictures of a film.
+QImage Skript::slep_film(const std::vector<QImage>& okenka) {
+    QSize velikost(0, kPredelFilmu);
+    for (const QImage& o : okenka)
+        velikost = {std::max(velikost.width(), o.width() + 2 * kPredelFilmu),
+                    velikost.height() + o.height() + kPredelFilmu};
+    QImage film(velikost, QImage::Format_RGB32);
+    film.fill(QColor::fromRgb(kOkrajFilmu));
+    QPainter p(&film);
+    int y = kPredelFilmu;
+    for (const QImage& o : okenka) {
+        p.drawImage(kPredelFilmu, y, o);
+        y += o.height() + kPredelFilmu;
+    }
+    return film;
+}
+
 void Skript::dokresli() {
     if (!rozdelany)
         return;
-    Platno platno;
-    platno.nastav_velikost((QSizeF(1024, 768) * rozdelany->krat).toSize(), kSirkaStolu);
-    platno.obnov();
-    QImage obraz = platno.obraz();
+    const Vyrez v = *std::exchange(rozdelany, std::nullopt);
+    const Platno& stul = platno(v.krat);
+    const QRect vyrez = QRectF(v.misto.x() * v.krat, v.misto.y() * v.krat, v.misto.width() * v.krat,
+                               v.misto.height() * v.krat)
+                            .toRect();
+    QImage obraz = stul.obraz().copy(vyrez);
     QPainter p(&obraz);
+    p.translate(-vyrez.topLeft());
     p.setRenderHint(QPainter::Antialiasing);
-    for (const Cislo& c : rozdelany->cisla)
-        nakresli_cislo(p, c, platno.meritko());
+    for (const Cislo& c : v.cisla)
+        nakresli_cislo(p, c, stul.meritko());
     p.end();
-    const double k = rozdelany->krat;
-    const QRect& r = rozdelany->misto;
-    uloz(obraz.copy(QRectF(r.x() * k, r.y() * k, r.width() * k, r.height() * k).toRect()), rozdelany->jmeno);
-    rozdelany.reset();
+    if (v.hustota != 1)
+        obraz.setText(QLatin1String(kHustotaObrazku), QString::number(v.hustota));
+    if (v.do_filmu)
+        filmy[v.jmeno].push_back(obraz);
+    else
+        uloz(obraz, v.jmeno);
 }
 
 } // namespace
 
-bool nakresli_obrazky(const QString& skript, const std::string& instalace, const QString& slozka) {
+bool nakresli_obrazky(const QString& skript, const std::string& instalace, const ObrazekHotov& hotov) {
     QFile soubor(skript);
     if (!soubor.open(QIODevice::ReadOnly)) {
         std::fprintf(stderr, "tesk-navod: %s nejde přečíst\n", qPrintable(skript));
@@ -217,7 +267,7 @@ bool nakresli_obrazky(const QString& skript, const std::string& instalace, const
     }
     nacti_pismo(QString::fromStdString(instalace) + QStringLiteral("/data/kps.fon"));
     std::istringstream text(soubor.readAll().toStdString());
-    Skript zdroj(text, slozka);
+    Skript zdroj(text, hotov);
     std::istream cteni(&zdroj);
     std::ostringstream vypisy;
     VolbyDavky volby;

@@ -37,7 +37,7 @@ def zkus():
     for jmeno in ("rea", "reb", "top", "pzz", "stg", "zat", "zpc", "kor", "mak"):
         assert f"data/tesk.{jmeno}" in soubory, jmeno
     assert "data/kps.fon" in soubory and "gvd/GVD_plny.dat" in soubory and "DATA/VOZY/obrysy.txt" in soubory
-    assert {j.split("/")[0] for j in soubory} <= {"data", "gvd", "DATA", "navod", "navod.pdf"}, soubory
+    assert {j.split("/")[0] for j in soubory} <= {"data", "gvd", "DATA", "navod", "navod.pdf", "manual-en.pdf"}, soubory
     assert not (koren / "bin/data").exists()
 
     # a manual page for every program
@@ -53,7 +53,7 @@ def zkus():
             assert beh.returncode == 0 and not beh.stderr, beh.stderr
 
     if deska:
-        assert {"navod.pdf", "navod/prirucka.md"} <= soubory
+        assert {"navod.pdf", "manual-en.pdf", "navod/prirucka.md", "navod/manual-en.md"} <= soubory
         zapis = configparser.ConfigParser(interpolation=None)
         zapis.read(sdilene / "applications/tesk.desktop", encoding="utf-8")
         zapis = zapis["Desktop Entry"]
