@@ -3,6 +3,7 @@
 #include "desk/tabulka_vlaku.h"
 #include "desk/zprava.h"
 #include "jizda/vlak.h"
+#include "obsluha/lokomotivy.h"
 #include "obsluha/menu_prvku.h"
 #include "obsluha/stanoviste.h"
 #include "obsluha/vstup.h"
@@ -11,14 +12,21 @@
 #include "pomocne/zastavky.h"
 #include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
+#include "prvky/stanicni_prejezdy.h"
 #include "ui/napoveda.h"
+#include "ui/pismo.h"
 #include "ui/text_prirucky.h"
+#include "uzel/vstupy.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <cstring>
+#include <filesystem>
+#include <fstream>
 #include <functional>
+#include <iterator>
+#include <string>
 
 namespace {
 
@@ -31,30 +39,79 @@ protected:
     }
 
     static void pravym(Druh druh, int n) { klik(druh, n, Tlacitko::prave, false); }
+
+    // Opens every menu of the desk, one after the other.
+    static void kazda_nabidka(const std::function<void()>& co) {
+        prevezmi_radek_tabulky(0, "Os  1234       62m, BOR, 80km/h          ");
+        const std::function<void()> nabidky[] = {
+            [] { pravym(Druh::navestidlo, 262); },
+            [] { pravym(Druh::navestidlo_ser, 540); },
+            [] { pravym(Druh::imgVyhybka, 7); },
+            [] { pravym(Druh::cislo_koleje, 62); },
+            [] { pravym(Druh::lblTabulka_vlaku, 0); },
+            [] { menu_stanoviste(1); },
+            [] { menu_souhlasu(0); },
+            [] { menu_prejezdu(0); },
+            [] {
+                stanicni_prejezdy[0].UZ = true;
+                menu_prejezdu(0);
+            },
+            [] { menu_depa(uzel::kBranaZapad.popis); },
+            [] { menu_depa(uzel::kBranaVh.popis); },
+        };
+        for (const auto& otevri : nabidky) {
+            zavri_menu();
+            otevri();
+            ASSERT_FALSE(menu.polozky.empty());
+            co();
+        }
+    }
+
+    // A text that lies beside the manual.
+    static QString soubor(const char* jmeno) {
+        std::ifstream zdroj(std::filesystem::path(TESK_PRIRUCKA).replace_filename(jmeno));
+        return QString::fromStdString(
+            std::string(std::istreambuf_iterator<char>(zdroj), std::istreambuf_iterator<char>()));
+    }
 };
 
 TEST_F(NapovedaStolu, EveryCommandOfEveryMenuIsExplained) {
-    prevezmi_radek_tabulky(0, "Os  1234       62m, BOR, 80km/h          ");
-    const std::function<void()> nabidky[] = {
-        [] { pravym(Druh::navestidlo, 262); },
-        [] { pravym(Druh::navestidlo_ser, 540); },
-        [] { pravym(Druh::imgVyhybka, 7); },
-        [] { pravym(Druh::cislo_koleje, 62); },
-        [] { pravym(Druh::lblTabulka_vlaku, 0); },
-        [] { menu_stanoviste(1); },
-        [] { menu_souhlasu(0); },
-        [] { menu_prejezdu(0); },
-    };
-    for (const auto& otevri : nabidky) {
-        zavri_menu();
-        otevri();
-        ASSERT_FALSE(menu.polozky.empty());
+    kazda_nabidka([] {
         for (const PolozkaMenu& p : menu.polozky)
-            if (p.akce != nullptr) {
+            if (p.akce != nullptr && menu.druh != Druh::popis_stanice) { // a series explains itself
                 EXPECT_STRNE(vyklad_povelu(p), "") << menu.jmeno << ' ' << p.jmeno;
                 EXPECT_STRNE(vyklad_povelu(p), "v této simulaci bez účinku") << menu.jmeno << ' ' << p.jmeno;
             }
-    }
+    });
+}
+
+TEST_F(NapovedaStolu, EveryEntryOfEveryMenuStandsInTheManual) {
+    const QString vse = soubor("prirucka.md");
+    const QString kapitola =
+        vse.mid(vse.indexOf(QStringLiteral("\n## 25. ")),
+                vse.indexOf(QStringLiteral("\n## 26. ")) - vse.indexOf(QStringLiteral("\n## 25. ")));
+    const QString anglicky = soubor("manual-en.md");
+    ASSERT_FALSE(kapitola.isEmpty());
+    ASSERT_FALSE(anglicky.isEmpty());
+    kazda_nabidka([&] {
+        for (const PolozkaMenu& p : menu.polozky) {
+            const QString text = na_qstring(p.text);
+            const bool udaj =
+                p.akce == nullptr && (p.jmeno.starts_with("miNazev") || p.jmeno.starts_with("miDelka") ||
+                                      p.jmeno.starts_with("miVlak") || p.jmeno.find("debug") != Text::npos);
+            if (udaj)
+                continue; // a name, a length, a train: not a command
+            if (menu.druh == Druh::popis_stanice) {
+                EXPECT_TRUE(kapitola.contains(text)) << menu.jmeno << ' ' << qPrintable(text);
+                continue;
+            }
+            EXPECT_TRUE(kapitola.contains(u'`' + text + u'`')) << menu.jmeno << ' ' << qPrintable(text);
+            if (p.akce != nullptr && !text.endsWith(QStringLiteral(" b")) && text != QStringLiteral("SMAZ") &&
+                text != QStringLiteral("OTOC NOUZOVE")) {
+                EXPECT_TRUE(anglicky.contains(u'`' + text + u'`')) << menu.jmeno << ' ' << qPrintable(text);
+            }
+        }
+    });
 }
 
 TEST_F(NapovedaStolu, CommandThatIsOnlyForTheLookSaysSo) {
