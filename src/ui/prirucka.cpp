@@ -112,8 +112,8 @@ Prirucka::Prirucka(QWidget* rodic, const QString& soubor)
     vlevo->addWidget(prepnout);
     vlevo->addWidget(zavrit);
     auto* cele = new QHBoxLayout(this);
-    cele->addLayout(vlevo, 2);
-    cele->addWidget(text, 5);
+    cele->addLayout(vlevo, 1);
+    cele->addWidget(text, 2);
 
     otevri(0);
     connect(obsah, &QListWidget::currentRowChanged, this, &Prirucka::skoc);

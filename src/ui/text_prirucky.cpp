@@ -19,24 +19,46 @@ namespace {
 
 const QString kOdkaz = QStringLiteral("kapitola:");
 
-constexpr qsizetype kNejmensiVaha = 9, kNejvetsiVaha = 70; // of a column, characters
+constexpr qsizetype kNejvetsiVaha = 70; // of a column, characters
+constexpr double kZnakuNaSirku = 46;    // of the narrowest window that the text is read in
 
-// Columns share the width by their longest texts; where pictures stand, the toolkit has to see how broad they
-// are.
+qsizetype nejdelsi_slovo(const QString& text) {
+    qsizetype nejdelsi = 0;
+    for (const QString& slovo : text.split(u' '))
+        nejdelsi = std::max(nejdelsi, slovo.size());
+    return nejdelsi;
+}
+
+// Columns share the width by their longest texts, but no word is parted; where pictures stand, the toolkit
+// has to see how broad they are.
 QList<QTextLength> sirky_sloupcu(const QTextTable& tabulka) {
-    QList<qsizetype> vahy(tabulka.columns(), kNejmensiVaha);
+    struct Sloupec {
+        qsizetype vaha = 1, slovo = 1;
+        double dil = 0; // hundredths of the width
+    };
+    QList<Sloupec> sloupce(tabulka.columns());
     for (int radek = 0; radek < tabulka.rows(); ++radek)
-        for (int sloupec = 0; sloupec < tabulka.columns(); ++sloupec) {
-            const QTextBlock blok = tabulka.cellAt(radek, sloupec).firstCursorPosition().block();
-            if (blok.text().contains(QChar::ObjectReplacementCharacter))
+        for (int i = 0; i < tabulka.columns(); ++i) {
+            const QString text = tabulka.cellAt(radek, i).firstCursorPosition().block().text();
+            if (text.contains(QChar::ObjectReplacementCharacter))
                 return {};
-            vahy[sloupec] = std::max(vahy[sloupec], std::min(blok.text().size(), kNejvetsiVaha));
+            sloupce[i].vaha = std::max(sloupce[i].vaha, std::min(text.size(), kNejvetsiVaha));
+            sloupce[i].slovo = std::max(sloupce[i].slovo, nejdelsi_slovo(text) + 2);
         }
-    const qsizetype soucet = std::accumulate(vahy.begin(), vahy.end(), qsizetype(0));
+    const auto soucet = std::accumulate(sloupce.begin(), sloupce.end(), 0.0,
+                                        [](double s, const Sloupec& x) { return s + double(x.vaha); });
+    double dluh = 0; // what the narrow ones take from the broadest
+    for (Sloupec& x : sloupce) {
+        const double dil = 100 * double(x.vaha) / soucet;
+        x.dil = std::max(dil, std::min(100 * double(x.slovo) / kZnakuNaSirku, 60.0));
+        dluh += x.dil - dil;
+    }
+    std::max_element(sloupce.begin(), sloupce.end(), [](const Sloupec& x, const Sloupec& y) {
+        return x.dil < y.dil;
+    })->dil -= dluh;
     QList<QTextLength> sirky;
-    for (const qsizetype vaha : vahy)
-        sirky.push_back(QTextLength(QTextLength::PercentageLength,
-                                    100.0 * static_cast<double>(vaha) / static_cast<double>(soucet)));
+    for (const Sloupec& x : sloupce)
+        sirky.push_back(QTextLength(QTextLength::PercentageLength, x.dil));
     return sirky;
 }
 
