@@ -1,6 +1,7 @@
 // ui/kresba_nakresu.cpp - painting of the shapes of a time-distance diagram.
 #include "ui/kresba_nakresu.h"
 
+#include "ui/paleta.h"
 #include "ui/pismo.h"
 
 #include <QFontMetricsF>
@@ -12,19 +13,27 @@
 
 namespace {
 
-// A colour that lets its ground through is mixed on the desk, since blending a line costs much more than
-// painting it; paper knows what it does.
-QColor barva(RoleNakresu role, bool papir, double kryti = 1) {
-    QColor c = QColor::fromRgb(barva_role(role, papir));
-    if (papir) {
-        c.setAlphaF(static_cast<float>(kryti));
-        return c;
-    }
-    const QColor zem = QColor::fromRgb(barva_role(RoleNakresu::papir, papir));
-    const auto smes = [kryti](int a, int b) {
-        return static_cast<int>(std::lround(kryti * a + (1 - kryti) * b));
-    };
-    return {smes(c.red(), zem.red()), smes(c.green(), zem.green()), smes(c.blue(), zem.blue())};
+struct BarvaSkupiny {
+    RoleNakresu role;
+    QRgb barva;
+};
+// Told apart by their lightness and by what is left of the hue.
+constexpr BarvaSkupiny kBezBarevNakresu[] = {
+    {RoleNakresu::expres, 0xFFE63D00},   {RoleNakresu::rychlik, 0xFFFFB02C},
+    {RoleNakresu::spesny, 0xFFADCDA1},   {RoleNakresu::osobni, 0xFF74C4FF},
+    {RoleNakresu::zvlastni, 0xFFFFFFEB}, {RoleNakresu::nakladni, 0xFF009464},
+    {RoleNakresu::sluzebni, 0xFF7C74C6},
+};
+constexpr double kNejmensiKryti = 0.8; // in the palette of high contrast
+
+QRgb barva_v_palete(RoleNakresu role) {
+    if (paleta() == Paleta::kontrastni && (role == RoleNakresu::papir || role == RoleNakresu::na_ted))
+        return 0xFF000000;
+    if (paleta() == Paleta::bez_barev)
+        for (const BarvaSkupiny& s : kBezBarevNakresu)
+            if (s.role == role)
+                return s.barva;
+    return barva_role(role, false);
 }
 
 void nakresli_text(QPainter& p, const TvarNakresu& t, bool papir) {
@@ -43,13 +52,13 @@ void nakresli_text(QPainter& p, const TvarNakresu& t, bool papir) {
     if (t.uhel != 0)
         p.rotate(t.uhel);
     if (t.podklad) {
-        QColor zem = QColor::fromRgb(barva_role(RoleNakresu::papir, papir));
+        QColor zem = barva_nakresu(RoleNakresu::papir, papir);
         zem.setAlphaF(0.85F);
         p.fillRect(QRectF(vlevo - 1.5, -0.52 * t.tloustka, sirka + 3, 1.04 * t.tloustka), zem);
     }
     if (sleduj_radek != nullptr && t.uhel == 0)
         sleduj_radek(p, QRectF(vlevo, -t.tloustka / 2, sirka, t.tloustka), t.text);
-    p.setPen(barva(t.role, papir, t.kryti));
+    p.setPen(barva_nakresu(t.role, papir, t.kryti));
     p.drawText(QPointF(vlevo, 0.36 * t.tloustka), text);
     p.restore();
 }
@@ -66,7 +75,7 @@ QRectF meze_useku(const BodObrazu& a, const BodObrazu& b, double tloustka) {
 
 // `kde`: only the pieces that reach into it.
 void nakresli_caru(QPainter& p, const TvarNakresu& t, bool papir, const QRegion* kde) {
-    QPen pero(barva(t.role, papir, t.kryti), t.tloustka);
+    QPen pero(barva_nakresu(t.role, papir, t.kryti), t.tloustka);
     // lines of the grid lie on whole pixels
     const bool rovna =
         t.body.size() == 2 && (t.body[0].x == t.body[1].x || t.body[0].y == t.body[1].y) && t.cislo == 0;
@@ -115,12 +124,12 @@ void nakresli_tvary(QPainter& p, const ObrazNakresu& obraz, bool papir, const st
         switch (t.druh) {
         case DruhTvaru::cara: nakresli_caru(p, t, papir, kde); break;
         case DruhTvaru::plocha:
-            p.fillRect(QRectF(bod(t.body[0]), bod(t.body[1])), barva(t.role, papir, t.kryti));
+            p.fillRect(QRectF(bod(t.body[0]), bod(t.body[1])), barva_nakresu(t.role, papir, t.kryti));
             break;
         case DruhTvaru::kruh:
             p.setRenderHint(QPainter::Antialiasing, true);
-            p.setPen(QPen(barva(RoleNakresu::papir, papir), 1));
-            p.setBrush(barva(t.role, papir));
+            p.setPen(QPen(barva_nakresu(RoleNakresu::papir, papir), 1));
+            p.setBrush(barva_nakresu(t.role, papir));
             p.drawEllipse(bod(t.body.front()), t.tloustka, t.tloustka);
             p.setBrush(Qt::NoBrush);
             break;
@@ -202,6 +211,23 @@ QRectF rozdil_car(const TvarNakresu& stara, const TvarNakresu& nova, double posu
 }
 
 } // namespace
+
+// A colour that lets its ground through is mixed on the desk, since blending a line costs much more than
+// painting it; paper knows what it does.
+QColor barva_nakresu(RoleNakresu role, bool papir, double kryti) {
+    if (papir) {
+        QColor c = QColor::fromRgb(barva_role(role, papir));
+        c.setAlphaF(static_cast<float>(kryti));
+        return c;
+    }
+    const QColor c = QColor::fromRgb(barva_v_palete(role));
+    const QColor zem = QColor::fromRgb(barva_v_palete(RoleNakresu::papir));
+    const double podil = paleta() == Paleta::kontrastni ? std::max(kryti, kNejmensiKryti) : kryti;
+    const auto smes = [podil](int a, int b) {
+        return static_cast<int>(std::lround(podil * a + (1 - podil) * b));
+    };
+    return {smes(c.red(), zem.red()), smes(c.green(), zem.green()), smes(c.blue(), zem.blue())};
+}
 
 void nakresli_obraz(QPainter& p, const ObrazNakresu& obraz, bool papir) {
     nakresli_tvary(p, obraz, papir, nullptr, nullptr);

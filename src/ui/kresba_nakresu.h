@@ -3,11 +3,17 @@
 
 #include "nakres/obraz.h"
 
+#include <QColor>
 #include <QImage>
 #include <QPainter>
 #include <QRegion>
 
 #include <vector>
+
+// Colour of a shape in the operator's palette, on paper as paper has it. `kryti`: how much of its ground it
+// hides, 0 to 1. In the palette of high contrast lines and letters hide more, in the one for the colour-blind
+// the groups of trains have colours that every eye tells apart.
+QColor barva_nakresu(RoleNakresu role, bool papir, double kryti = 1);
 
 // Paints a picture; its pixels are the painter's units. `papir`: in the colours of paper.
 void nakresli_obraz(QPainter& p, const ObrazNakresu& obraz, bool papir);

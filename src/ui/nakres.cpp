@@ -56,10 +56,6 @@ constexpr int kTahBodu = 4;                               // a press that moves 
 constexpr double kOkoliBodu = 7;                          // of a line that is picked
 constexpr double kSirkaStrany = 1123, kVyskaStrany = 794; // A4 across, 96 points to the inch
 
-constexpr const char* kVzhled = "QWidget#nakres { background: @plocha; }"
-                                "QComboBox { padding: 3px 8px; }"
-                                "QPushButton { padding: 4px 9px; }";
-
 class OknoNakresu;
 
 // The picture itself: paints, and turns the mouse into the window's commands.
@@ -106,6 +102,7 @@ public:
 
 protected:
     bool stisk(QKeyEvent& udalost) override;
+    void changeEvent(QEvent* udalost) override;
 
 private:
     void umisti();
@@ -154,7 +151,7 @@ PlatnoNakresu::PlatnoNakresu(OknoNakresu* vlastnik) : QWidget(vlastnik), okno(vl
 void PlatnoNakresu::paintEvent(QPaintEvent* udalost) {
     QPainter p(this);
     if (okno->plocha().isNull()) {
-        p.fillRect(rect(), QColor::fromRgb(barva_role(RoleNakresu::papir, false)));
+        p.fillRect(rect(), barva_nakresu(RoleNakresu::papir, false));
         return;
     }
     const double pomer = devicePixelRatioF();
@@ -253,15 +250,15 @@ bool PlatnoNakresu::event(QEvent* udalost) {
 
 OknoNakresu::OknoNakresu(QWidget* rodic)
     : VedlejsiOkno(rodic, QStringLiteral("KPS RVZ TESK: nákresný jízdní řád"), kapitoly::nakres) {
-    setObjectName(QStringLiteral("nakres"));
     predavej_enter();
-    setStyleSheet(zvetseny_styl(kVzhled, 1));
 
     trate = new QComboBox;
     trate->setAccessibleName(QStringLiteral("Trať"));
     trate->setToolTip(QStringLiteral("Trať na ose (Page Up, Page Down)"));
     s_planem = new QCheckBox(QStringLiteral("&jízdní řád"));
     s_jizdami = new QCheckBox(QStringLiteral("&skutečnost"));
+    trate->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon); // the row fits any desk
+    trate->setMinimumContentsLength(20);
     pridej_vyber(*trate);
     for (QCheckBox* p : {s_planem, s_jizdami})
         p->setFocusPolicy(Qt::TabFocus);
@@ -285,7 +282,6 @@ OknoNakresu::OknoNakresu(QWidget* rodic)
     platno = new PlatnoNakresu(this);
     platno->setAccessibleName(QStringLiteral("Nákresný jízdní řád"));
     auto* cele = new QVBoxLayout(this);
-    cele->setContentsMargins(8, 6, 8, 8);
     cele->addLayout(lista);
     cele->addWidget(platno, 1);
 
@@ -329,6 +325,15 @@ void OknoNakresu::umisti() {
     const QRect deska = plocha_u_stolu();
     const int okraj = deska.height() / 45;
     setGeometry(deska.adjusted(okraj, 0, -okraj, 0));
+}
+
+// Another palette: what is painted has the colours of the one before.
+void OknoNakresu::changeEvent(QEvent* udalost) {
+    VedlejsiOkno::changeEvent(udalost);
+    if (udalost->type() == QEvent::StyleChange && sklad) {
+        nakresleny = {};
+        prekresli();
+    }
 }
 
 void OknoNakresu::nacti_trate() {

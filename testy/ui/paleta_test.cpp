@@ -1,6 +1,7 @@
 // testy/ui/paleta_test.cpp - the palettes: what can be read, and what tells itself without its hue.
 #include "relief/tvary_vyhybek.h"
 #include "ui/kresba.h"
+#include "ui/kresba_nakresu.h"
 #include "ui/paleta.h"
 #include "ui/platno.h"
 
@@ -118,6 +119,38 @@ TEST_F(Palety, TextsCanBeReadInTheOneForTheColourBlindToo) {
     for (const Barva pismo : kBarvy)
         for (const Barva pod : kBarvy)
             EXPECT_GE(kontrast(barva_qt(barva_pisma(pismo, pod)), podklad_qt(pod)), kKontrastTextu);
+}
+
+TEST_F(Palety, TrainsAndLettersOfTheDiagramStandOutInTheOneOfHighContrast) {
+    nastav_paletu(Paleta::kontrastni);
+    const QColor zem = barva_nakresu(RoleNakresu::papir, false);
+    for (const RoleNakresu role :
+         {RoleNakresu::pismo, RoleNakresu::slabe_pismo, RoleNakresu::ted, RoleNakresu::expres,
+          RoleNakresu::rychlik, RoleNakresu::spesny, RoleNakresu::osobni, RoleNakresu::zvlastni,
+          RoleNakresu::nakladni, RoleNakresu::sluzebni})
+        for (const double kryti : {1.0, 0.5})
+            EXPECT_GE(kontrast(barva_nakresu(role, false, kryti), zem), kKontrastTextu)
+                << static_cast<int>(role) << ' ' << kryti;
+    EXPECT_GE(kontrast(barva_nakresu(RoleNakresu::na_ted, false), barva_nakresu(RoleNakresu::ted, false)),
+              kKontrastTextu);
+}
+
+TEST_F(Palety, GroupsOfTrainsInTheDiagramTellThemselvesToEveryEye) {
+    nastav_paletu(Paleta::bez_barev);
+    constexpr RoleNakresu kSkupiny[] = {RoleNakresu::expres,  RoleNakresu::rychlik,  RoleNakresu::spesny,
+                                        RoleNakresu::osobni,  RoleNakresu::zvlastni, RoleNakresu::nakladni,
+                                        RoleNakresu::sluzebni};
+    constexpr double kRozdil = 90; // of 441 between black and white
+    const auto vzdalenost = [](const QColor& a, const QColor& b) {
+        return std::hypot(a.red() - b.red(), a.green() - b.green(), a.blue() - b.blue());
+    };
+    for (std::size_t i = 0; i < std::size(kSkupiny); ++i)
+        for (std::size_t j = 0; j < i; ++j)
+            for (const Matice& oko : kOci)
+                EXPECT_GE(vzdalenost(videna(barva_nakresu(kSkupiny[i], false), oko),
+                                     videna(barva_nakresu(kSkupiny[j], false), oko)),
+                          kRozdil)
+                    << i << ' ' << j;
 }
 
 TEST_F(Palety, NamesAndPlatformsAreNoTracks) {
