@@ -9,6 +9,7 @@
 #include "ui/pismo.h"
 #include "ui/pohled.h"
 
+#include <QGuiApplication>
 #include <QHelpEvent>
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -20,6 +21,7 @@
 #include <cmath>
 #include <span>
 #include <utility>
+#include <vector>
 
 // Draws in pixels of the desk on the device's pixels.
 struct Pero {
@@ -52,14 +54,17 @@ struct Pero {
 namespace {
 
 // Colours of the terminal, as the relief writes them: 0x00BBGGRR.
-constexpr Barva kJantar = 0x30B0FF, kZelena = 0x60E060, kTlumena = 0x508050, kBila = 0xF0F0F0;
+constexpr Barva kJantar = 0x30B0FF, kZelena = 0x60E060, kTlumena = 0x609860, kBila = 0xF0F0F0;
 constexpr Barva kCervena = 0x5050FF;
 constexpr QRgb kPozadi = 0xFF0A0E0B, kRamec = 0xFF2E5A38, kHlava = 0xFF143020, kVyber = 0xFF1E5A30;
 constexpr QRgb kPodUkazatelem = 0xFF14301C, kTlacitko = 0xFF23402B, kTlacitkoPod = 0xFF2F6B40;
 constexpr QRgb kVystraha = 0xFF6A1414, kRamecVystrahy = 0xFFC04040;
 
-constexpr int kVyskaHlavy = 20; // of a list, pixels of the desk
+constexpr int kSirkaObrazovky = kSirkaStolu / kTwipu; // as the screens were drawn, pixels of the desk
+constexpr int kVyskaHlavy = 20;                       // of a list, pixels of the desk
 constexpr int kSirkaPosuvniku = 6;
+
+} // namespace
 
 // A list: where its head begins, how wide it is, how many rows one below another it shows, in how many
 // columns, how many times its letters are larger, and how high a row is. All places are in pixels of the
@@ -82,6 +87,8 @@ struct OknoSeznamu {
                 sloupec, vyska_radku};
     }
 };
+
+namespace {
 
 // The windows of each screen, in the order of its lists.
 constexpr std::array<OknoSeznamu, 4> kOknaProvozu1 = {{
@@ -113,7 +120,7 @@ constexpr QRect kPodrobnosti(12, 416, 560, 278);
 constexpr QRect kRizikova(12, 78, 1000, 40);
 constexpr QRect kFunkce(584, 130, 428, 88);
 
-std::span<const OknoSeznamu> okna(Technologie ktera) {
+std::span<const OknoSeznamu> okna_na_stole(Technologie ktera) {
     switch (ktera) {
     case Technologie::provoz1: return kOknaProvozu1;
     case Technologie::provoz2: return kOknaProvozu2;
@@ -122,6 +129,23 @@ std::span<const OknoSeznamu> okna(Technologie ktera) {
     case Technologie::sekvence: return kOknaSekvence;
     }
     return {};
+}
+
+// A screen that is wider than the desk as it was drawn gives its breadth to the windows, each its part.
+QRect roztazeny(const QRect& r, int sirka) {
+    const auto x = [&](int v) { return v * sirka / kSirkaObrazovky; };
+    return {QPoint(x(r.left()), r.top()), QPoint(x(r.right() + 1) - 1, r.bottom())};
+}
+
+std::vector<OknoSeznamu> okna(Technologie ktera, int sirka) {
+    const std::span<const OknoSeznamu> na_stole = okna_na_stole(ktera);
+    std::vector<OknoSeznamu> nova(na_stole.begin(), na_stole.end());
+    for (OknoSeznamu& o : nova) {
+        const QRect kde = roztazeny(o.hlava(), sirka);
+        o.roh = kde.topLeft();
+        o.sirka = kde.width();
+    }
+    return nova;
 }
 
 struct TlacitkoObrazovky {
@@ -140,9 +164,16 @@ constexpr TlacitkoObrazovky kZavritPohled = {QRect(880, 734, 132, 24), "ZAVŘÍT
 
 constexpr int kMezeraZalozek = 4, kVyskaZalozek = 26, kRadaZalozek = 36;
 
+// The one that closes keeps to the right edge.
+std::array<TlacitkoObrazovky, 2> tlacitka(int sirka) {
+    std::array<TlacitkoObrazovky, 2> nova = kTlacitka;
+    nova[1].misto.translate(sirka - kSirkaObrazovky, 0);
+    return nova;
+}
+
 // The tabs stand in one row at the right edge.
-QRect misto_zalozky(std::size_t i) {
-    int x = 1012;
+QRect misto_zalozky(std::size_t i, int sirka_obrazovky) {
+    int x = sirka_obrazovky - 12;
     for (std::size_t j = kTechnologie.size(); j-- > i;) {
         const int sirka = static_cast<int>(kTechnologie[j].zalozka.size()) * kSirkaBunky + 24;
         x -= sirka;
@@ -283,7 +314,7 @@ void ObrazovkaTechnologie::obnov() {
         pod_ukazatelem = {};
     }
     zobrazeny = std::move(novy);
-    for (std::size_t s = 0; s < okna(*ktera).size(); ++s) {
+    for (std::size_t s = 0; s < okna_na_stole(*ktera).size(); ++s) {
         prvni_radek[s] = std::clamp(prvni_radek[s], 0, nejvyssi_posun(s));
         if (const int vybrany = seznamy_technologie(*ktera)[s].seznam->vybrany; vybrany != minuly_vyber[s]) {
             minuly_vyber[s] = vybrany;
@@ -296,29 +327,41 @@ void ObrazovkaTechnologie::obnov() {
 int ObrazovkaTechnologie::nejvyssi_posun(std::size_t s) const {
     const Technologie ktera = *zobrazeny.ktera;
     const auto radku = static_cast<int>(seznamy_technologie(ktera)[s].seznam->radky.size());
-    return std::max(0, radku - okna(ktera)[s].naraz());
+    return std::max(0, radku - okna_na_stole(ktera)[s].naraz());
 }
 
 void ObrazovkaTechnologie::ukaz_vybrany(std::size_t s) {
     const Technologie ktera = *zobrazeny.ktera;
     const int vybrany = seznamy_technologie(ktera)[s].seznam->vybrany;
     if (vybrany >= 0)
-        prvni_radek[s] = std::clamp(prvni_radek[s], vybrany - okna(ktera)[s].naraz() + 1, vybrany);
+        prvni_radek[s] = std::clamp(prvni_radek[s], vybrany - okna_na_stole(ktera)[s].naraz() + 1, vybrany);
 }
 
 // --- places
 
-// Of the desk of one monitor, in the middle of the window; the corner of this widget is taken off.
+// Of the desk of one monitor, in the window; the corner of this widget is taken off. A screen takes the whole
+// breadth, of two monitors that of the left one; what shows only a corner of the desk keeps to that corner.
 Meritko ObrazovkaTechnologie::meritko() const {
     const double pomer = devicePixelRatioF();
-    const QSizeF velikost = QSizeF(parentWidget()->size()) * pomer;
+    QSizeF velikost = QSizeF(parentWidget()->size()) * pomer;
+    if (!technologie.jen_pohled && simulace.dva_monitory && QGuiApplication::screens().size() > 1)
+        velikost.setWidth(velikost.width() / 2);
     Meritko m;
     m.k = std::min(velikost.width() / kSirkaStolu, velikost.height() / kVyskaStolu);
-    // a screen stands in the middle; what shows only a corner of the desk keeps to that corner
     const double podil = technologie.jen_pohled && !je_verny_pomer() ? 1 : 0.5;
-    m.x0 = static_cast<int>((velikost.width() - kSirkaStolu * m.k) * podil - x() * pomer);
+    const double sirka = technologie.jen_pohled || je_verny_pomer() ? kSirkaStolu * m.k : velikost.width();
+    m.x0 = static_cast<int>((velikost.width() - sirka) * podil - x() * pomer);
     m.y0 = static_cast<int>((velikost.height() - kVyskaStolu * m.k) * podil - y() * pomer);
     return m;
+}
+
+int ObrazovkaTechnologie::sirka_obrazovky() const {
+    if (technologie.jen_pohled || je_verny_pomer())
+        return kSirkaObrazovky;
+    double sirka = parentWidget()->width() * devicePixelRatioF();
+    if (simulace.dva_monitory && QGuiApplication::screens().size() > 1)
+        sirka /= 2;
+    return std::max(kSirkaObrazovky, static_cast<int>(sirka / meritko().bod()));
 }
 
 QRect ObrazovkaTechnologie::misto_na_okne() const {
@@ -341,6 +384,7 @@ QPoint ObrazovkaTechnologie::na_stul(QPointF misto) const {
 ObrazovkaTechnologie::Misto ObrazovkaTechnologie::misto_pod(QPointF misto) const {
     const auto ktera = otevrena_technologie();
     const QPoint bod = na_stul(misto);
+    const int sirka = sirka_obrazovky();
     Misto m;
     if (!ktera)
         return m;
@@ -350,15 +394,16 @@ ObrazovkaTechnologie::Misto ObrazovkaTechnologie::misto_pod(QPointF misto) const
         return m;
     }
     for (std::size_t t = 0; t < kTlacitka.size(); ++t)
-        if (kTlacitka[t].misto.contains(bod) && (t > 0 || *ktera == Technologie::provoz2))
+        if (tlacitka(sirka)[t].misto.contains(bod) && (t > 0 || *ktera == Technologie::provoz2))
             m.tlacitko = static_cast<int>(t);
     for (std::size_t z = 0; z < kTechnologie.size(); ++z)
-        if (misto_zalozky(z).contains(bod))
+        if (misto_zalozky(z, sirka).contains(bod))
             m.zalozka = static_cast<int>(z);
     const auto seznamy = seznamy_technologie(*ktera);
+    const std::vector<OknoSeznamu> okna_seznamu = okna(*ktera, sirka);
     for (std::size_t s = 0; s < seznamy.size(); ++s)
-        for (int r = 0; r < okna(*ktera)[s].naraz(); ++r)
-            if (okna(*ktera)[s].radek(r).contains(bod)) {
+        for (int r = 0; r < okna_seznamu[s].naraz(); ++r)
+            if (okna_seznamu[s].radek(r).contains(bod)) {
                 m.seznam = static_cast<int>(s);
                 const int radek = r + prvni_radek[s];
                 if (radek < static_cast<int>(seznamy[s].seznam->radky.size()))
@@ -462,22 +507,24 @@ void ObrazovkaTechnologie::paintEvent(QPaintEvent*) {
         return;
     }
 
-    pero.plocha({0, 0, 1024, 24}, kHlava);
+    const int sirka = sirka_obrazovky();
+    pero.plocha({0, 0, sirka, 24}, kHlava);
     pero.text(4, 6, hlava_technologie(), kZelena);
-    pero.text(1024 - 20 * kSirkaBunky, 6, technologie.lblDatum, kJantar);
+    pero.text(sirka - 20 * kSirkaBunky, 6, technologie.lblDatum, kJantar);
     pero.text(12, 36, kTechnologie[static_cast<std::size_t>(*ktera)].titul, kJantar, 2);
     for (std::size_t z = 0; z < kTechnologie.size(); ++z) {
-        const QRect misto = misto_zalozky(z);
+        const QRect misto = misto_zalozky(z, sirka);
         const bool tato = z == static_cast<std::size_t>(*ktera);
         const bool pod = pod_ukazatelem.zalozka == static_cast<int>(z);
         pero.plocha(misto, tato ? kVyber : pod ? kTlacitkoPod : kHlava);
         pero.obrys(misto, kRamec);
         text_na_stred(pero, misto, kTechnologie[z].zalozka, tato ? kBila : kZelena);
     }
-    pero.plocha({12, 68, 1000, 1}, kRamec);
+    pero.plocha({12, 68, sirka - 24, 1}, kRamec);
 
-    for (std::size_t s = 0; s < okna(*ktera).size(); ++s)
-        nakresli_seznam(pero, *ktera, s);
+    const std::vector<OknoSeznamu> okna_seznamu = okna(*ktera, sirka);
+    for (std::size_t s = 0; s < okna_seznamu.size(); ++s)
+        nakresli_seznam(pero, okna_seznamu[s], *ktera, s);
     if (*ktera == Technologie::provoz2)
         nakresli_provoz2(pero);
     if (*ktera == Technologie::sekvence)
@@ -486,13 +533,13 @@ void ObrazovkaTechnologie::paintEvent(QPaintEvent*) {
     pero.text(280, 730, "šipky: řádek a obrazovka   Tab: další seznam"_cz, kTlumena);
     for (std::size_t t = *ktera == Technologie::provoz2 ? 0 : 1; t < kTlacitka.size(); ++t) {
         const bool lze = t > 0 || provoz2.lstZasobnik.vybrany >= 0 || provoz2.lstmakra.vybrany >= 0;
-        nakresli_tlacitko(pero, kTlacitka[t], pod_ukazatelem.tlacitko == static_cast<int>(t),
+        nakresli_tlacitko(pero, tlacitka(sirka)[t], pod_ukazatelem.tlacitko == static_cast<int>(t),
                           lze ? kBila : kTlumena);
     }
 }
 
-void ObrazovkaTechnologie::nakresli_seznam(const Pero& pero, Technologie ktera, std::size_t s) const {
-    const OknoSeznamu& okno = okna(ktera)[s];
+void ObrazovkaTechnologie::nakresli_seznam(const Pero& pero, const OknoSeznamu& okno, Technologie ktera,
+                                           std::size_t s) const {
     const SeznamTechnologie& popis = seznamy_technologie(ktera)[s];
     const Seznam& seznam = *popis.seznam;
     const auto radku = static_cast<int>(seznam.radky.size());
@@ -540,19 +587,21 @@ void ObrazovkaTechnologie::nakresli_seznam(const Pero& pero, Technologie ktera, 
 void ObrazovkaTechnologie::nakresli_provoz2(const Pero& pero) const {
     Text klavesy = provoz2.lblKlavesy_maker;
     std::replace(klavesy.begin(), klavesy.end(), '\x0D', ' ');
-    pero.obrys(kKlavesyMaker, kRamec);
-    pero.text(kKlavesyMaker.x() + 6, kKlavesyMaker.y() + 5, "Klávesy"_cz, kJantar);
-    pero.text_do(kKlavesyMaker.x() + 6, kKlavesyMaker.y() + 26, kKlavesyMaker.width() - 12, klavesy, kZelena);
+    const QRect klavesy_maker = roztazeny(kKlavesyMaker, sirka_obrazovky());
+    const QRect podrobnosti = roztazeny(kPodrobnosti, sirka_obrazovky());
+    pero.obrys(klavesy_maker, kRamec);
+    pero.text(klavesy_maker.x() + 6, klavesy_maker.y() + 5, "Klávesy"_cz, kJantar);
+    pero.text_do(klavesy_maker.x() + 6, klavesy_maker.y() + 26, klavesy_maker.width() - 12, klavesy, kZelena);
 
-    nakresli_ramecek(pero, kPodrobnosti, "Vybraná cesta"_cz);
-    int y = kPodrobnosti.y() + 28;
-    const auto mist = static_cast<std::size_t>((kPodrobnosti.width() - 12) / kSirkaBunky);
+    nakresli_ramecek(pero, podrobnosti, "Vybraná cesta"_cz);
+    int y = podrobnosti.y() + 28;
+    const auto mist = static_cast<std::size_t>((podrobnosti.width() - 12) / kSirkaBunky);
     for (std::size_t i = 0; i < provoz2.podrobnosti.size(); ++i)
         for (const Text& radek : zalom(provoz2.podrobnosti[i], mist)) {
-            if (y + kVyskaHlavy > kPodrobnosti.bottom())
+            if (y + kVyskaHlavy > podrobnosti.bottom())
                 break;
             const bool duvod = i + 1 == provoz2.podrobnosti.size();
-            pero.text(kPodrobnosti.x() + 6, y, radek, i == 0 ? kBila : duvod ? kJantar : kZelena);
+            pero.text(podrobnosti.x() + 6, y, radek, i == 0 ? kBila : duvod ? kJantar : kZelena);
             y += 18;
         }
 }
@@ -560,9 +609,10 @@ void ObrazovkaTechnologie::nakresli_provoz2(const Pero& pero) const {
 // What ran, large; without a function the heading is dark.
 void ObrazovkaTechnologie::nakresli_funkci(const Pero& pero) const {
     const Text& nazev = sekvence.funkce.nazev;
-    nakresli_vystrahu(pero, kRizikova, !nazev.empty(), 2);
-    nakresli_ramecek(pero, kFunkce, "Riziková funkce"_cz);
-    pero.text_do(kFunkce.x() + 12, kFunkce.y() + 42, kFunkce.width() - 24,
+    const QRect ramecek = roztazeny(kFunkce, sirka_obrazovky());
+    nakresli_vystrahu(pero, roztazeny(kRizikova, sirka_obrazovky()), !nazev.empty(), 2);
+    nakresli_ramecek(pero, ramecek, "Riziková funkce"_cz);
+    pero.text_do(ramecek.x() + 12, ramecek.y() + 42, ramecek.width() - 24,
                  nazev.empty() ? Text("žádná neprobíhá"_cz) : nazev, nazev.empty() ? kTlumena : kBila, 2);
 }
 

@@ -19,7 +19,8 @@
 #include <functional>
 #include <optional>
 
-struct Pero; // draws in pixels of the desk
+struct Pero;        // draws in pixels of the desk
+struct OknoSeznamu; // where a list stands
 
 class ObrazovkaTechnologie : public QWidget {
 public:
@@ -63,12 +64,13 @@ private:
     };
 
     Meritko meritko() const;
+    int sirka_obrazovky() const;         // pixels of the desk, as many as fit beside each other
     QRect misto_na_okne() const;         // of this widget, logical pixels of the window
     QPoint na_stul(QPointF misto) const; // pixels of the desk
     Misto misto_pod(QPointF misto) const;
     void ukaz_vybrany(std::size_t seznam);
     int nejvyssi_posun(std::size_t seznam) const;
-    void nakresli_seznam(const Pero& pero, Technologie ktera, std::size_t s) const;
+    void nakresli_seznam(const Pero& pero, const OknoSeznamu& okno, Technologie ktera, std::size_t s) const;
     void nakresli_provoz2(const Pero& pero) const;
     void nakresli_funkci(const Pero& pero) const;
     void nakresli_pohled(const Pero& pero) const;
