@@ -62,14 +62,8 @@ constexpr QRgb kBarvaUkazani = 0xFFFFB030;
 constexpr int kPosunLupy = 80; // of what is enlarged by one step, pixels of the desk
 
 constexpr const char* kVzhledSeznamu =
-    "QListWidget { background: @pole; color: @text; border: 1px solid @cara; outline: 0; }"
-    "QListWidget:focus { border-color: @nadpis; }"
-    "QListWidget::item:selected { background: @vyber; color: @text_vyberu; }"
-    "QScrollBar:vertical { background: #15191e; width: 14px; margin: 0; }"
-    "QScrollBar::handle:vertical { background: #505b68; min-height: 20px; }"
-    "QScrollBar:horizontal { background: #15191e; height: 14px; margin: 0; }"
-    "QScrollBar::handle:horizontal { background: #505b68; min-width: 20px; }"
-    "QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; }";
+    "QListWidget { border-radius: 0; }"
+    "QListWidget::item:selected { background: @vyber; color: @text_vyberu; }";
 HlavniOkno* jedine = nullptr;
 
 Tlacitko tlacitko_mysi(Qt::MouseButton tlacitko) {
@@ -230,8 +224,8 @@ HlavniOkno::HlavniOkno() {
     pole->hide();
     pole->setFrame(false);
     pole->setContextMenuPolicy(Qt::NoContextMenu);
-    pole->setStyleSheet(
-        QStringLiteral("QLineEdit { background: #fff; color: #000; border: 0; padding: 0; }"));
+    pole->setStyleSheet(QStringLiteral(
+        "QLineEdit { background: #fff; color: #000; border: 0; border-radius: 0; padding: 0; }"));
     pole->installEventFilter(this);
     connect(pole, &QLineEdit::textEdited, this, [this](const QString& text) {
         rukou([&] { pis_do_pole(z_qstring(text)); });
@@ -367,6 +361,13 @@ QRect HlavniOkno::plocha_kolejiste() const {
     const QPoint roh((QPointF(m.x0, m.y(kPodRadkem)) / pomer).toPoint());
     const int dole = qRound(m.y(kNadZasobnikem) / pomer);
     return {mapToGlobal(roh), QSize(width() - 2 * roh.x(), dole - roh.y())};
+}
+
+QRect HlavniOkno::misto_nalezeneho() const {
+    if (!relief.shpVyhledavani[0].viditelny)
+        return {};
+    const QRect kde = misto_prvku({Druh::shpVyhledavani, 0});
+    return {mapToGlobal(kde.topLeft()), kde.size()};
 }
 
 void HlavniOkno::umisti() {

@@ -38,6 +38,8 @@ public:
     int kapitola_pod_kurzorem() const;
     // Where the tracks are shown: between the command line and the line of the stack. Pixels of the screen.
     QRect plocha_kolejiste() const;
+    // Of the frame around what was searched for; empty when there is none. Pixels of the screen.
+    QRect misto_nalezeneho() const;
     // Its picture.
     const Platno& obraz() const { return platno; }
 

@@ -23,7 +23,9 @@ constexpr const char* kVzhledNabidky =
     "QMenu::item:disabled { color: @nelze; background: transparent; }"
     "QMenu::separator { height: 1px; background: @cara; margin: 2px 4px; }"
     "QMenu::right-arrow { width: 0; height: 0; }"; // an arrow of the style would not grow with the desk
-constexpr const char* kVzhledHlavy = "background: @vyber; color: @text_vyberu; padding: 2px 14px;";
+// The name of the element looks like no entry that is picked.
+constexpr const char* kVzhledHlavy =
+    "background: @pole; color: @nadpis; padding: 2px 14px; border-bottom: 1px solid @cara;";
 constexpr const char* kVzhledUdaje = "background: @udaj; color: @text; padding: 1px 14px;";
 
 // The tip of an entry stands beside its menu: below the pointer it would cover the next entry.

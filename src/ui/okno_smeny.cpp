@@ -74,7 +74,6 @@ QPointer<OknoSmeny> otevrene;
 
 OknoSmeny::OknoSmeny(HlavniOkno& stul_)
     : VedlejsiOkno(&stul_, QStringLiteral("Záznam směny"), kapitoly::smena, Qt::Tool), stul(stul_) {
-    setFrameStyle(QFrame::Panel | QFrame::Raised); // no window manager, no border
     nadpis = new QLabel;
     prubeh = new QLabel;
     vzkaz = new QLabel;
@@ -137,7 +136,10 @@ OknoSmeny::OknoSmeny(HlavniOkno& stul_)
     cele->addLayout(dole);
     obnov();
     adjustSize();
-    move(plocha_u_stolu().center() - rect().center()); // where the panel and the bar stay in sight
+    // in the corner: the middle of the junction, the panel and the bar stay in sight
+    const QRect plocha = plocha_u_stolu();
+    const int okraj = plocha.height() / 45;
+    move(plocha.right() + 1 - width() - okraj, plocha.bottom() + 1 - height() - okraj);
 }
 
 void OknoSmeny::obnov() {

@@ -34,53 +34,27 @@
 
 namespace {
 
-// Lengths are of the screen's own measure and are scaled with it.
+// What the start screen has beside the look of all windows.
 constexpr const char* kVzhled =
     "OknoParametru, QWidget#plocha { background: @plocha; }"
-    "QWidget { color: @text; font-size: 13px; }"
     "QWidget#hlava { background: #000; }"
     "QLabel#tlumeny { color: @tlumeny; }"
-    "QGroupBox { border: 1px solid @cara; border-radius: 3px; margin-top: 9px; padding: 14px 10px 8px "
-    "10px; }"
-    "QGroupBox::title { subcontrol-origin: margin; left: 9px; padding: 0 5px; color: @nadpis; }"
-    "QLineEdit, QComboBox, QPlainTextEdit { background: @pole; border: 1px solid @cara;"
-    " border-radius: 2px; color: @text_vyberu; selection-background-color: @vyber; selection-color: "
-    "@text_vyberu; }"
-    "QLineEdit, QComboBox { padding: 4px 6px; }"
-    "QLineEdit:focus, QComboBox:focus, QPlainTextEdit:focus { border-color: @nadpis; }"
+    "QGroupBox { padding: 14px 10px 8px 10px; }"
+    "QLineEdit { padding: 4px 6px; }"
     "QLineEdit#cas { font-size: 26px; padding: 3px 4px; }"
     "QLabel#cas { font-size: 26px; }"
-    "QComboBox::drop-down { border: none; width: 22px; }"
-    "QComboBox::down-arrow { width: 0; height: 0; }"
-    "QComboBox QAbstractItemView { background: @pole; color: @text_vyberu; border: 1px solid @cara;"
-    " selection-background-color: @vyber; outline: 0; }"
-    "QPushButton { background: @tlacitko; border: 1px solid @cara; border-radius: 2px; padding: 5px 11px; }"
-    "QPushButton:hover { background: @udaj; }"
-    "QPushButton:focus { border-color: @nadpis; }"
-    "QPushButton:pressed { background: #0b3f40; }"
-    "QPushButton#rad { background: @pole; color: @text_vyberu; text-align: left; padding: 6px 8px; }"
+    "QPushButton { padding: 5px 11px; }"
+    "QPushButton#rad { background: @pole; text-align: left; padding: 6px 8px; }"
     "QPushButton#stranka { background: transparent; border: 1px solid transparent; padding: 4px 8px;"
     " text-align: left; }"
-    "QPushButton#stranka:hover { background: #1d242b; }"
+    "QPushButton#stranka:hover { background: @tlacitko; }"
     "QPushButton#stranka:focus { border-color: @nadpis; }"
-    "QPushButton#stranka:checked { background: #0b2f30; border-color: #0e6b6c; color: @text_vyberu; }"
+    "QPushButton#stranka:checked { background: #0b2f30; color: @text_vyberu; }"
     "QPushButton#start { background: @start; border-color: #14a035; color: @text_vyberu; padding: 9px 26px; }"
     "QPushButton#start:hover { background: #0b7a24; }"
     "QPushButton#start:focus { border-color: @text_vyberu; }"
-    "QCheckBox { spacing: 8px; padding: 3px 2px; }"
-    "QCheckBox::indicator { width: 13px; height: 13px; border: 1px solid @cara; border-radius: 2px;"
-    " background: @pole; }"
-    "QCheckBox::indicator:checked { background: #19e64b; border: 3px solid @pole; }"
-    "QCheckBox::indicator:checked:focus, QCheckBox::indicator:focus { border-color: @nadpis; }"
-    "QCheckBox:focus { color: @nadpis; }"
-    "QCheckBox:disabled { color: @nelze; }"
-    "QCheckBox::indicator:disabled { border-color: @cara; background: @plocha; }"
-    "QMenu { background: @nabidka; border: 1px solid @cara; padding: 2px; }"
-    "QMenu::item { padding: 5px 22px 5px 12px; color: @text_vyberu; }"
-    "QMenu::item:selected { background: @vyber; }"
-    "QScrollBar:vertical { background: #0b0e12; width: 12px; margin: 0; }"
-    "QScrollBar::handle:vertical { background: #3c4753; min-height: 20px; border-radius: 2px; }"
-    "QScrollBar::add-line, QScrollBar::sub-line { height: 0; }";
+    "QCheckBox { padding: 3px 2px; }"
+    "QMenu::item { padding: 5px 22px 5px 12px; }";
 
 // --- pictures of the buttons
 
@@ -173,34 +147,21 @@ private:
     double meritko;
 };
 
-// A small triangle, at the right edge of what opens a list.
-void nakresli_sipku(QPainter& p, const QRect& kde, double krat) {
-    p.setRenderHint(QPainter::Antialiasing);
-    p.setPen(Qt::NoPen);
-    p.setBrush(barva_okna(BarvaOkna::tlumeny));
-    const QPointF stred(kde.right() - 12 * krat, kde.center().y() + 0.5);
-    p.drawPolygon(QPolygonF{stred + QPointF(-4, -2) * krat, stred + QPointF(4, -2) * krat,
-                            stred + QPointF(0, 3) * krat});
-}
-
-// A control that opens something under it, with the arrow that says so.
-template <class Prvek> class SeSipkou : public Prvek {
+// A button that opens a menu under it, with the arrow that says so.
+class TlacitkoNabidky : public QPushButton {
 public:
-    explicit SeSipkou(double krat) : meritko(krat) {}
+    explicit TlacitkoNabidky(double krat) : meritko(krat) {}
 
 protected:
     void paintEvent(QPaintEvent* udalost) override {
-        Prvek::paintEvent(udalost);
+        QPushButton::paintEvent(udalost);
         QPainter p(this);
-        nakresli_sipku(p, this->rect(), meritko);
+        nakresli_sipku(p, rect(), meritko);
     }
 
 private:
     double meritko;
 };
-
-using VyberZeSeznamu = SeSipkou<QComboBox>;
-using TlacitkoNabidky = SeSipkou<QPushButton>;
 
 // Text of the core for a button or box; "&" would underline the next letter.
 QString popisek(TextPohled text) {
@@ -302,11 +263,11 @@ QWidget* OknoParametru::hlavni_stranka() {
     });
     QPushButton* pridat =
         tlacitko(QStringLiteral("&Přidat oblíbený"), [this] { prikaz([] { pridej_oblibeny(); }); });
-    cboDen = new VyberZeSeznamu(meritko);
+    cboDen = new QComboBox;
     for (const TextPohled den : kDnyStartu)
         cboDen->addItem(na_qstring(den));
     connect(cboDen, &QComboBox::currentIndexChanged, this, [this](int i) { prikaz([&] { vyber_den(i); }); });
-    cboRychlost = new VyberZeSeznamu(meritko);
+    cboRychlost = new QComboBox;
     for (int i = 1; i <= kRychlostiStartu; ++i)
         cboRychlost->addItem(QString::number(i));
     connect(cboRychlost, &QComboBox::currentIndexChanged, this,
@@ -407,7 +368,7 @@ QWidget* OknoParametru::stranka_moznosti() {
         rozpoznej_monitory(); // which drawing a wide screen takes
     });
     chkVystrahy = policko(QStringLiteral("Řádek &výstrah na stole"), nastav_radu_vystrah);
-    cboPaleta = new VyberZeSeznamu(meritko);
+    cboPaleta = new QComboBox;
     for (std::size_t i = 0; i < kPalet; ++i)
         cboPaleta->addItem(jmeno_palety(static_cast<Paleta>(i)));
     cboPaleta->setCurrentIndex(static_cast<int>(paleta()));
@@ -488,7 +449,7 @@ QWidget* OknoParametru::stranka_o_aplikaci() {
             "Zabezpečovací zařízení odmítá a varuje jako skutečné. Nic se neboduje a nic se "
             "nestane samo.</p>"
             "<p style='color:#00e5e5'>Klávesy této obrazovky</p>"
-            "<table cellspacing='4'>"
+            "<table cellspacing='4' cellpadding='3'>"
             "<tr><td>Enter</td><td>spustí simulaci</td></tr>"
             "<tr><td>šipky nahoru a dolů</td><td>v poli hodin a minut mění čas, na konci dokola</td></tr>"
             "<tr><td>Tab, Shift+Tab</td><td>další a předchozí pole</td></tr>"

@@ -6,10 +6,15 @@
 #include "relief/relief.h"
 #include "technologie/technologie.h"
 #include "ui/hlavni_okno.h"
+#include "ui/umisteni_oken.h"
 
 #include <QApplication>
 #include <QComboBox>
 #include <QKeyEvent>
+#include <QMouseEvent>
+#include <QScreen>
+
+#include <algorithm>
 
 namespace {
 
@@ -44,6 +49,7 @@ VedlejsiOkno::VedlejsiOkno(QWidget* rodic, const QString& titulek, int kapitola,
     : QFrame(rodic, druh), moje_kapitola(kapitola) {
     setWindowTitle(titulek);
     setAttribute(Qt::WA_DeleteOnClose);
+    setProperty("vedlejsi", true); // for the sheet: a frame, where no window manager draws one
 }
 
 void VedlejsiOkno::ukaz() {
@@ -64,6 +70,30 @@ QRect VedlejsiOkno::plocha_u_stolu() {
     if (simulace.dva_monitory)
         plocha.setLeft(plocha.center().x() + 1);
     return plocha;
+}
+
+void VedlejsiOkno::uhni_nalezenemu() {
+    if (const QRect kde = HlavniOkno::otevrene()->misto_nalezeneho(); !kde.isEmpty())
+        move(misto_stranou(geometry(), plocha_u_stolu(), kde));
+}
+
+// A label takes no press of its own, so it counts as ground too.
+void VedlejsiOkno::mousePressEvent(QMouseEvent* udalost) {
+    if (udalost->button() == Qt::LeftButton)
+        tah = udalost->globalPosition().toPoint() - pos();
+}
+
+void VedlejsiOkno::mouseMoveEvent(QMouseEvent* udalost) {
+    if (!tah)
+        return;
+    const QRect kde = screen()->virtualGeometry(); // the whole of it stays in sight
+    const QPoint kam = udalost->globalPosition().toPoint() - *tah;
+    move(std::clamp(kam.x(), kde.left(), std::max(kde.left(), kde.right() + 1 - width())),
+         std::clamp(kam.y(), kde.top(), std::max(kde.top(), kde.bottom() + 1 - height())));
+}
+
+void VedlejsiOkno::mouseReleaseEvent(QMouseEvent*) {
+    tah.reset();
 }
 
 void VedlejsiOkno::keyPressEvent(QKeyEvent* udalost) {

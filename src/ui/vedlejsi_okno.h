@@ -1,11 +1,13 @@
 // ui/vedlejsi_okno.h - what all windows beside the desk have in common: place, keys, and who gets them back.
 //
 // The service goes on beneath such a window, so it leaves the command line and the line of the stack in sight
-// and hands the desk's own keys on.
+// and hands the desk's own keys on. It is dragged by its ground, with or without a window manager.
 #pragma once
 
 #include <QFrame>
 #include <QPointer>
+
+#include <optional>
 
 class QComboBox;
 
@@ -30,15 +32,21 @@ protected:
     // Between the command line and the line of the stack, on the right one of two monitors that the desk
     // takes. Pixels of the screen.
     static QRect plocha_u_stolu();
+    // The desk has found something that this window tells of: it does not lie over it.
+    void uhni_nalezenemu();
 
     void keyPressEvent(QKeyEvent* udalost) override;
     void closeEvent(QCloseEvent* udalost) override;
     bool eventFilter(QObject* cil, QEvent* udalost) override;
+    void mousePressEvent(QMouseEvent* udalost) override;
+    void mouseMoveEvent(QMouseEvent* udalost) override;
+    void mouseReleaseEvent(QMouseEvent* udalost) override;
 
 private:
     int moje_kapitola;
     bool enter_stolu = false;
     QPointer<QWidget> pred_nim; // had the keys
+    std::optional<QPoint> tah;  // where in the window the pointer drags it
 };
 
 // --- at any time, without change

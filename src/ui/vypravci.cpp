@@ -173,6 +173,7 @@ OknoVypravciho::OknoVypravciho(QWidget* rodic)
     rozvrzeni_zpravy->addLayout(pod_zpravou);
     listy = new QTabWidget;
     listy->setDocumentMode(true); // all pages on the ground of the window
+    listy->setUsesScrollButtons(false);
     listy->setAccessibleName(QStringLiteral("Co výpravčí dělá"));
     listy->tabBar()->setAccessibleName(QStringLiteral("Listy"));
     listy->addTab(cekani.okno, {});
@@ -193,19 +194,22 @@ OknoVypravciho::OknoVypravciho(QWidget* rodic)
     auto* cele = new QVBoxLayout(this);
     cele->addLayout(stred, 1);
     cele->addLayout(dole);
-    umisti();
     obnov();
+    umisti();
     connect(&obnova, &QTimer::timeout, this, &OknoVypravciho::obnov);
     obnova.start(kObnova_ms);
     ukaz();
     predat->setFocus();
 }
 
-// At the right edge, with the left part of the tracks in sight.
+// At the right edge, and no wider than a half: so it can give way to what it tells of.
 void OknoVypravciho::umisti() {
+    for (QWidget* ovladac : findChildren<QWidget*>()) // the style counts in the least width
+        ovladac->ensurePolished();
+    layout()->invalidate();
     QRect kde = plocha_u_stolu();
-    kde.setLeft(kde.right() + 1 - std::max(qRound(kde.width() * 0.62), minimumSizeHint().width()));
     const int okraj = kde.height() / 45;
+    kde.setLeft(kde.right() + 1 - std::max(kde.width() / 2 - okraj, minimumSizeHint().width()));
     setGeometry(kde.translated(-okraj, 0));
 }
 
@@ -239,11 +243,13 @@ QListWidget* OknoVypravciho::seznam_vet() {
     s->setWordWrap(true);
     s->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     s->setToolTip(QStringLiteral("Klepnutí na řádek nebo Enter vlak vyhledá na stole"));
-    const auto vyhledej = [](const QListWidgetItem* radek) {
+    const auto vyhledej = [this](const QListWidgetItem* radek) {
         const std::int32_t vlak = radek->data(Qt::UserRole).toInt();
         rukou([&] { ukaz_vlak(vlak); });
-        if (HlavniOkno* deska = HlavniOkno::otevrene())
+        if (HlavniOkno* deska = HlavniOkno::otevrene()) {
             deska->obnov();
+            uhni_nalezenemu();
+        }
     };
     connect(s, &QListWidget::itemClicked, this, vyhledej);
     auto* enter = new QShortcut(QKeySequence(Qt::Key_Return), s, nullptr, nullptr, Qt::WidgetShortcut);

@@ -6,7 +6,10 @@
 #pragma once
 
 #include <QApplication>
+#include <QRect>
 #include <QString>
+
+class QPainter;
 
 // --- at start, and when another palette is chosen
 
@@ -20,7 +23,9 @@ void nastav_meritko_oken(double krat);
 
 // --- at any time
 
-// How many times larger than on the desk's own screen a window may be: 1, 1.5, 2, ...
+// How many times larger than on the desk's own screen a window may be on this one.
 double meritko_obrazovky();
+// A small triangle at the right edge of what opens a list; `krat`: the scale of the window.
+void nakresli_sipku(QPainter& p, const QRect& kde, double krat);
 // A style sheet with all its lengths but hair lines multiplied, and its colours from the palette.
 QString zvetseny_styl(const char* styl, double krat);

@@ -342,8 +342,10 @@ void zmer_prvek(const Platno& platno, Druh druh, int n) {
         nakresli_prvek(p, m, druh, n, prvek);
     });
     const int presah = m.bodu(2);
+    // a caption of a vehicle goes on below its element, as many lines as it has
+    const int vyska = druh == Druh::lblPopis_vozu ? radku_popisu(prvek) * kVyskaZnaku : prvek.vyska;
     const QRectF misto(m.x(prvek.vlevo) - presah, m.y(prvek.nahore) - presah, prvek.sirka * m.k + 2 * presah,
-                       prvek.vyska * m.k + 2 * presah);
+                       vyska * m.k + 2 * presah);
     for (const Radek& r : radky)
         if (r.kde.left() < misto.left() || r.kde.right() > misto.right() ||
             (prvek.vyska > 0 && r.kde.bottom() > misto.bottom()))
