@@ -206,7 +206,7 @@ Prvek Platno::umisti(Druh druh, int n) const {
     case Druh::imgDEBUG:
     case Druh::imgPauza:
     case Druh::imgMinimalizuj:
-    case Druh::imgKONEC:
+    case Druh::imgKONEC: p.vlevo = p.vlevo + posun_klaves(); break;
     case Druh::lblMakro_pismeno:
     case Druh::lblPN: p.vlevo = p.vlevo + pravy; break;
     case Druh::lblPokracuje: p.vlevo = p.vlevo + navic_dole; break;
@@ -245,8 +245,8 @@ Prvek Platno::umisti(Druh druh, int n) const {
 
 // A train is drawn as large as the breadth of the panel and the lines above and below it allow.
 Platno::Vozy Platno::spocti_vozy() const {
-    const double do_sirky = 1 + static_cast<double>(sirsi) / sirka_stolu;
-    if (monitoru() == 2 || do_sirky <= 1)
+    const double do_sirky = 1 + static_cast<double>(navic_panelu()) / kSirkaStolu;
+    if ((monitoru() == 2 && !pres_oba) || do_sirky <= 1)
         return {};
     constexpr int kVyskaMista = 40 * kTwipu, kRezerva = 3 * kTwipu, kRadkuPopisu = 3;
     constexpr double kKrokVozu = 0.02;
@@ -266,8 +266,11 @@ Platno::Vozy Platno::spocti_vozy() const {
             }
         const int dole = std::max(0, kRadkuPopisu - radku) * kVyskaZnaku + vyssi;
         const int potreba = static_cast<int>((krat - 1) * kVyskaMista);
-        if (potreba <= nahore + dole)
-            return {krat, std::min(nahore, potreba), potreba - std::min(nahore, potreba)};
+        if (potreba <= nahore + dole) {
+            // the room of a high display first, then that of the line above, then that of the captions
+            const int nahoru = std::min(nahore, potreba - std::min(vyssi, potreba));
+            return {krat, nahoru, potreba - nahoru};
+        }
     }
     return {};
 }

@@ -5,6 +5,7 @@
 #include "relief/nacti_relief.h"
 #include "relief/relief.h"
 #include "relief/tvary_vyhybek.h"
+#include "ui/pismo.h"
 #include "ui/platno.h"
 #include "zaklad/soubory.h"
 
@@ -12,7 +13,11 @@
 
 #include <algorithm>
 #include <cmath>
+#include <fstream>
+#include <iomanip>
 #include <map>
+#include <sstream>
+#include <string>
 #include <utility>
 #include <vector>
 
@@ -77,7 +82,69 @@ void zkus_oba_smery(const Platno& platno, Druh druh, int n) {
     EXPECT_TRUE(na_bodu == tady || na_bodu == Nalezeny(druh, n)) << jmeno_druhu(druh) << ' ' << n;
 }
 
+// Part of the screen within the outermost points of the tracks and of what stands among them, as painted.
+double podil_reliefu(const Platno& platno) {
+    constexpr int kOd = 44 * kTwipu, kPo = 596 * kTwipu; // between the lines of the bars
+    const QImage& o = platno.obraz();
+    QRect kde;
+    for (int y = platno.meritko().y(kOd); y < platno.meritko().y(kPo); ++y) {
+        const auto* radek = reinterpret_cast<const QRgb*>(o.constScanLine(y));
+        const auto je = [](QRgb bod) { return (bod & 0xFFFFFF) != 0; };
+        const auto* prvni = std::find_if(radek, radek + o.width(), je);
+        if (prvni == radek + o.width())
+            continue;
+        int posledni = o.width() - 1;
+        while (!je(radek[posledni]))
+            --posledni;
+        kde |= QRect(QPoint(static_cast<int>(prvni - radek), y), QPoint(posledni, y));
+    }
+    return 100.0 * kde.width() * kde.height() / (1.0 * o.width() * o.height());
+}
+
+// The rows of the table of a document that begin with a size of the screen: "3840 × 1080 ..." and the cells
+// behind it.
+std::vector<std::vector<std::string>> radky_velikosti(const char* dokument) {
+    std::ifstream soubor(dokument);
+    std::vector<std::vector<std::string>> radky;
+    for (std::string radek; std::getline(soubor, radek);) {
+        if (!radek.starts_with("| ") || radek.find(" × ") == std::string::npos)
+            continue;
+        std::vector<std::string>& bunky = radky.emplace_back();
+        for (std::size_t od = 2, po = 0; (po = radek.find(" |", od)) != std::string::npos; od = po + 3)
+            bunky.push_back(radek.substr(od, po - od));
+    }
+    return radky;
+}
+
+QSize velikost_z_textu(const std::string& text) {
+    return {std::stoi(text), std::stoi(text.substr(text.find(" × ") + std::string_view(" × ").size()))};
+}
+
 } // namespace
+
+TEST_F(SirokyStul, TracksTakeAsMuchOfEachScreenAsTheDocumentSays) {
+    const auto radky = radky_velikosti(TESK_KRESBA);
+    ASSERT_EQ(radky.size(), 8U);
+    for (const std::vector<std::string>& bunky : radky) {
+        ASSERT_EQ(bunky.size(), 4U);
+        const QSize velikost = velikost_z_textu(bunky[0]);
+        const bool na_dvou = bunky[0].ends_with("on two monitors");
+        for (const bool vyplnit : {false, true}) {
+            // the core takes a display for two monitors by its proportions, one that is filled from twice as
+            // wide as high on
+            const bool dve_poloviny = vyplnit ? velikost.width() >= 2 * velikost.height()
+                                              : velikost.width() / 2.5 > velikost.height();
+            nacti(dve_poloviny ? "tesk.reb" : "tesk.rea");
+            platno.nastav_velikost(velikost, dve_poloviny ? 2 * kSirkaStolu : kSirkaStolu, vyplnit, !na_dvou);
+            platno.obnov();
+            EXPECT_EQ(std::to_string(std::lround(podil_reliefu(platno))) + " %", bunky[vyplnit ? 2 : 1])
+                << bunky[0];
+        }
+        std::ostringstream pismeno;
+        pismeno << std::fixed << std::setprecision(2) << kSirkaBunky * platno.meritko().bod() << " px";
+        EXPECT_EQ(pismeno.str(), bunky[3]) << bunky[0];
+    }
+}
 
 TEST_F(SirokyStul, MiddleOfEveryElementIsFoundInBothDirections) {
     for (const QSize velikost : kSiroke) {
