@@ -474,9 +474,8 @@ void HlavniOkno::obnov_napisy_vypravciho() {
     if (nove.front().viditelny) // beside the version, wherever a wide display has it
         nove.front().vlevo =
             nove.front().vlevo + platno.prvek(Druh::lblVerze, 0).vlevo - relief.lblVerze[0].vlevo();
-    if (nove.back().viditelny) // with the page of the train, wherever a high one has that
-        nove.back().nahore = nove.back().nahore + platno.prvek(Druh::lblIinfo_o_vlaku, 0).nahore -
-                             relief.lblIinfo_o_vlaku[0].nahore();
+    if (nove.back().viditelny) // below the page of the train
+        nove.back().nahore = platno.posledni_radek_panelu();
     for (std::size_t i = 0; i < nove.size(); ++i) {
         if (nove[i] == napisy_vypravciho[i])
             continue;

@@ -24,7 +24,7 @@ constexpr BarvaSkupiny kBezBarevNakresu[] = {
     {RoleNakresu::zvlastni, 0xFFFFFFEB}, {RoleNakresu::nakladni, 0xFF009464},
     {RoleNakresu::sluzebni, 0xFF7C74C6},
 };
-constexpr double kNejmensiKryti = 0.8; // in the palette of high contrast
+constexpr double kNejmensiKryti = 0.8; // in the palettes that are made for the eyes
 
 QRgb barva_v_palete(RoleNakresu role) {
     if (paleta() == Paleta::kontrastni && (role == RoleNakresu::papir || role == RoleNakresu::na_ted))
@@ -222,7 +222,7 @@ QColor barva_nakresu(RoleNakresu role, bool papir, double kryti) {
     }
     const QColor c = QColor::fromRgb(barva_v_palete(role));
     const QColor zem = QColor::fromRgb(barva_v_palete(RoleNakresu::papir));
-    const double podil = paleta() == Paleta::kontrastni ? std::max(kryti, kNejmensiKryti) : kryti;
+    const double podil = paleta() == Paleta::obvykla ? kryti : std::max(kryti, kNejmensiKryti);
     const auto smes = [podil](int a, int b) {
         return static_cast<int>(std::lround(podil * a + (1 - podil) * b));
     };

@@ -86,14 +86,23 @@ constexpr std::array<RadekOken, kBarevOken> kOkna = {{
 }};
 
 constexpr DvojiceOkna kDvojice[] = {
-    {BarvaOkna::text, BarvaOkna::plocha},         {BarvaOkna::text, BarvaOkna::pole},
-    {BarvaOkna::text, BarvaOkna::tlacitko},       {BarvaOkna::text, BarvaOkna::nabidka},
-    {BarvaOkna::text, BarvaOkna::udaj},           {BarvaOkna::nadpis, BarvaOkna::plocha},
-    {BarvaOkna::nadpis, BarvaOkna::pole},         {BarvaOkna::tlumeny, BarvaOkna::plocha},
-    {BarvaOkna::tlumeny, BarvaOkna::pole},        {BarvaOkna::nelze, BarvaOkna::plocha},
-    {BarvaOkna::nelze, BarvaOkna::tlacitko},      {BarvaOkna::nelze, BarvaOkna::nabidka},
-    {BarvaOkna::text_vyberu, BarvaOkna::vybrane}, {BarvaOkna::text_vyberu, BarvaOkna::tlacitko},
-    {BarvaOkna::text_vyberu, BarvaOkna::pole},    {BarvaOkna::text_vyberu, BarvaOkna::start},
+    {BarvaOkna::text, BarvaOkna::plocha},
+    {BarvaOkna::text, BarvaOkna::pole},
+    {BarvaOkna::text, BarvaOkna::tlacitko},
+    {BarvaOkna::text, BarvaOkna::nabidka},
+    {BarvaOkna::text, BarvaOkna::udaj},
+    {BarvaOkna::nadpis, BarvaOkna::plocha},
+    {BarvaOkna::nadpis, BarvaOkna::pole},
+    {BarvaOkna::nadpis, BarvaOkna::tlacitko},
+    {BarvaOkna::tlumeny, BarvaOkna::plocha},
+    {BarvaOkna::tlumeny, BarvaOkna::pole},
+    {BarvaOkna::nelze, BarvaOkna::plocha},
+    {BarvaOkna::nelze, BarvaOkna::tlacitko},
+    {BarvaOkna::nelze, BarvaOkna::nabidka},
+    {BarvaOkna::text_vyberu, BarvaOkna::vybrane},
+    {BarvaOkna::text_vyberu, BarvaOkna::tlacitko},
+    {BarvaOkna::text_vyberu, BarvaOkna::pole},
+    {BarvaOkna::text_vyberu, BarvaOkna::start},
     {BarvaOkna::text_tipu, BarvaOkna::tip},
 };
 

@@ -52,7 +52,7 @@ constexpr const char* kVzhled =
     "QPushButton#stranka:checked { background: #0b2f30; color: @text_vyberu; }"
     "QPushButton#start { background: @start; border-color: #14a035; color: @text_vyberu; padding: 9px 26px; }"
     "QPushButton#start:hover { background: #0b7a24; }"
-    "QPushButton#start:focus { border-color: @text_vyberu; }"
+    "QPushButton#start:focus { border-color: @text_vyberu; color: @text_vyberu; }"
     "QCheckBox { padding: 3px 2px; }"
     "QMenu::item { padding: 5px 22px 5px 12px; }";
 

@@ -264,7 +264,8 @@ Platno::Vozy Platno::spocti_vozy() const {
                 popis.sirka = static_cast<int>(popis.sirka * krat);
                 radku = std::max(radku, radku_popisu(popis));
             }
-        const int dole = std::max(0, kRadkuPopisu - radku) * kVyskaZnaku + vyssi;
+        const int dole =
+            std::max(0, kRadkuPopisu - 1 - radku) * kVyskaZnaku + vyssi; // the last line stays free
         const int potreba = static_cast<int>((krat - 1) * kVyskaMista);
         if (potreba <= nahore + dole) {
             // the room of a high display first, then that of the line above, then that of the captions

@@ -75,6 +75,8 @@ public:
     // Places of the screen's own that are no elements: the lists of the bottom panel, and how much further
     // right the right end of the bars stands. Twips of the picture.
     QRect misto_seznamu() const;
+    // Upper edge of the last line of the bottom panel, below a train and its captions.
+    int posledni_radek_panelu() const { return kVyskaStolu + vyssi - kVyskaZnaku - kTwipu; }
     // Of the keys of the bar: on one screen they stand in its corner, whatever drawing it has.
     int posun_klaves() const { return pres_oba ? sirsi + sirka_stolu - kSirkaStolu : posun_praveho_okraje(); }
     int posun_praveho_okraje() const { return sirsi / monitoru(); }

@@ -49,9 +49,10 @@ namespace {
 constexpr int kObnova_ms = 500;
 constexpr int kObnovaZpravy = 4; // the report is told anew at every so manieth of those
 enum List : int { list_cekani, list_rozhodnuti, list_zpravy };
-// The sign stands so far right of the version of the program; the line of the panel at its lower edge. Twips.
+// The sign stands so far right of the version of the program, the line of the panel so far from its edge.
+// Twips.
 constexpr int kOdVerze = 184 * kTwipu, kZnackaNahore = 4 * kTwipu;
-constexpr int kRadekPanelu = 752 * kTwipu, kRadekVlevo = 8 * kTwipu;
+constexpr int kRadekVlevo = 8 * kTwipu;
 constexpr Barva kBarvaCekani = 0x30B0FF; // amber
 
 // What F6 hands over: the whole desk, or these stations. Empty while the boxes are being ticked anew; he then
@@ -436,5 +437,5 @@ Prvek radek_cekani_na_panelu() {
     if (!vypravci::zapnut() || v < 0 || !relief.lblIinfo_o_vlaku[0].viditelny)
         return {};
     const TextPohled veta = veta_vypravciho(zobrazene_cislo(vlak_c(v)));
-    return veta.empty() ? Prvek{} : napis(kRadekVlevo, kRadekPanelu, Text(veta), kBarvaCekani);
+    return veta.empty() ? Prvek{} : napis(kRadekVlevo, 0, Text(veta), kBarvaCekani);
 }

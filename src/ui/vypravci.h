@@ -18,5 +18,5 @@ void prepni_okno_vypravciho(QWidget* stul);
 
 // His sign in the top bar, while he has the desk or a part of it; hidden otherwise.
 Prvek znacka_vypravciho();
-// Why the train on the bottom panel waits, when he has it; hidden otherwise.
+// Why the train on the bottom panel waits, when he has it; hidden otherwise. The desk gives it its height.
 Prvek radek_cekani_na_panelu();

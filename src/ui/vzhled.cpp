@@ -38,7 +38,7 @@ constexpr const char* kStylOken =
     "QPushButton:hover { background: @udaj; }"
     "QPushButton:pressed { background: @vyber; }"
     "QPushButton:disabled { color: @nelze; }"
-    "QPushButton:focus { border-color: @nadpis; }"
+    "QPushButton:focus { border-color: @nadpis; color: @nadpis; }"
     "QMessageBox QPushButton { min-width: 62px; }"
     "QLineEdit, QPlainTextEdit, QTextEdit, QListView, QTreeView { background: @pole; color: @text;"
     " border: 1px solid @cara; border-radius: 2px; outline: 0; selection-background-color: @vyber;"

@@ -119,6 +119,27 @@ TEST_F(Stul, BottomPanelOfTwoMonitorsTakesTheWholeWidthOfOneScreenAndOneHalfOfTw
     EXPECT_EQ(platno.navic_panelu(), 0);
 }
 
+TEST_F(Stul, CaptionsOfVehiclesLeaveTheLastLineOfThePanelFree) {
+    for (const char* popis : {"943", "943 (14756)"}) {
+        for (int n = 0; n < 12; ++n) {
+            relief.lblPopis_vozu[n].viditelny = relief.imgObrzaek_vlaku[n].viditelny = true;
+            relief.lblPopis_vozu[n].text = "CD " + Text(popis);
+        }
+        for (const QSize velikost : {QSize(1024, 768), QSize(1366, 768), QSize(1536, 768), QSize(1920, 1080),
+                                     QSize(1280, 1024), QSize(3440, 1440)}) {
+            const bool dve = velikost.width() >= 2 * 1024;
+            platno.nastav_velikost(velikost, dve ? 2 * kSirkaStolu : kSirkaStolu, true, true);
+            platno.obnov();
+            const Prvek& p = platno.prvek(Druh::lblPopis_vozu, 0);
+            EXPECT_LE(p.nahore + radku_popisu(p) * kVyskaZnaku, platno.posledni_radek_panelu())
+                << popis << ' ' << velikost.width();
+            EXPECT_LE(
+                platno.v_bodech(QRect(0, platno.posledni_radek_panelu(), kSirkaZnaku, kVyskaZnaku)).bottom(),
+                velikost.height() - 1);
+        }
+    }
+}
+
 TEST_F(Stul, WhateverAReliefFileHoldsIsDrawnSafely) {
     std::mt19937 g(7);
     const auto pod = [&](unsigned n) { return static_cast<int>(g() % n); };
