@@ -16,6 +16,9 @@ velikost, meritko = sys.argv[4], int(sys.argv[5])
 stul = s.Stul(program, slozka, velikost, meritko)
 
 
+BEZ_NAPOVEDY = stul.sirka // 2, stul.vyska - 2  # a place that has no tip of its own
+
+
 def je_pro_dva():
     """A screen twice as wide as high takes the drawing of two monitors."""
     return stul.sirka >= 2 * stul.vyska
@@ -35,19 +38,6 @@ def jmena_navestidel():
     return jmena
 
 
-def spust():
-    """From the start screen to the running desk, at 12:00."""
-    stul.cekej_na_nalez("okno formulář 0")
-    stul.oken_v_klidu = stul.okna()
-    for pole, hodnota in (("alt+a", "12"), ("Tab", "00")):
-        stul.klavesa(pole)
-        stul.klavesa("ctrl+a")
-        stul.xdotool("type", hodnota)
-    stul.tiskni("Return", "začátek simulace", lambda: "okno úvod" in stul.nalezy())
-    stul.cekej_na_nalez("okno stůl")
-    s.doprihlas(stul, slozka)
-
-
 def rozpeti():
     """Between which columns of the screen there are elements that take input."""
     x = [misto[0] for (druh, _), misto in stul.mapa().items() if druh in ("navestidlo", "popis_stanice", "Image1")]
@@ -56,14 +46,14 @@ def rozpeti():
 
 def ceka_na_jmeno(n):
     """The pointer rests over the signal, and the tip says its name."""
-    stul.ukaz(*stul.mapa()["lblPrava", 0])
-    stul.cekej("stůl bez nápovědy", lambda: stul.okna() == stul.oken_v_klidu)
+    stul.ukaz(*BEZ_NAPOVEDY)
+    stul.cekej("stůl bez nápovědy", lambda: stul.napovedy() == 0)
     stul.ukaz(*stul.mapa()["navestidlo", n])
     stul.cekej("jméno " + JMENA[n], lambda: any(r.startswith("okno nápověda") and ">" + JMENA[n] in r
                                                 for r in stul.nalezy()), 60)
 
 
-spust()
+s.zacni_v_poledne(stul, slozka)
 JMENA = jmena_navestidel()
 mapa = stul.mapa()
 vlevo, vpravo = rozpeti()
@@ -78,14 +68,10 @@ for n in vybrana:
 
 # a right click opens the menu beside its element, within the screen
 for misto, n in (navestidla[0], navestidla[len(navestidla) // 2], navestidla[-1]):
-    stul.klikni(*misto, 3)
-    stul.cekej("nabídka návěstidla", lambda: stul.okna() > stul.oken_v_klidu)
-    time.sleep(0.6)
-    x, y = stul.polozka("STUJ")
+    x, y = stul.otevri_nabidku(*misto, "STUJ")
     assert abs(x - misto[0]) < stul.sirka // 4 and abs(y - misto[1]) < stul.vyska // 2, (misto, x, y)
     stul.obraz("nabidka_%d" % n)
-    stul.klavesa("Escape")
-    stul.cekej("zavřená nabídka", lambda: stul.okna() == stul.oken_v_klidu)
+    stul.tiskni("Escape", "zavřená nabídka", lambda: stul.okna() == stul.oken_v_klidu)
 
 # a left click takes the signal as the start of a route: it turns green where it is seen
 misto = mapa["navestidlo", vybrana[1]]
@@ -96,16 +82,14 @@ stul.klavesa("Escape")
 
 # the search leads the pointer to the element, wherever the picture has it
 hledane = vybrana[-2]
-stul.ukaz(*stul.mapa()["lblPrava", 0])
-stul.klavesa("F2")
-time.sleep(0.5)
+stul.ukaz(*BEZ_NAPOVEDY)
+stul.tiskni("F2", "pole pro psaní", lambda: stul.obraz().bodu(0, 0, stul.sirka, stul.vyska // 10, (0, 255, 255)) > 100)
 stul.xdotool("type", "--delay", 30, JMENA[hledane])
 stul.klavesa("Return")
 stul.cekej("nabídka hledaného", lambda: stul.okna() > stul.oken_v_klidu)
 kam, cil = stul.kurzor(), mapa["navestidlo", hledane]
 assert abs(kam[0] - cil[0]) < 12 and abs(kam[1] - cil[1]) < 12, (kam, cil)
-stul.klavesa("Escape")
-stul.cekej("zavřená nabídka", lambda: stul.okna() == stul.oken_v_klidu)
+stul.tiskni("Escape", "zavřená nabídka", lambda: stul.okna() == stul.oken_v_klidu)
 
 # the keys lead from element to element, and by steps over the screen
 stul.klavesa("ctrl+Left")
@@ -117,23 +101,21 @@ assert abs(stul.kurzor()[1] - odkud[1]) <= 2 * meritko, (odkud, stul.kurzor())
 
 # the magnifying glass, by keys and by the wheel: elements are found where it shows them, and all is as before when
 # it goes
-stul.ukaz(*mapa["lblPrava", 0])
+stul.ukaz(*BEZ_NAPOVEDY)
 time.sleep(1)
 stul.ukaz(*mapa["navestidlo", vybrana[2]])
 for _ in range(3):
     stul.klavesa("ctrl+plus")
 stul.cekej("zvětšené koleje", lambda: stul.mapa() != mapa)
-time.sleep(0.6)
-zvetsena = stul.mapa()
+zvetsena = stul.klidna_mapa()
 assert len([k for k in zvetsena if k[0] == "navestidlo"]) < len(navestidla), "nic nezmizelo za okrajem"
 assert zvetsena["lblZasobnik_PV", 0] == mapa["lblZasobnik_PV", 0], "lišty se nemají zvětšit"
 ceka_na_jmeno(vybrana[2])
 stul.obraz("lupa")
 stul.ukaz(*stul.mapa()["navestidlo", vybrana[2]])
 stul.xdotool("click", 5)
-time.sleep(0.8)
-posunuta = stul.mapa()
-assert posunuta != zvetsena, "kolečko obraz neposunulo"
+stul.cekej("obraz posunutý kolečkem", lambda: stul.mapa() != zvetsena)
+posunuta = stul.klidna_mapa()
 stul.xdotool("keydown", "ctrl")
 stul.xdotool("click", 4)
 stul.xdotool("keyup", "ctrl")
@@ -151,7 +133,7 @@ with open(os.path.join(slozka, "nastaveni", "KPS TESK", "nastaveni.ini"), "a", e
 for soubor in ("nalezy.txt", "stav.txt", "mapa.txt"):
     os.remove(os.path.join(slozka, soubor))
 stul.program = subprocess.Popen([program], cwd=slozka, env=stul.prostredi)
-spust()
+s.zacni_v_poledne(stul, slozka)
 okraj = max(0, stul.sirka - stul.vyska * 4 // 3) // 2
 vlevo, vpravo = rozpeti()
 if stul.sirka / 2.5 <= stul.vyska:  # and of one screen only one drawing has them

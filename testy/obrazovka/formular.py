@@ -21,7 +21,7 @@ def nastaveni(sekce):
 
 
 def cekej_na_ulozeni(sekce, klic, hodnota=None):
-    konec = time.monotonic() + 10
+    konec = time.monotonic() + s.NEJDELE
     while time.monotonic() < konec:
         nalez = nastaveni(sekce).get(klic)
         if nalez is not None and hodnota in (None, nalez):
@@ -104,12 +104,9 @@ for klic, hodnota in (("zvuk", "1"), ("rychlost", "0"), ("pp", "1"), ("zpozdeni"
                       ("noresize", "0"), ("autosave", "0"), ("autosaved", "60")):
     assert ulozeno.get(klic) == hodnota, "%s je %r" % (klic, ulozeno.get(klic))
 stul.cekej_na("přihlášení INIT", s.je_prihlaseni)
-for _ in range(3):
-    klavesy("Return")
-    time.sleep(0.3)
-stul.cekej_na("prázdný příkazový řádek", lambda o: not s.je_prihlaseni(o))
+s.potvrd_prihlaseni(stul)
 cas = stul.obraz("stul").vyrez(*s.HODINY)
-stul.cekej_na("běžící hodiny", lambda o: o.vyrez(*s.HODINY) != cas, 5)
+stul.cekej_na("běžící hodiny", lambda o: o.vyrez(*s.HODINY) != cas)
 
 # a killed program locks nobody out
 stul.program.kill()
@@ -117,5 +114,5 @@ stul.program.wait()
 stul.program = s.subprocess.Popen([program], cwd=slozka, env=stul.prostredi)
 stul.cekej_na("úvodní formulář po zabitém programu", s.je_formular)
 stul.klavesa("alt+k")
-assert stul.program.wait(10) == 0, "obrázek konce program neukončil"
+assert stul.program.wait(s.NEJDELE) == 0, "obrázek konce program neukončil"
 print("v pořádku")

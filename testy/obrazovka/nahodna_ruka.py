@@ -93,14 +93,8 @@ def uloz():
     """Two saves under one name: the second one asks."""
     for zprava in ("okno zpráva „Stav simulace byl", "okno zpráva „Soubor již existuje"):
         cas_bezi()
-        stul.tiskni("ctrl+s", "dialog uložení", lambda: stul.stav("pauza") == ["1"])
-        for _ in range(10):  # keys before the focus are lost
-            stul.xdotool("sleep", 0.3, "key", "ctrl+a", "type", "--args", 1, "ruka", "sleep", 0.2, "key", "Return")
-            konec = time.monotonic() + 3
-            while time.monotonic() < konec and zprava in zbyva_oken():
-                time.sleep(s.KROK)
-            if zprava not in zbyva_oken():
-                break
+        stul.tiskni("ctrl+s", "dialog uložení", lambda: any(o.jmeno.startswith("Uložit") for o in stul.x.okna()))
+        stul.zapis_do_dialogu("ruka", lambda: zprava not in zbyva_oken())
     return klavesa("alt+a")
 
 

@@ -100,7 +100,7 @@ stul.cekej("seznam tratí", lambda: stul.okna() > oken)
 for klavesa in ("Home", "Return"):
     stul.klavesa(klavesa)
 stul.cekej("zavřený seznam tratí", lambda: stul.okna() == oken)
-stul.cekej("zapamatovaná trať", lambda: "Trat=nikam" in open(NASTAVENI, encoding="utf-8").read())
+stul.cekej("zapamatovaná trať", lambda: "Trat=nikam" in s.precti(NASTAVENI))
 stul.ukaz(stul.sirka // 2, stul.vyska - 2)
 zmeni_obraz("d")
 stul.klavesa("Home")
@@ -168,16 +168,7 @@ for jmeno, zacatek in (("n.svg", b"<svg "), ("n.pdf", b"%PDF")):
     otevrene_nakres = stul.okna()
     stul.tiskni("ctrl+e", "dialog uložení", lambda: stul.okna() > otevrene_nakres)
     stul.cekej_na("čas nad dialogem stojí", lambda o: o.bodu(*PAUZA, CERVENA) > 50)
-    for _ in range(10):
-        stul.klavesa("ctrl+a")
-        stul.xdotool("type", "--delay", 2, cesta)
-        time.sleep(0.3)
-        stul.klavesa("Return")
-        konec = time.monotonic() + 4
-        while time.monotonic() < konec and stul.okna() > otevrene_nakres:
-            time.sleep(s.KROK)
-        if stul.okna() == otevrene_nakres:
-            break
+    stul.zapis_do_dialogu(cesta, lambda: stul.okna() == otevrene_nakres)
     stul.cekej_na("čas po uložení běží", lambda o: o.bodu(*PAUZA, CERVENA) == 0)
     stul.cekej("soubor " + jmeno, lambda: os.path.exists(cesta) and os.path.getsize(cesta) > 1000)
     with open(cesta, "rb") as f:

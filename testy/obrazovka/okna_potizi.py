@@ -5,7 +5,6 @@
 import os
 import shutil
 import struct
-import subprocess
 import sys
 import time
 
@@ -56,32 +55,15 @@ class Zkouska(s.Stul):
         self.cekej_na("vybraná kapitola", radky)
         self.bez_vad()
         vybrane = radky(self.obraz("prirucka_" + co))
-        nahore = int(subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "příručka výpravčího",
-                                     "getwindowgeometry", "--shell"], env=self.prostredi, check=True,
-                                    capture_output=True, text=True).stdout.split("Y=")[1].split()[0])
+        nahore = self.x.misto(next(o.id for o in self.x.okna() if "příručka výpravčího" in o.jmeno))[1]
         self.zavri(okna)
         okraj = 10  # around the contents, less than a row
         return (vybrane[0] - nahore - okraj) // len(vybrane)
 
-    def pis_do_dialogu(self, text, hotovo):
-        """Types a name into the file dialogue until it has taken effect: keys before the focus are lost."""
-        for _ in range(10):
-            self.klavesa("ctrl+a")
-            self.xdotool("type", "--delay", 2, text)
-            time.sleep(0.3)
-            self.klavesa("Return")
-            konec = time.monotonic() + 4
-            while time.monotonic() < konec:
-                if hotovo():
-                    return
-                time.sleep(s.KROK)
-        self.obraz("selhalo")
-        raise AssertionError("dialog jméno nepřijal: " + text)
-
     def nacti(self, jmeno, zacatek):
         """Opens the save from the start screen, until the box is there that begins so."""
         self.otevri("alt+o", "okno dialog Načíst")
-        self.pis_do_dialogu(os.path.join(SAVE, jmeno), lambda: not s.je_formular(self.obraz()) or
+        self.zapis_do_dialogu(os.path.join(SAVE, jmeno), lambda: not s.je_formular(self.obraz()) or
                             self.videl("okno zpráva"))
         konec = time.monotonic() + s.NEJDELE
         while not self.videl(zacatek):
@@ -128,12 +110,12 @@ stul.cekej("první minuta služby", lambda: stul.cas_s() > 12 * 3600 + 70)
 stul.otevri("ctrl+s", "okno dialog Uložit")
 assert stul.prirucka("ulozeni") == kapitola_zaznamu, "příručka není u ukládání"
 nikam = os.path.join(slozka, "vyjmutý disk s velmi dlouhým jménem složky")
-stul.pis_do_dialogu(os.path.join(nikam, "služba"), lambda: stul.videl("okno zpráva „Stav simulace se nepodařilo uložit"))
+stul.zapis_do_dialogu(os.path.join(nikam, "služba"), lambda: stul.videl("okno zpráva „Stav simulace se nepodařilo uložit"))
 stul.obraz("neulozeno")
 stul.zavri(stul.oken_v_klidu, "Return")
 stul.cekej("běh po neuloženém", lambda: stul.stav("pauza") == ["0"])
 stul.tiskni("ctrl+s", "dialog uložení", lambda: stul.okna() > stul.oken_v_klidu)
-stul.pis_do_dialogu("sluzba", lambda: stul.videl("okno zpráva „Stav simulace byl uložen"))
+stul.zapis_do_dialogu("sluzba", lambda: stul.videl("okno zpráva „Stav simulace byl uložen"))
 stul.zavri(stul.oken_v_klidu, "Return")
 hodiny = stul.stav("cas")
 

@@ -119,7 +119,7 @@ misto = (nabidka_x[0], nabidka_y[0], nabidka_x[-1] - nabidka_x[0], nabidka_y[-1]
 stul.ukaz(misto[0] + 20, misto[1] + misto[3] // 2)
 time.sleep(0.3)
 predtim = stul.obraz()
-stul.cekej("nápověda povelu", lambda: stul.okna() == stul.oken_v_klidu + 2)
+stul.cekej("nápověda povelu", lambda: stul.napovedy() == 1)
 time.sleep(0.3)
 assert s.rozdil(predtim, stul.obraz("napoveda_povelu"), misto) == 0, "nápověda zakryla nabídku"
 stul.ukaz(misto[0] + 20, misto[1] + 26)  # its first entry, STUJ

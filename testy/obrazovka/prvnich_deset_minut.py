@@ -48,11 +48,13 @@ stul.klavesa("KP_Subtract")
 stul.obraz("ohlasen")
 
 # 4 and 5: two routes by three clicks
+videno = time.monotonic()
 for x, y in (LHO_S1, TVH_1S, TVH_2):
     stul.ukaz(x, y)
-    time.sleep(ROZMYSLENI)
+    time.sleep(max(0, videno + ROZMYSLENI - time.monotonic()))
     stul.xdotool("click", 1)
     stul.cekej_na("volba pokračuje", s.je_prihlaseni)  # the line is green while the choice runs
+    videno = time.monotonic()
 stul.obraz("zvoleno")
 stul.cekej_na("obě návěstidla zelená", lambda o: o.bodu(*MISTO_LHO_S1, ZELENA) > 10 and
               o.bodu(*MISTO_TVH_1S, ZELENA) > 10 and o.bod(*ZHLAVI_LHO) == o.bod(*ZHLAVI_TVH) == ZELENA, 600)

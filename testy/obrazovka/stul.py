@@ -13,11 +13,14 @@ import tempfile
 import time
 import zlib
 
+import x11
+
 PRESKOCENO = 77  # for ctest: a tool is missing
 RADEK, ZNAK, BOD = 195, 120, 15  # twips: row of the relief, glyph, pixel
 RELIEF_Y = 690
 
 KROK = 0.05  # between two looks, seconds
+BEZ_KLAVES = 10  # how long a key waits for a window that has opened and does not take the keys, seconds
 NEJDELE = 300  # how long is waited for what must come: only a desk that hangs takes longer, seconds
 
 SEDA, ZELENA, CERNA, BILA = (128, 128, 128), (0, 255, 0), (0, 0, 0), (255, 255, 255)
@@ -96,11 +99,13 @@ class Stul:
             ["Xvfb", "-displayfd", str(zapis), "-screen", "0", velikost + "x24", "-fbdir", self.pamet, "-nocursor",
              "-nolisten", "tcp", "-noreset"], pass_fds=[zapis], stderr=subprocess.DEVNULL)
         atexit.register(self.konec)
-        self.program = None
+        self.program = self.x = None
         os.close(zapis)
         with os.fdopen(cteni) as roura:  # to the end of the line: the server writes it in two parts
             cislo = roura.readline().strip()
         assert cislo, "Xvfb se nerozběhl"
+        self.x = x11.Obrazovka(cislo)
+        self.znama_okna = set()  # that were there at the last key
         self.prostredi = dict(os.environ, DISPLAY=":" + cislo, QT_QPA_PLATFORM="xcb", QT_SCALE_FACTOR=str(meritko),
                               XDG_CONFIG_HOME=os.path.join(slozka, "nastaveni"), HOME=slozka,
                               TESK_PROHLIDKA=slozka)
@@ -119,26 +124,69 @@ class Stul:
                 except subprocess.TimeoutExpired:
                     proces.kill()
                     proces.wait()
+        if self.x is not None:
+            self.x.zavri()
 
     def xdotool(self, *slova):
         subprocess.run(["xdotool", *map(str, slova)], env=self.prostredi, check=True,
                        stdout=subprocess.DEVNULL)
 
     def klavesa(self, jmeno):
+        self.cekej_na_klavesy()
         self.xdotool("key", jmeno)
 
-    def tiskni(self, jmeno, co, podminka, po=1.5):
+    def cekej_na_klavesy(self):
+        """Until the keys go to where they are meant: a window that has opened takes them a moment after it is seen, and
+        a key before that is lost or goes to the window under it. One that never takes them holds nobody up for long."""
+        konec = time.monotonic() + BEZ_KLAVES
+        while True:
+            okna = {o.id for o in self.x.okna() if not o.volne}
+            if self.x.klavesy_ma() in (okna - self.znama_okna or okna) or time.monotonic() > konec:
+                break
+            time.sleep(KROK)
+        self.znama_okna = okna
+
+    def pis(self, text):
+        """Types the text to where the keys go."""
+        self.cekej_na_klavesy()
+        if not text.isascii():
+            self.xdotool("key", "shift")  # from now on the keyboard is that of these strokes
+            self.x.pridej_pismena({z for z in text if not z.isascii()})
+        self.xdotool("type", "--delay", 2, text)
+
+    def zapis_do_dialogu(self, text, hotovo):
+        """A name into the file dialogue that has opened, until it has its effect. It is written again only while that
+        dialogue has the keys: anywhere else its letters would be commands."""
+        self.cekej_na_klavesy()
+        dialog, konec = self.x.klavesy_ma(), time.monotonic() + NEJDELE
+        while time.monotonic() < konec:
+            self.klavesa("ctrl+a")
+            self.pis(text)
+            time.sleep(0.3)  # names that begin so are offered, and are not wanted
+            self.obraz("dialog")
+            self.klavesa("Return")
+            znovu = time.monotonic() + 20
+            while time.monotonic() < znovu or self.x.klavesy_ma() != dialog:
+                if hotovo():
+                    return
+                assert time.monotonic() < konec, "dialog jméno nepřijal: " + text
+                time.sleep(KROK)
+        raise AssertionError("dialog jméno nepřijal: " + text)
+
+    def tiskni(self, jmeno, co, podminka, po=6):
         """The key until it has its effect: one that comes before the window has the focus is lost. `po`: seconds
         until it is pressed again; long where a second one would do more than the first."""
-        for _ in range(100):
+        konec = time.monotonic() + NEJDELE
+        while time.monotonic() < konec:
             self.klavesa(jmeno)
-            konec = time.monotonic() + po
-            while time.monotonic() < konec:
+            znovu = time.monotonic() + po
+            while time.monotonic() < znovu:
                 if podminka():
                     return
                 time.sleep(KROK)
         self.obraz("selhalo")
-        raise AssertionError("klávesa %s nezpůsobila: %s" % (jmeno, co))
+        raise AssertionError("klávesa %s nezpůsobila: %s; okna %s, klávesy má %d"
+                             % (jmeno, co, self.x.okna(), self.x.klavesy_ma()))
 
     def ukaz(self, x, y):
         self.xdotool("mousemove", x, y)
@@ -160,12 +208,16 @@ class Stul:
         self.xdotool("click", 1)
         self.xdotool("keyup", "ctrl")
 
+    def bez_napovedy(self):
+        """The pointer over nothing, until no tip stands."""
+        self.ukaz(700, 480)
+        self.cekej("stůl bez nápovědy", lambda: self.napovedy() == 0)
+
     def napoveda(self, co, x, y):
         """The pointer rests there until its tip is seen."""
-        self.ukaz(700, 480)  # over nothing, until no other tip stands
-        self.cekej("stůl bez nápovědy", lambda: self.okna() == self.oken_v_klidu)
+        self.bez_napovedy()
         self.ukaz(x, y)
-        self.cekej(co, lambda: self.okna() == self.oken_v_klidu + 1)
+        self.cekej(co, lambda: self.napovedy() > 0)
 
     def cekej_na_nabidku(self, vic_nez=0):
         """How much of the screen the open menus take; more than before when a submenu is to come."""
@@ -197,16 +249,15 @@ class Stul:
 
     def kurzor(self):
         """Where the pointer is, pixels of the screen."""
-        beh = subprocess.run(["xdotool", "getmouselocation", "--shell"], env=self.prostredi, check=True,
-                             capture_output=True, text=True)
-        hodnoty = dict(radek.split("=") for radek in beh.stdout.split())
-        return int(hodnoty["X"]), int(hodnoty["Y"])
+        return self.x.ukazatel()
 
     def okna(self):
-        """How many windows are seen."""
-        beh = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", ".*"], env=self.prostredi,
-                             capture_output=True, text=True)
-        return len(beh.stdout.split())
+        """How many windows are seen, with open menus and without tips, which come and go by themselves."""
+        return sum(not o.napoveda for o in self.x.okna())
+
+    def napovedy(self):
+        """How many tips are seen."""
+        return sum(o.napoveda for o in self.x.okna())
 
     # --- what the program that looks over its screens has written
 
@@ -238,17 +289,47 @@ class Stul:
 
     def polozka(self, text):
         """Middle of the entry in the menu that was opened last."""
+        misto = self._misto_polozky(text)
+        assert misto is not None, "nabídka nemá položku " + text
+        return misto
+
+    def _misto_polozky(self, text):
         with open(os.path.join(self.slozka, "nabidka.txt"), encoding="utf-8") as f:
             for radek in f.read().splitlines():
                 x, y, jeji = radek.split(" ", 2)
                 if jeji == text:
                     return int(x), int(y)
-        raise AssertionError("nabídka nemá položku " + text)
+        return None
+
+    def otevri_nabidku(self, x, y, text):
+        """A right click there; middle of the entry in the menu that it opens. What the program has written of an earlier
+        menu does not count."""
+        soubor = os.path.join(self.slozka, "nabidka.txt")
+        if os.path.exists(soubor):
+            os.remove(soubor)
+        self.klikni(x, y, 3)
+        self.cekej("nabídka s položkou " + text,
+                   lambda: os.path.exists(soubor) and self._misto_polozky(text) is not None)
+        return self.polozka(text)
 
     def stav(self, co):
         """Lines of the state that begin with the word: "cas", "pauza", "vlak", "denik"."""
         with open(os.path.join(self.slozka, "stav.txt"), encoding="utf-8") as f:
             return [r[len(co) + 1:] for r in f.read().splitlines() if r.startswith(co + " ")]
+
+    def klidna_mapa(self):
+        """The map once two looks of the program in a row have given the same one."""
+        soubor, minula, kdy = os.path.join(self.slozka, "mapa.txt"), [], [None]
+
+        def stejna():
+            if os.stat(soubor).st_mtime_ns == kdy[0]:
+                return False
+            kdy[0] = os.stat(soubor).st_mtime_ns
+            minula.append(self.mapa())
+            return len(minula) > 1 and minula[-1] == minula[-2]
+
+        self.cekej("klidná mapa", stejna)
+        return minula[-1]
 
     def cas_s(self):
         """The simulated clock, seconds of the day."""
@@ -352,6 +433,7 @@ BARVA_FORMULARE = (18, 22, 27)
 BARVA_NABIDKY = (26, 32, 39)
 RADEK_PRIKAZU = (0, 23, 60, 16)
 HODINY = (22, 3, 72, 14)
+PRIHLASENI_PO = 15  # seconds until a confirmation is pressed again: two would answer the next question too
 
 
 def drz_pomer(slozka):
@@ -472,15 +554,38 @@ def prihlas(stul, krat=1, rychle=False, pred_prvnim=lambda: None):
 def potvrd_prihlaseni(stul, krat=1):
     """The three confirmations, from the first question to the running clock."""
     radek = tuple(krat * x for x in RADEK_PRIKAZU)
-    prihlaseni = lambda o: je_prihlaseni(o, krat)
+    prihlaseni = lambda: je_prihlaseni(stul.obraz(), krat)
     for dalsi in ("TPC", "ARCHIV"):
         predtim = stul.obraz().vyrez(*radek)
-        stul.klavesa("Return")
-        stul.cekej_na("přihlášení " + dalsi, lambda o: prihlaseni(o) and o.vyrez(*radek) != predtim)
-    stul.klavesa("Return")
-    obraz = stul.cekej_na("prázdný příkazový řádek", lambda o: not prihlaseni(o))
+        stul.tiskni("Return", "přihlášení " + dalsi,
+                    lambda: prihlaseni() and stul.obraz().vyrez(*radek) != predtim, PRIHLASENI_PO)
+    stul.tiskni("Return", "prázdný příkazový řádek", lambda: not prihlaseni(), PRIHLASENI_PO)
     stul.oken_v_klidu = stul.okna()
-    return obraz
+    return stul.obraz()
+
+
+def precti(soubor):
+    """The text of a file that the program writes; nothing while there is none."""
+    try:
+        with open(soubor, encoding="utf-8") as f:
+            return f.read()
+    except FileNotFoundError:
+        return ""
+
+
+def zacni_v_poledne(stul, slozka, pred_prihlasenim=lambda: None):
+    """From the start screen, as the program itself tells of it, to the running clock at 12:00; on a screen of any size
+    and scale. `pred_prihlasenim` runs when the desk is there."""
+    stul.cekej_na_nalez("okno formulář 0")
+    stul.oken_v_klidu = stul.okna()
+    for pole, hodnota in (("alt+a", "12"), ("Tab", "00")):
+        stul.klavesa(pole)
+        stul.klavesa("ctrl+a")
+        stul.pis(hodnota)
+    stul.tiskni("Return", "začátek simulace", lambda: "okno úvod" in stul.nalezy())
+    stul.cekej_na_nalez("okno stůl")
+    pred_prihlasenim()
+    doprihlas(stul, slozka)
 
 
 def doprihlas(stul, slozka):

@@ -62,8 +62,8 @@ stul.klavesa("Print")
 stul.ukaz(400, 690)
 obraz = stul.cekej_na("PROVOZ 1", otevrena("PROVOZ 1"))
 stul.obraz("provoz1")
-stul.cekej_na("otáčivé značky", lambda o: o.vyrez(*DRIVERY) != obraz.vyrez(*DRIVERY), 5)
-stul.cekej_na("běžící datum", lambda o: o.vyrez(*DATUM) != obraz.vyrez(*DATUM), 5)
+stul.cekej_na("otáčivé značky", lambda o: o.vyrez(*DRIVERY) != obraz.vyrez(*DRIVERY))
+stul.cekej_na("běžící datum", lambda o: o.vyrez(*DATUM) != obraz.vyrez(*DATUM))
 
 # the side arrows go from screen to screen
 stul.klavesa("Right")
@@ -74,7 +74,7 @@ stul.obraz("provoz2")
 stul.klavesa("Right")
 obraz = stul.cekej_na("PE-NET", otevrena("PE-NET"))
 stul.obraz("penet")
-stul.cekej_na("měnící se figury", lambda o: o.vyrez(*FIGURY) != obraz.vyrez(*FIGURY), 5)
+stul.cekej_na("měnící se figury", lambda o: o.vyrez(*FIGURY) != obraz.vyrez(*FIGURY))
 
 # a click on a tab does the same
 stul.klikni(ZALOZKY["ES DOHLED"], 48)
@@ -138,7 +138,7 @@ for _ in range(2):
 stul.klavesa("Return")
 obraz = stul.cekej_na("pohled sekvence", lambda o: o.bodu(*ROH, VYSTRAHA) > 3000)
 stul.obraz("pohled")
-stul.cekej_na("běžící hodiny", lambda o: o.vyrez(*s.HODINY) != obraz.vyrez(*s.HODINY), 5)
+stul.cekej_na("běžící hodiny", lambda o: o.vyrez(*s.HODINY) != obraz.vyrez(*s.HODINY))
 stul.klikni(950, 746)
 stul.cekej_na("stůl bez pohledu", lambda o: o.bodu(*ROH, VYSTRAHA) == 0)
 

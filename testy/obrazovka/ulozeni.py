@@ -10,40 +10,22 @@ program, slozka = s.priprav(sys.argv[1:])
 ULOZENA = os.path.join(slozka, "save", "moje sluzba.sim")
 
 
-def pis_do_dialogu(stul, text, hotovo):
-    """Types a name into the file dialogue until it has taken effect: keys before the focus are lost."""
-    for _ in range(10):
-        stul.klavesa("ctrl+a")
-        stul.xdotool("type", text)
-        time.sleep(0.2)
-        stul.obraz("dialog")
-        stul.klavesa("Return")
-        konec = time.monotonic() + 3
-        while time.monotonic() < konec:
-            if hotovo():
-                return
-            time.sleep(s.KROK)
-    stul.obraz("selhalo")
-    raise AssertionError("dialog jméno nepřijal")
-
-
 # --- the first shift: a simulated minute and more at the highest speed, then the save
 stul = s.Stul(program, slozka)
 s.prihlas(stul)
 for _ in range(2):
     stul.klikni(356, 10)  # the figure of the speed
 zacatek = stul.obraz().vyrez(*s.HODINY)
-stul.cekej_na("běžící hodiny", lambda o: o.vyrez(*s.HODINY) != zacatek, 10)
+stul.cekej_na("běžící hodiny", lambda o: o.vyrez(*s.HODINY) != zacatek)
 time.sleep(1)
-stul.klavesa("ctrl+s")
-stul.cekej("dialog uložení", lambda: stul.okna() > stul.oken_v_klidu)
-pis_do_dialogu(stul, "moje sluzba", lambda: os.path.exists(ULOZENA))
+stul.tiskni("ctrl+s", "dialog uložení", lambda: stul.okna() > stul.oken_v_klidu)
+stul.zapis_do_dialogu("moje sluzba", lambda: os.path.exists(ULOZENA))
 time.sleep(0.5)
 ulozeno = stul.obraz("ulozeno").vyrez(*s.HODINY)  # the clock stands behind the box that tells it
 time.sleep(1.5)
 assert stul.obraz().vyrez(*s.HODINY) == ulozeno, "hodiny běží za oknem se zprávou"
 stul.klavesa("Return")
-stul.cekej_na("hodiny po uložení", lambda o: o.vyrez(*s.HODINY) != ulozeno, 10)
+stul.cekej_na("hodiny po uložení", lambda o: o.vyrez(*s.HODINY) != ulozeno)
 stul.konec()
 
 # --- the second one goes on at the same second, with the same relief
@@ -51,7 +33,7 @@ stul = s.Stul(program, slozka)
 stul.cekej_na("úvodní formulář", s.je_formular)
 predtim = stul.okna()
 stul.tiskni("alt+o", "dialog otevření", lambda: stul.okna() > predtim)
-pis_do_dialogu(stul, ULOZENA, lambda: not s.je_formular(stul.obraz()))
+stul.zapis_do_dialogu(ULOZENA, lambda: not s.je_formular(stul.obraz()))
 
 
 def nacteno(obraz):
@@ -59,24 +41,11 @@ def nacteno(obraz):
     return obraz.vyrez(*s.HODINY) == ulozeno
 
 
-obraz = stul.cekej_na("čas uložené simulace", nacteno)
-for _ in range(10):
-    if s.je_prihlaseni(obraz):
-        break
-    stul.klavesa("Return")
-    time.sleep(0.5)
-    obraz = stul.obraz()
-else:
-    stul.obraz("selhalo")
-    raise AssertionError("po načtení nepřišlo přihlášení")
+stul.cekej_na("čas uložené simulace", nacteno)
+stul.tiskni("Return", "přihlášení po načtení", lambda: s.je_prihlaseni(stul.obraz()))
 stul.obraz("nacteno")
-for _ in range(10):
-    stul.klavesa("Return")
-    time.sleep(0.7)
-    obraz = stul.obraz()
-    if not s.je_prihlaseni(obraz):
-        break
-stul.cekej_na("hodiny po načtení", lambda o: o.vyrez(*s.HODINY) != ulozeno, 10)
+stul.tiskni("Return", "konec přihlášení", lambda: not s.je_prihlaseni(stul.obraz()), 1)
+stul.cekej_na("hodiny po načtení", lambda o: o.vyrez(*s.HODINY) != ulozeno)
 x, y = s.stred(70, 8)
 assert stul.obraz().bod(x, y) == s.SEDA, "kolej není po načtení šedá"
 print("v pořádku")

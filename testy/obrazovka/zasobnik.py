@@ -64,7 +64,7 @@ assert stul.obraz().bodu(*DRUHY_RADEK, VYBRANY) == 0, "výběr opustil seznam"
 
 # over the line the pointer tells the reason
 stul.ukaz(200, 108)
-stul.cekej("důvod řádku seznamu", lambda: stul.okna() == stul.oken_v_klidu + 1)
+stul.cekej("důvod řádku seznamu", lambda: stul.napovedy() == 1)
 stul.obraz("provoz2")
 stul.ukaz(600, 720)
 
@@ -82,7 +82,7 @@ stul.klavesa("Escape")
 stul.cekej_na("stůl bez čekající cesty", lambda o: o.vyrez(*POCET) == prazdny and o.bodu(*CEKAJICI, s.BILA) == 0
               and o.bodu(*PAUZA, (255, 0, 0)) == 0)
 cas = stul.obraz().vyrez(*s.HODINY)
-stul.cekej_na("běžící hodiny", lambda o: o.vyrez(*s.HODINY) != cas, 5)
+stul.cekej_na("běžící hodiny", lambda o: o.vyrez(*s.HODINY) != cas)
 assert stul.obraz().bod(x, y) == s.ZELENA, "zmizela i postavená cesta"
 
 # once more, and the large button closes it

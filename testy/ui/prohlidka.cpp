@@ -25,6 +25,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QGroupBox>
 #include <QHeaderView>
@@ -45,6 +46,7 @@
 #include <QTimer>
 #include <QToolButton>
 
+#include <algorithm>
 #include <cstdio>
 #include <set>
 #include <utility>
@@ -52,6 +54,8 @@
 
 namespace {
 
+// Between two looks. A large screen takes longer to look over than that: then the desk has as long for
+// itself.
 constexpr int kPerioda_ms = 250;
 constexpr double kTolerance = 1.5; // device pixels
 
@@ -442,7 +446,13 @@ void zacni() {
     if (slozka.isEmpty())
         return;
     auto* casovac = new QTimer(QCoreApplication::instance());
-    QObject::connect(casovac, &QTimer::timeout, casovac, prohlidni);
+    casovac->setSingleShot(true);
+    QObject::connect(casovac, &QTimer::timeout, casovac, [casovac] {
+        QElapsedTimer trvani;
+        trvani.start();
+        prohlidni();
+        casovac->start(std::max(kPerioda_ms, static_cast<int>(trvani.elapsed())));
+    });
     casovac->start(kPerioda_ms);
 }
 Q_COREAPP_STARTUP_FUNCTION(zacni)
