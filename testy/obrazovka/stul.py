@@ -318,8 +318,8 @@ class Stul:
             return [r[len(co) + 1:] for r in f.read().splitlines() if r.startswith(co + " ")]
 
     def klidna_mapa(self):
-        """The map once two looks of the program in a row have given the same one."""
-        soubor, minula, kdy = os.path.join(self.slozka, "mapa.txt"), [], [None]
+        """The map once two looks of the program in a row have given the same one; it writes the state at each."""
+        soubor, minula, kdy = os.path.join(self.slozka, "stav.txt"), [], [None]
 
         def stejna():
             if os.stat(soubor).st_mtime_ns == kdy[0]:

@@ -40,6 +40,8 @@ namespace {
 constexpr int kZaznamu = 4, kMezi_s = 240;       // saves to change, and what lies between them
 constexpr unsigned kPoskozeni = dil_zkousek(60); // changed saves of each
 constexpr int kBehu_s = 30;                      // that a taken one runs
+// Between two checks of its state: after every step, where all is slow once a second.
+constexpr int kKontrola_ms = TESK_DIL_ZKOUSEK > 1 ? 1000 : 50;
 
 class Poskozeni : public SPlatformou, public testing::WithParamInterface<int> {
 protected:
@@ -53,12 +55,12 @@ protected:
                 if (ms % c.perioda_ms != 0)
                     continue;
                 c.telo();
-                if (!kontrola)
+                if (!kontrola || ms % kKontrola_ms != 0)
                     continue;
                 if (const auto nalez = kontrola_stavu())
                     return std::string(c.krok) + ": " + na_utf8(*nalez);
             }
-            if (const auto nalez = kontrola ? kontrola_majitelu() : std::nullopt)
+            if (const auto nalez = kontrola && ms % kKontrola_ms == 0 ? kontrola_majitelu() : std::nullopt)
                 return na_utf8(*nalez);
         }
         return {};

@@ -400,6 +400,14 @@ void prohledni_stul(const HlavniOkno& okno) {
     kde = QStringLiteral("stůl");
     Platno platno = okno.obraz(); // with its size and its magnifying glass
     platno.obnov();
+    // A picture that has been looked over twice has told all it can: an idle desk changes with its clock
+    // alone.
+    static QImage minuly;
+    static int pohledu = 0;
+    pohledu = platno.obraz() == minuly ? pohledu + 1 : 1;
+    minuly = platno.obraz();
+    if (pohledu > 2)
+        return;
     const std::vector<Radek> radky = sleduj([&] { platno.prekresli(); });
     const QRectF obraz = platno.obraz().rect();
     std::vector<Radek> listy; // what stands above and below the relief
