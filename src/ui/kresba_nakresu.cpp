@@ -216,6 +216,8 @@ QRectF rozdil_car(const TvarNakresu& stara, const TvarNakresu& nova, double posu
 // painting it; paper knows what it does.
 QColor barva_nakresu(RoleNakresu role, bool papir, double kryti) {
     if (papir) {
+        if (role == RoleNakresu::papir)
+            return Qt::white; // as it comes from the printer's tray: a ground would only cost toner
         QColor c = QColor::fromRgb(barva_role(role, papir));
         c.setAlphaF(static_cast<float>(kryti));
         return c;

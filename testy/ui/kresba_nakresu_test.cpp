@@ -133,4 +133,14 @@ TEST_F(NakresVOkne, MovedOverTimeIsTheSamePictureElsewhere) {
     }
 }
 
+TEST_F(NakresVOkne, OnPaperItsGroundIsThePaper) {
+    QImage papir(900, 500, QImage::Format_RGB32);
+    papir.fill(Qt::white);
+    QPainter p(&papir);
+    nakresli_obraz(p, obraz(), true);
+    p.end();
+    EXPECT_EQ(papir.pixelColor(1, 1), QColor(Qt::white));
+    EXPECT_EQ(papir.pixelColor(898, 498), QColor(Qt::white));
+}
+
 } // namespace
