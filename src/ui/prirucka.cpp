@@ -38,6 +38,7 @@
 namespace {
 
 constexpr double kSirkaOkna = 0.66, kVyskaOkna = 0.86; // of the screen
+constexpr int kZnakuObsahu = 34;                       // of a wide window, for the contents
 constexpr int kHlidani_ms = 100;
 constexpr int kSrovnani_ms = 120; // behind the last step of a change of size
 constexpr int kBezKapitoly = -1;
@@ -106,6 +107,8 @@ Prirucka::Prirucka(QWidget* rodic, const QString& soubor)
     prepnout = new QPushButton;
     auto* zavrit = new QPushButton(QStringLiteral("&Zavřít [Esc]"));
 
+    for (QWidget* w : std::initializer_list<QWidget*>{obsah, hledani, prepnout, zavrit})
+        w->setMaximumWidth(kZnakuObsahu * fontMetrics().averageCharWidth());
     auto* vlevo = new QVBoxLayout;
     vlevo->addWidget(obsah);
     vlevo->addWidget(hledani);

@@ -72,7 +72,7 @@ void uprav_ramec(const QTextFrame& ramec, const QColor& cara) {
             f.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
             f.setBorderBrush(cara);
             f.setCellPadding(4);
-            f.setWidth(QTextLength(QTextLength::PercentageLength, 100));
+            f.setWidth(QTextLength(QTextLength::PercentageLength, 99)); // its frame stands outside
             if (const QList<QTextLength> sirky = sirky_sloupcu(*t); !sirky.isEmpty())
                 f.setColumnWidthConstraints(sirky);
             t->setFormat(f);
