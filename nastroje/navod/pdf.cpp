@@ -124,23 +124,27 @@ void drz_radky(QTextDocument& text, const QTextTable& tabulka) {
     }
 }
 
-// A heading stays with what it is the heading of, the head of a table with its first row, and a picture with
-// the line before it, which tells what it shows.
+// A heading stays with what it is the heading of, and what leads to a table with the table's first row.
 void drz_s_dalsim(QTextDocument& text, const QTextBlock& blok) {
     QTextBlock pod = blok.next();
     while (je_nadpis(pod))
         pod = pod.next();
     if (!pod.isValid())
         return;
-    double potreba = std::max(konec_radku(text, pod),
-                              zacatek(text, pod) + kNaRadky * QFontMetricsF(text.defaultFont()).height());
-    if (const auto* tabulka = QTextCursor(pod).currentTable(); tabulka != nullptr && tabulka->rows() > 1)
-        potreba = misto_radku(text, *tabulka, 1).po;
-    else if (!je_nadpis(blok))
+    const auto* tabulka = QTextCursor(pod).currentTable();
+    if (!je_nadpis(blok) && tabulka == nullptr)
         return;
-    if (strana(zacatek(text, blok)) == strana(potreba - 1))
+    const double potreba =
+        tabulka != nullptr && tabulka->rows() > 1
+            ? misto_radku(text, *tabulka, 1).po
+            : std::max(konec_radku(text, pod),
+                       zacatek(text, pod) + kNaRadky * QFontMetricsF(text.defaultFont()).height());
+    if (strana(konec_bloku(text, blok) - 1) == strana(potreba - 1))
         return;
-    na_novou_stranu(blok);
+    QTextBlock prvni = blok; // with its headings
+    while (je_nadpis(prvni.previous()))
+        prvni = prvni.previous();
+    na_novou_stranu(prvni);
     rozloz_znovu(text);
 }
 
@@ -149,7 +153,7 @@ void drz_pohromade(QTextDocument& text) {
     const QTextTable* posledni = nullptr;
     for (QTextBlock b = text.begin().next(); b.isValid(); b = b.next()) {
         const QTextTable* tabulka = QTextCursor(b).currentTable();
-        if (tabulka == nullptr && !je_nadpis(b.previous())) {
+        if (tabulka == nullptr) {
             drz_s_dalsim(text, b);
         } else if (tabulka != nullptr && tabulka != posledni) {
             posledni = tabulka;
