@@ -148,12 +148,22 @@ void drz_s_dalsim(QTextDocument& text, const QTextBlock& blok) {
     rozloz_znovu(text);
 }
 
+// A picture that would be parted goes to the next page, whole.
+void drz_obrazek(QTextDocument& text, const QTextBlock& blok) {
+    if (!blok.text().contains(QChar::ObjectReplacementCharacter) ||
+        strana(zacatek(text, blok)) == strana(konec_radku(text, blok) - 1))
+        return;
+    na_novou_stranu(blok);
+    rozloz_znovu(text);
+}
+
 // Each thing that moves moves what lies behind it, so that they are looked at from the first to the last.
 void drz_pohromade(QTextDocument& text) {
     const QTextTable* posledni = nullptr;
     for (QTextBlock b = text.begin().next(); b.isValid(); b = b.next()) {
         const QTextTable* tabulka = QTextCursor(b).currentTable();
         if (tabulka == nullptr) {
+            drz_obrazek(text, b);
             drz_s_dalsim(text, b);
         } else if (tabulka != nullptr && tabulka != posledni) {
             posledni = tabulka;
