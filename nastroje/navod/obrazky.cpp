@@ -1,9 +1,14 @@
 // nastroje/navod/obrazky.cpp - the pictures of the manual.
 #include "navod/obrazky.h"
 
+#include "app/hodnoceni.h"
 #include "davka/davka.h"
 #include "davka/skript.h"
+#include "nakres/jizdy.h"
+#include "nakres/koridory.h"
+#include "nakres/obraz.h"
 #include "ui/kresba.h"
+#include "ui/kresba_nakresu.h"
 #include "ui/pismo.h"
 #include "ui/platno.h"
 #include "ui/text_prirucky.h"
@@ -13,6 +18,7 @@
 #include <QPainter>
 #include <QPainterPath>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <iostream>
@@ -32,7 +38,8 @@ constexpr int kPolomerCisla = 9;      // pixels of the desk
 // with: crisp on every screen and in print.
 constexpr double kKratDetailu = 6;
 constexpr double kHustotaDetailu = 1.5;
-constexpr int kPredelFilmu = 6; // between the frames of a strip, pixels of the picture
+constexpr double kKratNakresu = 2; // of the diagram, likewise
+constexpr int kPredelFilmu = 6;    // between the frames of a strip, pixels of the picture
 constexpr QRgb kOkrajFilmu = 0xFF3C4550;
 
 struct Cislo {
@@ -109,6 +116,35 @@ Druh druh_jmena(const std::string& jmeno) {
     chyba_skriptu("neznámý druh prvku " + v_uvozovkach(jmeno));
 }
 
+// The diagram of a line, with the trains as they ran so far.
+QImage nakresli_trat(const std::string& jmeno, int minut_zpet, int minut_vpred, QSize velikost) {
+    const Koridory& k = koridory();
+    const auto trat =
+        std::find_if(k.trate.begin(), k.trate.end(), [&](const Koridor& t) { return t.jmeno == jmeno; });
+    if (trat == k.trate.end())
+        chyba_skriptu("neznámá trať " + v_uvozovkach(jmeno));
+    const OsaKoridoru osa = osa_koridoru(k, *trat);
+    const HodnoceniSmeny smena = hodnoceni_smeny();
+    const std::int32_t ted = smena.zprava.do_s;
+    PohledNakresu pohled;
+    pohled.sirka = velikost.width();
+    pohled.vyska = velikost.height();
+    pohled.od = ted - 60 * minut_zpet;
+    pohled.po = ted + 60 * minut_vpred;
+    pohled.ted = ted;
+    std::vector<CaraVlaku> cary = jete_cary(k, osa, smena.jizdy, ted);
+    const std::vector<CaraVlaku> plan =
+        planovane_cary(k, osa, static_cast<std::int32_t>(pohled.od), static_cast<std::int32_t>(pohled.po));
+    cary.insert(cary.end(), plan.begin(), plan.end());
+    QImage obraz((QSizeF(velikost) * kKratNakresu).toSize(), QImage::Format_RGB32);
+    QPainter p(&obraz);
+    p.scale(kKratNakresu, kKratNakresu);
+    nakresli_obraz(p, nakresli_nakres(pohled, k, osa, cary), false);
+    p.end();
+    obraz.setText(QLatin1String(kHustotaObrazku), QString::number(kKratNakresu));
+    return obraz;
+}
+
 // Place of an element on the desk, twips: of a line from end to end.
 QRect misto_kresby_prvku(const Nalezeny& co) {
     const Prvek& p = tabulka(co.druh)[co.n];
@@ -136,6 +172,13 @@ bool Skript::proved(const std::vector<std::string>& slova) {
                           {}};
         if (rozdelany->misto.isEmpty() || rozdelany->krat <= 0)
             chyba_skriptu("prázdný výřez");
+        return true;
+    }
+    if (slova[0] == "nakres") {
+        pocet(7);
+        dokresli();
+        uloz(nakresli_trat(slova[2], cele(slova[3]), cele(slova[4]), {cele(slova[5]), cele(slova[6])}),
+             slova[1]);
         return true;
     }
     if (slova[0] == "detail") {
