@@ -31,12 +31,13 @@ stul.cekej_na("úvodní formulář", s.je_formular)
 KLID = stul.okna()
 
 
+def radek_kapitoly(o):
+    return next((y for y in range(40, 760) if o.bodu(330, y, 200, 1, VYBRANA_KAPITOLA) > 60), None)
+
+
 def kapitola(co):
     """The manual is open: height on the screen of the chapter that is picked in its contents."""
-    def radek(o):
-        return next((y for y in range(40, 760) if o.bodu(330, y, 200, 1, VYBRANA_KAPITOLA) > 60), None)
-
-    return radek(stul.cekej_na("příručka: " + co, lambda o: radek(o) is not None))
+    return radek_kapitoly(stul.cekej_na("příručka: " + co, lambda o: radek_kapitoly(o) is not None))
 
 
 def zavri_prirucku():
@@ -47,6 +48,16 @@ def zavri_prirucku():
 stul.tiskni("F1", "příručka nad formulářem", lambda: stul.okna() > KLID)
 prvni = kapitola("formulář")
 stul.obraz("prirucka_formular")
+
+# --- the words that are looked for are found; the other language has other chapters; both by keys
+TEXT, OBSAH = (580, 60, 400, 640), (330, 40, 200, 480)
+stul.klavesa("ctrl+f")
+stul.xdotool("type", "zarážedlo")
+stul.tiskni("Return", "nalezené slovo", lambda: stul.obraz().bodu(*TEXT, VYBRANA_KAPITOLA) > 300)
+cesky = stul.obraz().vyrez(*OBSAH)
+stul.tiskni("alt+e", "anglická příručka", lambda: stul.obraz().vyrez(*OBSAH) != cesky)
+anglicky = stul.obraz("prirucka_anglicky").vyrez(*OBSAH)
+stul.tiskni("alt+s", "česká příručka", lambda: stul.obraz().vyrez(*OBSAH) != anglicky)
 zavri_prirucku()
 
 # --- the desk comes up in its colours: nothing is magenta on the way
