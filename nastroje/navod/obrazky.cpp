@@ -2,6 +2,7 @@
 #include "navod/obrazky.h"
 
 #include "app/hodnoceni.h"
+#include "app/simulace.h"
 #include "davka/davka.h"
 #include "davka/skript.h"
 #include "nakres/jizdy.h"
@@ -254,8 +255,9 @@ void nakresli_cislo(QPainter& p, const Cislo& c, const Meritko& m) {
 
 Platno& Skript::platno(double krat) {
     const auto [kde, nove] = platna.try_emplace(krat);
+    const int monitoru = simulace.dva_monitory ? 2 : 1;
     if (nove)
-        kde->second.nastav_velikost((QSizeF(1024, 768) * krat).toSize(), kSirkaStolu);
+        kde->second.nastav_velikost((QSizeF(1024 * monitoru, 768) * krat).toSize(), monitoru * kSirkaStolu);
     kde->second.obnov();
     return kde->second;
 }
