@@ -12,11 +12,13 @@
 #include "app/simulace.h"
 #include "navod/obrazky.h"
 #include "navod/pdf.h"
+#include "ui/hodiny_stolu.h"
 #include "ui/pismo.h"
+#include "ui/vzhled.h"
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
-#include <QGuiApplication>
 
 #include <cstdio>
 #include <cstdlib>
@@ -96,7 +98,9 @@ int navod(const QStringList& slova) {
 
 int main(int pocet, char** slova) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication aplikace(pocet, slova);
+    const QApplication aplikace(pocet, slova);
+    nastav_vzhled();
+    drz_hodiny_stolu(); // time is the script's
     const QStringList argumenty = QCoreApplication::arguments().mid(1);
     if (argumenty.size() != 4) {
         std::fputs("použití: tesk-navod OBRAZKY.txt PRIRUCKA.md MANUAL.md INSTALACE\n"

@@ -5,19 +5,26 @@
 #include "app/simulace.h"
 #include "davka/davka.h"
 #include "davka/skript.h"
+#include "desk/menu.h"
 #include "nakres/jizdy.h"
 #include "nakres/koridory.h"
 #include "nakres/obraz.h"
+#include "ui/hlavni_okno.h"
 #include "ui/kresba.h"
 #include "ui/kresba_nakresu.h"
+#include "ui/nabidka.h"
+#include "ui/parametry.h"
 #include "ui/pismo.h"
 #include "ui/platno.h"
 #include "ui/text_prirucky.h"
+#include "ui/vypravci.h"
 
+#include <QApplication>
 #include <QFile>
 #include <QImage>
 #include <QPainter>
 #include <QPainterPath>
+#include <QTabWidget>
 
 #include <algorithm>
 #include <cmath>
@@ -25,6 +32,7 @@
 #include <iostream>
 #include <istream>
 #include <map>
+#include <memory>
 #include <optional>
 #include <sstream>
 #include <streambuf>
@@ -39,6 +47,8 @@ constexpr int kPolomerCisla = 9;      // pixels of the desk
 // with: crisp on every screen and in print.
 constexpr double kKratDetailu = 6;
 constexpr double kHustotaDetailu = 1.5;
+constexpr int kKratOkna = 2; // of a window, likewise; it is shown a little smaller than on a screen
+constexpr double kZmenseniOkna = 0.8, kZmenseniNabidky = 0.6;
 constexpr double kKratNakresu = 2; // of the diagram, likewise
 constexpr int kPredelFilmu = 6;    // between the frames of a strip, pixels of the picture
 constexpr QRgb kOkrajFilmu = 0xFF3C4550;
@@ -117,6 +127,60 @@ Druh druh_jmena(const std::string& jmeno) {
     chyba_skriptu("neznámý druh prvku " + v_uvozovkach(jmeno));
 }
 
+void oznac_hustotu(QImage& obraz, double hustota) {
+    obraz.setText(QLatin1String(kHustotaObrazku), QString::number(hustota));
+}
+
+// A window of the program as it would stand on a screen.
+QImage obraz_okna(QWidget& okno) {
+    okno.ensurePolished();
+    QImage obraz(okno.size() * kKratOkna, QImage::Format_RGB32);
+    obraz.setDevicePixelRatio(kKratOkna);
+    okno.render(&obraz);
+    obraz.setDevicePixelRatio(1);
+    oznac_hustotu(obraz, kKratOkna * kZmenseniOkna);
+    return obraz;
+}
+
+QImage obraz_formulare() {
+    OknoParametru okno([] {}, [](const QString&) { return false; });
+    return obraz_okna(okno);
+}
+
+// The desk as a window, and what opens beside it.
+QImage obraz_stolu(const std::string& okno) {
+    HlavniOkno stul;
+    stul.resize(1024, 768);
+    stul.show();
+    stul.ukaz_stul();
+    if (okno == "stul")
+        return obraz_okna(stul);
+    if (okno == "vypravci")
+        prepni_okno_vypravciho(&stul);
+    else
+        chyba_skriptu("neznámé okno " + v_uvozovkach(okno));
+    const QWidgetList okna = QApplication::topLevelWidgets();
+    const auto vedle =
+        std::find_if(okna.begin(), okna.end(), [&](QWidget* w) { return w->isVisible() && w != &stul; });
+    if (vedle == okna.end())
+        chyba_skriptu("okno se neotevřelo");
+    if (auto* listy = (*vedle)->findChild<QTabWidget*>())
+        listy->setCurrentIndex(1); // what he has done: of what waits there may be nothing
+    const QImage obraz = obraz_okna(**vedle);
+    delete *vedle;
+    return obraz;
+}
+
+QImage obraz_nabidky() {
+    const std::unique_ptr<QMenu> nabidka(
+        postav_nabidku(nullptr, menu, pismo_poli(kVyskaBunky), 1, [](const Text&) {}));
+    nabidka->resize(nabidka->sizeHint());
+    zavri_menu();
+    QImage obraz = obraz_okna(*nabidka);
+    oznac_hustotu(obraz, kKratOkna * kZmenseniNabidky);
+    return obraz;
+}
+
 // The diagram of a line, with the trains as they ran so far.
 QImage nakresli_trat(const std::string& jmeno, int minut_zpet, int minut_vpred, QSize velikost) {
     const Koridory& k = koridory();
@@ -142,7 +206,7 @@ QImage nakresli_trat(const std::string& jmeno, int minut_zpet, int minut_vpred, 
     p.scale(kKratNakresu, kKratNakresu);
     nakresli_obraz(p, nakresli_nakres(pohled, k, osa, cary), false);
     p.end();
-    obraz.setText(QLatin1String(kHustotaObrazku), QString::number(kKratNakresu));
+    oznac_hustotu(obraz, kKratNakresu);
     return obraz;
 }
 
@@ -173,6 +237,26 @@ bool Skript::proved(const std::vector<std::string>& slova) {
                           {}};
         if (rozdelany->misto.isEmpty() || rozdelany->krat <= 0)
             chyba_skriptu("prázdný výřez");
+        return true;
+    }
+    if (slova[0] == "formular" || slova[0] == "nabidka") {
+        pocet(2);
+        dokresli();
+        if (slova[0] == "nabidka" && menu.jmeno.empty())
+            chyba_skriptu("žádná nabídka není otevřena");
+        uloz(slova[0] == "nabidka" ? obraz_nabidky() : obraz_formulare(), slova[1]);
+        return true;
+    }
+    if (slova[0] == "okno") {
+        pocet(slova.size() > 3 ? 7 : 3);
+        dokresli();
+        QImage obraz = obraz_stolu(slova[2]);
+        if (slova.size() > 3) { // keeps the density that the picture is marked with
+            const QRect cast(cele(slova[3]), cele(slova[4]), cele(slova[5]), cele(slova[6]));
+            obraz = obraz.copy({cast.topLeft() * kKratOkna, cast.size() * kKratOkna});
+            oznac_hustotu(obraz, kKratOkna * kZmenseniOkna);
+        }
+        uloz(obraz, slova[1]);
         return true;
     }
     if (slova[0] == "nakres") {
@@ -295,7 +379,7 @@ void Skript::dokresli() {
         nakresli_cislo(p, c, stul.meritko());
     p.end();
     if (v.hustota != 1)
-        obraz.setText(QLatin1String(kHustotaObrazku), QString::number(v.hustota));
+        oznac_hustotu(obraz, v.hustota);
     if (v.do_filmu)
         filmy[v.jmeno].push_back(obraz);
     else

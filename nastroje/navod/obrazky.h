@@ -1,7 +1,7 @@
 // nastroje/navod/obrazky.h - the pictures of the manual: the desk as the program itself draws it, with
 // numbers, arrows and frames on it.
 //
-// They are described by a script of the headless runner (docs/davka.md) with five commands more:
+// They are described by a script of the headless runner (docs/davka.md) with eight commands more:
 //
 //   obraz JMENO X Y SIRKA VYSKA KRAT   begins a picture: that part of the desk, as it stands now, in pixels
 //                                      of the desk, so many times larger; it ends at the next line that is
@@ -9,6 +9,10 @@
 //   okenko FILM X Y SIRKA VYSKA KRAT   the same as the next frame of a film strip, written at the end
 //   detail JMENO DRUH PRVEK X Y        a picture of one element and so much around it to the sides and above
 //                                      and below, pixels of the desk
+//   formular JMENO                     the start screen as it stands; before the start
+//   nabidka JMENO                      the menu that is open; it is closed
+//   okno JMENO KTERE [X Y S V]         the desk as a window (stul), or the dispatcher's beside it (vypravci);
+//                                      all of it or that part, in pixels of the window
 //   nakres JMENO TRAT OD DO S V        the time-distance diagram of that line (data/tesk.kor), from so many
 //   minutes
 //                                      before now to so many after it, on so many pixels

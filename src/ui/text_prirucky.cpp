@@ -34,7 +34,7 @@ qsizetype nejdelsi_slovo(const QString& text) {
 QList<QTextLength> sirky_sloupcu(const QTextTable& tabulka) {
     struct Sloupec {
         qsizetype vaha = 1, slovo = 1;
-        double dil = 0; // hundredths of the width
+        double nejmene = 0, dil = 0; // hundredths of the width
     };
     QList<Sloupec> sloupce(tabulka.columns());
     for (int radek = 0; radek < tabulka.rows(); ++radek)
@@ -45,17 +45,20 @@ QList<QTextLength> sirky_sloupcu(const QTextTable& tabulka) {
             sloupce[i].vaha = std::max(sloupce[i].vaha, std::min(text.size(), kNejvetsiVaha));
             sloupce[i].slovo = std::max(sloupce[i].slovo, nejdelsi_slovo(text) + 2);
         }
-    const auto soucet = std::accumulate(sloupce.begin(), sloupce.end(), 0.0,
-                                        [](double s, const Sloupec& x) { return s + double(x.vaha); });
-    double dluh = 0; // what the narrow ones take from the broadest
+    const auto soucet = [&](auto co) {
+        return std::accumulate(sloupce.begin(), sloupce.end(), 0.0,
+                               [&](double s, const Sloupec& x) { return s + co(x); });
+    };
+    const double vahy = soucet([](const Sloupec& x) { return static_cast<double>(x.vaha); });
     for (Sloupec& x : sloupce) {
-        const double dil = 100 * double(x.vaha) / soucet;
-        x.dil = std::max(dil, std::min(100 * double(x.slovo) / kZnakuNaSirku, 60.0));
-        dluh += x.dil - dil;
+        x.nejmene = std::min(100 * static_cast<double>(x.slovo) / kZnakuNaSirku, 60.0);
+        x.dil = std::max(100 * static_cast<double>(x.vaha) / vahy, x.nejmene);
     }
-    std::max_element(sloupce.begin(), sloupce.end(), [](const Sloupec& x, const Sloupec& y) {
-        return x.dil < y.dil;
-    })->dil -= dluh;
+    // what the narrow ones have got too much, the others give of what they have to spare
+    const double dluh = soucet([](const Sloupec& x) { return x.dil; }) - 100;
+    const double zbyva = soucet([](const Sloupec& x) { return x.dil - x.nejmene; });
+    for (Sloupec& x : sloupce)
+        x.dil -= zbyva > dluh ? dluh * (x.dil - x.nejmene) / zbyva : dluh * x.dil / (100 + dluh);
     QList<QTextLength> sirky;
     for (const Sloupec& x : sloupce)
         sirky.push_back(QTextLength(QTextLength::PercentageLength, x.dil));
