@@ -243,7 +243,13 @@ void Prirucka::na_odkaz(const QString& odkaz) {
 void Prirucka::zpet() {
     if (odkud.isEmpty())
         return;
-    na_misto(odkud.takeLast());
+    const int misto = odkud.takeLast();
+    const int blok = text->document()->findBlock(misto).blockNumber();
+    const auto za = std::find_if(nadpisy.begin(), nadpisy.end(),
+                                 [blok](const NadpisPrirucky& n) { return n.blok > blok; });
+    const QSignalBlocker ticho(obsah); // the contents follow, the text goes to its place
+    obsah->setCurrentRow(std::max(0, static_cast<int>(za - nadpisy.begin()) - 1));
+    na_misto(misto);
 }
 
 // The next place of the words, from the top again behind the last one.
