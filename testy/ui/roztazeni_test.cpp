@@ -12,6 +12,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <fstream>
 #include <iomanip>
@@ -144,6 +145,22 @@ TEST_F(SirokyStul, TracksTakeAsMuchOfEachScreenAsTheDocumentSays) {
         pismeno << std::fixed << std::setprecision(2) << kSirkaBunky * platno.meritko().bod() << " px";
         EXPECT_EQ(pismeno.str(), bunky[3]) << bunky[0];
     }
+}
+
+TEST_F(SirokyStul, MinuteOfADepartureStandsBetweenTheLampOfTheConsentAndTheNumberOfTheTrain) {
+    constexpr std::array<int, 3> kPopiskyKoncu = {212, 213, 219};
+    for (const char* kresba : {"tesk.rea", "tesk.reb"})
+        for (std::size_t k = 0; k < kPopiskyKoncu.size(); ++k) {
+            nacti(kresba);
+            // as the start puts it: one sign behind the lamp, two digits
+            const int n = static_cast<int>(k);
+            Prvek& minuta = relief.lblPredvidany_odjezd[n];
+            minuta.vlevo = relief.lblSouhlas[n].vlevo() + 2 * kSirkaZnaku;
+            minuta.nahore = relief.lblSouhlas[n].nahore;
+            EXPECT_EQ(relief.cislo_koleje[kPopiskyKoncu[k]].nahore, minuta.nahore);
+            EXPECT_LE(minuta.vlevo + 2 * kSirkaZnaku, relief.cislo_koleje[kPopiskyKoncu[k]].vlevo)
+                << kresba << k;
+        }
 }
 
 TEST_F(SirokyStul, MiddleOfEveryElementIsFoundInBothDirections) {
