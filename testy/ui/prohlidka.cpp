@@ -91,8 +91,14 @@ struct Radek {
 std::vector<Radek> nakreslene;
 
 void zapamatuj(const QPainter& p, const QRectF& kam, TextPohled text) {
+    const std::size_t prvni = text.find_first_not_of(' '), posledni = text.find_last_not_of(' ');
+    if (prvni == TextPohled::npos)
+        return; // nothing is seen
     const QPaintEngine* stroj = p.paintEngine();
-    nakreslene.push_back({p.deviceTransform().mapRect(kam),
+    const double znak = kam.width() / static_cast<double>(text.size());
+    const QRectF videt = kam.adjusted(znak * static_cast<double>(prvni), 0,
+                                      -znak * static_cast<double>(text.size() - 1 - posledni), 0);
+    nakreslene.push_back({p.deviceTransform().mapRect(videt),
                           stroj != nullptr ? stroj->systemClip() : QRegion(), na_qstring(text).trimmed()});
 }
 
@@ -410,15 +416,20 @@ void prohledni_stul(const HlavniOkno& okno) {
         return;
     const std::vector<Radek> radky = sleduj([&] { platno.prekresli(); });
     const QRectF obraz = platno.obraz().rect();
-    std::vector<Radek> listy; // what stands above and below the relief
+    std::vector<Radek> listy;       // what stands above and below the relief
+    std::vector<Radek> nad_pozadim; // all but the signs of the drawing, which a number may cover
     for (const Radek& r : radky) {
         if (platno.lupa() <= 1 && !uvnitr(r.kde, obraz))
             vada(QStringLiteral("mimo stůl"), r.text);
+        if (!r.text.isEmpty() && r.text.front() >= u' ')
+            nad_pozadim.push_back(r);
         const int y = platno.na_twipy(r.kde.center()).y();
         if (platno.lupa() <= 1 && (y < kPodListou || y > kNadPanelem))
             listy.push_back(r);
     }
     zmer_prekryti(listy);
+    if (platno.lupa() <= 1)
+        zmer_prekryti(nad_pozadim);
     for (std::size_t d = 0; d < kDruhy.size(); ++d) {
         const Druh druh = static_cast<Druh>(d);
         for (int n = 0; je_pismeny(druh) && n <= tabulka(druh).nejvyssi(); ++n)
