@@ -14,8 +14,10 @@ QPoint misto_stranou(const QRect& okno, const QRect& plocha, const QRect& cil) {
     if (!okno.intersects(cil))
         return okno.topLeft();
     const int okraj = std::max(0, std::min(okno.left() - plocha.left(), plocha.right() - okno.right()));
+    const int dole = std::max(plocha.top(), plocha.bottom() + 1 - okno.height());
+    const int y = std::clamp(okno.top(), plocha.top(), dole); // what stands above the area stays in sight
     for (const int x : {plocha.right() + 1 - okraj - okno.width(), plocha.left() + okraj})
-        if (const QRect jinde(QPoint(x, okno.top()), okno.size()); !jinde.intersects(cil))
+        if (const QRect jinde(QPoint(x, y), okno.size()); !jinde.intersects(cil))
             return jinde.topLeft();
     return okno.topLeft(); // too wide for either side
 }

@@ -3,6 +3,7 @@
 # over and takes over, his sign, and the window that tells of him. The program measures its windows meanwhile. Further
 # words: the size of the screen and the scale of its pixels.
 import os
+import subprocess
 import sys
 import time
 
@@ -83,6 +84,29 @@ for klavesa in ("alt+r", "alt+p"):
     time.sleep(1.2)
     stul.obraz("okno_" + klavesa[-1])
     stul.bez_vad()
+
+# --- it is dragged by its ground, and it gives way to the train that is looked for in it
+def okno():
+    """Place and size of the dispatcher's window, pixels of the screen."""
+    beh = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "automatický výpravčí", "getwindowgeometry",
+                          "--shell"], env=stul.prostredi, check=True, capture_output=True, text=True)
+    udaje = dict(radek.split("=") for radek in beh.stdout.split())
+    return tuple(int(udaje[co]) for co in ("X", "Y", "WIDTH", "HEIGHT"))
+
+
+x, y, sirka, vyska = okno()
+stul.ukaz(x + int(20 * krat), y + vyska - int(14 * krat))  # beside the sentence below the lists
+stul.xdotool("mousedown", 1)
+stul.ukaz(*na_stole(40, 560))
+stul.xdotool("mouseup", 1)
+stul.cekej("přetažené okno", lambda: okno()[0] < x - 100 * krat)
+x, y, sirka, vyska = okno()
+stul.klavesa("alt+r")
+stul.cekej_na("nalezený vlak vedle okna", lambda o: stul.klikni(x + int(sirka * 0.7), y + int(52 * krat)) or
+              okno()[0] > x + 100 * krat)
+stul.obraz("uhnulo")
+stul.klavesa("alt+p")
+stul.bez_vad()
 stul.tiskni("F6", "stůl vzat z okna", lambda: not sviti(stul.obraz()))
 stul.tiskni("F6", "stůl předán z okna", lambda: sviti(stul.obraz()))
 

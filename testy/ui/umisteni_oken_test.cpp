@@ -28,6 +28,7 @@ TEST(UmisteniOken, WindowThatWouldCoverTheFoundTrainGivesWayToTheOtherSide) {
     const QRect vlevo(QPoint(10, 50), vpravo.size());
     EXPECT_EQ(misto_stranou(vlevo, plocha, {100, 200, 60, 20}), vpravo.topLeft());
     EXPECT_EQ(misto_stranou(vlevo, plocha, {800, 200, 60, 20}), vlevo.topLeft());
+    EXPECT_EQ(misto_stranou(vlevo.translated(0, -30), plocha, {100, 200, 60, 20}), vpravo.topLeft());
 }
 
 TEST(UmisteniOken, WindowTooWideForEitherSideStaysWhereItIs) {
