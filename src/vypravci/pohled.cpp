@@ -22,6 +22,8 @@
 
 namespace {
 
+constexpr int kCerstvaCesta_s = 30; // a route that nothing hinders is commanded by then
+
 planovani::Sit vlakova, posunova;
 
 bool je_na_stole(std::int32_t cislo) {
@@ -190,6 +192,17 @@ Prekazka prekazka_cesty(const planovani::Trasa& t, bool vlakova_cesta) {
 
 Prekazka prekazka_cesty(const ZaznamCesty& z, bool vlakova_cesta) {
     return prekazka_prvku(z, z.prvky.size(), vlakova_cesta);
+}
+
+const Cesta* ceka_pred_ni(const ZaznamCesty& z) {
+    for (const Cesta& c : cesty)
+        if (c.zacatek >= 0 && !c.prehozena && ted_s() - c.cas_stavby < kCerstvaCesta_s)
+            for (std::size_t k = 1; k < c.prvky.size(); ++k)
+                if (std::find_if(z.prvky.begin() + 1, z.prvky.end(), [&](const PrvekCesty& p) {
+                        return p.druh == c.prvky[k].druh && p.prvek == c.prvky[k].prvek;
+                    }) != z.prvky.end())
+                    return &c;
+    return nullptr;
 }
 
 int cesta_v_zasobniku(int zacatek, int konec) {

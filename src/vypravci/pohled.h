@@ -53,5 +53,8 @@ bool je_vyloucena(const ZaznamCesty& z);
 // sections of a line may have a train on them that runs ahead.
 Prekazka prekazka_cesty(const planovani::Trasa& t, bool vlakova);
 Prekazka prekazka_cesty(const ZaznamCesty& z, bool vlakova);
+// A route over the same elements that has just been ordered: it holds nothing that can be seen, and will all
+// the same. One that has waited for long waits for something else, perhaps for this very train. nullptr none.
+const Cesta* ceka_pred_ni(const ZaznamCesty& z);
 // The route that is queued, set, or run by a train, from start to end; kZadny none.
 int cesta_v_zasobniku(int zacatek, int konec);

@@ -29,11 +29,10 @@ namespace vypravovani {
 
 namespace {
 
-constexpr int kStavba_s = 10;       // a route takes so long, and with the speed of the clock more
-constexpr int kPredstih_s = 12;     // and stands so long before it is needed
-constexpr int kPrejezd_s = 50;      // a crossing that has to close before the signal clears
-constexpr int kVstup_min = 4;       // so long ahead entry tracks are kept free
-constexpr int kCerstvaCesta_s = 30; // a route that nothing hinders is commanded by then
+constexpr int kStavba_s = 10;   // a route takes so long, and with the speed of the clock more
+constexpr int kPredstih_s = 12; // and stands so long before it is needed
+constexpr int kPrejezd_s = 50;  // a crossing that has to close before the signal clears
+constexpr int kVstup_min = 4;   // so long ahead entry tracks are kept free
 
 std::vector<UcastnikBankere> ucastnici;
 std::vector<int> ucastnik_vlaku; // index in `vlaky` of each
@@ -191,19 +190,6 @@ int jiny_na_zacatku(const planovani::Trasa& t, int v) {
             return static_cast<int>(w);
     }
     return kZadny;
-}
-
-// A route that has just been ordered holds nothing that can be seen, and will all the same. One that has
-// waited for long waits for something else, perhaps for this very train.
-const Cesta* ceka_pred_ni(const ZaznamCesty& z) {
-    for (const Cesta& c : cesty)
-        if (c.zacatek >= 0 && !c.prehozena && ted_s() - c.cas_stavby < kCerstvaCesta_s)
-            for (std::size_t k = 1; k < c.prvky.size(); ++k)
-                if (std::find_if(z.prvky.begin() + 1, z.prvky.end(), [&](const PrvekCesty& p) {
-                        return p.druh == c.prvky[k].druh && p.prvek == c.prvky[k].prvek;
-                    }) != z.prvky.end())
-                    return &c;
-    return nullptr;
 }
 
 } // namespace

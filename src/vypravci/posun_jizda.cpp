@@ -105,7 +105,8 @@ Posun posun_na(int v, int kam, Strana strana, int ke, bool naleha) {
     for (std::size_t i = 0; i < useku; ++i) {
         const ZaznamCesty& z = sit_posunu().trasy[cesta->trasy[i]].zaznam;
         const int konec = z.prvky.back().prvek;
-        if (prekazka_cesty(z, false) || ((konec != kam || ke == kZadny) && je_obsazena(konec)))
+        if (prekazka_cesty(z, false) || ceka_pred_ni(z) != nullptr ||
+            ((konec != kam || ke == kZadny) && je_obsazena(konec)))
             return Posun::ceka;
         for (auto p = z.prvky.begin() + 1; p != z.prvky.end(); ++p) {
             prvky.push_back(*p);

@@ -479,6 +479,36 @@ TEST_F(PosunVypravciho, GateOfTheDepotIsLeftToATrainOfTheTimetableThatComesOutTh
     EXPECT_TRUE(rekl("volá z depa motorový vůz 842"));
 }
 
+TEST_F(PosunVypravciho, OfTwoMovementsThroughTheNeckOfTheYardTheSecondIsOrderedWhenTheFirstHasItsWay) {
+    zacni(R"(popis "z malého depa hned"
+vlak Sv 9790
+  dny denně
+  rychlost 60
+  delka 42
+  loko 842
+  vozy 842 Bdtn
+  kolej "5k"
+  stavi DVH -     10:02
+  stavi THN 10:12 -
+)");
+    nech_bezet_min(3);
+    ASSERT_NE(s_cislem(9790), kZadny);
+    const int do_odstavu = prijede(29, false, 14712, {stop(1, -3, minuta(-20)), stop(9, minuta(0), -3)}, 1,
+                                   {"843", "054", "943"}, 843, 0, 71);
+    vlak_c(do_odstavu).posun = true;
+    vlak_c(do_odstavu).muze_jet = true;
+    vypravci::predej();
+    nech_bezet_min(6);
+    const auto receno = [](std::int32_t cislo) {
+        const auto v = std::find_if(stav_vypravciho.vety.begin(), stav_vypravciho.vety.end(),
+                                    [cislo](const Veta& x) { return x.vlak == cislo; });
+        return v == stav_vypravciho.vety.end() ? 0 : v->cas_s;
+    };
+    EXPECT_GT(receno(9790), 0);
+    EXPECT_GT(receno(14712), receno(9790));
+    EXPECT_LT(receno(14712), receno(9790) + 90);
+}
+
 TEST_F(PosunVypravciho, TrainWithoutAnyOtherLocomotiveIsPushedByTheOneThatIsShutIn) {
     zacni();
     const int v = prijede(27, true, 17802,
