@@ -404,10 +404,14 @@ void zapis_stav() {
 
 void prohledni_stul(const HlavniOkno& okno) {
     kde = QStringLiteral("stůl");
+    if (const auto ktera = otevrena_technologie()) {
+        const TextPohled zalozka = kTechnologie[static_cast<std::size_t>(*ktera)].zalozka;
+        zapis(QStringLiteral("obrazovka %1%2")
+                  .arg(na_qstring(zalozka), technologie.jen_pohled ? QStringLiteral(", pohled") : QString()));
+    }
     Platno platno = okno.obraz(); // with its size and its magnifying glass
     platno.obnov();
-    // A picture that has been looked over twice has told all it can: an idle desk changes with its clock
-    // alone.
+    // What has been looked over twice has told all it can: an idle desk changes with its clock alone.
     static QImage minuly;
     static int pohledu = 0;
     pohledu = platno.obraz() == minuly ? pohledu + 1 : 1;
@@ -435,11 +439,6 @@ void prohledni_stul(const HlavniOkno& okno) {
         for (int n = 0; je_pismeny(druh) && n <= tabulka(druh).nejvyssi(); ++n)
             if (tabulka(druh).je(n) && tabulka(druh)[n].viditelny)
                 zmer_prvek(platno, druh, n);
-    }
-    if (const auto ktera = otevrena_technologie()) {
-        const TextPohled zalozka = kTechnologie[static_cast<std::size_t>(*ktera)].zalozka;
-        zapis(QStringLiteral("obrazovka %1%2")
-                  .arg(na_qstring(zalozka), technologie.jen_pohled ? QStringLiteral(", pohled") : QString()));
     }
     zapis_mapu(okno, platno);
 }
