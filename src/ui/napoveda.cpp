@@ -17,6 +17,7 @@
 #include "zaklad/cisla.h"
 
 #include <algorithm>
+#include <optional>
 
 namespace {
 
@@ -98,6 +99,16 @@ QString kam_vede(TextPohled znacka) {
             return kolej.empty() ? text : text + cesky(", kolej ") + na_qstring(kolej);
         }
     return {};
+}
+
+// A message that stands there is looked up among all of them; what asks for an answer or is empty tells of
+// the line.
+int kapitola_radku() {
+    const std::optional<DruhZpravy> stoji = stojici_zprava();
+    const bool hlaseni =
+        stoji && (*stoji == DruhZpravy::sdeleni || *stoji == DruhZpravy::souhlas || je_varovani(*stoji)) &&
+        !relief.txtZadav_pole[0].povoleny;
+    return hlaseni ? kapitoly::hlaseni : kapitoly::prikazovy_radek;
 }
 
 const char* ucel(Druh druh) {
@@ -219,7 +230,7 @@ int kapitola_prvku(Druh druh) {
     case Druh::lblPopis_vozu:
     case Druh::imgSberac: return kapitoly::panel;
     case Druh::lblPrikaz:
-    case Druh::lblVolba:
+    case Druh::lblVolba: return kapitola_radku();
     case Druh::txtZadav_pole: return kapitoly::prikazovy_radek;
     case Druh::lblPN: return kapitoly::privolavaci;
     case Druh::lblMereni_casu: return kapitoly::ruseni;

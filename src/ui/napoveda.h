@@ -20,7 +20,7 @@ inline constexpr int prvnich_deset_minut = 0; // it has no number
 inline constexpr int spusteni = 1, prihlaseni = 2, hodiny = 3, prikazovy_radek = 4, klavesy = 5, panel = 6,
                      znacky = 7, volba = 8, privolavaci = 10, zasobnik = 11, ruseni = 12, vyhybky = 13,
                      prejezdy = 14, souhlasy = 15, automat = 16, makra = 17, vlaky = 18, technologie = 19,
-                     nakres = 21, vypravci = 22, smena = 23, hodnoceni = 24;
+                     nakres = 21, vypravci = 22, smena = 23, hodnoceni = 24, hlaseni = 26;
 } // namespace kapitoly
 int kapitola_prvku(Druh druh);
 int kapitola_povelu(TextPohled povel);

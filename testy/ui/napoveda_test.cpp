@@ -182,6 +182,18 @@ TEST_F(NapovedaStolu, EveryElementAndCommandHasItsChapterInTheManual) {
     EXPECT_EQ(kapitola_povelu("RC"), kapitoly::ruseni);
 }
 
+TEST_F(NapovedaStolu, MessageThatStandsOnTheLineIsLookedUpAmongAllMessages) {
+    EXPECT_EQ(kapitola_prvku(Druh::lblVolba), kapitoly::prikazovy_radek);
+    zprava(" VOLBA ", " Překročen časový limit volby!"_cz, barvy::cervena);
+    EXPECT_EQ(kapitola_prvku(Druh::lblVolba), kapitoly::hlaseni);
+    skryj_prikaz();
+    zprava(DruhZpravy::vyluka, " pracuje se", barvy::cervena);
+    EXPECT_EQ(kapitola_prvku(Druh::lblPrikaz), kapitoly::hlaseni);
+    skryj_prikaz();
+    zprava(" JEDNOTKA? ", {}, barvy::azurova, 0, true);
+    EXPECT_EQ(kapitola_prvku(Druh::lblVolba), kapitoly::prikazovy_radek);
+}
+
 TEST_F(NapovedaStolu, CommandLineSaysWhatItWaitsFor) {
     const auto rika = [] { return napoveda_prvku({Druh::lblVolba, 0}); };
     prikaz_radek.slovo = DruhZpravy::init;
