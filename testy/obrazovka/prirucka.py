@@ -51,9 +51,18 @@ stul.obraz("prirucka_formular")
 
 # --- the words that are looked for are found; the other language has other chapters; both by keys
 TEXT, OBSAH = (580, 60, 400, 640), (330, 40, 200, 480)
-stul.klavesa("ctrl+f")
-stul.xdotool("type", "zarážedlo")
-stul.tiskni("Return", "nalezené slovo", lambda: stul.obraz().bodu(*TEXT, VYBRANA_KAPITOLA) > 300)
+
+
+def hledej(slovo):
+    """Looked for again when a key got lost: the field is taken anew each time."""
+    stul.klavesa("ctrl+f")
+    stul.xdotool("type", slovo)
+    stul.klavesa("Return")
+    time.sleep(1)
+    return stul.obraz().bodu(*TEXT, VYBRANA_KAPITOLA) > 200
+
+
+stul.cekej("nalezené slovo", lambda: hledej("lokomotiv"))
 cesky = stul.obraz().vyrez(*OBSAH)
 stul.tiskni("alt+e", "anglická příručka", lambda: stul.obraz().vyrez(*OBSAH) != cesky)
 anglicky = stul.obraz("prirucka_anglicky").vyrez(*OBSAH)
