@@ -8,13 +8,13 @@
 #include "ui/kresba.h"
 #include "ui/paleta.h"
 #include "ui/pismo.h"
+#include "ui/platforma_qt.h"
 #include "ui/pohled.h"
 #include "ui/uvod.h"
 #include "ui/vzhled.h"
 #include "zaklad/soubory.h"
 
 #include <QCloseEvent>
-#include <QFileDialog>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QGuiApplication>
@@ -637,8 +637,9 @@ void OknoParametru::otevri_soubor(const Text& soubor) {
 
 void OknoParametru::prehraj_smenu() {
     const QString slozka = QString::fromStdString(cesta_k_zapisu(simulace.cesta_aplikace + "smeny"));
-    const QString soubor = QFileDialog::getOpenFileName(this, QStringLiteral("Přehrát záznam směny"), slozka,
-                                                        QStringLiteral("Záznamy směn (*.tesk)"));
+    const QString soubor =
+        vyber_soubor(this, {QStringLiteral("Přehrát záznam směny"), slozka,
+                            QStringLiteral("Záznamy směn (*.tesk)"), QStringLiteral("Záznam směny")});
     if (!soubor.isEmpty())
         prehraj(soubor);
 }

@@ -420,6 +420,15 @@ bool proved_dialog(QDialog& dialog) {
     return prijat && !je_konec();
 }
 
+QString vyber_soubor(QWidget* nad, const DotazNaSoubor& dotaz) {
+    QFileDialog dialog(nad, dotaz.titul, dotaz.slozka, dotaz.druh);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    dialog.setFileMode(QFileDialog::ExistingFile);
+    CeskeSoubory ikony(dotaz.nazev_druhu);
+    uprav_dialog(dialog, ikony, dotaz.slozka);
+    return proved_dialog(dialog) ? dialog.selectedFiles().value(0) : QString();
+}
+
 void ukaz_zpravu(const QString& text) {
     v_jadre([&] { okno_zpravy(QStringLiteral("KPS RVZ TESK"), text); });
 }

@@ -9,6 +9,7 @@
 
 class QDialog;
 class QIODevice;
+class QWidget;
 
 // Fills `platforma`. Called once, when the application object stands.
 void zapln_platformu();
@@ -26,6 +27,13 @@ const char* rada_bez_obrazovky();
 bool proved_dialog(QDialog& dialog);
 // A box with that text.
 void ukaz_zpravu(const QString& text);
+
+// Asks for a file of one kind in a folder: its title, the kind as the window system writes it and as the list
+// of files calls it. Empty when none was chosen.
+struct DotazNaSoubor {
+    QString titul, slozka, druh, nazev_druhu;
+};
+QString vyber_soubor(QWidget* nad, const DotazNaSoubor& dotaz);
 
 // How a dialogue for saving begins: its title, the name that it proposes, the kinds of files in the window
 // system's own way of writing them, the first one first.

@@ -45,6 +45,7 @@
 #include <QTextStream>
 #include <QTimer>
 #include <QToolButton>
+#include <QTreeView>
 
 #include <algorithm>
 #include <cstdio>
@@ -223,6 +224,13 @@ void zmer_ovladac(const QWidget& w) {
             if (!h->isSectionHidden(i) && h->sectionSize(i) < h->fontMetrics().horizontalAdvance(text))
                 vada(QStringLiteral("úzký sloupec"), text);
         }
+    } else if (const auto* strom = qobject_cast<const QTreeView*>(&w)) {
+        const QAbstractItemView& sloupce = *strom;
+        for (int i = 1; i < strom->header()->count();
+             ++i) // the first one holds names, which may be longer than it
+            if (!strom->isColumnHidden(i) && sloupce.sizeHintForColumn(i) > strom->columnWidth(i))
+                vada(QStringLiteral("uříznutý sloupec"),
+                     strom->model()->headerData(i, Qt::Horizontal).toString());
     } else if (const auto* r = qobject_cast<const QListWidget*>(&w)) {
         if (!r->wordWrap() && r->sizeHintForColumn(0) > r->viewport()->width() &&
             r->horizontalScrollBar()->maximum() == 0)
