@@ -474,6 +474,7 @@ QWidget* OknoParametru::stranka_o_aplikaci() {
 
 QWidget* OknoParametru::pata() {
     const auto s_obrazkem = [&](QPushButton* t, Obrazek co, const QColor& barva) {
+        t->setText(u' ' + t->text()); // the gap behind the icon, as large as the letters are
         t->setIcon(obrazek(co, barva));
         t->setIconSize({px(16), px(16)});
         return t;

@@ -421,11 +421,14 @@ bool proved_dialog(QDialog& dialog) {
 }
 
 QString vyber_soubor(QWidget* nad, const DotazNaSoubor& dotaz) {
-    QFileDialog dialog(nad, dotaz.titul, dotaz.slozka, dotaz.druh);
+    // a folder that nothing was written into yet: the one that it will lie in
+    const QString kde =
+        QFileInfo::exists(dotaz.slozka) ? dotaz.slozka : QFileInfo(dotaz.slozka).absolutePath();
+    QFileDialog dialog(nad, dotaz.titul, kde, dotaz.druh);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     dialog.setFileMode(QFileDialog::ExistingFile);
     CeskeSoubory ikony(dotaz.nazev_druhu);
-    uprav_dialog(dialog, ikony, dotaz.slozka);
+    uprav_dialog(dialog, ikony, kde);
     return proved_dialog(dialog) ? dialog.selectedFiles().value(0) : QString();
 }
 

@@ -104,6 +104,8 @@ public:
                   QStyleHintReturn* data) const override {
         if (co == SH_ComboBox_Popup)
             return 0; // a list under the field, not over it
+        if (co == SH_DialogButtonBox_ButtonsHaveIcons)
+            return 0; // as in the boxes
         return QProxyStyle::styleHint(co, volba, okno, data);
     }
     void drawComplexControl(ComplexControl co, const QStyleOptionComplex* volba, QPainter* p,
