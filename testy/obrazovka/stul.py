@@ -106,6 +106,7 @@ class Stul:
         assert cislo, "Xvfb se nerozběhl"
         self.x = x11.Obrazovka(cislo)
         self.znama_okna = set()  # that were there at the last key
+        self.pismena = set()  # that were given keys of their own
         self.prostredi = dict(os.environ, DISPLAY=":" + cislo, QT_QPA_PLATFORM="xcb", QT_SCALE_FACTOR=str(meritko),
                               XDG_CONFIG_HOME=os.path.join(slozka, "nastaveni"), HOME=slozka,
                               TESK_PROHLIDKA=slozka)
@@ -128,6 +129,11 @@ class Stul:
             self.x.zavri()
 
     def xdotool(self, *slova):
+        nova = {z for slovo in slova for z in str(slovo) if not z.isascii()} - self.pismena
+        if nova:
+            subprocess.run(["xdotool", "key", "shift"], env=self.prostredi, check=True)  # the keyboard of these strokes
+            self.x.pridej_pismena(nova)
+            self.pismena |= nova
         subprocess.run(["xdotool", *map(str, slova)], env=self.prostredi, check=True,
                        stdout=subprocess.DEVNULL)
 
@@ -149,9 +155,6 @@ class Stul:
     def pis(self, text):
         """Types the text to where the keys go."""
         self.cekej_na_klavesy()
-        if not text.isascii():
-            self.xdotool("key", "shift")  # from now on the keyboard is that of these strokes
-            self.x.pridej_pismena({z for z in text if not z.isascii()})
         self.xdotool("type", "--delay", 2, text)
 
     def zapis_do_dialogu(self, text, hotovo):
