@@ -52,7 +52,14 @@ class Zkouska(s.Stul):
         time.sleep(0.6)
         obsah = int(self.sirka * 0.33)  # from there on lies the list of the chapters
         radky = lambda o: [y for y in range(self.vyska) if o.bodu(obsah, y, 150, 1, VYBRANA_KAPITOLA) > 60]
-        self.cekej_na("vybraná kapitola", radky)
+        minule = [[]]
+
+        def stoji(o):  # the contents come to rest at the chapter: twice the same
+            predtim, minule[0] = minule[0], radky(o)
+            time.sleep(0.3)
+            return minule[0] and minule[0] == predtim
+
+        self.cekej_na("vybraná kapitola", stoji)
         self.bez_vad()
         vybrane = radky(self.obraz("prirucka_" + co))
         nahore = self.x.misto(next(o.id for o in self.x.okna() if "příručka výpravčího" in o.jmeno))[1]
