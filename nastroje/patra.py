@@ -38,6 +38,8 @@ PATRA = (
     ("obsluha",),
     # the automatic dispatcher, who works through them
     ("vypravci",),
+    # lessons: they look at all that an operator sees
+    ("lekce",),
     # start, timers, load, and the list of all tables
     ("app",),
     # the hosts

@@ -37,7 +37,9 @@ def zkus():
     for jmeno in ("rea", "reb", "top", "pzz", "stg", "zat", "zpc", "kor", "mak"):
         assert f"data/tesk.{jmeno}" in soubory, jmeno
     assert "data/kps.fon" in soubory and "gvd/GVD_plny.dat" in soubory and "DATA/VOZY/obrysy.txt" in soubory
-    assert {j.split("/")[0] for j in soubory} <= {"data", "gvd", "DATA", "navod", "navod.pdf", "manual-en.pdf"}, soubory
+    assert "lekce/1-prvni-vlak.lekce" in soubory
+    assert {j.split("/")[0] for j in soubory} <= {"data", "gvd", "lekce", "DATA", "navod", "navod.pdf", "manual-en.pdf"}, \
+        soubory
     assert not (koren / "bin/data").exists()
 
     # a manual page for every program
