@@ -16,6 +16,7 @@
 #include "zaklad/soubory.h"
 
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <optional>
 #include <utility>
@@ -403,6 +404,29 @@ bool start_prikaz() {
     prevezmi_volby(volby);
     priprava_simulace();
     nastav_hodiny(volby);
+    return true;
+}
+
+bool start_s_volbami(const VolbyStartu& volby, std::uint64_t semeno) {
+    if (!parametry.nactena || simulace.obrazovka != kObrazovkaStartu)
+        return false;
+    constexpr std::array<TextPohled, 4> kPrepisovane = {"GVD", "Rychlost", "PP", "Zpozdeni"};
+    std::array<std::optional<Text>, kPrepisovane.size()> ulozene;
+    for (std::size_t i = 0; i < kPrepisovane.size(); ++i)
+        ulozene[i] = platforma.nastaveni_cti("Nastaveni", kPrepisovane[i]);
+    zavri_menu();
+    uloz_volby(moznosti_startu());
+    simulace.den_startu = volby.den;
+    prevezmi_volby(volby);
+    const auto puvodni = std::exchange(platforma.semeno, [semeno] { return semeno; });
+    priprava_simulace();
+    platforma.semeno = puvodni;
+    nastav_hodiny(volby);
+    for (std::size_t i = 0; i < kPrepisovane.size(); ++i)
+        if (ulozene[i])
+            platforma.nastaveni_pis("Nastaveni", kPrepisovane[i], *ulozene[i]);
+        else
+            platforma.nastaveni_smaz("Nastaveni", kPrepisovane[i]);
     return true;
 }
 

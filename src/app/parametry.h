@@ -100,6 +100,9 @@ void konec_startu();
 // Start, also by Enter. False when the time is none (after a box) or the start is on its way already; true
 // when the simulation is prepared: the splash screen stands, start_simulace follows after its ten seconds.
 bool start_prikaz();
+// The same with these choices in place of those of the screen, and with a seed of its own: a lesson. What the
+// operator has stored of his choices stays.
+bool start_s_volbami(const VolbyStartu& volby, std::uint64_t semeno);
 // Open: asks for a saved simulation. True as above; false when the dialogue was cancelled.
 bool otevri_zaznam();
 // The same with a file that is chosen already, as a click on it in the system's folders does. True as above.

@@ -3,6 +3,8 @@
 
 #include "app/cas.h"
 #include "app/simulace.h"
+#include "desk/menu.h"
+#include "relief/relief.h"
 #include "zaklad/cisla.h"
 #include "zaklad/slova.h"
 #include "zaklad/soubory.h"
@@ -290,6 +292,42 @@ Lekce precti_lekci(std::span<const std::uint8_t> bajty, std::vector<Text>& zavad
     Cteni cteni(zavady);
     cteni.precti({reinterpret_cast<const char*>(bajty.data()), bajty.size()});
     return std::move(cteni.lekce);
+}
+
+Text popis_ukonu(const UkonLekce& u) {
+    if (u.predani)
+        return Text("stiskněte **F6**"_cz);
+    const int n = static_cast<int>(u.ukon.n);
+    const auto misto = [&] {
+        Text nazev(orez(u.ukon.druh == Druh::cislo_koleje || u.ukon.druh == Druh::Image1
+                            ? jmeno(misto_volby(u.ukon.druh, n))
+                        : tabulka(u.ukon.druh).je(n) ? tabulka(u.ukon.druh)[n].popis()
+                                                     : Text()));
+        if (nazev.empty())
+            nazev = Text("označené místo"_cz);
+        return Text("**") + nazev + "**";
+    };
+    switch (u.ukon.co) {
+    case DruhUkonu::klik:
+        if (u.ukon.tlacitko == Tlacitko::prave)
+            return Text("pravé tlačítko myši: "_cz) + misto();
+        if (u.ukon.ctrl)
+            return Text("Ctrl a levé tlačítko myši: "_cz) + misto();
+        return Text("klepněte: "_cz) + misto();
+    case DruhUkonu::dvojklik: return Text("poklepejte: "_cz) + misto();
+    case DruhUkonu::najeti: return Text("najeďte ukazatelem: "_cz) + misto();
+    case DruhUkonu::polozka_menu: {
+        Text povel = u.ukon.text;
+        for (const PolozkaMenu& p : menu.polozky)
+            if (p.jmeno == u.ukon.text || p.druhe_jmeno == u.ukon.text)
+                povel = p.text;
+        return Text("zvolte v nabídce: "_cz) + "**" + povel + "**";
+    }
+    case DruhUkonu::klavesa: return Text("klávesa "_cz) + "**" + jmeno_klavesy(u.ukon.klavesa) + "**";
+    case DruhUkonu::psani: return Text("napište: "_cz) + "**" + u.ukon.text + "**";
+    case DruhUkonu::radek: return Text("klepněte na řádek seznamu"_cz);
+    default: return {};
+    }
 }
 
 std::vector<Text> soubory_lekci() {

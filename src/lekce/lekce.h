@@ -25,10 +25,12 @@ struct Zacatek {
     std::uint64_t semeno = 1;
 };
 
-// A place on the desk that is pointed at.
+// A place on the desk that is pointed at. Several in a row are numbered from 1.
 struct Misto {
     Druh druh = Druh::kolej;
     int n = kZadny;
+    int poradi = 0;  // 0: not one of several
+    bool ted = true; // it is its turn; else it comes later
     bool operator==(const Misto&) const = default;
 };
 
@@ -78,6 +80,8 @@ inline constexpr std::size_t kKrokuLekce = 200;
 // The text of a file, UTF-8. What cannot be understood is told in `zavady`, a sentence a fault with its line;
 // a lesson with a fault is not played.
 Lekce precti_lekci(std::span<const std::uint8_t> bajty, std::vector<Text>& zavady);
+// What an act is, as an operator is told: "klepněte na LHO S1", "zvolte RC".
+Text popis_ukonu(const UkonLekce& ukon);
 // Names of the lessons of the installation, without folder, in their order.
 std::vector<Text> soubory_lekci();
 // Whole path of a lesson of the installation.

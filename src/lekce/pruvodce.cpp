@@ -351,18 +351,35 @@ const UkonLekce* Pruvodce::dalsi_ukon() const {
     return udelano < popis().ukony.size() ? &popis().ukony[udelano] : nullptr;
 }
 
+// The acts on the desk that come one after another are shown all at once, so that each place can be found
+// before the first click: ten seconds are short.
 std::vector<Misto> Pruvodce::mista() const {
     std::vector<Misto> vse;
     if (hotova())
         return vse;
-    if (co_vadi == Potiz::zadna)
-        vse = popis().mista;
+    const auto ukazuje = [](const UkonLekce& u) {
+        return !u.predani && (je_klik(u.ukon) || u.ukon.co == DruhUkonu::najeti);
+    };
     const UkonLekce* u = dalsi_ukon();
-    if (u == nullptr || u->predani)
-        return vse;
-    if (je_klik(u->ukon) || u->ukon.co == DruhUkonu::najeti)
+    if (co_vadi == Potiz::zadna) {
+        vse = popis().mista;
+        const std::vector<UkonLekce>& ukony = popis().ukony;
+        const auto vic = std::count_if(ukony.begin(), ukony.end(), ukazuje) > 1;
+        for (std::size_t i = udelano, poradi = i; i < ukony.size(); ++i) {
+            if (!ukazuje(ukony[i]))
+                break;
+            const Misto m{ukony[i].ukon.druh, static_cast<int>(ukony[i].ukon.n),
+                          vic ? static_cast<int>(++poradi) : 0, i == udelano};
+            std::erase_if(vse, [&](const Misto& jine) { return jine.druh == m.druh && jine.n == m.n; });
+            vse.push_back(m);
+        }
+        if (popis().jen_cteni() && vse.size() > 1)
+            for (std::size_t i = 0; i < vse.size(); ++i)
+                vse[i].poradi = static_cast<int>(i) + 1;
+    } else if (u != nullptr && ukazuje(*u)) {
         vse.push_back({u->ukon.druh, static_cast<int>(u->ukon.n)});
-    else if (je_klavesa(u->ukon, KodKlavesy::enter))
+    }
+    if (u != nullptr && !u->predani && je_klavesa(u->ukon, KodKlavesy::enter))
         vse.push_back({Druh::lblPrikaz, 0});
     return vse;
 }

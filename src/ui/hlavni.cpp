@@ -16,6 +16,7 @@
 #include "ui/hlavni_okno.h"
 #include "ui/hodiny_stolu.h"
 #include "ui/hodnoceni.h"
+#include "ui/lekce.h"
 #include "ui/okno_smeny.h"
 #include "ui/parametry.h"
 #include "ui/platforma_qt.h"
@@ -98,6 +99,7 @@ void ukaz_hlavni_obrazovku(const std::function<void()>& start) {
     if (!je_konec()) {
         hlavni_okno->activateWindow();
         hlavni_okno->ukaz_stul();
+        zacni_chystanou_lekci(*hlavni_okno);
     }
 }
 
@@ -150,7 +152,7 @@ void zacni_start() {
                 plyn_do(virtualni_hodiny.cas_ms + kUvodniObrazovka_ms);
                 start_simulace();
                 zacni_smenu(true);
-                if (nastaveni_cislo("Nastaveni", "Vypravci", 0) != 0)
+                if (!chysta_se_lekce() && nastaveni_cislo("Nastaveni", "Vypravci", 0) != 0)
                     vypravci::predej(); // he waits for the end of the login
             });
     });

@@ -14,6 +14,7 @@
 #include "obsluha/vyber.h"
 #include "technologie/technologie.h"
 #include "ui/brana.h"
+#include "ui/lekce.h"
 #include "ui/nabidka.h"
 #include "ui/nakres.h"
 #include "ui/napoveda.h"
@@ -435,6 +436,7 @@ void HlavniOkno::obnov() {
     obnov_ohnisko();
     okno_technologie->obnov();
     obnov_okno_smeny();
+    obnov_lekci(*this);
 }
 
 void HlavniOkno::obnov_seznam(ZobrazenySeznam& s) {
@@ -878,6 +880,10 @@ bool HlavniOkno::stisk(QKeyEvent* udalost) {
         prepni_prehravani();
         return true;
     }
+    if (udalost->key() == Qt::Key_F1 && udalost->modifiers() == Qt::ShiftModifier) {
+        klavesa_lekce(*this);
+        return true;
+    }
     const QScopedValueRollback po_klavese(z_klavesy, true);
     if (udalost->key() == Qt::Key_F6) {
         const bool okno = udalost->modifiers().testFlag(Qt::ShiftModifier);
@@ -1102,6 +1108,7 @@ void HlavniOkno::paintEvent(QPaintEvent* udalost) {
         const QRect cil = platno.v_bodech(platno.misto(najety->druh, najety->n));
         nakresli_obrys(p, cil, platno.meritko().bodu(1), QColor::fromRgb(kNajetiPrvku));
     }
+    nakresli_znacky(p, *this);
     if (platno.lupa() > 1)
         nakresli_prvek(p, platno.meritko(), Druh::lblPrava, 0,
                        stitek_lupy(platno.lupa(), platno.prvek(Druh::imgSound, 0)));

@@ -111,6 +111,7 @@ QMenu* postav_nabidku(QWidget* rodic, const Menu& co, const QFont& pismo, double
         QAction* akce = kam->addAction(na_qstring(polozka.text));
         // What the real desk has and the simulation has not looks like what cannot be chosen.
         akce->setEnabled(polozka.povolena && polozka.akce != nullptr);
+        akce->setData(na_qstring(polozka.jmeno));
         akce->setToolTip(QString::fromUtf8(vyklad_povelu(polozka)));
         QObject::connect(akce, &QAction::triggered, nabidka,
                          [zvoleno, jmeno = polozka.jmeno] { zvoleno(jmeno); });

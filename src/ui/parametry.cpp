@@ -6,6 +6,7 @@
 #include "obsluha/vstup.h"
 #include "ui/brana.h"
 #include "ui/kresba.h"
+#include "ui/lekce.h"
 #include "ui/paleta.h"
 #include "ui/pismo.h"
 #include "ui/platforma_qt.h"
@@ -58,7 +59,7 @@ constexpr const char* kVzhled =
 
 // --- pictures of the buttons
 
-enum class Obrazek : std::uint8_t { moznosti, o_aplikaci, konec, navod, slozka, start };
+enum class Obrazek : std::uint8_t { moznosti, o_aplikaci, konec, navod, lekce, slozka, start };
 
 void nakresli(QPainter& p, Obrazek co) { // in a square of 16 by 16
     constexpr double kStred = 8;
@@ -84,6 +85,11 @@ void nakresli(QPainter& p, Obrazek co) { // in a square of 16 by 16
         p.drawLine(QPointF(kStred, 4.5), QPointF(kStred, 13));
         p.drawPolyline(QPolygonF{{8, 4.5}, {5.5, 3}, {2, 3}, {2, 11.5}, {5.5, 11.5}, {8, 13}});
         p.drawPolyline(QPolygonF{{8, 4.5}, {10.5, 3}, {14, 3}, {14, 11.5}, {10.5, 11.5}, {8, 13}});
+        return;
+    case Obrazek::lekce: // a pointer that shows where to click
+        p.drawRoundedRect(QRectF(2, 2.5, 9, 6), 1, 1);
+        p.setBrush(p.pen().color());
+        p.drawPolygon(QPolygonF{{8, 6.5}, {14, 11}, {11, 11.3}, {9.5, 14}});
         return;
     case Obrazek::slozka:
         p.drawPolygon(QPolygonF{{2, 3.5}, {6.5, 3.5}, {8, 5.5}, {14, 5.5}, {14, 13}, {2, 13}});
@@ -455,6 +461,7 @@ QWidget* OknoParametru::stranka_o_aplikaci() {
             "<tr><td>Tab, Shift+Tab</td><td>další a předchozí pole</td></tr>"
             "<tr><td>Ctrl+O</td><td>otevře uloženou simulaci</td></tr>"
             "<tr><td>F1</td><td>návod</td></tr>"
+            "<tr><td>Shift+F1</td><td>lekce</td></tr>"
             "<tr><td>F4</td><td>přehraje záznam směny</td></tr>"
             "<tr><td>Esc</td><td>zpět na hlavní stránku</td></tr>"
             "</table>")
@@ -491,6 +498,10 @@ QWidget* OknoParametru::pata() {
                    barva_okna(BarvaOkna::nadpis));
     }
     QPushButton* navod = tlacitko(QStringLiteral("Návod"), [this] { prikaz([] { otevri_navod(); }); });
+    QPushButton* lekce = tlacitko(QStringLiteral("L&ekce…"), [this] {
+        ukaz_vyber_lekci(this, [this](const std::function<bool()>& prikaz_startu) { predej(prikaz_startu); });
+    });
+    lekce->setToolTip(QStringLiteral("Shift+F1"));
     QPushButton* konec = tlacitko(QStringLiteral("&Konec"), [this] { close(); });
     QPushButton* otevrit = tlacitko(QStringLiteral("&Otevřít záznam…"), [this] { otevri(); });
     QPushButton* spustit = tlacitko(QStringLiteral("&Spustit simulaci"), [this] { start(); });
@@ -499,6 +510,7 @@ QWidget* OknoParametru::pata() {
     otevrit->setToolTip(QStringLiteral("Ctrl+O"));
     navod->setToolTip(QStringLiteral("F1"));
     s_obrazkem(navod, Obrazek::navod, barva_okna(BarvaOkna::text));
+    s_obrazkem(lekce, Obrazek::lekce, barva_okna(BarvaOkna::text));
     s_obrazkem(konec, Obrazek::konec, QColor(255, 96, 80));
     s_obrazkem(otevrit, Obrazek::slozka, barva_okna(BarvaOkna::text));
     s_obrazkem(spustit, Obrazek::start, Qt::white);
@@ -515,6 +527,7 @@ QWidget* OknoParametru::pata() {
     radek->addStretch();
     radek->addWidget(konec, 0, Qt::AlignBottom);
     radek->addWidget(navod, 0, Qt::AlignBottom);
+    radek->addWidget(lekce, 0, Qt::AlignBottom);
     radek->addWidget(otevrit, 0, Qt::AlignBottom);
     radek->addWidget(spustit, 0, Qt::AlignBottom);
     return pata;
@@ -663,6 +676,9 @@ void OknoParametru::keyPressEvent(QKeyEvent* udalost) {
     case Qt::Key_Enter: start(); return;
     case Qt::Key_Escape: vyber_stranku(parametry.stranka); return;
     case Qt::Key_F4: prehraj_smenu(); return;
+    case Qt::Key_F1: // with Shift; alone it opens the manual
+        ukaz_vyber_lekci(this, [this](const std::function<bool()>& prikaz_startu) { predej(prikaz_startu); });
+        return;
     case Qt::Key_O:
         if (ctrl) {
             otevri();

@@ -317,7 +317,8 @@ protected:
     bool eventFilter(QObject* cil, QEvent* udalost) override {
         // once for each press: where it comes to the window, before any widget sees it
         if (udalost->type() != QEvent::KeyPress || !cil->isWindowType() ||
-            static_cast<QKeyEvent*>(udalost)->key() != Qt::Key_F1)
+            static_cast<QKeyEvent*>(udalost)->key() != Qt::Key_F1 ||
+            static_cast<QKeyEvent*>(udalost)->modifiers() == Qt::ShiftModifier) // of the lessons
             return QObject::eventFilter(cil, udalost);
         const int kapitola = kapitola_tady();
         if (QApplication::activePopupWidget() != nullptr)

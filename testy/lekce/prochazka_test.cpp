@@ -27,6 +27,7 @@ protected:
             ASSERT_LT(++pokusu, 2000) << kde();
         }
         over_stav();
+        EXPECT_GT(pruvodce->bodu(), 5U) << "moments to come back to";
     }
 };
 

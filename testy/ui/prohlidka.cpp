@@ -7,18 +7,25 @@
 //   mapa.txt    "druh cislo x y" of each element that takes input now, pixels of the screen
 //   nabidka.txt "x y text" of each entry of the menu that was opened last
 //   stav.txt    the clock, the pause, each train with its element and its speed, the diary
+//   lekce.txt   the step of the lesson and what it points at
+// and takes preskoc.txt away from there, the seconds that are to pass at once.
 #include "app/cas.h"
 #include "app/kontrola.h"
 #include "app/parametry.h"
+#include "app/planovac.h"
 #include "app/simulace.h"
+#include "desk/menu.h"
 #include "jizda/vlak.h"
 #include "relief/relief.h"
 #include "technologie/technologie.h"
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
+#include "ui/hodiny_stolu.h"
 #include "ui/kresba.h"
+#include "ui/lekce.h"
 #include "ui/pismo.h"
 #include "ui/platno.h"
+#include "zaklad/virtualni_hodiny.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -410,6 +417,38 @@ void zapis_stav() {
     zapis_cely(QStringLiteral("stav.txt"), obsah);
 }
 
+// What the lesson shows, and where: for a pupil that clicks nowhere else.
+void zapis_lekci() {
+    const UkazanaLekce l = ukazana_lekce();
+    QString obsah;
+    QTextStream lekce(&obsah);
+    lekce << "krok " << l.krok << "\nudelano " << l.udelano << "\nnadpis " << l.nadpis << "\nukon " << l.ukon
+          << "\npotiz " << l.potiz << "\ncte " << (l.cte_se ? 1 : 0) << '\n';
+    for (const QRect& m : l.mista)
+        lekce << "misto " << m.center().x() << ' ' << m.center().y() << '\n';
+    if (!l.dal.isEmpty())
+        lekce << "dal " << l.dal.center().x() << ' ' << l.dal.center().y() << '\n';
+    for (const PolozkaMenu& p : menu.polozky)
+        if (p.jmeno == z_qstring(l.polozka))
+            lekce << "polozka " << na_qstring(p.text) << '\n';
+    lekce.flush();
+    zapis_cely(QStringLiteral("lekce.txt"), obsah);
+}
+
+// A test that need not look at all of a wait asks for so many seconds of the host's clock at once.
+void preskoc_cas() {
+    QFile soubor(slozka + QStringLiteral("/preskoc.txt"));
+    if (!soubor.open(QIODevice::ReadOnly))
+        return;
+    const int sekund = soubor.readAll().trimmed().toInt();
+    soubor.close();
+    soubor.remove();
+    v_jadre([sekund] {
+        plyn_do(virtualni_hodiny.cas_ms + sekund * 1000);
+        navaz_hodiny_stolu();
+    });
+}
+
 void prohledni_stul(const HlavniOkno& okno) {
     kde = QStringLiteral("stůl");
     if (const auto ktera = otevrena_technologie()) {
@@ -461,6 +500,8 @@ void prohlidni() {
         return;
     prohledni_stul(*stul);
     zapis_stav();
+    zapis_lekci();
+    preskoc_cas();
     v_jadre([] {
         if (const std::optional<Text> co = kontrola_stavu())
             zapis(QStringLiteral("vada stav: ") + na_qstring(*co));
