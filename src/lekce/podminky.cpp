@@ -94,11 +94,14 @@ template <class Co> bool nektera_cesta(Co co) {
     return std::any_of(cesty.begin(), cesty.end(), [&](const Cesta& c) { return c.zacatek >= 0 && co(c); });
 }
 
+// The engine that has left a train keeps its number: the train is the longer one.
 const Vlak* vlak_cisla(std::int32_t cislo) {
-    const auto v = std::find_if(vlaky.begin(), vlaky.end(), [cislo](const Vlak& x) {
-        return x.cislo > 0 && !x.prvky.empty() && (zobrazene_cislo(x) == cislo || x.cislo == cislo);
-    });
-    return v == vlaky.end() ? nullptr : &*v;
+    const Vlak* nejdelsi = nullptr;
+    for (const Vlak& v : vlaky)
+        if (v.cislo > 0 && !v.prvky.empty() && (zobrazene_cislo(v) == cislo || v.cislo == cislo) &&
+            (nejdelsi == nullptr || v.vozy.size() > nejdelsi->vozy.size()))
+            nejdelsi = &v;
+    return nejdelsi;
 }
 
 bool je_navest(int s, TextPohled co) {
@@ -213,8 +216,7 @@ bool drzi(const Podminka& p, std::size_t od) {
     case Fakt::kolej:
         return relief.kolej.je(p.a) && (p.text == "obsazena") == (relief.kolej[p.a].barva == barvy::cervena);
     case Fakt::nabidka: return !menu.jmeno.empty() && menu.druh == p.druh && menu.prvek == p.a;
-    case Fakt::hlaseni:
-        return relief.lblVolba[0].viditelny && relief.lblVolba[0].text().find(p.text) != Text::npos;
+    case Fakt::hlaseni: return je_hlaseni(p.text);
     case Fakt::souhlas: return je_souhlas(p.a, p.text);
     case Fakt::prejezd: return je_prejezd(p.a, p.text);
     case Fakt::vyhybka: return je_vyhybka(p.a, p.text);
@@ -300,6 +302,12 @@ Podminka precti_podminku(const std::vector<std::string>& vse) {
         break;
     }
     return p;
+}
+
+// A blinking message stands in its dark half too.
+bool je_hlaseni(TextPohled text) {
+    return stojici_zprava() && (prikaz_radek.slovo.text().find(text) != TextPohled::npos ||
+                                relief.lblVolba[0].text().find(text) != Text::npos);
 }
 
 bool plati(const Podminka& p, std::size_t od) {

@@ -69,6 +69,8 @@ Podminka precti_podminku(const std::vector<std::string>& slova);
 // It holds now. `od`: the first act of `ukony_smeny` that belongs to the step.
 bool plati(const Podminka& podminka, std::size_t od);
 bool plati_vse(const std::vector<Podminka>& podminky, std::size_t od);
+// The command line holds a message with that text.
+bool je_hlaseni(TextPohled text);
 // Two acts are the same for one who looks: the number of a track and its target are one place.
 bool stejny_ukon(const Ukon& a, const Ukon& b);
 // Number of a track's label or target as the place where a route ends.

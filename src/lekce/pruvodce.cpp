@@ -31,6 +31,10 @@ bool je_klik(const Ukon& u) {
     return u.co == DruhUkonu::klik || u.co == DruhUkonu::dvojklik;
 }
 
+bool je_volba_zacatku(const Ukon& u) {
+    return u.co == DruhUkonu::klik && u.tlacitko == Tlacitko::leve && je_navestidlo(u.druh);
+}
+
 bool otvira_nabidku(const Ukon& u) {
     return u.co == DruhUkonu::klik && u.tlacitko == Tlacitko::prave;
 }
@@ -53,10 +57,6 @@ UkonLekce stisk_esc() {
 }
 UkonLekce stisk_f10() {
     return ukon_naprav({.co = DruhUkonu::klavesa, .klavesa = {.kod = KodKlavesy::f10}});
-}
-
-bool hlasi(TextPohled text) {
-    return relief.lblVolba[0].viditelny && relief.lblVolba[0].text().find(text) != Text::npos;
 }
 
 // Nothing is half done on the desk: a moment to come back to.
@@ -107,16 +107,27 @@ void Pruvodce::dal() {
 
 // --- how far the operator is
 
-// The effect of the act stands on the desk, or the act itself has been seen.
-bool Pruvodce::je_hotov(const UkonLekce& u) const {
+// The route that the step asks for stands from that signal: neither it nor its end need be picked.
+bool Pruvodce::je_cesta_kroku(const UkonLekce& u) const {
+    return !u.predani && je_volba_zacatku(u.ukon) &&
+           std::any_of(popis().hotovo.begin(), popis().hotovo.end(), [&](const Podminka& p) {
+               return (p.fakt == Fakt::cesta || p.fakt == Fakt::postavena) && !p.ne && p.a == u.ukon.n &&
+                      plati(p, od_ukonu);
+           });
+}
+
+// The effect of act i stands on the desk.
+bool Pruvodce::je_hotov(std::size_t i) const {
+    const UkonLekce& u = popis().ukony[i];
     if (u.predani)
         return false;
     const int n = static_cast<int>(u.ukon.n);
-    if (u.ukon.co == DruhUkonu::klik && u.ukon.tlacitko == Tlacitko::leve && je_navestidlo(u.ukon.druh))
-        return vyber.volba_zacatek == n;
+    if (je_volba_zacatku(u.ukon))
+        return vyber.volba_zacatek == n || je_cesta_kroku(u);
     if (otvira_nabidku(u.ukon))
         return !menu.jmeno.empty() && menu.druh == u.ukon.druh && menu.prvek == n;
-    return false;
+    return i > 0 && je_klik(u.ukon) && (u.ukon.druh == Druh::Image1 || u.ukon.druh == Druh::cislo_koleje) &&
+           je_cesta_kroku(popis().ukony[i - 1]);
 }
 
 void Pruvodce::cti_ukony() {
@@ -130,20 +141,19 @@ void Pruvodce::cti_ukony() {
         if (udelano < ukony.size() && !ukony[udelano].predani && stejny_ukon(u, ukony[udelano].ukon))
             ++udelano;
     }
-    while (udelano < ukony.size() && je_hotov(ukony[udelano]))
-        ++udelano;
+    preskoc_hotove();
 }
 
-// Signal s waits for nothing more: a route stands from it, or it is the picked start.
-bool Pruvodce::je_ceka_volba(int s) const {
-    return std::any_of(cesty.begin(), cesty.end(), [s](const Cesta& c) { return c.zacatek == s; });
+void Pruvodce::preskoc_hotove() {
+    while (udelano < popis().ukony.size() && je_hotov(udelano))
+        ++udelano;
 }
 
 // What was begun and lost is to be begun again: a menu that closed without its entry, a selection that ran
 // out. A route that stands already need not be picked twice.
 void Pruvodce::vrat_ukony() {
     const std::vector<UkonLekce>& ukony = popis().ukony;
-    if (udelano == 0 || udelano >= ukony.size() + 1)
+    if (udelano == 0)
         return;
     const Ukon& posledni = ukony[udelano - 1].ukon;
     if (ukony[udelano - 1].predani)
@@ -153,25 +163,16 @@ void Pruvodce::vrat_ukony() {
         ++zmeny;
         return;
     }
-    const bool volba =
-        posledni.co == DruhUkonu::klik && posledni.tlacitko == Tlacitko::leve && je_navestidlo(posledni.druh);
-    const bool nabidka_pn = posledni.co == DruhUkonu::polozka_menu;
-    if (udelano == ukony.size() || vyber.volba_zacatek >= 0 || !(volba || nabidka_pn) || !menu.jmeno.empty())
+    const bool volba = je_volba_zacatku(posledni), z_nabidky = posledni.co == DruhUkonu::polozka_menu;
+    if (udelano == ukony.size() || vyber.volba_zacatek >= 0 || !(volba || z_nabidky) || !menu.jmeno.empty() ||
+        je_cesta_kroku(ukony[udelano - 1]))
         return;
     const Ukon& pristi = ukony[udelano].ukon;
     if (!je_klik(pristi) ||
         (!je_navestidlo(pristi.druh) && pristi.druh != Druh::Image1 && pristi.druh != Druh::cislo_koleje))
         return; // no end of a route was waited for
-    std::size_t znovu = udelano - 1;
-    while (znovu > 0) {
-        const Ukon& u = ukony[znovu].ukon;
-        const bool zacatek_volby = (je_klik(u) && je_navestidlo(u.druh));
-        if (zacatek_volby && (znovu == 0 || je_ceka_volba(static_cast<int>(ukony[znovu - 1].ukon.n)) ||
-                              !je_klik(ukony[znovu - 1].ukon)))
-            break;
-        --znovu;
-    }
-    udelano = znovu;
+    udelano = 0;
+    preskoc_hotove();
     ++zmeny;
 }
 
@@ -217,6 +218,13 @@ Potiz Pruvodce::najdi_potiz() {
         return Potiz::odbocka;
     for (std::size_t i = 0; i < k.odbocky.size(); ++i)
         if (plati_vse(k.odbocky[i].kdyz, od_ukonu)) {
+            if (k.odbocky[i].naprava.empty() && k.odbocky[i].jdi != index) { // nothing to be put right first
+                pochvala = k.odbocky[i].text;
+                vraceni = true;
+                index = k.odbocky[i].jdi;
+                zacni_krok();
+                return Potiz::zadna;
+            }
             odbocka = i;
             naprava = k.odbocky[i].naprava;
             rekni(Potiz::odbocka, k.odbocky[i].text);
@@ -229,14 +237,14 @@ Potiz Pruvodce::najdi_potiz() {
         zacni_krok();
         return Potiz::zadna;
     }
-    if (hlasi("Překročen časový limit"_cz)) {
+    if (je_hlaseni("Překročen časový limit"_cz)) {
         naprava = {stisk_enter()};
         rekni(Potiz::pozde,
               Text("To se stává: mezi dvěma klepnutími smí uplynout nejvýš deset sekund. Hlášení potvrďte "
                    "klávesou **Enter** a zkuste to znovu. Místa si předem najděte, označím je."_cz));
         return Potiz::pozde;
     }
-    if (hlasi("Cesta nenalezena"_cz)) {
+    if (je_hlaseni("Cesta nenalezena"_cz)) {
         naprava = {stisk_enter()};
         rekni(Potiz::neni_cesta,
               Text("Mezi těmi dvěma místy žádná cesta nevede. Nic se nestalo: hlášení potvrďte "
@@ -331,6 +339,7 @@ void Pruvodce::pohled() {
     const Krok& k = popis();
     if (p == Potiz::zadna && !k.jen_cteni() && plati_vse(k.hotovo, od_ukonu)) {
         pochvala = k.rekni;
+        vraceni = false;
         ++index;
         zacni_krok();
         return;

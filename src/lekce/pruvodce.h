@@ -60,6 +60,8 @@ public:
     const Krok& popis() const { return tato.kroky.at(index); }
     // What was said of the step before this one; empty when nothing.
     const Text& receno() const { return pochvala; }
+    // It was no praise: why an earlier step is shown again.
+    bool je_vraceni() const { return vraceni; }
     Potiz potiz() const { return co_vadi; }
     // What is said of it: one sentence or two.
     const Text& text_potizi() const { return veta; }
@@ -89,10 +91,11 @@ private:
     void zacni_krok();
     void cti_ukony();
     void vrat_ukony();
-    bool je_hotov(const UkonLekce& u) const;
+    void preskoc_hotove();
+    bool je_hotov(std::size_t i) const;
+    bool je_cesta_kroku(const UkonLekce& u) const;
     Potiz najdi_potiz();
     std::optional<StojiciCesta> cizi_cesta() const;
-    bool je_ceka_volba(int s) const;
     bool je_nabidka_ukonu() const;
     void oznac_bod();
     void rekni(Potiz p, Text text);
@@ -105,6 +108,7 @@ private:
     std::int32_t zacal_s = 0; // simulated second in which the step began
     bool dlouho = false;
     Text pochvala;
+    bool vraceni = false;
     Potiz co_vadi = Potiz::zadna;
     Text veta;
     std::vector<UkonLekce> naprava;

@@ -306,7 +306,7 @@ void PanelLekce::ukaz() {
         for (const Text& o : k.text)
             odstavce += QStringLiteral("<p style='margin:0 0 6px 0'>%1</p>").arg(na_html(o));
         text->setText(odstavce);
-        pochvala->setText(QStringLiteral("✓ ") + na_html(p.receno()));
+        pochvala->setText((p.je_vraceni() ? QString() : QStringLiteral("✓ ")) + na_html(p.receno()));
         pochvala->setVisible(!p.receno().empty());
         QString vada = na_html(p.text_potizi());
         if (p.trva_dlouho() && vada.isEmpty())

@@ -16,6 +16,7 @@
 #include "gvd/provoz.h"
 #include "gvd/zaplneni.h"
 #include "jizda/vlak.h"
+#include "lekce/lekce.h"
 #include "nakres/koridory.h"
 #include "obsluha/ukony.h"
 #include "pomocne/male_kolejiste.h"
@@ -400,6 +401,34 @@ inline Bajty vzor_textu() {
                        "d\xECn\xED \xC5\xA1 99999999999");
 }
 
+// A lesson: each fault is a sentence, and what is without one can be walked.
+inline void zkus_lekci(Vstup vstup) {
+    std::vector<Text> zavady;
+    const lekce::Lekce l = lekce::precti_lekci(vstup, zavady);
+    for (const Text& z : zavady)
+        musi(!z.empty(), "a fault is told");
+    musi(!zavady.empty() || !l.kroky.empty(), "a lesson has a step");
+    musi(l.kroky.size() <= lekce::kKrokuLekce, "no more steps than a panel can count");
+    for (const lekce::Krok& k : l.kroky) {
+        lekce::plati_vse(k.hotovo, 0);
+        for (const lekce::UkonLekce& u : k.ukony)
+            lekce::popis_ukonu(u);
+        for (const lekce::Odbocka& o : k.odbocky) {
+            musi(o.jdi < l.kroky.size(), "a mending leads to a step");
+            lekce::plati_vse(o.kdyz, 0);
+        }
+    }
+}
+inline Bajty vzor_lekce() {
+    return bajty_textu(
+        "lekce Vzor\npopis Veta.\ndelka 3\nzacatek cas=8:00 den=1 rychlost=2 gvd=GVD semeno=5\n"
+        "krok \"A\" a\ntext **B** c\n  d\nukaz lblcas\nudelej klik navestidlo 1\n"
+        "udelej menu miRC\nudelej klavesa F6\nhotovo cesta 1 3\nhotovo ne navest 1 volno\n"
+        "hotovo vlak_stoji 4701 3\nhotovo vyhybka 5 plus\nhotovo ukon klik Image1 3\nmez 5\n"
+        "kdyz bez_cesty 1\na_kdyz kolej 3 volna\noprava E\nnaprav pravy navestidlo 1\njdi a\n"
+        "krok \"F\"\ntext G\n");
+}
+
 // The record of a shift: refused with a sentence, or its acts are those that a record of them would tell.
 inline void zkus_smenu(Vstup vstup) {
     const std::string_view text(reinterpret_cast<const char*>(vstup.data()), vstup.size());
@@ -443,6 +472,7 @@ inline constexpr std::array kCile = {
     Cil{"cesty", zkus_cesty, vzor_cest},           Cil{"vazby", zkus_vazby, vzor_vazeb},
     Cil{"makra", zkus_makra, vzor_maker},          Cil{"koridory", zkus_koridory, vzor_koridoru},
     Cil{"zaznam", zkus_zaznam, vzor_zaznamu},      Cil{"smena", zkus_smenu, vzor_smeny},
+    Cil{"lekce", zkus_lekci, vzor_lekce},
 };
 
 } // namespace fuzz

@@ -1,5 +1,8 @@
 // testy/lekce/prochazka_test.cpp - the lessons of the installation, walked by doing what each step shows and
 // nothing else.
+#include "app/historie.h"
+#include "cesty/cesta.h"
+#include "lekce/postup.h"
 #include "pomocne/zak.h"
 
 namespace {
@@ -27,12 +30,80 @@ protected:
             ASSERT_LT(++pokusu, 2000) << kde();
         }
         over_stav();
-        EXPECT_GT(pruvodce->bodu(), 5U) << "moments to come back to";
+        EXPECT_GT(pruvodce->bodu(), 6U) << "moments to come back to";
     }
 };
 
 TEST_F(Lekce, FirstTrainIsBroughtHomeByWhatTheStepsShow) {
     projdi("1-prvni-vlak.lekce");
+}
+
+TEST_F(Lekce, ExpressGetsItsNewEngineByWhatTheStepsShow) {
+    projdi("2-posun-a-lokomotiva.lekce");
+}
+
+TEST_F(Lekce, NeighboursTrainsComeInByWhatTheStepsShow) {
+    projdi("3-prejezdy-a-souhlasy.lekce");
+}
+
+TEST_F(Lekce, TroublesAreMasteredByWhatTheStepsShow) {
+    projdi("4-poruchy.lekce");
+}
+
+// Whoever stops in the middle comes back to the save of the step and walks on from there.
+TEST_F(Lekce, IsTakenUpAgainAtEveryStepThatIsKept) {
+    const Text soubor = "1-prvni-vlak.lekce";
+    struct Rozdelana {
+        std::size_t krok;
+        Bajty zaznam;
+    };
+    std::vector<Rozdelana> rozdelane;
+    novy_svet();
+    zacni_lekci(z_instalace(soubor));
+    while (!pruvodce->hotova()) {
+        const std::size_t bodu = pruvodce->bodu();
+        ASSERT_NO_FATAL_FAILURE(krok_zaka());
+        if (pruvodce->bodu() == bodu)
+            continue;
+        ASSERT_TRUE(lekce::zapis_postup(soubor, pruvodce->krok()));
+        EXPECT_EQ(lekce::postup(soubor).krok, pruvodce->krok());
+        rozdelane.push_back({pruvodce->krok(), nacti_soubor(lekce::zaznam_postupu(soubor))});
+    }
+    lekce::zapis_hotovou(soubor);
+    EXPECT_TRUE(lekce::postup(soubor).hotova);
+    EXPECT_FALSE(lekce::postup(soubor).krok);
+    ASSERT_GT(rozdelane.size(), 6U);
+    for (const Rozdelana& r : rozdelane) {
+        novy_svet();
+        zaloz_slozku(simulace.cesta_aplikace + "save\\lekce");
+        zapis_soubor(lekce::zaznam_postupu(soubor), r.zaznam);
+        skript("nacti save/lekce/1-prvni-vlak.sim");
+        pruvodce = std::make_unique<lekce::Pruvodce>(z_instalace(soubor), r.krok);
+        for (int pokusu = 0; !pruvodce->hotova(); ++pokusu) {
+            ASSERT_NO_FATAL_FAILURE(krok_zaka());
+            ASSERT_LT(pokusu, 3000) << r.krok << " " << kde() << " " << na_utf8(pruvodce->text_potizi());
+        }
+        over_stav();
+    }
+}
+
+// A step is tried again from the moment in which it began.
+TEST_F(Lekce, TurnsTimeBackToTheBeginningOfAStep) {
+    novy_svet();
+    zacni_lekci(z_instalace("1-prvni-vlak.lekce"));
+    while (pruvodce->krok() < 8)
+        ASSERT_NO_FATAL_FAILURE(krok_zaka());
+    const auto bod = pruvodce->bod_kroku(5);
+    ASSERT_TRUE(bod);
+    EXPECT_EQ(bod->krok, 5U);
+    ASSERT_EQ(vrat_na(bod->sekunda), Navrat::hotovo);
+    pruvodce->na_krok(bod->krok);
+    EXPECT_TRUE(std::all_of(cesty.begin(), cesty.end(), [](const Cesta& c) { return c.zacatek < 0; }));
+    for (int pokusu = 0; !pruvodce->hotova(); ++pokusu) {
+        ASSERT_NO_FATAL_FAILURE(krok_zaka());
+        ASSERT_EQ(pruvodce->potiz(), lekce::Potiz::zadna) << kde();
+        ASSERT_LT(pokusu, 3000) << kde();
+    }
 }
 
 } // namespace

@@ -77,6 +77,11 @@ protected:
         if (pruvodce->hotova())
             return;
         over_mista();
+        if (pruvodce->krok() != ctenny && pruvodce->krok() > 0 && !pruvodce->popis().jen_cteni()) {
+            ctenny = pruvodce->krok();
+            skript("cekej 2s"); // he reads first
+            return;
+        }
         const bool cte = pruvodce->potiz() == lekce::Potiz::zadna && pruvodce->popis().jen_cteni();
         if (cte) {
             pruvodce->dal();
@@ -91,4 +96,5 @@ protected:
     }
 
     std::unique_ptr<lekce::Pruvodce> pruvodce;
+    std::size_t ctenny = 0; // step that he has read
 };

@@ -1,0 +1,161 @@
+// testy/lekce/pruvodce_test.cpp - the guide of a lesson forgives: whatever goes another way is told, put
+// right and walked on from.
+#include "pomocne/zak.h"
+
+namespace {
+
+using lekce::Potiz;
+
+class PruvodceLekce : public Zak {
+protected:
+    // At the step of the three clicks, the train announced.
+    void az_k_volbe() {
+        novy_svet();
+        zacni_lekci(z_instalace("1-prvni-vlak.lekce"));
+        while (pruvodce->krok() < 5)
+            ASSERT_NO_FATAL_FAILURE(krok_zaka());
+        ASSERT_EQ(na_utf8(pruvodce->popis().jmeno), "volba");
+        po("cekej 2s");
+    }
+    void po(const std::string& radek) {
+        skript(radek);
+        pruvodce->pohled();
+    }
+    // The pupil does what is shown until nothing is wrong.
+    void naprav() {
+        for (int i = 0; pruvodce->potiz() != Potiz::zadna; ++i) {
+            if (const lekce::UkonLekce* u = pruvodce->dalsi_ukon()) {
+                ASSERT_NO_FATAL_FAILURE(udelej(*u));
+            }
+            po("cekej 1500ms");
+            ASSERT_LT(i, 200) << kde() << " " << na_utf8(pruvodce->text_potizi());
+        }
+    }
+    void dokonci_krok() {
+        const std::size_t krok = pruvodce->krok();
+        for (int i = 0; pruvodce->krok() == krok; ++i) {
+            ASSERT_NO_FATAL_FAILURE(krok_zaka());
+            ASSERT_LT(i, 600) << kde();
+        }
+    }
+};
+
+TEST_F(PruvodceLekce, FollowsTheClicksAndShowsAllThatAreToCome) {
+    az_k_volbe();
+    ASSERT_EQ(pruvodce->mista().size(), 3U);
+    EXPECT_EQ(pruvodce->mista()[0], (lekce::Misto{Druh::navestidlo, 287, 1, true}));
+    EXPECT_EQ(pruvodce->mista()[2], (lekce::Misto{Druh::cislo_koleje, 12, 3, false}));
+    po("klik navestidlo 287");
+    ASSERT_EQ(pruvodce->mista().size(), 2U);
+    EXPECT_EQ(pruvodce->mista()[0], (lekce::Misto{Druh::navestidlo, 601, 2, true}));
+    EXPECT_EQ(na_utf8(lekce::popis_ukonu(*pruvodce->dalsi_ukon())), "klepněte: **TVH 1S**");
+    po("klik navestidlo 601");
+    po("klik Image1 12"); // the track itself is as good as its number
+    EXPECT_EQ(pruvodce->krok(), 6U);
+    EXPECT_FALSE(pruvodce->receno().empty());
+}
+
+TEST_F(PruvodceLekce, ForgivesAnotherSignal) {
+    az_k_volbe();
+    po("klik navestidlo 288");
+    EXPECT_EQ(pruvodce->potiz(), Potiz::jiny_zacatek);
+    EXPECT_NE(na_utf8(pruvodce->text_potizi()).find("LHO S2"), std::string::npos);
+    po("klavesa Esc");
+    EXPECT_EQ(pruvodce->potiz(), Potiz::zadna);
+    EXPECT_EQ(pruvodce->hotovych_ukonu(), 0U);
+    dokonci_krok();
+    EXPECT_EQ(pruvodce->krok(), 6U);
+}
+
+TEST_F(PruvodceLekce, ForgivesTheTenSecondsAndGoesOnFromTheRouteThatStands) {
+    az_k_volbe();
+    po("klik navestidlo 287");
+    po("cekej 12s");
+    EXPECT_EQ(pruvodce->potiz(), Potiz::pozde);
+    EXPECT_EQ(na_utf8(pruvodce->dalsi_ukon()->radek), "klavesa Enter");
+    naprav();
+    EXPECT_EQ(pruvodce->hotovych_ukonu(), 0U);
+    po("klik navestidlo 287");
+    po("klik navestidlo 601");
+    po("cekej 12s");
+    EXPECT_EQ(pruvodce->potiz(), Potiz::pozde);
+    naprav();
+    EXPECT_EQ(pruvodce->hotovych_ukonu(), 1U)
+        << "the first route stands: its signal need not be picked again";
+    dokonci_krok();
+    EXPECT_EQ(pruvodce->krok(), 6U);
+}
+
+TEST_F(PruvodceLekce, WaitsUntilARouteToAWrongPlaceIsTakenBack) {
+    az_k_volbe();
+    po("klik navestidlo 287");
+    po("klik navestidlo 601");
+    po("klik cislo_koleje 10");
+    EXPECT_EQ(pruvodce->potiz(), Potiz::cizi_cesta);
+    skript("cekej 10s");
+    naprav();
+    dokonci_krok();
+    EXPECT_EQ(pruvodce->krok(), 6U);
+}
+
+TEST_F(PruvodceLekce, TellsThatTheServiceStands) {
+    az_k_volbe();
+    po("klavesa F10");
+    EXPECT_EQ(pruvodce->potiz(), Potiz::pauza);
+    po("klavesa F10");
+    EXPECT_EQ(pruvodce->potiz(), Potiz::zadna);
+}
+
+TEST_F(PruvodceLekce, GoesBackToTheStepWhoseRouteWasLost) {
+    az_k_volbe();
+    for (const char* radek : {"klik navestidlo 287", "klik navestidlo 601", "klik cislo_koleje 12"})
+        po(radek);
+    ASSERT_EQ(pruvodce->krok(), 6U);
+    po("klavesa Esc"); // takes back the route that was picked last
+    for (int i = 0; i < 10 && pruvodce->krok() == 6U; ++i)
+        po("cekej 1s");
+    EXPECT_EQ(na_utf8(pruvodce->popis().jmeno), "volba");
+    pruvodce->pohled();
+    EXPECT_EQ(pruvodce->mista().front().n, 601) << "the other route stands";
+    dokonci_krok();
+    EXPECT_EQ(pruvodce->krok(), 6U);
+}
+
+TEST_F(PruvodceLekce, OffersToTryAgainAStepThatLasts) {
+    az_k_volbe();
+    EXPECT_FALSE(pruvodce->trva_dlouho());
+    po("cekej 6min");
+    EXPECT_TRUE(pruvodce->trva_dlouho());
+    EXPECT_EQ(pruvodce->krok(), 5U);
+}
+
+TEST_F(PruvodceLekce, PassesOverAndGoesBack) {
+    az_k_volbe();
+    pruvodce->dal();
+    EXPECT_EQ(pruvodce->krok(), 6U);
+    pruvodce->na_krok(4);
+    EXPECT_EQ(pruvodce->krok(), 4U);
+    EXPECT_TRUE(pruvodce->popis().jen_cteni());
+    ASSERT_EQ(pruvodce->mista().size(), 3U);
+    EXPECT_EQ(pruvodce->mista()[1].poradi, 2);
+}
+
+TEST_F(PruvodceLekce, ChangesNothingOfTheSimulation) {
+    const auto bez = [&](bool s_lekci) {
+        novy_svet();
+        zacni_lekci(z_instalace("1-prvni-vlak.lekce"));
+        for (const char* radek : {"klavesa Enter", "klavesa Enter", "klavesa Enter", "cekej 150s",
+                                  "klik navestidlo 287", "klik navestidlo 601", "klik cislo_koleje 12"})
+            skript(radek);
+        for (int i = 0; i < 200; ++i) {
+            skript("cekej 1s");
+            if (s_lekci)
+                pruvodce->pohled();
+        }
+        return stav_simulace();
+    };
+    const StavSimulace prvni = bez(true);
+    EXPECT_EQ(rozdil(prvni, bez(false)), "");
+}
+
+} // namespace
