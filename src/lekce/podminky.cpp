@@ -135,9 +135,10 @@ bool je_prejezd(int k, TextPohled co) {
     const StanicniPrejezd& p = stanicni_prejezdy[i];
     if (co == "obsluhou")
         return p.UZ;
+    const bool uzavren = p.uzavren || p.pocet != kBezVlaku; // a train on it holds it closed by itself
     if (co == "vystraha")
-        return p.cas >= 0 && !p.uzavren;
-    return (co == "uzavren") == p.uzavren;
+        return p.cas >= 0 && !uzavren;
+    return (co == "uzavren") == uzavren;
 }
 
 bool je_vyhybka(int n, TextPohled co) {
