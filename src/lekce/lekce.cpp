@@ -299,6 +299,13 @@ Text popis_ukonu(const UkonLekce& u) {
         return Text("stiskněte **F6**"_cz);
     const int n = static_cast<int>(u.ukon.n);
     const auto misto = [&] {
+        switch (u.ukon.druh) { // their tags say something else, or nothing
+        case Druh::lblSouhlas: return Text("**světlo souhlasu**"_cz);
+        case Druh::lblPrejezd: return Text("**světla přejezdu**"_cz);
+        case Druh::imgVyhybka: return Text("**výhybka "_cz) + text_cisla(n) + "**";
+        case Druh::cmDenik: return Text("**DENÍK**"_cz);
+        default: break;
+        }
         Text nazev(orez(u.ukon.druh == Druh::cislo_koleje || u.ukon.druh == Druh::Image1
                             ? jmeno(misto_volby(u.ukon.druh, n))
                         : tabulka(u.ukon.druh).je(n) ? tabulka(u.ukon.druh)[n].popis()

@@ -59,6 +59,10 @@ UkonLekce stisk_f10() {
     return ukon_naprav({.co = DruhUkonu::klavesa, .klavesa = {.kod = KodKlavesy::f10}});
 }
 
+bool bez_cesty_od(int s) {
+    return std::none_of(cesty.begin(), cesty.end(), [s](const Cesta& c) { return c.zacatek == s; });
+}
+
 // Nothing is half done on the desk: a moment to come back to.
 bool je_cisto() {
     return vyber.volba_zacatek < 0 && !vyber.makro_zaznam && menu.jmeno.empty() &&
@@ -277,7 +281,8 @@ Potiz Pruvodce::najdi_potiz() {
     const bool voli_se = std::any_of(k.ukony.begin(), k.ukony.end(), [](const UkonLekce& u) {
         return !u.predani && je_navestidlo(u.ukon.druh);
     });
-    if (voli_se && vyber.volba_zacatek >= 0 && !vyber.makro_zaznam &&
+    // a macro leaves its last start picked: it has a route already
+    if (voli_se && vyber.volba_zacatek >= 0 && bez_cesty_od(vyber.volba_zacatek) && !vyber.makro_zaznam &&
         std::none_of(k.ukony.begin(), k.ukony.end(), patri_zacatek)) {
         naprava = {stisk_esc()};
         Text text("To bylo jiné návěstidlo, "_cz);
@@ -355,8 +360,15 @@ void Pruvodce::pohled() {
 const UkonLekce* Pruvodce::dalsi_ukon() const {
     if (hotova())
         return nullptr;
-    if (co_vadi != Potiz::zadna)
-        return naprava.empty() ? nullptr : &naprava.front();
+    if (co_vadi != Potiz::zadna) { // the first one whose effect does not stand yet
+        const auto zbyva = std::find_if(naprava.begin(), naprava.end(), [](const UkonLekce& u) {
+            const int n = static_cast<int>(u.ukon.n);
+            const bool zacatek = je_volba_zacatku(u.ukon) && vyber.volba_zacatek == n;
+            const bool nabidka = otvira_nabidku(u.ukon) && menu.druh == u.ukon.druh && menu.prvek == n;
+            return u.predani || !(zacatek || (nabidka && !menu.jmeno.empty()));
+        });
+        return zbyva == naprava.end() ? nullptr : &*zbyva;
+    }
     return udelano < popis().ukony.size() ? &popis().ukony[udelano] : nullptr;
 }
 

@@ -605,7 +605,8 @@ void ukaz_vyber_lekci(QWidget* rodic, const std::function<void(const std::functi
                            .arg(na_html(n.lekce.popis), stav, barva_okna(BarvaOkna::tlumeny).name()));
         popis->setWordWrap(true);
         popis->setTextFormat(Qt::RichText);
-        popis->setMinimumWidth(px(400));
+        popis->setFixedWidth(px(400));
+        popis->setMinimumHeight(popis->heightForWidth(px(400)) + px(4));
         radek->addWidget(popis, 1);
         auto* tlacitka = new QVBoxLayout;
         const auto pridej = [&](const QString& text, bool od_zacatku) {

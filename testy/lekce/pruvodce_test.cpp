@@ -98,6 +98,24 @@ TEST_F(PruvodceLekce, WaitsUntilARouteToAWrongPlaceIsTakenBack) {
     EXPECT_EQ(pruvodce->krok(), 6U);
 }
 
+TEST_F(PruvodceLekce, HasTheMissingRouteOfTheExpressPickedAgain) {
+    novy_svet();
+    zacni_lekci(z_instalace("2-posun-a-lokomotiva.lekce"));
+    while (pruvodce->krok() < 5) {
+        ASSERT_NO_FATAL_FAILURE(krok_zaka());
+        ASSERT_EQ(pruvodce->potiz(), Potiz::zadna) << na_utf8(pruvodce->text_potizi());
+    }
+    po("pravy navestidlo 222");
+    po("menu miRC");
+    po("cekej 10s");
+    EXPECT_EQ(pruvodce->potiz(), Potiz::odbocka);
+    EXPECT_EQ(pruvodce->mista().front(), (lekce::Misto{Druh::navestidlo, 222}));
+    naprav();
+    EXPECT_EQ(pruvodce->krok(), 5U);
+    dokonci_krok();
+    EXPECT_EQ(pruvodce->krok(), 6U);
+}
+
 TEST_F(PruvodceLekce, TellsThatTheServiceStands) {
     az_k_volbe();
     po("klavesa F10");

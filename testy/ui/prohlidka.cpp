@@ -417,6 +417,12 @@ void zapis_stav() {
     zapis_cely(QStringLiteral("stav.txt"), obsah);
 }
 
+// The rules of the running are seen between two looks that are near to each other.
+void zkontroluj_stav() {
+    if (const std::optional<Text> co = kontrola_stavu())
+        zapis(QStringLiteral("vada stav: ") + na_qstring(*co));
+}
+
 // What the lesson shows, and where: for a pupil that clicks nowhere else.
 void zapis_lekci() {
     const UkazanaLekce l = ukazana_lekce();
@@ -444,7 +450,10 @@ void preskoc_cas() {
     soubor.close();
     soubor.remove();
     v_jadre([sekund] {
-        plyn_do(virtualni_hodiny.cas_ms + sekund * 1000);
+        for (int ms = 0; ms < sekund * 1000; ms += kPerioda_ms) {
+            plyn_do(virtualni_hodiny.cas_ms + kPerioda_ms);
+            zkontroluj_stav();
+        }
         navaz_hodiny_stolu();
     });
 }
@@ -502,10 +511,7 @@ void prohlidni() {
     zapis_stav();
     zapis_lekci();
     preskoc_cas();
-    v_jadre([] {
-        if (const std::optional<Text> co = kontrola_stavu())
-            zapis(QStringLiteral("vada stav: ") + na_qstring(*co));
-    });
+    v_jadre(zkontroluj_stav);
 }
 
 void zacni() {
