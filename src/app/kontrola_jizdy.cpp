@@ -168,6 +168,8 @@ Nalez vjezdy() {
             continue;
         const int n = vlaky[i].prvky.back().prvek;
         const Cesta* cesta = cesta_vjezdu(i);
+        if (cesta == nullptr && kroku_jizdy - videno.kroku > 1)
+            continue; // nobody looked when it came in, and the route has ended since
         if (cesta == nullptr)
             return vlak_textem(i, veta_jizdy({"na kolej "_cz, text_cisla(n), " nevede jeho cesta"_cz}));
         if (je_volny_vjezd(*cesta))

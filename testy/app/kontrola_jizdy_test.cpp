@@ -3,6 +3,7 @@
 #include "app/kontrola.h"
 #include "app/kontrola_jizdy.h"
 #include "cesty/smer_trati.h"
+#include "jizda/krok_jizdy.h"
 #include "jizda/svet_vlaku.h"
 #include "pomocne/prvky_cesty.h"
 #include "prvky/stanicni_prejezdy.h"
@@ -104,6 +105,17 @@ TEST_F(KontrolaJizdy, TrainMovesOverItsRouteOnly) {
     vjed(v, c, 1);
     cesta_c(c).Vlak = kZadny;
     EXPECT_EQ(nalez(), "vlaky " + std::to_string(v) + ": na kolej 440 nevede jeho cesta");
+}
+
+// Its route may have ended since: a neighbour's one goes as soon as the train stands.
+TEST_F(KontrolaJizdy, EntryIsJudgedWithinTheStepInWhichItHappened) {
+    const int v = vlak_na(62, true, 1234);
+    const int c = cesta(pres_vyhybku());
+    ASSERT_EQ(nalez(), "");
+    vjed(v, c, 1);
+    cesta_c(c).Vlak = kZadny;
+    kroku_jizdy += 2;
+    EXPECT_EQ(nalez(), "");
 }
 
 TEST_F(KontrolaJizdy, HeldEntriesAreNeighbours) {
