@@ -18,6 +18,8 @@ namespace lekce {
 
 namespace {
 
+constexpr int kCekaDlouho_s = 15; // a route that nothing hinders is commanded sooner
+
 Text jmeno_prvku(int n) {
     const Text nazev(orez(jmeno(n)));
     return nazev.empty() ? text_cisla(n) : nazev;
@@ -182,12 +184,12 @@ void Pruvodce::vrat_ukony() {
 
 // --- what has gone another way
 
-std::optional<Pruvodce::StojiciCesta> Pruvodce::cizi_cesta() const {
+std::optional<Pruvodce::CiziCesta> Pruvodce::cizi_cesta() const {
     for (const Cesta& c : cesty) {
         const StojiciCesta s{c.zacatek, c.konec};
         if (c.zacatek >= 0 && c.Umazat == 0 && c.ZT != kZTprogramu &&
             std::find(zname.begin(), zname.end(), s) == zname.end())
-            return s;
+            return CiziCesta{s.zacatek, s.konec, !c.prehozena && ted_s() - c.cas_stavby > kCekaDlouho_s};
     }
     return std::nullopt;
 }
@@ -261,17 +263,26 @@ Potiz Pruvodce::najdi_potiz() {
                               ? Druh::navestidlo_ser
                               : Druh::navestidlo;
         naprava.clear();
-        if (!nabidka)
+        if (c->ceka)
+            naprava.push_back(ukon_naprav({.co = DruhUkonu::klik, .druh = Druh::lblZasobnik_EZ}));
+        else if (!nabidka)
             naprava.push_back(ukon_naprav(
                 {.co = DruhUkonu::klik, .druh = druh, .n = c->zacatek, .tlacitko = Tlacitko::prave}));
         else
             naprava.push_back(ukon_naprav({.co = DruhUkonu::polozka_menu, .text = "miRC"}));
-        Text text("Postavili jste cestu, kterou teď nepotřebujeme: "_cz);
+        Text text(c->ceka ? TextPohled("Zvolili jste cestu, která nemůže vést: "_cz)
+                          : TextPohled("Postavili jste cestu, kterou teď nepotřebujeme: "_cz));
         text += jmeno_prvku(c->zacatek);
         text += Text(" až "_cz);
         text += jmeno_prvku(c->konec);
-        text += Text(
-            ". Zrušte ji: pravé tlačítko na jejím návěstidle a povel **RC**. Dokud se staví, je povel šedý; když už svítila, uvolní se za pět sekund."_cz);
+        if (c->ceka)
+            text += Text(
+                ". Čeká v zásobníku a zdržuje ty za ní. Klepněte na **EZ** vlevo pod kolejemi, vyberte její "
+                "řádek, stiskněte **Delete** a obrazovku zavřete klávesou **Esc**."_cz);
+        else
+            text += Text(
+                ". Zrušte ji: pravé tlačítko na jejím návěstidle a povel **RC**. Dokud se staví, je povel "
+                "šedý; když už svítila, uvolní se za pět sekund."_cz);
         rekni(Potiz::cizi_cesta, std::move(text));
         return Potiz::cizi_cesta;
     }
@@ -282,8 +293,8 @@ Potiz Pruvodce::najdi_potiz() {
         return !u.predani && je_navestidlo(u.ukon.druh);
     });
     // a macro leaves its last start picked: it has a route already
-    if (voli_se && vyber.volba_zacatek >= 0 && bez_cesty_od(vyber.volba_zacatek) && !vyber.makro_zaznam &&
-        std::none_of(k.ukony.begin(), k.ukony.end(), patri_zacatek)) {
+    if (voli_se && vyber.volba_zacatek >= 0 && vyber.volba_konec < 0 && bez_cesty_od(vyber.volba_zacatek) &&
+        !vyber.makro_zaznam && std::none_of(k.ukony.begin(), k.ukony.end(), patri_zacatek)) {
         naprava = {stisk_esc()};
         Text text("To bylo jiné návěstidlo, "_cz);
         text += jmeno_prvku(vyber.volba_zacatek);

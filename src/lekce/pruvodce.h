@@ -95,7 +95,13 @@ private:
     bool je_hotov(std::size_t i) const;
     bool je_cesta_kroku(const UkonLekce& u) const;
     Potiz najdi_potiz();
-    std::optional<StojiciCesta> cizi_cesta() const;
+    // A route that the lesson does not ask for. `ceka`: something keeps it from being set, so that it cannot
+    // be cancelled at its signal, and under VZ it holds all behind it.
+    struct CiziCesta {
+        int zacatek, konec;
+        bool ceka;
+    };
+    std::optional<CiziCesta> cizi_cesta() const;
     bool je_nabidka_ukonu() const;
     void oznac_bod();
     void rekni(Potiz p, Text text);

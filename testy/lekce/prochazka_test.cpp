@@ -2,8 +2,14 @@
 // nothing else.
 #include "app/historie.h"
 #include "cesty/cesta.h"
+#include "cesty/dotazy.h"
+#include "cesty/navest.h"
+#include "cesty/opakovani.h"
+#include "desk/stitky.h"
 #include "lekce/postup.h"
 #include "pomocne/zak.h"
+
+#include <algorithm>
 
 namespace {
 
@@ -32,6 +38,26 @@ protected:
         over_stav();
         EXPECT_GT(pruvodce->bodu(), 6U) << "moments to come back to";
     }
+    // From the start to the step of that name; its index.
+    std::size_t ke_kroku(const Text& soubor, const Text& jmeno) {
+        novy_svet();
+        zacni_lekci(z_instalace(soubor));
+        for (int pokusu = 0; pokusu < 5000; ++pokusu) {
+            pruvodce->pohled();
+            if (pruvodce->popis().jmeno == jmeno)
+                break;
+            krok_zaka();
+        }
+        EXPECT_EQ(na_utf8(pruvodce->popis().jmeno), na_utf8(jmeno)) << kde();
+        return pruvodce->krok();
+    }
+    // Does what is shown until that step is done.
+    void za_krok(std::size_t krok) {
+        for (int pokusu = 0; pokusu < 200 && pruvodce->krok() <= krok; ++pokusu)
+            ASSERT_NO_FATAL_FAILURE(krok_zaka());
+        EXPECT_EQ(pruvodce->krok(), krok + 1) << kde() << " " << na_utf8(pruvodce->text_potizi());
+        EXPECT_EQ(pruvodce->potiz(), lekce::Potiz::zadna);
+    }
 };
 
 TEST_F(Lekce, FirstTrainIsBroughtHomeByWhatTheStepsShow) {
@@ -46,8 +72,37 @@ TEST_F(Lekce, NeighboursTrainsComeInByWhatTheStepsShow) {
     projdi("3-prejezdy-a-souhlasy.lekce");
 }
 
-TEST_F(Lekce, TroublesAreMasteredByWhatTheStepsShow) {
+TEST_F(Lekce, WhatWasClosedIsOpenAgainBehindTheTrainThatWasCalledOn) {
     projdi("4-poruchy.lekce");
+    EXPECT_TRUE(
+        std::all_of(stitky.begin(), stitky.end(), [](const StitekPrvku& s) { return s.vyluka.empty(); }));
+    for (int s = 0; s <= relief.navestidlo.nejvyssi(); ++s)
+        EXPECT_FALSE(relief.navestidlo.je(s) && je_zablokovano(s)) << s;
+}
+
+TEST_F(Lekce, ForgivesTheRouteThatWasConfirmedOntoTheClosedTrack) {
+    const std::size_t krok = ke_kroku("4-poruchy.lekce", "odmitnuti");
+    skript("klavesa Enter");
+    skript("cekej 3s");
+    pruvodce->pohled();
+    EXPECT_EQ(pruvodce->potiz(), lekce::Potiz::odbocka);
+    for (const char* radek : {"klik lblZasobnik_EZ", "klik lstZasobnik 0", "klavesa Delete", "klavesa Esc"})
+        skript(radek); // as the text says
+    za_krok(krok);
+    EXPECT_FALSE(ceka_nebo_stoji_z(317));
+}
+
+TEST_F(Lekce, ForgivesTheTrainRouteWhereTheCallingOnAspectWasAskedFor) {
+    const std::size_t krok = ke_kroku("4-poruchy.lekce", "pn");
+    skript("klik navestidlo 317");
+    skript("klik cislo_koleje 29");
+    skript("cekej 10s");
+    pruvodce->pohled();
+    EXPECT_EQ(pruvodce->potiz(), lekce::Potiz::odbocka);
+    for (const char* radek : {"klik lblZasobnik_EZ", "klik lstZasobnik 0", "klavesa Delete", "klavesa Esc"})
+        skript(radek); // as the text says
+    za_krok(krok);
+    EXPECT_TRUE(pn_sviti(317));
 }
 
 // Whoever stops in the middle comes back to the save of the step and walks on from there.

@@ -98,6 +98,22 @@ TEST_F(PruvodceLekce, WaitsUntilARouteToAWrongPlaceIsTakenBack) {
     EXPECT_EQ(pruvodce->krok(), 6U);
 }
 
+TEST_F(PruvodceLekce, SendsToTheStackForARouteThatCannotBeSet) {
+    az_k_volbe();
+    po("klik navestidlo 287");
+    po("klik navestidlo 601");
+    po("klik cislo_koleje 11"); // a train stands there
+    EXPECT_EQ(pruvodce->potiz(), Potiz::cizi_cesta);
+    po("cekej 20s");
+    EXPECT_EQ(na_utf8(pruvodce->dalsi_ukon()->radek), "klik lblZasobnik_EZ 0");
+    for (const char* radek : {"klik lblZasobnik_EZ", "klik lstZasobnik 0", "klavesa Delete"})
+        skript(radek); // as the text says
+    po("klavesa Esc");
+    EXPECT_EQ(pruvodce->potiz(), Potiz::zadna) << na_utf8(pruvodce->text_potizi());
+    dokonci_krok();
+    EXPECT_EQ(pruvodce->krok(), 6U);
+}
+
 TEST_F(PruvodceLekce, HasTheMissingRouteOfTheExpressPickedAgain) {
     novy_svet();
     zacni_lekci(z_instalace("2-posun-a-lokomotiva.lekce"));

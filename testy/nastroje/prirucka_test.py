@@ -25,7 +25,7 @@ JMENA = {
 KAPITOLY = {
     "hlavni_okno.cpp": (5,), "parametry.cpp": (1, 23), "nakres.cpp": (21, 24), "okno_smeny.cpp": (23,), "vypravci.cpp": (22,),
     "hodnoceni.cpp": (24,), "technologie.cpp": (19, 11), "prirucka.cpp": (0,), "vedlejsi_okno.cpp": (5, 21),
-    "nabidka.cpp": (5,), "text_prirucky.cpp": (0,), "hlavni.cpp": (5,), "uvod.cpp": (1,),
+    "nabidka.cpp": (5,), "text_prirucky.cpp": (0,), "hlavni.cpp": (5,), "uvod.cpp": (1,), "lekce.cpp": (0,),
 }
 PISMENA = {("nakres.cpp", "E"): "Ctrl+E", ("nakres.cpp", "P"): "Ctrl+P", ("nakres.cpp", "H"): "klávesa **H**",
            ("nakres.cpp", "D"): "| D |", ("parametry.cpp", "O"): "Ctrl+O", ("prirucka.cpp", "F"): "Ctrl+F",
