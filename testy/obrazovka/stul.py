@@ -334,6 +334,12 @@ class Stul:
         self.cekej("klidná mapa", stejna)
         return minula[-1]
 
+    def rychlost(self, mapa, kolik):
+        """Clicks on the speed until the clock runs so many times faster than life."""
+        while (ted := int(self.stav("rychlost")[0])) != kolik:
+            self.klikni(*mapa["lblrychlost_simulace", 0], 1 if ted < kolik else 3)
+            self.cekej("jiná rychlost", lambda: int(self.stav("rychlost")[0]) != ted)
+
     def cas_s(self):
         """The simulated clock, seconds of the day."""
         hodina, minuta, sekunda = map(int, self.stav("cas")[0].split(":"))

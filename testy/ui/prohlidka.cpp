@@ -407,7 +407,8 @@ void zapis_mapu(const HlavniOkno& okno, const Platno& platno) {
 void zapis_stav() {
     QString obsah;
     QTextStream stav(&obsah);
-    stav << "cas " << na_qstring(text_hodin()) << "\npauza " << (simulace.pauza ? 1 : 0) << '\n';
+    stav << "cas " << na_qstring(text_hodin()) << "\npauza " << (simulace.pauza ? 1 : 0) << "\nrychlost "
+         << simulace.rychlost << '\n';
     for (const Vlak& v : vlaky)
         if (v.cislo > 0 && !v.prvky.empty())
             stav << "vlak " << v.cislo << ' ' << v.prvky.back().prvek << ' ' << v.rychlost << '\n';
