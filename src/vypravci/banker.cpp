@@ -68,7 +68,7 @@ struct Stul {
     bool existuje(std::size_t trasa) const { return bez_tras.empty() || bez_tras[trasa] == 0; }
 
     bool dojede(const UcastnikBankere& u) {
-        for (std::size_t i = u.od; i < u.cesta.size(); ++i) {
+        for (std::size_t i = 0; i < u.cesta.size(); ++i) {
             const std::size_t trasa = u.cesta[i].trasa;
             const auto volne = [&](int prvek) {
                 const int misto = misto_prvku(prvek);
@@ -119,11 +119,11 @@ void uvazli(const planovani::Sit& sit, std::span<const UcastnikBankere> vsichni,
     for (std::size_t m = 0; m < kMist && m < obsazena.size(); ++m)
         stul.drzi[m] = obsazena[m];
     for (const UcastnikBankere& u : vsichni)
-        if (u.od < u.cesta.size())
+        if (!u.cesta.empty())
             ++stul.drzi[static_cast<std::size_t>(u.misto)];
     vysledek.assign(vsichni.size(), 1);
     for (std::size_t i = 0; i < vsichni.size(); ++i)
-        if (vsichni[i].od >= vsichni[i].cesta.size())
+        if (vsichni[i].cesta.empty())
             vysledek[i] = 0;
     for (bool pokrok = true; pokrok;) {
         pokrok = false;

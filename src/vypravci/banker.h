@@ -30,10 +30,9 @@ const std::vector<Nahrada>& nahrady(const planovani::Sit& sit, std::size_t trasa
 void zapomen_nahrady();
 
 struct UcastnikBankere {
-    int misto = 0;           // where it stands, or its last set route ends
-    std::int32_t poradi = 0; // of several on one place the one with the lowest goes first
-    std::span<const planovani::KrokTrasy> cesta;
-    std::uint8_t od = 0; // first step of the way that is still before it
+    int misto = 0;                               // where it stands, or its last set route ends
+    std::int32_t poradi = 0;                     // of several on one place the one with the lowest goes first
+    std::span<const planovani::KrokTrasy> cesta; // before it
 };
 
 // Which of them cannot reach their ends, where each leaves the junction or frees its place soon: one flag

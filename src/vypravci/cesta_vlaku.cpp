@@ -21,7 +21,6 @@
 #include "vypravci/vypravci.h"
 
 #include <algorithm>
-#include <limits>
 #include <map>
 #include <utility>
 
@@ -326,11 +325,9 @@ void obnov_vyluky() {
         if (!s.vyluka.empty())
             vyloucene_prvky.push_back(s.prvek);
     nejsou.assign(sit().trasy.size(), 0);
-    const bool vyluky =
-        std::any_of(stitky.begin(), stitky.end(), [](const StitekPrvku& s) { return !s.vyluka.empty(); });
     for (std::size_t i = 0; i < nejsou.size(); ++i) {
         const ZaznamCesty& z = trasa_c(i).zaznam;
-        nejsou[i] = (vyluky ? je_vyloucena(z) : je_zablokovano(z.zacatek)) ? 1 : 0;
+        nejsou[i] = (vyloucene_prvky.empty() ? je_zablokovano(z.zacatek) : je_vyloucena(z)) ? 1 : 0;
     }
 }
 

@@ -32,9 +32,8 @@ namespace {
 constexpr int kUrcena_s = 15 * 60;     // so long a locomotive stays chosen for its train
 constexpr int kVyckavani_s = 4 * 60;   // before its departure a train gives up waiting for another locomotive
 constexpr int kNahrada_s = 9 * 60;     // so long it waits for the series that is planned
-constexpr int kNedorazila_s = 12 * 60; // and behind it one that another locomotive was to reach
-constexpr int kPretahPozde_s =
-    10 * 60; // a train later than that keeps its locomotive where the change takes long
+constexpr int kNedorazila_s = 12 * 60; // so late it gives up the one that is on its way to it
+constexpr int kPretahPozde_s = 10 * 60; // a later one keeps its locomotive where the change takes long
 // A train of the timetable that finds the gate of its depot taken does not run that day: so many minutes
 // before it no other locomotive is called out there, since it may wait long for a way on.
 constexpr int kPredVyjezdem_min = 20;
@@ -97,19 +96,6 @@ bool je_u_vlaku(int stroj, const Zadost& z) {
            soused(z.vlak, z.kolej, z.strana) == stroj;
 }
 
-UkolPosunu ukol_stroje(int stroj, const Zadost& z) {
-    const Vlak& s = vlak_c(stroj);
-    const int e = kolej_cela(s);
-    UkolPosunu u{e, s.delka, true, true, z.kolej, z.strana, stroj};
-    if (cely_na_koleji(s)) {
-        u.smi_vlevo = soused(stroj, e, Strana::leva) == kZadny;
-        u.smi_vpravo = soused(stroj, e, Strana::prava) == kZadny;
-    } else {
-        (s.smer ? u.smi_vlevo : u.smi_vpravo) = false;
-    }
-    return u;
-}
-
 void pozadej_na_pretahu(int v) {
     const Vlak& t = vlak_c(v);
     const int e = kolej_cela(t);
@@ -144,7 +130,7 @@ void prirad_stroje() {
             } else if (ma_cestu(s) || !hleda) {
                 continue;
             } else {
-                const auto cesta = najdi_posun(ukol_stroje(s, z));
+                const auto cesta = najdi_posun(ukol_posunu(s, z.kolej, z.strana));
                 if (!cesta)
                     continue;
                 cena += cesta->cena_m;
@@ -260,7 +246,7 @@ bool zacni_pretah(const Zadost& z) {
                 je_stroj(s) && !ma_cestu(s) && vhodnost(s, z) >= 0 &&
                 std::none_of(zadosti.begin(), zadosti.end(), [s](const Zadost& d) { return d.stroj == s; }))
                 for (const int k : uzel::kPretah)
-                    if (najdi_posun(ukol_stroje(s, {z.vlak, k, Strana::prava, z.rada, false, 0, kZadny})))
+                    if (najdi_posun(ukol_posunu(s, k, Strana::prava)))
                         return true;
         }
         return false;

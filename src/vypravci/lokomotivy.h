@@ -10,8 +10,8 @@
 
 namespace posunovani {
 
-inline constexpr int kStrojDrzen_min =
-    120; // before the departure of its next train a locomotive stays for it
+// So long before the departure of its next train a locomotive stays for it.
+inline constexpr int kStrojDrzen_min = 120;
 // So late a train gives up a change of locomotives that was begun away from its platform;
 inline constexpr int kPretahKonec_s = 12 * 60;
 // and so long a section before the station is free for the set that changes there.

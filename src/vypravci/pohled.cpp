@@ -9,7 +9,6 @@
 #include "gvd/gvd.h"
 #include "jizda/souprava.h"
 #include "jizda/zastavky.h"
-#include "prvky/jmena.h"
 #include "prvky/navestidla.h"
 #include "relief/relief.h"
 #include "uzel/dopravny.h"

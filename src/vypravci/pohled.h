@@ -8,8 +8,6 @@
 #include "jizda/vlak.h"
 #include "vypravci/sit.h"
 
-#include <cstdint>
-
 // The network of train routes, and that of shunt routes. Read when the desk is handed over.
 const planovani::Sit& sit_vlaku();
 const planovani::Sit& sit_posunu();

@@ -44,6 +44,19 @@ Pamet& pamet_c(int v) {
     return p;
 }
 
+UkolPosunu ukol_posunu(int v, int kam, Strana strana) {
+    const Vlak& t = vlak_c(v);
+    const int e = kolej_cela(t);
+    UkolPosunu ukol{e, t.delka, true, true, kam, strana, v};
+    if (cely_na_koleji(t)) {
+        ukol.smi_vlevo = soused(v, e, Strana::leva) == kZadny;
+        ukol.smi_vpravo = soused(v, e, Strana::prava) == kZadny;
+    } else {
+        (t.smer ? ukol.smi_vlevo : ukol.smi_vpravo) = false;
+    }
+    return ukol;
+}
+
 void zapomen_pohyby() {
     pamet.clear();
     nase_cesty.clear();
@@ -88,14 +101,7 @@ Posun posun_na(int v, int kam, Strana strana, int ke, bool naleha) {
     if (e == kam && strana == Strana::libovolna)
         return Posun::na_miste;
     uvolni_jinou_kolej(v, kam); // who waits for a way elsewhere would keep others from it for ever
-    UkolPosunu ukol{e, t.delka, true, true, kam, strana, v};
-    if (cely_na_koleji(t)) {
-        ukol.smi_vlevo = soused(v, e, Strana::leva) == kZadny;
-        ukol.smi_vpravo = soused(v, e, Strana::prava) == kZadny;
-    } else {
-        (t.smer ? ukol.smi_vlevo : ukol.smi_vpravo) = false;
-    }
-    const auto cesta = najdi_posun(ukol);
+    const auto cesta = najdi_posun(ukol_posunu(v, kam, strana));
     if (!cesta)
         return Posun::bez_cesty;
     const std::size_t useku = bez_obratu(*cesta, 0);

@@ -21,6 +21,9 @@ struct Pamet {
 // What is kept of record v; begins anew with another number.
 Pamet& pamet_c(int v);
 
+// The search of a way for record v: it leaves its track at the ends where nobody stands before it.
+UkolPosunu ukol_posunu(int v, int kam, Strana strana);
+
 enum class Posun : std::uint8_t { jede, na_miste, ceka, bez_cesty };
 
 // --- when the desk is handed over

@@ -62,10 +62,6 @@ bool muze_obratit(int kolej, int delka_m) {
 
 } // namespace
 
-bool smer_posunu(std::size_t i) {
-    return smery.at(i);
-}
-
 bool je_odchod(int kolej, bool smer) {
     return std::any_of(uzel::kVystupy.begin(), uzel::kVystupy.end(), [=](const uzel::Vystup& v) {
         return kolej >= v.od && kolej <= v.po && v.smer == smer;

@@ -40,8 +40,6 @@ void nacti_posunovou_sit();
 // The cheapest way over free tracks; routes that cannot be set now are avoided, but not left out. Nothing
 // when no way leads there.
 std::optional<CestaPosunu> najdi_posun(const UkolPosunu& ukol);
-// The sense in which route i of sit_posunu() leads.
-bool smer_posunu(std::size_t i);
 // How many of the routes, from `od` on, a movement runs over without turning.
 std::size_t bez_obratu(const CestaPosunu& cesta, std::size_t od);
 // A shunting movement that comes to this track in that sense leaves the area.

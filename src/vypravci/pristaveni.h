@@ -8,10 +8,10 @@
 
 namespace posunovani {
 
-inline constexpr int kNastup_s =
-    15 * 60; // before its departure a set goes to its platform; earlier trains have it
-inline constexpr int kNajdiJinou_s =
-    7 * 60; // before its departure a set takes another platform for the one taken
+// So long before its departure a set goes to its platform: until then earlier trains have it,
+inline constexpr int kNastup_s = 15 * 60;
+// and so long before it takes another one when its own is taken.
+inline constexpr int kNajdiJinou_s = 7 * 60;
 
 // --- at any time, without change
 
