@@ -123,10 +123,6 @@ void pis_hlaseni_chyb(bool ano) {
     pise_hlaseni = ano;
 }
 
-bool pise_hlaseni_chyb() {
-    return pise_hlaseni;
-}
-
 Text slozka_hlaseni(Pad pad) {
     return simulace.cesta_aplikace + (pad == Pad::receny ? "hlaseni\\" : "hlaseni\\nove\\");
 }

@@ -22,7 +22,6 @@ inline constexpr std::int64_t kNejdelsiLog_B = 200'000;
 // --- by the host, at its start and at its end
 
 void pis_hlaseni_chyb(bool ano);
-bool pise_hlaseni_chyb();
 
 // --- when an error ends the program
 

@@ -594,7 +594,3 @@ void zapomen_vypsane(const Cil& cil) {
     if (cil.slovo == "okna")
         svet.okna.clear();
 }
-
-std::span<const std::string_view> slova_vypisu() {
-    return kSlovaVypisu;
-}

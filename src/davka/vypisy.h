@@ -31,6 +31,3 @@ void zapomen_vypsane(const Cil& cil);
 
 // The fields of the element alone.
 ZaznamJsonu popis_prvku(Druh druh, int cislo);
-
-// Every word that `vypis` and `over` know, the kinds of elements included.
-std::span<const std::string_view> slova_vypisu();
