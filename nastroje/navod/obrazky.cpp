@@ -23,7 +23,6 @@
 #include <QFile>
 #include <QImage>
 #include <QPainter>
-#include <QPainterPath>
 #include <QTabWidget>
 
 #include <algorithm>

@@ -165,7 +165,7 @@ void drz_pohromade(QTextDocument& text) {
         if (tabulka == nullptr) {
             drz_obrazek(text, b);
             drz_s_dalsim(text, b);
-        } else if (tabulka != nullptr && tabulka != posledni) {
+        } else if (tabulka != posledni) {
             posledni = tabulka;
             drz_radky(text, *tabulka);
         }

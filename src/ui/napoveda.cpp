@@ -6,7 +6,6 @@
 #include "desk/zprava.h"
 #include "gvd/gvd.h"
 #include "obsluha/menu_koleje.h"
-#include "prvky/prejezdy_stanice.h"
 #include "prvky/souhlasy.h"
 #include "relief/prejezdy.h"
 #include "ui/pismo.h"

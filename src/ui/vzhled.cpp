@@ -4,6 +4,7 @@
 #include "ui/paleta.h"
 #include "ui/umisteni_oken.h"
 
+#include <QApplication>
 #include <QColor>
 #include <QFont>
 #include <QGuiApplication>
@@ -16,7 +17,6 @@
 #include <QToolTip>
 
 #include <algorithm>
-#include <cmath>
 
 namespace {
 

@@ -5,7 +5,6 @@
 // captions that it explains.
 #pragma once
 
-#include <QApplication>
 #include <QRect>
 #include <QString>
 
