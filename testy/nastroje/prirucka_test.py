@@ -24,15 +24,13 @@ JMENA = {
 # The window of a source file has its keys in these chapters; a letter stands there with what it is pressed with.
 KAPITOLY = {
     "hlavni_okno.cpp": (5,), "parametry.cpp": (1, 23), "nakres.cpp": (21, 24), "okno_smeny.cpp": (23,), "vypravci.cpp": (22,),
-    "hodnoceni.cpp": (24,), "technologie.cpp": (19, 11), "prirucka.cpp": (0,), "vedlejsi_okno.cpp": (5, 21),
-    "nabidka.cpp": (5,), "text_prirucky.cpp": (0,), "hlavni.cpp": (5,), "uvod.cpp": (1,), "lekce.cpp": (0,),
+    "hodnoceni.cpp": (24,), "prirucka.cpp": (0,), "vedlejsi_okno.cpp": (5, 21), "lekce.cpp": (0,),
 }
 PISMENA = {("nakres.cpp", "E"): "Ctrl+E", ("nakres.cpp", "P"): "Ctrl+P", ("nakres.cpp", "H"): "klávesa **H**",
            ("nakres.cpp", "D"): "| D |", ("parametry.cpp", "O"): "Ctrl+O", ("prirucka.cpp", "F"): "Ctrl+F",
-           ("prirucka.cpp", "Left"): "Alt+vlevo", ("hodnoceni.cpp", "H"): "**H**"}
+           ("prirucka.cpp", "Left"): "Alt+vlevo"}
 # Those that move the pointer or the text as in every window, and need no word of their own.
-OBVYKLE = {("hlavni_okno.cpp", k) for k in ("Home", "End", "PageUp", "PageDown")} | {("parametry.cpp", "Left"),
-                                                                                      ("parametry.cpp", "Right")}
+OBVYKLE = {("hlavni_okno.cpp", k) for k in ("Home", "End", "PageUp", "PageDown")}
 
 
 def bez_poznamek(text):
