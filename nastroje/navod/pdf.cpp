@@ -358,8 +358,10 @@ bool vytvor_pdf(const QString& markdown, const QString& pdf_soubor, const JazykP
     std::vector<Kapitola> kapitoly =
         vysaz_vse(QString::fromUtf8(zdroj.readAll()), kStranPredTextem, obsah, sazba);
     kapitoly.insert(kapitoly.begin(), {titul_a_obsah(jazyk, obsah, sazba), 0});
-    if (kapitoly.front().text->pageCount() > kStranPredTextem)
-        sazba.chybi += QStringLiteral("(obsah se nevejde na stranu)");
+    if (kapitoly.front().text->pageCount() > kStranPredTextem) {
+        std::fprintf(stderr, "tesk-navod: obsah se nevejde na jednu stranu\n");
+        return false;
+    }
     if (!sazba.chybi.isEmpty()) {
         std::fprintf(stderr, "tesk-navod: chybí obrázky %s\n", qPrintable(sazba.chybi.join(u' ')));
         return false;
