@@ -102,15 +102,16 @@ int main(int pocet, char** slova) {
     nastav_vzhled();
     drz_hodiny_stolu(); // time is the script's
     const QStringList argumenty = QCoreApplication::arguments().mid(1);
-    if (argumenty.size() != 4) {
+    const bool zkouska = argumenty.value(0) == QLatin1String("--zkouska");
+    const bool kresleni = argumenty.value(0) == QLatin1String("--obrazky");
+    if (argumenty.size() != 4 || (argumenty[0].startsWith(QLatin1String("--")) && !zkouska && !kresleni)) {
         std::fputs("použití: tesk-navod OBRAZKY.txt PRIRUCKA.md MANUAL.md INSTALACE\n"
                    "         tesk-navod --obrazky|--zkouska OBRAZKY.txt INSTALACE SLOZKA\n",
                    stderr);
         return 1;
     }
-    if (!argumenty[0].startsWith(QLatin1String("--")))
+    if (!zkouska && !kresleni)
         return navod(argumenty);
-    const bool zkouska = argumenty[0] == QLatin1String("--zkouska");
     return nakresli_obrazky(argumenty[1], argumenty[2].toStdString(),
                             zkouska ? jako_ve_slozce(argumenty[3]) : do_slozky(argumenty[3]))
                ? 0
