@@ -274,11 +274,18 @@ void Cteni::dokonci() {
     chybi(lekce.zacatek.gvd.empty(), Text("chybí řádek zacatek s jízdním řádem"_cz));
     chybi(lekce.kroky.empty(), Text("lekce nemá žádný krok"_cz));
     for (const Krok& k : lekce.kroky) {
-        const Text kde = Text("krok "_cz) + k.nadpis + ": ";
-        chybi(k.text.empty(), kde + Text("chybí text"_cz));
-        chybi(k.hotovo.empty() && !k.ukony.empty(), kde + Text("úkony bez podmínky hotovo"_cz));
+        Text kde("krok "_cz);
+        kde += k.nadpis;
+        kde += ": "_cz;
+        const auto chybi_v_kroku = [&](bool co, TextPohled proc) {
+            Text zavada = kde;
+            zavada += proc;
+            chybi(co, zavada);
+        };
+        chybi_v_kroku(k.text.empty(), "chybí text"_cz);
+        chybi_v_kroku(k.hotovo.empty() && !k.ukony.empty(), "úkony bez podmínky hotovo"_cz);
         for (const Odbocka& o : k.odbocky)
-            chybi(o.text.empty(), kde + Text("kdyz bez textu opravy"_cz));
+            chybi_v_kroku(o.text.empty(), "kdyz bez textu opravy"_cz);
     }
 }
 
