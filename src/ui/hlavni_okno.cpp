@@ -137,10 +137,10 @@ QPoint smer_sipky(int klavesa) {
 }
 
 // The element is outlined under the pointer. Empty rows of the train table and the command line are not.
-bool zvyraznuje_se(const Nalezeny& kde) {
+bool zvyraznuje_se(const Platno& platno, const Nalezeny& kde) {
     if (!tabulka(kde.druh).je(kde.n) || kde.druh == Druh::lblPrikaz || kde.druh == Druh::lblVolba)
         return false;
-    const Prvek& p = tabulka(kde.druh)[kde.n];
+    const Prvek& p = platno.prvek(kde.druh, kde.n);
     return p.viditelny && (kde.druh != Druh::lblTabulka_vlaku || !orez(p.text()).empty());
 }
 
@@ -243,7 +243,7 @@ HlavniOkno::HlavniOkno() {
         s.okno->setUniformItemSizes(true);
         s.okno->installEventFilter(this);
         connect(s.okno, &QListWidget::currentRowChanged, this, [this, &s](int radek) {
-            if (radek < 0)
+            if (radek < 0 || !(relief.*s.zdroj).viditelny)
                 return;
             rukou([&] { klik_na_radek(relief.*s.zdroj, radek); });
             obnov();
@@ -376,14 +376,30 @@ void HlavniOkno::umisti() {
     platno.nastav_velikost((QSizeF(size()) * devicePixelRatioF()).toSize(), sirka_pri_umisteni,
                            !je_verny_pomer(), QGuiApplication::screens().size() == 1);
     for (ZobrazenySeznam& s : seznamy) {
-        s.okno->setGeometry(v_okne(platno.misto_seznamu()));
         s.okno->setStyleSheet(zvetseny_styl(kVzhledSeznamu, meritko_v_okne()));
         s.okno->setFont(pismo_stolu());
-        rozdel_do_sloupcu(*s.okno);
+        umisti_seznam(s);
     }
     pole->setFont(pismo_stolu());
     nastav_meritko_oken(meritko_v_okne());
     update();
+}
+
+// The page that was chosen takes the first half of the panel. On the second one, beside the train table, the
+// lists are there to be read: what is done with their lines is done on their own page.
+void HlavniOkno::umisti_seznam(const ZobrazenySeznam& s) const {
+    const bool vedle = je_vedle(s);
+    const int ktery = static_cast<int>(&s - seznamy.data());
+    s.okno->setGeometry(v_okne(vedle ? platno.misto_seznamu_vedle(ktery) : platno.misto_seznamu()));
+    s.okno->setSelectionMode(vedle ? QListView::NoSelection : QListView::SingleSelection);
+    s.okno->setFocusPolicy(vedle ? Qt::NoFocus : Qt::StrongFocus);
+    rozdel_do_sloupcu(*s.okno);
+    if (vedle)
+        s.okno->scrollToBottom(); // the newest line
+}
+
+bool HlavniOkno::je_vedle(const ZobrazenySeznam& s) const {
+    return platno.druha_stranka() == DruhaStranka::seznamy && !(relief.*s.zdroj).viditelny;
 }
 
 // A wide list is read column by column. One as broad as on the desk as it was drawn is a single one.
@@ -415,6 +431,12 @@ void HlavniOkno::obnov() {
     if (sirka_pri_umisteni != sirka_stolu())
         umisti();
     const QRegion zmenene = platno.obnov();
+    if (platno.druha_stranka() != druha_stranka) { // what stands beside it on the panel has another breadth
+        druha_stranka = platno.druha_stranka();
+        for (const ZobrazenySeznam& s : seznamy)
+            umisti_seznam(s);
+        obnov_vystrahy(true);
+    }
     const double pomer = devicePixelRatioF();
     for (const QRect& r : zmenene)
         update(QRectF(r.x() / pomer, r.y() / pomer, r.width() / pomer, r.height() / pomer).toAlignedRect());
@@ -441,7 +463,8 @@ void HlavniOkno::obnov() {
 
 void HlavniOkno::obnov_seznam(ZobrazenySeznam& s) {
     const Seznam& novy = relief.*s.zdroj;
-    if (s.zobrazeny == novy)
+    const bool videt = novy.viditelny || je_vedle(s);
+    if (s.zobrazeny == novy && videt != s.okno->isHidden())
         return;
     const QSignalBlocker bez_ozveny(s.okno);
     if (s.zobrazeny.radky != novy.radky) {
@@ -460,9 +483,12 @@ void HlavniOkno::obnov_seznam(ZobrazenySeznam& s) {
         if (na_konci)
             s.okno->scrollToItem(s.okno->item(s.okno->count() - 1));
     }
-    s.okno->setCurrentRow(novy.vybrany < s.okno->count() ? novy.vybrany : -1);
+    s.okno->setCurrentRow(novy.vybrany < s.okno->count() && !je_vedle(s) ? novy.vybrany : -1);
+    if (videt == s.okno->isHidden() || s.zobrazeny.viditelny != novy.viditelny) {
+        umisti_seznam(s);
+        s.okno->setVisible(videt);
+    }
     if (s.zobrazeny.viditelny != novy.viditelny) {
-        s.okno->setVisible(novy.viditelny);
         if (novy.viditelny && !ohnisko)
             s.okno->setFocus();
         else
@@ -929,7 +955,7 @@ void HlavniOkno::dalsi_ohnisko(bool dalsi) {
     constexpr int kTlacitek = static_cast<int>(std::size(kTlacitkaPanelu));
     QListWidget* seznam = nullptr;
     for (const ZobrazenySeznam& s : seznamy)
-        if (!s.okno->isHidden())
+        if ((relief.*s.zdroj).viditelny)
             seznam = s.okno;
     const int mist = 1 + kTlacitek + (seznam != nullptr ? 1 : 0);
     int kde = seznam != nullptr && seznam->hasFocus() ? kTlacitek + 1 : 0;
@@ -1104,7 +1130,7 @@ void HlavniOkno::paintEvent(QPaintEvent* udalost) {
             nakresli_obrys(p, cil.adjusted(-okraj, -okraj, okraj, okraj), platno.meritko().bodu(2),
                            QColor::fromRgb(kBarvaUkazani));
     }
-    if (najety && zvyraznuje_se(*najety)) {
+    if (najety && zvyraznuje_se(platno, *najety)) {
         const QRect cil = platno.v_bodech(platno.misto(najety->druh, najety->n));
         nakresli_obrys(p, cil, platno.meritko().bodu(1), QColor::fromRgb(kNajetiPrvku));
     }

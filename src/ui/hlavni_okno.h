@@ -95,6 +95,8 @@ private:
     void zaostri(std::optional<Druh> tlacitko);
     void dalsi_ohnisko(bool dalsi);
     void obnov_ohnisko();
+    void umisti_seznam(const ZobrazenySeznam& s) const;
+    bool je_vedle(const ZobrazenySeznam& s) const; // the list stands on the second half of the panel
     void rozdel_do_sloupcu(QListWidget& okno) const;
     void obnov_seznam(ZobrazenySeznam& s);
     void obnov_pole();
@@ -118,6 +120,7 @@ private:
     QTimer prekreslovani;      // and the running of time
     QLineEdit* pole = nullptr;
     std::array<ZobrazenySeznam, 2> seznamy;
+    DruhaStranka druha_stranka = DruhaStranka::zadna; // as the lists were placed last
     QMenu* nabidka = nullptr;
     ObrazovkaTechnologie* okno_technologie = nullptr;
     Text nabidka_ukazuje;

@@ -833,6 +833,10 @@ void nakresli_podklad(QPainter& p, const Meritko& m, const QRect& plocha) {
     linka(615);
 }
 
+void nakresli_predel(QPainter& p, const Meritko& m, int x, int od, int po) {
+    p.fillRect(QRect(QPoint(m.x(x), m.y(od)), QSize(m.bodu(1), m.y(po) - m.y(od))), odstin(kLinka));
+}
+
 // The casing of the signal panel: a mast of its height on its foot, with the sockets of the lamps that it
 // carries. A dwarf stands on the ground.
 void nakresli_panel(QPainter& p, const Meritko& m, int posun) {

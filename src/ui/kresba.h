@@ -71,6 +71,8 @@ inline constexpr QRect kMistoPanelu(928 * kTwipu, 46 * kTwipu, 92 * kTwipu, 156 
 bool je_v_panelu(Druh druh);
 // Ground of the desk, on black: the bars and panels that no element stands for.
 void nakresli_podklad(QPainter& p, const Meritko& m, const QRect& plocha);
+// A line between two halves of a bar, upright; twips.
+void nakresli_predel(QPainter& p, const Meritko& m, int x, int od, int po);
 // The casing of the signal panel, so far right of its place; twips.
 void nakresli_panel(QPainter& p, const Meritko& m, int posun);
 // Outline within the rectangle, `tl` device pixels thick.

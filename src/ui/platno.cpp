@@ -10,6 +10,7 @@
 #include <cmath>
 #include <cstdlib>
 #include <tuple>
+#include <utility>
 
 namespace {
 
@@ -23,8 +24,13 @@ constexpr double kNejvetsiLupa = 4;
 // Where the lists of the bottom panel stand on the desk as it was drawn, pixels of the desk.
 constexpr QRect kSeznam(4, 640, 1016, 126);
 constexpr int kRadkuSloupce = 8, kSloupcuTabulky = 3; // of the train table
-constexpr std::size_t kSloupcuRadku = 33;             // characters of its lines on the desk as it was drawn
+constexpr std::size_t kSloupcuRadku = 32;             // characters of its lines on the desk as it was drawn
+constexpr std::size_t kMistRadku = 34;                // up to the marks of the next column there
+constexpr int kNejvyssiMezera = kVyskaZnaku / 2;      // between its lines on a high display
 constexpr double kNejvetsiVuz = 1.5;
+constexpr int kSirkaZprav = 264, kSirkaSeznamuVedle = 700; // on its second half, of both lists
+constexpr int kPanel_od = 615,
+              kNadpis_y = 620; // of the bottom panel and of what tells its lists, pixels of the desk
 
 // Where a line of the train table may go on: in a column of its own, or behind a text that reaches into it.
 std::size_t sloupec_doplnku(TextPohled radek) {
@@ -32,8 +38,34 @@ std::size_t sloupec_doplnku(TextPohled radek) {
     return posledni == TextPohled::npos ? kSloupcuRadku : std::max(kSloupcuRadku, posledni + 2);
 }
 
+// A train is one row of them, over both monitors.
+bool je_z_vlaku(Druh druh) {
+    return druh == Druh::imgObrzaek_vlaku || druh == Druh::lblPopis_vozu || druh == Druh::imgSberac;
+}
+
 bool je_v_pasu_reliefu(int y) {
     return y >= kPasReliefu_od && y < kPasReliefu_do;
+}
+
+// Right end of the train on display, on the desk as it was drawn; 0 without one.
+int konec_vlaku() {
+    int konec = 0;
+    for (int n = 0; n <= relief.imgObrzaek_vlaku.nejvyssi(); ++n)
+        if (relief.imgObrzaek_vlaku.je(n) && relief.imgObrzaek_vlaku[n].viditelny())
+            konec = std::max(konec, relief.imgObrzaek_vlaku[n].vlevo() + relief.imgObrzaek_vlaku[n].sirka());
+    return konec;
+}
+
+Prvek nadpis(TextPohled text, int vlevo) {
+    Prvek p;
+    p.viditelny = true;
+    p.text = text;
+    p.barva = barvy::seda;
+    p.vlevo = vlevo;
+    p.nahore = kNadpis_y * kTwipu;
+    p.sirka = static_cast<int>(text.size()) * kSirkaZnaku;
+    p.vyska = kVyskaZnaku;
+    return p;
 }
 
 } // namespace
@@ -41,7 +73,8 @@ bool je_v_pasu_reliefu(int y) {
 void Platno::nastav_velikost(QSize velikost, int sirka, bool roztahnout, bool jedina) {
     const bool jina_sirka = sirka_stolu != sirka;
     sirka_stolu = sirka;
-    pres_oba = roztahnout && jedina && sirka > kSirkaStolu;
+    dve_pulky = roztahnout && sirka > kSirkaStolu;
+    pres_oba = dve_pulky && jedina;
     platno = QImage(velikost, QImage::Format_RGB32);
     const double k = std::min(velikost.width() / static_cast<double>(sirka_stolu),
                               velikost.height() / static_cast<double>(kVyskaStolu));
@@ -161,11 +194,50 @@ QRect Platno::misto_seznamu() const {
             kSeznam.height() * kTwipu + vyssi};
 }
 
+// The lines of the messages are short, the diary has the rest.
+QRect Platno::misto_seznamu_vedle(int ktery) const {
+    const int mezera = kSeznam.x() * kTwipu, od = konec_prvni_pulky() + mezera;
+    const int predel = od + kSirkaZprav * kTwipu;
+    const QRect cele = misto_seznamu();
+    return ktery == 0
+               ? QRect(od, cele.y(), predel - od, cele.height())
+               : QRect(predel + mezera, cele.y(), sirka_stolu + sirsi - predel - 2 * mezera, cele.height());
+}
+
+// Two screens part the panel in the middle. On one the table of trains has what the lists beside it do not
+// need.
+int Platno::konec_prvni_pulky() const {
+    const int pulka = kSirkaStolu + posun_praveho_okraje();
+    return pres_oba && druha == DruhaStranka::seznamy
+               ? std::max(pulka, sirka_stolu + sirsi - kSirkaSeznamuVedle * kTwipu)
+               : pulka;
+}
+
+QRect Platno::misto_panelu() const {
+    return {0, kPanel_od * kTwipu, sirka_stolu + sirsi, kVyskaStolu + vyssi - kPanel_od * kTwipu};
+}
+
+DruhaStranka Platno::spocti_druhou() const {
+    if (!dve_pulky)
+        return DruhaStranka::zadna;
+    if (relief.lblTabulka_vlaku.je(0) && relief.lblTabulka_vlaku[0].viditelny())
+        return DruhaStranka::seznamy;
+    return konec_vlaku() > kSirkaStolu ? DruhaStranka::zadna : DruhaStranka::tabulka;
+}
+
+void Platno::umisti_tabulku() {
+    for (const Druh druh : {Druh::lblTabulka_vlaku, Druh::shpblikacka}) {
+        std::vector<Prvek>& radky = umistene[static_cast<std::size_t>(druh)];
+        for (std::size_t n = 0; n < radky.size(); ++n)
+            radky[n] = umisti(druh, static_cast<int>(n));
+    }
+}
+
 Prvek Platno::umisti(Druh druh, int n) const {
     Prvek p = nakreslene[static_cast<std::size_t>(druh)][static_cast<std::size_t>(n)];
     const int pravy = posun_praveho_okraje(); // of the monitor
     const int navic_dole = navic_panelu();
-    if (sirsi == 0 && vyssi == 0 && navic_dole == 0)
+    if (sirsi == 0 && vyssi == 0 && !dve_pulky)
         return p;
     if (je_v_reliefu(druh)) {
         const double navic = static_cast<double>(sirsi) / sirka_stolu;
@@ -198,7 +270,7 @@ Prvek Platno::umisti(Druh druh, int n) const {
         p.vlevo = p.vlevo + posun_panelu();
         return p;
     }
-    if (monitoru() == 2 && p.vlevo >= kSirkaStolu)
+    if (monitoru() == 2 && p.vlevo >= kSirkaStolu && !je_z_vlaku(druh))
         p.vlevo = p.vlevo + pravy;
     switch (druh) {
     case Druh::imgSound:
@@ -215,7 +287,11 @@ Prvek Platno::umisti(Druh druh, int n) const {
     case Druh::lblTabulka_vlaku:
     case Druh::shpblikacka: {
         const int sloupec = n % kRadkuTabulky / kRadkuSloupce;
-        p.vlevo = p.vlevo + sloupec * navic_dole / kSloupcuTabulky;
+        const bool vedle = druha == DruhaStranka::tabulka;
+        p.vlevo = p.vlevo + sloupec * navic_dole / kSloupcuTabulky + (vedle ? konec_prvni_pulky() : 0);
+        p.nahore =
+            p.nahore + n % kRadkuTabulky % kRadkuSloupce * std::min(vyssi / kRadkuSloupce, kNejvyssiMezera);
+        p.viditelny = p.viditelny || (vedle && p.existuje);
         if (druh == Druh::shpblikacka)
             break;
         p.sirka = p.sirka + navic_dole / kSloupcuTabulky;
@@ -243,10 +319,16 @@ Prvek Platno::umisti(Druh druh, int n) const {
     return p;
 }
 
-// A train is drawn as large as the breadth of the panel and the lines above and below it allow.
+// A train is drawn as large as the breadth of the panel and the lines above and below it allow. On two
+// monitors it may be longer than the half that it begins in: then it goes on into the second one.
 Platno::Vozy Platno::spocti_vozy() const {
-    const double do_sirky = 1 + static_cast<double>(navic_panelu()) / kSirkaStolu;
-    if ((monitoru() == 2 && !pres_oba) || do_sirky <= 1)
+    double do_sirky = 1 + static_cast<double>(navic_panelu()) / kSirkaStolu;
+    if (dve_pulky)
+        if (const int konec = konec_vlaku() - kSeznam.x() * kTwipu; konec > 0) {
+            const int sirka = druha == DruhaStranka::zadna ? sirka_stolu + sirsi : konec_prvni_pulky();
+            do_sirky = static_cast<double>(sirka - 2 * kSeznam.x() * kTwipu) / konec;
+        }
+    if (do_sirky <= 1)
         return {};
     constexpr int kVyskaMista = 40 * kTwipu, kRezerva = 3 * kTwipu, kRadkuPopisu = 3;
     constexpr double kKrokVozu = 0.02;
@@ -279,16 +361,18 @@ Platno::Vozy Platno::spocti_vozy() const {
 // Of the lines of the train table, as far as the breadth of a column goes.
 std::array<Text, kRadkuTabulky> Platno::spocti_doplnky() const {
     std::array<Text, kRadkuTabulky> nove;
-    const std::size_t sloupcu =
-        kSloupcuRadku + static_cast<std::size_t>(navic_panelu() / kSloupcuTabulky / kSirkaZnaku);
-    for (std::size_t n = 0; n < nove.size() && sloupcu > kSloupcuRadku; ++n)
-        if (const Prvek& radek = relief.lblTabulka_vlaku[static_cast<int>(n)]; radek.viditelny)
+    const std::size_t navic = static_cast<std::size_t>(navic_panelu() / kSloupcuTabulky / kSirkaZnaku);
+    const std::size_t sloupcu = kMistRadku + navic;
+    for (std::size_t n = 0; n < nove.size() && navic > 0; ++n)
+        if (const Prvek& radek = relief.lblTabulka_vlaku[static_cast<int>(n)];
+            radek.viditelny || druha == DruhaStranka::tabulka)
             if (const std::size_t od = sloupec_doplnku(radek.text()); od < sloupcu)
                 nove[n] = doplnek_radku(static_cast<int>(n), sloupcu - od);
     return nove;
 }
 
 void Platno::umisti_vse() {
+    druha = spocti_druhou();
     for (std::size_t d = 0; d < kDruhy.size(); ++d) {
         umistene[d].resize(nakreslene[d].size());
         for (std::size_t n = 0; n < nakreslene[d].size(); ++n)
@@ -345,6 +429,8 @@ QRegion Platno::obnov() {
 
     QRegion zmenene;
     bool preradit = false, posunout = false, pribyly = false;
+    const DruhaStranka nova_druha = spocti_druhou();
+    const bool jina_druha = std::exchange(druha, nova_druha) != nova_druha;
     const auto misto = [this](Druh druh, int n) {
         return v_bodech(druh, misto_kresby(druh, n, prvek(druh, n)));
     };
@@ -376,11 +462,11 @@ QRegion Platno::obnov() {
                 continue;
             preradit |= !stary.existuje || stary.poradi != novy.poradi;
             pribyly |= !stary.existuje && je_v_reliefu(druh);
-            if (stary.existuje && stary.viditelny)
+            if (stary.existuje && umistene[d][n].viditelny)
                 zmenene += misto(druh, cislo);
             stary = novy;
             umistene[d][n] = umisti(druh, cislo);
-            if (novy.viditelny)
+            if (umistene[d][n].viditelny)
                 zmenene += misto(druh, cislo);
             if (je_v_panelu(druh))
                 zmenene += plocha_panelu();
@@ -395,12 +481,17 @@ QRegion Platno::obnov() {
         nakreslene_napisy = relief.napisy;
         pribyly = true;
     }
+    if (jina_druha) {
+        umisti_tabulku();
+        zmenene += v_bodech(Druh::lblPopis_vozu, misto_panelu());
+        posunout = true;
+    }
     if (const Vozy nove = spocti_vozy(); vozy != nove) {
         vozy = nove;
         for (const Druh druh : {Druh::imgObrzaek_vlaku, Druh::lblPopis_vozu, Druh::imgSberac})
             for (std::size_t n = 0; n < umistene[static_cast<std::size_t>(druh)].size(); ++n)
                 umistene[static_cast<std::size_t>(druh)][n] = umisti(druh, static_cast<int>(n));
-        zmenene += v_bodech(Druh::lblPopis_vozu, misto_seznamu());
+        zmenene += v_bodech(Druh::lblPopis_vozu, misto_panelu());
         posunout = true;
     }
     if (std::array<Text, kRadkuTabulky> nove = spocti_doplnky(); doplnky != nove) {
@@ -452,6 +543,8 @@ void Platno::kresli(QPainter& p, const QRegion& kde) const {
                      QPoint(m.x(sirka_stolu + sirsi) - 1, m.y(kVyskaStolu + vyssi) - 1));
     const QRect okraje = sirsi > 0 || vyssi > 0 ? platno.rect() : stul; // a rounded pixel is part of the desk
     nakresli_podklad(p, m, okraje & kde.boundingRect());
+    if (druha != DruhaStranka::zadna)
+        kresli_druhou_pulku(p);
     if (zvetseni <= 1) {
         nakresli_panel(p, m, posun_panelu());
         kresli_prvky(p, kde, [](Druh) { return true; });
@@ -465,6 +558,18 @@ void Platno::kresli(QPainter& p, const QRegion& kde) const {
     p.fillRect(plocha_panelu(), Qt::black); // it stays where it is, over the tracks
     nakresli_panel(p, m, posun_panelu());
     kresli_prvky(p, kde, [](Druh druh) { return !je_v_reliefu(druh); });
+}
+
+// What the second half of the bottom panel shows is written above it: its buttons stand on the first.
+void Platno::kresli_druhou_pulku(QPainter& p) const {
+    nakresli_predel(p, m, konec_prvni_pulky(), kPanel_od * kTwipu, kVyskaStolu + vyssi);
+    const int od = misto_seznamu_vedle(0).x();
+    if (druha == DruhaStranka::tabulka) {
+        nakresli_prvek(p, m, Druh::lblGVD, 0, nadpis("TABULKA"_cz, od));
+        return;
+    }
+    nakresli_prvek(p, m, Druh::lblGVD, 0, nadpis("ZPRÁVY"_cz, od));
+    nakresli_prvek(p, m, Druh::lblGVD, 0, nadpis("DENÍK"_cz, misto_seznamu_vedle(1).x()));
 }
 
 // The elements whose kind answers to `ktere`, from the lowest to the topmost.

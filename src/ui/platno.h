@@ -31,11 +31,16 @@ struct Nalezeny {
     bool operator==(const Nalezeny&) const = default;
 };
 
+// What the second half of the bottom panel shows, where the drawing of two monitors fills its screens: the
+// train table, and beside the train table the messages and the diary; nothing where a long train goes on into
+// it.
+enum class DruhaStranka : std::uint8_t { zadna, tabulka, seznamy };
+
 class Platno {
 public:
     // Size of the picture in device pixels and the width of the desk in twips. The desk keeps its proportions
     // and stands in the middle; `roztahnout`: it fills the picture, tracks and spaces grow. `jedina`: the
-    // drawing of two monitors stands on one screen, so that the bottom panel may take all of its width.
+    // drawing of two monitors stands on one screen, so that the keys of the bar stand in its corner.
     // Everything is drawn anew at the next obnov().
     void nastav_velikost(QSize velikost, int sirka_stolu, bool roztahnout = false, bool jedina = false);
     // Draws what has changed; answers where, in device pixels.
@@ -75,15 +80,16 @@ public:
     // Places of the screen's own that are no elements: the lists of the bottom panel, and how much further
     // right the right end of the bars stands. Twips of the picture.
     QRect misto_seznamu() const;
+    // The same on the second half, where the messages (0) and the diary (1) stand side by side.
+    QRect misto_seznamu_vedle(int ktery) const;
+    DruhaStranka druha_stranka() const { return druha; }
     // Upper edge of the last line of the bottom panel, below a train and its captions.
     int posledni_radek_panelu() const { return kVyskaStolu + vyssi - kVyskaZnaku - kTwipu; }
     // Of the keys of the bar: on one screen they stand in its corner, whatever drawing it has.
     int posun_klaves() const { return pres_oba ? sirsi + sirka_stolu - kSirkaStolu : posun_praveho_okraje(); }
     int posun_praveho_okraje() const { return sirsi / monitoru(); }
-    // How much broader the bottom panel is than on the desk as it was drawn.
-    int navic_panelu() const {
-        return posun_praveho_okraje() + (pres_oba ? sirka_stolu - kSirkaStolu + posun_praveho_okraje() : 0);
-    }
+    // How much broader the bottom panel is than on the desk as it was drawn; of two monitors its first half.
+    int navic_panelu() const { return konec_prvni_pulky() - kSirkaStolu; }
 
     // Element under the place in the picture that takes input: the topmost one that holds it, among elements
     // that overlap in one layer the nearest one.
@@ -111,6 +117,10 @@ private:
     QRect plocha_panelu() const; // its place, device pixels
     Prvek umisti(Druh druh, int n) const;
     void umisti_vse();
+    int konec_prvni_pulky() const; // of the bottom panel; its right end where there is only one
+    QRect misto_panelu() const;    // both halves
+    DruhaStranka spocti_druhou() const;
+    void umisti_tabulku();
     Vozy spocti_vozy() const;
     std::array<Text, kRadkuTabulky> spocti_doplnky() const;
     QRect plocha_lupy() const; // device pixels
@@ -121,12 +131,15 @@ private:
     QRect v_bodech(const Polozka& polozka) const { return v_bodech(polozka.druh, polozka.misto); }
     QRect v_bodech(Druh druh, const QRect& twipy) const;
     void kresli(QPainter& p, const QRegion& kde) const;
+    void kresli_druhou_pulku(QPainter& p) const;
     template <class Ktere> void kresli_prvky(QPainter& p, const QRegion& kde, Ktere ktere) const;
 
     QImage platno;
     Meritko m, lupy;
     int sirka_stolu = kSirkaStolu;
-    bool pres_oba = false;    // the bottom panel reaches over both halves of the drawing
+    bool pres_oba = false;  // both halves of the drawing stand on one screen
+    bool dve_pulky = false; // the bottom panel has a second one
+    DruhaStranka druha = DruhaStranka::zadna;
     int sirsi = 0, vyssi = 0; // by which the picture is larger than the desk, twips
     double zvetseni = 1;
     Vozy vozy;

@@ -125,6 +125,14 @@ stul.cekej("celý stůl", lambda: set(stul.mapa()) >= {("navestidlo", n) for _, 
 assert all(stul.mapa()["navestidlo", n] == misto for misto, n in navestidla)
 stul.bez_vad()
 
+# of the two halves of the bottom panel the second one has the table of trains while another page is chosen
+if je_pro_dva():
+    for tlacitko, vpravo in (("cmDenik", True), ("cmdTABULKA", False)):
+        stul.klikni(*mapa[tlacitko, 0])
+        stul.cekej("tabulka v jiné půlce panelu", lambda: ("lblTabulka_vlaku", 0) in stul.mapa() and
+                   (stul.mapa()["lblTabulka_vlaku", 0][0] > stul.sirka // 2) == vpravo)
+    stul.bez_vad()
+
 # the picture in its own proportions is an option that is remembered
 stul.program.kill()
 stul.program.wait()

@@ -53,7 +53,7 @@ def zavri():
 def otevri(klavesa, jmeno):
     """What the key opens, photographed; it stays open."""
     stul.tiskni(klavesa, jmeno, lambda: stul.okna() > stul.oken_v_klidu, 4)
-    foto(jmeno)
+    foto(jmeno, 3 if klavesa == "F1" else 0.5)  # the manual takes a while to lay out
 
 
 def nabidky(mista):

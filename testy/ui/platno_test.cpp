@@ -38,6 +38,23 @@ struct Stul : testing::Test {
     void TearDown() override { relief = Relief{}; }
 
     QColor barva_v(int x, int y) const { return platno.obraz().pixelColor(x, y); }
+    QRect misto(Druh druh, int n) const {
+        const Prvek& p = platno.prvek(druh, n);
+        return {p.vlevo, p.nahore, p.sirka, p.vyska};
+    }
+    // Another page of the panel is chosen, or this one again. Its lines stand in three columns, as at a
+    // start.
+    static void ukaz_tabulku(bool ano) {
+        for (int n = 0; n < 24; ++n)
+            for (Prvek* p :
+                 {&relief.lblTabulka_vlaku[n], &relief.shpblikacka[n], &relief.shpblikacka[n + 24]}) {
+                p->vlevo = (p == &relief.lblTabulka_vlaku[n] ? 630 : 120) + n / 8 * 4700;
+                p->nahore = 9600 + n % 8 * 205;
+            }
+        for (TabulkaPrvku* prvky : {&relief.lblTabulka_vlaku, &relief.shpblikacka})
+            for (int n = 0; n <= prvky->nejvyssi(); ++n)
+                (*prvky)[n].viditelny = ano;
+    }
 };
 
 } // namespace
@@ -102,21 +119,89 @@ TEST_F(Stul, KeepsItsProportionsInAnyWindow) {
     EXPECT_EQ(platno.meritko().y0, 256);
 }
 
-TEST_F(Stul, BottomPanelOfTwoMonitorsTakesTheWholeWidthOfOneScreenAndOneHalfOfTwo) {
-    const QSize siroka(3440, 1440);
-    platno.nastav_velikost(siroka, 2 * kSirkaStolu, true, true);
-    platno.obnov();
-    const double okraj = 8 * platno.meritko().bod(); // of the list on both sides
-    EXPECT_NEAR(platno.v_bodech(platno.misto_seznamu()).width(), siroka.width() - okraj, 3);
-    const int posledni_sloupec = 2 * 8;
-    EXPECT_EQ(platno.prvek(Druh::lblTabulka_vlaku, posledni_sloupec).vlevo,
-              relief.lblTabulka_vlaku[posledni_sloupec].vlevo + 2 * platno.navic_panelu() / 3);
-    platno.nastav_velikost(siroka, 2 * kSirkaStolu, true, false);
-    platno.obnov();
-    EXPECT_NEAR(platno.v_bodech(platno.misto_seznamu()).width(), siroka.width() / 2 - okraj, 3);
-    platno.nastav_velikost(QSize(1024, 768), kSirkaStolu, true, true);
-    platno.obnov();
-    EXPECT_EQ(platno.navic_panelu(), 0);
+TEST_F(Stul, BottomPanelOfTwoMonitorsHasAPageOnEachHalf) {
+    relief.lblTabulka_vlaku[9].text = " Os  17860  42m, PLH, 80km/h";
+    for (const bool jedina : {true, false})
+        for (const QSize velikost : {QSize(2048, 768), QSize(3840, 1080), QSize(3440, 1440)}) {
+            SCOPED_TRACE(testing::Message() << velikost.width() << (jedina ? " one screen" : " two screens"));
+            platno.nastav_velikost(velikost, 2 * kSirkaStolu, true, jedina);
+            ukaz_tabulku(true);
+            platno.obnov();
+            ASSERT_EQ(platno.druha_stranka(), DruhaStranka::seznamy);
+            const QRect prvni = platno.misto_seznamu(), zpravy = platno.misto_seznamu_vedle(0),
+                        denik = platno.misto_seznamu_vedle(1);
+            const double pulka = velikost.width() / 2 / platno.meritko().k;
+            if (jedina)
+                EXPECT_GE(prvni.right(), pulka - 10 * kTwipu);
+            else
+                EXPECT_NEAR(prvni.right(), pulka, 10 * kTwipu);
+            EXPECT_GT(zpravy.left(), prvni.right());
+            EXPECT_GT(denik.left(), zpravy.right());
+            EXPECT_NEAR(denik.right(), 2 * pulka, 10 * kTwipu);
+            EXPECT_GE(zpravy.width(), 30 * kSirkaZnaku);
+            EXPECT_GE(denik.width(), 48 * kSirkaZnaku);
+            EXPECT_LT(misto(Druh::lblTabulka_vlaku, 23).right(), prvni.right());
+
+            ukaz_tabulku(false); // another page is chosen
+            platno.obnov();
+            ASSERT_EQ(platno.druha_stranka(), DruhaStranka::tabulka);
+            for (const Druh druh : {Druh::lblTabulka_vlaku, Druh::shpblikacka})
+                for (int n = 0; n <= tabulka(druh).nejvyssi(); ++n) {
+                    EXPECT_TRUE(platno.prvek(druh, n).viditelny);
+                    EXPECT_GT(misto(druh, n).left(), pulka);
+                    EXPECT_LE(misto(druh, n).right(), 2 * pulka);
+                }
+            const Nalezeny radek{Druh::lblTabulka_vlaku, 9};
+            EXPECT_EQ(platno.prvek_pod(misto(radek.druh, radek.n).center()), radek);
+            relief.lblTabulka_vlaku[9].barva = barvy::zelena;
+            platno.obnov();
+            const QImage castecny = platno.obraz().copy();
+            platno.prekresli();
+            EXPECT_EQ(castecny, platno.obraz());
+        }
+}
+
+TEST_F(Stul, DeskOfOneMonitorAndOneInItsOwnProportionsHaveNoSecondPage) {
+    for (const bool vidi : {true, false}) {
+        ukaz_tabulku(vidi);
+        platno.nastav_velikost({1920, 1080}, kSirkaStolu, true, true);
+        platno.obnov();
+        EXPECT_EQ(platno.druha_stranka(), DruhaStranka::zadna);
+        platno.nastav_velikost({3840, 1080}, 2 * kSirkaStolu, false, true);
+        platno.obnov();
+        EXPECT_EQ(platno.druha_stranka(), DruhaStranka::zadna);
+        EXPECT_EQ(platno.prvek(Druh::lblTabulka_vlaku, 0).viditelny(), vidi);
+    }
+}
+
+TEST_F(Stul, TrainLongerThanItsHalfOfThePanelTakesTheSecondHalfToo) {
+    constexpr int kVuz = 80 * kTwipu;
+    ukaz_tabulku(false);
+    const auto souprava = [&](int vozu) {
+        for (int n = 0; n <= relief.imgObrzaek_vlaku.nejvyssi(); ++n) {
+            relief.imgObrzaek_vlaku[n].viditelny = n < vozu;
+            relief.imgObrzaek_vlaku[n].vlevo = 4 * kTwipu + n * kVuz;
+        }
+        platno.obnov();
+        return misto(Druh::imgObrzaek_vlaku, vozu - 1).right();
+    };
+    for (const QSize velikost : {QSize(2048, 768), QSize(3840, 1080), QSize(3440, 1440)}) {
+        platno.nastav_velikost(velikost, 2 * kSirkaStolu, true, true);
+        const double pulka = velikost.width() / 2 / platno.meritko().k;
+        for (const int vozu : {3, 8, 12}) {
+            EXPECT_LE(souprava(vozu), pulka) << vozu;
+            EXPECT_EQ(platno.druha_stranka(), DruhaStranka::tabulka);
+        }
+        for (const int vozu : {13, 20, 25}) {
+            EXPECT_GT(souprava(vozu), pulka) << vozu;
+            EXPECT_LE(souprava(vozu), 2 * pulka) << vozu;
+            EXPECT_EQ(platno.druha_stranka(), DruhaStranka::zadna);
+            EXPECT_FALSE(platno.prvek(Druh::lblTabulka_vlaku, 0).viditelny);
+        }
+        const QImage castecny = platno.obraz().copy();
+        platno.prekresli();
+        EXPECT_EQ(castecny, platno.obraz());
+    }
 }
 
 TEST_F(Stul, CaptionsOfVehiclesLeaveTheLastLineOfThePanelFree) {

@@ -387,7 +387,7 @@ void zapis_mapu(const HlavniOkno& okno, const Platno& platno) {
         if (!bere_vstup(druh))
             continue;
         for (int n = 0; n <= tabulka(druh).nejvyssi(); ++n) {
-            if (!tabulka(druh).je(n) || !tabulka(druh)[n].viditelny)
+            if (!tabulka(druh).je(n) || !platno.prvek(druh, n).viditelny)
                 continue;
             const QRect misto = platno.misto(druh, n);
             const std::optional<Nalezeny> nahore = platno.prvek_pod(misto.center());
@@ -494,7 +494,7 @@ void prohledni_stul(const HlavniOkno& okno) {
     for (std::size_t d = 0; d < kDruhy.size(); ++d) {
         const Druh druh = static_cast<Druh>(d);
         for (int n = 0; je_pismeny(druh) && n <= tabulka(druh).nejvyssi(); ++n)
-            if (tabulka(druh).je(n) && tabulka(druh)[n].viditelny)
+            if (tabulka(druh).je(n) && platno.prvek(druh, n).viditelny)
                 zmer_prvek(platno, druh, n);
     }
     zapis_mapu(okno, platno);

@@ -349,8 +349,42 @@ TEST_F(SirokyStul, WideTrainTableTellsWhereTheTrainIsAndWhenItLeaves) {
     ++revize_reliefu; // a train moves
     EXPECT_TRUE(radek_v({1920, 1080}).ends_with(" " + kolej + Text(" př 8:10"_cz)));
     EXPECT_EQ(relief.lblTabulka_vlaku[8].text(), radek);
+    vlaky[0].zastavky[1].prijezd = 12 * 60; // a long time behind a long name
+    constexpr std::size_t kDlouheJmeno = 7;
+    constexpr int kOdRadkuKeZnackam = 278 * kTwipu; // of the next column, on the desk as it was drawn
+    int dlouhych = 0;
+    for (int n = 0; n <= relief.Image1.nejvyssi() && dlouhych < 5; ++n) {
+        if (!relief.Image1.je(n) || orez(relief.Image1[n].stav()).size() != kDlouheJmeno)
+            continue;
+        ++dlouhych;
+        vlaky[0].prvky[0].prvek = n;
+        for (const QSize velikost : {QSize(1366, 768), QSize(1920, 1080)}) {
+            ++revize_reliefu;
+            const Text text = radek_v(velikost);
+            EXPECT_TRUE(text.ends_with(Text(orez(relief.Image1[n].stav())) + Text(" př 12:00"_cz))) << text;
+            EXPECT_LT((static_cast<int>(text.size()) + 1) *
+                          kSirkaZnaku, // behind the blank that it begins with
+                      kOdRadkuKeZnackam + platno.navic_panelu() / 3);
+        }
+    }
+    EXPECT_GT(dlouhych, 0);
     vlaky.clear();
     tabulka_vlaku = {};
+}
+
+TEST_F(SirokyStul, TrainTableSpreadsOverAHighPanelAndStaysInIt) {
+    constexpr int kKrok = 205;
+    for (int n = 0; n < 24; ++n)
+        relief.lblTabulka_vlaku[n].nahore = 640 * kTwipu + n % 8 * kKrok;
+    for (const QSize velikost : {QSize(1024, 768), QSize(1280, 1024), QSize(1024, 1024)}) {
+        roztahni(velikost);
+        const auto nahore = [&](int n) { return platno.prvek(Druh::lblTabulka_vlaku, n).nahore(); };
+        const int krok = nahore(1) - nahore(0);
+        EXPECT_EQ(velikost.height() > 768, krok > kKrok);
+        for (int n = 1; n < 24; ++n)
+            EXPECT_EQ(nahore(n), nahore(0) + n % 8 * krok);
+        EXPECT_LT(nahore(23) + kVyskaZnaku, platno.misto_seznamu().bottom());
+    }
 }
 
 TEST_F(SirokyStul, SearchFrameStandsRoundWhatWasFound) {
