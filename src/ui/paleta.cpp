@@ -81,8 +81,8 @@ constexpr std::array<RadekOken, kBarevOken> kOkna = {{
     {"text_vyberu", 0xFFFFFFFF, 0xFFFFFFFF},
     {"cara", 0xFF4A5560, 0xFFB0B0B0},
     {"start", 0xFF0A6B1F, 0xFF005A10},
-    {"tip", 0xFFFFFFDC, 0xFFFFFFE0},
-    {"text_tipu", 0xFF000000, 0xFF000000},
+    {"tip", 0xFF303A45, 0xFF000000},
+    {"text_tipu", 0xFFF2F5F8, 0xFFFFFFFF},
 }};
 
 constexpr DvojiceOkna kDvojice[] = {

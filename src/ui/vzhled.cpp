@@ -31,7 +31,7 @@ constexpr const char* kStylOken =
     "QMenu::item { padding: 2px 22px 2px 14px; }"
     "QMenu::item:selected { background: @vyber; color: @text_vyberu; }"
     "QMenu::item:disabled { color: @nelze; background: transparent; }"
-    "QToolTip { background: @tip; color: @text_tipu; border: 1px solid @cara; padding: 1px 3px; }"
+    "QToolTip { background: @tip; color: @text_tipu; border: 1px solid @tlumeny; padding: 3px 5px; }"
     "QDialog, QFrame[vedlejsi=\"true\"] { border: 1px solid @cara; }"
     "QPushButton { background: @tlacitko; color: @text; border: 1px solid @cara; border-radius: 2px;"
     " padding: 4px 8px; outline: 0; }"
