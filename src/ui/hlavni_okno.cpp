@@ -989,6 +989,8 @@ void HlavniOkno::keyPressEvent(QKeyEvent* udalost) {
 }
 
 bool HlavniOkno::eventFilter(QObject* cil, QEvent* udalost) {
+    if (udalost->type() == QEvent::Enter)
+        najed({-1, -1}); // over a list or the field the pointer is on nothing of the desk
     if (udalost->type() != QEvent::KeyPress)
         return QWidget::eventFilter(cil, udalost);
     auto* k = static_cast<QKeyEvent*>(udalost);

@@ -1,6 +1,6 @@
 #!/usr/bin/python3
 # testy/obrazovka/zpravy.py - a new delay brings the keys to the button of the messages: the space bar opens them
-# and Delete drops the first one. Who is just writing is left in peace.
+# and Delete drops the first one. Who is just writing is left in peace. The list is no part of the desk's picture.
 import os
 import struct
 import sys
@@ -60,6 +60,14 @@ predtim = obraz.vyrez(*SEZNAM)
 stul.klavesa("Delete")
 stul.cekej_na("o zprávu méně", lambda o: o.vyrez(*SEZNAM) != predtim)
 stul.obraz("zpravy")
+
+# on the list the pointer is on nothing of the desk any more: F2 is the search, not the button that it has left
+stul.ukaz(44, 626)
+stul.cekej_na("rámeček najetého tlačítka", lambda o: o.bodu(*ZPRAVY, (90, 106, 124)) > 50)
+stul.ukaz(400, 700)
+stul.tiskni("F2", "pole pro psaní nad seznamem",
+            lambda: stul.obraz().bodu(*s.RADEK_PRIKAZU, AZUROVA) > 100)
+stul.klavesa("Escape")
 
 s.ukonci(stul)
 print("v pořádku")
