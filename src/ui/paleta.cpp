@@ -140,6 +140,8 @@ QColor barva_qt(Barva barva) {
 }
 
 QColor podklad_qt(Barva barva) {
+    if (zvolena == Paleta::kontrastni && barva == barvy::cervena)
+        return QColor(0xB40000); // dark enough for the white number of a train
     return zvolena == Paleta::bez_barev ? bez_barev(barva) : prosta(barva);
 }
 
