@@ -29,8 +29,11 @@
 #include <QFileDialog>
 #include <QFileIconProvider>
 #include <QFileInfo>
+#include <QFileSystemModel>
 #include <QGridLayout>
 #include <QHeaderView>
+#include <QIdentityProxyModel>
+#include <QLocale>
 #include <QMessageBox>
 #include <QPointer>
 #include <QProcess>
@@ -185,10 +188,30 @@ private:
     QString soubor_je;
 };
 
+// Sizes and times as a Czech reads them, whatever the language of the system.
+class CeskeUdaje : public QIdentityProxyModel {
+public:
+    using QIdentityProxyModel::QIdentityProxyModel;
+    QVariant data(const QModelIndex& misto, int co) const override {
+        constexpr int kVelikost = 1, kCas = 3; // columns
+        const auto* soubory = qobject_cast<const QFileSystemModel*>(sourceModel());
+        if (soubory == nullptr || co != Qt::DisplayRole ||
+            (misto.column() != kVelikost && misto.column() != kCas))
+            return QIdentityProxyModel::data(misto, co);
+        const QModelIndex zde = mapToSource(misto);
+        if (misto.column() == kCas)
+            return soubory->lastModified(zde).toString(QStringLiteral("d. M. yyyy H:mm"));
+        return soubory->isDir(zde)
+                   ? QString()
+                   : QLocale().formattedDataSize(soubory->size(zde), 1, QLocale::DataSizeTraditionalFormat);
+    }
+};
+
 // What follows is for the dialogue of the window system's own library; a desktop brings its own. `kde`: the
 // folder that stands at its side beside the operator's own.
 void uprav_dialog(QFileDialog& dialog, CeskeSoubory& ikony, const QString& kde) {
     dialog.setIconProvider(&ikony);
+    dialog.setProxyModel(new CeskeUdaje(&dialog));
     QList<QUrl> vedle = {QUrl::fromLocalFile(kde)};
     if (kde != QDir::homePath())
         vedle += QUrl::fromLocalFile(QDir::homePath());

@@ -101,6 +101,7 @@ Prirucka::Prirucka(QWidget* rodic, const QString& soubor)
     text->setAccessibleName(QStringLiteral("Text příručky"));
     obsah = new QListWidget;
     obsah->setWordWrap(true);
+    obsah->setStyleSheet(QStringLiteral("QListView { padding: 4px; }"));
     obsah->setAccessibleName(QStringLiteral("Kapitoly"));
     hledani = new QLineEdit;
     hledani->setAccessibleName(QStringLiteral("Hledat v příručce"));

@@ -44,6 +44,7 @@ constexpr const char* kStylOken =
     " border: 1px solid @cara; border-radius: 2px; outline: 0; selection-background-color: @vyber;"
     " selection-color: @text_vyberu; }"
     "QLineEdit { padding: 3px 5px; }"
+    "QPlainTextEdit, QTextEdit { padding: 2px 4px; }"
     "QLineEdit:focus, QPlainTextEdit:focus, QTextEdit:focus, QListView:focus, QTreeView:focus {"
     " border-color: @nadpis; }"
     "QTreeView::item { padding: 1px 4px; }"
