@@ -48,16 +48,16 @@ class Zkouska(s.Stul):
         """F1 opens the manual over what is there, and Esc leaves that as it was; place of the chapter that is picked in
         its contents, from 0. Its rows are of one height, which the size of the letters over the desk makes larger."""
         okna = self.okna()
-        self.tiskni("F1", "příručka: " + co, lambda: self.okna() == okna + 1)
-        time.sleep(0.6)
         obsah = int(self.sirka * 0.33)  # from there on lies the list of the chapters
         radky = lambda o: [y for y in range(self.vyska) if o.bodu(obsah, y, 150, 1, VYBRANA_KAPITOLA) > 60]
+        pod_ni = radky(self.obraz())  # a name that is picked in a dialogue has that colour too
+        self.tiskni("F1", "příručka: " + co, lambda: self.okna() == okna + 1)
         minule = [[]]
 
-        def stoji(o):  # the contents come to rest at the chapter: twice the same
+        def stoji(o):  # the manual is drawn, and its contents come to rest at the chapter: twice the same
             predtim, minule[0] = minule[0], radky(o)
             time.sleep(0.3)
-            return minule[0] and minule[0] == predtim
+            return minule[0] not in ([], pod_ni) and minule[0] == predtim
 
         self.cekej_na("vybraná kapitola", stoji)
         self.bez_vad()
