@@ -1,25 +1,22 @@
-// ui/hlavni_okno.h - the main screen: the desk in a window, its timers, its keys and its pointer.
+// ui/hlavni_okno.h - the main screen: the desk in a window, with what lies over it, its keys and its pointer.
 #pragma once
 
-#include "obsluha/volba.h"
-#include "obsluha/vstup.h"
-#include "relief/relief.h"
-#include "ui/platno.h"
-#include "ui/rada_vystrah.h"
-#include "zaklad/platforma.h"
+#include "ui/nabidka_stolu.h"
+#include "ui/napisy_stolu.h"
+#include "ui/obraz_stolu.h"
+#include "ui/ohnisko_stolu.h"
+#include "ui/seznamy_panelu.h"
+#include "ui/ukazatel_stolu.h"
+#include "ui/vystrahy_stolu.h"
 
-#include <QElapsedTimer>
-#include <QLineEdit>
-#include <QListWidget>
-#include <QMenu>
 #include <QTimer>
 #include <QWidget>
 
-#include <array>
 #include <functional>
-#include <optional>
 
 class ObrazovkaTechnologie;
+class PrikazovePole;
+class QHelpEvent;
 
 class HlavniOkno : public QWidget {
 public:
@@ -30,8 +27,8 @@ public:
     static HlavniOkno* otevrene();
 
     // Pointer in pixels of the desk.
-    Bod kurzor_na_stole() const;
-    void nastav_kurzor_na_stole(Bod kam);
+    Bod kurzor_na_stole() { return ukazatel.na_stole(); }
+    void nastav_kurzor_na_stole(Bod kam) { ukazatel.nastav_na_stole(kam); }
 
     // Chapter of the manual for what is under the pointer: the picked entry of an open menu, what is being
     // written, a maintenance screen, an element.
@@ -41,7 +38,7 @@ public:
     // Of the frame around what was searched for; empty when there is none. Pixels of the screen.
     QRect misto_nalezeneho() const;
     // Its picture.
-    const Platno& obraz() const { return platno; }
+    const Platno& obraz() const { return stul.platno(); }
 
     // The simulation has been started or loaded: from now on its picture is shown. Before, the elements are
     // magenta, which means nothing yet.
@@ -65,88 +62,40 @@ protected:
     bool focusNextPrevChild(bool dalsi) override;
 
 private:
-    // A list of the bottom panel and the copy of what it shows.
-    struct ZobrazenySeznam {
-        Seznam Relief::*zdroj = nullptr;
-        QListWidget* okno = nullptr;
-        Seznam zobrazeny;
-    };
-
     int sirka_stolu() const;
     void umisti();
-    QPoint na_twipy(QPointF misto) const;
-    QRect v_okne(const QRect& twipy) const;
-    double meritko_v_okne() const; // pixels of the window to a pixel of the desk
-    QFont pismo_stolu() const;
-    void ukaz_ruku_zaznamu();
-    QPointF misto_kurzoru() const; // in the window, pixels
-    QRect misto_prvku(const Nalezeny& kde) const;
-    void najed(QPointF misto);
-    void zvetsi(double krat, QPointF misto);
-    void posun_lupu(QPoint o_kolik);
-    bool stisk_lupy(const QKeyEvent& udalost);
-    void ukaz_hledane();
     void rekni_vadu_zaznamu();
-    void kurzor_na(QPoint obraz); // twips of the picture
-    QPoint misto_nabidky() const;
-    void prekresli();
+
+    bool klepni_vedle_stolu(QPointF misto);
     void klepni(QPointF misto, Tlacitko tlacitko, bool ctrl);
     void poklepej(const Nalezeny& kde);
-    void zaostri(std::optional<Druh> tlacitko);
-    void dalsi_ohnisko(bool dalsi);
-    void obnov_ohnisko();
-    void umisti_seznam(const ZobrazenySeznam& s) const;
-    bool je_vedle(const ZobrazenySeznam& s) const; // the list stands on the second half of the panel
-    void rozdel_do_sloupcu(QListWidget& okno) const;
-    void obnov_seznam(ZobrazenySeznam& s);
-    void obnov_pole();
-    void obnov_napisy_vypravciho();
-    bool je_nad_znackou_vypravciho(QPointF misto) const;
-    QRect misto_rady() const; // of the alarms; twips of the picture
-    void obnov_vystrahy(bool hned = false);
-    QRect misto_ukazani(const Nalezeny& kde) const;
-    QRect okoli_ukazaneho() const;
-    void obnov_ukazani();
-    void ukaz_vystrahu(const Vystraha& v);
-    void otevri_nabidku_pohledu();
-    void obnov_nabidku();
-    bool stisk_za_mys(const QKeyEvent& udalost);
+    void zvetsi(double krat, QPointF misto);
+    void posun_lupu(QPoint o_kolik);
+    void ukaz_tip(const QHelpEvent& udalost);
+
+    bool stisk(const QKeyEvent& k);
+    bool stisk_okna(const QKeyEvent& k);
+    bool stisk_lupy(const QKeyEvent& k);
+    bool stisk_za_mys(const QKeyEvent& k);
+    void dalsi_ohnisko(const QKeyEvent& tabulator);
+
     bool otevri_vedlejsi_okno(const std::function<void()>& prepni);
-    bool stisk(QKeyEvent* udalost);
+    void otevri_nabidku_pohledu();
     void zmenit_viditelnost_okna();
 
-    Platno platno;
-    bool natreny_stul = false; // the picture is shown
-    QTimer prekreslovani;      // and the running of time
-    QLineEdit* pole = nullptr;
-    std::array<ZobrazenySeznam, 2> seznamy;
-    DruhaStranka druha_stranka = DruhaStranka::zadna; // as the lists were placed last
-    QMenu* nabidka = nullptr;
-    ObrazovkaTechnologie* okno_technologie = nullptr;
-    Text nabidka_ukazuje;
-    std::optional<Nalezeny> najety;
-    std::optional<Vyzva> vyzva;             // shown beside the message that holds the command line
-    std::array<Prvek, 2> napisy_vypravciho; // the dispatcher's sign, and why the shown train waits
-    RadaVystrah rada;
-    bool s_radou = true;      // the alarms are shown
-    QElapsedTimer od_vystrah; // since they were looked at
-    struct Ukazani {          // the place of an alarm, flashed by the view
-        QRect misto;          // as it was when it was led to; twips of the picture
-        QElapsedTimer od;
-        bool sviti = true;
-    };
-    std::optional<Ukazani> ukazani;
-    std::optional<Druh> ohnisko; // the panel's button that the space bar presses
-    bool z_klavesy = false;      // what happens now comes from a key
-    bool zpravy_zelene = false;
-    std::size_t zprav = 0;
+    ObrazStolu stul;
+    UkazatelStolu ukazatel;
+    OhniskoStolu ohnisko;
+    NapisyStolu napisy;
+    VystrahyStolu vystrahy;
+    SeznamyPanelu seznamy;
+    NabidkaStolu nabidka;
+    PrikazovePole* pole;
+    ObrazovkaTechnologie* okno_technologie;
+    QTimer prekreslovani; // and the running of time
+
+    bool natreny_stul = false;  // the picture is shown
+    int sirka_pri_umisteni = 0; // of the drawing, twips
+    bool z_klavesy = false;     // what happens now comes from a key
     bool minimalizovane = false;
-    int sirka_pri_umisteni = 0;
-    bool hleda_se = false; // the frame of the search is shown
-    // The place that was read last, on the desk and in the picture: a step from it is a step on the screen.
-    struct Cteni {
-        Bod stul;
-        QPoint obraz;
-    };
-    mutable std::optional<Cteni> cteni_kurzoru;
 };

@@ -404,7 +404,7 @@ void zapln_platformu() {
     p.nastav_rezim = [](const RezimObrazovky&) { return true; };
 
     p.kurzor = [] {
-        const HlavniOkno* hlavni = HlavniOkno::otevrene();
+        HlavniOkno* hlavni = HlavniOkno::otevrene();
         return hlavni != nullptr ? hlavni->kurzor_na_stole() : Bod{};
     };
     p.nastav_kurzor = [](Bod kam) {

@@ -6,6 +6,7 @@
 #include "relief/relief.h"
 #include "technologie/technologie.h"
 #include "ui/hlavni_okno.h"
+#include "ui/klavesy_qt.h"
 #include "ui/umisteni_oken.h"
 
 #include <QApplication>
@@ -17,14 +18,6 @@
 #include <algorithm>
 
 namespace {
-
-bool je_klavesa_f(const QKeyEvent& k) {
-    return k.key() >= Qt::Key_F1 && k.key() <= Qt::Key_F12;
-}
-
-bool je_enter(const QKeyEvent& k) {
-    return k.key() == Qt::Key_Return || k.key() == Qt::Key_Enter;
-}
 
 bool pise_se() {
     const Prvek& pole = relief.txtZadav_pole[0];

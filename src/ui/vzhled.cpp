@@ -205,3 +205,7 @@ QString zvetseny_styl(const char* styl, double krat) {
     }
     return obarveny_styl(novy + puvodni.mid(konec));
 }
+
+QString bez_rozvrzeni(const QString& text) {
+    return QStringLiteral("<div style='white-space:pre'>%1</div>").arg(text.toHtmlEscaped());
+}

@@ -28,3 +28,5 @@ double meritko_obrazovky();
 void nakresli_sipku(QPainter& p, const QRect& kde, double krat);
 // A style sheet with all its lengths but hair lines multiplied, and its colours from the palette.
 QString zvetseny_styl(const char* styl, double krat);
+// Text of a tip: a note may hold signs that would be taken for a layout.
+QString bez_rozvrzeni(const QString& text);
