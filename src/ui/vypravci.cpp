@@ -6,7 +6,6 @@
 #include "app/sledovani_provozu.h"
 #include "app/zprava_o_provozu.h"
 #include "cesty/zasobnik.h"
-#include "desk/info_o_vlaku.h"
 #include "gvd/gvd.h"
 #include "jizda/vlak.h"
 #include "obsluha/vstup.h"
@@ -49,11 +48,6 @@ namespace {
 constexpr int kObnova_ms = 500;
 constexpr int kObnovaZpravy = 4; // the report is told anew at every so manieth of those
 enum List : int { list_cekani, list_rozhodnuti, list_zpravy };
-// The sign stands so far right of the version of the program, the line of the panel so far from its edge.
-// Twips.
-constexpr int kOdVerze = 184 * kTwipu, kZnackaNahore = 4 * kTwipu;
-constexpr int kRadekVlevo = 8 * kTwipu;
-constexpr Barva kBarvaCekani = 0x30B0FF; // amber
 
 // What F6 hands over: the whole desk, or these stations. Empty while the boxes are being ticked anew; he then
 // keeps what he has.
@@ -382,19 +376,6 @@ bool OknoVypravciho::stisk(QKeyEvent& udalost) {
     return zavira;
 }
 
-Prvek napis(int vlevo, int nahore, Text text, Barva popredi) {
-    Prvek p;
-    p.viditelny = true;
-    p.barva = popredi;
-    p.pozadi = barvy::cerna;
-    p.vlevo = vlevo;
-    p.nahore = nahore;
-    p.sirka = static_cast<int>(text.size()) * kSirkaZnaku;
-    p.vyska = kVyskaZnaku;
-    p.text = std::move(text);
-    return p;
-}
-
 } // namespace
 
 void prepni_vypravciho() {
@@ -421,21 +402,4 @@ void prepni_okno_vypravciho(QWidget* stul) {
         otevrene->close();
     else
         otevrene = new OknoVypravciho(stul);
-}
-
-Prvek znacka_vypravciho() {
-    if (!vypravci::zapnut() || !relief.lblVerze.je(0))
-        return {};
-    const Text text(stav_vypravciho.vse ? " VÝPRAVČÍ "_cz : " VÝPRAVČÍ st. "_cz);
-    Prvek p = napis(relief.lblVerze[0].vlevo() + kOdVerze, kZnackaNahore, text, barvy::zelena);
-    p.ramecek = true;
-    return p;
-}
-
-Prvek radek_cekani_na_panelu() {
-    const int v = vlak_na_panelu();
-    if (!vypravci::zapnut() || v < 0 || !relief.lblIinfo_o_vlaku[0].viditelny)
-        return {};
-    const TextPohled veta = veta_vypravciho(zobrazene_cislo(vlak_c(v)));
-    return veta.empty() ? Prvek{} : napis(kRadekVlevo, 0, Text(veta), kBarvaCekani);
 }
