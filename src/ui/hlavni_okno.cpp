@@ -174,7 +174,7 @@ void HlavniOkno::umisti() {
     sirka_pri_umisteni = sirka_stolu();
     stul.umisti(sirka_pri_umisteni);
     seznamy.umisti();
-    pole->setFont(stul.pismo());
+    pole->umisti();
     nastav_meritko_oken(stul.meritko());
     update();
 }

@@ -23,6 +23,14 @@ PrikazovePole::PrikazovePole(QWidget* rodic, const ObrazStolu& stul_, const std:
     });
 }
 
+void PrikazovePole::umisti() {
+    constexpr int kNejmeneZnaku = 20;
+    const Prvek& p = relief.txtZadav_pole[0];
+    setFont(stul.pismo());
+    setGeometry(
+        stul.v_okne(QRect(p.vlevo, p.nahore, std::max<int>(p.sirka, kSirkaZnaku * kNejmeneZnaku), p.vyska)));
+}
+
 void PrikazovePole::obnov() {
     const Prvek& p = relief.txtZadav_pole[0];
     const QString novy = na_qstring(p.text());
@@ -34,9 +42,7 @@ void PrikazovePole::obnov() {
     if (otevrene == !isHidden())
         return;
     if (otevrene) {
-        constexpr int kNejmeneZnaku = 20;
-        setGeometry(stul.v_okne(
-            QRect(p.vlevo, p.nahore, std::max<int>(p.sirka, kSirkaZnaku * kNejmeneZnaku), p.vyska)));
+        umisti();
         show();
         setFocus();
         selectAll();

@@ -14,6 +14,8 @@ public:
     // filter.
     PrikazovePole(QWidget* rodic, const ObrazStolu& stul, const std::function<void()>& po_vstupu);
 
+    // When the picture has another size: place and letters.
+    void umisti();
     // After each look at the core: opens with the keys and what is proposed, or closes and gives them back.
     void obnov();
 

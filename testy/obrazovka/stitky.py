@@ -50,8 +50,15 @@ stul.ukaz(600, 400)
 stul.cekej_na("značka štítku", lambda o: o.bodu(*ZNACKA, STITEK) > 40 and o.bodu(*POZADI_CISLA, STITEK) > 100)
 stul.obraz("stitek")
 
-# a possession rules over the tag
+# a possession rules over the tag; the field stays on the command line when the window gets another size
 stul.nabidka("Down Down Down", *CISLO)  # VYL
+stul.cekej_na("pole pro psaní", lambda o: o.bodu(*s.RADEK_PRIKAZU, AZUROVA) > 100)
+OKNO = next(o.id for o in stul.x.okna() if o.jmeno == "KPS RVZ TESK")
+RADEK_800, POD_RADKEM_800 = (60, 19, 300, 9), (60, 33, 300, 6)
+stul.xdotool("windowsize", OKNO, 800, 600)
+stul.cekej_na("pole v menším okně",
+              lambda o: o.bodu(*RADEK_800, s.BILA) > 2000 and o.bodu(*POD_RADKEM_800, s.BILA) == 0, 20)
+stul.xdotool("windowsize", OKNO, 1024, 768)
 vypln_pole("trolej")
 stul.cekej_na("značka výluky", lambda o: o.bodu(*ZNACKA, VYLUKA) > 40 and o.bodu(*ZNACKA, STITEK) == 0)
 stul.napoveda("poznámky pod ukazatelem", CISLO[0] + 60, CISLO[1])
