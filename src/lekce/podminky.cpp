@@ -330,6 +330,8 @@ bool stejny_ukon(const Ukon& a, const Ukon& b) {
     };
     if (je_cil_volby(a) && je_cil_volby(b))
         return misto_volby(a.druh, static_cast<int>(a.n)) == misto_volby(b.druh, static_cast<int>(b.n));
+    if (a.co == DruhUkonu::radek && b.co == DruhUkonu::radek)
+        return a.text == b.text;
     return radek_ukonu(a) == radek_ukonu(b);
 }
 

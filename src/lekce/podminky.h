@@ -71,7 +71,8 @@ bool plati(const Podminka& podminka, std::size_t od);
 bool plati_vse(const std::vector<Podminka>& podminky, std::size_t od);
 // The command line holds a message with that text.
 bool je_hlaseni(TextPohled text);
-// Two acts are the same for one who looks: the number of a track and its target are one place.
+// Two acts are the same for one who looks: the number of a track and its target are one place, and which line
+// of a list is picked no lesson can know beforehand.
 bool stejny_ukon(const Ukon& a, const Ukon& b);
 // Number of a track's label or target as the place where a route ends.
 int misto_volby(Druh druh, int n);

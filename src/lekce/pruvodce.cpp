@@ -10,6 +10,7 @@
 #include "obsluha/povely.h"
 #include "obsluha/vyber.h"
 #include "technologie/technologie.h"
+#include "vypravci/vypravci.h"
 
 #include <algorithm>
 #include <utility>
@@ -18,31 +19,26 @@ namespace lekce {
 
 namespace {
 
-constexpr int kCekaDlouho_s = 15; // a route that nothing hinders is commanded sooner
+constexpr int kCekaDlouho_s = 15;   // a route that nothing hinders is commanded sooner
+constexpr int kNicSeNestalo_s = 10; // after the last act of a step: it has had its effect, or none
+constexpr int kPulDne_s =
+    12 * 3600; // the clock that shows less than before has passed midnight, or was turned back
 
 Text jmeno_prvku(int n) {
     const Text nazev(orez(jmeno(n)));
     return nazev.empty() ? text_cisla(n) : nazev;
 }
 
-bool je_navestidlo(Druh druh) {
-    return druh == Druh::navestidlo || druh == Druh::navestidlo_ser;
-}
-
-bool je_klik(const Ukon& u) {
-    return u.co == DruhUkonu::klik || u.co == DruhUkonu::dvojklik;
-}
-
-bool je_volba_zacatku(const Ukon& u) {
-    return u.co == DruhUkonu::klik && u.tlacitko == Tlacitko::leve && je_navestidlo(u.druh);
-}
-
-bool otvira_nabidku(const Ukon& u) {
-    return u.co == DruhUkonu::klik && u.tlacitko == Tlacitko::prave;
-}
-
 bool je_klavesa(const Ukon& u, KodKlavesy kod) {
     return u.co == DruhUkonu::klavesa && u.klavesa.kod == kod;
+}
+
+bool je_psani(const Ukon& u) {
+    return u.co == DruhUkonu::psani;
+}
+
+bool voli_navestidlo(const Ukon& u) {
+    return je_navestidlo(u.druh) && je_klik(u);
 }
 
 UkonLekce ukon_naprav(Ukon ukon) {
@@ -51,18 +47,23 @@ UkonLekce ukon_naprav(Ukon ukon) {
     u.ukon = std::move(ukon);
     return u;
 }
-UkonLekce stisk_enter() {
-    return ukon_naprav({.co = DruhUkonu::klavesa, .klavesa = {.kod = KodKlavesy::enter}});
+UkonLekce stisk(KodKlavesy kod) {
+    return ukon_naprav({.co = DruhUkonu::klavesa, .klavesa = {.kod = kod}});
 }
-UkonLekce stisk_esc() {
-    return ukon_naprav({.co = DruhUkonu::klavesa, .klavesa = {.kod = KodKlavesy::esc}});
-}
-UkonLekce stisk_f10() {
-    return ukon_naprav({.co = DruhUkonu::klavesa, .klavesa = {.kod = KodKlavesy::f10}});
+UkonLekce predani_stolu() {
+    UkonLekce u;
+    u.radek = "klavesa F6";
+    u.predani = true;
+    return u;
 }
 
 bool bez_cesty_od(int s) {
     return std::none_of(cesty.begin(), cesty.end(), [s](const Cesta& c) { return c.zacatek == s; });
+}
+
+bool rusi_se_nejaka() {
+    return std::any_of(cesty.begin(), cesty.end(),
+                       [](const Cesta& c) { return c.zacatek >= 0 && c.cas_ruseni >= 0; });
 }
 
 // Nothing is half done on the desk: a moment to come back to.
@@ -71,13 +72,28 @@ bool je_cisto() {
            prikaz_radek.rezim_zadani == 0 && !prihlaseni_bezi() && !technologie_kryje_stul();
 }
 
+bool ceka_na(const Krok& k, Fakt fakt) {
+    return std::any_of(k.hotovo.begin(), k.hotovo.end(),
+                       [fakt](const Podminka& p) { return p.fakt == fakt; });
+}
+
 } // namespace
 
 Pruvodce::Pruvodce(Lekce lekce, std::size_t krok) : tato(std::move(lekce)), index(krok) {
+    // What kind of route a step asks for is seen by how its start is picked; a macro sets that of its signal.
     for (const Krok& k : tato.kroky)
-        for (const Podminka& p : k.hotovo)
-            if ((p.fakt == Fakt::cesta || p.fakt == Fakt::postavena) && !p.ne)
-                zname.push_back({static_cast<std::int16_t>(p.a), static_cast<std::int16_t>(p.b)});
+        for (const Podminka& p : k.hotovo) {
+            if ((p.fakt != Fakt::cesta && p.fakt != Fakt::postavena) || p.ne)
+                continue;
+            DruhCesty druh = relief.navestidlo.je(p.a) ? DruhCesty::vlak : DruhCesty::posun;
+            for (const UkonLekce& u : k.ukony) {
+                if (je_volba_zacatku(u.ukon) && u.ukon.n == p.a && u.ukon.ctrl)
+                    druh = DruhCesty::posun;
+                if (u.ukon.co == DruhUkonu::polozka_menu && u.ukon.text == "miPN")
+                    druh = DruhCesty::pn;
+            }
+            zname.push_back({p.a, p.b, druh});
+        }
     for (const Cesta& c : cesty)
         if (c.zacatek >= 0)
             zname.push_back({c.zacatek, c.konec});
@@ -85,121 +101,177 @@ Pruvodce::Pruvodce(Lekce lekce, std::size_t krok) : tato(std::move(lekce)), inde
 }
 
 void Pruvodce::zacni_krok() {
-    od_ukonu = videno = ukony_smeny.ukony.size();
-    udelano = 0;
-    zacal_s = ted_s();
+    od_ukonu = ukony_smeny.ukony.size();
+    ukony = hotova() ? RadaUkonu() : RadaUkonu(popis().ukony, popis().hotovo);
+    zacal_s = pokrok_s = ted_s();
     dlouho = false;
     co_vadi = Potiz::zadna;
     veta.clear();
-    naprava.clear();
+    naprava = {};
     odbocka.reset();
     ++zmeny;
 }
 
-void Pruvodce::na_krok(std::size_t krok) {
-    index = std::min(krok, tato.kroky.size() - 1);
-    pochvala.clear();
-    std::erase_if(body, [this](const Bod& b) { return b.krok > index; });
+void Pruvodce::jdi_na(std::size_t krok) {
+    index = krok;
     zacni_krok();
+}
+
+void Pruvodce::na_krok(std::size_t krok, Text proc) {
+    pochvala = std::move(proc);
+    vraceni = true;
+    sekunda_pohledu = kZadny;
+    krok = std::min(krok, tato.kroky.size() - 1);
+    std::erase_if(body, [krok](const Bod& b) { return b.krok > krok; });
+    jdi_na(krok);
 }
 
 void Pruvodce::dal() {
     if (hotova())
         return;
     pochvala.clear();
-    ++index;
-    zacni_krok();
-}
-
-// --- how far the operator is
-
-// The route that the step asks for stands from that signal: neither it nor its end need be picked.
-bool Pruvodce::je_cesta_kroku(const UkonLekce& u) const {
-    return !u.predani && je_volba_zacatku(u.ukon) &&
-           std::any_of(popis().hotovo.begin(), popis().hotovo.end(), [&](const Podminka& p) {
-               return (p.fakt == Fakt::cesta || p.fakt == Fakt::postavena) && !p.ne && p.a == u.ukon.n &&
-                      plati(p, od_ukonu);
-           });
-}
-
-// The effect of act i stands on the desk.
-bool Pruvodce::je_hotov(std::size_t i) const {
-    const UkonLekce& u = popis().ukony[i];
-    if (u.predani)
-        return false;
-    const int n = static_cast<int>(u.ukon.n);
-    if (je_volba_zacatku(u.ukon))
-        return vyber.volba_zacatek == n || je_cesta_kroku(u);
-    if (otvira_nabidku(u.ukon))
-        return !menu.jmeno.empty() && menu.druh == u.ukon.druh && menu.prvek == n;
-    return i > 0 && je_klik(u.ukon) && (u.ukon.druh == Druh::Image1 || u.ukon.druh == Druh::cislo_koleje) &&
-           je_cesta_kroku(popis().ukony[i - 1]);
-}
-
-void Pruvodce::cti_ukony() {
-    const std::vector<UkonLekce>& ukony = popis().ukony;
-    const auto vse = ukony_smeny.ukony.size();
-    videno = std::min(videno, vse);
-    for (; videno < vse; ++videno) {
-        const Ukon& u = ukony_smeny.ukony[videno];
-        if (!je_cin(u) && u.co != DruhUkonu::najeti)
-            continue;
-        if (udelano < ukony.size() && !ukony[udelano].predani && stejny_ukon(u, ukony[udelano].ukon))
-            ++udelano;
-    }
-    preskoc_hotove();
-}
-
-void Pruvodce::preskoc_hotove() {
-    while (udelano < popis().ukony.size() && je_hotov(udelano))
-        ++udelano;
-}
-
-// What was begun and lost is to be begun again: a menu that closed without its entry, a selection that ran
-// out. A route that stands already need not be picked twice.
-void Pruvodce::vrat_ukony() {
-    const std::vector<UkonLekce>& ukony = popis().ukony;
-    if (udelano == 0)
-        return;
-    const Ukon& posledni = ukony[udelano - 1].ukon;
-    if (ukony[udelano - 1].predani)
-        return;
-    if (otvira_nabidku(posledni) && menu.jmeno.empty() && udelano < ukony.size()) {
-        --udelano;
-        ++zmeny;
-        return;
-    }
-    const bool volba = je_volba_zacatku(posledni), z_nabidky = posledni.co == DruhUkonu::polozka_menu;
-    if (udelano == ukony.size() || vyber.volba_zacatek >= 0 || !(volba || z_nabidky) || !menu.jmeno.empty() ||
-        je_cesta_kroku(ukony[udelano - 1]))
-        return;
-    const Ukon& pristi = ukony[udelano].ukon;
-    if (!je_klik(pristi) ||
-        (!je_navestidlo(pristi.druh) && pristi.druh != Druh::Image1 && pristi.druh != Druh::cislo_koleje))
-        return; // no end of a route was waited for
-    udelano = 0;
-    preskoc_hotove();
-    ++zmeny;
+    jdi_na(index + 1);
 }
 
 // --- what has gone another way
 
-std::optional<Pruvodce::CiziCesta> Pruvodce::cizi_cesta() const {
-    for (const Cesta& c : cesty) {
-        const StojiciCesta s{c.zacatek, c.konec};
-        if (c.zacatek >= 0 && c.Umazat == 0 && c.ZT != kZTprogramu &&
-            std::find(zname.begin(), zname.end(), s) == zname.end())
-            return CiziCesta{s.zacatek, s.konec, !c.prehozena && ted_s() - c.cas_stavby > kCekaDlouho_s};
-    }
+bool Pruvodce::zna_cestu(int zacatek, int konec, DruhCesty druh) const {
+    return std::any_of(zname.begin(), zname.end(), [=](const ZnamaCesta& z) {
+        return z.zacatek == zacatek && z.konec == konec && (z.druh == DruhCesty::jakykoli || z.druh == druh);
+    });
+}
+
+bool Pruvodce::je_v_ukonech(bool (*jaky)(const Ukon&)) const {
+    const std::vector<UkonLekce>& vse = popis().ukony;
+    return std::any_of(vse.begin(), vse.end(),
+                       [jaky](const UkonLekce& u) { return !u.predani && jaky(u.ukon); });
+}
+
+// A maintenance screen, the dispatcher, a message, a recording, a question: the desk is not there for the
+// step.
+std::optional<Pruvodce::NalezenaPotiz> Pruvodce::potiz_stolu() const {
+    const Krok& k = popis();
+    if (prihlaseni_bezi() && !ceka_na(k, Fakt::prihlaseno) && !k.jen_cteni())
+        return NalezenaPotiz{Potiz::prihlaseni,
+                             Text("Nejdřív se přihlaste: třikrát **Enter**."_cz),
+                             {stisk(KodKlavesy::enter)}};
+    const bool napravuje_se_tam =
+        co_vadi != Potiz::obrazovka && naprava.vede_na_obrazovku() && !naprava.vse_hotovo();
+    if (technologie_kryje_stul() && !napravuje_se_tam)
+        return NalezenaPotiz{
+            Potiz::obrazovka,
+            Text("Otevřeli jste obrazovku, pod kterou je celý stůl, a hodiny při ní stojí. Nic se nestalo, "
+                 "zavře ji klávesa **Esc**."_cz),
+            {stisk(KodKlavesy::esc)}};
+    if (vypravci::zapnut() && !k.jen_cteni() && !ceka_na(k, Fakt::vypravci) &&
+        std::none_of(k.ukony.begin(), k.ukony.end(), [](const UkonLekce& u) { return u.predani; }))
+        return NalezenaPotiz{
+            Potiz::vypravci,
+            Text("Stůl má automatický výpravčí a lekci by odsloužil za vás. Klávesa **F6** ho vezme zpátky. "
+                 "Udělal-li "
+                 "mezitím něco jinak, vrátí vás na začátek kroku tlačítko **Zkusit znovu**."_cz),
+            {predani_stolu()}};
+    if (je_hlaseni("Překročen časový limit"_cz))
+        return NalezenaPotiz{
+            Potiz::pozde,
+            Text("To se stává: mezi dvěma klepnutími smí uplynout nejvýš deset sekund. Hlášení potvrďte "
+                 "klávesou **Enter** a zkuste to znovu. Místa si předem najděte, označím je."_cz),
+            {stisk(KodKlavesy::enter)}};
+    if (je_hlaseni("Cesta nenalezena"_cz))
+        return NalezenaPotiz{
+            Potiz::neni_cesta,
+            Text("Mezi těmi dvěma místy žádná cesta nevede. Nic se nestalo: hlášení potvrďte "
+                 "klávesou **Enter** a klepněte znovu na označená místa."_cz),
+            {stisk(KodKlavesy::enter)}};
+    if (vyber.makro_zaznam)
+        return NalezenaPotiz{
+            Potiz::makro,
+            Text(
+                "Začali jste nahrávat makro: co teď zvolíte, stůl jen zapisuje. Klávesa **Esc** nahrávání zruší."_cz),
+            {stisk(KodKlavesy::esc)}};
+    if (prikaz_radek.rezim_zadani != 0 && !je_v_ukonech(je_psani))
+        return NalezenaPotiz{
+            Potiz::psani,
+            Text("Stůl čeká, že něco napíšete. Teď to nepotřebujeme: zruší to klávesa **Esc**."_cz),
+            {stisk(KodKlavesy::esc)}};
     return std::nullopt;
 }
 
-void Pruvodce::rekni(Potiz p, Text text) {
-    if (co_vadi == p && veta == text)
-        return;
-    co_vadi = p;
-    veta = std::move(text);
-    ++zmeny;
+// What the step has foreseen; once it is put right, the step that it names.
+std::optional<Pruvodce::NalezenaPotiz> Pruvodce::potiz_kroku() {
+    const Krok& k = popis();
+    const auto rekni_odbocku = [&](std::size_t i) {
+        odbocka = i;
+        return NalezenaPotiz{Potiz::odbocka, k.odbocky[i].text, k.odbocky[i].naprava};
+    };
+    if (odbocka && plati_vse(k.odbocky[*odbocka].kdyz, od_ukonu))
+        return rekni_odbocku(*odbocka);
+    for (std::size_t i = 0; i < k.odbocky.size(); ++i)
+        if (plati_vse(k.odbocky[i].kdyz, od_ukonu)) {
+            if (!k.odbocky[i].naprava.empty() || k.odbocky[i].jdi == index)
+                return rekni_odbocku(i);
+            pochvala = k.odbocky[i].text; // nothing to be put right first
+            vraceni = true;
+            jdi_na(k.odbocky[i].jdi);
+            return NalezenaPotiz{};
+        }
+    if (!odbocka)
+        return std::nullopt;
+    pochvala.clear(); // put right
+    jdi_na(k.odbocky[*odbocka].jdi);
+    return NalezenaPotiz{};
+}
+
+// A route that the lesson does not ask for. One that something keeps from being set cannot be cancelled at
+// its signal, and under VZ it holds all behind it.
+std::optional<Pruvodce::NalezenaPotiz> Pruvodce::potiz_cesty() const {
+    const auto druh_cesty = [](const Cesta& x) {
+        return x.PN ? DruhCesty::pn : x.VC ? DruhCesty::vlak : DruhCesty::posun;
+    };
+    const auto c = std::find_if(cesty.begin(), cesty.end(), [&](const Cesta& x) {
+        return x.zacatek >= 0 && x.Umazat == 0 && x.ZT != kZTprogramu &&
+               !zna_cestu(x.zacatek, x.konec, druh_cesty(x));
+    });
+    if (c == cesty.end() || popis().jen_cteni())
+        return std::nullopt;
+    const bool ceka = !c->prehozena && ted_s() - c->cas_stavby > kCekaDlouho_s;
+    const bool jiny_druh = std::any_of(zname.begin(), zname.end(), [c](const ZnamaCesta& z) {
+        return z.zacatek == c->zacatek && z.konec == c->konec;
+    });
+    NalezenaPotiz p{.co = Potiz::cizi_cesta};
+    if (jiny_druh && c->VC)
+        p.veta = Text("Místa jsou správná, ale cesta je vlaková a tady má být jiná: "_cz);
+    else if (jiny_druh)
+        p.veta = Text("Místa jsou správná, ale s klávesou Ctrl je cesta posunová a vlak po ní nepojede: "_cz);
+    else if (ceka)
+        p.veta = Text("Zvolili jste cestu, která nemůže vést: "_cz);
+    else
+        p.veta = Text("Postavili jste cestu, kterou teď nepotřebujeme: "_cz);
+    p.veta += jmeno_prvku(c->zacatek);
+    p.veta += Text(" až "_cz);
+    p.veta += jmeno_prvku(c->konec);
+    if (c->cas_ruseni >= 0) {
+        p.veta += Text(". Už se ruší, chvilku počkejte."_cz);
+        return p;
+    }
+    if (ceka) {
+        p.veta +=
+            Text(". Čeká v zásobníku a zdržuje ty za ní. Klepněte na **EZ** vlevo pod kolejemi, vyberte její "
+                 "řádek, stiskněte **Delete** a obrazovku zavřete klávesou **Esc**."_cz);
+        p.naprava.push_back(ukon_naprav({.co = DruhUkonu::klik, .druh = Druh::lblZasobnik_EZ}));
+        p.naprava.push_back(ukon_naprav({.co = DruhUkonu::radek, .text = "lstZasobnik"}));
+        p.naprava.push_back(stisk(KodKlavesy::delete_));
+        return p;
+    }
+    p.veta += Text(". Zrušte ji: pravé tlačítko na jejím návěstidle a povel **RC**. Dokud se staví, je povel "
+                   "šedý; když už svítila, uvolní se za pět sekund."_cz);
+    const bool jen_posun = relief.navestidlo_ser.je(c->zacatek) && !relief.navestidlo.je(c->zacatek);
+    p.naprava.push_back(ukon_naprav({.co = DruhUkonu::klik,
+                                     .druh = jen_posun ? Druh::navestidlo_ser : Druh::navestidlo,
+                                     .n = c->zacatek,
+                                     .tlacitko = Tlacitko::prave}));
+    p.naprava.push_back(ukon_naprav({.co = DruhUkonu::polozka_menu, .text = "miRC"}));
+    return p;
 }
 
 bool Pruvodce::je_nabidka_ukonu() const {
@@ -207,122 +279,61 @@ bool Pruvodce::je_nabidka_ukonu() const {
         return !u.predani && otvira_nabidku(u.ukon) && u.ukon.druh == menu.druh &&
                misto_volby(u.ukon.druh, static_cast<int>(u.ukon.n)) == misto_volby(menu.druh, menu.prvek);
     };
-    return std::any_of(popis().ukony.begin(), popis().ukony.end(), patri) ||
-           std::any_of(naprava.begin(), naprava.end(), patri);
+    const std::vector<UkonLekce>&kroku = popis().ukony, &oprav = naprava.ukony();
+    return std::any_of(kroku.begin(), kroku.end(), patri) || std::any_of(oprav.begin(), oprav.end(), patri);
 }
 
-Potiz Pruvodce::najdi_potiz() {
+// Another signal, another menu, a clock that stands.
+std::optional<Pruvodce::NalezenaPotiz> Pruvodce::potiz_volby() const {
     const Krok& k = popis();
-    const auto vyzaduje_prihlaseni = std::any_of(
-        k.hotovo.begin(), k.hotovo.end(), [](const Podminka& p) { return p.fakt == Fakt::prihlaseno; });
-    if (prihlaseni_bezi() && !vyzaduje_prihlaseni && !k.jen_cteni()) {
-        naprava = {stisk_enter()};
-        rekni(Potiz::prihlaseni, Text("Nejdřív se znovu přihlaste: třikrát **Enter**."_cz));
-        return co_vadi;
-    }
-    if (odbocka && plati_vse(k.odbocky[*odbocka].kdyz, od_ukonu))
-        return Potiz::odbocka;
-    for (std::size_t i = 0; i < k.odbocky.size(); ++i)
-        if (plati_vse(k.odbocky[i].kdyz, od_ukonu)) {
-            if (k.odbocky[i].naprava.empty() && k.odbocky[i].jdi != index) { // nothing to be put right first
-                pochvala = k.odbocky[i].text;
-                vraceni = true;
-                index = k.odbocky[i].jdi;
-                zacni_krok();
-                return Potiz::zadna;
-            }
-            odbocka = i;
-            naprava = k.odbocky[i].naprava;
-            rekni(Potiz::odbocka, k.odbocky[i].text);
-            return Potiz::odbocka;
-        }
-    if (odbocka) { // put right
-        const std::size_t kam = k.odbocky[*odbocka].jdi;
-        pochvala.clear();
-        index = kam;
-        zacni_krok();
-        return Potiz::zadna;
-    }
-    if (je_hlaseni("Překročen časový limit"_cz)) {
-        naprava = {stisk_enter()};
-        rekni(Potiz::pozde,
-              Text("To se stává: mezi dvěma klepnutími smí uplynout nejvýš deset sekund. Hlášení potvrďte "
-                   "klávesou **Enter** a zkuste to znovu. Místa si předem najděte, označím je."_cz));
-        return Potiz::pozde;
-    }
-    if (je_hlaseni("Cesta nenalezena"_cz)) {
-        naprava = {stisk_enter()};
-        rekni(Potiz::neni_cesta,
-              Text("Mezi těmi dvěma místy žádná cesta nevede. Nic se nestalo: hlášení potvrďte "
-                   "klávesou **Enter** a klepněte znovu na označená místa."_cz));
-        return Potiz::neni_cesta;
-    }
-    if (const auto c = cizi_cesta(); c && !k.jen_cteni()) {
-        const bool nabidka = !menu.jmeno.empty() && menu.prvek == c->zacatek && je_navestidlo(menu.druh);
-        const Druh druh = relief.navestidlo_ser.je(c->zacatek) && !relief.navestidlo.je(c->zacatek)
-                              ? Druh::navestidlo_ser
-                              : Druh::navestidlo;
-        naprava.clear();
-        if (c->ceka)
-            naprava.push_back(ukon_naprav({.co = DruhUkonu::klik, .druh = Druh::lblZasobnik_EZ}));
-        else if (!nabidka)
-            naprava.push_back(ukon_naprav(
-                {.co = DruhUkonu::klik, .druh = druh, .n = c->zacatek, .tlacitko = Tlacitko::prave}));
-        else
-            naprava.push_back(ukon_naprav({.co = DruhUkonu::polozka_menu, .text = "miRC"}));
-        Text text(c->ceka ? TextPohled("Zvolili jste cestu, která nemůže vést: "_cz)
-                          : TextPohled("Postavili jste cestu, kterou teď nepotřebujeme: "_cz));
-        text += jmeno_prvku(c->zacatek);
-        text += Text(" až "_cz);
-        text += jmeno_prvku(c->konec);
-        if (c->ceka)
-            text += Text(
-                ". Čeká v zásobníku a zdržuje ty za ní. Klepněte na **EZ** vlevo pod kolejemi, vyberte její "
-                "řádek, stiskněte **Delete** a obrazovku zavřete klávesou **Esc**."_cz);
-        else
-            text += Text(
-                ". Zrušte ji: pravé tlačítko na jejím návěstidle a povel **RC**. Dokud se staví, je povel "
-                "šedý; když už svítila, uvolní se za pět sekund."_cz);
-        rekni(Potiz::cizi_cesta, std::move(text));
-        return Potiz::cizi_cesta;
-    }
-    const auto patri_zacatek = [&](const UkonLekce& u) {
+    const bool jeho = std::any_of(k.ukony.begin(), k.ukony.end(), [](const UkonLekce& u) {
         return !u.predani && je_navestidlo(u.ukon.druh) && u.ukon.n == vyber.volba_zacatek;
-    };
-    const bool voli_se = std::any_of(k.ukony.begin(), k.ukony.end(), [](const UkonLekce& u) {
-        return !u.predani && je_navestidlo(u.ukon.druh);
     });
     // a macro leaves its last start picked: it has a route already
-    if (voli_se && vyber.volba_zacatek >= 0 && vyber.volba_konec < 0 && bez_cesty_od(vyber.volba_zacatek) &&
-        !vyber.makro_zaznam && std::none_of(k.ukony.begin(), k.ukony.end(), patri_zacatek)) {
-        naprava = {stisk_esc()};
+    if (je_v_ukonech(voli_navestidlo) && !jeho && vyber.volba_zacatek >= 0 && vyber.volba_konec < 0 &&
+        bez_cesty_od(vyber.volba_zacatek)) {
         Text text("To bylo jiné návěstidlo, "_cz);
         text += jmeno_prvku(vyber.volba_zacatek);
         text += Text(". Nic se nestalo: klávesa **Esc** volbu zruší a začneme znovu."_cz);
-        rekni(Potiz::jiny_zacatek, std::move(text));
-        return Potiz::jiny_zacatek;
+        return NalezenaPotiz{Potiz::jiny_zacatek, std::move(text), {stisk(KodKlavesy::esc)}};
     }
-    const bool z_nabidky = std::any_of(k.ukony.begin(), k.ukony.end(), [](const UkonLekce& u) {
-        return !u.predani && otvira_nabidku(u.ukon);
-    });
-    if (z_nabidky && !menu.jmeno.empty() && !je_nabidka_ukonu()) {
-        naprava = {stisk_esc()};
-        rekni(Potiz::jina_nabidka,
-              Text("To je nabídka jiného prvku. Klávesa **Esc** ji zavře; potom zkuste označené místo."_cz));
-        return Potiz::jina_nabidka;
+    if (je_v_ukonech(otvira_nabidku) && !menu.jmeno.empty() && !je_nabidka_ukonu())
+        return NalezenaPotiz{
+            Potiz::jina_nabidka,
+            Text("To je nabídka jiného prvku. Klávesa **Esc** ji zavře; potom zkuste označené místo."_cz),
+            {stisk(KodKlavesy::esc)}};
+    const bool smi_stat = k.jen_cteni() || ceka_na(k, Fakt::stoji) || ceka_na(k, Fakt::prihlaseno);
+    if (simulace.pauza && !smi_stat && !technologie_kryje_stul() && !prihlaseni_bezi())
+        return NalezenaPotiz{Potiz::pauza,
+                             Text("Hodiny stojí. Klávesa **F10** je zase pustí; volit se za pauzy nedá."_cz),
+                             {stisk(KodKlavesy::f10)}};
+    return std::nullopt;
+}
+
+Pruvodce::NalezenaPotiz Pruvodce::najdi_potiz() {
+    if (auto p = potiz_stolu())
+        return *std::move(p);
+    if (auto p = potiz_kroku())
+        return *std::move(p);
+    if (auto p = potiz_cesty())
+        return *std::move(p);
+    if (auto p = potiz_volby())
+        return *std::move(p);
+    return {};
+}
+
+void Pruvodce::rekni(NalezenaPotiz nova) {
+    if (co_vadi == nova.co && veta == nova.veta) {
+        if (naprava.vse_hotovo() && !nova.naprava.empty() && !rusi_se_nejaka()) { // it has not helped
+            naprava = RadaUkonu(std::move(nova.naprava));
+            ++zmeny;
+        }
+        return;
     }
-    const bool smi_stat =
-        k.jen_cteni() || std::any_of(k.hotovo.begin(), k.hotovo.end(), [](const Podminka& p) {
-            return p.fakt == Fakt::stoji || p.fakt == Fakt::prihlaseno;
-        });
-    if (simulace.pauza && !smi_stat && !technologie_kryje_stul() && !prihlaseni_bezi()) {
-        naprava = {stisk_f10()};
-        rekni(Potiz::pauza, Text("Hodiny stojí. Klávesa **F10** je zase pustí; volit se za pauzy nedá."_cz));
-        return Potiz::pauza;
-    }
-    naprava.clear();
-    rekni(Potiz::zadna, {});
-    return Potiz::zadna;
+    co_vadi = nova.co;
+    veta = std::move(nova.veta);
+    naprava = RadaUkonu(std::move(nova.naprava));
+    ++zmeny;
 }
 
 // --- the look
@@ -331,9 +342,7 @@ Potiz Pruvodce::najdi_potiz() {
 // just shown it, and nobody has acted in it yet.
 void Pruvodce::oznac_bod() {
     const std::int32_t ted = cas_hodin();
-    const bool nova = sekunda_pohledu != kZadny && ted != sekunda_pohledu;
-    sekunda_pohledu = ted;
-    if (!nova || udelano > 0 || !je_cisto() || simulace.pauza || co_vadi != Potiz::zadna ||
+    if (ukony.hotovych() > 0 || !je_cisto() || simulace.pauza || co_vadi != Potiz::zadna ||
         (!body.empty() && body.back().krok >= index))
         return;
     if (!ukony_smeny.ukony.empty() && ukony_smeny.ukony.back().cas == ted && je_cin(ukony_smeny.ukony.back()))
@@ -342,24 +351,68 @@ void Pruvodce::oznac_bod() {
     ++novych_bodu;
 }
 
-void Pruvodce::pohled() {
-    if (hotova())
+// The operator has turned time back himself, in the window of the shift: the lesson goes back with it.
+bool Pruvodce::vratil_se_cas() {
+    const std::int32_t ted = cas_hodin();
+    if (sekunda_pohledu == kZadny || ted >= sekunda_pohledu || sekunda_pohledu - ted > kPulDne_s)
+        return false;
+    std::erase_if(body, [ted](const Bod& b) { return b.sekunda > ted; });
+    if (body.empty() || body.back().krok >= index)
+        return false;
+    na_krok(body.back().krok, Text("Vrátili jste čas, lekce se vrátila s ním."_cz));
+    return true;
+}
+
+// What the automatic dispatcher has set is not to be undone by hand.
+void Pruvodce::poznamenej_cesty_vypravciho() {
+    if (!vypravci::zapnut())
         return;
-    cti_ukony();
+    for (const Cesta& c : cesty)
+        if (c.zacatek >= 0 && !std::any_of(zname.begin(), zname.end(), [&c](const ZnamaCesta& z) {
+                return z.zacatek == c.zacatek && z.konec == c.konec && z.druh == DruhCesty::jakykoli;
+            }))
+            zname.push_back({c.zacatek, c.konec});
+}
+
+// All acts of the step were done and it is not: a route was taken back, another message was answered. Nothing
+// is asked for again that only takes its time.
+void Pruvodce::zacni_ukony_znovu() {
+    if (ukony.ukony().empty() || !ukony.vse_hotovo() || co_vadi != Potiz::zadna || rusi_se_nejaka() ||
+        ted_s() - pokrok_s <= kNicSeNestalo_s)
+        return;
+    pokrok_s = ted_s();
+    ukony = RadaUkonu(popis().ukony, popis().hotovo);
+    if (!ukony.vse_hotovo())
+        ++zmeny;
+}
+
+void Pruvodce::pohled() {
+    if (hotova() || vratil_se_cas())
+        return;
+    const std::int32_t ted = cas_hodin();
+    const bool nova_sekunda = sekunda_pohledu != kZadny && ted != sekunda_pohledu;
+    sekunda_pohledu = ted;
+    poznamenej_cesty_vypravciho();
+    const bool pokrok = ukony.cti(), oprava = naprava.cti();
+    if (pokrok || oprava)
+        ++zmeny;
+    if (pokrok)
+        pokrok_s = ted_s();
     const std::size_t pred = index;
-    const Potiz p = najdi_potiz();
+    NalezenaPotiz nova = najdi_potiz();
     if (index != pred)
         return;
-    vrat_ukony();
-    oznac_bod();
+    rekni(std::move(nova));
     const Krok& k = popis();
-    if (p == Potiz::zadna && !k.jen_cteni() && plati_vse(k.hotovo, od_ukonu)) {
+    if (co_vadi == Potiz::zadna && !k.jen_cteni() && plati_vse(k.hotovo, od_ukonu)) {
         pochvala = k.rekni;
         vraceni = false;
-        ++index;
-        zacni_krok();
+        jdi_na(index + 1);
         return;
     }
+    if (nova_sekunda)
+        oznac_bod();
+    zacni_ukony_znovu();
     if (!dlouho && k.mez_s > 0 && ted_s() - zacal_s > k.mez_s) {
         dlouho = true;
         ++zmeny;
@@ -371,45 +424,25 @@ void Pruvodce::pohled() {
 const UkonLekce* Pruvodce::dalsi_ukon() const {
     if (hotova())
         return nullptr;
-    if (co_vadi != Potiz::zadna) { // the first one whose effect does not stand yet
-        const auto zbyva = std::find_if(naprava.begin(), naprava.end(), [](const UkonLekce& u) {
-            const int n = static_cast<int>(u.ukon.n);
-            const bool zacatek = je_volba_zacatku(u.ukon) && vyber.volba_zacatek == n;
-            const bool nabidka = otvira_nabidku(u.ukon) && menu.druh == u.ukon.druh && menu.prvek == n;
-            return u.predani || !(zacatek || (nabidka && !menu.jmeno.empty()));
-        });
-        return zbyva == naprava.end() ? nullptr : &*zbyva;
-    }
-    return udelano < popis().ukony.size() ? &popis().ukony[udelano] : nullptr;
+    return co_vadi != Potiz::zadna ? naprava.dalsi() : ukony.dalsi();
 }
 
-// The acts on the desk that come one after another are shown all at once, so that each place can be found
-// before the first click: ten seconds are short.
 std::vector<Misto> Pruvodce::mista() const {
     std::vector<Misto> vse;
     if (hotova())
         return vse;
-    const auto ukazuje = [](const UkonLekce& u) {
-        return !u.predani && (je_klik(u.ukon) || u.ukon.co == DruhUkonu::najeti);
-    };
     const UkonLekce* u = dalsi_ukon();
     if (co_vadi == Potiz::zadna) {
         vse = popis().mista;
-        const std::vector<UkonLekce>& ukony = popis().ukony;
-        const auto vic = std::count_if(ukony.begin(), ukony.end(), ukazuje) > 1;
-        for (std::size_t i = udelano, poradi = i; i < ukony.size(); ++i) {
-            if (!ukazuje(ukony[i]))
-                break;
-            const Misto m{ukony[i].ukon.druh, static_cast<int>(ukony[i].ukon.n),
-                          vic ? static_cast<int>(++poradi) : 0, i == udelano};
+        for (const Misto& m : ukony.mista()) {
             std::erase_if(vse, [&](const Misto& jine) { return jine.druh == m.druh && jine.n == m.n; });
             vse.push_back(m);
         }
         if (popis().jen_cteni() && vse.size() > 1)
             for (std::size_t i = 0; i < vse.size(); ++i)
                 vse[i].poradi = static_cast<int>(i) + 1;
-    } else if (u != nullptr && ukazuje(*u)) {
-        vse.push_back({u->ukon.druh, static_cast<int>(u->ukon.n)});
+    } else {
+        vse = naprava.mista();
     }
     if (u != nullptr && !u->predani && je_klavesa(u->ukon, KodKlavesy::enter))
         vse.push_back({Druh::lblPrikaz, 0});
@@ -427,6 +460,10 @@ std::optional<Bod> Pruvodce::bod_kroku(std::size_t krok) const {
         if (b->krok <= krok)
             return *b;
     return std::nullopt;
+}
+
+bool Pruvodce::lze_zpet() const {
+    return index > 0 && (tato.kroky.at(index - 1).jen_cteni() || bod_kroku(index - 1).has_value());
 }
 
 } // namespace lekce

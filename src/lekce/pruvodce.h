@@ -8,6 +8,7 @@
 #pragma once
 
 #include "lekce/lekce.h"
+#include "lekce/rada_ukonu.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -20,9 +21,13 @@ namespace lekce {
 enum class Potiz : std::uint8_t {
     zadna,
     prihlaseni,   // the login waits: a lesson that is taken up again
+    obrazovka,    // a maintenance screen covers the desk
+    vypravci,     // the automatic dispatcher has the desk
     pauza,        // the service stands, and the step needs it
     pozde,        // the ten seconds between two picks have run out
     neni_cesta,   // no route leads there
+    makro,        // a macro is being recorded
+    psani,        // the field asks for a text that the step does not need
     jiny_zacatek, // another signal is picked
     jina_nabidka, // the menu of another element is open
     cizi_cesta,   // a route that the lesson does not know
@@ -49,8 +54,8 @@ public:
 
     // A step that is only read has been read; any other is passed over.
     void dal();
-    // The step before, as a text; nothing at the first one. Time is the host's to turn back: to bod_kroku().
-    void na_krok(std::size_t krok);
+    // That step, as a text. Time is the host's to turn back: to bod_kroku(). `proc`: what is said of it.
+    void na_krok(std::size_t krok, Text proc = {});
 
     // --- at any time, without change
 
@@ -68,7 +73,7 @@ public:
     // The act that comes next, of the step or of the mending; none when it is only waited or read.
     const UkonLekce* dalsi_ukon() const;
     // How many acts of the step are done.
-    std::size_t hotovych_ukonu() const { return udelano; }
+    std::size_t hotovych_ukonu() const { return ukony.hotovych(); }
     // The step takes longer than it should: try again.
     bool trva_dlouho() const { return dlouho; }
     // The places on the desk that are pointed at, the one of the next act last. Of a menu entry: none.
@@ -77,49 +82,57 @@ public:
     Text polozka() const;
     // The last moment at which that step or one before it began, and could be gone back to.
     std::optional<Bod> bod_kroku(std::size_t krok) const;
+    // There is a step before this one that can be shown again: it is only read, or time can be turned back to
+    // it.
+    bool lze_zpet() const;
     // Rises with every new one: the host keeps a save of it.
     std::size_t bodu() const { return novych_bodu; }
     // Changes whenever something is to be shown anew.
     std::size_t revize() const { return zmeny; }
 
 private:
-    struct StojiciCesta {
-        std::int16_t zacatek = kZadny, konec = kZadny;
-        bool operator==(const StojiciCesta&) const = default;
+    enum class DruhCesty : std::uint8_t { jakykoli, vlak, posun, pn };
+    struct ZnamaCesta {
+        std::int32_t zacatek = kZadny, konec = kZadny;
+        DruhCesty druh = DruhCesty::jakykoli;
+    };
+    // What has gone another way, what is said of it and what is to be done.
+    struct NalezenaPotiz {
+        Potiz co = Potiz::zadna;
+        Text veta{};
+        std::vector<UkonLekce> naprava{};
     };
 
     void zacni_krok();
-    void cti_ukony();
-    void vrat_ukony();
-    void preskoc_hotove();
-    bool je_hotov(std::size_t i) const;
-    bool je_cesta_kroku(const UkonLekce& u) const;
-    Potiz najdi_potiz();
-    // A route that the lesson does not ask for. `ceka`: something keeps it from being set, so that it cannot
-    // be cancelled at its signal, and under VZ it holds all behind it.
-    struct CiziCesta {
-        int zacatek, konec;
-        bool ceka;
-    };
-    std::optional<CiziCesta> cizi_cesta() const;
+    void jdi_na(std::size_t krok);
+    void poznamenej_cesty_vypravciho();
+    bool vratil_se_cas();
+    NalezenaPotiz najdi_potiz();
+    std::optional<NalezenaPotiz> potiz_stolu() const;
+    std::optional<NalezenaPotiz> potiz_kroku();
+    std::optional<NalezenaPotiz> potiz_cesty() const;
+    std::optional<NalezenaPotiz> potiz_volby() const;
+    bool zna_cestu(int zacatek, int konec, DruhCesty druh) const;
+    bool je_v_ukonech(bool (*jaky)(const Ukon&)) const;
     bool je_nabidka_ukonu() const;
     void oznac_bod();
-    void rekni(Potiz p, Text text);
+    void zacni_ukony_znovu();
+    void rekni(NalezenaPotiz nova);
 
     Lekce tato;
     std::size_t index = 0;
-    std::size_t od_ukonu = 0; // the first act that belongs to the step
-    std::size_t videno = 0;   // acts that have been looked at
-    std::size_t udelano = 0;  // of the step
-    std::int32_t zacal_s = 0; // simulated second in which the step began
+    std::size_t od_ukonu = 0;  // the first act that belongs to the step
+    RadaUkonu ukony;           // of the step
+    std::int32_t zacal_s = 0;  // simulated second in which the step began
+    std::int32_t pokrok_s = 0; // in which another of its acts was done
     bool dlouho = false;
     Text pochvala;
     bool vraceni = false;
     Potiz co_vadi = Potiz::zadna;
     Text veta;
-    std::vector<UkonLekce> naprava;
+    RadaUkonu naprava;                  // of what is wrong
     std::optional<std::size_t> odbocka; // that holds, of the step
-    std::vector<StojiciCesta> zname;    // routes that stood when the lesson began, or that it asks for
+    std::vector<ZnamaCesta> zname;      // routes that stood when the lesson began, or that it asks for
     std::vector<Bod> body;
     std::size_t novych_bodu = 0;
     std::int32_t sekunda_pohledu = kZadny;

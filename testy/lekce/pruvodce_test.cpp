@@ -1,5 +1,6 @@
 // testy/lekce/pruvodce_test.cpp - the guide of a lesson forgives: whatever goes another way is told, put
 // right and walked on from.
+#include "app/historie.h"
 #include "pomocne/zak.h"
 
 namespace {
@@ -106,9 +107,12 @@ TEST_F(PruvodceLekce, SendsToTheStackForARouteThatCannotBeSet) {
     EXPECT_EQ(pruvodce->potiz(), Potiz::cizi_cesta);
     po("cekej 20s");
     EXPECT_EQ(na_utf8(pruvodce->dalsi_ukon()->radek), "klik lblZasobnik_EZ 0");
-    for (const char* radek : {"klik lblZasobnik_EZ", "klik lstZasobnik 0", "klavesa Delete"})
-        skript(radek); // as the text says
-    po("klavesa Esc");
+    for (const char* radek :
+         {"klik lblZasobnik_EZ 0", "klik lstZasobnik 0", "klavesa Delete", "klavesa Esc"}) {
+        ASSERT_NE(pruvodce->dalsi_ukon(), nullptr) << radek;
+        EXPECT_EQ(na_utf8(pruvodce->dalsi_ukon()->radek), radek);
+        po(radek);
+    }
     EXPECT_EQ(pruvodce->potiz(), Potiz::zadna) << na_utf8(pruvodce->text_potizi());
     dokonci_krok();
     EXPECT_EQ(pruvodce->krok(), 6U);
@@ -125,7 +129,7 @@ TEST_F(PruvodceLekce, HasTheMissingRouteOfTheExpressPickedAgain) {
     po("menu miRC");
     po("cekej 10s");
     EXPECT_EQ(pruvodce->potiz(), Potiz::odbocka);
-    EXPECT_EQ(pruvodce->mista().front(), (lekce::Misto{Druh::navestidlo, 222}));
+    EXPECT_EQ(pruvodce->mista().front().n, 222);
     naprav();
     EXPECT_EQ(pruvodce->krok(), 5U);
     dokonci_krok();
@@ -172,6 +176,164 @@ TEST_F(PruvodceLekce, PassesOverAndGoesBack) {
     EXPECT_TRUE(pruvodce->popis().jen_cteni());
     ASSERT_EQ(pruvodce->mista().size(), 3U);
     EXPECT_EQ(pruvodce->mista()[1].poradi, 2);
+}
+
+// Both places are framed at once, so that they can be found before the first click; then the second alone.
+TEST_F(PruvodceLekce, FramesEachActOfAMendInItsTurn) {
+    novy_svet();
+    zacni_lekci(z_instalace("2-posun-a-lokomotiva.lekce"));
+    while (pruvodce->krok() < 5)
+        ASSERT_NO_FATAL_FAILURE(krok_zaka());
+    po("pravy navestidlo 222");
+    po("menu miRC");
+    po("cekej 10s");
+    ASSERT_EQ(pruvodce->potiz(), Potiz::odbocka);
+    ASSERT_EQ(pruvodce->mista().size(), 2U);
+    EXPECT_EQ(pruvodce->mista()[0], (lekce::Misto{Druh::navestidlo, 222, 1, true}));
+    EXPECT_EQ(pruvodce->mista()[1], (lekce::Misto{Druh::cislo_koleje, 27, 2, false}));
+    po("klik navestidlo 222");
+    ASSERT_EQ(pruvodce->mista().size(), 1U);
+    EXPECT_EQ(pruvodce->mista()[0], (lekce::Misto{Druh::cislo_koleje, 27, 2, true}));
+    po("cekej 12s"); // too late: both again
+    EXPECT_EQ(pruvodce->potiz(), Potiz::pozde);
+    po("klavesa Enter");
+    EXPECT_EQ(pruvodce->potiz(), Potiz::odbocka);
+    ASSERT_EQ(pruvodce->mista().size(), 2U);
+    EXPECT_TRUE(pruvodce->mista()[0].ted);
+}
+
+TEST_F(PruvodceLekce, SendsAShuntRouteBackWhereATrainIsToGo) {
+    novy_svet();
+    zacni_lekci(z_instalace("4-poruchy.lekce"));
+    while (pruvodce->krok() < 4)
+        ASSERT_NO_FATAL_FAILURE(krok_zaka());
+    po("klik navestidlo 212 ctrl");
+    po("klik Image1 20");
+    po("cekej 10s");
+    ASSERT_EQ(pruvodce->potiz(), Potiz::cizi_cesta);
+    EXPECT_NE(na_utf8(pruvodce->text_potizi()).find("Ctrl"), std::string::npos);
+    EXPECT_EQ(pruvodce->krok(), 4U);
+    naprav();
+    dokonci_krok();
+    EXPECT_EQ(pruvodce->krok(), 5U);
+}
+
+TEST_F(PruvodceLekce, AsksForTheDeskWhileTheAutomaticDispatcherHasIt) {
+    az_k_volbe();
+    vypravci::predej();
+    pruvodce->pohled();
+    ASSERT_EQ(pruvodce->potiz(), Potiz::vypravci);
+    EXPECT_TRUE(pruvodce->dalsi_ukon()->predani);
+    po("cekej 3min");
+    EXPECT_EQ(pruvodce->krok(), 5U) << "what he does is not done by the pupil";
+    vypravci::vezmi();
+    pruvodce->pohled();
+    EXPECT_NE(pruvodce->potiz(), Potiz::vypravci);
+    EXPECT_NE(pruvodce->potiz(), Potiz::cizi_cesta) << "what he has set is not to be undone";
+}
+
+TEST_F(PruvodceLekce, LeadsOutOfWhatWasOpenedByMistake) {
+    az_k_volbe();
+    po("klik lblZasobnik_EZ");
+    EXPECT_EQ(pruvodce->potiz(), Potiz::obrazovka);
+    naprav();
+    po("pravy cislo_koleje 12");
+    po("menu miSTIT_kolej"); // a question for the text of a note
+    EXPECT_EQ(pruvodce->potiz(), Potiz::psani);
+    naprav();
+    po("klavesa Alt+Shift+Q"); // the recording of a macro
+    EXPECT_EQ(pruvodce->potiz(), Potiz::makro);
+    naprav();
+    dokonci_krok();
+    EXPECT_EQ(pruvodce->krok(), 6U);
+}
+
+// The speed was turned down before: once faster is not fast enough, and it is asked for again.
+TEST_F(PruvodceLekce, AsksAgainForAnActThatHasNotDone) {
+    az_k_volbe();
+    while (pruvodce->krok() < 7)
+        ASSERT_NO_FATAL_FAILURE(krok_zaka());
+    po("pravy lblrychlost_simulace");
+    po("klavesa Num+");
+    ASSERT_EQ(pruvodce->krok(), 7U);
+    for (int i = 0; pruvodce->krok() == 7; ++i) {
+        ASSERT_NO_FATAL_FAILURE(krok_zaka());
+        ASSERT_LT(i, 60) << kde();
+    }
+}
+
+// Back goes only where something can be done again: a text, or a step that time can be turned back to.
+TEST_F(PruvodceLekce, GoesBackOnlyToWhatCanBeDoneAgain) {
+    novy_svet();
+    zacni_lekci(z_instalace("1-prvni-vlak.lekce"));
+    EXPECT_FALSE(pruvodce->lze_zpet()) << "the first step";
+    for (int i = 0; i < 3; ++i)
+        po("klavesa Enter");
+    po("cekej 2s");
+    ASSERT_EQ(pruvodce->krok(), 1U);
+    EXPECT_FALSE(pruvodce->lze_zpet()) << "nobody logs in twice";
+    while (pruvodce->krok() < 4)
+        ASSERT_NO_FATAL_FAILURE(krok_zaka());
+    EXPECT_TRUE(pruvodce->lze_zpet());
+    pruvodce->dal();
+    EXPECT_TRUE(pruvodce->lze_zpet()) << "a text";
+}
+
+// Whoever turns time back himself finds the lesson where it was then.
+TEST_F(PruvodceLekce, GoesBackWithTheClockThatTheOperatorTurnsBack) {
+    az_k_volbe();
+    const auto bod = pruvodce->bod_kroku(3);
+    ASSERT_TRUE(bod);
+    ASSERT_EQ(bod->krok, 3U);
+    dokonci_krok();
+    po("cekej 2s");
+    ASSERT_EQ(vrat_na(bod->sekunda + 1), Navrat::hotovo);
+    pruvodce->pohled();
+    EXPECT_EQ(pruvodce->krok(), 3U);
+    EXPECT_TRUE(pruvodce->je_vraceni());
+    for (int i = 0; pruvodce->krok() < 6; ++i) {
+        ASSERT_NO_FATAL_FAILURE(krok_zaka());
+        ASSERT_LT(i, 600) << kde();
+    }
+}
+
+// Whatever keys and clicks come: a lesson says what to do about it, and doing that leads on.
+TEST_F(PruvodceLekce, LeadsOutOfWhateverAStepWasMessedUpWith) {
+    const std::vector<std::vector<std::string>> omyly = {
+        {"klavesa F10"},
+        {"klavesa F2", "pis nesmysl", "klavesa Enter"},
+        {"klavesa F3"},
+        {"klavesa F8"},
+        {"klavesa Print"},
+        {"klavesa Esc", "klavesa Esc"},
+        {"klavesa Enter", "klavesa Enter"},
+        {"klavesa Alt+Shift+K", "klik navestidlo 317", "klik cislo_koleje 27"},
+        {"klik lblZasobnik_VZ"},
+        {"klik cmTABULKA"},
+        {"pravy navestidlo 317"},
+        {"pravy cislo_koleje 27"},
+        {"pravy cislo_koleje 27", "menu miSTIT_kolej"},
+        {"klik navestidlo 317", "klik cislo_koleje 27"},
+        {"klik navestidlo 317 ctrl", "klik cislo_koleje 27"},
+        {"klik navestidlo 317", "cekej 12s"},
+        {"klik navestidlo 317", "klik navestidlo 317"},
+        {"klavesa Alt+L"},
+        {"klik navestidlo 287 ctrl", "klik navestidlo 601 ctrl", "klik cislo_koleje 12"},
+        {"klik navestidlo 287", "klik navestidlo 601", "klik cislo_koleje 12", "klavesa Esc"},
+    };
+    for (const std::vector<std::string>& omyl : omyly) {
+        az_k_volbe();
+        for (const std::string& radek : omyl)
+            try {
+                po(radek);
+            } catch (const ChybaSkriptu&) { // not there now
+            }
+        po("cekej 2s");
+        for (int i = 0; pruvodce->krok() == 5U; ++i) {
+            ASSERT_NO_FATAL_FAILURE(krok_zaka());
+            ASSERT_LT(i, 600) << omyl.front() << " " << kde() << " " << na_utf8(pruvodce->text_potizi());
+        }
+    }
 }
 
 TEST_F(PruvodceLekce, ChangesNothingOfTheSimulation) {
