@@ -190,9 +190,12 @@ void nakresli_odstavec(QPainter& p, const Meritko& m, const Prvek& prvek, bool z
 }
 
 void nakresli_popis_vozu(QPainter& p, const Meritko& m, const Prvek& prvek) {
-    const double sirka = kSirkaBunky * m.bod(), vyska = kVyskaBunky * m.bod();
+    const double vyska = kVyskaBunky * m.bod();
     double y = m.y(prvek.nahore);
     for (const TextPohled radek : radky_popisu(prvek)) {
+        // a word that is longer than a short vehicle has narrower letters
+        const double sirka = std::min(kSirkaBunky * m.bod(),
+                                      prvek.sirka * m.k / std::max(1.0, static_cast<double>(radek.size())));
         kresli_radek(p, zacatek_radku(m, prvek, sirka * static_cast<double>(radek.size())), y, sirka, vyska,
                      radek, prvek.barva, Znaky::pismena);
         y += vyska;

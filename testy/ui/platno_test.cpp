@@ -362,6 +362,26 @@ TEST_F(Stul, CaptionOfAVehicleKeepsWithinItsPicture) {
     EXPECT_GE(zmenene.boundingRect().bottom(), 766);
 }
 
+TEST_F(Stul, CaptionLongerThanAShortVehicleDoesNotReachOverTheNextOne) {
+    Prvek& popis = relief.lblPopis_vozu[0];
+    popis.viditelny = true;
+    popis.barva = barvy::bila;
+    popis.vlevo = 3000;
+    popis.nahore = 728 * kTwipu;
+    popis.sirka = 34 * kTwipu;
+    popis.text = "362 (651)"; // five letters have 40 pixels
+    platno.obnov();
+    int bilych = 0;
+    for (int y = 728; y < 768; ++y)
+        for (int x = 0; x < 1024; ++x)
+            if (barva_v(x, y).value() > 200) {
+                EXPECT_GE(x, 200);
+                EXPECT_LT(x, 234);
+                bilych += y >= 741 ? 1 : 0;
+            }
+    EXPECT_GT(bilych, 20) << "the second line is there";
+}
+
 // --- letters on a ground of nearly their own light
 
 TEST_F(Stul, LettersOnAGroundTooNearToThemHaveAShadow) {
