@@ -10,9 +10,11 @@
 #include "nakres/koridory.h"
 #include "nakres/obraz.h"
 #include "ui/hlavni_okno.h"
+#include "ui/hodnoceni.h"
 #include "ui/kresba.h"
 #include "ui/kresba_nakresu.h"
 #include "ui/nabidka.h"
+#include "ui/okno_smeny.h"
 #include "ui/parametry.h"
 #include "ui/pismo.h"
 #include "ui/platno.h"
@@ -156,6 +158,10 @@ QImage obraz_stolu(const std::string& okno) {
         return obraz_okna(stul);
     if (okno == "vypravci")
         prepni_okno_vypravciho(&stul);
+    else if (okno == "smena")
+        ukaz_okno_smeny(stul);
+    else if (okno == "hodnoceni")
+        ukaz_hodnoceni(&stul);
     else
         chyba_skriptu("neznámé okno " + v_uvozovkach(okno));
     const QWidgetList okna = QApplication::topLevelWidgets();
