@@ -108,6 +108,7 @@ void Pruvodce::zacni_krok() {
     co_vadi = Potiz::zadna;
     veta.clear();
     naprava = {};
+    mel_ho_vypravci = vypravci::zapnut();
     odbocka.reset();
     ++zmeny;
 }
@@ -339,10 +340,10 @@ void Pruvodce::rekni(NalezenaPotiz nova) {
 // --- the look
 
 // A step can be gone back to from the first whole second on in which nothing was half done: the clock has
-// just shown it, and nobody has acted in it yet.
+// just shown it, and nobody has acted in it yet; nor has the dispatcher in the step.
 void Pruvodce::oznac_bod() {
     const std::int32_t ted = cas_hodin();
-    if (ukony.hotovych() > 0 || !je_cisto() || simulace.pauza || co_vadi != Potiz::zadna ||
+    if (mel_ho_vypravci || ukony.hotovych() > 0 || !je_cisto() || simulace.pauza || co_vadi != Potiz::zadna ||
         (!body.empty() && body.back().krok >= index))
         return;
     if (!ukony_smeny.ukony.empty() && ukony_smeny.ukony.back().cas == ted && je_cin(ukony_smeny.ukony.back()))
@@ -367,6 +368,7 @@ bool Pruvodce::vratil_se_cas() {
 void Pruvodce::poznamenej_cesty_vypravciho() {
     if (!vypravci::zapnut())
         return;
+    mel_ho_vypravci = true;
     for (const Cesta& c : cesty)
         if (c.zacatek >= 0 && !std::any_of(zname.begin(), zname.end(), [&c](const ZnamaCesta& z) {
                 return z.zacatek == c.zacatek && z.konec == c.konec && z.druh == DruhCesty::jakykoli;
@@ -463,7 +465,12 @@ std::optional<Bod> Pruvodce::bod_kroku(std::size_t krok) const {
 }
 
 bool Pruvodce::lze_zpet() const {
-    return index > 0 && (tato.kroky.at(index - 1).jen_cteni() || bod_kroku(index - 1).has_value());
+    if (index == 0)
+        return false;
+    const Krok& pred = tato.kroky.at(index - 1);
+    return std::all_of(pred.hotovo.begin(), pred.hotovo.end(),
+                       [](const Podminka& p) { return p.fakt == Fakt::ukon && !p.ne; }) ||
+           bod_kroku(index - 1).has_value();
 }
 
 } // namespace lekce

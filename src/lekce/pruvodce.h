@@ -130,6 +130,7 @@ private:
     bool vraceni = false;
     Potiz co_vadi = Potiz::zadna;
     Text veta;
+    bool mel_ho_vypravci = false;       // the step, a part of it at least
     RadaUkonu naprava;                  // of what is wrong
     std::optional<std::size_t> odbocka; // that holds, of the step
     std::vector<ZnamaCesta> zname;      // routes that stood when the lesson began, or that it asks for

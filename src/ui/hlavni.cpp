@@ -24,6 +24,7 @@
 #include "ui/prirucka.h"
 #include "ui/signaly.h"
 #include "ui/uvod.h"
+#include "ui/vyber_lekci.h"
 #include "ui/vzhled.h"
 #include "ui/zvuk.h"
 #include "vypravci/vypravci.h"

@@ -6,12 +6,12 @@
 #include "obsluha/vstup.h"
 #include "ui/brana.h"
 #include "ui/kresba.h"
-#include "ui/lekce.h"
 #include "ui/paleta.h"
 #include "ui/pismo.h"
 #include "ui/platforma_qt.h"
 #include "ui/pohled.h"
 #include "ui/uvod.h"
+#include "ui/vyber_lekci.h"
 #include "ui/vzhled.h"
 #include "zaklad/soubory.h"
 

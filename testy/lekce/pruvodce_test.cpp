@@ -230,6 +230,10 @@ TEST_F(PruvodceLekce, AsksForTheDeskWhileTheAutomaticDispatcherHasIt) {
     pruvodce->pohled();
     EXPECT_NE(pruvodce->potiz(), Potiz::vypravci);
     EXPECT_NE(pruvodce->potiz(), Potiz::cizi_cesta) << "what he has set is not to be undone";
+    po("cekej 2s");
+    const auto bod = pruvodce->bod_kroku(5);
+    ASSERT_TRUE(bod);
+    EXPECT_LT(bod->sekunda, cas_hodin() - 150) << "back means before him";
 }
 
 TEST_F(PruvodceLekce, LeadsOutOfWhatWasOpenedByMistake) {

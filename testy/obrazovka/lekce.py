@@ -1,6 +1,7 @@
 #!/usr/bin/python3
 # testy/obrazovka/lekce.py - the first lesson walked on a screen by a pupil who clicks where the frame stands, on the
-# entry that is framed and on the buttons of the panel, and nowhere else; left in its middle, and taken up again.
+# entry that is framed and on the buttons of the panel, and nowhere else; its panel dragged, worked by keys, left and
+# come back to; the program killed in its middle, and the lesson taken up again.
 import os
 import sys
 import time
@@ -22,7 +23,13 @@ class Zak(s.Stul):
             return {"krok": "-1"}
         co = {slovo: text for slovo, _, text in radky}
         co["misto"] = [tuple(map(int, text.split())) for slovo, _, text in radky if slovo == "misto"]
+        tlacitka = [text.split(" ", 2) for slovo, _, text in radky if slovo == "tlacitko"]
+        co["tlacitka"] = {napis: (int(x), int(y)) for x, y, napis in tlacitka}
         return co
+
+    def panel(self):
+        """(x, y, width, height) of the panel."""
+        return tuple(map(int, self.lekce()["panel"].split()))
 
     def dalsi(self, predtim):
         """Until the lesson shows something else."""
@@ -69,14 +76,33 @@ class Zak(s.Stul):
             if krok not in videno:
                 videno.append(krok)
                 self.obraz("krok_%02d" % krok)
-            if co.get("dal") and (co["cte"] == "1"):
-                self.klikni(*map(int, co["dal"].split()))
+            dal = co["tlacitka"].get("Dál") or co["tlacitka"].get("Zavřít lekci")
+            if dal:
+                self.klikni(*dal)
                 self.dalsi(co)
             elif co["ukon"] and (not co["ukon"].startswith("menu") or co.get("polozka")):
                 self.udelej(co)
                 self.dalsi(co)
             else:
                 self.preskoc(2)
+
+
+    def stiskni(self, napis, co, podminka):
+        """Clicks on that button of the panel; until it has its effect."""
+        self.klikni(*self.lekce()["tlacitka"][napis])
+        self.cekej(co, lambda: self.bez_vad() or podminka(self.lekce()))
+
+    def tahni(self, kam_x, kam_y):
+        """Takes the panel by its title and drags it so that its corner would come there."""
+        x, y, sirka, _ = self.panel()
+        od_x, od_y = x + sirka // 2, y + 12
+        na_obrazovku = lambda kde, nejvic: max(0, min(nejvic - 1, kde))
+        self.ukaz(od_x, od_y)
+        self.xdotool("mousedown", 1)
+        for i in (1, 2, 3):
+            self.ukaz(na_obrazovku(od_x + (kam_x - x) * i // 3, self.sirka),
+                      na_obrazovku(od_y + (kam_y - y) * i // 3, self.vyska))
+        self.xdotool("mouseup", 1)
 
 
 def vyber_lekci(stul):
@@ -89,8 +115,42 @@ def vyber_lekci(stul):
     stul.tiskni("Return", "začátek lekce", lambda: not s.je_formular(stul.obraz()), 3)
 
 
+def zkus_panel(stul):
+    """What hands do with the panel: at the step of the three clicks."""
+    stul.cekej("krok tří klepnutí", lambda: stul.lekce()["krok"] == "5")
+    # dragged it goes no further than the edge, and stays there; from over a place it steps aside
+    roh = lambda: (stul.panel()[0] + stul.panel()[2], stul.panel()[1] + stul.panel()[3])
+    stul.tahni(3000, 3000)
+    stul.cekej("panel v rohu", lambda: roh() == (stul.sirka, stul.vyska))
+    x, y = stul.lekce()["misto"][-1]
+    stul.tahni(x - 20, y - 20)
+    stul.cekej("panel vedle místa", lambda: roh() != (stul.sirka, stul.vyska) and not (
+        stul.panel()[0] <= x < roh()[0] and stul.panel()[1] <= y < roh()[1]))
+    stul.tahni(3000, 3000)
+    stul.cekej("panel zase v rohu", lambda: roh() == (stul.sirka, stul.vyska))
+    # a step that was begun is begun again: time goes back
+    stul.klikni(*stul.lekce()["misto"][-1])
+    stul.cekej("první klepnutí", lambda: stul.lekce()["udelano"] == "1")
+    assert roh() == (stul.sirka, stul.vyska)
+    stul.stiskni("Zkusit znovu", "vrácený čas", lambda co: co["udelano"] == "0" and "Čas se vrátil" in co["receno"])
+    stul.stiskni("Zpět", "předchozí text", lambda co: co["krok"] == "4" and "Dál" in co["tlacitka"])
+    # by keys: the text has been read, and the keys are the desk's again
+    stul.klavesa("shift+F1")
+    stul.tiskni("Return", "přečtený text", lambda: stul.lekce()["krok"] == "5")
+    stul.tiskni("F10", "zastavené hodiny", lambda: "F10" in stul.lekce()["potiz"])
+    stul.tiskni("F10", "jdoucí hodiny", lambda: not stul.lekce()["potiz"])
+    # left by mistake, and come back to
+    stul.stiskni("Opustit", "stůl bez lekce", lambda co: co["krok"] == "-1")
+    okna = stul.okna()
+    stul.tiskni("shift+F1", "otázka", lambda: stul.okna() > okna)
+    stul.tiskni("Return", "zase lekce", lambda: stul.lekce()["krok"] == "5")
+    stul.obraz("panel")
+
+
 stul = Zak(program, slozka, velikost, meritko)
 vyber_lekci(stul)
+stul.projdi(do_kroku=5)
+zkus_panel(stul)
 stul.projdi(do_kroku=9)
 stul.bez_vad()
 stul.konec()

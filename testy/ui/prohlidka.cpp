@@ -431,11 +431,12 @@ void zapis_lekci() {
     QString obsah;
     QTextStream lekce(&obsah);
     lekce << "krok " << l.krok << "\nudelano " << l.udelano << "\nnadpis " << l.nadpis << "\nukon " << l.ukon
-          << "\npotiz " << l.potiz << "\ncte " << (l.cte_se ? 1 : 0) << '\n';
+          << "\npotiz " << l.potiz << "\nreceno " << l.receno << "\ncte " << (l.cte_se ? 1 : 0) << "\npanel "
+          << l.panel.x() << ' ' << l.panel.y() << ' ' << l.panel.width() << ' ' << l.panel.height() << '\n';
     for (const QRect& m : l.mista)
         lekce << "misto " << m.center().x() << ' ' << m.center().y() << '\n';
-    if (!l.dal.isEmpty())
-        lekce << "dal " << l.dal.center().x() << ' ' << l.dal.center().y() << '\n';
+    for (const TlacitkoLekce& t : l.tlacitka)
+        lekce << "tlacitko " << t.misto.center().x() << ' ' << t.misto.center().y() << ' ' << t.napis << '\n';
     for (const PolozkaMenu& p : menu.polozky)
         if (p.jmeno == z_qstring(l.polozka))
             lekce << "polozka " << na_qstring(p.text) << '\n';

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <vector>
+
 TEST(UmisteniOken, WindowsGrowWithTheScreenAndNeverBeyondIt) {
     constexpr QSize kFormular(820, 640); // no window is larger on the screen of the desk
     double minule = 1;
@@ -34,4 +36,31 @@ TEST(UmisteniOken, WindowThatWouldCoverTheFoundTrainGivesWayToTheOtherSide) {
 TEST(UmisteniOken, WindowTooWideForEitherSideStaysWhereItIs) {
     constexpr QRect plocha(0, 50, 1024, 550), siroke(100, 50, 824, 550);
     EXPECT_EQ(misto_stranou(siroke, plocha, {500, 200, 60, 20}), siroke.topLeft());
+}
+
+TEST(UmisteniOken, PanelStandsBesideThePlacesThatItTellsOf) {
+    constexpr QRect plocha(0, 50, 1024, 550);
+    constexpr QSize panel(372, 250);
+    const std::vector<QRect> mista = {{100, 100, 30, 30}, {480, 300, 30, 30}, {900, 500, 30, 30}};
+    const QRect kde(misto_panelu(panel, plocha, mista, {}), panel);
+    EXPECT_TRUE(plocha.contains(kde));
+    EXPECT_EQ(zakryje_mist(kde, mista), 0);
+    // among free rooms the one with fewer signs
+    std::vector<QPoint> znacky;
+    for (int x = 5; x < 1024; x += 10)
+        for (int y = 55; y < 600; y += 10)
+            if (x < 640)
+                znacky.emplace_back(x, y);
+    EXPECT_GE(misto_panelu(panel, plocha, {}, znacky).x(), 630);
+}
+
+TEST(UmisteniOken, PanelThatMustCoverAPlaceCoversAsFewAsCanBeAndStaysInSight) {
+    constexpr QRect plocha(0, 50, 600, 300);
+    constexpr QSize panel(400, 280);
+    const std::vector<QRect> mista = {
+        {10, 60, 30, 30}, {60, 60, 30, 30}, {560, 60, 30, 30}, {300, 200, 30, 30}};
+    const QRect kde(misto_panelu(panel, plocha, mista, {}), panel);
+    EXPECT_TRUE(plocha.contains(kde));
+    EXPECT_EQ(zakryje_mist(kde, mista), 1);
+    EXPECT_EQ(misto_panelu({700, 400}, plocha, mista, {}), plocha.topLeft());
 }
