@@ -11,9 +11,9 @@
 //                                      and below, pixels of the desk
 //   formular JMENO                     the start screen as it stands; before the start
 //   nabidka JMENO                      the menu that is open; it is closed
-//   okno JMENO KTERE [X Y S V]         the desk as a window (stul), or one that opens beside it: the dispatcher's
-//                                      (vypravci), that of the shift (smena), the assessment (hodnoceni); all of
-//                                      it or that part, in pixels of the window
+//   okno JMENO KTERE [X Y S V]         the desk as a window (stul), or one beside it: the dispatcher's
+//                                      (vypravci), that of the shift (smena), the assessment (hodnoceni);
+//                                      all of it or that part, in pixels of the window
 //   nakres JMENO TRAT OD DO S V        the time-distance diagram of that line (data/tesk.kor), from so many
 //   minutes
 //                                      before now to so many after it, on so many pixels
