@@ -143,6 +143,7 @@ void ohlas_nenalezenou(int druh, bool automaticky) {
     vyber.volba_navestidlo = kZadny;
     vyber.volba_zacatek = kZadny;
     vyber.volba_konec = kZadny;
+    vyber.volba_cas = kZadny; // nothing is picked any more that could run out of time
 }
 
 int konec_druhe_casti(const uzel::DvojityKonec& d, int druh) {

@@ -529,6 +529,18 @@ TEST_F(Volba, FailedFirstPartEndsTheDoublePick) {
     EXPECT_EQ(pipnuto(100, 200), 1u);
 }
 
+TEST_F(Volba, FailedDoublePickCannotRunOutOfTime) {
+    zat = {prima(73, 620)};
+    postav_tabulky();
+    vyber.volba_zacatek = 624;
+    vyber.volba_druh = 1;
+    vyber.volba_cas = platforma.nastenny_cas().sekundy_dne() - 60;
+    klik_cil(620);
+    hlidej_cas_volby();
+    EXPECT_EQ(relief.lblVolba[0].text, Text(" Cesta nenalezena v závěrové tabulce ! "_cz));
+    EXPECT_EQ(pipnuto(100, 200), 1u);
+}
+
 TEST_F(Volba, NumbersOfEndsAreFolded) {
     zat = {prima(240, 41), prima(240, 118), prima(240, 604), prima(240, 12)};
     postav_tabulky();
