@@ -7,6 +7,7 @@
 #include "davka/virtualni_svet.h"
 #include "davka/vypisy.h"
 #include "desk/menu.h"
+#include "desk/zprava.h"
 #include "obsluha/klavesy.h"
 #include "obsluha/ukony.h"
 #include "obsluha/vstup.h"
@@ -31,6 +32,22 @@ CilRuky prvek_ruky(Slova slova) {
     if (!tabulka(*cil.druh).je(cil.cislo))
         chyba_skriptu("prvek " + cil.slovo + " " + std::to_string(cil.cislo) + " neexistuje");
     return {*cil.druh, cil.cislo};
+}
+
+// The word of a message stands in its place in the dark half of its flashing too.
+bool je_videt(const CilRuky& cil) {
+    if (!je_cast_stolu(cil.druh))
+        return true;
+    return cil.druh == Druh::lblPrikaz ? prikaz_radek.obsazen : tabulka(cil.druh)[cil.cislo].viditelny();
+}
+
+// The element that a button is pressed on. A part of the desk that is hidden takes no button; in a record the
+// automatic dispatcher, too, has reached for the pictures of a train that is longer than the panel.
+CilRuky stisknuty_prvek(const BehSkriptu& beh, Slova slova) {
+    const CilRuky cil = prvek_ruky(slova);
+    if (!beh.prehrava && !je_videt(cil))
+        chyba_skriptu("prvek " + slova[0] + " " + std::to_string(cil.cislo) + " není vidět");
+    return cil;
 }
 
 // --- left clicks
@@ -65,9 +82,9 @@ void klik_radku(Slova slova, Seznam& seznam) {
     klik_na_radek(seznam, static_cast<int>(cislo_slova(slova[1], 0, radku - 1, "řádek seznamu")));
 }
 
-void klik_prvku(Slova slova) {
+void klik_prvku(const BehSkriptu& beh, Slova slova) {
     const bool ctrl = slova.size() > 1 && slova.back() == "ctrl";
-    const CilRuky cil = prvek_ruky(ctrl ? slova.first(slova.size() - 1) : slova);
+    const CilRuky cil = stisknuty_prvek(beh, ctrl ? slova.first(slova.size() - 1) : slova);
     klik(cil.druh, cil.cislo, Tlacitko::leve, ctrl);
 }
 
@@ -84,22 +101,22 @@ void prikaz_klik(BehSkriptu& beh, Slova slova) {
     } else if (Seznam* seznam = seznam_podle_jmena(slova[0])) {
         klik_radku(slova, *seznam);
     } else {
-        klik_prvku(slova);
+        klik_prvku(beh, slova);
     }
 }
 
-void prikaz_pravy(BehSkriptu&, Slova slova) {
-    const CilRuky cil = prvek_ruky(slova);
+void prikaz_pravy(BehSkriptu& beh, Slova slova) {
+    const CilRuky cil = stisknuty_prvek(beh, slova);
     klik(cil.druh, cil.cislo, Tlacitko::prave, false);
 }
 
-void prikaz_prostredni(BehSkriptu&, Slova slova) {
-    const CilRuky cil = prvek_ruky(slova);
+void prikaz_prostredni(BehSkriptu& beh, Slova slova) {
+    const CilRuky cil = stisknuty_prvek(beh, slova);
     klik(cil.druh, cil.cislo, Tlacitko::prostredni, false);
 }
 
-void prikaz_dvojklik(BehSkriptu&, Slova slova) {
-    const CilRuky cil = prvek_ruky(slova);
+void prikaz_dvojklik(BehSkriptu& beh, Slova slova) {
+    const CilRuky cil = stisknuty_prvek(beh, slova);
     dvojklik(cil.druh, cil.cislo);
 }
 

@@ -437,12 +437,6 @@ constexpr auto kSlovaVypisu = [] {
     return slova;
 }();
 
-// Kinds of the layout are many and need a number; the parts of the desk are one of each, or their
-// first is meant.
-bool potrebuje_cislo(Druh druh) {
-    return druh <= Druh::lblPN;
-}
-
 bool je_cara(Druh druh) {
     return druh == Druh::kolej || druh == Druh::most;
 }
@@ -511,6 +505,10 @@ void pridej_radek_tabulky(ZaznamJsonu& z, const Cil& cil) {
 
 } // namespace
 
+bool je_cast_stolu(Druh druh) {
+    return druh > Druh::lblPN;
+}
+
 Cil precti_cil(std::span<const std::string> slova) {
     if (slova.empty())
         chyba_skriptu("chybí, čeho se příkaz týká");
@@ -535,7 +533,7 @@ Cil precti_cil(std::span<const std::string> slova) {
     if (const auto cislo = dalsi ? cele_cislo(slova[1], -32768, 32767) : std::nullopt) {
         cil.cislo = static_cast<int>(*cislo);
         cil.slov = 2;
-    } else if (potrebuje_cislo(*cil.druh)) {
+    } else if (!je_cast_stolu(*cil.druh)) {
         chyba_skriptu("za " + v_uvozovkach(cil.slovo) + " chybí číslo prvku" +
                       (dalsi ? ", je tam " + v_uvozovkach(slova[1]) : std::string()));
     } else {

@@ -24,6 +24,10 @@ struct Cil {
 // element 0 without one. An unknown word is an error of the script.
 Cil precti_cil(std::span<const std::string> slova);
 
+// A part of the desk, not of the layout. Elements of the layout are many and need a number; of the desk's own
+// there is one of each, or the first is meant.
+bool je_cast_stolu(Druh druh);
+
 // The record that `vypis` prints for the target. Beeps and boxes are looked at, not taken away.
 ZaznamJsonu vypis(const Cil& cil);
 // After `vypis pipnuti` and `vypis okna`: what has been printed is forgotten.

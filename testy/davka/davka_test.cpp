@@ -288,6 +288,24 @@ TEST_F(Davka, HandsNeedAnElementThatExists) {
     EXPECT_TRUE(obsahuje(duvod(kStart + "klavesa F99\n"), "pult nezná"));
 }
 
+TEST_F(Davka, PartOfTheDeskThatIsNotSeenTakesNoButton) {
+    EXPECT_EQ(duvod(kStart + "klik imgObrzaek_vlaku 0\n"), "řádek 3: prvek imgObrzaek_vlaku 0 není vidět\n");
+    EXPECT_EQ(duvod(kStart + "nastav imgUloz viditelny=ne\nklik imgUloz\n"),
+              "řádek 4: prvek imgUloz 0 není vidět\n");
+    EXPECT_EQ(duvod(kStart + "nastav lblrychlost_simulace viditelny=ne\npravy lblrychlost_simulace\n"),
+              "řádek 4: prvek lblrychlost_simulace 0 není vidět\n");
+    EXPECT_EQ(duvod(kStart + "klik lblVolba\n"), "řádek 3: prvek lblVolba 0 není vidět\n");
+    vypis(kStart + "klavesa F2\nklik lblVolba\nover prikaz viditelny=ne\n");
+}
+
+TEST_F(Davka, WordThatFlashesTakesTheButtonInItsDarkHalf) {
+    vypis(kStart + "pravy cislo_koleje 63\nmenu miSTIT_kolej\npis pozor\nklavesa Enter\n"
+                   "klik navestidlo 262\nklik Image1 63\nkrok blikani\nover lblPrikaz viditelny=ne\n"
+                   "over prikaz prikaz=\" POZOR STITEK \" viditelny=ano\nklik lblPrikaz\n"
+                   "over prikaz viditelny=ne\n");
+    EXPECT_TRUE(obsahuje(duvod(kStart + "klik lblPrikaz\n"), "není vidět"));
+}
+
 TEST_F(Davka, MenuNeedsAnEntryThatCanBeChosen) {
     EXPECT_EQ(duvod(kStart + "menu miVC\n"), "řádek 3: žádné menu není otevřené\n");
 }
