@@ -52,6 +52,8 @@ bool makro_se_zaznamenava() {
 }
 
 void zacni_makro(char pismeno) {
+    if (makro_se_zaznamenava())
+        odznac_kroky(); // the recording that this one takes the place of
     vyber.makro_zaznam = true;
     vyber.makro_pismeno = orez(TextPohled(&pismeno, 1)); // the blank is no letter: such a macro is never kept
     vyber.makro_kroky = {KrokMakra{}};

@@ -58,6 +58,16 @@ TEST_F(Makra, EscDropsTheRecording) {
     EXPECT_TRUE(ulozena().empty());
 }
 
+TEST_F(Makra, NewRecordingTakesThePictureOfTheOldOneAway) {
+    zacni_makro('A');
+    klik(240);
+    klik_cil(41);
+    zacni_makro('B');
+    EXPECT_FALSE(relief.navestidlo[240].ramecek);
+    EXPECT_EQ(relief.lblMakro_pismeno[0].text(), " B ");
+    EXPECT_EQ(vyber.makro_kroky, std::vector<KrokMakra>(1));
+}
+
 TEST_F(Makra, NewMacroStandsBehindTheLastByte) {
     for (const char pismeno : {'A', 'B', 'A'}) {
         zacni_makro(pismeno);
