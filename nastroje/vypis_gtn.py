@@ -131,7 +131,7 @@ class Kolejiste:
         cislo, levy, pravy = int(s[0]), s[1], s[2]
         slova = s[3:]
         delka = int(slova.pop(0)[:-1]) if slova and re.fullmatch(r"\d+m", slova[0]) else 60
-        stitek = slova[slova.index("stitek") + 1] if "stitek" in slova else ""
+        stitek = slova[slova.index("stitek") + 1].strip() if "stitek" in slova else ""
         cil = ""
         if "cil" in slova:
             za = slova[slova.index("cil") + 1:]

@@ -71,11 +71,11 @@ void pridej_druhy_stitek(Kolej& k) {
     k.stitky[1] = Stitek{k.stitky[0]->nazev, k.stitky[0]->sirka, std::nullopt};
 }
 
-// A target without a name of its own is called after the label.
+// A target without a name of its own is called after the label, without the blanks beside it.
 void pojmenuj_cil(Veta& v, Kolej& k) {
     if (!k.stitky[0] && !k.jediny_vpravo)
         nesrozumitelne("cíl bez štítku potřebuje vlastní název");
-    k.cil = v.se_stanici(k.stitky[0] ? k.stitky[0]->nazev : k.jediny_vpravo->nazev);
+    k.cil = v.se_stanici(Text(orez((k.stitky[0] ? k.stitky[0] : k.jediny_vpravo)->nazev)));
 }
 
 void cti_kolej(Veta& v) {

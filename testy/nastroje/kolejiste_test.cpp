@@ -279,6 +279,13 @@ TEST(KresbaKolejiste, SecondLabelCarriesTheNumberPlusTwoHundredAndTheSameName) {
     EXPECT_EQ(p.zaznam(TypReliefu::cil, 63)->nazev, "BOR druhá"_cz);
 }
 
+TEST(KresbaKolejiste, TargetIsCalledAfterItsLabelWithoutTheBlanksBesideTheName) {
+    const Preklad p(s_radkem("kolej 65 0,8 9,8 90m stitek \" X9 \" cil\nokraj 65:vlevo 65:vpravo"));
+    ASSERT_NE(p.zaznam(TypReliefu::cislo_koleje, 65), nullptr);
+    EXPECT_EQ(p.zaznam(TypReliefu::cislo_koleje, 65)->nazev, " X9 ");
+    EXPECT_EQ(p.zaznam(TypReliefu::cil, 65)->nazev, "BOR X9");
+}
+
 TEST(KresbaKolejiste, BlockMovesAsAWhole) {
     std::string jinde(kMale);
     jinde.replace(jinde.find("jeden 10,5"), 10, "jeden 15,8");

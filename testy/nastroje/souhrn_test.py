@@ -23,8 +23,8 @@ class Souhrn(unittest.TestCase):
 
     def test_map_names_and_measures_the_tracks_as_the_sources_do(self):
         zdroje = "\n".join(z.read_text(encoding="utf-8") for z in (STROM / "kolejiste").glob("*.tk"))
-        koleje = {cislo: (jmeno, delka) for cislo, delka, jmeno in re.findall(
-            r"^kolej +(\d+) [^#\n]*?(\d+)m[^#\n]*? stitek (\S+)", zdroje, re.M)}
+        koleje = {cislo: (jmeno.strip(' "'), delka) for cislo, delka, jmeno in re.findall(
+            r'^kolej +(\d+) [^#\n]*?(\d+)m[^#\n]*? stitek ("[^"]*"|\S+)', zdroje, re.M)}
         mapa = (STROM / "docs" / "mapa.md").read_text(encoding="utf-8")
         tabulky = re.findall(r"^\| kolej \|(.*)\|\n\|[-|]*\n\| číslo \|(.*)\|\n\| délka m \|(.*)\|$", mapa, re.M)
         self.assertGreater(len(tabulky), 12)
