@@ -29,6 +29,7 @@
 #include <array>
 #include <cstdint>
 #include <initializer_list>
+#include <optional>
 #include <vector>
 
 namespace {
@@ -54,9 +55,8 @@ struct VidenaCesta {
     bool Provedena = false;
     bool zavirala = false; // its crossing was closing or closed
 };
-struct VidenaSipka {
+struct VidenaSipka { // one that shone and told a direction
     std::int16_t cislo = 0;
-    bool svitila = false;
     Text smer;
 };
 struct Videno {
@@ -67,6 +67,7 @@ struct Videno {
     std::vector<VidenaCesta> cesty;
     bool pohled = false; // the routes have been looked at before
     std::vector<VidenaSipka> sipky;
+    std::optional<std::uint64_t> revize_sipek; // of the relief, when they were read
 };
 Videno videno;
 
@@ -103,10 +104,12 @@ struct NaKoleji {
     std::int16_t prvni = kZadny; // index of a train that holds it
     bool vice = false;           // another one holds it too
 };
-std::array<NaKoleji, kNejvyssiPrvek + 1> na_kolejich;
+using VlakyNaKolejich = std::array<NaKoleji, kNejvyssiPrvek + 1>;
+constexpr VlakyNaKolejich kPrazdneKoleje{};
+VlakyNaKolejich na_kolejich;
 
 void seber_vlaky_na_kolejich() {
-    na_kolejich.fill({});
+    na_kolejich = kPrazdneKoleje;
     for (std::size_t i = 0; i < vlaky.size(); ++i) {
         const Vlak& v = vlaky[i];
         if (v.cislo < 1)
@@ -482,8 +485,8 @@ bool vede_k_vlaku(int n) {
 // A direction is given up before the other one is taken; under a train nobody takes it.
 Nalez smery_trati() {
     for (const VidenaSipka& drive : videno.sipky)
-        if (drive.svitila && !drive.smer.empty() && relief.lblSouhlas2.je(drive.cislo) &&
-            jsou_vlaky_u_sipky(drive.cislo) && !vede_k_vlaku(drive.cislo)) {
+        if (relief.lblSouhlas2.je(drive.cislo) && jsou_vlaky_u_sipky(drive.cislo) &&
+            !vede_k_vlaku(drive.cislo)) {
             const Prvek& sipka = relief.lblSouhlas2[drive.cislo];
             if (sipka.barva == barvy::azurova && !orez(sipka.text()).empty() &&
                 orez(sipka.text()) != TextPohled(drive.smer))
@@ -536,13 +539,14 @@ void zapamatuj_cesty() {
     videno.pohled = true;
 }
 void zapamatuj_sipky() {
+    if (videno.revize_sipek == revize_reliefu)
+        return;
+    videno.revize_sipek = revize_reliefu;
     videno.sipky.clear();
     for (int n = 0; n <= relief.lblSouhlas2.nejvyssi(); ++n)
-        if (relief.lblSouhlas2.je(n)) {
-            const Prvek& sipka = relief.lblSouhlas2[n];
-            videno.sipky.push_back(
-                {static_cast<std::int16_t>(n), sipka.barva == barvy::azurova, Text(orez(sipka.text()))});
-        }
+        if (relief.lblSouhlas2.je(n) && relief.lblSouhlas2[n].barva == barvy::azurova)
+            if (const TextPohled smer = orez(relief.lblSouhlas2[n].text()); !smer.empty())
+                videno.sipky.push_back({static_cast<std::int16_t>(n), Text(smer)});
 }
 
 // A train that was shortened is seen for the first time.

@@ -18,6 +18,7 @@
 #include <bitset>
 #include <cstdint>
 #include <initializer_list>
+#include <optional>
 #include <vector>
 
 namespace {
@@ -60,7 +61,13 @@ struct Majitele {
 Majitele majitele;
 
 // Trains on the switches at the last look.
-std::array<std::int16_t, kPrvku> drive_na_vyhybce{};
+using VlakyNaVyhybkach = std::array<std::int16_t, kPrvku>;
+constexpr VlakyNaVyhybkach kZadneVlaky = [] {
+    VlakyNaVyhybkach zadne{};
+    zadne.fill(kZadny);
+    return zadne;
+}();
+VlakyNaVyhybkach drive_na_vyhybce{};
 
 // A train that leaves the junction before its tail has left a switch leaves it occupied, and NOUZ is the
 // operator's way.
@@ -78,7 +85,7 @@ template <class Co> void projdi_drzene(const Vlak& v, Co co) {
 }
 
 void zapamatuj_vyhybky() {
-    drive_na_vyhybce.fill(kZadny);
+    drive_na_vyhybce = kZadneVlaky;
     for (std::size_t i = 0; i < vlaky.size(); ++i)
         projdi_drzene(vlaky[i], [i](int n, bool vyhybka) {
             if (vyhybka && n >= 0 && n <= kNejvyssiPrvek)
@@ -157,23 +164,55 @@ bool je_jen_obraz(int n) {
     return n == 4 || vzor_zrcadla(n) >= 0;
 }
 
+// The elements that somebody must own: tracks that are coloured, switches occupied or locked, signals at
+// proceed. They are few, and are looked up among all when one of them changes.
+struct NeniVKlidu {
+    std::optional<std::uint64_t> revize;
+    std::vector<int> koleje, vyhybky, navestidla;
+};
+NeniVKlidu neni_v_klidu;
+
+void pridej_navestidla(const TabulkaPrvku& tabulka_navestidel) {
+    for (int n = 1; n <= tabulka_navestidel.nejvyssi(); ++n) {
+        if (!tabulka_navestidel.je(n))
+            continue;
+        const Barva barva = tabulka_navestidel[n].barva;
+        if (barva == barvy::zelena || barva == barvy::bila)
+            neni_v_klidu.navestidla.push_back(n);
+    }
+}
+
+void najdi_co_neni_v_klidu() {
+    if (neni_v_klidu.revize == revize_stavu)
+        return;
+    neni_v_klidu = {revize_stavu, {}, {}, {}};
+    for (int n = 1; n <= relief.kolej.nejvyssi(); ++n) {
+        if (!relief.kolej.je(n))
+            continue;
+        const Barva barva = relief.kolej[n].barva;
+        if (barva != barvy::seda && barva != barvy::purpurova && !je_jen_obraz(n))
+            neni_v_klidu.koleje.push_back(n);
+    }
+    for (int n = 0; n <= relief.imgVyhybka.nejvyssi(); ++n)
+        if (relief.imgVyhybka.je(n) && !relief.imgVyhybka[n].stav->empty() &&
+            stav_vyhybky_cislo(n) >= stav_vyhybky::vlak)
+            neni_v_klidu.vyhybky.push_back(n);
+    pridej_navestidla(relief.navestidlo);
+    pridej_navestidla(relief.navestidlo_ser);
+}
+
 void over_kolej(int n, Prestupky& nalezy) {
-    const Barva barva = relief.kolej[n].barva;
-    if (barva == barvy::seda || barva == barvy::purpurova || je_jen_obraz(n) || je(majitele.vlak_kolej, n))
+    if (je(majitele.vlak_kolej, n))
         return;
     const auto cislo = static_cast<std::int16_t>(n);
-    if (barva == barvy::cervena)
+    if (relief.kolej[n].barva == barvy::cervena)
         nalezy.push_back({Pravidlo::volna_obsazena, cislo});
     else if (!je(majitele.cesta_kolej, n) && !odjete.test(static_cast<std::size_t>(n)))
         nalezy.push_back({Pravidlo::volna_uzavrena, cislo});
 }
 
 void over_vyhybku(int n, Prestupky& nalezy) {
-    if (relief.imgVyhybka[n].stav->empty())
-        return;
     const int stav = stav_vyhybky_cislo(n);
-    if (stav < stav_vyhybky::vlak)
-        return;
     const auto cislo = static_cast<std::int16_t>(n);
     if (vyhybka_v_pohybu(n))
         nalezy.push_back({Pravidlo::pohyb_vyhybky, cislo});
@@ -186,16 +225,6 @@ void over_vyhybku(int n, Prestupky& nalezy) {
     if (!obsazena && !je(majitele.cesta_vyhybka, n) && !je(majitele.vlak_vyhybka, n))
         nalezy.push_back(
             {je(majitele.zadana_vyhybka, n) ? Pravidlo::poloha_vyhybky : Pravidlo::zaver_vyhybky, cislo});
-}
-
-void over_navestidla(const TabulkaPrvku& tabulka_navestidel, Prestupky& nalezy) {
-    for (int n = 1; n <= tabulka_navestidel.nejvyssi(); ++n) {
-        if (!tabulka_navestidel.je(n))
-            continue;
-        const Barva barva = tabulka_navestidel[n].barva;
-        if ((barva == barvy::zelena || barva == barvy::bila) && !je(majitele.navest, n))
-            nalezy.push_back({Pravidlo::navest, static_cast<std::int16_t>(n)});
-    }
 }
 
 // A train that was shortened stays in the lists of the tracks behind it until it moves.
@@ -217,17 +246,17 @@ void over_seznam(const KolejVlaky& k, Prestupky& nalezy) {
 Prestupky prestupky() {
     Prestupky nalezy;
     zjisti_majitele();
-    for (int n = 1; n <= relief.kolej.nejvyssi(); ++n)
-        if (relief.kolej.je(n))
-            over_kolej(n, nalezy);
-    for (int n = 0; n <= relief.imgVyhybka.nejvyssi(); ++n)
-        if (relief.imgVyhybka.je(n))
-            over_vyhybku(n, nalezy);
-    for (int n = 1; n <= kNejvyssiPrvek; ++n)
+    najdi_co_neni_v_klidu();
+    for (const int n : neni_v_klidu.koleje)
+        over_kolej(n, nalezy);
+    for (const int n : neni_v_klidu.vyhybky)
+        over_vyhybku(n, nalezy);
+    for (int n = 1; n <= kNejvyssiPrvek && majitele.dve_cesty.any(); ++n)
         if (je(majitele.dve_cesty, n))
             nalezy.push_back({Pravidlo::dve_cesty, static_cast<std::int16_t>(n)});
-    over_navestidla(relief.navestidlo, nalezy);
-    over_navestidla(relief.navestidlo_ser, nalezy);
+    for (const int n : neni_v_klidu.navestidla)
+        if (!je(majitele.navest, n))
+            nalezy.push_back({Pravidlo::navest, static_cast<std::int16_t>(n)});
     for (const KolejVlaky& k : koleje_vlaky)
         over_seznam(k, nalezy);
     return nalezy;
@@ -286,5 +315,5 @@ std::optional<Text> kontrola_majitelu() {
 void prijmi_majitele() {
     prijmout_vse = true;
     prijate.clear();
-    drive_na_vyhybce.fill(kZadny);
+    drive_na_vyhybce = kZadneVlaky;
 }

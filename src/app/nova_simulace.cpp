@@ -52,4 +52,5 @@ void vrat_stav(StavSimulace stav) {
     TABULKY_SIMULACE(TABULKA)
 #undef TABULKA
     ++revize_reliefu;
+    ++revize_stavu;
 }

@@ -11,6 +11,7 @@
 #include "zaklad/text.h"
 
 #include <cstdint>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -30,6 +31,9 @@ inline constexpr Barva oranzova = 0x0080FF;  // warning on the command line
 
 // Rises with every change of an attribute of any element.
 extern std::uint64_t revize_reliefu;
+// Rises with those that are the state of the interlocking, a colour or a state text; captions and lamps
+// change a hundred times as often.
+extern std::uint64_t revize_stavu;
 
 template <class T> class Vlastnost {
 public:
@@ -41,14 +45,14 @@ public:
     Vlastnost& operator=(Vlastnost&& jina) noexcept {
         if (!(hodnota == jina.hodnota)) {
             hodnota = std::move(jina.hodnota);
-            ++revize_reliefu;
+            zmena();
         }
         return *this;
     }
     template <class U> Vlastnost& operator=(const U& nova) {
         if (!(hodnota == nova)) {
             hodnota = nova;
-            ++revize_reliefu;
+            zmena();
         }
         return *this;
     }
@@ -58,6 +62,12 @@ public:
     bool operator==(const Vlastnost&) const = default;
 
 private:
+    static void zmena() {
+        ++revize_reliefu;
+        if constexpr (std::is_same_v<T, Barva>)
+            ++revize_stavu;
+    }
+
     T hodnota{};
 };
 

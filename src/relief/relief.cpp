@@ -7,7 +7,16 @@
 #include <algorithm>
 #include <utility>
 
-std::uint64_t revize_reliefu = 0;
+std::uint64_t revize_reliefu = 0, revize_stavu = 0;
+
+namespace {
+
+void stav_se_zmenil() {
+    ++revize_reliefu;
+    ++revize_stavu;
+}
+
+} // namespace
 
 StavPrvku& StavPrvku::operator=(const StavPrvku& jiny) {
     return *this = StavPrvku(jiny);
@@ -19,7 +28,7 @@ StavPrvku& StavPrvku::operator=(StavPrvku&& jiny) noexcept {
         hodnota = jiny.hodnota;
         ma_text = jiny.ma_text;
         ma_cislo = jiny.ma_cislo;
-        ++revize_reliefu;
+        stav_se_zmenil();
     }
     return *this;
 }
@@ -28,7 +37,7 @@ StavPrvku& StavPrvku::operator=(TextPohled novy) {
     if ((*this)() != novy) {
         text = novy;
         ma_cislo = false;
-        ++revize_reliefu;
+        stav_se_zmenil();
     }
     return *this;
 }
@@ -41,7 +50,7 @@ void StavPrvku::nastav_cislo(double nove) {
     hodnota = nove;
     ma_cislo = true;
     ma_text = false;
-    ++revize_reliefu;
+    stav_se_zmenil();
 }
 
 const Text& StavPrvku::operator()() const {
@@ -76,7 +85,7 @@ Prvek& TabulkaPrvku::zaloz(int n) {
     Prvek& prvek = prvky[static_cast<std::size_t>(n)];
     if (!prvek.existuje) {
         prvek.existuje = true;
-        ++revize_reliefu;
+        stav_se_zmenil();
     }
     return prvek;
 }

@@ -1,6 +1,7 @@
 // testy/app/kontrola_test.cpp - the state check finds each kind of fault, and none in a sound state.
 #include "app/cas.h"
 #include "app/kontrola.h"
+#include "app/stav_simulace.h"
 #include "cesty/cesta.h"
 #include "desk/menu.h"
 #include "desk/stitky.h"
@@ -14,6 +15,8 @@
 #include "prvky/stav_vyhybek.h"
 
 #include <gtest/gtest.h>
+
+#include <utility>
 
 namespace {
 
@@ -98,6 +101,28 @@ TEST_F(Kontrola, TrackMustBeInAState) {
     EXPECT_EQ(nalez(), "");
     relief.kolej[63].stav = Text("daleko");
     EXPECT_EQ(nalez(), "kolej 63: poloha vlaku není číslo");
+}
+
+TEST_F(Kontrola, FaultIsToldAtEachLookUntilItIsMended) {
+    ASSERT_EQ(nalez(), "");
+    relief.kolej[63].barva = 0x123456;
+    for (const char* popis : {"1", "2", "3"}) {
+        EXPECT_EQ(nalez(), "kolej 63: barva není stavem koleje") << popis;
+        relief.kolej[62].text = Text(popis);
+    }
+    relief.kolej[63].barva = barvy::seda;
+    ASSERT_EQ(nalez(), "");
+    relief.imgVyhybka[7].stav.nastav_cislo(50);
+    EXPECT_EQ(nalez(), "imgVyhybka 7: stav není obrazem výhybky");
+    EXPECT_EQ(nalez(), "imgVyhybka 7: stav není obrazem výhybky");
+}
+
+TEST_F(Kontrola, StateThatIsGivenBackIsLookedAtAsAWhole) {
+    StavSimulace sestavena = stav_simulace();
+    sestavena.relief.kolej[63].barva = 0x123456;
+    ASSERT_EQ(nalez(), "");
+    vrat_stav(std::move(sestavena));
+    EXPECT_EQ(nalez(), "kolej 63: barva není stavem koleje");
 }
 
 TEST_F(Kontrola, SwitchMustShowOneOfItsPictures) {

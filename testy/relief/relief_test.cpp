@@ -136,6 +136,30 @@ TEST_F(ReliefTest, RevisionCountsRealChangesOnly) {
     EXPECT_EQ(zmen(), 0u);
 }
 
+TEST_F(ReliefTest, RevisionOfTheStateRisesWithColoursAndStatesAlone) {
+    Prvek& kolej = relief.kolej.zaloz(5);
+    std::uint64_t revize = revize_stavu;
+    const auto zmenila_se = [&] { return std::exchange(revize, revize_stavu) != revize_stavu; };
+    kolej.text = Text("popis");
+    kolej.viditelny = true;
+    kolej.obrazek = std::int16_t{3};
+    EXPECT_FALSE(zmenila_se());
+    kolej.barva = barvy::zelena;
+    EXPECT_TRUE(zmenila_se());
+    kolej.barva = barvy::zelena;
+    EXPECT_FALSE(zmenila_se());
+    kolej.stav = "12";
+    EXPECT_TRUE(zmenila_se());
+    kolej.stav.nastav_cislo(12);
+    EXPECT_FALSE(zmenila_se());
+    kolej.stav.nastav_cislo(13);
+    EXPECT_TRUE(zmenila_se());
+    kolej.stav = StavPrvku{};
+    EXPECT_TRUE(zmenila_se());
+    relief.kolej.zaloz(6);
+    EXPECT_TRUE(zmenila_se());
+}
+
 TEST_F(ReliefTest, StateIsANumberAndItsTextWhicheverWasWritten) {
     StavPrvku& stav = relief.kolej.zaloz(5).stav;
     EXPECT_EQ(stav(), "");
