@@ -8,7 +8,9 @@
 # GNU parallel runs the jobs on all processors, on other machines by its own ssh, and goes on where it was broken off.
 # docs/studie.md tells what comes out of it.
 import argparse
+import contextlib
 import csv
+import fcntl
 import json
 import math
 import os
@@ -16,6 +18,7 @@ import pathlib
 import re
 import shlex
 import shutil
+import signal
 import subprocess
 import sys
 import tempfile
@@ -149,35 +152,62 @@ def proved_ulohy(volby, rekni):
     if seznam.exists() and seznam.read_text(encoding="utf-8").splitlines() != radky:
         raise Chyba("ve složce %s je jiná studie; zvolte jinou složku" % volby.vystup)
     behy.mkdir(parents=True, exist_ok=True)
-    seznam.write_text("\n".join(radky) + "\n", encoding="utf-8")
-    zapomen_nehotove(denik, behy)
+    with zamek(volby.vystup) as soubor:
+        seznam.write_text("\n".join(radky) + "\n", encoding="utf-8")
+        zapomen_nehotove(denik, behy)
+        nech_bezet(volby, zadani, rekni, soubor)
+
+
+@contextlib.contextmanager
+def zamek(vystup):
+    """One study at a time in a folder. Parallel holds the lock too: a program that was killed may have left it running."""
+    with (vystup / ".zamek").open("w", encoding="utf-8") as soubor:
+        try:
+            fcntl.flock(soubor, fcntl.LOCK_EX | fcntl.LOCK_NB)
+        except BlockingIOError:
+            raise Chyba("ve složce %s studie ještě běží" % vystup) from None
+        yield soubor
+
+
+def nech_bezet(volby, zadani, rekni, zamceny):
+    """Parallel, with the words of the study; what it leaves without a result is told."""
+    seznam, behy, denik = volby.vystup / "ulohy.txt", volby.vystup / "behy", volby.vystup / "prubeh.log"
     # --plain: words of the user's own for parallel would change what the results look like
     slova = ["parallel", "--plain", "--will-cite", "--joblog", str(denik), "--resume-failed",
              "--results", str(behy) + "/{#}.vysledek", "-a", str(seznam)]
     if volby.soubezne:
         slova += ["--jobs", str(volby.soubezne)]
     if volby.hosti:
-        slova += ["--sshlogin", volby.hosti]
+        # a machine that has gone away fails every job at once, and so would take all that are left: others try them again
+        slova += ["--sshlogin", volby.hosti, "--retries", str(1 + volby.hosti.count(","))]
     prubeh = volby.prubeh and sys.stderr.isatty()  # it draws one line over and over
     if prubeh:
         slova.append("--eta")
     slova.append("python3 -B %s --davka %s --uloha {}" % (shlex.quote(str(pathlib.Path(__file__).resolve())),
                                                          shlex.quote(str(volby.davka.resolve()))))
-    rekni("Běhů: %d" % len(radky))
+    rekni("Běhů: %d" % len(zadani))
     # Without PARALLEL_SHELL a job on another machine is given to the $SHELL of that login. Where there is none (a service,
     # a container), parallel runs nothing there, says nothing and takes the job for done.
-    v = subprocess.run(slova, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, encoding="utf-8", errors="replace",
-                       stderr=None if prubeh else subprocess.PIPE, env=dict(os.environ, PARALLEL_SHELL="/bin/sh"))
-    if v.returncode:
+    p = subprocess.Popen(slova, stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL, encoding="utf-8", errors="replace",
+                         stderr=None if prubeh else subprocess.PIPE, env=dict(os.environ, PARALLEL_SHELL="/bin/sh"),
+                         pass_fds=[zamceny.fileno()])
+    try:
+        _, vypis = p.communicate()
+    except KeyboardInterrupt:
+        # Ctrl+C has reached parallel too; of any other order to end it does not know
+        p.send_signal(signal.SIGINT)
+        p.communicate()
+        raise
+    if p.returncode:
         # parallel counts failed runs up to 100; above that it tells only that there are more, or another fault
-        kolik = "běhů selhalo: %d" % v.returncode if 0 < v.returncode <= 100 else "běhy selhaly"
-        raise Chyba("\n".join(["%s; týž příkaz je zkusí znovu." % kolik, *proc_selhaly(behy, v.stderr)]), 1)
-    chybi = [n for n in range(1, len(radky) + 1) if cti_vysledek(behy / ("%d.vysledek" % n)) is None]
+        kolik = "běhů selhalo: %d" % p.returncode if 0 < p.returncode <= 100 else "běhy selhaly"
+        raise Chyba("\n".join(["%s; týž příkaz je zkusí znovu." % kolik, *proc_selhaly(behy, vypis)]), 1)
+    chybi = [n for n in range(1, len(zadani) + 1) if cti_vysledek(behy / ("%d.vysledek" % n)) is None]
     if chybi:
         kde = {r[0]: r[1] for r in zaznamy_deniku(denik)[1:]}
         ktere = ["  %s, počítač %s" % (jmeno_behu(zadani[n - 1]), kde.get(str(n), "neznámý")) for n in chybi[:5]]
         raise Chyba("\n".join(["běhů, které skončily bez výsledku: %d z %d; týž příkaz je zkusí znovu."
-                               % (len(chybi), len(radky)), *ktere, *proc_selhaly(behy, v.stderr)]), 1)
+                               % (len(chybi), len(zadani)), *ktere, *proc_selhaly(behy, vypis)]), 1)
 
 
 def proc_selhaly(behy, vypis):
@@ -488,6 +518,10 @@ def argumenty(slova=None):
     return volby
 
 
+def prerus(*_):
+    raise KeyboardInterrupt
+
+
 def hlavni(slova=None):
     volby = argumenty(slova)
     try:
@@ -499,11 +533,15 @@ def hlavni(slova=None):
                 raise Chyba("program %s není; sestaví ho ./tesk sestav" % volby.davka)
             volby.vystup.mkdir(parents=True, exist_ok=True)
             volby.vystup = volby.vystup.resolve()
+            signal.signal(signal.SIGTERM, prerus)
             proved_ulohy(volby, lambda text: print(text, file=sys.stderr, flush=True))
         print(souhrn(volby.vystup, nacti_behy(volby.vystup), Zhlavi(volby.kolejiste)))
     except (Chyba, Konec) as e:
         print("studie: %s" % e, file=sys.stderr)
         return getattr(e, "stav", 2)
+    except KeyboardInterrupt:
+        print("studie: přerušena; týž příkaz ji dokončí.", file=sys.stderr)
+        return 130
     return 0
 
 

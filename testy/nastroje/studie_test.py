@@ -171,7 +171,7 @@ class Beh(Slozka):
 
     def ssh(self, prikaz='exec sh -c "$*"'):
         """Every host is this machine, and the call is written down."""
-        self.nahradni_program("ssh", 'while [ "${1#-}" != "$1" ]; do shift; done\necho "$1" >> "%s"\n'
+        self.nahradni_program("ssh", 'while [ "${1#-}" != "$1" ]; do shift; done\npocitac=$1\necho "$1" >> "%s"\n'
                               'shift\n[ "$1" = -- ] && shift\n%s\n' % (self.slozka / "hosti", prikaz))
 
     def test_runs_go_to_the_machines_that_are_named(self):
@@ -185,6 +185,35 @@ class Beh(Slozka):
         prubeh = (self.slozka / "st" / "prubeh.log").read_text(encoding="utf-8").splitlines()[1:]
         self.assertEqual({r.split("\t")[1] for r in prubeh}, {"prvni", "druhy"})
         self.assertEqual(len(prubeh), 3)
+
+    def test_machine_that_goes_away_leaves_its_runs_to_the_others(self):
+        self.ssh('[ "$pocitac" = druhy ] && exit 255\nexec sh -c "$*"')
+        stav, text, chyby = self.studie("--semen", "3", "--hosti", "1/prvni,1/druhy")
+        self.assertEqual(stav, 0, chyby)
+        self.assertIn("(3 běhů)", text)
+        self.assertIn("druhy", (self.slozka / "hosti").read_text(encoding="utf-8").split())
+        prubeh = (self.slozka / "st" / "prubeh.log").read_text(encoding="utf-8").splitlines()[1:]
+        self.assertEqual([r.split("\t")[1] for r in prubeh], ["prvni"] * 3)
+
+    def test_study_that_is_ended_ends_parallel_and_while_it_runs_no_other_one_begins_there(self):
+        # signals as a terminal's, whatever the one who runs the tests ignores
+        self.nahradni_program("parallel", 'echo $$ > "%s"\nexec python3 -c "import signal, time\n'
+                              'signal.signal(signal.SIGINT, signal.SIG_DFL)\ntime.sleep(600)"\n' % (self.slozka / "cislo"))
+        slova = ["--davka", DAVKA, "--vystup", self.slozka / "st", "--semen", "1"]
+        studie = subprocess.Popen([sys.executable, "-B", KOREN / "nastroje" / "studie.py", *slova],
+                                  stderr=subprocess.PIPE, encoding="utf-8")
+        self.addCleanup(studie.stderr.close)
+        self.addCleanup(studie.kill)
+        while not (self.slozka / "cislo").exists() or not (self.slozka / "cislo").read_text(encoding="utf-8").strip():
+            self.assertIsNone(studie.poll())
+        stav, _, chyby = self.program(s, *slova)
+        self.assertEqual(stav, 2)
+        self.assertIn("studie ještě běží", chyby)
+        studie.send_signal(signal.SIGTERM)
+        chyby = studie.communicate()[1]
+        self.assertEqual(studie.returncode, 130, chyby)
+        self.assertIn("studie: přerušena; týž příkaz ji dokončí.", chyby)
+        self.assertRaises(ProcessLookupError, os.kill, int((self.slozka / "cislo").read_text(encoding="utf-8")), 0)
 
     def test_run_that_ends_without_a_result_is_told_and_tried_again(self):
         self.ssh("echo zavřeno >&2; exit 0")
