@@ -285,7 +285,7 @@ class Hlidac:
         i = max(v["stanice_index"], 0)
         if v["stanice_index"] < 0 or v["posun"]:
             od = max(od, j.vstup_s + j.zpozdeni_vstup * 60)
-        if i < len(v["stanice"]) and not v["muze_jet"]:
+        if i < len(v["stanice"]):  # nobody waits before the departure, also not who already has leave to go
             odjezd = v["odjezd_realny"][i] if v["odjezd_realny"][i] >= 0 else v["odjezd"][i]
             od = max(od, odjezd * 60)
         j.stoji_s = max(0, ted_s - od)

@@ -124,6 +124,14 @@ class Provoz(unittest.TestCase):
         self.assertEqual(s["uvazlo"], 0)
         self.assertTrue(s["cekani"], "what it has waited is not forgotten")
 
+    def test_planned_stop_is_no_wait_when_leave_to_go_has_come_and_the_train_still_stands(self):
+        r = radek(17, (1, -1, 480), (9, 490, 540), (2, 560, -1))
+        self.zacni(r)
+        for minuta in range(10, 60, 5):
+            self.stav(minuta, zaznam(0, r, [30], index=1, muze_jet=False))
+        s = self.stav(61, zaznam(0, r, [30], index=1, muze_jet=True))
+        self.assertEqual(s["cekani"], [], "fifty minutes at the platform, one behind its departure")
+
     def test_two_trains_on_one_section_of_a_line_are_seen(self):
         jiny = radek(18, (1, -1, 480), (2, 500, -1))
         self.zacni(DO_BOROVCE, jiny)
