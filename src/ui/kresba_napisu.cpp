@@ -11,7 +11,7 @@ constexpr double kNejmensiKontrast = 3;
 constexpr int kPresahRadku = 2; // of the command line above and below its text, pixels of the desk
 constexpr int kPresahCisla = 2; // what a label clears beside its text, pixels of the desk
 
-// Of two colours of the core, roughly: whether letters on a ground need a shadow.
+// Of two colours of the core, roughly: whether letters on a ground need an outline.
 double kontrast(Barva a, Barva b) {
     const auto jas = [](Barva barva) {
         const QColor c = barva_qt(barva);
@@ -42,6 +42,16 @@ MistoRadku misto_radku(const Meritko& m, const Styl& s, const Prvek& prvek) {
             m.y(prvek.nahore) +
                 (prvek.vyska > kVyskaZnaku ? std::max(0.0, (prvek.vyska * m.k - vyska) / 2) : 0.0),
             sirka, vyska};
+}
+
+// Black all around the letters.
+void nakresli_obrys_pisma(QPainter& p, const Meritko& m, const Styl& s, const MistoRadku& r,
+                          TextPohled text) {
+    const int o_kolik = m.bodu(1);
+    for (const int x : {-o_kolik, 0, o_kolik})
+        for (const int y : {-o_kolik, 0, o_kolik})
+            if (x != 0 || y != 0)
+                kresli_radek(p, r.x + x, r.y + y, r.sirka, r.vyska, text, barvy::cerna, s.znaky);
 }
 
 // What a signal says, for an eye that does not tell its colours: a train may go with a bar above the sign, a
@@ -154,7 +164,7 @@ void nakresli_napis(QPainter& p, const Meritko& m, const Styl& s, const Prvek& p
     // black on the dark bar: a light ground makes it readable
     if (!s.kryje && !prvek.ramecek && prvek.barva == barvy::cerna)
         p.fillRect(ramec_textu(m, s, prvek), barva_qt(barvy::seda));
-    // The colours are given; where they are too near to each other, a shadow parts the letters from the
+    // The colours are given; where they are too near to each other, a outline parts the letters from the
     // ground. The number of a track on the ground of its note is white: grey drowns in it even so.
     Barva pismo = prvek.barva;
     if (paleta() != Paleta::obvykla) {
@@ -165,8 +175,7 @@ void nakresli_napis(QPainter& p, const Meritko& m, const Styl& s, const Prvek& p
         if (s.druh == Druh::cislo_koleje && kontrast(barvy::bila, prvek.pozadi) >= kNejmensiKontrast)
             pismo = barvy::bila;
         else
-            kresli_radek(p, r.x + m.bodu(1), r.y + m.bodu(1), r.sirka, r.vyska, prvek.text(), barvy::cerna,
-                         s.znaky);
+            nakresli_obrys_pisma(p, m, s, r, prvek.text());
     }
     const bool jmeno = s.druh == Druh::popis_stanice && !prvek.ramecek;
     kresli_radek(p, r.x, r.y, r.sirka, r.vyska, prvek.text(), jmeno ? barva_jmena(pismo) : barva_qt(pismo),

@@ -384,7 +384,7 @@ TEST_F(Stul, CaptionLongerThanAShortVehicleDoesNotReachOverTheNextOne) {
 
 // --- letters on a ground of nearly their own light
 
-TEST_F(Stul, LettersOnAGroundTooNearToThemHaveAShadow) {
+TEST_F(Stul, LettersOnAGroundTooNearToThemAreOutlined) {
     Prvek& radek = relief.lblPrikaz[0];
     radek.viditelny = radek.ramecek = true;
     radek.vlastni_velikost = true;
@@ -401,7 +401,18 @@ TEST_F(Stul, LettersOnAGroundTooNearToThemHaveAShadow) {
                 kolik += barva_v(x, y).value() < 128;
         return kolik;
     };
+    const auto na_podkladu = [&](QColor podklad) { // letters that touch their ground
+        int kolik = 0;
+        for (int y = 24; y < 37; ++y)
+            for (int x = 0; x < 16; ++x)
+                if (barva_v(x, y) == QColor(Qt::white))
+                    for (const QPoint vedle :
+                         {QPoint(x - 1, y), QPoint(x + 1, y), QPoint(x, y - 1), QPoint(x, y + 1)})
+                        kolik += vedle.x() >= 0 && barva_v(vedle.x(), vedle.y()) == podklad;
+        return kolik;
+    };
     EXPECT_GT(tmavych(barvy::bila, barvy::zelena), 10);
+    EXPECT_EQ(na_podkladu(QColor(0, 255, 0)), 0);
     EXPECT_GT(tmavych(barvy::bila, barvy::azurova), 10);
     EXPECT_EQ(tmavych(barvy::bila, barvy::cervena), 0);
     EXPECT_EQ(tmavych(barvy::zelena, barvy::zelena), 0);
