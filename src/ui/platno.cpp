@@ -56,13 +56,13 @@ int konec_vlaku() {
     return konec;
 }
 
-Prvek nadpis(TextPohled text, int vlevo) {
+Prvek nadpis(TextPohled text, int vlevo, int nahore = kNadpis_y * kTwipu) {
     Prvek p;
     p.viditelny = true;
     p.text = text;
     p.barva = barvy::seda;
     p.vlevo = vlevo;
-    p.nahore = kNadpis_y * kTwipu;
+    p.nahore = nahore;
     p.sirka = static_cast<int>(text.size()) * kSirkaZnaku;
     p.vyska = kVyskaZnaku;
     return p;
@@ -545,6 +545,7 @@ void Platno::kresli(QPainter& p, const QRegion& kde) const {
     nakresli_podklad(p, m, okraje & kde.boundingRect());
     if (druha != DruhaStranka::zadna)
         kresli_druhou_pulku(p);
+    kresli_bez_vlaku(p);
     if (zvetseni <= 1) {
         nakresli_panel(p, m, posun_panelu());
         kresli_prvky(p, kde, [](Druh) { return true; });
@@ -570,6 +571,15 @@ void Platno::kresli_druhou_pulku(QPainter& p) const {
     }
     nakresli_prvek(p, m, Druh::lblGVD, 0, nadpis("ZPRÁVY"_cz, od));
     nakresli_prvek(p, m, Druh::lblGVD, 0, nadpis("DENÍK"_cz, misto_seznamu_vedle(1).x()));
+}
+
+// The page of the train, before one was asked for, says how that is done.
+void Platno::kresli_bez_vlaku(QPainter& p) const {
+    for (const Prvek& radek : umistene[static_cast<std::size_t>(Druh::lblIinfo_o_vlaku)])
+        if (radek.existuje && radek.viditelny && radek.text->empty())
+            nakresli_prvek(p, m, Druh::lblGVD, 0,
+                           nadpis("Poklepejte na číslo vlaku, nebo na ně ukažte a stiskněte F8."_cz,
+                                  radek.vlevo, radek.nahore));
 }
 
 // The elements whose kind answers to `ktere`, from the lowest to the topmost.

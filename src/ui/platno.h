@@ -132,6 +132,7 @@ private:
     QRect v_bodech(Druh druh, const QRect& twipy) const;
     void kresli(QPainter& p, const QRegion& kde) const;
     void kresli_druhou_pulku(QPainter& p) const;
+    void kresli_bez_vlaku(QPainter& p) const;
     template <class Ktere> void kresli_prvky(QPainter& p, const QRegion& kde, Ktere ktere) const;
 
     QImage platno;

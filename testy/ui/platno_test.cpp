@@ -204,6 +204,28 @@ TEST_F(Stul, TrainLongerThanItsHalfOfThePanelTakesTheSecondHalfToo) {
     }
 }
 
+TEST_F(Stul, PageOfTheTrainSaysHowToAskForOneUntilOneIsThere) {
+    Prvek& radek = relief.lblIinfo_o_vlaku[0];
+    const auto kresleno = [&] { // of the right part of its line
+        platno.obnov();
+        int bodu = 0;
+        for (int y = 640; y < 653; ++y)
+            for (int x = 100; x < 500; ++x)
+                bodu += barva_v(x, y) != QColor(Qt::black);
+        return bodu;
+    };
+    ukaz_tabulku(false);
+    EXPECT_EQ(kresleno(), 0);
+    radek.viditelny = true;
+    EXPECT_GT(kresleno(), 100);
+    radek.text = "Os 14756";
+    EXPECT_EQ(kresleno(), 0);
+    radek.text = Text{};
+    EXPECT_GT(kresleno(), 100);
+    radek.viditelny = false;
+    EXPECT_EQ(kresleno(), 0);
+}
+
 TEST_F(Stul, CaptionsOfVehiclesLeaveTheLastLineOfThePanelFree) {
     for (const char* popis : {"943", "943 (14756)"}) {
         for (int n = 0; n < 12; ++n) {
