@@ -116,6 +116,7 @@ private:
     int posun_panelu() const;    // of the signal panel to the right, twips
     QRect plocha_panelu() const; // its place, device pixels
     Prvek umisti(Druh druh, int n) const;
+    void umisti_na_panelu(Druh druh, int n, Prvek& p) const;
     void umisti_vse();
     int konec_prvni_pulky() const; // of the bottom panel; its right end where there is only one
     QRect misto_panelu() const;    // both halves
