@@ -144,7 +144,7 @@ Platno::Vozy Platno::spocti_vozy() const {
         }
     if (do_sirky <= 1)
         return {};
-    constexpr int kVyskaMista = 40 * kTwipu, kRezerva = 3 * kTwipu, kRadkuPopisu = 3;
+    constexpr int kVyskaMista = 40 * kTwipu, kRadkuPopisu = 3;
     constexpr double kKrokVozu = 0.02;
     const auto prvky = [this](Druh druh) -> const std::vector<Prvek>& {
         return nakreslene[static_cast<std::size_t>(druh)];
@@ -152,7 +152,7 @@ Platno::Vozy Platno::spocti_vozy() const {
     const bool jeden_radek = prvky(Druh::lblIinfo_o_vlaku).empty() ||
                              static_cast<int>(prvky(Druh::lblIinfo_o_vlaku)[0].text->size()) * kSirkaZnaku <
                                  misto_seznamu().width();
-    const int nahore = (jeden_radek ? kVyskaZnaku : 0) + kRezerva;
+    const int nahore = jeden_radek ? kVyskaZnaku : 0; // the pantographs stay clear of the text
     for (double krat = std::min(do_sirky, kNejvetsiVuz); krat > 1; krat -= kKrokVozu) {
         int radku = 1;
         for (Prvek popis : prvky(Druh::lblPopis_vozu))

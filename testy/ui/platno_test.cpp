@@ -238,6 +238,9 @@ TEST_F(Stul, CaptionsOfVehiclesLeaveTheLastLineOfThePanelFree) {
             platno.nastav_velikost(velikost, dve ? 2 * kSirkaStolu : kSirkaStolu, true, true);
             platno.obnov();
             const Prvek& p = platno.prvek(Druh::lblPopis_vozu, 0);
+            const Prvek& text = platno.prvek(Druh::lblIinfo_o_vlaku, 0);
+            EXPECT_GT(platno.prvek(Druh::imgSberac, 0).nahore, text.nahore + kVyskaZnaku + 2 * kTwipu)
+                << "a pantograph touches the line of the train at " << velikost.width();
             EXPECT_LE(p.nahore + radku_popisu(p) * kVyskaZnaku, platno.posledni_radek_panelu())
                 << popis << ' ' << velikost.width();
             EXPECT_LE(
