@@ -242,6 +242,8 @@ void Cteni::precti(std::string_view text) {
         if (obsah.empty() || obsah.front() == '#')
             continue;
         try {
+            if (na_utf8(z_utf8(obsah)) != obsah)
+                throw VadaRadku{Text("znak, který stůl nemá"_cz)};
             if (cely.front() == ' ' || cely.front() == '\t') {
                 pokracovani(obsah);
                 continue;

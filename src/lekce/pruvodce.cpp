@@ -5,6 +5,7 @@
 #include "app/simulace.h"
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
+#include "cesty/navest.h"
 #include "desk/menu.h"
 #include "desk/zprava.h"
 #include "obsluha/povely.h"
@@ -297,6 +298,21 @@ std::optional<Pruvodce::NalezenaPotiz> Pruvodce::potiz_volby() const {
         text += jmeno_prvku(vyber.volba_zacatek);
         text += Text(". Nic se nestalo: klávesa **Esc** volbu zruší a začneme znovu."_cz);
         return NalezenaPotiz{Potiz::jiny_zacatek, std::move(text), {stisk(KodKlavesy::esc)}};
+    }
+    const UkonLekce* pristi = ukony.dalsi();
+    if (pristi != nullptr && !pristi->predani && je_volba_zacatku(pristi->ukon) &&
+        !ceka_na(k, Fakt::hlaseni) && je_zablokovano(static_cast<int>(pristi->ukon.n))) {
+        Text text("Návěstidlo "_cz);
+        text += jmeno_prvku(static_cast<int>(pristi->ukon.n));
+        text += Text(
+            " je zablokované a cesta od něj nepovede. Odblokuje ho týž povel: pravé tlačítko a **ZAM**."_cz);
+        return NalezenaPotiz{Potiz::zablokovano,
+                             std::move(text),
+                             {ukon_naprav({.co = DruhUkonu::klik,
+                                           .druh = pristi->ukon.druh,
+                                           .n = pristi->ukon.n,
+                                           .tlacitko = Tlacitko::prave}),
+                              ukon_naprav({.co = DruhUkonu::polozka_menu, .text = "miZAM"})}};
     }
     if (je_v_ukonech(otvira_nabidku) && !menu.jmeno.empty() && !je_nabidka_ukonu())
         return NalezenaPotiz{

@@ -28,6 +28,7 @@ enum class Potiz : std::uint8_t {
     neni_cesta,   // no route leads there
     makro,        // a macro is being recorded
     psani,        // the field asks for a text that the step does not need
+    zablokovano,  // the signal to be picked is blocked
     jiny_zacatek, // another signal is picked
     jina_nabidka, // the menu of another element is open
     cizi_cesta,   // a route that the lesson does not know

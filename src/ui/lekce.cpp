@@ -9,6 +9,7 @@
 #include "lekce/pruvodce.h"
 #include "obsluha/povely.h"
 #include "obsluha/vstup.h"
+#include "technologie/technologie.h"
 #include "ui/brana.h"
 #include "ui/hlavni_okno.h"
 #include "ui/hodiny_stolu.h"
@@ -119,6 +120,12 @@ void uloz_postup() {
     v_jadre([] { lekce::zapis_postup(beh->soubor, beh->pruvodce.krok()); });
 }
 
+// The list of the stack stands in the upper left quarter of the screen that covers the desk.
+QRect misto_zasobniku(const HlavniOkno& stul) {
+    constexpr double kDilSirky = 0.57, kDilVysky = 0.53;
+    return {0, 0, static_cast<int>(stul.width() * kDilSirky), static_cast<int>(stul.height() * kDilVysky)};
+}
+
 void nabidni_navrat(HlavniOkno& stul) {
     QMessageBox otazka(QMessageBox::NoIcon, QStringLiteral("KPS RVZ TESK"),
                        QStringLiteral("Lekci jste opustili. Chcete v ní pokračovat?"),
@@ -166,7 +173,8 @@ void obnov_lekci(HlavniOkno& stul) {
     else if (!cte)
         pust_cas();
     beh->znacky.obnov(stul, p.mista());
-    beh->panel->ukaz(p, beh->znacky.v_okne(stul));
+    beh->panel->ukaz(p, technologie_kryje_stul() ? std::vector{misto_zasobniku(stul)}
+                                                 : beh->znacky.v_okne(stul));
     obnov_ramecek_polozky(p.polozka());
 }
 

@@ -91,7 +91,7 @@ void ukaz_vyber_lekci(QWidget* rodic, const std::function<void(const std::functi
     uvod->setWordWrap(true);
     sloupec->addWidget(uvod);
     std::optional<std::pair<std::size_t, bool>> zvolena; // which, and whether from its beginning
-    QPushButton* prvni = nullptr;
+    QPushButton *prvni = nullptr, *prvni_rozdelana = nullptr;
     for (std::size_t i = 0; i < vse.size(); ++i) {
         const NabizenaLekce& n = vse[i];
         auto* skupina = new QGroupBox(QStringLiteral("%1. %2").arg(i + 1).arg(
@@ -127,8 +127,8 @@ void ukaz_vyber_lekci(QWidget* rodic, const std::function<void(const std::functi
         };
         if (rozdelane[i]) {
             QPushButton* pokracovat = pridej(QStringLiteral("Pokračovat"), false);
-            if (prvni == nullptr)
-                prvni = pokracovat;
+            if (prvni_rozdelana == nullptr)
+                prvni_rozdelana = pokracovat;
         }
         QPushButton* zacit =
             pridej(rozdelane[i] ? QStringLiteral("Od začátku") : QStringLiteral("Začít"), true);
@@ -146,6 +146,8 @@ void ukaz_vyber_lekci(QWidget* rodic, const std::function<void(const std::functi
     dole->addStretch(1);
     dole->addWidget(zavrit);
     sloupec->addLayout(dole);
+    if (prvni_rozdelana != nullptr) // what was begun comes before what was not
+        prvni = prvni_rozdelana;
     if (prvni != nullptr) {
         prvni->setDefault(true);
         prvni->setFocus();

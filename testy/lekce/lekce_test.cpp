@@ -52,6 +52,7 @@ TEST_F(CteniLekce, TellsEachFaultWithItsLine) {
     EXPECT_EQ(jedina("udelej okno stoji"), "řádek 8: není úkon obsluhy: okno stoji");
     EXPECT_EQ(jedina("hotovo cesta 5"), "řádek 8: podmínka cesta má mít slov za sebou: 2");
     EXPECT_EQ(jedina("hotovo navest 5 modra"), "řádek 8: podmínka navest nezná slovo modra");
+    EXPECT_EQ(jedina("rekni Klávesa \xE2\x88\x92 zpomalí."), "řádek 8: znak, který stůl nemá");
     EXPECT_EQ(jedina("hotovo bagr"), "řádek 8: neznámá podmínka bagr");
     EXPECT_EQ(jedina("hotovo"), "řádek 8: chybí podmínka");
     EXPECT_EQ(jedina("hotovo kolej x volna"), "řádek 8: není číslo od 0 do 999999: x");

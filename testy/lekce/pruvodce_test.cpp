@@ -266,6 +266,18 @@ TEST_F(PruvodceLekce, AsksAgainForAnActThatHasNotDone) {
     }
 }
 
+TEST_F(PruvodceLekce, HasASignalThatWasBlockedFreedAgain) {
+    az_k_volbe();
+    po("pravy navestidlo 287");
+    po("menu miZAM");
+    ASSERT_EQ(pruvodce->potiz(), Potiz::zablokovano);
+    EXPECT_EQ(pruvodce->mista().front().n, 287);
+    po("pravy navestidlo 287");
+    EXPECT_EQ(na_utf8(pruvodce->polozka()), "miZAM");
+    po("menu miZAM");
+    EXPECT_EQ(pruvodce->potiz(), Potiz::zadna);
+}
+
 // Back goes only where something can be done again: a text, or a step that time can be turned back to.
 TEST_F(PruvodceLekce, GoesBackOnlyToWhatCanBeDoneAgain) {
     novy_svet();
@@ -322,6 +334,7 @@ TEST_F(PruvodceLekce, LeadsOutOfWhateverAStepWasMessedUpWith) {
         {"klik navestidlo 317", "cekej 12s"},
         {"klik navestidlo 317", "klik navestidlo 317"},
         {"klavesa Alt+L"},
+        {"pravy navestidlo 287", "menu miZAM", "klik navestidlo 287"},
         {"klik navestidlo 287 ctrl", "klik navestidlo 601 ctrl", "klik cislo_koleje 12"},
         {"klik navestidlo 287", "klik navestidlo 601", "klik cislo_koleje 12", "klavesa Esc"},
     };
