@@ -72,6 +72,8 @@ VlakyNaVyhybkach drive_na_vyhybce{};
 // A train that leaves the junction before its tail has left a switch leaves it occupied, and NOUZ is the
 // operator's way.
 bool odjel_z_vyhybky(int n) {
+    if (n < 0 || n > kNejvyssiPrvek)
+        return false;
     const int v = drive_na_vyhybce[static_cast<std::size_t>(n)];
     return v >= 0 && static_cast<std::size_t>(v) < vlaky.size() &&
            vlaky[static_cast<std::size_t>(v)].cislo < 1;

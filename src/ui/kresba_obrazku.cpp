@@ -70,7 +70,8 @@ int misto_znacky(const std::array<const Prvek*, 2>& popisky, const Prvek& cil, i
             if (p.nahore < cil.nahore + cil.vyska && p.nahore + kVyskaZnaku > cil.nahore)
                 obsazeno[pocet++] = {p.vlevo - kMezera, p.vlevo + znaku * kSirkaZnaku + kMezera};
         }
-        std::sort(obsazeno.begin(), obsazeno.begin() + static_cast<std::ptrdiff_t>(pocet));
+        if (pocet == obsazeno.size() && obsazeno[1] < obsazeno[0])
+            std::swap(obsazeno[0], obsazeno[1]);
         int od = cil.vlevo, nejlepsi = 0, kde = 0;
         for (std::size_t i = 0; i <= pocet; ++i) {
             const int po = i < pocet ? obsazeno[i].first : cil.vlevo + cil.sirka;
