@@ -107,8 +107,9 @@ class Stul:
         self.x = x11.Obrazovka(cislo)
         self.znama_okna = set()  # that were there at the last key
         self.pismena = set()  # that were given keys of their own
+        # a folder for what the libraries leave behind is that of the screen
         self.prostredi = dict(os.environ, DISPLAY=":" + cislo, QT_QPA_PLATFORM="xcb", QT_SCALE_FACTOR=str(meritko),
-                              XDG_CONFIG_HOME=os.path.join(slozka, "nastaveni"), HOME=slozka,
+                              XDG_CONFIG_HOME=os.path.join(slozka, "nastaveni"), HOME=slozka, TMPDIR=self.pamet,
                               TESK_PROHLIDKA=slozka)
         self.prostredi.pop("WAYLAND_DISPLAY", None)
         self.program = subprocess.Popen([program], cwd=slozka, env=self.prostredi)
