@@ -14,7 +14,6 @@
 #include "uzel/dopravny.h"
 #include "uzel/rychlosti.h"
 #include "uzel/vozidla.h"
-#include "uzel/vstupy.h"
 #include "vypravci/banker.h"
 #include "vypravci/pohled.h"
 #include "vypravci/rezervace.h"
@@ -394,6 +393,17 @@ void najdi_cestu_vlaku(int v, Jizda& j, bool obsazene) {
     j.cesta_od = j.hranice;
 }
 
+void udelej_body(Jizda& j, const std::vector<Zastavka>& zastavky) {
+    j.body.clear();
+    for (std::size_t k = 0; k < zastavky.size(); ++k) {
+        const Zastavka& z = zastavky[k];
+        planovani::Bod b{.stanice = z.stanice, .stavi = k == 0 || z.prijezd >= 0 || k + 1 == zastavky.size()};
+        b.odjezd_s = z.odjezd * 60.0;
+        b.muze_otocit = k > 0 && z.prijezd >= 0 && z.odjezd - z.prijezd >= kObjetiCestou_min;
+        j.body.push_back(std::move(b));
+    }
+}
+
 void prestan_cekat(Jizda& j) {
     j.ceka_od_s = kZadny;
     if (j.receno != 0)
@@ -452,17 +462,6 @@ bool otoci_se_sam(const Vlak& v) {
            je_loko(v.vozy.back().rada);
 }
 
-void udelej_body(Jizda& j, const std::vector<Zastavka>& zastavky) {
-    j.body.clear();
-    for (std::size_t k = 0; k < zastavky.size(); ++k) {
-        const Zastavka& z = zastavky[k];
-        planovani::Bod b{.stanice = z.stanice, .stavi = k == 0 || z.prijezd >= 0 || k + 1 == zastavky.size()};
-        b.odjezd_s = z.odjezd * 60.0;
-        b.muze_otocit = k > 0 && z.prijezd >= 0 && z.odjezd - z.prijezd >= kObjetiCestou_min;
-        j.body.push_back(std::move(b));
-    }
-}
-
 bool je_ztracena(const Cesta& c) {
     return c.prehozena && !c.Postavena && c.Umazat == 0 && c.cas_ruseni < 0 && ted_s() > c.Kdy_prehoz &&
            ztracena_vyhybka(c) != kZadny;
@@ -489,16 +488,6 @@ bool vede_pres(int v, const Cesta& hledana) {
             return false;
         h.prvek = prvky_cesty(*d).back().prvek;
     }
-    return false;
-}
-
-bool je_vstupni(int prvek) {
-    for (const uzel::StaniceOhlaseni& s : uzel::kOhlasovane)
-        if (std::find(s.koleje.begin(), s.koleje.end(), prvek) != s.koleje.end() && prvek != 0)
-            return true;
-    for (const uzel::VstupZeStanice& s : uzel::kVstupy)
-        if (std::find(s.koleje.begin(), s.koleje.end(), prvek) != s.koleje.end() && prvek != 0)
-            return true;
     return false;
 }
 

@@ -78,6 +78,8 @@ void obnov_jizdu(int v);
 void obnov_vsechny();
 // A way for the train; `obsazene`: one around what stands in the way, else the way that there is stays.
 void najdi_cestu_vlaku(int v, Jizda& j, bool obsazene);
+// Its points for the search of a way, of these stops.
+void udelej_body(Jizda& j, const std::vector<Zastavka>& zastavky);
 // It waits no longer; what was said of its wait is taken back.
 void prestan_cekat(Jizda& j);
 
@@ -99,14 +101,10 @@ std::uint32_t zmena_cest();
 
 // It turns by itself for its first route.
 bool otoci_se_sam(const Vlak& v);
-// Points of the timetable for the search of a way.
-void udelej_body(Jizda& j, const std::vector<Zastavka>& zastavky);
 // Commanded, and a switch of it taken since, by NOUZ or a train. One that was locked is never cleared again:
 // it can only be cancelled.
 bool je_ztracena(const Cesta& c);
 // What is set for the train leads over the route.
 bool vede_pres(int v, const Cesta& hledana);
-// Trains come into the junction on the track.
-bool je_vstupni(int prvek);
 
 } // namespace vypravovani

@@ -39,9 +39,34 @@ std::vector<int> ucastnik_vlaku; // index in `vlaky` of each
 std::vector<std::uint8_t> obsazena, uvazli_pred, uvazli_po;
 std::uint32_t posouzena_zmena = 0; // who is stuck is known for the ways as they were then
 
+// The tracks on which trains of one station or depot come into the junction, when `prvek` is one of them; its
+// code in `stanice`. Empty for any other track.
+std::span<const int> vstupni_koleje(int prvek, int& stanice) {
+    const auto ma = [prvek](const auto& koleje) {
+        return prvek != 0 && std::find(koleje.begin(), koleje.end(), prvek) != koleje.end();
+    };
+    for (const uzel::StaniceOhlaseni& s : uzel::kOhlasovane)
+        if (ma(s.koleje)) {
+            stanice = s.kod;
+            return s.koleje;
+        }
+    for (const uzel::VstupZeStanice& s : uzel::kVstupy)
+        if (ma(s.koleje)) {
+            stanice = s.stanice;
+            return s.koleje;
+        }
+    static constexpr std::array kDepoVh = {uzel::kBranaVh.kolej};
+    if (ma(kDepoVh)) {
+        stanice = dopravna::dkv_vh;
+        return kDepoVh;
+    }
+    return {};
+}
+
 // An exit: who comes there leaves the junction, or is taken over by a neighbour.
 bool je_konecna(int prvek) {
-    return je_vstupni(prvek) || je_v(prvek, {uzel::kBranaVh.kolej, uzel::kBranaVychod.kolej}) ||
+    int stanice = 0;
+    return !vstupni_koleje(prvek, stanice).empty() || prvek == uzel::kBranaVychod.kolej ||
            uzel::konec_trati(prvek) >= 0;
 }
 
@@ -106,28 +131,6 @@ bool je_bezpecne(int v, int prvek, std::span<const KrokTrasy> zbytek) {
     const bool lze = nikdo_dalsi_neuvazne() && (uvazli_po[i] == 0 || !planovani::je_tratovy(prvek));
     ucastnici[i] = pred;
     return lze;
-}
-
-std::span<const int> vstupni_koleje(int prvek, int& stanice) {
-    const auto ma = [prvek](const auto& koleje) {
-        return prvek != 0 && std::find(koleje.begin(), koleje.end(), prvek) != koleje.end();
-    };
-    for (const uzel::StaniceOhlaseni& s : uzel::kOhlasovane)
-        if (ma(s.koleje)) {
-            stanice = s.kod;
-            return s.koleje;
-        }
-    for (const uzel::VstupZeStanice& s : uzel::kVstupy)
-        if (ma(s.koleje)) {
-            stanice = s.stanice;
-            return s.koleje;
-        }
-    static constexpr std::array kDepoVh = {uzel::kBranaVh.kolej};
-    if (ma(kDepoVh)) {
-        stanice = dopravna::dkv_vh;
-        return kDepoVh;
-    }
-    return {};
 }
 
 // A train that ends there would take the last track on which one is due to come in.

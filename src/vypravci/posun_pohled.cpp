@@ -43,6 +43,8 @@ bool je_jednotka(const Vlak& v) {
 
 } // namespace
 
+// --- places
+
 int soused(int v, int e, Strana strana) {
     std::size_t vlaku = 0;
     const int i = poradi_na_koleji(v, e, vlaku);
@@ -87,6 +89,15 @@ bool stoji_na_zhlavi(int v) {
     return e == uzel::kZhlaviOdstavu || uzel::je_prujezdna_posunu(e);
 }
 
+bool jede_tam_vlak(int e) {
+    return std::any_of(cesty.begin(), cesty.end(), [e](const Cesta& c) {
+        return c.zacatek >= 0 && c.VC && !c.PN && c.prehozena && c.Umazat < posledni_index(c) &&
+               posledni_prvek(c) == e;
+    });
+}
+
+// --- consists
+
 double rada_cela(const Vlak& v) {
     return v.vozy.empty() ? 0 : rada_vozu(v.vozy.front().rada);
 }
@@ -109,6 +120,17 @@ int vlastni_vlak(int v) {
 bool je_stroj(int v) {
     return jen_loko(vlak_c(v)) && !je_jednotka(vlak_c(v));
 }
+
+bool ma_celo(const Vlak& t) {
+    return !t.vozy.empty() && (je_loko(t.vozy.front().rada) || je_ridici_vuz(t.vozy.front().rada));
+}
+
+int stroj_vpravo(const Vlak& t) {
+    const Vuz& vuz = t.smer ? t.vozy.front() : t.vozy.back();
+    return je_loko(vuz.rada) ? static_cast<int>(rada_vozu(vuz.rada)) : 0;
+}
+
+// --- the timetable
 
 std::int32_t urceni_cisla(const Vlak& v) {
     const auto cislo = v.vozy.empty() ? std::nullopt : ciselny_text(v.vozy.front().urceni);
@@ -137,32 +159,6 @@ bool je_uz_na_stole(std::int32_t cislo) {
     });
 }
 
-Text jmeno_posunu(int v) {
-    const Vlak& t = vlak_c(v);
-    if (je_stroj(v)) {
-        Text jmeno("Lokomotiva "_cz);
-        jmeno += t.vozy.front().rada;
-        return jmeno;
-    }
-    Text jmeno("Souprava "_cz);
-    jmeno += jmeno_vlaku(t);
-    return jmeno;
-}
-
-Text koleje(int e) {
-    constexpr std::size_t kSlovo = 5; // of "kolej"
-    Text t("koleje"_cz);
-    t += jmeno_koleje(e).substr(kSlovo);
-    return t;
-}
-
-bool jede_tam_vlak(int e) {
-    return std::any_of(cesty.begin(), cesty.end(), [e](const Cesta& c) {
-        return c.zacatek >= 0 && c.VC && !c.PN && c.prehozena && c.Umazat < posledni_index(c) &&
-               posledni_prvek(c) == e;
-    });
-}
-
 int odjezd_za_s(const Vlak& t) {
     const auto i = static_cast<std::size_t>(std::max<int>(t.stanice_index, 0));
     if (i >= t.zastavky.size() || t.zastavky[i].odjezd < 0)
@@ -176,13 +172,11 @@ int stanice_stani(const Vlak& t) {
     return i < t.zastavky.size() ? t.zastavky[i].stanice : dopravna::zadna;
 }
 
+// --- trains that stand
+
 bool ceka_na_povel(const Vlak& t) {
     const auto i = static_cast<std::size_t>(std::max<int>(t.stanice_index, 0));
     return i < t.zastavky.size() && t.zastavky[i].odjezd_realny == kNaPovel;
-}
-
-bool ma_celo(const Vlak& t) {
-    return !t.vozy.empty() && (je_loko(t.vozy.front().rada) || je_ridici_vuz(t.vozy.front().rada));
 }
 
 bool stoji_vlak(int v) {
@@ -200,9 +194,25 @@ bool je_na_pretahu(const Vlak& t) {
            stanice_stani(t) == dopravna::tesk;
 }
 
-int stroj_vpravo(const Vlak& t) {
-    const Vuz& vuz = t.smer ? t.vozy.front() : t.vozy.back();
-    return je_loko(vuz.rada) ? static_cast<int>(rada_vozu(vuz.rada)) : 0;
+// --- as it is told
+
+Text jmeno_posunu(int v) {
+    const Vlak& t = vlak_c(v);
+    if (je_stroj(v)) {
+        Text jmeno("Lokomotiva "_cz);
+        jmeno += t.vozy.front().rada;
+        return jmeno;
+    }
+    Text jmeno("Souprava "_cz);
+    jmeno += jmeno_vlaku(t);
+    return jmeno;
+}
+
+Text koleje(int e) {
+    constexpr std::size_t kSlovo = 5; // of "kolej"
+    Text t("koleje"_cz);
+    t += jmeno_koleje(e).substr(kSlovo);
+    return t;
 }
 
 } // namespace posunovani

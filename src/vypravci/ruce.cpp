@@ -106,13 +106,7 @@ bool zvol_cestu(int zacatek, int konec, int druh) {
     const bool byla = cesty.front().zacatek >= 0;
     const bool ser = je_na_ser(zacatek);
     const Druh navestidlo = ser ? Druh::navestidlo_ser : Druh::navestidlo;
-    if (druh == druh_volby::pn) {
-        klik(navestidlo, zacatek, Tlacitko::prave, false);
-        if (!zvol_v_menu("miPN"))
-            zahod_menu();
-    } else {
-        klik(navestidlo, zacatek, Tlacitko::leve, druh == druh_volby::posun && !ser);
-    }
+    klik(navestidlo, zacatek, Tlacitko::leve, druh == druh_volby::posun && !ser);
     if (vyber.volba_zacatek != zacatek || vyber.volba_druh != druh) {
         klik_na_plochu();
         return false;
@@ -150,13 +144,6 @@ bool povel_navestidla(int s, TextPohled polozka) {
     if (!lze_jednat())
         return false;
     klik(je_na_ser(s) ? Druh::navestidlo_ser : Druh::navestidlo, s, Tlacitko::prave, false);
-    return zvol(polozka);
-}
-
-bool povel_vyhybky(int n, TextPohled polozka) {
-    if (!lze_jednat())
-        return false;
-    klik(Druh::imgVyhybka, n, Tlacitko::prave, false);
     return zvol(polozka);
 }
 

@@ -21,15 +21,13 @@ bool ma_menu_koleje(int e);
 
 // --- commands
 
-// Picks the route of the table from start signal to end; `druh` of cesty/nova_cesta.h: train, shunting,
-// calling-on. False when the desk took no such route. What the desk then warns of is confirmed.
+// Picks the route of the table from start signal to end; `druh` of cesty/nova_cesta.h: train or shunting.
+// False when the desk took no such route. What the desk then warns of is confirmed.
 bool zvol_cestu(int zacatek, int konec, int druh);
 // A route that waits in the stack, its switches not commanded, is taken out of it on the screen of the stack.
 bool odeber_cestu(int zacatek, int konec);
 // An entry of the menu of signal s: "miRC", "miDN", "miSTUJ", "miZAM", ...
 bool povel_navestidla(int s, TextPohled polozka);
-// An entry of the menu of switch n: "miPLUS", ...
-bool povel_vyhybky(int n, TextPohled polozka);
 // An entry of the menu of track e about train v that stands on it: "miPosun", "miOtoc", "miOdjezd",
 // "miZkratit", ..., without its number. False when v is not among the four trains of the menu.
 bool povel_vlaku(int e, int v, TextPohled polozka);
