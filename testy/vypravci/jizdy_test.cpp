@@ -25,6 +25,7 @@ protected:
         r.kolej = "2";
         return r;
     }
+    static bool je_kolej_lhotina(int e) { return e >= 86 && e <= 90; }
 };
 
 } // namespace
@@ -228,6 +229,123 @@ TEST_F(VypravciJizdy, RouteThatHasLostASwitchIsTakenBackAndOrderedAgain) {
     ASSERT_NE(najdi(101), nullptr);
     EXPECT_NE(najdi(101)->prvky.back().prvek, 87);
     EXPECT_LE(najdi(101)->zpozdeni, 5);
+}
+
+// The operator's locomotive stands between the train and its signal at a station where the dispatcher does
+// not shunt. It may be waiting for the very route that the train holds.
+TEST_F(VypravciJizdy, RouteOfATrainThatMayGoAndIsKeptByAnotherMovementForTenMinutesGoesBack) {
+    z_lhotina(101, 485);
+    zacni(8, 0);
+    vypravci::predej(std::vector<std::uint8_t>{lhotin});
+    sekund(3 * 60 + 30);
+    ASSERT_NE(najdi(101), nullptr);
+    ASSERT_EQ(najdi(101)->prvky.back().prvek, 87);
+    const int stroj = lokomotiva(87, true, 1);
+    int objednano = 0, ruseno = 0;
+    sekund(20 * 60, [&] {
+        const int i = cesta_v_zasobniku(287, 600);
+        if (objednano == 0 && i >= 0)
+            objednano = cas_hodin();
+        if (ruseno == 0 && i >= 0 && cesta_c(i).cas_ruseni >= 0)
+            ruseno = cas_hodin();
+    });
+    ASSERT_GT(objednano, 0);
+    EXPECT_TRUE(najdi(101)->muze_jet);
+    EXPECT_EQ(najdi(101)->prvky.back().prvek, 87);
+    EXPECT_GT(ruseno, objednano + 600);
+    EXPECT_LT(ruseno, objednano + 600 + 90);
+    EXPECT_TRUE(rekl("Ruší se cesta od návěstidla"));
+    odstran(87, stroj);
+    sekund(120);
+    EXPECT_NE(najdi(101)->prvky.back().prvek, 87) << "it goes when nothing keeps it";
+}
+
+// What an operator has set before the train, and nobody runs over.
+TEST_F(VypravciJizdy, RouteThatNobodyRunsOverGoesOutOfTheWayOfATrainWhereTheWholeDeskIsHis) {
+    for (const bool vse : {false, true}) {
+        rad = {};
+        z_lhotina(101, 485);
+        zacni(8, 0);
+        sekund(3 * 60);
+        klik(Druh::navestidlo, 286, Tlacitko::leve, false);
+        klik(Druh::cislo_koleje, 600, Tlacitko::leve, false);
+        if (vse)
+            vypravci::predej();
+        else
+            vypravci::predej(std::vector<std::uint8_t>{lhotin});
+        bool cekal = false;
+        sekund(7 * 60, [&] { cekal = cekal || ceka(101).find("v cestě je") != std::string::npos; });
+        EXPECT_TRUE(cekal) << vse;
+        EXPECT_EQ(cesta_v_zasobniku(286, 600) < 0, vse);
+        EXPECT_EQ(rekl("stojí v cestě a nikdo po ní nepojede, ruší se."), vse);
+        sekund(60);
+        ASSERT_NE(najdi(101), nullptr);
+        EXPECT_EQ(najdi(101)->prvky.back().prvek == 87, !vse);
+    }
+}
+
+TEST_F(VypravciJizdy, RouteThatIsNotSetForLongLeavesTheStack) {
+    z_lhotina(101, 485);
+    zacni(8, 0);
+    vypravci::predej();
+    sekund(8 * 60, [&] {
+        if (cesta_v_zasobniku(287, 600) >= 0)
+            relief.navestidlo[287].barva = barvy::cervena; // the operator blocks it before it clears
+    });
+    EXPECT_LT(cesta_v_zasobniku(287, 600), 0);
+    EXPECT_TRUE(rekl("Cesta od návěstidla LHO S1 se dlouho nepostavila, odchází ze zásobníku."));
+    EXPECT_NE(ceka(101).find("výluku nebo zablokované návěstidlo"), std::string::npos) << ceka(101);
+}
+
+TEST_F(VypravciJizdy, SlowTrainLetsAnExpressGoFirst) {
+    GvdVlak& pomaly = motorak(501, {lhotin, vysni_hrabov, tesk}, {-1, 506, 530}, {485, 507, -1});
+    pomaly.druh = 15;
+    pomaly.rychlost = 30;
+    pomaly.kolej = "2";
+    GvdVlak& rychlik = motorak(502, {lhotin, vysni_hrabov, tesk}, {-1, 490, 496}, {486, 490, -1});
+    rychlik.druh = 1;
+    rychlik.rychlost = 120;
+    rychlik.kolej = "3";
+    zacni(8, 0);
+    vypravci::predej();
+    bool prednost = false;
+    sekund(8 * 60,
+           [&] { prednost = prednost || ceka(501).find("dává přednost vlaku") != std::string::npos; });
+    EXPECT_TRUE(prednost);
+    ASSERT_NE(najdi(501), nullptr);
+    ASSERT_NE(najdi(502), nullptr);
+    EXPECT_TRUE(je_kolej_lhotina(najdi(501)->prvky.back().prvek));
+    EXPECT_FALSE(je_kolej_lhotina(najdi(502)->prvky.back().prvek));
+    sekund(12 * 60); // it has waited for seven minutes at most
+    EXPECT_FALSE(je_kolej_lhotina(najdi(501)->prvky.back().prvek));
+}
+
+TEST_F(VypravciJizdy, TrainWhosePlatformIsTakenForLongStopsAtAnotherOne) {
+    z_lhotina(101, 485);
+    zacni(8, 0);
+    const int stoji =
+        postav(27, true, 900, {"843", "943"}, zastavky_vlaku({tesk, rokytno}, {480, 700}, {640, -1}), 60);
+    vypravci::predej();
+    bool na_jine = false;
+    sekund(55 * 60, [&] {
+        for (int e = 26; e <= 31; ++e)
+            na_jine = na_jine || (e != 27 && najdi(101) != nullptr && drzi_prvek(*najdi(101), e));
+    });
+    EXPECT_TRUE(na_jine);
+    EXPECT_EQ(najdi(101), nullptr);
+    EXPECT_EQ(vlak_c(stoji).prvky.back().prvek, 27);
+}
+
+TEST_F(VypravciJizdy, TrainThatStandsTheWrongWayRoundAtHrabovIsTurned) {
+    zacni(8, 0);
+    const int v = postav(11, true, 900, {"742", "Bp"},
+                         zastavky_vlaku({vysni_hrabov, lhotin}, {-1, 500}, {481, -1}), 60);
+    vlak_c(v).loko_rada = 742;
+    vypravci::predej();
+    sekund(6 * 60);
+    EXPECT_TRUE(rekl("se otáčí: odjíždí na druhou stranu."));
+    EXPECT_NE(vlak_c(v).prvky.back().prvek, 11);
+    EXPECT_FALSE(vlak_c(v).smer);
 }
 
 TEST_F(VypravciJizdy, NobodyWaitsWhoIsNotOnTheDesk) {
