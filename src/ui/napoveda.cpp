@@ -116,7 +116,7 @@ const char* ucel(Druh druh) {
     case Druh::lblVolba: return co_s_radkem();
     case Druh::lblSouhlas2: return "směr trati; azurový: drží ho cesta nebo vlak";
     case Druh::lblVykolejka: return "výkolejka";
-    case Druh::lblPredvidany_odjezd: return "minuta, ve které vlak od souseda odjede";
+    case Druh::lblPredvidany_odjezd: return "minuta, ve které vlak od souseda odjel";
     case Druh::lblTabulka_vlaku: return "levé tlačítko vlak vyhledá, pravé nabídne SMAZ";
     case Druh::lblPN: return "odpočet přivolávací návěsti";
     case Druh::lblMakro_pismeno: return "nahrává se makro: Enter uloží, Esc zahodí";
