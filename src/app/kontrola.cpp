@@ -220,6 +220,11 @@ Nalez souhlasy_trati() {
     return std::nullopt;
 }
 
+// A locomotive behind the gate of a full depot: its only entry is no element.
+bool je_bez_koleje(const Vlak& v) {
+    return v.prvky.size() == 1 && v.prvky.front() == PrvekCesty{0, 0, 0};
+}
+
 // What stands below the tail is history; what a train holds runs without a gap from the tail to the head.
 Nalez zaznamy_vlaku() {
     for (std::size_t i = 0; i < vlaky.size(); ++i) {
@@ -229,7 +234,7 @@ Nalez zaznamy_vlaku() {
         if (v.stanice_index >= 0 && !v.zastavky.empty() &&
             static_cast<std::size_t>(v.stanice_index) >= v.zastavky.size())
             return na_miste("vlaky", i, "stanice_index ukazuje za poslední stanici"_cz);
-        if (v.prvky.empty())
+        if (v.prvky.empty() || je_bez_koleje(v))
             continue;
         if (v.prvek_konec < 0 || static_cast<std::size_t>(v.prvek_konec) >= v.prvky.size())
             return na_miste("vlaky", i, "prvek_konec neukazuje na držený prvek"_cz);

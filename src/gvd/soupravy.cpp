@@ -66,7 +66,8 @@ int kolej_depa() {
     return prvni_volna_kolej(uzel::kOdstavneKoleje);
 }
 
-// The record of a lone locomotive that stands on the element and may go to the main station.
+// The record of a lone locomotive that stands on the element and may go to the main station. Of element 0,
+// where it stands behind the gate of a full depot, it holds nothing: a station track has that number.
 Vlak lokomotiva(int rada, int element, bool smer, TextPohled urceni, bool posun) {
     Vlak v;
     v.cislo = na_long(74800 + dolu(nahodne() * 200.0));
@@ -78,7 +79,10 @@ Vlak lokomotiva(int rada, int element, bool smer, TextPohled urceni, bool posun)
     v.muze_jet = true;
     v.loko_rada = na_integer(rada);
     v.vozy = {{text_cisla(rada), Text(urceni), obrazek_vozu(rada)}};
-    v.prvky = {{na_integer(element), druh_prvku::kolej, 2}};
+    if (element == 0)
+        v.prvky.assign(1, {0, 0, 0});
+    else
+        v.prvky = {{na_integer(element), druh_prvku::kolej, 2}};
     v.prvek_konec = 0;
     v.zastavky = {{dopravna::dkv_vh, kZadny, cas_min(), cas_min()},
                   {dopravna::tesk, na_integer(cas_min() + 7), kZadny, kZadny}};

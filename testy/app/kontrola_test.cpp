@@ -262,6 +262,16 @@ TEST_F(Kontrola, TrainHoldsOccupiedTracksThatExist) {
     EXPECT_EQ(nalez(), ""); // a free record holds nothing
 }
 
+TEST_F(Kontrola, LocomotiveBehindTheGateOfAFullDepotHoldsNoTrack) {
+    vlaky[2].cislo = 74890;
+    vlaky[2].posun = true;
+    vlaky[2].prvek_konec = 0;
+    vlaky[2].prvky = prvky_cesty({0}, {0}, {0});
+    EXPECT_EQ(nalez(), "");
+    vlaky[2].prvky = prvky_cesty({0}, {1}, {0});
+    EXPECT_EQ(nalez(), "vlaky 2: drží kolej 0, která není obsazená");
+}
+
 TEST_F(Kontrola, AnnouncedTrainStandsOnAGreenTrack) {
     Vlak& v = vlaky[0];
     v.cislo = 1234;

@@ -52,6 +52,7 @@ TEST_F(Soupravy, FullDepotLeavesALocomotiveOnNoTrack) {
     vytvor_lokomotivu(731, 0, false, "ZAL", true);
     EXPECT_EQ(cisla_prvku(vlaky[0].prvky), Prvky{0});
     EXPECT_EQ(barva(0), barvy::seda);
+    EXPECT_FALSE(drzi_jiny(0, kZadny)); // the station track of that number is free for trains
     EXPECT_EQ(koleje_vlaky.size(), 1u);
     EXPECT_EQ(stav_provozu.pocet_zaloh, 1);
     EXPECT_TRUE(stav_provozu.zaloha_731_jede);
