@@ -258,6 +258,14 @@ TEST_F(Start, ConsentLampsPointInwards) {
     EXPECT_EQ(relief.imgSberac.nejvyssi(), 3);
 }
 
+TEST_F(Start, MinuteOfADepartureStandsOneSignBehindTheLampOfTheConsent) {
+    spust();
+    const Prvek& lampa = relief.lblSouhlas[1];
+    const Prvek& minuta = relief.lblPredvidany_odjezd[1];
+    EXPECT_EQ(minuta.vlevo() - lampa.vlevo(), 240) << "the lamp and a blank, 8 pixels of 15 twips each";
+    EXPECT_EQ(minuta.nahore(), lampa.nahore());
+}
+
 TEST_F(Start, CrossingsAreReadUnlessASavedSimulationBringsThem) {
     prevezmi_volby(volby);
     simulace.nacitani_zaznamu = true;

@@ -3,7 +3,6 @@
 # over and takes over, his sign, and the window that tells of him. The program measures its windows meanwhile. Further
 # words: the size of the screen and the scale of its pixels.
 import os
-import subprocess
 import sys
 import time
 
@@ -88,10 +87,7 @@ for klavesa in ("alt+r", "alt+p"):
 # --- it is dragged by its ground, and it gives way to the train that is looked for in it
 def okno():
     """Place and size of the dispatcher's window, pixels of the screen."""
-    beh = subprocess.run(["xdotool", "search", "--onlyvisible", "--name", "automatický výpravčí", "getwindowgeometry",
-                          "--shell"], env=stul.prostredi, check=True, capture_output=True, text=True)
-    udaje = dict(radek.split("=") for radek in beh.stdout.split())
-    return tuple(int(udaje[co]) for co in ("X", "Y", "WIDTH", "HEIGHT"))
+    return next(stul.x.misto(o.id) for o in stul.x.okna() if "automatický výpravčí" in o.jmeno)
 
 
 x, y, sirka, vyska = okno()

@@ -148,19 +148,29 @@ TEST_F(SirokyStul, TracksTakeAsMuchOfEachScreenAsTheDocumentSays) {
 }
 
 TEST_F(SirokyStul, MinuteOfADepartureStandsBetweenTheLampOfTheConsentAndTheNumberOfTheTrain) {
+    struct Misto {
+        int k, vlevo, nahore; // of the minute, as the start puts it; twips
+    };
+    struct Kresba {
+        const char* soubor;
+        std::array<Misto, 3> mista;
+    };
     constexpr std::array<int, 3> kPopiskyKoncu = {212, 213, 219};
-    for (const char* kresba : {"tesk.rea", "tesk.reb"})
-        for (std::size_t k = 0; k < kPopiskyKoncu.size(); ++k) {
-            nacti(kresba);
-            // as the start puts it: one sign behind the lamp, two digits
-            const int n = static_cast<int>(k);
-            Prvek& minuta = relief.lblPredvidany_odjezd[n];
-            minuta.vlevo = relief.lblSouhlas[n].vlevo() + 2 * kSirkaZnaku;
-            minuta.nahore = relief.lblSouhlas[n].nahore;
-            EXPECT_EQ(relief.cislo_koleje[kPopiskyKoncu[k]].nahore, minuta.nahore);
-            EXPECT_LE(minuta.vlevo + 2 * kSirkaZnaku, relief.cislo_koleje[kPopiskyKoncu[k]].vlevo)
-                << kresba << k;
+    constexpr Kresba kKresby[] = {
+        {"tesk.rea", {{{0, 1080, 2250}, {1, 1080, 2445}, {2, 1080, 3030}}}},
+        {"tesk.reb", {{{0, 1080, 2250}, {1, 1080, 2445}, {2, 1680, 3225}}}},
+    };
+    for (const Kresba& kresba : kKresby) {
+        nacti(kresba.soubor);
+        for (const Misto& minuta : kresba.mista) {
+            const Prvek& lampa = relief.lblSouhlas[minuta.k];
+            EXPECT_EQ(minuta.vlevo - lampa.vlevo(), 240) << kresba.soubor << minuta.k;
+            EXPECT_EQ(minuta.nahore, lampa.nahore());
+            const Prvek& cislo = relief.cislo_koleje[kPopiskyKoncu[static_cast<std::size_t>(minuta.k)]];
+            EXPECT_EQ(cislo.nahore(), minuta.nahore);
+            EXPECT_LE(minuta.vlevo + 240, cislo.vlevo()) << kresba.soubor << minuta.k;
         }
+    }
 }
 
 TEST_F(SirokyStul, MiddleOfEveryElementIsFoundInBothDirections) {
