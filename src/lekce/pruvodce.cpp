@@ -6,6 +6,7 @@
 #include "cesty/cesta.h"
 #include "cesty/dotazy.h"
 #include "cesty/navest.h"
+#include "cesty/zasobnik.h"
 #include "desk/menu.h"
 #include "desk/zprava.h"
 #include "obsluha/povely.h"
@@ -71,6 +72,14 @@ bool rusi_se_nejaka() {
 bool je_cisto() {
     return vyber.volba_zacatek < 0 && !vyber.makro_zaznam && menu.jmeno.empty() &&
            prikaz_radek.rezim_zadani == 0 && !prihlaseni_bezi() && !technologie_kryje_stul();
+}
+
+// The open menu has that entry, and it cannot be chosen.
+bool je_sedy(TextPohled povel) {
+    return std::any_of(menu.polozky.begin(), menu.polozky.end(), [povel](const PolozkaMenu& p) {
+        return !menu.jmeno.empty() && p.viditelna && !p.povolena &&
+               (p.jmeno == povel || p.druhe_jmeno == povel);
+    });
 }
 
 bool ceka_na(const Krok& k, Fakt fakt) {
@@ -151,12 +160,24 @@ bool Pruvodce::je_v_ukonech(bool (*jaky)(const Ukon&)) const {
 
 // A maintenance screen, the dispatcher, a message, a recording, a question: the desk is not there for the
 // step.
-std::optional<Pruvodce::NalezenaPotiz> Pruvodce::potiz_stolu() const {
+std::optional<Pruvodce::NalezenaPotiz> Pruvodce::potiz_stolu() {
     const Krok& k = popis();
     if (prihlaseni_bezi() && !ceka_na(k, Fakt::prihlaseno) && !k.jen_cteni())
         return NalezenaPotiz{Potiz::prihlaseni,
                              Text("Nejdřív se přihlaste: třikrát **Enter**."_cz),
                              {stisk(KodKlavesy::enter)}};
+    const UkonLekce* dalsi = dalsi_ukon();
+    const Text povel = co_vadi == Potiz::sedy_povel                                    ? sedy_povel
+                       : dalsi != nullptr && dalsi->ukon.co == DruhUkonu::polozka_menu ? dalsi->ukon.text
+                                                                                       : Text();
+    if (!povel.empty() && je_sedy(povel)) {
+        sedy_povel = povel;
+        return NalezenaPotiz{
+            Potiz::sedy_povel,
+            Text("Ten povel je teď šedý: ještě to nejde. Nabídku zavřete klávesou **Esc** a za "
+                 "chvíli ji otevřete znovu."_cz),
+            {stisk(KodKlavesy::esc)}};
+    }
     const bool napravuje_se_tam =
         co_vadi != Potiz::obrazovka && naprava.vede_na_obrazovku() && !naprava.vse_hotovo();
     if (technologie_kryje_stul() && !napravuje_se_tam)
@@ -230,18 +251,29 @@ std::optional<Pruvodce::NalezenaPotiz> Pruvodce::potiz_cesty() const {
     const auto druh_cesty = [](const Cesta& x) {
         return x.PN ? DruhCesty::pn : x.VC ? DruhCesty::vlak : DruhCesty::posun;
     };
+    const auto nejela = [](const Cesta& x) { return x.zacatek >= 0 && x.Umazat == 0 && x.ZT != kZTprogramu; };
+    const auto je_podruhe = [&](const Cesta& x) { // under VZ it waits until a train has used the first
+        return !x.prehozena &&
+               std::any_of(static_cast<const Cesta*>(cesty.data()), &x, [&](const Cesta& pred) {
+                   return nejela(pred) && pred.zacatek == x.zacatek && pred.konec == x.konec;
+               });
+    };
     const auto c = std::find_if(cesty.begin(), cesty.end(), [&](const Cesta& x) {
-        return x.zacatek >= 0 && x.Umazat == 0 && x.ZT != kZTprogramu &&
-               !zna_cestu(x.zacatek, x.konec, druh_cesty(x));
+        return nejela(x) && (je_podruhe(x) || !zna_cestu(x.zacatek, x.konec, druh_cesty(x)));
     });
     if (c == cesty.end() || popis().jen_cteni())
         return std::nullopt;
-    const bool ceka = !c->prehozena && ted_s() - c->cas_stavby > kCekaDlouho_s;
+    const bool podruhe = je_podruhe(*c);
+    const bool ceka = podruhe || (!c->prehozena && ted_s() - c->cas_stavby > kCekaDlouho_s);
     const bool jiny_druh = std::any_of(zname.begin(), zname.end(), [c](const ZnamaCesta& z) {
         return z.zacatek == c->zacatek && z.konec == c->konec;
     });
     NalezenaPotiz p{.co = Potiz::cizi_cesta};
-    if (jiny_druh && c->VC)
+    if (c->PN)
+        p.veta = Text("Rozsvítili jste přivolávací návěst, kterou nepotřebujeme: "_cz);
+    else if (podruhe)
+        p.veta = Text("Tuto cestu jste zvolili dvakrát: "_cz);
+    else if (jiny_druh && c->VC)
         p.veta = Text("Místa jsou správná, ale cesta je vlaková a tady má být jiná: "_cz);
     else if (jiny_druh)
         p.veta = Text("Místa jsou správná, ale s klávesou Ctrl je cesta posunová a vlak po ní nepojede: "_cz);
@@ -261,18 +293,30 @@ std::optional<Pruvodce::NalezenaPotiz> Pruvodce::potiz_cesty() const {
             Text(". Čeká v zásobníku a zdržuje ty za ní. Klepněte na **EZ** vlevo pod kolejemi, vyberte její "
                  "řádek, stiskněte **Delete** a obrazovku zavřete klávesou **Esc**."_cz);
         p.naprava.push_back(ukon_naprav({.co = DruhUkonu::klik, .druh = Druh::lblZasobnik_EZ}));
-        p.naprava.push_back(ukon_naprav({.co = DruhUkonu::radek, .text = "lstZasobnik"}));
+        p.naprava.push_back(ukon_naprav({.co = DruhUkonu::radek,
+                                         .n = std::count_if(cesty.begin(), c, je_v_zasobniku),
+                                         .text = "lstZasobnik"}));
         p.naprava.push_back(stisk(KodKlavesy::delete_));
         return p;
     }
-    p.veta += Text(". Zrušte ji: pravé tlačítko na jejím návěstidle a povel **RC**. Dokud se staví, je povel "
-                   "šedý; když už svítila, uvolní se za pět sekund."_cz);
+    if (c->PN)
+        p.veta +=
+            Text(". Za třicet sekund zhasne; potom uvolněte závěr výhybek: pravé tlačítko na návěstidle a "
+                 "povel **RNZ**."_cz);
+    else
+        p.veta +=
+            Text(". Zrušte ji: pravé tlačítko na jejím návěstidle a povel **RC**. Dokud se staví, je povel "
+                 "šedý; když už svítila, uvolní se za pět sekund."_cz);
+    const bool lze = c->PN ? pn_skoncila(c->zacatek) : rc_mozne(c->zacatek);
+    if (!lze && menu.jmeno.empty())
+        return p; // nothing can be done yet
     const bool jen_posun = relief.navestidlo_ser.je(c->zacatek) && !relief.navestidlo.je(c->zacatek);
     p.naprava.push_back(ukon_naprav({.co = DruhUkonu::klik,
                                      .druh = jen_posun ? Druh::navestidlo_ser : Druh::navestidlo,
                                      .n = c->zacatek,
                                      .tlacitko = Tlacitko::prave}));
-    p.naprava.push_back(ukon_naprav({.co = DruhUkonu::polozka_menu, .text = "miRC"}));
+    p.naprava.push_back(
+        ukon_naprav({.co = DruhUkonu::polozka_menu, .text = c->PN ? Text("miRNZ") : Text("miRC")}));
     return p;
 }
 
@@ -341,7 +385,8 @@ Pruvodce::NalezenaPotiz Pruvodce::najdi_potiz() {
 
 void Pruvodce::rekni(NalezenaPotiz nova) {
     if (co_vadi == nova.co && veta == nova.veta) {
-        if (naprava.vse_hotovo() && !nova.naprava.empty() && !rusi_se_nejaka()) { // it has not helped
+        // it has not helped, or can be done only now
+        if (naprava.vse_hotovo() && !nova.naprava.empty() && !rusi_se_nejaka()) {
             naprava = RadaUkonu(std::move(nova.naprava));
             ++zmeny;
         }

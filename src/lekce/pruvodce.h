@@ -28,6 +28,7 @@ enum class Potiz : std::uint8_t {
     neni_cesta,   // no route leads there
     makro,        // a macro is being recorded
     psani,        // the field asks for a text that the step does not need
+    sedy_povel,   // the entry that is to be chosen cannot be, yet
     zablokovano,  // the signal to be picked is blocked
     jiny_zacatek, // another signal is picked
     jina_nabidka, // the menu of another element is open
@@ -109,7 +110,7 @@ private:
     void poznamenej_cesty_vypravciho();
     bool vratil_se_cas();
     NalezenaPotiz najdi_potiz();
-    std::optional<NalezenaPotiz> potiz_stolu() const;
+    std::optional<NalezenaPotiz> potiz_stolu();
     std::optional<NalezenaPotiz> potiz_kroku();
     std::optional<NalezenaPotiz> potiz_cesty() const;
     std::optional<NalezenaPotiz> potiz_volby() const;
@@ -131,8 +132,9 @@ private:
     bool vraceni = false;
     Potiz co_vadi = Potiz::zadna;
     Text veta;
-    bool mel_ho_vypravci = false;       // the step, a part of it at least
-    RadaUkonu naprava;                  // of what is wrong
+    bool mel_ho_vypravci = false; // the step, a part of it at least
+    RadaUkonu naprava;            // of what is wrong
+    Text sedy_povel;
     std::optional<std::size_t> odbocka; // that holds, of the step
     std::vector<ZnamaCesta> zname;      // routes that stood when the lesson began, or that it asks for
     std::vector<Bod> body;

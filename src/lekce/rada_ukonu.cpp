@@ -2,6 +2,7 @@
 #include "lekce/rada_ukonu.h"
 
 #include "desk/menu.h"
+#include "desk/zprava.h"
 #include "obsluha/vyber.h"
 #include "technologie/technologie.h"
 
@@ -72,8 +73,10 @@ bool RadaUkonu::je_hotov(std::size_t i) const {
     if (u.predani)
         return false;
     const int n = static_cast<int>(u.ukon.n);
-    if (je_volba_zacatku(u.ukon))
-        return vyber.volba_zacatek == n || je_cesta(u);
+    if (je_volba_zacatku(u.ukon)) { // it may end the route that was begun before it, too
+        const bool konci = i > 0 && je_volba_zacatku(rada[i - 1].ukon) && !je_cesta(rada[i - 1]);
+        return vyber.volba_zacatek == n || (!konci && je_cesta(u));
+    }
     if (otvira_nabidku(u.ukon))
         return !menu.jmeno.empty() && menu.druh == u.ukon.druh && menu.prvek == n;
     if (otvira_zasobnik(u.ukon))
@@ -102,6 +105,11 @@ void RadaUkonu::vrat_ztracene() {
     const Ukon &posledni = pred.ukon, &pristi = rada[udelano].ukon;
     if (otvira_nabidku(posledni) && menu.jmeno.empty()) {
         --udelano;
+        return;
+    }
+    if (pristi.co == DruhUkonu::psani && prikaz_radek.rezim_zadani == 0) { // the field was answered otherwise
+        udelano = 0;
+        preskoc_hotove();
         return;
     }
     const auto zasobnik = std::find_if(rada.begin(), rada.end(), je_zasobnik);

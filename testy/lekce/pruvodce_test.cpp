@@ -278,6 +278,19 @@ TEST_F(PruvodceLekce, HasASignalThatWasBlockedFreedAgain) {
     EXPECT_EQ(pruvodce->potiz(), Potiz::zadna);
 }
 
+TEST_F(PruvodceLekce, AsksAgainForATextThatWasWrittenOtherwise) {
+    novy_svet();
+    zacni_lekci(z_instalace("4-poruchy.lekce"));
+    while (na_utf8(pruvodce->popis().nadpis) != "Četa skončila")
+        ASSERT_NO_FATAL_FAILURE(krok_zaka());
+    const std::size_t krok = pruvodce->krok();
+    for (const char* radek : {"pravy cislo_koleje 26", "menu miVYL", "pis x", "klavesa Enter"})
+        po(radek);
+    EXPECT_EQ(na_utf8(pruvodce->dalsi_ukon()->radek), "pravy cislo_koleje 26");
+    dokonci_krok();
+    EXPECT_EQ(pruvodce->krok(), krok + 1);
+}
+
 // Back goes only where something can be done again: a text, or a step that time can be turned back to.
 TEST_F(PruvodceLekce, GoesBackOnlyToWhatCanBeDoneAgain) {
     novy_svet();
@@ -334,6 +347,9 @@ TEST_F(PruvodceLekce, LeadsOutOfWhateverAStepWasMessedUpWith) {
         {"klik navestidlo 317", "cekej 12s"},
         {"klik navestidlo 317", "klik navestidlo 317"},
         {"klavesa Alt+L"},
+        {"klavesa Alt+T"},
+        {"klik navestidlo 287 ctrl", "klik navestidlo 601"},
+        {"pravy navestidlo 287", "menu miPN", "klik Image1 600"},
         {"pravy navestidlo 287", "menu miZAM", "klik navestidlo 287"},
         {"klik navestidlo 287 ctrl", "klik navestidlo 601 ctrl", "klik cislo_koleje 12"},
         {"klik navestidlo 287", "klik navestidlo 601", "klik cislo_koleje 12", "klavesa Esc"},

@@ -26,7 +26,7 @@ STUL = ("hlavni_okno.cpp", "klavesy_qt.cpp", "prikazove_pole.cpp", "seznamy_pane
 # The window of a source file has its keys in these chapters; a letter stands there with what it is pressed with.
 KAPITOLY = {
     **{soubor: (5,) for soubor in STUL}, "parametry.cpp": (1, 23), "nakres.cpp": (21, 24), "okno_smeny.cpp": (23,), "vypravci.cpp": (22,),
-    "hodnoceni.cpp": (24,), "prirucka.cpp": (0,), "vedlejsi_okno.cpp": (5, 21), "lekce.cpp": (0,),
+    "hodnoceni.cpp": (24,), "prirucka.cpp": (0,), "vedlejsi_okno.cpp": (5, 21), "panel_lekce.cpp": (0,),
 }
 PISMENA = {("nakres.cpp", "E"): "Ctrl+E", ("nakres.cpp", "P"): "Ctrl+P", ("nakres.cpp", "H"): "klávesa **H**",
            ("nakres.cpp", "D"): "| D |", ("parametry.cpp", "O"): "Ctrl+O", ("prirucka.cpp", "F"): "Ctrl+F",
