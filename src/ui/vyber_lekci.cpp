@@ -113,7 +113,7 @@ void ukaz_vyber_lekci(QWidget* rodic, const std::function<void(const std::functi
         popis->setFixedWidth(px(400));
         popis->setMinimumHeight(popis->heightForWidth(px(400)) + px(4));
         radek->addWidget(popis, 1);
-        auto* tlacitka = new QVBoxLayout;
+        auto* tlacitka = new QHBoxLayout; // beside each other: all lessons fit the height of the desk
         const auto pridej = [&](const QString& text, bool od_zacatku) {
             auto* t = new QPushButton(text);
             t->setAccessibleName(text + QStringLiteral(": ") + na_qstring(n.lekce.nazev));
