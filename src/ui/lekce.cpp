@@ -14,11 +14,11 @@
 #include "ui/hlavni_okno.h"
 #include "ui/hodiny_stolu.h"
 #include "ui/pismo.h"
+#include "ui/platforma_qt.h"
 #include "ui/vyber_lekci.h"
 #include "ui/znacky_lekce.h"
 #include "zaklad/platforma.h"
 
-#include <QMessageBox>
 #include <QPointer>
 
 #include <memory>
@@ -127,11 +127,11 @@ QRect misto_zasobniku(const HlavniOkno& stul) {
 }
 
 void nabidni_navrat(HlavniOkno& stul) {
-    QMessageBox otazka(QMessageBox::NoIcon, QStringLiteral("KPS RVZ TESK"),
-                       QStringLiteral("Lekci jste opustili. Chcete v ní pokračovat?"),
-                       QMessageBox::Yes | QMessageBox::No, &stul);
-    otazka.setDefaultButton(QMessageBox::Yes);
-    if (otazka.exec() != QMessageBox::Yes || beh || !opustena || je_konec())
+    bool ano = false;
+    v_jadre([&ano] {
+        ano = platforma.otazka("KPS RVZ TESK"_cz, "Lekci jste opustili. Chcete v ní pokračovat?"_cz, true);
+    });
+    if (!ano || beh || !opustena || je_konec())
         return;
     beh = std::move(opustena);
     ukaz_panel(stul);
@@ -182,10 +182,7 @@ void klavesa_lekce(HlavniOkno& stul) {
     if (!beh && opustena) {
         nabidni_navrat(stul);
     } else if (!beh) {
-        QMessageBox zprava(QMessageBox::NoIcon, QStringLiteral("KPS RVZ TESK"),
-                           QStringLiteral("Lekce se začínají na startovní obrazovce, tlačítkem Lekce."),
-                           QMessageBox::Ok, &stul);
-        zprava.exec();
+        ukaz_zpravu(QStringLiteral("Lekce se začínají na startovní obrazovce, tlačítkem Lekce."));
     } else if (beh->panel->ma_klavesy()) {
         beh->panel->vrat_klavesy();
     } else {
