@@ -13,7 +13,7 @@ import stul as s
 program, slozka = s.priprav(sys.argv[1:4])
 velikost = sys.argv[4]
 shutil.copytree(os.path.join(sys.argv[2], "navod"), os.path.join(slozka, "navod"))
-PURPUROVA, VYBRANA_KAPITOLA = (255, 0, 255), (32, 80, 192)
+PURPUROVA = (255, 0, 255)
 SAVE = os.path.join(slozka, "save")
 ULOZENA = os.path.join(SAVE, "sluzba.sim")
 MAKRA = os.path.join(slozka, "data", "tesk.mak")
@@ -24,7 +24,7 @@ class Zkouska(s.Stul):
     formular = None  # windows of the start screen alone
 
     def __init__(self):
-        for jmeno in ("stav.txt", "mapa.txt", "nalezy.txt"):
+        for jmeno in ("stav.txt", "mapa.txt", "nalezy.txt", "prirucka.txt"):
             if os.path.exists(os.path.join(slozka, jmeno)):
                 os.remove(os.path.join(slozka, jmeno))
         super().__init__(program, slozka, velikost)
@@ -45,27 +45,18 @@ class Zkouska(s.Stul):
         self.tiskni(klavesa, "zavřené okno", lambda: self.okna() == okna)
 
     def prirucka(self, co):
-        """F1 opens the manual over what is there, and Esc leaves that as it was; place of the chapter that is picked in
-        its contents, from 0. Its rows are of one height, which the size of the letters over the desk makes larger."""
+        """F1 opens the manual over what is there, and Esc leaves that as it was; row of the chapter that is picked in
+        its contents, from 0."""
         okna = self.okna()
-        obsah = int(self.sirka * 0.33)  # from there on lies the list of the chapters
-        radky = lambda o: [y for y in range(self.vyska) if o.bodu(obsah, y, 150, 1, VYBRANA_KAPITOLA) > 60]
-        pod_ni = radky(self.obraz())  # a name that is picked in a dialogue has that colour too
+        kapitola = lambda: open(os.path.join(slozka, "prirucka.txt"), encoding="utf-8").read()
         self.tiskni("F1", "příručka: " + co, lambda: self.okna() == okna + 1)
-        minule = [[]]
-
-        def stoji(o):  # the manual is drawn, and its contents come to rest at the chapter: twice the same
-            predtim, minule[0] = minule[0], radky(o)
-            time.sleep(0.3)
-            return minule[0] not in ([], pod_ni) and minule[0] == predtim
-
-        self.cekej_na("vybraná kapitola", stoji)
+        self.cekej("kapitola příručky", lambda: os.path.exists(os.path.join(slozka, "prirucka.txt")) and kapitola())
+        radek = int(kapitola())
         self.bez_vad()
-        vybrane = radky(self.obraz("prirucka_" + co))
-        nahore = self.x.misto(next(o.id for o in self.x.okna() if "příručka výpravčího" in o.jmeno))[1]
+        self.obraz("prirucka_" + co)
         self.zavri(okna)
-        okraj = 10  # around the contents, less than a row
-        return (vybrane[0] - nahore - okraj) // len(vybrane)
+        self.cekej("zavřená příručka", lambda: not kapitola())
+        return radek
 
     def nacti(self, jmeno, zacatek):
         """Opens the save from the start screen, until the box is there that begins so."""

@@ -7,6 +7,7 @@
 //   mapa.txt    "druh cislo x y" of each element that takes input now, pixels of the screen
 //   nabidka.txt "x y text" of each entry of the menu that was opened last
 //   stav.txt    the clock, the pause, each train with its element and its speed, the diary
+//   prirucka.txt  the row that is picked in the contents of the manual, from 0; empty while it is closed
 //   lekce.txt   the step of the lesson and what it points at
 // and takes preskoc.txt away from there, the seconds that are to pass at once.
 #include "app/cas.h"
@@ -502,11 +503,24 @@ void prohledni_stul(const HlavniOkno& okno) {
     zapis_mapu(okno, platno);
 }
 
+void zapis_prirucku() {
+    static QString minule;
+    QString radek;
+    for (const QWidget* okno : QApplication::topLevelWidgets())
+        for (const QListWidget* seznam : okno->findChildren<QListWidget*>())
+            if (seznam->isVisible() && seznam->accessibleName() == u"Kapitoly")
+                radek = QString::number(seznam->currentRow());
+    if (minule != radek)
+        zapis_cely(QStringLiteral("prirucka.txt"), radek);
+    minule = radek;
+}
+
 void prohlidni() {
     vady_minule = std::exchange(vady, {});
     for (QWidget* okno : QApplication::topLevelWidgets())
         if (okno->isVisible() && !okno->isMinimized())
             prohledni_okno(*okno);
+    zapis_prirucku();
     const HlavniOkno* stul = HlavniOkno::otevrene();
     if (stul == nullptr || !stul->isVisible())
         return;
