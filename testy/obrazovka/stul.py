@@ -428,13 +428,14 @@ def priprav(argumenty):
 
 
 def priprav_celou(argumenty):
-    """The same with the whole junction, as it is installed."""
+    """The same with the whole junction, as it is installed, without what those who have tried the desk there left."""
     program, instalace, slozka = argumenty
     if not os.path.exists(os.path.join(instalace, "data", "tesk.rea")):
         print("instalace nemá kolejiště")
         sys.exit(PRESKOCENO)
     shutil.rmtree(slozka, ignore_errors=True)
-    shutil.copytree(instalace, slozka)
+    psane = {"save", "smeny", "GTN", "ARCHIV", "hlaseni"}
+    shutil.copytree(instalace, slozka, ignore=lambda kde, _: psane if kde == instalace else ())
     return shutil.copy(program, slozka), slozka
 
 
