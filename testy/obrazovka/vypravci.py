@@ -91,11 +91,12 @@ def okno():
 
 
 x, y, sirka, vyska = okno()
-stul.ukaz(x + int(20 * krat), y + vyska - int(14 * krat))  # beside the sentence below the lists
+uchop, kam = int(20 * krat), na_stole(40, 560)
+stul.ukaz(x + uchop, y + vyska - int(14 * krat))  # beside the sentence below the lists
 stul.xdotool("mousedown", 1)
-stul.ukaz(*na_stole(40, 560))
+stul.ukaz(*kam)
 stul.xdotool("mouseup", 1)
-stul.cekej("přetažené okno", lambda: okno()[0] < x - 100 * krat)
+stul.cekej("přetažené okno", lambda: abs(okno()[0] - (kam[0] - uchop)) <= 2)  # all the way, not on it
 x, y, sirka, vyska = okno()
 stul.klavesa("alt+r")
 stul.cekej_na("nalezený vlak vedle okna", lambda o: stul.klikni(x + int(sirka * 0.7), y + int(52 * krat)) or
